@@ -1,0 +1,60 @@
+# SPDX-License-Identifier: MIT
+# Options, language level and warnings that hold for every target of the tree.
+
+include(GNUInstallDirs)
+
+option(CORVEX_BUILD_TESTS "Build the unit tests" ON)
+option(CORVEX_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(CORVEX_BUILD_FUZZERS "Build the libFuzzer targets (needs clang)" OFF)
+option(CORVEX_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+option(CORVEX_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(CORVEX_UNITY "Build each room as a few large translation units" OFF)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_WINDOWS_EXPORT_ALL_SYMBOLS ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_UNITY_BUILD ${CORVEX_UNITY})
+
+# The build tree has the layout of an installation, so that the tools find their plug-ins and data in
+# the same relative places in both.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}")
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}" "$ORIGIN")
+set(CORVEX_LIBRARY_PATH "${CMAKE_INSTALL_LIBDIR}/corvex")
+set(CORVEX_PLUGIN_PATH "${CORVEX_LIBRARY_PATH}/Plugins/DesignerObjects")
+set(CORVEX_DATA_PATH "${CMAKE_INSTALL_DATADIR}/corvex")
+
+# Everything the sources of this tree are compiled with; never part of what an installation asks of others.
+add_library(corvex_build_options INTERFACE)
+target_compile_definitions(corvex_build_options INTERFACE
+  QT_NO_CAST_FROM_ASCII
+  QT_NO_CAST_TO_ASCII
+  QT_NO_URL_CAST_FROM_STRING
+  QT_NO_FOREACH
+  QT_STRICT_ITERATORS)
+target_compile_options(corvex_build_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wundef
+  $<$<BOOL:${CORVEX_WARNINGS_AS_ERRORS}>:-Werror>)
+
+if(CORVEX_SANITIZE)
+  set(corvex_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_compile_options(${corvex_sanitizers})
+  add_link_options(${corvex_sanitizers})
+endif()
+
+find_program(CORVEX_MOLD mold)
+if(CORVEX_MOLD)
+  add_link_options(-fuse-ld=mold)
+endif()
+add_link_options(-Wl,--as-needed)
+
+find_program(CORVEX_CCACHE ccache)
+if(CORVEX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  # Precompiled headers need ccache to look past their time stamps and at the macros they define.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime "${CORVEX_CCACHE}")
+endif()

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMap>
+#include <QMetaEnum>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+namespace Halvane::Corvex::Common {
+
+//! The enumerations that the library, its plug-ins and the device runtime share. Their numbers are stored in
+//! project files and in runtime files; they never change.
+class EnumHelper
+{
+    Q_GADGET
+
+public:
+    //! The kind of value that a variable or a runtime property holds. 5 and 8 are not in use.
+    enum VariableType {
+        NoVariable = 0,
+        BooleanVariable = 1,
+        IntegerVariable = 2,
+        FloatVariable = 3,
+        StringVariable = 4,
+        ColorVariable = 6,
+        FtpVariable = 7,
+        LogVariable = 9,
+        DeviceVariable = 10,
+        NumberVariable = 11,
+    };
+    Q_ENUM(VariableType)
+
+    enum VariableAccessMode { NoAccess = 0, ReadOnly = 1, WriteOnly = 2, ReadWrite = 3 };
+    Q_ENUM(VariableAccessMode)
+
+    //! What a device channel is used for. The key of each enumerator is its word in a channel list.
+    enum InputOutputType { UNUSED, INPUT, OUTPUT, COMTYPE, RECEIVE, SEND, DIRECTION, UNAVAILABLE, CSPIN };
+    Q_ENUM(InputOutputType)
+
+    //! The enumeration of this class with that name ("InputOutputType"), invalid when there is none.
+    static QMetaEnum metaEnum(const QString &name);
+};
+
+} // namespace Halvane::Corvex::Common
