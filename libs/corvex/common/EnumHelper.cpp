@@ -1,7 +1,48 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/EnumHelper.h"
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Common {
+
+namespace {
+
+QStringList keysOf(const QMetaEnum &enumeration)
+{
+    QStringList keys;
+    keys.reserve(enumeration.keyCount());
+    for (int i = 0; i < enumeration.keyCount(); ++i)
+        keys.append(QString::fromLatin1(enumeration.key(i)));
+    return keys;
+}
+
+} // namespace
+
+const QMap<QString, QString> &EnumHelper::getVariableTypeNames()
+{
+    static const QMap<QString, QString> names{
+        {u"NoVariable"_s, u"None"_s},         {u"BooleanVariable"_s, u"Boolean"_s},
+        {u"IntegerVariable"_s, u"Integer"_s}, {u"FloatVariable"_s, u"Floating Number"_s},
+        {u"StringVariable"_s, u"String"_s},   {u"ColorVariable"_s, u"Color"_s},
+        {u"FtpVariable"_s, u"FTP"_s},         {u"LogVariable"_s, u"Log"_s},
+        {u"DeviceVariable"_s, u"Device"_s},   {u"NumberVariable"_s, u"Number"_s},
+    };
+    return names;
+}
+
+const QStringList &EnumHelper::inputOutputTypeNames()
+{
+    static const QStringList names = keysOf(QMetaEnum::fromType<InputOutputType>());
+    return names;
+}
+
+EnumHelper::InputOutputType EnumHelper::toInputOutputType(QStringView word, bool *ok)
+{
+    const qsizetype number = inputOutputTypeNames().indexOf(word);
+    if (ok)
+        *ok = number >= 0;
+    return number >= 0 ? static_cast<InputOutputType>(number) : UNUSED;
+}
 
 QMetaEnum EnumHelper::metaEnum(const QString &name)
 {

@@ -38,6 +38,26 @@ public:
     enum InputOutputType { UNUSED, INPUT, OUTPUT, COMTYPE, RECEIVE, SEND, DIRECTION, UNAVAILABLE, CSPIN };
     Q_ENUM(InputOutputType)
 
+    //! How a file server is spoken to.
+    enum FtpType { FTP, FTPS, SFTP };
+    Q_ENUM(FtpType)
+
+    //! What a log does when its last place is taken.
+    enum RollOverBehavior { OverwriteOldest, StopLogging, SaveAndReset };
+    Q_ENUM(RollOverBehavior)
+
+    enum BACnetType { BACnetIP, BACnetMSTP };
+    Q_ENUM(BACnetType)
+
+    //! The texts a user reads for the variable types, by the name of the type ("BooleanVariable").
+    static const QMap<QString, QString> &getVariableTypeNames();
+
+    //! The words of the channel types, in the order of their numbers.
+    static const QStringList &inputOutputTypeNames();
+
+    //! The channel type of a word, compared exactly; UNUSED, with ok false, for any other text.
+    static InputOutputType toInputOutputType(QStringView word, bool *ok = nullptr);
+
     //! The enumeration of this class with that name ("InputOutputType"), invalid when there is none.
     static QMetaEnum metaEnum(const QString &name);
 };

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace Halvane::Corvex::Common {
+
+//! The properties of a BACnet device object that a project may set. Empty texts and zeros leave the device's
+//! own.
+class BACDeviceInfo
+{
+public:
+    BACDeviceInfo() = default;
+    //! Reads what toString() writes: every key exactly once, in any order. The record is empty when ok is
+    //! false.
+    explicit BACDeviceInfo(const QString &text, bool *ok = nullptr);
+
+    //! "key: value;" items joined with a blank, keys ascending, texts as Base64.
+    QString toString() const;
+
+    const QString &objectName() const { return m_objectName; }
+    void setObjectName(const QString &objectName) { m_objectName = objectName; }
+    const QString &description() const { return m_description; }
+    void setDescription(const QString &description) { m_description = description; }
+    const QString &location() const { return m_location; }
+    void setLocation(const QString &location) { m_location = location; }
+    const QString &modelName() const { return m_modelName; }
+    void setModelName(const QString &modelName) { m_modelName = modelName; }
+    const QString &vendorName() const { return m_vendorName; }
+    void setVendorName(const QString &vendorName) { m_vendorName = vendorName; }
+    //! As assigned by ASHRAE, 0 to 65535.
+    int vendorIdentifier() const { return m_vendorIdentifier; }
+    void setVendorIdentifier(int vendorIdentifier) { m_vendorIdentifier = vendorIdentifier; }
+    //! In milliseconds.
+    int apduTimeout() const { return m_apduTimeout; }
+    void setApduTimeout(int apduTimeout) { m_apduTimeout = apduTimeout; }
+    int numberOfApduRetries() const { return m_numberOfApduRetries; }
+    void setNumberOfApduRetries(int numberOfApduRetries) { m_numberOfApduRetries = numberOfApduRetries; }
+
+    bool operator==(const BACDeviceInfo &other) const = default;
+
+private:
+    struct TextField
+    {
+        QLatin1StringView key;
+        QString BACDeviceInfo::*member;
+    };
+    struct NumberField
+    {
+        QLatin1StringView key;
+        int BACDeviceInfo::*member;
+        int maximum;
+    };
+    static const TextField textFields[];
+    static const NumberField numberFields[];
+
+    bool readItem(QStringView key, QStringView value);
+
+    QString m_objectName;
+    QString m_description;
+    QString m_location;
+    QString m_modelName;
+    QString m_vendorName;
+    int m_vendorIdentifier = 0;
+    int m_apduTimeout = 0;
+    int m_numberOfApduRetries = 0;
+};
+
+} // namespace Halvane::Corvex::Common

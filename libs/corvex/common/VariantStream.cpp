@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/VariantStream.h"
+
+#include <QColor>
+#include <QDataStream>
+#include <QDateTime>
+#include <QIODevice>
+#include <QRect>
+#include <QSize>
+
+#include <zlib.h>
+
+namespace Halvane::Corvex::Common::VariantStream {
+
+namespace {
+
+constexpr int deepestNesting = 64;
+
+//! The numbers of types that hold other values, as the stream has them.
+enum ContainerType : quint32 { Map = 8, List = 9, StringList = 11, Hash = 28 };
+
+template<typename T>
+QVariant readLeaf(QDataStream &stream)
+{
+    T value{};
+    stream >> value;
+    return QVariant::fromValue(value);
+}
+
+QVariant readNothing(QDataStream &stream)
+{
+    // An invalid value is followed by an empty text.
+    QString nothing;
+    stream >> nothing;
+    return {};
+}
+
+struct LeafType
+{
+    quint32 number;
+    QVariant (*read)(QDataStream &stream);
+};
+
+constexpr LeafType leafTypes[] = {
+    {0, readNothing},           {1, readLeaf<bool>},       {2, readLeaf<int>},     {3, readLeaf<uint>},
+    {4, readLeaf<qlonglong>},   {5, readLeaf<qulonglong>}, {6, readLeaf<double>},  {10, readLeaf<QString>},
+    {12, readLeaf<QByteArray>}, {14, readLeaf<QDate>},     {15, readLeaf<QTime>},  {16, readLeaf<QDateTime>},
+    {19, readLeaf<QRect>},      {20, readLeaf<QRectF>},    {21, readLeaf<QSize>},  {22, readLeaf<QSizeF>},
+    {25, readLeaf<QPoint>},     {26, readLeaf<QPointF>},   {67, readLeaf<QColor>}, {135, readLeaf<float>},
+};
+
+class Reader
+{
+public:
+    explicit Reader(QDataStream &stream)
+        : m_stream(stream)
+    { }
+
+    QVariant readValue(int depth)
+    {
+        quint32 type = 0;
+        qint8 isNull = 0;
+        m_stream >> type >> isNull;
+        switch (type) {
+        case Map:
+            return readMap<QVariantMap>(depth + 1);
+        case Hash:
+            return readMap<QVariantHash>(depth + 1);
+        case List:
+            return readList(depth + 1);
+        case StringList:
+            return readStrings();
+        default:
+            break;
+        }
+        const auto leaf =
+            std::find_if(std::begin(leafTypes), std::end(leafTypes),
+                         [type](const LeafType &candidate) { return candidate.number == type; });
+        if (leaf != std::end(leafTypes) && m_stream.status() == QDataStream::Ok)
+            return leaf->read(m_stream);
+        m_stream.setStatus(QDataStream::ReadCorruptData);
+        return {};
+    }
+
+private:
+    //! A count that the bytes left can hold; otherwise the stream is corrupt and nothing is to be read.
+    quint32 readCount(qint64 leastBytesOfOne)
+    {
+        quint32 count = 0;
+        m_stream >> count;
+        if (m_stream.status() == QDataStream::Ok
+            && count <= m_stream.device()->bytesAvailable() / leastBytesOfOne)
+            return count;
+        m_stream.setStatus(QDataStream::ReadCorruptData);
+        return 0;
+    }
+
+    bool isGood() const { return m_stream.status() == QDataStream::Ok; }
+
+    quint32 readCountOfValues(int depth, qint64 leastBytesOfOne)
+    {
+        if (depth > deepestNesting)
+            m_stream.setStatus(QDataStream::ReadCorruptData);
+        return readCount(leastBytesOfOne);
+    }
+
+    template<typename Container>
+    QVariant readMap(int depth)
+    {
+        Container map;
+        for (quint32 left = readCountOfValues(depth, 9); left > 0 && isGood(); --left) {
+            QString key;
+            m_stream >> key;
+            map.insert(key, readValue(depth));
+        }
+        return map;
+    }
+
+    QVariant readList(int depth)
+    {
+        QVariantList list;
+        for (quint32 left = readCountOfValues(depth, 5); left > 0 && isGood(); --left)
+            list.append(readValue(depth));
+        return list;
+    }
+
+    QVariant readStrings()
+    {
+        QStringList strings;
+        for (quint32 left = readCount(4); left > 0 && isGood(); --left) {
+            QString string;
+            m_stream >> string;
+            strings.append(string);
+        }
+        return strings;
+    }
+
+    QDataStream &m_stream;
+};
+
+void setForm(QDataStream &stream)
+{
+    stream.setVersion(QDataStream::Qt_4_7);
+    stream.setByteOrder(QDataStream::BigEndian);
+}
+
+//! A compressed file has the first byte of zlib's form behind its four bytes of size, a plain one 0 or 1.
+bool isCompressed(const QByteArray &bytes)
+{
+    return bytes.size() > 4 && bytes.at(4) == 0x78;
+}
+
+//! What qCompress packed. Unlike qUncompress it grows no further than mostBytes, whatever the bytes claim.
+QByteArray uncompressed(const QByteArray &bytes, qint64 mostBytes, bool &ok)
+{
+    ok = false;
+    z_stream stream{};
+    if (inflateInit(&stream) != Z_OK)
+        return {};
+    QByteArray packed = bytes.sliced(4);
+    stream.next_in = reinterpret_cast<Bytef *>(packed.data());
+    stream.avail_in = static_cast<uInt>(packed.size());
+    QByteArray result;
+    QByteArray block(1 << 16, Qt::Uninitialized);
+    int status = Z_OK;
+    while (status == Z_OK && result.size() <= mostBytes) {
+        stream.next_out = reinterpret_cast<Bytef *>(block.data());
+        stream.avail_out = static_cast<uInt>(block.size());
+        status = inflate(&stream, Z_NO_FLUSH);
+        result.append(block.constData(), block.size() - stream.avail_out);
+    }
+    inflateEnd(&stream);
+    ok = status == Z_STREAM_END && result.size() <= mostBytes;
+    return result;
+}
+
+} // namespace
+
+bool write(const QVariant &value, QByteArray &bytes)
+{
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    setForm(stream);
+    stream << value;
+    return stream.status() == QDataStream::Ok;
+}
+
+QVariant read(const QByteArray &bytes, qint64 mostBytes, bool &ok)
+{
+    if (isCompressed(bytes)) {
+        const QByteArray plain = uncompressed(bytes, mostBytes, ok);
+        ok = ok && !isCompressed(plain);
+        return ok ? read(plain, mostBytes, ok) : QVariant();
+    }
+    QDataStream stream(bytes);
+    setForm(stream);
+    const QVariant value = Reader(stream).readValue(0);
+    ok = stream.status() == QDataStream::Ok && stream.atEnd();
+    return ok ? value : QVariant();
+}
+
+} // namespace Halvane::Corvex::Common::VariantStream

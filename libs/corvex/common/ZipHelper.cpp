@@ -1,0 +1,315 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/ZipHelper.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/SafeFile.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QSet>
+
+#include <zip.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Common {
+
+namespace {
+
+// 1 January 1980, midnight: the earliest that an archive can tell, in no time zone.
+constexpr zip_uint16_t entryDate = (1 << 5) | 1;
+constexpr zip_uint32_t regularFileMode = 0100644;
+constexpr int defaultLevel = 6;
+
+bool fail(QString *error, const QString &path, const QString &problem)
+{
+    if (error)
+        *error = u"%1: %2"_s.arg(QDir::toNativeSeparators(path), problem);
+    return false;
+}
+
+QString textOf(zip_error_t *error)
+{
+    return QString::fromUtf8(zip_error_strerror(error));
+}
+
+QString textOf(zip_t *archive)
+{
+    return textOf(zip_get_error(archive));
+}
+
+//! Discards the archive, unless it was closed.
+struct ArchiveDeleter
+{
+    void operator()(zip_t *archive) const { zip_discard(archive); }
+};
+using Archive = std::unique_ptr<zip_t, ArchiveDeleter>;
+
+struct EntryFileDeleter
+{
+    void operator()(zip_file_t *file) const { zip_fclose(file); }
+};
+using EntryFile = std::unique_ptr<zip_file_t, EntryFileDeleter>;
+
+struct Entry
+{
+    QString path;
+    QString name;
+};
+
+bool addEntry(zip_t *archive, const Entry &entry, int level)
+{
+    zip_source_t *source = zip_source_file(archive, QFile::encodeName(entry.path).constData(), 0, -1);
+    if (!source)
+        return false;
+    const zip_int64_t index =
+        zip_file_add(archive, entry.name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8);
+    if (index < 0) {
+        zip_source_free(source);
+        return false;
+    }
+    const auto at = static_cast<zip_uint64_t>(index);
+    const bool stored = level <= 0;
+    return zip_set_file_compression(archive, at, stored ? ZIP_CM_STORE : ZIP_CM_DEFLATE,
+                                    stored ? 0 : static_cast<zip_uint32_t>(level))
+               == 0
+           && zip_file_set_dostime(archive, at, 0, entryDate, 0) == 0
+           && zip_file_set_external_attributes(archive, at, 0, ZIP_OPSYS_UNIX, regularFileMode << 16) == 0;
+}
+
+struct SourceDeleter
+{
+    void operator()(zip_source_t *source) const { zip_source_free(source); }
+};
+using Source = std::unique_ptr<zip_source_t, SourceDeleter>;
+
+bool writeSource(zip_source_t *source, const QString &path, QString *error)
+{
+    SafeFile file(path);
+    if (!file.openForWriting(error))
+        return false;
+    if (zip_source_open(source) != 0)
+        return fail(error, path, textOf(zip_source_error(source)));
+    QByteArray block(1 << 18, Qt::Uninitialized);
+    zip_int64_t read = 0;
+    while ((read = zip_source_read(source, block.data(), static_cast<zip_uint64_t>(block.size()))) > 0)
+        file.write(block.constData(), read);
+    if (read < 0)
+        return fail(error, path, textOf(zip_source_error(source)));
+    zip_source_close(source);
+    return file.commit(error);
+}
+
+bool pack(const QList<Entry> &entries, const QString &zipPath, const QString &comment, int level,
+          QString *error)
+{
+    zip_error_t problem;
+    zip_error_init(&problem);
+    Source buffer(zip_source_buffer_create(nullptr, 0, 0, &problem));
+    Archive archive(buffer ? zip_open_from_source(buffer.get(), ZIP_CREATE | ZIP_TRUNCATE, &problem)
+                           : nullptr);
+    if (!archive)
+        return fail(error, zipPath, textOf(&problem));
+    // The archive lets go of the buffer when it is closed; it is read after that.
+    zip_source_keep(buffer.get());
+    const QByteArray commentBytes = comment.toUtf8();
+    bool ok = commentBytes.size() <= 0xffff
+              && (commentBytes.isEmpty()
+                  || zip_set_archive_comment(archive.get(), commentBytes.constData(),
+                                             static_cast<zip_uint16_t>(commentBytes.size()))
+                         == 0);
+    for (const Entry &entry : entries)
+        ok = ok && addEntry(archive.get(), entry, level);
+    if (!ok || zip_close(archive.get()) != 0)
+        return fail(error, zipPath, textOf(archive.get()));
+    archive.release(); // NOLINT(bugprone-unused-return-value): zip_close freed it
+    return writeSource(buffer.get(), zipPath, error);
+}
+
+// --- Reading ---
+
+constexpr zip_int64_t mostEntries = 100'000;
+constexpr quint64 mostBytes = quint64(4) << 30;
+//! No honest deflate stream reaches more.
+constexpr quint64 mostGrowth = 1100;
+
+Archive openForReading(const QString &path, QString *error)
+{
+    int code = 0;
+    Archive archive(zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY | ZIP_CHECKCONS, &code));
+    if (!archive) {
+        zip_error_t problem;
+        zip_error_init_with_code(&problem, code);
+        fail(error, path, textOf(&problem));
+        zip_error_fini(&problem);
+    }
+    return archive;
+}
+
+QString entryName(zip_t *archive, zip_uint64_t index)
+{
+    return QString::fromUtf8(zip_get_name(archive, index, ZIP_FL_ENC_GUESS));
+}
+
+bool isSafeName(const QString &name)
+{
+    if (name.isEmpty() || name.startsWith(u'/') || name.contains(u'\\') || name.contains(u':'))
+        return false;
+    const QStringList parts = (name.endsWith(u'/') ? name.chopped(1) : name).split(u'/');
+    return std::none_of(parts.begin(), parts.end(), [](const QString &part) {
+        return part.isEmpty() || part == "."_L1 || part == ".."_L1;
+    });
+}
+
+bool isPlainFileOrFolder(zip_t *archive, zip_uint64_t index)
+{
+    constexpr zip_uint32_t kindMask = 0170000;
+    constexpr zip_uint32_t folder = 0040000;
+    constexpr zip_uint32_t file = 0100000;
+    zip_uint8_t system = 0;
+    zip_uint32_t attributes = 0;
+    if (zip_file_get_external_attributes(archive, index, 0, &system, &attributes) != 0)
+        return false;
+    const zip_uint32_t kind = (attributes >> 16) & kindMask;
+    return system != ZIP_OPSYS_UNIX || kind == 0 || kind == folder || kind == file;
+}
+
+//! Looks at every entry before the first is written.
+bool isHarmless(zip_t *archive, const QString &zipPath, QString *error)
+{
+    const zip_int64_t count = zip_get_num_entries(archive, 0);
+    QSet<QString> names;
+    quint64 total = 0;
+    for (zip_int64_t i = 0; i < count; ++i) {
+        const auto index = static_cast<zip_uint64_t>(i);
+        const QString name = entryName(archive, index);
+        zip_stat_t entry;
+        if (zip_stat_index(archive, index, 0, &entry) != 0)
+            return fail(error, zipPath, textOf(archive));
+        total += entry.size;
+        if (count > mostEntries || entry.size > mostBytes || total > mostBytes
+            || entry.size / mostGrowth > entry.comp_size)
+            return fail(error, zipPath,
+                        LocalizationHelper::coreString(u"The archive would grow beyond measure."_s));
+        if (!isSafeName(name) || !isPlainFileOrFolder(archive, index) || names.contains(name)) {
+            return fail(
+                error, zipPath,
+                LocalizationHelper::coreString(u"The archive holds the unsafe entry \"%1\"."_s).arg(name));
+        }
+        names.insert(name);
+    }
+    return true;
+}
+
+//! Makes the folder of the path below the root, refusing to pass through a link.
+bool makeFolder(const QString &root, const QString &relative)
+{
+    QString path = root;
+    for (const QString &part : relative.split(u'/', Qt::SkipEmptyParts)) {
+        path += u'/' + part;
+        const QFileInfo info(path);
+        if (info.isSymLink() || (!info.isDir() && !QDir().mkdir(path)))
+            return false;
+    }
+    return true;
+}
+
+bool extract(zip_t *archive, zip_uint64_t index, const QString &path, QString *error)
+{
+    zip_stat_t entry;
+    if (zip_stat_index(archive, index, 0, &entry) != 0)
+        return fail(error, path, textOf(archive));
+    const EntryFile source(zip_fopen_index(archive, index, 0));
+    if (!source)
+        return fail(error, path, textOf(archive));
+    SafeFile file(path);
+    if (!file.openForWriting(error))
+        return false;
+    QByteArray block(1 << 18, Qt::Uninitialized);
+    quint64 total = 0;
+    zip_int64_t read = 0;
+    while ((read = zip_fread(source.get(), block.data(), static_cast<zip_uint64_t>(block.size()))) > 0) {
+        total += static_cast<quint64>(read);
+        if (total > entry.size)
+            break;
+        file.write(block.constData(), read);
+    }
+    if (read < 0)
+        return fail(error, path, textOf(zip_file_get_error(source.get())));
+    if (total != entry.size)
+        return fail(error, path, LocalizationHelper::coreString(u"The size of the entry is wrong."_s));
+    return file.commit(error);
+}
+
+bool extractAll(zip_t *archive, const QString &root, QString *error)
+{
+    const auto count = static_cast<zip_uint64_t>(zip_get_num_entries(archive, 0));
+    for (zip_uint64_t i = 0; i < count; ++i) {
+        const QString name = entryName(archive, i);
+        const QString path = root + u'/' + name;
+        const QString folder = name.first(name.lastIndexOf(u'/') + 1);
+        if (!makeFolder(root, folder) || QFileInfo(path).isSymLink())
+            return fail(error, path, LocalizationHelper::coreString(u"The folder cannot be made."_s));
+        if (!name.endsWith(u'/') && !extract(archive, i, path, error))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool ZipHelper::zipWithFiles(const QStringList &files, const QString &zipPath, const QString &comment,
+                             int level, QString *error)
+{
+    QList<Entry> entries;
+    for (const QString &file : files) {
+        const QFileInfo info(file);
+        if (!info.isFile())
+            return fail(error, file, LocalizationHelper::coreString(u"The file does not exist."_s));
+        entries.append({file, info.fileName()});
+    }
+    return pack(entries, zipPath, comment, qBound(0, level, 9), error);
+}
+
+bool ZipHelper::zipDirectory(const QString &directory, const QString &zipPath, QString *error)
+{
+    if (!QFileInfo(directory).isDir())
+        return fail(error, directory, LocalizationHelper::coreString(u"The folder does not exist."_s));
+    const QDir root(directory);
+    const QString target = QFileInfo(zipPath).absoluteFilePath();
+    QList<Entry> entries;
+    QDirIterator files(directory, QDir::Files | QDir::Hidden | QDir::NoSymLinks,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (QFileInfo(path).absoluteFilePath() != target)
+            entries.append({path, root.relativeFilePath(path)});
+    }
+    std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) { return a.name < b.name; });
+    return pack(entries, zipPath, {}, defaultLevel, error);
+}
+
+bool ZipHelper::unzip(const QString &zipPath, const QString &directory, QString *error)
+{
+    const Archive archive = openForReading(zipPath, error);
+    if (!archive || !isHarmless(archive.get(), zipPath, error))
+        return false;
+    if (!QDir().mkpath(directory))
+        return fail(error, directory, LocalizationHelper::coreString(u"The folder cannot be made."_s));
+    return extractAll(archive.get(), QDir(directory).absolutePath(), error);
+}
+
+QStringList ZipHelper::entryNames(const QString &zipPath, QString *error)
+{
+    const Archive archive = openForReading(zipPath, error);
+    if (!archive)
+        return {};
+    QStringList names;
+    const auto count = static_cast<zip_uint64_t>(zip_get_num_entries(archive.get(), 0));
+    for (zip_uint64_t i = 0; i < count; ++i)
+        names.append(entryName(archive.get(), i));
+    return names;
+}
+
+} // namespace Halvane::Corvex::Common
