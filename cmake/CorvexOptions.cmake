@@ -46,6 +46,10 @@ if(CORVEX_SANITIZE)
   add_link_options(${corvex_sanitizers})
 endif()
 
+if(CORVEX_BUILD_FUZZERS)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 find_program(CORVEX_MOLD mold)
 if(CORVEX_MOLD)
   add_link_options(-fuse-ld=mold)

@@ -20,6 +20,36 @@ function(corvex_room name)
   set_property(GLOBAL APPEND PROPERTY CORVEX_ROOMS corvex_${name})
 endfunction()
 
+# corvex_tool(NAME SOURCES file... LINKS target...)
+#
+# A program for people: the target NAME, in bin, installed.
+function(corvex_tool name)
+  cmake_parse_arguments(TOOL "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${TOOL_SOURCES})
+  target_link_libraries(${name} PRIVATE corvex_build_options DesignerCore ${TOOL_LINKS})
+  target_precompile_headers(${name} PRIVATE "${PROJECT_SOURCE_DIR}/cmake/pch.h")
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  install(TARGETS ${name} DESTINATION "${CMAKE_INSTALL_BINDIR}")
+endfunction()
+
+# corvex_plugin(NAME SOURCES file... LINKS target...)
+#
+# A plug-in that the factory loads: the target plugin_NAME, libNAME.so in the folder of plug-ins, installed.
+function(corvex_plugin name)
+  cmake_parse_arguments(PLUGIN "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(plugin_${name} MODULE ${PLUGIN_SOURCES})
+  target_link_libraries(plugin_${name} PRIVATE corvex_build_options DesignerCore ${PLUGIN_LINKS})
+  target_include_directories(plugin_${name} PRIVATE "${PROJECT_SOURCE_DIR}/plugins")
+  target_precompile_headers(plugin_${name} PRIVATE "${PROJECT_SOURCE_DIR}/cmake/pch.h")
+  file(RELATIVE_PATH up "/${CORVEX_PLUGIN_PATH}" "/${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(plugin_${name} PROPERTIES
+    AUTOMOC ON
+    OUTPUT_NAME ${name}
+    LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${CORVEX_PLUGIN_PATH}"
+    INSTALL_RPATH "$ORIGIN/${up}")
+  install(TARGETS plugin_${name} DESTINATION "${CORVEX_PLUGIN_PATH}")
+endfunction()
+
 # corvex_test(NAME SOURCES file... LINKS target...)
 #
 # One test program, test_NAME, run by CTest as one test named NAME. Its main function is

@@ -11,6 +11,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+
 #include <algorithm>
 #include <functional>
 #include <memory>

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// measure COMMAND ARGUMENT...: runs a command with its output thrown away and prints its exit status, the
+// seconds that it took and the most memory, in bytes, that it held. A program of its own and a small one: a
+// process inherits the peak of the one that starts it.
+#include <chrono>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+int main(int argc, char **argv)
+{
+    if (argc < 2)
+        return 2;
+    const auto start = std::chrono::steady_clock::now();
+    const pid_t child = fork();
+    if (child == 0) {
+        const int nothing = open("/dev/null", O_RDWR);
+        dup2(nothing, STDIN_FILENO);
+        dup2(nothing, STDOUT_FILENO);
+        execvp(argv[1], argv + 1);
+        _exit(127);
+    }
+    int status = 0;
+    rusage usage{};
+    if (child < 0 || wait4(child, &status, 0, &usage) != child)
+        return 1;
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+    std::printf("%d %.9f %lld\n", WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status),
+                taken.count(), static_cast<long long>(usage.ru_maxrss) * 1024);
+    return 0;
+}

@@ -1,0 +1,25 @@
+# SPDX-License-Identifier: MIT
+# What cmake --install lays down beside the tools and plug-ins, which their own functions install: the
+# libraries, their headers under the paths that they have in the tree, and the CMake package DesignerCore.
+include(CMakePackageConfigHelpers)
+
+set(package_path "${CMAKE_INSTALL_LIBDIR}/cmake/DesignerCore")
+
+install(TARGETS Common DesignerCore EXPORT DesignerCoreTargets
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+  RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/libs/corvex" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+  FILES_MATCHING PATTERN "*.h")
+install(EXPORT DesignerCoreTargets NAMESPACE Corvex:: DESTINATION "${package_path}")
+
+configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/DesignerCoreConfig.cmake.in"
+  "${PROJECT_BINARY_DIR}/package/DesignerCoreConfig.cmake"
+  INSTALL_DESTINATION "${package_path}"
+  PATH_VARS CMAKE_INSTALL_LIBDIR CORVEX_PLUGIN_PATH CORVEX_DATA_PATH)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/package/DesignerCoreConfigVersion.cmake"
+  COMPATIBILITY SameMajorVersion)
+install(FILES
+  "${PROJECT_BINARY_DIR}/package/DesignerCoreConfig.cmake"
+  "${PROJECT_BINARY_DIR}/package/DesignerCoreConfigVersion.cmake"
+  DESTINATION "${package_path}")

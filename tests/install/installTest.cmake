@@ -1,0 +1,61 @@
+# SPDX-License-Identifier: MIT
+# Installs the build tree into a temporary prefix, moves that elsewhere, and builds and runs the program in
+# outside/ with nothing but the moved prefix.
+# Variables: build, generator, compiler, sanitize.
+cmake_minimum_required(VERSION 3.25)
+
+if(generator MATCHES "Ninja" AND NOT EXISTS "${build}/build.ninja")
+  message(STATUS "skipped: ${build} was not made by ${generator}")
+  return()
+endif()
+foreach(library CorvexCommon DesignerCore)
+  file(GLOB_RECURSE found "${build}/lib*/lib${library}.so")
+  if(NOT found)
+    message(STATUS "skipped: lib${library} is not built")
+    return()
+  endif()
+endforeach()
+
+set(work "${build}/Testing/install")
+set(prefix "${work}/moved to here")
+file(REMOVE_RECURSE "${work}")
+
+function(run what)
+  execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE status)
+  if(NOT status EQUAL 0)
+    message(FATAL_ERROR "${what} failed (${status})\n${output}")
+  endif()
+  set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+function(expect_equal what actual expected)
+  if(NOT actual STREQUAL expected)
+    message(FATAL_ERROR "${what}: expected \"${expected}\", got \"${actual}\"")
+  endif()
+endfunction()
+
+run("installing" "${CMAKE_COMMAND}" --install "${build}" --prefix "${work}/first")
+file(RENAME "${work}/first" "${prefix}")
+
+# Nothing that only this tree knows may be asked of others.
+file(GLOB_RECURSE package "${prefix}/*DesignerCore*.cmake")
+foreach(file ${package})
+  file(READ "${file}" text)
+  cmake_path(GET build PARENT_PATH builds)
+  foreach(inside corvex_build_options "${build}" PkgConfig EXPAT)
+    string(FIND "${text}" "${inside}" position)
+    if(NOT position EQUAL -1)
+      message(FATAL_ERROR "the installed package mentions ${inside}: ${file}")
+    endif()
+  endforeach()
+endforeach()
+
+set(flags "")
+if(sanitize)
+  set(flags "-fsanitize=address,undefined")
+endif()
+run("configuring the program outside" "${CMAKE_COMMAND}" -S "${CMAKE_CURRENT_LIST_DIR}/outside" -B "${work}/outside"
+  -G "${generator}" "-DCMAKE_CXX_COMPILER=${compiler}" "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_FLAGS=${flags}")
+run("building the program outside" "${CMAKE_COMMAND}" --build "${work}/outside")
+run("running the program outside" "${work}/outside/outside")
+expect_equal("what the program prints" "${output}" "IDesignerObject Pump 10\n")
