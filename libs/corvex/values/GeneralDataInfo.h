@@ -69,7 +69,7 @@ public:
     };
 
     //! Whose name a look-up or a rename is about. Elements are named by element terms, variables by variable
-    //! terms and by the element terms that refer to a log or device variable.
+    //! terms. Element terms of log and device data can name either.
     enum NameKind : quint8 { ElementName = 1, VariableName = 2, AnyName = ElementName | VariableName };
 
     GeneralDataInfo() = default;
@@ -167,6 +167,7 @@ private:
     bool parse(QStringView text);
     void appendTo(QString &text) const;
     bool names(NameKind kind) const;
+    QStringView objectPart() const;
 
     QString m_value;
     ValueType m_valueType = NoValue;

@@ -57,7 +57,7 @@ public:
     GeneralDataInfo takeLast() { return m_terms.isEmpty() ? GeneralDataInfo() : m_terms.takeLast(); }
     void removeFirst() { takeFirst(); }
     void removeLast() { takeLast(); }
-    void removeAt(qsizetype index);
+    bool removeAt(qsizetype index);
     void clear() { m_terms.clear(); }
     GeneralDataInfo first() const { return m_terms.value(0); }
     GeneralDataInfo last() const { return m_terms.value(m_terms.size() - 1); }

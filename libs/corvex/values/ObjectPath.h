@@ -15,6 +15,10 @@ public:
     //! Whether generated code can hold the path as it stands: segments of letters, digits and "_", none
     //! empty, none after the first beginning with a digit.
     static bool isValid(QStringView path);
+    //! What stands before the first ".", the whole path when there is none.
+    static QStringView firstSegment(QStringView path);
+    //! What stands behind the last ".", the whole path when there is none.
+    static QStringView lastSegment(QStringView path);
     static bool contains(QStringView path, QStringView name);
     //! Puts \a newName wherever \a path contains \a oldName. \return whether it does.
     static bool replace(QString &path, QStringView oldName, QStringView newName);
