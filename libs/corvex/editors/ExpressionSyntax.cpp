@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editors/ExpressionSyntax.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace Halvane::Corvex::Designer {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Place
+{
+    int line = 0;
+    int column = 0;
+};
+
+//! The place behind the last character of the text.
+Place endOf(QStringView text)
+{
+    Place end{1, 1};
+    for (const QChar c : text) {
+        const bool lineEnd = c == u'\n' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+        end = lineEnd ? Place{end.line + 1, 1} : Place{end.line, end.column + 1};
+    }
+    return end;
+}
+
+//! Compilers tell of what lacks at the end where the text around it goes on.
+Place within(Place place, Place end)
+{
+    return place.line > end.line ? end : place;
+}
+
+} // namespace
+
+ExpressionSyntax::ExpressionSyntax()
+    : m_engine(std::make_unique<QQmlEngine>())
+{
+    m_engine->setOutputWarningsToStandardError(false);
+}
+
+ExpressionSyntax::~ExpressionSyntax() = default;
+
+ExpressionSyntax::Result ExpressionSyntax::checkExpression(const QString &code)
+{
+    // The parentheses alone would let "1) + (2" through.
+    const Result asItStands = checkStatements(code);
+    return asItStands.valid ? compile(code, true) : asItStands;
+}
+
+ExpressionSyntax::Result ExpressionSyntax::checkStatements(const QString &code)
+{
+    return compile(code, false);
+}
+
+// The engine compiles the whole text before it runs any of it, and the first thing that runs is the throw:
+// what comes out is an error only when the compiler threw it. The engine knows no column and takes a few
+// texts that are no code ("#FF" at the start of a line); the reader of QML files does not, but takes a line
+// end between quotes.
+ExpressionSyntax::Result ExpressionSyntax::compile(const QString &code, bool inParentheses)
+{
+    const QString block = inParentheses ? u"(\n%1\n)"_s.arg(code) : code;
+    const int linesBefore = inParentheses ? 2 : 1;
+    const Place end = endOf(code);
+
+    Result result;
+    const QJSValue thrown = m_engine->evaluate("throw null;\n"_L1 + block, QString(), 1);
+    if (thrown.isError()) {
+        const int line = std::max(thrown.property(u"lineNumber"_s).toInt() - linesBefore, 1);
+        result = {false, std::min(line, end.line), 0, thrown.property(u"message"_s).toString()};
+    }
+    QQmlComponent component(m_engine.get());
+    component.setData(u"QtObject { function f() {\n%1\n}}"_s.arg(block).toUtf8(),
+                      QUrl(u"qrc:/expression.qml"_s));
+    const QList<QQmlError> errors = component.errors();
+    // Above the text there is one error anyway: nothing is imported, so that the type around it is unknown.
+    const auto error = std::find_if(errors.begin(), errors.end(), [&](const QQmlError &candidate) {
+        return candidate.line() > linesBefore;
+    });
+    if (error == errors.end())
+        return result;
+    const Place place = within({error->line() - linesBefore, error->column()}, end);
+    if (result.valid)
+        result = {false, place.line, place.column, error->description()};
+    else if (place.line == result.line)
+        result.column = place.column;
+    return result;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class QQmlEngine;
+
+namespace Halvane::Corvex::Designer {
+
+/*!
+    Tells whether a text is correct JavaScript. The text is compiled and never runs, whatever it holds. The
+   engine is this object's own; make one checker for many checks, since an engine takes a millisecond to come
+   up.
+*/
+class ExpressionSyntax
+{
+public:
+    struct Result
+    {
+        bool valid = true;
+        int line = 0;    //!< From 1; 0 when the text is valid.
+        int column = 0;  //!< From 1; 0 when the text is valid, or when nobody knows.
+        QString message; //!< The compiler's, in English.
+    };
+
+    ExpressionSyntax();
+    ~ExpressionSyntax();
+    Q_DISABLE_COPY_MOVE(ExpressionSyntax)
+
+    //! One expression: what can stand between parentheses.
+    Result checkExpression(const QString &code);
+    //! Any number of statements, none included.
+    Result checkStatements(const QString &code);
+
+private:
+    Result compile(const QString &code, bool inParentheses);
+
+    std::unique_ptr<QQmlEngine> m_engine;
+};
+
+} // namespace Halvane::Corvex::Designer

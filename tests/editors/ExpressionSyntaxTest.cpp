@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editors/ExpressionSyntax.h"
+
+#include <gtest/gtest.h>
+
+using namespace Halvane::Corvex::Designer;
+using namespace Qt::StringLiterals;
+
+TEST(ExpressionSyntax, findsThePlaceOfAnError)
+{
+    struct Case
+    {
+        QString code;
+        int expressionLine, expressionColumn; // 0, 0: correct
+        int statementLine, statementColumn;
+    };
+    const Case cases[]{
+        {u"1 + speed"_s, 0, 0, 0, 0},
+        {u"a\n? b\n: c"_s, 0, 0, 0, 0},
+        {u"sqrt( a + ( b ) )"_s, 0, 0, 0, 0},
+        {u"\"a\\nb\u00e9\" // note"_s, 0, 0, 0, 0},
+        {u"x.y = 1;\nf(2);"_s, 1, 8, 0, 0},
+        {u""_s, 1, 1, 0, 0},
+        {u"a\n  b c"_s, 2, 5, 2, 5},
+        {u"1 +"_s, 1, 4, 1, 4},
+        {u"( 1\n + 2"_s, 2, 5, 2, 5},
+        {u"1 ) + ( 2"_s, 1, 3, 1, 3},
+        {u"}"_s, 1, 2, 1, 2},
+        {u"#FF0000"_s, 1, 1, 1, 1},
+        {u"a == #FF0000"_s, 1, 6, 1, 6},
+        {u"\"a\nb\""_s, 1, 0, 1, 0},
+        {u"a\u2028b c"_s, 2, 3, 2, 3},
+        {u"} property int x: 3; function g() {"_s, 1, 0, 1, 0},
+        {u"007.5"_s, 1, 0, 1, 0},
+    };
+    ExpressionSyntax syntax;
+    for (const Case &c : cases) {
+        SCOPED_TRACE(qPrintable(c.code));
+        const auto expression = syntax.checkExpression(c.code);
+        EXPECT_EQ(expression.valid, c.expressionLine == 0);
+        EXPECT_EQ(expression.line, c.expressionLine);
+        EXPECT_EQ(expression.column, c.expressionColumn);
+        EXPECT_EQ(expression.message.isEmpty(), expression.valid);
+        const auto statements = syntax.checkStatements(c.code);
+        EXPECT_EQ(statements.line, c.statementLine);
+        EXPECT_EQ(statements.column, c.statementColumn);
+    }
+}
+
+TEST(ExpressionSyntax, runsNothingAndKeepsNothing)
+{
+    ExpressionSyntax syntax;
+    EXPECT_TRUE(syntax.checkStatements(u"while (true) {}"_s).valid);
+    EXPECT_TRUE(syntax.checkExpression(u"(function() { while (true) {} })()"_s).valid);
+    EXPECT_FALSE(syntax.checkStatements(u"} while (true) {} {"_s).valid);
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_TRUE(syntax.checkStatements(u"let twice = 1; const once = 2;"_s).valid);
+        EXPECT_TRUE(syntax.checkStatements(u"var Math = null; function evaluate() {}"_s).valid);
+    }
+}
+
+TEST(ExpressionSyntax, survivesDeepAndLongText)
+{
+    ExpressionSyntax syntax;
+    const int depth = 100'000;
+    EXPECT_FALSE(syntax.checkExpression(QString(depth, u'(') + u'1' + QString(depth, u')')).valid);
+    EXPECT_FALSE(syntax.checkExpression(QString(depth, u'[')).valid);
+    EXPECT_TRUE(syntax.checkStatements(u"qml_a.b = 1;\n"_s.repeated(depth)).valid);
+}
