@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/values/IdentifierInfo.h"
+
+#include "corvex/values/GroupText.h"
+
+namespace Halvane::Corvex::Designer {
+
+using namespace Qt::StringLiterals;
+
+IdentifierInfo::IdentifierInfo(const QString &name, const QString &scopeType, const QString &filterType)
+    : m_scopeType(scopeType)
+    , m_name(name)
+    , m_filterType(filterType)
+{ }
+
+IdentifierInfo::IdentifierInfo(QStringView text, bool *ok)
+{
+    IdentifierInfo identifier;
+    bool hasName = false;
+    const bool parsed = GroupText::forEachEntry(text, [&](QStringView key, QStringView value) {
+        if (key == "name"_L1) {
+            identifier.m_name = value.toString();
+            hasName = true;
+        } else if (key == "scopeType"_L1) {
+            identifier.m_scopeType = value.toString();
+        } else if (key == "filterType"_L1) {
+            identifier.m_filterType = value.toString();
+        }
+        return true;
+    });
+    if (parsed && hasName)
+        *this = identifier;
+    if (ok)
+        *ok = parsed && hasName;
+}
+
+QString IdentifierInfo::toString() const
+{
+    QString text;
+    text.reserve(m_filterType.size() + m_name.size() + m_scopeType.size() + 36);
+    if (!m_filterType.isEmpty())
+        GroupText::appendEntry(text, u"filterType", m_filterType);
+    if (!m_name.isEmpty())
+        GroupText::appendEntry(text, u"name", m_name);
+    if (!m_scopeType.isEmpty())
+        GroupText::appendEntry(text, u"scopeType", m_scopeType);
+    return text;
+}
+
+QString IdentifierInfo::generateId(const QString &base, int number)
+{
+    return base.isEmpty() ? QString() : base + QString::number(number);
+}
+
+} // namespace Halvane::Corvex::Designer
