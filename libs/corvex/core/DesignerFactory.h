@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/IDesignerFactory.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPixmap>
+
+namespace Halvane::Corvex::Designer {
+
+/*! Creates everything that goes by a class name, through the factory that registered the name: the one of the
+    library and those of the plug-ins. One per process, a child of the application object. */
+class DesignerFactory : public QObject
+{
+    Q_OBJECT
+
+public:
+    ~DesignerFactory() override;
+
+    /*! Makes the one instance and loads the plug-ins from "Plugins/DesignerObjects" below \a path. False when
+       the path does not exist, there is no application object, or the library's own factory is refused. */
+    static bool createInstance(const QString &path);
+    //! Null before createInstance().
+    static DesignerFactory *instance();
+
+    /*! Takes over the names of \a factory, which is not owned. Refused, with a warning, when its three tables
+       of names differ in length or a name is taken. */
+    bool registerFactory(IDesignerFactory *factory);
+    //! Loads every plug-in of a folder; a file that fails is warned about and passed over.
+    void loadPlugins(const QString &folder);
+    //! What loadPlugins() had to pass over, one line each.
+    const QStringList &pluginErrors() const { return m_pluginErrors; }
+
+    bool canCreateObject(const QString &className) const { return m_objects.contains(className); }
+    /*! A new, initialised object; null with a warning when that fails. Without \a parent the application
+       object is the parent, until the object enters a model. */
+    DesignerObject *createObject(const QString &className, QObject *parent = nullptr) const;
+    GraphicsItem *createGraphicsItem(const QString &className, DesignerObject *object) const;
+    PropertyEditor *createEditor(const QString &editorName, QWidget *parent = nullptr) const;
+    Template *createTemplate(const QString &className, QObject *parent = nullptr) const;
+    Wizard *createWizard(const QString &wizardName) const;
+
+    //! The classes with a base and a display name, sorted; likewise the other lists.
+    QStringList objectNames() const;
+    QStringList creatableNames() const;
+    QStringList graphicsItemNames() const;
+    QStringList editorNames() const;
+    QStringList templateNames() const;
+    QStringList wizardNames() const;
+
+    QMap<QString, QString> classBaseNames() const { return m_baseNames; }
+    QMap<QString, QString> baseClassNames() const { return m_classesByBase; }
+    QString baseNameForClass(const QString &className) const { return m_baseNames.value(className); }
+    QString classNameForBase(const QString &baseName) const { return m_classesByBase.value(baseName); }
+    QMap<QString, QString> classDisplayNames() const { return m_displayNames; }
+    QMap<QString, QString> displayClassNames() const { return m_classesByDisplay; }
+    QString displayNameForClass(const QString &className) const { return m_displayNames.value(className); }
+    QString classNameForDisplay(const QString &displayName) const
+    {
+        return m_classesByDisplay.value(displayName);
+    }
+
+    //! The font families that all font editors offer.
+    const QStringList &fontFamilies() const { return m_fontFamilies; }
+    void setFontFamilies(const QStringList &families);
+
+    //! An icon of the class for trees and lists, 16 by 16; null without a GUI application object.
+    QPixmap getObjectIcon(const QString &className) const;
+    QPixmap getObjectIcon(const DesignerObject *object) const;
+
+signals:
+    void fontsChanged();
+
+private:
+    using Registry = QHash<QString, IDesignerFactory *>;
+
+    explicit DesignerFactory(QObject *parent);
+    bool namesAreFree(const IDesignerFactory &factory) const;
+    void loadPlugin(const QString &file);
+    void pluginFailed(const QString &message);
+
+    Registry m_objects;
+    Registry m_graphicsItems;
+    Registry m_editors;
+    Registry m_templates;
+    Registry m_wizards;
+    QMap<QString, QString> m_baseNames;
+    QMap<QString, QString> m_classesByBase;
+    QMap<QString, QString> m_displayNames;
+    QMap<QString, QString> m_classesByDisplay;
+    QStringList m_fontFamilies;
+    QStringList m_pluginErrors;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,369 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/DesignerObject.h"
+
+#include "corvex/core/DesignerObjectData.h"
+#include "corvex/core/ItemList.h"
+#include "corvex/core/ObjectView.h"
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/QmlText.h"
+#include "corvex/core/properties/IdentifierProperty.h"
+#include "corvex/core/properties/LinkProperty.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+DesignerObject::DesignerObject(QObject *parent)
+    : QObject(parent)
+    , d(std::make_unique<Data>())
+{ }
+
+DesignerObject::~DesignerObject()
+{
+    for (const SharedProperty &property : std::as_const(d->properties)) {
+        qDeleteAll(property->releaseChildren());
+    }
+    for (DesignerProperty *list : std::as_const(d->lists)) {
+        list->forgetItem(this);
+    }
+}
+
+bool DesignerObject::initialize()
+{
+    return initializeProperties();
+}
+
+bool DesignerObject::initializeProperties()
+{
+    static const PropertyTable table{
+        row<IdentifierProperty>("id", "Name", IdentifierInfo()).rank(0),
+    };
+    if (!addProperties(table)) {
+        return false;
+    }
+    d->id = d->properties.constLast();
+    static_cast<IdentifierProperty &>(*d->id).setInitialName(baseName());
+    return true;
+}
+
+void DesignerObject::addProperty(const SharedProperty &property)
+{
+    d->properties.append(property);
+}
+
+bool DesignerObject::addProperties(const PropertyTable &table)
+{
+    d->properties.reserve(d->properties.size() + qsizetype(table.m_rows.size()));
+    for (const PropertyRow &row : table.m_rows) {
+        if (const SharedProperty property = getProperty(row.id())) {
+            if (!table.describeAnew(row, *property)) {
+                return false;
+            }
+        } else {
+            d->properties.append(table.make(row, this));
+        }
+    }
+    return true;
+}
+
+QString DesignerObject::baseName() const
+{
+    return u"Name"_s;
+}
+
+QString DesignerObject::displayName() const
+{
+    return u"Designer Object"_s;
+}
+
+QString DesignerObject::qmlName() const
+{
+    return className();
+}
+
+QString DesignerObject::onCompletedQml(int) const
+{
+    return {};
+}
+
+QString DesignerObject::toQml(int indent) const
+{
+    QStringList lines{QmlText::tabs(indent) + qmlName() + u" {"_s};
+    for (const SharedProperty &property : d->properties) {
+        const QString line = property->toQml(indent + 1);
+        if (!line.isEmpty()) {
+            lines.append(line);
+        }
+        if (property == d->id) {
+            lines.append(QmlText::line(indent + 1, u"objectName"_s, QmlText::quoted(getIdName())));
+        }
+    }
+    lines.append(QmlText::tabs(indent) + u'}');
+    return lines.join(u'\n');
+}
+
+SharedProperty DesignerObject::getProperty(QStringView id) const
+{
+    for (const SharedProperty &property : d->properties) {
+        if (property->id() == id) {
+            return property;
+        }
+    }
+    return {};
+}
+
+const QList<SharedProperty> &DesignerObject::properties() const
+{
+    return d->properties;
+}
+
+QList<SharedProperty> DesignerObject::getDependencyProperties() const
+{
+    return {};
+}
+
+const SharedProperty &DesignerObject::idProperty() const
+{
+    return d->id;
+}
+
+QString DesignerObject::getIdName() const
+{
+    return d->id ? static_cast<const IdentifierProperty &>(*d->id).value().name() : QString();
+}
+
+IdentifierInfo DesignerObject::getIdInfo() const
+{
+    return d->id ? static_cast<const IdentifierProperty &>(*d->id).value() : IdentifierInfo();
+}
+
+bool DesignerObject::setIdName(const QString &name)
+{
+    IdentifierInfo info = getIdInfo();
+    info.setName(name);
+    return setIdInfo(info);
+}
+
+bool DesignerObject::setIdInfo(const IdentifierInfo &info)
+{
+    return d->id && changePropertyValue(d->id, info.toString());
+}
+
+void DesignerObject::setIdFlag(PropertyFlag flag, bool on)
+{
+    if (d->id) {
+        d->id->setFlag(flag, on);
+    }
+}
+
+QString DesignerObject::getQmlIdName() const
+{
+    return u"qml_%1"_s.arg(getIdName());
+}
+
+bool DesignerObject::isUnique(const DesignerObject *other) const
+{
+    return other && other->getIdInfo().isUnique(other);
+}
+
+bool DesignerObject::isOrHasIdentifier(const QString &name) const
+{
+    if (getIdName() == name) {
+        return true;
+    }
+    const QList<DesignerObject *> children = childObjects();
+    return std::any_of(children.begin(), children.end(),
+                       [&name](const DesignerObject *child) { return child->isOrHasIdentifier(name); });
+}
+
+QMap<SharedProperty, QString> DesignerObject::linkPropertiesWithId() const
+{
+    QMap<SharedProperty, QString> links;
+    for (const SharedProperty &property : d->properties) {
+        if (property->className() == "LinkProperty"_L1) {
+            links.insert(property, static_cast<const LinkProperty &>(*property).value().objectId());
+        }
+    }
+    return links;
+}
+
+QMap<SharedProperty, DesignerObject *> DesignerObject::linkPropertiesWithObjects() const
+{
+    QMap<SharedProperty, DesignerObject *> links;
+    for (const SharedProperty &property : d->properties) {
+        if (property->className() == "LinkProperty"_L1) {
+            links.insert(property, static_cast<const LinkProperty &>(*property).connectLink());
+        }
+    }
+    return links;
+}
+
+SharedProperty DesignerObject::listProperty() const
+{
+    return d->listProperty.toStrongRef();
+}
+
+void DesignerObject::setListProperty(const SharedProperty &property)
+{
+    d->listProperty = property;
+}
+
+const QList<DesignerProperty *> &DesignerObject::listProperties() const
+{
+    return d->lists;
+}
+
+void DesignerObject::addListDesignerProperty(DesignerProperty *property)
+{
+    if (property && !d->lists.contains(property)) {
+        d->lists.append(property);
+    }
+}
+
+void DesignerObject::takeListDesignerProperty(DesignerProperty *property)
+{
+    d->lists.removeOne(property);
+}
+
+DesignerObject *DesignerObject::ownerObject() const
+{
+    return qobject_cast<DesignerObject *>(parent());
+}
+
+Project *DesignerObject::project() const
+{
+    return d->project;
+}
+
+Screen *DesignerObject::screen() const
+{
+    return d->screen;
+}
+
+void DesignerObject::setProject(Project *project)
+{
+    if (project != d->project) {
+        d->project = project;
+        emit projectChanged(project);
+    }
+    for (DesignerObject *child : childObjects()) {
+        child->setProject(project);
+    }
+}
+
+void DesignerObject::setScreen(Screen *screen)
+{
+    if (screen != d->screen) {
+        d->screen = screen;
+        emit screenChanged(screen);
+    }
+    for (DesignerObject *child : childObjects()) {
+        child->setScreen(screen);
+    }
+}
+
+DesignerObject *DesignerObject::rootElement(DesignerObject *object)
+{
+    while (object && !object->isKindOfClass(u"Element"_s) && !object->isKindOfClass(u"Screen"_s)) {
+        object = object->ownerObject();
+    }
+    return object;
+}
+
+QList<DesignerObject *> DesignerObject::childObjects() const
+{
+    QList<DesignerObject *> children;
+    for (const SharedProperty &property : d->properties) {
+        if (property->isList()) {
+            children += property->itemList()->items();
+        } else if (property->isObject() && property->objectValue()) {
+            children.append(property->objectValue());
+        }
+    }
+    return children;
+}
+
+QString DesignerObject::objectPath() const
+{
+    QStringList names;
+    for (const DesignerObject *object = this; object; object = object->ownerObject()) {
+        if (object == this || object->ownerObject()) {
+            names.prepend(object->getIdName().isEmpty() ? object->className() : object->getIdName());
+        }
+    }
+    return names.join(u'.');
+}
+
+ObjectView *DesignerObject::graphicsItem() const
+{
+    return d->view;
+}
+
+void DesignerObject::setGraphicsItem()
+{
+    if (!d->view) {
+        d->view = createGraphicsItem();
+    }
+}
+
+void DesignerObject::resetGraphicsItem()
+{
+    d->view = nullptr;
+}
+
+SharedProperty DesignerObject::listOf(const QString &id) const
+{
+    const SharedProperty property = getProperty(id);
+    return property && property->isList() ? property : SharedProperty();
+}
+
+QStringList DesignerObject::getListItemNamesInListProperty(const QString &id) const
+{
+    const SharedProperty list = listOf(id);
+    return list ? list->listItemNames() : QStringList();
+}
+
+bool DesignerObject::hasListItemInListProperty(const QString &id, const QString &name) const
+{
+    return getItemInListProperty(id, name);
+}
+
+DesignerObject *DesignerObject::getItemInListProperty(const QString &id, const QString &name) const
+{
+    const SharedProperty list = listOf(id);
+    return list ? list->getListItem(name) : nullptr;
+}
+
+DesignerObject *DesignerObject::getItemInListPropertyAtIndex(const QString &id, qsizetype index) const
+{
+    const SharedProperty list = listOf(id);
+    return list ? list->getListItemAtIndex(index) : nullptr;
+}
+
+qsizetype DesignerObject::getListItemIndexInListProperty(const QString &id, const QString &name) const
+{
+    const SharedProperty list = listOf(id);
+    return list ? list->getListItemIndex(name) : -1;
+}
+
+QStringList DesignerObject::getTypesInListProperty(const QString &id) const
+{
+    const SharedProperty list = listOf(id);
+    return list ? list->getTypes() : QStringList();
+}
+
+QStringList DesignerObject::getListItemNamesInListPropertyOfType(const QString &id,
+                                                                 const QString &className) const
+{
+    const SharedProperty list = listOf(id);
+    return list ? list->getItemNamesOfType(className) : QStringList();
+}
+
+QList<DesignerObject *> DesignerObject::getListItemsInListPropertyOfType(const QString &id,
+                                                                         const QString &className) const
+{
+    const SharedProperty list = listOf(id);
+    return list ? list->getItemsOfType(className) : QList<DesignerObject *>();
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,285 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/DesignerProperty.h"
+#include "corvex/values/IdentifierInfo.h"
+
+#include <QMap>
+#include <QObject>
+
+#include <memory>
+
+class QDomDocument;
+class QIODevice;
+
+namespace Halvane::Corvex::Designer {
+
+class ObjectView;
+class Project;
+class PropertyTable;
+class Screen;
+
+/*! A thing that a user designs or configures: a set of properties that change under one protocol.
+
+    Every change of the model goes through changePropertyValue(), changePropertyObjectValue() and the list
+    operations. Their order is the same for all:
+
+    1. the request is checked; a bad one is refused with false (or null) and a text in the property's
+       errorString(), and nothing has been touched;
+    2. the before-hook is asked and may veto (false);
+    3. the property changes, the canvas item follows, the property is validated;
+    4. the after-hook runs;
+    5. the signal is emitted.
+
+    After-hooks and signals of a change of value or object carry what the property held \e before.
+
+    Ownership: in the model an object's QObject parent is the object whose list or object property holds it;
+   out of the model it has none and belongs to whoever took it out. project() and screen() are null out of the
+    model.
+*/
+class DesignerObject
+    : public QObject
+    , public IDesignerObject
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(DesignerObject, IDesignerObject)
+    Q_DISABLE_COPY_MOVE(DesignerObject)
+
+public:
+    //! Deletes its children first, while its own properties still stand.
+    ~DesignerObject() override;
+
+    //! Makes the properties; called once by the factory. False when the object cannot be used.
+    bool initialize() override;
+
+    //! The stem of the names of new instances.
+    virtual QString baseName() const;
+    //! What the user calls this kind of object.
+    virtual QString displayName() const;
+    //! The name of the QML type; the class name.
+    virtual QString qmlName() const;
+    //! The object's block of QML, indented by \a indent tabs, lines parted by "\n", none behind the last.
+    virtual QString toQml(int indent) const;
+    //! Statements to run once the screen is loaded; empty in the base.
+    virtual QString onCompletedQml(int indent) const;
+
+    // Properties.
+    //! The property with that id or null.
+    SharedProperty getProperty(QStringView id) const;
+    //! In the order in which they were made, which is the order of files and of QML.
+    const QList<SharedProperty> &properties() const;
+    //! The properties whose value other objects refer to.
+    QList<SharedProperty> dependencyProperties() const { return getDependencyProperties(); }
+
+    // Changes. Each may be called with a property of this object only.
+    /*! Sets a value from its text. True also when nothing had to change, and when validation refused the
+       value: then the old value stays, no hook runs, no signal is emitted, and the property tells the reason.
+       False when the text does not parse, holds a character that no file can hold, or a hook vetoes. */
+    bool changePropertyValue(const SharedProperty &property, const QString &newValue);
+    /*! Makes \a object, which may be null, the child of an object property. The previous child is deleted
+       with \a deletePrevious and belongs to the caller otherwise. */
+    bool changePropertyObjectValue(const SharedProperty &property, DesignerObject *object,
+                                   bool deletePrevious = false);
+    bool addListPropertyItem(const SharedProperty &property, DesignerObject *item);
+    //! An index beyond the ends counts as the nearest end.
+    bool insertListPropertyItemAt(const SharedProperty &property, DesignerObject *item, qsizetype index);
+    bool insertListPropertyItemBefore(const SharedProperty &property, DesignerObject *reference,
+                                      DesignerObject *item);
+    bool insertListPropertyItemAfter(const SharedProperty &property, DesignerObject *reference,
+                                     DesignerObject *item);
+    //! The item, which the caller owns from here on; null after a refusal.
+    DesignerObject *takeListPropertyItem(const SharedProperty &property, DesignerObject *item);
+    //! The old item belongs to the caller afterwards.
+    bool replaceListPropertyItem(const SharedProperty &property, DesignerObject *oldItem,
+                                 DesignerObject *newItem);
+    bool replaceListPropertyItemAt(const SharedProperty &property, qsizetype index, DesignerObject *newItem);
+    bool swapListPropertyItems(const SharedProperty &property, DesignerObject *first, DesignerObject *second);
+
+    // Queries over one of its list properties, by the property's id; empty, null or -1 when there is no such
+    // list.
+    QStringList getListItemNamesInListProperty(const QString &id) const;
+    bool hasListItemInListProperty(const QString &id, const QString &name) const;
+    DesignerObject *getItemInListProperty(const QString &id, const QString &name) const;
+    DesignerObject *getItemInListPropertyAtIndex(const QString &id, qsizetype index) const;
+    qsizetype getListItemIndexInListProperty(const QString &id, const QString &name) const;
+    QStringList getTypesInListProperty(const QString &id) const;
+    QStringList getListItemNamesInListPropertyOfType(const QString &id, const QString &className) const;
+    QList<DesignerObject *> getListItemsInListPropertyOfType(const QString &id,
+                                                             const QString &className) const;
+
+    // Identity.
+    const SharedProperty &idProperty() const;
+    QString getIdName() const;
+    bool setIdName(const QString &name);
+    IdentifierInfo getIdInfo() const;
+    bool setIdInfo(const IdentifierInfo &info);
+    void setIdFlag(PropertyFlag flag, bool on);
+    //! "qml_" and the name: the id that QML knows the object by.
+    QString getQmlIdName() const;
+    //! Whether no other object where this one lives bears the name of \a other.
+    bool isUnique(const DesignerObject *other) const;
+    //! Whether the name is this object's or that of an object below it.
+    bool isOrHasIdentifier(const QString &name) const;
+
+    // Links.
+    QMap<SharedProperty, QString> linkPropertiesWithId() const;
+    QMap<SharedProperty, DesignerObject *> linkPropertiesWithObjects() const;
+
+    // Place in the model.
+    //! The list that owns this object, null out of the model and for the child of an object property.
+    SharedProperty listProperty() const;
+    void setListProperty(const SharedProperty &property);
+    //! Every list that holds this object as an item, the owning one among them.
+    const QList<DesignerProperty *> &listProperties() const;
+    //! Records a list that holds this object; one that is recorded already is ignored.
+    void addListDesignerProperty(DesignerProperty *property);
+    void takeListDesignerProperty(DesignerProperty *property);
+    //! The object that owns the list or the object property that holds this one.
+    DesignerObject *ownerObject() const;
+    Project *project() const;
+    Screen *screen() const;
+    //! Reaches this object and everything below it.
+    virtual void setProject(Project *project);
+    virtual void setScreen(Screen *screen);
+    //! The nearest ancestor, or the object itself, that is an "Element" or a "Screen"; null when there is
+    //! none.
+    static DesignerObject *rootElement(DesignerObject *object);
+    //! All children of its lists and object properties, in the order of the properties.
+    QList<DesignerObject *> childObjects() const;
+    /*! Names the object for a person: the names on the way down from the project, joined with "." and without
+        the project's own ("Main.pump1"); the class name stands in for an object without a name. */
+    QString objectPath() const;
+
+    // The canvas.
+    ObjectView *graphicsItem() const;
+    //! Makes the item that shows this object, when its kind has one and there is none yet.
+    void setGraphicsItem();
+    void resetGraphicsItem();
+
+    // Validation.
+    /*! Validates everything below, then every property of its own, and collects "title: reason" for each that
+        fails. Emits validationError() when errors appear and resetValidationError() when they are gone. */
+    bool validate();
+    bool isValid() const;
+    void setValid(bool valid);
+    const QStringList &validationErrors() const;
+    void setValidationError(bool set);
+    bool validationErrorSet() const;
+    //! Switches validation off on this object, as long as it is being read.
+    void setDisableValidation(bool disable);
+    bool disabledValidation() const;
+    void emitValidationError() { emit validationError(); }
+    void emitResetValidationError() { emit resetValidationError(); }
+
+    // Files and copies; see ObjectXmlReader and ObjectXmlWriter for streams.
+    //! Null when a child is missing that must be there.
+    QDomDocument convertToXmlDocument(bool withHeader, bool allProperties) const;
+    QString convertToString(bool withHeader, bool allProperties) const;
+    //! What would be saved; the text of a ProjectVariable has no XML declaration. Empty when it cannot be
+    //! written.
+    static QString toString(const DesignerObject *object);
+    /*! An object without a parent, owned by the caller; null, with a warning that names line and column, when
+        the text is none. With \a validate the object is validated when it is complete. */
+    static DesignerObject *createFromString(const QString &text, bool validate = true);
+    static DesignerObject *createCopy(const DesignerObject *object, bool validate = true);
+    static DesignerObject *createFromFile(const QString &path, bool validate = true);
+    static bool loadFromFile(DesignerObject *object, const QString &path, bool validate = true);
+    //! Writes beside the file and moves over it in one step; the old file stays whole after a failure.
+    static bool saveToFile(const DesignerObject *object, const QString &path, QString *error = nullptr);
+
+    static QString getTabs(int count) { return QString(count, u'\t'); }
+
+signals:
+    void propertyValueChanged(const QSharedPointer<Halvane::Corvex::Designer::DesignerProperty> &property,
+                              const QString &previousValue);
+    //! \a deleted tells whether \a previousObject is about to be deleted.
+    void
+    propertyObjectValueChanged(const QSharedPointer<Halvane::Corvex::Designer::DesignerProperty> &property,
+                               Halvane::Corvex::Designer::DesignerObject *previousObject, bool deleted);
+    void propertyListItemAdded(const QSharedPointer<Halvane::Corvex::Designer::DesignerProperty> &property,
+                               Halvane::Corvex::Designer::DesignerObject *object);
+    void propertyListItemRemoved(const QSharedPointer<Halvane::Corvex::Designer::DesignerProperty> &property,
+                                 Halvane::Corvex::Designer::DesignerObject *object);
+    void listItemsSwapped(const QSharedPointer<Halvane::Corvex::Designer::DesignerProperty> &property,
+                          Halvane::Corvex::Designer::DesignerObject *first,
+                          Halvane::Corvex::Designer::DesignerObject *second);
+    void listItemReplaced(const QSharedPointer<Halvane::Corvex::Designer::DesignerProperty> &property,
+                          Halvane::Corvex::Designer::DesignerObject *oldObject,
+                          Halvane::Corvex::Designer::DesignerObject *newObject);
+    void idNameChanged(const QString &oldName, const QString &newName);
+    void projectChanged(Halvane::Corvex::Designer::Project *project);
+    void screenChanged(Halvane::Corvex::Designer::Screen *screen);
+    void validationError();
+    void resetValidationError();
+
+protected:
+    explicit DesignerObject(QObject *parent = nullptr);
+
+    //! Makes the item that shows this object; null for a kind that has none. The canvas owns it.
+    virtual ObjectView *createGraphicsItem() = 0;
+    //! Runs after an item of one of its lists was renamed, swapped or replaced.
+    virtual void afterListPropertyChanged();
+    //! Adds the properties of the class after those of its base.
+    virtual bool initializeProperties();
+
+    virtual bool beforePropertyChanged(const DesignerProperty *property, const QString &newValue);
+    virtual bool beforeObjectPropertyChanged(const DesignerProperty *property,
+                                             const DesignerObject *newObject);
+    virtual bool beforeListItemAdded(const DesignerProperty *property, const DesignerObject *item);
+    virtual bool beforeListItemRemoved(const DesignerProperty *property, const DesignerObject *item);
+    virtual void afterPropertyChanged(const DesignerProperty *property, const QString &previousValue);
+    virtual void afterObjectPropertyChanged(const DesignerProperty *property,
+                                            const DesignerObject *previousObject);
+    virtual void afterListItemAdded(const DesignerProperty *property, const DesignerObject *item);
+    virtual void afterListItemRemoved(const DesignerProperty *property, const DesignerObject *item);
+    virtual QList<SharedProperty> getDependencyProperties() const;
+
+    // Files.
+    //! Whether a file shall hold the property; StoredFlag in the base.
+    virtual bool storesProperty(const DesignerProperty &property) const;
+    /*! What a stored property without text and without children means. In the base it is the empty text for
+       the id "text" and nothing for all others, which keep their default. */
+    virtual void readEmptyValue(const SharedProperty &property);
+    //! Runs when all properties have been read, before validation.
+    virtual void finishReading();
+
+    //! Adds a property that is not in a table.
+    void addProperty(const SharedProperty &property);
+    /*! Adds one property for each row. A row with the id of a property that is there already describes that
+        property anew instead, and gives it the row's value when the row says so. */
+    bool addProperties(const PropertyTable &table);
+    //! Brings the summary of this object up to date from what its properties say, and tells its owner.
+    void updateValidity();
+
+private:
+    friend class DesignerProperty;
+    friend class ItemList;
+    friend class ObjectXmlReader;
+    friend class ObjectXmlWriter;
+
+    enum class ValueChange {
+        Done,
+        None, //!< equal, not parsable, or quietly refused by validation
+        Refused
+    };
+    ValueChange changeValue(const SharedProperty &property, const QString &newValue);
+    static bool canBeStored(DesignerProperty &property, const QString &value);
+    void takeNewName(const QString &oldValue);
+    void announceNewName(const QString &oldValue, const QString &newValue);
+    void revalidate(const SharedProperty &property);
+    void childValidityChanged(DesignerProperty &property);
+
+    bool mayEnter(const SharedProperty &property, const DesignerObject *item) const;
+    void enter(DesignerObject *item);
+    void leave(const SharedProperty &property, DesignerObject *item);
+    void showChild(const SharedProperty &property, DesignerObject *item);
+    void settle(const SharedProperty &property, DesignerObject *item);
+    template<class Insert>
+    bool addItem(const SharedProperty &property, DesignerObject *item, Insert insert);
+    SharedProperty listOf(const QString &id) const;
+
+    struct Data;
+    std::unique_ptr<Data> d;
+};
+
+} // namespace Halvane::Corvex::Designer

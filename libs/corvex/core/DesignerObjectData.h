@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// Private to the sources of DesignerObject; not installed.
+#pragma once
+
+#include "corvex/core/DesignerObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+struct DesignerObject::Data
+{
+    QList<SharedProperty> properties;
+    SharedProperty id;
+    QWeakPointer<DesignerProperty> listProperty;
+    QList<DesignerProperty *> lists;
+    Project *project = nullptr;
+    Screen *screen = nullptr;
+    ObjectView *view = nullptr;
+    QStringList validationErrors;
+    bool isValid = true;
+    bool validationErrorSet = false;
+    bool validationDisabled = false;
+    bool isValidatingChildren = false;
+};
+
+} // namespace Halvane::Corvex::Designer

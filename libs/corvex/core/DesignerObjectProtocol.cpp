@@ -1,0 +1,349 @@
+// SPDX-License-Identifier: MIT
+// The change protocol of DesignerObject: the only ways in which the model changes.
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/DesignerObjectData.h"
+#include "corvex/core/ItemList.h"
+#include "corvex/core/ObjectView.h"
+#include "corvex/core/XmlText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+bool DesignerObject::beforePropertyChanged(const DesignerProperty *, const QString &)
+{
+    return true;
+}
+
+bool DesignerObject::beforeObjectPropertyChanged(const DesignerProperty *, const DesignerObject *)
+{
+    return true;
+}
+
+bool DesignerObject::beforeListItemAdded(const DesignerProperty *, const DesignerObject *)
+{
+    return true;
+}
+
+bool DesignerObject::beforeListItemRemoved(const DesignerProperty *, const DesignerObject *)
+{
+    return true;
+}
+
+void DesignerObject::afterPropertyChanged(const DesignerProperty *, const QString &) { }
+
+void DesignerObject::afterObjectPropertyChanged(const DesignerProperty *, const DesignerObject *) { }
+
+void DesignerObject::afterListItemAdded(const DesignerProperty *, const DesignerObject *) { }
+
+void DesignerObject::afterListItemRemoved(const DesignerProperty *, const DesignerObject *) { }
+
+void DesignerObject::afterListPropertyChanged() { }
+
+bool DesignerObject::changePropertyValue(const SharedProperty &property, const QString &newValue)
+{
+    return changeValue(property, newValue) != ValueChange::Refused;
+}
+
+DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &property,
+                                                        const QString &newValue)
+{
+    if (!property) {
+        return ValueChange::None;
+    }
+    if (property->parentObject() != this || property->isList() || property->isObject()
+        || !canBeStored(*property, newValue)) {
+        return ValueChange::Refused;
+    }
+    const bool isGuarded = !disabledValidation() && !property->allowInvalidValue();
+    if (isGuarded) {
+        property->validate();
+    }
+    if (property->equalsValue(newValue)) {
+        return ValueChange::None;
+    }
+    const QString oldValue = property->valueString();
+    if (isGuarded) {
+        if (!property->convertToValue(newValue)) {
+            return ValueChange::Refused;
+        }
+        const bool valid = property->validate();
+        property->convertToValue(oldValue);
+        if (!valid) {
+            return ValueChange::None;
+        }
+    }
+    if (!beforePropertyChanged(property.data(), newValue) || !property->convertToValue(newValue)) {
+        return ValueChange::Refused;
+    }
+    const bool isName = property == d->id;
+    if (isName) {
+        takeNewName(oldValue);
+    }
+    if (d->view) {
+        d->view->updateGraphicsItem(property);
+    }
+    revalidate(property);
+    afterPropertyChanged(property.data(), oldValue);
+    if (isName) {
+        announceNewName(oldValue, newValue);
+    }
+    emit propertyValueChanged(property, oldValue);
+    return ValueChange::Done;
+}
+
+bool DesignerObject::canBeStored(DesignerProperty &property, const QString &value)
+{
+    const qsizetype position = XmlText::indexOfUnstorable(value);
+    if (position < 0) {
+        return true;
+    }
+    property.setErrorString(
+        Common::LocalizationHelper::coreString(
+            u"The character U+%1 at position %2 cannot be stored. Please remove it."_s)
+            .arg(QString::number(value.at(position).unicode(), 16).toUpper().rightJustified(4, u'0'),
+                 QString::number(position + 1)));
+    return false;
+}
+
+void DesignerObject::revalidate(const SharedProperty &property)
+{
+    if (!disabledValidation()) {
+        property->validate();
+        updateValidity();
+    }
+}
+
+void DesignerObject::takeNewName(const QString &oldValue)
+{
+    setObjectName(getIdName());
+    const QString oldName = IdentifierInfo(oldValue, nullptr).name();
+    for (DesignerProperty *list : std::as_const(d->lists)) {
+        list->items().rekey(oldName, this);
+    }
+}
+
+void DesignerObject::announceNewName(const QString &oldValue, const QString &newValue)
+{
+    bool oldIsName = false;
+    bool newIsName = false;
+    const IdentifierInfo oldInfo(oldValue, &oldIsName);
+    const IdentifierInfo newInfo(newValue, &newIsName);
+    if (!oldIsName || !newIsName || oldInfo.name().isEmpty() || newInfo.name().isEmpty()) {
+        return;
+    }
+    const QList<DesignerProperty *> lists = d->lists;
+    for (DesignerProperty *list : lists) {
+        list->updateItemIdName(oldInfo.name(), newInfo.name());
+    }
+    emit idNameChanged(oldInfo.name(), newInfo.name());
+}
+
+bool DesignerObject::changePropertyObjectValue(const SharedProperty &property, DesignerObject *object,
+                                               bool deletePrevious)
+{
+    if (!property || property->parentObject() != this) {
+        return false;
+    }
+    DesignerObject *previous = property->objectValue();
+    if (property->isObject() && object == previous) {
+        return true;
+    }
+    if ((object && !mayEnter(property, object)) || !beforeObjectPropertyChanged(property.data(), object)
+        || !property->setObjectValue(object)) {
+        return false;
+    }
+    if (previous) {
+        leave(property, previous);
+    }
+    if (object) {
+        enter(object);
+    }
+    if (object && d->view) {
+        showChild(property, object);
+    }
+    if (object && !disabledValidation()) {
+        object->validate();
+    }
+    revalidate(property);
+    afterObjectPropertyChanged(property.data(), previous);
+    emit propertyObjectValueChanged(property, previous, deletePrevious);
+    if (deletePrevious) {
+        delete previous;
+    }
+    return true;
+}
+
+bool DesignerObject::mayEnter(const SharedProperty &property, const DesignerObject *item) const
+{
+    // What has an owner is taken from it first, and nothing enters itself.
+    for (const DesignerObject *object = this; object; object = object->ownerObject()) {
+        if (object == item) {
+            return property->refuse("The type is not supported.");
+        }
+    }
+    return !item->listProperty() || property->refuse("Item already exists.");
+}
+
+void DesignerObject::enter(DesignerObject *item)
+{
+    item->setParent(this);
+    if (d->screen) {
+        item->setScreen(d->screen);
+    }
+    if (d->project) {
+        item->setProject(d->project);
+    }
+}
+
+void DesignerObject::leave(const SharedProperty &property, DesignerObject *item)
+{
+    if (d->view && item->graphicsItem()) {
+        d->view->removeGraphicsItemChild(property, item);
+    }
+    item->setListProperty({});
+    item->setParent(nullptr);
+    item->setScreen(nullptr);
+    item->setProject(nullptr);
+}
+
+void DesignerObject::showChild(const SharedProperty &property, DesignerObject *item)
+{
+    item->setGraphicsItem();
+    if (item->graphicsItem()) {
+        d->view->addGraphicsItemChild(property, item);
+    }
+}
+
+void DesignerObject::settle(const SharedProperty &property, DesignerObject *item)
+{
+    item->setListProperty(property);
+    enter(item);
+    if (d->view) {
+        showChild(property, item);
+    }
+    if (!disabledValidation()) {
+        item->validate();
+    }
+}
+
+template<class Insert>
+bool DesignerObject::addItem(const SharedProperty &property, DesignerObject *item, Insert insert)
+{
+    if (!property || property->parentObject() != this) {
+        return false;
+    }
+    if (item && property->isList()) {
+        if (!mayEnter(property, item)) {
+            return false;
+        }
+        if (property->hasListItem(item->getIdName())) {
+            return property->refuse("Item already exists.");
+        }
+        if (!beforeListItemAdded(property.data(), item)) {
+            return false;
+        }
+    }
+    if (!insert()) {
+        return false;
+    }
+    settle(property, item);
+    revalidate(property);
+    afterListItemAdded(property.data(), item);
+    emit propertyListItemAdded(property, item);
+    return true;
+}
+
+bool DesignerObject::addListPropertyItem(const SharedProperty &property, DesignerObject *item)
+{
+    return addItem(property, item, [&] { return property->addListItem(item); });
+}
+
+bool DesignerObject::insertListPropertyItemAt(const SharedProperty &property, DesignerObject *item,
+                                              qsizetype index)
+{
+    return addItem(property, item, [&] { return property->insertItemAt(index, item); });
+}
+
+bool DesignerObject::insertListPropertyItemBefore(const SharedProperty &property, DesignerObject *reference,
+                                                  DesignerObject *item)
+{
+    return addItem(property, item, [&] { return property->insertItemBefore(reference, item); });
+}
+
+bool DesignerObject::insertListPropertyItemAfter(const SharedProperty &property, DesignerObject *reference,
+                                                 DesignerObject *item)
+{
+    return addItem(property, item, [&] { return property->insertItemAfter(reference, item); });
+}
+
+DesignerObject *DesignerObject::takeListPropertyItem(const SharedProperty &property, DesignerObject *item)
+{
+    if (!property || property->parentObject() != this) {
+        return nullptr;
+    }
+    if (property->getListItemIndex(item) >= 0 && !beforeListItemRemoved(property.data(), item)) {
+        return nullptr;
+    }
+    if (!property->takeListItem(item)) {
+        return nullptr;
+    }
+    leave(property, item);
+    revalidate(property);
+    afterListItemRemoved(property.data(), item);
+    emit propertyListItemRemoved(property, item);
+    return item;
+}
+
+bool DesignerObject::replaceListPropertyItem(const SharedProperty &property, DesignerObject *oldItem,
+                                             DesignerObject *newItem)
+{
+    return property && replaceListPropertyItemAt(property, property->getListItemIndex(oldItem), newItem);
+}
+
+bool DesignerObject::replaceListPropertyItemAt(const SharedProperty &property, qsizetype index,
+                                               DesignerObject *newItem)
+{
+    if (!property || property->parentObject() != this) {
+        return false;
+    }
+    DesignerObject *oldItem = property->getListItemAtIndex(index);
+    if (oldItem && newItem) {
+        if (!mayEnter(property, newItem)) {
+            return false;
+        }
+        const QString name = newItem->getIdName();
+        if (name != oldItem->getIdName() && property->hasListItem(name)) {
+            return property->refuse("Item already exists.");
+        }
+        if (!beforeListItemRemoved(property.data(), oldItem)
+            || !beforeListItemAdded(property.data(), newItem)) {
+            return false;
+        }
+    }
+    if (!property->replaceItemAt(index, newItem)) {
+        return false;
+    }
+    leave(property, oldItem);
+    settle(property, newItem);
+    revalidate(property);
+    afterListItemRemoved(property.data(), oldItem);
+    afterListItemAdded(property.data(), newItem);
+    afterListPropertyChanged();
+    emit listItemReplaced(property, oldItem, newItem);
+    return true;
+}
+
+bool DesignerObject::swapListPropertyItems(const SharedProperty &property, DesignerObject *first,
+                                           DesignerObject *second)
+{
+    if (!property || property->parentObject() != this || !property->swapItems(first, second)) {
+        return false;
+    }
+    revalidate(property);
+    afterListPropertyChanged();
+    emit listItemsSwapped(property, first, second);
+    return true;
+}
+
+} // namespace Halvane::Corvex::Designer

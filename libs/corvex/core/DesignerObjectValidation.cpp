@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+// How objects and their owners learn whether they are valid: each edit updates what lies on the way up, only
+// DesignerObject::validate() looks at everything below.
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/DesignerObjectData.h"
+#include "corvex/core/ItemList.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+bool DesignerObject::validate()
+{
+    if (d->validationDisabled) {
+        return d->isValid;
+    }
+    d->isValidatingChildren = true;
+    for (DesignerObject *child : childObjects()) {
+        child->validate();
+    }
+    d->isValidatingChildren = false;
+    for (const SharedProperty &property : std::as_const(d->properties)) {
+        property->validate();
+    }
+    updateValidity();
+    return d->isValid;
+}
+
+void DesignerObject::updateValidity()
+{
+    QStringList errors;
+    for (const SharedProperty &property : std::as_const(d->properties)) {
+        if (!property->isValid()) {
+            const QString error = property->errorString();
+            errors.append(u"%1: %2"_s.arg(
+                property->name(),
+                error.isEmpty() ? Common::LocalizationHelper::coreString(u"Unknown Error"_s) : error));
+        }
+    }
+    d->validationErrors = errors;
+    setValid(errors.isEmpty());
+    if (errors.isEmpty() == d->validationErrorSet) {
+        d->validationErrorSet = !errors.isEmpty();
+        if (d->validationErrorSet) {
+            emit validationError();
+        } else {
+            emit resetValidationError();
+        }
+    }
+}
+
+bool DesignerObject::isValid() const
+{
+    return d->isValid;
+}
+
+void DesignerObject::setValid(bool valid)
+{
+    if (valid == d->isValid) {
+        return;
+    }
+    d->isValid = valid;
+    for (DesignerProperty *list : std::as_const(d->lists)) {
+        list->items().invalidCount += valid ? -1 : 1;
+        list->parentObject()->childValidityChanged(*list);
+    }
+    if (DesignerObject *owner = d->lists.isEmpty() ? ownerObject() : nullptr) {
+        for (const SharedProperty &property : owner->properties()) {
+            if (property->objectValue() == this) {
+                owner->childValidityChanged(*property);
+            }
+        }
+    }
+}
+
+void DesignerObject::childValidityChanged(DesignerProperty &property)
+{
+    if (d->validationDisabled || d->isValidatingChildren) {
+        return;
+    }
+    const bool wasValid = property.isValid();
+    if (property.validate() != wasValid) {
+        updateValidity();
+    }
+}
+
+const QStringList &DesignerObject::validationErrors() const
+{
+    return d->validationErrors;
+}
+
+void DesignerObject::setValidationError(bool set)
+{
+    d->validationErrorSet = set;
+}
+
+bool DesignerObject::validationErrorSet() const
+{
+    return d->validationErrorSet;
+}
+
+void DesignerObject::setDisableValidation(bool disable)
+{
+    d->validationDisabled = disable;
+}
+
+bool DesignerObject::disabledValidation() const
+{
+    return d->validationDisabled;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,400 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/DesignerProperty.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/core/DesignerPropertyState.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+const ItemList &noItems()
+{
+    static const ItemList none;
+    return none;
+}
+
+void appendItems(const DesignerProperty &list, bool recursive, QList<DesignerObject *> &found)
+{
+    if (!list.itemList()) {
+        return;
+    }
+    for (DesignerObject *item : list.itemList()->items()) {
+        found.append(item);
+        if (recursive) {
+            for (const SharedProperty &property : item->properties()) {
+                appendItems(*property, true, found);
+            }
+        }
+    }
+}
+
+} // namespace
+
+DesignerProperty::DesignerProperty(DesignerObject *parent, const QString &id, const QString &name)
+    : m_parent(parent)
+    , m_descriptor(new PropertyDescriptor)
+{
+    m_descriptor->id = id;
+    m_descriptor->name = name;
+    m_descriptor->editor = u"PropertyEditor"_s;
+}
+
+DesignerProperty::DesignerProperty(DesignerObject *parent, const DesignerProperty &prototype)
+    : m_parent(parent)
+    , m_descriptor(prototype.m_descriptor)
+{ }
+
+DesignerProperty::~DesignerProperty()
+{
+    if (m_state && m_state->items) {
+        for (DesignerObject *item : m_state->items->items()) {
+            item->takeListDesignerProperty(this);
+        }
+    }
+}
+
+template<class Field>
+void DesignerProperty::describe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value)
+{
+    // An equal value must not cost the instance a descriptor of its own.
+    if (descriptor().*field != value) {
+        (*m_descriptor).*field = value;
+    }
+}
+
+void DesignerProperty::setId(const QString &id)
+{
+    describe(&PropertyDescriptor::id, id);
+}
+
+void DesignerProperty::setName(const QString &name)
+{
+    describe(&PropertyDescriptor::name, name);
+}
+
+void DesignerProperty::setEditor(const QString &editorName, const QVariantMap &parameters)
+{
+    describe(&PropertyDescriptor::editor, editorName);
+    describe(&PropertyDescriptor::editorParameters, parameters);
+}
+
+void DesignerProperty::setEditorParameters(const QVariantMap &parameters)
+{
+    describe(&PropertyDescriptor::editorParameters, parameters);
+}
+
+void DesignerProperty::setEditorParameter(const QString &key, const QVariant &value)
+{
+    if (!editorParameters().contains(key) || editorParameters().value(key) != value) {
+        m_descriptor->editorParameters.insert(key, value);
+    }
+}
+
+PropertyEditor *DesignerProperty::editorWidget() const
+{
+    return m_state ? m_state->editorWidget : nullptr;
+}
+
+void DesignerProperty::setEditorWidget(PropertyEditor *widget)
+{
+    if (widget != editorWidget()) {
+        state().editorWidget = widget;
+    }
+}
+
+void DesignerProperty::setFlags(PropertyFlags flags)
+{
+    describe(&PropertyDescriptor::flags, flags);
+}
+
+void DesignerProperty::setFlag(PropertyFlag flag, bool on)
+{
+    PropertyFlags flags = this->flags();
+    setFlags(flags.setFlag(flag, on));
+}
+
+void DesignerProperty::setRank(int rank)
+{
+    describe(&PropertyDescriptor::rank, rank);
+}
+
+void DesignerProperty::setDescription(const QString &description)
+{
+    describe(&PropertyDescriptor::description, description);
+}
+
+void DesignerProperty::setAllowInvalidValue(bool allow)
+{
+    describe(&PropertyDescriptor::allowInvalidValue, allow);
+}
+
+void DesignerProperty::setValueValidator(ValueValidator validator)
+{
+    describe(&PropertyDescriptor::valueValidator, validator);
+}
+
+void DesignerProperty::setAddValidator(ItemValidator validator)
+{
+    describe(&PropertyDescriptor::addValidator, validator);
+}
+
+void DesignerProperty::setRemoveValidator(ItemValidator validator)
+{
+    describe(&PropertyDescriptor::removeValidator, validator);
+}
+
+void DesignerProperty::setQmlCreator(QmlCreator creator)
+{
+    describe(&PropertyDescriptor::qmlCreator, creator);
+}
+
+void DesignerProperty::setObjectFilters(const QStringList &classNames)
+{
+    describe(&PropertyDescriptor::objectFilters, classNames);
+}
+
+QList<SharedProperty> DesignerProperty::conflictProperties() const
+{
+    QList<SharedProperty> properties;
+    if (m_state) {
+        for (const QWeakPointer<DesignerProperty> &conflict : m_state->conflicts) {
+            if (const SharedProperty property = conflict.toStrongRef()) {
+                properties.append(property);
+            }
+        }
+    }
+    return properties;
+}
+
+void DesignerProperty::setConflictProperties(const QList<SharedProperty> &properties)
+{
+    state().conflicts = QList<QWeakPointer<DesignerProperty>>(properties.begin(), properties.end());
+}
+
+void DesignerProperty::resetConflictProperties()
+{
+    if (m_state) {
+        m_state->conflicts.clear();
+    }
+}
+
+QString DesignerProperty::errorString() const
+{
+    return m_state ? m_state->error : QString();
+}
+
+bool DesignerProperty::validate()
+{
+    QString error;
+    bool valid = true;
+    const auto enabled = [this] { return !m_parent || !m_parent->disabledValidation(); };
+    if (enabled() && descriptor().valueValidator) {
+        valid = descriptor().valueValidator(this, error);
+    }
+    if (valid && enabled()) {
+        valid = isList()     ? validateListItems(error)
+                : isObject() ? validateObjectValue(error)
+                             : validateValue(error);
+    }
+    m_isValid = valid;
+    setErrorString(valid ? QString() : error);
+    return valid;
+}
+
+QString DesignerProperty::valueString() const
+{
+    if (isList()) {
+        return {};
+    }
+    if (isObject()) {
+        return objectValue() ? DesignerObject::toString(objectValue()) : QString();
+    }
+    return convertToValueString();
+}
+
+bool DesignerProperty::equalsListItems(const QList<DesignerObject *> &items) const
+{
+    return listItems() == items;
+}
+
+QString DesignerProperty::toQml(int indent) const
+{
+    if (!hasFlag(RuntimeFlag)) {
+        return {};
+    }
+    return descriptor().qmlCreator ? descriptor().qmlCreator(this, indent) : convertToQml(indent);
+}
+
+QString DesignerProperty::convertToQml(int) const
+{
+    return {};
+}
+
+DesignerObject *DesignerProperty::objectValue() const
+{
+    return m_state ? m_state->objectValue : nullptr;
+}
+
+bool DesignerProperty::validateObjectValue(QString &error) const
+{
+    if (objectValue() && !objectValue()->isValid()) {
+        error =
+            Common::LocalizationHelper::coreString(u"One or more of the object's properties are invalid."_s);
+        return false;
+    }
+    return true;
+}
+
+bool DesignerProperty::validateListItems(QString &error) const
+{
+    if (itemList() && itemList()->invalidCount > 0) {
+        error = Common::LocalizationHelper::coreString(u"One or more of the list's items are invalid."_s);
+        return false;
+    }
+    return true;
+}
+
+const ItemList *DesignerProperty::itemList() const
+{
+    if (!isList()) {
+        return nullptr;
+    }
+    return m_state && m_state->items ? m_state->items.get() : &noItems();
+}
+
+ItemList &DesignerProperty::items()
+{
+    if (!state().items) {
+        state().items = std::make_unique<ItemList>();
+    }
+    return *m_state->items;
+}
+
+QList<DesignerObject *> DesignerProperty::listItems(bool recursive) const
+{
+    if (!recursive) {
+        return itemList() ? itemList()->items() : QList<DesignerObject *>();
+    }
+    QList<DesignerObject *> found;
+    appendItems(*this, true, found);
+    return found;
+}
+
+DesignerObject *DesignerProperty::getListItem(const QString &name, bool recursive) const
+{
+    if (!itemList()) {
+        return nullptr;
+    }
+    DesignerObject *found = itemList()->find(name);
+    if (found || !recursive) {
+        return found;
+    }
+    for (const DesignerObject *item : itemList()->items()) {
+        for (const SharedProperty &property : item->properties()) {
+            if ((found = property->getListItem(name, true))) {
+                return found;
+            }
+        }
+    }
+    return nullptr;
+}
+
+DesignerObject *DesignerProperty::getListItemAtIndex(qsizetype index) const
+{
+    return itemList() ? itemList()->items().value(index) : nullptr;
+}
+
+qsizetype DesignerProperty::getListItemIndex(const QString &name) const
+{
+    return getListItemIndex(getListItem(name));
+}
+
+qsizetype DesignerProperty::getListItemIndex(const DesignerObject *object) const
+{
+    return itemList() && object ? itemList()->indexOf(object) : -1;
+}
+
+bool DesignerProperty::hasListItem(const QString &name, bool recursive) const
+{
+    return getListItem(name, recursive);
+}
+
+qsizetype DesignerProperty::listItemCount(const QString &name) const
+{
+    return itemList() ? itemList()->countOf(name) : 0;
+}
+
+qsizetype DesignerProperty::listItemCount() const
+{
+    return itemList() ? itemList()->count() : 0;
+}
+
+QStringList DesignerProperty::listItemNames(bool recursive) const
+{
+    QStringList names;
+    for (const DesignerObject *item : listItems(recursive)) {
+        names.append(item->getIdName());
+    }
+    return names;
+}
+
+QStringList DesignerProperty::getTypes(bool recursive) const
+{
+    QStringList types;
+    for (const DesignerObject *item : listItems(recursive)) {
+        const QString type = item->className();
+        if (!types.contains(type)) {
+            types.append(type);
+        }
+    }
+    return types;
+}
+
+QList<DesignerObject *> DesignerProperty::getItemsOfType(const QString &className, bool recursive) const
+{
+    QList<DesignerObject *> found = listItems(recursive);
+    found.removeIf([&className](const DesignerObject *item) { return !item->isKindOfClass(className); });
+    return found;
+}
+
+QStringList DesignerProperty::getItemNamesOfType(const QString &className, bool recursive) const
+{
+    QStringList names;
+    for (const DesignerObject *item : getItemsOfType(className, recursive)) {
+        names.append(item->getIdName());
+    }
+    return names;
+}
+
+void DesignerProperty::sortList()
+{
+    if (m_state && m_state->items) {
+        m_state->items->isOrdered = false;
+        updateListItems();
+    }
+}
+
+void DesignerProperty::updateListItems() { }
+
+void DesignerProperty::setErrorString(const QString &error)
+{
+    if (m_state) {
+        m_state->error = error;
+    } else if (!error.isEmpty()) {
+        state().error = error;
+    }
+}
+
+DesignerProperty::State &DesignerProperty::state()
+{
+    if (!m_state) {
+        m_state = std::make_unique<State>();
+    }
+    return *m_state;
+}
+
+} // namespace Halvane::Corvex::Designer

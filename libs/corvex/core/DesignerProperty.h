@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/IDesignerObject.h"
+#include "corvex/core/PropertyDescriptor.h"
+
+#include <QList>
+#include <QSharedDataPointer>
+#include <QSharedPointer>
+
+#include <memory>
+#include <type_traits>
+
+namespace Halvane::Corvex::Designer {
+
+class DesignerObject;
+class ItemList;
+class PropertyEditor;
+
+/*! One named, typed value of a DesignerObject.
+
+    A property is an ordinary value, one child object (ObjectFlag) or an ordered list of child objects
+    (ListFlag). Whatever its kind, its value crosses every boundary as text. Reading is open to everyone;
+   changes go through the operations of the object that owns the property, which ask the hooks and emit the
+   signals.
+
+    What a class says about its property lies in a descriptor that all instances share; what is set here on
+   one property is set for that property alone.
+*/
+class DesignerProperty : public IDesignerObject
+{
+    CORVEX_CLASS_NAMES(DesignerProperty, IDesignerObject)
+    Q_DISABLE_COPY_MOVE(DesignerProperty)
+
+public:
+    DesignerProperty(DesignerObject *parent, const QString &id, const QString &name);
+    ~DesignerProperty() override;
+
+    bool initialize() override { return true; }
+
+    //! The object that owns this property. Not owned.
+    DesignerObject *parentObject() const { return m_parent; }
+    const QString &id() const { return m_descriptor->id; }
+    void setId(const QString &id);
+    //! The title that the user reads, translated.
+    const QString &name() const { return m_descriptor->name; }
+    void setName(const QString &name);
+
+    //! The class name of the editor widget that edits the property.
+    const QString &editor() const { return m_descriptor->editor; }
+    const QVariantMap &editorParameters() const { return m_descriptor->editorParameters; }
+    QVariant editorParameter(const QString &key) const { return m_descriptor->editorParameters.value(key); }
+    void setEditor(const QString &editorName, const QVariantMap &parameters = {});
+    void setEditorParameters(const QVariantMap &parameters);
+    void setEditorParameter(const QString &key, const QVariant &value);
+    //! The editor that shows the property at the moment. Not owned; it resets itself before it goes.
+    PropertyEditor *editorWidget() const;
+    void setEditorWidget(PropertyEditor *widget);
+
+    PropertyFlags flags() const { return m_descriptor->flags; }
+    bool hasFlag(PropertyFlag flag) const { return m_descriptor->flags.testFlag(flag); }
+    void setFlags(PropertyFlags flags);
+    void setFlag(PropertyFlag flag, bool on);
+    bool isList() const { return hasFlag(ListFlag); }
+    bool isObject() const { return hasFlag(ObjectFlag); }
+
+    //! Orders the properties of an object in the property panel, smallest first; 99 unless set.
+    int rank() const { return m_descriptor->rank; }
+    void setRank(int rank);
+    const QString &description() const { return m_descriptor->description; }
+    void setDescription(const QString &description);
+
+    //! Whether a value that fails validation is stored all the same, and marked.
+    bool allowInvalidValue() const { return m_descriptor->allowInvalidValue; }
+    void setAllowInvalidValue(bool allow);
+    void setValueValidator(ValueValidator validator);
+    void setAddValidator(ItemValidator validator);
+    void setRemoveValidator(ItemValidator validator);
+    void setQmlCreator(QmlCreator creator);
+
+    //! The class names of which a child must be one (itself or by descent); all are welcome when empty.
+    const QStringList &objectFilters() const { return m_descriptor->objectFilters; }
+    void setObjectFilters(const QStringList &classNames);
+
+    //! Properties that cannot hold their values beside this one's.
+    QList<QSharedPointer<DesignerProperty>> conflictProperties() const;
+    void setConflictProperties(const QList<QSharedPointer<DesignerProperty>> &properties);
+    void resetConflictProperties();
+
+    //! The outcome of the last validation.
+    bool isValid() const { return m_isValid; }
+    //! Why the last validation failed or the last list or object operation was refused; empty otherwise.
+    QString errorString() const;
+    /*! Runs the value validator, then the check of the property's kind, and keeps the outcome. For lists and
+        objects the children's own outcomes count as they stand; DesignerObject::validate() brings them up to
+        date first. While validation is disabled on the owner every step is skipped.
+    */
+    bool validate();
+
+    /*! The value as text: empty for a list, the XML of the child (empty without one) for an object, else the
+        canonical form of the value. */
+    QString valueString() const;
+    //! Whether \a text stands for the value that is held; a text that does not parse counts as equal.
+    bool equalsValue(const QString &text) const { return valueIsEqual(text); }
+    bool equalsObjectValue(const DesignerObject *object) const { return objectValue() == object; }
+    bool equalsListItems(const QList<DesignerObject *> &items) const;
+
+    //! The property's QML, its lines parted by "\n" and none behind the last; empty unless RuntimeFlag is
+    //! set.
+    QString toQml(int indent) const;
+
+    //! The child of an object property, owned by parentObject().
+    DesignerObject *objectValue() const;
+
+    // Reading a list. With `recursive`, the lists of the items are read too, depth first.
+    QList<DesignerObject *> listItems(bool recursive = false) const;
+    DesignerObject *getListItem(const QString &name, bool recursive = false) const;
+    //! Null for an index below 0 or not below the count.
+    DesignerObject *getListItemAtIndex(qsizetype index) const;
+    //! -1 when there is none.
+    qsizetype getListItemIndex(const QString &name) const;
+    qsizetype getListItemIndex(const DesignerObject *object) const;
+    bool hasListItem(const QString &name, bool recursive = false) const;
+    //! How many items bear that name; more than one only in a project that is marked invalid.
+    qsizetype listItemCount(const QString &name) const;
+    qsizetype listItemCount() const;
+    QStringList listItemNames(bool recursive = false) const;
+    //! The class names of the items, each once, in the order of their first appearance.
+    QStringList getTypes(bool recursive = false) const;
+    QList<DesignerObject *> getItemsOfType(const QString &className, bool recursive = false) const;
+    QStringList getItemNamesOfType(const QString &className, bool recursive = false) const;
+    //! Puts the items into the order of the list's rule; nothing for a list without one.
+    void sortList();
+
+    //! The list's children with what is kept beside them; null for other properties.
+    const ItemList *itemList() const;
+
+protected:
+    /*! A property as \a prototype describes it, without its children, for the object \a parent. This is how
+        the rows of a property table make properties that share one descriptor. */
+    DesignerProperty(DesignerObject *parent, const DesignerProperty &prototype);
+
+    //! Parses \a text into the typed value; false, and the value as it was, when it does not parse.
+    virtual bool convertToValue(const QString &text) = 0;
+    //! The canonical text of the typed value.
+    virtual QString convertToValueString() const = 0;
+    virtual QString convertToQml(int indent) const;
+    virtual bool valueIsEqual(const QString &text) const = 0;
+    virtual bool validateValue(QString &error) const = 0;
+    virtual bool validateObjectValue(QString &error) const;
+    virtual bool validateListItems(QString &error) const;
+    //! Runs after the list has changed; the place to keep it in order.
+    virtual void updateListItems();
+    ItemList &items();
+
+private:
+    friend class DesignerObject;
+    friend class ObjectXmlReader;
+    friend class PropertyTable;
+    friend class PropertyRow;
+    struct State;
+
+    const PropertyDescriptor &descriptor() const { return *m_descriptor; }
+    template<class Field>
+    void describe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value);
+
+    bool refuse(const char *message);
+    bool acceptsClassOf(const DesignerObject *object) const;
+    bool canAdd(const DesignerObject *item, const char *duplicateMessage);
+
+    bool addListItem(DesignerObject *item);
+    bool insertItemAt(qsizetype index, DesignerObject *item);
+    bool insertItemBefore(DesignerObject *reference, DesignerObject *item);
+    bool insertItemAfter(DesignerObject *reference, DesignerObject *item);
+    DesignerObject *takeListItem(DesignerObject *item);
+    bool replaceItem(DesignerObject *oldItem, DesignerObject *newItem);
+    bool replaceItemAt(qsizetype index, DesignerObject *newItem);
+    bool swapItems(DesignerObject *first, DesignerObject *second);
+    //! Takes over \a object, which may be null, and gives the previous child free.
+    bool setObjectValue(DesignerObject *object);
+    void updateItemIdName(const QString &oldName, const QString &newName);
+
+    //! For an item that is being deleted: it leaves without a word.
+    void forgetItem(DesignerObject *item);
+    //! Lets go of all children at once, for an owner that deletes them.
+    QList<DesignerObject *> releaseChildren();
+    void putItem(qsizetype index, DesignerObject *item);
+    void setErrorString(const QString &error);
+    State &state();
+
+    DesignerObject *m_parent;
+    QSharedDataPointer<PropertyDescriptor> m_descriptor;
+    std::unique_ptr<State> m_state; //!< what few properties have; null until it is needed
+    bool m_isValid = true;
+};
+
+//! How properties are handed around; known to Qt's meta-type system under its full name.
+using SharedProperty = QSharedPointer<DesignerProperty>;
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+// The list and object operations of DesignerProperty: what each refuses, with which text, and what it does.
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/core/DesignerPropertyState.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+constexpr char notAList[] = "This is not a list property.";
+constexpr char typeNotSupported[] = "The type is not supported.";
+constexpr char itemExists[] = "Item already exists.";
+
+} // namespace
+
+bool DesignerProperty::refuse(const char *message)
+{
+    setErrorString(Common::LocalizationHelper::coreString(QString::fromLatin1(message)));
+    return false;
+}
+
+bool DesignerProperty::acceptsClassOf(const DesignerObject *object) const
+{
+    if (objectFilters().isEmpty()) {
+        return true;
+    }
+    const QStringList classes = object->classNames();
+    return std::any_of(objectFilters().begin(), objectFilters().end(),
+                       [&classes](const QString &filter) { return classes.contains(filter); });
+}
+
+bool DesignerProperty::canAdd(const DesignerObject *item, const char *duplicateMessage)
+{
+    if (!isList()) {
+        return refuse(notAList);
+    }
+    if (!item || !acceptsClassOf(item)) {
+        return refuse(typeNotSupported);
+    }
+    if (items().contains(item)) {
+        return refuse(duplicateMessage);
+    }
+    QString error;
+    if (descriptor().addValidator && !descriptor().addValidator(this, item, error)) {
+        setErrorString(error);
+        return false;
+    }
+    return true;
+}
+
+void DesignerProperty::putItem(qsizetype index, DesignerObject *item)
+{
+    items().insert(std::clamp<qsizetype>(index, 0, items().count()), item);
+    item->addListDesignerProperty(this);
+    updateListItems();
+}
+
+void DesignerProperty::forgetItem(DesignerObject *item)
+{
+    const qsizetype index = getListItemIndex(item);
+    if (index >= 0) {
+        items().removeAt(index);
+    }
+}
+
+QList<DesignerObject *> DesignerProperty::releaseChildren()
+{
+    QList<DesignerObject *> children;
+    if (m_state && m_state->items) {
+        children = m_state->items->items();
+        for (DesignerObject *item : std::as_const(children)) {
+            item->takeListDesignerProperty(this);
+        }
+        m_state->items.reset();
+    }
+    if (objectValue()) {
+        children.append(std::exchange(m_state->objectValue, nullptr));
+    }
+    return children;
+}
+
+bool DesignerProperty::addListItem(DesignerObject *item)
+{
+    if (!canAdd(item, itemExists)) {
+        return false;
+    }
+    putItem(items().count(), item);
+    return true;
+}
+
+bool DesignerProperty::insertItemAt(qsizetype index, DesignerObject *item)
+{
+    if (!canAdd(item, itemExists)) {
+        return false;
+    }
+    putItem(index, item);
+    return true;
+}
+
+bool DesignerProperty::insertItemBefore(DesignerObject *reference, DesignerObject *item)
+{
+    if (!item) {
+        return refuse("Object does not exist.");
+    }
+    const qsizetype index = getListItemIndex(reference);
+    return index < 0 && isList() ? refuse("Cannot find reference object.") : insertItemAt(index, item);
+}
+
+bool DesignerProperty::insertItemAfter(DesignerObject *reference, DesignerObject *item)
+{
+    if (!item) {
+        return refuse("Object does not exist.");
+    }
+    const qsizetype index = getListItemIndex(reference);
+    return index < 0 && isList() ? refuse("Cannot find reference object") : insertItemAt(index + 1, item);
+}
+
+DesignerObject *DesignerProperty::takeListItem(DesignerObject *item)
+{
+    if (!isList()) {
+        refuse(notAList);
+        return nullptr;
+    }
+    const qsizetype index = getListItemIndex(item);
+    if (index < 0) {
+        refuse("Item not in the list.");
+        return nullptr;
+    }
+    QString error;
+    if (descriptor().removeValidator && !descriptor().removeValidator(this, item, error)) {
+        setErrorString(error);
+        return nullptr;
+    }
+    items().removeAt(index);
+    item->takeListDesignerProperty(this);
+    updateListItems();
+    return item;
+}
+
+bool DesignerProperty::replaceItem(DesignerObject *oldItem, DesignerObject *newItem)
+{
+    return replaceItemAt(getListItemIndex(oldItem), newItem);
+}
+
+bool DesignerProperty::replaceItemAt(qsizetype index, DesignerObject *newItem)
+{
+    if (!isList()) {
+        return refuse(notAList);
+    }
+    if (!newItem) {
+        return refuse("Item is null.");
+    }
+    if (index < 0 || index >= items().count()) {
+        return refuse("Index invalid.");
+    }
+    if (!canAdd(newItem, itemExists)) {
+        return false;
+    }
+    DesignerObject *oldItem = items().items().at(index);
+    items().removeAt(index);
+    oldItem->takeListDesignerProperty(this);
+    putItem(index, newItem);
+    return true;
+}
+
+bool DesignerProperty::swapItems(DesignerObject *first, DesignerObject *second)
+{
+    if (!first || !second) {
+        return refuse("Object does not exist.");
+    }
+    const qsizetype firstIndex = getListItemIndex(first);
+    const qsizetype secondIndex = getListItemIndex(second);
+    if (firstIndex < 0 || secondIndex < 0) {
+        return refuse("Cannot find objects.");
+    }
+    if (first == second) {
+        return refuse("Same objects.");
+    }
+    items().swap(firstIndex, secondIndex);
+    items().isOrdered = false;
+    updateListItems();
+    return true;
+}
+
+bool DesignerProperty::setObjectValue(DesignerObject *object)
+{
+    if (!isObject() || !m_parent) {
+        return refuse("This is not a object type property, or the parent object is null.");
+    }
+    if (object && !acceptsClassOf(object)) {
+        return refuse(typeNotSupported);
+    }
+    state().objectValue = object;
+    return true;
+}
+
+void DesignerProperty::updateItemIdName(const QString &oldName, const QString &newName)
+{
+    DesignerObject *item = getListItem(oldName);
+    if (item && item->getIdName() == newName) {
+        items().rekey(oldName, item);
+    }
+    m_parent->afterListPropertyChanged();
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+// Private to the sources of DesignerProperty; not installed.
+#pragma once
+
+#include "corvex/core/DesignerProperty.h"
+#include "corvex/core/ItemList.h"
+
+namespace Halvane::Corvex::Designer {
+
+struct DesignerProperty::State
+{
+    QString error;
+    std::unique_ptr<ItemList> items;
+    DesignerObject *objectValue = nullptr;
+    PropertyEditor *editorWidget = nullptr;
+    // Two properties may be in conflict with each other: pointers that own would never be released.
+    QList<QWeakPointer<DesignerProperty>> conflicts;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/ItemList.h"
+
+#include "corvex/core/DesignerObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+bool ItemList::contains(const DesignerObject *item) const
+{
+    return item && m_byName.contains(item->getIdName(), const_cast<DesignerObject *>(item));
+}
+
+qsizetype ItemList::indexOf(const DesignerObject *item) const
+{
+    // Lists are most often walked or grown at their end.
+    return m_items.lastIndexOf(const_cast<DesignerObject *>(item));
+}
+
+DesignerObject *ItemList::find(const QString &name) const
+{
+    const auto [first, last] = m_byName.equal_range(name);
+    if (first == last) {
+        return nullptr;
+    }
+    if (std::next(first) == last) {
+        return *first;
+    }
+    return *std::min_element(first, last, [this](const DesignerObject *left, const DesignerObject *right) {
+        return indexOf(left) < indexOf(right);
+    });
+}
+
+void ItemList::insert(qsizetype index, DesignerObject *item)
+{
+    m_items.insert(index, item);
+    m_byName.insert(item->getIdName(), item);
+    invalidCount += item->isValid() ? 0 : 1;
+    newestIndex = index;
+}
+
+void ItemList::removeAt(qsizetype index)
+{
+    DesignerObject *item = m_items.at(index);
+    if (const QList<KeptItem> kept = m_kept.take(item); !kept.isEmpty()) {
+        m_kept[index > 0 ? m_items.at(index - 1) : nullptr] += kept;
+    }
+    m_items.removeAt(index);
+    m_byName.remove(item->getIdName(), item);
+    invalidCount -= item->isValid() ? 0 : 1;
+    newestIndex = -1;
+}
+
+void ItemList::swap(qsizetype first, qsizetype second)
+{
+    m_items.swapItemsAt(first, second);
+}
+
+void ItemList::move(qsizetype from, qsizetype to)
+{
+    m_items.insert(to, m_items.takeAt(from));
+}
+
+QList<KeptItem> ItemList::keptItems() const
+{
+    QList<KeptItem> kept = m_kept.value(nullptr);
+    if (!m_kept.isEmpty()) {
+        for (const DesignerObject *item : m_items) {
+            kept += m_kept.value(item);
+        }
+    }
+    return kept;
+}
+
+void ItemList::keep(const KeptItem &kept)
+{
+    m_kept[m_items.isEmpty() ? nullptr : m_items.constLast()].append(kept);
+}
+
+void ItemList::rekey(const QString &oldName, DesignerObject *item)
+{
+    const QString name = item->getIdName();
+    if (name == oldName || m_byName.remove(oldName, item) == 0) {
+        return;
+    }
+    m_byName.insert(name, item);
+    isOrdered = false;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/ItemList.h"
+
+namespace Halvane::Corvex::Designer {
+
+/*! Writes down an element that the reader cannot make into an object, in the form of ObjectXmlWriter: what
+   that writer wrote comes out as the same bytes. */
+class KeptItemRecorder
+{
+public:
+    void start(const QString &className);
+    //! \a attributes are names and values in turn, closed by null.
+    void open(const char *name, const char **attributes);
+    void close(const char *name);
+    //! Text between elements; blanks around it are dropped.
+    void addText(QByteArrayView utf8) { m_text.append(utf8); }
+    KeptItem take() { return std::exchange(m_item, {}); }
+
+private:
+    void endOpenTag();
+    void writeText();
+    void startLine();
+
+    KeptItem m_item;
+    QByteArray m_text;
+    int m_depth = 0;
+    bool m_isTagOpen = false; //!< the last start tag may yet become an empty element
+};
+
+} // namespace Halvane::Corvex::Designer

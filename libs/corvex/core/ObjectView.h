@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/IDesignerObject.h"
+
+#include <QSharedPointer>
+
+namespace Halvane::Corvex::Designer {
+
+class DesignerObject;
+class DesignerProperty;
+
+//! What the model knows of the item that shows an object on the canvas. The model tells it of changes and
+//! never asks it anything; it neither owns it nor outlives the right to call it: a view that goes resets
+//! itself on its object first.
+class ObjectView : public IDesignerObject
+{
+public:
+    virtual void updateGraphicsItem(const QSharedPointer<DesignerProperty> &property) = 0;
+    virtual void addGraphicsItemChild(const QSharedPointer<DesignerProperty> &property,
+                                      DesignerObject *child) = 0;
+    virtual void removeGraphicsItemChild(const QSharedPointer<DesignerProperty> &property,
+                                         DesignerObject *child) = 0;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,553 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/ObjectXmlReader.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/core/ItemList.h"
+#include "corvex/core/KeptItemRecorder.h"
+#include "corvex/core/ObjectXmlWriter.h"
+
+#include <QBuffer>
+#include <QIODevice>
+
+#include <expat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+constexpr qsizetype chunkSize = 256 * 1024;
+constexpr qsizetype deepestNesting = 512;
+constexpr qint64 longestToken = 16 * 1024 * 1024;
+
+//! Property ids are short and plain; comparing in place saves a conversion for each of a million properties.
+bool equals(QStringView text, const char *utf8)
+{
+    for (const QChar character : text) {
+        if (character.unicode() >= 0x80) {
+            return text == QString::fromUtf8(utf8);
+        }
+        if (character.unicode() != static_cast<unsigned char>(*utf8++)) {
+            return false;
+        }
+    }
+    return *utf8 == 0;
+}
+
+} // namespace
+
+QString ReadNote::toString() const
+{
+    return u"%1:%2: %3: %4"_s.arg(QString::number(line), QString::number(column), place, message);
+}
+
+class ObjectXmlReader::Private
+{
+public:
+    explicit Private(QIODevice *source)
+        : device(source)
+    { }
+
+    bool parse();
+
+    static void startElement(void *self, const XML_Char *name, const XML_Char **attributes);
+    static void endElement(void *self, const XML_Char *name);
+    static void characters(void *self, const XML_Char *text, int length);
+    static void comment(void *self, const XML_Char *text);
+    static void docType(void *self, const XML_Char *, const XML_Char *, const XML_Char *, int);
+
+    QIODevice *device;
+    DesignerObject *root = nullptr;
+    bool createsRoot = false;
+    bool validates = true;
+    QList<ReadNote> notes;
+    QString error;
+    qint64 errorLine = 0;
+    qint64 errorColumn = 0;
+
+private:
+    enum class Context { Object, Properties, Property, List, ObjectValue, Kept, Skipped };
+    struct Frame
+    {
+        Context context;
+        DesignerObject *object; //!< the object that is being read, or whose property this is
+        SharedProperty property = {};
+        qsizetype nextProperty =
+            0;                   //!< where the next property is expected: files keep the order of the table
+        bool isAnswered = false; //!< a property that got a value or children
+    };
+
+    bool feed(const QByteArray &chunk, bool isLast);
+    void fail(const QString &message);
+    void note(ReadNote::Kind kind, const QString &message);
+    QString place() const;
+    void push(Context context, DesignerObject *object, const SharedProperty &property = {});
+    void skip(const QString &message);
+
+    void openRoot(const XML_Char *name);
+    void openInObject(const Frame &frame, const XML_Char *name);
+    void openInProperties(Frame &frame, const XML_Char *name, const XML_Char **attributes);
+    void openInProperty(Frame &frame, const XML_Char *name);
+    void openItem(const Frame &frame, const XML_Char *name, const XML_Char **attributes);
+    void openObjectValue(const Frame &frame, const XML_Char *name);
+    SharedProperty expectProperty(Frame &frame, const XML_Char *id);
+    void applyValue(const Frame &frame, const SharedProperty &property, const XML_Char *value);
+    void emptyList(DesignerObject *owner, const SharedProperty &list);
+    DesignerObject *makeObject(const QString &className, DesignerObject *owner);
+    void closeObject(const Frame &closed);
+    void addItem(const Frame &list, DesignerObject *item);
+    void setChild(const Frame &slot, DesignerObject *child);
+    void enableValidation(DesignerObject *object);
+
+    XML_Parser parser = nullptr;
+    QList<Frame> frames;
+    KeptItemRecorder recorder;
+};
+
+bool ObjectXmlReader::Private::parse()
+{
+    if (!device->isReadable()) {
+        fail(u"The source cannot be read."_s);
+        return false;
+    }
+    const std::unique_ptr<std::remove_pointer_t<XML_Parser>, decltype(&XML_ParserFree)> owner(
+        XML_ParserCreate("UTF-8"), &XML_ParserFree);
+    parser = owner.get();
+    XML_SetUserData(parser, this);
+    XML_SetElementHandler(parser, startElement, endElement);
+    XML_SetCharacterDataHandler(parser, characters);
+    XML_SetCommentHandler(parser, comment);
+    XML_SetStartDoctypeDeclHandler(parser, docType);
+
+    QByteArray chunk;
+    bool good = true;
+    do {
+        chunk = device->read(chunkSize);
+        good = feed(chunk, chunk.isEmpty());
+    } while (good && !chunk.isEmpty());
+    for (const Frame &frame : std::as_const(frames)) {
+        // What was cut off in the middle has no owner yet.
+        if (frame.context == Context::Object && frame.object != root && !frame.object->ownerObject()) {
+            delete frame.object;
+        }
+    }
+    frames.clear();
+    if (good && root) {
+        enableValidation(root);
+        if (validates) {
+            root->validate();
+        }
+    }
+    return good && root;
+}
+
+bool ObjectXmlReader::Private::feed(const QByteArray &chunk, bool isLast)
+{
+    if (XML_Parse(parser, chunk.constData(), int(chunk.size()), isLast) != XML_STATUS_OK) {
+        if (error.isEmpty()) {
+            fail(QString::fromUtf8(XML_ErrorString(XML_GetErrorCode(parser))));
+        }
+        return false;
+    }
+    // A single token that outgrows every buffer is read again with each chunk; end that in time.
+    if (device->pos() - XML_GetCurrentByteIndex(parser) > longestToken + chunkSize) {
+        fail(u"A value is longer than 16 MB."_s);
+        return false;
+    }
+    return true;
+}
+
+void ObjectXmlReader::Private::fail(const QString &message)
+{
+    error = message;
+    if (parser) {
+        errorLine = qint64(XML_GetCurrentLineNumber(parser));
+        errorColumn = qint64(XML_GetCurrentColumnNumber(parser)) + 1;
+        XML_StopParser(parser, XML_FALSE);
+    }
+}
+
+void ObjectXmlReader::Private::note(ReadNote::Kind kind, const QString &message)
+{
+    notes.append({kind, qint64(XML_GetCurrentLineNumber(parser)),
+                  qint64(XML_GetCurrentColumnNumber(parser)) + 1, place(), message});
+}
+
+//! The path of the object that is being read, which has no owner yet that could tell it.
+QString ObjectXmlReader::Private::place() const
+{
+    QStringList names;
+    for (const Frame &frame : frames) {
+        if (frame.context == Context::Object && frame.object != root) {
+            names.append(frame.object->getIdName());
+        }
+    }
+    return names.isEmpty() && root ? root->objectPath() : names.join(u'.');
+}
+
+void ObjectXmlReader::Private::push(Context context, DesignerObject *object, const SharedProperty &property)
+{
+    frames.append({context, object, property});
+}
+
+void ObjectXmlReader::Private::skip(const QString &message)
+{
+    note(ReadNote::Dropped, message);
+    push(Context::Skipped, nullptr);
+}
+
+void ObjectXmlReader::Private::startElement(void *self, const XML_Char *name, const XML_Char **attributes)
+{
+    auto *reader = static_cast<Private *>(self);
+    if (reader->frames.size() >= deepestNesting) {
+        reader->fail(u"Elements are nested deeper than %1."_s.arg(deepestNesting));
+        return;
+    }
+    if (reader->frames.isEmpty()) {
+        reader->openRoot(name);
+        return;
+    }
+    Frame &frame = reader->frames.last();
+    switch (frame.context) {
+    case Context::Object:
+        reader->openInObject(frame, name);
+        break;
+    case Context::Properties:
+        reader->openInProperties(frame, name, attributes);
+        break;
+    case Context::Property:
+        reader->openInProperty(frame, name);
+        break;
+    case Context::List:
+        reader->openItem(frame, name, attributes);
+        break;
+    case Context::ObjectValue:
+        reader->openObjectValue(frame, name);
+        break;
+    case Context::Kept:
+        reader->recorder.open(name, attributes);
+        reader->push(Context::Kept, nullptr);
+        break;
+    case Context::Skipped:
+        reader->push(Context::Skipped, nullptr);
+        break;
+    }
+}
+
+void ObjectXmlReader::Private::openRoot(const XML_Char *name)
+{
+    const QString className = QString::fromUtf8(name);
+    if (!createsRoot && className != root->className()) {
+        fail(u"The root element is \"%1\" where \"%2\" is expected."_s.arg(className, root->className()));
+        return;
+    }
+    if (createsRoot) {
+        root = makeObject(className, nullptr);
+        if (!root) {
+            fail(u"No object of the class \"%1\" can be made."_s.arg(className));
+            return;
+        }
+    }
+    root->setDisableValidation(true);
+    push(Context::Object, root);
+}
+
+void ObjectXmlReader::Private::openInObject(const Frame &frame, const XML_Char *name)
+{
+    if (qstrcmp(name, "Properties") == 0) {
+        push(Context::Properties, frame.object);
+    } else {
+        skip(u"The element \"%1\" is not known here."_s.arg(QString::fromUtf8(name)));
+    }
+}
+
+void ObjectXmlReader::Private::openInProperties(Frame &frame, const XML_Char *name,
+                                                const XML_Char **attributes)
+{
+    DesignerObject *object = frame.object;
+    if (qstrcmp(name, "Property") != 0) {
+        skip(u"The element \"%1\" is not known here."_s.arg(QString::fromUtf8(name)));
+        return;
+    }
+    const XML_Char *id = nullptr;
+    const XML_Char *value = nullptr;
+    for (; *attributes; attributes += 2) {
+        if (qstrcmp(attributes[0], "name") == 0) {
+            id = attributes[1];
+        } else if (qstrcmp(attributes[0], "value") == 0) {
+            value = attributes[1];
+        } else {
+            note(ReadNote::Dropped,
+                 u"The attribute \"%1\" is not known here."_s.arg(QString::fromUtf8(attributes[0])));
+        }
+    }
+    const SharedProperty property = id ? expectProperty(frame, id) : SharedProperty();
+    if (!property || !property->hasFlag(StoredFlag)) {
+        skip(id ? u"The property \"%1\" is not known."_s.arg(QString::fromUtf8(id))
+                : u"A property has no name."_s);
+        return;
+    }
+    push(Context::Property, object, property);
+    if (value && *value) {
+        frames.last().isAnswered = true;
+        applyValue(frames.last(), property, value);
+    }
+}
+
+SharedProperty ObjectXmlReader::Private::expectProperty(Frame &frame, const XML_Char *id)
+{
+    const QList<SharedProperty> &properties = frame.object->properties();
+    const qsizetype count = properties.size();
+    for (qsizetype i = 0; i < count; ++i) {
+        const qsizetype index = (frame.nextProperty + i) % count;
+        if (equals(properties.at(index)->id(), id)) {
+            frame.nextProperty = index + 1;
+            return properties.at(index);
+        }
+    }
+    return {};
+}
+
+void ObjectXmlReader::Private::applyValue(const Frame &frame, const SharedProperty &property,
+                                          const XML_Char *value)
+{
+    if (property->isList() || property->isObject()) {
+        note(ReadNote::Dropped, u"The property \"%1\" takes no value."_s.arg(property->id()));
+        return;
+    }
+    const QString text = QString::fromUtf8(value);
+    const DesignerObject::ValueChange change = frame.object->changeValue(property, text);
+    // "Equal" is also said of a text that does not parse; only a second parse tells the two apart.
+    if (change == DesignerObject::ValueChange::Refused
+        || (change == DesignerObject::ValueChange::None && !property->convertToValue(text))) {
+        note(ReadNote::Dropped,
+             u"The value \"%1\" of the property \"%2\" cannot be read; it stays \"%3\"."_s.arg(
+                 text.left(80), property->id(), property->valueString()));
+    }
+}
+
+void ObjectXmlReader::Private::openInProperty(Frame &frame, const XML_Char *name)
+{
+    const bool opensList = qstrcmp(name, "List") == 0 && frame.property->isList();
+    const bool opensObject = qstrcmp(name, "Object") == 0 && frame.property->isObject();
+    if (!opensList && !opensObject) {
+        skip(u"The element \"%1\" is not known in the property \"%2\"."_s.arg(QString::fromUtf8(name),
+                                                                              frame.property->id()));
+        return;
+    }
+    frame.isAnswered = true;
+    if (opensList) {
+        emptyList(frame.object, frame.property);
+        frame.property->items().isLoading = true;
+    }
+    push(opensList ? Context::List : Context::ObjectValue, frame.object, frame.property);
+}
+
+void ObjectXmlReader::Private::emptyList(DesignerObject *owner, const SharedProperty &list)
+{
+    const QList<DesignerObject *> items = list->listItems();
+    for (auto item = items.crbegin(); item != items.crend(); ++item) {
+        delete owner->takeListPropertyItem(list, *item);
+    }
+}
+
+DesignerObject *ObjectXmlReader::Private::makeObject(const QString &className, DesignerObject *owner)
+{
+    DesignerFactory *factory = DesignerFactory::instance();
+    if (!factory || !factory->canCreateObject(className)) {
+        return nullptr;
+    }
+    DesignerObject *object = factory->createObject(className, owner);
+    if (object) {
+        object->setParent(nullptr);
+        object->setDisableValidation(true);
+    }
+    return object;
+}
+
+void ObjectXmlReader::Private::openItem(const Frame &frame, const XML_Char *name, const XML_Char **attributes)
+{
+    const QString className = QString::fromUtf8(name);
+    if (DesignerObject *item = makeObject(className, frame.object)) {
+        push(Context::Object, item);
+        return;
+    }
+    qWarning("loadListPropertyFromXml invalid class name %s", qUtf8Printable(className));
+    note(ReadNote::Kept, u"No plug-in knows the class \"%1\"; the item is kept as it is."_s.arg(className));
+    recorder.start(className);
+    recorder.open(name, attributes);
+    push(Context::Kept, frame.object, frame.property);
+}
+
+void ObjectXmlReader::Private::openObjectValue(const Frame &frame, const XML_Char *name)
+{
+    const QString className = QString::fromUtf8(name);
+    if (DesignerObject *object = makeObject(className, frame.object)) {
+        push(Context::Object, object);
+    } else {
+        skip(u"No plug-in knows the class \"%1\"."_s.arg(className));
+    }
+}
+
+void ObjectXmlReader::Private::endElement(void *self, const XML_Char *name)
+{
+    auto *reader = static_cast<Private *>(self);
+    if (reader->frames.isEmpty()) {
+        return;
+    }
+    const Frame closed = reader->frames.takeLast();
+    switch (closed.context) {
+    case Context::Object:
+        reader->closeObject(closed);
+        break;
+    case Context::Property:
+        if (!closed.isAnswered) {
+            closed.object->readEmptyValue(closed.property);
+        }
+        break;
+    case Context::List:
+        closed.property->items().isLoading = false;
+        closed.property->sortList();
+        break;
+    case Context::Kept:
+        reader->recorder.close(name);
+        if (closed.property) {
+            closed.property->items().keep(reader->recorder.take());
+        }
+        break;
+    case Context::Properties:
+    case Context::ObjectValue:
+    case Context::Skipped:
+        break;
+    }
+}
+
+void ObjectXmlReader::Private::closeObject(const Frame &closed)
+{
+    closed.object->finishReading();
+    if (frames.isEmpty()) {
+        return;
+    }
+    const Frame &owner = frames.constLast();
+    if (owner.context == Context::List) {
+        addItem(owner, closed.object);
+    } else {
+        setChild(owner, closed.object);
+    }
+}
+
+void ObjectXmlReader::Private::addItem(const Frame &list, DesignerObject *item)
+{
+    if (list.object->addListPropertyItem(list.property, item)) {
+        return;
+    }
+    const std::unique_ptr<DesignerObject> refused(item);
+    const QString message = u"\"%1\" cannot stand in \"%2\": %3 The item is kept as it is."_s.arg(
+        item->getIdName(), list.property->id(), list.property->errorString());
+    qWarning("%s", qUtf8Printable(message));
+    note(ReadNote::Kept, message);
+    QBuffer text;
+    text.open(QIODevice::WriteOnly);
+    ObjectXmlWriter writer(&text);
+    writer.setHeader(false);
+    writer.write(item);
+    list.property->items().keep({text.data().trimmed(), item->className(), item->getIdName()});
+}
+
+void ObjectXmlReader::Private::setChild(const Frame &slot, DesignerObject *child)
+{
+    if (!slot.object->changePropertyObjectValue(slot.property, child, true)) {
+        note(ReadNote::Dropped,
+             u"\"%1\" takes no object of the class \"%2\"."_s.arg(slot.property->id(), child->className()));
+        delete child;
+    }
+}
+
+void ObjectXmlReader::Private::enableValidation(DesignerObject *object)
+{
+    object->setDisableValidation(false);
+    for (DesignerObject *child : object->childObjects()) {
+        enableValidation(child);
+    }
+}
+
+void ObjectXmlReader::Private::characters(void *self, const XML_Char *text, int length)
+{
+    auto *reader = static_cast<Private *>(self);
+    const QByteArrayView words = QByteArrayView(text, length).trimmed();
+    if (words.isEmpty() || reader->frames.isEmpty()) {
+        return;
+    }
+    const Frame &frame = reader->frames.constLast();
+    if (frame.context == Context::Kept) {
+        reader->recorder.addText(words);
+    } else if (frame.object) {
+        reader->note(ReadNote::Dropped, u"Text between elements is not kept: \"%1\"."_s.arg(QString::fromUtf8(
+                                            words.first(std::min<qsizetype>(words.size(), 80)))));
+    }
+}
+
+void ObjectXmlReader::Private::comment(void *self, const XML_Char *)
+{
+    auto *reader = static_cast<Private *>(self);
+    if (reader->root) {
+        reader->note(ReadNote::Dropped, u"A comment is not kept."_s);
+    }
+}
+
+void ObjectXmlReader::Private::docType(void *self, const XML_Char *, const XML_Char *, const XML_Char *, int)
+{
+    static_cast<Private *>(self)->fail(u"Document types and entities are not accepted."_s);
+}
+
+ObjectXmlReader::ObjectXmlReader(QIODevice *device)
+    : d(std::make_unique<Private>(device))
+{ }
+
+ObjectXmlReader::~ObjectXmlReader() = default;
+
+void ObjectXmlReader::setValidate(bool validate)
+{
+    d->validates = validate;
+}
+
+bool ObjectXmlReader::read(DesignerObject *object)
+{
+    d->root = object;
+    d->createsRoot = false;
+    return d->parse();
+}
+
+DesignerObject *ObjectXmlReader::create()
+{
+    d->root = nullptr;
+    d->createsRoot = true;
+    if (!d->parse()) {
+        delete std::exchange(d->root, nullptr);
+    }
+    return d->root;
+}
+
+const QList<ReadNote> &ObjectXmlReader::notes() const
+{
+    return d->notes;
+}
+
+QString ObjectXmlReader::errorString() const
+{
+    return d->error;
+}
+
+qint64 ObjectXmlReader::errorLine() const
+{
+    return d->errorLine;
+}
+
+qint64 ObjectXmlReader::errorColumn() const
+{
+    return d->errorColumn;
+}
+
+} // namespace Halvane::Corvex::Designer

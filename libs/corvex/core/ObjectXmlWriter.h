@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class QIODevice;
+
+namespace Halvane::Corvex::Designer {
+
+class DesignerObject;
+class DesignerProperty;
+
+/*! Writes an object and everything below it as XML in UTF-8: one element per line, one blank of indent per
+    level, `name` before `value`. The same object written twice is the same bytes. */
+class ObjectXmlWriter
+{
+public:
+    enum class LineEnd { Unix, Windows };
+
+    explicit ObjectXmlWriter(QIODevice *device, LineEnd lineEnd = LineEnd::Unix);
+
+    //! Whether the XML declaration comes first; it does unless switched off.
+    void setHeader(bool header) { m_header = header; }
+    //! Whether properties are written that files leave out; they are not unless switched on.
+    void setAllProperties(bool all) { m_allProperties = all; }
+
+    /*! False when the device does not take every byte, or, before anything is written, when isComplete() does
+       not hold. */
+    bool write(const DesignerObject *object);
+    QString errorString() const { return m_error; }
+
+    //! Whether every object property holds its object. \a missing names the place that does not.
+    static bool isComplete(const DesignerObject *object, bool allProperties, QString *missing = nullptr);
+
+private:
+    static bool isWritten(const DesignerObject *object, const DesignerProperty &property, bool allProperties);
+    void writeObject(const DesignerObject *object, int level);
+    void writeProperty(const DesignerProperty &property, int level);
+    void writeKept(const DesignerProperty &list, const DesignerObject *after, int level);
+    void startLine(int level);
+    void endLine();
+    void openTag(const QString &name, int level, const char *ending = ">");
+    void closeTag(const QString &name, int level);
+    void flush();
+
+    QIODevice *m_device;
+    QByteArray m_lineEnd;
+    QByteArray m_buffer;
+    QString m_error;
+    bool m_header = true;
+    bool m_allProperties = false;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/PropertyFlag.h"
+
+#include <QSharedData>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace Halvane::Corvex::Designer {
+
+class DesignerObject;
+class DesignerProperty;
+
+//! Judges the value that a property holds; writes the reason into \a error when it returns false.
+using ValueValidator = bool (*)(const DesignerProperty *property, QString &error);
+//! Judges an object that is about to enter or to leave a list property.
+using ItemValidator = bool (*)(const DesignerProperty *property, const DesignerObject *item, QString &error);
+//! Writes a property's QML in place of DesignerProperty::convertToQml().
+using QmlCreator = QString (*)(const DesignerProperty *property, int indent);
+
+//! What all instances of a class share about one of their properties. A property copies it when it is changed
+//! on that one instance; a project of a million properties holds some hundred descriptors.
+struct PropertyDescriptor : public QSharedData
+{
+    QString id;
+    QString name;
+    QString editor;
+    QVariantMap editorParameters;
+    QString description;
+    QStringList objectFilters;
+    ValueValidator valueValidator = nullptr;
+    ItemValidator addValidator = nullptr;
+    ItemValidator removeValidator = nullptr;
+    QmlCreator qmlCreator = nullptr;
+    PropertyFlags flags;
+    int rank = 99;
+    bool allowInvalidValue = false;
+};
+
+} // namespace Halvane::Corvex::Designer

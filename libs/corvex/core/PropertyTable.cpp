@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/PropertyTable.h"
+
+#include "corvex/common/LocalizationHelper.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+PropertyRow::PropertyRow(const SharedProperty &prototype, Maker maker)
+    : m_prototype(prototype)
+    , m_maker(maker)
+{ }
+
+QString PropertyRow::text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+QString PropertyRow::title(const char *utf8)
+{
+    return Common::LocalizationHelper::coreString(text(utf8));
+}
+
+PropertyRow &PropertyRow::rank(int rank)
+{
+    m_prototype->setRank(rank);
+    return *this;
+}
+
+PropertyRow &PropertyRow::flags(int flags)
+{
+    m_prototype->setFlags(PropertyFlags::fromInt(flags));
+    return *this;
+}
+
+PropertyRow &PropertyRow::editor(const char *editorName)
+{
+    m_prototype->setEditor(text(editorName), m_prototype->editorParameters());
+    return *this;
+}
+
+PropertyRow &PropertyRow::parameter(const char *key, const QVariant &value)
+{
+    m_prototype->setEditorParameter(text(key), value);
+    return *this;
+}
+
+PropertyRow &PropertyRow::tooltip(const char *tooltip)
+{
+    m_prototype->setEditorParameter(u"tooltip"_s, title(tooltip));
+    return *this;
+}
+
+PropertyRow &PropertyRow::description(const char *description)
+{
+    m_prototype->setDescription(title(description));
+    return *this;
+}
+
+PropertyRow &PropertyRow::allowInvalid()
+{
+    m_prototype->setAllowInvalidValue(true);
+    return *this;
+}
+
+PropertyRow &PropertyRow::filter(std::initializer_list<const char *> classNames)
+{
+    QStringList filters;
+    for (const char *className : classNames) {
+        filters.append(text(className));
+    }
+    m_prototype->setObjectFilters(filters);
+    return *this;
+}
+
+PropertyRow &PropertyRow::validator(ValueValidator check)
+{
+    m_prototype->setValueValidator(check);
+    return *this;
+}
+
+PropertyRow &PropertyRow::addValidator(ItemValidator check)
+{
+    m_prototype->setAddValidator(check);
+    return *this;
+}
+
+PropertyRow &PropertyRow::removeValidator(ItemValidator check)
+{
+    m_prototype->setRemoveValidator(check);
+    return *this;
+}
+
+PropertyRow &PropertyRow::qml(QmlCreator creator)
+{
+    m_prototype->setQmlCreator(creator);
+    return *this;
+}
+
+PropertyRow &PropertyRow::overridesValue()
+{
+    m_overridesValue = true;
+    return *this;
+}
+
+SharedProperty PropertyTable::make(const PropertyRow &row, DesignerObject *parent) const
+{
+    return row.m_maker(parent, *row.m_prototype);
+}
+
+bool PropertyTable::describeAnew(const PropertyRow &row, DesignerProperty &property) const
+{
+    if (row.m_prototype->className() != property.className()) {
+        qWarning("Property \"%s\" cannot be described anew as another kind.", qUtf8Printable(property.id()));
+        return false;
+    }
+    property.m_descriptor = row.m_prototype->m_descriptor;
+    return !row.m_overridesValue || property.convertToValue(row.m_prototype->convertToValueString());
+}
+
+} // namespace Halvane::Corvex::Designer

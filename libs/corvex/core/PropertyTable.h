@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/DesignerProperty.h"
+
+#include <initializer_list>
+#include <vector>
+
+namespace Halvane::Corvex::Designer {
+
+/*! One row of a property table: what a class says about one of its properties.
+
+    The row holds a prototype; every property made from it shares the prototype's descriptor. Texts are UTF-8;
+    titles, descriptions and tooltips are translated here.
+*/
+class PropertyRow
+{
+public:
+    const QString &id() const { return m_prototype->id(); }
+
+    PropertyRow &rank(int rank);
+    PropertyRow &flags(int flags);
+    //! For editors that the property's class does not set by itself.
+    PropertyRow &editor(const char *editorName);
+    PropertyRow &parameter(const char *key, const QVariant &value);
+    PropertyRow &tooltip(const char *text);
+    PropertyRow &description(const char *text);
+    //! Keeps values that fail validation, marked.
+    PropertyRow &allowInvalid();
+    //! Not shown in the property panel until the object shows it.
+    PropertyRow &hidden() { return parameter("visible", false); }
+    PropertyRow &filter(std::initializer_list<const char *> classNames);
+    PropertyRow &validator(ValueValidator validator);
+    PropertyRow &addValidator(ItemValidator validator);
+    PropertyRow &removeValidator(ItemValidator validator);
+    PropertyRow &qml(QmlCreator creator);
+    //! Where the row describes a property of the base anew, it gives it this row's value too.
+    PropertyRow &overridesValue();
+
+private:
+    template<class Property, class Value>
+    friend PropertyRow row(const char *id, const char *title, const Value &initialValue);
+    friend class PropertyTable;
+
+    using Maker = SharedProperty (*)(DesignerObject *parent, const DesignerProperty &prototype);
+
+    PropertyRow(const SharedProperty &prototype, Maker maker);
+    static QString text(const char *utf8);
+    static QString title(const char *utf8);
+
+    SharedProperty m_prototype;
+    Maker m_maker;
+    bool m_overridesValue = false;
+};
+
+/*! A row for a property of the class \a Property, which starts with \a initialValue. Property has a protected
+   or public constructor Property(DesignerObject *parent, const Property &prototype), as TypedProperty gives
+   it. */
+template<class Property, class Value>
+PropertyRow row(const char *id, const char *title, const Value &initialValue)
+{
+    // Opens the constructor from a prototype, which is nobody else's business, to the row.
+    struct Made : public Property
+    {
+        Made(DesignerObject *parent, const Property &prototype)
+            : Property(parent, prototype)
+        { }
+    };
+    return PropertyRow(
+        SharedProperty(new Property(nullptr, PropertyRow::text(id), PropertyRow::title(title), initialValue)),
+        [](DesignerObject *parent, const DesignerProperty &prototype) -> SharedProperty {
+            return QSharedPointer<Made>::create(parent, static_cast<const Property &>(prototype));
+        });
+}
+
+//! The properties of one class, in the order in which its objects get them. Made once per class.
+class PropertyTable
+{
+public:
+    PropertyTable(std::initializer_list<PropertyRow> rows)
+        : m_rows(rows)
+    { }
+
+private:
+    friend class DesignerObject;
+
+    SharedProperty make(const PropertyRow &row, DesignerObject *parent) const;
+    bool describeAnew(const PropertyRow &row, DesignerProperty &property) const;
+
+    std::vector<PropertyRow> m_rows;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/QmlText.h"
+
+#include "corvex/common/TextHelper.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer::QmlText {
+
+QString tabs(int indent)
+{
+    return QString(indent, u'\t');
+}
+
+QString line(int indent, const QString &id, const QString &value)
+{
+    return tabs(indent) + id + u": "_s + value;
+}
+
+QString quoted(const QString &text)
+{
+    return u'"' + Common::TextHelper::toQmlValueString(text) + u'"';
+}
+
+QString reference(const QString &name)
+{
+    return u"qml_"_s + name;
+}
+
+QString array(const QStringList &values)
+{
+    return u'[' + values.join(u", "_s) + u']';
+}
+
+} // namespace Halvane::Corvex::Designer::QmlText

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/XmlText.h"
+
+#include <array>
+
+namespace Halvane::Corvex::Designer::XmlText {
+
+namespace {
+
+//! What stands for an ASCII character inside an attribute; null for itself.
+constexpr std::array<const char *, 128> makeEscapes()
+{
+    std::array<const char *, 128> escapes{};
+    escapes['&'] = "&amp;";
+    escapes['<'] = "&lt;";
+    escapes['>'] = "&gt;";
+    escapes['"'] = "&quot;";
+    escapes['\t'] = "&#x9;";
+    escapes['\n'] = "&#xA;";
+    escapes['\r'] = "&#xD;";
+    return escapes;
+}
+
+constexpr std::array<const char *, 128> escapes = makeEscapes();
+
+//! The longest escape and the longest UTF-8 sequence of one UTF-16 unit both fit.
+constexpr qsizetype longestPerUnit = 6;
+
+char *appendEscape(char *out, const char *escape)
+{
+    while (*escape) {
+        *out++ = *escape++;
+    }
+    return out;
+}
+
+char *appendUtf8(char *out, char32_t character)
+{
+    if (character < 0x800) {
+        *out++ = char(0xC0 | (character >> 6));
+    } else {
+        if (character < 0x10000) {
+            *out++ = char(0xE0 | (character >> 12));
+        } else {
+            *out++ = char(0xF0 | (character >> 18));
+            *out++ = char(0x80 | ((character >> 12) & 0x3F));
+        }
+        *out++ = char(0x80 | ((character >> 6) & 0x3F));
+    }
+    *out++ = char(0x80 | (character & 0x3F));
+    return out;
+}
+
+} // namespace
+
+qsizetype indexOfUnstorable(QStringView text)
+{
+    const qsizetype size = text.size();
+    for (qsizetype i = 0; i < size; ++i) {
+        const char16_t unit = text[i].unicode();
+        if (unit >= 0x20 && unit < 0xD800) {
+            continue;
+        }
+        if (QChar::isHighSurrogate(unit) && i + 1 < size && text[i + 1].isLowSurrogate()) {
+            ++i;
+            continue;
+        }
+        const bool isBlank = unit == u'\t' || unit == u'\n' || unit == u'\r';
+        if (!isBlank && (unit < 0x20 || QChar::isSurrogate(unit) || unit >= 0xFFFE)) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+void appendAttribute(QByteArray &bytes, QStringView text)
+{
+    const qsizetype oldSize = bytes.size();
+    bytes.resize(oldSize + text.size() * longestPerUnit);
+    char *const begin = bytes.data();
+    char *out = begin + oldSize;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t unit = text[i].unicode();
+        if (unit < 0x80) {
+            if (const char *escape = escapes[unit]) {
+                out = appendEscape(out, escape);
+            } else {
+                *out++ = char(unit);
+            }
+        } else if (QChar::isHighSurrogate(unit) && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+            out = appendUtf8(out, QChar::surrogateToUcs4(unit, text[++i].unicode()));
+        } else {
+            out = appendUtf8(out, QChar::isSurrogate(unit) ? char32_t(QChar::ReplacementCharacter) : unit);
+        }
+    }
+    bytes.resize(out - begin);
+}
+
+void appendAttribute(QByteArray &bytes, QByteArrayView utf8)
+{
+    for (const char byte : utf8) {
+        const auto unit = static_cast<unsigned char>(byte);
+        if (unit < 0x80 && escapes[unit]) {
+            bytes.append(escapes[unit]);
+        } else {
+            bytes.append(byte);
+        }
+    }
+}
+
+} // namespace Halvane::Corvex::Designer::XmlText

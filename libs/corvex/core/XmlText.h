@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QStringView>
+
+namespace Halvane::Corvex::Designer::XmlText {
+
+//! Where the first character stands that no XML file can hold (a control character, half a surrogate pair,
+//! U+FFFE, U+FFFF); -1 when all can be stored.
+qsizetype indexOfUnstorable(QStringView text);
+
+/*! Appends \a text in UTF-8 as the inside of an attribute between double quotes: markup characters as
+   entities, line ends and tabs as character references, so that they survive the parser's normalisation. */
+void appendAttribute(QByteArray &bytes, QStringView text);
+
+//! The same for bytes that are UTF-8 already.
+void appendAttribute(QByteArray &bytes, QByteArrayView utf8);
+
+} // namespace Halvane::Corvex::Designer::XmlText

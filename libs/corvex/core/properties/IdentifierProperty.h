@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/properties/TypedProperty.h"
+#include "corvex/values/IdentifierInfo.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! The property "id" of every object.
+class IdentifierProperty : public TypedProperty<IdentifierInfo>
+{
+    CORVEX_CLASS_NAMES(IdentifierProperty, DesignerProperty)
+
+public:
+    IdentifierProperty(DesignerObject *parent, const QString &id, const QString &name,
+                       const IdentifierInfo &initialValue);
+
+    //! For an object that is being made; later names go through the object.
+    void setInitialName(const QString &name);
+
+protected:
+    using TypedProperty::TypedProperty;
+    QString convertToQml(int indent) const override;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/properties/ObjectListProperty.h"
+
+#include "corvex/common/TextHelper.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/core/ItemList.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! What an item is compared by, worked out once for each sort.
+struct SortKey
+{
+    int group = 0;
+    QString name; //!< empty in a group that keeps its own order
+};
+
+//! The groups of OrderRule::KindOrder in the order in which they are laid out.
+constexpr struct
+{
+    const char *className;
+    bool keepsOwnOrder;
+} kindGroups[] = {
+    {"ProjectVariable", false}, {"HardwareElement", false}, {"FunctionElement", false},
+    {"FilterElement", false},   {"VisualElement", true},
+};
+
+SortKey keyOf(const DesignerObject *item, OrderRule rule)
+{
+    if (rule != OrderRule::KindOrder) {
+        return {0, item->getIdName()};
+    }
+    const QStringList classNames = item->classNames();
+    int group = 0;
+    for (const auto &[className, keepsOwnOrder] : kindGroups) {
+        if (classNames.contains(QLatin1StringView(className))) {
+            return {group, keepsOwnOrder ? QString() : item->getIdName()};
+        }
+        ++group;
+    }
+    return {group, QString()};
+}
+
+bool isLess(const SortKey &left, const SortKey &right, OrderRule rule)
+{
+    if (left.group != right.group) {
+        return left.group < right.group;
+    }
+    switch (rule) {
+    case OrderRule::InsertionOrder:
+        return false;
+    case OrderRule::PlainOrder:
+        return left.name < right.name;
+    case OrderRule::NaturalOrder:
+    case OrderRule::KindOrder:
+        return Common::TextHelper::naturalLess(left.name, right.name);
+    case OrderRule::FileNameOrder:
+        return Common::TextHelper::fileNameLess(left.name, right.name);
+    }
+    Q_UNREACHABLE();
+    return false;
+}
+
+} // namespace
+
+ObjectListProperty::ObjectListProperty(DesignerObject *parent, const QString &id, const QString &name,
+                                       OrderRule rule)
+    : DesignerProperty(parent, id, name)
+    , m_rule(rule)
+{
+    setFlags(PropertyFlags(StoredFlag) | ListFlag);
+}
+
+ObjectListProperty::ObjectListProperty(DesignerObject *parent, const ObjectListProperty &prototype)
+    : DesignerProperty(parent, prototype)
+    , m_rule(prototype.m_rule)
+{ }
+
+bool ObjectListProperty::convertToValue(const QString &)
+{
+    return false; // The children change through the parent object alone.
+}
+
+QString ObjectListProperty::convertToValueString() const
+{
+    return {};
+}
+
+bool ObjectListProperty::valueIsEqual(const QString &text) const
+{
+    return text.isEmpty();
+}
+
+bool ObjectListProperty::validateValue(QString &) const
+{
+    return true;
+}
+
+QString ObjectListProperty::convertToQml(int indent) const
+{
+    QStringList blocks;
+    for (const DesignerObject *item : itemList()->items()) {
+        blocks.append(item->toQml(indent));
+    }
+    return blocks.join(u'\n');
+}
+
+void ObjectListProperty::updateListItems()
+{
+    ItemList &list = items();
+    if (list.isLoading) {
+        list.isOrdered = false;
+        return;
+    }
+    const qsizetype newest = std::exchange(list.newestIndex, -1);
+    if (m_rule == OrderRule::InsertionOrder || list.count() < 2) {
+        list.isOrdered = true;
+    } else if (!list.isOrdered) {
+        sortAll();
+        list.isOrdered = true;
+    } else if (newest >= 0) {
+        placeNewest(newest);
+    }
+}
+
+void ObjectListProperty::placeNewest(qsizetype index)
+{
+    ItemList &list = items();
+    const SortKey key = keyOf(list.items().at(index), m_rule);
+    const auto isBefore = [this](const DesignerObject *other, const SortKey &own) {
+        return isLess(keyOf(other, m_rule), own, m_rule);
+    };
+    const auto isBehind = [this](const SortKey &own, const DesignerObject *other) {
+        return isLess(own, keyOf(other, m_rule), m_rule);
+    };
+    const auto begin = list.items().cbegin();
+    const auto item = begin + index;
+    const auto end = list.items().cend();
+    if (index > 0 && isBehind(key, *(item - 1))) {
+        list.move(index, std::upper_bound(begin, item, key, isBehind) - begin);
+    } else if (item + 1 != end && isBefore(*(item + 1), key)) {
+        list.move(index, std::lower_bound(item + 1, end, key, isBefore) - begin - 1);
+    }
+}
+
+void ObjectListProperty::sortAll()
+{
+    std::vector<std::pair<SortKey, DesignerObject *>> keyed;
+    keyed.reserve(size_t(items().count()));
+    for (DesignerObject *item : items().items()) {
+        keyed.emplace_back(keyOf(item, m_rule), item);
+    }
+    std::stable_sort(keyed.begin(), keyed.end(), [this](const auto &left, const auto &right) {
+        return isLess(left.first, right.first, m_rule);
+    });
+    QList<DesignerObject *> order(qsizetype(keyed.size()));
+    std::transform(keyed.begin(), keyed.end(), order.begin(), [](const auto &entry) { return entry.second; });
+    items().reorder(order);
+}
+
+} // namespace Halvane::Corvex::Designer

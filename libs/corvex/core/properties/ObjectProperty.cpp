@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/properties/ObjectProperty.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+ObjectProperty::ObjectProperty(DesignerObject *parent, const QString &id, const QString &name, std::nullptr_t)
+    : DesignerProperty(parent, id, name)
+{
+    setEditor(u"ObjectEditor"_s);
+    setFlags(PropertyFlags(StoredFlag) | ObjectFlag);
+}
+
+bool ObjectProperty::convertToValue(const QString &)
+{
+    return false; // The child changes through the parent object alone.
+}
+
+QString ObjectProperty::convertToValueString() const
+{
+    return valueString();
+}
+
+bool ObjectProperty::valueIsEqual(const QString &text) const
+{
+    return text == valueString();
+}
+
+bool ObjectProperty::validateValue(QString &) const
+{
+    return true;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/values/ValueConversion.h"
+
+namespace Halvane::Corvex::Designer {
+
+/*! How a value type is written and read. A record has a constructor from its text and toString(); the basic
+   kinds are specialised below. */
+template<class Value>
+struct TextForm
+{
+    static Value parse(const QString &text, bool *ok) { return Value(text, ok); }
+    static QString print(const Value &value) { return value.toString(); }
+};
+
+template<>
+struct TextForm<QString>
+{
+    static QString parse(const QString &text, bool *ok)
+    {
+        *ok = true;
+        return text;
+    }
+    static QString print(const QString &value) { return value; }
+};
+
+//! The basic kinds, by their function of ValueConversion.
+#define CORVEX_TEXT_FORM(Value, function)                                                                    \
+    template<>                                                                                               \
+    struct TextForm<Value>                                                                                   \
+    {                                                                                                        \
+        static Value parse(const QString &text, bool *ok) { return ValueConversion::function(text, ok); }    \
+        static QString print(const Value &value) { return ValueConversion::toString(value); }                \
+    };
+CORVEX_TEXT_FORM(bool, toBoolean)
+CORVEX_TEXT_FORM(int, toInt)
+CORVEX_TEXT_FORM(double, toReal)
+CORVEX_TEXT_FORM(QColor, toColor)
+CORVEX_TEXT_FORM(QList<QColor>, toColorList)
+CORVEX_TEXT_FORM(QFont, toFont)
+CORVEX_TEXT_FORM(QPointF, toPoint)
+CORVEX_TEXT_FORM(QSizeF, toSize)
+CORVEX_TEXT_FORM(QPolygonF, toPolygon)
+CORVEX_TEXT_FORM(QList<QPolygonF>, toPolygonList)
+CORVEX_TEXT_FORM(QGradientStops, toGradientStops)
+#undef CORVEX_TEXT_FORM
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/DesignerProperty.h"
+#include "corvex/core/properties/TextForm.h"
+
+#include <optional>
+
+namespace Halvane::Corvex::Designer {
+
+/*! What all properties that hold a value of the C++ type \a Value have in common: the value, and its text by
+    TextForm<Value>.
+
+    A text that no form can read counts as equal to every value, so that setting it changes nothing. The text
+   that an empty value prints ("" or "]") reads as the empty value where the form itself refuses it: undo can
+   always go back to empty.
+*/
+template<class Value>
+class TypedProperty : public DesignerProperty
+{
+public:
+    TypedProperty(DesignerObject *parent, const QString &id, const QString &name, const Value &initialValue)
+        : DesignerProperty(parent, id, name)
+        , m_value(initialValue)
+    { }
+
+    const Value &value() const { return m_value; }
+
+protected:
+    TypedProperty(DesignerObject *parent, const TypedProperty &prototype)
+        : DesignerProperty(parent, prototype)
+        , m_value(prototype.m_value)
+    { }
+
+    bool convertToValue(const QString &text) override
+    {
+        std::optional<Value> parsed = parse(text);
+        if (parsed) {
+            m_value = *std::move(parsed);
+        }
+        return parsed.has_value();
+    }
+
+    QString convertToValueString() const override { return TextForm<Value>::print(m_value); }
+
+    bool valueIsEqual(const QString &text) const override
+    {
+        const std::optional<Value> parsed = parse(text);
+        return !parsed || *parsed == m_value;
+    }
+
+    bool validateValue(QString &) const override { return true; }
+
+    void setValue(const Value &value) { m_value = value; }
+
+private:
+    static std::optional<Value> parse(const QString &text)
+    {
+        bool ok = false;
+        Value value = TextForm<Value>::parse(text, &ok);
+        if (ok) {
+            return value;
+        }
+        // The texts of all empty values are this short; longer ones need no second look.
+        if (text.size() <= 1 && text == TextForm<Value>::print(Value())) {
+            return Value();
+        }
+        return std::nullopt;
+    }
+
+    Value m_value;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/factory/CoreFactory.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/DesignerObject.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+/*! The classes that bear names, the abstract bases among them: concrete elements come from plug-ins. Names
+   that look misspelt ("functionElememnt", "autoSaveVariable") are the stems of identifiers in saved projects.
+ */
+constexpr struct
+{
+    const char *className;
+    const char *baseName;
+    const char *displayName;
+} namedClasses[] = {
+    {"AutoSettingVariable", "autoSaveVariable", "Autosave Save Variable"},
+    {"BACnetDevice", "bacNetDevice", "BACnet Device"},
+    {"BACnetObject", "bacNetObject", "BACnet Object"},
+    {"BooleanVariable", "boolVariable", "Boolean Variable"},
+    {"CANVariable", "canVariable", "CAN Variable"},
+    {"ColorVariable", "colorVariable", "Color Variable"},
+    {"Element", "element", "Element"},
+    {"ElementTemplate", "ElementTemplate", "Element Template"},
+    {"FilterElement", "filterElement", "Filter Element"},
+    {"FunctionElement", "functionElememnt", "Function Element"},
+    {"GroupElement", "group", "Group Element"},
+    {"HardwareElement", "hardwareElement", "Hardware Element"},
+    {"ImageResource", "imageResource", "Image Resource"},
+    {"LogVariable", "logVariable", "Log Variable"},
+    {"MappingVariable", "mappingVariable", "Modbus Map Variable"},
+    {"NumberVariable", "numberVariable", "Number Variable"},
+    {"FtpVariable", "ftpVariable", "FTP Variable"},
+    {"Project", "Project", "Project"},
+    {"ProjectTemplate", "ProjectTemplate", "Project Template"},
+    {"ProjectVariable", "variable", "Project Variable"},
+    {"Screen", "screen", "Screen"},
+    {"StringVariable", "stringVariable", "String Variable"},
+    {"Template", "Template", "Template"},
+    {"VisualElement", "visualElement", "Visual Element"},
+};
+
+using Maker = DesignerObject *(*)(QObject *parent);
+
+//! How the objects that createObject() accepts are made.
+const QHash<QString, Maker> &makers()
+{
+    static const QHash<QString, Maker> table{};
+    return table;
+}
+
+constexpr const char *editors[] = {
+    "PropertyEditor",
+    "AutosaveObjectEditor",
+    "AddressMapEditor",
+    "BACObjIdEditor",
+    "BACDeviceEditor",
+    "BACnetPropertiesEditor",
+    "BooleanEditor",
+    "BorderEditor",
+    "CANVariableEditor",
+    "ChannelEditor",
+    "ColorEditor",
+    "ColorListEditor",
+    "CompatibleModelsEditor",
+    "DeviceModelEditor",
+    "DigitalChannelEditor",
+    "DigitalIOEditor",
+    "ElementPropertyChangesEditor",
+    "EnumEditor",
+    "ErrorFlagsEditor",
+    "FontEditor",
+    "GradientStopsEditor",
+    "IdentifierEditor",
+    "ImageSourceEditor",
+    "IntegerEditor",
+    "IOErrorFlagsEditor",
+    "ItemsOrderEditor",
+    "KeepRatioEditor",
+    "LargeNumberEditor",
+    "LinkEditor",
+    "MACAddressEditor",
+    "NetworkAddressEditor",
+    "NumberEditor",
+    "ObjectEditor",
+    "OpacityEditor",
+    "OriginalLocationEditor",
+    "PlainTextEditor",
+    "PointEditor",
+    "PropertyChangesEditor",
+    "RangeEditor",
+    "ReadOnlyLineEditor",
+    "RealEditor",
+    "ScaleEditor",
+    "ScreenColorEditor",
+    "ScreenOrientationEditor",
+    "ScreenSizeEditor",
+    "SingleLineEditor",
+    "SizeEditor",
+    "TransformOriginEditor",
+    "ValueRangeEditor",
+    "VerticalBooleanExpressionEditor",
+    "VerticalMathExpressionEditor",
+    "VerticalStringExpressionEditor",
+    "SerialRS485Editor",
+    "SPIChipSelectEditor",
+    "ProjectPasswordEditor",
+    "SerialCOMPortsEditor",
+    "StringAddressMapEditor",
+};
+static_assert(std::size(editors) == 57);
+
+//! A name of \a className in the user's language; the two kinds of names may be translated apart.
+QString translated(const char *kind, const char *className, const char *name)
+{
+    const QString key = QLatin1StringView(kind) + QLatin1StringView(className);
+    const QString translation = Common::LocalizationHelper::coreString(key);
+    return translation == key ? QString::fromLatin1(name) : translation;
+}
+
+} // namespace
+
+CoreFactory::CoreFactory(QObject *parent)
+    : QObject(parent)
+{ }
+
+DesignerObject *CoreFactory::createObject(const QString &className, QObject *parent)
+{
+    const Maker make = makers().value(className);
+    return make ? make(parent) : nullptr;
+}
+
+GraphicsItem *CoreFactory::createGraphicsItem(const QString &, DesignerObject *)
+{
+    return nullptr;
+}
+
+PropertyEditor *CoreFactory::createEditor(const QString &, QWidget *)
+{
+    return nullptr;
+}
+
+Template *CoreFactory::createTemplate(const QString &, QObject *)
+{
+    return nullptr;
+}
+
+Wizard *CoreFactory::createWizard(const QString &)
+{
+    return nullptr;
+}
+
+QStringList CoreFactory::objectNames() const
+{
+    QStringList names;
+    for (const auto &entry : namedClasses) {
+        names.append(QString::fromLatin1(entry.className));
+    }
+    return names;
+}
+
+QMap<QString, QString> CoreFactory::classBaseNames() const
+{
+    QMap<QString, QString> names;
+    for (const auto &[className, baseName, displayName] : namedClasses) {
+        names.insert(QString::fromLatin1(className), translated("BASENAME:", className, baseName));
+    }
+    return names;
+}
+
+QMap<QString, QString> CoreFactory::classDisplayNames() const
+{
+    QMap<QString, QString> names;
+    for (const auto &[className, baseName, displayName] : namedClasses) {
+        names.insert(QString::fromLatin1(className), translated("DISPLAYNAME:", className, displayName));
+    }
+    return names;
+}
+
+QStringList CoreFactory::creatableNames() const
+{
+    return makers().keys();
+}
+
+QStringList CoreFactory::graphicsItemNames() const
+{
+    return {u"GraphicsItemGroup"_s, u"GraphicsRectangle"_s};
+}
+
+QStringList CoreFactory::editorNames() const
+{
+    QStringList names;
+    for (const char *editor : editors) {
+        names.append(QString::fromLatin1(editor));
+    }
+    return names;
+}
+
+QStringList CoreFactory::templateNames() const
+{
+    return {u"ElementTemplate"_s, u"ProjectTemplate"_s};
+}
+
+QStringList CoreFactory::wizardNames() const
+{
+    return {u"UpgradeProjectWizard"_s};
+}
+
+} // namespace Halvane::Corvex::Designer

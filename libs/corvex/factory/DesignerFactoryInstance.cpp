@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// How the process-wide factory comes to be, on the one floor that knows all classes of the library.
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/factory/CoreFactory.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+bool DesignerFactory::createInstance(const QString &path)
+{
+    if (!QCoreApplication::instance() || !QFileInfo::exists(path)) {
+        return false;
+    }
+    delete instance();
+    auto *factory = new DesignerFactory(QCoreApplication::instance());
+    auto *core = new CoreFactory(factory);
+    if (!factory->registerFactory(core)) {
+        qWarning("Failed to load CoreFactory");
+        delete factory;
+        return false;
+    }
+    factory->loadPlugins(QDir(path).absoluteFilePath(u"Plugins/DesignerObjects"_s));
+    return true;
+}
+
+} // namespace Halvane::Corvex::Designer
