@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/FileHelper.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/SafeFile.h"
 #include "corvex/common/VariantStream.h"
 
@@ -22,8 +23,6 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Common {
 
-// --- Folders ---
-
 QString FileHelper::getStandardTemporatyLocation()
 {
     const QString shared = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
@@ -44,25 +43,45 @@ QString FileHelper::getStandardTemporatyLocation()
 #endif
 }
 
+namespace {
+
+//! The folder itself, by a path whose every part but the last is no link: what ".." and a slash behind a link
+//! mean to the system, not what the letters suggest. Empty when nothing is there.
+std::filesystem::path physicalPath(const QString &path)
+{
+    std::error_code error;
+    std::filesystem::path given = std::filesystem::absolute(QFileInfo(path).filesystemFilePath(), error);
+    while (!given.has_filename() && given.has_relative_path())
+        given = given.parent_path();
+    const std::filesystem::path name = given.filename();
+    if (name.empty() || name == "." || name == "..")
+        return std::filesystem::canonical(given, error);
+    const std::filesystem::path folder = std::filesystem::canonical(given.parent_path(), error);
+    return error ? std::filesystem::path() : folder / name;
+}
+
+bool holdsHome(const std::filesystem::path &folder)
+{
+    std::error_code error;
+    const auto home = std::filesystem::canonical(QFileInfo(QDir::homePath()).filesystemFilePath(), error);
+    return std::mismatch(folder.begin(), folder.end(), home.begin(), home.end()).first == folder.end();
+}
+
+} // namespace
+
 bool FileHelper::removeDirectory(const QString &path)
 {
     if (path.isEmpty())
         return false;
-    const QFileInfo info(path);
-    if (!info.isSymLink()) {
-        const QString canonical =
-            info.exists() ? info.canonicalFilePath() : QDir::cleanPath(info.absoluteFilePath());
-        const QString home = QFileInfo(QDir::homePath()).canonicalFilePath();
-        const QString below = canonical.endsWith(u'/') ? canonical : canonical + u'/';
-        if (QDir(canonical).isRoot() || (home + u'/').startsWith(below))
-            return false;
-    }
+    const std::filesystem::path folder = physicalPath(path);
+    if (folder.empty())
+        return true;
+    if (!folder.has_relative_path() || holdsHome(folder))
+        return false;
     std::error_code error;
-    std::filesystem::remove_all(info.filesystemAbsoluteFilePath(), error);
+    std::filesystem::remove_all(folder, error);
     return !error;
 }
-
-// --- Files ---
 
 bool FileHelper::writeFile(const QString &path, const QByteArray &bytes, QString *error)
 {
@@ -73,17 +92,22 @@ bool FileHelper::writeFile(const QString &path, const QByteArray &bytes, QString
     return file.commit(error);
 }
 
-bool FileHelper::variantToFile(const QVariant &value, const QString &path, bool compressed)
+bool FileHelper::variantToFile(const QVariant &value, const QString &path, bool compressed, QString *error)
 {
     QByteArray bytes;
-    if (!VariantStream::write(value, bytes))
+    if (!VariantStream::write(value, bytes)) {
+        if (error) {
+            *error = LocalizationHelper::coreString(u"The file \"%1\" cannot hold a value of its type."_s)
+                         .arg(QDir::toNativeSeparators(path));
+        }
         return false;
-    return writeFile(path, compressed ? qCompress(bytes) : bytes);
+    }
+    return writeFile(path, compressed ? qCompress(bytes) : bytes, error);
 }
 
 QVariant FileHelper::fileToVariant(const QString &path, bool *ok)
 {
-    constexpr qint64 mostBytes = qint64(256) << 20;
+    constexpr qint64 mostBytes = qint64(64) << 20;
     QVariant value;
     QFile file(path);
     bool good = file.open(QIODevice::ReadOnly) && file.size() <= mostBytes;
@@ -102,8 +126,6 @@ QString FileHelper::md5(const QString &path)
         return {};
     return QString::fromLatin1(hash.result().toHex());
 }
-
-// --- Images ---
 
 namespace {
 

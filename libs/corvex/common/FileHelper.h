@@ -25,7 +25,8 @@ public:
 
     //! Writes one value as the device reads it: a QDataStream of version Qt_4_7, big-endian, through
     //! qCompress when compressed. False for a value that this form cannot hold, too.
-    static bool variantToFile(const QVariant &value, const QString &path, bool compressed);
+    static bool variantToFile(const QVariant &value, const QString &path, bool compressed,
+                              QString *error = nullptr);
     //! Reads what variantToFile wrote, compressed or not. Takes values made of numbers, texts, bytes, dates,
     //! colours, points, sizes and rectangles, and lists and maps of these; any other file gives ok false.
     static QVariant fileToVariant(const QString &path, bool *ok = nullptr);

@@ -108,8 +108,8 @@ private:
 
     bool readEscape(QString &text)
     {
-        static constexpr QStringView letters = u"nrtabfv0\"'\\";
-        static constexpr QStringView meanings = u"\n\r\t\a\b\f\v\0\"'\\";
+        static constexpr QStringView letters = u"nrtabfv\"'\\";
+        static constexpr QStringView meanings = u"\n\r\t\a\b\f\v\"'\\";
         const QStringView rest = m_text.sliced(m_at + 1);
         if (rest.isEmpty())
             return fail(LocalizationHelper::coreString(u"a text is not closed"_s));
@@ -159,8 +159,12 @@ bool StringsFile::load(const QString &path, QString *error)
         return report(error, LocalizationHelper::coreString(u"The file \"%1\" cannot be read: %2"_s)
                                  .arg(name, file.errorString()));
     }
+    constexpr qint64 mostBytes = qint64(16) << 20;
+    if (file.size() > mostBytes)
+        return report(error,
+                      u"%1: %2"_s.arg(name, LocalizationHelper::coreString(u"The file is too large."_s)));
     QString problem;
-    if (!parse(file.readAll(), &problem))
+    if (!parse(file.read(mostBytes), &problem))
         return report(error, u"%1: %2"_s.arg(name, problem));
     return true;
 }

@@ -38,15 +38,31 @@ QVariant readNothing(QDataStream &stream)
 struct LeafType
 {
     quint32 number;
+    QMetaType::Type type;
     QVariant (*read)(QDataStream &stream);
 };
 
 constexpr LeafType leafTypes[] = {
-    {0, readNothing},           {1, readLeaf<bool>},       {2, readLeaf<int>},     {3, readLeaf<uint>},
-    {4, readLeaf<qlonglong>},   {5, readLeaf<qulonglong>}, {6, readLeaf<double>},  {10, readLeaf<QString>},
-    {12, readLeaf<QByteArray>}, {14, readLeaf<QDate>},     {15, readLeaf<QTime>},  {16, readLeaf<QDateTime>},
-    {19, readLeaf<QRect>},      {20, readLeaf<QRectF>},    {21, readLeaf<QSize>},  {22, readLeaf<QSizeF>},
-    {25, readLeaf<QPoint>},     {26, readLeaf<QPointF>},   {67, readLeaf<QColor>}, {135, readLeaf<float>},
+    {0, QMetaType::UnknownType, readNothing},
+    {1, QMetaType::Bool, readLeaf<bool>},
+    {2, QMetaType::Int, readLeaf<int>},
+    {3, QMetaType::UInt, readLeaf<uint>},
+    {4, QMetaType::LongLong, readLeaf<qlonglong>},
+    {5, QMetaType::ULongLong, readLeaf<qulonglong>},
+    {6, QMetaType::Double, readLeaf<double>},
+    {10, QMetaType::QString, readLeaf<QString>},
+    {12, QMetaType::QByteArray, readLeaf<QByteArray>},
+    {14, QMetaType::QDate, readLeaf<QDate>},
+    {15, QMetaType::QTime, readLeaf<QTime>},
+    {16, QMetaType::QDateTime, readLeaf<QDateTime>},
+    {19, QMetaType::QRect, readLeaf<QRect>},
+    {20, QMetaType::QRectF, readLeaf<QRectF>},
+    {21, QMetaType::QSize, readLeaf<QSize>},
+    {22, QMetaType::QSizeF, readLeaf<QSizeF>},
+    {25, QMetaType::QPoint, readLeaf<QPoint>},
+    {26, QMetaType::QPointF, readLeaf<QPointF>},
+    {67, QMetaType::QColor, readLeaf<QColor>},
+    {135, QMetaType::Float, readLeaf<float>},
 };
 
 class Reader
@@ -174,10 +190,30 @@ QByteArray uncompressed(const QByteArray &bytes, qint64 mostBytes, bool &ok)
     return result;
 }
 
+bool canHold(const QVariant &value)
+{
+    const auto all = [](const auto &values) { return std::all_of(values.begin(), values.end(), canHold); };
+    switch (value.typeId()) {
+    case QMetaType::QVariantMap:
+        return all(value.toMap());
+    case QMetaType::QVariantHash:
+        return all(value.toHash());
+    case QMetaType::QVariantList:
+        return all(value.toList());
+    case QMetaType::QStringList:
+        return true;
+    default:
+        return std::any_of(std::begin(leafTypes), std::end(leafTypes),
+                           [&value](const LeafType &leaf) { return leaf.type == value.typeId(); });
+    }
+}
+
 } // namespace
 
 bool write(const QVariant &value, QByteArray &bytes)
 {
+    if (!canHold(value))
+        return false;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     setForm(stream);
     stream << value;

@@ -127,10 +127,8 @@ bool pack(const QList<Entry> &entries, const QString &zipPath, const QString &co
     return writeSource(buffer.get(), zipPath, error);
 }
 
-// --- Reading ---
-
 constexpr zip_int64_t mostEntries = 100'000;
-constexpr quint64 mostBytes = quint64(4) << 30;
+constexpr quint64 mostUnpackedBytes = quint64(4) << 30;
 //! No honest deflate stream reaches more.
 constexpr quint64 mostGrowth = 1100;
 
@@ -179,6 +177,9 @@ bool isPlainFileOrFolder(zip_t *archive, zip_uint64_t index)
 bool isHarmless(zip_t *archive, const QString &zipPath, QString *error)
 {
     const zip_int64_t count = zip_get_num_entries(archive, 0);
+    if (count > mostEntries)
+        return fail(error, zipPath,
+                    LocalizationHelper::coreString(u"The archive would grow beyond measure."_s));
     QSet<QString> names;
     quint64 total = 0;
     for (zip_int64_t i = 0; i < count; ++i) {
@@ -188,7 +189,7 @@ bool isHarmless(zip_t *archive, const QString &zipPath, QString *error)
         if (zip_stat_index(archive, index, 0, &entry) != 0)
             return fail(error, zipPath, textOf(archive));
         total += entry.size;
-        if (count > mostEntries || entry.size > mostBytes || total > mostBytes
+        if (entry.size > mostUnpackedBytes || total > mostUnpackedBytes
             || entry.size / mostGrowth > entry.comp_size)
             return fail(error, zipPath,
                         LocalizationHelper::coreString(u"The archive would grow beyond measure."_s));
