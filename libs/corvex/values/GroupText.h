@@ -54,17 +54,21 @@ bool forEachEntry(QStringView text, Entry &&entry)
 //! their keys.
 void appendEntry(QString &group, QStringView key, QStringView value);
 
+//! What becomes of a text that has a key twice.
+enum class Repeated { LastCounts, Refused };
+
 //! Reads a text that consists of exactly the entries \a first and \a second, in any order, by handing each
 //! value to \a read(isSecond, value), which tells whether it could be read. Of a key that is repeated the
 //! last value counts, unless \a once refuses it.
 template<class Read>
-bool readTwo(QStringView text, QLatin1StringView first, QLatin1StringView second, bool once, Read &&read)
+bool readTwo(QStringView text, QLatin1StringView first, QLatin1StringView second, Repeated repeated,
+             Read &&read)
 {
     unsigned seen = 0;
     unsigned good = 0;
     const bool parsed = forEachEntry(text, [&](QStringView key, QStringView value) {
         const unsigned bit = key == first ? 1U : key == second ? 2U : 0U;
-        if (bit == 0 || (once && (seen & bit) != 0))
+        if (bit == 0 || (repeated == Repeated::Refused && (seen & bit) != 0))
             return false;
         seen |= bit;
         good = read(bit == 2, value) ? good | bit : good & ~bit;

@@ -8,8 +8,8 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! The name of an object, with the scope in which it is known ("Project", "Screen") and its class. The name is
-//! stored as it is given; whether it is a good name is for the validators of the model to say.
+//! The name of an object, with the scope in which it is known ("Project", "Screen") and its class. The name
+//! is stored as it is given; whether it is a good name is for the validators of the model to say.
 //!
 //! isUnique() and generateUniqueId() are defined where the model is known, in the room of the project.
 class IdentifierInfo

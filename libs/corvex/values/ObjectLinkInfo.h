@@ -36,8 +36,8 @@ public:
     //! The identifier is not empty.
     bool isValid() const { return !m_objectId.isEmpty(); }
 
-    //! The objects that the link can mean when it is held by \a from: those of its scope and classes that have
-    //! its identifier or, with \a anyObject, all of its scope and classes.
+    //! The objects that the link can mean when it is held by \a from: those of its scope and classes that
+    //! have its identifier or, with \a anyObject, all of its scope and classes.
     QList<DesignerObject *> findLinks(const DesignerObject *from, bool anyObject) const;
 
     friend bool operator==(const ObjectLinkInfo &, const ObjectLinkInfo &) = default;

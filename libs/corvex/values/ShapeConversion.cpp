@@ -93,11 +93,12 @@ bool readFontEntry(QFont &font, unsigned &seen, QStringView key, QStringView val
 //! Reads "a: 1; b: 2;" with both keys once.
 bool readRealPair(QStringView text, QLatin1StringView a, QLatin1StringView b, qreal &first, qreal &second)
 {
-    return GroupText::readTwo(text, a, b, true, [&](bool isSecond, QStringView value) {
-        bool ok = false;
-        (isSecond ? second : first) = ValueConversion::toReal(value, &ok);
-        return ok;
-    });
+    return GroupText::readTwo(text, a, b, GroupText::Repeated::Refused,
+                              [&](bool isSecond, QStringView value) {
+                                  bool ok = false;
+                                  (isSecond ? second : first) = ValueConversion::toReal(value, &ok);
+                                  return ok;
+                              });
 }
 
 //! Hands each part of a text in parts to \a read, trimmed, until one is refused.

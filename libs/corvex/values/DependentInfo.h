@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QSharedPointer>
+#include <QString>
+
+namespace Halvane::Corvex::Designer {
+
+class DesignerProperty;
+
+//! An object, by its identifier, and the properties that follow it.
+//!
+//! updateProperties() is defined where the model is known, in the room of the project.
+class DependentInfo
+{
+public:
+    DependentInfo() = default;
+    DependentInfo(const QString &objectId, const QList<QSharedPointer<DesignerProperty>> &properties)
+        : m_objectId(objectId)
+        , m_properties(properties)
+    { }
+
+    const QString &objectId() const { return m_objectId; }
+    void setObjectId(const QString &objectId) { m_objectId = objectId; }
+    const QList<QSharedPointer<DesignerProperty>> &properties() const { return m_properties; }
+    void setProperties(const QList<QSharedPointer<DesignerProperty>> &properties)
+    {
+        m_properties = properties;
+    }
+
+    //! Finds the properties again that follow the object, whose identifier is now \a text.
+    void updateProperties(const QString &text);
+
+    friend bool operator==(const DependentInfo &, const DependentInfo &) = default;
+
+private:
+    QString m_objectId;
+    QList<QSharedPointer<DesignerProperty>> m_properties;
+};
+
+} // namespace Halvane::Corvex::Designer

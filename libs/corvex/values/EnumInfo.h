@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMetaEnum>
+#include <QString>
+#include <QStringView>
+
+namespace Halvane::Corvex::Designer {
+
+//! A value of an enumeration that the meta-object system knows. Its text form is the key of the value.
+class EnumInfo
+{
+public:
+    EnumInfo() = default;
+    EnumInfo(const QMetaEnum &enumerator, int value);
+    //! The value that a key of the enumeration names; an unknown key leaves 0.
+    EnumInfo(const QMetaEnum &enumerator, QStringView key, bool *ok);
+
+    const QMetaEnum &enumerator() const { return m_enumerator; }
+    void setEnumerator(const QMetaEnum &enumerator) { m_enumerator = enumerator; }
+    int value() const { return m_value; }
+    void setValue(int value) { m_value = value; }
+
+    //! The value is one of the enumeration.
+    bool isValid() const { return valueIsValid(m_value); }
+    bool valueIsValid(int value) const;
+    bool keyIsValid(QStringView key) const;
+    //! -1 and false of a key that the enumeration does not have.
+    int keyToValue(QStringView key, bool *ok = nullptr) const;
+    QString valueToKey(int value) const;
+    //! The key at a place of the enumeration, in the order of its declaration.
+    QString key(int index) const;
+    //! The key that a text means, which is a key or the number of a value; empty when it means none.
+    QString keyOf(QStringView text) const;
+
+    //! The key of the value, empty when the value is not one of the enumeration.
+    QString valueString() const { return valueToKey(m_value); }
+    QString toString() const { return valueString(); }
+
+    //! The same value of the same enumeration.
+    friend bool operator==(const EnumInfo &a, const EnumInfo &b) { return a.equals(b); }
+
+private:
+    bool equals(const EnumInfo &other) const;
+
+    QMetaEnum m_enumerator;
+    int m_value = 0;
+};
+
+} // namespace Halvane::Corvex::Designer

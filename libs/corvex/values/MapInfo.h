@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QPair>
+#include <QString>
+#include <QStringList>
+#include <QStringView>
+
+namespace Halvane::Corvex::Designer {
+
+//! Pairs of key and value in the order in which they were added. A key may occur more than once; where one
+//! value is asked for, the one added last is meant. Two maps are equal when their pairs are, in order.
+class MapInfo
+{
+public:
+    using Entry = QPair<QString, QString>;
+    using const_iterator = QList<Entry>::const_iterator;
+
+    MapInfo() = default;
+    //! "key: 1; value: On; | key: 0; value: Off;". Refuses the empty text, as the other records do.
+    explicit MapInfo(QStringView text, bool *ok = nullptr);
+
+    //! Adds a pair at the end, also when the key is there already.
+    void insert(const QString &key, const QString &value) { m_entries.append({key, value}); }
+    //! Removes all pairs of the key and tells how many there were.
+    qsizetype remove(const QString &key);
+    //! Removes the pair of the key that was added last and gives its value.
+    QString take(const QString &key);
+    void clear() { m_entries.clear(); }
+
+    //! The first key that has the value.
+    QString key(const QString &value, const QString &defaultKey = {}) const;
+    QString value(const QString &key, const QString &defaultValue = {}) const;
+    //! All values of the key, in order.
+    QStringList values(const QString &key) const;
+    QString operator[](const QString &key) const { return value(key); }
+    //! Adds the key with an empty value when it is not there.
+    QString &operator[](const QString &key);
+    bool contains(const QString &key) const { return lastIndexOf(key) >= 0; }
+
+    qsizetype count() const { return m_entries.size(); }
+    qsizetype count(const QString &key) const;
+    qsizetype size() const { return m_entries.size(); }
+    bool isEmpty() const { return m_entries.isEmpty(); }
+    QStringList keys() const;
+    QStringList values() const;
+    const_iterator begin() const { return m_entries.cbegin(); }
+    const_iterator end() const { return m_entries.cend(); }
+    const QList<Entry> &toList() const { return m_entries; }
+
+    MapInfo &operator<<(const QMap<QString, QString> &map);
+    MapInfo &operator<<(const MapInfo &map);
+    MapInfo &operator<<(const Entry &entry);
+    //! Keys and values taken pairwise, as long as both last.
+    MapInfo &operator<<(const QPair<QStringList, QStringList> &keysAndValues);
+
+    //! Separators inside keys and values are escaped (see NestedText).
+    QString toString() const;
+
+    friend bool operator==(const MapInfo &, const MapInfo &) = default;
+
+private:
+    qsizetype lastIndexOf(const QString &key) const;
+
+    QList<Entry> m_entries;
+};
+
+} // namespace Halvane::Corvex::Designer

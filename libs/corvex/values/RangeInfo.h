@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace Halvane::Corvex::Designer {
+
+//! The limits between which a value may lie.
+class RangeInfo
+{
+public:
+    RangeInfo() = default;
+    RangeInfo(double minimum, double maximum);
+    //! "maximum: 100; minimum: 0;"
+    explicit RangeInfo(QStringView text, bool *ok = nullptr);
+
+    double minimum() const { return m_minimum; }
+    void setMinimum(double minimum) { m_minimum = minimum; }
+    double maximum() const { return m_maximum; }
+    void setMaximum(double maximum) { m_maximum = maximum; }
+
+    QString toString() const;
+    //! The minimum is not above the maximum.
+    bool isValid() const { return m_minimum <= m_maximum; }
+
+    friend bool operator==(const RangeInfo &, const RangeInfo &) = default;
+
+private:
+    double m_minimum = 0;
+    double m_maximum = 0;
+};
+
+} // namespace Halvane::Corvex::Designer
