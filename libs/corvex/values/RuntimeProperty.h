@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/common/EnumHelper.h"
+
+#include <QString>
+
+namespace Halvane::Corvex::Designer {
+
+//! A property of an element that the device can read or write while it runs. The property's name is the key
+//! of the record.
+class RuntimeProperty
+{
+public:
+    using VariableType = Common::EnumHelper::VariableType;
+    using VariableAccessMode = Common::EnumHelper::VariableAccessMode;
+
+    RuntimeProperty() = default;
+    RuntimeProperty(const QString &property, const QString &displayName, VariableType type,
+                    VariableAccessMode accessMode, const QString &description);
+    //! Shown under its own name, without a description.
+    RuntimeProperty(const QString &property, VariableType type, VariableAccessMode accessMode);
+
+    const QString &property() const { return m_property; }
+    void setProperty(const QString &property) { m_property = property; }
+    const QString &displayName() const { return m_displayName; }
+    void setDisplayName(const QString &displayName) { m_displayName = displayName; }
+    VariableType type() const { return m_type; }
+    void setType(VariableType type) { m_type = type; }
+    VariableAccessMode accessMode() const { return m_accessMode; }
+    void setAccessMode(VariableAccessMode accessMode) { m_accessMode = accessMode; }
+    const QString &description() const { return m_description; }
+    void setDescription(const QString &description) { m_description = description; }
+
+    //! The type is an integer, a floating number, or a number of either kind.
+    bool isNumber() const;
+    //! The same property, type and access mode; what is shown to the user does not matter.
+    bool isSimilar(const RuntimeProperty &other) const;
+
+    friend bool operator==(const RuntimeProperty &, const RuntimeProperty &) = default;
+
+private:
+    QString m_property;
+    QString m_displayName;
+    QString m_description;
+    VariableType m_type = Common::EnumHelper::NoVariable;
+    VariableAccessMode m_accessMode = Common::EnumHelper::NoAccess;
+};
+
+} // namespace Halvane::Corvex::Designer
