@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace Halvane::Corvex::Designer {
+
+//! One change of an action: a property of an element gets a value.
+class PropertyChangeInfo
+{
+public:
+    PropertyChangeInfo() = default;
+    PropertyChangeInfo(const QString &elementName, const QString &propertyName, const QString &valueString);
+    //! "elementName: label1; propertyName: text; valueString: SGVsbG8=;", the value in Base64.
+    explicit PropertyChangeInfo(QStringView text, bool *ok = nullptr);
+
+    const QString &elementName() const { return m_elementName; }
+    void setElementName(const QString &name) { m_elementName = name; }
+    const QString &propertyName() const { return m_propertyName; }
+    void setPropertyName(const QString &name) { m_propertyName = name; }
+    const QString &valueString() const { return m_valueString; }
+    void setValueString(const QString &valueString) { m_valueString = valueString; }
+
+    QString toString() const;
+    //! Element and property have names.
+    bool isValid() const { return !m_elementName.isEmpty() && !m_propertyName.isEmpty(); }
+
+    friend bool operator==(const PropertyChangeInfo &, const PropertyChangeInfo &) = default;
+
+private:
+    QString m_elementName;
+    QString m_propertyName;
+    QString m_valueString;
+};
+
+} // namespace Halvane::Corvex::Designer

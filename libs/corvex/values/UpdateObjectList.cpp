@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/values/UpdateObjectList.h"
+
+#include "corvex/values/NestedText.h"
+
+#include <QStringTokenizer>
+
+#include <algorithm>
+
+namespace Halvane::Corvex::Designer {
+
+using namespace Qt::StringLiterals;
+
+UpdateObjectList::UpdateObjectList(QStringView text, bool *ok)
+{
+    text = text.trimmed();
+    bool parsed = !text.isEmpty();
+    for (QStringView item : qTokenize(text, u'|')) {
+        item = item.trimmed();
+        if (item.isEmpty() || item == NestedText::loneEmptyItem)
+            append(UpdateObjectInfo());
+        else
+            append(UpdateObjectInfo(item, &parsed));
+        if (!parsed)
+            break;
+    }
+    if (!parsed)
+        clear();
+    if (ok)
+        *ok = parsed;
+}
+
+QString UpdateObjectList::toString() const
+{
+    QString text;
+    for (qsizetype i = 0; i < size(); ++i)
+        text.append(i == 0 ? ""_L1 : " | "_L1).append(at(i).toString());
+    return size() == 1 && text.isEmpty() ? NestedText::loneEmptyItem.toString() : text;
+}
+
+bool UpdateObjectList::isValid() const
+{
+    return std::all_of(begin(), end(), [](const UpdateObjectInfo &item) { return item.isValid(); });
+}
+
+} // namespace Halvane::Corvex::Designer
