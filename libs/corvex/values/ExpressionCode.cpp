@@ -304,11 +304,16 @@ bool ExpressionCode::appendAssignment(QString &code, const Info &target, const I
 QString ExpressionCode::parserString(const Info &term)
 {
     const QString &value = term.value();
+    QString text;
     if (term.valueType() == Info::FunctionValue)
-        return value + ((Words::setsOf(value) & Words::CompleteFunctions) ? "()"_L1 : "("_L1);
-    if (term.valueType() == Info::ConstantValue && term.dataType() == Info::StringData)
-        return u'"' + Common::TextHelper::toQmlValueString(value) + u'"';
-    return value;
+        text = value + ((Words::setsOf(value) & Words::CompleteFunctions) != 0 ? "()"_L1 : "("_L1);
+    else if (term.valueType() != Info::ConstantValue)
+        text = value;
+    else if (term.dataType() == Info::StringData)
+        text = u'"' + Common::TextHelper::toQmlValueString(value) + u'"';
+    else
+        appendNumeral(text, value);
+    return text;
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -19,7 +19,7 @@ public:
     using const_iterator = QList<GeneralDataInfo>::const_iterator;
 
     //! What a list is checked and translated as. Any other number is answered with false and with no code.
-    enum InfoType {
+    enum InfoType : int {
         GeneralExpression = 0,
         AssignExpression = 1,
         BoolExpression = 2,
