@@ -18,11 +18,16 @@ DesignerObject::DesignerObject(QObject *parent)
     , d(std::make_unique<Data>())
 { }
 
-DesignerObject::~DesignerObject()
+void DesignerObject::deleteChildren()
 {
     for (const SharedProperty &property : std::as_const(d->properties)) {
         qDeleteAll(property->releaseChildren());
     }
+}
+
+DesignerObject::~DesignerObject()
+{
+    deleteChildren();
     for (DesignerProperty *list : std::as_const(d->lists)) {
         list->forgetItem(this);
     }
@@ -42,8 +47,13 @@ bool DesignerObject::initializeProperties()
         return false;
     }
     d->id = d->properties.constLast();
-    static_cast<IdentifierProperty &>(*d->id).setInitialName(baseName());
+    static_cast<IdentifierProperty &>(*d->id).setInitialValue({baseName(), {}, {}});
     return true;
+}
+
+void DesignerObject::registerIdentifier(const QString &scopeType)
+{
+    static_cast<IdentifierProperty &>(*d->id).setInitialValue({baseName(), scopeType, className()});
 }
 
 void DesignerObject::addProperty(const SharedProperty &property)

@@ -243,6 +243,15 @@ protected:
     //! Runs when all properties have been read, before validation.
     virtual void finishReading();
 
+    /*! Gives a new object its identifier: the base name, known in \a scopeType ("Project", "Screen"), of the
+        object's class. For initializeProperties(). */
+    void registerIdentifier(const QString &scopeType);
+    //! Runs as soon as the object bears another name, before afterPropertyChanged(); the place to keep
+    //! indexes.
+    virtual void nameTaken(const QString &oldName);
+    //! For the destructor of a class whose children need it whole: deletes them before it goes.
+    void deleteChildren();
+
     //! Adds a property that is not in a table.
     void addProperty(const SharedProperty &property);
     /*! Adds one property for each row. A row with the id of a property that is there already describes that

@@ -40,6 +40,8 @@ void DesignerObject::afterListItemRemoved(const DesignerProperty *, const Design
 
 void DesignerObject::afterListPropertyChanged() { }
 
+void DesignerObject::nameTaken(const QString &) { }
+
 bool DesignerObject::changePropertyValue(const SharedProperty &property, const QString &newValue)
 {
     return changeValue(property, newValue) != ValueChange::Refused;
@@ -117,10 +119,11 @@ void DesignerObject::revalidate(const SharedProperty &property)
 void DesignerObject::takeNewName(const QString &oldValue)
 {
     setObjectName(getIdName());
-    const QString oldName = IdentifierInfo(oldValue, nullptr).name();
+    const QString oldName = IdentifierInfo(oldValue).name();
     for (DesignerProperty *list : std::as_const(d->lists)) {
         list->items().rekey(oldName, this);
     }
+    nameTaken(oldName);
 }
 
 void DesignerObject::announceNewName(const QString &oldValue, const QString &newValue)

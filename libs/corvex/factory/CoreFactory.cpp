@@ -47,6 +47,19 @@ constexpr struct
 
 using Maker = DesignerObject *(*)(QObject *parent);
 
+//! Opens the protected constructor of a model class to the factory.
+template<class Object>
+DesignerObject *make(QObject *parent)
+{
+    struct Made : public Object
+    {
+        explicit Made(QObject *owner)
+            : Object(owner)
+        { }
+    };
+    return new Made(parent);
+}
+
 //! How the objects that createObject() accepts are made.
 const QHash<QString, Maker> &makers()
 {

@@ -15,13 +15,6 @@ IdentifierProperty::IdentifierProperty(DesignerObject *parent, const QString &id
     setFlags(StoredFlag);
 }
 
-void IdentifierProperty::setInitialName(const QString &name)
-{
-    IdentifierInfo info = value();
-    info.setName(name);
-    setValue(info);
-}
-
 QString IdentifierProperty::convertToQml(int indent) const
 {
     return QmlText::line(indent, id(), QmlText::reference(value().name()));

@@ -16,7 +16,7 @@ public:
                        const IdentifierInfo &initialValue);
 
     //! For an object that is being made; later names go through the object.
-    void setInitialName(const QString &name);
+    void setInitialValue(const IdentifierInfo &info) { setValue(info); }
 
 protected:
     using TypedProperty::TypedProperty;

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace Halvane::Corvex::Designer {
+
+class DesignerObject;
+class DesignerProperty;
+
+/*! The validators that need to see more of the model than the property that they judge. Tables of all floors
+    name them; they are defined in the room of the project, where the model is known. */
+class PropertyValidators
+{
+public:
+    /*! The name of a project variable, a screen or an element: format, length, reserved words and everything
+       that it must differ from. Tells the first failure. */
+    static bool identifierElementValidator(const DesignerProperty *property, QString &error);
+    //! The link of a function element: it names a visual element of the element's screen.
+    static bool visualElementValidator(const DesignerProperty *property, QString &error);
+    //! The channel of a digital output: no other element of the screen has it.
+    static bool digitalChannelValidator(const DesignerProperty *property, QString &error);
+    static bool pwmChannelValidator(const DesignerProperty *property, QString &error);
+    //! The members of a group: at least two, all of them valid.
+    static bool groupElementsValidator(const DesignerProperty *property, QString &error);
+    //! The order of the members of a group: each of them once.
+    static bool groupIndexesValidator(const DesignerProperty *property, QString &error);
+    //! The elements of a screen: at least one.
+    static bool screenElementsValidator(const DesignerProperty *property, QString &error);
+    //! The screens of a project: at least one.
+    static bool projectScreensValidator(const DesignerProperty *property, QString &error);
+};
+
+} // namespace Halvane::Corvex::Designer
