@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/FileObject.h"
+
+#include "corvex/common/LocalizationHelper.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! A translated text with its one or two placeholders filled.
+QString message(const QString &english, const QString &first, const QString &second = {})
+{
+    const QString text = Common::LocalizationHelper::coreString(english);
+    return second.isNull() ? text.arg(first) : text.arg(first, second);
+}
+
+//! Whether the name stays in its folder on every system.
+bool isSingleName(const QString &name)
+{
+    return name != "."_L1 && name != ".."_L1 && !name.contains(u'/') && !name.contains(u'\\')
+           && !name.contains(QChar::Null);
+}
+
+bool isThere(const QString &path)
+{
+    const QFileInfo info(path);
+    // A link that leads nowhere does not "exist" and still takes the name.
+    return info.exists() || info.isSymLink();
+}
+
+bool renameEntry(const QString &folder, const QString &from, const QString &to)
+{
+    return from == to || QDir(folder).rename(from, to);
+}
+
+} // namespace
+
+QString FileObject::baseName() const
+{
+    return u"File"_s;
+}
+
+QString FileObject::displayName() const
+{
+    return u"File Object"_s;
+}
+
+QString FileObject::createSubPath() const
+{
+    return {};
+}
+
+QString FileObject::createFullFilePath(const QString &parentPath, const QString &subPath,
+                                       const QString &fileName)
+{
+    if (parentPath.isEmpty() || fileName.isEmpty() || !QFileInfo(parentPath).isDir() || !isSingleName(subPath)
+        || !isSingleName(fileName)) {
+        return {};
+    }
+    return subPath.isEmpty() ? u"%1/%2"_s.arg(parentPath, fileName)
+                             : u"%1/%2/%3"_s.arg(parentPath, subPath, fileName);
+}
+
+void FileObject::setFileFields(const QString &parentPath, const QString &subPath, const QString &fileName)
+{
+    m_parentPath = parentPath;
+    m_subPath = subPath;
+    m_fileName = fileName;
+    m_fullFilePath = createFullFilePath(parentPath, subPath, fileName);
+    afterFileFieldsChanged();
+}
+
+void FileObject::resetFileFields()
+{
+    setFileFields({}, {}, {});
+}
+
+void FileObject::afterFileFieldsChanged() { }
+
+QString FileObject::folderPath() const
+{
+    return m_fullFilePath.isEmpty() ? QString() : QFileInfo(m_fullFilePath).path();
+}
+
+bool FileObject::finish(const QString &error)
+{
+    m_fileError = error;
+    return error.isEmpty();
+}
+
+bool FileObject::fileExists(const QString &path) const
+{
+    const QString file = createFullFilePath(path, createSubPath(), createFileName());
+    return !file.isEmpty() && isThere(file);
+}
+
+bool FileObject::createFile(const QString &path)
+{
+    const QString sub = createSubPath();
+    const QString file = createFullFilePath(path, sub, createFileName());
+    if (file.isEmpty()) {
+        return finish(QFileInfo(path).isDir()
+                          ? message(u"\"%1\" cannot be the name of a file."_s, getIdName())
+                          : message(u"The folder \"%1\" does not exist."_s, path));
+    }
+    if (isThere(file)) {
+        return finish(message(u"The file \"%1\" exists already."_s, file));
+    }
+    const QDir parent(path);
+    const bool makesFolder = !sub.isEmpty() && !parent.exists(sub);
+    if (makesFolder && !parent.mkdir(sub)) {
+        return finish(message(u"The folder \"%1\" cannot be made."_s, parent.filePath(sub)));
+    }
+    if (!saveToFile(this, file, &m_fileError)) {
+        if (makesFolder) {
+            parent.rmdir(sub);
+        }
+        return false;
+    }
+    setFileFields(parent.absolutePath(), sub, createFileName());
+    return finish({});
+}
+
+bool FileObject::loadFile(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.isFile()) {
+        m_readNotes.clear();
+        resetFileFields();
+        return finish(info.exists() ? message(u"\"%1\" is not a file."_s, path)
+                                    : message(u"The file \"%1\" does not exist."_s, path));
+    }
+    // The object is validated as soon as it is read, and what lies beside its file is looked up then.
+    const QFileInfo folder(info.absolutePath());
+    if (createSubPath().isEmpty() || folder.fileName().isEmpty()) {
+        setFileFields(folder.filePath(), {}, info.fileName());
+    } else {
+        setFileFields(folder.path(), folder.fileName(), info.fileName());
+    }
+    if (!readFile(path)) {
+        resetFileFields();
+        return false;
+    }
+    return true;
+}
+
+bool FileObject::readFile(const QString &path)
+{
+    m_readNotes.clear();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return finish(message(u"The file \"%1\" cannot be read: %2"_s, path, file.errorString()));
+    }
+    ObjectXmlReader reader(&file);
+    const bool done = reader.read(this);
+    m_readNotes = reader.notes();
+    return finish(done ? QString()
+                       : u"%1:%2:%3: %4"_s.arg(path, QString::number(reader.errorLine()),
+                                               QString::number(reader.errorColumn()), reader.errorString()));
+}
+
+bool FileObject::saveFile()
+{
+    if (m_fullFilePath.isEmpty() || !QFileInfo(m_fullFilePath).isFile()) {
+        return finish(message(u"The file \"%1\" does not exist."_s, m_fullFilePath));
+    }
+    return saveToFile(this, m_fullFilePath, &m_fileError);
+}
+
+bool FileObject::renameFile(const QString &oldName, const QString &newName)
+{
+    if (m_fullFilePath.isEmpty() || !QFileInfo(m_fullFilePath).isFile()) {
+        return finish(message(u"The file \"%1\" does not exist."_s, m_fullFilePath));
+    }
+    const QFileInfo old(m_fileName);
+    const QString sub = !m_subPath.isEmpty() && m_subPath == oldName ? newName : m_subPath;
+    const QString file =
+        old.completeBaseName() == oldName ? newName + m_fileName.mid(oldName.size()) : m_fileName;
+    if (newName.isEmpty() || createFullFilePath(m_parentPath, sub, file).isEmpty()) {
+        return finish(message(u"\"%1\" cannot be the name of a file."_s, newName));
+    }
+    const QString folder = folderPath();
+    for (const QString &target : {sub == m_subPath ? QString() : m_parentPath + u'/' + sub,
+                                  file == m_fileName ? QString() : folder + u'/' + file}) {
+        if (!target.isEmpty() && isThere(target)) {
+            return finish(message(u"The file \"%1\" exists already."_s, target));
+        }
+    }
+    if (!renameEntry(folder, m_fileName, file)) {
+        return finish(message(u"The file \"%1\" cannot be renamed."_s, m_fullFilePath));
+    }
+    if (!renameEntry(m_parentPath, m_subPath, sub)) {
+        renameEntry(folder, file, m_fileName);
+        return finish(message(u"The folder \"%1\" cannot be renamed."_s, folder));
+    }
+    setFileFields(m_parentPath, sub, file);
+    return finish({});
+}
+
+bool FileObject::deleteFile()
+{
+    if (m_fullFilePath.isEmpty() || !QFile::remove(m_fullFilePath)) {
+        return finish(message(u"The file \"%1\" cannot be deleted."_s, m_fullFilePath));
+    }
+    if (!m_subPath.isEmpty() && m_subPath == createSubPath()) {
+        QDir(m_parentPath).rmdir(m_subPath); // fails, as it should, when the user keeps more in it
+    }
+    resetFileFields();
+    return finish({});
+}
+
+} // namespace Halvane::Corvex::Designer
