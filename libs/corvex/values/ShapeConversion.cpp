@@ -44,8 +44,8 @@ bool readFontLength(QFont &font, QStringView value)
 
 bool readFamily(QFont &font, QStringView value)
 {
-    bool ok = value.isEmpty();
-    font.setFamily(ok ? QString() : Common::TextHelper::convertFromBase64(value.toString(), &ok));
+    bool ok = false;
+    font.setFamily(Common::TextHelper::convertFromBase64(value.toString(), &ok));
     return ok;
 }
 

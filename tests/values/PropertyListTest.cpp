@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/values/PropertyList.h"
+
+#include "values/NastyText.h"
+
+#include <gtest/gtest.h>
+
+using namespace Halvane::Corvex::Designer;
+
+namespace {
+
+PropertyChangeInfo change(const QString &element, const QString &property, const QString &value = {})
+{
+    return {element, property, value};
+}
+
+//! "b.x c.y": the pairs in order.
+QString pairs(const PropertyList &list)
+{
+    QStringList pairs;
+    for (const PropertyChangeInfo &change : list)
+        pairs << change.elementName() + u'.' + change.propertyName();
+    return pairs.join(u' ');
+}
+
+PropertyList sample()
+{
+    PropertyList list;
+    list << QList{change(u"b"_s, u"y"_s), change(u"a"_s, u"x"_s), change(u"b"_s, u"x"_s),
+                  change(u"c"_s, u"x"_s)};
+    return list;
+}
+
+} // namespace
+
+TEST(PropertyChangeInfo, Text)
+{
+    EXPECT_EQ(change(u"label1"_s, u"text"_s, u"Hello"_s).toString(),
+              u"elementName: label1; propertyName: text; valueString: SGVsbG8=;"_s);
+    const QString bad[] = {
+        u"elementName: a; propertyName: b;"_s,
+        u"elementName: a; valueString: SGVsbG8=;"_s,
+        u"elementName: a; propertyName: b; valueString: Hello;"_s,
+        u"elementName: a; propertyName: b; valueString: x: y; z"_s,
+        u"elementName: a; propertyName: b; valueString: ; screen: c"_s,
+        u""_s,
+    };
+    for (const QString &text : bad) {
+        bool ok = true;
+        EXPECT_EQ(PropertyChangeInfo(text, &ok), PropertyChangeInfo()) << text.toStdString();
+        EXPECT_FALSE(ok) << text.toStdString();
+    }
+}
+
+TEST(PropertyList, AppendKeepsTheFirstOfAPairInOrder)
+{
+    PropertyList list;
+    list << change(u"label1"_s, u"text"_s, u"A"_s) << change(u"label1"_s, u"text"_s, u"B"_s)
+         << change(u""_s, u"text"_s) << change(u"label1"_s, u""_s) << change(u"label1"_s, u"color"_s)
+         << change(u"Label2"_s, u"z"_s);
+    EXPECT_EQ(pairs(list), u"Label2.z label1.color label1.text"_s);
+    EXPECT_EQ(list.value(u"label1"_s, u"text"_s).valueString(), u"A"_s);
+
+    list << sample() << list;
+    EXPECT_EQ(pairs(list), u"Label2.z a.x b.x b.y c.x label1.color label1.text"_s);
+    EXPECT_EQ(list.elements().join(u' '), u"Label2 a b c label1"_s);
+    PropertyList flat;
+    for (const auto &changes : list.toMap())
+        flat << changes.values();
+    EXPECT_EQ(flat, list);
+}
+
+TEST(PropertyList, LookUp)
+{
+    const PropertyList list = sample();
+    EXPECT_EQ(list.indexOf(u"b"_s, u"y"_s), 2);
+    EXPECT_TRUE(list.contains(change(u"b"_s, u"y"_s, u"another value"_s)));
+    EXPECT_EQ(list.indexOf(u"b"_s, u"z"_s), -1);
+    EXPECT_EQ(list.indexOf(u""_s, u""_s), -1);
+    EXPECT_EQ(list.values(u"b"_s), QList({change(u"b"_s, u"x"_s), change(u"b"_s, u"y"_s)}));
+    EXPECT_EQ(list.count(u"b"_s), 2);
+    EXPECT_TRUE(list.isEmpty(u"bb"_s));
+    EXPECT_TRUE(list.isEmpty(u"d"_s));
+    EXPECT_EQ(list.value(u"d"_s, u"x"_s), PropertyChangeInfo());
+}
+
+TEST(PropertyList, Replace)
+{
+    PropertyList list = sample();
+    EXPECT_FALSE(list.replace(u"b"_s, u"z"_s, change(u"b"_s, u"z"_s)));
+    EXPECT_FALSE(list.replace(u"b"_s, u"x"_s, change(u"b"_s, u"y"_s)));
+    EXPECT_FALSE(list.replace(u"b"_s, u"x"_s, change(u""_s, u"x"_s)));
+    EXPECT_FALSE(list.replace(4, change(u"d"_s, u"x"_s)));
+    EXPECT_FALSE(list.replace(-1, change(u"d"_s, u"x"_s)));
+    EXPECT_FALSE(list.replace(u"d"_s, {change(u"d"_s, u"x"_s)}));
+    EXPECT_FALSE(list.replace(u"b"_s, {change(u"d"_s, u"x"_s), change(u"d"_s, u"x"_s)}));
+    EXPECT_FALSE(list.replace(u"b"_s, {change(u"d"_s, u"x"_s), change(u"a"_s, u"x"_s)}));
+    EXPECT_FALSE(list.replace(u"b"_s, {change(u"d"_s, u""_s)}));
+    EXPECT_EQ(list, sample());
+
+    EXPECT_TRUE(list.replace(3, change(u"c"_s, u"x"_s, u"new"_s)));
+    EXPECT_EQ(list.at(3).valueString(), u"new"_s);
+    EXPECT_TRUE(list.replace(u"a"_s, u"x"_s, change(u"d"_s, u"x"_s)));
+    EXPECT_EQ(pairs(list), u"b.x b.y c.x d.x"_s);
+    EXPECT_TRUE(list.replace(u"b"_s, {change(u"e"_s, u"y"_s), change(u"b"_s, u"x"_s, u"kept"_s)}));
+    EXPECT_EQ(pairs(list), u"b.x c.x d.x e.y"_s);
+    EXPECT_EQ(list[0].valueString(), u"kept"_s);
+}
+
+TEST(PropertyList, RemoveAndTake)
+{
+    PropertyList list = sample();
+    EXPECT_EQ(list.remove(u"b"_s, u"z"_s), 0);
+    EXPECT_EQ(list.remove(u"b"_s, u"x"_s), 1);
+    EXPECT_FALSE(list.remove(change(u"b"_s, u"x"_s)));
+    EXPECT_TRUE(list.remove(change(u"b"_s, u"y"_s, u"any value"_s)));
+    EXPECT_EQ(list.take(2), PropertyChangeInfo());
+    EXPECT_EQ(list.take(0), change(u"a"_s, u"x"_s));
+    EXPECT_EQ(list.take(u"c"_s, u"y"_s), PropertyChangeInfo());
+    EXPECT_EQ(list.take(u"c"_s, u"x"_s), change(u"c"_s, u"x"_s));
+    EXPECT_TRUE(list.isEmpty());
+
+    list = sample();
+    EXPECT_EQ(list.take(u"b"_s).size(), 2);
+    list.clear(u"c"_s);
+    EXPECT_EQ(list.take(u"x"_s).size(), 0);
+    EXPECT_EQ(pairs(list), u"a.x"_s);
+}
+
+TEST(PropertyList, ReadsBackWhatItPrints)
+{
+    NastyText nasty(5);
+    for (int turn = 0; turn < 2000; ++turn) {
+        PropertyList list;
+        for (int length = nasty.number(4); length >= 0; --length)
+            list << change(u"e"_s + nasty.text(), nasty.text() + u'p', nasty.text());
+        bool ok = false;
+        ASSERT_EQ(PropertyList(list.toString(), &ok), list) << list.toString().toStdString();
+        ASSERT_TRUE(ok);
+    }
+    bool ok = true;
+    EXPECT_TRUE(PropertyList(sample().toString() + u" | "_s, &ok).isEmpty());
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(PropertyList().toString(), QString());
+}

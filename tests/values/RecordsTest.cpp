@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/EnumHelper.h"
+#include "corvex/values/BorderInfo.h"
+#include "corvex/values/CanvasPosition.h"
+#include "corvex/values/EnumInfo.h"
+#include "corvex/values/IdentifierInfo.h"
+#include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/values/RangeInfo.h"
+#include "corvex/values/ReceiveErrorInfo.h"
+#include "corvex/values/SendErrorInfo.h"
+#include "corvex/values/ValueRangeInfo.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace Halvane::Corvex::Designer;
+using Halvane::Corvex::Common::EnumHelper;
+
+namespace {
+
+struct Row
+{
+    QString text, expected;
+};
+
+//! Each text read as a record and printed again, or "refused", which leaves a default record behind.
+template<class Record, size_t Count>
+void expectCanonical(const Row (&rows)[Count])
+{
+    for (const auto &[text, expected] : rows) {
+        bool ok = false;
+        const Record record(text, &ok);
+        EXPECT_EQ(ok ? record.toString() : u"refused"_s, expected) << text.toStdString();
+        EXPECT_TRUE(ok || record == Record()) << text.toStdString();
+        EXPECT_EQ(record, Record(text)) << "without an ok";
+    }
+}
+
+} // namespace
+
+TEST(BorderInfo, Text)
+{
+    EXPECT_EQ(BorderInfo(2, Qt::red).toString(), u"color: #FFFF0000; width: 2;"_s);
+    EXPECT_EQ(BorderInfo().toString(), u"color: #FF000000; width: 0;"_s);
+    expectCanonical<BorderInfo>({{u"width: 3; color: #80ff0000"_s, u"color: #80FF0000; width: 3;"_s},
+                                 {u"width: 1; color: red; width: 2"_s, u"color: #FFFF0000; width: 2;"_s},
+                                 {u"width: -1; color: red"_s, u"color: #FFFF0000; width: -1;"_s},
+                                 {u"width: 3;"_s, u"refused"_s},
+                                 {u"width: 3; color: red; style: solid"_s, u"refused"_s},
+                                 {u"width: 3.5; color: red"_s, u"refused"_s},
+                                 {u"width: 3; color: reddish"_s, u"refused"_s},
+                                 {u"width: 1; color: red; width: a"_s, u"refused"_s},
+                                 {u""_s, u"refused"_s}});
+}
+
+TEST(RangeInfo, Text)
+{
+    EXPECT_EQ(RangeInfo(-0.5, 100).toString(), u"maximum: 100; minimum: -0.5;"_s);
+    expectCanonical<RangeInfo>({{u"minimum: 5; maximum: 1"_s, u"maximum: 1; minimum: 5;"_s},
+                                {u"minimum: 5"_s, u"refused"_s},
+                                {u"minimum: 5; maximum: inf"_s, u"refused"_s},
+                                {u"minimum: 5; Maximum: 7"_s, u"refused"_s}});
+}
+
+TEST(ValueRangeInfo, Text)
+{
+    EXPECT_EQ(ValueRangeInfo(0, 50, 0, 100).toString(), u"value1: 0, value2: 50, min: 0, max: 100"_s);
+    EXPECT_EQ(ValueRangeInfo(5, -1), ValueRangeInfo(5, -1, -1, 5));
+    expectCanonical<ValueRangeInfo>(
+        {{u" max:4,min :x"_s, u"refused"_s},
+         {u"max: 4, min: 3, value2: 2, value1: 1.5"_s, u"value1: 1.5, value2: 2, min: 3, max: 4"_s},
+         {u"value1: 1, value2: 2, min: 3, max : 4"_s, u"refused"_s},
+         {u"value1: 1, value2: 2, min: 3"_s, u"refused"_s},
+         {u"value1: 1, value2: 2, min: 3, min: 4"_s, u"refused"_s},
+         {u"value1: 1, value2: 2, min: 3, max: 4, "_s, u"refused"_s},
+         {u"value1: 1, value2: 2, min: 3, max: 4: 5"_s, u"refused"_s},
+         {u"value1: 1, value2: 2, min: 3, max: b"_s, u"refused"_s},
+         {u""_s, u"refused"_s}});
+}
+
+TEST(ErrorInfos, Text)
+{
+    EXPECT_EQ(SendErrorInfo(false, true).toString(), u"busy: false, offline: true"_s);
+    expectCanonical<SendErrorInfo>({{u"offline:TRUE,busy:false"_s, u"busy: false, offline: true"_s},
+                                    {u"busy: true"_s, u"refused"_s},
+                                    {u"busy: true, busy: true"_s, u"refused"_s},
+                                    {u"busy: true, offline: "_s, u"refused"_s}});
+    bool ok = false;
+    EXPECT_TRUE(SendErrorInfo(u"busy: true, offline: false", &ok).isBusy()) << "a literal is no boolean";
+
+    EXPECT_EQ(ReceiveErrorInfo(true, false, false, true).toString(),
+              u"name: true, value: false, type: false, dataFlow: true"_s);
+    expectCanonical<ReceiveErrorInfo>({{u"dataFlow: false, type: true, value: false, name: false"_s,
+                                        u"name: false, value: false, type: true, dataFlow: false"_s},
+                                       {u"name: true, value: true, type: true"_s, u"refused"_s}});
+}
+
+TEST(Records, Validity)
+{
+    EXPECT_TRUE(BorderInfo(0, Qt::black).isValid());
+    EXPECT_TRUE(BorderInfo(100, Qt::black).isValid());
+    EXPECT_FALSE(BorderInfo(101, Qt::black).isValid());
+    EXPECT_FALSE(BorderInfo(-1, Qt::black).isValid());
+    EXPECT_FALSE(BorderInfo(1, QColor()).isValid());
+    EXPECT_TRUE(RangeInfo(1, 1).isValid());
+    EXPECT_FALSE(RangeInfo(1.5, 1).isValid());
+    EXPECT_TRUE(ValueRangeInfo(10, 0, 0, 10).isValid());
+    EXPECT_FALSE(ValueRangeInfo(0, 10.5, 0, 10).isValid());
+    EXPECT_FALSE(ValueRangeInfo(-1, 5, 0, 10).isValid());
+    EXPECT_FALSE(CanvasPosition({}, {}, true) == CanvasPosition());
+}
+
+TEST(IdentifierInfo, Text)
+{
+    EXPECT_EQ(IdentifierInfo(u"speed"_s, u"Project"_s, u"NumberVariable"_s).toString(),
+              u"filterType: NumberVariable; name: speed; scopeType: Project;"_s);
+    EXPECT_EQ(IdentifierInfo(u""_s, u"Screen"_s, u""_s).toString(), u"scopeType: Screen;"_s);
+    expectCanonical<IdentifierInfo>(
+        {{u"name: a"_s, u"name: a;"_s},
+         {u"scopeType:S;colour:red;name:b;filterType:"_s, u"name: b; scopeType: S;"_s},
+         {u"name: %3B%1"_s, u"name: %3B%1;"_s},
+         {u"scopeType: Screen;"_s, u"refused"_s},
+         {u"name: a: b"_s, u"refused"_s},
+         {u"a"_s, u"refused"_s}});
+    bool ok = false;
+    EXPECT_FALSE(IdentifierInfo(u"name: ;", &ok).isValid());
+    EXPECT_TRUE(ok);
+}
+
+TEST(IdentifierInfo, GenerateId)
+{
+    EXPECT_EQ(IdentifierInfo::generateId(u"Label"_s, 3), u"Label3"_s);
+    EXPECT_EQ(IdentifierInfo::generateId(u"a%2"_s, 1), u"a%21"_s);
+    EXPECT_EQ(IdentifierInfo::generateId(QString(), 3), QString());
+}
+
+TEST(ObjectLinkInfo, Text)
+{
+    const ObjectLinkInfo link(u"label1"_s, u"Screen"_s, QStringList{u"Text"_s, u"Image"_s});
+    EXPECT_EQ(link.toString(), u"filterType: Text | Image; objectId: label1; scopeType: Screen;"_s);
+    EXPECT_EQ(ObjectLinkInfo(u"a"_s, QString(), QString()).filterType(), QStringList());
+    expectCanonical<ObjectLinkInfo>(
+        {{u"filterType:Text|Image||; objectId: a.png"_s, u"filterType: Text | Image; objectId: a.png;"_s},
+         {u"scopeType: Project"_s, u"filterType: ; objectId: ; scopeType: Project;"_s},
+         {ObjectLinkInfo().toString(), u"filterType: ; objectId: ;"_s},
+         {u"objectId: a; b"_s, u"refused"_s},
+         {u"; ;"_s, u"refused"_s},
+         {u""_s, u"refused"_s}});
+    EXPECT_EQ(ObjectLinkInfo(link.toString()), link);
+}
+
+TEST(EnumInfo, KeysAndValues)
+{
+    const QMetaEnum types = EnumHelper::metaEnum(u"InputOutputType"_s);
+    const EnumInfo info(types, EnumHelper::SEND);
+    EXPECT_EQ(info.toString(), u"SEND"_s);
+    EXPECT_TRUE(info.isValid());
+    EXPECT_EQ(info.key(EnumHelper::RECEIVE), u"RECEIVE"_s);
+    EXPECT_EQ(info.key(-1), QString());
+    EXPECT_EQ(info.key(1000), QString());
+    EXPECT_EQ(info.keyToValue(u"INPUT"), EnumHelper::INPUT);
+    EXPECT_EQ(info.keyToValue(u"input"), -1);
+    EXPECT_EQ(info.keyOf(u"1"), info.key(1));
+    EXPECT_EQ(info.keyOf(u"SEND"), u"SEND"_s);
+    EXPECT_EQ(info.keyOf(u"99"), QString());
+
+    bool ok = false;
+    EXPECT_EQ(EnumInfo(types, u"SEND", &ok), info);
+    EXPECT_TRUE(ok);
+    EXPECT_EQ(EnumInfo(types, u"NONE", &ok).value(), 0);
+    EXPECT_FALSE(ok);
+    EXPECT_FALSE(EnumInfo(types, 99).isValid());
+    EXPECT_FALSE(info == EnumInfo(EnumHelper::metaEnum(u"VariableType"_s), EnumHelper::SEND));
+
+    const EnumInfo none;
+    EXPECT_FALSE(none.isValid());
+    EXPECT_EQ(none.valueString() + none.key(0) + none.keyOf(u"0"), QString());
+    EXPECT_EQ(none, EnumInfo());
+}
