@@ -13,14 +13,15 @@ class IdentifierProperty : public TypedProperty<IdentifierInfo>
 
 public:
     IdentifierProperty(DesignerObject *parent, const QString &id, const QString &name,
-                       const IdentifierInfo &initialValue);
+                       const IdentifierInfo &initialValue)
+        : TypedProperty(parent, id, name, initialValue, StoredFlag, "IdentifierEditor")
+    { }
 
     //! For an object that is being made; later names go through the object.
     void setInitialValue(const IdentifierInfo &info) { setValue(info); }
 
 protected:
     using TypedProperty::TypedProperty;
-    QString convertToQml(int indent) const override;
 };
 
 } // namespace Halvane::Corvex::Designer

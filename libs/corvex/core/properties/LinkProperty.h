@@ -13,14 +13,16 @@ class LinkProperty : public TypedProperty<ObjectLinkInfo>
 
 public:
     LinkProperty(DesignerObject *parent, const QString &id, const QString &name,
-                 const ObjectLinkInfo &initialValue);
+                 const ObjectLinkInfo &initialValue)
+        : TypedProperty(parent, id, name, initialValue, PropertyFlags(StoredFlag) | EditableFlag | StateFlag,
+                        "LinkEditor")
+    { }
 
     //! The object that the link names, as seen from the owner of the property; null when there is none.
     DesignerObject *connectLink() const;
 
 protected:
     using TypedProperty::TypedProperty;
-    QString convertToQml(int indent) const override;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -14,6 +14,15 @@ struct TextForm
     static QString print(const Value &value) { return value.toString(); }
 };
 
+/*! Of a kind whose texts mean nothing by themselves: the key of an enumeration is read as one of the
+    enumeration that the value at hand belongs to. Its form is parse(text, current, ok), and it takes no text
+    as empty. */
+template<class Value>
+concept ReadsBesideCurrent = requires(const QString &text, const Value &current, bool *ok)
+{
+    TextForm<Value>::parse(text, current, ok);
+};
+
 template<>
 struct TextForm<QString>
 {

@@ -2,14 +2,15 @@
 #pragma once
 
 #include "corvex/core/DesignerProperty.h"
+#include "corvex/core/properties/QmlForm.h"
 #include "corvex/core/properties/TextForm.h"
 
 #include <optional>
 
 namespace Halvane::Corvex::Designer {
 
-/*! What all properties that hold a value of the C++ type \a Value have in common: the value, and its text by
-    TextForm<Value>.
+/*! What all properties that hold a value of the C++ type \a Value have in common: the value, its text by
+    TextForm<Value> and its QML by QmlForm<Value>.
 
     A text that no form can read counts as equal to every value, so that setting it changes nothing. The text
    that an empty value prints ("" or "]") reads as the empty value where the form itself refuses it: undo can
@@ -19,6 +20,7 @@ template<class Value>
 class TypedProperty : public DesignerProperty
 {
 public:
+    //! With the default editor and no flags.
     TypedProperty(DesignerObject *parent, const QString &id, const QString &name, const Value &initialValue)
         : DesignerProperty(parent, id, name)
         , m_value(initialValue)
@@ -27,6 +29,16 @@ public:
     const Value &value() const { return m_value; }
 
 protected:
+    TypedProperty(DesignerObject *parent, const QString &id, const QString &name, const Value &initialValue,
+                  PropertyFlags flags, const char *editor = nullptr)
+        : TypedProperty(parent, id, name, initialValue)
+    {
+        setFlags(flags);
+        if (editor) {
+            setEditor(QString::fromLatin1(editor));
+        }
+    }
+
     TypedProperty(DesignerObject *parent, const TypedProperty &prototype)
         : DesignerProperty(parent, prototype)
         , m_value(prototype.m_value)
@@ -43,6 +55,8 @@ protected:
 
     QString convertToValueString() const override { return TextForm<Value>::print(m_value); }
 
+    QString convertToQml(int indent) const override { return QmlForm<Value>::write(*this, m_value, indent); }
+
     bool valueIsEqual(const QString &text) const override
     {
         const std::optional<Value> parsed = parse(text);
@@ -54,18 +68,20 @@ protected:
     void setValue(const Value &value) { m_value = value; }
 
 private:
-    static std::optional<Value> parse(const QString &text)
+    std::optional<Value> parse(const QString &text) const
     {
         bool ok = false;
-        Value value = TextForm<Value>::parse(text, &ok);
-        if (ok) {
-            return value;
+        if constexpr (ReadsBesideCurrent<Value>) {
+            const Value value = TextForm<Value>::parse(text, m_value, &ok);
+            return ok ? std::optional(value) : std::nullopt;
+        } else {
+            Value value = TextForm<Value>::parse(text, &ok);
+            // The texts of all empty values are this short; longer ones need no second look.
+            if (!ok && text.size() <= 1 && text == TextForm<Value>::print(Value())) {
+                return Value();
+            }
+            return ok ? std::optional(std::move(value)) : std::nullopt;
         }
-        // The texts of all empty values are this short; longer ones need no second look.
-        if (text.size() <= 1 && text == TextForm<Value>::print(Value())) {
-            return Value();
-        }
-        return std::nullopt;
     }
 
     Value m_value;

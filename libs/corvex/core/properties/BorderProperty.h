@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/properties/TypedProperty.h"
+#include "corvex/values/BorderInfo.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! A border, 0 to 100 pixels wide. It is drawn inside: where the owner has a property "size", it can fill no
+//! more than half of the shorter side.
+class BorderProperty : public TypedProperty<BorderInfo>
+{
+    CORVEX_CLASS_NAMES(BorderProperty, DesignerProperty)
+
+public:
+    BorderProperty(DesignerObject *parent, const QString &id, const QString &name,
+                   const BorderInfo &initialValue)
+        : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "BorderEditor")
+    { }
+
+protected:
+    using TypedProperty::TypedProperty;
+    bool validateValue(QString &error) const override;
+};
+
+} // namespace Halvane::Corvex::Designer

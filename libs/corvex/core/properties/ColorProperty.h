@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/properties/TypedProperty.h"
+
+namespace Halvane::Corvex::Designer {
+
+class ColorProperty : public TypedProperty<QColor>
+{
+    CORVEX_CLASS_NAMES(ColorProperty, DesignerProperty)
+
+public:
+    ColorProperty(DesignerObject *parent, const QString &id, const QString &name, const QColor &initialValue)
+        : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "ColorEditor")
+    { }
+
+protected:
+    using TypedProperty::TypedProperty;
+    bool validateValue(QString &error) const override;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/properties/TypedProperty.h"
+#include "corvex/values/EnumInfo.h"
+
+namespace Halvane::Corvex::Designer {
+
+template<>
+struct TextForm<EnumInfo>
+{
+    static EnumInfo parse(const QString &text, const EnumInfo &current, bool *ok)
+    {
+        return EnumInfo(current.enumerator(), text, ok);
+    }
+    static QString print(const EnumInfo &value) { return value.valueString(); }
+};
+
+//! A value of the enumeration that comes with the initial value. Its text is the value's key.
+class EnumProperty : public TypedProperty<EnumInfo>
+{
+    CORVEX_CLASS_NAMES(EnumProperty, DesignerProperty)
+
+public:
+    using TypedProperty::TypedProperty;
+
+    const EnumInfo &getEnumInfo() const { return value(); }
+
+protected:
+    bool validateValue(QString &error) const override;
+};
+
+} // namespace Halvane::Corvex::Designer

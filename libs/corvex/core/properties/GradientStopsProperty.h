@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/properties/TypedProperty.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! The stops of a gradient: 2 to 101 of them, one at most for each hundredth, in at least two colours.
+class GradientStopsProperty : public TypedProperty<QGradientStops>
+{
+    CORVEX_CLASS_NAMES(GradientStopsProperty, DesignerProperty)
+
+public:
+    //! Stands in the error of a list without stops, so that an editor can tell "nothing chosen" from a bad
+    //! choice.
+    static constexpr char emptyValueMarker[] = "emptyValue";
+
+    GradientStopsProperty(DesignerObject *parent, const QString &id, const QString &name,
+                          const QGradientStops &initialValue)
+        : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "GradientStopsEditor")
+    { }
+
+    //! From white to black.
+    static QGradientStops initValue();
+
+protected:
+    using TypedProperty::TypedProperty;
+    bool validateValue(QString &error) const override;
+};
+
+} // namespace Halvane::Corvex::Designer

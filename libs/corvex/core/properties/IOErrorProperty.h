@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/properties/TypedProperty.h"
+#include "corvex/values/IOErrorInfo.h"
+
+namespace Halvane::Corvex::Designer {
+
+template<>
+struct TextForm<IOErrorInfo>
+{
+    static IOErrorInfo parse(const QString &text, bool *ok);
+    static QString print(const IOErrorInfo &info);
+};
+
+//! Gives the record, which has no text of its own, its text: "id: true, io: false".
+class IOErrorProperty : public TypedProperty<IOErrorInfo>
+{
+    CORVEX_CLASS_NAMES(IOErrorProperty, DesignerProperty)
+
+public:
+    IOErrorProperty(DesignerObject *parent, const QString &id, const QString &name,
+                    const IOErrorInfo &initialValue)
+        : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "IOErrorFlagsEditor")
+    { }
+
+    static QString toString(const IOErrorInfo &info);
+    static IOErrorInfo fromString(QStringView text, bool *ok = nullptr);
+
+protected:
+    using TypedProperty::TypedProperty;
+    bool validateValue(QString &error) const override;
+};
+
+} // namespace Halvane::Corvex::Designer

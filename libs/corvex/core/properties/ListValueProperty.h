@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/properties/TypedProperty.h"
+#include "corvex/values/ListInfo.h"
+
+namespace Halvane::Corvex::Designer {
+
+class ListValueProperty : public TypedProperty<ListInfo>
+{
+    CORVEX_CLASS_NAMES(ListValueProperty, DesignerProperty)
+
+public:
+    using TypedProperty::TypedProperty;
+};
+
+} // namespace Halvane::Corvex::Designer

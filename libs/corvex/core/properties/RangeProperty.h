@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/properties/TypedProperty.h"
+#include "corvex/values/RangeInfo.h"
+
+namespace Halvane::Corvex::Designer {
+
+/*! Two numbers. How they have to lie is said by the editor parameter "rangeStyle": "MinMax" (the minimum is
+    the smaller one), "MinMaxEqual" (they may be equal), "MaxMin" and "MaxMinEqual" (the other way round).
+    With any other style, and without one, they only have to differ. */
+class RangeProperty : public TypedProperty<RangeInfo>
+{
+    CORVEX_CLASS_NAMES(RangeProperty, DesignerProperty)
+
+public:
+    RangeProperty(DesignerObject *parent, const QString &id, const QString &name,
+                  const RangeInfo &initialValue)
+        : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "RangeEditor")
+    { }
+
+protected:
+    using TypedProperty::TypedProperty;
+    bool validateValue(QString &error) const override;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/properties/TransformOriginProperty.h"
+
+#include "corvex/core/QmlText.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! By the numbers of the enumeration. Its meta-object, which has them too, is in a library that is not
+//! linked.
+constexpr std::array names{"TopLeft"_L1, "Top"_L1,        "TopRight"_L1, "Left"_L1,       "Center"_L1,
+                           "Right"_L1,   "BottomLeft"_L1, "Bottom"_L1,   "BottomRight"_L1};
+static_assert(QQuickItem::TopLeft == 0 && QQuickItem::Center == 4
+              && QQuickItem::BottomRight == int(names.size()) - 1);
+
+} // namespace
+
+QQuickItem::TransformOrigin TextForm<QQuickItem::TransformOrigin>::parse(const QString &text, bool *ok)
+{
+    return TransformOriginProperty::stringToEnum(text, ok);
+}
+
+QString TextForm<QQuickItem::TransformOrigin>::print(QQuickItem::TransformOrigin origin)
+{
+    return TransformOriginProperty::enumToString(origin);
+}
+
+QString QmlForm<QQuickItem::TransformOrigin>::write(const DesignerProperty &property,
+                                                    QQuickItem::TransformOrigin origin, int indent)
+{
+    return QmlText::line(indent, property.id(), u"Item."_s + TransformOriginProperty::enumToString(origin));
+}
+
+QQuickItem::TransformOrigin TransformOriginProperty::stringToEnum(QStringView name, bool *ok)
+{
+    const auto found = std::find(names.begin(), names.end(), name);
+    if (ok) {
+        *ok = found != names.end();
+    }
+    return found != names.end() ? QQuickItem::TransformOrigin(found - names.begin()) : QQuickItem::Center;
+}
+
+QString TransformOriginProperty::enumToString(QQuickItem::TransformOrigin origin)
+{
+    const auto index = size_t(origin);
+    return index < names.size() ? QString(names[index]) : QString();
+}
+
+} // namespace Halvane::Corvex::Designer

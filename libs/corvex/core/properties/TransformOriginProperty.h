@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/properties/TypedProperty.h"
+
+#include <QQuickItem>
+
+namespace Halvane::Corvex::Designer {
+
+template<>
+struct TextForm<QQuickItem::TransformOrigin>
+{
+    static QQuickItem::TransformOrigin parse(const QString &text, bool *ok);
+    static QString print(QQuickItem::TransformOrigin origin);
+};
+
+//! id: Item.TopLeft
+template<>
+struct QmlForm<QQuickItem::TransformOrigin>
+{
+    static QString write(const DesignerProperty &property, QQuickItem::TransformOrigin origin, int indent);
+};
+
+//! The point about which an item turns and scales; its text is the name of the enumerator.
+class TransformOriginProperty : public TypedProperty<QQuickItem::TransformOrigin>
+{
+    CORVEX_CLASS_NAMES(TransformOriginProperty, DesignerProperty)
+
+public:
+    TransformOriginProperty(DesignerObject *parent, const QString &id, const QString &name,
+                            const QQuickItem::TransformOrigin &initialValue)
+        : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "TransformOriginEditor")
+    { }
+    TransformOriginProperty(DesignerObject *parent, const QString &id, const QString &name,
+                            const QString &originName)
+        : TransformOriginProperty(parent, id, name, stringToEnum(originName))
+    { }
+
+    //! Center, with ok false, for a name that is none.
+    static QQuickItem::TransformOrigin stringToEnum(QStringView name, bool *ok = nullptr);
+    //! Empty for a number that is no origin.
+    static QString enumToString(QQuickItem::TransformOrigin origin);
+
+protected:
+    using TypedProperty::TypedProperty;
+};
+
+} // namespace Halvane::Corvex::Designer
