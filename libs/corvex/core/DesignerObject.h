@@ -291,4 +291,17 @@ private:
     std::unique_ptr<Data> d;
 };
 
+//! \a object as a \a Kind when its class names say that it is one, else null.
+template<class Kind>
+Kind *kindCast(DesignerObject *object)
+{
+    return object && object->isKindOfClass(Kind::kindName()) ? static_cast<Kind *>(object) : nullptr;
+}
+
+template<class Kind>
+const Kind *kindCast(const DesignerObject *object)
+{
+    return object && object->isKindOfClass(Kind::kindName()) ? static_cast<const Kind *>(object) : nullptr;
+}
+
 } // namespace Halvane::Corvex::Designer

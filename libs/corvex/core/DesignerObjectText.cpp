@@ -64,8 +64,8 @@ void DesignerObject::finishReading() { }
 QDomDocument DesignerObject::convertToXmlDocument(bool withHeader, bool allProperties) const
 {
     QDomDocument document;
-    document.setContent(toXml(this, withHeader, allProperties));
-    return document;
+    const QByteArray xml = toXml(this, withHeader, allProperties);
+    return !xml.isEmpty() && document.setContent(xml) ? document : QDomDocument();
 }
 
 QString DesignerObject::convertToString(bool withHeader, bool allProperties) const

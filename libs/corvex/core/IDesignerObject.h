@@ -28,16 +28,20 @@ protected:
 
 } // namespace Halvane::Corvex::Designer
 
-//! Declares className() and classNames() of a concrete class; \a Base is the class whose chain it extends.
-//! The chain is built once for all instances.
+//! Declares className() and classNames() of a concrete class, and kindName() for kindCast(); \a Base is the
+//! class whose chain it extends. The chain is built once for all instances.
 #define CORVEX_CLASS_NAMES(Class, Base)                                                                      \
 public:                                                                                                      \
-    QString className() const override                                                                       \
+    static QString kindName()                                                                                \
     {                                                                                                        \
         return QStringLiteral(#Class);                                                                       \
     }                                                                                                        \
+    QString className() const override                                                                       \
+    {                                                                                                        \
+        return kindName();                                                                                   \
+    }                                                                                                        \
     QStringList classNames() const override                                                                  \
     {                                                                                                        \
-        static const QStringList names = Base::classNames() << QStringLiteral(#Class);                       \
+        static const QStringList names = Base::classNames() << kindName();                                   \
         return names;                                                                                        \
     }

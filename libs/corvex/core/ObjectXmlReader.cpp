@@ -125,7 +125,11 @@ bool ObjectXmlReader::Private::parse()
     bool good = true;
     do {
         chunk = device->read(chunkSize);
-        good = feed(chunk, chunk.isEmpty());
+        // The parser goes by a byte order mark before it goes by the encoding that it was told.
+        if (chunk.startsWith("\xFE\xFF") || chunk.startsWith("\xFF\xFE")) {
+            fail(u"The text is UTF-16; only UTF-8 is read."_s);
+        }
+        good = error.isEmpty() && feed(chunk, chunk.isEmpty());
     } while (good && !chunk.isEmpty());
     for (const Frame &frame : std::as_const(frames)) {
         // What was cut off in the middle has no owner yet.
@@ -163,7 +167,7 @@ void ObjectXmlReader::Private::fail(const QString &message)
 {
     error = message;
     if (parser) {
-        errorLine = qint64(XML_GetCurrentLineNumber(parser));
+        errorLine = std::max<qint64>(qint64(XML_GetCurrentLineNumber(parser)), 1);
         errorColumn = qint64(XML_GetCurrentColumnNumber(parser)) + 1;
         XML_StopParser(parser, XML_FALSE);
     }

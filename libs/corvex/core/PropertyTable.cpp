@@ -54,7 +54,12 @@ PropertyRow &PropertyRow::tooltip(const char *tooltip)
 
 PropertyRow &PropertyRow::description(const char *description)
 {
-    m_prototype->setDescription(title(description));
+    return this->description(title(description));
+}
+
+PropertyRow &PropertyRow::description(const QString &description)
+{
+    m_prototype->setDescription(description);
     return *this;
 }
 

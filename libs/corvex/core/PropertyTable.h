@@ -25,6 +25,8 @@ public:
     PropertyRow &parameter(const char *key, const QVariant &value);
     PropertyRow &tooltip(const char *text);
     PropertyRow &description(const char *text);
+    //! For a text with placeholders, translated and filled by the caller.
+    PropertyRow &description(const QString &text);
     //! Keeps values that fail validation, marked.
     PropertyRow &allowInvalid();
     //! Not shown in the property panel until the object shows it.

@@ -29,7 +29,8 @@ public:
         m_properties = properties;
     }
 
-    //! Finds the properties again that follow the object, whose identifier is now \a text.
+    //! Takes over the name of the identifier \a text and forgets the properties whose objects have left the
+    //! project.
     void updateProperties(const QString &text);
 
     friend bool operator==(const DependentInfo &, const DependentInfo &) = default;

@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/ItemList.h"
+#include "corvex/core/ObjectXmlReader.h"
+#include "corvex/core/ObjectXmlWriter.h"
+#include "corvex/core/XmlText.h"
+
+#include "TestObjects.h"
+
+#include <QBuffer>
+#include <QDomDocument>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer::Test {
+
+namespace {
+
+class Xml : public testing::Test
+{
+protected:
+    Xml() { makeFactory(); }
+
+    //! Reads \a xml into a new node; null when it is refused.
+    std::unique_ptr<Node> read(const QByteArray &xml)
+    {
+        QBuffer buffer;
+        buffer.setData(xml);
+        buffer.open(QIODevice::ReadOnly);
+        ObjectXmlReader reader(&buffer);
+        std::unique_ptr<Node> node(static_cast<Node *>(reader.create()));
+        notes = reader.notes();
+        error = reader.errorString();
+        line = reader.errorLine();
+        return node;
+    }
+
+    static QByteArray write(const DesignerObject *object)
+    {
+        return DesignerObject::toString(object).toUtf8();
+    }
+
+    //! A node whose properties are \a properties.
+    static QByteArray node(const QByteArray &properties)
+    {
+        return "<Node>\n <Properties>\n" + properties + " </Properties>\n</Node>\n";
+    }
+
+    QList<ReadNote> notes;
+    QString error;
+    qint64 line = 0;
+};
+
+} // namespace
+
+TEST_F(Xml, TheFormIsFixed)
+{
+    const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
+    owner->set("text", u"a<b>\"&\t\r\n\U0001F600"_s);
+    ASSERT_TRUE(owner->addListPropertyItem(owner->property("nodes"), Node::create(u"in"_s)));
+    const QString text = DesignerObject::toString(owner.get());
+    const QString start =
+        u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+        "<Node>\n"
+        " <Properties>\n"
+        "  <Property name=\"id\" value=\"name: owner;\"/>\n"
+        "  <Property name=\"percent\" value=\"50\"/>\n"
+        "  <Property name=\"loose\" value=\"50\"/>\n"
+        "  <Property name=\"text\" value=\"a&lt;b&gt;&quot;&amp;&#x9;&#xD;&#xA;\U0001F600\"/>\n"
+        "  <Property name=\"note\" value=\"none\"/>\n"
+        "  <Property name=\"nodes\">\n"
+        "   <List>\n"
+        "    <Node>\n"
+        "     <Properties>\n"
+        "      <Property name=\"id\" value=\"name: in;\"/>\n"_s;
+    EXPECT_EQ(text.left(start.size()), start);
+    EXPECT_TRUE(text.contains(u"<List/>"_s));
+    EXPECT_FALSE(text.contains(u"secret"_s));
+    EXPECT_TRUE(owner->convertToXmlDocument(false, true).isNull())
+        << "the child that is missing is not stored";
+    EXPECT_EQ(owner->convertToXmlDocument(true, false).documentElement().tagName(), u"Node"_s);
+}
+
+TEST_F(Xml, WhatWasSavedReadsBackEqual)
+{
+    const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
+    owner->set("text", u" \"<&>%1\t\r\n]]> \u2028\U0001F600 "_s);
+    owner->set("loose", u"70"_s);
+    for (const QString &name : {u"b"_s, u"a"_s}) {
+        owner->addListPropertyItem(owner->property("nodes"), Node::create(name));
+        owner->addListPropertyItem(owner->property("sorted"), Node::create(name));
+    }
+    const std::unique_ptr<DesignerObject> copy(DesignerObject::createCopy(owner.get()));
+    ASSERT_TRUE(copy);
+    EXPECT_EQ(write(copy.get()), write(owner.get()));
+    EXPECT_EQ(copy->getProperty(u"text")->valueString(), owner->value("text"));
+    EXPECT_EQ(copy->getProperty(u"sorted")->listItemNames(), QStringList({u"a"_s, u"b"_s}));
+    EXPECT_TRUE(copy->isValid());
+    EXPECT_EQ(copy->parent(), nullptr);
+
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"with blank %1.xml"_s);
+    QString problem;
+    ASSERT_TRUE(DesignerObject::saveToFile(owner.get(), path, &problem)) << qPrintable(problem);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll().replace("\r\n", "\n"), write(owner.get()));
+    EXPECT_FALSE(DesignerObject::saveToFile(owner.get(), folder.filePath(u"no/such.xml"_s), &problem));
+    EXPECT_FALSE(problem.isEmpty());
+}
+
+TEST_F(Xml, AnEmptyValueMeansEmptyForTextAlone)
+{
+    const std::unique_ptr<Node> read1 =
+        read(node("<Property name='text' value=''/><Property name='note' value=''/>"));
+    EXPECT_EQ(read1->value("text"), QString());
+    EXPECT_EQ(read1->value("note"), u"none"_s);
+    EXPECT_EQ(read(node("<Property name='text'/>"))->value("text"), QString());
+    EXPECT_EQ(read(node(""))->value("text"), u"abc"_s);
+}
+
+TEST_F(Xml, WhatIsNotUnderstoodIsTold)
+{
+    struct Case
+    {
+        const char *properties;
+        ReadNote::Kind kind;
+        const char *word;
+    };
+    const Case cases[] = {
+        {"<Property name='new' value='1'/>", ReadNote::Dropped, "\"new\""},
+        {"<Property name='secret' value='1'/>", ReadNote::Dropped, "\"secret\""},
+        {"<Property value='1'/>", ReadNote::Dropped, "no name"},
+        {"<Property name='percent' value='x'/>", ReadNote::Dropped, "\"x\""},
+        {"<Property name='percent' value='7' unit='m'/>", ReadNote::Dropped, "\"unit\""},
+        {"<Property name='percent'><List/></Property>", ReadNote::Dropped, "\"List\""},
+        {"<Property name='nodes' value='7'/>", ReadNote::Dropped, "\"nodes\""},
+        {"<Other/>", ReadNote::Dropped, "\"Other\""},
+        {"words", ReadNote::Dropped, "words"},
+        {"<!-- remark -->", ReadNote::Dropped, "comment"},
+        {"<Property name='nodes'><List><Robot/></List></Property>", ReadNote::Kept, "\"Robot\""},
+    };
+    for (const Case &test : cases) {
+        ASSERT_TRUE(read(node(QByteArray("  ") + test.properties))) << test.properties;
+        ASSERT_EQ(notes.size(), 1) << test.properties;
+        EXPECT_EQ(notes.front().kind, test.kind) << test.properties;
+        EXPECT_TRUE(notes.front().message.contains(QLatin1String(test.word)))
+            << qPrintable(notes.front().message);
+        EXPECT_EQ(notes.front().line, 3) << test.properties;
+    }
+}
+
+TEST_F(Xml, ItemsOfUnknownClassesAndDuplicatesGoBackToTheirPlaces)
+{
+    const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
+    for (const QString &name : {u"a"_s, u"b"_s, u"c"_s}) {
+        owner->addListPropertyItem(owner->property("nodes"), Node::create(name));
+    }
+    QByteArray xml = write(owner.get());
+    // "b" becomes a class that no plug-in knows, "c" a second "a".
+    const qsizetype b = xml.indexOf("    <Node>", xml.indexOf("name: a;"));
+    const qsizetype c = xml.indexOf("    <Node>", b + 1);
+    QByteArray middle = xml.mid(b, c - b).replace("Node>", "Robot>");
+    xml = xml.left(b) + middle + xml.mid(c).replace("name: c;", "name: a;");
+
+    std::unique_ptr<Node> loaded = read(xml);
+    ASSERT_TRUE(loaded);
+    EXPECT_EQ(loaded->property("nodes")->listItemNames(), QStringList(u"a"_s));
+    const QList<KeptItem> kept = loaded->property("nodes")->itemList()->keptItems();
+    ASSERT_EQ(kept.size(), 2);
+    EXPECT_EQ(kept.front().className, u"Robot"_s);
+    EXPECT_EQ(kept.front().name, u"b"_s);
+    EXPECT_EQ(write(loaded.get()), xml);
+
+    delete loaded->takeListPropertyItem(loaded->property("nodes"),
+                                        loaded->property("nodes")->getListItemAtIndex(0));
+    EXPECT_TRUE(write(loaded.get()).contains("<Robot>")) << "what is kept outlives its neighbour";
+}
+
+TEST_F(Xml, HostileBytesEndWithAnErrorAndAPlace)
+{
+    const QByteArray deep = QByteArray("<Node><Properties><Property name='nodes'><List>").repeated(30000);
+    const struct
+    {
+        const char *what;
+        QByteArray xml;
+    } cases[] = {
+        {"nothing", ""},
+        {"no XML", "screen 1"},
+        {"cut off", "<Node>\n <Properties>\n  <Property name='nodes'><List><Node><Properties>"},
+        {"another root", "<Project/>"},
+        {"not UTF-8", "<Node><Properties><Property name='text' value='\xE4'/></Properties></Node>"},
+        {"UTF-16", QByteArray("\xFF\xFE<\0N\0o\0d\0e\0/\0>\0", 16)},
+        {"entities", "<!DOCTYPE x [<!ENTITY a 'aa'>]><Node><Properties/></Node>"},
+        {"depth", deep},
+        {"two roots", "<Node/><Node/>"},
+    };
+    for (const auto &[what, xml] : cases) {
+        EXPECT_FALSE(read(xml)) << what;
+        EXPECT_FALSE(error.isEmpty()) << what;
+        EXPECT_GT(line, 0) << what;
+    }
+}
+
+TEST_F(Xml, ReadingIntoAnObjectReplacesItsLists)
+{
+    const std::unique_ptr<Node> target(Node::create(u"target"_s));
+    target->addListPropertyItem(target->property("nodes"), Node::create(u"stale"_s));
+    const QTemporaryDir folder;
+    const std::unique_ptr<Node> source(Node::create(u"source"_s));
+    source->addListPropertyItem(source->property("nodes"), Node::create(u"fresh"_s));
+    const QString path = folder.filePath(u"a.xml"_s);
+    ASSERT_TRUE(DesignerObject::saveToFile(source.get(), path));
+    ASSERT_TRUE(DesignerObject::loadFromFile(target.get(), path));
+    EXPECT_EQ(target->getIdName(), u"source"_s);
+    EXPECT_EQ(target->property("nodes")->listItemNames(), QStringList(u"fresh"_s));
+    EXPECT_FALSE(DesignerObject::loadFromFile(target.get(), folder.path()));
+}
+
+} // namespace Halvane::Corvex::Designer::Test
