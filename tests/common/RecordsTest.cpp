@@ -30,6 +30,70 @@ TEST(EnumHelper, EveryVariableTypeHasAText)
     EXPECT_FALSE(EnumHelper::metaEnum(u"NoSuchType"_s).isValid());
 }
 
+TEST(EnumHelper, BACnetTables)
+{
+    // Numbers on both sides of each gap of the standard.
+    const struct
+    {
+        int number;
+        QString name;
+    } properties[] = {
+        {0, u"acked-transitions"_s},
+        {7, u"alarm-values"_s},
+        {9, u"all-writes-successful"_s},
+        {17, u"notification-class"_s},
+        {19, u"controlled-variable-reference"_s},
+        {28, u"description"_s},
+        {62, u"max-apdu-length-accepted"_s},
+        {77, u"object-name"_s},
+        {79, u"object-type"_s},
+        {81, u"out-of-service"_s},
+        {85, u"present-value"_s},
+        {94, u"proportional-constant-units"_s},
+        {96, u"protocol-object-types-supported"_s},
+        {104, u"relinquish-default"_s},
+        {106, u"resolution"_s},
+        {117, u"units"_s},
+        {155, u"database-revision"_s},
+        {193, u"align-intervals"_s},
+        {195, u"interval-offset"_s},
+        {197, u"logging-type"_s},
+        {202, u"restart-notification-recipients"_s},
+        {215, u"full-duty-baseline"_s},
+        {218, u"requested-shed-level"_s},
+        {222, u"state-description"_s},
+        {226, u"door-alarm-state"_s},
+        {235, u"secured-status"_s},
+        {244, u"absentee-limit"_s},
+        {311, u"user-information-reference"_s},
+        {317, u"user-name"_s},
+        {323, u"global-identifier"_s},
+        {326, u"verification-time"_s},
+        {371, u"property-list"_s},
+        {399, u"apdu-length"_s},
+        {427, u"network-type"_s},
+        {465, u"group-id"_s},
+        {467, u"group-mode"_s},
+        {507, u"device-uuid"_s},
+    };
+    for (const auto &row : properties)
+        EXPECT_EQ(EnumHelper::getBACnetPropIDToNames().value(row.number), row.name) << row.number;
+    for (const int gap : {8, 18, 80, 95, 105, 194, 198, 216, 223, 236, 312, 324, 466, 508})
+        EXPECT_FALSE(EnumHelper::getBACnetPropIDToNames().contains(gap)) << gap;
+    EXPECT_EQ(EnumHelper::getBACnetObjIDToNames().value(8), u"device"_s);
+    EXPECT_EQ(EnumHelper::getBACnetObjIDToNames().value(19), u"multi-state-value"_s);
+    EXPECT_EQ(EnumHelper::getBACnetObjIDToNames().value(56), u"network-port"_s);
+    EXPECT_EQ(EnumHelper::getBACnetObjIDToNames().size(), 63);
+    EXPECT_EQ(EnumHelper::getBACnetPropIDToNames().size(), 477);
+    // No name stands twice: the tables by name hold as many entries as those by number.
+    EXPECT_EQ(EnumHelper::getBACnetPropertyTypeNames().size(), EnumHelper::getBACnetPropIDToNames().size());
+    EXPECT_EQ(EnumHelper::getBacnetObjectTypeNames().size(), EnumHelper::getBACnetObjIDToNames().size());
+    EXPECT_EQ(EnumHelper::getBacnetObjectTypeNames().value(u"analog-input"_s), u"Analog Input"_s);
+    EXPECT_EQ(EnumHelper::getBACnetPropertyTypeNames().value(u"bacnet-ipv6-udp-port"_s),
+              u"BACnet IPv6 UDP Port"_s);
+    EXPECT_EQ(EnumHelper::getBACnetDataTypeNames().value(u"octet-string"_s), u"Octet String"_s);
+}
+
 TEST(ConfigurationInfo, ValidNeedsASizeAndABrightness)
 {
     const struct

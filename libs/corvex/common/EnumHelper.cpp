@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/EnumHelper.h"
 
+#include "corvex/common/BACnetTables.h"
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Common {
@@ -14,6 +16,22 @@ QStringList keysOf(const QMetaEnum &enumeration)
     for (int i = 0; i < enumeration.keyCount(); ++i)
         keys.append(QString::fromLatin1(enumeration.key(i)));
     return keys;
+}
+
+QMap<QString, QString> textsOf(const QList<BACnetTables::Entry> &entries)
+{
+    QMap<QString, QString> texts;
+    for (const BACnetTables::Entry &entry : entries)
+        texts.insert(entry.name, BACnetTables::displayText(entry.name));
+    return texts;
+}
+
+QMap<int, QString> namesOf(const QList<BACnetTables::Entry> &entries)
+{
+    QMap<int, QString> names;
+    for (const BACnetTables::Entry &entry : entries)
+        names.insert(entry.number, entry.name);
+    return names;
 }
 
 } // namespace
@@ -42,6 +60,36 @@ EnumHelper::InputOutputType EnumHelper::toInputOutputType(QStringView word, bool
     if (ok)
         *ok = number >= 0;
     return number >= 0 ? static_cast<InputOutputType>(number) : UNUSED;
+}
+
+const QMap<QString, QString> &EnumHelper::getBacnetObjectTypeNames()
+{
+    static const QMap<QString, QString> texts = textsOf(BACnetTables::objectTypes());
+    return texts;
+}
+
+const QMap<int, QString> &EnumHelper::getBACnetObjIDToNames()
+{
+    static const QMap<int, QString> names = namesOf(BACnetTables::objectTypes());
+    return names;
+}
+
+const QMap<QString, QString> &EnumHelper::getBACnetPropertyTypeNames()
+{
+    static const QMap<QString, QString> texts = textsOf(BACnetTables::properties());
+    return texts;
+}
+
+const QMap<int, QString> &EnumHelper::getBACnetPropIDToNames()
+{
+    static const QMap<int, QString> names = namesOf(BACnetTables::properties());
+    return names;
+}
+
+const QMap<QString, QString> &EnumHelper::getBACnetDataTypeNames()
+{
+    static const QMap<QString, QString> texts = textsOf(BACnetTables::dataTypes());
+    return texts;
 }
 
 QMetaEnum EnumHelper::metaEnum(const QString &name)

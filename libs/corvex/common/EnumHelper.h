@@ -58,6 +58,17 @@ public:
     //! The channel type of a word, compared exactly; UNUSED, with ok false, for any other text.
     static InputOutputType toInputOutputType(QStringView word, bool *ok = nullptr);
 
+    //! The texts a user reads for the BACnet object types, by the names that ASHRAE 135 gives them
+    //! ("analog-input").
+    static const QMap<QString, QString> &getBacnetObjectTypeNames();
+    //! The names of the object types by number.
+    static const QMap<int, QString> &getBACnetObjIDToNames();
+    //! The same two tables for the properties of objects ("present-value") ...
+    static const QMap<QString, QString> &getBACnetPropertyTypeNames();
+    static const QMap<int, QString> &getBACnetPropIDToNames();
+    //! ... and the texts of the data types ("real"), by name.
+    static const QMap<QString, QString> &getBACnetDataTypeNames();
+
     //! The enumeration of this class with that name ("InputOutputType"), invalid when there is none.
     static QMetaEnum metaEnum(const QString &name);
 };
