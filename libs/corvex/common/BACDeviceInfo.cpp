@@ -12,17 +12,19 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Common {
 
-const BACDeviceInfo::TextField BACDeviceInfo::textFields[] = {
-    {"description"_L1, &BACDeviceInfo::m_description}, {"location"_L1, &BACDeviceInfo::m_location},
-    {"modelName"_L1, &BACDeviceInfo::m_modelName},     {"objectName"_L1, &BACDeviceInfo::m_objectName},
+constexpr std::array<BACDeviceInfo::TextField, 5> BACDeviceInfo::textFields{{
+    {"description"_L1, &BACDeviceInfo::m_description},
+    {"location"_L1, &BACDeviceInfo::m_location},
+    {"modelName"_L1, &BACDeviceInfo::m_modelName},
+    {"objectName"_L1, &BACDeviceInfo::m_objectName},
     {"vendorName"_L1, &BACDeviceInfo::m_vendorName},
-};
+}};
 
-const BACDeviceInfo::NumberField BACDeviceInfo::numberFields[] = {
+constexpr std::array<BACDeviceInfo::NumberField, 3> BACDeviceInfo::numberFields{{
     {"apduTimeout"_L1, &BACDeviceInfo::m_apduTimeout, std::numeric_limits<int>::max()},
     {"numberOfApduRetries"_L1, &BACDeviceInfo::m_numberOfApduRetries, 255},
     {"vendorIdentifier"_L1, &BACDeviceInfo::m_vendorIdentifier, 65535},
-};
+}};
 
 QString BACDeviceInfo::toString() const
 {
@@ -66,7 +68,7 @@ BACDeviceInfo::BACDeviceInfo(const QString &text, bool *ok)
         good = good && colon > 0 && !keys.contains(key) && readItem(key, item.sliced(colon + 1).trimmed());
         keys.insert(key);
     }
-    good = good && keys.size() == qsizetype(std::size(textFields) + std::size(numberFields));
+    good = good && size_t(keys.size()) == textFields.size() + numberFields.size();
     if (!good)
         *this = BACDeviceInfo();
     if (ok)

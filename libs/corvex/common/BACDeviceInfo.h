@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <array>
+
 namespace Halvane::Corvex::Common {
 
 //! The properties of a BACnet device object that a project may set. Empty texts and zeros leave the device's
@@ -51,8 +53,8 @@ private:
         int BACDeviceInfo::*member;
         int maximum;
     };
-    static const TextField textFields[];
-    static const NumberField numberFields[];
+    static const std::array<TextField, 5> textFields;
+    static const std::array<NumberField, 3> numberFields;
 
     bool readItem(QStringView key, QStringView value);
 

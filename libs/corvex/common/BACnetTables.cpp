@@ -3,6 +3,8 @@
 
 #include <QStringList>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Common::BACnetTables {
@@ -17,7 +19,7 @@ struct Run
 };
 
 // clang-format off
-constexpr Run objectTypeRuns[] = {
+constexpr auto objectTypeRuns = std::to_array<Run>({
     {0, "analog-input analog-output analog-value binary-input binary-output binary-value calendar command device "
         "event-enrollment"_L1},
     {10, "file group loop multi-state-input multi-state-output notification-class program schedule averaging "
@@ -31,9 +33,9 @@ constexpr Run objectTypeRuns[] = {
     {50, "time-value notification-forwarder alert-enrollment channel lighting-output binary-lighting-output "
          "network-port elevator-group escalator lift"_L1},
     {60, "staging audit-log audit-reporter"_L1},
-};
+});
 
-constexpr Run propertyRuns[] = {
+constexpr auto propertyRuns = std::to_array<Run>({
     {0, "acked-transitions ack-required action action-text active-text active-vt-sessions alarm-value "
         "alarm-values"_L1},
     {9, "all-writes-successful"_L1},
@@ -152,16 +154,16 @@ constexpr Run propertyRuns[] = {
           "target-references audit-source-level audit-level audit-notification-recipient"_L1},
     {500, "audit-priority-filter auditable-operations delete-on-forward maximum-send-delay monitored-objects "
           "send-now floor-number device-uuid"_L1},
-};
+});
 
-constexpr Run dataTypeRuns[] = {
+constexpr auto dataTypeRuns = std::to_array<Run>({
     {0, "null boolean unsigned integer real double octet-string character-string bit-string enumerated date time "
         "object-identifier"_L1},
-};
+});
 // clang-format on
 
-template<size_t Count>
-QList<Entry> entriesOf(const Run (&runs)[Count])
+template<typename Runs>
+QList<Entry> entriesOf(const Runs &runs)
 {
     QList<Entry> entries;
     for (const Run &run : runs) {

@@ -13,6 +13,7 @@
 #include <QStandardPaths>
 #include <QXmlStreamReader>
 
+#include <array>
 #include <filesystem>
 
 #ifdef Q_OS_UNIX
@@ -25,22 +26,18 @@ namespace Halvane::Corvex::Common {
 
 QString FileHelper::getStandardTemporatyLocation()
 {
-    const QString shared = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
 #ifdef Q_OS_UNIX
     // The folder is often everybody's: a fixed name in it could be taken, or be a link laid by another user.
-    const QString own = u"%1/corvex-%2"_s.arg(shared, QString::number(geteuid()));
-    const auto onlyOwner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-    QDir().mkdir(own, onlyOwner);
-    const QFileInfo info(own);
-    if (info.isDir() && !info.isSymLink() && info.ownerId() == geteuid())
-        return own;
-    const QString cache =
-        QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + "/corvex"_L1;
-    QDir().mkpath(cache);
-    return cache;
-#else
-    return shared;
+    folder += u"/corvex-"_s + QString::number(geteuid());
+    QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QFileInfo info(folder);
+    if (!info.isDir() || info.isSymLink() || info.ownerId() != geteuid()) {
+        folder = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + "/corvex"_L1;
+        QDir().mkpath(folder);
+    }
 #endif
+    return folder;
 }
 
 namespace {
@@ -135,13 +132,13 @@ struct ImageFormat
     QByteArrayView firstBytes;
 };
 
-constexpr ImageFormat rasterFormats[] = {
+constexpr auto rasterFormats = std::to_array<ImageFormat>({
     {"png"_L1, "\x89PNG\r\n\x1a\n"},
     {"jpg"_L1, "\xff\xd8\xff"},
     {"bmp"_L1, "BM"},
     {"gif"_L1, "GIF87a"},
     {"gif"_L1, "GIF89a"},
-};
+});
 
 QString rasterFormatOf(const QByteArray &head)
 {
@@ -187,10 +184,11 @@ bool FileHelper::isValidImage(const QString &path, QString *format)
     bool whole = false;
     if (QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)) {
         found = rasterFormatOf(file.peek(16));
-        if (!found.isEmpty())
+        if (!found.isEmpty()) {
             whole = canBeDecoded(file, found);
-        else if (hasSvgRoot(file, whole))
+        } else if (hasSvgRoot(file, whole)) {
             found = u"svg"_s;
+        }
     }
     if (format)
         *format = found;

@@ -160,9 +160,10 @@ bool StringsFile::load(const QString &path, QString *error)
                                  .arg(name, file.errorString()));
     }
     constexpr qint64 mostBytes = qint64(16) << 20;
-    if (file.size() > mostBytes)
-        return report(error,
-                      u"%1: %2"_s.arg(name, LocalizationHelper::coreString(u"The file is too large."_s)));
+    if (file.size() > mostBytes) {
+        const QString tooLarge = LocalizationHelper::coreString(u"The file is too large."_s);
+        return report(error, u"%1: %2"_s.arg(name, tooLarge));
+    }
     QString problem;
     if (!parse(file.read(mostBytes), &problem))
         return report(error, u"%1: %2"_s.arg(name, problem));

@@ -8,6 +8,7 @@
 #include <QRect>
 #include <QSize>
 
+#include <array>
 #include <zlib.h>
 
 namespace Halvane::Corvex::Common::VariantStream {
@@ -42,7 +43,7 @@ struct LeafType
     QVariant (*read)(QDataStream &stream);
 };
 
-constexpr LeafType leafTypes[] = {
+constexpr auto leafTypes = std::to_array<LeafType>({
     {0, QMetaType::UnknownType, readNothing},
     {1, QMetaType::Bool, readLeaf<bool>},
     {2, QMetaType::Int, readLeaf<int>},
@@ -63,7 +64,7 @@ constexpr LeafType leafTypes[] = {
     {26, QMetaType::QPointF, readLeaf<QPointF>},
     {67, QMetaType::QColor, readLeaf<QColor>},
     {135, QMetaType::Float, readLeaf<float>},
-};
+});
 
 class Reader
 {
@@ -89,10 +90,10 @@ public:
         default:
             break;
         }
-        const auto leaf =
-            std::find_if(std::begin(leafTypes), std::end(leafTypes),
-                         [type](const LeafType &candidate) { return candidate.number == type; });
-        if (leaf != std::end(leafTypes) && m_stream.status() == QDataStream::Ok)
+        const auto leaf = std::find_if(leafTypes.begin(), leafTypes.end(), [type](const LeafType &candidate) {
+            return candidate.number == type;
+        });
+        if (leaf != leafTypes.end() && m_stream.status() == QDataStream::Ok)
             return leaf->read(m_stream);
         m_stream.setStatus(QDataStream::ReadCorruptData);
         return {};
@@ -203,7 +204,7 @@ bool canHold(const QVariant &value)
     case QMetaType::QStringList:
         return true;
     default:
-        return std::any_of(std::begin(leafTypes), std::end(leafTypes),
+        return std::any_of(leafTypes.begin(), leafTypes.end(),
                            [&value](const LeafType &leaf) { return leaf.type == value.typeId(); });
     }
 }

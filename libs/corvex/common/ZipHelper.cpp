@@ -177,9 +177,9 @@ bool isPlainFileOrFolder(zip_t *archive, zip_uint64_t index)
 bool isHarmless(zip_t *archive, const QString &zipPath, QString *error)
 {
     const zip_int64_t count = zip_get_num_entries(archive, 0);
+    const QString tooLarge = LocalizationHelper::coreString(u"The archive would grow beyond measure."_s);
     if (count > mostEntries)
-        return fail(error, zipPath,
-                    LocalizationHelper::coreString(u"The archive would grow beyond measure."_s));
+        return fail(error, zipPath, tooLarge);
     QSet<QString> names;
     quint64 total = 0;
     for (zip_int64_t i = 0; i < count; ++i) {
@@ -189,10 +189,9 @@ bool isHarmless(zip_t *archive, const QString &zipPath, QString *error)
         if (zip_stat_index(archive, index, 0, &entry) != 0)
             return fail(error, zipPath, textOf(archive));
         total += entry.size;
-        if (entry.size > mostUnpackedBytes || total > mostUnpackedBytes
-            || entry.size / mostGrowth > entry.comp_size)
-            return fail(error, zipPath,
-                        LocalizationHelper::coreString(u"The archive would grow beyond measure."_s));
+        const bool grows = entry.size / mostGrowth > entry.comp_size;
+        if (grows || entry.size > mostUnpackedBytes || total > mostUnpackedBytes)
+            return fail(error, zipPath, tooLarge);
         if (!isSafeName(name) || !isPlainFileOrFolder(archive, index) || names.contains(name)) {
             return fail(
                 error, zipPath,
