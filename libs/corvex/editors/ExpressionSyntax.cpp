@@ -86,8 +86,8 @@ ExpressionSyntax::Result ExpressionSyntax::compile(const QString &code, bool inP
         return result;
     const Place place = within({error->line() - linesBefore, error->column()}, end);
     if (result.valid)
-        result = {false, place.line, place.column, error->description()};
-    else if (place.line == result.line)
+        return {false, place.line, place.column, error->description()};
+    if (place.line == result.line)
         result.column = place.column;
     return result;
 }

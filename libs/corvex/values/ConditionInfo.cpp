@@ -30,9 +30,10 @@ ConditionInfo::ConditionInfo(const QString &text, bool *ok)
     const double value1 = ValueConversion::toReal(group.value(u"value1"_s), &isReal1);
     const double value2 = ValueConversion::toReal(group.value(u"value2"_s), &isReal2);
     parsed = parsed && isReal1 && isReal2;
-    if (parsed)
+    if (parsed) {
         *this = ConditionInfo(group.value(u"condition1"_s), value1, group.value(u"condition2"_s), value2,
                               operatorName == "OR"_L1);
+    }
     if (ok)
         *ok = parsed;
 }

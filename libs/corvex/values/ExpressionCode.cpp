@@ -7,7 +7,8 @@
 #include "corvex/values/ValueConversion.h"
 
 #include <algorithm>
-#include <iterator>
+#include <array>
+#include <span>
 
 namespace Halvane::Corvex::Designer {
 
@@ -18,7 +19,7 @@ using Words = ExpressionVocabulary;
 namespace {
 
 //! What a template's %1 is filled with.
-enum class Argument : quint8 {
+enum class Argument : quint32 {
     Value,       //!< The value as it stands.
     Quoted,      //!< The value, made safe between double quotes.
     Variable,    //!< The call that fetches the variable of that name.
@@ -30,45 +31,46 @@ enum class Argument : quint8 {
     DigitsTruth, //!< false for "0".
 };
 
+//! The widths leave no holes between the fields.
 struct Row
 {
-    quint8 outputs; //!< A bit for each output type.
+    quint16 outputs; //!< A bit for each output type.
     Info::ValueType valueType;
-    quint16 dataTypes; //!< A bit for each data type.
+    quint32 dataTypes; //!< A bit for each data type.
     const char *text;
     Argument argument = Argument::Value;
-    quint8 words = 0; //!< When set, the value belongs to one of these sets of the vocabulary.
+    quint32 words = 0; //!< When set, the value belongs to one of these sets of the vocabulary.
 };
 
-constexpr quint8 toRaw = 1U << Info::RawOutput;
-constexpr quint8 toString = 1U << Info::StringOutput;
-constexpr quint8 toBoolean = 1U << Info::BooleanOutput;
-constexpr quint8 toInteger = 1U << Info::IntegerOutput;
-constexpr quint8 toNumber = 1U << Info::FloatOutput | 1U << Info::NumberOutput;
-constexpr quint8 toColor = 1U << Info::ColorOutput;
-constexpr quint8 toCode = 0xff & ~(1U << Info::NoOutput);
-constexpr quint8 toAny = 0xff;
+constexpr quint16 toRaw = 1U << Info::RawOutput;
+constexpr quint16 toString = 1U << Info::StringOutput;
+constexpr quint16 toBoolean = 1U << Info::BooleanOutput;
+constexpr quint16 toInteger = 1U << Info::IntegerOutput;
+constexpr quint16 toNumber = 1U << Info::FloatOutput | 1U << Info::NumberOutput;
+constexpr quint16 toColor = 1U << Info::ColorOutput;
+constexpr quint16 toCode = 0xff & ~(1U << Info::NoOutput);
+constexpr quint16 toAny = 0xff;
 
-constexpr quint16 bools = 1U << Info::BooleanData;
-constexpr quint16 integers = 1U << Info::IntegerData;
-constexpr quint16 floats = 1U << Info::FloatData | 1U << Info::NumberData;
-constexpr quint16 numbers = integers | floats;
-constexpr quint16 variableNumbers = 1U << Info::NumberData;
-constexpr quint16 strings = 1U << Info::StringData;
-constexpr quint16 colors = 1U << Info::ColorData;
-constexpr quint16 hexes = 1U << Info::HexData;
-constexpr quint16 logs = 1U << Info::LogData;
-constexpr quint16 anyData = 0xffff;
+constexpr quint32 bools = 1U << Info::BooleanData;
+constexpr quint32 integers = 1U << Info::IntegerData;
+constexpr quint32 floats = 1U << Info::FloatData | 1U << Info::NumberData;
+constexpr quint32 numbers = integers | floats;
+constexpr quint32 variableNumbers = 1U << Info::NumberData;
+constexpr quint32 strings = 1U << Info::StringData;
+constexpr quint32 colors = 1U << Info::ColorData;
+constexpr quint32 hexes = 1U << Info::HexData;
+constexpr quint32 logs = 1U << Info::LogData;
+constexpr quint32 anyData = 0xffff;
 
 // The first row that fits a term is used.
 // clang-format off
-constexpr Row generalRows[]{
-    {toRaw,     Info::ConstantValue, strings | colors, "\"%1\"", Argument::Quoted},
+constexpr auto generalRows = std::to_array<Row>({
+    {toRaw,     Info::ConstantValue, strings | colors, R"("%1")", Argument::Quoted},
     {toRaw,     Info::ObjectValue,   anyData,          "qml_%1"},
     {toRaw,     Info::VariableValue, anyData,          "%1", Argument::Variable},
 
-    {toString,  Info::ConstantValue, anyData,          "\"%1\"", Argument::Quoted},
-    {toString,  Info::ObjectValue,   bools,            "(qml_%1?\"true\":\"false\")"},
+    {toString,  Info::ConstantValue, anyData,          R"("%1")", Argument::Quoted},
+    {toString,  Info::ObjectValue,   bools,            R"((qml_%1?"true":"false"))"},
     {toString,  Info::ObjectValue,   numbers,          "String(qml_%1)"},
     {toString,  Info::ObjectValue,   strings,          "qml_%1"},
     {toString,  Info::VariableValue, anyData,          "qmlViewer.getVariableValueString(\"%1\")", Argument::Quoted},
@@ -101,19 +103,19 @@ constexpr Row generalRows[]{
     {toNumber,  Info::VariableValue, variableNumbers,  "%1", Argument::Variable},
     {toNumber,  Info::VariableValue, strings,          "parseFloat(%1)", Argument::Variable},
 
-    {toColor,   Info::ConstantValue, anyData,          "\"%1\"", Argument::Quoted},
+    {toColor,   Info::ConstantValue, anyData,          R"("%1")", Argument::Quoted},
     {toColor,   Info::ObjectValue,   anyData,          "qmlViewer.convertToColorFromName(qml_%1)"},
     {toColor,   Info::VariableValue, anyData,          "qmlViewer.convertToColorFromName(%1)", Argument::Variable},
 
     {toCode,    Info::ConstantValue, numbers,          "%1", Argument::Numeral},
-    {toCode,    Info::ConstantValue, colors,           "\"%1\"", Argument::Quoted},
+    {toCode,    Info::ConstantValue, colors,           R"("%1")", Argument::Quoted},
     {toCode,    Info::ConstantValue, anyData,          "%1"},
     {toCode,    Info::OperatorValue, anyData,          "%1"},
     {toCode,    Info::FunctionValue, anyData,          "%1"},
     {toCode,    Info::CommandValue,  anyData,          "%1"},
-};
+});
 
-constexpr Row mathRows[]{
+constexpr auto mathRows = std::to_array<Row>({
     {toAny, Info::OperatorValue, anyData,         "%1"},
     {toAny, Info::ConstantValue, bools,           "%1", Argument::ZeroOrOne},
     {toAny, Info::ConstantValue, floats,          "Math.%1", Argument::Value, Words::MathValues},
@@ -125,40 +127,34 @@ constexpr Row mathRows[]{
     {toAny, Info::VariableValue, bools,           "(%1?1:0)", Argument::Variable},
     {toAny, Info::VariableValue, variableNumbers, "%1", Argument::Variable},
     {toAny, Info::VariableValue, strings,         "parseFloat(%1)", Argument::Variable},
-    {toAny, Info::VariableValue, logs,            "\"%1\"", Argument::Quoted},
+    {toAny, Info::VariableValue, logs,            R"("%1")", Argument::Quoted},
     {toAny, Info::FunctionValue, anyData,         "Math.%1()", Argument::Value, Words::CompleteFunctions},
     {toAny, Info::FunctionValue, anyData,         "qmlViewer.%1(", Argument::Value, Words::DeviceFunctions},
     {toAny, Info::FunctionValue, anyData,         "Math.%1("},
-};
+});
 
-constexpr Row stringRows[]{
+constexpr auto stringRows = std::to_array<Row>({
     {toAny, Info::OperatorValue, anyData,                   "%1"},
-    {toAny, Info::ConstantValue, anyData,                   "\"%1\"", Argument::Quoted},
+    {toAny, Info::ConstantValue, anyData,                   R"("%1")", Argument::Quoted},
     {toAny, Info::ObjectValue,   bools,                     "(qml_%1?1:0)"},
     {toAny, Info::ObjectValue,   anyData,                   "qml_%1"},
     {toAny, Info::VariableValue, bools,                     "(%1?1:0)", Argument::Variable},
     {toAny, Info::VariableValue, variableNumbers | strings, "%1", Argument::Variable},
-    {toAny, Info::VariableValue, logs,                      "\"%1\"", Argument::Quoted},
+    {toAny, Info::VariableValue, logs,                      R"("%1")", Argument::Quoted},
     {toAny, Info::FunctionValue, anyData,                   "\"\".%1(", Argument::Value, Words::MethodFunctions},
     {toAny, Info::FunctionValue, anyData,                   "qmlViewer.%1("},
-};
+});
 // clang-format on
 
-struct RowRange
-{
-    const Row *first;
-    const Row *last;
-};
-
-RowRange rowsOf(ExpressionRules::Kind kind)
+std::span<const Row> rowsOf(ExpressionRules::Kind kind)
 {
     switch (kind) {
     case ExpressionRules::Kind::Math:
-        return {std::begin(mathRows), std::end(mathRows)};
+        return mathRows;
     case ExpressionRules::Kind::String:
-        return {std::begin(stringRows), std::end(stringRows)};
+        return stringRows;
     default:
-        return {std::begin(generalRows), std::end(generalRows)};
+        return generalRows;
     }
 }
 
@@ -166,13 +162,13 @@ const Row *findRow(ExpressionRules::Kind kind, const Info &term, Info::OutputTyp
 {
     if (output > Info::NoOutput || term.dataType() > Info::CommandData)
         return nullptr;
-    const auto [first, last] = rowsOf(kind);
-    const Row *row = std::find_if(first, last, [&](const Row &candidate) {
+    const std::span<const Row> rows = rowsOf(kind);
+    const auto row = std::find_if(rows.begin(), rows.end(), [&](const Row &candidate) {
         return candidate.valueType == term.valueType() && (candidate.outputs >> output & 1U) != 0
                && (candidate.dataTypes >> term.dataType() & 1U) != 0
                && (candidate.words == 0 || (candidate.words & Words::setsOf(term.value())) != 0);
     });
-    return row == last ? nullptr : row;
+    return row == rows.end() ? nullptr : &*row;
 }
 
 void appendNumeral(QString &code, QStringView digits)
@@ -208,7 +204,7 @@ void appendArgument(QString &code, Argument argument, const QString &value)
         code += Common::TextHelper::toQmlValueString(value);
         break;
     case Argument::Variable:
-        code += "qmlViewer.getVariableValue(\""_L1 + Common::TextHelper::toQmlValueString(value) + "\")"_L1;
+        code += uR"(qmlViewer.getVariableValue("%1"))"_s.arg(Common::TextHelper::toQmlValueString(value));
         break;
     case Argument::Numeral:
         appendNumeral(code, value);
@@ -249,7 +245,7 @@ bool isElementItself(const Info &target, const Info &source)
 //! Whether the runtime has to convert the source to the type of the target property.
 bool needsConversion(const Info &target, const Info &source)
 {
-    constexpr quint16 strict = colors | strings | integers;
+    constexpr quint32 strict = colors | strings | integers;
     return (strict >> target.dataType() & 1U) != 0 && source.dataType() != target.dataType();
 }
 
@@ -279,7 +275,7 @@ bool ExpressionCode::appendAssignment(QString &code, const Info &target, const I
                                       Info::OutputType output)
 {
     QString sourceCode;
-    if (!ExpressionRules::allowsValue(Kind::Assign, target)
+    if (target.dataType() > Info::CommandData || !ExpressionRules::allowsValue(Kind::Assign, target)
         || !appendTerm(sourceCode, Kind::Assign, source, output))
         return false;
     const QString &path = target.value();
@@ -291,29 +287,29 @@ bool ExpressionCode::appendAssignment(QString &code, const Info &target, const I
     }
     if (target.valueType() != Info::ObjectValue || !path.contains(u'.'))
         return false;
-    if (isElementItself(target, source))
+    if (isElementItself(target, source)) {
         code += u"qml_%1 = qml_%2;"_s.arg(path, ObjectPath::firstSegment(source.value()));
-    else if (needsConversion(target, source))
+    } else if (needsConversion(target, source)) {
         code += u"qmlViewer.assignPropertyValue(qml_%1, \"%2\", %3, %4);"_s.arg(
             ObjectPath::firstSegment(path), ObjectPath::lastSegment(path), type, sourceCode);
-    else
+    } else {
         code += u"qml_%1 = %2;"_s.arg(path, sourceCode);
+    }
     return true;
 }
 
 QString ExpressionCode::parserString(const Info &term)
 {
     const QString &value = term.value();
-    QString text;
     if (term.valueType() == Info::FunctionValue)
-        text = value + ((Words::setsOf(value) & Words::CompleteFunctions) != 0 ? "()"_L1 : "("_L1);
-    else if (term.valueType() != Info::ConstantValue)
-        text = value;
-    else if (term.dataType() == Info::StringData)
-        text = u'"' + Common::TextHelper::toQmlValueString(value) + u'"';
-    else
-        appendNumeral(text, value);
-    return text;
+        return value + ((Words::setsOf(value) & Words::CompleteFunctions) != 0 ? "()"_L1 : "("_L1);
+    if (term.valueType() != Info::ConstantValue)
+        return value;
+    if (term.dataType() == Info::StringData)
+        return u'"' + Common::TextHelper::toQmlValueString(value) + u'"';
+    QString numeral;
+    appendNumeral(numeral, value);
+    return numeral;
 }
 
 } // namespace Halvane::Corvex::Designer

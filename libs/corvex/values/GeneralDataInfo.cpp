@@ -61,9 +61,9 @@ int twoDigits(QStringView text)
 QString encodedInteger(const QString &value)
 {
     if (!ExpressionRules::isConstant(GeneralDataInfo::IntegerData, value))
-        return QString();
+        return {};
     const qlonglong number = value.toLongLong();
-    const qulonglong magnitude = number < 0 ? 0 - qulonglong(number) : qulonglong(number);
+    const auto magnitude = number < 0 ? 0 - qulonglong(number) : qulonglong(number);
     return (number < 0 ? u"-"_s : QString()) + QString::number(magnitude, 16).toUpper();
 }
 
@@ -73,7 +73,7 @@ QString decodedInteger(QStringView text, bool &ok)
     const QStringView digits = negative ? text.sliced(1) : text;
     ok = ExpressionRules::isHexadecimal(digits);
     const qulonglong magnitude = ok ? digits.toULongLong(&ok, 16) : 0;
-    constexpr qulonglong largest = qulonglong(std::numeric_limits<qlonglong>::max());
+    constexpr auto largest = qulonglong(std::numeric_limits<qlonglong>::max());
     ok = ok && magnitude <= largest + (negative ? 1 : 0);
     return ok ? QString::number(qlonglong(negative ? 0 - magnitude : magnitude)) : QString();
 }
@@ -270,12 +270,13 @@ bool GeneralDataInfo::replaceObject(const QString &oldName, const QString &newNa
 {
     if (newName.isEmpty() || !containsObject(oldName, kind))
         return false;
+    if (m_valueType == VariableValue) {
+        m_value = newName;
+        return true;
+    }
     QString objects = objectName();
     const qsizetype size = objects.size();
-    if (m_valueType == VariableValue)
-        objects = newName;
-    else
-        ObjectPath::replace(objects, oldName, newName);
+    ObjectPath::replace(objects, oldName, newName);
     m_value.replace(0, size, objects);
     return true;
 }

@@ -17,12 +17,12 @@ class Screen;
     One term of an expression: an operator, a function, a constant, a property of an element, a variable or a
     device command.
 
-    What value() holds follows from the value type: the text of the operator, the name of the function, the
-   text of the constant, a path "element.property" (through groups "group.element.property", across screens
-    "screen.element.property"), the name of the variable, the digits of the command.
+    What value() holds follows from the value type: the text of the operator, the name of the function,
+    the text of the constant, a path "element.property" (through groups "group.element.property", across
+    screens "screen.element.property"), the name of the variable, the digits of the command.
 
     The rules of this class are those of a term in a plain expression; the kinds (MathInfo, StringInfo,
-   BoolInfo, AssignInfo, ModbusCommandInfo) add no data, only rules of their own.
+    BoolInfo, AssignInfo, ModbusCommandInfo) add no data, only rules of their own.
 */
 class GeneralDataInfo
 {
@@ -104,12 +104,12 @@ public:
 
     /*!
         Two hexadecimal digits for the value type, two for the data type, then the value, which is encoded in
-        constants. A constant whose value is none of its data type gives a text that the constructor refuses.
+        constants. An integer or colour constant that is none gives a text that the constructor refuses.
     */
     QString toString() const;
     /*!
-        The value of a constant as bool, qlonglong, double, QColor or text, the value of any other term as
-       text. Invalid for an empty term and for a constant whose value is none of its data type.
+        The value of a constant as bool, qlonglong, double, QColor or text, that of any other term as text.
+        Invalid for an empty term and for a constant whose value is none of its data type.
     */
     QVariant toVariant() const;
 
@@ -118,8 +118,8 @@ public:
 
     /*!
         Whether the term names the element or variable \a name. Names are whole segments of the path, the last
-        one (the property) excepted: "group1.rect1.color" names group1 and rect1, neither rect nor color. \a
-       name may be a path itself ("group1.rect1").
+        one (the property) excepted: "group1.rect1.color" names group1 and rect1, neither rect nor color.
+        \a name may be a path itself ("group1.rect1").
     */
     bool containsObject(const QString &name, NameKind kind = AnyName) const;
     //! Whether the path of an element term starts with the screen \a name.

@@ -59,16 +59,13 @@ bool appendAssignments(QString &code, const QList<GeneralDataInfo> &terms, Gener
     return true;
 }
 
-//! Calls \a change on every term and counts how often it says that it did change it. Nothing is copied
-//! before.
-template<typename Needed, typename Change>
-int changeTerms(QList<GeneralDataInfo> &terms, Needed needed, Change change)
+//! Calls \a change on every term and counts how often it says that it did change it.
+template<typename Change>
+int changeTerms(QList<GeneralDataInfo> &terms, Change change)
 {
     int changed = 0;
-    for (qsizetype i = 0; i < terms.size(); ++i) {
-        if (needed(terms.at(i)) && change(terms[i]))
-            ++changed;
-    }
+    for (GeneralDataInfo &term : terms)
+        changed += change(term) ? 1 : 0;
     return changed;
 }
 
@@ -193,7 +190,7 @@ bool GeneralDataList::isValidValue(InfoType infoType) const
 QString GeneralDataList::toQmlString(const OutputType &output, const InfoType &infoType) const
 {
     if (!isInfoType(infoType))
-        return QString();
+        return {};
     QString code;
     const bool translated = infoType == AssignExpression
                                 ? appendAssignments(code, m_terms, output)
@@ -211,32 +208,36 @@ bool GeneralDataList::containsScreenObject(const QString &name) const
     return std::any_of(begin(), end(), [&](const auto &term) { return term.containsScreenObject(name); });
 }
 
+// A list that does not hold the name is not detached from its copies.
+
 int GeneralDataList::replaceObject(const QString &oldName, const QString &newName, NameKind kind)
 {
-    return changeTerms(
-        m_terms, [&](const auto &term) { return term.containsObject(oldName, kind); },
-        [&](auto &term) { return term.replaceObject(oldName, newName, kind); });
+    if (!containsObject(oldName, kind))
+        return 0;
+    return changeTerms(m_terms, [&](auto &term) { return term.replaceObject(oldName, newName, kind); });
 }
 
 int GeneralDataList::replaceScreenObject(const QString &oldName, const QString &newName)
 {
-    return changeTerms(
-        m_terms, [&](const auto &term) { return term.containsScreenObject(oldName); },
-        [&](auto &term) { return term.replaceScreenObject(newName); });
+    if (!containsScreenObject(oldName))
+        return 0;
+    return changeTerms(m_terms, [&](auto &term) { return term.replaceScreenObject(oldName, newName); });
 }
 
 int GeneralDataList::removeObject(const QString &name, NameKind kind)
 {
-    return changeTerms(
-        m_terms, [&](const auto &term) { return term.containsObject(name, kind); },
-        [](auto &term) { return term.removeObject(); });
+    if (!containsObject(name, kind))
+        return 0;
+    return changeTerms(m_terms,
+                       [&](auto &term) { return term.containsObject(name, kind) && term.removeObject(); });
 }
 
 int GeneralDataList::removeScreenObject(const QString &name)
 {
-    return changeTerms(
-        m_terms, [&](const auto &term) { return term.containsScreenObject(name); },
-        [](auto &term) { return term.removeObject(); });
+    if (!containsScreenObject(name))
+        return 0;
+    return changeTerms(m_terms,
+                       [&](auto &term) { return term.containsScreenObject(name) && term.removeObject(); });
 }
 
 } // namespace Halvane::Corvex::Designer

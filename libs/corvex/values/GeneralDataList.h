@@ -96,8 +96,8 @@ public:
     bool isValidValue(InfoType infoType) const;
 
     /*!
-        The whole list as JavaScript: one expression, or for AssignExpression one statement a line. Empty when
-       any term cannot be translated to \a output.
+        The whole list as JavaScript: one expression, or for AssignExpression one statement a line. Empty
+        when any term cannot be translated to \a output.
     */
     QString toQmlString(const OutputType &output, const InfoType &infoType) const;
 

@@ -30,7 +30,7 @@ public:
 
     /*!
         The term with plain names, as a user reads it and as the expression builder checks it: "speed", not
-       the call that fetches it. A function stands with its opening parenthesis.
+        the call that fetches it. A function stands with its opening parenthesis.
     */
     static QString parserString(const MathInfo &term);
 };
