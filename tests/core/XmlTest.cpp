@@ -190,7 +190,7 @@ TEST_F(Xml, HostileBytesEndWithAnErrorAndAPlace)
         {"nothing", ""},
         {"no XML", "screen 1"},
         {"cut off", "<Node>\n <Properties>\n  <Property name='nodes'><List><Node><Properties>"},
-        {"another root", "<Project/>"},
+        {"another root", "<Nothing/>"},
         {"not UTF-8", "<Node><Properties><Property name='text' value='\xE4'/></Properties></Node>"},
         {"UTF-16", QByteArray("\xFF\xFE<\0N\0o\0d\0e\0/\0>\0", 16)},
         {"entities", "<!DOCTYPE x [<!ENTITY a 'aa'>]><Node><Properties/></Node>"},

@@ -3,6 +3,8 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
+#include "corvex/project/ImageResource.h"
+#include "corvex/project/Project.h"
 
 using namespace Qt::StringLiterals;
 
@@ -63,7 +65,10 @@ DesignerObject *make(QObject *parent)
 //! How the objects that createObject() accepts are made.
 const QHash<QString, Maker> &makers()
 {
-    static const QHash<QString, Maker> table{};
+    static const QHash<QString, Maker> table{
+        {u"ImageResource"_s, make<ImageResource>},
+        {u"Project"_s, make<Project>},
+    };
     return table;
 }
 

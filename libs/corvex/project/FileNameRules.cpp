@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/FileNameRules.h"
+
+#include "corvex/common/FileHelper.h"
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/TextHelper.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Common::LocalizationHelper;
+using Common::TextHelper;
+
+QString forbiddenCharactersError(const QString &name)
+{
+    const QStringList characters = TextHelper::forbiddenFileNameCharacters(name);
+    if (characters.isEmpty()) {
+        return {};
+    }
+    const QString text =
+        characters.size() == 1
+            ? u"The name is in the wrong format. The following character may not be used: %1"_s
+            : u"The name is in the wrong format. The following characters may not be used: %1"_s;
+    return LocalizationHelper::coreString(text).arg(characters.join(u' '));
+}
+
+QString reservedNameError(const QString &name)
+{
+    return TextHelper::isReservedDeviceName(name)
+               ? LocalizationHelper::coreString(u"This name is reserved."_s)
+               : QString();
+}
+
+bool hasImageExtension(const QString &name)
+{
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot >= 0 && Common::FileHelper::validImageExtensions().contains(name.mid(dot + 1).toLower());
+}
+
+} // namespace
+
+QString FileNameRules::projectNameError(const QString &name)
+{
+    if (name.size() > longestProjectName) {
+        return LocalizationHelper::coreString(u"The project's name cannot have more than 248 characters."_s);
+    }
+    if (name.size() < 2) {
+        return LocalizationHelper::coreString(u"The project's name must have at least 2 characters."_s);
+    }
+    if (const QString error = forbiddenCharactersError(name); !error.isEmpty()) {
+        return error;
+    }
+    if (!TextHelper::isValidFileNameFormat(name)) {
+        return LocalizationHelper::coreString(
+            u"The project's name cannot begin with a blank or a full stop."_s);
+    }
+    return reservedNameError(name);
+}
+
+QString FileNameRules::imageNameError(const QString &name)
+{
+    if (name.size() > longestImageName) {
+        return LocalizationHelper::coreString(u"The image name cannot have more than 255 characters."_s);
+    }
+    if (!hasImageExtension(name)) {
+        return LocalizationHelper::coreString(u"The name is in the wrong format. Please ensure you include "
+                                              "the image's file extension: %1"_s)
+            .arg(Common::FileHelper::validImageExtensions().join(u", "_s));
+    }
+    if (const QString error = forbiddenCharactersError(name); !error.isEmpty()) {
+        return error;
+    }
+    if (!TextHelper::isValidFileNameFormat(name)) {
+        return LocalizationHelper::coreString(u"An error occurred."_s);
+    }
+    return reservedNameError(name);
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/ImageResource.h"
+
+#include "corvex/common/FileHelper.h"
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/IdentifierProperty.h"
+#include "corvex/core/properties/LinkProperty.h"
+#include "corvex/core/properties/StringProperty.h"
+#include "corvex/project/FileNameRules.h"
+#include "corvex/project/Project.h"
+#include "corvex/values/ValueConversion.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Common::LocalizationHelper;
+
+bool nameValidator(const DesignerProperty *property, QString &error)
+{
+    const DesignerObject *image = property->parentObject();
+    error = FileNameRules::imageNameError(image->getIdName());
+    if (error.isEmpty() && !image->isUnique(image)) {
+        error = LocalizationHelper::coreString(u"An image resource with name \"%1\" already exists."_s)
+                    .arg(image->getIdName());
+    }
+    return error.isEmpty();
+}
+
+} // namespace
+
+QString ImageResource::baseName() const
+{
+    return u"imageResource"_s;
+}
+
+QString ImageResource::displayName() const
+{
+    return LocalizationHelper::coreString(u"Image Resource"_s);
+}
+
+bool ImageResource::initializeProperties()
+{
+    static const PropertyTable table{
+        row<IdentifierProperty>("id", "Name", IdentifierInfo())
+            .rank(0)
+            .validator(nameValidator)
+            .allowInvalid(),
+        row<StringProperty>("originalLocation", "Original Location", QString())
+            .flags(4 | 8)
+            .rank(1)
+            .editor("OriginalLocationEditor")
+            .allowInvalid(),
+        row<StringProperty>("imageFile", "Image File", QString())
+            .rank(2)
+            .validator(imageFileValidator)
+            .allowInvalid(),
+    };
+    if (!FileObject::initializeProperties() || !addProperties(table)) {
+        return false;
+    }
+    registerIdentifier(u"Project"_s);
+    m_originalLocation = getProperty(u"originalLocation");
+    m_imageFile = getProperty(u"imageFile");
+    return true;
+}
+
+QString ImageResource::createFileName() const
+{
+    return getIdName();
+}
+
+bool ImageResource::createFile(const QString &path)
+{
+    QDir().mkdir(path);
+    const QString target = createFullFilePath(path, {}, createFileName());
+    if (target.isEmpty()) {
+        return finish(QFileInfo(path).isDir()
+                          ? FileNameRules::imageNameError(getIdName())
+                          : LocalizationHelper::coreString(u"The folder \"%1\" does not exist."_s).arg(path));
+    }
+    QFile original(m_originalLocation->valueString());
+    if (!original.copy(target)) {
+        return finish(LocalizationHelper::coreString(u"The file \"%1\" cannot be copied to \"%2\": %3"_s)
+                          .arg(original.fileName(), target, original.errorString()));
+    }
+    setFileFields(path, {}, createFileName());
+    return finish({});
+}
+
+bool ImageResource::loadFile(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.isFile()) {
+        return finish(LocalizationHelper::coreString(u"The file \"%1\" does not exist."_s).arg(path));
+    }
+    setFileFields(info.absolutePath(), {}, info.fileName());
+    return finish({});
+}
+
+bool ImageResource::saveFile()
+{
+    return finish(QFileInfo(fullFilePath()).isFile()
+                      ? QString()
+                      : LocalizationHelper::coreString(u"The file \"%1\" does not exist."_s)
+                            .arg(m_imageFile->valueString()));
+}
+
+bool ImageResource::renameFile(const QString &oldName, const QString &newName)
+{
+    const QString from = createFullFilePath(parentPath(), {}, oldName);
+    const QString to = createFullFilePath(parentPath(), {}, newName);
+    if (to.isEmpty() || !QFile::rename(from, to)) {
+        return finish(LocalizationHelper::coreString(u"The file \"%1\" cannot be renamed to \"%2\"."_s)
+                          .arg(oldName, newName));
+    }
+    setFileFields(parentPath(), {}, newName);
+    return finish({});
+}
+
+void ImageResource::setProject(Project *project)
+{
+    FileObject::setProject(project);
+    updateFileFields();
+}
+
+void ImageResource::updateFileFields()
+{
+    const QString folder = project() ? project()->imagesPath() : QString();
+    if (!folder.isEmpty()) {
+        setFileFields(folder, {}, createFileName());
+    }
+}
+
+void ImageResource::afterFileFieldsChanged()
+{
+    changePropertyValue(m_imageFile, fullFilePath());
+}
+
+void ImageResource::afterPropertyChanged(const DesignerProperty *property, const QString &)
+{
+    if (property == idProperty().data()) {
+        updateFileFields();
+    }
+    validate();
+}
+
+bool ImageResource::imageFileValidator(const DesignerProperty *property, QString &error)
+{
+    const auto *image = static_cast<const ImageResource *>(property->parentObject());
+    if (!QFileInfo(image->fullFilePath()).isFile()) {
+        error = LocalizationHelper::coreString(u"The file \"%1\" does not exist."_s).arg(image->getIdName());
+    } else if (!image->isImage()) {
+        error = LocalizationHelper::coreString(
+            u"The image is invalid or its extension does not match the image format."_s);
+    }
+    return error.isEmpty();
+}
+
+bool ImageResource::isImage() const
+{
+    const QFileInfo info(fullFilePath());
+    if (m_inspection.path != fullFilePath() || m_inspection.size != info.size()
+        || m_inspection.time != info.lastModified()) {
+        m_inspection = {fullFilePath(), info.size(), info.lastModified(),
+                        Common::FileHelper::isValidImage(fullFilePath())};
+    }
+    return m_inspection.isImage;
+}
+
+void ImageResource::linkElement(DesignerObject *element)
+{
+    if (!element || m_linkedElements.contains(element)) {
+        return;
+    }
+    m_linkedElements.insert(element);
+    connect(element, &QObject::destroyed, this, [this, element] { unlinkElement(element); });
+    emit linkedElementsChanged();
+}
+
+void ImageResource::unlinkElement(DesignerObject *element)
+{
+    if (m_linkedElements.remove(element)) {
+        disconnect(element, &QObject::destroyed, this, nullptr);
+        emit linkedElementsChanged();
+    }
+}
+
+ImageResource *ImageResource::imageElement(const DesignerObject *element)
+{
+    const SharedProperty source = element ? element->getProperty(u"source") : SharedProperty();
+    if (!source || source->className() != "LinkProperty"_L1 || !element->project()) {
+        return nullptr;
+    }
+    const QString name = static_cast<const LinkProperty &>(*source).value().objectId();
+    return static_cast<ImageResource *>(element->project()->imageResources()->getListItem(name));
+}
+
+DesignerObject *ImageResource::createImageElement(const QString &name, const QSizeF &size,
+                                                  const QPointF &position)
+{
+    DesignerFactory *factory = DesignerFactory::instance();
+    const QString className = u"Image"_s;
+    DesignerObject *element =
+        factory && factory->canCreateObject(className) ? factory->createObject(className) : nullptr;
+    if (!element) {
+        return nullptr;
+    }
+    element->setParent(nullptr);
+    // The picture can be found only once the element is on a screen.
+    element->setDisableValidation(true);
+    const ObjectLinkInfo source(name, u"Project"_s, u"ImageResource"_s);
+    element->changePropertyValue(element->getProperty(u"source"), source.toString());
+    element->changePropertyValue(element->getProperty(u"size"), ValueConversion::toString(size));
+    element->changePropertyValue(element->getProperty(u"position"), ValueConversion::toString(position));
+    element->setDisableValidation(false);
+    return element;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,341 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/Project.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/TextHelper.h"
+#include "corvex/core/ItemList.h"
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/IdentifierProperty.h"
+#include "corvex/core/properties/LinkProperty.h"
+#include "corvex/core/properties/ObjectListProperty.h"
+#include "corvex/core/properties/ObjectProperty.h"
+#include "corvex/core/properties/StringProperty.h"
+#include "corvex/project/FileNameRules.h"
+#include "corvex/project/ProjectAutosave.h"
+#include "corvex/values/ValueConversion.h"
+
+#include <QAction>
+#include <QFileInfo>
+#include <QSet>
+#include <QUndoStack>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+bool nameValidator(const DesignerProperty *property, QString &error)
+{
+    error = FileNameRules::projectNameError(property->parentObject()->getIdName());
+    return error.isEmpty();
+}
+
+bool screensValidator(const DesignerProperty *property, QString &error)
+{
+    if (property->listItemCount() > 0) {
+        return true;
+    }
+    error = Common::LocalizationHelper::coreString(u"At least one screen is required."_s);
+    return false;
+}
+
+bool defaultScreenValidator(const DesignerProperty *property, QString &error)
+{
+    const QString name = static_cast<const LinkProperty *>(property)->value().objectId();
+    if (name.isEmpty() || property->parentObject()->hasListItemInListProperty(u"screens"_s, name)) {
+        return true;
+    }
+    error = Common::LocalizationHelper::coreString(u"Cannot find screen \"%1\" in the project."_s).arg(name);
+    return false;
+}
+
+} // namespace
+
+Project::Project(QObject *parent)
+    : FileObject(parent)
+    , m_autosave(std::make_unique<ProjectAutosave>(this))
+{ }
+
+Project::~Project()
+{
+    m_autosave.reset();
+    // Undo steps own what they took out of the model, and refer to what they left in it.
+    delete std::exchange(m_undoStack, nullptr);
+    deleteChildren();
+}
+
+bool Project::initialize()
+{
+    if (!FileObject::initialize()) {
+        return false;
+    }
+    setProject(this);
+    return true;
+}
+
+QString Project::baseName() const
+{
+    return u"Project"_s;
+}
+
+QString Project::displayName() const
+{
+    return Common::LocalizationHelper::coreString(u"Project"_s);
+}
+
+bool Project::initializeProperties()
+{
+    static const PropertyTable table{
+        row<IdentifierProperty>("id", "Name", IdentifierInfo())
+            .rank(0)
+            .validator(nameValidator)
+            .allowInvalid(),
+        row<StringProperty>("version", "Build Version", QString())
+            .flags(1)
+            .rank(10)
+            .editor("ReadOnlyLineEditor"),
+        row<StringProperty>("designerVersion", "Designer Version", QString()).flags(1).rank(11),
+        row<ObjectProperty>("configuration", "Configuration", nullptr)
+            .flags(1 | 4 | 8 | 128)
+            .rank(12)
+            .filter({"Configuration"})
+            .allowInvalid(),
+        row<ObjectListProperty>("imageResources", "Image Resources", OrderRule::FileNameOrder)
+            .flags(65)
+            .rank(13)
+            .filter({"ImageResource"}),
+        row<ObjectListProperty>("variables", "Project Variables", OrderRule::NaturalOrder)
+            .flags(65)
+            .rank(14)
+            .filter({"ProjectVariable"}),
+        row<ObjectListProperty>("screens", "Screens", OrderRule::InsertionOrder)
+            .flags(65)
+            .rank(15)
+            .filter({"Screen"})
+            .validator(screensValidator),
+        row<LinkProperty>("defaultScreen", "Default Screen", ObjectLinkInfo({}, u"Project"_s, u"Screen"_s))
+            .flags(15)
+            .rank(16)
+            .parameter("scopeType", u"Project"_s)
+            .parameter("filterType", u"Screen"_s)
+            .validator(defaultScreenValidator)
+            .allowInvalid(),
+    };
+    if (!FileObject::initializeProperties() || !addProperties(table)) {
+        return false;
+    }
+    m_version = getProperty(u"version");
+    m_designerVersion = getProperty(u"designerVersion");
+    m_configuration = getProperty(u"configuration");
+    m_imageResources = getProperty(u"imageResources");
+    m_variables = getProperty(u"variables");
+    m_screens = getProperty(u"screens");
+    m_defaultScreen = getProperty(u"defaultScreen");
+    return true;
+}
+
+bool Project::storesProperty(const DesignerProperty &property) const
+{
+    if (property.isList() && property.listItemCount() == 0 && !property.itemList()->hasKeptItems()) {
+        return false;
+    }
+    return FileObject::storesProperty(property);
+}
+
+void Project::readEmptyValue(const SharedProperty &property)
+{
+    if (property == m_version) {
+        m_needsBuildVersion = true;
+    } else {
+        FileObject::readEmptyValue(property);
+    }
+}
+
+void Project::finishReading()
+{
+    if (std::exchange(m_needsBuildVersion, false)) {
+        updateBuildVersion();
+    }
+}
+
+void Project::afterObjectPropertyChanged(const DesignerProperty *property,
+                                         const DesignerObject *previousObject)
+{
+    if (property != m_configuration.data()) {
+        return;
+    }
+    if (previousObject) {
+        disconnect(previousObject, nullptr, this, nullptr);
+    }
+    if (const DesignerObject *configuration = property->objectValue()) {
+        connect(configuration, &DesignerObject::propertyValueChanged, this,
+                &Project::onConfigurationPropertyChanged);
+    }
+    updateScreenSizes();
+}
+
+void Project::onConfigurationPropertyChanged(const SharedProperty &property)
+{
+    if (property->id() == "screenSize"_L1 || property->id() == "orientation"_L1) {
+        updateScreenSizes();
+    }
+}
+
+void Project::updateScreenSizes()
+{
+    const DesignerObject *configuration = m_configuration->objectValue();
+    const SharedProperty screenSize =
+        configuration ? configuration->getProperty(u"screenSize") : SharedProperty();
+    bool ok = false;
+    const QSizeF size = screenSize ? ValueConversion::toSize(screenSize->valueString(), &ok) : QSizeF();
+    if (!ok) {
+        return;
+    }
+    for (DesignerObject *screen : m_screens->listItems()) {
+        const SharedProperty orientation = screen->getProperty(u"orientation");
+        const QString angle = orientation ? orientation->valueString() : QString();
+        const bool isTurned = angle == "90"_L1 || angle == "270"_L1;
+        screen->changePropertyValue(screen->getProperty(u"size"),
+                                    ValueConversion::toString(isTurned ? size.transposed() : size));
+    }
+}
+
+void Project::afterListItemAdded(const DesignerProperty *property, const DesignerObject *)
+{
+    if (property == m_screens.data()) {
+        validateDefaultScreen();
+    }
+}
+
+void Project::afterListItemRemoved(const DesignerProperty *property, const DesignerObject *)
+{
+    if (property == m_screens.data()) {
+        validateDefaultScreen();
+    }
+}
+
+void Project::afterListPropertyChanged()
+{
+    validateDefaultScreen();
+}
+
+void Project::validateDefaultScreen()
+{
+    if (!disabledValidation()) {
+        m_defaultScreen->validate();
+        updateValidity();
+    }
+}
+
+QString Project::buildVersion()
+{
+    const QString version = QStringLiteral(CORVEX_BUILD_VERSION);
+    return version.isEmpty() ? u"4.0.0"_s : version;
+}
+
+void Project::updateBuildVersion()
+{
+    const QString name = getIdName();
+    if (m_version && !name.isEmpty()) {
+        changePropertyValue(m_version,
+                            Common::TextHelper::encryptString(u"%1-%2"_s.arg(name, buildVersion())));
+    }
+}
+
+QString Project::buildTag() const
+{
+    return Common::TextHelper::decryptString(m_version->valueString());
+}
+
+bool Project::updateProjectProperties()
+{
+    return true;
+}
+
+bool Project::upgradeToCurrentVersion()
+{
+    return true;
+}
+
+QUndoStack *Project::undoStack()
+{
+    if (!m_undoStack) {
+        m_undoStack = new QUndoStack(this);
+        connect(m_undoStack, &QUndoStack::indexChanged, m_autosave.get(), &ProjectAutosave::countEdit);
+    }
+    return m_undoStack;
+}
+
+void Project::createUndoStack()
+{
+    undoStack()->clear();
+    m_autosave->startOver();
+}
+
+QAction *Project::createUndoAction()
+{
+    if (!m_undoAction) {
+        m_undoAction = new QAction(Common::LocalizationHelper::coreString(u"Undo"_s), this);
+        m_undoAction->setEnabled(undoStack()->canUndo());
+        connect(m_undoStack, &QUndoStack::canUndoChanged, m_undoAction, &QAction::setEnabled);
+        connect(m_undoAction, &QAction::triggered, m_undoStack, &QUndoStack::undo);
+    }
+    return m_undoAction;
+}
+
+QAction *Project::createRedoAction()
+{
+    if (!m_redoAction) {
+        m_redoAction = new QAction(Common::LocalizationHelper::coreString(u"Redo"_s), this);
+        m_redoAction->setEnabled(undoStack()->canRedo());
+        connect(m_undoStack, &QUndoStack::canRedoChanged, m_redoAction, &QAction::setEnabled);
+        connect(m_redoAction, &QAction::triggered, m_undoStack, &QUndoStack::redo);
+    }
+    return m_redoAction;
+}
+
+void Project::startAutoSaveTimer()
+{
+    m_autosave->start();
+}
+
+QString Project::generateUniqueName(const QString &stem) const
+{
+    QSet<QString> used;
+    for (const SharedProperty &list : {m_variables, m_screens}) {
+        for (const DesignerObject *object : list->listItems(true)) {
+            used.insert(object->getIdName());
+        }
+    }
+    int number = 1;
+    while (used.contains(u"%1%2"_s.arg(stem, QString::number(number)))) {
+        ++number;
+    }
+    return u"%1%2"_s.arg(stem, QString::number(number));
+}
+
+QString Project::generateUniqueName(const QString &folder, const QString &name)
+{
+    QString unique = name;
+    for (int number = 1; QFileInfo::exists(u"%1/%2"_s.arg(folder, unique)); ++number) {
+        unique = u"%1%2"_s.arg(name, QString::number(number));
+    }
+    return unique;
+}
+
+RuntimeAutoSettingList Project::objectAutoSaveVariablesList(const QString &objectName) const
+{
+    return m_autoSaveVariables.value(objectName);
+}
+
+void Project::updateObjectAutoSaveVariablesList(const QString &objectName, const RuntimeAutoSettingList &list)
+{
+    if (list.isEmpty()) {
+        m_autoSaveVariables.remove(objectName);
+    } else {
+        m_autoSaveVariables.insert(objectName, list);
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/FileObject.h"
+#include "corvex/values/RuntimeAutoSettingList.h"
+
+#include <QHash>
+
+class QAction;
+class QUndoStack;
+
+namespace Halvane::Corvex::Designer {
+
+class ImageResource;
+class ProjectAutosave;
+
+/*! The root of everything that a user designs: screens, variables, images and the configuration of the
+   device.
+
+    A project P in the folder D is the file D/P/P.kdproj; its images lie in D/P/Images and a picture of it,
+   when there is one, is D/P/Preview.png. project() of a project and of everything below it is the project
+   itself.
+*/
+class Project : public FileObject
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(Project, FileObject)
+
+public:
+    ~Project() override;
+
+    bool initialize() override;
+    QString baseName() const override;
+    QString displayName() const override;
+
+    // Properties.
+    //! The enciphered build tag, "name-version".
+    const SharedProperty &version() const { return m_version; }
+    //! The version of the tool that wrote the file last.
+    const SharedProperty &designerVersion() const { return m_designerVersion; }
+    const SharedProperty &configuration() const { return m_configuration; }
+    const SharedProperty &imageResources() const { return m_imageResources; }
+    const SharedProperty &variables() const { return m_variables; }
+    const SharedProperty &screens() const { return m_screens; }
+    const SharedProperty &defaultScreen() const { return m_defaultScreen; }
+
+    // Files. All keep a text for fileError() when they fail.
+    QString createFileName() const override;
+    QString createSubPath() const override;
+    /*! Makes D/P/P.kdproj in the existing folder D = \a path. Refuses a name that cannot be carried to every
+       system. Images stay where they are: createFileCopy() takes them along. A new undo history starts here,
+       with loadFile() and with saveFile(). */
+    bool createFile(const QString &path) override;
+    //! Reads D/P/P.kdproj into this project, whose own contents go before.
+    bool loadFile(const QString &path) override;
+    bool saveFile() override;
+    //! Deletes the project's file, its images and its preview, and their folders once they are empty.
+    bool deleteFile() override;
+    /*! Makes the project D/Q/Q.kdproj with images and preview in the existing folder D = \a parentPath, as it
+       stands in memory; Q is \a name, or the project's own name. D/Q must not be there yet, and is not after
+       a failure. An image whose file is missing is missing in the copy. */
+    bool createFileCopy(const QString &parentPath, const QString &name = {});
+    /*! Writes \a fileName, the images into "Images" and the preview into the folder \a path, which is empty.
+       This is what copies and autosave files are made of. */
+    bool writeContents(const QString &path, const QString &fileName, QString *error) const;
+    //! Where the files of the images lie, whether or not the folder is there; empty for a project without a
+    //! file.
+    QString imagesPath() const;
+    //! D/P.kdproj.kdasv, beside the project's folder; empty for a project without a file.
+    QString autosavePath() const;
+    //! What the file \a path holds as the values of its properties "id" and "version", found without loading
+    //! it. False when it is no project.
+    static bool getFileIdAndVersion(const QString &path, QString *id, QString *version);
+    //! The second of these; empty when the file is no project.
+    static QString getFileVersion(const QString &path);
+
+    // Versions.
+    //! The version of this program: "4.0.0".
+    static QString buildVersion();
+    //! Enciphers name and version of this program as the project's build tag.
+    void updateBuildVersion();
+    //! The name and version in the build tag; empty when that is none of ours.
+    QString buildTag() const;
+    //! Bring a project of an older version into the present form, in which every project that loads is today.
+    bool updateProjectProperties();
+    bool upgradeToCurrentVersion();
+
+    // Undo.
+    //! The history of edits, owned by the project.
+    QUndoStack *undoStack();
+    //! Begins a new history: all that could be undone is forgotten.
+    void createUndoStack();
+    //! Made once, owned by the project, and in need of a GUI application object.
+    QAction *createUndoAction();
+    QAction *createRedoAction();
+
+    // Autosave.
+    ProjectAutosave &autosave() { return *m_autosave; }
+    //! Starts the timer by the user's settings, see ProjectAutosave::startTimer().
+    void startAutoSaveTimer();
+
+    // Names.
+    //! The first of stem1, stem2, ... that is no variable, screen or element of the project.
+    QString generateUniqueName(const QString &stem) const;
+    //! \a name, or the first of name1, name2, ... of which nothing lies in the folder.
+    static QString generateUniqueName(const QString &folder, const QString &name);
+
+    //! The properties of an object that an auto-setting variable saves and restores, by the object's name.
+    RuntimeAutoSettingList objectAutoSaveVariablesList(const QString &objectName) const;
+    void updateObjectAutoSaveVariablesList(const QString &objectName, const RuntimeAutoSettingList &list);
+
+protected:
+    explicit Project(QObject *parent = nullptr);
+
+    // The canvas shows screens, never a whole project.
+    ObjectView *createGraphicsItem() override { return nullptr; }
+    bool initializeProperties() override;
+    //! Lists without items are left out of files.
+    bool storesProperty(const DesignerProperty &property) const override;
+    //! An empty version asks for a build tag once the project's name is known.
+    void readEmptyValue(const SharedProperty &property) override;
+    void finishReading() override;
+    void afterFileFieldsChanged() override;
+    void afterObjectPropertyChanged(const DesignerProperty *property,
+                                    const DesignerObject *previousObject) override;
+    void afterListItemAdded(const DesignerProperty *property, const DesignerObject *item) override;
+    void afterListItemRemoved(const DesignerProperty *property, const DesignerObject *item) override;
+    void afterListPropertyChanged() override;
+
+private:
+    void onConfigurationPropertyChanged(const SharedProperty &property);
+    void updateScreenSizes();
+    void validateDefaultScreen();
+    QList<ImageResource *> images() const;
+    void clearContents();
+    bool writeRenamed(const QString &path, const QString &name, QString *error) const;
+    bool copyResources(const QString &path, QString *error) const;
+
+    SharedProperty m_version;
+    SharedProperty m_designerVersion;
+    SharedProperty m_configuration;
+    SharedProperty m_imageResources;
+    SharedProperty m_variables;
+    SharedProperty m_screens;
+    SharedProperty m_defaultScreen;
+    QHash<QString, RuntimeAutoSettingList> m_autoSaveVariables;
+    QUndoStack *m_undoStack = nullptr;
+    QAction *m_undoAction = nullptr;
+    QAction *m_redoAction = nullptr;
+    std::unique_ptr<ProjectAutosave> m_autosave;
+    bool m_needsBuildVersion = false;
+};
+
+} // namespace Halvane::Corvex::Designer

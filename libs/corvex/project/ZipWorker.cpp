@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/ZipWorker.h"
+
+#include "corvex/common/ZipHelper.h"
+
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+ZipWorker::ZipWorker(const QString &folder, const QString &archive)
+    : m_folder(folder)
+    , m_archive(archive)
+    , m_error(u"The archive has not been packed."_s)
+{ }
+
+void ZipWorker::run()
+{
+    QString error;
+    const bool done = Common::ZipHelper::zipDirectory(m_folder, m_archive, &error);
+    m_error = done ? QString() : error;
+    QThread::currentThread()->quit();
+}
+
+} // namespace Halvane::Corvex::Designer
