@@ -8,7 +8,6 @@ option(CORVEX_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(CORVEX_BUILD_FUZZERS "Build the libFuzzer targets (needs clang)" OFF)
 option(CORVEX_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(CORVEX_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
-option(CORVEX_UNITY "Build each room as a few large translation units" OFF)
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -16,7 +15,6 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_WINDOWS_EXPORT_ALL_SYMBOLS ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-set(CMAKE_UNITY_BUILD ${CORVEX_UNITY})
 
 # The build tree has the layout of an installation, so that the tools find their plug-ins and data in
 # the same relative places in both.
@@ -58,7 +56,11 @@ add_link_options(-Wl,--as-needed)
 
 find_program(CORVEX_CCACHE ccache)
 if(CORVEX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  # Precompiled headers need ccache to look past their time stamps and at the macros they define.
+  # Precompiled headers need ccache to look past their time stamps and at the macros they define; with paths
+  # relative to the tree, several checkouts share what was compiled in one of them.
   set(CMAKE_CXX_COMPILER_LAUNCHER
-    "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime "${CORVEX_CCACHE}")
+    "${CMAKE_COMMAND}" -E env
+    CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+    "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" CCACHE_NOHASHDIR=1
+    "${CORVEX_CCACHE}")
 endif()
