@@ -12,6 +12,19 @@ function(corvex_precompiled_header)
   target_precompile_headers(corvex_precompiled PRIVATE "${PROJECT_SOURCE_DIR}/cmake/pch.h")
 endfunction()
 
+# corvex_automoc(TARGET)
+#
+# Runs moc for the target. moc runs again when a file changes that it has looked at before, and would miss one
+# that is new in a folder; so it is given one more header to look at, which changes with the list of files.
+function(corvex_automoc target)
+  get_target_property(sources ${target} SOURCES)
+  list(TRANSFORM sources PREPEND "// ")
+  list(JOIN sources "\n" text)
+  file(CONFIGURE OUTPUT ${target}_sources.h CONTENT "${text}\n")
+  target_sources(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/${target}_sources.h")
+  set_target_properties(${target} PROPERTIES AUTOMOC ON)
+endfunction()
+
 # corvex_room(NAME LINKS target...)
 #
 # A room is one folder of libs/corvex, compiled by itself with nothing but the libraries that its floor may
@@ -27,7 +40,7 @@ function(corvex_room name)
   target_link_libraries(corvex_${name} PUBLIC ${ROOM_LINKS} PRIVATE corvex_build_options)
   target_include_directories(corvex_${name} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/libs>")
   target_precompile_headers(corvex_${name} REUSE_FROM corvex_precompiled)
-  set_target_properties(corvex_${name} PROPERTIES AUTOMOC ON)
+  corvex_automoc(corvex_${name})
   set_property(GLOBAL APPEND PROPERTY CORVEX_ROOMS corvex_${name})
 endfunction()
 
@@ -39,7 +52,7 @@ function(corvex_tool name)
   add_executable(${name} ${TOOL_SOURCES})
   target_link_libraries(${name} PRIVATE corvex_build_options DesignerCore ${TOOL_LINKS})
   target_precompile_headers(${name} REUSE_FROM corvex_precompiled)
-  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  corvex_automoc(${name})
   install(TARGETS ${name} DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endfunction()
 
@@ -53,8 +66,8 @@ function(corvex_plugin name)
   target_include_directories(plugin_${name} PRIVATE "${PROJECT_SOURCE_DIR}/plugins")
   target_precompile_headers(plugin_${name} REUSE_FROM corvex_precompiled)
   file(RELATIVE_PATH up "/${CORVEX_PLUGIN_PATH}" "/${CMAKE_INSTALL_LIBDIR}")
+  corvex_automoc(plugin_${name})
   set_target_properties(plugin_${name} PROPERTIES
-    AUTOMOC ON
     OUTPUT_NAME ${name}
     LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${CORVEX_PLUGIN_PATH}"
     INSTALL_RPATH "$ORIGIN/${up}")
@@ -70,6 +83,6 @@ function(corvex_test name)
   add_executable(test_${name} ${TEST_SOURCES})
   target_link_libraries(test_${name} PRIVATE corvex_build_options corvex_test_support ${TEST_LINKS})
   target_precompile_headers(test_${name} REUSE_FROM corvex_test_support)
-  set_target_properties(test_${name} PROPERTIES AUTOMOC ON)
+  corvex_automoc(test_${name})
   add_test(NAME ${name} COMMAND test_${name})
 endfunction()
