@@ -78,7 +78,8 @@ TEST_F(ZipHelperTest, FailuresLeaveTheOldArchive)
     for (const QStringList &files : lists) {
         QString error;
         EXPECT_FALSE(ZipHelper::zipWithFiles(files, path(u"z.zip"_s), {}, 9, &error));
-        EXPECT_FALSE(error.isEmpty());
+        EXPECT_TRUE(error.startsWith(files.isEmpty() ? path(u"z.zip"_s) : files.last()))
+            << error.toStdString();
     }
     EXPECT_FALSE(ZipHelper::zipWithFiles({path(u"a"_s)}, path(u"z.zip"_s), QString(70000, u'c'), 9));
     EXPECT_FALSE(ZipHelper::zipDirectory(path(u"missing"_s), path(u"z.zip"_s)));
@@ -99,7 +100,9 @@ TEST_F(ZipHelperTest, EqualFoldersGiveEqualBytesAndComeBack)
         QFile::setPermissions(path(root + u"/b.txt"_s),
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         QFile::link(u"/etc/passwd"_s, path(root + u"/link"_s));
-        ASSERT_TRUE(ZipHelper::zipDirectory(path(root), path(root + u"/out.zip"_s)));
+        // The path of the folder leaves no trace in the names, however it is written.
+        const QString given = turn == 0 ? path(root) : QDir::current().relativeFilePath(path(root)) + u"/."_s;
+        ASSERT_TRUE(ZipHelper::zipDirectory(given, path(root + u"/out.zip"_s)));
         ++turn;
     }
     zone.isNull() ? qunsetenv("TZ") : qputenv("TZ", zone);

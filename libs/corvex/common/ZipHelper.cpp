@@ -101,9 +101,19 @@ bool writeSource(zip_source_t *source, const QString &path, QString *error)
     return file.commit(error);
 }
 
+bool setComment(zip_t *archive, const QString &comment)
+{
+    const QByteArray bytes = comment.toUtf8();
+    const auto size = static_cast<zip_uint16_t>(bytes.size());
+    return bytes.isEmpty()
+           || (bytes.size() == size && zip_set_archive_comment(archive, bytes.constData(), size) == 0);
+}
+
 bool pack(const QList<Entry> &entries, const QString &zipPath, const QString &comment, int level,
           QString *error)
 {
+    if (entries.isEmpty())
+        return fail(error, zipPath, LocalizationHelper::coreString(u"There is nothing to pack."_s));
     zip_error_t problem;
     zip_error_init(&problem);
     Source buffer(zip_source_buffer_create(nullptr, 0, 0, &problem));
@@ -113,15 +123,13 @@ bool pack(const QList<Entry> &entries, const QString &zipPath, const QString &co
         return fail(error, zipPath, textOf(&problem));
     // The archive lets go of the buffer when it is closed; it is read after that.
     zip_source_keep(buffer.get());
-    const QByteArray commentBytes = comment.toUtf8();
-    bool ok = commentBytes.size() <= 0xffff
-              && (commentBytes.isEmpty()
-                  || zip_set_archive_comment(archive.get(), commentBytes.constData(),
-                                             static_cast<zip_uint16_t>(commentBytes.size()))
-                         == 0);
-    for (const Entry &entry : entries)
-        ok = ok && addEntry(archive.get(), entry, level);
-    if (!ok || zip_close(archive.get()) != 0)
+    if (!setComment(archive.get(), comment))
+        return fail(error, zipPath, LocalizationHelper::coreString(u"The comment is too long."_s));
+    for (const Entry &entry : entries) {
+        if (!addEntry(archive.get(), entry, level))
+            return fail(error, entry.path, textOf(archive.get()));
+    }
+    if (zip_close(archive.get()) != 0)
         return fail(error, zipPath, textOf(archive.get()));
     archive.release(); // NOLINT(bugprone-unused-return-value): zip_close freed it
     return writeSource(buffer.get(), zipPath, error);
@@ -276,14 +284,14 @@ bool ZipHelper::zipDirectory(const QString &directory, const QString &zipPath, Q
 {
     if (!QFileInfo(directory).isDir())
         return fail(error, directory, LocalizationHelper::coreString(u"The folder does not exist."_s));
-    const QDir root(directory);
+    const QDir root(QFileInfo(directory).absoluteFilePath());
     const QString target = QFileInfo(zipPath).absoluteFilePath();
     QList<Entry> entries;
-    QDirIterator files(directory, QDir::Files | QDir::Hidden | QDir::NoSymLinks,
+    QDirIterator files(root.path(), QDir::Files | QDir::Hidden | QDir::NoSymLinks,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString path = files.next();
-        if (QFileInfo(path).absoluteFilePath() != target)
+        if (path != target)
             entries.append({path, root.relativeFilePath(path)});
     }
     std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) { return a.name < b.name; });

@@ -12,7 +12,8 @@ class ZipHelper
 {
 public:
     //! Packs the files, each under its file name. The comment is the archive's. The level is 0 (stored) to 9;
-    //! more is taken as 9. False when a file is missing or two have one name.
+    //! more is taken as 9. False when there is no file, one is missing or two have one
+    //! name.
     static bool zipWithFiles(const QStringList &files, const QString &zipPath, const QString &comment,
                              int level, QString *error = nullptr);
 
