@@ -28,7 +28,9 @@ public:
     QString fullPath() const;
 
 protected:
-    using DesignerObject::DesignerObject;
+    explicit DirectoryObject(QObject *parent = nullptr)
+        : DesignerObject(parent)
+    { }
 
 private:
     QString m_parentPath;

@@ -62,7 +62,9 @@ public:
     const QList<ReadNote> &readNotes() const { return m_readNotes; }
 
 protected:
-    using DesignerObject::DesignerObject;
+    explicit FileObject(QObject *parent = nullptr)
+        : DesignerObject(parent)
+    { }
 
     //! Runs when the file fields were set or reset; while a file is being read, before its first byte.
     virtual void afterFileFieldsChanged();

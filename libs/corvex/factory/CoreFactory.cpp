@@ -3,6 +3,8 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
+#include "corvex/hardware/Configuration.h"
+#include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 
@@ -66,6 +68,8 @@ DesignerObject *make(QObject *parent)
 const QHash<QString, Maker> &makers()
 {
     static const QHash<QString, Maker> table{
+        {u"Configuration"_s, make<Configuration>},
+        {u"ConfigurationContainer"_s, make<ConfigurationContainer>},
         {u"ImageResource"_s, make<ImageResource>},
         {u"Project"_s, make<Project>},
     };

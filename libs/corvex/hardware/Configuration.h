@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/FileObject.h"
+
+#include <utility>
+
+namespace Halvane::Corvex::Common {
+class ConfigurationInfo;
+}
+
+namespace Halvane::Corvex::Designer {
+
+/*! One model of display panel: its screen, its channels and ports, its passwords, and the other models that
+   can run what was made for it. The name of the object is the name of the model.
+
+    The installed configurations are read-only patterns. A project holds a copy of that of its model, in which
+    the user sets up what each channel is used for.
+*/
+class Configuration : public FileObject
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(Configuration, FileObject)
+
+public:
+    QString baseName() const override;
+    QString displayName() const override;
+    //! "config.xml", in a folder of the model's name.
+    QString createFileName() const override;
+    QString createSubPath() const override;
+
+    const SharedProperty &displayBrightness() const { return at(DisplayBrightness); }
+    const SharedProperty &screenSize() const { return at(ScreenSize); }
+    const SharedProperty &colorDepth() const { return at(ColorDepth); }
+    const SharedProperty &analogInputs() const { return at(AnalogInputs); }
+    const SharedProperty &alarmOutputs() const { return at(AlarmOutputs); }
+    const SharedProperty &pwmFrequency() const { return at(PwmFrequency); }
+    const SharedProperty &pwmOutputs() const { return at(PwmOutputs); }
+    const SharedProperty &serialCOMPorts() const { return at(SerialCOMPorts); }
+    const SharedProperty &canbusPorts() const { return at(CanbusPorts); }
+    const SharedProperty &digitalInputOutputs() const { return at(DigitalInputOutputs); }
+    const SharedProperty &enableRS485() const { return at(EnableRS485); }
+    const SharedProperty &serialRS485Ports() const { return at(SerialRS485Ports); }
+    const SharedProperty &enableSPIChipSelect() const { return at(EnableSPIChipSelect); }
+    const SharedProperty &SPIChipSelect() const { return at(SpiChipSelect); }
+    const SharedProperty &enablePassword() const { return at(EnablePassword); }
+    const SharedProperty &password() const { return at(Password); }
+    const SharedProperty &enableUpload() const { return at(EnableUpload); }
+    const SharedProperty &uploadPassword() const { return at(UploadPassword); }
+    const SharedProperty &compatibleModels() const { return at(CompatibleModels); }
+    const SharedProperty &description() const { return at(Description); }
+    const SharedProperty &url() const { return at(Url); }
+
+    //! The model itself, then the models that its projects run on.
+    QStringList allCompatibleModels() const;
+
+    Common::ConfigurationInfo toConfigurationInfo() const;
+    //! Does nothing for a record that is not valid.
+    void setConfigurationInfo(const Common::ConfigurationInfo &info);
+
+    /*! Takes over what is fixed by the hardware of \a model. Channels that the user sets up (digital, PWM,
+       RS485) keep their use as long as the model has as many of them. */
+    void updateFrom(const Configuration &model);
+
+    //! Whether the RS485 lines of this model are pins of PWM channels 1 to 3 and of digital channel 8.
+    bool sharesRS485Pins() const;
+
+    /*! What this object will write into other properties when \a property is changed to \a value. An edit
+       that is to be taken back needs to know. */
+    QList<std::pair<SharedProperty, QString>> followingChanges(const DesignerProperty &property,
+                                                               const QString &value) const;
+
+protected:
+    explicit Configuration(QObject *parent = nullptr)
+        : FileObject(parent)
+    { }
+
+    ObjectView *createGraphicsItem() override;
+    bool initializeProperties() override;
+    void afterPropertyChanged(const DesignerProperty *property, const QString &previousValue) override;
+    void finishReading() override;
+    void afterFileFieldsChanged() override;
+
+private:
+    //! The places of the properties among all of the object's.
+    enum Place {
+        Name,
+        DisplayBrightness,
+        ScreenSize,
+        ColorDepth,
+        AnalogInputs,
+        AlarmOutputs,
+        PwmFrequency,
+        PwmOutputs,
+        SerialCOMPorts,
+        CanbusPorts,
+        DigitalInputOutputs,
+        EnableRS485,
+        SerialRS485Ports,
+        EnableSPIChipSelect,
+        SpiChipSelect,
+        EnablePassword,
+        Password,
+        EnableUpload,
+        UploadPassword,
+        CompatibleModels,
+        Description,
+        Url,
+    };
+    struct Reaction;
+    struct Visibility;
+    struct Judgement;
+    struct ChannelField;
+    static const QList<Reaction> &reactions();
+    static const QList<Visibility> &visibilities();
+    static const QList<Judgement> &judgements();
+    static const QList<ChannelField> &channelFields();
+
+    const SharedProperty &at(Place place) const;
+    QString textOf(Place place) const { return at(place)->valueString(); }
+    bool isOn(Place place) const;
+    void write(Place place, const QString &value) { changePropertyValue(at(place), value); }
+
+    bool isShown(const Visibility &visibility) const;
+    void updateVisibility(const DesignerProperty &changed);
+    void judgeAgain(const DesignerProperty &changed);
+    void localize();
+
+    bool m_isLoaded = false;
+};
+
+} // namespace Halvane::Corvex::Designer

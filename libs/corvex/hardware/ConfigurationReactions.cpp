@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+// What an edit of a device configuration brings with it: other values, what the property panel shows, and
+// what has to be judged again.
+#include "corvex/hardware/ChannelList.h"
+#include "corvex/hardware/Configuration.h"
+#include "corvex/hardware/ConfigurationRules.h"
+#include "corvex/values/ValueConversion.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+using Common::EnumHelper;
+
+namespace {
+
+//! The lines of RS485 when it is switched on. The direction line is for the user to choose: until then the
+//! list is marked as incomplete.
+constexpr auto firstRS485Lines = "RECEIVE, SEND, UNUSED, UNUSED"_L1;
+constexpr auto freeRS485Lines = "UNUSED, UNUSED, UNUSED, UNUSED"_L1;
+constexpr auto firstSPIPins = "UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, CSPIN"_L1;
+
+QString withoutPwmLines(ChannelList channels)
+{
+    for (int line = 1; line <= RS485Lines::pwmLines; ++line) {
+        channels.release(line);
+    }
+    return channels.toString();
+}
+
+QString withoutDigitalLine(ChannelList channels)
+{
+    channels.release(RS485Lines::digitalChannel);
+    return channels.toString();
+}
+
+QString withoutRS485Words(ChannelList channels)
+{
+    channels.release({EnumHelper::RECEIVE, EnumHelper::SEND, EnumHelper::DIRECTION});
+    return channels.toString();
+}
+
+QString withoutChipSelect(ChannelList channels)
+{
+    channels.release({EnumHelper::CSPIN});
+    return channels.toString();
+}
+
+} // namespace
+
+//! What turning a switch writes into a channel list.
+struct Configuration::Reaction
+{
+    Place onSwitch;
+    bool on;
+    Place target;
+    QString (*rewritten)(ChannelList);
+    bool needsSharedPins = false;
+};
+
+const QList<Configuration::Reaction> &Configuration::reactions()
+{
+    // Pins are given free before others take them.
+    static const QList<Reaction> table{
+        {EnableRS485, true, PwmOutputs, withoutPwmLines, true},
+        {EnableRS485, true, DigitalInputOutputs, withoutDigitalLine, true},
+        {EnableRS485, true, SerialRS485Ports, [](ChannelList) { return QString(firstRS485Lines); }},
+        {EnableRS485, false, SerialRS485Ports, [](ChannelList) { return QString(freeRS485Lines); }},
+        {EnableRS485, false, PwmOutputs, withoutRS485Words},
+        {EnableRS485, false, DigitalInputOutputs, withoutRS485Words},
+        {EnableSPIChipSelect, true, SpiChipSelect, [](ChannelList) { return QString(firstSPIPins); }},
+        {EnableSPIChipSelect, false, SpiChipSelect, withoutChipSelect},
+        {EnableSPIChipSelect, false, DigitalInputOutputs, withoutChipSelect},
+    };
+    return table;
+}
+
+//! When the panel shows a property: while its switch is on, or while it has something to show.
+struct Configuration::Visibility
+{
+    Place property;
+    Place onSwitch; //!< Name for none
+    bool hasEntries;
+};
+
+const QList<Configuration::Visibility> &Configuration::visibilities()
+{
+    static const QList<Visibility> table{
+        {AnalogInputs, Name, true},
+        {AlarmOutputs, Name, true},
+        {PwmOutputs, Name, true},
+        {SerialCOMPorts, Name, true},
+        {DigitalInputOutputs, Name, true},
+        {CompatibleModels, Name, true},
+        {SerialRS485Ports, EnableRS485, true},
+        {SpiChipSelect, EnableSPIChipSelect, false},
+        {Password, EnablePassword, false},
+        {UploadPassword, EnableUpload, false},
+    };
+    return table;
+}
+
+//! The properties whose rules look at another one.
+struct Configuration::Judgement
+{
+    Place changed;
+    Place judged;
+};
+
+const QList<Configuration::Judgement> &Configuration::judgements()
+{
+    static const QList<Judgement> table{
+        {Name, PwmOutputs},
+        {Name, DigitalInputOutputs},
+        {Name, SerialRS485Ports},
+        {EnableRS485, PwmOutputs},
+        {EnableRS485, DigitalInputOutputs},
+        {EnableRS485, SerialRS485Ports},
+        {SerialRS485Ports, PwmOutputs},
+        {SerialRS485Ports, DigitalInputOutputs},
+        {PwmOutputs, SerialRS485Ports},
+        {DigitalInputOutputs, SerialRS485Ports},
+        {EnablePassword, Password},
+        {EnableUpload, UploadPassword},
+    };
+    return table;
+}
+
+QList<std::pair<SharedProperty, QString>> Configuration::followingChanges(const DesignerProperty &property,
+                                                                          const QString &value) const
+{
+    QList<std::pair<SharedProperty, QString>> changes;
+    for (const Reaction &reaction : reactions()) {
+        if (at(reaction.onSwitch) != &property || ValueConversion::toBoolean(value) != reaction.on
+            || (reaction.needsSharedPins && !sharesRS485Pins())) {
+            continue;
+        }
+        const ChannelList current(textOf(reaction.target));
+        const QString rewritten = reaction.rewritten(current);
+        if (ChannelList(rewritten).words() != current.words()) {
+            changes.append({at(reaction.target), rewritten});
+        }
+    }
+    return changes;
+}
+
+void Configuration::afterPropertyChanged(const DesignerProperty *property, const QString &previousValue)
+{
+    FileObject::afterPropertyChanged(property, previousValue);
+    // A file that is being read says itself what is in each list.
+    if (!disabledValidation()) {
+        for (const auto &[target, value] : followingChanges(*property, property->valueString())) {
+            changePropertyValue(target, value);
+        }
+        judgeAgain(*property);
+    }
+    updateVisibility(*property);
+}
+
+bool Configuration::isShown(const Visibility &visibility) const
+{
+    if (visibility.onSwitch != Name && isOn(visibility.onSwitch)) {
+        return true;
+    }
+    if (visibility.property == CompatibleModels) {
+        return allCompatibleModels().size() > 1;
+    }
+    return visibility.hasEntries && ChannelList(textOf(visibility.property)).isAnyUsed();
+}
+
+void Configuration::updateVisibility(const DesignerProperty &changed)
+{
+    for (const Visibility &visibility : visibilities()) {
+        const SharedProperty &property = at(visibility.property);
+        if (property != &changed && (visibility.onSwitch == Name || at(visibility.onSwitch) != &changed)) {
+            continue;
+        }
+        const bool isVisible = property->editorParameters().value(u"visible"_s, true).toBool();
+        if (const bool shown = isShown(visibility); shown != isVisible) {
+            property->setEditorParameter(u"visible"_s, shown);
+        }
+    }
+}
+
+void Configuration::judgeAgain(const DesignerProperty &changed)
+{
+    bool isJudged = false;
+    for (const Judgement &judgement : judgements()) {
+        if (at(judgement.changed) == &changed) {
+            at(judgement.judged)->validate();
+            isJudged = true;
+        }
+    }
+    if (isJudged) {
+        updateValidity();
+    }
+}
+
+} // namespace Halvane::Corvex::Designer
