@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "Help.h"
+
+#include "Call.h"
+#include "JsonWriter.h"
+#include "Terminal.h"
+#include "Verb.h"
+
+#include <numeric>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+namespace {
+
+//! "-o, --output DIR"
+QString spelling(const QCommandLineOption &option)
+{
+    QStringList names;
+    for (const QString &name : option.names()) {
+        names.append((name.size() == 1 ? u"-"_s : u"--"_s) + name);
+    }
+    const QString value = option.valueName();
+    return names.join(", "_L1) + (value.isEmpty() ? QString() : u' ' + value);
+}
+
+QString usage(const Verb &verb)
+{
+    return u"corvex %1 %2"_s.arg(QLatin1StringView(verb.name), QLatin1StringView(verb.arguments)).trimmed();
+}
+
+//! How many letters must be put in, left out or changed to make one text of the other.
+qsizetype distance(QStringView a, QStringView b)
+{
+    std::vector<qsizetype> row(size_t(b.size()) + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (qsizetype i = 0; i < a.size(); ++i) {
+        qsizetype diagonal = std::exchange(row[0], i + 1);
+        for (qsizetype j = 0; j < b.size(); ++j) {
+            const auto at = size_t(j) + 1;
+            const qsizetype changed = diagonal + (a.at(i) == b.at(j) ? 0 : 1);
+            diagonal = row[at];
+            row[at] = std::min({changed, row[at] + 1, row[at - 1] + 1});
+        }
+    }
+    return row.back();
+}
+
+void writePage(const Verb &verb, JsonWriter &json)
+{
+    json.beginObject();
+    json.member("verb"_L1, QString::fromLatin1(verb.name));
+    json.member("usage"_L1, usage(verb));
+    json.member("summary"_L1, QString::fromLatin1(verb.summary));
+    json.name("options"_L1);
+    json.beginObject();
+    for (const QCommandLineOption &option : Call::optionsOf(verb)) {
+        json.name(spelling(option));
+        json.value(option.description());
+    }
+    json.endObject();
+    json.member("example"_L1, QString::fromLatin1(verb.example));
+    json.endObject();
+}
+
+} // namespace
+
+QStringList Help::verbNames()
+{
+    QStringList names;
+    for (const Verb *verb : allVerbs()) {
+        names.append(QString::fromLatin1(verb->name));
+    }
+    return names;
+}
+
+void Help::printVerbs(Terminal &terminal)
+{
+    terminal.print(u"corvex VERB [OPTIONS] ARGUMENTS: create, check, inspect and build projects"_s);
+    terminal.print({});
+    for (const Verb *verb : allVerbs()) {
+        terminal.print(u"  %1  %2"_s.arg(QString::fromLatin1(verb->name).leftJustified(6),
+                                         QLatin1StringView(verb->summary)));
+    }
+    terminal.print({});
+    terminal.print(
+        u"\"corvex help VERB\" tells more of a verb and has an example; \"corvex --version\" tells the"_s);
+    terminal.print(u"version. Every verb prints JSON with --json."_s);
+    terminal.print({});
+    terminal.print(
+        u"Exit codes: 0 done, 1 the project has problems, 2 wrong usage, 3 a file cannot be read or"_s);
+    terminal.print(u"written."_s);
+}
+
+void Help::printPage(const Verb &verb, Terminal &terminal)
+{
+    terminal.print(usage(verb));
+    terminal.print({});
+    terminal.print(verb.details());
+    terminal.print({});
+    terminal.print(u"Options:"_s);
+    const QList<QCommandLineOption> options = Call::optionsOf(verb);
+    qsizetype width = 0;
+    for (const QCommandLineOption &option : options) {
+        width = std::max(width, spelling(option).size());
+    }
+    for (const QCommandLineOption &option : options) {
+        terminal.print(u"  %1  %2"_s.arg(spelling(option).leftJustified(width), option.description()));
+    }
+    terminal.print({});
+    terminal.print(u"Example:"_s);
+    terminal.print(u"  %1"_s.arg(QLatin1StringView(verb.example)));
+}
+
+void Help::printJson(const Verb *verb, Terminal &terminal)
+{
+    JsonWriter json(terminal);
+    if (verb) {
+        writePage(*verb, json);
+        return;
+    }
+    json.beginArray();
+    for (const Verb *each : allVerbs()) {
+        writePage(*each, json);
+    }
+    json.endArray();
+}
+
+QString Help::nearest(const QString &text, const QStringList &names)
+{
+    qsizetype least = std::max<qsizetype>(text.size() / 2, 1) + 1;
+    QString found;
+    for (const QString &name : names) {
+        const qsizetype between = distance(text.toLower(), name.toLower());
+        if (between < least) {
+            least = between;
+            found = name;
+        }
+    }
+    return found;
+}
+
+} // namespace Halvane::Corvex::Tool

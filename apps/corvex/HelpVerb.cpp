@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "Call.h"
+#include "Help.h"
+#include "Terminal.h"
+#include "Verb.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+namespace {
+
+ExitCode run(const Call &call)
+{
+    const QString name = call.argument(0);
+    const Verb *verb = findVerb(name);
+    if (!name.isEmpty() && !verb) {
+        return call.failed(u"There is no verb \"%1\". \"corvex help\" lists them all."_s.arg(name),
+                           ExitCode::Usage);
+    }
+    if (call.asJson()) {
+        Help::printJson(verb, call.terminal());
+    } else if (verb) {
+        Help::printPage(*verb, call.terminal());
+    } else {
+        Help::printVerbs(call.terminal());
+    }
+    return ExitCode::Done;
+}
+
+} // namespace
+
+const Verb helpVerb{
+    .name = "help",
+    .arguments = "[VERB]",
+    .summary = "list the verbs, or tell more of one",
+    .details = [] { return u"Lists all verbs, or shows usage, options and an example of one of them."_s; },
+    .example = "corvex help build",
+    .fewestArguments = 0,
+    .mostArguments = 1,
+    .opensProjects = false,
+    .options = nullptr,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "JsonWriter.h"
+
+#include "Terminal.h"
+
+namespace Halvane::Corvex::Tool {
+
+namespace {
+
+constexpr qsizetype bufferSize = 64 * 1024;
+
+} // namespace
+
+JsonWriter::JsonWriter(Terminal &terminal)
+    : m_terminal(terminal)
+{ }
+
+JsonWriter::~JsonWriter()
+{
+    m_text.append('\n');
+    flush(0);
+}
+
+void JsonWriter::name(QStringView text)
+{
+    startValue();
+    appendQuoted(text);
+    m_text.append(": ");
+    m_isNamed = true;
+}
+
+void JsonWriter::value(QStringView text)
+{
+    startValue();
+    appendQuoted(text);
+    flush(bufferSize);
+}
+
+void JsonWriter::value(qint64 number)
+{
+    startValue();
+    m_text.append(QByteArray::number(number));
+}
+
+void JsonWriter::value(bool truth)
+{
+    startValue();
+    m_text.append(truth ? "true" : "false");
+}
+
+void JsonWriter::member(QLatin1StringView memberName, const QStringList &texts)
+{
+    name(memberName);
+    beginArray();
+    for (const QString &text : texts) {
+        value(text);
+    }
+    endArray();
+}
+
+void JsonWriter::begin(char bracket)
+{
+    startValue();
+    m_text.append(bracket);
+    m_hasEntries.append(false);
+}
+
+void JsonWriter::end(char bracket)
+{
+    if (m_hasEntries.takeLast()) {
+        startLine();
+    }
+    m_text.append(bracket);
+    flush(bufferSize);
+}
+
+void JsonWriter::startValue()
+{
+    if (std::exchange(m_isNamed, false) || m_hasEntries.isEmpty()) {
+        return;
+    }
+    if (std::exchange(m_hasEntries.last(), true)) {
+        m_text.append(',');
+    }
+    startLine();
+}
+
+void JsonWriter::startLine()
+{
+    m_text.append('\n').append(2 * m_hasEntries.size(), ' ');
+}
+
+void JsonWriter::appendQuoted(QStringView text)
+{
+    static constexpr char digits[] = "0123456789abcdef";
+    m_text.append('"');
+    for (const char byte : text.toUtf8()) {
+        const auto code = static_cast<unsigned char>(byte);
+        if (byte == '"' || byte == '\\') {
+            m_text.append('\\').append(byte);
+        } else if (byte == '\n') {
+            m_text.append("\\n");
+        } else if (code < 0x20) {
+            m_text.append("\\u00").append(digits[code / 16]).append(digits[code % 16]);
+        } else {
+            m_text.append(byte);
+        }
+    }
+    m_text.append('"');
+}
+
+void JsonWriter::flush(qsizetype limit)
+{
+    if (m_text.size() >= limit) {
+        m_terminal.write(m_text);
+        m_text.clear();
+    }
+}
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "Terminal.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+Terminal::Terminal()
+    : m_isInteractive(isatty(STDERR_FILENO) == 1)
+{ }
+
+Terminal::~Terminal()
+{
+    clearProgress();
+}
+
+void Terminal::print(QStringView line)
+{
+    write(line.toUtf8().append('\n'));
+}
+
+void Terminal::write(const QByteArray &utf8)
+{
+    clearProgress();
+    if (m_error == 0
+        && std::fwrite(utf8.constData(), 1, size_t(utf8.size()), stdout) != size_t(utf8.size())) {
+        m_error = errno;
+    }
+}
+
+void Terminal::complain(QStringView message)
+{
+    printError(u"corvex: %1"_s.arg(message));
+}
+
+void Terminal::printError(QStringView line)
+{
+    clearProgress();
+    if (std::fflush(stdout) != 0 && m_error == 0) {
+        m_error = errno;
+    }
+    const QByteArray utf8 = line.toUtf8().append('\n');
+    std::fwrite(utf8.constData(), 1, size_t(utf8.size()), stderr);
+}
+
+void Terminal::showProgress(QStringView activity)
+{
+    if (m_isInteractive) {
+        clearProgress();
+        std::fprintf(stderr, "%s ...", oneLine(activity).toUtf8().constData());
+        std::fflush(stderr);
+        m_hasProgress = true;
+    }
+}
+
+void Terminal::clearProgress()
+{
+    if (std::exchange(m_hasProgress, false)) {
+        std::fputs("\r\033[K", stderr);
+    }
+}
+
+bool Terminal::finish()
+{
+    clearProgress();
+    if (std::fflush(stdout) != 0 && m_error == 0) {
+        m_error = errno;
+    }
+    if (m_error == 0 || m_error == EPIPE) {
+        return true;
+    }
+    complain(u"The result cannot be written: %1."_s.arg(QString::fromLocal8Bit(std::strerror(m_error))));
+    return false;
+}
+
+QString Terminal::oneLine(QStringView text)
+{
+    static constexpr struct
+    {
+        char16_t character;
+        char letter;
+    } escapes[] = {{u'\n', 'n'}, {u'\r', 'r'}, {u'\t', 't'}, {u'\\', '\\'}};
+
+    QString line;
+    line.reserve(text.size());
+    for (const QChar character : text) {
+        const auto *escape = std::ranges::find(escapes, character.unicode(),
+                                               [](const auto &entry) { return entry.character; });
+        if (escape != std::end(escapes)) {
+            line += u'\\';
+            line += QLatin1Char(escape->letter);
+        } else if (character.category() == QChar::Other_Control || character == QChar::LineSeparator
+                   || character == QChar::ParagraphSeparator) {
+            line += u"\\u%1"_s.arg(character.unicode(), 4, 16, QLatin1Char('0'));
+        } else {
+            line += character;
+        }
+    }
+    return line;
+}
+
+} // namespace Halvane::Corvex::Tool

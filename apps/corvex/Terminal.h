@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringView>
+
+namespace Halvane::Corvex::Tool {
+
+/*! Where the program writes, in UTF-8 whatever the locale: results to standard output, everything else to
+    standard error.
+
+    A reader that closes the pipe early is no failure; what it did not want to read is dropped.
+*/
+class Terminal
+{
+public:
+    Terminal();
+    ~Terminal();
+    Q_DISABLE_COPY_MOVE(Terminal)
+
+    //! A line of the result.
+    void print(QStringView line);
+    //! A part of the result as it stands.
+    void write(const QByteArray &utf8);
+    //! A message of the program: what is wrong, where, and what to do.
+    void complain(QStringView message);
+    //! A line to standard error as it stands.
+    void printError(QStringView line);
+    //! What the program is at, on the last line of a terminal; nothing elsewhere. The next message or result
+    //! takes its place.
+    void showProgress(QStringView activity);
+
+    //! Brings out all that is left. False, once the user has been told, when the result could not be written.
+    bool finish();
+
+    //! The text on one line: line ends, tabs and other control characters in the manner of C ("\n").
+    static QString oneLine(QStringView text);
+
+private:
+    void clearProgress();
+
+    bool m_isInteractive;
+    bool m_hasProgress = false;
+    int m_error = 0; //!< errno of the first write that failed
+};
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// The program itself: it tells its version, and leaves all else to the library of verbs beside it.
+#include <QCoreApplication>
+#include <QLibrary>
+
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+constexpr int cannotRead = 3;
+
+bool asksForVersion(int argc, char **argv)
+{
+    return argc == 2 && (std::strcmp(argv[1], "--version") == 0 || std::strcmp(argv[1], "-v") == 0);
+}
+
+int printVersion()
+{
+    return std::puts("corvex " CORVEX_VERSION) >= 0 && std::fflush(stdout) == 0 ? 0 : cannotRead;
+}
+
+//! Qt's remarks on the system's locale mean nothing here: whatever it is, texts are UTF-8.
+void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+#ifdef SIGPIPE
+    // Writing to a pipe that nobody reads any more is an error like others, not the end of a build.
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
+    if (asksForVersion(argc, argv)) {
+        return printVersion();
+    }
+    qInstallMessageHandler(ignoreMessage);
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("corvex"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(CORVEX_VERSION));
+
+    QLibrary verbs(QCoreApplication::applicationDirPath() + QStringLiteral("/" CORVEX_VERBS_LIBRARY));
+    const auto run = reinterpret_cast<int (*)()>(verbs.resolve("corvexRun"));
+    if (!run) {
+        std::fprintf(stderr, "corvex: %s Install the program together with its libraries.\n",
+                     qUtf8Printable(verbs.errorString()));
+        return cannotRead;
+    }
+    return run();
+}
