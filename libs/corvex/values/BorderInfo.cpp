@@ -18,10 +18,11 @@ BorderInfo::BorderInfo(QStringView text, bool *ok)
     BorderInfo border;
     const auto read = [&border](bool isWidth, QStringView value) {
         bool valueOk = false;
-        if (isWidth)
+        if (isWidth) {
             border.m_width = ValueConversion::toInt(value, &valueOk);
-        else
+        } else {
             border.m_color = ValueConversion::toColor(value, &valueOk);
+        }
         return valueOk;
     };
     const bool parsed =

@@ -5,10 +5,11 @@ namespace Halvane::Corvex::Designer {
 
 void GroupText::appendEntry(QString &group, QStringView key, QStringView value)
 {
-    if (group.isEmpty())
+    if (group.isEmpty()) {
         group.reserve(key.size() + value.size() + 3);
-    else
+    } else {
         group.append(u' ');
+    }
     group.append(key).append(QLatin1StringView(": ")).append(value).append(u';');
 }
 

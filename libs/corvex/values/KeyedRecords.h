@@ -90,12 +90,12 @@ bool KeyedRecords<Traits>::replaceAt(qsizetype index, const Record &record)
 {
     if (index < 0 || index >= size() || !Traits::isComplete(Traits::key(record)))
         return false;
-    const qsizetype other = indexOf(Traits::key(record));
-    if (other >= 0 && other != index)
+    const qsizetype place = placeOf(Traits::key(record));
+    const bool isThere = place < size() && isSame(m_records[place], record);
+    if (isThere && place != index)
         return false;
-    const Record kept = record;
-    m_records.removeAt(index);
-    add(kept);
+    m_records[index] = record;
+    m_records.move(index, place > index ? place - 1 : place);
     return true;
 }
 

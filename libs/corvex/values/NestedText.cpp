@@ -2,6 +2,7 @@
 #include "corvex/values/NestedText.h"
 
 #include <array>
+#include <string_view>
 
 namespace Halvane::Corvex::Designer {
 
@@ -57,7 +58,7 @@ Escape escapeAt(QStringView text, qsizetype index)
 
 void appendEscaped(QString &text, QChar character)
 {
-    static constexpr char digits[] = "0123456789ABCDEF";
+    static constexpr std::string_view digits = "0123456789ABCDEF";
     const auto appendByte = [&](unsigned char byte) {
         const std::array<char, 3> form{'%', digits[byte >> 4], digits[byte & 0xF]};
         text.append(QLatin1StringView(form.data(), form.size()));

@@ -43,12 +43,13 @@ ObjectLinkInfo::ObjectLinkInfo(QStringView text, bool *ok)
     bool anyEntry = false;
     const bool parsed = GroupText::forEachEntry(text, [&](QStringView key, QStringView value) {
         anyEntry = true;
-        if (key == "objectId"_L1)
+        if (key == "objectId"_L1) {
             link.m_objectId = value.toString();
-        else if (key == "filterType"_L1)
+        } else if (key == "filterType"_L1) {
             link.m_filterType = readFilter(value);
-        else if (key == "scopeType"_L1)
+        } else if (key == "scopeType"_L1) {
             link.m_scopeType = value.toString();
+        }
         return true;
     });
     if (parsed && anyEntry)

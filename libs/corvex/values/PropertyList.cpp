@@ -75,7 +75,7 @@ bool PropertyList::remove(const PropertyChangeInfo &change)
 
 QList<PropertyChangeInfo> PropertyList::take(const QString &element)
 {
-    const QList<PropertyChangeInfo> taken = values(element);
+    QList<PropertyChangeInfo> taken = values(element);
     m_changes.remove(rangeOf(element).first, taken.size());
     return taken;
 }

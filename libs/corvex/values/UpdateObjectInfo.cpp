@@ -5,7 +5,9 @@
 #include "corvex/values/NestedText.h"
 #include "corvex/values/ValueConversion.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace Halvane::Corvex::Designer {
 
@@ -40,23 +42,24 @@ bool UpdateObjectInfo::readEntry(QStringView key, QStringView value)
         return ok && m_index >= 0;
     }
     const QString text = NestedText::fromField(value);
-    if (key == "propertyValues"_L1)
+    if (key == "propertyValues"_L1) {
         m_propertyValues = PropertyInfoList(text, &ok);
-    else if (key == "name"_L1)
-        m_name = text;
-    else if (key == "parentProperty"_L1)
-        m_parentProperty = text;
-    else if (key == "parentObject"_L1)
-        m_parentObject = text;
-    else if (key == "className"_L1)
-        m_className = text;
-    else if (key == "screen"_L1)
-        m_screen = text;
-    else if (key == "upgradeVersion"_L1)
-        m_upgradeVersion = text;
-    else
+        return ok;
+    }
+    static constexpr std::array<std::pair<QLatin1StringView, QString UpdateObjectInfo::*>, 6> fields{{
+        {"className"_L1, &UpdateObjectInfo::m_className},
+        {"name"_L1, &UpdateObjectInfo::m_name},
+        {"parentObject"_L1, &UpdateObjectInfo::m_parentObject},
+        {"parentProperty"_L1, &UpdateObjectInfo::m_parentProperty},
+        {"screen"_L1, &UpdateObjectInfo::m_screen},
+        {"upgradeVersion"_L1, &UpdateObjectInfo::m_upgradeVersion},
+    }};
+    const auto *const field =
+        std::find_if(fields.begin(), fields.end(), [&](const auto &entry) { return entry.first == key; });
+    if (field == fields.end())
         return false;
-    return ok;
+    this->*field->second = text;
+    return true;
 }
 
 QString UpdateObjectInfo::toString() const

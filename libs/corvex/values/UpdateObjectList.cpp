@@ -17,10 +17,11 @@ UpdateObjectList::UpdateObjectList(QStringView text, bool *ok)
     bool parsed = !text.isEmpty();
     for (QStringView item : qTokenize(text, u'|')) {
         item = item.trimmed();
-        if (item.isEmpty() || item == NestedText::loneEmptyItem)
+        if (item.isEmpty() || item == NestedText::loneEmptyItem) {
             append(UpdateObjectInfo());
-        else
+        } else {
             append(UpdateObjectInfo(item, &parsed));
+        }
         if (!parsed)
             break;
     }

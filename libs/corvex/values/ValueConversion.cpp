@@ -9,6 +9,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <string_view>
 
 namespace Halvane::Corvex::Designer {
 
@@ -120,9 +121,9 @@ double roundHalfUp(double value)
     if (!(std::abs(value) < largestExact))
         return value;
     if (value >= 0)
-        return double(qint64(value + 0.5));
-    const auto below = qint64(value - 1);
-    return double(qint64(value - double(below) + 0.5) + below);
+        return std::floor(value + 0.5);
+    const double below = std::trunc(value - 1);
+    return std::floor(value - below + 0.5) + below;
 }
 
 int hexDigit(QChar character)
@@ -197,10 +198,11 @@ QString ValueConversion::toString(double value)
 void ValueConversion::appendReal(QString &text, double value)
 {
     RealBuffer buffer;
-    if (const QLatin1StringView form = printOrdinaryReal(value, realDecimals, buffer); !form.isEmpty())
+    if (const QLatin1StringView form = printOrdinaryReal(value, realDecimals, buffer); !form.isEmpty()) {
         text.append(form);
-    else
+    } else {
         text.append(realForm(value, realDecimals));
+    }
 }
 
 QString ValueConversion::toQmlString(double value, int decimals)
@@ -265,24 +267,27 @@ QColor ValueConversion::toColor(QStringView text, bool *ok)
     bool alphaIsNumber = true;
     int alpha = 255;
     QColor color;
-    if (!hasAlpha)
+    if (!hasAlpha) {
         color = QColor::fromString(text);
-    else if (alpha = QString("0x"_L1 + text.sliced(1, 2).toString()).toInt(&alphaIsNumber, 16); alphaIsNumber)
+    } else if (alpha = QString("0x"_L1 + text.sliced(1, 2).toString()).toInt(&alphaIsNumber, 16);
+               alphaIsNumber) {
         color = QColor::fromString(QString(u'#' + text.sliced(3).toString()));
-    if (color.isValid())
+    }
+    if (color.isValid()) {
         color.setAlpha(alpha);
-    else
+    } else {
         report(ok, false);
+    }
     return color;
 }
 
 void ValueConversion::appendColor(QString &text, const QColor &color)
 {
-    static constexpr char digits[] = "0123456789ABCDEF";
+    static constexpr std::string_view digits = "0123456789ABCDEF";
     const QRgb argb = color.rgba();
     std::array<char, 9> form{'#'};
-    for (int i = 0; i < 8; ++i)
-        form[size_t(i + 1)] = digits[argb >> (28 - 4 * i) & 0xF];
+    for (size_t i = 0; i < 8; ++i)
+        form[i + 1] = digits[argb >> (28 - 4 * i) & 0xF];
     text.append(QLatin1StringView(form.data(), form.size()));
 }
 
