@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Installs the build tree into a temporary prefix, moves that elsewhere, and builds and runs the program in
-# outside/ with nothing but the moved prefix.
+# Installs the build tree into a temporary prefix, moves that elsewhere, and builds and runs the plug-in and the
+# program in outside/ with nothing but the moved prefix.
 # Variables: build, generator, compiler, sanitize.
 cmake_minimum_required(VERSION 3.25)
 
@@ -28,12 +28,6 @@ function(run what)
   set(output "${output}" PARENT_SCOPE)
 endfunction()
 
-function(expect_equal what actual expected)
-  if(NOT actual STREQUAL expected)
-    message(FATAL_ERROR "${what}: expected \"${expected}\", got \"${actual}\"")
-  endif()
-endfunction()
-
 run("installing" "${CMAKE_COMMAND}" --install "${build}" --prefix "${work}/first")
 file(RENAME "${work}/first" "${prefix}")
 
@@ -58,4 +52,7 @@ run("configuring the program outside" "${CMAKE_COMMAND}" -S "${CMAKE_CURRENT_LIS
   -G "${generator}" "-DCMAKE_CXX_COMPILER=${compiler}" "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_FLAGS=${flags}")
 run("building the program outside" "${CMAKE_COMMAND}" --build "${work}/outside")
 run("running the program outside" "${work}/outside/outside")
-expect_equal("what the program prints" "${output}" "IDesignerObject Pump 10\n")
+string(FIND "${output}" "<Property name=\"litres\" value=\"30\"/>" position)
+if(position EQUAL -1)
+  message(FATAL_ERROR "the program printed something else: ${output}")
+endif()

@@ -1,28 +1,25 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/EnumHelper.h"
-#include "corvex/core/IDesignerObject.h"
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/DesignerObject.h"
+
+#include <QCoreApplication>
 
 #include <cstdio>
+#include <memory>
 
-namespace {
+using namespace Halvane::Corvex::Designer;
 
-using Halvane::Corvex::Common::EnumHelper;
-using Halvane::Corvex::Designer::IDesignerObject;
-
-class Pump : public IDesignerObject
+//! Loads the plug-in beside it and prints what an object of the plug-in's class is saved as.
+int main(int argc, char **argv)
 {
-    CORVEX_CLASS_NAMES(Pump, IDesignerObject)
-
-public:
-    bool initialize() override { return true; }
-};
-
-} // namespace
-
-int main()
-{
-    const QByteArray names = Pump().classNames().join(u' ').toUtf8();
-    std::printf("%s %d\n", names.constData(),
-                EnumHelper::metaEnum(QStringLiteral("VariableType")).keyCount());
+    QCoreApplication application(argc, argv);
+    if (!DesignerFactory::createInstance(QCoreApplication::applicationDirPath())) {
+        return 1;
+    }
+    DesignerObject *meter = DesignerFactory::instance()->createObject(QStringLiteral("FlowMeter"));
+    if (!meter || !meter->changePropertyValue(meter->getProperty(u"litres"), QStringLiteral("30"))) {
+        return 1;
+    }
+    std::printf("%s", qPrintable(DesignerObject::toString(meter)));
     return 0;
 }
