@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Installs the build tree into a temporary prefix, moves that elsewhere, and builds and runs the plug-in and the
 # program in outside/ with nothing but the moved prefix.
-# Variables: build, generator, compiler, sanitize.
+# Variables: build, generator, compiler, launcher, sanitize.
 cmake_minimum_required(VERSION 3.25)
 
 if(generator MATCHES "Ninja" AND NOT EXISTS "${build}/build.ninja")
@@ -49,7 +49,8 @@ if(sanitize)
   set(flags "-fsanitize=address,undefined")
 endif()
 run("configuring the program outside" "${CMAKE_COMMAND}" -S "${CMAKE_CURRENT_LIST_DIR}/outside" -B "${work}/outside"
-  -G "${generator}" "-DCMAKE_CXX_COMPILER=${compiler}" "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_FLAGS=${flags}")
+  -G "${generator}" "-DCMAKE_CXX_COMPILER=${compiler}" "-DCMAKE_CXX_COMPILER_LAUNCHER=${launcher}"
+  "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_FLAGS=${flags}")
 run("building the program outside" "${CMAKE_COMMAND}" --build "${work}/outside")
 run("running the program outside" "${work}/outside/outside")
 string(FIND "${output}" "<Property name=\"litres\" value=\"30\"/>" position)
