@@ -50,7 +50,7 @@ QString FileNameRules::projectNameError(const QString &name)
     if (name.size() < 2) {
         return LocalizationHelper::coreString(u"The project's name must have at least 2 characters."_s);
     }
-    if (const QString error = forbiddenCharactersError(name); !error.isEmpty()) {
+    if (QString error = forbiddenCharactersError(name); !error.isEmpty()) {
         return error;
     }
     if (!TextHelper::isValidFileNameFormat(name)) {
@@ -70,7 +70,7 @@ QString FileNameRules::imageNameError(const QString &name)
                                               "the image's file extension: %1"_s)
             .arg(Common::FileHelper::validImageExtensions().join(u", "_s));
     }
-    if (const QString error = forbiddenCharactersError(name); !error.isEmpty()) {
+    if (QString error = forbiddenCharactersError(name); !error.isEmpty()) {
         return error;
     }
     if (!TextHelper::isValidFileNameFormat(name)) {

@@ -107,7 +107,7 @@ bool ImageResource::loadFile(const QString &path)
 
 bool ImageResource::saveFile()
 {
-    return finish(QFileInfo(fullFilePath()).isFile()
+    return finish(QFileInfo(filePath()).isFile()
                       ? QString()
                       : LocalizationHelper::coreString(u"The file \"%1\" does not exist."_s)
                             .arg(m_imageFile->valueString()));
@@ -155,7 +155,7 @@ void ImageResource::afterPropertyChanged(const DesignerProperty *property, const
 bool ImageResource::imageFileValidator(const DesignerProperty *property, QString &error)
 {
     const auto *image = static_cast<const ImageResource *>(property->parentObject());
-    if (!QFileInfo(image->fullFilePath()).isFile()) {
+    if (!QFileInfo(image->filePath()).isFile()) {
         error = LocalizationHelper::coreString(u"The file \"%1\" does not exist."_s).arg(image->getIdName());
     } else if (!image->isImage()) {
         error = LocalizationHelper::coreString(
@@ -166,11 +166,11 @@ bool ImageResource::imageFileValidator(const DesignerProperty *property, QString
 
 bool ImageResource::isImage() const
 {
-    const QFileInfo info(fullFilePath());
-    if (m_inspection.path != fullFilePath() || m_inspection.size != info.size()
+    const QFileInfo info(filePath());
+    if (m_inspection.path != info.filePath() || m_inspection.size != info.size()
         || m_inspection.time != info.lastModified()) {
-        m_inspection = {fullFilePath(), info.size(), info.lastModified(),
-                        Common::FileHelper::isValidImage(fullFilePath())};
+        m_inspection = {info.filePath(), info.size(), info.lastModified(),
+                        Common::FileHelper::isValidImage(info.filePath())};
     }
     return m_inspection.isImage;
 }

@@ -40,6 +40,8 @@ public:
     bool renameFile(const QString &oldName, const QString &newName) override;
     //! Looks for the file where the project keeps its images now.
     void updateFileFields();
+    //! The path of the file as the folders stand at this moment; empty when it cannot be there.
+    QString filePath() const { return createFullFilePath(parentPath(), subPath(), fileName()); }
 
     //! The elements that show the picture, in no particular order. Not owned; an element that is deleted
     //! leaves.

@@ -10,6 +10,9 @@
 #include "corvex/core/properties/ObjectListProperty.h"
 #include "corvex/core/properties/ObjectProperty.h"
 #include "corvex/core/properties/StringProperty.h"
+#include "corvex/hardware/Configuration.h"
+#include "corvex/hardware/ConfigurationContainer.h"
+#include "corvex/hardware/HardwareConfigurations.h"
 #include "corvex/project/FileNameRules.h"
 #include "corvex/project/ProjectAutosave.h"
 #include "corvex/values/ValueConversion.h"
@@ -184,14 +187,10 @@ void Project::onConfigurationPropertyChanged(const SharedProperty &property)
 
 void Project::updateScreenSizes()
 {
-    const DesignerObject *configuration = m_configuration->objectValue();
-    const SharedProperty screenSize =
-        configuration ? configuration->getProperty(u"screenSize") : SharedProperty();
-    bool ok = false;
-    const QSizeF size = screenSize ? ValueConversion::toSize(screenSize->valueString(), &ok) : QSizeF();
-    if (!ok) {
+    if (!configurationObject()) {
         return;
     }
+    const QSizeF size = ValueConversion::toSize(configurationObject()->screenSize()->valueString());
     for (DesignerObject *screen : m_screens->listItems()) {
         const SharedProperty orientation = screen->getProperty(u"orientation");
         const QString angle = orientation ? orientation->valueString() : QString();
@@ -199,6 +198,23 @@ void Project::updateScreenSizes()
         screen->changePropertyValue(screen->getProperty(u"size"),
                                     ValueConversion::toString(isTurned ? size.transposed() : size));
     }
+}
+
+Configuration *Project::configurationObject() const
+{
+    return static_cast<Configuration *>(m_configuration->objectValue());
+}
+
+bool Project::updateConfiguration()
+{
+    QString error = Common::LocalizationHelper::coreString(u"No configuration can be found."_s);
+    const HardwareConfigurations *hardware = HardwareConfigurations::instance();
+    const Configuration *model =
+        hardware ? hardware->installed()->match(configurationObject(), &error) : nullptr;
+    if (model) {
+        configurationObject()->updateFrom(*model);
+    }
+    return finish(error);
 }
 
 void Project::afterListItemAdded(const DesignerProperty *property, const DesignerObject *)

@@ -11,6 +11,7 @@ class QUndoStack;
 
 namespace Halvane::Corvex::Designer {
 
+class Configuration;
 class ImageResource;
 class ProjectAutosave;
 
@@ -43,6 +44,11 @@ public:
     const SharedProperty &variables() const { return m_variables; }
     const SharedProperty &screens() const { return m_screens; }
     const SharedProperty &defaultScreen() const { return m_defaultScreen; }
+    //! The configuration itself; null in a project that has none yet.
+    Configuration *configurationObject() const;
+    /*! Brings what the hardware of the device fixes up to date from the installed model that fits, see
+        ConfigurationContainer::match(). False, with a text for fileError(), when none does. */
+    bool updateConfiguration();
 
     // Files. All keep a text for fileError() when they fail.
     QString createFileName() const override;

@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
+#include <ranges>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -81,8 +83,8 @@ void Project::clearContents()
     setDisableValidation(true);
     for (const SharedProperty &list : {m_imageResources, m_variables, m_screens}) {
         const QList<DesignerObject *> items = list->listItems();
-        for (auto item = items.crbegin(); item != items.crend(); ++item) {
-            delete takeListPropertyItem(list, *item);
+        for (DesignerObject *item : std::ranges::reverse_view(items)) {
+            delete takeListPropertyItem(list, item);
         }
     }
     changePropertyObjectValue(m_configuration, nullptr, true);
@@ -114,7 +116,7 @@ bool Project::deleteFile()
     const QDir parent(parentPath());
     QStringList files;
     for (const ImageResource *image : images()) {
-        files.append(image->fullFilePath());
+        files.append(image->filePath());
     }
     files.append(folder.filePath(previewFile));
     if (!FileObject::deleteFile()) {
@@ -134,7 +136,7 @@ bool Project::deleteFile()
     return finish(left.isEmpty()
                       ? QString()
                       : Common::LocalizationHelper::coreString(u"The file \"%1\" cannot be deleted."_s)
-                            .arg(left.join("\", \""_L1)));
+                            .arg(left.join(R"(", ")"_L1)));
 }
 
 bool Project::createFileCopy(const QString &parentPath, const QString &name)
@@ -191,11 +193,11 @@ bool Project::copyResources(const QString &path, QString *error) const
     for (const ImageResource *image : images()) {
         const QString copy = target.filePath(u"%1/%2"_s.arg(imagesFolder, image->fileName()));
         // Two resources that bear one name show one file.
-        if (!QFileInfo(image->fullFilePath()).isFile() || QFileInfo::exists(copy)) {
+        if (!QFileInfo(image->filePath()).isFile() || QFileInfo::exists(copy)) {
             continue;
         }
         target.mkdir(imagesFolder);
-        if (!copyFile(image->fullFilePath(), copy, error)) {
+        if (!copyFile(image->filePath(), copy, error)) {
             return false;
         }
     }
