@@ -8,6 +8,7 @@
 
 #include <initializer_list>
 #include <optional>
+#include <utility>
 
 namespace Halvane::Corvex::Designer {
 
@@ -31,7 +32,8 @@ public:
     static constexpr int highestChannel = 1024;
 
     qsizetype count() const { return m_words.size(); }
-    const QStringList &words() const { return m_words; }
+    const QStringList &words() const & { return m_words; }
+    QStringList words() && { return std::move(m_words); }
     //! Whether there is such a channel and it is not free.
     bool isUsed(qsizetype channel) const;
     bool isAnyUsed() const;
