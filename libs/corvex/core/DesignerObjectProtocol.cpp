@@ -122,6 +122,7 @@ void DesignerObject::takeNewName(const QString &oldValue)
     const QString oldName = IdentifierInfo(oldValue).name();
     for (DesignerProperty *list : std::as_const(d->lists)) {
         list->items().rekey(oldName, this);
+        list->updateListItems();
     }
     nameTaken(oldName);
 }

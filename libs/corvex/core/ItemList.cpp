@@ -83,7 +83,11 @@ void ItemList::rekey(const QString &oldName, DesignerObject *item)
         return;
     }
     m_byName.insert(name, item);
-    isOrdered = false;
+    if (isOrdered && newestIndex < 0) {
+        newestIndex = indexOf(item);
+    } else {
+        isOrdered = false;
+    }
 }
 
 } // namespace Halvane::Corvex::Designer

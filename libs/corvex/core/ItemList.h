@@ -57,10 +57,10 @@ public:
     qsizetype invalidCount = 0;
     //! While a stored list is read, ordering waits for its end.
     bool isLoading = false;
-    //! False when a new name or a swap may have put items out of order.
+    //! False when more than one item may be out of order.
     bool isOrdered = true;
-    //! The index of the item that came in last, the only one out of order when isOrdered; -1 when there is
-    //! none.
+    //! The index of the item that came in or got its name last, the only one out of order when isOrdered; -1
+    //! when there is none.
     qsizetype newestIndex = -1;
 
 private:

@@ -191,11 +191,12 @@ QString QmlForm<QList<QPolygonF>>::write(const DesignerProperty &property, const
 QString QmlForm<QGradientStops>::write(const DesignerProperty &property, const QGradientStops &stops,
                                        int indent)
 {
-    const Writer writer(property);
     QString text = line(property, indent, u"Gradient {\n"_s);
-    for (const auto &[position, color] : stops) {
-        text += QmlText::tabs(indent + 1) + u"GradientStop { position: "_s + writer.real(position)
-                + u"; color: "_s + quoted(color) + u" }\n"_s;
+    for (const QGradientStop &stop : stops) {
+        // The stored form cuts positions; what is built must not depend on whether it was saved before.
+        const QStringList fields = ValueConversion::toString(QGradientStops{stop}).split(u", "_s);
+        text += QmlText::tabs(indent + 1) + u"GradientStop { position: "_s + fields.constFirst()
+                + u"; color: "_s + ValueConversion::addQuotes(fields.constLast()) + u" }\n"_s;
     }
     return text + QmlText::tabs(indent) + u'}';
 }

@@ -47,12 +47,19 @@ CORVEX_TEXT_FORM(int, toInt)
 CORVEX_TEXT_FORM(double, toReal)
 CORVEX_TEXT_FORM(QColor, toColor)
 CORVEX_TEXT_FORM(QList<QColor>, toColorList)
-CORVEX_TEXT_FORM(QFont, toFont)
 CORVEX_TEXT_FORM(QPointF, toPoint)
 CORVEX_TEXT_FORM(QSizeF, toSize)
 CORVEX_TEXT_FORM(QPolygonF, toPolygon)
 CORVEX_TEXT_FORM(QList<QPolygonF>, toPolygonList)
 CORVEX_TEXT_FORM(QGradientStops, toGradientStops)
 #undef CORVEX_TEXT_FORM
+
+//! Equal texts give one font, whose description they share: a project has thousands of texts in a few fonts.
+template<>
+struct TextForm<QFont>
+{
+    static QFont parse(const QString &text, bool *ok);
+    static QString print(const QFont &value) { return ValueConversion::toString(value); }
+};
 
 } // namespace Halvane::Corvex::Designer

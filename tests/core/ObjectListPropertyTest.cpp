@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/TextHelper.h"
+#include "corvex/core/ItemList.h"
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/ObjectListProperty.h"
+
+#include "TestObjects.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <memory>
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer::Test {
+
+namespace {
+
+//! An object of any class, which counts how often a list has asked for it.
+class Item : public DesignerObject
+{
+public:
+    Item(const QString &name, const QString &className = u"Thing"_s)
+        : m_className(className)
+    {
+        initialize();
+        setIdName(name);
+    }
+
+    QString className() const override { return m_className; }
+    QStringList classNames() const override
+    {
+        ++questions;
+        return DesignerObject::classNames() << m_className;
+    }
+
+    static inline int questions = 0;
+
+protected:
+    ObjectView *createGraphicsItem() override { return nullptr; }
+
+private:
+    QString m_className;
+};
+
+//! A list as it is while a file is read.
+class OpenList : public ObjectListProperty
+{
+public:
+    using ObjectListProperty::items;
+    using ObjectListProperty::ObjectListProperty;
+};
+
+class Owner : public Node
+{
+public:
+    explicit Owner(OrderRule rule)
+        : list(QSharedPointer<OpenList>::create(this, u"list"_s, u"List"_s, rule))
+    {
+        initialize();
+        addProperty(list);
+    }
+
+    bool add(const QString &name, const QString &className = u"Thing"_s)
+    {
+        return addListPropertyItem(list, new Item(name, className));
+    }
+    QString names() const { return list->listItemNames().join(u' '); }
+
+    QSharedPointer<OpenList> list;
+};
+
+constexpr OrderRule allRules[] = {OrderRule::InsertionOrder, OrderRule::PlainOrder, OrderRule::NaturalOrder,
+                                  OrderRule::FileNameOrder, OrderRule::KindOrder};
+
+} // namespace
+
+TEST(ObjectListProperty, EachRuleHasItsOrder)
+{
+    const struct
+    {
+        OrderRule rule;
+        const char *order;
+    } rules[] = {
+        {OrderRule::InsertionOrder, "b10.png b9.png B.png a.svg b-1.bmp"},
+        {OrderRule::PlainOrder, "B.png a.svg b-1.bmp b10.png b9.png"},
+        {OrderRule::NaturalOrder, "a.svg b-1.bmp B.png b9.png b10.png"},
+        {OrderRule::FileNameOrder, "a.svg B.png b-1.bmp b9.png b10.png"},
+        {OrderRule::KindOrder, "b10.png b9.png B.png a.svg b-1.bmp"},
+    };
+    for (const auto &[rule, order] : rules) {
+        Owner owner(rule);
+        for (const char *name : {"b10.png", "b9.png", "B.png", "a.svg", "b-1.bmp"}) {
+            ASSERT_TRUE(owner.add(QString::fromLatin1(name)));
+        }
+        EXPECT_EQ(owner.names(), QLatin1StringView(order)) << int(rule);
+    }
+}
+
+TEST(ObjectListProperty, KindsAreLaidOutOneAfterAnother)
+{
+    Owner owner(OrderRule::KindOrder);
+    const std::pair<const char *, const char *> items[] = {
+        {"o2", "Other"},           {"v2", "VisualElement"},   {"f10", "FunctionElement"},
+        {"x2", "ProjectVariable"}, {"g1", "FilterElement"},   {"h1", "HardwareElement"},
+        {"v1", "VisualElement"},   {"x1", "ProjectVariable"}, {"f9", "FunctionElement"},
+        {"o1", "Other"},
+    };
+    for (const auto &[name, className] : items) {
+        ASSERT_TRUE(owner.add(QString::fromLatin1(name), QString::fromLatin1(className)));
+    }
+    EXPECT_EQ(owner.names(), u"x1 x2 h1 f9 f10 g1 v2 v1 o2 o1"_s);
+}
+
+TEST(ObjectListProperty, StaysInOrderWhateverComes)
+{
+    const QStringList classes{u"ProjectVariable"_s, u"VisualElement"_s, u"FilterElement"_s, u"Other"_s};
+    for (const OrderRule rule : allRules) {
+        std::mt19937 random(7);
+        Owner owner(rule);
+        Owner sortedOnce(rule);
+        sortedOnce.list->items().isLoading = true;
+        for (int i = 0; i < 300; ++i) {
+            const QString name = u"%1%2"_s.arg(QChar(u'a' + char16_t(random() % 4)), QString::number(i));
+            const QString &className = classes[random() % 4];
+            ASSERT_TRUE(owner.add(name, className) && sortedOnce.add(name, className));
+        }
+        EXPECT_EQ(sortedOnce.list->items().isOrdered, false);
+        sortedOnce.list->items().isLoading = false;
+        sortedOnce.list->sortList();
+        EXPECT_EQ(owner.names(), sortedOnce.names()) << int(rule);
+
+        // An index is only a wish in a list with an order, and what gets a new name moves to its new place.
+        for (int i = 0; i < 100; ++i) {
+            auto *item = new Item(u"n%1"_s.arg(i), classes[random() % 4]);
+            ASSERT_TRUE(owner.insertListPropertyItemAt(owner.list, item, qsizetype(random() % 300)));
+            ASSERT_TRUE(
+                owner.list->getListItemAtIndex(qsizetype(random() % 300))
+                    ->setIdName(u"%1new%2"_s.arg(QChar(u'a' + char16_t(random() % 26)), QString::number(i))));
+        }
+        const QString before = owner.names();
+        owner.list->sortList();
+        EXPECT_EQ(owner.names(), before) << int(rule);
+    }
+}
+
+TEST(ObjectListProperty, FindsPlacesBySearchAndSortsALoadedListOnce)
+{
+    constexpr int count = 1000;
+    Owner grown(OrderRule::KindOrder);
+    Owner loaded(OrderRule::KindOrder);
+    QStringList names;
+    for (int i = 0; i < count; ++i) {
+        names.append(u"v%1"_s.arg(i));
+    }
+    std::shuffle(names.begin(), names.end(), std::mt19937(7));
+
+    Item::questions = 0;
+    for (const QString &name : names) {
+        grown.add(name, u"ProjectVariable"_s);
+    }
+    EXPECT_LT(Item::questions, count * 16);
+
+    Item::questions = 0;
+    loaded.list->items().isLoading = true;
+    for (const QString &name : names) {
+        loaded.add(name, u"ProjectVariable"_s);
+    }
+    EXPECT_EQ(Item::questions, 0);
+    loaded.list->items().isLoading = false;
+    loaded.list->sortList();
+    EXPECT_EQ(Item::questions, count);
+    EXPECT_EQ(loaded.names(), grown.names());
+}
+
+TEST(ObjectListProperty, SwapsWhereItHasNoOrderOfItsOwn)
+{
+    for (const OrderRule rule : {OrderRule::InsertionOrder, OrderRule::NaturalOrder}) {
+        Owner owner(rule);
+        owner.add(u"a"_s);
+        owner.add(u"b"_s);
+        EXPECT_TRUE(owner.swapListPropertyItems(owner.list, owner.list->getListItemAtIndex(0),
+                                                owner.list->getListItemAtIndex(1)));
+        EXPECT_EQ(owner.names(), rule == OrderRule::InsertionOrder ? u"b a"_s : u"a b"_s);
+    }
+}
+
+TEST(ObjectListProperty, WritesTheBlocksOfItsItems)
+{
+    Owner owner(OrderRule::InsertionOrder);
+    owner.list->setFlag(RuntimeFlag, true);
+    EXPECT_EQ(owner.list->toQml(1), QString());
+    owner.add(u"b"_s);
+    owner.add(u"a"_s);
+    EXPECT_EQ(owner.list->toQml(1),
+              u"\tThing {\n\t\tobjectName: \"b\"\n\t}\n\tThing {\n\t\tobjectName: \"a\"\n\t}"_s);
+    EXPECT_EQ(owner.list->valueString(), QString());
+    EXPECT_TRUE(owner.list->equalsValue(QString()));
+}
+
+} // namespace Halvane::Corvex::Designer::Test
