@@ -11,7 +11,7 @@ struct TextForm<EnumInfo>
 {
     static EnumInfo parse(const QString &text, const EnumInfo &current, bool *ok)
     {
-        return EnumInfo(current.enumerator(), text, ok);
+        return {current.enumerator(), text, ok};
     }
     static QString print(const EnumInfo &value) { return value.valueString(); }
 };

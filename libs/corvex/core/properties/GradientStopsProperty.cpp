@@ -39,7 +39,7 @@ bool GradientStopsProperty::validateValue(QString &error) const
     if (stops.size() < minimumStops) {
         ValidationError::set(error, "The gradient stops must have at least 2 stops.");
         if (stops.isEmpty()) {
-            error += u" ("_s + QLatin1StringView(emptyValueMarker) + u')';
+            error += u" ("_s + emptyValueMarker + u')';
         }
         return false;
     }

@@ -13,7 +13,7 @@ class GradientStopsProperty : public TypedProperty<QGradientStops>
 public:
     //! Stands in the error of a list without stops, so that an editor can tell "nothing chosen" from a bad
     //! choice.
-    static constexpr char emptyValueMarker[] = "emptyValue";
+    static constexpr QLatin1StringView emptyValueMarker{"emptyValue"};
 
     GradientStopsProperty(DesignerObject *parent, const QString &id, const QString &name,
                           const QGradientStops &initialValue)

@@ -5,6 +5,8 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ItemList.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -18,14 +20,17 @@ struct SortKey
     QString name; //!< empty in a group that keeps its own order
 };
 
-//! The groups of OrderRule::KindOrder in the order in which they are laid out.
-constexpr struct
+struct KindGroup
 {
-    const char *className;
+    QLatin1StringView className;
     bool keepsOwnOrder;
-} kindGroups[] = {
-    {"ProjectVariable", false}, {"HardwareElement", false}, {"FunctionElement", false},
-    {"FilterElement", false},   {"VisualElement", true},
+};
+
+//! The groups of OrderRule::KindOrder in the order in which they are laid out.
+constexpr std::array kindGroups{
+    KindGroup{"ProjectVariable"_L1, false}, KindGroup{"HardwareElement"_L1, false},
+    KindGroup{"FunctionElement"_L1, false}, KindGroup{"FilterElement"_L1, false},
+    KindGroup{"VisualElement"_L1, true},
 };
 
 SortKey keyOf(const DesignerObject *item, OrderRule rule)
@@ -36,7 +41,7 @@ SortKey keyOf(const DesignerObject *item, OrderRule rule)
     const QStringList classNames = item->classNames();
     int group = 0;
     for (const auto &[className, keepsOwnOrder] : kindGroups) {
-        if (classNames.contains(QLatin1StringView(className))) {
+        if (classNames.contains(className)) {
             return {group, keepsOwnOrder ? QString() : item->getIdName()};
         }
         ++group;

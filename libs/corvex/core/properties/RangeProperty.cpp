@@ -4,7 +4,7 @@
 #include "corvex/core/properties/ValidationError.h"
 
 #include <algorithm>
-#include <iterator>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -12,23 +12,25 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The last style is for ranges that name none of the others.
-constexpr struct
+struct Rule
 {
     QLatin1StringView style;
     bool (*holds)(double minimum, double maximum);
     const char *sentence;
-} rules[] = {
-    {"MinMax"_L1, [](double minimum, double maximum) { return minimum < maximum; },
-     "The minimum value must be less than the maximum value."},
-    {"MinMaxEqual"_L1, [](double minimum, double maximum) { return minimum <= maximum; },
-     ValidationError::minimumAboveMaximum},
-    {"MaxMin"_L1, [](double minimum, double maximum) { return maximum < minimum; },
-     "The maximum value must be less than the minimum value."},
-    {"MaxMinEqual"_L1, [](double minimum, double maximum) { return maximum <= minimum; },
-     "The maximum value cannot be greater than the minimum value."},
-    {""_L1, [](double minimum, double maximum) { return minimum != maximum; },
-     "The two values cannot be the same."},
+};
+
+//! The last one is for ranges that name none of the other styles.
+constexpr std::array rules{
+    Rule{"MinMax"_L1, [](double minimum, double maximum) { return minimum < maximum; },
+         "The minimum value must be less than the maximum value."},
+    Rule{"MinMaxEqual"_L1, [](double minimum, double maximum) { return minimum <= maximum; },
+         ValidationError::minimumAboveMaximum},
+    Rule{"MaxMin"_L1, [](double minimum, double maximum) { return maximum < minimum; },
+         "The maximum value must be less than the minimum value."},
+    Rule{"MaxMinEqual"_L1, [](double minimum, double maximum) { return maximum <= minimum; },
+         "The maximum value cannot be greater than the minimum value."},
+    Rule{""_L1, [](double minimum, double maximum) { return minimum != maximum; },
+         "The two values cannot be the same."},
 };
 
 } // namespace
@@ -36,8 +38,8 @@ constexpr struct
 bool RangeProperty::validateValue(QString &error) const
 {
     const QString style = editorParameter(u"rangeStyle"_s).toString();
-    const auto rule = std::find_if(std::begin(rules), std::prev(std::end(rules)),
-                                   [&style](const auto &row) { return style == row.style; });
+    const auto rule = std::find_if(rules.begin(), rules.end() - 1,
+                                   [&style](const Rule &row) { return style == row.style; });
     return rule->holds(value().minimum(), value().maximum()) || ValidationError::set(error, rule->sentence);
 }
 

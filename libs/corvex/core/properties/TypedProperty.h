@@ -47,10 +47,11 @@ protected:
     bool convertToValue(const QString &text) override
     {
         std::optional<Value> parsed = parse(text);
-        if (parsed) {
-            m_value = *std::move(parsed);
+        if (!parsed) {
+            return false;
         }
-        return parsed.has_value();
+        m_value = *std::move(parsed);
+        return true;
     }
 
     QString convertToValueString() const override { return TextForm<Value>::print(m_value); }

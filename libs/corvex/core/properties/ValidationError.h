@@ -6,8 +6,8 @@
 //! The sentences in which properties say why they are invalid.
 namespace Halvane::Corvex::Designer::ValidationError {
 
-inline constexpr char invalidColor[] = "The color is invalid. Please choose a valid color.";
-inline constexpr char minimumAboveMaximum[] = "The minimum value cannot be greater than the maximum value.";
+inline constexpr auto *invalidColor = "The color is invalid. Please choose a valid color.";
+inline constexpr auto *minimumAboveMaximum = "The minimum value cannot be greater than the maximum value.";
 
 //! Writes the translation of \a sentence into \a error and returns false, which a check can return in turn.
 bool set(QString &error, const char *sentence);
