@@ -29,7 +29,8 @@ QString shortest(float number)
 QMap<int, float> toFrequencies(const QString &text)
 {
     QMap<int, float> frequencies;
-    for (const QString &word : ChannelList(text).words()) {
+    const ChannelList channels(text);
+    for (const QString &word : channels.words()) {
         const float hertz = word.toFloat();
         frequencies.insert(int(frequencies.size()) + 1, std::isfinite(hertz) ? hertz : 0);
     }
