@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What cmake --install lays down beside the tools and plug-ins, which their own functions install: the
-# libraries, their headers under the paths that they have in the tree, and the CMake package DesignerCore.
+# What cmake --install lays down beside tools, plug-ins and data, which their own folders install: the libraries,
+# their headers under the paths that they have in the tree, and the CMake package DesignerCore.
 include(CMakePackageConfigHelpers)
 
 set(package_path "${CMAKE_INSTALL_LIBDIR}/cmake/DesignerCore")

@@ -44,18 +44,6 @@ function(corvex_room name)
   set_property(GLOBAL APPEND PROPERTY CORVEX_ROOMS corvex_${name})
 endfunction()
 
-# corvex_tool(NAME SOURCES file... LINKS target...)
-#
-# A program for people: the target NAME, in bin, installed.
-function(corvex_tool name)
-  cmake_parse_arguments(TOOL "" "" "SOURCES;LINKS" ${ARGN})
-  add_executable(${name} ${TOOL_SOURCES})
-  target_link_libraries(${name} PRIVATE corvex_build_options DesignerCore ${TOOL_LINKS})
-  target_precompile_headers(${name} REUSE_FROM corvex_precompiled)
-  corvex_automoc(${name})
-  install(TARGETS ${name} DESTINATION "${CMAKE_INSTALL_BINDIR}")
-endfunction()
-
 # corvex_plugin(NAME SOURCES file... LINKS target...)
 #
 # A plug-in that the factory loads: the target plugin_NAME, libNAME.so in the folder of plug-ins, installed.
