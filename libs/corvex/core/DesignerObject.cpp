@@ -70,7 +70,7 @@ bool DesignerObject::addProperties(const PropertyTable &table)
                 return false;
             }
         } else {
-            d->properties.append(table.make(row, this));
+            d->properties.append(row.make(this));
         }
     }
     return true;

@@ -109,11 +109,6 @@ PropertyRow &PropertyRow::overridesValue()
     return *this;
 }
 
-SharedProperty PropertyTable::make(const PropertyRow &row, DesignerObject *parent) const
-{
-    return row.m_maker(parent, *row.m_prototype);
-}
-
 bool PropertyTable::describeAnew(const PropertyRow &row, DesignerProperty &property) const
 {
     if (row.m_prototype->className() != property.className()) {

@@ -17,6 +17,8 @@ class PropertyRow
 {
 public:
     const QString &id() const { return m_prototype->id(); }
+    //! A property as the row describes it, with its value.
+    SharedProperty make(DesignerObject *parent) const { return m_maker(parent, *m_prototype); }
 
     PropertyRow &rank(int rank);
     PropertyRow &flags(int flags);
@@ -86,7 +88,6 @@ public:
 private:
     friend class DesignerObject;
 
-    SharedProperty make(const PropertyRow &row, DesignerObject *parent) const;
     bool describeAnew(const PropertyRow &row, DesignerProperty &property) const;
 
     std::vector<PropertyRow> m_rows;

@@ -7,6 +7,12 @@
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
+#include "corvex/variables/AutoSettingVariable.h"
+#include "corvex/variables/BooleanVariable.h"
+#include "corvex/variables/ColorVariable.h"
+#include "corvex/variables/MappingVariable.h"
+#include "corvex/variables/NumberVariable.h"
+#include "corvex/variables/StringVariable.h"
 
 using namespace Qt::StringLiterals;
 
@@ -68,10 +74,16 @@ DesignerObject *make(QObject *parent)
 const QHash<QString, Maker> &makers()
 {
     static const QHash<QString, Maker> table{
+        {u"AutoSettingVariable"_s, make<AutoSettingVariable>},
+        {u"BooleanVariable"_s, make<BooleanVariable>},
+        {u"ColorVariable"_s, make<ColorVariable>},
         {u"Configuration"_s, make<Configuration>},
         {u"ConfigurationContainer"_s, make<ConfigurationContainer>},
         {u"ImageResource"_s, make<ImageResource>},
+        {u"MappingVariable"_s, make<MappingVariable>},
+        {u"NumberVariable"_s, make<NumberVariable>},
         {u"Project"_s, make<Project>},
+        {u"StringVariable"_s, make<StringVariable>},
     };
     return table;
 }

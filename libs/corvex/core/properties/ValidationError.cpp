@@ -13,8 +13,13 @@ bool ValidationError::set(QString &error, const char *sentence)
 
 bool ValidationError::set(QString &error, const char *sentence, int number)
 {
+    return set(error, sentence, QString::number(number));
+}
+
+bool ValidationError::set(QString &error, const char *sentence, const QString &text)
+{
     set(error, sentence);
-    error = error.arg(number);
+    error = error.arg(text);
     return false;
 }
 

@@ -13,5 +13,7 @@ inline constexpr auto *minimumAboveMaximum = "The minimum value cannot be greate
 bool set(QString &error, const char *sentence);
 //! The same of a sentence with a number in the place of %1.
 bool set(QString &error, const char *sentence, int number);
+//! The same of a sentence with a text in the place of %1.
+bool set(QString &error, const char *sentence, const QString &text);
 
 } // namespace Halvane::Corvex::Designer::ValidationError

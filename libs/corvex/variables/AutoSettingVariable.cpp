@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/variables/AutoSettingVariable.h"
+
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/core/properties/StringProperty.h"
+
+namespace Halvane::Corvex::Designer {
+
+bool AutoSettingVariable::initializeProperties()
+{
+    static const PropertyTable table{
+        fixedPersistence(false),
+        row<StringProperty>("typeOfObject", "Object Type", QString())
+            .rank(12)
+            .flags(15)
+            .allowInvalid()
+            .editor("AutosaveObjectEditor"),
+    };
+    if (!ProjectVariable::initializeProperties() || !addProperties(table)) {
+        return false;
+    }
+    m_typeOfObject = getProperty(u"typeOfObject");
+    return true;
+}
+
+SharedProperty AutoSettingVariable::initializeValueProperty()
+{
+    static const PropertyRow prototype =
+        row<GeneralDataListProperty>("value", "Value List", GeneralDataList())
+            .rank(10)
+            .flags(3)
+            .allowInvalid();
+    return prototype.make(this);
+}
+
+} // namespace Halvane::Corvex::Designer

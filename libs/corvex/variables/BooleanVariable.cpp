@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/variables/BooleanVariable.h"
+
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/BooleanProperty.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+QVariant BooleanVariable::typedValue(QStringView text)
+{
+    const bool isTrue = text == "true"_L1;
+    return isTrue || text == "false"_L1 ? QVariant(isTrue) : QVariant();
+}
+
+SharedProperty BooleanVariable::initializeValueProperty()
+{
+    static const PropertyRow prototype =
+        row<BooleanProperty>("value", "Variable Value", false).rank(10).flags(15).allowInvalid();
+    return prototype.make(this);
+}
+
+} // namespace Halvane::Corvex::Designer

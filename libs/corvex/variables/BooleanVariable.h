@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/variables/ProjectVariable.h"
+
+namespace Halvane::Corvex::Designer {
+
+class BooleanVariable : public ProjectVariable
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(BooleanVariable, ProjectVariable)
+
+public:
+    VariableType variableType() const override { return VariableType::BooleanVariable; }
+    QVariant toVariant() const override { return typedValue(value()->valueString()); }
+
+    //! Of exactly "true" and "false"; invalid of any other text.
+    static QVariant typedValue(QStringView text);
+
+protected:
+    using ProjectVariable::ProjectVariable;
+    SharedProperty initializeValueProperty() override;
+};
+
+} // namespace Halvane::Corvex::Designer

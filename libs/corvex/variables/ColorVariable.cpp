@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/variables/ColorVariable.h"
+
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/ColorProperty.h"
+
+namespace Halvane::Corvex::Designer {
+
+QVariant ColorVariable::typedValue(QStringView text)
+{
+    bool ok = false;
+    const QColor color = ValueConversion::toColor(text, &ok);
+    return ok ? QVariant(color) : QVariant();
+}
+
+SharedProperty ColorVariable::initializeValueProperty()
+{
+    static const PropertyRow prototype =
+        row<ColorProperty>("value", "Variable Value", QColor(Qt::black)).rank(10).flags(15).allowInvalid();
+    return prototype.make(this);
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/variables/ProjectVariable.h"
+
+namespace Halvane::Corvex::Designer {
+
+class ColorVariable : public ProjectVariable
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(ColorVariable, ProjectVariable)
+
+public:
+    VariableType variableType() const override { return VariableType::ColorVariable; }
+    QVariant toVariant() const override { return typedValue(value()->valueString()); }
+
+    //! A QColor; invalid of a text that is no colour.
+    static QVariant typedValue(QStringView text);
+
+protected:
+    using ProjectVariable::ProjectVariable;
+    SharedProperty initializeValueProperty() override;
+};
+
+} // namespace Halvane::Corvex::Designer

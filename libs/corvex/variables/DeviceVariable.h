@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/variables/ProjectVariable.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! What the kinds share whose value is a map of names to values; no kind of its own.
+class DeviceVariable : public ProjectVariable
+{
+    Q_OBJECT
+
+public:
+    VariableType variableType() const override { return VariableType::DeviceVariable; }
+    QVariant toVariant() const override { return typedValue(value()->valueString()); }
+
+    //! A QVariantMap of texts; invalid when the text is no map, the empty text among them.
+    static QVariant typedValue(const QString &text);
+
+protected:
+    using ProjectVariable::ProjectVariable;
+    SharedProperty initializeValueProperty() override;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/variables/MappingVariable.h"
+
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/variables/ModbusMap.h"
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+template<ModbusMap::RegisterKind kind>
+bool validateMap(const DesignerProperty *property, QString &error)
+{
+    return ModbusMap(kind).read(static_cast<const GeneralDataListProperty *>(property)->value(), error);
+}
+
+template<ModbusMap::RegisterKind kind>
+PropertyRow mapRow(const char *id, const char *title)
+{
+    return row<GeneralDataListProperty>(id, title, GeneralDataList())
+        .flags(15)
+        .allowInvalid()
+        .editor(kind == ModbusMap::VirtualString ? "StringAddressMapEditor" : "AddressMapEditor")
+        .parameter("RegType", int(kind))
+        .validator(&validateMap<kind>);
+}
+
+} // namespace
+
+QString MappingVariable::toQml(int) const
+{
+    return {};
+}
+
+bool MappingVariable::initializeProperties()
+{
+    static const PropertyTable table{
+        mapRow<ModbusMap::Coil>("coilMap", "Coil Map (00001 - 09999)").rank(12),
+        mapRow<ModbusMap::DiscreteInput>("discreteInputMap", "Discrete Input Map (10001 - 19999)").rank(13),
+        mapRow<ModbusMap::InputRegister>("inputRegMap", "Input Regiseter Map (30001 - 39999)").rank(14),
+        mapRow<ModbusMap::HoldingRegister>("holdingRegMap", "Holding Register Map (40001 - 49999)").rank(15),
+        mapRow<ModbusMap::VirtualRegister>("virtualRegMap", "Virtual Register Map").rank(16),
+        mapRow<ModbusMap::VirtualString>("virtualStringMap", "Virtual String Map (5000 and above)").rank(17),
+    };
+    if (!DeviceVariable::initializeProperties() || !addProperties(table)) {
+        return false;
+    }
+    m_coilMap = getProperty(u"coilMap");
+    m_discreteInputMap = getProperty(u"discreteInputMap");
+    m_inputRegMap = getProperty(u"inputRegMap");
+    m_holdingRegMap = getProperty(u"holdingRegMap");
+    m_virtualRegMap = getProperty(u"virtualRegMap");
+    m_virtualStringMap = getProperty(u"virtualStringMap");
+    return true;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/variables/DeviceVariable.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! The Modbus registers of the device; see ModbusMap for what each of the maps holds.
+class MappingVariable : public DeviceVariable
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(MappingVariable, ProjectVariable)
+
+public:
+    const SharedProperty &coilMap() const { return m_coilMap; }
+    const SharedProperty &discreteInputMap() const { return m_discreteInputMap; }
+    const SharedProperty &inputRegMap() const { return m_inputRegMap; }
+    const SharedProperty &holdingRegMap() const { return m_holdingRegMap; }
+    const SharedProperty &virtualRegMap() const { return m_virtualRegMap; }
+    const SharedProperty &virtualStringMap() const { return m_virtualStringMap; }
+
+    //! The name of the screen for whose port the map's QML is being written.
+    void setQmlActiveScreen(const QString &screenName) { m_qmlActiveScreen = screenName; }
+    const QString &qmlActiveScreen() const { return m_qmlActiveScreen; }
+    //! Nothing: the device takes the maps from its configuration.
+    QString toQml(int indent) const override;
+
+protected:
+    using DeviceVariable::DeviceVariable;
+    bool initializeProperties() override;
+
+private:
+    SharedProperty m_coilMap;
+    SharedProperty m_discreteInputMap;
+    SharedProperty m_inputRegMap;
+    SharedProperty m_holdingRegMap;
+    SharedProperty m_virtualRegMap;
+    SharedProperty m_virtualStringMap;
+    QString m_qmlActiveScreen;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/variables/NumberVariable.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/StringProperty.h"
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! Up to here every integer has a single-precision float of its own.
+constexpr float largestFloat = 16777215;
+constexpr int smallestInteger = -2147483647;
+
+bool validateNumber(const DesignerProperty *property, QString &error)
+{
+    return NumberVariable::isWithinLimits(property->valueString(), error);
+}
+
+} // namespace
+
+NumberVariable::VariableType NumberVariable::typeOf(const QString &text)
+{
+    const bool isFloating =
+        text.contains(u'.') || text == "NaN"_L1 || text == "Infinity"_L1 || text == "-Infinity"_L1;
+    return isFloating ? VariableType::FloatVariable : VariableType::IntegerVariable;
+}
+
+QVariant NumberVariable::typedValue(const QString &text)
+{
+    using Limits = std::numeric_limits<float>;
+    if (text == "NaN"_L1) {
+        return Limits::quiet_NaN();
+    }
+    if (text == "Infinity"_L1 || text == "-Infinity"_L1) {
+        return text.startsWith(u'-') ? -Limits::infinity() : Limits::infinity();
+    }
+    bool ok = false;
+    const QVariant number =
+        typeOf(text) == VariableType::FloatVariable ? QVariant(text.toFloat(&ok)) : QVariant(text.toInt(&ok));
+    return ok ? number : QVariant();
+}
+
+bool NumberVariable::isWithinLimits(const QString &text, QString &error)
+{
+    error.clear();
+    bool ok = false;
+    if (text.contains(u'.')) {
+        const float number = text.toFloat(&ok);
+        if (ok && (number < -largestFloat || number > largestFloat)) {
+            error = Common::LocalizationHelper::coreString(
+                u"The floating number value is not within limit -16777215 to 16777215"_s);
+        }
+    } else if (text.toInt(&ok) < smallestInteger && ok) {
+        error = Common::LocalizationHelper::coreString(
+            u"The integer value is not within limit 2147483647 to -2147483647"_s);
+    }
+    return error.isEmpty();
+}
+
+SharedProperty NumberVariable::initializeValueProperty()
+{
+    static const PropertyRow prototype = row<StringProperty>("value", "Variable Value", u"0"_s)
+                                             .rank(10)
+                                             .flags(15)
+                                             .allowInvalid()
+                                             .editor("LargeNumberEditor")
+                                             .validator(&validateNumber);
+    return prototype.make(this);
+}
+
+} // namespace Halvane::Corvex::Designer

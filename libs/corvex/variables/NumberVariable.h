@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/variables/ProjectVariable.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! An integer or a floating number, which the decimal point alone decides: "1" is an integer, "1.0" is not.
+class NumberVariable : public ProjectVariable
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(NumberVariable, ProjectVariable)
+
+public:
+    VariableType variableType() const override { return typeOf(value()->valueString()); }
+    QVariant toVariant() const override { return typedValue(value()->valueString()); }
+
+    //! FloatVariable for a text with a decimal point and for "NaN", "Infinity" and "-Infinity".
+    static VariableType typeOf(const QString &text);
+    //! A float or an int of 32 bits; invalid when the text is no number.
+    static QVariant typedValue(const QString &text);
+    //! Whether the device can hold the number; a text that is none passes.
+    static bool isWithinLimits(const QString &text, QString &error);
+
+protected:
+    using ProjectVariable::ProjectVariable;
+    SharedProperty initializeValueProperty() override;
+};
+
+} // namespace Halvane::Corvex::Designer

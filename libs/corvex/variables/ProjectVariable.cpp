@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/variables/ProjectVariable.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/PropertyValidators.h"
+#include "corvex/core/properties/BooleanProperty.h"
+#include "corvex/core/properties/IdentifierProperty.h"
+#include "corvex/core/properties/StringProperty.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+PropertyRow persistentRow(bool on)
+{
+    constexpr auto description = "If enabled, the variable value will be saved to disk when changed. This "
+                                 "option only works on the device.";
+    return row<BooleanProperty>("persistent", "Persistent", on)
+        .rank(11)
+        .flags(15)
+        .description(description)
+        .tooltip(description);
+}
+
+} // namespace
+
+ProjectVariable::ProjectVariable(QObject *parent)
+    : DesignerObject(parent)
+{ }
+
+QString ProjectVariable::baseName() const
+{
+    const DesignerFactory *factory = DesignerFactory::instance();
+    return factory ? factory->baseNameForClass(className()) : DesignerObject::baseName();
+}
+
+QString ProjectVariable::displayName() const
+{
+    const DesignerFactory *factory = DesignerFactory::instance();
+    return factory ? factory->displayNameForClass(className()) : DesignerObject::displayName();
+}
+
+ProjectVariable::VariableType ProjectVariable::variableType() const
+{
+    return VariableType::NoVariable;
+}
+
+QVariant ProjectVariable::toVariant() const
+{
+    return {};
+}
+
+ObjectView *ProjectVariable::createGraphicsItem()
+{
+    return nullptr;
+}
+
+bool ProjectVariable::initializeProperties()
+{
+    static const PropertyTable idTable{
+        row<IdentifierProperty>("id", "Name", IdentifierInfo())
+            .rank(0)
+            .flags(15)
+            .allowInvalid()
+            .validator(&PropertyValidators::identifierElementValidator),
+    };
+    static const PropertyTable table{persistentRow(false)};
+    if (!DesignerObject::initializeProperties() || !addProperties(idTable)) {
+        return false;
+    }
+    registerIdentifier(u"Project"_s);
+    m_value = initializeValueProperty();
+    if (!m_value) {
+        return false;
+    }
+    addProperty(m_value);
+    if (!addProperties(table)) {
+        return false;
+    }
+    m_persistent = getProperty(u"persistent");
+    return true;
+}
+
+SharedProperty ProjectVariable::initializeValueProperty()
+{
+    static const PropertyRow prototype =
+        row<StringProperty>("value", "Variable Value", QString()).rank(10).flags(15).allowInvalid();
+    return prototype.make(this);
+}
+
+bool ProjectVariable::beforePropertyChanged(const DesignerProperty *property, const QString &)
+{
+    return property != m_persistent || property->editorParameters().value(u"visible"_s, true).toBool();
+}
+
+PropertyRow ProjectVariable::fixedPersistence(bool on)
+{
+    return persistentRow(on).hidden().overridesValue();
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/common/EnumHelper.h"
+#include "corvex/core/DesignerObject.h"
+
+#include <QVariant>
+
+namespace Halvane::Corvex::Designer {
+
+class PropertyRow;
+
+/*! A named value of the project, which expressions, elements and the device read and write by its name.
+
+    The value is kept as the text that the user gave; type and typed value are always worked out from that
+   text.
+*/
+class ProjectVariable : public DesignerObject
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(ProjectVariable, DesignerObject)
+
+public:
+    using VariableType = Common::EnumHelper::VariableType;
+
+    QString baseName() const override;
+    QString displayName() const override;
+
+    //! Null until initialize() has run; likewise the other handles.
+    const SharedProperty &value() const { return m_value; }
+    //! Whether the device keeps the value when it is switched off.
+    const SharedProperty &persistent() const { return m_persistent; }
+
+    virtual VariableType variableType() const;
+    //! The value as the device gets it; invalid when its text does not stand for one.
+    virtual QVariant toVariant() const;
+
+protected:
+    explicit ProjectVariable(QObject *parent = nullptr);
+
+    ObjectView *createGraphicsItem() override;
+    bool initializeProperties() override;
+    //! Makes the property "value"; null stops the initialisation.
+    virtual SharedProperty initializeValueProperty();
+    //! Refuses to change "persistent" of a kind that decides about it by itself.
+    bool beforePropertyChanged(const DesignerProperty *property, const QString &newValue) override;
+
+    //! The property "persistent" of a kind that is always or never persistent: hidden, and \a on.
+    static PropertyRow fixedPersistence(bool on);
+
+private:
+    SharedProperty m_value;
+    SharedProperty m_persistent;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/variables/StringVariable.h"
+
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/StringProperty.h"
+
+namespace Halvane::Corvex::Designer {
+
+SharedProperty StringVariable::initializeValueProperty()
+{
+    static const PropertyRow prototype = row<StringProperty>("value", "Variable Value", QString())
+                                             .rank(10)
+                                             .flags(15)
+                                             .allowInvalid()
+                                             .editor("PlainTextEditor");
+    return prototype.make(this);
+}
+
+} // namespace Halvane::Corvex::Designer
