@@ -20,6 +20,9 @@ using Type = ProjectVariable::VariableType;
 
 namespace {
 
+enum class Persistence { Chosen, Never, Always };
+using enum Persistence;
+
 struct Kind
 {
     const char *className;
@@ -28,16 +31,21 @@ struct Kind
     const char *value;
     const char *editor;
     int valueFlags;
-    bool choosesPersistence;
+    Persistence persistence;
 };
 
 constexpr Kind kinds[] = {
-    {"BooleanVariable", Type::BooleanVariable, "Variable Value", "false", "BooleanEditor", 15, true},
-    {"NumberVariable", Type::IntegerVariable, "Variable Value", "0", "LargeNumberEditor", 15, true},
-    {"StringVariable", Type::StringVariable, "Variable Value", "", "PlainTextEditor", 15, true},
-    {"ColorVariable", Type::ColorVariable, "Variable Value", "#FF000000", "ColorEditor", 15, true},
-    {"AutoSettingVariable", Type::DeviceVariable, "Value List", "", "PropertyEditor", 3, false},
-    {"MappingVariable", Type::DeviceVariable, "Variable Value", "", "PropertyEditor", 15, true},
+    {"BooleanVariable", Type::BooleanVariable, "Variable Value", "false", "BooleanEditor", 15, Chosen},
+    {"NumberVariable", Type::IntegerVariable, "Variable Value", "0", "LargeNumberEditor", 15, Chosen},
+    {"StringVariable", Type::StringVariable, "Variable Value", "", "PlainTextEditor", 15, Chosen},
+    {"ColorVariable", Type::ColorVariable, "Variable Value", "#FF000000", "ColorEditor", 15, Chosen},
+    {"AutoSettingVariable", Type::DeviceVariable, "Value List", "", "PropertyEditor", 3, Never},
+    {"MappingVariable", Type::DeviceVariable, "Variable Value", "", "PropertyEditor", 15, Chosen},
+    {"CANVariable", Type::DeviceVariable, "Variable Value", "", "PropertyEditor", 15, Never},
+    {"FtpVariable", Type::FtpVariable, "Ftp Value", "", "PropertyEditor", 15, Always},
+    {"LogVariable", Type::LogVariable, "Variable Value", "0", "LargeNumberEditor", 15, Never},
+    {"BACnetDevice", Type::DeviceVariable, "Variable Value", "", "PropertyEditor", 15, Never},
+    {"BACnetObject", Type::DeviceVariable, "Variable Value", "", "PropertyEditor", 15, Never},
 };
 
 TEST(ProjectVariable, startsAsItsKindSays)
@@ -61,8 +69,8 @@ TEST(ProjectVariable, startsAsItsKindSays)
         EXPECT_EQ(int(value.flags()), kind.valueFlags);
         EXPECT_TRUE(value.allowInvalidValue());
 
-        EXPECT_EQ(variable->persistent()->valueString(), u"false"_s);
-        EXPECT_EQ(isShown(*variable, u"persistent"), kind.choosesPersistence);
+        EXPECT_EQ(variable->persistent()->valueString(), kind.persistence == Always ? u"true"_s : u"false"_s);
+        EXPECT_EQ(isShown(*variable, u"persistent"), kind.persistence == Chosen);
         EXPECT_EQ(variable->persistent()->editorParameter(u"tooltip"_s).toString(),
                   variable->persistent()->description());
         int rank = 12;

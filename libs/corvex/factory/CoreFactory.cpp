@@ -8,8 +8,13 @@
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 #include "corvex/variables/AutoSettingVariable.h"
+#include "corvex/variables/BACnetDevice.h"
+#include "corvex/variables/BACnetObject.h"
 #include "corvex/variables/BooleanVariable.h"
+#include "corvex/variables/CANVariable.h"
 #include "corvex/variables/ColorVariable.h"
+#include "corvex/variables/FtpVariable.h"
+#include "corvex/variables/LogVariable.h"
 #include "corvex/variables/MappingVariable.h"
 #include "corvex/variables/NumberVariable.h"
 #include "corvex/variables/StringVariable.h"
@@ -75,11 +80,16 @@ const QHash<QString, Maker> &makers()
 {
     static const QHash<QString, Maker> table{
         {u"AutoSettingVariable"_s, make<AutoSettingVariable>},
+        {u"BACnetDevice"_s, make<BACnetDevice>},
+        {u"BACnetObject"_s, make<BACnetObject>},
         {u"BooleanVariable"_s, make<BooleanVariable>},
+        {u"CANVariable"_s, make<CANVariable>},
         {u"ColorVariable"_s, make<ColorVariable>},
         {u"Configuration"_s, make<Configuration>},
         {u"ConfigurationContainer"_s, make<ConfigurationContainer>},
+        {u"FtpVariable"_s, make<FtpVariable>},
         {u"ImageResource"_s, make<ImageResource>},
+        {u"LogVariable"_s, make<LogVariable>},
         {u"MappingVariable"_s, make<MappingVariable>},
         {u"NumberVariable"_s, make<NumberVariable>},
         {u"Project"_s, make<Project>},

@@ -63,7 +63,7 @@ bool NumberVariable::isWithinLimits(const QString &text, QString &error)
     return error.isEmpty();
 }
 
-SharedProperty NumberVariable::initializeValueProperty()
+const PropertyRow &NumberVariable::numberRow()
 {
     static const PropertyRow prototype = row<StringProperty>("value", "Variable Value", u"0"_s)
                                              .rank(10)
@@ -71,7 +71,12 @@ SharedProperty NumberVariable::initializeValueProperty()
                                              .allowInvalid()
                                              .editor("LargeNumberEditor")
                                              .validator(&validateNumber);
-    return prototype.make(this);
+    return prototype;
+}
+
+SharedProperty NumberVariable::initializeValueProperty()
+{
+    return numberRow().make(this);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -21,6 +21,8 @@ public:
     static QVariant typedValue(const QString &text);
     //! Whether the device can hold the number; a text that is none passes.
     static bool isWithinLimits(const QString &text, QString &error);
+    //! The property "value" of variables that hold a number.
+    static const PropertyRow &numberRow();
 
 protected:
     using ProjectVariable::ProjectVariable;

@@ -5,6 +5,7 @@
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/PropertyValidators.h"
 #include "corvex/core/properties/BooleanProperty.h"
+#include "corvex/core/properties/EnumProperty.h"
 #include "corvex/core/properties/IdentifierProperty.h"
 #include "corvex/core/properties/StringProperty.h"
 
@@ -99,6 +100,16 @@ bool ProjectVariable::beforePropertyChanged(const DesignerProperty *property, co
 PropertyRow ProjectVariable::fixedPersistence(bool on)
 {
     return persistentRow(on).hidden().overridesValue();
+}
+
+PropertyRow ProjectVariable::enumRow(const char *id, const char *title, const char *enumName)
+{
+    const QString name = QString::fromLatin1(enumName);
+    return row<EnumProperty>(id, title, EnumInfo(Common::EnumHelper::metaEnum(name), 0))
+        .flags(15)
+        .allowInvalid()
+        .editor("EnumEditor")
+        .parameter("enumName", name);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -47,6 +47,8 @@ protected:
 
     //! The property "persistent" of a kind that is always or never persistent: hidden, and \a on.
     static PropertyRow fixedPersistence(bool on);
+    //! A property that holds a value of the enumeration \a enumName of EnumHelper, the first unless changed.
+    static PropertyRow enumRow(const char *id, const char *title, const char *enumName);
 
 private:
     SharedProperty m_value;

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/variables/BACnetDevice.h"
+
+#include "corvex/common/BACDeviceInfo.h"
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/BooleanProperty.h"
+#include "corvex/core/properties/EnumProperty.h"
+#include "corvex/core/properties/IntegerProperty.h"
+#include "corvex/core/properties/StringProperty.h"
+#include "corvex/core/properties/ValidationError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! The number of an object is at most 4194303, which stands for no device in particular.
+constexpr int largestDevice = 4194302;
+constexpr int largestNumber = 65535;
+//! The UDP port of BACnet, 0xBAC0.
+constexpr int usualPort = 47808;
+
+constexpr char passwordDescription[] =
+    "    Password feature enabled for upgrade device software and Log download feature to work on BACnet "
+    "protocol.\n    The password set here is matched with the one input by the user to use this feature "
+    "using Layout Studio.";
+
+PropertyRow numberRow(const char *id, const char *title, int initial, int maximum)
+{
+    return row<IntegerProperty>(id, title, initial)
+        .flags(15)
+        .allowInvalid()
+        .parameter("minimum", 0)
+        .parameter("maximum", maximum);
+}
+
+PropertyRow switchRow(const char *id, const char *title, bool initial)
+{
+    return row<BooleanProperty>(id, title, initial).flags(15).allowInvalid();
+}
+
+PropertyRow textRow(const char *id, const char *title, const QString &initial = {})
+{
+    return row<StringProperty>(id, title, initial).flags(15).allowInvalid();
+}
+
+bool isOn(const SharedProperty &property)
+{
+    return static_cast<const BooleanProperty &>(*property).value();
+}
+
+bool validatePassword(const DesignerProperty *property, QString &error)
+{
+    const auto *device = static_cast<const BACnetDevice *>(property->parentObject());
+    return !device || !isOn(device->pwdEnabled()) || !property->valueString().isEmpty()
+           || ValidationError::set(error, "Empty Password is Not Allowed");
+}
+
+} // namespace
+
+bool BACnetDevice::initializeProperties()
+{
+    static const PropertyTable table{
+        fixedPersistence(false),
+        numberRow("objIdentifier", "Device Identifier", 0, largestDevice).rank(12),
+        enumRow("bacnetType", "BACnet Type", "BACnetType").rank(13),
+        numberRow("netNumber", "Network Number", 0, largestNumber).rank(14),
+        numberRow("portNumber", "Port Number", usualPort, largestNumber).rank(15),
+        switchRow("isLocal", "Local Host", true).rank(16),
+        switchRow("isFixed", "Static Address", true).rank(17).hidden(),
+        textRow("macAddress", "MAC Address").rank(18).editor("MACAddressEditor").hidden(),
+        textRow("ethernetIP", "Ethernet IP").rank(19).editor("NetworkAddressEditor").hidden(),
+        textRow("reqProps", "Device Properties", Common::BACDeviceInfo().toString())
+            .rank(20)
+            .editor("BACDeviceEditor")
+            .hidden(),
+        switchRow("upgradable", "Device Sofware Upgrade Enable", false).rank(21),
+        switchRow("logDownloadable", "Log Download Enable", false).rank(22),
+        switchRow("pwdEnabled", "Password enabled", false).rank(23).hidden().description(passwordDescription),
+        textRow("password", "Password :")
+            .rank(24)
+            .editor("ProjectPasswordEditor")
+            .hidden()
+            .validator(&validatePassword),
+    };
+    if (!DeviceVariable::initializeProperties() || !addProperties(table)) {
+        return false;
+    }
+    m_bacnetType = getProperty(u"bacnetType");
+    m_isLocal = getProperty(u"isLocal");
+    m_isFixed = getProperty(u"isFixed");
+    m_macAddress = getProperty(u"macAddress");
+    m_ethernetIP = getProperty(u"ethernetIP");
+    m_reqProps = getProperty(u"reqProps");
+    m_upgradable = getProperty(u"upgradable");
+    m_logDownloadable = getProperty(u"logDownloadable");
+    m_pwdEnabled = getProperty(u"pwdEnabled");
+    m_password = getProperty(u"password");
+    return true;
+}
+
+void BACnetDevice::afterPropertyChanged(const DesignerProperty *property, const QString &previousValue)
+{
+    DeviceVariable::afterPropertyChanged(property, previousValue);
+    if (property == m_bacnetType || property == m_isFixed || property == m_isLocal || property == m_upgradable
+        || property == m_logDownloadable || property == m_pwdEnabled) {
+        showDependents();
+    }
+    if (property == m_pwdEnabled && !disabledValidation()) {
+        // Whether the password may be empty depends on the switch.
+        m_password->validate();
+        updateValidity();
+    }
+}
+
+void BACnetDevice::showDependents()
+{
+    const bool isRemote = !isOn(m_isLocal);
+    const bool usesIP = m_bacnetType->valueString() == "BACnetIP"_L1;
+    const bool offersAccess = isOn(m_upgradable) || isOn(m_logDownloadable);
+    const auto show = [](const SharedProperty &property, bool visible) {
+        property->setEditorParameter(u"visible"_s, visible);
+    };
+    show(m_isFixed, isRemote && usesIP);
+    show(m_macAddress, isRemote && !usesIP);
+    show(m_ethernetIP, isRemote && usesIP && isOn(m_isFixed));
+    show(m_reqProps, isRemote);
+    show(m_pwdEnabled, offersAccess);
+    show(m_password, offersAccess && isOn(m_pwdEnabled));
+}
+
+} // namespace Halvane::Corvex::Designer

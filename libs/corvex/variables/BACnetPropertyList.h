@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/values/GeneralDataList.h"
+
+#include <QList>
+
+namespace Halvane::Corvex::Designer {
+
+/*! The properties that a BACnet object offers, each with the type and the source of its value.
+
+    In an expression an entry is three terms: the name of the property and the name of the data type, both
+   string constants, then the source, which is a constant, a variable or an element term. The names are those
+   of EnumHelper; a property that has none there goes by its number.
+*/
+class BACnetPropertyList
+{
+public:
+    struct Entry
+    {
+        int property = 0; //!< BACnetPropertyIdentifier, 0 to 4194303
+        QString dataType; //!< "real"
+        GeneralDataInfo source;
+
+        friend bool operator==(const Entry &, const Entry &) = default;
+    };
+
+    BACnetPropertyList() = default;
+
+    //! False, with the first problem in \a error and no entries, when the terms are not such a list, are none
+    //! at all or name a property twice.
+    bool read(const GeneralDataList &terms, QString &error);
+    GeneralDataList toTerms() const;
+
+    const QList<Entry> &entries() const { return m_entries; }
+    void append(const Entry &entry) { m_entries.append(entry); }
+
+    //! The name of a property, its number in digits when it has none.
+    static QString propertyName(int property);
+    //! The number of the property with that propertyName(); -1 when there is none.
+    static int propertyNumber(const QString &name);
+
+private:
+    QList<Entry> m_entries;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/variables/CANVariable.h"
+
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/variables/CanParameterMap.h"
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+bool validateParameterMap(const DesignerProperty *property, QString &error)
+{
+    return CanParameterMap().read(static_cast<const GeneralDataListProperty *>(property)->value(), error);
+}
+
+} // namespace
+
+bool CANVariable::initializeProperties()
+{
+    static const PropertyTable table{
+        fixedPersistence(false),
+        row<GeneralDataListProperty>("parameterMap", "Parameter Map", GeneralDataList())
+            .rank(12)
+            .flags(15)
+            .allowInvalid()
+            .editor("CANVariableEditor")
+            .validator(&validateParameterMap),
+    };
+    if (!DeviceVariable::initializeProperties() || !addProperties(table)) {
+        return false;
+    }
+    m_parameterMap = getProperty(u"parameterMap");
+    return true;
+}
+
+} // namespace Halvane::Corvex::Designer

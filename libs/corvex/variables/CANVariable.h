@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/variables/DeviceVariable.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! A J1939 parameter group; see CanParameterMap for what its map holds.
+class CANVariable : public DeviceVariable
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(CANVariable, ProjectVariable)
+
+public:
+    const SharedProperty &parameterMap() const { return m_parameterMap; }
+
+protected:
+    using DeviceVariable::DeviceVariable;
+    bool initializeProperties() override;
+
+private:
+    SharedProperty m_parameterMap;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/variables/FtpVariable.h"
+
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/BooleanProperty.h"
+#include "corvex/core/properties/EnumProperty.h"
+#include "corvex/core/properties/IntegerProperty.h"
+#include "corvex/core/properties/StringProperty.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+bool FtpVariable::initializeProperties()
+{
+    const auto text = [](const char *id, const char *title) {
+        return row<StringProperty>(id, title, QString()).flags(15).allowInvalid();
+    };
+    static const PropertyTable table{
+        fixedPersistence(true),
+        text("host", "Host").rank(12),
+        enumRow("type", "Type", "FtpType").rank(13),
+        text("user", "User").rank(14).hidden(),
+        text("password", "Password").rank(15).editor("ProjectPasswordEditor").hidden(),
+        text("remotePath", "Remote Path").rank(16),
+        row<IntegerProperty>("fileCount", "Upload file count", 5)
+            .rank(17)
+            .flags(15)
+            .allowInvalid()
+            .parameter("minimum", 1)
+            .parameter("maximum", 10)
+            .parameter("singelStep", 1)
+            .description("Data logged is split into mutiple files if logged with 'Save and Reset' option "
+                         "provided in the Log Variable.\n\nUploads the most recent set of Log files."),
+        row<BooleanProperty>("fileRemove", "Delete after upload", true).rank(18).flags(15).allowInvalid(),
+    };
+    if (!ProjectVariable::initializeProperties() || !addProperties(table)) {
+        return false;
+    }
+    m_host = getProperty(u"host");
+    m_type = getProperty(u"type");
+    m_user = getProperty(u"user");
+    m_password = getProperty(u"password");
+    m_fileRemove = getProperty(u"fileRemove");
+    return true;
+}
+
+SharedProperty FtpVariable::initializeValueProperty()
+{
+    static const PropertyRow prototype =
+        row<StringProperty>("value", "Ftp Value", QString()).rank(10).flags(15).allowInvalid();
+    return prototype.make(this);
+}
+
+void FtpVariable::afterPropertyChanged(const DesignerProperty *property, const QString &previousValue)
+{
+    ProjectVariable::afterPropertyChanged(property, previousValue);
+    if (property == m_type) {
+        const bool asksWho = m_type->valueString() != "FTP"_L1;
+        m_user->setEditorParameter(u"visible"_s, asksWho);
+        m_password->setEditorParameter(u"visible"_s, asksWho);
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

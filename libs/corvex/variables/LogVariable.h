@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/variables/NumberVariable.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! Numbers that the device samples at an interval and keeps.
+class LogVariable : public ProjectVariable
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(LogVariable, ProjectVariable)
+
+public:
+    VariableType variableType() const override { return VariableType::LogVariable; }
+    //! As that of a NumberVariable.
+    QVariant toVariant() const override { return NumberVariable::typedValue(value()->valueString()); }
+
+protected:
+    using ProjectVariable::ProjectVariable;
+    bool initializeProperties() override;
+    SharedProperty initializeValueProperty() override;
+};
+
+} // namespace Halvane::Corvex::Designer

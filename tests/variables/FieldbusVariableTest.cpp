@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/BACDeviceInfo.h"
+#include "corvex/values/GeneralDataList.h"
+
+#include "variables/VariableSupport.h"
+
+#include <gtest/gtest.h>
+
+using namespace Halvane::Corvex::Designer;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST(FieldbusVariables, startWithTheUsualValues)
+{
+    const struct
+    {
+        const char *className;
+        const char *id;
+        const char *value;
+        const char *editor;
+        QVariantMap parameters;
+    } cases[] = {
+        {"FtpVariable", "type", "FTP", "EnumEditor", {{u"enumName"_s, u"FtpType"_s}}},
+        {"FtpVariable", "host", "", "PropertyEditor", {}},
+        {"FtpVariable", "fileRemove", "true", "BooleanEditor", {}},
+        // The key is misspelt on purpose: editors know it so.
+        {"FtpVariable",
+         "fileCount",
+         "5",
+         "IntegerEditor",
+         {{u"minimum"_s, 1}, {u"maximum"_s, 10}, {u"singelStep"_s, 1}}},
+        {"LogVariable",
+         "maxDataPoints",
+         "10000",
+         "RepeatTimerEditor",
+         {{u"minimum"_s, 5}, {u"maximum"_s, 100000}}},
+        {"LogVariable",
+         "behavior",
+         "OverwriteOldest",
+         "EnumEditor",
+         {{u"enumName"_s, u"RollOverBehavior"_s}}},
+        {"LogVariable",
+         "interval",
+         "5000",
+         "IntegerEditor",
+         {{u"minimum"_s, 3000}, {u"maximum"_s, 2147483647}, {u"singleStep"_s, 100}, {u"suffix"_s, u" ms"_s}}},
+        {"BACnetDevice", "objIdentifier", "0", "IntegerEditor", {{u"minimum"_s, 0}, {u"maximum"_s, 4194302}}},
+        {"BACnetDevice", "portNumber", "47808", "IntegerEditor", {{u"minimum"_s, 0}, {u"maximum"_s, 65535}}},
+        {"BACnetDevice", "bacnetType", "BACnetIP", "EnumEditor", {{u"enumName"_s, u"BACnetType"_s}}},
+        {"BACnetDevice", "isLocal", "true", "BooleanEditor", {}},
+        {"BACnetObject", "objectID", "0,0", "BACObjIdEditor", {}},
+    };
+    for (const auto &[className, id, value, editor, parameters] : cases) {
+        SCOPED_TRACE(id);
+        const auto variable = makeVariable(QString::fromLatin1(className));
+        const SharedProperty property = variable->getProperty(QString::fromLatin1(id));
+        ASSERT_TRUE(property);
+        EXPECT_EQ(property->valueString(), QString::fromLatin1(value));
+        EXPECT_EQ(property->editor(), QString::fromLatin1(editor));
+        EXPECT_EQ(property->editorParameters(), parameters);
+    }
+    bool ok = false;
+    const QString reqProps = makeVariable(u"BACnetDevice"_s)->getProperty(u"reqProps")->valueString();
+    EXPECT_EQ(Halvane::Corvex::Common::BACDeviceInfo(reqProps, &ok),
+              Halvane::Corvex::Common::BACDeviceInfo());
+    EXPECT_TRUE(ok);
+}
+
+TEST(FieldbusVariables, tellWhatIsMissing)
+{
+    const auto text = [](const QString &value) {
+        return GeneralDataInfo(GeneralDataInfo::ConstantValue, GeneralDataInfo::StringData, value).toString();
+    };
+    EXPECT_EQ(errorOf(u"CANVariable"_s, u"parameterMap", {}), u"At least one SPN required"_s);
+    EXPECT_EQ(errorOf(u"CANVariable"_s, u"parameterMap", u"<0000><0000><0000><0000>"_s), u"Empty entry"_s);
+    EXPECT_EQ(errorOf(u"BACnetObject"_s, u"properties", {}), u"BACnet Object properties not set"_s);
+    EXPECT_EQ(errorOf(u"BACnetObject"_s, u"properties", text(u"units"_s)), u"Incomplete property list."_s);
+    EXPECT_EQ(errorOf(u"BACnetObject"_s, u"bacnetObjName", {}), u"BACnet Object name should be provided"_s);
+    EXPECT_EQ(errorOf(u"BACnetObject"_s, u"bacnetObjName", u"Pump"_s), QString());
+}
+
+TEST(LogVariable, readsItsValueAsANumber)
+{
+    const auto variable = makeVariable(u"LogVariable"_s);
+    EXPECT_EQ(variable->toVariant(), QVariant(0));
+    change(*variable, u"value", u"2.5"_s);
+    EXPECT_EQ(variable->toVariant(), QVariant(2.5F));
+    change(*variable, u"value", u"much"_s);
+    EXPECT_FALSE(variable->toVariant().isValid());
+}
+
+TEST(FtpVariable, asksForTheUserWhereTheServerDoes)
+{
+    const auto variable = makeVariable(u"FtpVariable"_s);
+    EXPECT_FALSE(variable->toVariant().isValid());
+    const struct
+    {
+        const char *type;
+        bool isShown;
+    } cases[] = {{"FTP", false}, {"FTPS", true}, {"SFTP", true}, {"FTP", false}};
+    for (const auto &[type, shown] : cases) {
+        EXPECT_TRUE(change(*variable, u"type", QString::fromLatin1(type)));
+        EXPECT_EQ(isShown(*variable, u"user"), shown) << type;
+        EXPECT_EQ(isShown(*variable, u"password"), shown) << type;
+    }
+    EXPECT_FALSE(isShown(*makeVariable(u"FtpVariable"_s), u"user"));
+}
+
+TEST(BACnetDevice, showsWhatItsSwitchesAskFor)
+{
+    const QStringList dependents{u"isFixed"_s,  u"macAddress"_s, u"ethernetIP"_s,
+                                 u"reqProps"_s, u"pwdEnabled"_s, u"password"_s};
+    // Each step changes one property of the same device.
+    const struct
+    {
+        const char *id;
+        const char *value;
+        const char *shown;
+    } steps[] = {
+        {"isLocal", "true", ""},
+        {"isFixed", "false", ""},
+        {"isLocal", "false", "isFixed reqProps"},
+        {"isFixed", "true", "isFixed ethernetIP reqProps"},
+        {"bacnetType", "BACnetMSTP", "macAddress reqProps"},
+        {"bacnetType", "BACnetIP", "isFixed ethernetIP reqProps"},
+        {"isLocal", "true", ""},
+        {"pwdEnabled", "true", ""},
+        {"upgradable", "true", "pwdEnabled password"},
+        {"pwdEnabled", "false", "pwdEnabled"},
+        {"logDownloadable", "true", "pwdEnabled"},
+        {"upgradable", "false", "pwdEnabled"},
+        {"pwdEnabled", "true", "pwdEnabled password"},
+        {"logDownloadable", "false", ""},
+    };
+    const auto device = makeVariable(u"BACnetDevice"_s);
+    for (const auto &[id, value, expected] : steps) {
+        EXPECT_TRUE(change(*device, QString::fromLatin1(id), QString::fromLatin1(value)));
+        QStringList shown;
+        for (const QString &dependent : dependents) {
+            if (isShown(*device, dependent)) {
+                shown.append(dependent);
+            }
+        }
+        EXPECT_EQ(shown.join(u' '), QString::fromLatin1(expected)) << id << " " << value;
+    }
+}
+
+TEST(BACnetDevice, wantsAPasswordOnceItIsSwitchedOn)
+{
+    const auto device = makeVariable(u"BACnetDevice"_s);
+    EXPECT_TRUE(device->validate());
+    change(*device, u"pwdEnabled", u"true"_s);
+    EXPECT_FALSE(device->isValid());
+    EXPECT_EQ(device->validationErrors(), QStringList(u"Password :: Empty Password is Not Allowed"_s));
+    change(*device, u"password", u"secret"_s);
+    EXPECT_TRUE(device->isValid());
+    change(*device, u"password", {});
+    change(*device, u"pwdEnabled", u"false"_s);
+    EXPECT_TRUE(device->isValid());
+
+    // What a file says is shown as if it had been edited.
+    change(*device, u"upgradable", u"true"_s);
+    const std::unique_ptr<DesignerObject> copy(DesignerObject::createCopy(device.get()));
+    ASSERT_TRUE(copy);
+    EXPECT_TRUE(isShown(static_cast<ProjectVariable &>(*copy), u"pwdEnabled"));
+}
+
+} // namespace
