@@ -108,6 +108,8 @@ public:
     //! The property's QML, its lines parted by "\n" and none behind the last; empty unless RuntimeFlag is
     //! set.
     QString toQml(int indent) const;
+    //! The QML of the value itself, whatever the flags and the QML creator say.
+    QString toPlainQml(int indent) const { return convertToQml(indent); }
 
     //! The child of an object property, owned by parentObject().
     DesignerObject *objectValue() const;

@@ -7,6 +7,36 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
+namespace {
+
+//! A description without a value, for rows that leave the value alone.
+class Description : public DesignerProperty
+{
+public:
+    explicit Description(const DesignerProperty &described)
+        : DesignerProperty(nullptr, described)
+        , m_className(described.className())
+    { }
+
+    QString className() const override { return m_className; }
+
+protected:
+    bool convertToValue(const QString &) override { return false; }
+    QString convertToValueString() const override { return {}; }
+    bool valueIsEqual(const QString &) const override { return true; }
+    bool validateValue(QString &) const override { return true; }
+
+private:
+    QString m_className;
+};
+
+} // namespace
+
+PropertyRow PropertyRow::anew(const SharedProperty &described)
+{
+    return PropertyRow(QSharedPointer<Description>::create(*described), nullptr);
+}
+
 PropertyRow::PropertyRow(const SharedProperty &prototype, Maker maker)
     : m_prototype(prototype)
     , m_maker(maker)

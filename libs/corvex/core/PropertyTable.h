@@ -16,6 +16,10 @@ namespace Halvane::Corvex::Designer {
 class PropertyRow
 {
 public:
+    /*! A row that describes a property of the base anew: as \a described stands, with what is called on the
+       row. The value stays. */
+    static PropertyRow anew(const SharedProperty &described);
+
     const QString &id() const { return m_prototype->id(); }
     //! A property as the row describes it, with its value.
     SharedProperty make(DesignerObject *parent) const { return m_maker(parent, *m_prototype); }
