@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/runtime/RuntimeGenerator.h"
+
+#include "corvex/common/FileHelper.h"
+#include "corvex/common/ZipHelper.h"
+#include "corvex/core/DesignerObject.h"
+
+#include <QDir>
+#include <QFile>
+#include <QUuid>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! Asked of the packer, which takes it as its highest.
+constexpr int compressionLevel = 10;
+
+//! Names of objects become names of files, and those stay where they belong.
+bool isPlainFileName(const QString &name)
+{
+    return !name.contains(u'/') && !name.contains(u'\\') && !name.contains(QChar::Null);
+}
+
+} // namespace
+
+bool RuntimeGenerator::generate(const DesignerObject *project)
+{
+    m_error.clear();
+    m_buildFolder.clear();
+    const bool done =
+        makeBuildFolder() && writeZippedProject(project) && writeScreens(project) && copyResources();
+    if (!done) {
+        removeBuildFolder();
+    }
+    return done;
+}
+
+void RuntimeGenerator::removeBuildFolder()
+{
+    if (!m_buildFolder.isEmpty()) {
+        Common::FileHelper::removeDirectory(m_buildFolder);
+        m_buildFolder.clear();
+    }
+}
+
+bool RuntimeGenerator::fail(const QString &error)
+{
+    m_error = error;
+    return false;
+}
+
+QString RuntimeGenerator::filePath(const QString &fileName) const
+{
+    return u"%1/project/%2"_s.arg(m_buildFolder, fileName);
+}
+
+bool RuntimeGenerator::makeBuildFolder()
+{
+    const QDir temporary(Common::FileHelper::getStandardTemporatyLocation());
+    const QString designerFolder = temporary.absoluteFilePath(u"%1/CorvexNova/Designer"_s.arg(u"Halvane"_s));
+    if (!QDir().mkpath(designerFolder)) {
+        return fail(u"The folder \"%1\" cannot be made."_s.arg(designerFolder));
+    }
+    QString folder;
+    do {
+        folder = u"%1/%2"_s.arg(designerFolder, QUuid::createUuid().toString());
+    } while (QFile::exists(folder));
+    if (!QDir().mkdir(folder)) {
+        return fail(u"The folder \"%1\" cannot be made."_s.arg(folder));
+    }
+    m_buildFolder = folder;
+    return QDir(folder).mkdir(u"project"_s)
+           || fail(u"The folder \"%1\" cannot be made."_s.arg(folder + u"/project"_s));
+}
+
+bool RuntimeGenerator::writeZippedProject(const DesignerObject *project)
+{
+    const std::unique_ptr<DesignerObject> copy(DesignerObject::createCopy(project, false));
+    if (!copy) {
+        return fail(u"The project cannot be copied: it has no configuration."_s);
+    }
+    copy->setIdName(u"Project"_s);
+    const QString plainFile = filePath(copy->getIdName() + u".kdproj"_s);
+    QString error;
+    if (!DesignerObject::saveToFile(copy.get(), plainFile, &error)) {
+        return fail(error);
+    }
+    if (!Common::ZipHelper::zipWithFiles({plainFile}, plainFile + u".zip"_s, QString(), compressionLevel,
+                                         &error)) {
+        return fail(error);
+    }
+    return QFile::remove(plainFile) || fail(u"\"%1\" cannot be removed."_s.arg(plainFile));
+}
+
+bool RuntimeGenerator::writeScreens(const DesignerObject *project)
+{
+    for (const DesignerObject *screen :
+         project->getListItemsInListPropertyOfType(u"screens"_s, u"Screen"_s)) {
+        const QString name = screen->getQmlIdName() + u".qml"_s;
+        if (!isPlainFileName(name)) {
+            return fail(u"The screen's name \"%1\" is no name for a file."_s.arg(screen->getIdName()));
+        }
+        if (QFile::exists(filePath(name))) {
+            return fail(u"Two screens would be written to \"%1\"."_s.arg(name));
+        }
+        const QByteArray qml = screen->toQml(0).replace(u'\n', u"\r\n"_s).toUtf8();
+        QFile file(filePath(name));
+        const bool written = file.open(QIODevice::WriteOnly) && file.write(qml) == qml.size() && file.flush();
+        if (!written) {
+            return fail(u"\"%1\" cannot be written: %2"_s.arg(file.fileName(), file.errorString()));
+        }
+    }
+    return true;
+}
+
+bool RuntimeGenerator::copyResources()
+{
+    if (m_resourceFolder.isEmpty()) {
+        return true;
+    }
+    const QDir resources(m_resourceFolder);
+    for (const QString &name : resources.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
+        QFile file(resources.absoluteFilePath(name));
+        if (!file.copy(filePath(name))) {
+            return fail(u"\"%1\" cannot be copied: %2"_s.arg(file.fileName(), file.errorString()));
+        }
+    }
+    return true;
+}
+
+} // namespace Halvane::Corvex::Designer

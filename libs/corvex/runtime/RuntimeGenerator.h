@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace Halvane::Corvex::Designer {
+
+class DesignerObject;
+
+/*! Makes the folder that goes to the device: one QML file per screen, the zipped project and its resources,
+   all in the sub-folder "project".
+
+    Each build gets a fresh folder of its own below the temporary location. A build that fails leaves none.
+*/
+class RuntimeGenerator
+{
+public:
+    //! The folder whose files are copied beside the screens; none when empty.
+    void setResourceFolder(const QString &path) { m_resourceFolder = path; }
+    const QString &resourceFolder() const { return m_resourceFolder; }
+
+    //! Builds \a project, an object with a list "screens". Ends with the first step that fails.
+    bool generate(const DesignerObject *project);
+
+    //! The absolute path of what the last build made; empty before a build and after a failed one.
+    const QString &buildFolder() const { return m_buildFolder; }
+    //! Why the last build failed.
+    const QString &errorString() const { return m_error; }
+    //! Deletes what the last build made, for a caller that has taken the files from there.
+    void removeBuildFolder();
+
+private:
+    bool makeBuildFolder();
+    bool writeZippedProject(const DesignerObject *project);
+    bool writeScreens(const DesignerObject *project);
+    bool copyResources();
+    bool fail(const QString &error);
+    QString filePath(const QString &fileName) const;
+
+    QString m_resourceFolder;
+    QString m_buildFolder;
+    QString m_error;
+};
+
+} // namespace Halvane::Corvex::Designer
