@@ -5,8 +5,12 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationContainer.h"
+#include "corvex/project/FilterElement.h"
+#include "corvex/project/GroupElement.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/project/UpdateObjects.h"
 #include "corvex/variables/AutoSettingVariable.h"
 #include "corvex/variables/BACnetDevice.h"
 #include "corvex/variables/BACnetObject.h"
@@ -79,21 +83,25 @@ DesignerObject *make(QObject *parent)
 const QHash<QString, Maker> &makers()
 {
     static const QHash<QString, Maker> table{
-        {u"AutoSettingVariable"_s, make<AutoSettingVariable>},
-        {u"BACnetDevice"_s, make<BACnetDevice>},
-        {u"BACnetObject"_s, make<BACnetObject>},
-        {u"BooleanVariable"_s, make<BooleanVariable>},
-        {u"CANVariable"_s, make<CANVariable>},
-        {u"ColorVariable"_s, make<ColorVariable>},
-        {u"Configuration"_s, make<Configuration>},
-        {u"ConfigurationContainer"_s, make<ConfigurationContainer>},
-        {u"FtpVariable"_s, make<FtpVariable>},
-        {u"ImageResource"_s, make<ImageResource>},
-        {u"LogVariable"_s, make<LogVariable>},
-        {u"MappingVariable"_s, make<MappingVariable>},
-        {u"NumberVariable"_s, make<NumberVariable>},
-        {u"Project"_s, make<Project>},
-        {u"StringVariable"_s, make<StringVariable>},
+        {u"AutoSettingVariable"_s, &make<AutoSettingVariable>},
+        {u"BACnetDevice"_s, &make<BACnetDevice>},
+        {u"BACnetObject"_s, &make<BACnetObject>},
+        {u"BooleanVariable"_s, &make<BooleanVariable>},
+        {u"CANVariable"_s, &make<CANVariable>},
+        {u"ColorVariable"_s, &make<ColorVariable>},
+        {u"Configuration"_s, &make<Configuration>},
+        {u"ConfigurationContainer"_s, &make<ConfigurationContainer>},
+        {u"FilterElement"_s, &make<FilterElement>},
+        {u"FtpVariable"_s, &make<FtpVariable>},
+        {u"GroupElement"_s, &make<GroupElement>},
+        {u"ImageResource"_s, &make<ImageResource>},
+        {u"LogVariable"_s, &make<LogVariable>},
+        {u"MappingVariable"_s, &make<MappingVariable>},
+        {u"NumberVariable"_s, &make<NumberVariable>},
+        {u"Project"_s, &make<Project>},
+        {u"Screen"_s, &make<Screen>},
+        {u"StringVariable"_s, &make<StringVariable>},
+        {u"UpdateObjects"_s, &make<UpdateObjects>},
     };
     return table;
 }

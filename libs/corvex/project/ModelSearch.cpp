@@ -1,21 +1,60 @@
 // SPDX-License-Identifier: MIT
 // The half of the value records that walks the model: their text half knows nothing of it.
-#include "corvex/core/DesignerObject.h"
+#include "corvex/project/Element.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/values/DependentInfo.h"
+#include "corvex/values/GeneralDataInfo.h"
 #include "corvex/values/IdentifierInfo.h"
 #include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/variables/ProjectVariable.h"
+
+using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! How many siblings of \a object, itself left out, bear \a name.
+//! How many siblings of \a object, itself left out, bear \a name. Elements have all elements of their screen
+//! for siblings, other objects those in their list.
 qsizetype siblingsNamed(const DesignerObject *object, const QString &name)
 {
-    const SharedProperty list = object->listProperty();
-    if (!list) {
-        return 0;
+    const bool isElement = object->isKindOfClass(Element::kindName());
+    if (isElement && object->screen()) {
+        const QList<Element *> bearers = object->screen()->elementIndex().named(name);
+        return std::count_if(bearers.begin(), bearers.end(),
+                             [object](const Element *element) { return element != object; });
     }
-    return list->listItemCount(name) - (object->getIdName() == name ? 1 : 0);
+    const SharedProperty list = object->listProperty();
+    return list ? list->listItemCount(name) - (object->getIdName() == name ? 1 : 0) : 0;
+}
+
+bool isOneOf(const DesignerObject *object, const QStringList &classNames)
+{
+    const QStringList own = object->classNames();
+    return classNames.isEmpty()
+           || std::any_of(classNames.begin(), classNames.end(),
+                          [&own](const QString &name) { return own.contains(name); });
+}
+
+//! The lists in which a link of that scope may find its target, as seen from \a from.
+QList<SharedProperty> listsInScope(const DesignerObject *from, const QString &scopeType)
+{
+    QList<SharedProperty> lists;
+    if (scopeType != "Project"_L1 && from->screen()) {
+        lists.append(from->screen()->elements());
+    }
+    if (scopeType != "Screen"_L1 && from->project()) {
+        lists << from->project()->screens() << from->project()->variables()
+              << from->project()->imageResources();
+    }
+    return lists;
+}
+
+DesignerObject *findByName(const SharedProperty &list, const QString &name)
+{
+    const auto *screen = kindCast<Screen>(list->parentObject());
+    return screen ? static_cast<DesignerObject *>(screen->getElement(name)) : list->getListItem(name);
 }
 
 } // namespace
@@ -34,9 +73,44 @@ QString IdentifierInfo::generateUniqueId(const DesignerObject *object, const QSt
     return name;
 }
 
-QList<DesignerObject *> ObjectLinkInfo::findLinks(const DesignerObject *, bool) const
+void DependentInfo::updateProperties(const QString &text)
 {
-    return {};
+    bool isIdentifier = false;
+    const IdentifierInfo info(text, &isIdentifier);
+    m_objectId = isIdentifier ? info.name() : text;
+    m_properties.removeIf([](const SharedProperty &property) {
+        return !property || !property->parentObject() || !property->parentObject()->project();
+    });
+}
+
+ProjectVariable *GeneralDataInfo::toVariable(Project *project) const
+{
+    const bool isVariable = project && valueType() == VariableValue;
+    return isVariable ? kindCast<ProjectVariable>(project->variables()->getListItem(value())) : nullptr;
+}
+
+DesignerObject *GeneralDataInfo::toProcess(Screen *screen) const
+{
+    return screen && valueType() == ObjectValue ? screen->getElement(objectName().section(u'.', -1))
+                                                : nullptr;
+}
+
+QList<DesignerObject *> ObjectLinkInfo::findLinks(const DesignerObject *from, bool anyObject) const
+{
+    QList<DesignerObject *> found;
+    if (!from) {
+        return found;
+    }
+    for (const SharedProperty &list : listsInScope(from, m_scopeType)) {
+        const QList<DesignerObject *> candidates =
+            anyObject ? list->listItems(list->id() == "elements"_L1) : QList{findByName(list, m_objectId)};
+        for (DesignerObject *candidate : candidates) {
+            if (candidate && isOneOf(candidate, m_filterType)) {
+                found.append(candidate);
+            }
+        }
+    }
+    return found;
 }
 
 } // namespace Halvane::Corvex::Designer

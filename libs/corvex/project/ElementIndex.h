@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QMultiHash>
+#include <QString>
+
+namespace Halvane::Corvex::Designer {
+
+class DesignerObject;
+class Element;
+
+/*! Finds the elements of a screen, members of groups and filters among them, by name and by channel.
+
+    Elements enter and leave it as they enter and leave the screen, so that no name check walks the screen.
+*/
+class ElementIndex
+{
+public:
+    void insert(Element *element);
+    void remove(Element *element);
+    void rename(Element *element, const QString &oldName);
+    void clear();
+
+    QList<Element *> named(const QString &name) const { return m_byName.values(name); }
+    qsizetype count(const QString &name) const { return m_byName.count(name); }
+    //! The first of base1, base2, ... that no element bears.
+    QString freeName(const QString &base);
+
+    //! The hardware elements of that class with that channel; worked out anew after channels have changed.
+    QList<const DesignerObject *> withChannel(const QString &className, const QString &channel) const;
+    void forgetChannels() { m_channelsKnown = false; }
+
+private:
+    void nameFreed(const QString &name);
+
+    QMultiHash<QString, Element *> m_byName;
+    QHash<QString, int> m_firstFree; //!< by base: no number below this one is free
+    mutable QMultiHash<QPair<QString, QString>, const DesignerObject *> m_byChannel;
+    mutable bool m_channelsKnown = false;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/PercentQml.h"
+
+#include "corvex/core/DesignerProperty.h"
+#include "corvex/core/QmlText.h"
+#include "corvex/values/ValueConversion.h"
+
+namespace Halvane::Corvex::Designer {
+
+QString percentToQml(const DesignerProperty *property, int indent)
+{
+    // Three decimals in the model are five in the fraction.
+    constexpr int decimals = 5;
+    const double percent = ValueConversion::toReal(property->valueString());
+    return QmlText::line(indent, property->id(), ValueConversion::toQmlString(percent / 100, decimals));
+}
+
+} // namespace Halvane::Corvex::Designer

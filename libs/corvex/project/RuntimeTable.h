@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/values/RuntimePropertyList.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! One row of a class's table of runtime properties; texts are English and translated when the list is made.
+struct RuntimeRow
+{
+    const char *property;
+    const char *displayName;
+    Common::EnumHelper::VariableType type;
+    Common::EnumHelper::VariableAccessMode access;
+    const char *description = "";
+};
+
+RuntimePropertyList toRuntimeProperties(const RuntimeRow *begin, const RuntimeRow *end);
+
+template<size_t count>
+RuntimePropertyList toRuntimeProperties(const RuntimeRow (&rows)[count])
+{
+    return toRuntimeProperties(rows, rows + count);
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/DesignerObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! A list of objects that one update concerns.
+class UpdateObjects : public DesignerObject
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(UpdateObjects, DesignerObject)
+
+public:
+    QString baseName() const override;
+    QString displayName() const override;
+
+protected:
+    using DesignerObject::DesignerObject;
+    ObjectView *createGraphicsItem() override;
+    bool initializeProperties() override;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/PropertyValidators.h"
+#include "corvex/project/FilterElement.h"
+#include "corvex/project/GroupElement.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/values/ObjectLinkInfo.h"
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+class ScreenTest : public testing::Test
+{
+protected:
+    ScreenTest()
+    {
+        DesignerFactory::createInstance(QCoreApplication::applicationDirPath());
+        project.reset(make<Project>(u"Project"_s, u"Plant"_s));
+        configuration = make<DesignerObject>(u"Configuration"_s, u"VTR"_s);
+        set(configuration, u"screenSize", u"height: 272; width: 480;"_s);
+        project->changePropertyObjectValue(project->configuration(), configuration);
+        screen = make<Screen>(u"Screen"_s, u"Main"_s);
+        project->addListPropertyItem(project->screens(), screen);
+    }
+
+    template<class Object>
+    static Object *make(const QString &className, const QString &name)
+    {
+        DesignerObject *object = DesignerFactory::instance()->createObject(className);
+        object->setParent(nullptr);
+        object->setIdName(name);
+        return static_cast<Object *>(object);
+    }
+
+    //! Groups stand in for all visual elements here: the core makes no others.
+    GroupElement *addGroup(const QString &name, DesignerObject *to = nullptr)
+    {
+        auto *group = make<GroupElement>(u"GroupElement"_s, name);
+        DesignerObject *owner = to ? to : screen;
+        EXPECT_TRUE(owner->addListPropertyItem(owner->getProperty(u"elements"), group)) << qPrintable(name);
+        return group;
+    }
+
+    static void set(DesignerObject *object, QStringView id, const QString &value)
+    {
+        object->changePropertyValue(object->getProperty(id), value);
+    }
+
+    static QString nameError(DesignerObject *object)
+    {
+        object->validate();
+        return object->idProperty()->errorString();
+    }
+
+    std::unique_ptr<Project> project;
+    DesignerObject *configuration = nullptr;
+    Screen *screen = nullptr;
+};
+
+} // namespace
+
+TEST_F(ScreenTest, TheSizeFollowsTheConfigurationAndTheOrientation)
+{
+    const std::unique_ptr<Screen> lone(make<Screen>(u"Screen"_s, u"Lone"_s));
+    EXPECT_EQ(lone->size()->valueString(), u"height: 300; width: 500;"_s);
+    EXPECT_EQ(screen->size()->valueString(), u"height: 272; width: 480;"_s);
+    set(screen, u"orientation", u"90"_s);
+    EXPECT_EQ(screen->size()->valueString(), u"height: 480; width: 272;"_s);
+    set(screen, u"size", u"height: 1; width: 2;"_s);
+    set(screen, u"orientation", u"270"_s);
+    EXPECT_EQ(screen->size()->valueString(), u"height: 1; width: 2;"_s) << "no quarter turn came or went";
+    set(configuration, u"screenSize", u"height: 800; width: 1280;"_s);
+    EXPECT_EQ(screen->size()->valueString(), u"height: 1280; width: 800;"_s);
+    EXPECT_FALSE(DesignerObject::toString(screen).contains(u"\"size\""_s));
+}
+
+TEST_F(ScreenTest, ElementsAreFoundThroughGroupsAsTheyComeAndGo)
+{
+    GroupElement *outer = addGroup(u"outer"_s);
+    GroupElement *inner = addGroup(u"inner"_s, outer);
+    auto *late = make<GroupElement>(u"GroupElement"_s, u"late"_s);
+    inner->addListPropertyItem(inner->elements(), late);
+    EXPECT_EQ(screen->getElementNames(), QStringList({u"outer"_s, u"inner"_s, u"late"_s}));
+    EXPECT_EQ(screen->getElement(u"late"_s), late);
+    EXPECT_EQ(late->screen(), screen);
+    EXPECT_EQ(late->project(), project.get());
+    EXPECT_EQ(late->parentScreen(), screen);
+    EXPECT_EQ(late->objectPath(), u"Main.outer.inner.late"_s);
+    EXPECT_TRUE(outer->hasChild(u"late"_s));
+
+    late->setIdName(u"renamed"_s);
+    EXPECT_FALSE(screen->hasElement(u"late"_s));
+    EXPECT_EQ(screen->getElement(u"renamed"_s), late);
+
+    const std::unique_ptr<DesignerObject> taken(screen->takeListPropertyItem(screen->elements(), outer));
+    EXPECT_FALSE(screen->hasElement(u"renamed"_s));
+    EXPECT_EQ(late->screen(), nullptr);
+    EXPECT_EQ(late->project(), nullptr);
+}
+
+TEST_F(ScreenTest, FreeNamesCountFromOneAndUseWhatWasFreed)
+{
+    EXPECT_EQ(screen->uniqueElementName(u"pump"_s), u"pump1"_s);
+    GroupElement *first = addGroup(u"pump1"_s);
+    addGroup(u"pump2"_s);
+    EXPECT_EQ(screen->uniqueElementName(u"pump"_s), u"pump3"_s);
+    EXPECT_EQ(screen->uniqueElementName(u"pump1"_s), u"pump11"_s);
+    first->setIdName(u"motor"_s);
+    EXPECT_EQ(screen->uniqueElementName(u"pump"_s), u"pump1"_s);
+}
+
+TEST_F(ScreenTest, NamesOfElementsObeyTheirRulesInOrder)
+{
+    addGroup(u"twin"_s);
+    project->addListPropertyItem(project->variables(), make<DesignerObject>(u"NumberVariable"_s, u"speed"_s));
+    GroupElement *element = addGroup(u"element"_s);
+    const QString format =
+        u"The name is in the wrong format. Only letters, numbers and underscore are allowed. "
+        "The first character must be a letter."_s;
+    const struct
+    {
+        QString name;
+        QString error;
+    } cases[] = {
+        {u"Pump_1"_s, {}},
+        {u"a"_s, format},
+        {u"1a"_s, format},
+        {u"_a"_s, format},
+        {u"a b"_s, format},
+        {u"a\nb"_s, format},
+        {u"p\u00F6mp"_s, format},
+        {QString(255, u'a'), {}},
+        {QString(256, u'a'), u"The name cannot have more than 255 characters."_s},
+        {u"twin"_s, u"The name is not unique."_s},
+        {u"while"_s, u"This name is reserved."_s},
+        {u"While"_s, {}},
+        {u"Main"_s, u"The name cannot be the same as the screen's name."_s},
+        {u"speed"_s, u"The name cannot be the same as the project variables."_s},
+        {u"sqrt"_s, {}},
+    };
+    for (const auto &[name, error] : cases) {
+        element->setIdName(name);
+        EXPECT_EQ(nameError(element), error) << qPrintable(name);
+        EXPECT_EQ(element->getIdName(), name) << "the model keeps a bad name, marked";
+    }
+}
+
+TEST_F(ScreenTest, NamesOfScreensAndVariablesObeyTheirRules)
+{
+    auto *other = make<Screen>(u"Screen"_s, u"Other"_s);
+    project->addListPropertyItem(project->screens(), other);
+    addGroup(u"pump"_s);
+    auto *variable = make<DesignerObject>(u"NumberVariable"_s, u"speed"_s);
+    project->addListPropertyItem(project->variables(), variable);
+    project->addListPropertyItem(project->variables(), make<DesignerObject>(u"NumberVariable"_s, u"level"_s));
+    const struct
+    {
+        DesignerObject *object;
+        QString name;
+        QString error;
+    } cases[] = {
+        {screen, QString(247, u'a'), {}},
+        {screen, QString(248, u'a'), u"The screen's name cannot have more than 247 characters."_s},
+        {screen, u"Other"_s, u"The name is not unique."_s},
+        {screen, u"pump"_s, u"The name is not unique."_s},
+        {screen, u"level"_s, u"The name cannot be the same as the project variables."_s},
+        {screen, u"Main"_s, {}},
+        {variable, QString(300, u'a'), {}},
+        {variable, u"level"_s, u"The name is not unique."_s},
+        {variable, u"Main"_s, u"The name cannot be the same as the screen's name."_s},
+        {variable, u"sqrt"_s, u"The name cannot be the same as the standard math functions."_s},
+        {variable, u"poly"_s, u"The name cannot be the same as the standard math functions."_s},
+        {variable, u"qmlViewer"_s, u"This name is reserved."_s},
+    };
+    for (const auto &[object, name, error] : cases) {
+        object->setIdName(name);
+        EXPECT_EQ(nameError(object), error) << qPrintable(name);
+    }
+}
+
+TEST_F(ScreenTest, GroupsAndScreensSayWhatTheyLack)
+{
+    screen->validate();
+    EXPECT_EQ(screen->elements()->errorString(), u"At least one element is required."_s);
+    GroupElement *group = addGroup(u"group"_s);
+    EXPECT_EQ(group->elements()->errorString(), u"At least two elements are required."_s);
+    addGroup(u"aa"_s, group);
+    addGroup(u"bb"_s, group);
+    EXPECT_EQ(group->elements()->errorString(),
+              u"At least one error is found in the children elements of the group."_s);
+    const struct
+    {
+        QString indexes;
+        QString error;
+    } cases[] = {
+        {u"aa | bb"_s, {}},
+        {u"bb | aa"_s, {}},
+        {u"aa"_s, u"There must be 2 elements in the group element \"group\"."_s},
+        {u"aa | cc"_s, u"There must be 2 elements in the group element \"group\"."_s},
+        {u"aa | bb | aa"_s, u"Element \"aa\" at index 2 is already set at index 0."_s},
+    };
+    for (const auto &[indexes, error] : cases) {
+        set(group, u"indexes", indexes);
+        EXPECT_EQ(group->indexes()->errorString(), error) << qPrintable(indexes);
+    }
+}
+
+TEST_F(ScreenTest, LinksFindWhatTheirScopeAndClassesAllow)
+{
+    GroupElement *group = addGroup(u"group"_s);
+    auto *filter = make<FilterElement>(u"FilterElement"_s, u"only"_s);
+    screen->addListPropertyItem(screen->filters(), filter);
+    const struct
+    {
+        ObjectLinkInfo link;
+        QList<DesignerObject *> found;
+    } cases[] = {
+        {{u"group"_s, u"Screen"_s, u"VisualElement"_s}, {group}},
+        {{u"group"_s, u"Screen"_s, u"FunctionElement"_s}, {}},
+        {{u"group"_s, u"Project"_s, QString()}, {}},
+        {{u"Main"_s, u"Project"_s, u"Screen"_s}, {screen}},
+        {{u"Main"_s, u"Screen"_s, u"Screen"_s}, {}},
+        {{u"only"_s, u"Screen"_s, QString()}, {}},
+        {{u"none"_s, QString(), QString()}, {}},
+    };
+    for (const auto &[link, found] : cases) {
+        EXPECT_EQ(link.findLinks(group, false), found) << qPrintable(link.toString());
+    }
+    EXPECT_EQ(ObjectLinkInfo(QString(), u"Project"_s, u"Screen"_s).findLinks(group, true),
+              QList<DesignerObject *>({screen}));
+}
+
+} // namespace Halvane::Corvex::Designer
