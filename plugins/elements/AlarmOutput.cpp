@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "elements/AlarmOutput.h"
+
+#include "elements/Rows.h"
+#include "elements/Statements.h"
+
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Elements {
+
+bool AlarmOutput::initializeProperties()
+{
+    static const PropertyTable table{
+        channelRow().rank(1),
+        initialValueRow("VerticalBooleanExpressionEditor").rank(2).qml(&conditionToQml),
+    };
+    return HardwareElement::initializeProperties() && addProperties(table);
+}
+
+} // namespace Halvane::Corvex::Elements

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "elements/DigitalInputOutput.h"
+
+#include "corvex/core/PropertyValidators.h"
+
+#include "elements/Rows.h"
+#include "elements/Statements.h"
+
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Elements {
+
+bool DigitalInputOutput::initializeProperties()
+{
+    static const PropertyTable table{
+        channelRow()
+            .rank(1)
+            .editor("DigitalChannelEditor")
+            .validator(&PropertyValidators::digitalChannelValidator),
+        initialValueRow("VerticalBooleanExpressionEditor").rank(2).qml(&conditionToQml),
+    };
+    return HardwareElement::initializeProperties() && addProperties(table);
+}
+
+} // namespace Halvane::Corvex::Elements

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "elements/EthernetPort.h"
+
+#include "elements/Rows.h"
+
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Elements {
+
+bool EthernetPort::initializeProperties()
+{
+    static const PropertyTable table{
+        channelRow().rank(1),
+    };
+    return HardwareElement::initializeProperties() && addProperties(table);
+}
+
+} // namespace Halvane::Corvex::Elements

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "elements/Rows.h"
+
+#include "corvex/core/PropertyValidators.h"
+#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/core/properties/IntegerProperty.h"
+#include "corvex/core/properties/LinkProperty.h"
+#include "corvex/core/properties/UpdateObjectListProperty.h"
+
+#include "elements/Statements.h"
+
+using namespace Qt::StringLiterals;
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Elements {
+
+namespace {
+
+PropertyRow linkRow(const char *id, const char *title, const QString &className, const QString &scopeType)
+{
+    return row<LinkProperty>(id, title, ObjectLinkInfo(QString(), scopeType, className))
+        .flags(ordinary)
+        .parameter("scopeType", scopeType)
+        .parameter("filterType", className)
+        .allowInvalid();
+}
+
+} // namespace
+
+PropertyRow expressionRow(const char *id, const char *title, const char *editor)
+{
+    return row<GeneralDataListProperty>(id, title, GeneralDataList())
+        .flags(notAtRuntime)
+        .editor(editor)
+        .allowInvalid();
+}
+
+PropertyRow elementLinkRow(const char *id, const char *title, const char *className)
+{
+    return linkRow(id, title, QString::fromLatin1(className), u"Screen"_s);
+}
+
+PropertyRow projectLinkRow(const char *id, const char *title, const char *className)
+{
+    return linkRow(id, title, QString::fromLatin1(className), u"Project"_s);
+}
+
+PropertyRow visualElementRow(const char *id, const char *title)
+{
+    return elementLinkRow(id, title, "VisualElement").validator(&PropertyValidators::visualElementValidator);
+}
+
+PropertyRow stateRow(const char *id, const char *title)
+{
+    return row<UpdateObjectListProperty>(id, title, UpdateObjectList())
+        .flags(ordinary)
+        .editor("ElementPropertyChangesEditor")
+        .qml(&stateToQml)
+        .allowInvalid();
+}
+
+PropertyRow channelRow()
+{
+    return row<IntegerProperty>("channel", "Channel", 1)
+        .flags(ordinary)
+        .editor("ChannelEditor")
+        .parameter("minimum", 1)
+        .allowInvalid();
+}
+
+PropertyRow initialValueRow(const char *editor)
+{
+    return expressionRow("initValue", "Initial Value", editor).flags(ordinary);
+}
+
+} // namespace Halvane::Corvex::Elements

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/PropertyTable.h"
+
+//! Rows that occur in the tables of several elements.
+namespace Halvane::Corvex::Elements {
+
+//! Stored and edited; what goes to the runtime is written by those who use it.
+inline constexpr int notAtRuntime = Designer::StoredFlag | Designer::EditableFlag | Designer::StateFlag;
+inline constexpr int ordinary = notAtRuntime | Designer::RuntimeFlag;
+
+//! An expression, empty at first.
+Designer::PropertyRow expressionRow(const char *id, const char *title, const char *editor);
+//! A link to an element of the same screen.
+Designer::PropertyRow elementLinkRow(const char *id, const char *title, const char *className);
+//! A link to an object of the project.
+Designer::PropertyRow projectLinkRow(const char *id, const char *title, const char *className);
+//! The visual element that a function element works with; one has to be set.
+Designer::PropertyRow visualElementRow(const char *id, const char *title);
+//! How a linked element looks in one state: updates of objects.
+Designer::PropertyRow stateRow(const char *id, const char *title);
+//! The number of a device channel, from 1.
+Designer::PropertyRow channelRow();
+//! The value that an output has when the screen starts: an expression.
+Designer::PropertyRow initialValueRow(const char *editor);
+
+} // namespace Halvane::Corvex::Elements

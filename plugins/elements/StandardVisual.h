@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/project/VisualElement.h"
+
+namespace Halvane::Corvex::Elements {
+
+//! What the drawn standard elements have in common: position, rotation and visibility may follow expressions.
+class StandardVisual : public Designer::VisualElement
+{
+protected:
+    using VisualElement::VisualElement;
+    bool initializeProperties() override;
+};
+
+} // namespace Halvane::Corvex::Elements

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "elements/Statements.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/core/QmlText.h"
+#include "corvex/project/Element.h"
+#include "corvex/project/Screen.h"
+#include "corvex/values/GeneralDataList.h"
+#include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/values/PropertyList.h"
+#include "corvex/values/UpdateObjectList.h"
+
+using namespace Qt::StringLiterals;
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Elements {
+
+namespace {
+
+//! "qml_a.x = 1;" of the line "x: 1"; empty for a line that opens a block.
+QString assignment(const QString &object, QStringView qmlLine)
+{
+    const QStringView line = qmlLine.trimmed();
+    const qsizetype colon = line.indexOf(u": "_s);
+    if (colon < 0 || line.endsWith(u'{') || line.endsWith(u'}')) {
+        return {};
+    }
+    return u"%1.%2 = %3;"_s.arg(object, line.first(colon), line.sliced(colon + 2));
+}
+
+QString handlerName(const DesignerProperty *property)
+{
+    return u"on"_s + property->id().at(0).toUpper() + property->id().mid(1);
+}
+
+QString expressionToQml(const DesignerProperty *property, int indent, GeneralDataInfo::OutputType output,
+                        GeneralDataList::InfoType kind)
+{
+    const QString code = GeneralDataList(property->valueString()).toQmlString(output, kind);
+    return code.isEmpty() ? QString() : QmlText::line(indent, property->id(), code);
+}
+
+} // namespace
+
+QStringList assignments(const GeneralDataList &expression)
+{
+    QStringList statements;
+    for (qsizetype i = 0; i + 1 < expression.count(); i += 2) {
+        const bool isColor = expression.at(i).dataType() == GeneralDataInfo::ColorData;
+        const QString statement =
+            GeneralDataList({expression.at(i), expression.at(i + 1)})
+                .toQmlString(isColor ? GeneralDataInfo::ColorOutput : GeneralDataInfo::RawOutput,
+                             GeneralDataList::AssignExpression);
+        if (!statement.isEmpty()) {
+            statements.append(statement);
+        }
+    }
+    return statements;
+}
+
+QStringList assignments(const DesignerObject *owner, const QString &name,
+                        const QMap<QString, QString> &values)
+{
+    const Element *element = owner->screen() ? owner->screen()->getElement(name) : nullptr;
+    if (!element) {
+        return {};
+    }
+    // A new object of the class writes the values as the element itself would.
+    const std::unique_ptr<DesignerObject> model(
+        DesignerFactory::instance()->createObject(element->className(), nullptr));
+    if (!model) {
+        return {};
+    }
+    model->setParent(nullptr);
+    QStringList statements;
+    for (const auto &[id, value] : values.asKeyValueRange()) {
+        const SharedProperty property = model->getProperty(id);
+        if (!property || !model->changePropertyValue(property, value)) {
+            continue;
+        }
+        const QString qml = property->toQml(0);
+        for (const QStringView line : QStringView(qml).split(u'\n')) {
+            const QString statement = assignment(element->getQmlIdName(), line);
+            if (!statement.isEmpty()) {
+                statements.append(statement);
+            }
+        }
+    }
+    return statements;
+}
+
+QString handler(int indent, const QString &name, const QStringList &statements)
+{
+    if (statements.isEmpty()) {
+        return {};
+    }
+    const QString lineStart = u'\n' + QmlText::tabs(indent + 1);
+    return QmlText::tabs(indent) + name + u": {"_s + lineStart + statements.join(lineStart) + u'\n'
+           + QmlText::tabs(indent) + u'}';
+}
+
+QString stateToQml(const DesignerProperty *property, int indent)
+{
+    QStringList statements;
+    for (const UpdateObjectInfo &update : UpdateObjectList(property->valueString())) {
+        QMap<QString, QString> values;
+        for (const PropertyInfo &info : update.propertyValues()) {
+            values.insert(info.propName(), info.propValue());
+        }
+        statements += assignments(property->parentObject(), update.name(), values);
+    }
+    return handler(indent, handlerName(property), statements);
+}
+
+QString changesToQml(const DesignerProperty *property, int indent)
+{
+    QStringList statements;
+    const PropertyList changes(property->valueString());
+    for (const QString &element : changes.elements()) {
+        QMap<QString, QString> values;
+        for (const PropertyChangeInfo &change : changes.values(element)) {
+            values.insert(change.propertyName(), change.valueString());
+        }
+        statements += assignments(property->parentObject(), element, values);
+    }
+    return handler(indent, handlerName(property), statements);
+}
+
+QString assignmentsToQml(const DesignerProperty *property, int indent)
+{
+    return handler(indent, handlerName(property), assignments(GeneralDataList(property->valueString())));
+}
+
+QString mathToQml(const DesignerProperty *property, int indent)
+{
+    return expressionToQml(property, indent, GeneralDataInfo::NumberOutput, GeneralDataList::MathExpression);
+}
+
+QString conditionToQml(const DesignerProperty *property, int indent)
+{
+    return expressionToQml(property, indent, GeneralDataInfo::RawOutput, GeneralDataList::BoolExpression);
+}
+
+QString termsToQml(const DesignerProperty *property, int indent)
+{
+    QStringList codes;
+    for (const GeneralDataInfo &term : GeneralDataList(property->valueString())) {
+        const QString code = term.toQmlString(GeneralDataInfo::RawOutput);
+        if (!code.isEmpty()) {
+            codes.append(code);
+        }
+    }
+    return QmlText::line(indent, property->id(), QmlText::array(codes));
+}
+
+QString linkNameToQml(const DesignerProperty *property, int indent)
+{
+    return QmlText::line(indent, property->id(),
+                         QmlText::quoted(ObjectLinkInfo(property->valueString()).objectId()));
+}
+
+QString screenLinkToQml(const DesignerProperty *property, int indent)
+{
+    const QString name = ObjectLinkInfo(property->valueString()).objectId();
+    return QmlText::line(indent, property->id(),
+                         QmlText::quoted(name.isEmpty() ? QString() : QmlText::reference(name)));
+}
+
+} // namespace Halvane::Corvex::Elements

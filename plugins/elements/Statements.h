@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+namespace Halvane::Corvex::Designer {
+class DesignerObject;
+class DesignerProperty;
+class GeneralDataList;
+} // namespace Halvane::Corvex::Designer
+
+//! JavaScript that elements run when something happens to them.
+namespace Halvane::Corvex::Elements {
+
+//! One statement for each pair of an expression of kind assign; pairs that cannot be translated are left out.
+QStringList assignments(const Designer::GeneralDataList &expression);
+
+/*! Statements that give the element \a name, looked up on the screen of \a owner, the values of a map from
+   property id to value text. A property that the element does not have, and a value that QML writes as a
+   block of its own, give no statement. */
+QStringList assignments(const Designer::DesignerObject *owner, const QString &name,
+                        const QMap<QString, QString> &values);
+
+//! "name: {" and the statements in a block of their own; empty without statements.
+QString handler(int indent, const QString &name, const QStringList &statements);
+
+// QML creators. The handler's name is the property's id behind "on": onPressedState for "pressedState".
+//! For a list of updates of objects.
+QString stateToQml(const Designer::DesignerProperty *property, int indent);
+//! For a list of changes of properties.
+QString changesToQml(const Designer::DesignerProperty *property, int indent);
+//! For an expression of kind assign.
+QString assignmentsToQml(const Designer::DesignerProperty *property, int indent);
+
+// QML creators for expressions that the runtime follows: "id: code".
+QString mathToQml(const Designer::DesignerProperty *property, int indent);
+QString conditionToQml(const Designer::DesignerProperty *property, int indent);
+//! The terms one by one: "id: [code, code]".
+QString termsToQml(const Designer::DesignerProperty *property, int indent);
+
+// QML creators for links to what is no object of the screen's document.
+//! "id: \"name\"", the identifier name of the target, empty without one.
+QString linkNameToQml(const Designer::DesignerProperty *property, int indent);
+//! "id: \"qml_name\"", the document of a screen.
+QString screenLinkToQml(const Designer::DesignerProperty *property, int indent);
+
+} // namespace Halvane::Corvex::Elements

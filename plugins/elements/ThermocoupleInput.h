@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/project/HardwareElement.h"
+
+namespace Halvane::Corvex::Elements {
+
+//! An input of the device for a thermocouple.
+class ThermocoupleInput : public Designer::HardwareElement
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(ThermocoupleInput, Designer::HardwareElement)
+
+protected:
+    using HardwareElement::HardwareElement;
+    bool initializeProperties() override;
+};
+
+} // namespace Halvane::Corvex::Elements

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/values/PropertyList.h"
+#include "corvex/values/UpdateObjectList.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! A screen that the standard elements stand on.
+class Elements : public testing::Test
+{
+protected:
+    Elements()
+    {
+        DesignerFactory::createInstance(QString::fromUtf8(CORVEX_LIBRARY_DIR));
+        project.reset(static_cast<Project *>(make(u"Project"_s, u"Plant"_s)));
+        screen = static_cast<Screen *>(make(u"Screen"_s, u"Main"_s));
+        project->addListPropertyItem(project->screens(), screen);
+        project->addListPropertyItem(project->screens(), make(u"Screen"_s, u"Other"_s));
+    }
+
+    static DesignerObject *make(const QString &className, const QString &name)
+    {
+        DesignerObject *object = DesignerFactory::instance()->createObject(className);
+        object->setParent(nullptr);
+        object->setIdName(name);
+        return object;
+    }
+
+    DesignerObject *add(const char *className, const QString &name)
+    {
+        DesignerObject *element = make(QString::fromLatin1(className), name);
+        EXPECT_TRUE(screen->addListPropertyItem(screen->elements(), element)) << className;
+        return element;
+    }
+
+    static void set(DesignerObject *object, const char *id, const QString &value)
+    {
+        const SharedProperty property = object->getProperty(QString::fromLatin1(id));
+        ASSERT_TRUE(property) << id;
+        EXPECT_TRUE(object->changePropertyValue(property, value)) << id;
+        EXPECT_EQ(property->valueString(), value) << id;
+    }
+
+    static QString link(const QString &name, const QString &scope, const QString &filter)
+    {
+        return u"filterType: %1; objectId: %2; scopeType: %3;"_s.arg(filter, name, scope);
+    }
+
+    //! What Qt's own parser has against a document; types that it does not know are none of its business
+    //! here.
+    static QStringList syntaxErrors(QString qml)
+    {
+        static QQmlEngine engine;
+        qmlRegisterModule("StandIn", 1, 0);
+        qml.replace(u"import QtQuick 1.1"_s, u"import StandIn 1.0"_s).remove(u"import RuntimeObjects 2.0"_s);
+        QQmlComponent component(&engine);
+        component.setData(qml.toUtf8(), QUrl(u"file:///screen.qml"_s));
+        QStringList errors;
+        for (const QQmlError &error : component.errors()) {
+            if (!error.description().contains(u"is not a type"_s)) {
+                errors.append(error.toString());
+            }
+        }
+        return errors;
+    }
+
+    std::unique_ptr<Project> project;
+    Screen *screen = nullptr;
+};
+
+QString line(const DesignerObject *object, const char *id)
+{
+    return object->getProperty(QString::fromLatin1(id))->toQml(0);
+}
+
+} // namespace
+
+TEST_F(Elements, EachClassComesWithNamesAndSurvivesACopy)
+{
+    const QStringList classes = DesignerFactory::instance()->objectNames();
+    int concrete = 0;
+    for (const QString &className : classes) {
+        if (!DesignerFactory::instance()->canCreateObject(className)) {
+            continue;
+        }
+        const std::unique_ptr<DesignerObject> object(DesignerFactory::instance()->createObject(className));
+        ASSERT_TRUE(object);
+        object->setParent(nullptr);
+        EXPECT_EQ(object->className(), className);
+        if (!object->isKindOfClass(u"Element"_s)) {
+            continue;
+        }
+        ++concrete;
+        EXPECT_EQ(object->getIdName(), DesignerFactory::instance()->baseNameForClass(className));
+        const std::unique_ptr<DesignerObject> copy(DesignerObject::createCopy(object.get()));
+        ASSERT_TRUE(copy) << qPrintable(className);
+        EXPECT_EQ(DesignerObject::toString(copy.get()), DesignerObject::toString(object.get()));
+    }
+    EXPECT_EQ(concrete, 26 + 2);
+}
+
+TEST_F(Elements, TheDocumentOfAScreenHasItsPartsInOrderAndParses)
+{
+    for (const QString &className : DesignerFactory::instance()->creatableNames()) {
+        const std::unique_ptr<DesignerObject> probe(DesignerFactory::instance()->createObject(className));
+        probe->setParent(nullptr);
+        if (probe->isKindOfClass(u"Element"_s) && !probe->isKindOfClass(u"FilterElement"_s)) {
+            add(className.toLatin1().constData(), u"the"_s + className);
+        }
+    }
+    const QString qml = screen->toQml(0);
+    EXPECT_EQ(syntaxErrors(qml), QStringList()) << qPrintable(qml);
+    qsizetype last = -1;
+    for (
+        const QString &part :
+        {u"import QtQuick 1.1\nimport RuntimeObjects 2.0\nScreen {\n\tid: qml_Main\n\tobjectName: \"Main\"\n"_s,
+         u"\twidth: 500\n\theight: 300\n\tcolor: \"#FFFFFFFF\"\n\torientation: 0\n\tscale: 1\n"_s,
+         u"\tbrightness : 100\n\n"_s,
+         u"\talarmOutputs: [\n\t\tAlarmOutput {\n\t\t\tid: qml_theAlarmOutput\n"_s,
+         u"\tanalogInputs: ["_s,
+         u"\tdigitalIOs: ["_s,
+         u"\tpwmOutputs: ["_s,
+         u"\tspiPorts: ["_s,
+         u"\tserialCOMPorts: ["_s,
+         u"\trs485COMPorts: ["_s,
+         u"\tthermistorInputs: ["_s,
+         u"\tthermocoupleInputs: ["_s,
+         u"\tethernetPorts: ["_s,
+         u"\tcanBusPorts: ["_s,
+         u"\ti2CBusPorts: ["_s,
+         u"\tfunctions: [\n"_s,
+         u"\n\t]\n\tGroupElement {\n"_s,
+         u"\tText {\n"_s,
+         u"\tAction {\n"_s,
+         u"}\n"_s}) {
+        const qsizetype position = qml.indexOf(part, last + 1);
+        EXPECT_GT(position, last) << qPrintable(part) << qPrintable(qml);
+        last = position;
+    }
+    EXPECT_TRUE(qml.contains(u"\t\t},\n\t\tButton {\n"_s));
+    EXPECT_FALSE(qml.contains(u'\r'));
+}
+
+TEST_F(Elements, ExpressionsStandInForPlainValues)
+{
+    DesignerObject *text = add("Text", u"label"_s);
+    set(text, "text", u"say \"hi\"\n"_s);
+    EXPECT_EQ(line(text, "text"), u"text: \"say \\\"hi\\\"\\n\""_s);
+    set(text, "textBinding", u"0406speed"_s);
+    EXPECT_EQ(line(text, "text"), u"text: qmlViewer.getVariableValue(\"speed\")"_s);
+    set(text, "xBinding", u"<0406speed><0101*><02042>"_s);
+    EXPECT_EQ(line(text, "position"), u"x: qmlViewer.getVariableValue(\"speed\") * 2\ny: 0"_s);
+    set(text, "visibleBinding", u"<0406speed><0101>><020464>"_s);
+    EXPECT_EQ(line(text, "visible"), u"visible: qmlViewer.getVariableValue(\"speed\") > 100"_s);
+    set(text, "colorBinding", u"0408warning"_s);
+    EXPECT_EQ(line(text, "color"),
+              u"color: qmlViewer.convertToColorFromName(qmlViewer.getVariableValue(\"warning\"))"_s);
+    set(text, "opacity", u"12.345"_s);
+    EXPECT_EQ(line(text, "opacity"), u"opacity: 0.12345"_s);
+    EXPECT_EQ(line(text, "textBinding"), QString());
+}
+
+TEST_F(Elements, StatesAndActionsBecomeAssignmentsToWhatIsThere)
+{
+    add("Rectangle", u"box"_s);
+    DesignerObject *button = add("Button", u"button"_s);
+    set(button, "visualElement", link(u"box"_s, u"Screen"_s, u"VisualElement"_s));
+    UpdateObjectInfo update;
+    update.setName(u"box"_s);
+    update.setPropValueMap({{u"color"_s, u"#FF00FF00"_s},
+                            {u"position"_s, u"x: 1; y: 2;"_s},
+                            {u"border"_s, u"color: #FF0000FF; width: 3;"_s},
+                            {u"nothing"_s, u"1"_s}});
+    UpdateObjectInfo gone;
+    gone.setName(u"gone"_s);
+    gone.setPropValueMap({{u"color"_s, u"#FF00FF00"_s}});
+    set(button, "pressedState", UpdateObjectList({update, gone}).toString());
+    EXPECT_EQ(line(button, "pressedState"), u"onPressedState: {\n"
+                                            "\tqml_box.border.width = 3;\n"
+                                            "\tqml_box.border.color = \"#FF0000FF\";\n"
+                                            "\tqml_box.color = \"#FF00FF00\";\n"
+                                            "\tqml_box.x = 1;\n"
+                                            "\tqml_box.y = 2;\n"
+                                            "}"_s);
+    EXPECT_EQ(line(button, "normalState"), QString());
+    set(button, "pressed", u"<0406speed><02047><0308box.color><0208FF00FF00>"_s);
+    EXPECT_EQ(line(button, "pressed"), u"onPressed: {\n"
+                                       "\tqmlViewer.setVariableValue(\"speed\", 7, 11);\n"
+                                       "\tqml_box.color = \"#FF00FF00\";\n"
+                                       "}"_s);
+
+    DesignerObject *action = add("Action", u"action"_s);
+    PropertyList changes;
+    changes.append(PropertyChangeInfo(u"box"_s, u"visible"_s, u"false"_s));
+    set(action, "propertyChanges", changes.toString());
+    EXPECT_EQ(line(action, "propertyChanges"), u"onPropertyChanges: {\n\tqml_box.visible = false;\n}"_s);
+}
+
+TEST_F(Elements, LogicKeepsItsRulesApart)
+{
+    DesignerObject *logic = add("LogicBuilder", u"logic"_s);
+    const QString condition = u"<0403on><0101||><0403ready>"_s;
+    const QString statement = u"<0406speed><02041>"_s;
+    set(logic, "logicExpression", u"%1|%2, |%2, %1|"_s.arg(condition, statement));
+    EXPECT_TRUE(logic->getProperty(u"logicExpression")->isValid());
+    EXPECT_EQ(
+        line(logic, "logicExpression"),
+        u"conditions: [qmlViewer.getVariableValue(\"on\") || qmlViewer.getVariableValue(\"ready\"), true]\n"
+        "onEvaluate: {\n"
+        "\tif (conditions[0]) {\n"
+        "\t\tqmlViewer.setVariableValue(\"speed\", 1, 11);\n"
+        "\t}\n"
+        "\tif (conditions[1]) {\n"
+        "\t\tqmlViewer.setVariableValue(\"speed\", 1, 11);\n"
+        "\t}\n"
+        "}"_s);
+    set(logic, "logicExpression", u"x|"_s);
+    EXPECT_EQ(logic->getProperty(u"logicExpression")->errorString(),
+              u"The condition of rule 1 is incomplete."_s);
+}
+
+TEST_F(Elements, LinksAndChannelsAreJudged)
+{
+    add("Rectangle", u"box"_s);
+    add("PwmOutput", u"pwm"_s);
+    DesignerObject *button = add("Button", u"button"_s);
+    const SharedProperty visual = button->getProperty(u"visualElement");
+    EXPECT_EQ(visual->errorString(), u"The visual element is not set."_s);
+    set(button, "visualElement", link(u"pwm"_s, u"Screen"_s, u"VisualElement"_s));
+    EXPECT_EQ(visual->errorString(), u"\"pwm\" is not a visual element."_s);
+    set(button, "visualElement", link(u"none"_s, u"Screen"_s, u"VisualElement"_s));
+    EXPECT_EQ(visual->errorString(), u"Cannot find visual element \"none\" in the screen."_s);
+    set(button, "visualElement", link(u"box"_s, u"Screen"_s, u"VisualElement"_s));
+    EXPECT_TRUE(visual->isValid());
+
+    DesignerObject *first = add("DigitalInputOutput", u"first"_s);
+    DesignerObject *second = add("DigitalInputOutput", u"second"_s);
+    EXPECT_EQ(second->getProperty(u"channel")->errorString(),
+              u"second and first are connected to same Digital Output."_s);
+    set(second, "channel", u"2"_s);
+    EXPECT_TRUE(second->isValid());
+    EXPECT_TRUE(first->validate());
+
+    DesignerObject *loader = add("ScreenLoader", u"loader"_s);
+    set(loader, "screen", link(u"Other"_s, u"Project"_s, u"Screen"_s));
+    EXPECT_TRUE(loader->getProperty(u"screen")->isValid());
+    EXPECT_EQ(line(loader, "screen"), u"screen: \"qml_Other\""_s);
+}
+
+} // namespace Halvane::Corvex::Designer
