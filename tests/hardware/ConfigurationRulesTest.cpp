@@ -30,7 +30,7 @@ TEST(ChannelListTest, readsAndWritesItsText)
     const ChannelList::ChannelMap sparse{{-1, EnumHelper::INPUT},
                                          {0, EnumHelper::INPUT},
                                          {2, EnumHelper::SEND},
-                                         {4, ChannelList::Type(99)},
+                                         {4, ChannelList::Type(15)},
                                          {2000000000, EnumHelper::INPUT}};
     EXPECT_EQ(ChannelList(sparse).toString(), u"UNUSED, SEND, UNUSED, UNUSED"_s);
 }

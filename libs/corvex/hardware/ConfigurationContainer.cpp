@@ -17,7 +17,7 @@ namespace Halvane::Corvex::Designer {
 namespace {
 
 //! Descriptions of a model are a few kilobytes; anything of this size is something else.
-constexpr qint64 mostBytes = 1024 * 1024;
+constexpr qint64 mostBytes = qint64(1) << 20;
 
 } // namespace
 
@@ -84,12 +84,12 @@ void ConfigurationContainer::loadFile(const QString &path)
     }
     const QFileInfo folder(info.absolutePath());
     static_cast<Configuration &>(*object).setFileFields(folder.path(), folder.fileName(), info.fileName());
-    if (!addListPropertyItem(m_configurations, object.get())) {
+    DesignerObject *configuration = object.release();
+    if (!addListPropertyItem(m_configurations, configuration)) {
         qWarning("%s describes the model \"%s\", which is there already, and is skipped.",
-                 qUtf8Printable(path), qUtf8Printable(object->getIdName()));
-        return;
+                 qUtf8Printable(path), qUtf8Printable(configuration->getIdName()));
+        delete configuration;
     }
-    object.release();
 }
 
 QList<Configuration *> ConfigurationContainer::configurations() const

@@ -22,28 +22,32 @@ constexpr auto firstRS485Lines = "RECEIVE, SEND, UNUSED, UNUSED"_L1;
 constexpr auto freeRS485Lines = "UNUSED, UNUSED, UNUSED, UNUSED"_L1;
 constexpr auto firstSPIPins = "UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, CSPIN"_L1;
 
-QString withoutPwmLines(ChannelList channels)
+QString withoutPwmLines(const ChannelList &current)
 {
+    ChannelList channels = current;
     for (int line = 1; line <= RS485Lines::pwmLines; ++line) {
         channels.release(line);
     }
     return channels.toString();
 }
 
-QString withoutDigitalLine(ChannelList channels)
+QString withoutDigitalLine(const ChannelList &current)
 {
+    ChannelList channels = current;
     channels.release(RS485Lines::digitalChannel);
     return channels.toString();
 }
 
-QString withoutRS485Words(ChannelList channels)
+QString withoutRS485Words(const ChannelList &current)
 {
+    ChannelList channels = current;
     channels.release({EnumHelper::RECEIVE, EnumHelper::SEND, EnumHelper::DIRECTION});
     return channels.toString();
 }
 
-QString withoutChipSelect(ChannelList channels)
+QString withoutChipSelect(const ChannelList &current)
 {
+    ChannelList channels = current;
     channels.release({EnumHelper::CSPIN});
     return channels.toString();
 }
@@ -56,7 +60,7 @@ struct Configuration::Reaction
     Place onSwitch;
     bool on;
     Place target;
-    QString (*rewritten)(ChannelList);
+    QString (*rewritten)(const ChannelList &);
     bool needsSharedPins = false;
 };
 
@@ -66,11 +70,11 @@ const QList<Configuration::Reaction> &Configuration::reactions()
     static const QList<Reaction> table{
         {EnableRS485, true, PwmOutputs, withoutPwmLines, true},
         {EnableRS485, true, DigitalInputOutputs, withoutDigitalLine, true},
-        {EnableRS485, true, SerialRS485Ports, [](ChannelList) { return QString(firstRS485Lines); }},
-        {EnableRS485, false, SerialRS485Ports, [](ChannelList) { return QString(freeRS485Lines); }},
+        {EnableRS485, true, SerialRS485Ports, [](const ChannelList &) { return QString(firstRS485Lines); }},
+        {EnableRS485, false, SerialRS485Ports, [](const ChannelList &) { return QString(freeRS485Lines); }},
         {EnableRS485, false, PwmOutputs, withoutRS485Words},
         {EnableRS485, false, DigitalInputOutputs, withoutRS485Words},
-        {EnableSPIChipSelect, true, SpiChipSelect, [](ChannelList) { return QString(firstSPIPins); }},
+        {EnableSPIChipSelect, true, SpiChipSelect, [](const ChannelList &) { return QString(firstSPIPins); }},
         {EnableSPIChipSelect, false, SpiChipSelect, withoutChipSelect},
         {EnableSPIChipSelect, false, DigitalInputOutputs, withoutChipSelect},
     };
