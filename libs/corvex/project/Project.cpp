@@ -316,6 +316,12 @@ void Project::startAutoSaveTimer()
     m_autosave->start();
 }
 
+void Project::generateRuntimeFiles()
+{
+    m_runtimeGenerator.setResourceFolder(imagesPath());
+    m_runtimeGenerator.generate(this);
+}
+
 QString Project::generateUniqueName(const QString &stem) const
 {
     QSet<QString> used;

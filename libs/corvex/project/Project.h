@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/core/FileObject.h"
+#include "corvex/runtime/RuntimeGenerator.h"
 #include "corvex/values/RuntimeAutoSettingList.h"
 
 #include <QHash>
@@ -105,6 +106,11 @@ public:
     //! Starts the timer by the user's settings, see ProjectAutosave::startTimer().
     void startAutoSaveTimer();
 
+    // The device.
+    //! Makes the folder that goes to the device; runtimeGenerator() tells where it is, or why there is none.
+    void generateRuntimeFiles();
+    RuntimeGenerator &runtimeGenerator() { return m_runtimeGenerator; }
+
     // Names.
     //! The first of stem1, stem2, ... that is no variable, screen or element of the project.
     QString generateUniqueName(const QString &stem) const;
@@ -154,6 +160,7 @@ private:
     QAction *m_undoAction = nullptr;
     QAction *m_redoAction = nullptr;
     std::unique_ptr<ProjectAutosave> m_autosave;
+    RuntimeGenerator m_runtimeGenerator;
     bool m_needsBuildVersion = false;
 };
 
