@@ -6,9 +6,7 @@ namespace Halvane::Corvex::Tool {
 const QList<const Verb *> &allVerbs()
 {
     static const QList<const Verb *> verbs{
-        &valueVerb,
-        &exprVerb,
-        &helpVerb,
+        &newVerb, &infoVerb, &treeVerb, &checkVerb, &fmtVerb, &buildVerb, &valueVerb, &exprVerb, &helpVerb,
     };
     return verbs;
 }

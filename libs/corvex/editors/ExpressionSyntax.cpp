@@ -3,6 +3,7 @@
 
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QRegularExpression>
 #include <QUrl>
 
 #include <algorithm>
@@ -56,6 +57,30 @@ ExpressionSyntax::Result ExpressionSyntax::checkExpression(const QString &code)
 ExpressionSyntax::Result ExpressionSyntax::checkStatements(const QString &code)
 {
     return compile(code, false);
+}
+
+ExpressionSyntax::Result ExpressionSyntax::checkDocument(const QString &qml)
+{
+    // Without its imports a document that can be read has one error, an unknown type: reading comes first.
+    static const QRegularExpression imports(u"^import [^\n]*"_s, QRegularExpression::MultilineOption);
+    QQmlComponent component(m_engine.get());
+    component.setData(QString(qml).remove(imports).toUtf8(), QUrl(u"qrc:/document.qml"_s));
+    for (const QQmlError &error : component.errors()) {
+        if (!isOfUnknownType(error.description())) {
+            return {false, error.line(), error.column(), error.description()};
+        }
+    }
+    return {};
+}
+
+bool ExpressionSyntax::isOfUnknownType(const QString &error)
+{
+    if (m_unknownType.isEmpty()) {
+        QQmlComponent component(m_engine.get());
+        component.setData("Unknown {}", QUrl(u"qrc:/unknown.qml"_s));
+        m_unknownType = component.errors().value(0).description().sliced("Unknown"_L1.size());
+    }
+    return error.endsWith(m_unknownType);
 }
 
 // The engine compiles the whole text before it runs any of it, and the first thing that runs is the throw:

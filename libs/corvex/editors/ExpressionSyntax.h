@@ -10,9 +10,9 @@ class QQmlEngine;
 namespace Halvane::Corvex::Designer {
 
 /*!
-    Tells whether a text is correct JavaScript. The text is compiled and never runs, whatever it holds. The
-   engine is this object's own; make one checker for many checks, since an engine takes a millisecond to come
-   up.
+    Tells whether a text is correct JavaScript, or correct QML. The text is compiled and never runs, whatever
+   it holds. The engine is this object's own; make one checker for many checks, since an engine takes a
+   millisecond to come up.
 */
 class ExpressionSyntax
 {
@@ -33,11 +33,15 @@ public:
     Result checkExpression(const QString &code);
     //! Any number of statements, none included.
     Result checkStatements(const QString &code);
+    //! A QML document, with the code in it. Its imports and types are not looked up.
+    Result checkDocument(const QString &qml);
 
 private:
     Result compile(const QString &code, bool inParentheses);
+    bool isOfUnknownType(const QString &error);
 
     std::unique_ptr<QQmlEngine> m_engine;
+    QString m_unknownType; //!< how the engine's error about a type goes on behind the name of the type
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/Project.h"
+#include "corvex/runtime/RuntimeGenerator.h"
+
+#include "Call.h"
+#include "DeviceFolder.h"
+#include "JsonWriter.h"
+#include "ProjectFile.h"
+#include "ProjectProblems.h"
+#include "Terminal.h"
+#include "Verb.h"
+
+#include <QDir>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+//! Names all problems. Whether the build goes on in spite of them is up to --force.
+bool isAccepted(const QList<Problem> &problems, const ProjectFile &file, const Call &call)
+{
+    for (const Problem &problem : problems) {
+        call.terminal().printError(problem.toString());
+    }
+    if (problems.isEmpty() || call.isSet(u"force"_s)) {
+        return true;
+    }
+    if (call.asJson()) {
+        ProjectProblems::printJson(problems, call.terminal());
+    }
+    call.failed(u"\"%1\" has problems (%2) and is not built. Mend them, or build it all the same with "
+                "--force."_s.arg(file.path(), QString::number(problems.size())));
+    return false;
+}
+
+void report(const QString &folder, const Call &call)
+{
+    const QStringList files = QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    if (!call.asJson()) {
+        call.terminal().print(
+            Terminal::oneLine(u"%1: %2 files"_s.arg(folder, QString::number(files.size()))));
+        return;
+    }
+    JsonWriter json(call.terminal());
+    json.beginObject();
+    json.member("folder"_L1, folder);
+    json.member("files"_L1, files);
+    json.endObject();
+}
+
+ExitCode run(const Call &call)
+{
+    const QString path = call.value(u"output"_s);
+    if (path.isEmpty()) {
+        return call.misused(u"The folder for the build is missing: corvex build FILE -o DIR."_s);
+    }
+    ProjectFile file;
+    if (!file.open(call)) {
+        return ExitCode::File;
+    }
+    call.terminal().showProgress(u"checking %1"_s.arg(file.path()));
+    const QList<Problem> problems = ProjectProblems::find(file);
+    if (!isAccepted(problems, file, call)) {
+        return ExitCode::Problems;
+    }
+    call.terminal().showProgress(u"building %1"_s.arg(file.path()));
+    RuntimeGenerator &generator = file.project().runtimeGenerator();
+    const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
+    file.project().generateRuntimeFiles();
+    if (generator.buildFolder().isEmpty()) {
+        return call.failed(generator.errorString(), problems.isEmpty() ? ExitCode::File : ExitCode::Problems);
+    }
+    DeviceFolder folder(path);
+    QString error;
+    if (!folder.bring(QDir(generator.buildFolder()).filePath(u"project"_s), &error)) {
+        return call.failed(error);
+    }
+    report(folder.projectPath(), call);
+    return ExitCode::Done;
+}
+
+QList<QCommandLineOption> options()
+{
+    return {
+        QCommandLineOption({u"o"_s, u"output"_s}, u"The folder that the build is brought to."_s, u"DIR"_s),
+        QCommandLineOption(u"force"_s, u"Build a project with problems."_s)};
+}
+
+} // namespace
+
+const Verb buildVerb{
+    .name = "build",
+    .arguments = "FILE -o DIR",
+    .summary = "make the folder that goes to the device",
+    .details =
+        [] {
+            return u"Builds the project and brings the result to DIR, which then holds the folder "
+                   u"\"project\" with\n"
+                   "one QML file for each screen, the images and the zipped project. DIR is made when it is\n"
+                   "missing. Nothing of yours is replaced: DIR must be new, empty, or hold an earlier build "
+                   "and\n"
+                   "nothing else. A project with problems is not built without --force, and a build that "
+                   "fails\n"
+                   "leaves DIR as it was."_s;
+        },
+    .example = "corvex build examples/PumpStation/PumpStation.kdproj -o out/PumpStation",
+    .fewestArguments = 1,
+    .mostArguments = 1,
+    .opensProjects = true,
+    .options = options,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool

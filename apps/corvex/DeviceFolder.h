@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Halvane::Corvex::Tool {
+
+/*! The folder to which a build goes, and which holds the sub-folder "project" afterwards.
+
+    Nothing of the user's is ever replaced. Besides a folder that is missing or empty only that of an earlier
+   build is taken: one that holds nothing but "project", and in it nothing but files that a build makes or
+   copies, the zipped project among them.
+*/
+class DeviceFolder
+{
+public:
+    explicit DeviceFolder(const QString &path)
+        : m_path(path)
+    { }
+
+    /*! Copies the folder \a source, which holds files only, and puts it in the place of "project". False,
+       with everything as it was and a text for the user, when that fails. */
+    bool bring(const QString &source, QString *error);
+    //! "project" in the folder, as the user would write it.
+    QString projectPath() const;
+
+private:
+    QString foreignEntry(const QStringList &newFiles) const;
+    bool replace(const QString &source, QString *error) const;
+    bool fail(QString *error, const QString &message) const;
+
+    QString m_path;
+};
+
+} // namespace Halvane::Corvex::Tool

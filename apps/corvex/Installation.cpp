@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "Installation.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/hardware/ConfigurationContainer.h"
+#include "corvex/hardware/HardwareConfigurations.h"
+
+#include "Call.h"
+#include "Terminal.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+QString besideProgram(const char *relativePath)
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + QLatin1StringView(relativePath));
+}
+
+//! What the library warns of while a scope lasts; elsewhere its warnings are about what verbs tell in their
+//! own words.
+class WarningCollector
+{
+public:
+    WarningCollector()
+    {
+        messages().clear();
+        m_previous = qInstallMessageHandler(collect);
+    }
+    ~WarningCollector() { qInstallMessageHandler(m_previous); }
+    Q_DISABLE_COPY_MOVE(WarningCollector)
+
+    static QStringList &messages()
+    {
+        static QStringList collected;
+        return collected;
+    }
+
+private:
+    static void collect(QtMsgType type, const QMessageLogContext &, const QString &message)
+    {
+        if (type != QtDebugMsg && type != QtInfoMsg) {
+            messages().append(message);
+        }
+    }
+
+    QtMessageHandler m_previous;
+};
+
+bool isFolder(const Call &call, const QString &option)
+{
+    const QString path = call.value(option);
+    if (!call.isSet(option) || QFileInfo(path).isDir()) {
+        return true;
+    }
+    call.failed(u"The folder \"%1\" of --%2 does not exist."_s.arg(path, option));
+    return false;
+}
+
+} // namespace
+
+ExitCode Installation::loadFactory(const Call &call)
+{
+    if (!isFolder(call, u"plugins"_s)) {
+        return ExitCode::File;
+    }
+    const QString own = call.value(u"plugins"_s);
+    const QString home = own.isEmpty() ? besideProgram(CORVEX_PROGRAM_TO_LIBRARY) : own;
+    const WarningCollector collector;
+    if (!DesignerFactory::createInstance(home)) {
+        return call.failed(
+            u"The folder \"%1\" with the plug-ins does not exist. Install the program again, or "
+            "name another folder with --plugins."_s.arg(home));
+    }
+    if (!own.isEmpty()) {
+        DesignerFactory::instance()->loadPlugins(own);
+    }
+    for (const QString &message : std::as_const(WarningCollector::messages())) {
+        call.terminal().complain(message);
+    }
+    return ExitCode::Done;
+}
+
+ConfigurationContainer *Installation::loadModels(const Call &call)
+{
+    if (!isFolder(call, u"configurations"_s)) {
+        return nullptr;
+    }
+    const QString own = call.value(u"configurations"_s);
+    const QString home = own.isEmpty() ? besideProgram(CORVEX_PROGRAM_TO_DATA) : own;
+    const WarningCollector collector;
+    const bool loaded = HardwareConfigurations::createInstance(home);
+    for (const QString &message : std::as_const(WarningCollector::messages())) {
+        call.terminal().complain(message);
+    }
+    if (!loaded || HardwareConfigurations::instance()->installed()->configurations().isEmpty()) {
+        call.failed(
+            u"There are no device models in \"%1/Configurations\". Install the program again, or name "
+            "another folder with --configurations."_s.arg(home));
+        return nullptr;
+    }
+    return HardwareConfigurations::instance()->installed();
+}
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "ProjectFile.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/project/Project.h"
+
+#include "Call.h"
+#include "Installation.h"
+#include "Terminal.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+//! What a user can do who named something that is no project file.
+QString advice(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        return u"Name the .kdproj file of a project; \"corvex new\" makes one."_s;
+    }
+    const QStringList projects =
+        info.isDir() ? QDir(path).entryList({u"*.kdproj"_s}, QDir::Files, QDir::Name) : QStringList();
+    if (!projects.isEmpty()) {
+        return u"Did you mean \"%1\"?"_s.arg(QDir(path).filePath(projects.constFirst()));
+    }
+    return info.isDir() ? u"Name the .kdproj file of a project."_s
+                        : u"Mend the file at that place, or take it from a copy."_s;
+}
+
+void collectKept(const DesignerObject &owner, QList<ProjectFile::Kept> &kept)
+{
+    for (const SharedProperty &property : owner.properties()) {
+        if (const ItemList *list = property->itemList(); list && list->hasKeptItems()) {
+            for (const KeptItem &item : list->keptItems()) {
+                kept.append({&owner, item});
+            }
+        }
+    }
+    for (const DesignerObject *child : owner.childObjects()) {
+        collectKept(*child, kept);
+    }
+}
+
+} // namespace
+
+ProjectFile::ProjectFile() = default;
+ProjectFile::~ProjectFile() = default;
+
+std::unique_ptr<Project> ProjectFile::create()
+{
+    const DesignerFactory *factory = DesignerFactory::instance();
+    DesignerObject *object = factory ? factory->createObject(Project::kindName()) : nullptr;
+    if (object) {
+        object->setParent(nullptr);
+    }
+    return std::unique_ptr<Project>(static_cast<Project *>(object));
+}
+
+bool ProjectFile::open(const Call &call)
+{
+    m_path = call.argument(0);
+    if (Installation::loadFactory(call) != ExitCode::Done) {
+        return false;
+    }
+    call.terminal().showProgress(u"reading %1"_s.arg(m_path));
+    m_project = create();
+    if (m_project && m_project->loadFile(m_path)) {
+        return true;
+    }
+    call.failed(
+        u"%1 %2"_s.arg(m_project ? m_project->fileError() : u"No project can be made."_s, advice(m_path)));
+    return false;
+}
+
+QList<ReadNote> ProjectFile::dropped() const
+{
+    QList<ReadNote> notes;
+    std::ranges::copy_if(m_project->readNotes(), std::back_inserter(notes),
+                         [](const ReadNote &note) { return note.kind == ReadNote::Dropped; });
+    return notes;
+}
+
+QList<ProjectFile::Kept> ProjectFile::kept() const
+{
+    QList<Kept> kept;
+    collectKept(*m_project, kept);
+    return kept;
+}
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/ItemList.h"
+#include "corvex/core/ObjectXmlReader.h"
+
+#include <QList>
+#include <QString>
+
+#include <memory>
+
+namespace Halvane::Corvex::Designer {
+class DesignerObject;
+class Project;
+} // namespace Halvane::Corvex::Designer
+
+namespace Halvane::Corvex::Tool {
+
+class Call;
+
+//! A project that a verb was called with.
+class ProjectFile
+{
+public:
+    ProjectFile();
+    ~ProjectFile();
+    Q_DISABLE_COPY_MOVE(ProjectFile)
+
+    //! Opens the file that is the call's first argument, with all plug-ins. False once the user has been
+    //! told.
+    bool open(const Call &call);
+    //! A new project that has no file yet; null without a factory.
+    static std::unique_ptr<Designer::Project> create();
+
+    Designer::Project &project() const { return *m_project; }
+    //! As the user wrote it.
+    const QString &path() const { return m_path; }
+
+    //! What would be lost if the project were saved.
+    QList<Designer::ReadNote> dropped() const;
+    //! An item of a list that no plug-in knows, with the object in whose list it stands.
+    struct Kept
+    {
+        const Designer::DesignerObject *owner;
+        Designer::KeptItem item;
+    };
+    QList<Kept> kept() const;
+
+private:
+    QString m_path;
+    std::unique_ptr<Designer::Project> m_project;
+};
+
+} // namespace Halvane::Corvex::Tool

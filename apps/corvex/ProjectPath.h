@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/DesignerProperty.h"
+
+#include <QString>
+
+namespace Halvane::Corvex::Designer {
+class DesignerObject;
+}
+
+namespace Halvane::Corvex::Tool {
+
+//! What a path names: an object, or one of its properties.
+struct ProjectPlace
+{
+    Designer::DesignerObject *object = nullptr; //!< null when there is nothing of that name
+    Designer::SharedProperty property;          //!< null when the path ends with the object
+};
+
+/*! The names on the way from the project down to an object, joined with ".", and perhaps the id of a property
+    behind them: "Main.group1.pump1.position". They are the paths that DesignerObject::objectPath() gives.
+
+    Names may hold a "." themselves ("pump.png"). An object comes before a property of the same name; the
+   project's own name, and the id of an object property ("configuration"), stand for the object too.
+*/
+class ProjectPath
+{
+public:
+    static ProjectPlace find(Designer::DesignerObject *project, const QString &path);
+};
+
+} // namespace Halvane::Corvex::Tool
