@@ -21,7 +21,7 @@ constexpr int largestNumber = 65535;
 //! The UDP port of BACnet, 0xBAC0.
 constexpr int usualPort = 47808;
 
-constexpr char passwordDescription[] =
+constexpr auto passwordDescription =
     "    Password feature enabled for upgrade device software and Log download feature to work on BACnet "
     "protocol.\n    The password set here is matched with the one input by the user to use this feature "
     "using Layout Studio.";
