@@ -11,6 +11,14 @@
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/UpdateObjects.h"
+#include "corvex/templates/ElementTemplate.h"
+#include "corvex/templates/ProjectTemplate.h"
+#include "corvex/templates/ProjectVersion.h"
+#include "corvex/templates/ProjectVersionsContainer.h"
+#include "corvex/templates/TemplateContainer.h"
+#include "corvex/templates/Tutorial.h"
+#include "corvex/templates/TutorialContainer.h"
+#include "corvex/templates/UpgradeProjSelection.h"
 #include "corvex/variables/AutoSettingVariable.h"
 #include "corvex/variables/BACnetDevice.h"
 #include "corvex/variables/BACnetObject.h"
@@ -91,6 +99,7 @@ const QHash<QString, Maker> &makers()
         {u"ColorVariable"_s, &make<ColorVariable>},
         {u"Configuration"_s, &make<Configuration>},
         {u"ConfigurationContainer"_s, &make<ConfigurationContainer>},
+        {u"ElementTemplate"_s, &make<ElementTemplate>},
         {u"FilterElement"_s, &make<FilterElement>},
         {u"FtpVariable"_s, &make<FtpVariable>},
         {u"GroupElement"_s, &make<GroupElement>},
@@ -99,9 +108,16 @@ const QHash<QString, Maker> &makers()
         {u"MappingVariable"_s, &make<MappingVariable>},
         {u"NumberVariable"_s, &make<NumberVariable>},
         {u"Project"_s, &make<Project>},
+        {u"ProjectTemplate"_s, &make<ProjectTemplate>},
+        {u"ProjectVersion"_s, &make<ProjectVersion>},
+        {u"ProjectVersionsContainer"_s, &make<ProjectVersionsContainer>},
         {u"Screen"_s, &make<Screen>},
         {u"StringVariable"_s, &make<StringVariable>},
+        {u"TemplateContainer"_s, &make<TemplateContainer>},
+        {u"Tutorial"_s, &make<Tutorial>},
+        {u"TutorialContainer"_s, &make<TutorialContainer>},
         {u"UpdateObjects"_s, &make<UpdateObjects>},
+        {u"UpgradeProjSelection"_s, &make<UpgradeProjSelection>},
     };
     return table;
 }
@@ -197,9 +213,13 @@ PropertyEditor *CoreFactory::createEditor(const QString &, QWidget *)
     return nullptr;
 }
 
-Template *CoreFactory::createTemplate(const QString &, QObject *)
+Template *CoreFactory::createTemplate(const QString &className, QObject *parent)
 {
-    return nullptr;
+    if (!templateNames().contains(className)) {
+        return nullptr;
+    }
+    std::unique_ptr<DesignerObject> object(createObject(className, parent));
+    return object->initialize() ? static_cast<Template *>(object.release()) : nullptr;
 }
 
 Wizard *CoreFactory::createWizard(const QString &)

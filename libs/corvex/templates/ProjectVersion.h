@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/templates/NamedObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! An entry in the log of a project's versions.
+class ProjectVersion : public NamedObject
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(ProjectVersion, DesignerObject)
+
+protected:
+    using NamedObject::NamedObject;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/templates/NamedObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! The log of a project's versions.
+class ProjectVersionsContainer : public NamedObject
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(ProjectVersionsContainer, DesignerObject)
+
+protected:
+    using NamedObject::NamedObject;
+};
+
+} // namespace Halvane::Corvex::Designer

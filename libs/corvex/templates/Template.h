@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/templates/NamedObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! Something ready-made that a user starts from.
+class Template : public NamedObject
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(Template, DesignerObject)
+
+protected:
+    using NamedObject::NamedObject;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/templates/NamedObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! The tutorials that are installed.
+class TutorialContainer : public NamedObject
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(TutorialContainer, DesignerObject)
+
+protected:
+    using NamedObject::NamedObject;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/templates/NamedObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! The projects that a user picked for an upgrade.
+class UpgradeProjSelection : public NamedObject
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(UpgradeProjSelection, DesignerObject)
+
+protected:
+    using NamedObject::NamedObject;
+};
+
+} // namespace Halvane::Corvex::Designer

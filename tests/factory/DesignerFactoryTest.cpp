@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/factory/CoreFactory.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! Collects what is warned about.
+class Warnings
+{
+public:
+    Warnings()
+    {
+        s_texts.clear();
+        m_previous = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext &, const QString &text) { s_texts.append(text); });
+    }
+    ~Warnings() { qInstallMessageHandler(m_previous); }
+
+    static inline QStringList s_texts;
+
+private:
+    QtMessageHandler m_previous;
+};
+
+//! Names one class in the three tables, as the test wants them.
+class OneClassFactory : public CoreFactory
+{
+public:
+    QStringList names, bases, displays, creatables, editors;
+
+    QStringList objectNames() const override { return names; }
+    QMap<QString, QString> classBaseNames() const override { return toMap(bases); }
+    QMap<QString, QString> classDisplayNames() const override { return toMap(displays); }
+    QStringList creatableNames() const override { return creatables; }
+    QStringList graphicsItemNames() const override { return {}; }
+    QStringList editorNames() const override { return editors; }
+    QStringList templateNames() const override { return {}; }
+    QStringList wizardNames() const override { return {}; }
+
+private:
+    QMap<QString, QString> toMap(const QStringList &values) const
+    {
+        QMap<QString, QString> map;
+        for (qsizetype i = 0; i < values.size(); ++i) {
+            map.insert(names.value(i, u"Extra%1"_s.arg(i)), values.at(i));
+        }
+        return map;
+    }
+};
+
+} // namespace
+
+TEST(DesignerFactoryTest, AnInstanceNeedsAPathAndKnowsTheLibrarysClasses)
+{
+    EXPECT_FALSE(DesignerFactory::createInstance(u"/no/such/path"_s));
+    ASSERT_TRUE(DesignerFactory::createInstance(QCoreApplication::applicationDirPath()));
+    const DesignerFactory *factory = DesignerFactory::instance();
+    EXPECT_EQ(factory->objectNames().size(), 24);
+    EXPECT_EQ(factory->creatableNames().size(), 27);
+    EXPECT_EQ(factory->editorNames().size(), 57);
+    EXPECT_EQ(factory->baseNameForClass(u"FunctionElement"_s), u"functionElememnt"_s);
+    EXPECT_EQ(factory->classNameForBase(u"autoSaveVariable"_s), u"AutoSettingVariable"_s);
+    EXPECT_EQ(factory->displayNameForClass(u"MappingVariable"_s), u"Modbus Map Variable"_s);
+    EXPECT_EQ(factory->classNameForDisplay(u"FTP Variable"_s), u"FtpVariable"_s);
+    for (const QString &name : factory->creatableNames()) {
+        const std::unique_ptr<DesignerObject> object(factory->createObject(name));
+        ASSERT_TRUE(object) << qPrintable(name);
+        EXPECT_EQ(object->className(), name);
+        EXPECT_EQ(object->parent(), QCoreApplication::instance());
+        EXPECT_FALSE(object->getIdName().isEmpty()) << qPrintable(name);
+    }
+    EXPECT_TRUE(factory->createTemplate(u"ElementTemplate"_s));
+    EXPECT_FALSE(factory->getObjectIcon(u"Screen"_s).isNull());
+
+    const Warnings warnings;
+    EXPECT_FALSE(factory->createObject({}));
+    EXPECT_FALSE(factory->createObject(u"Robot"_s));
+    EXPECT_EQ(Warnings::s_texts, QStringList({u"Failed to create designer object \"\"."_s,
+                                              u"Failed to create designer object \"Robot\"."_s}));
+}
+
+TEST(DesignerFactoryTest, FactoriesWithBadOrTakenNamesAreRefused)
+{
+    const struct
+    {
+        QStringList names;
+        QStringList bases;
+        QStringList displays;
+        QString warning;
+    } cases[] = {
+        {{u"Robot"_s}, {u"robot"_s}, {u"Robot"_s}, {}},
+        {{u"Robot"_s},
+         {u"robot"_s, u"robot2"_s},
+         {u"Robot"_s},
+         u"Mismatch items (class: 1, base: 2, display: 1)"_s},
+        {{u"Screen"_s},
+         {u"robot"_s},
+         {u"Robot"_s},
+         u"Class name 'Screen', base name 'robot', display name 'Robot' already exist."_s},
+        {{u"Robot"_s},
+         {u"screen"_s},
+         {u"Robot"_s},
+         u"Class name 'Robot', base name 'screen', display name 'Robot' already exist."_s},
+    };
+    for (const auto &[names, bases, displays, warning] : cases) {
+        DesignerFactory::createInstance(QCoreApplication::applicationDirPath());
+        OneClassFactory factory;
+        factory.names = names;
+        factory.bases = bases;
+        factory.displays = displays;
+        const Warnings warnings;
+        EXPECT_EQ(DesignerFactory::instance()->registerFactory(&factory), warning.isEmpty());
+        EXPECT_EQ(Warnings::s_texts, warning.isEmpty() ? QStringList() : QStringList(warning));
+    }
+    DesignerFactory::createInstance(QCoreApplication::applicationDirPath());
+    OneClassFactory thief;
+    thief.creatables = {u"Screen"_s};
+    thief.editors = {u"ColorEditor"_s};
+    const Warnings warnings;
+    EXPECT_TRUE(DesignerFactory::instance()->registerFactory(&thief));
+    EXPECT_EQ(Warnings::s_texts, QStringList({u"Unrecognized object \"Screen\"."_s,
+                                              u"Unrecognized property editor \"ColorEditor\"."_s}));
+}
+
+TEST(DesignerFactoryTest, OneBrokenPluginDoesNotStopTheOthers)
+{
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath(u"Plugins/DesignerObjects"_s));
+    QFile broken(folder.filePath(u"Plugins/DesignerObjects/broken.so"_s));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write("no library");
+    broken.close();
+    const Warnings warnings;
+    EXPECT_TRUE(DesignerFactory::createInstance(folder.path()));
+    EXPECT_EQ(DesignerFactory::instance()->pluginErrors(),
+              QStringList(u"Failed to load plugin from "_s + broken.fileName()));
+}
+
+} // namespace Halvane::Corvex::Designer
