@@ -5,6 +5,7 @@ include(GNUInstallDirs)
 
 option(CORVEX_BUILD_TESTS "Build the unit tests" ON)
 option(CORVEX_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(CORVEX_BUILD_EXAMPLES "Build the generator of example projects, as tests and benchmarks do" OFF)
 option(CORVEX_BUILD_FUZZERS "Build the libFuzzer targets (needs clang)" OFF)
 option(CORVEX_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(CORVEX_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)

@@ -5,7 +5,6 @@
 #include "corvex/common/TextHelper.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/PropertyValidators.h"
 #include "corvex/core/properties/IdentifierProperty.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/core/properties/ObjectListProperty.h"
@@ -16,7 +15,7 @@
 #include "corvex/hardware/HardwareConfigurations.h"
 #include "corvex/project/FileNameRules.h"
 #include "corvex/project/ProjectAutosave.h"
-#include "corvex/project/Screen.h"
+#include "corvex/values/ValueConversion.h"
 
 #include <QAction>
 #include <QFileInfo>
@@ -33,6 +32,15 @@ bool nameValidator(const DesignerProperty *property, QString &error)
 {
     error = FileNameRules::projectNameError(property->parentObject()->getIdName());
     return error.isEmpty();
+}
+
+bool screensValidator(const DesignerProperty *property, QString &error)
+{
+    if (property->listItemCount() > 0) {
+        return true;
+    }
+    error = Common::LocalizationHelper::coreString(u"At least one screen is required."_s);
+    return false;
 }
 
 bool defaultScreenValidator(const DesignerProperty *property, QString &error)
@@ -84,7 +92,7 @@ bool Project::initializeProperties()
     static const PropertyTable table{
         row<IdentifierProperty>("id", "Name", IdentifierInfo())
             .rank(0)
-            .validator(&nameValidator)
+            .validator(nameValidator)
             .allowInvalid(),
         row<StringProperty>("version", "Build Version", QString())
             .flags(1)
@@ -108,13 +116,13 @@ bool Project::initializeProperties()
             .flags(65)
             .rank(15)
             .filter({"Screen"})
-            .validator(&PropertyValidators::projectScreensValidator),
+            .validator(screensValidator),
         row<LinkProperty>("defaultScreen", "Default Screen", ObjectLinkInfo({}, u"Project"_s, u"Screen"_s))
             .flags(15)
             .rank(16)
             .parameter("scopeType", u"Project"_s)
             .parameter("filterType", u"Screen"_s)
-            .validator(&defaultScreenValidator)
+            .validator(defaultScreenValidator)
             .allowInvalid(),
     };
     if (!FileObject::initializeProperties() || !addProperties(table)) {
@@ -179,8 +187,16 @@ void Project::onConfigurationPropertyChanged(const SharedProperty &property)
 
 void Project::updateScreenSizes()
 {
+    if (!configurationObject()) {
+        return;
+    }
+    const QSizeF size = ValueConversion::toSize(configurationObject()->screenSize()->valueString());
     for (DesignerObject *screen : m_screens->listItems()) {
-        static_cast<Screen *>(screen)->onConfigurationSizeChanged();
+        const SharedProperty orientation = screen->getProperty(u"orientation");
+        const QString angle = orientation ? orientation->valueString() : QString();
+        const bool isTurned = angle == "90"_L1 || angle == "270"_L1;
+        screen->changePropertyValue(screen->getProperty(u"size"),
+                                    ValueConversion::toString(isTurned ? size.transposed() : size));
     }
 }
 

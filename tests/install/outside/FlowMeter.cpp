@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/core/DesignerObject.h"
 #include "corvex/core/IDesignerFactory.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/properties/IntegerProperty.h"
-#include "corvex/project/FunctionElement.h"
 
 #include <QObject>
 #include <QtPlugin>
@@ -10,24 +10,25 @@
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
-//! An element class that the library does not know.
-class FlowMeter : public FunctionElement
+//! An object class that the library does not know.
+class FlowMeter : public DesignerObject
 {
     Q_OBJECT
-    CORVEX_CLASS_NAMES(FlowMeter, FunctionElement)
+    CORVEX_CLASS_NAMES(FlowMeter, DesignerObject)
 
 public:
     explicit FlowMeter(QObject *parent)
-        : FunctionElement(parent)
+        : DesignerObject(parent)
     { }
 
 protected:
+    ObjectView *createGraphicsItem() override { return nullptr; }
     bool initializeProperties() override
     {
         static const PropertyTable table{
             row<IntegerProperty>("litres", "Litres per Minute", 12).flags(15),
         };
-        return FunctionElement::initializeProperties() && addProperties(table);
+        return DesignerObject::initializeProperties() && addProperties(table);
     }
 };
 

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PanelStyle.h"
+#include "ProjectBuilder.h"
+
+#include <QRect>
+
+#include <initializer_list>
+#include <utility>
+
+namespace Halvane::Corvex::Examples {
+
+//! An element of a screen that is being drawn: sets its properties in a chain.
+class ElementHandle
+{
+public:
+    ElementHandle(ProjectBuilder &builder, Designer::DesignerObject *element)
+        : m_builder(&builder)
+        , m_element(element)
+    { }
+
+    const ElementHandle &set(const char *propertyId, const QString &value) const;
+    const ElementHandle &link(const char *propertyId, const char *target) const;
+    //! \a expression as ExpressionReader reads it, in UTF-8.
+    const ElementHandle &bind(const char *propertyId, const char *expression) const;
+
+private:
+    ProjectBuilder *m_builder;
+    Designer::DesignerObject *m_element;
+};
+
+//! Draws one screen of the panel. Rectangles are in pixels of the screen, or of the group that is open.
+class PanelScreen
+{
+public:
+    using TextStyle = PanelStyle::TextStyle;
+    using Face = PanelStyle::Face;
+    //! What has to hold, and the assignments that are made then.
+    using Rule = std::pair<const char *, const char *>;
+    //! A property of an element and the value that it gets.
+    struct Change
+    {
+        const char *element;
+        const char *property;
+        QString value;
+    };
+
+    PanelScreen(ProjectBuilder &builder, Designer::Screen *screen);
+
+    ElementHandle text(const char *name, const QRect &place, const char *text, const TextStyle &style);
+    ElementHandle rectangle(const char *name, const QRect &place, const Face &face);
+    ElementHandle image(const char *name, const QRect &place, const char *file);
+    //! A card with its heading.
+    void card(const char *name, const QRect &place, const char *heading);
+    void openGroup(const char *name, const QPoint &position);
+    void closeGroup();
+
+    //! A face with a caption that makes assignments when it is pressed; the face is called "nameFace".
+    void pushButton(const char *name, const QRect &place, const char *caption, QRgb color,
+                    const char *assignments);
+    //! A picture that makes assignments when it is pressed; the picture is called "namePicture".
+    void pictureButton(const char *name, const QRect &place, const char *file, const char *assignments);
+    ElementHandle function(const char *className, const char *name);
+    ElementHandle channel(const char *className, const char *name, int number);
+    void logic(const char *name, std::initializer_list<Rule> rules);
+    void action(const char *name, std::initializer_list<Change> changes);
+    //! The text of a state: what the elements look like in it.
+    static QString state(std::initializer_list<Change> changes);
+    void filter(const char *name, std::initializer_list<const char *> elements);
+
+    static QString colorText(QRgb color);
+
+private:
+    ElementHandle add(const char *className, const char *name);
+    ElementHandle addPlaced(const char *className, const char *name, const QRect &place);
+
+    ProjectBuilder &m_builder;
+    Designer::Screen *m_screen;
+    QList<Designer::DesignerObject *> m_owners; //!< the screen and the groups that are open, innermost last
+};
+
+} // namespace Halvane::Corvex::Examples

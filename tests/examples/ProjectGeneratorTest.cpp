@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/Screen.h"
+
+#include "ExampleTest.h"
+#include "ProjectGenerator.h"
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Examples {
+
+namespace {
+
+class ProjectGeneratorTest : public ExampleTest
+{
+protected:
+    static std::unique_ptr<Project> generate(ProjectSize size, quint64 seed)
+    {
+        ProjectGenerator generator(u"Plant"_s, size, seed);
+        std::unique_ptr<Project> project = generator.generate();
+        EXPECT_EQ(generator.problems(), QStringList());
+        return project;
+    }
+
+    void giveFile(Project &project) const
+    {
+        ASSERT_TRUE(QDir(folder.path()).mkpath(u"Plant/Images"_s));
+        ASSERT_TRUE(ProjectGenerator::writeImages(folder.filePath(u"Plant/Images"_s)));
+        ASSERT_TRUE(project.createFile(folder.path())) << qPrintable(project.fileError());
+    }
+};
+
+qsizetype elementCount(const Project &project)
+{
+    qsizetype count = 0;
+    for (const DesignerObject *screen : project.screens()->listItems()) {
+        count += static_cast<const Screen *>(screen)->getElementNames().size();
+    }
+    return count;
+}
+
+} // namespace
+
+TEST_F(ProjectGeneratorTest, MakesAValidProjectThatSurvivesItsFile)
+{
+    const std::unique_ptr<Project> project = generate(*ProjectSize::named(u"S"_s), 7);
+    giveFile(*project);
+    project->validate();
+    EXPECT_EQ(faults(*project), QStringList());
+
+    const std::unique_ptr<Project> loaded = load(project->fullFilePath());
+    EXPECT_TRUE(loaded->readNotes().isEmpty());
+    loaded->validate();
+    EXPECT_EQ(faults(*loaded), QStringList());
+    EXPECT_TRUE(saved(*loaded) == bytesOf(project->fullFilePath()));
+}
+
+TEST_F(ProjectGeneratorTest, DependsOnItsArgumentsAlone)
+{
+    constexpr ProjectSize size{5, 40, 200};
+    const QByteArray bytes = saved(*generate(size, 7));
+    EXPECT_TRUE(saved(*generate(size, 7)) == bytes);
+    EXPECT_FALSE(saved(*generate(size, 8)) == bytes);
+}
+
+TEST_F(ProjectGeneratorTest, MakesExactlyAsMuchAsIsAskedFor)
+{
+    constexpr ProjectSize sizes[] = {{1, 8, 1}, {1, 9, 400}, {3, 30, 10}, {7, 8, 7}, {30, 1'000, 1'000}};
+    for (const ProjectSize &size : sizes) {
+        for (const quint64 seed : {1, 2, 3}) {
+            const std::unique_ptr<Project> project = generate(size, seed);
+            EXPECT_EQ(project->screens()->listItemCount(), size.screens);
+            EXPECT_EQ(project->variables()->listItemCount(), size.variables);
+            EXPECT_EQ(elementCount(*project), size.elements);
+        }
+    }
+}
+
+TEST_F(ProjectGeneratorTest, TellsWhichCountsCannotBeMet)
+{
+    EXPECT_EQ((ProjectSize{1, 8, 1}.problem()), QString());
+    EXPECT_EQ((ProjectSize{0, 8, 1}.problem()), u"A project has at least one screen."_s);
+    EXPECT_EQ((ProjectSize{1, 7, 1}.problem()), u"There are at least 8 variables, one of each kind."_s);
+    EXPECT_EQ((ProjectSize{9, 8, 8}.problem()), u"Each screen has at least one element."_s);
+    EXPECT_FALSE(ProjectSize::named(u"XL"_s));
+}
+
+} // namespace Halvane::Corvex::Examples

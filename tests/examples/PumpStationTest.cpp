@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/project/Element.h"
+#include "corvex/project/Screen.h"
+#include "corvex/project/VisualElement.h"
+#include "corvex/values/ValueConversion.h"
+
+#include "ExampleTest.h"
+#include "PumpStation.h"
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Examples {
+
+namespace {
+
+const QString examples = QStringLiteral(CORVEX_EXAMPLES);
+const QString projectFile = examples + u"/PumpStation/PumpStation.kdproj"_s;
+
+class PumpStationTest : public ExampleTest
+{ };
+
+} // namespace
+
+TEST_F(PumpStationTest, LoadsCleanAndSavesTheSameBytes)
+{
+    const std::unique_ptr<Project> project = load(projectFile);
+    EXPECT_TRUE(project->readNotes().isEmpty());
+    project->validate();
+    EXPECT_EQ(faults(*project), QStringList());
+    EXPECT_TRUE(saved(*project) == bytesOf(projectFile));
+}
+
+TEST_F(PumpStationTest, IsWhatTheGeneratorDraws)
+{
+    PumpStation station;
+    const std::unique_ptr<Project> project = station.build();
+    EXPECT_EQ(station.problems(), QStringList());
+    ASSERT_TRUE(project->createFile(folder.path())) << qPrintable(project->fileError());
+    EXPECT_TRUE(bytesOf(project->fullFilePath()) == bytesOf(projectFile))
+        << "examples/generate --pump-station examples renews it";
+
+    const QString images = folder.filePath(u"PumpStation/Images"_s);
+    ASSERT_TRUE(QDir().mkpath(images) && PumpStation::writeImages(images));
+    EXPECT_EQ(QDir(images).entryList(QDir::Files),
+              QDir(examples + u"/PumpStation/Images"_s).entryList(QDir::Files));
+    project->validate();
+    EXPECT_EQ(faults(*project), QStringList());
+}
+
+TEST_F(PumpStationTest, HoldsAllThatThereIsToShow)
+{
+    const std::unique_ptr<Project> project = load(projectFile);
+    QSet<QString> classes;
+    QSet<QString> expressions;
+    for (const SharedProperty &list : {project->screens(), project->variables(), project->imageResources()}) {
+        for (const DesignerObject *object : list->listItems(true)) {
+            classes.insert(object->className());
+            for (const SharedProperty &property : object->properties()) {
+                if (property->isKindOfClass(u"GeneralDataListProperty"_s)
+                    && !property->valueString().isEmpty()) {
+                    expressions.insert(property->id());
+                }
+            }
+        }
+    }
+    for (const char *name : {"NumberVariable",
+                             "StringVariable",
+                             "BooleanVariable",
+                             "ColorVariable",
+                             "AutoSettingVariable",
+                             "MappingVariable",
+                             "LogVariable",
+                             "ImageResource",
+                             "GroupElement",
+                             "FilterElement",
+                             "Text",
+                             "Rectangle",
+                             "Image",
+                             "Button",
+                             "CheckButton",
+                             "NumberSpinner",
+                             "ScreenLoader",
+                             "LogicBuilder",
+                             "PropertyTrigger",
+                             "Action",
+                             "DataLogging",
+                             "ModbusCommands",
+                             "AlarmOutput",
+                             "AnalogInput",
+                             "DigitalInputOutput",
+                             "PwmOutput",
+                             "SerialCOMPort",
+                             "ThermistorInput",
+                             "EthernetPort",
+                             "CANBusDevice"}) {
+        EXPECT_TRUE(classes.contains(QString::fromLatin1(name))) << name;
+    }
+    for (const char *id : {"textBinding", "colorBinding", "visibleBinding", "xBinding", "yBinding",
+                           "rotationBinding", "pressed", "condition", "dataValues", "initValue"}) {
+        EXPECT_TRUE(expressions.contains(QString::fromLatin1(id))) << id;
+    }
+}
+
+TEST_F(PumpStationTest, StaysInsideItsScreens)
+{
+    const std::unique_ptr<Project> project = load(projectFile);
+    for (const DesignerObject *item : project->screens()->listItems()) {
+        const auto *screen = kindCast<Screen>(item);
+        const QRectF area(QPointF(), ValueConversion::toSize(screen->size()->valueString()));
+        EXPECT_EQ(area.size(), QSizeF(800, 480));
+        for (const DesignerObject *element : screen->elements()->listItems()) {
+            if (const auto *visual = kindCast<VisualElement>(element)) {
+                EXPECT_TRUE(area.contains(visual->boundingRect())) << qPrintable(visual->objectPath());
+            }
+        }
+    }
+}
+
+} // namespace Halvane::Corvex::Examples
