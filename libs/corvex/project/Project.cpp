@@ -10,6 +10,8 @@
 #include "corvex/core/properties/ObjectListProperty.h"
 #include "corvex/core/properties/ObjectProperty.h"
 #include "corvex/core/properties/StringProperty.h"
+#include "corvex/editing/undo/UndoCommand.h"
+#include "corvex/editing/undo/UndoStack.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/hardware/HardwareConfigurations.h"
@@ -20,7 +22,6 @@
 #include <QAction>
 #include <QFileInfo>
 #include <QSet>
-#include <QUndoStack>
 
 using namespace Qt::StringLiterals;
 
@@ -274,19 +275,39 @@ bool Project::upgradeToCurrentVersion()
     return true;
 }
 
-QUndoStack *Project::undoStack()
+UndoStack *Project::undoStack()
 {
     if (!m_undoStack) {
-        m_undoStack = new QUndoStack(this);
-        connect(m_undoStack, &QUndoStack::indexChanged, m_autosave.get(), &ProjectAutosave::countEdit);
+        m_undoStack = new UndoStack(this);
+        connect(m_undoStack, &UndoStack::indexChanged, m_autosave.get(), &ProjectAutosave::countEdit);
     }
     return m_undoStack;
 }
 
 void Project::createUndoStack()
 {
-    undoStack()->clear();
+    undoStack()->startOver();
     m_autosave->startOver();
+}
+
+void Project::emitUserModified(const UndoCommand *command)
+{
+    if (command && command->project() == this) {
+        emit userModified();
+    }
+}
+
+bool Project::checkStackIsSame(const UndoCommand *command, const UndoStack *stack)
+{
+    if (!stack) {
+        return false;
+    }
+    const int index = stack->currentIndex();
+    const auto *last = index > 0 ? dynamic_cast<const UndoCommand *>(stack->command(index - 1)) : nullptr;
+    if (!command) {
+        return (!stack->canUndo() && !stack->canRedo()) || index == 0 || !last;
+    }
+    return last == command;
 }
 
 QAction *Project::createUndoAction()
@@ -294,8 +315,8 @@ QAction *Project::createUndoAction()
     if (!m_undoAction) {
         m_undoAction = new QAction(Common::LocalizationHelper::coreString(u"Undo"_s), this);
         m_undoAction->setEnabled(undoStack()->canUndo());
-        connect(m_undoStack, &QUndoStack::canUndoChanged, m_undoAction, &QAction::setEnabled);
-        connect(m_undoAction, &QAction::triggered, m_undoStack, &QUndoStack::undo);
+        connect(m_undoStack, &UndoStack::canUndoChanged, m_undoAction, &QAction::setEnabled);
+        connect(m_undoAction, &QAction::triggered, m_undoStack, &UndoStack::undo);
     }
     return m_undoAction;
 }
@@ -305,8 +326,8 @@ QAction *Project::createRedoAction()
     if (!m_redoAction) {
         m_redoAction = new QAction(Common::LocalizationHelper::coreString(u"Redo"_s), this);
         m_redoAction->setEnabled(undoStack()->canRedo());
-        connect(m_undoStack, &QUndoStack::canRedoChanged, m_redoAction, &QAction::setEnabled);
-        connect(m_redoAction, &QAction::triggered, m_undoStack, &QUndoStack::redo);
+        connect(m_undoStack, &UndoStack::canRedoChanged, m_redoAction, &QAction::setEnabled);
+        connect(m_redoAction, &QAction::triggered, m_undoStack, &UndoStack::redo);
     }
     return m_redoAction;
 }

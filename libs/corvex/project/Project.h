@@ -8,13 +8,14 @@
 #include <QHash>
 
 class QAction;
-class QUndoStack;
 
 namespace Halvane::Corvex::Designer {
 
 class Configuration;
 class ImageResource;
 class ProjectAutosave;
+class UndoCommand;
+class UndoStack;
 
 /*! The root of everything that a user designs: screens, variables, images and the configuration of the
    device.
@@ -94,9 +95,14 @@ public:
 
     // Undo.
     //! The history of edits, owned by the project.
-    QUndoStack *undoStack();
+    UndoStack *undoStack();
     //! Begins a new history: all that could be undone is forgotten.
     void createUndoStack();
+    //! Tells userModified() when the command acts in this project.
+    void emitUserModified(const UndoCommand *command);
+    /*! Whether \a command is the one that \a stack did last; without a command, whether nothing was done that could
+        be told from another state. */
+    static bool checkStackIsSame(const UndoCommand *command, const UndoStack *stack);
     //! Made once, owned by the project, and in need of a GUI application object.
     QAction *createUndoAction();
     QAction *createRedoAction();
@@ -120,6 +126,10 @@ public:
     //! The properties of an object that an auto-setting variable saves and restores, by the object's name.
     RuntimeAutoSettingList objectAutoSaveVariablesList(const QString &objectName) const;
     void updateObjectAutoSaveVariablesList(const QString &objectName, const RuntimeAutoSettingList &list);
+
+signals:
+    //! The user has edited the project.
+    void userModified();
 
 protected:
     explicit Project(QObject *parent = nullptr);
@@ -156,7 +166,7 @@ private:
     SharedProperty m_screens;
     SharedProperty m_defaultScreen;
     QHash<QString, RuntimeAutoSettingList> m_autoSaveVariables;
-    QUndoStack *m_undoStack = nullptr;
+    UndoStack *m_undoStack = nullptr;
     QAction *m_undoAction = nullptr;
     QAction *m_redoAction = nullptr;
     std::unique_ptr<ProjectAutosave> m_autosave;

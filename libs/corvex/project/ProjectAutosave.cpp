@@ -3,6 +3,7 @@
 
 #include "corvex/common/FileHelper.h"
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/ZipWorker.h"
 
@@ -11,7 +12,6 @@
 #include <QTemporaryDir>
 #include <QThread>
 #include <QTimerEvent>
-#include <QUndoStack>
 
 using namespace Qt::StringLiterals;
 

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/undo/UndoCommand.h"
+
+#include "corvex/core/DesignerObject.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+UndoCommand::UndoCommand() = default;
+
+UndoCommand::UndoCommand(const SharedProperty &property, bool selected, UndoCommand *parent)
+    : QUndoCommand(parent)
+    , m_property(property)
+    , m_parent(parent)
+    , m_isSelected(selected)
+{ }
+
+UndoCommand::~UndoCommand() = default;
+
+const UndoCommand *UndoCommand::childCommand(int index) const
+{
+    return dynamic_cast<const UndoCommand *>(child(index));
+}
+
+DesignerObject *UndoCommand::owner() const
+{
+    return m_property ? m_property->parentObject() : nullptr;
+}
+
+void UndoCommand::undo()
+{
+    if (childCount() > 0) {
+        QUndoCommand::undo();
+    }
+}
+
+void UndoCommand::redo()
+{
+    if (childCount() > 0) {
+        QUndoCommand::redo();
+    }
+}
+
+QList<DesignerObject *> UndoCommand::selectedItems()
+{
+    QList<DesignerObject *> items;
+    if (childCount() == 0) {
+        if (owner() && m_isSelected) {
+            items.append(owner());
+        }
+        return items;
+    }
+    QSet<DesignerObject *> known;
+    for (int i = 0; i < childCount(); ++i) {
+        auto *command = const_cast<UndoCommand *>(childCommand(i));
+        for (DesignerObject *item : command ? command->selectedItems() : QList<DesignerObject *>()) {
+            if (!known.contains(item)) {
+                known.insert(item);
+                items.append(item);
+            }
+        }
+    }
+    return items;
+}
+
+bool UndoCommand::isValid() const
+{
+    if (childCount() > 0) {
+        const UndoCommand *first = childCommand(0);
+        return first && first->isValid();
+    }
+    return owner();
+}
+
+DesignerObject *UndoCommand::deletionCandidate() const
+{
+    return nullptr;
+}
+
+DesignerObject *UndoCommand::activeItem() const
+{
+    for (int i = 0; i < childCount(); ++i) {
+        const UndoCommand *command = childCommand(i);
+        if (DesignerObject *item = command ? command->activeItem() : nullptr) {
+            return item;
+        }
+    }
+    return nullptr;
+}
+
+UndoCommand::Deletion UndoCommand::deletion() const
+{
+    return Deletion::None;
+}
+
+Screen *UndoCommand::screen() const
+{
+    for (int i = 0; i < childCount(); ++i) {
+        const UndoCommand *command = childCommand(i);
+        const bool isAboutImages =
+            command && command->property() && command->property()->id() == "imageResources"_L1;
+        if (command && !isAboutImages) {
+            return command->screen();
+        }
+    }
+    return owner() ? owner()->screen() : nullptr;
+}
+
+Project *UndoCommand::project() const
+{
+    if (childCount() > 0) {
+        const UndoCommand *first = childCommand(0);
+        return first ? first->project() : nullptr;
+    }
+    const DesignerObject *object = owner();
+    if (object && object->isKindOfClass(u"FilterElement"_s)) {
+        // A filter belongs to its screen; the screen knows the project.
+        for (const DesignerObject *holder = object; holder; holder = holder->ownerObject()) {
+            if (holder->isKindOfClass(u"Screen"_s)) {
+                return holder->project();
+            }
+        }
+    }
+    return object ? object->project() : nullptr;
+}
+
+DesignerProperty *UndoCommand::idProperty() const
+{
+    if (childCount() > 0) {
+        const UndoCommand *first = childCommand(0);
+        return first ? first->idProperty() : nullptr;
+    }
+    return m_property && m_property->id() == "id"_L1 ? m_property.data() : nullptr;
+}
+
+} // namespace Halvane::Corvex::Designer

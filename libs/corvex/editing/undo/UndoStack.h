@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QUndoStack>
+
+namespace Halvane::Corvex::Designer {
+
+class DesignerObject;
+class UndoCommand;
+
+/*! The history of a project's edits, without a limit.
+
+    Index 0 means saved: the owner begins a new history whenever the project is made, loaded or saved. Beside
+   the history the stack knows which object to go to after the last move, and whether that move did or undid a
+   deletion that panels treat apart.
+*/
+class UndoStack : public QUndoStack
+{
+    Q_OBJECT
+    Q_MOC_INCLUDE("corvex/core/DesignerObject.h")
+
+public:
+    explicit UndoStack(QObject *parent = nullptr);
+    ~UndoStack() override;
+
+    //! Takes over the command and does it. A command that is not valid is not to be pushed.
+    void push(UndoCommand *command);
+    //! Begins a new history: what could be undone is forgotten, and what is now counts as saved.
+    void startOver();
+    //! Deletes the objects that commands named for it, except those that are back in the model.
+    void deleteCandidates();
+    //! While blocked, moves are followed without a word.
+    void blockActiveItemChangedSignal(bool block) { m_isActiveItemSignalBlocked = block; }
+
+    int previousIndex() const { return m_previousIndex; }
+    int currentIndex() const { return m_currentIndex; }
+    bool isSaved() const { return m_currentIndex == 0; }
+    //! Whether the last move went back, or forth.
+    bool isUndoToCurrentIndex() const { return m_previousIndex > m_currentIndex; }
+    bool isRedoToCurrentIndex() const { return m_previousIndex < m_currentIndex; }
+    bool isDeleteScreen() const { return m_isDeleteScreen; }
+    bool isDeleteImage() const { return m_isDeleteImage; }
+    bool isDeleteVariable() const { return m_isDeleteVariable; }
+    DesignerObject *activeItem() const { return m_activeItem; }
+
+signals:
+    void activeItemChanged(Halvane::Corvex::Designer::DesignerObject *item);
+    void savedChanged(bool saved);
+
+private:
+    void onIndexChanged(int index);
+    const UndoCommand *decidingCommand(int index) const;
+
+    QList<DesignerObject *> m_deletionCandidates;
+    const UndoCommand *m_lastPushed = nullptr;
+    DesignerObject *m_activeItem = nullptr;
+    int m_previousIndex = 0;
+    int m_currentIndex = 0;
+    bool m_isDeleteScreen = false;
+    bool m_isDeleteImage = false;
+    bool m_isDeleteVariable = false;
+    bool m_isActiveItemSignalBlocked = false;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/editing/undo/UndoCommand.h"
+#include "corvex/editing/undo/UndoStack.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+DesignerObject *make(const char *className)
+{
+    if (!DesignerFactory::instance()) {
+        DesignerFactory::createInstance(QCoreApplication::applicationDirPath());
+    }
+    DesignerObject *object = DesignerFactory::instance()->createObject(QString::fromLatin1(className));
+    object->setParent(nullptr);
+    return object;
+}
+
+//! A command that answers what the test wants and counts what is done with it.
+class Step : public UndoCommand
+{
+public:
+    using UndoCommand::UndoCommand;
+
+    void undo() override { --done; }
+    void redo() override { ++done; }
+    DesignerObject *deletionCandidate() const override { return candidate; }
+    DesignerObject *activeItem() const override { return active; }
+    Deletion deletion() const override { return kind; }
+
+    DesignerObject *candidate = nullptr;
+    DesignerObject *active = nullptr;
+    Deletion kind = Deletion::None;
+    int done = 0;
+};
+
+} // namespace
+
+TEST(UndoStackTest, MovesTellTheSavedStateTheDirectionAndTheActiveItem)
+{
+    const std::unique_ptr<DesignerObject> first(make("Screen"));
+    const std::unique_ptr<DesignerObject> second(make("Screen"));
+    UndoStack stack;
+    const QSignalSpy saved(&stack, &UndoStack::savedChanged);
+    const QSignalSpy active(&stack, &UndoStack::activeItemChanged);
+    auto *one = new Step;
+    one->active = first.get();
+    auto *two = new Step;
+    two->active = second.get();
+    two->kind = UndoCommand::Deletion::Image;
+    auto *three = new Step;
+    three->kind = UndoCommand::Deletion::Screen;
+    stack.push(one);
+    EXPECT_EQ(stack.activeItem(), first.get());
+    stack.push(two);
+    EXPECT_TRUE(stack.isDeleteImage());
+    stack.push(three);
+    EXPECT_TRUE(stack.isDeleteScreen());
+    EXPECT_FALSE(stack.isDeleteImage());
+    EXPECT_EQ(stack.activeItem(), nullptr);
+    EXPECT_TRUE(stack.isRedoToCurrentIndex());
+
+    stack.undo();
+    EXPECT_EQ(stack.activeItem(), second.get()) << "the command that is the last now decides";
+    EXPECT_TRUE(stack.isDeleteImage());
+    EXPECT_TRUE(stack.isUndoToCurrentIndex());
+    EXPECT_EQ(stack.previousIndex(), 3);
+    stack.redo();
+    EXPECT_TRUE(stack.isDeleteScreen());
+
+    EXPECT_EQ(saved.size(), 1);
+    stack.setIndex(0);
+    EXPECT_TRUE(stack.isSaved());
+    EXPECT_EQ(stack.activeItem(), nullptr);
+    stack.redo();
+    ASSERT_EQ(saved.size(), 3);
+    EXPECT_EQ(saved.at(0).at(0), false);
+    EXPECT_EQ(saved.at(1).at(0), true);
+    EXPECT_EQ(saved.at(2).at(0), false);
+
+    const qsizetype told = active.size();
+    stack.blockActiveItemChangedSignal(true);
+    stack.redo();
+    EXPECT_EQ(active.size(), told);
+    EXPECT_EQ(stack.activeItem(), second.get());
+    EXPECT_TRUE(stack.isDeleteImage());
+}
+
+TEST(UndoStackTest, CandidatesDieOnceAndOnlyOutOfTheModel)
+{
+    QPointer<DesignerObject> lost(make("Screen"));
+    QPointer<DesignerObject> back(make("Screen"));
+    QObject model;
+    back->setParent(&model);
+    {
+        UndoStack stack;
+        for (DesignerObject *candidate : {lost.data(), lost.data(), back.data()}) {
+            auto *step = new Step;
+            step->candidate = candidate;
+            stack.push(step);
+        }
+    }
+    EXPECT_FALSE(lost);
+    EXPECT_TRUE(back);
+}
+
+TEST(UndoStackTest, LeavesAnswerFromTheirPropertyCompositesFromTheirChildren)
+{
+    const std::unique_ptr<DesignerObject> screen(make("Screen"));
+    const std::unique_ptr<DesignerObject> image(make("ImageResource"));
+    EXPECT_FALSE(UndoCommand().isValid());
+
+    UndoCommand composite;
+    EXPECT_EQ(composite.screen(), nullptr);
+    auto *first = new Step(screen->idProperty(), true, &composite);
+    first->active = screen.get();
+    auto *again = new UndoCommand(screen->getProperty(u"color"), true, &composite);
+    new UndoCommand(SharedProperty(), true, &composite);
+    new UndoCommand(image->idProperty(), false, &composite);
+    EXPECT_TRUE(composite.isValid()) << "the first child decides";
+    EXPECT_EQ(composite.selectedItems(), QList<DesignerObject *>({screen.get()})) << "each object once";
+    EXPECT_EQ(composite.activeItem(), screen.get());
+    EXPECT_EQ(composite.idProperty(), screen->idProperty().data());
+    EXPECT_EQ(composite.screen(), screen->screen());
+    EXPECT_EQ(first->parentCommand(), &composite);
+    EXPECT_EQ(again->idProperty(), nullptr);
+    composite.redo();
+    EXPECT_EQ(first->done, 1);
+    composite.undo();
+    EXPECT_EQ(first->done, 0);
+
+    UndoCommand bad;
+    new QUndoCommand(&bad);
+    EXPECT_FALSE(bad.isValid());
+    EXPECT_TRUE(bad.selectedItems().isEmpty());
+}
+
+} // namespace Halvane::Corvex::Designer
