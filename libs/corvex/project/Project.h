@@ -100,8 +100,8 @@ public:
     void createUndoStack();
     //! Tells userModified() when the command acts in this project.
     void emitUserModified(const UndoCommand *command);
-    /*! Whether \a command is the one that \a stack did last; without a command, whether nothing was done that could
-        be told from another state. */
+    /*! Whether \a command is the one that \a stack did last; without a command, whether nothing was done that
+       could be told from another state. */
     static bool checkStackIsSame(const UndoCommand *command, const UndoStack *stack);
     //! Made once, owned by the project, and in need of a GUI application object.
     QAction *createUndoAction();
