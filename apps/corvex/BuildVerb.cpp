@@ -4,6 +4,7 @@
 
 #include "Call.h"
 #include "DeviceFolder.h"
+#include "Installation.h"
 #include "JsonWriter.h"
 #include "ProjectFile.h"
 #include "ProjectProblems.h"
@@ -60,11 +61,12 @@ ExitCode run(const Call &call)
         return call.misused(u"The folder for the build is missing: corvex build FILE -o DIR."_s);
     }
     ProjectFile file;
-    if (!file.open(call)) {
+    const ConfigurationContainer *models = file.open(call) ? Installation::loadModels(call) : nullptr;
+    if (!models) {
         return ExitCode::File;
     }
     call.terminal().showProgress(u"checking %1"_s.arg(file.path()));
-    const QList<Problem> problems = ProjectProblems::find(file);
+    const QList<Problem> problems = ProjectProblems::find(file, *models);
     if (!isAccepted(problems, file, call)) {
         return ExitCode::Problems;
     }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Call.h"
+#include "Installation.h"
 #include "ProjectFile.h"
 #include "ProjectProblems.h"
 #include "Terminal.h"
@@ -14,11 +15,13 @@ namespace {
 ExitCode run(const Call &call)
 {
     ProjectFile file;
-    if (!file.open(call)) {
+    const Designer::ConfigurationContainer *models =
+        file.open(call) ? Installation::loadModels(call) : nullptr;
+    if (!models) {
         return ExitCode::File;
     }
     call.terminal().showProgress(u"checking %1"_s.arg(file.path()));
-    const QList<Problem> problems = ProjectProblems::find(file);
+    const QList<Problem> problems = ProjectProblems::find(file, *models);
     if (call.asJson()) {
         ProjectProblems::printJson(problems, call.terminal());
     } else {

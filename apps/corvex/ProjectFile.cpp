@@ -26,13 +26,19 @@ QString advice(const QString &path)
     if (!info.exists()) {
         return u"Name the .kdproj file of a project; \"corvex new\" makes one."_s;
     }
+    if (info.isFile()) {
+        return u"Mend the file at that place, or take it from a copy."_s;
+    }
     const QStringList projects =
         info.isDir() ? QDir(path).entryList({u"*.kdproj"_s}, QDir::Files, QDir::Name) : QStringList();
-    if (!projects.isEmpty()) {
-        return u"Did you mean \"%1\"?"_s.arg(QDir(path).filePath(projects.constFirst()));
-    }
-    return info.isDir() ? u"Name the .kdproj file of a project."_s
-                        : u"Mend the file at that place, or take it from a copy."_s;
+    return projects.size() == 1 ? u"Did you mean \"%1\"?"_s.arg(QDir(path).filePath(projects.constFirst()))
+                                : u"Name the .kdproj file of a project."_s;
+}
+
+//! The parser's messages have no full stop.
+QString sentence(const QString &text)
+{
+    return text.endsWith(u'.') ? text : text + u'.';
 }
 
 void collectKept(const DesignerObject &owner, QList<ProjectFile::Kept> &kept)
@@ -75,8 +81,8 @@ bool ProjectFile::open(const Call &call)
     if (m_project && m_project->loadFile(m_path)) {
         return true;
     }
-    call.failed(
-        u"%1 %2"_s.arg(m_project ? m_project->fileError() : u"No project can be made."_s, advice(m_path)));
+    const QString error = m_project ? m_project->fileError() : u"No project can be made."_s;
+    call.failed(u"%1 %2"_s.arg(sentence(error), advice(m_path)));
     return false;
 }
 

@@ -4,6 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/editors/ExpressionSyntax.h"
+#include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/Project.h"
 
 #include "JsonWriter.h"
@@ -54,39 +55,42 @@ public:
     void checkScreen(const DesignerObject &screen)
     {
         const ExpressionSyntax::Result result = m_syntax.checkDocument(screen.toQml(0));
-        if (result.valid) {
-            return;
-        }
-        const qsizetype before = m_problems.size();
-        for (const DesignerObject *element : screen.childObjects()) {
-            checkElement(*element);
-        }
-        if (m_problems.size() == before) {
+        if (!result.valid && !explains(screen.childObjects())) {
             add(screen, {}, result);
         }
     }
 
 private:
-    void checkElement(const DesignerObject &element)
+    //! Whether one of the elements has wrong code, which is then among the problems.
+    bool explains(const QList<DesignerObject *> &elements)
+    {
+        bool found = false;
+        for (const DesignerObject *element : elements) {
+            found = checkElement(*element) || found;
+        }
+        return found;
+    }
+
+    bool checkElement(const DesignerObject &element)
     {
         const ExpressionSyntax::Result result = m_syntax.checkDocument(element.toQml(0));
         if (result.valid) {
-            return;
+            return false;
         }
-        const qsizetype before = m_problems.size();
+        bool found = explains(element.childObjects());
         for (const SharedProperty &property : element.properties()) {
             const QString member = property->isList() ? QString() : property->toQml(0);
-            if (const auto ofMember = m_syntax.checkDocument(u"Item {\n%1\n}"_s.arg(member));
-                !ofMember.valid) {
+            const auto ofMember = m_syntax.checkDocument(u"Item {\n%1\n}"_s.arg(member));
+            found = found || !ofMember.valid;
+            // What comes of an invalid value is told already.
+            if (!ofMember.valid && property->isValid()) {
                 add(element, property->id(), ofMember);
             }
         }
-        for (const DesignerObject *child : element.childObjects()) {
-            checkElement(*child);
-        }
-        if (m_problems.size() == before) {
+        if (!found) {
             add(element, {}, result);
         }
+        return true;
     }
 
     void add(const DesignerObject &object, const QString &property, const ExpressionSyntax::Result &result)
@@ -109,12 +113,15 @@ QString Problem::toString() const
     return Terminal::oneLine(text);
 }
 
-QList<Problem> ProjectProblems::find(const ProjectFile &file)
+QList<Problem> ProjectProblems::find(const ProjectFile &file, const ConfigurationContainer &models)
 {
     const Project &project = file.project();
     QList<Problem> problems;
     for (const ReadNote &note : project.readNotes()) {
         problems.append({note.place, {}, note.message, note.line, note.column});
+    }
+    if (QString error; !models.match(project.configurationObject(), &error)) {
+        problems.append({project.objectPath(), project.configuration()->id(), error});
     }
     findInvalid(project, problems);
     CodeCheck code(problems);

@@ -5,7 +5,7 @@
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
-class DesignerObject;
+class ConfigurationContainer;
 }
 
 namespace Halvane::Corvex::Tool {
@@ -30,9 +30,9 @@ struct Problem
 class ProjectProblems
 {
 public:
-    //! What was not taken over from the file, what is invalid, and generated code that is none, in this
-    //! order.
-    static QList<Problem> find(const ProjectFile &file);
+    //! What was not taken over from the file, a model that is not among \a models, what is invalid, and
+    //! generated code that is none, in this order.
+    static QList<Problem> find(const ProjectFile &file, const Designer::ConfigurationContainer &models);
     static void printJson(const QList<Problem> &problems, Terminal &terminal);
 };
 

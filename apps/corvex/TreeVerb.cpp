@@ -80,7 +80,7 @@ public:
     void end() { --m_depth; }
     void addKept(const KeptItem &kept)
     {
-        print(u"%1 %2 (no plug-in knows this class)"_s.arg(kept.className, kept.name));
+        print(u"%1 %2 (kept as it stands in the file)"_s.arg(kept.className, kept.name));
     }
 
 private:

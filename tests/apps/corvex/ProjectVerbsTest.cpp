@@ -1,0 +1,317 @@
+// SPDX-License-Identifier: MIT
+#include "Sandbox.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QProcess>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace Halvane::Corvex::Test;
+using namespace Qt::StringLiterals;
+using testing::HasSubstr;
+
+namespace {
+
+const QString pump = u"Pump/Pump.kdproj"_s;
+
+//! A text and a group with two rectangles in it.
+QByteArray goodElements()
+{
+    return Sandbox::object("Text", "title", Sandbox::value("text", "Pump %1 \"A\"\n2"))
+           + Sandbox::object(
+               "GroupElement", "group1",
+               Sandbox::value("indexes", "box1 | box2") + "<Property name=\"elements\">\n<List>\n"
+                   + Sandbox::object("Rectangle", "box1", Sandbox::value("position", "x: 10; y: 20.5;"))
+                   + Sandbox::object("Rectangle", "box2") + "</List>\n</Property>\n");
+}
+
+} // namespace
+
+TEST(NewVerb, makesAProjectThatTheOtherVerbsOpen)
+{
+    const Sandbox sandbox;
+    const ProgramRun made = sandbox.run({u"new"_s, u"Kessel 1 ä"_s, u"--model"_s, u"VTR 50-K"_s});
+    EXPECT_EQ(made.out, u"Kessel 1 ä/Kessel 1 ä.kdproj\n"_s);
+    EXPECT_EQ(made.error, QString());
+    EXPECT_EQ(made.code, 0);
+    const QString file = made.out.trimmed();
+    EXPECT_EQ(sandbox.run({u"info"_s, file}).out, u"name:           Kessel 1 ä\n"
+                                                  "version:        Kessel 1 ä-4.0.0\n"
+                                                  "written by:     4.0.0\n"
+                                                  "model:          VTR 50-K\n"
+                                                  "default screen: Main\n"
+                                                  "\n"
+                                                  "objects:\n"
+                                                  "       1 Configuration\n"
+                                                  "       1 Screen\n"_s);
+    EXPECT_EQ(sandbox.run({u"tree"_s, file}).out,
+              u"Project Kessel 1 ä\n  Configuration VTR 50-K\n  Screen Main\n"_s);
+    EXPECT_EQ(sandbox.run({u"fmt"_s, file, u"--check"_s}).code, 0);
+    const ProgramRun checked = sandbox.run({u"check"_s, file});
+    EXPECT_EQ(checked.out, u"Main: elements: At least one element is required.\n"_s);
+    EXPECT_EQ(checked.code, 1);
+}
+
+TEST(NewVerb, touchesNothingThatIsThere)
+{
+    const Sandbox sandbox;
+    sandbox.write(u"Taken/Taken.kdproj"_s, "mine");
+    sandbox.write(u"Locked/file"_s, "");
+    struct Case
+    {
+        QStringList arguments;
+        int code;
+        QString error;
+    };
+    const QStringList model{u"--model"_s, u"VTR 50-K"_s};
+    const Case cases[] = {
+        {QStringList{u"Taken"_s} + model, 3, u"Taken/Taken.kdproj\" exists already."_s},
+        {QStringList{u"no/where"_s} + model, 3, u"no\" does not exist."_s},
+        {QStringList{u"Locked/file/x2"_s} + model, 3, u"Locked/file\" does not exist."_s},
+        {QStringList{u"Pump.kdproj"_s} + model, 2, u"corvex new \"Pump\" --model NAME."_s},
+        {QStringList{u"a:b"_s} + model, 2, u"\"corvex help new\" tells more."_s},
+        {QStringList{QString(249, u'a')} + model, 2,
+         u"The project's name cannot have more than 248 characters."_s},
+        {{u"Pump"_s}, 2, u"needs a path and a device model"_s},
+        {model, 2, u"needs a path and a device model"_s},
+        {{u"Pump"_s, u"--model"_s, u"VTR 50K"_s}, 2, u"\"VTR 50K\"; did you mean \"VTR 50-K\"?"_s},
+        {{u"Pump"_s, u"--model"_s, u"X"_s, u"--configurations"_s, u"nix"_s},
+         3,
+         u"\"nix\" of --configurations"_s},
+        {{u"Pump"_s, u"--model"_s, u"X"_s, u"--configurations"_s, u"Locked"_s},
+         3,
+         u"no device models in \"Locked"_s},
+    };
+    for (const auto &[arguments, code, error] : cases) {
+        const ProgramRun run = sandbox.run(QStringList{u"new"_s} + arguments);
+        EXPECT_EQ(run.code, code) << qPrintable(arguments.join(u' '));
+        EXPECT_EQ(run.out, QString());
+        EXPECT_THAT(run.error.toStdString(), HasSubstr(error.toStdString()));
+    }
+    EXPECT_EQ(sandbox.read(u"Taken/Taken.kdproj"_s), QByteArray("mine"));
+    EXPECT_EQ(sandbox.files(u"."_s), QStringList({u"Locked/file"_s, u"Taken/Taken.kdproj"_s}));
+    EXPECT_THAT(sandbox.run({u"new"_s, u"--list-models"_s}).out.split(u'\n'),
+                testing::Contains(u"VTR 50-K"_s));
+}
+
+TEST(TreeVerb, showsObjectsAndValues)
+{
+    const Sandbox sandbox;
+    sandbox.makeProject(goodElements() + Sandbox::object("Gauge", "gauge1"),
+                        Sandbox::object("NumberVariable", "speed", {}, "Project"),
+                        Sandbox::object("ImageResource", "pump.png", {}, "Project"));
+    EXPECT_EQ(sandbox.run({u"tree"_s, pump}).out, u"Project Pump\n"
+                                                  "  Configuration VTR 50-K\n"
+                                                  "  ImageResource pump.png\n"
+                                                  "  NumberVariable speed\n"
+                                                  "  Screen Main\n"
+                                                  "    Text title\n"
+                                                  "    GroupElement group1\n"
+                                                  "      Rectangle box1\n"
+                                                  "      Rectangle box2\n"
+                                                  "    Gauge gauge1 (kept as it stands in the file)\n"_s);
+    const struct
+    {
+        QString path;
+        QString out; //!< its first line
+    } cases[] = {
+        {u"Main.group1.box1.position"_s, u"x: 10; y: 20.5;"_s},
+        {u"Main.group1"_s, u"GroupElement group1"_s},
+        {u"Main.title.text"_s, u"Pump %1 \"A\""_s},
+        {u"speed.id"_s, u"filterType: NumberVariable; name: speed; scopeType: Project;"_s},
+        {u"pump.png"_s, u"ImageResource pump.png"_s},
+        {u"pump.png.id"_s, u"filterType: ImageResource; name: pump.png; scopeType: Project;"_s},
+        {u"configuration.screenSize"_s, u"height: 272; width: 480;"_s},
+        {u"VTR 50-K.displayBrightness"_s, u"100"_s},
+        {u"variables"_s, u"NumberVariable speed"_s},
+        {u"designerVersion"_s, u"4.0.0"_s},
+        {u"Pump"_s, u"Project Pump"_s},
+    };
+    for (const auto &[path, out] : cases) {
+        const ProgramRun run = sandbox.run({u"tree"_s, pump, path});
+        EXPECT_EQ(run.out.section(u'\n', 0, 0), out) << qPrintable(path);
+        EXPECT_EQ(run.code, 0);
+    }
+    for (const QString &path :
+         {u"Main.group1.box3"_s, u"box1"_s, u"Main.title.text.x"_s, u"Main."_s, u"."_s}) {
+        const ProgramRun run = sandbox.run({u"tree"_s, pump, path});
+        EXPECT_EQ(run.code, 2);
+        EXPECT_EQ(run.out, QString());
+        EXPECT_THAT(run.error.toStdString(),
+                    HasSubstr(u"There is nothing called \"%1\" in \"%2\"."_s.arg(path, pump).toStdString()));
+    }
+    const ProgramRun title = sandbox.run({u"tree"_s, pump, u"Main.title"_s});
+    EXPECT_THAT(title.out.toStdString(), HasSubstr("\n  text = Pump %1 \"A\"\\n2\n"));
+}
+
+TEST(TreeVerb, printsJson)
+{
+    const Sandbox sandbox;
+    sandbox.makeProject(goodElements());
+    const QJsonValue tree = sandbox.run({u"tree"_s, pump, u"--json"_s}).json();
+    EXPECT_EQ(tree.toObject().keys(), QStringList({u"children"_s, u"class"_s, u"name"_s, u"properties"_s}));
+    const QJsonValue screen = tree[u"children"_s][1];
+    EXPECT_EQ(screen[u"class"_s], QJsonValue(u"Screen"_s));
+    EXPECT_EQ(screen[u"children"_s][0][u"properties"_s][u"text"_s], QJsonValue(u"Pump %1 \"A\"\n2"_s));
+    EXPECT_EQ(screen[u"children"_s][1][u"children"_s][0][u"name"_s], QJsonValue(u"box1"_s));
+    EXPECT_EQ(sandbox.run({u"tree"_s, pump, u"Main"_s, u"--json"_s}).json(), screen);
+    EXPECT_EQ(sandbox.run({u"tree"_s, pump, u"Main.title.text"_s, u"--json"_s}).json(),
+              QJsonValue(QJsonObject{{u"object"_s, u"Main.title"_s},
+                                     {u"property"_s, u"text"_s},
+                                     {u"value"_s, u"Pump %1 \"A\"\n2"_s}}));
+}
+
+TEST(CheckVerb, namesEveryProblemInOneLine)
+{
+    const Sandbox sandbox;
+    sandbox.makeProject(goodElements());
+    const ProgramRun good = sandbox.run({u"check"_s, pump});
+    EXPECT_EQ(good.out + good.error, QString());
+    EXPECT_EQ(good.code, 0);
+
+    const Sandbox other;
+    other.makeProject(
+        goodElements() + Sandbox::object("Gauge", "gauge1")
+            + Sandbox::object("Text", "bad\nname", Sandbox::value("size", "small"))
+            + Sandbox::object("Text", "turned", Sandbox::value("rotationBinding", "<02041><0101+>")),
+        {},
+        Sandbox::object("ImageResource", "a.png", {}, "Project")
+            + Sandbox::object("ImageResource", "../../x.png", {}, "Project"));
+    const ProgramRun bad = other.run({u"check"_s, pump});
+    EXPECT_EQ(bad.code, 1);
+    EXPECT_EQ(bad.error, QString());
+    const int gauge = other.lineOf(pump, "<Gauge>");
+    const int size = other.lineOf(pump, "\"small\"");
+    const QStringList expected{
+        u"Main: line %1, column 1: No plug-in knows the class \"Gauge\"; the item is kept as it is."_s.arg(
+            gauge),
+        u"Main.bad\\nname: line %1, column 1: The value \"small\" of the property \"size\" cannot be read; "
+        u"it "
+        "stays \"height: 24; width: 120;\"."_s.arg(size),
+        u"../../x.png: id: The name is in the wrong format. The following character may not be used: /"_s,
+        u"../../x.png: imageFile: The file \"../../x.png\" does not exist."_s,
+        u"a.png: imageFile: The file \"a.png\" does not exist."_s,
+        u"Main.bad\\nname: id: The name is in the wrong format. Only letters, numbers and underscore are "
+        u"allowed. "
+        "The first character must be a letter."_s,
+        u"Main.turned: rotation: The generated code cannot be read by the device: Expected token `numeric "
+        "literal'"_s,
+    };
+    EXPECT_EQ(bad.out, expected.join(u'\n') + u'\n');
+    const QJsonArray problems = other.run({u"check"_s, pump, u"--json"_s}).json()[u"problems"_s].toArray();
+    EXPECT_EQ(problems.size(), bad.out.count(u'\n'));
+    EXPECT_EQ(problems.at(0)[u"line"_s].toInt(), gauge);
+    EXPECT_EQ(problems.at(4)[u"object"_s].toString(), u"a.png"_s);
+    EXPECT_EQ(problems.at(4)[u"property"_s].toString(), u"imageFile"_s);
+
+    const QJsonValue info = other.run({u"info"_s, pump, u"--json"_s}).json();
+    EXPECT_EQ(info[u"missingPlugins"_s], QJsonValue(QJsonObject{{u"Gauge"_s, QJsonArray{u"Main.gauge1"_s}}}));
+    EXPECT_EQ(info[u"classes"_s][u"Text"_s].toInt(), 3);
+    EXPECT_EQ(info[u"images"_s][0][u"usable"_s], QJsonValue(false));
+    EXPECT_EQ(info[u"notes"_s].toArray().size(), 2);
+}
+
+TEST(CheckVerb, wantsTheModelToBeInstalled)
+{
+    const Sandbox sandbox;
+    sandbox.makeProject(goodElements());
+    QByteArray text = sandbox.read(pump);
+    text.replace("name: VTR 50-K;", "name: Other %1;");
+    sandbox.write(pump, text);
+    EXPECT_EQ(sandbox.run({u"check"_s, pump}).out,
+              u"Pump: configuration: The device model \"Other %1\" is not available.\n"_s);
+}
+
+TEST(ProjectFile, isRefusedWithPlaceAndReason)
+{
+    const Sandbox sandbox;
+    sandbox.makeProject(goodElements());
+    sandbox.write(u"empty"_s, "");
+    sandbox.write(u"cut"_s, sandbox.read(pump).first(900));
+    sandbox.write(u"text"_s, "hello\n");
+    sandbox.write(u"latin1"_s, "<?xml version=\"1.0\"?>\n<Project>\xE4</Project>");
+    sandbox.write(u"utf16"_s, QByteArray("\xFF\xFE<\0P\0", 6));
+    sandbox.write(u"root"_s, "<Screen/>");
+    sandbox.write(u"bomb"_s, "<!DOCTYPE a [<!ENTITY b \"bbb\">]>\n<Project/>");
+    sandbox.write(u"deep"_s, "<Project>" + QByteArray("<a>").repeated(100'000));
+    sandbox.write(u"huge"_s, "<Project><Properties><Property name=\"id\" value=\""
+                                 + QByteArray(20'000'000, 'a') + "\"/></Properties></Project>");
+    const struct
+    {
+        QString file;
+        QString error;
+    } cases[] = {
+        {u"nix %1"_s,
+         u"The file \"nix %1\" does not exist. Name the .kdproj file of a project; \"corvex new\" makes one."_s},
+        {u"Pump"_s, u"\"Pump\" is not a file. Did you mean \"Pump/Pump.kdproj\"?"_s},
+        {u"."_s, u"\".\" is not a file. Name the .kdproj file of a project."_s},
+        {u"/dev/null"_s, u"\"/dev/null\" is not a file. Name the .kdproj file of a project."_s},
+        {u"empty"_s, u"empty:1:1: no element found. Mend the file at that place, or take it from a copy."_s},
+        {u"cut"_s, u"cut:19:"_s},
+        {u"text"_s, u"text:1:1: syntax error."_s},
+        {u"latin1"_s, u"latin1:2:10: not well-formed (invalid token)."_s},
+        {u"utf16"_s, u"utf16:1:1: The text is UTF-16; only UTF-8 is read."_s},
+        {u"root"_s, u"root:1:1: The root element is \"Screen\" where \"Project\" is expected."_s},
+        {u"bomb"_s, u"bomb:1:13: Document types and entities are not accepted."_s},
+        {u"deep"_s, u"deep:1:1543: Elements are nested deeper than 512."_s},
+        {u"huge"_s, u"huge:1:22: A value is longer than 16 MB."_s},
+    };
+    for (const auto &[file, error] : cases) {
+        const ProgramRun run = sandbox.run({u"check"_s, file});
+        EXPECT_EQ(run.code, 3) << qPrintable(file);
+        EXPECT_EQ(run.out, QString());
+        EXPECT_EQ(run.error.first(std::min(run.error.size(), error.size() + 8)), u"corvex: "_s + error);
+    }
+    for (const QString &verb : {u"info"_s, u"tree"_s, u"fmt"_s}) {
+        EXPECT_EQ(sandbox.run({verb, u"cut"_s}).code, 3);
+    }
+    EXPECT_EQ(sandbox.run({u"build"_s, u"cut"_s, u"-o"_s, u"out"_s}).code, 3);
+    EXPECT_FALSE(QDir(sandbox.path(u"out"_s)).exists());
+}
+
+TEST(FmtVerb, writesTheCanonicalFormAndNothingElse)
+{
+    const Sandbox sandbox;
+    sandbox.makeProject(goodElements() + Sandbox::object("Gauge", "gauge1", Sandbox::value("needle", "red")));
+    const QByteArray before = sandbox.read(pump);
+    const QString place = u"%1:%2: "_s.arg(pump).arg(sandbox.lineOf(pump, "\"elements\""));
+    const ProgramRun differs = sandbox.run({u"fmt"_s, u"--check"_s, pump});
+    EXPECT_EQ(differs.out, place + u"not in the canonical form\n"_s);
+    EXPECT_EQ(differs.code, 1);
+    EXPECT_EQ(sandbox.read(pump), before);
+
+    const ProgramRun written = sandbox.run({u"fmt"_s, pump});
+    EXPECT_EQ(written.out, place + u"written in the canonical form\n"_s);
+    EXPECT_EQ(written.code, 0);
+    const QByteArray canonical = sandbox.read(pump);
+    EXPECT_THAT(canonical.toStdString(), HasSubstr("<Property name=\"needle\" value=\"red\"/>\r\n"));
+    const ProgramRun again = sandbox.run({u"fmt"_s, u"--check"_s, pump});
+    EXPECT_EQ(again.out + again.error, QString());
+    EXPECT_EQ(again.code, 0);
+    EXPECT_EQ(sandbox.run({u"fmt"_s, pump}).out, QString());
+    EXPECT_EQ(sandbox.read(pump), canonical);
+}
+
+TEST(FmtVerb, losesNothingUnlessItIsTold)
+{
+    const Sandbox sandbox;
+    sandbox.makeProject(Sandbox::object("Text", "title", Sandbox::value("shadow", "2")));
+    const QByteArray before = sandbox.read(pump);
+    const ProgramRun refused = sandbox.run({u"fmt"_s, pump});
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_EQ(refused.out, QString());
+    EXPECT_EQ(
+        refused.error,
+        u"Pump/Pump.kdproj:%1:1: Main.title: The property \"shadow\" is not known.\n"
+        "corvex: \"Pump/Pump.kdproj\" holds what this version does not know and would lose; it stays as it "
+        "is. Mend these places, or write it all the same with --force.\n"_s.arg(
+            sandbox.lineOf(pump, "shadow")));
+    EXPECT_EQ(sandbox.read(pump), before);
+    EXPECT_EQ(sandbox.run({u"fmt"_s, u"--force"_s, pump}).code, 0);
+    EXPECT_THAT(sandbox.read(pump).toStdString(), testing::Not(HasSubstr("shadow")));
+}

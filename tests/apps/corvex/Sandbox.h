@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Program.h"
+
+#include <QTemporaryDir>
+
+namespace Halvane::Corvex::Test {
+
+//! A folder for projects that is gone with the test.
+class Sandbox
+{
+public:
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+    //! Runs the program in this folder.
+    ProgramRun run(const QStringList &arguments) const { return corvex(arguments, m_folder.path()); }
+
+    QByteArray read(const QString &name) const;
+    void write(const QString &name, const QByteArray &bytes) const;
+    //! The number of the first line of a file that holds the text.
+    int lineOf(const QString &name, const QByteArray &text) const;
+    //! All files below a folder, with their paths in it.
+    QStringList files(const QString &folder) const;
+
+    //! The element of an object with further properties, in the form of project files.
+    static QByteArray object(const QByteArray &className, const QByteArray &name,
+                             const QByteArray &properties = {}, const QByteArray &scope = "Screen");
+    static QByteArray value(const QByteArray &property, const QByteArray &text);
+
+    //! The file Pump/Pump.kdproj with these elements on its screen "Main", and with these variables and
+    //! images.
+    void makeProject(const QByteArray &elements, const QByteArray &variables = {},
+                     const QByteArray &images = {}) const;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace Halvane::Corvex::Test
