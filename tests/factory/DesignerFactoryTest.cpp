@@ -2,6 +2,7 @@
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/factory/CoreFactory.h"
+#include "corvex/templates/Template.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
@@ -79,7 +80,8 @@ TEST(DesignerFactoryTest, AnInstanceNeedsAPathAndKnowsTheLibrarysClasses)
         EXPECT_EQ(object->parent(), QCoreApplication::instance());
         EXPECT_FALSE(object->getIdName().isEmpty()) << qPrintable(name);
     }
-    EXPECT_TRUE(factory->createTemplate(u"ElementTemplate"_s));
+    const std::unique_ptr<Template> made(factory->createTemplate(u"ElementTemplate"_s));
+    EXPECT_TRUE(made);
     EXPECT_FALSE(factory->getObjectIcon(u"Screen"_s).isNull());
 
     const Warnings warnings;
