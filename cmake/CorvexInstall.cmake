@@ -16,7 +16,7 @@ install(EXPORT DesignerCoreTargets NAMESPACE Corvex:: DESTINATION "${package_pat
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/DesignerCoreConfig.cmake.in"
   "${PROJECT_BINARY_DIR}/package/DesignerCoreConfig.cmake"
   INSTALL_DESTINATION "${package_path}"
-  PATH_VARS CMAKE_INSTALL_LIBDIR CORVEX_PLUGIN_PATH CORVEX_DATA_PATH)
+  PATH_VARS CORVEX_LIBRARY_PATH CORVEX_PLUGIN_PATH CORVEX_DATA_PATH)
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/package/DesignerCoreConfigVersion.cmake"
   COMPATIBILITY SameMajorVersion)
 install(FILES

@@ -46,20 +46,20 @@ endfunction()
 
 # corvex_plugin(NAME SOURCES file... LINKS target...)
 #
-# A plug-in that the factory loads: the target plugin_NAME, libNAME.so in the folder of plug-ins, installed.
+# A plug-in that the factory loads: libNAME.so in the folder of plug-ins, installed.
 function(corvex_plugin name)
   cmake_parse_arguments(PLUGIN "" "" "SOURCES;LINKS" ${ARGN})
-  add_library(plugin_${name} MODULE ${PLUGIN_SOURCES})
-  target_link_libraries(plugin_${name} PRIVATE corvex_build_options DesignerCore ${PLUGIN_LINKS})
-  target_include_directories(plugin_${name} PRIVATE "${PROJECT_SOURCE_DIR}/plugins")
-  target_precompile_headers(plugin_${name} REUSE_FROM corvex_precompiled)
+  add_library(${name} MODULE ${PLUGIN_SOURCES})
+  target_link_libraries(${name} PRIVATE corvex_build_options DesignerCore ${PLUGIN_LINKS})
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/plugins")
+  target_precompile_headers(${name} REUSE_FROM corvex_precompiled)
+  corvex_automoc(${name})
   file(RELATIVE_PATH up "/${CORVEX_PLUGIN_PATH}" "/${CMAKE_INSTALL_LIBDIR}")
-  corvex_automoc(plugin_${name})
-  set_target_properties(plugin_${name} PROPERTIES
-    OUTPUT_NAME ${name}
+  set_target_properties(${name} PROPERTIES
     LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${CORVEX_PLUGIN_PATH}"
+    BUILD_RPATH_USE_ORIGIN ON
     INSTALL_RPATH "$ORIGIN/${up}")
-  install(TARGETS plugin_${name} DESTINATION "${CORVEX_PLUGIN_PATH}")
+  install(TARGETS ${name} LIBRARY DESTINATION "${CORVEX_PLUGIN_PATH}")
 endfunction()
 
 # corvex_test(NAME SOURCES file... LINKS target...)

@@ -142,6 +142,8 @@ void ImageResource::updateFileFields()
 void ImageResource::afterFileFieldsChanged()
 {
     changePropertyValue(m_imageFile, fullFilePath());
+    // The path may be that of before, and another file lie there now.
+    validate();
 }
 
 void ImageResource::afterPropertyChanged(const DesignerProperty *property, const QString &)

@@ -5,6 +5,7 @@
 #include "corvex/common/TextHelper.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/PropertyTable.h"
+#include "corvex/core/PropertyValidators.h"
 #include "corvex/core/properties/IdentifierProperty.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/core/properties/ObjectListProperty.h"
@@ -17,7 +18,7 @@
 #include "corvex/hardware/HardwareConfigurations.h"
 #include "corvex/project/FileNameRules.h"
 #include "corvex/project/ProjectAutosave.h"
-#include "corvex/values/ValueConversion.h"
+#include "corvex/project/Screen.h"
 
 #include <QAction>
 #include <QFileInfo>
@@ -33,15 +34,6 @@ bool nameValidator(const DesignerProperty *property, QString &error)
 {
     error = FileNameRules::projectNameError(property->parentObject()->getIdName());
     return error.isEmpty();
-}
-
-bool screensValidator(const DesignerProperty *property, QString &error)
-{
-    if (property->listItemCount() > 0) {
-        return true;
-    }
-    error = Common::LocalizationHelper::coreString(u"At least one screen is required."_s);
-    return false;
 }
 
 bool defaultScreenValidator(const DesignerProperty *property, QString &error)
@@ -93,7 +85,7 @@ bool Project::initializeProperties()
     static const PropertyTable table{
         row<IdentifierProperty>("id", "Name", IdentifierInfo())
             .rank(0)
-            .validator(nameValidator)
+            .validator(&nameValidator)
             .allowInvalid(),
         row<StringProperty>("version", "Build Version", QString())
             .flags(1)
@@ -117,13 +109,13 @@ bool Project::initializeProperties()
             .flags(65)
             .rank(15)
             .filter({"Screen"})
-            .validator(screensValidator),
+            .validator(&PropertyValidators::projectScreensValidator),
         row<LinkProperty>("defaultScreen", "Default Screen", ObjectLinkInfo({}, u"Project"_s, u"Screen"_s))
             .flags(15)
             .rank(16)
             .parameter("scopeType", u"Project"_s)
             .parameter("filterType", u"Screen"_s)
-            .validator(defaultScreenValidator)
+            .validator(&defaultScreenValidator)
             .allowInvalid(),
     };
     if (!FileObject::initializeProperties() || !addProperties(table)) {
@@ -188,16 +180,8 @@ void Project::onConfigurationPropertyChanged(const SharedProperty &property)
 
 void Project::updateScreenSizes()
 {
-    if (!configurationObject()) {
-        return;
-    }
-    const QSizeF size = ValueConversion::toSize(configurationObject()->screenSize()->valueString());
     for (DesignerObject *screen : m_screens->listItems()) {
-        const SharedProperty orientation = screen->getProperty(u"orientation");
-        const QString angle = orientation ? orientation->valueString() : QString();
-        const bool isTurned = angle == "90"_L1 || angle == "270"_L1;
-        screen->changePropertyValue(screen->getProperty(u"size"),
-                                    ValueConversion::toString(isTurned ? size.transposed() : size));
+        static_cast<Screen *>(screen)->onConfigurationSizeChanged();
     }
 }
 

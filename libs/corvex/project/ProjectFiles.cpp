@@ -252,9 +252,12 @@ bool Project::getFileIdAndVersion(const QString &path, QString *id, QString *ver
         }
         reader.skipCurrentElement();
     }
+    if (reader.hasError() || !found.contains(u"id"_s)) {
+        return false;
+    }
     *id = found.value(u"id"_s);
     *version = found.value(u"version"_s);
-    return !reader.hasError() && found.contains(u"id"_s);
+    return true;
 }
 
 QString Project::getFileVersion(const QString &path)

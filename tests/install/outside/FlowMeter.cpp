@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/core/DesignerObject.h"
 #include "corvex/core/IDesignerFactory.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/properties/IntegerProperty.h"
+#include "corvex/project/FunctionElement.h"
 
 #include <QObject>
 #include <QtPlugin>
@@ -10,25 +10,24 @@
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
-//! An object class that the library does not know.
-class FlowMeter : public DesignerObject
+//! An element class that the library does not know.
+class FlowMeter : public FunctionElement
 {
     Q_OBJECT
-    CORVEX_CLASS_NAMES(FlowMeter, DesignerObject)
+    CORVEX_CLASS_NAMES(FlowMeter, FunctionElement)
 
 public:
     explicit FlowMeter(QObject *parent)
-        : DesignerObject(parent)
+        : FunctionElement(parent)
     { }
 
 protected:
-    ObjectView *createGraphicsItem() override { return nullptr; }
     bool initializeProperties() override
     {
         static const PropertyTable table{
             row<IntegerProperty>("litres", "Litres per Minute", 12).flags(15),
         };
-        return DesignerObject::initializeProperties() && addProperties(table);
+        return FunctionElement::initializeProperties() && addProperties(table);
     }
 };
 

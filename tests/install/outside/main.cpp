@@ -1,25 +1,78 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/core/DesignerObject.h"
+#include "corvex/project/Element.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include <cstdio>
 #include <memory>
 
+using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
-//! Loads the plug-in beside it and prints what an object of the plug-in's class is saved as.
+namespace {
+
+template<class Object>
+std::unique_ptr<Object> make(const QString &className, const QString &name = {})
+{
+    auto *object = qobject_cast<Object *>(DesignerFactory::instance()->createObject(className));
+    if (!object) {
+        return nullptr;
+    }
+    object->setParent(nullptr);
+    if (!name.isEmpty()) {
+        object->setIdName(name);
+    }
+    return std::unique_ptr<Object>(object);
+}
+
+//! A project with a standard element and one of the plug-in's, in the working folder.
+bool writeProject(const QString &name)
+{
+    auto project = make<Project>(u"Project"_s, name);
+    project->changePropertyObjectValue(project->configuration(),
+                                       make<DesignerObject>(u"Configuration"_s, u"VTR"_s).release());
+    auto *screen = make<Screen>(u"Screen"_s, u"Main"_s).release();
+    project->addListPropertyItem(project->screens(), screen);
+    screen->addListPropertyItem(screen->elements(), make<Element>(u"Text"_s, u"label"_s).release());
+    auto *meter = make<Element>(u"FlowMeter"_s, u"meter"_s).release();
+    screen->addListPropertyItem(screen->elements(), meter);
+    return meter->changePropertyValue(meter->getProperty(u"litres"), u"30"_s) && project->createFile(u"."_s);
+}
+
+QString describe(const Element &element)
+{
+    const QString text = u"%1 %2"_s.arg(element.className(), element.getIdName());
+    const SharedProperty litres = element.getProperty(u"litres");
+    return litres ? u"%1 (%2 l/min)"_s.arg(text, litres->valueString()) : text;
+}
+
+} // namespace
+
+//! Writes a project, loads it and prints its screens.
 int main(int argc, char **argv)
 {
-    QCoreApplication application(argc, argv);
-    if (!DesignerFactory::createInstance(QCoreApplication::applicationDirPath())) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    if (!DesignerFactory::createInstance(QStringLiteral(LIBRARY_FOLDER)) || !writeProject(u"Plant"_s)) {
         return 1;
     }
-    DesignerObject *meter = DesignerFactory::instance()->createObject(QStringLiteral("FlowMeter"));
-    if (!meter || !meter->changePropertyValue(meter->getProperty(u"litres"), QStringLiteral("30"))) {
-        return 1;
+    auto project = make<Project>(u"Project"_s);
+    if (!project->loadFile(u"Plant/Plant.kdproj"_s)) {
+        return 2;
     }
-    std::printf("%s", qPrintable(DesignerObject::toString(meter)));
+    for (DesignerObject *object : project->childObjects()) {
+        auto *screen = qobject_cast<Screen *>(object);
+        if (!screen) {
+            continue;
+        }
+        QStringList elements;
+        for (const QString &name : screen->getElementNames()) {
+            elements.append(describe(*screen->getElement(name)));
+        }
+        std::printf("%s: %s\n", qPrintable(screen->getIdName()), qPrintable(elements.join(u", "_s)));
+    }
     return 0;
 }

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/FileHelper.h"
+#include "corvex/common/ZipHelper.h"
+#include "corvex/project/ProjectAutosave.h"
+
+#include "ProjectFixture.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+#include <QUndoStack>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+class AutosaveTest : public Test::ProjectFixture
+{
+protected:
+    void SetUp() override
+    {
+        project = makeProject();
+        ASSERT_TRUE(project->createFile(path()));
+        addImage(*project, u"a.png"_s);
+        archive = path(u"Pumps.kdproj.kdasv"_s);
+        aside = archive + u".tmp"_s;
+    }
+
+    void edit() { project->undoStack()->push(new QUndoCommand); }
+
+    //! Begins a run and waits for its end; its error.
+    QString run()
+    {
+        QSignalSpy finished(&project->autosave(), &ProjectAutosave::finished);
+        EXPECT_TRUE(project->autosave().run());
+        EXPECT_TRUE(finished.wait());
+        return finished.at(0).at(0).toString();
+    }
+
+    static QStringList stagingFolders()
+    {
+        return QDir(Common::FileHelper::getStandardTemporatyLocation())
+            .entryList({u"CorvexNova-autosave-*"_s}, QDir::Dirs);
+    }
+
+    std::unique_ptr<Project> project;
+    QString archive;
+    QString aside;
+};
+
+TEST_F(AutosaveTest, TheTimerRunsFromFiveToOneHundredAndTwentyMinutes)
+{
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path(u"settings"_s));
+    const struct
+    {
+        QVariant setting;
+        int minutes;
+    } cases[] = {
+        {{}, 0}, {0, 0}, {4, 0}, {5, 5}, {u"30"_s, 30}, {120, 120}, {121, 0}, {-5, 0}, {u"often"_s, 0},
+    };
+    ProjectAutosave &autosave = project->autosave();
+    for (const auto &[setting, minutes] : cases) {
+        QSettings settings(u"Halvane"_s, u"Corvex Nova"_s);
+        settings.setValue("autoIntervalTime"_L1, setting);
+        settings.sync();
+        project->startAutoSaveTimer();
+        EXPECT_EQ(autosave.interval(), minutes * 60'000) << qPrintable(setting.toString());
+        EXPECT_EQ(autosave.timerId() != -1, minutes > 0) << qPrintable(setting.toString());
+    }
+    QSettings(u"Halvane"_s, u"Corvex Nova"_s).clear();
+}
+
+TEST_F(AutosaveTest, AnEditIsSavedOnceBesideTheProjectsFolder)
+{
+    const QStringList files = filesIn(path(u"Pumps"_s));
+    write(path(u"Pumps/Preview.png"_s), "picture");
+    ProjectAutosave &autosave = project->autosave();
+    EXPECT_FALSE(autosave.run()) << "nothing was edited";
+    edit();
+    add(*project, project->variables(), u"NumberVariable"_s, u"unsaved"_s);
+    QSignalSpy running(&autosave, &ProjectAutosave::runningChanged);
+    QSignalSpy finished(&autosave, &ProjectAutosave::finished);
+    EXPECT_TRUE(autosave.run());
+    EXPECT_TRUE(autosave.isRunning());
+    EXPECT_FALSE(autosave.run()) << "one run at a time";
+    ASSERT_TRUE(finished.wait());
+    EXPECT_EQ(finished.at(0).at(0).toString(), QString());
+    EXPECT_EQ(running, QList<QVariantList>({{true}, {false}}));
+    EXPECT_FALSE(autosave.run()) << "nothing was edited since";
+
+    EXPECT_EQ(Common::ZipHelper::entryNames(archive),
+              QStringList({u"Images/a.png"_s, u"Preview.png"_s, u"Pumps.kdproj"_s}));
+    QDir().mkdir(path(u"unpacked"_s));
+    ASSERT_TRUE(Common::ZipHelper::unzip(archive, path(u"unpacked"_s)));
+    const auto recovered = makeEmptyProject();
+    ASSERT_TRUE(recovered->loadFile(path(u"unpacked/Pumps.kdproj"_s)));
+    EXPECT_TRUE(recovered->variables()->hasListItem(u"unsaved"_s));
+    EXPECT_FALSE(read(project->fullFilePath()).contains("unsaved")) << "the user's own file is left alone";
+    EXPECT_EQ(stagingFolders(), QStringList());
+    EXPECT_FALSE(QFileInfo::exists(aside));
+}
+
+TEST_F(AutosaveTest, AnEditIsNoticedWhereTheIndexIsTheSame)
+{
+    edit();
+    EXPECT_EQ(run(), QString());
+    project->undoStack()->undo();
+    edit();
+    EXPECT_EQ(project->undoStack()->index(), 1);
+    EXPECT_EQ(run(), QString());
+
+    edit();
+    ASSERT_TRUE(project->saveFile());
+    EXPECT_FALSE(project->autosave().run()) << "the project is as its file";
+
+    edit();
+    QSignalSpy finished(&project->autosave(), &ProjectAutosave::finished);
+    ASSERT_TRUE(project->autosave().run());
+    edit();
+    ASSERT_TRUE(finished.wait());
+    EXPECT_EQ(run(), QString()) << "an edit during a run is for the next one";
+}
+
+TEST_F(AutosaveTest, AFailedRunBringsTheOldFileBack)
+{
+    edit();
+    EXPECT_EQ(run(), QString());
+    const QByteArray bytes = read(archive);
+    DesignerObject *configuration = project->configurationObject();
+    project->changePropertyObjectValue(project->configuration(), nullptr);
+    QSignalSpy finished(&project->autosave(), &ProjectAutosave::finished);
+    for (int i = 0; i < 2; ++i) {
+        edit();
+        EXPECT_FALSE(project->autosave().run()) << "without a configuration it cannot be written";
+        ASSERT_EQ(finished.size(), i + 1);
+        EXPECT_FALSE(finished.at(i).at(0).toString().isEmpty());
+        EXPECT_EQ(read(archive), bytes);
+        EXPECT_FALSE(QFileInfo::exists(aside));
+        // As after a crash between the two names.
+        ASSERT_TRUE(QFile::rename(archive, aside));
+    }
+    EXPECT_FALSE(project->autosave().checkStackIsSame()) << "it is still to be saved";
+    EXPECT_EQ(stagingFolders(), QStringList());
+
+    project->changePropertyObjectValue(project->configuration(), configuration);
+    EXPECT_EQ(run(), QString());
+    EXPECT_FALSE(QFileInfo::exists(aside));
+}
+
+TEST_F(AutosaveTest, AProjectThatGoesWaitsForItsArchive)
+{
+    edit();
+    ASSERT_TRUE(project->autosave().run());
+    project.reset();
+    EXPECT_EQ(Common::ZipHelper::entryNames(archive).size(), 2);
+    EXPECT_EQ(stagingFolders(), QStringList());
+}
+
+} // namespace Halvane::Corvex::Designer
