@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/FileHelper.h"
 #include "corvex/common/ZipHelper.h"
+#include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/ProjectAutosave.h"
 
 #include "ProjectFixture.h"
 
 #include <QSettings>
 #include <QSignalSpy>
-#include <QUndoStack>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +18,10 @@ class AutosaveTest : public Test::ProjectFixture
 protected:
     void SetUp() override
     {
+        // Staging folders are looked for, so that they must not be those of another program.
+        oldTemporary = qgetenv("TMPDIR");
+        QDir().mkdir(path(u"temporary"_s));
+        qputenv("TMPDIR", path(u"temporary"_s).toLocal8Bit());
         project = makeProject();
         ASSERT_TRUE(project->createFile(path()));
         addImage(*project, u"a.png"_s);
@@ -25,7 +29,13 @@ protected:
         aside = archive + u".tmp"_s;
     }
 
-    void edit() { project->undoStack()->push(new QUndoCommand); }
+    void TearDown() override
+    {
+        project.reset();
+        oldTemporary.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", oldTemporary);
+    }
+
+    void edit() { project->undoStack()->QUndoStack::push(new QUndoCommand); }
 
     //! Begins a run and waits for its end; its error.
     QString run()
@@ -45,6 +55,7 @@ protected:
     std::unique_ptr<Project> project;
     QString archive;
     QString aside;
+    QByteArray oldTemporary;
 };
 
 TEST_F(AutosaveTest, TheTimerRunsFromFiveToOneHundredAndTwentyMinutes)

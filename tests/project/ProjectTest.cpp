@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/editing/undo/UndoStack.h"
 #include "corvex/hardware/HardwareConfigurations.h"
 
 #include "ProjectFixture.h"
 
 #include <QAction>
-#include <QUndoStack>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -394,7 +394,7 @@ TEST_F(ProjectTest, ANewHistoryBeginsWithEachFile)
     QAction *redo = project->createRedoAction();
     EXPECT_EQ(undo, project->createUndoAction());
     EXPECT_FALSE(undo->isEnabled());
-    const auto edit = [&project] { project->undoStack()->push(new QUndoCommand); };
+    const auto edit = [&project] { project->undoStack()->QUndoStack::push(new QUndoCommand); };
     edit();
     EXPECT_TRUE(undo->isEnabled());
     undo->trigger();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/project/ZipWorker.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/ZipHelper.h"
 
 #include <QThread>
@@ -12,7 +13,7 @@ namespace Halvane::Corvex::Designer {
 ZipWorker::ZipWorker(const QString &folder, const QString &archive)
     : m_folder(folder)
     , m_archive(archive)
-    , m_error(u"The archive has not been packed."_s)
+    , m_error(Common::LocalizationHelper::coreString(u"The archive has not been packed."_s))
 { }
 
 void ZipWorker::run()
