@@ -150,6 +150,8 @@ TEST_F(Protocol, RefusalsNameTheirReasonAndTouchNothing)
         {"Same objects.", nodes, [&] { return owner->swapListPropertyItems(nodes, first, first); }},
         {"This is not a object type property, or the parent object is null.", percent,
          [&] { return owner->changePropertyObjectValue(percent, stranger.get()); }},
+        {"This is not a object type property, or the parent object is null.", nodes,
+         [&] { return owner->changePropertyObjectValue(nodes, first); }},
     };
     owner->log.clear();
     for (const Case &test : cases) {
@@ -243,7 +245,42 @@ TEST_F(Protocol, WhatHoldsAnObjectForgetsItWhenItIsDeleted)
     item->set("loose", u"200"_s);
     delete item;
     EXPECT_EQ(owner->property("nodes")->listItemCount(), 0);
+    auto *child = Node::create(u"child"_s);
+    ASSERT_TRUE(owner->changePropertyObjectValue(owner->property("child"), child));
+    delete child;
+    EXPECT_EQ(owner->property("child")->objectValue(), nullptr);
     EXPECT_TRUE(owner->validate());
+}
+
+TEST_F(Protocol, APropertyOutlivesItsObject)
+{
+    add(u"item"_s);
+    owner->changePropertyObjectValue(owner->property("child"), Node::create(u"child"_s));
+    const QList<SharedProperty> properties = owner->properties();
+    owner.reset();
+    for (const SharedProperty &property : properties) {
+        EXPECT_EQ(property->parentObject(), nullptr);
+        EXPECT_TRUE(property->listItems(true).isEmpty());
+        EXPECT_EQ(property->objectValue(), nullptr);
+        EXPECT_TRUE(property->validate());
+        property->setValueValidator(
+            [](const DesignerProperty *judged, QString &) { return judged->parentObject()->isValid(); });
+        EXPECT_TRUE(property->validate());
+    }
+}
+
+TEST_F(Protocol, AChildIsTakenFromItsOwnerBeforeAnotherGetsIt)
+{
+    const std::unique_ptr<Node> other(Node::create(u"other"_s));
+    Node *child = Node::create(u"child"_s);
+    const SharedProperty slot = owner->property("child");
+    ASSERT_TRUE(owner->changePropertyObjectValue(slot, child));
+    EXPECT_FALSE(other->addListPropertyItem(other->property("nodes"), child));
+    EXPECT_FALSE(owner->addListPropertyItem(owner->property("nodes"), child));
+    EXPECT_FALSE(other->changePropertyObjectValue(other->property("child"), child));
+    EXPECT_EQ(child->parent(), owner.get());
+    ASSERT_TRUE(owner->changePropertyObjectValue(slot, nullptr));
+    EXPECT_TRUE(other->addListPropertyItem(other->property("nodes"), child));
 }
 
 TEST_F(Protocol, DescriptorsAreSharedUntilOneInstanceDiffers)

@@ -31,6 +31,13 @@ DesignerObject::~DesignerObject()
     for (DesignerProperty *list : std::as_const(d->lists)) {
         list->forgetItem(this);
     }
+    if (const SharedProperty slot = objectProperty()) {
+        slot->forgetObjectValue();
+    }
+    // Undo steps and editors may hold on to a property.
+    for (const SharedProperty &property : std::as_const(d->properties)) {
+        property->m_parent = nullptr;
+    }
 }
 
 bool DesignerObject::initialize()
@@ -238,6 +245,19 @@ void DesignerObject::takeListDesignerProperty(DesignerProperty *property)
 DesignerObject *DesignerObject::ownerObject() const
 {
     return qobject_cast<DesignerObject *>(parent());
+}
+
+SharedProperty DesignerObject::objectProperty() const
+{
+    const DesignerObject *owner = d->lists.isEmpty() ? ownerObject() : nullptr;
+    if (owner) {
+        for (const SharedProperty &property : std::as_const(owner->d->properties)) {
+            if (property->objectValue() == this) {
+                return property;
+            }
+        }
+    }
+    return {};
 }
 
 Project *DesignerObject::project() const

@@ -286,6 +286,8 @@ private:
     template<class Insert>
     bool addItem(const SharedProperty &property, DesignerObject *item, Insert insert);
     SharedProperty listOf(const QString &id) const;
+    //! The object property that owns this object; null when a list owns it and out of the model.
+    SharedProperty objectProperty() const;
 
     struct Data;
     std::unique_ptr<Data> d;

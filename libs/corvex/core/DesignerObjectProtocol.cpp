@@ -153,8 +153,12 @@ bool DesignerObject::changePropertyObjectValue(const SharedProperty &property, D
     if (property->isObject() && object == previous) {
         return true;
     }
-    if ((object && !mayEnter(property, object)) || !beforeObjectPropertyChanged(property.data(), object)
-        || !property->setObjectValue(object)) {
+    if (property->isObject()
+        && ((object && !mayEnter(property, object))
+            || !beforeObjectPropertyChanged(property.data(), object))) {
+        return false;
+    }
+    if (!property->setObjectValue(object)) {
         return false;
     }
     if (previous) {
@@ -186,7 +190,7 @@ bool DesignerObject::mayEnter(const SharedProperty &property, const DesignerObje
             return property->refuse("The type is not supported.");
         }
     }
-    return !item->listProperty() || property->refuse("Item already exists.");
+    return (!item->listProperty() && !item->objectProperty()) || property->refuse("Item already exists.");
 }
 
 void DesignerObject::enter(DesignerObject *item)

@@ -60,16 +60,14 @@ void DesignerObject::setValid(bool valid)
         return;
     }
     d->isValid = valid;
-    for (DesignerProperty *list : std::as_const(d->lists)) {
+    // Whoever hears of it may take this object out of its list.
+    const QList<DesignerProperty *> lists = d->lists;
+    for (DesignerProperty *list : lists) {
         list->items().invalidCount += valid ? -1 : 1;
         list->parentObject()->childValidityChanged(*list);
     }
-    if (DesignerObject *owner = d->lists.isEmpty() ? ownerObject() : nullptr) {
-        for (const SharedProperty &property : owner->properties()) {
-            if (property->objectValue() == this) {
-                owner->childValidityChanged(*property);
-            }
-        }
+    if (const SharedProperty slot = objectProperty()) {
+        slot->parentObject()->childValidityChanged(*slot);
     }
 }
 

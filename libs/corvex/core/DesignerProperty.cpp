@@ -192,7 +192,8 @@ bool DesignerProperty::validate()
     QString error;
     bool valid = true;
     const auto enabled = [this] { return !m_parent || !m_parent->disabledValidation(); };
-    if (enabled() && descriptor().valueValidator) {
+    // The callback sees the model through the parent, which a property may outlive.
+    if (m_parent && enabled() && descriptor().valueValidator) {
         valid = descriptor().valueValidator(this, error);
     }
     if (valid && enabled()) {

@@ -38,7 +38,7 @@ public:
 
     bool initialize() override { return true; }
 
-    //! The object that owns this property. Not owned.
+    //! The object that owns this property; null once it is gone. Not owned.
     DesignerObject *parentObject() const { return m_parent; }
     const QString &id() const { return m_descriptor->id; }
     void setId(const QString &id);
@@ -182,8 +182,9 @@ private:
     bool setObjectValue(DesignerObject *object);
     void updateItemIdName(const QString &oldName, const QString &newName);
 
-    //! For an item that is being deleted: it leaves without a word.
+    // For a child that is being deleted: it leaves without a word.
     void forgetItem(DesignerObject *item);
+    void forgetObjectValue();
     //! Lets go of all children at once, for an owner that deletes them.
     QList<DesignerObject *> releaseChildren();
     void putItem(qsizetype index, DesignerObject *item);

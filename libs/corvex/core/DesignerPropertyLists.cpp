@@ -66,6 +66,11 @@ void DesignerProperty::forgetItem(DesignerObject *item)
     }
 }
 
+void DesignerProperty::forgetObjectValue()
+{
+    state().objectValue = nullptr;
+}
+
 QList<DesignerObject *> DesignerProperty::releaseChildren()
 {
     QList<DesignerObject *> children;
