@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/ItemList.h"
+#include "corvex/core/properties/RealProperty.h"
 
 #include "TestObjects.h"
 
@@ -56,6 +57,30 @@ TEST_F(Protocol, ARefusedValueLeavesOnlyItsReason)
     EXPECT_TRUE(owner->isValid()) << "the value that the object holds is good";
     EXPECT_TRUE(owner->set("percent", u"50"_s));
     EXPECT_TRUE(owner->property("percent")->isValid());
+
+    EXPECT_TRUE(owner->set("percent", u"101"_s));
+    EXPECT_TRUE(owner->set("text", u"new"_s));
+    EXPECT_TRUE(owner->isValid()) << "a refusal must not be taken for the state of the object";
+}
+
+TEST_F(Protocol, ATrialLeavesTheValueAsItIs)
+{
+    const auto refuse = [](const DesignerProperty *property, QString &) {
+        return static_cast<const RealProperty *>(property)->value() < 100;
+    };
+    const auto real = QSharedPointer<RealProperty>::create(owner.get(), u"real"_s, u"Real"_s, 1.0 / 3);
+    real->setValueValidator(refuse);
+    EXPECT_TRUE(owner->changePropertyValue(real, u"100"_s));
+    EXPECT_FALSE(real->isValid());
+    EXPECT_EQ(real->value(), 1.0 / 3);
+    owner->veto = u"before real 50"_s;
+    EXPECT_FALSE(owner->changePropertyValue(real, u"50"_s));
+    EXPECT_EQ(real->value(), 1.0 / 3);
+
+    const auto broken = QSharedPointer<RealProperty>::create(owner.get(), u"real"_s, u"Real"_s, 1000);
+    broken->setValueValidator(refuse);
+    EXPECT_FALSE(owner->changePropertyValue(broken, u"50"_s));
+    EXPECT_FALSE(broken->isValid()) << "after a veto the value that is held counts";
 }
 
 TEST_F(Protocol, AnInvalidValueThatIsAllowedIsStoredAndMarked)

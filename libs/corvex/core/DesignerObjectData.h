@@ -20,6 +20,7 @@ struct DesignerObject::Data
     bool validationErrorSet = false;
     bool validationDisabled = false;
     bool isValidatingChildren = false;
+    bool hasRefusedValue = false; //!< some property tells why it refused a value, not how it is itself
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -64,18 +64,24 @@ DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &pr
     if (property->equalsValue(newValue)) {
         return ValueChange::None;
     }
-    const QString oldValue = property->valueString();
     if (isGuarded) {
-        if (!property->convertToValue(newValue)) {
+        bool valid = true;
+        if (!property->tryValue(newValue, valid)) {
             return ValueChange::Refused;
         }
-        const bool valid = property->validate();
-        property->convertToValue(oldValue);
         if (!valid) {
+            d->hasRefusedValue = true;
             return ValueChange::None;
         }
     }
-    if (!beforePropertyChanged(property.data(), newValue) || !property->convertToValue(newValue)) {
+    const QString oldValue = property->valueString();
+    if (!beforePropertyChanged(property.data(), newValue)) {
+        if (isGuarded) {
+            property->validate(); // The trial has judged the other value.
+        }
+        return ValueChange::Refused;
+    }
+    if (!property->convertToValue(newValue)) {
         return ValueChange::Refused;
     }
     const bool isName = property == d->id;

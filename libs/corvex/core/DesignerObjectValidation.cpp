@@ -29,8 +29,9 @@ bool DesignerObject::validate()
 void DesignerObject::updateValidity()
 {
     QStringList errors;
+    const bool isStale = std::exchange(d->hasRefusedValue, false);
     for (const SharedProperty &property : std::as_const(d->properties)) {
-        if (!property->isValid()) {
+        if (!property->isValid() && (!isStale || !property->validate())) {
             const QString error = property->errorString();
             errors.append(u"%1: %2"_s.arg(
                 property->name(),

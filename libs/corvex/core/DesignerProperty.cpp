@@ -381,6 +381,17 @@ void DesignerProperty::sortList()
 
 void DesignerProperty::updateListItems() { }
 
+bool DesignerProperty::tryValue(const QString &text, bool &valid)
+{
+    const QString held = convertToValueString();
+    if (!convertToValue(text)) {
+        return false;
+    }
+    valid = validate();
+    convertToValue(held);
+    return true;
+}
+
 void DesignerProperty::setErrorString(const QString &error)
 {
     if (m_state) {

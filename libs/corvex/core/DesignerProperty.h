@@ -153,6 +153,9 @@ protected:
     virtual bool validateListItems(QString &error) const;
     //! Runs after the list has changed; the place to keep it in order.
     virtual void updateListItems();
+    //! Validates \a text in the place of the value, which is the same afterwards to the last digit; false
+    //! when it does not parse.
+    virtual bool tryValue(const QString &text, bool &valid);
     ItemList &items();
 
 private:

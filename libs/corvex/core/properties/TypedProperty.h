@@ -66,6 +66,19 @@ protected:
 
     bool validateValue(QString &) const override { return true; }
 
+    // Not by way of the text, which is rounded, and which an invalid value may not have at all.
+    bool tryValue(const QString &text, bool &valid) override
+    {
+        std::optional<Value> value = parse(text);
+        if (!value) {
+            return false;
+        }
+        std::swap(m_value, *value);
+        valid = validate();
+        m_value = *std::move(value);
+        return true;
+    }
+
     void setValue(const Value &value) { m_value = value; }
 
 private:
