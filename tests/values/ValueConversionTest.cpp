@@ -88,7 +88,7 @@ TEST(ValueConversion, RealText)
         ValueConversion::toReal,
         {{u"1.5"_s, u"1.5"_s},       {u"2.0"_s, u"2"_s},         {u"100"_s, u"100"_s},
          {u"-.5"_s, u"-0.5"_s},      {u"0.0001"_s, u"0"_s},      {u"-0.0004"_s, u"-0"_s},
-         {u"-0"_s, u"0"_s},          {u"1e3"_s, u"1000"_s},      {u" 7. "_s, u"7"_s},
+         {u"-0"_s, u"-0"_s},         {u"1e3"_s, u"1000"_s},      {u" 7. "_s, u"7"_s},
          {u"0.0625"_s, u"0.063"_s},  {u"1,5"_s, u"refused"_s},   {u"1.000,5"_s, u"refused"_s},
          {u"1.2.3"_s, u"refused"_s}, {u"."_s, u"refused"_s},     {u"-"_s, u"refused"_s},
          {u""_s, u"refused"_s},      {u"nan"_s, u"refused"_s},   {u"-inf"_s, u"refused"_s},
@@ -109,6 +109,7 @@ TEST(ValueConversion, RealTextForCode)
     EXPECT_EQ(ValueConversion::toQmlString(1.23456, 4), u"1.2346"_s);
     EXPECT_EQ(ValueConversion::toQmlString(0.1, 20), u"0.10000000000000000555"_s);
     EXPECT_EQ(ValueConversion::toQmlString(1.26, -5), u"1"_s);
+    EXPECT_EQ(ValueConversion::toQmlString(-0.0, 12), u"-0"_s);
     EXPECT_EQ(ValueConversion::toQmlString(notANumber, 3), u"NaN"_s);
     EXPECT_EQ(ValueConversion::toQmlString(-infinity, 3), u"-Infinity"_s);
 }

@@ -55,7 +55,7 @@ QLatin1StringView printOrdinaryReal(double value, int decimals, RealBuffer &buff
         return {};
     const auto unit = quint64(powersOfTen[size_t(decimals)]);
     char *end = buffer.data();
-    if (value < 0)
+    if (std::signbit(value))
         *end++ = '-';
     end = std::to_chars(end, buffer.data() + buffer.size(), scaled / unit).ptr;
     quint64 fraction = scaled % unit;
@@ -76,6 +76,8 @@ QString realForm(double value, int decimals)
     if (const QLatin1StringView text = printOrdinaryReal(value, decimals, buffer); !text.isEmpty())
         return text;
     QString text = QString::number(value, 'f', decimals);
+    if (value == 0 && std::signbit(value))
+        text.prepend(u'-');
     if (text.contains(u'.')) {
         while (text.endsWith(u'0'))
             text.chop(1);

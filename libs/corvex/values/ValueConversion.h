@@ -32,7 +32,8 @@ public:
     //! them gets into a model.
     static double toReal(QStringView text, bool *ok = nullptr);
     //! The real form: three decimals at most, trailing zeros cut, never an exponent; 1e308 has 309 digits.
-    //! What rounds to zero from below is "-0". Not a number and the infinities give "nan", "inf" and "-inf".
+    //! What rounds to zero from below is "-0", and reads back as what prints "-0". Not a number and the
+    //! infinities give "nan", "inf" and "-inf".
     static QString toString(double value);
     //! The real form with another number of decimals (0 to 100) for generated code, where the values that are
     //! no numbers have the names of JavaScript: NaN, Infinity and -Infinity.
