@@ -279,6 +279,15 @@ TEST(ValueConversion, Font)
                   .wordSpacing(),
               -2);
     EXPECT_TRUE(ok);
+
+    // The font holds 64ths and cuts the rest: what it prints must not shrink from reading to reading.
+    for (int fraction = -64; fraction <= 64; ++fraction) {
+        const QString spacing = ValueConversion::toString(fraction / 64.0);
+        const QString text = QString(printed)
+                                 .replace(u"1.5"_s, spacing)
+                                 .replace(u"wordSpacing: 0"_s, u"wordSpacing: "_s + spacing);
+        EXPECT_EQ(ValueConversion::toString(ValueConversion::toFont(text)), text);
+    }
 }
 
 TEST(ValueConversion, FontRefusesWhatItDoesNotWrite)
@@ -295,6 +304,8 @@ TEST(ValueConversion, FontRefusesWhatItDoesNotWrite)
         {u"pointSize: 12"_s, u"pointSize: 12; pointSize: 12"_s},
         {u"pointSize: 12"_s, u"size: 12"_s},
         {u"wordSpacing: 0"_s, u"wordSpacing: nan"_s},
+        {u"wordSpacing: 0"_s, u"wordSpacing: 1e300"_s},
+        {u"letterSpacing: 0"_s, u"letterSpacing: -33554432"_s},
     };
     for (const auto &[part, fault] : faults) {
         bool ok = true;

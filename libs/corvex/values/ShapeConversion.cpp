@@ -6,8 +6,10 @@
 
 #include <QStringTokenizer>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace Halvane::Corvex::Designer {
 
@@ -49,18 +51,33 @@ bool readFamily(QFont &font, QStringView value)
     return ok;
 }
 
+//! The spacing as a font can hold it: in 64ths, of which there are as many as an int has. The font itself
+//! cuts what lies between two of them, so that what it prints would shrink each time it is read.
+bool readSpacing(QStringView value, qreal &spacing)
+{
+    constexpr qreal fractions = 64;
+    bool ok = false;
+    const qreal scaled = std::round(ValueConversion::toReal(value, &ok) * fractions);
+    if (!ok || std::abs(scaled) > std::numeric_limits<int>::max())
+        return false;
+    spacing = scaled / fractions;
+    return true;
+}
+
 bool readLetterSpacing(QFont &font, QStringView value)
 {
-    bool ok = false;
-    if (const qreal spacing = ValueConversion::toReal(value, &ok); spacing != 0)
+    qreal spacing = 0;
+    const bool ok = readSpacing(value, spacing);
+    if (spacing != 0)
         font.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
     return ok;
 }
 
 bool readWordSpacing(QFont &font, QStringView value)
 {
-    bool ok = false;
-    font.setWordSpacing(ValueConversion::toReal(value, &ok));
+    qreal spacing = 0;
+    const bool ok = readSpacing(value, spacing);
+    font.setWordSpacing(spacing);
     return ok;
 }
 

@@ -65,7 +65,8 @@ public:
     static QString toString(const QMap<QString, QString> &group);
 
     //! Asks for every key that toString() writes; pointSize and pixelSize may be absent, and the font then
-    //! has the application's size. A letter spacing other than zero is read as pixels.
+    //! has the application's size. A letter spacing other than zero is read as pixels. Spacings are rounded
+    //! to 64ths, which is what a font can hold.
     static QFont toFont(QStringView text, bool *ok = nullptr);
     static QString toString(const QFont &font);
 
