@@ -364,8 +364,12 @@ TEST(ValueConversion, GradientStops)
                                      {u"0, nocolor"_s, u"refused"_s},
                                      {u""_s, u"refused"_s}});
     // A hundredth that falls short of itself as a double would sink by one each time it is printed.
-    for (int hundredth = 0; hundredth <= 100; ++hundredth) {
+    for (int hundredth = -100; hundredth <= 100; ++hundredth) {
         const QString text = u"%1, #FF000000"_s.arg(ValueConversion::toString(hundredth / 100.0));
         EXPECT_EQ(canonical<QGradientStops>(ValueConversion::toGradientStops, text), text);
     }
+    EXPECT_EQ(ValueConversion::toString(QGradientStops{{-0.001, Qt::red}}), u"0, #FFFF0000"_s);
+    EXPECT_EQ(ValueConversion::toReal(
+                  ValueConversion::toString(QGradientStops{{1e308, Qt::red}}).section(u',', 0, 0)),
+              1e308);
 }

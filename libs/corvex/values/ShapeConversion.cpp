@@ -141,6 +141,17 @@ bool readStop(QStringView text, QGradientStop &stop)
     return positionOk && colorOk;
 }
 
+//! The position cut to two decimals. A hundredth is rarely a double (0.29 * 100 is a hair below 29), so that
+//! what is as good as one is not cut.
+double cutToHundredths(double position)
+{
+    const double scaled = position * 100;
+    const double nearest = std::round(scaled);
+    const bool isHundredth = std::abs(scaled - nearest) <= 1e-9 * std::max(1.0, std::abs(scaled));
+    const double hundredths = isHundredth ? nearest : std::trunc(scaled);
+    return std::isfinite(hundredths) ? hundredths / 100 + 0.0 : position;
+}
+
 //! The result of a reader: the value, or an empty one.
 template<class Value>
 Value result(bool success, Value value, bool *ok)
@@ -286,8 +297,7 @@ QString ValueConversion::toString(const QGradientStops &stops)
     for (const auto &[position, color] : stops) {
         if (!text.isEmpty())
             text.append(" | "_L1);
-        // A hundredth is rarely a double: 0.29 * 100 is a hair below 29.
-        appendReal(text, std::trunc(position * 100 + 1e-9) / 100);
+        appendReal(text, cutToHundredths(position));
         text.append(", "_L1);
         appendColor(text, color);
     }
