@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "elements/AlarmOutput.h"
 
+#include "elements/ChannelValue.h"
 #include "elements/Rows.h"
 #include "elements/Statements.h"
 
@@ -15,6 +16,13 @@ bool AlarmOutput::initializeProperties()
         initialValueRow("VerticalBooleanExpressionEditor").rank(2).qml(&conditionToQml),
     };
     return HardwareElement::initializeProperties() && addProperties(table);
+}
+
+RuntimePropertyList AlarmOutput::runtimeProperties() const
+{
+    using Common::EnumHelper;
+    return withValue(HardwareElement::runtimeProperties(), EnumHelper::BooleanVariable,
+                     EnumHelper::ReadWrite);
 }
 
 } // namespace Halvane::Corvex::Elements

@@ -11,6 +11,9 @@ class AlarmOutput : public Designer::HardwareElement
     Q_OBJECT
     CORVEX_CLASS_NAMES(AlarmOutput, Designer::HardwareElement)
 
+public:
+    Designer::RuntimePropertyList runtimeProperties() const override;
+
 protected:
     using HardwareElement::HardwareElement;
     bool initializeProperties() override;

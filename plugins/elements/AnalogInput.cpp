@@ -3,6 +3,7 @@
 
 #include "corvex/core/properties/RangeProperty.h"
 
+#include "elements/ChannelValue.h"
 #include "elements/Rows.h"
 
 using namespace Qt::StringLiterals;
@@ -21,6 +22,12 @@ bool AnalogInput::initializeProperties()
             .allowInvalid(),
     };
     return HardwareElement::initializeProperties() && addProperties(table);
+}
+
+RuntimePropertyList AnalogInput::runtimeProperties() const
+{
+    using Common::EnumHelper;
+    return withValue(HardwareElement::runtimeProperties(), EnumHelper::FloatVariable, EnumHelper::ReadOnly);
 }
 
 } // namespace Halvane::Corvex::Elements

@@ -11,6 +11,9 @@ class AnalogInput : public Designer::HardwareElement
     Q_OBJECT
     CORVEX_CLASS_NAMES(AnalogInput, Designer::HardwareElement)
 
+public:
+    Designer::RuntimePropertyList runtimeProperties() const override;
+
 protected:
     using HardwareElement::HardwareElement;
     bool initializeProperties() override;

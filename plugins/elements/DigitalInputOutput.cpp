@@ -3,6 +3,7 @@
 
 #include "corvex/core/PropertyValidators.h"
 
+#include "elements/ChannelValue.h"
 #include "elements/Rows.h"
 #include "elements/Statements.h"
 
@@ -20,6 +21,13 @@ bool DigitalInputOutput::initializeProperties()
         initialValueRow("VerticalBooleanExpressionEditor").rank(2).qml(&conditionToQml),
     };
     return HardwareElement::initializeProperties() && addProperties(table);
+}
+
+RuntimePropertyList DigitalInputOutput::runtimeProperties() const
+{
+    using Common::EnumHelper;
+    return withValue(HardwareElement::runtimeProperties(), EnumHelper::BooleanVariable,
+                     EnumHelper::ReadWrite);
 }
 
 } // namespace Halvane::Corvex::Elements

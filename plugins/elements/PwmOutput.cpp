@@ -3,6 +3,7 @@
 
 #include "corvex/core/PropertyValidators.h"
 
+#include "elements/ChannelValue.h"
 #include "elements/Rows.h"
 #include "elements/Statements.h"
 
@@ -17,6 +18,12 @@ bool PwmOutput::initializeProperties()
         initialValueRow("VerticalMathExpressionEditor").rank(2).qml(&mathToQml),
     };
     return HardwareElement::initializeProperties() && addProperties(table);
+}
+
+RuntimePropertyList PwmOutput::runtimeProperties() const
+{
+    using Common::EnumHelper;
+    return withValue(HardwareElement::runtimeProperties(), EnumHelper::FloatVariable, EnumHelper::ReadWrite);
 }
 
 } // namespace Halvane::Corvex::Elements

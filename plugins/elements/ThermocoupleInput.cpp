@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "elements/ThermocoupleInput.h"
 
+#include "elements/ChannelValue.h"
 #include "elements/Rows.h"
 
 using namespace Halvane::Corvex::Designer;
@@ -13,6 +14,12 @@ bool ThermocoupleInput::initializeProperties()
         channelRow().rank(1),
     };
     return HardwareElement::initializeProperties() && addProperties(table);
+}
+
+RuntimePropertyList ThermocoupleInput::runtimeProperties() const
+{
+    using Common::EnumHelper;
+    return withValue(HardwareElement::runtimeProperties(), EnumHelper::FloatVariable, EnumHelper::ReadOnly);
 }
 
 } // namespace Halvane::Corvex::Elements

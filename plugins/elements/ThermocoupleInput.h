@@ -11,6 +11,9 @@ class ThermocoupleInput : public Designer::HardwareElement
     Q_OBJECT
     CORVEX_CLASS_NAMES(ThermocoupleInput, Designer::HardwareElement)
 
+public:
+    Designer::RuntimePropertyList runtimeProperties() const override;
+
 protected:
     using HardwareElement::HardwareElement;
     bool initializeProperties() override;
