@@ -61,6 +61,9 @@ protected:
         return found;
     }
 
+    //! The names in the expressions of all screens that lead nowhere.
+    static QStringList danglingNames(const Designer::Project &project);
+
     QTemporaryDir folder;
 };
 

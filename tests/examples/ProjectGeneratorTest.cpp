@@ -4,7 +4,7 @@
 #include "ExampleTest.h"
 #include "ProjectGenerator.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
@@ -54,6 +54,7 @@ TEST_F(ProjectGeneratorTest, MakesAValidProjectThatSurvivesItsFile)
     EXPECT_TRUE(loaded->readNotes().isEmpty());
     loaded->validate();
     EXPECT_EQ(faults(*loaded), QStringList());
+    EXPECT_EQ(danglingNames(*loaded), QStringList());
     EXPECT_TRUE(saved(*loaded) == bytesOf(project->fullFilePath()));
 }
 

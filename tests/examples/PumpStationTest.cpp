@@ -8,7 +8,10 @@
 #include "ExampleTest.h"
 #include "PumpStation.h"
 
-#include <gmock/gmock.h>
+#include <QQmlComponent>
+#include <QQmlEngine>
+
+#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
@@ -31,6 +34,7 @@ TEST_F(PumpStationTest, LoadsCleanAndSavesTheSameBytes)
     EXPECT_TRUE(project->readNotes().isEmpty());
     project->validate();
     EXPECT_EQ(faults(*project), QStringList());
+    EXPECT_EQ(danglingNames(*project), QStringList());
     EXPECT_TRUE(saved(*project) == bytesOf(projectFile));
 }
 
@@ -102,6 +106,23 @@ TEST_F(PumpStationTest, HoldsAllThatThereIsToShow)
     for (const char *id : {"textBinding", "colorBinding", "visibleBinding", "xBinding", "yBinding",
                            "rotationBinding", "pressed", "condition", "dataValues", "initValue"}) {
         EXPECT_TRUE(expressions.contains(QString::fromLatin1(id))) << id;
+    }
+}
+
+TEST_F(PumpStationTest, ItsScreensParse)
+{
+    const std::unique_ptr<Project> project = load(projectFile);
+    QQmlEngine engine;
+    qmlRegisterModule("StandIn", 1, 0);
+    for (const DesignerObject *screen : project->screens()->listItems()) {
+        QString qml = screen->toQml(0);
+        qml.replace(u"import QtQuick 1.1"_s, u"import StandIn 1.0"_s).remove(u"import RuntimeObjects 2.0"_s);
+        QQmlComponent component(&engine);
+        component.setData(qml.toUtf8(), QUrl(u"file:///screen.qml"_s));
+        for (const QQmlError &error : component.errors()) {
+            // The types are those of the device.
+            EXPECT_TRUE(error.description().contains(u"is not a type"_s)) << qPrintable(error.toString());
+        }
     }
 }
 

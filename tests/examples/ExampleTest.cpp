@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "ExampleTest.h"
+
+#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/project/Element.h"
+#include "corvex/project/Screen.h"
+#include "corvex/values/PairList.h"
+
+using namespace Qt::StringLiterals;
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Examples {
+
+namespace {
+
+//! All expressions that an element holds, those of a logic builder's rules among them.
+QList<GeneralDataList> expressionsOf(const Element &element)
+{
+    QList<GeneralDataList> expressions;
+    for (const SharedProperty &property : element.properties()) {
+        if (property->id() == "logicExpression"_L1) {
+            for (const TextPair &rule : PairList(property->valueString())) {
+                expressions << GeneralDataList(rule.first) << GeneralDataList(rule.second);
+            }
+        } else if (property->className() == "GeneralDataListProperty"_L1) {
+            expressions << static_cast<const GeneralDataListProperty &>(*property).value();
+        }
+    }
+    return expressions;
+}
+
+bool leadsSomewhere(const GeneralDataInfo &term, const Project &project, Screen &screen)
+{
+    if (term.valueType() == GeneralDataInfo::VariableValue) {
+        return project.variables()->hasListItem(term.value());
+    }
+    if (term.valueType() != GeneralDataInfo::ObjectValue) {
+        return true;
+    }
+    const auto *element = static_cast<const Element *>(term.toProcess(&screen));
+    return element && element->runtimeProperties().contains(term.value().section(u'.', -1));
+}
+
+} // namespace
+
+QStringList ExampleTest::danglingNames(const Project &project)
+{
+    QStringList names;
+    for (DesignerObject *item : project.screens()->listItems()) {
+        auto &screen = static_cast<Screen &>(*item);
+        for (const Element *element : screen.getElementsOfType(u"Element"_s)) {
+            for (const GeneralDataList &expression : expressionsOf(*element)) {
+                for (const GeneralDataInfo &term : expression) {
+                    if (!leadsSomewhere(term, project, screen)) {
+                        names.append(u"%1: %2"_s.arg(element->objectPath(), term.value()));
+                    }
+                }
+            }
+        }
+    }
+    return names;
+}
+
+} // namespace Halvane::Corvex::Examples
