@@ -60,7 +60,6 @@ protected:
 
 TEST_F(AutosaveTest, TheTimerRunsFromFiveToOneHundredAndTwentyMinutes)
 {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path(u"settings"_s));
     const struct
     {
         QVariant setting;
