@@ -185,6 +185,7 @@ TEST_F(ConfigurationTest, aFileIsReadAsItStands)
     EXPECT_TRUE(isVisible(copy->getProperty(u"serialRS485Ports")));
     EXPECT_TRUE(isVisible(copy->getProperty(u"digitalInputOutputs")));
     EXPECT_FALSE(isVisible(copy->getProperty(u"password")));
+    EXPECT_FALSE(isVisible(copy->getProperty(u"alarmOutputs"))) << "the model has none";
 }
 
 TEST_F(ConfigurationTest, recordCarriesEverything)

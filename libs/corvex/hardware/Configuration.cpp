@@ -209,6 +209,8 @@ void Configuration::finishReading()
 {
     FileObject::finishReading();
     m_isLoaded = true;
+    // Lists that the file leaves empty have not been changed and have nothing to show either.
+    updateVisibility(nullptr);
     localize();
 }
 

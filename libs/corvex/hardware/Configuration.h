@@ -122,7 +122,8 @@ private:
     void write(Place place, const QString &value) { changePropertyValue(at(place), value); }
 
     bool isShown(const Visibility &visibility) const;
-    void updateVisibility(const DesignerProperty &changed);
+    //! Of what \a changed decides about; of everything when it is null.
+    void updateVisibility(const DesignerProperty *changed);
     void judgeAgain(const DesignerProperty &changed);
     void localize();
 

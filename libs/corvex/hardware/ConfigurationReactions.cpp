@@ -160,7 +160,7 @@ void Configuration::afterPropertyChanged(const DesignerProperty *property, const
         }
         judgeAgain(*property);
     }
-    updateVisibility(*property);
+    updateVisibility(property);
 }
 
 bool Configuration::isShown(const Visibility &visibility) const
@@ -174,11 +174,12 @@ bool Configuration::isShown(const Visibility &visibility) const
     return visibility.hasEntries && ChannelList(textOf(visibility.property)).isAnyUsed();
 }
 
-void Configuration::updateVisibility(const DesignerProperty &changed)
+void Configuration::updateVisibility(const DesignerProperty *changed)
 {
     for (const Visibility &visibility : visibilities()) {
         const SharedProperty &property = at(visibility.property);
-        if (property != &changed && (visibility.onSwitch == Name || at(visibility.onSwitch) != &changed)) {
+        const bool isSwitched = visibility.onSwitch != Name && at(visibility.onSwitch) == changed;
+        if (changed && property != changed && !isSwitched) {
             continue;
         }
         const bool isVisible = property->editorParameters().value(u"visible"_s, true).toBool();
