@@ -63,16 +63,6 @@ void addReactions(PanelScreen &screen)
                                    {"motorHot", "motorHotLamp.color = #FFC62828"},
                                    {"motorHot == false", "motorHotLamp.color = #FF8A97A3"},
                                });
-    screen.logic("alarmState",
-                 {
-                     {"wellLevel >= alarmLevel", "highLevel = true"},
-                     {"wellLevel < alarmLevel", "highLevel = false"},
-                     {"motorTemperature > 80", "motorHot = true"},
-                     {"motorTemperature <= 80", "motorHot = false"},
-                     {"highLevel || pump1Fault || pump2Fault || motorHot", "alarmActive = true"},
-                     {"(highLevel || pump1Fault || pump2Fault || motorHot) == false",
-                      "alarmActive = false; acknowledged = false"},
-                 });
     screen.channel("AlarmOutput", "horn", 1).bind("initValue", "alarmActive && acknowledged == false");
     screen.channel("AlarmOutput", "beacon", 2).bind("initValue", "alarmActive");
 }

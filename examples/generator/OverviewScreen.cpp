@@ -103,16 +103,8 @@ void drawDischarge(PanelScreen &screen)
         .bind("textBinding", "toUpperCase(trim(operatorName))");
 }
 
-void addControl(PanelScreen &screen)
+void addPumpColors(PanelScreen &screen)
 {
-    screen.logic("levelControl",
-                 {
-                     {"autoMode && wellLevel >= startLevel", "pump1Running = true"},
-                     {"autoMode && wellLevel >= alarmLevel", "pump2Running = true"},
-                     {"autoMode && wellLevel <= stopLevel", "pump1Running = false; pump2Running = false"},
-                     {"pump1Fault || motorHot", "pump1Running = false"},
-                     {"pump2Fault", "pump2Running = false"},
-                 });
     screen.logic("pumpColors", {
                                    {"pump1Running == false", "pump1Color = #FF8A97A3"},
                                    {"pump1Running", "pump1Color = #FF2E8B57"},
@@ -154,7 +146,7 @@ void PumpStationScreens::drawOverview(PanelScreen &screen)
     screen.rectangle("pumpDivider", {288, 256, 224, 1}, plain(cardBorder));
     drawPump(screen, 2, 268);
     drawDischarge(screen);
-    addControl(screen);
+    addPumpColors(screen);
     addChannels(screen);
     screen.filter("pumpElements", {"pump1Picture", "pump1Name", "pump1State", "pump1Lamp", "pump2Picture",
                                    "pump2Name", "pump2State", "pump2Lamp"});

@@ -8,6 +8,33 @@ namespace Halvane::Corvex::Examples {
 
 using namespace PanelStyle;
 
+namespace {
+
+//! The rules that have to hold whatever is shown: those of a screen rest while another one is there.
+void addStationLogic(PanelScreen &screen)
+{
+    screen.logic("levelControl",
+                 {
+                     {"autoMode && wellLevel >= startLevel", "pump1Running = true"},
+                     {"autoMode && wellLevel >= alarmLevel", "pump2Running = true"},
+                     {"autoMode && wellLevel <= stopLevel", "pump1Running = false; pump2Running = false"},
+                     {"pump1Fault || motorHot", "pump1Running = false"},
+                     {"pump2Fault", "pump2Running = false"},
+                 });
+    screen.logic("alarmState",
+                 {
+                     {"wellLevel >= alarmLevel", "highLevel = true"},
+                     {"wellLevel < alarmLevel", "highLevel = false"},
+                     {"motorTemperature > 80", "motorHot = true"},
+                     {"motorTemperature <= 80", "motorHot = false"},
+                     {"highLevel || pump1Fault || pump2Fault || motorHot", "alarmActive = true"},
+                     {"(highLevel || pump1Fault || pump2Fault || motorHot) == false",
+                      "alarmActive = false; acknowledged = false"},
+                 });
+}
+
+} // namespace
+
 void PumpStationScreens::drawBars(PanelScreen &screen, const char *title, const char *screenName)
 {
     constexpr int width = 800;
@@ -40,6 +67,7 @@ void PumpStationScreens::drawBars(PanelScreen &screen, const char *title, const 
                 .link("screen", screens[i]);
         }
     }
+    addStationLogic(screen);
 }
 
 } // namespace Halvane::Corvex::Examples

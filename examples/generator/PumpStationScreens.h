@@ -13,7 +13,8 @@ void drawTrends(PanelScreen &screen);
 void drawAlarms(PanelScreen &screen);
 void drawSettings(PanelScreen &screen);
 
-//! The bars themselves: title and state at the top, the way to the other screens at the bottom.
+/*! What all screens have: title and state at the top, the way to the other screens at the bottom, and the
+    rules by which the station runs. */
 void drawBars(PanelScreen &screen, const char *title, const char *screenName);
 
 } // namespace PumpStationScreens

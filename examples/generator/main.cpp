@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/hardware/HardwareConfigurations.h"
+#include "corvex/project/FileNameRules.h"
 #include "corvex/project/Project.h"
 
 #include "ProjectGenerator.h"
@@ -44,6 +45,10 @@ QString read(const QCommandLineParser &line, Order &order)
     order.parentFolder = line.positionalArguments().first();
     order.isPumpStation = line.isSet(u"pump-station"_s);
     order.name = order.isPumpStation ? u"PumpStation"_s : line.value(u"name"_s);
+    const QString nameError = Designer::FileNameRules::projectNameError(order.name);
+    if (!nameError.isEmpty()) {
+        return nameError;
+    }
     const auto named = Examples::ProjectSize::named(line.value(u"size"_s));
     if (!named) {
         return u"The sizes are S, M and L."_s;
@@ -122,6 +127,18 @@ ExitCode carryOut(const Order &order)
     return Done;
 }
 
+//! With fonts, if need be: the pictures of the pump station have letters on them.
+std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
+{
+    const auto asksForPumpStation = [](const char *argument) {
+        return qstrcmp(argument, "--pump-station") == 0;
+    };
+    if (std::any_of(argv, argv + argc, asksForPumpStation)) {
+        return std::make_unique<QGuiApplication>(argc, argv);
+    }
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -129,7 +146,7 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // Descriptions of device models are those of the locale.
     qputenv("LC_ALL", "C.UTF-8");
-    QGuiApplication application(argc, argv);
+    const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
     QCommandLineParser line;
     line.setApplicationDescription(
         u"Makes projects of any size, or the example project PumpStation. The same "
@@ -148,7 +165,7 @@ int main(int argc, char **argv)
         {u"pump-station"_s, u"Makes the example project PumpStation."_s},
     });
     line.addPositionalArgument(u"folder"_s, u"Where the folder of the project is made."_s);
-    line.process(application);
+    line.process(*application);
 
     Order order;
     const QString misuse = read(line, order);
