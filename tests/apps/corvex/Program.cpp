@@ -23,6 +23,11 @@ ProgramRun corvex(const QStringList &arguments, const QString &folder)
 {
     QProcess process;
     process.setWorkingDirectory(folder);
+    // The search for leaks at the end of a program that has loaded libraries by itself crashes now and then
+    // in the search itself. The tests of the rooms look for leaks in the same code.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"ASAN_OPTIONS"_s, environment.value(u"ASAN_OPTIONS"_s) + u":detect_leaks=0"_s);
+    process.setProcessEnvironment(environment);
     process.start(QStringLiteral(CORVEX_PROGRAM), arguments);
     if (!process.waitForFinished(60'000) || process.exitStatus() != QProcess::NormalExit) {
         return {-1, QString(), process.errorString()};
