@@ -38,11 +38,7 @@ RuntimePropertyList Image::runtimeProperties() const
         {"width", "Width", EnumHelper::NumberVariable, EnumHelper::ReadWrite},
         {"height", "Height", EnumHelper::NumberVariable, EnumHelper::ReadWrite},
     };
-    static const RuntimePropertyList list = [this] {
-        RuntimePropertyList all = StandardVisual::runtimeProperties();
-        all.append(toRuntimeProperties(rows));
-        return all;
-    }();
+    static const RuntimePropertyList list = extended(StandardVisual::runtimeProperties(), rows);
     return list;
 }
 

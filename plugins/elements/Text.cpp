@@ -66,11 +66,7 @@ RuntimePropertyList Text::runtimeProperties() const
         {"width", "Width", EnumHelper::NumberVariable, EnumHelper::ReadWrite},
         {"height", "Height", EnumHelper::NumberVariable, EnumHelper::ReadWrite},
     };
-    static const RuntimePropertyList list = [this] {
-        RuntimePropertyList all = StandardVisual::runtimeProperties();
-        all.append(toRuntimeProperties(rows));
-        return all;
-    }();
+    static const RuntimePropertyList list = extended(StandardVisual::runtimeProperties(), rows);
     return list;
 }
 

@@ -250,6 +250,18 @@ QStringList DesignerFactory::wizardNames() const
     return sortedKeys(m_wizards);
 }
 
+QString DesignerFactory::baseNameOf(const DesignerObject *object)
+{
+    const QString className = object->className();
+    return instance() ? instance()->m_baseNames.value(className, className) : className;
+}
+
+QString DesignerFactory::displayNameOf(const DesignerObject *object)
+{
+    const QString className = object->className();
+    return instance() ? instance()->m_displayNames.value(className, className) : className;
+}
+
 void DesignerFactory::setFontFamilies(const QStringList &families)
 {
     if (families != m_fontFamilies) {

@@ -61,6 +61,11 @@ public:
         return m_classesByDisplay.value(displayName);
     }
 
+    // The names that the tables have for an object's class; the class name itself without a factory or an
+    // entry.
+    static QString baseNameOf(const DesignerObject *object);
+    static QString displayNameOf(const DesignerObject *object);
+
     //! The font families that all font editors offer.
     const QStringList &fontFamilies() const { return m_fontFamilies; }
     void setFontFamilies(const QStringList &families);

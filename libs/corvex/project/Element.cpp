@@ -27,14 +27,12 @@ Element::~Element()
 
 QString Element::baseName() const
 {
-    const DesignerFactory *factory = DesignerFactory::instance();
-    return factory ? factory->baseNameForClass(className()) : DesignerObject::baseName();
+    return DesignerFactory::baseNameOf(this);
 }
 
 QString Element::displayName() const
 {
-    const DesignerFactory *factory = DesignerFactory::instance();
-    return factory ? factory->displayNameForClass(className()) : DesignerObject::displayName();
+    return DesignerFactory::displayNameOf(this);
 }
 
 bool Element::initializeProperties()

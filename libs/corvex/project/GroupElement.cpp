@@ -70,11 +70,7 @@ RuntimePropertyList GroupElement::runtimeProperties() const
         {"indexes", "Indexes", EnumHelper::StringVariable, EnumHelper::ReadOnly},
         {"children", "Child elements", EnumHelper::NoVariable, EnumHelper::ReadOnly},
     };
-    static const RuntimePropertyList list = [this] {
-        RuntimePropertyList all = VisualElement::runtimeProperties();
-        all.append(toRuntimeProperties(rows));
-        return all;
-    }();
+    static const RuntimePropertyList list = extended(VisualElement::runtimeProperties(), rows);
     return list;
 }
 

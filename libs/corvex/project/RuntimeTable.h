@@ -23,4 +23,12 @@ RuntimePropertyList toRuntimeProperties(const RuntimeRow (&rows)[count])
     return toRuntimeProperties(rows, rows + count);
 }
 
+//! What a class offers beside what its base does.
+template<size_t count>
+RuntimePropertyList extended(RuntimePropertyList base, const RuntimeRow (&rows)[count])
+{
+    base.append(toRuntimeProperties(rows));
+    return base;
+}
+
 } // namespace Halvane::Corvex::Designer

@@ -45,14 +45,12 @@ Screen::~Screen()
 
 QString Screen::baseName() const
 {
-    const DesignerFactory *factory = DesignerFactory::instance();
-    return factory ? factory->baseNameForClass(kindName()) : DesignerObject::baseName();
+    return DesignerFactory::baseNameOf(this);
 }
 
 QString Screen::displayName() const
 {
-    const DesignerFactory *factory = DesignerFactory::instance();
-    return factory ? factory->displayNameForClass(kindName()) : DesignerObject::displayName();
+    return DesignerFactory::displayNameOf(this);
 }
 
 bool Screen::initializeProperties()

@@ -115,11 +115,7 @@ RuntimePropertyList VisualElement::runtimeProperties() const
         {"visible", "Visible", EnumHelper::BooleanVariable, EnumHelper::ReadWrite,
          "The element is currently visible"},
     };
-    static const RuntimePropertyList list = [this] {
-        RuntimePropertyList all = Element::runtimeProperties();
-        all.append(toRuntimeProperties(rows));
-        return all;
-    }();
+    static const RuntimePropertyList list = extended(Element::runtimeProperties(), rows);
     return list;
 }
 

@@ -7,16 +7,12 @@ namespace Halvane::Corvex::Designer {
 
 QString NamedObject::baseName() const
 {
-    const DesignerFactory *factory = DesignerFactory::instance();
-    const QString name = factory ? factory->baseNameForClass(className()) : QString();
-    return name.isEmpty() ? className() : name;
+    return DesignerFactory::baseNameOf(this);
 }
 
 QString NamedObject::displayName() const
 {
-    const DesignerFactory *factory = DesignerFactory::instance();
-    const QString name = factory ? factory->displayNameForClass(className()) : QString();
-    return name.isEmpty() ? className() : name;
+    return DesignerFactory::displayNameOf(this);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -34,14 +34,12 @@ ProjectVariable::ProjectVariable(QObject *parent)
 
 QString ProjectVariable::baseName() const
 {
-    const DesignerFactory *factory = DesignerFactory::instance();
-    return factory ? factory->baseNameForClass(className()) : DesignerObject::baseName();
+    return DesignerFactory::baseNameOf(this);
 }
 
 QString ProjectVariable::displayName() const
 {
-    const DesignerFactory *factory = DesignerFactory::instance();
-    return factory ? factory->displayNameForClass(className()) : DesignerObject::displayName();
+    return DesignerFactory::displayNameOf(this);
 }
 
 ProjectVariable::VariableType ProjectVariable::variableType() const
