@@ -174,9 +174,42 @@ TEST_F(Xml, ItemsOfUnknownClassesAndDuplicatesGoBackToTheirPlaces)
     EXPECT_EQ(kept.front().name, u"b"_s);
     EXPECT_EQ(write(loaded.get()), xml);
 
+    // Read once more into the same object, and with another item in the place before.
+    QBuffer again(&xml);
+    again.open(QIODevice::ReadOnly);
+    EXPECT_TRUE(ObjectXmlReader(&again).read(loaded.get()));
+    EXPECT_EQ(write(loaded.get()), xml);
+    const SharedProperty nodes = loaded->property("nodes");
+    Node *other = Node::create(u"a"_s);
+    const std::unique_ptr<DesignerObject> old(nodes->getListItemAtIndex(0));
+    EXPECT_TRUE(loaded->replaceListPropertyItemAt(nodes, 0, other));
+    EXPECT_EQ(write(loaded.get()), xml);
+
     delete loaded->takeListPropertyItem(loaded->property("nodes"),
                                         loaded->property("nodes")->getListItemAtIndex(0));
     EXPECT_TRUE(write(loaded.get()).contains("<Robot>")) << "what is kept outlives its neighbour";
+}
+
+TEST_F(Xml, TextInsideAnUnknownItemStaysWhole)
+{
+    const std::unique_ptr<Node> loaded =
+        read(node("<Property name='nodes'><List><Robot>a &amp;  b\n c</Robot></List></Property>"));
+    EXPECT_EQ(loaded->property("nodes")->itemList()->keptItems().value(0).xml,
+              "<Robot>\n a &amp;  b&#xA; c\n</Robot>");
+}
+
+TEST_F(Xml, AnObjectIsUsableAfterAFailedReading)
+{
+    const std::unique_ptr<Node> target(Node::create(u"target"_s));
+    QByteArray xml = node("<Property name='sorted'><List><Node><Properties>").chopped(24);
+    QBuffer buffer(&xml);
+    buffer.open(QIODevice::ReadOnly);
+    EXPECT_FALSE(ObjectXmlReader(&buffer).read(target.get()));
+    EXPECT_FALSE(target->disabledValidation());
+    for (const QString &name : {u"b"_s, u"a"_s}) {
+        target->addListPropertyItem(target->property("sorted"), Node::create(name));
+    }
+    EXPECT_EQ(target->property("sorted")->listItemNames(), QStringList({u"a"_s, u"b"_s}));
 }
 
 TEST_F(Xml, HostileBytesEndWithAnErrorAndAPlace)

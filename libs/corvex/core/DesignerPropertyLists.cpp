@@ -165,9 +165,10 @@ bool DesignerProperty::replaceItemAt(qsizetype index, DesignerObject *newItem)
         return false;
     }
     DesignerObject *oldItem = items().items().at(index);
-    items().removeAt(index);
+    items().replaceAt(index, newItem);
     oldItem->takeListDesignerProperty(this);
-    putItem(index, newItem);
+    newItem->addListDesignerProperty(this);
+    updateListItems();
     return true;
 }
 

@@ -50,6 +50,16 @@ void ItemList::removeAt(qsizetype index)
     newestIndex = -1;
 }
 
+void ItemList::replaceAt(qsizetype index, DesignerObject *item)
+{
+    const QList<KeptItem> kept = m_kept.take(m_items.at(index));
+    removeAt(index);
+    insert(index, item);
+    if (!kept.isEmpty()) {
+        m_kept.insert(item, kept);
+    }
+}
+
 void ItemList::swap(qsizetype first, qsizetype second)
 {
     m_items.swapItemsAt(first, second);

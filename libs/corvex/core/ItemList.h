@@ -37,6 +37,8 @@ public:
 
     void insert(qsizetype index, DesignerObject *item);
     void removeAt(qsizetype index);
+    //! What is kept behind the old item stays behind the new one.
+    void replaceAt(qsizetype index, DesignerObject *item);
     void swap(qsizetype first, qsizetype second);
     //! Moves an item; \a to is its index afterwards.
     void move(qsizetype from, qsizetype to);
@@ -52,6 +54,7 @@ public:
     QList<KeptItem> keptItems() const;
     //! Keeps \a kept behind the item that is the last now. It moves with that item.
     void keep(const KeptItem &kept);
+    void dropKeptItems() { m_kept.clear(); }
 
     //! The number of items whose object is invalid, as counted by the objects themselves.
     qsizetype invalidCount = 0;

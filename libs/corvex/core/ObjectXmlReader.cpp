@@ -80,6 +80,7 @@ private:
     };
 
     bool feed(const QByteArray &chunk, bool isLast);
+    void dropUnfinished();
     void fail(const QString &message);
     void note(ReadNote::Kind kind, const QString &message);
     QString place() const;
@@ -94,7 +95,8 @@ private:
     void openObjectValue(const Frame &frame, const XML_Char *name);
     SharedProperty expectProperty(Frame &frame, const XML_Char *id);
     void applyValue(const Frame &frame, const SharedProperty &property, const XML_Char *value);
-    void emptyList(DesignerObject *owner, const SharedProperty &list);
+    static void emptyList(DesignerObject *owner, const SharedProperty &list);
+    static void finishList(const SharedProperty &list);
     DesignerObject *makeObject(const QString &className, DesignerObject *owner);
     void closeObject(const Frame &closed);
     void addItem(const Frame &list, DesignerObject *item);
@@ -131,6 +133,24 @@ bool ObjectXmlReader::Private::parse()
         }
         good = error.isEmpty() && feed(chunk, chunk.isEmpty());
     } while (good && !chunk.isEmpty());
+    dropUnfinished();
+    if (!root) {
+        return false;
+    }
+    enableValidation(root);
+    if (good && validates) {
+        root->validate();
+    }
+    return good;
+}
+
+void ObjectXmlReader::Private::dropUnfinished()
+{
+    for (const Frame &frame : std::as_const(frames)) {
+        if (frame.context == Context::List) {
+            finishList(frame.property);
+        }
+    }
     for (const Frame &frame : std::as_const(frames)) {
         // What was cut off in the middle has no owner yet.
         if (frame.context == Context::Object && frame.object != root && !frame.object->ownerObject()) {
@@ -138,13 +158,6 @@ bool ObjectXmlReader::Private::parse()
         }
     }
     frames.clear();
-    if (good && root) {
-        enableValidation(root);
-        if (validates) {
-            root->validate();
-        }
-    }
-    return good && root;
 }
 
 bool ObjectXmlReader::Private::feed(const QByteArray &chunk, bool isLast)
@@ -355,6 +368,13 @@ void ObjectXmlReader::Private::emptyList(DesignerObject *owner, const SharedProp
     for (auto item = items.crbegin(); item != items.crend(); ++item) {
         delete owner->takeListPropertyItem(list, *item);
     }
+    list->items().dropKeptItems();
+}
+
+void ObjectXmlReader::Private::finishList(const SharedProperty &list)
+{
+    list->items().isLoading = false;
+    list->sortList();
 }
 
 DesignerObject *ObjectXmlReader::Private::makeObject(const QString &className, DesignerObject *owner)
@@ -412,8 +432,7 @@ void ObjectXmlReader::Private::endElement(void *self, const XML_Char *name)
         }
         break;
     case Context::List:
-        closed.property->items().isLoading = false;
-        closed.property->sortList();
+        finishList(closed.property);
         break;
     case Context::Kept:
         reader->recorder.close(name);
@@ -481,13 +500,13 @@ void ObjectXmlReader::Private::characters(void *self, const XML_Char *text, int 
 {
     auto *reader = static_cast<Private *>(self);
     const QByteArrayView words = QByteArrayView(text, length).trimmed();
-    if (words.isEmpty() || reader->frames.isEmpty()) {
+    if (reader->frames.isEmpty()) {
         return;
     }
     const Frame &frame = reader->frames.constLast();
     if (frame.context == Context::Kept) {
-        reader->recorder.addText(words);
-    } else if (frame.object) {
+        reader->recorder.addText({text, length});
+    } else if (frame.object && !words.isEmpty()) {
         reader->note(ReadNote::Dropped, u"Text between elements is not kept: \"%1\"."_s.arg(QString::fromUtf8(
                                             words.first(std::min<qsizetype>(words.size(), 80)))));
     }
