@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/core/EditorView.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/properties/RealProperty.h"
 
@@ -61,6 +62,20 @@ TEST_F(Protocol, ARefusedValueLeavesOnlyItsReason)
     EXPECT_TRUE(owner->set("percent", u"101"_s));
     EXPECT_TRUE(owner->set("text", u"new"_s));
     EXPECT_TRUE(owner->isValid()) << "a refusal must not be taken for the state of the object";
+}
+
+TEST_F(Protocol, AnEditorHearsEachVerdict)
+{
+    struct Editor : public EditorView
+    {
+        void setErrorString(const QString &error) override { heard = error; }
+        QString heard;
+    } editor;
+    owner->property("percent")->setEditorWidget(&editor);
+    owner->set("percent", u"101"_s);
+    EXPECT_EQ(editor.heard, u"Out of range."_s);
+    owner->set("percent", u"100"_s);
+    EXPECT_EQ(editor.heard, QString());
 }
 
 TEST_F(Protocol, ATrialLeavesTheValueAsItIs)

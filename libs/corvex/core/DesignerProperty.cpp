@@ -4,6 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/DesignerPropertyState.h"
+#include "corvex/core/EditorView.h"
 
 using namespace Qt::StringLiterals;
 
@@ -94,12 +95,12 @@ void DesignerProperty::setEditorParameter(const QString &key, const QVariant &va
     }
 }
 
-PropertyEditor *DesignerProperty::editorWidget() const
+EditorView *DesignerProperty::editorWidget() const
 {
     return m_state ? m_state->editorWidget : nullptr;
 }
 
-void DesignerProperty::setEditorWidget(PropertyEditor *widget)
+void DesignerProperty::setEditorWidget(EditorView *widget)
 {
     if (widget != editorWidget()) {
         state().editorWidget = widget;
@@ -203,6 +204,9 @@ bool DesignerProperty::validate()
     }
     m_isValid = valid;
     setErrorString(valid ? QString() : error);
+    if (EditorView *editor = editorWidget()) {
+        editor->setErrorString(errorString());
+    }
     return valid;
 }
 

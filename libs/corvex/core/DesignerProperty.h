@@ -14,8 +14,8 @@
 namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
+class EditorView;
 class ItemList;
-class PropertyEditor;
 
 /*! One named, typed value of a DesignerObject.
 
@@ -53,9 +53,9 @@ public:
     void setEditor(const QString &editorName, const QVariantMap &parameters = {});
     void setEditorParameters(const QVariantMap &parameters);
     void setEditorParameter(const QString &key, const QVariant &value);
-    //! The editor that shows the property at the moment. Not owned; it resets itself before it goes.
-    PropertyEditor *editorWidget() const;
-    void setEditorWidget(PropertyEditor *widget);
+    //! The editor that shows the property at the moment; validate() tells it the outcome. Not owned.
+    EditorView *editorWidget() const;
+    void setEditorWidget(EditorView *widget);
 
     PropertyFlags flags() const { return m_descriptor->flags; }
     bool hasFlag(PropertyFlag flag) const { return m_descriptor->flags.testFlag(flag); }

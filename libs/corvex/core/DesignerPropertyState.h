@@ -12,7 +12,7 @@ struct DesignerProperty::State
     QString error;
     std::unique_ptr<ItemList> items;
     DesignerObject *objectValue = nullptr;
-    PropertyEditor *editorWidget = nullptr;
+    EditorView *editorWidget = nullptr;
     // Two properties may be in conflict with each other: pointers that own would never be released.
     QList<QWeakPointer<DesignerProperty>> conflicts;
 };

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace Halvane::Corvex::Designer {
+
+//! What the model knows of the widget that edits a property: it tells it each verdict and never asks it
+//! anything. It neither owns it nor outlives the right to call it: an editor that goes resets itself on its
+//! property first.
+class EditorView
+{
+public:
+    virtual ~EditorView() = default;
+
+    //! Why the property is invalid; empty when it is not.
+    virtual void setErrorString(const QString &error) = 0;
+};
+
+} // namespace Halvane::Corvex::Designer
