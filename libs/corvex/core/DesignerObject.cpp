@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/DesignerObject.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObjectData.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/ObjectView.h"
@@ -53,7 +54,7 @@ bool DesignerObject::initializeProperties()
     if (!addProperties(table)) {
         return false;
     }
-    d->id = d->properties.constLast();
+    d->id = getProperty(u"id");
     static_cast<IdentifierProperty &>(*d->id).setInitialValue({baseName(), {}, {}});
     return true;
 }
@@ -90,7 +91,7 @@ QString DesignerObject::baseName() const
 
 QString DesignerObject::displayName() const
 {
-    return u"Designer Object"_s;
+    return Common::LocalizationHelper::coreString(u"Designer Object"_s);
 }
 
 QString DesignerObject::qmlName() const
@@ -197,7 +198,7 @@ QMap<SharedProperty, QString> DesignerObject::linkPropertiesWithId() const
 {
     QMap<SharedProperty, QString> links;
     for (const SharedProperty &property : d->properties) {
-        if (property->className() == "LinkProperty"_L1) {
+        if (property->isKindOfClass(LinkProperty::kindName())) {
             links.insert(property, static_cast<const LinkProperty &>(*property).value().objectId());
         }
     }
@@ -208,7 +209,7 @@ QMap<SharedProperty, DesignerObject *> DesignerObject::linkPropertiesWithObjects
 {
     QMap<SharedProperty, DesignerObject *> links;
     for (const SharedProperty &property : d->properties) {
-        if (property->className() == "LinkProperty"_L1) {
+        if (property->isKindOfClass(LinkProperty::kindName())) {
             links.insert(property, static_cast<const LinkProperty &>(*property).connectLink());
         }
     }

@@ -32,6 +32,8 @@ class Screen;
     5. the signal is emitted.
 
     After-hooks and signals of a change of value or object carry what the property held \e before.
+    Hooks and slots may change the model further; they must not delete the object that is being changed, nor
+    an item that is coming or going.
 
     Ownership: in the model an object's QObject parent is the object whose list or object property holds it;
    out of the model it has none and belongs to whoever took it out. project() and screen() are null out of the

@@ -100,7 +100,7 @@ DesignerObject *DesignerObject::createFromFile(const QString &path, bool validat
                  qUtf8Printable(file.errorString()));
         return nullptr;
     }
-    return create(&file, validate, "createFromFile");
+    return create(&file, validate, "loadFromFile");
 }
 
 bool DesignerObject::loadFromFile(DesignerObject *object, const QString &path, bool validate)

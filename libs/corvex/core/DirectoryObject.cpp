@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/DirectoryObject.h"
 
+#include "corvex/common/LocalizationHelper.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -15,7 +17,7 @@ QString DirectoryObject::baseName() const
 
 QString DirectoryObject::displayName() const
 {
-    return u"Directory Object"_s;
+    return Common::LocalizationHelper::coreString(u"Directory Object"_s);
 }
 
 bool DirectoryObject::createDirectory(const QString &path)

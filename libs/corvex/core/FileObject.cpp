@@ -48,7 +48,7 @@ QString FileObject::baseName() const
 
 QString FileObject::displayName() const
 {
-    return u"File Object"_s;
+    return Common::LocalizationHelper::coreString(u"File Object"_s);
 }
 
 QString FileObject::createSubPath() const

@@ -98,7 +98,7 @@ QString Configuration::baseName() const
 
 QString Configuration::displayName() const
 {
-    return u"Configuration"_s;
+    return Common::LocalizationHelper::coreString(u"Configuration"_s);
 }
 
 QString Configuration::createFileName() const

@@ -107,7 +107,7 @@ bool ObjectListProperty::validateValue(QString &) const
 QString ObjectListProperty::convertToQml(int indent) const
 {
     QStringList blocks;
-    for (const DesignerObject *item : itemList()->items()) {
+    for (const DesignerObject *item : listItems()) {
         blocks.append(item->toQml(indent));
     }
     return blocks.join(u'\n');

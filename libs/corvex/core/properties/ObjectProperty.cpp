@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/properties/ObjectProperty.h"
 
+#include "corvex/core/DesignerObject.h"
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -19,12 +21,12 @@ bool ObjectProperty::convertToValue(const QString &)
 
 QString ObjectProperty::convertToValueString() const
 {
-    return valueString();
+    return DesignerObject::toString(objectValue());
 }
 
 bool ObjectProperty::valueIsEqual(const QString &text) const
 {
-    return text == valueString();
+    return text == convertToValueString();
 }
 
 bool ObjectProperty::validateValue(QString &) const
