@@ -12,8 +12,6 @@
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
-#include <ranges>
-
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -83,8 +81,8 @@ void Project::clearContents()
     setDisableValidation(true);
     for (const SharedProperty &list : {m_imageResources, m_variables, m_screens}) {
         const QList<DesignerObject *> items = list->listItems();
-        for (DesignerObject *item : std::ranges::reverse_view(items)) {
-            delete takeListPropertyItem(list, item);
+        for (auto item = items.crbegin(); item != items.crend(); ++item) {
+            delete takeListPropertyItem(list, *item);
         }
     }
     changePropertyObjectValue(m_configuration, nullptr, true);
