@@ -25,6 +25,7 @@ TEST(NestedText, EscapesOnlyWhatMustBe)
         {u"  two "_s, u"%20 two%20"_s, u"%20 two%20"_s},
         {u"\u2003x"_s, u"%E2%80%83x"_s, u"%E2%80%83x"_s},
         {u"%3B %3b %41 %zz %"_s, u"%253B %253b %41 %zz %"_s, u"%253B %253b %41 %zz %"_s},
+        {u"a\v\fb"_s, u"a%0B%0Cb"_s, u"a%0B%0Cb"_s},
         {u"%C2%A0 %C2"_s, u"%25C2%A0 %C2"_s, u"%25C2%A0 %C2"_s},
     };
     for (const auto &[text, field, item] : rows) {

@@ -72,6 +72,12 @@ void appendEscaped(QString &text, QChar character)
         appendByte(uchar(byte));
 }
 
+//! The blanks that no XML can hold, not even as a reference.
+bool isUnstorable(QChar c)
+{
+    return c == u'\v' || c == u'\f';
+}
+
 bool isOuterBlank(QStringView text, qsizetype index)
 {
     return (index == 0 || index == text.size() - 1) && text[index].isSpace();
@@ -84,7 +90,7 @@ QString escaped(const QString &text, IsSpecial &&isSpecial)
     qsizetype copied = 0;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const bool looksEscaped = text[i] == u'%' && escapeAt(text, i).length > 0;
-        if (!looksEscaped && !isOuterBlank(text, i) && !isSpecial(i))
+        if (!looksEscaped && !isOuterBlank(text, i) && !isUnstorable(text[i]) && !isSpecial(i))
             continue;
         result.append(QStringView(text).sliced(copied, i - copied));
         appendEscaped(result, text[i]);
