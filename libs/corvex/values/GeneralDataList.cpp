@@ -4,6 +4,8 @@
 #include "corvex/values/ExpressionCode.h"
 #include "corvex/values/ExpressionRules.h"
 
+#include <algorithm>
+
 namespace Halvane::Corvex::Designer {
 
 using namespace Qt::StringLiterals;
@@ -78,7 +80,7 @@ GeneralDataList::GeneralDataList(const QString &text, bool *ok)
     const auto appendParsed = [this](QStringView part) {
         GeneralDataInfo term;
         const bool accepted = term.parse(part);
-        m_terms.append(std::move(term));
+        m_records.append(std::move(term));
         return accepted;
     };
     if (rest.startsWith(u'<') && rest.endsWith(u'>') && rest.contains(border)) {
@@ -94,7 +96,7 @@ GeneralDataList::GeneralDataList(const QString &text, bool *ok)
         parsed = appendParsed(rest);
     }
     if (!parsed)
-        m_terms.clear();
+        m_records.clear();
     if (ok)
         *ok = parsed;
 }
@@ -102,30 +104,22 @@ GeneralDataList::GeneralDataList(const QString &text, bool *ok)
 QString GeneralDataList::toString() const
 {
     QString text;
-    for (qsizetype i = 0; i < m_terms.size(); ++i) {
+    for (qsizetype i = 0; i < m_records.size(); ++i) {
         if (i > 0)
             text += border;
-        m_terms[i].appendTo(text);
+        m_records[i].appendTo(text);
     }
-    return m_terms.size() > 1 ? u'<' + text + u'>' : text;
+    return m_records.size() > 1 ? u'<' + text + u'>' : text;
 }
 
 void GeneralDataList::append(ValueType valueType, DataType dataType, const QString &value)
 {
-    m_terms.emplaceBack(valueType, dataType, value);
+    m_records.emplaceBack(valueType, dataType, value);
 }
 
 void GeneralDataList::prepend(ValueType valueType, DataType dataType, const QString &value)
 {
-    m_terms.emplaceFront(valueType, dataType, value);
-}
-
-bool GeneralDataList::insert(qsizetype index, const GeneralDataInfo &term)
-{
-    if (index < 0 || index > m_terms.size())
-        return false;
-    m_terms.insert(index, term);
-    return true;
+    m_records.emplaceFront(valueType, dataType, value);
 }
 
 bool GeneralDataList::insert(qsizetype index, ValueType valueType, DataType dataType, const QString &value)
@@ -133,58 +127,24 @@ bool GeneralDataList::insert(qsizetype index, ValueType valueType, DataType data
     return insert(index, GeneralDataInfo(valueType, dataType, value));
 }
 
-bool GeneralDataList::replace(qsizetype index, const GeneralDataInfo &term)
-{
-    if (index < 0 || index >= m_terms.size())
-        return false;
-    m_terms.replace(index, term);
-    return true;
-}
-
 bool GeneralDataList::replace(qsizetype index, ValueType valueType, DataType dataType, const QString &value)
 {
     return replace(index, GeneralDataInfo(valueType, dataType, value));
 }
 
-bool GeneralDataList::removeAt(qsizetype index)
-{
-    if (index < 0 || index >= m_terms.size())
-        return false;
-    m_terms.removeAt(index);
-    return true;
-}
-
-GeneralDataList &GeneralDataList::operator<<(const GeneralDataInfo &term)
-{
-    append(term);
-    return *this;
-}
-
-GeneralDataList &GeneralDataList::operator<<(const GeneralDataList &list)
-{
-    append(list);
-    return *this;
-}
-
-GeneralDataList &GeneralDataList::operator<<(const QList<GeneralDataInfo> &terms)
-{
-    append(terms);
-    return *this;
-}
-
 bool GeneralDataList::isValidValueType(InfoType infoType) const
 {
-    return allTerms(m_terms, infoType, &ExpressionRules::allowsValueType);
+    return allTerms(m_records, infoType, &ExpressionRules::allowsValueType);
 }
 
 bool GeneralDataList::isValidDataType(InfoType infoType) const
 {
-    return allTerms(m_terms, infoType, &ExpressionRules::allowsDataType);
+    return allTerms(m_records, infoType, &ExpressionRules::allowsDataType);
 }
 
 bool GeneralDataList::isValidValue(InfoType infoType) const
 {
-    return allTerms(m_terms, infoType, &ExpressionRules::allowsValue);
+    return allTerms(m_records, infoType, &ExpressionRules::allowsValue);
 }
 
 QString GeneralDataList::toQmlString(const OutputType &output, const InfoType &infoType) const
@@ -193,8 +153,8 @@ QString GeneralDataList::toQmlString(const OutputType &output, const InfoType &i
         return {};
     QString code;
     const bool translated = infoType == AssignExpression
-                                ? appendAssignments(code, m_terms, output)
-                                : appendExpression(code, m_terms, Kind(infoType), output);
+                                ? appendAssignments(code, m_records, output)
+                                : appendExpression(code, m_records, Kind(infoType), output);
     return translated ? code : QString();
 }
 
@@ -214,21 +174,21 @@ int GeneralDataList::replaceObject(const QString &oldName, const QString &newNam
 {
     if (!containsObject(oldName, kind))
         return 0;
-    return changeTerms(m_terms, [&](auto &term) { return term.replaceObject(oldName, newName, kind); });
+    return changeTerms(m_records, [&](auto &term) { return term.replaceObject(oldName, newName, kind); });
 }
 
 int GeneralDataList::replaceScreenObject(const QString &oldName, const QString &newName)
 {
     if (!containsScreenObject(oldName))
         return 0;
-    return changeTerms(m_terms, [&](auto &term) { return term.replaceScreenObject(oldName, newName); });
+    return changeTerms(m_records, [&](auto &term) { return term.replaceScreenObject(oldName, newName); });
 }
 
 int GeneralDataList::removeObject(const QString &name, NameKind kind)
 {
     if (!containsObject(name, kind))
         return 0;
-    return changeTerms(m_terms,
+    return changeTerms(m_records,
                        [&](auto &term) { return term.containsObject(name, kind) && term.removeObject(); });
 }
 
@@ -236,7 +196,7 @@ int GeneralDataList::removeScreenObject(const QString &name)
 {
     if (!containsScreenObject(name))
         return 0;
-    return changeTerms(m_terms,
+    return changeTerms(m_records,
                        [&](auto &term) { return term.containsScreenObject(name) && term.removeObject(); });
 }
 
