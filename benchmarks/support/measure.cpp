@@ -1,13 +1,22 @@
 // SPDX-License-Identifier: MIT
 // measure COMMAND ARGUMENT...: runs a command with its output thrown away and prints its exit status, the
-// seconds that it took and the most memory, in bytes, that it held. A program of its own and a small one: a
-// process inherits the peak of the one that starts it.
+// seconds that it took, the seconds of processor time that it used, and the most memory, in bytes, that it
+// held. A program of its own and a small one: a process inherits the peak of the one that starts it.
 #include <chrono>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+namespace {
+
+double seconds(const timeval &time)
+{
+    return double(time.tv_sec) + double(time.tv_usec) / 1e6;
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -27,7 +36,8 @@ int main(int argc, char **argv)
     if (child < 0 || wait4(child, &status, 0, &usage) != child)
         return 1;
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-    std::printf("%d %.9f %lld\n", WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status),
-                taken.count(), static_cast<long long>(usage.ru_maxrss) * 1024);
+    std::printf("%d %.9f %.9f %lld\n", WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status),
+                taken.count(), seconds(usage.ru_utime) + seconds(usage.ru_stime),
+                static_cast<long long>(usage.ru_maxrss) * 1024);
     return 0;
 }

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
-# The table of scripts/benchmark. Reads the rows of the table, "pair | work | reference | target | measure",
-# and then what Google Benchmark wrote about its runs as JSON, which has one member on each line.
+# The table of scripts/benchmark. Reads the rows of the table, "benchmark | work | benchmark | reference |
+# target | measure", and then what Google Benchmark wrote about its runs as JSON, which has one member on each
+# line.
 
 FNR == 1 { input++ }
 
@@ -8,11 +9,12 @@ input == 1 && !/^#/ && NF {
     split($0, cells, / *\| */)
     row++
     sub(/^ */, "", cells[1])
-    pair[row] = cells[1]
+    mine[row] = cells[1]
     work[row] = cells[2]
-    reference[row] = cells[3]
-    target[row] = cells[4]
-    measure[row] = cells[5]
+    theirs[row] = cells[3]
+    reference[row] = cells[4]
+    target[row] = cells[5]
+    measure[row] = cells[6]
     sub(/ *$/, "", measure[row])
 }
 
@@ -39,26 +41,24 @@ END {
         report(i)
 }
 
-# Remembers the run if it is one side of a pair: the median of several repetitions, or the only one.
-function keep(    name, side, id)
+# Remembers the run: the median of several repetitions, or the only one.
+function keep(    name)
 {
     name = member["run_name"] != "" ? member["run_name"] : member["name"]
-    if (!match(name, /\/(work|reference)(\/|$)/))
-        return
-    id = substr(name, 1, RSTART - 1)
-    side = substr(name, RSTART + 1)
-    sub(/\/.*/, "", side)
+    sub(/\/(iterations|repeats|manual_time|process_time|real_time)(:|\/|$).*/, "", name)
     if (member["error_occurred"] == "true") {
-        problem[id] = member["error_message"]
+        problem[name] = member["error_message"]
         return
     }
     if (member["run_type"] == "aggregate" && member["aggregate_name"] != "median")
         return
-    if (member["run_type"] != "aggregate" && (id, side, "time") in result)
+    if (member["run_type"] != "aggregate" && (name, "time") in result)
         return
     for (key in member)
-        result[id, side, key] = member[key]
-    result[id, side, "time"] = member["real_time"] * seconds(member["time_unit"])
+        result[name, key] = member[key]
+    result[name, "time"] = member["real_time"] * seconds(member["time_unit"])
+    if (!("cpu" in member))
+        result[name, "cpu"] = member["cpu_time"] * seconds(member["time_unit"])
 }
 
 function seconds(unit)
@@ -66,33 +66,42 @@ function seconds(unit)
     return unit == "ns" ? 1e-9 : unit == "us" ? 1e-6 : unit == "ms" ? 1e-3 : 1
 }
 
-function report(i,    mine, theirs, ratio, measured_work, measured_reference)
+function report(i,    my_value, their_value, ratio)
 {
-    measured_work = (pair[i], "work", measure[i]) in result
-    measured_reference = (pair[i], "reference", measure[i]) in result
-    mine = measured_work ? shown(result[pair[i], "work", measure[i]], measure[i]) : "–"
-    theirs = measured_reference ? shown(result[pair[i], "reference", measure[i]], measure[i]) : "–"
+    my_value = (mine[i], measure[i]) in result ? result[mine[i], measure[i]] : ""
+    their_value = (theirs[i], measure[i]) in result ? result[theirs[i], measure[i]] : ""
     ratio = "–"
-    if (reference[i] == "-")
-        ratio = mine
-    else if (measured_work && measured_reference && result[pair[i], "reference", measure[i]] > 0) {
-        ratio = result[pair[i], "work", measure[i]] / result[pair[i], "reference", measure[i]]
-        ratio = sprintf("%.2f %s", ratio, ratio <= target[i] + 0 ? "✓" : "✗")
-    } else if (problem[pair[i]] != "")
-        ratio = problem[pair[i]]
-    print_row(work[i] "|" mine "|" reference[i] "|" theirs "|" wanted(i) "|" ratio)
+    if (theirs[i] == "-")
+        ratio = my_value == "" ? "–" : shown(my_value, measure[i]) verdict(my_value, target[i])
+    else if (my_value != "" && their_value > 0)
+        ratio = sprintf("%.2f", my_value / their_value) verdict(my_value / their_value, target[i])
+    if (ratio == "–" && mine[i] in problem)
+        ratio = problem[mine[i]]
+    else if (ratio == "–" && theirs[i] in problem)
+        ratio = problem[theirs[i]]
+    print_row(work[i] "|" shown(my_value, measure[i]) "|" (theirs[i] == "-" ? "–" : reference[i]) "|" shown(their_value, measure[i]) "|" wanted(i) "|" ratio)
+}
+
+function verdict(value, limit)
+{
+    if (limit == "-")
+        return ""
+    return value + 0 <= limit + 0 ? " ✓" : " ✗"
 }
 
 function wanted(i)
 {
     if (target[i] == "-")
         return "–"
-    return "≤ " target[i] (reference[i] == "-" ? "" : " ×")
+    return "≤ " target[i] (theirs[i] == "-" ? "" : " ×")
 }
 
 function shown(number, kind)
 {
-    if (kind == "time")
+    if (number == "")
+        return "–"
+    number += 0
+    if (kind == "time" || kind == "cpu")
         return number >= 1 ? sprintf("%.2f s", number) : number >= 1e-3 ? sprintf("%.1f ms", number * 1e3) : sprintf("%.1f µs", number * 1e6)
     if (kind ~ /_bytes$/)
         return sprintf("%.1f MB", number / 1e6)

@@ -18,20 +18,27 @@ run() {
   printf '      "real_time": %s,\n      "cpu_time": 1.0e+00,\n      "time_unit": "%s"\n    },\n' "$3" "$4"
 }
 
-printf '# a remark\nload | load it | read it | 1.5 | time\nload | its memory | the other | 1 | peak_bytes
-cost | one property | - | 120 | cost\ngone | a | b | 2 | time\nnone | c | d | 2 | time\n' >"$place/rows"
+cat >"$place/rows" <<'ROWS'
+# a remark
+load/L | load it | load/read | read it | 1.5 | time
+load/L | its memory | load/read | the other | 1 | peak_bytes
+load/L | processor | load/read | the other | - | cpu
+cost/L | one property | - | - | 120 | cost
+a/1 | a | b/1 | b | 2 | time
+none | c | d | d | 2 | time
+ROWS
 {
   printf '{\n  "context": {\n    "date": "today"\n  },\n  "benchmarks": [\n'
-  run load/work/manual_time - 9.9e+09 ms
-  run load/work/manual_time mean 9.9e+09 ms
-  run load/work/manual_time median 3.0e+02 ms $'      "peak_bytes": 5.0e+07,\n'
-  run load/work/manual_time stddev 1.0e+00 ms
-  run load/reference/manual_time median 1.5e+05 us $'      "peak_bytes": 1.0e+08,\n'
+  run load/L/iterations:3/manual_time - 9.9e+09 ms
+  run load/L/iterations:3/manual_time mean 9.9e+09 ms
+  run load/L/iterations:3/manual_time median 3.0e+02 ms $'      "cpu": 1.25e-01,\n      "peak_bytes": 5.0e+07,\n'
+  run load/L/iterations:3/manual_time stddev 1.0e+00 ms
+  run load/read/manual_time median 1.5e+05 us $'      "peak_bytes": 1.0e+08,\n'
 } >"$place/1.json"
 {
-  run cost/work - 1.0e+00 ns $'      "cost": 1.125e+02,\n'
-  run gone/work - 2.5e+03 ns
-  run gone/reference - 0.0 ns $'      "error_occurred": true,\n      "error_message": "not installed: x",\n'
+  run cost/L - 1.0e+00 ns $'      "cost": 1.125e+02,\n'
+  run a/1 - 2.5e+03 ns
+  run b/1 - 0.0 ns $'      "error_occurred": true,\n      "error_message": "not installed: x",\n'
   run "unrelated/1" - 5.0 ns
 } >"$place/2.json"
 
@@ -40,7 +47,8 @@ cat >"$place/expected" <<'TABLE'
 | --- | --: | --- | --: | --: | --: |
 | load it | 300.0 ms | read it | 150.0 ms | ≤ 1.5 × | 2.00 ✗ |
 | its memory | 50.0 MB | the other | 100.0 MB | ≤ 1 × | 0.50 ✓ |
-| one property | 112.5 | - | – | ≤ 120 | 112.5 |
+| processor | 125.0 ms | the other | 1.0 µs | – | 125000.00 |
+| one property | 112.5 | – | – | ≤ 120 | 112.5 ✓ |
 | a | 2.5 µs | b | – | ≤ 2 × | not installed: x |
 | c | – | d | – | ≤ 2 × | – |
 TABLE

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+// The tools as their users run them: whole processes, beside other programs that do work of the same kind.
+#include "support/Counterparts.h"
+#include "support/Process.h"
+#include "support/Projects.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+using namespace Halvane::Corvex::Benchmarks;
+
+namespace {
+
+void start(benchmark::State &state, const QString &program, const QStringList &arguments)
+{
+    measureProcess(state, program, arguments);
+}
+BENCHMARK_CAPTURE(start, corvex, tool(u"corvex"_s), {u"--version"_s})->UseManualTime()->Iterations(50);
+BENCHMARK_CAPTURE(start, QCoreApplication, QStringLiteral(CORVEX_BENCHMARK_FOLDER "/emptyApplication"), {})
+    ->UseManualTime()
+    ->Iterations(50);
+
+//! A file that differs from its canonical form in nothing but its very end, so that it is compared from the
+//! first byte to the last before it is written.
+QString fileToRewrite()
+{
+    const QString path = QStringLiteral(CORVEX_BENCHMARK_FOLDER "/projects/Rewritten/Rewritten.kdproj");
+    QDir().mkpath(QFileInfo(path).path());
+    QFile::remove(path);
+    QFile::copy(projectFile(u"L"_s), path);
+    QFile file(path);
+    if (!file.open(QIODevice::Append) || file.write("\n") != 1) {
+        qFatal("%s cannot be written", qUtf8Printable(path));
+    }
+    return path;
+}
+
+void rewriteProject(benchmark::State &state)
+{
+    measureProcess(state, tool(u"corvex"_s), {u"fmt"_s, fileToRewrite()}, [] { fileToRewrite(); });
+}
+BENCHMARK(rewriteProject)->Name("rewrite/corvex")->UseManualTime()->Iterations(1);
+
+void rewriteMap(benchmark::State &state)
+{
+    const QString map = makeMap(countsOf(projectFile(u"L"_s)));
+    measureProcess(state, u"tiled"_s,
+                   {u"--export-map"_s, u"tmx"_s, map, QStringLiteral(CORVEX_BENCHMARK_FOLDER "/copy.tmx")});
+}
+BENCHMARK(rewriteMap)->Name("rewrite/tiled")->UseManualTime()->Iterations(1);
+
+void check(benchmark::State &state, const QString &size)
+{
+    measureProcess(state, tool(u"corvex"_s), {u"check"_s, projectFile(size)});
+}
+BENCHMARK_CAPTURE(check, L, u"L"_s)->UseManualTime()->Iterations(1);
+BENCHMARK_CAPTURE(check, M, u"M"_s)->UseManualTime()->Iterations(2);
+
+void build(benchmark::State &state, const QString &file)
+{
+    measureProcess(state, tool(u"corvex"_s),
+                   {u"build"_s, file, u"-o"_s, QStringLiteral(CORVEX_BENCHMARK_FOLDER "/built")},
+                   [] { QDir(QStringLiteral(CORVEX_BENCHMARK_FOLDER "/built")).removeRecursively(); });
+}
+void buildSize(benchmark::State &state, const QString &size)
+{
+    build(state, projectFile(size));
+}
+void buildVisuals(benchmark::State &state)
+{
+    build(state, visualProjectFile());
+}
+BENCHMARK_CAPTURE(buildSize, L, u"L"_s)->Name("build/L")->UseManualTime()->Iterations(1);
+BENCHMARK_CAPTURE(buildSize, M, u"M"_s)->Name("build/M")->UseManualTime()->Iterations(2);
+BENCHMARK(buildVisuals)->Name("build/visuals")->UseManualTime()->Iterations(2);
+
+void buildForm(benchmark::State &state)
+{
+    const QString form = makeForm(10'000);
+    measureProcess(state, QStringLiteral(CORVEX_UIC),
+                   {form, u"-o"_s, QStringLiteral(CORVEX_BENCHMARK_FOLDER "/form.h")});
+}
+BENCHMARK(buildForm)->Name("build/uic")->UseManualTime()->Iterations(2);
+
+} // namespace
