@@ -109,7 +109,7 @@ void load(benchmark::State &state, const List &list, Names order)
 
 void options(benchmark::internal::Benchmark *benchmark)
 {
-    benchmark->Unit(benchmark::kMillisecond)->Iterations(1);
+    benchmark->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond)->Iterations(1);
 }
 BENCHMARK_CAPTURE(add, plain, plain, Names::Rising)->Apply(options);
 BENCHMARK_CAPTURE(load, plain, plain, Names::Rising)->Name("fill/plain")->Apply(options);

@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
 // What a project costs in memory: the growth of the heap, shared out over what was made.
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/BooleanProperty.h"
+#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/core/properties/RealProperty.h"
+#include "corvex/core/properties/StringProperty.h"
 #include "corvex/project/Project.h"
 
 #include "support/Projects.h"
@@ -59,5 +64,62 @@ void loadedProject(benchmark::State &state)
     }
 }
 BENCHMARK(loadedProject)->Name("memory/L")->Unit(benchmark::kMillisecond)->Iterations(1);
+
+//! An object with any number of properties that one row describes.
+class Holder : public DesignerObject
+{
+    CORVEX_CLASS_NAMES(Holder, DesignerObject)
+
+public:
+    Holder(const PropertyRow &row, int propertyCount)
+        : m_row(row)
+        , m_propertyCount(propertyCount)
+    {
+        initialize();
+    }
+
+protected:
+    ObjectView *createGraphicsItem() override { return nullptr; }
+    bool initializeProperties() override
+    {
+        if (!DesignerObject::initializeProperties()) {
+            return false;
+        }
+        for (int i = 0; i < m_propertyCount; ++i) {
+            addProperty(m_row.make(this));
+        }
+        return true;
+    }
+
+private:
+    PropertyRow m_row;
+    int m_propertyCount;
+};
+
+double bytesOfHolders(const PropertyRow &row, int propertyCount)
+{
+    constexpr int holderCount = 100;
+    std::vector<std::unique_ptr<Holder>> holders(holderCount);
+    const double before = heapBytes();
+    for (std::unique_ptr<Holder> &holder : holders) {
+        holder = std::make_unique<Holder>(row, propertyCount);
+    }
+    return (heapBytes() - before) / holderCount;
+}
+
+//! One more property of an object: all of it, the place in the object's list and the empty value included.
+void property(benchmark::State &state, const PropertyRow &row)
+{
+    constexpr int few = 100;
+    constexpr int many = 1100;
+    for (auto _ : state) {
+        state.counters["bytes"] = (bytesOfHolders(row, many) - bytesOfHolders(row, few)) / (many - few);
+    }
+}
+BENCHMARK_CAPTURE(property, boolean, row<BooleanProperty>("a", "A", true))->Iterations(1);
+BENCHMARK_CAPTURE(property, real, row<RealProperty>("a", "A", 0.5))->Iterations(1);
+BENCHMARK_CAPTURE(property, text, row<StringProperty>("a", "A", QString()))->Iterations(1);
+BENCHMARK_CAPTURE(property, expression, row<GeneralDataListProperty>("a", "A", GeneralDataList()))
+    ->Iterations(1);
 
 } // namespace
