@@ -140,6 +140,10 @@ TEST_F(Xml, WhatIsNotUnderstoodIsTold)
         {"<Other/>", ReadNote::Dropped, "\"Other\""},
         {"words", ReadNote::Dropped, "words"},
         {"<!-- remark -->", ReadNote::Dropped, "comment"},
+        {"<?remark a?>", ReadNote::Dropped, "instruction"},
+        {"<Property name='loose' value='7'/><Property name='loose' value='8'/>", ReadNote::Dropped,
+         "second time"},
+        {"<Property name='nodes'><List><Node/></List><List/></Property>", ReadNote::Dropped, "\"List\""},
         {"<Property name='nodes'><List><Robot/></List></Property>", ReadNote::Kept, "\"Robot\""},
     };
     for (const Case &test : cases) {
@@ -150,6 +154,14 @@ TEST_F(Xml, WhatIsNotUnderstoodIsTold)
             << qPrintable(notes.front().message);
         EXPECT_EQ(notes.front().line, 3) << test.properties;
     }
+}
+
+TEST_F(Xml, OfAFileFullOfOdditiesTheFirstAreToldAndTheRestCounted)
+{
+    ASSERT_TRUE(read(node(QByteArray("<Other/>\n").repeated(20'000))));
+    EXPECT_EQ(notes.size(), 10'001);
+    EXPECT_EQ(notes.back().line, 10'003);
+    EXPECT_TRUE(notes.back().message.contains(u"9999 more"_s)) << qPrintable(notes.back().message);
 }
 
 TEST_F(Xml, ItemsOfUnknownClassesAndDuplicatesGoBackToTheirPlaces)
@@ -212,6 +224,15 @@ TEST_F(Xml, AnObjectIsUsableAfterAFailedReading)
     EXPECT_EQ(target->property("sorted")->listItemNames(), QStringList({u"a"_s, u"b"_s}));
 }
 
+TEST_F(Xml, WhatNoFileCanHoldNeverSpoilsAFile)
+{
+    const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
+    EXPECT_FALSE(owner->set("text", u"a\u0001b"_s));
+    QByteArray bytes;
+    XmlText::appendAttribute(bytes, QString(u"a\u0001\u000B\uFFFF"_s + QChar(0xD800) + u'\t'));
+    EXPECT_EQ(bytes, QByteArray("a") + QByteArray("\xEF\xBF\xBD").repeated(4) + "&#x9;");
+}
+
 TEST_F(Xml, HostileBytesEndWithAnErrorAndAPlace)
 {
     const QByteArray deep = QByteArray("<Node><Properties><Property name='nodes'><List>").repeated(30000);
@@ -250,6 +271,17 @@ TEST_F(Xml, ReadingIntoAnObjectReplacesItsLists)
     EXPECT_EQ(target->getIdName(), u"source"_s);
     EXPECT_EQ(target->property("nodes")->listItemNames(), QStringList(u"fresh"_s));
     EXPECT_FALSE(DesignerObject::loadFromFile(target.get(), folder.path()));
+}
+
+TEST_F(Xml, ReadingBeginsWhereTheDeviceStands)
+{
+    constexpr qint64 before = 20 * 1024 * 1024;
+    QBuffer buffer;
+    buffer.setData(QByteArray(before, 'x') + node(""));
+    buffer.open(QIODevice::ReadOnly);
+    buffer.seek(before);
+    const std::unique_ptr<DesignerObject> object(ObjectXmlReader(&buffer).create());
+    EXPECT_TRUE(object);
 }
 
 } // namespace Halvane::Corvex::Designer::Test

@@ -10,6 +10,7 @@
 #include <QBuffer>
 #include <QIODevice>
 
+#include <bitset>
 #include <expat.h>
 
 using namespace Qt::StringLiterals;
@@ -38,11 +39,6 @@ bool equals(QStringView text, const char *utf8)
 
 } // namespace
 
-QString ReadNote::toString() const
-{
-    return u"%1:%2: %3: %4"_s.arg(QString::number(line), QString::number(column), place, message);
-}
-
 class ObjectXmlReader::Private
 {
 public:
@@ -56,13 +52,14 @@ public:
     static void endElement(void *self, const XML_Char *name);
     static void characters(void *self, const XML_Char *text, int length);
     static void comment(void *self, const XML_Char *text);
+    static void instruction(void *self, const XML_Char *, const XML_Char *);
     static void docType(void *self, const XML_Char *, const XML_Char *, const XML_Char *, int);
 
     QIODevice *device;
     DesignerObject *root = nullptr;
     bool createsRoot = false;
     bool validates = true;
-    QList<ReadNote> notes;
+    ReadNoteList notes;
     QString error;
     qint64 errorLine = 0;
     qint64 errorColumn = 0;
@@ -75,8 +72,9 @@ private:
         DesignerObject *object; //!< the object that is being read, or whose property this is
         SharedProperty property = {};
         qsizetype nextProperty =
-            0;                   //!< where the next property is expected: files keep the order of the table
-        bool isAnswered = false; //!< a property that got a value or children
+            0; //!< where the next property is expected: files keep the order of the table
+        std::bitset<128> known = {}; //!< the properties that have been there, by their index
+        bool isAnswered = false;     //!< a property that got a value or children
     };
 
     bool feed(const QByteArray &chunk, bool isLast);
@@ -93,7 +91,7 @@ private:
     void openInProperty(Frame &frame, const XML_Char *name);
     void openItem(const Frame &frame, const XML_Char *name, const XML_Char **attributes);
     void openObjectValue(const Frame &frame, const XML_Char *name);
-    SharedProperty expectProperty(Frame &frame, const XML_Char *id);
+    SharedProperty expectProperty(Frame &frame, const XML_Char *id, bool *isSecond);
     void applyValue(const Frame &frame, const SharedProperty &property, const XML_Char *value);
     static void emptyList(DesignerObject *owner, const SharedProperty &list);
     static void finishList(const SharedProperty &list);
@@ -104,6 +102,7 @@ private:
     void enableValidation(DesignerObject *object);
 
     XML_Parser parser = nullptr;
+    qint64 fed = 0; //!< bytes that the parser was given
     QList<Frame> frames;
     KeptItemRecorder recorder;
 };
@@ -121,6 +120,7 @@ bool ObjectXmlReader::Private::parse()
     XML_SetElementHandler(parser, startElement, endElement);
     XML_SetCharacterDataHandler(parser, characters);
     XML_SetCommentHandler(parser, comment);
+    XML_SetProcessingInstructionHandler(parser, instruction);
     XML_SetStartDoctypeDeclHandler(parser, docType);
 
     QByteArray chunk;
@@ -134,6 +134,7 @@ bool ObjectXmlReader::Private::parse()
         good = error.isEmpty() && feed(chunk, chunk.isEmpty());
     } while (good && !chunk.isEmpty());
     dropUnfinished();
+    notes.finish();
     if (!root) {
         return false;
     }
@@ -168,8 +169,9 @@ bool ObjectXmlReader::Private::feed(const QByteArray &chunk, bool isLast)
         }
         return false;
     }
+    fed += chunk.size();
     // A single token that outgrows every buffer is read again with each chunk; end that in time.
-    if (device->pos() - XML_GetCurrentByteIndex(parser) > longestToken + chunkSize) {
+    if (fed - XML_GetCurrentByteIndex(parser) > longestToken + chunkSize) {
         fail(u"A value is longer than 16 MB."_s);
         return false;
     }
@@ -188,8 +190,10 @@ void ObjectXmlReader::Private::fail(const QString &message)
 
 void ObjectXmlReader::Private::note(ReadNote::Kind kind, const QString &message)
 {
-    notes.append({kind, qint64(XML_GetCurrentLineNumber(parser)),
-                  qint64(XML_GetCurrentColumnNumber(parser)) + 1, place(), message});
+    if (notes.count(kind)) {
+        notes.append({kind, qint64(XML_GetCurrentLineNumber(parser)),
+                      qint64(XML_GetCurrentColumnNumber(parser)) + 1, place(), message});
+    }
 }
 
 //! The path of the object that is being read, which has no owner yet that could tell it.
@@ -300,7 +304,12 @@ void ObjectXmlReader::Private::openInProperties(Frame &frame, const XML_Char *na
                  u"The attribute \"%1\" is not known here."_s.arg(QString::fromUtf8(attributes[0])));
         }
     }
-    const SharedProperty property = id ? expectProperty(frame, id) : SharedProperty();
+    bool isSecond = false;
+    const SharedProperty property = id ? expectProperty(frame, id, &isSecond) : SharedProperty();
+    if (isSecond) {
+        skip(u"The property \"%1\" stands here a second time; the first one counts."_s.arg(property->id()));
+        return;
+    }
     if (!property || !property->hasFlag(StoredFlag)) {
         skip(id ? u"The property \"%1\" is not known."_s.arg(QString::fromUtf8(id))
                 : u"A property has no name."_s);
@@ -308,12 +317,12 @@ void ObjectXmlReader::Private::openInProperties(Frame &frame, const XML_Char *na
     }
     push(Context::Property, object, property);
     if (value && *value) {
-        frames.last().isAnswered = true;
+        frames.last().isAnswered = !property->isList() && !property->isObject();
         applyValue(frames.last(), property, value);
     }
 }
 
-SharedProperty ObjectXmlReader::Private::expectProperty(Frame &frame, const XML_Char *id)
+SharedProperty ObjectXmlReader::Private::expectProperty(Frame &frame, const XML_Char *id, bool *isSecond)
 {
     const QList<SharedProperty> &properties = frame.object->properties();
     const qsizetype count = properties.size();
@@ -321,6 +330,10 @@ SharedProperty ObjectXmlReader::Private::expectProperty(Frame &frame, const XML_
         const qsizetype index = (frame.nextProperty + i) % count;
         if (equals(properties.at(index)->id(), id)) {
             frame.nextProperty = index + 1;
+            if (size_t(index) < frame.known.size()) {
+                *isSecond = frame.known.test(size_t(index));
+                frame.known.set(size_t(index));
+            }
             return properties.at(index);
         }
     }
@@ -349,7 +362,7 @@ void ObjectXmlReader::Private::openInProperty(Frame &frame, const XML_Char *name
 {
     const bool opensList = qstrcmp(name, "List") == 0 && frame.property->isList();
     const bool opensObject = qstrcmp(name, "Object") == 0 && frame.property->isObject();
-    if (!opensList && !opensObject) {
+    if ((!opensList && !opensObject) || frame.isAnswered) {
         skip(u"The element \"%1\" is not known in the property \"%2\"."_s.arg(QString::fromUtf8(name),
                                                                               frame.property->id()));
         return;
@@ -467,16 +480,19 @@ void ObjectXmlReader::Private::addItem(const Frame &list, DesignerObject *item)
         return;
     }
     const std::unique_ptr<DesignerObject> refused(item);
-    const QString message = u"\"%1\" cannot stand in \"%2\": %3 The item is kept as it is."_s.arg(
-        item->getIdName(), list.property->id(), list.property->errorString());
-    qWarning("%s", qUtf8Printable(message));
-    note(ReadNote::Kept, message);
     QBuffer text;
     text.open(QIODevice::WriteOnly);
     ObjectXmlWriter writer(&text);
     writer.setHeader(false);
-    writer.write(item);
-    list.property->items().keep({text.data().trimmed(), item->className(), item->getIdName()});
+    const bool isKept = writer.write(item);
+    const QString message = u"\"%1\" cannot stand in \"%2\": %3 %4"_s.arg(
+        item->getIdName(), list.property->id(), list.property->errorString(),
+        isKept ? u"The item is kept as it is."_s : writer.errorString());
+    qWarning("%s", qUtf8Printable(message));
+    note(isKept ? ReadNote::Kept : ReadNote::Dropped, message);
+    if (isKept) {
+        list.property->items().keep({text.data().trimmed(), item->className(), item->getIdName()});
+    }
 }
 
 void ObjectXmlReader::Private::setChild(const Frame &slot, DesignerObject *child)
@@ -520,6 +536,14 @@ void ObjectXmlReader::Private::comment(void *self, const XML_Char *)
     }
 }
 
+void ObjectXmlReader::Private::instruction(void *self, const XML_Char *, const XML_Char *)
+{
+    auto *reader = static_cast<Private *>(self);
+    if (reader->root) {
+        reader->note(ReadNote::Dropped, u"A processing instruction is not kept."_s);
+    }
+}
+
 void ObjectXmlReader::Private::docType(void *self, const XML_Char *, const XML_Char *, const XML_Char *, int)
 {
     static_cast<Private *>(self)->fail(u"Document types and entities are not accepted."_s);
@@ -555,7 +579,7 @@ DesignerObject *ObjectXmlReader::create()
 
 const QList<ReadNote> &ObjectXmlReader::notes() const
 {
-    return d->notes;
+    return d->notes.list();
 }
 
 QString ObjectXmlReader::errorString() const

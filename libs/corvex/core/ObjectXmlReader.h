@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/core/DesignerProperty.h"
+#include "corvex/core/ReadNote.h"
 
-#include <QByteArray>
 #include <QList>
 #include <QString>
 
@@ -15,30 +14,13 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! Something in a file that the reader did not take over as it stands.
-struct ReadNote
-{
-    enum Kind {
-        Kept,    //!< written back as it was when the object is saved
-        Dropped, //!< gone once the object is saved
-    };
-    Kind kind;
-    qint64 line;
-    qint64 column;
-    QString place; //!< the path of the object
-    QString message;
-
-    //! "line:column: place: message".
-    QString toString() const;
-};
-
 /*! Reads an object and everything below it from XML in UTF-8, in one walk and without a tree of the document.
 
     The bytes are not trusted: document types and entities of their own, other encodings, elements nested
    deeper than 512 and values of more than 16 MB end the reading with an error. Properties that the object
    does not know keep nothing but a note; a list item whose class no factory knows is kept by the list with a
-   note, to be written back. Validation is switched off on everything that is read and runs once when the root
-   is complete.
+   note, to be written back. Of a property that stands twice the first counts. Validation is switched off on
+   everything that is read and runs once when the root is complete.
 */
 class ObjectXmlReader
 {

@@ -7,10 +7,16 @@ namespace Halvane::Corvex::Designer::XmlText {
 
 namespace {
 
+//! What no XML can hold is written as this, so that one bad character never costs the whole file.
+constexpr char replacement[] = "\xEF\xBF\xBD";
+
 //! What stands for an ASCII character inside an attribute; null for itself.
 constexpr std::array<const char *, 128> makeEscapes()
 {
     std::array<const char *, 128> escapes{};
+    for (size_t control = 0; control < 0x20; ++control) {
+        escapes[control] = replacement;
+    }
     escapes['&'] = "&amp;";
     escapes['<'] = "&lt;";
     escapes['>'] = "&gt;";
@@ -90,7 +96,8 @@ void appendAttribute(QByteArray &bytes, QStringView text)
         } else if (QChar::isHighSurrogate(unit) && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
             out = appendUtf8(out, QChar::surrogateToUcs4(unit, text[++i].unicode()));
         } else {
-            out = appendUtf8(out, QChar::isSurrogate(unit) ? char32_t(QChar::ReplacementCharacter) : unit);
+            const bool isUnstorable = QChar::isSurrogate(unit) || unit >= 0xFFFE;
+            out = isUnstorable ? appendEscape(out, replacement) : appendUtf8(out, unit);
         }
     }
     bytes.resize(out - begin);

@@ -11,7 +11,8 @@ namespace Halvane::Corvex::Designer::XmlText {
 qsizetype indexOfUnstorable(QStringView text);
 
 /*! Appends \a text in UTF-8 as the inside of an attribute between double quotes: markup characters as
-   entities, line ends and tabs as character references, so that they survive the parser's normalisation. */
+   entities, line ends and tabs as character references, so that they survive the parser's normalisation.
+   What no XML file can hold becomes U+FFFD. */
 void appendAttribute(QByteArray &bytes, QStringView text);
 
 //! The same for bytes that are UTF-8 already.
