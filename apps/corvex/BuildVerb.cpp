@@ -103,8 +103,9 @@ const Verb buildVerb{
         [] {
             return u"Builds the project and brings the result to DIR, which then holds the folder "
                    u"\"project\" with\n"
-                   "one QML file for each screen, the images and the zipped project. DIR is made when it is\n"
-                   "missing. Nothing of yours is replaced: DIR must be new, empty, or hold an earlier build "
+                   "one QML file for each screen, the images, the zipped project and what the device reads\n"
+                   "about variables and fieldbuses (config.kdrc, canConfig.kdrc, bacConfig.kdrc; \"corvex\n"
+                   "config-dump\" shows them). DIR is made when it is missing. Nothing of yours is replaced: DIR must be new, empty, or hold an earlier build "
                    "and\n"
                    "nothing else. A project with problems is not built without --force, and a build that "
                    "fails\n"

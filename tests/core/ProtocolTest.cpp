@@ -64,18 +64,22 @@ TEST_F(Protocol, ARefusedValueLeavesOnlyItsReason)
     EXPECT_TRUE(owner->isValid()) << "a refusal must not be taken for the state of the object";
 }
 
-TEST_F(Protocol, AnEditorHearsEachVerdict)
+TEST_F(Protocol, AnEditorHearsEachVerdictAndWhetherItIsShown)
 {
     struct Editor : public EditorView
     {
         void setErrorString(const QString &error) override { heard = error; }
+        void setShown(bool shown) override { isShown = shown; }
         QString heard;
+        bool isShown = true;
     } editor;
     owner->property("percent")->setEditorWidget(&editor);
     owner->set("percent", u"101"_s);
     EXPECT_EQ(editor.heard, u"Out of range."_s);
     owner->set("percent", u"100"_s);
     EXPECT_EQ(editor.heard, QString());
+    owner->property("percent")->setEditorParameter(u"visible"_s, false);
+    EXPECT_FALSE(editor.isShown);
 }
 
 TEST_F(Protocol, ATrialLeavesTheValueAsItIs)

@@ -78,7 +78,8 @@ TEST_F(RuntimeGeneratorTest, ABuildHoldsScreensProjectAndResources)
     ASSERT_TRUE(generator.generate(project.get())) << qPrintable(generator.errorString());
     EXPECT_TRUE(QDir::isAbsolutePath(generator.buildFolder()));
     EXPECT_EQ(files(),
-              QStringList({u"Project.kdproj.zip"_s, u"pump.png"_s, u"qml_Main.qml"_s, u"qml_Trends.qml"_s}));
+              QStringList({u"Project.kdproj.zip"_s, u"bacConfig.kdrc"_s, u"canConfig.kdrc"_s,
+                           u"config.kdrc"_s, u"pump.png"_s, u"qml_Main.qml"_s, u"qml_Trends.qml"_s}));
     EXPECT_EQ(Common::ZipHelper::entryNames(generator.buildFolder() + u"/project/Project.kdproj.zip"_s),
               QStringList(u"Project.kdproj"_s));
     const QByteArray qml = read(u"qml_Main.qml"_s);

@@ -39,6 +39,16 @@ QString BACDeviceInfo::toString() const
     return texts.join(u' ');
 }
 
+QVariantMap BACDeviceInfo::toVariantMap() const
+{
+    QVariantMap items;
+    for (const TextField &field : textFields)
+        items.insert(field.key, this->*field.member);
+    for (const NumberField &field : numberFields)
+        items.insert(field.key, this->*field.member);
+    return items;
+}
+
 bool BACDeviceInfo::readItem(QStringView key, QStringView value)
 {
     bool ok = false;

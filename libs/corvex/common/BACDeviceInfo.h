@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariantMap>
 
 #include <array>
 
@@ -19,6 +20,8 @@ public:
 
     //! "key: value;" items joined with a blank, keys ascending, texts as Base64.
     QString toString() const;
+    //! The same items with their values, texts and numbers.
+    QVariantMap toVariantMap() const;
 
     const QString &objectName() const { return m_objectName; }
     void setObjectName(const QString &objectName) { m_objectName = objectName; }

@@ -90,8 +90,12 @@ void DesignerProperty::setEditorParameters(const QVariantMap &parameters)
 
 void DesignerProperty::setEditorParameter(const QString &key, const QVariant &value)
 {
-    if (!editorParameters().contains(key) || editorParameters().value(key) != value) {
-        m_descriptor->editorParameters.insert(key, value);
+    if (editorParameters().contains(key) && editorParameters().value(key) == value) {
+        return;
+    }
+    m_descriptor->editorParameters.insert(key, value);
+    if (EditorView *editor = editorWidget(); editor && key == "visible"_L1) {
+        editor->setShown(value.toBool());
     }
 }
 

@@ -15,6 +15,8 @@ public:
 
     //! Why the property is invalid; empty when it is not.
     virtual void setErrorString(const QString &error) = 0;
+    //! Whether the property is shown, as its editor parameter "visible" says from now on.
+    virtual void setShown(bool shown) = 0;
 };
 
 } // namespace Halvane::Corvex::Designer

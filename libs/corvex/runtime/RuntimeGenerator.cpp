@@ -4,6 +4,7 @@
 #include "corvex/common/FileHelper.h"
 #include "corvex/common/ZipHelper.h"
 #include "corvex/core/DesignerObject.h"
+#include "corvex/runtime/RuntimeConfiguration.h"
 
 #include <QDir>
 #include <QFile>
@@ -30,8 +31,8 @@ bool RuntimeGenerator::generate(const DesignerObject *project)
 {
     m_error.clear();
     m_buildFolder.clear();
-    const bool done =
-        makeBuildFolder() && writeZippedProject(project) && writeScreens(project) && copyResources();
+    const bool done = makeBuildFolder() && writeZippedProject(project) && writeConfiguration(project)
+                      && writeScreens(project) && copyResources();
     if (!done) {
         removeBuildFolder();
     }
@@ -93,6 +94,15 @@ bool RuntimeGenerator::writeZippedProject(const DesignerObject *project)
         return fail(error);
     }
     return QFile::remove(plainFile) || fail(u"\"%1\" cannot be removed."_s.arg(plainFile));
+}
+
+bool RuntimeGenerator::writeConfiguration(const DesignerObject *project)
+{
+    RuntimeConfiguration configuration;
+    QString error;
+    return (configuration.collect(*project, &error)
+            && configuration.write(m_buildFolder + u"/project"_s, &error))
+           || fail(error);
 }
 
 bool RuntimeGenerator::writeScreens(const DesignerObject *project)

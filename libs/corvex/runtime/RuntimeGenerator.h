@@ -7,8 +7,8 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-/*! Makes the folder that goes to the device: one QML file per screen, the zipped project and its resources,
-   all in the sub-folder "project".
+/*! Makes the folder that goes to the device: one QML file per screen, the zipped project, the files of
+   RuntimeConfiguration and the resources, all in the sub-folder "project".
 
     Each build gets a fresh folder of its own below the temporary location. A build that fails leaves none.
 */
@@ -32,6 +32,7 @@ public:
 private:
     bool makeBuildFolder();
     bool writeZippedProject(const DesignerObject *project);
+    bool writeConfiguration(const DesignerObject *project);
     bool writeScreens(const DesignerObject *project);
     bool copyResources();
     bool fail(const QString &error);

@@ -17,8 +17,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString pump = u"Pump/Pump.kdproj"_s;
-const QStringList builtFiles{u"project/Project.kdproj.zip"_s, u"project/pump.png"_s,
-                             u"project/qml_Main.qml"_s};
+const QStringList builtFiles{u"project/Project.kdproj.zip"_s, u"project/bacConfig.kdrc"_s,
+                             u"project/canConfig.kdrc"_s,     u"project/config.kdrc"_s,
+                             u"project/pump.png"_s,           u"project/qml_Main.qml"_s};
 
 //! A sandbox with a project that can be built.
 class BuildVerb : public testing::Test
@@ -56,7 +57,7 @@ protected:
 TEST_F(BuildVerb, bringsTheBuildToItsFolder)
 {
     const ProgramRun first = build(u"out/new/%1 ä"_s);
-    EXPECT_EQ(first.out, u"out/new/%1 ä/project: 3 files\n"_s);
+    EXPECT_EQ(first.out, u"out/new/%1 ä/project: 6 files\n"_s);
     EXPECT_EQ(first.error, QString());
     EXPECT_EQ(first.code, 0);
     EXPECT_EQ(sandbox.files(u"out/new/%1 ä"_s), builtFiles);
@@ -69,7 +70,7 @@ TEST_F(BuildVerb, bringsTheBuildToItsFolder)
     EXPECT_EQ(sandbox.files(u"out/new/%1 ä"_s), builtFiles);
     const QJsonValue json = build(u"empty/"_s, {u"--json"_s}).json();
     EXPECT_EQ(json[u"folder"_s].toString(), u"empty/project"_s);
-    EXPECT_EQ(json[u"files"_s].toArray().size(), 3);
+    EXPECT_EQ(json[u"files"_s].toArray().size(), 6);
     EXPECT_EQ(
         QDir(sandbox.path(u"empty"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
         QStringList{u"project"_s});
@@ -156,5 +157,5 @@ TEST_F(BuildVerb, crossesFileSystems)
     }
     const QTemporaryDir folder(u"/dev/shm/corvex-test-XXXXXX"_s);
     EXPECT_EQ(build(folder.path()).code, 0);
-    EXPECT_EQ(QDir(folder.path() + u"/project"_s).entryList(QDir::Files).size(), 3);
+    EXPECT_EQ(QDir(folder.path() + u"/project"_s).entryList(QDir::Files).size(), builtFiles.size());
 }
