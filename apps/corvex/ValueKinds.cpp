@@ -105,7 +105,7 @@ const QList<ValueKind> &valueKinds()
         {"updateobject", "name: lamp; screen: Main;", canonical<UpdateObjectInfo>},
         {"updateobjectlist", "name: lamp; screen: Main; | name: lamp2; screen: Main;",
          canonical<UpdateObjectList>},
-        {"generaldata", "0204-26", canonical<GeneralDataInfo>},
+        {"generaldata", "0204-1A", canonical<GeneralDataInfo>},
         {"generaldatalist", "<0406speed><0101+><02041>", canonical<GeneralDataList>},
     };
     return kinds;

@@ -221,6 +221,18 @@ TEST_F(Protocol, ReplaceAndSwapKeepPlacesAndHandOverTheOldItem)
                                              owner->property("nodes")->getListItemAtIndex(1)));
     EXPECT_EQ(owner->property("nodes")->listItemNames(), QStringList({u"second"_s, u"first"_s}));
     delete first;
+    // What may not leave is not replaced either.
+    const std::unique_ptr<Node> fourth(Node::create(u"fourth"_s));
+    owner->property("nodes")->setRemoveValidator(
+        [](const DesignerProperty *, const DesignerObject *, QString &error) {
+            error = u"It stays."_s;
+            return false;
+        });
+    EXPECT_FALSE(owner->replaceListPropertyItem(owner->property("nodes"), third, fourth.get()));
+    EXPECT_FALSE(owner->takeListPropertyItem(owner->property("nodes"), third));
+    EXPECT_EQ(owner->property("nodes")->errorString(), u"It stays."_s);
+    EXPECT_EQ(third->parent(), owner.get());
+    EXPECT_EQ(fourth->parent(), nullptr);
 }
 
 TEST_F(Protocol, ANewNameIsFoundAtOnceAndToldAfterwards)

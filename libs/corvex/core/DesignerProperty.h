@@ -172,6 +172,7 @@ private:
     bool refuse(const char *message);
     bool acceptsClassOf(const DesignerObject *object) const;
     bool canAdd(const DesignerObject *item, const char *duplicateMessage);
+    bool canRemove(const DesignerObject *item);
 
     bool addListItem(DesignerObject *item);
     bool insertItemAt(qsizetype index, DesignerObject *item);

@@ -51,6 +51,16 @@ bool DesignerProperty::canAdd(const DesignerObject *item, const char *duplicateM
     return true;
 }
 
+bool DesignerProperty::canRemove(const DesignerObject *item)
+{
+    QString error;
+    if (descriptor().removeValidator && !descriptor().removeValidator(this, item, error)) {
+        setErrorString(error);
+        return false;
+    }
+    return true;
+}
+
 void DesignerProperty::putItem(qsizetype index, DesignerObject *item)
 {
     items().insert(std::clamp<qsizetype>(index, 0, items().count()), item);
@@ -134,9 +144,7 @@ DesignerObject *DesignerProperty::takeListItem(DesignerObject *item)
         refuse("Item not in the list.");
         return nullptr;
     }
-    QString error;
-    if (descriptor().removeValidator && !descriptor().removeValidator(this, item, error)) {
-        setErrorString(error);
+    if (!canRemove(item)) {
         return nullptr;
     }
     items().removeAt(index);
@@ -161,10 +169,10 @@ bool DesignerProperty::replaceItemAt(qsizetype index, DesignerObject *newItem)
     if (index < 0 || index >= items().count()) {
         return refuse("Index invalid.");
     }
-    if (!canAdd(newItem, itemExists)) {
+    DesignerObject *oldItem = items().items().at(index);
+    if (!canAdd(newItem, itemExists) || !canRemove(oldItem)) {
         return false;
     }
-    DesignerObject *oldItem = items().items().at(index);
     items().replaceAt(index, newItem);
     oldItem->takeListDesignerProperty(this);
     newItem->addListDesignerProperty(this);

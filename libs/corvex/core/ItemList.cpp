@@ -12,8 +12,9 @@ bool ItemList::contains(const DesignerObject *item) const
 
 qsizetype ItemList::indexOf(const DesignerObject *item) const
 {
-    // Lists are most often walked or grown at their end.
-    return m_items.lastIndexOf(const_cast<DesignerObject *>(item));
+    // Lists grow at their end, and are emptied from either.
+    const bool isFirst = !m_items.isEmpty() && m_items.constFirst() == item;
+    return isFirst ? 0 : m_items.lastIndexOf(const_cast<DesignerObject *>(item));
 }
 
 DesignerObject *ItemList::find(const QString &name) const

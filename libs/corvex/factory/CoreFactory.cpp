@@ -184,11 +184,11 @@ constexpr const char *editors[] = {
 static_assert(std::size(editors) == 57);
 
 //! A name of \a className in the user's language; the two kinds of names may be translated apart.
-QString translated(const char *kind, const char *className, const char *name)
+QString translated(const char *kind, const char *className, const QString &otherwise)
 {
     const QString key = QLatin1StringView(kind) + QLatin1StringView(className);
     const QString translation = Common::LocalizationHelper::coreString(key);
-    return translation == key ? QString::fromLatin1(name) : translation;
+    return translation == key ? otherwise : translation;
 }
 
 } // namespace
@@ -240,7 +240,8 @@ QMap<QString, QString> CoreFactory::classBaseNames() const
 {
     QMap<QString, QString> names;
     for (const auto &[className, baseName, displayName] : namedClasses) {
-        names.insert(QString::fromLatin1(className), translated("BASENAME:", className, baseName));
+        names.insert(QString::fromLatin1(className),
+                     translated("BASENAME:", className, QString::fromLatin1(baseName)));
     }
     return names;
 }
@@ -249,7 +250,8 @@ QMap<QString, QString> CoreFactory::classDisplayNames() const
 {
     QMap<QString, QString> names;
     for (const auto &[className, baseName, displayName] : namedClasses) {
-        names.insert(QString::fromLatin1(className), translated("DISPLAYNAME:", className, displayName));
+        const QString title = Common::LocalizationHelper::coreString(QString::fromLatin1(displayName));
+        names.insert(QString::fromLatin1(className), translated("DISPLAYNAME:", className, title));
     }
     return names;
 }

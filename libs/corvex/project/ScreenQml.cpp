@@ -20,14 +20,15 @@ constexpr struct
 {
     const char *className;
     const char *list;
+    bool isSerialPort = false;
 } qmlLists[] = {
     {"AlarmOutput", "alarmOutputs"},
     {"AnalogInput", "analogInputs"},
     {"DigitalInputOutput", "digitalIOs"},
     {"PwmOutput", "pwmOutputs"},
     {"SPIPort", "spiPorts"},
-    {"SerialCOMPort", "serialCOMPorts"},
-    {"RS485COMPort", "rs485COMPorts"},
+    {"SerialCOMPort", "serialCOMPorts", true},
+    {"RS485COMPort", "rs485COMPorts", true},
     {"ThermistorInput", "thermistorInputs"},
     {"ThermocoupleInput", "thermocoupleInputs"},
     {"EthernetPort", "ethernetPorts"},
@@ -102,7 +103,9 @@ QStringList Screen::elementLists(int indent) const
     QStringList blocks[listCount + 2];
     for (const DesignerObject *item : elements()->listItems()) {
         const int group = groupOf(item);
-        announceScreen(item, *this);
+        if (group < listCount && qmlLists[group].isSerialPort) {
+            announceScreen(item, *this);
+        }
         blocks[group].append(item->toQml(group < listCount ? indent + 1 : indent));
     }
     QStringList lists;
@@ -120,7 +123,7 @@ QString Screen::toQml(int indent) const
     const QString tabs = getTabs(indent);
     QStringList parts{u"import QtQuick 1.1"_s, u"import RuntimeObjects 2.0"_s, tabs + qmlName() + u" {"_s};
     parts += propertyLines(indent + 1);
-    parts.append(u"%1\tbrightness : %2\n"_s.arg(tabs).arg(brightnessOf(*this)));
+    parts.append(u"%1\tbrightness : %2\n"_s.arg(tabs, QString::number(brightnessOf(*this))));
     parts += elementLists(indent + 1);
     const QString completed = onCompletedQml(indent);
     if (!completed.isEmpty()) {

@@ -2,6 +2,7 @@
 #include "corvex/runtime/RuntimeGenerator.h"
 
 #include "corvex/common/FileHelper.h"
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/ZipHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/runtime/RuntimeConfiguration.h"
@@ -15,6 +16,8 @@ using namespace Qt::StringLiterals;
 namespace Halvane::Corvex::Designer {
 
 namespace {
+
+using Common::LocalizationHelper;
 
 //! Asked of the packer, which takes it as its highest.
 constexpr int compressionLevel = 10;
@@ -63,25 +66,28 @@ bool RuntimeGenerator::makeBuildFolder()
     const QDir temporary(Common::FileHelper::getStandardTemporatyLocation());
     const QString designerFolder = temporary.absoluteFilePath(u"%1/CorvexNova/Designer"_s.arg(u"Halvane"_s));
     if (!QDir().mkpath(designerFolder)) {
-        return fail(u"The folder \"%1\" cannot be made."_s.arg(designerFolder));
+        return fail(
+            LocalizationHelper::coreString(u"The folder \"%1\" cannot be made."_s).arg(designerFolder));
     }
     QString folder;
     do {
         folder = u"%1/%2"_s.arg(designerFolder, QUuid::createUuid().toString());
     } while (QFile::exists(folder));
     if (!QDir().mkdir(folder)) {
-        return fail(u"The folder \"%1\" cannot be made."_s.arg(folder));
+        return fail(LocalizationHelper::coreString(u"The folder \"%1\" cannot be made."_s).arg(folder));
     }
     m_buildFolder = folder;
     return QDir(folder).mkdir(u"project"_s)
-           || fail(u"The folder \"%1\" cannot be made."_s.arg(folder + u"/project"_s));
+           || fail(LocalizationHelper::coreString(u"The folder \"%1\" cannot be made."_s)
+                       .arg(folder + u"/project"_s));
 }
 
 bool RuntimeGenerator::writeZippedProject(const DesignerObject *project)
 {
     const std::unique_ptr<DesignerObject> copy(DesignerObject::createCopy(project, false));
     if (!copy) {
-        return fail(u"The project cannot be copied: it has no configuration."_s);
+        return fail(
+            LocalizationHelper::coreString(u"The project cannot be copied: it has no configuration."_s));
     }
     copy->setIdName(u"Project"_s);
     const QString plainFile = filePath(copy->getIdName() + u".kdproj"_s);
@@ -93,7 +99,8 @@ bool RuntimeGenerator::writeZippedProject(const DesignerObject *project)
                                          &error)) {
         return fail(error);
     }
-    return QFile::remove(plainFile) || fail(u"\"%1\" cannot be removed."_s.arg(plainFile));
+    return QFile::remove(plainFile)
+           || fail(LocalizationHelper::coreString(u"\"%1\" cannot be removed."_s).arg(plainFile));
 }
 
 bool RuntimeGenerator::writeConfiguration(const DesignerObject *project)
@@ -111,16 +118,19 @@ bool RuntimeGenerator::writeScreens(const DesignerObject *project)
          project->getListItemsInListPropertyOfType(u"screens"_s, u"Screen"_s)) {
         const QString name = screen->getQmlIdName() + u".qml"_s;
         if (!isPlainFileName(name)) {
-            return fail(u"The screen's name \"%1\" is no name for a file."_s.arg(screen->getIdName()));
+            return fail(LocalizationHelper::coreString(u"The screen's name \"%1\" is no name for a file."_s)
+                            .arg(screen->getIdName()));
         }
         if (QFile::exists(filePath(name))) {
-            return fail(u"Two screens would be written to \"%1\"."_s.arg(name));
+            return fail(
+                LocalizationHelper::coreString(u"Two screens would be written to \"%1\"."_s).arg(name));
         }
         const QByteArray qml = screen->toQml(0).replace(u'\n', u"\r\n"_s).toUtf8();
         QFile file(filePath(name));
         const bool written = file.open(QIODevice::WriteOnly) && file.write(qml) == qml.size() && file.flush();
         if (!written) {
-            return fail(u"\"%1\" cannot be written: %2"_s.arg(file.fileName(), file.errorString()));
+            return fail(LocalizationHelper::coreString(u"\"%1\" cannot be written: %2"_s)
+                            .arg(file.fileName(), file.errorString()));
         }
     }
     return true;
@@ -135,7 +145,8 @@ bool RuntimeGenerator::copyResources()
     for (const QString &name : resources.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
         QFile file(resources.absoluteFilePath(name));
         if (!file.copy(filePath(name))) {
-            return fail(u"\"%1\" cannot be copied: %2"_s.arg(file.fileName(), file.errorString()));
+            return fail(LocalizationHelper::coreString(u"\"%1\" cannot be copied: %2"_s)
+                            .arg(file.fileName(), file.errorString()));
         }
     }
     return true;

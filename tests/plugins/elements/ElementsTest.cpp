@@ -5,6 +5,7 @@
 #include "corvex/project/Screen.h"
 #include "corvex/values/PropertyList.h"
 #include "corvex/values/UpdateObjectList.h"
+#include "corvex/variables/MappingVariable.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -120,7 +121,12 @@ TEST_F(Elements, TheDocumentOfAScreenHasItsPartsInOrderAndParses)
             add(className.toLatin1().constData(), u"the"_s + className);
         }
     }
+    auto *map = static_cast<MappingVariable *>(make(u"MappingVariable"_s, u"registers"_s));
+    project->addListPropertyItem(project->variables(), map);
+    set(screen->getItemInListProperty(u"elements"_s, u"theRS485COMPort"_s), "mapping",
+        link(u"registers"_s, u"Project"_s, u"MappingVariable"_s));
     const QString qml = screen->toQml(0);
+    EXPECT_EQ(map->qmlActiveScreen(), u"Main"_s);
     EXPECT_EQ(syntaxErrors(qml), QStringList()) << qPrintable(qml);
     qsizetype last = -1;
     for (

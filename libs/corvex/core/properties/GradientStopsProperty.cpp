@@ -4,7 +4,6 @@
 #include "corvex/core/properties/ValidationError.h"
 
 #include <algorithm>
-#include <bitset>
 
 using namespace Qt::StringLiterals;
 
