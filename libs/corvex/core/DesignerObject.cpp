@@ -4,6 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObjectData.h"
 #include "corvex/core/ItemList.h"
+#include "corvex/core/ModelObserver.h"
 #include "corvex/core/ObjectView.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/QmlText.h"
@@ -29,6 +30,10 @@ void DesignerObject::deleteChildren()
 DesignerObject::~DesignerObject()
 {
     deleteChildren();
+    // What has no owner is the project itself, which is gone by now but for this part of it.
+    if (ModelObserver *observer = ownerObject() ? ModelObserver::of(d->project) : nullptr) {
+        observer->leaving(this);
+    }
     for (DesignerProperty *list : std::as_const(d->lists)) {
         list->forgetItem(this);
     }

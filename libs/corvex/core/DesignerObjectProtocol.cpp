@@ -3,6 +3,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObjectData.h"
 #include "corvex/core/ItemList.h"
+#include "corvex/core/ModelObserver.h"
 #include "corvex/core/ObjectView.h"
 #include "corvex/core/XmlText.h"
 
@@ -87,6 +88,9 @@ DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &pr
     const bool isName = property == d->id;
     if (isName) {
         takeNewName(oldValue);
+    }
+    if (ModelObserver *observer = ModelObserver::of(d->project)) {
+        observer->valueChanged(property, oldValue);
     }
     if (d->view) {
         d->view->updateGraphicsItem(property);
@@ -208,12 +212,18 @@ void DesignerObject::enter(DesignerObject *item)
     if (d->project) {
         item->setProject(d->project);
     }
+    if (ModelObserver *observer = ModelObserver::of(d->project)) {
+        observer->entered(item);
+    }
 }
 
 void DesignerObject::leave(const SharedProperty &property, DesignerObject *item)
 {
     if (d->view && item->graphicsItem()) {
         d->view->removeGraphicsItemChild(property, item);
+    }
+    if (ModelObserver *observer = ModelObserver::of(d->project)) {
+        observer->leaving(item);
     }
     item->setListProperty({});
     item->setParent(nullptr);

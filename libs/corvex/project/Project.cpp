@@ -4,6 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/TextHelper.h"
 #include "corvex/core/ItemList.h"
+#include "corvex/core/ModelObserver.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/PropertyValidators.h"
 #include "corvex/core/properties/IdentifierProperty.h"
@@ -56,6 +57,7 @@ Project::Project(QObject *parent)
 Project::~Project()
 {
     m_autosave.reset();
+    m_observer.reset();
     // Undo steps own what they took out of the model, and refer to what they left in it.
     delete std::exchange(m_undoStack, nullptr);
     deleteChildren();
@@ -272,6 +274,16 @@ void Project::createUndoStack()
 {
     undoStack()->startOver();
     m_autosave->startOver();
+}
+
+void Project::setObserver(std::unique_ptr<ModelObserver> observer)
+{
+    m_observer = std::move(observer);
+}
+
+ModelObserver *ModelObserver::of(const Project *project)
+{
+    return project ? project->observer() : nullptr;
 }
 
 void Project::emitUserModified(const UndoCommand *command)

@@ -13,6 +13,7 @@ namespace Halvane::Corvex::Designer {
 
 class Configuration;
 class ImageResource;
+class ModelObserver;
 class ProjectAutosave;
 class UndoCommand;
 class UndoStack;
@@ -107,6 +108,10 @@ public:
     QAction *createUndoAction();
     QAction *createRedoAction();
 
+    //! What follows all changes of the project; loading another file into it ends that.
+    ModelObserver *observer() const { return m_observer.get(); }
+    void setObserver(std::unique_ptr<ModelObserver> observer);
+
     // Autosave.
     ProjectAutosave &autosave() { return *m_autosave; }
     //! Starts the timer by the user's settings, see ProjectAutosave::startTimer().
@@ -170,6 +175,7 @@ private:
     QAction *m_undoAction = nullptr;
     QAction *m_redoAction = nullptr;
     std::unique_ptr<ProjectAutosave> m_autosave;
+    std::unique_ptr<ModelObserver> m_observer;
     RuntimeGenerator m_runtimeGenerator;
     bool m_needsBuildVersion = false;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The files of Project: everything in its own folder, nothing beside it but the autosave file.
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/ModelObserver.h"
+#include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/FileNameRules.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
@@ -78,6 +80,7 @@ bool Project::loadFile(const QString &path)
 
 void Project::clearContents()
 {
+    setObserver(nullptr);
     setDisableValidation(true);
     for (const SharedProperty &list : {m_imageResources, m_variables, m_screens}) {
         const QList<DesignerObject *> items = list->listItems();
@@ -103,6 +106,7 @@ bool Project::saveFile()
         changePropertyValue(m_designerVersion, oldDesignerVersion);
         return false;
     }
+    undoStack()->cleanJunkFiles();
     createUndoStack();
     return true;
 }
