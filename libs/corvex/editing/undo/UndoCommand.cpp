@@ -94,6 +94,15 @@ UndoCommand::Deletion UndoCommand::deletion() const
     return Deletion::None;
 }
 
+void UndoCommand::cleanJunkFiles()
+{
+    for (int i = 0; i < childCount(); ++i) {
+        if (auto *command = const_cast<UndoCommand *>(childCommand(i))) {
+            command->cleanJunkFiles();
+        }
+    }
+}
+
 Screen *UndoCommand::screen() const
 {
     for (int i = 0; i < childCount(); ++i) {

@@ -44,6 +44,9 @@ public:
     virtual DesignerObject *activeItem() const;
     //! Which of the deletions that panels treat apart this is.
     virtual Deletion deletion() const;
+    //! Deletes files that were left for an undo and that nothing in the project needs: before the history
+    //! goes, once the project has been saved. A composite passes it on.
+    virtual void cleanJunkFiles();
 
     const SharedProperty &property() const { return m_property; }
     UndoCommand *parentCommand() const { return m_parent; }

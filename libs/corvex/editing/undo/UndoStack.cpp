@@ -51,6 +51,16 @@ void UndoStack::deleteCandidates()
     }
 }
 
+void UndoStack::cleanJunkFiles()
+{
+    for (int i = 0; i < count(); ++i) {
+        // The stack owns its commands; QUndoStack shows them to be read only.
+        if (auto *known = const_cast<UndoCommand *>(dynamic_cast<const UndoCommand *>(command(i)))) {
+            known->cleanJunkFiles();
+        }
+    }
+}
+
 const UndoCommand *UndoStack::decidingCommand(int index) const
 {
     if (index == 0) {

@@ -28,6 +28,8 @@ public:
     void push(UndoCommand *command);
     //! Begins a new history: what could be undone is forgotten, and what is now counts as saved.
     void startOver();
+    //! Has all commands delete the files that only an undo would need.
+    void cleanJunkFiles();
     //! Deletes the objects that commands named for it, except those that are back in the model.
     void deleteCandidates();
     //! While blocked, moves are followed without a word.

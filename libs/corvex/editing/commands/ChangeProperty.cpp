@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/ChangeProperty.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/ReferenceChanges.h"
+#include "corvex/editing/commands/ReferenceForm.h"
+#include "corvex/hardware/Configuration.h"
+#include "corvex/project/Element.h"
+#include "corvex/project/ImageResource.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/values/IdentifierInfo.h"
+#include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/values/UpdateObjectList.h"
+
+#include <QDebug>
+#include <QFileInfo>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! Which states describe the element that a link of a function element names.
+struct LinkedStates
+{
+    QLatin1StringView className;
+    QLatin1StringView link;
+    std::array<QLatin1StringView, 2> states;
+};
+
+constexpr std::array linkedStates{
+    LinkedStates{"Button"_L1, "visualElement"_L1, {"normalState"_L1, "pressedState"_L1}},
+    LinkedStates{"NumberSpinner"_L1, "incVisualElement"_L1, {"incNormalState"_L1, "incPressedState"_L1}},
+    LinkedStates{"NumberSpinner"_L1, "decVisualElement"_L1, {"decNormalState"_L1, "decPressedState"_L1}},
+};
+
+//! The properties whose pictures have to be there.
+struct Pictured
+{
+    QLatin1StringView className;
+    QLatin1StringView property;
+};
+
+constexpr std::array pictured{
+    Pictured{"Image"_L1, "source"_L1},
+    Pictured{"Button"_L1, "normalState"_L1},
+    Pictured{"Button"_L1, "pressedState"_L1},
+    Pictured{"NumberSpinner"_L1, "incNormalState"_L1},
+    Pictured{"NumberSpinner"_L1, "incPressedState"_L1},
+    Pictured{"CheckButton"_L1, "checkedState"_L1},
+    Pictured{"CheckButton"_L1, "uncheckedState"_L1},
+    Pictured{"Action"_L1, "propertyChanges"_L1},
+};
+
+//! All updates of elements of the screen are for \a newName from here on; the others describe nothing.
+QString relinked(const QString &states, const QString &newName, const Screen *screen)
+{
+    UpdateObjectList updates;
+    for (UpdateObjectInfo update : UpdateObjectList(states)) {
+        if (screen->hasElement(update.name().section(u'.', -1))) {
+            update.setName(newName);
+            updates.append(update);
+        }
+    }
+    return updates.toString();
+}
+
+bool isFileThere(const Project *project, const QString &image)
+{
+    const auto *resource = static_cast<const ImageResource *>(project->imageResources()->getListItem(image));
+    return resource ? QFileInfo(resource->filePath()).isFile()
+                    : QFileInfo(u"%1/%2"_s.arg(project->imagesPath(), image)).isFile();
+}
+
+} // namespace
+
+ChangeProperty::ChangeProperty(const SharedProperty &property, const QString &value, bool selected,
+                               UndoCommand *parent)
+    : ModelCommand(property, selected, parent)
+    , m_after(value)
+{
+    if (!owner()) {
+        return;
+    }
+    m_before = valueOf(property);
+    if (property->id() == "defaultScreen"_L1) {
+        setTitle(u"Change %1 Default Screen"_s, owner()->getIdName());
+    } else {
+        setTitle(u"Change %1"_s, property->name());
+    }
+    setupCommand();
+    notePending(property, m_after);
+    m_isFileMissing = notifyFileMissing();
+}
+
+void ChangeProperty::setupCommand()
+{
+    followLinkedElement();
+    if (property()->id() == "id"_L1) {
+        followName();
+    } else if (const auto *configuration = kindCast<Configuration>(owner())) {
+        for (const auto &[target, value] : configuration->followingChanges(*property(), m_after)) {
+            addChange(target, value);
+        }
+    }
+}
+
+void ChangeProperty::followLinkedElement()
+{
+    const ObjectLinkInfo link(m_after);
+    const Screen *screen = owner()->screen();
+    for (const LinkedStates &row : linkedStates) {
+        if (property()->id() != row.link || !owner()->isKindOfClass(row.className) || !screen
+            || !screen->hasElement(link.objectId())) {
+            continue;
+        }
+        for (const QLatin1StringView id : row.states) {
+            if (const SharedProperty state = owner()->getProperty(QString(id))) {
+                addChange(state, relinked(valueOf(state), link.objectId(), screen));
+            }
+        }
+    }
+}
+
+void ChangeProperty::followName()
+{
+    addChanges(ReferenceChanges::renamed(owner(), IdentifierInfo(m_after).name(), pending()));
+    m_sortsList =
+        owner()->listProperty()
+        && (owner()->isKindOfClass(u"HardwareElement"_s) || owner()->isKindOfClass(u"FunctionElement"_s));
+}
+
+bool ChangeProperty::notifyFileMissing() const
+{
+    const auto isShown = [this](const Pictured &row) {
+        return property()->id() == row.property && owner()->isKindOfClass(row.className);
+    };
+    const Project *project = owner()->project();
+    if (!project || std::none_of(pictured.begin(), pictured.end(), isShown)) {
+        return false;
+    }
+    for (const Mention &mention : ReferenceForm::mentions(ReferenceForm::of(*property()), m_after)) {
+        if (mention.kinds == NamedKind::Image && !isFileThere(project, mention.path)) {
+            qDebug().noquote() << u"%1: the file of the image \"%2\" is missing."_s.arg(owner()->objectPath(),
+                                                                                        mention.path);
+            return true;
+        }
+    }
+    return false;
+}
+
+bool ChangeProperty::isValid() const
+{
+    return !m_isFileMissing && ModelCommand::isValid();
+}
+
+bool ChangeProperty::set(const QString &value)
+{
+    const bool isDone = ValueChange::set(property(), value);
+    if (isDone && m_sortsList && owner()->listProperty()) {
+        owner()->listProperty()->sortList();
+    }
+    return isDone;
+}
+
+bool ChangeProperty::redoOwn(QString &error)
+{
+    const bool isDone = set(m_after);
+    if (!isDone) {
+        error = property()->errorString();
+    }
+    return isDone;
+}
+
+void ChangeProperty::undoOwn()
+{
+    set(m_before);
+}
+
+void ChangeProperty::appendOwnChanges(QList<ValueChange> &changes) const
+{
+    if (owner()) {
+        changes.append({property(), m_before, m_after});
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/ModelCommand.h"
+
+namespace Halvane::Corvex::Designer {
+
+/*! Sets one value, with all that follows from it: a new name is followed by every reference to the object, a
+    new linked element by the states that describe it, a switch of the device's configuration by the lists
+    that it decides about.
+
+    A value that shows a picture whose file is missing cannot be set.
+*/
+class ChangeProperty : public ModelCommand
+{
+public:
+    ChangeProperty(const SharedProperty &property, const QString &value, bool selected,
+                   UndoCommand *parent = nullptr);
+
+    bool isValid() const override;
+
+    const QString &oldValue() const { return m_before; }
+    const QString &newValue() const { return m_after; }
+
+protected:
+    bool redoOwn(QString &error) override;
+    void undoOwn() override;
+    void appendOwnChanges(QList<ValueChange> &changes) const override;
+
+private:
+    void setupCommand();
+    void followLinkedElement();
+    void followName();
+    void followConfiguration();
+    bool notifyFileMissing() const;
+    bool set(const QString &value);
+
+    QString m_before;
+    QString m_after;
+    bool m_isFileMissing = false;
+    bool m_sortsList = false;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/EditStep.h"
+
+#include "corvex/core/DesignerObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+bool isList(const SharedProperty &list)
+{
+    return list && list->parentObject() && list->isList();
+}
+
+bool insert(const SharedProperty &list, DesignerObject *object, qsizetype index)
+{
+    DesignerObject *owner = list->parentObject();
+    return index < 0 ? owner->addListPropertyItem(list, object)
+                     : owner->insertListPropertyItemAt(list, object, index);
+}
+
+bool take(const SharedProperty &list, DesignerObject *object)
+{
+    if (!list->parentObject()->takeListPropertyItem(list, object)) {
+        return false;
+    }
+    object->resetGraphicsItem();
+    return true;
+}
+
+} // namespace
+
+HeldObject::HeldObject(DesignerObject *object)
+    : m_object(object)
+{ }
+
+HeldObject::~HeldObject()
+{
+    if (m_object && !m_object->parent()) {
+        delete m_object;
+    }
+}
+
+bool SetValueStep::redo(QString &error)
+{
+    const bool isDone = m_change.redo();
+    if (!isDone) {
+        error = m_change.property->errorString();
+    }
+    return isDone;
+}
+
+InsertItemStep::InsertItemStep(const SharedProperty &list, DesignerObject *object, qsizetype index)
+    : m_list(list)
+    , m_object(object)
+    , m_index(index)
+{ }
+
+bool InsertItemStep::isPossible() const
+{
+    return isList(m_list) && m_object.get();
+}
+
+bool InsertItemStep::redo(QString &error)
+{
+    if (!insert(m_list, m_object.get(), m_index)) {
+        error = m_list->errorString();
+        return false;
+    }
+    m_index = m_list->getListItemIndex(m_object.get());
+    return true;
+}
+
+void InsertItemStep::undo()
+{
+    take(m_list, m_object.get());
+}
+
+TakeItemStep::TakeItemStep(const SharedProperty &list, DesignerObject *object)
+    : m_list(list)
+    , m_object(object)
+{ }
+
+bool TakeItemStep::isPossible() const
+{
+    return isList(m_list) && m_object.get();
+}
+
+bool TakeItemStep::redo(QString &error)
+{
+    m_index = m_list->getListItemIndex(m_object.get());
+    if (m_index < 0 || !take(m_list, m_object.get())) {
+        error = m_list->errorString();
+        return false;
+    }
+    return true;
+}
+
+void TakeItemStep::undo()
+{
+    insert(m_list, m_object.get(), m_index);
+}
+
+SwapItemsStep::SwapItemsStep(const SharedProperty &list, DesignerObject *first, DesignerObject *second)
+    : m_list(list)
+    , m_first(first)
+    , m_second(second)
+{ }
+
+bool SwapItemsStep::isPossible() const
+{
+    return isList(m_list) && m_first && m_second;
+}
+
+bool SwapItemsStep::redo(QString &error)
+{
+    const bool isDone = m_list->parentObject()->swapListPropertyItems(m_list, m_first, m_second);
+    if (!isDone) {
+        error = m_list->errorString();
+    }
+    return isDone;
+}
+
+void SwapItemsStep::undo()
+{
+    m_list->parentObject()->swapListPropertyItems(m_list, m_first, m_second);
+}
+
+bool SortListStep::redo(QString &)
+{
+    m_list->sortList();
+    return true;
+}
+
+void SortListStep::undo()
+{
+    m_list->sortList();
+}
+
+} // namespace Halvane::Corvex::Designer

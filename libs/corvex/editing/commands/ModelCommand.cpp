@@ -1,0 +1,316 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/ModelCommand.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/editing/commands/EditStep.h"
+
+namespace Halvane::Corvex::Designer {
+
+struct ModelCommand::Plan
+{
+    std::vector<std::unique_ptr<EditStep>> steps;
+    QList<ValueChange> changes;
+    std::shared_ptr<PendingValues> pending;
+    QPointer<DesignerObject> activeItem;
+    QList<QPointer<DesignerObject>> selection;
+    QString error;
+    bool changesComeFirst = false;
+    bool isRefused = false;
+    bool hasSelection = false;
+
+    bool redoSteps(QString &reason)
+    {
+        for (auto step = steps.begin(); step != steps.end(); ++step) {
+            if (!(*step)->redo(reason)) {
+                undoSteps(step);
+                return false;
+            }
+        }
+        return true;
+    }
+    void undoSteps(std::vector<std::unique_ptr<EditStep>>::iterator end)
+    {
+        while (end != steps.begin()) {
+            (*--end)->undo();
+        }
+    }
+};
+
+ModelCommand::ModelCommand(const SharedProperty &property, bool selected, UndoCommand *parent)
+    : UndoCommand(property, selected, parent)
+{
+    if (parent) {
+        plan().pending = siblingValues();
+    }
+}
+
+ModelCommand::~ModelCommand() = default;
+
+ModelCommand::Plan &ModelCommand::plan()
+{
+    if (!m_plan) {
+        m_plan = std::make_unique<Plan>();
+    }
+    return *m_plan;
+}
+
+std::shared_ptr<PendingValues> ModelCommand::siblingValues() const
+{
+    const UndoCommand *command = this;
+    for (const UndoCommand *parent = parentCommand(); parent; parent = parent->parentCommand()) {
+        const auto *model = dynamic_cast<const ModelCommand *>(parent);
+        if (!model && parent->childCount() > 1) {
+            // The command is the last child of its parent for now.
+            model = dynamic_cast<const ModelCommand *>(parent->child(parent->childCount() - 2));
+        }
+        if (model && model->m_plan && model->m_plan->pending) {
+            return model->m_plan->pending;
+        }
+        command = parent;
+    }
+    auto *root = const_cast<ModelCommand *>(dynamic_cast<const ModelCommand *>(command));
+    auto values = std::make_shared<PendingValues>();
+    if (root && root != this) {
+        root->plan().pending = values;
+    }
+    return values;
+}
+
+void ModelCommand::setTitle(const QString &english, const QString &first, const QString &second)
+{
+    const QString title = Common::LocalizationHelper::coreString(english);
+    setText(first.isNull() ? title : second.isNull() ? title.arg(first) : title.arg(first, second));
+}
+
+void ModelCommand::refuse(const QString &error)
+{
+    plan().isRefused = true;
+    plan().error = error;
+}
+
+void ModelCommand::addStep(std::unique_ptr<EditStep> step)
+{
+    plan().steps.push_back(std::move(step));
+}
+
+void ModelCommand::addValueStep(const SharedProperty &property, const QString &value)
+{
+    const QString before = valueOf(property);
+    if (before != value) {
+        addStep<SetValueStep>(ValueChange{property, before, value});
+        notePending(property, value);
+    }
+}
+
+void ModelCommand::addChanges(const QList<ValueChange> &changes)
+{
+    if (changes.isEmpty()) {
+        return;
+    }
+    plan().changes += changes;
+    for (const ValueChange &change : changes) {
+        notePending(change.property, change.after);
+    }
+}
+
+void ModelCommand::addChange(const SharedProperty &property, const QString &value)
+{
+    const QString before = property ? valueOf(property) : QString();
+    if (property && before != value) {
+        addChanges({{property, before, value}});
+    }
+}
+
+void ModelCommand::makeChangesFirst()
+{
+    plan().changesComeFirst = true;
+}
+
+void ModelCommand::setActiveItem(DesignerObject *item)
+{
+    plan().activeItem = item;
+}
+
+void ModelCommand::setSelection(const QList<DesignerObject *> &items)
+{
+    plan().selection = QList<QPointer<DesignerObject>>(items.cbegin(), items.cend());
+    plan().hasSelection = true;
+}
+
+QString ModelCommand::valueOf(const SharedProperty &property) const
+{
+    if (const PendingValues *values = pending()) {
+        const auto known = values->constFind(property.data());
+        if (known != values->cend()) {
+            return *known;
+        }
+    }
+    return property->valueString();
+}
+
+const PendingValues *ModelCommand::pending() const
+{
+    return m_plan ? m_plan->pending.get() : nullptr;
+}
+
+void ModelCommand::notePending(const SharedProperty &property, const QString &value)
+{
+    if (m_plan && m_plan->pending) {
+        m_plan->pending->insert(property.data(), value);
+    }
+}
+
+bool ModelCommand::isValid() const
+{
+    if (m_plan && m_plan->isRefused) {
+        return false;
+    }
+    const auto isPossible = [](const std::unique_ptr<EditStep> &step) { return step->isPossible(); };
+    return UndoCommand::isValid()
+           && (!m_plan || std::all_of(m_plan->steps.begin(), m_plan->steps.end(), isPossible));
+}
+
+QString ModelCommand::errorString() const
+{
+    for (int i = 0; i < childCount() && (!m_plan || m_plan->error.isEmpty()); ++i) {
+        const auto *command = dynamic_cast<const ModelCommand *>(child(i));
+        if (const QString error = command ? command->errorString() : QString(); !error.isEmpty()) {
+            return error;
+        }
+    }
+    return m_plan ? m_plan->error : QString();
+}
+
+DesignerObject *ModelCommand::activeItem() const
+{
+    return m_plan && m_plan->activeItem ? m_plan->activeItem.data() : UndoCommand::activeItem();
+}
+
+QList<DesignerObject *> ModelCommand::selectedItems()
+{
+    if (!m_plan || !m_plan->hasSelection) {
+        return UndoCommand::selectedItems();
+    }
+    QList<DesignerObject *> items;
+    for (const QPointer<DesignerObject> &item : std::as_const(m_plan->selection)) {
+        if (item) {
+            items.append(item);
+        }
+    }
+    return items;
+}
+
+void ModelCommand::redo()
+{
+    QString error;
+    m_isDone = childCount() > 0 ? redoChildren(error) : isValid() && redoLeaf(error);
+    if (!error.isEmpty()) {
+        plan().error = error;
+    }
+}
+
+bool ModelCommand::redoChildren(QString &error)
+{
+    if (m_plan && m_plan->isRefused) {
+        return false;
+    }
+    for (int i = 0; i < childCount(); ++i) {
+        auto *command = const_cast<QUndoCommand *>(child(i));
+        command->redo();
+        const auto *model = dynamic_cast<const ModelCommand *>(command);
+        if (model && !model->isDone()) {
+            error = model->errorString();
+            while (--i >= 0) {
+                const_cast<QUndoCommand *>(child(i))->undo();
+            }
+            return false;
+        }
+    }
+    return true;
+}
+
+bool ModelCommand::redoLeaf(QString &error)
+{
+    const bool changesComeFirst = m_plan && m_plan->changesComeFirst;
+    const auto makeChanges = [this] {
+        for (const ValueChange &change : m_plan ? m_plan->changes : QList<ValueChange>()) {
+            change.redo();
+        }
+    };
+    if (changesComeFirst) {
+        makeChanges();
+    }
+    const bool done = redoOwn(error);
+    if (done && !changesComeFirst) {
+        makeChanges();
+    } else if (!done && changesComeFirst) {
+        for (const ValueChange &change : m_plan->changes) {
+            change.undo();
+        }
+    }
+    return done;
+}
+
+void ModelCommand::undo()
+{
+    if (!m_isDone) {
+        return;
+    }
+    if (childCount() > 0) {
+        QUndoCommand::undo();
+    } else if (isValid()) {
+        undoOwn();
+        for (const ValueChange &change : m_plan ? m_plan->changes : QList<ValueChange>()) {
+            change.undo();
+        }
+    }
+    m_isDone = false;
+}
+
+bool ModelCommand::redoOwn(QString &error)
+{
+    return !m_plan || m_plan->redoSteps(error);
+}
+
+void ModelCommand::undoOwn()
+{
+    if (m_plan) {
+        m_plan->undoSteps(m_plan->steps.end());
+    }
+}
+
+void ModelCommand::appendOwnChanges(QList<ValueChange> &changes) const
+{
+    if (m_plan) {
+        for (const std::unique_ptr<EditStep> &step : m_plan->steps) {
+            if (const auto *value = dynamic_cast<const SetValueStep *>(step.get())) {
+                changes.append(value->change());
+            }
+        }
+    }
+}
+
+QList<ValueChange> ModelCommand::valueChanges() const
+{
+    QList<ValueChange> changes;
+    for (int i = 0; i < childCount(); ++i) {
+        if (const auto *command = dynamic_cast<const ModelCommand *>(child(i))) {
+            changes += command->valueChanges();
+        }
+    }
+    appendOwnChanges(changes);
+    return m_plan ? changes + m_plan->changes : changes;
+}
+
+void ModelCommand::cleanJunkFiles()
+{
+    UndoCommand::cleanJunkFiles();
+    if (m_plan) {
+        for (const std::unique_ptr<EditStep> &step : m_plan->steps) {
+            step->cleanJunkFiles();
+        }
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/ValueChange.h"
+#include "corvex/editing/undo/UndoCommand.h"
+
+#include <memory>
+
+namespace Halvane::Corvex::Designer {
+
+class EditStep;
+
+/*! The base of all commands that edit a project.
+
+    A command is planned once, in its constructor: steps that it takes of itself, and changes of values
+    elsewhere that follow from them. redo() and undo() replay the plan and look for nothing any more.
+
+    When a step fails, the steps before it are taken back and nothing that follows from them is changed: the
+    command is not done, and errorString() may know why. A composite whose child is not done takes back what
+    its other children did. A change elsewhere that fails stops nothing.
+*/
+class ModelCommand : public UndoCommand
+{
+public:
+    ~ModelCommand() override;
+
+    void redo() override;
+    void undo() override;
+    //! False also for a command that was given something impossible, with the reason in errorString().
+    bool isValid() const override;
+    DesignerObject *activeItem() const override;
+    QList<DesignerObject *> selectedItems() override;
+    void cleanJunkFiles() override;
+
+    //! Whether the command is done at the moment.
+    bool isDone() const { return m_isDone; }
+    //! Why it cannot be done, for the user; empty when nobody knows.
+    QString errorString() const;
+    //! All values that the command and its children set, in order, those that follow from others included.
+    QList<ValueChange> valueChanges() const;
+
+protected:
+    ModelCommand(const SharedProperty &property, bool selected, UndoCommand *parent);
+
+    // For constructors.
+    //! \a english with its placeholders filled, in the language of the user.
+    void setTitle(const QString &english, const QString &first = {}, const QString &second = {});
+    //! Makes the command one that cannot be done.
+    void refuse(const QString &error);
+    void addStep(std::unique_ptr<EditStep> step);
+    template<class Step, class... Arguments>
+    void addStep(Arguments &&...arguments)
+    {
+        addStep(std::make_unique<Step>(std::forward<Arguments>(arguments)...));
+    }
+    //! A step that sets a value; none when the property has it.
+    void addValueStep(const SharedProperty &property, const QString &value);
+    //! Changes that follow from the steps.
+    void addChanges(const QList<ValueChange> &changes);
+    void addChange(const SharedProperty &property, const QString &value);
+    //! The changes are made before the steps; an undo always comes back to the steps first.
+    void makeChangesFirst();
+    void setActiveItem(DesignerObject *item);
+    void setSelection(const QList<DesignerObject *> &items);
+    //! What a property will hold when this command's turn comes.
+    QString valueOf(const SharedProperty &property) const;
+    //! Null for a command of its own.
+    const PendingValues *pending() const;
+    void notePending(const SharedProperty &property, const QString &value);
+
+    //! What the command does of itself: its steps.
+    virtual bool redoOwn(QString &error);
+    virtual void undoOwn();
+    virtual void appendOwnChanges(QList<ValueChange> &changes) const;
+
+private:
+    struct Plan;
+    Plan &plan();
+    std::shared_ptr<PendingValues> siblingValues() const;
+    bool redoChildren(QString &error);
+    bool redoLeaf(QString &error);
+
+    std::unique_ptr<Plan> m_plan; //!< null for a lone command with nothing beside its own change
+    bool m_isDone = false;
+};
+
+} // namespace Halvane::Corvex::Designer

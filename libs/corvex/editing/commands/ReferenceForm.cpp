@@ -1,0 +1,327 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/ReferenceForm.h"
+
+#include "corvex/core/DesignerObject.h"
+#include "corvex/values/GeneralDataList.h"
+#include "corvex/values/ListInfo.h"
+#include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/values/PairList.h"
+#include "corvex/values/PropertyList.h"
+#include "corvex/values/UpdateObjectList.h"
+
+#include <QHash>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Form = ReferenceForm::Form;
+
+//! A kind of property with a form, whoever has it unless owner and id are told.
+struct Site
+{
+    QLatin1StringView propertyClass;
+    Form form;
+    QLatin1StringView owner = {};
+    QLatin1StringView id = {};
+};
+
+constexpr std::array sites{
+    Site{"LinkProperty"_L1, Form::Link},
+    Site{"GeneralDataProperty"_L1, Form::Expression},
+    Site{"GeneralDataListProperty"_L1, Form::Expression},
+    Site{"UpdateObjectProperty"_L1, Form::States},
+    Site{"UpdateObjectListProperty"_L1, Form::States},
+    Site{"PropertyChangeProperty"_L1, Form::Changes},
+    Site{"PropertyChangeListProperty"_L1, Form::Changes},
+    Site{"ListValueProperty"_L1, Form::Names, "GroupElement"_L1, "indexes"_L1},
+    Site{"ListValueProperty"_L1, Form::Names, "FilterElement"_L1, "elements"_L1},
+    Site{"ListValueProperty"_L1, Form::Names, "BACnetService"_L1, "bacNetObjectList"_L1},
+    Site{"ListValueProperty"_L1, Form::Names, "BACnetService"_L1, "bacNetDevices"_L1},
+    Site{"ListValueProperty"_L1, Form::NamePairs, "ModbusCommands"_L1, "commands"_L1},
+    Site{"StringProperty"_L1, Form::CommaNames, "PropertyTrigger"_L1, "actionScheduler"_L1},
+    Site{"StringProperty"_L1, Form::Expressions, "LogicBuilder"_L1, "logicExpression"_L1},
+};
+
+//! The rows for the class of the property and its bases, looked up once for each class.
+const QList<const Site *> &sitesOf(const DesignerProperty &property)
+{
+    static QHash<QString, QList<const Site *>> known;
+    const auto found = known.constFind(property.className());
+    if (found != known.cend()) {
+        return *found;
+    }
+    const QStringList classNames = property.classNames();
+    QList<const Site *> rows;
+    for (const Site &site : sites) {
+        if (classNames.contains(site.propertyClass)) {
+            rows.append(&site);
+        }
+    }
+    return *known.insert(property.className(), rows);
+}
+
+//! The form of a value that a state or an action gives to the property \a id of an element: by the id alone,
+//! since the element may not be there.
+Form formOfNested(const QString &id)
+{
+    return id == "source"_L1 ? Form::Link : id.endsWith("Binding"_L1) ? Form::Expression : Form::None;
+}
+
+constexpr NamedKinds projectKinds = NamedKind::Variable | NamedKind::Screen | NamedKind::Image;
+
+NamedKinds kindsOf(const ObjectLinkInfo &link)
+{
+    NamedKinds kinds;
+    kinds.setFlag(NamedKind::Element, link.scopeType() != "Project"_L1);
+    if (link.scopeType() != "Screen"_L1) {
+        kinds |= projectKinds;
+    }
+    NamedKinds wanted;
+    for (const QString &className : link.filterType()) {
+        wanted |= className == "Screen"_L1          ? NamedKinds(NamedKind::Screen)
+                  : className == "ImageResource"_L1 ? NamedKinds(NamedKind::Image)
+                                                    : NamedKind::Element | NamedKind::Variable;
+    }
+    return link.filterType().isEmpty() ? kinds : kinds & wanted;
+}
+
+NamedKinds kindsOf(const GeneralDataInfo &term)
+{
+    if (term.valueType() == GeneralDataInfo::VariableValue) {
+        return NamedKind::Variable;
+    }
+    switch (term.dataType()) {
+    case GeneralDataInfo::LogData:
+    case GeneralDataInfo::DeviceData:
+    case GeneralDataInfo::ReferenceData:
+        return NamedKind::Element | NamedKind::Screen | NamedKind::Variable;
+    default:
+        return NamedKind::Element | NamedKind::Screen;
+    }
+}
+
+constexpr NamedKinds listedKinds = NamedKind::Element | NamedKind::Variable;
+
+//! Shows the mention to the visitor. \return whether it was changed.
+bool show(Mention &mention, const MentionVisitor &visitor)
+{
+    const QString path = mention.path;
+    visitor(mention);
+    return mention.isDropped || mention.path != path;
+}
+
+bool visitLink(QString &text, const MentionVisitor &visitor)
+{
+    ObjectLinkInfo link(text);
+    if (!link.isValid()) {
+        return false;
+    }
+    Mention mention{kindsOf(link), link.objectId()};
+    if (!show(mention, visitor)) {
+        return false;
+    }
+    link.setObjectId(mention.isDropped ? QString() : mention.path);
+    text = link.toString();
+    return true;
+}
+
+bool visitExpression(QString &text, const MentionVisitor &visitor)
+{
+    GeneralDataList terms(text);
+    bool isChanged = false;
+    for (qsizetype i = 0; i < terms.count(); ++i) {
+        const QString path = terms.at(i).objectName();
+        if (path.isEmpty()) {
+            continue;
+        }
+        Mention mention{kindsOf(terms.at(i)), path};
+        if (show(mention, visitor)) {
+            isChanged = true;
+            mention.isDropped ? terms[i].removeObject() : terms[i].replaceObject(mention.path);
+        }
+    }
+    if (isChanged) {
+        text = terms.toString();
+    }
+    return isChanged;
+}
+
+bool visitStates(QString &text, const MentionVisitor &visitor)
+{
+    bool isChanged = false;
+    UpdateObjectList updates;
+    for (UpdateObjectInfo update : UpdateObjectList(text)) {
+        if (Mention mention{NamedKind::Element, update.name()}; update.isValid() && show(mention, visitor)) {
+            isChanged = true;
+            if (mention.isDropped) {
+                continue;
+            }
+            update.setName(mention.path);
+        }
+        PropertyInfoList values;
+        for (PropertyInfo value : update.propertyValues()) {
+            QString nested = value.propValue();
+            if (ReferenceForm::visit(formOfNested(value.propName()), nested, visitor)) {
+                isChanged = true;
+                value.setPropValue(nested);
+            }
+            values.append(value);
+        }
+        update.setPropertyValues(values);
+        updates.append(update);
+    }
+    if (isChanged) {
+        text = updates.toString();
+    }
+    return isChanged;
+}
+
+bool visitChanges(QString &text, const MentionVisitor &visitor)
+{
+    bool isChanged = false;
+    QList<PropertyChangeInfo> changes;
+    for (PropertyChangeInfo change : PropertyList(text)) {
+        if (Mention mention{NamedKind::Element, change.elementName()}; show(mention, visitor)) {
+            isChanged = true;
+            if (mention.isDropped) {
+                continue;
+            }
+            change.setElementName(mention.path);
+        }
+        QString nested = change.valueString();
+        if (ReferenceForm::visit(formOfNested(change.propertyName()), nested, visitor)) {
+            isChanged = true;
+            change.setValueString(nested);
+        }
+        changes.append(change);
+    }
+    if (isChanged) {
+        PropertyList list;
+        list.append(changes);
+        text = list.toString();
+    }
+    return isChanged;
+}
+
+//! Shows each name and keeps those that are not dropped.
+bool visitNames(QStringList &names, const MentionVisitor &visitor)
+{
+    bool isChanged = false;
+    QStringList kept;
+    for (const QString &name : std::as_const(names)) {
+        Mention mention{listedKinds, name};
+        isChanged |= !name.isEmpty() && show(mention, visitor);
+        if (!mention.isDropped) {
+            kept.append(mention.path);
+        }
+    }
+    names = kept;
+    return isChanged;
+}
+
+bool visitNameList(QString &text, const MentionVisitor &visitor)
+{
+    QStringList names = ListInfo(text).toList();
+    const bool isChanged = visitNames(names, visitor);
+    if (isChanged) {
+        text = ListInfo(names).toString();
+    }
+    return isChanged;
+}
+
+bool visitCommaNames(QString &text, const MentionVisitor &visitor)
+{
+    QStringList names = text.split(u", "_s, Qt::SkipEmptyParts);
+    const bool isChanged = visitNames(names, visitor);
+    if (isChanged) {
+        text = names.join(u", "_s);
+    }
+    return isChanged;
+}
+
+bool visitNamePairs(QString &text, const MentionVisitor &visitor)
+{
+    bool isChanged = false;
+    QStringList items = ListInfo(text).toList();
+    for (QString &item : items) {
+        const TextPair pair = TextPair::fromString(item);
+        Mention mention{listedKinds, pair.first};
+        if (!pair.first.isEmpty() && show(mention, visitor)) {
+            isChanged = true;
+            item = TextPair{mention.isDropped ? QString() : mention.path, pair.second}.toString();
+        }
+    }
+    if (isChanged) {
+        text = ListInfo(items).toString();
+    }
+    return isChanged;
+}
+
+bool visitExpressions(QString &text, const MentionVisitor &visitor)
+{
+    bool isChanged = false;
+    PairList pairs(text);
+    for (qsizetype i = 0; i < pairs.count(); ++i) {
+        isChanged |= visitExpression(pairs[i].first, visitor);
+        isChanged |= visitExpression(pairs[i].second, visitor);
+    }
+    if (isChanged) {
+        text = pairs.toString();
+    }
+    return isChanged;
+}
+
+} // namespace
+
+ReferenceForm::Form ReferenceForm::of(const DesignerProperty &property)
+{
+    for (const Site *site : sitesOf(property)) {
+        if (site->id.isEmpty()
+            || (property.id() == site->id && property.parentObject()
+                && property.parentObject()->isKindOfClass(site->owner))) {
+            return site->form;
+        }
+    }
+    return None;
+}
+
+bool ReferenceForm::visit(Form form, QString &text, const MentionVisitor &visitor)
+{
+    switch (form) {
+    case None:
+        return false;
+    case Link:
+        return visitLink(text, visitor);
+    case Expression:
+        return visitExpression(text, visitor);
+    case States:
+        return visitStates(text, visitor);
+    case Changes:
+        return visitChanges(text, visitor);
+    case Names:
+        return visitNameList(text, visitor);
+    case NamePairs:
+        return visitNamePairs(text, visitor);
+    case CommaNames:
+        return visitCommaNames(text, visitor);
+    case Expressions:
+        return visitExpressions(text, visitor);
+    }
+    Q_UNREACHABLE();
+    return false;
+}
+
+QList<Mention> ReferenceForm::mentions(Form form, const QString &text)
+{
+    QList<Mention> found;
+    QString copy = text;
+    visit(form, copy, [&found](const Mention &mention) { found.append(mention); });
+    return found;
+}
+
+} // namespace Halvane::Corvex::Designer

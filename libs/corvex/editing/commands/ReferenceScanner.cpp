@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/ReferenceScanner.h"
+
+#include "corvex/editing/commands/ReferenceTarget.h"
+#include "corvex/project/Project.h"
+
+namespace Halvane::Corvex::Designer {
+
+void ReferenceScanner::visitSites(const DesignerObject *object, bool recursive, const SiteVisitor &visitor)
+{
+    for (const SharedProperty &property : object->properties()) {
+        if (property->isList()) {
+            for (const DesignerObject *item : recursive ? property->listItems() : QList<DesignerObject *>()) {
+                visitSites(item, true, visitor);
+            }
+        } else if (property->isObject()) {
+            if (recursive && property->objectValue()) {
+                visitSites(property->objectValue(), true, visitor);
+            }
+        } else if (const ReferenceForm::Form form = ReferenceForm::of(*property)) {
+            visitor(property, form);
+        }
+    }
+}
+
+QList<ReferenceUse> ReferenceScanner::uses(const ReferenceTarget &target)
+{
+    QList<ReferenceUse> found;
+    if (!target.isValid()) {
+        return found;
+    }
+    visitSites(target.project(), true, [&](const SharedProperty &property, ReferenceForm::Form form) {
+        for (const Mention &mention : ReferenceForm::mentions(form, property->valueString())) {
+            if (target.isMeantBy(mention, property->parentObject())) {
+                found.append({property, mention.path});
+            }
+        }
+    });
+    return found;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/ChangeProperty.h"
+#include "corvex/values/IdentifierInfo.h"
+
+#include "CommandFixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer::Test {
+
+class ChangePropertyTest : public CommandFixture
+{
+protected:
+    static QString named(const DesignerObject *object, const QString &name)
+    {
+        IdentifierInfo info = object->getIdInfo();
+        info.setName(name);
+        return info.toString();
+    }
+    static QString linkTo(const QString &name)
+    {
+        return u"filterType: VisualElement; objectId: %1; scopeType: Screen;"_s.arg(name);
+    }
+};
+
+TEST_F(ChangePropertyTest, TextsAndValues)
+{
+    auto *position = push(new ChangeProperty(property(element("text1"), "position"), u"x: 3; y: 4;"_s, true));
+    EXPECT_EQ(position->text(), u"Change Position"_s);
+    EXPECT_EQ(position->selectedItems(), QList<DesignerObject *>{element("text1")});
+    EXPECT_EQ(value(element("text1"), "position"), u"x: 3; y: 4;"_s);
+    EXPECT_EQ(ChangeProperty(project->defaultScreen(), {}, false).text(), u"Change Pumps Default Screen"_s);
+    stack().undo();
+    EXPECT_EQ(value(element("text1"), "position"), u"x: 0; y: 0;"_s);
+
+    EXPECT_FALSE(ChangeProperty(nullptr, u"1"_s, false).isValid());
+    ChangeProperty lost(property(element("text1"), "text"), u"new"_s, false);
+    delete element("text1");
+    EXPECT_FALSE(lost.isValid());
+    lost.redo();
+    EXPECT_FALSE(lost.isDone());
+}
+
+TEST_F(ChangePropertyTest, AQuietRefusalChangesNothingElse)
+{
+    // No reference may follow a name that the object did not get.
+    ASSERT_TRUE(set(element("button1"), "visualElement", linkTo(u"rectangle1"_s)));
+    const QString before = text();
+    auto *unstorable = new ChangeProperty(element("rectangle1")->idProperty(),
+                                          named(element("rectangle1"), u"a"_s + QChar(1)), false);
+    stack().push(unstorable);
+    EXPECT_FALSE(unstorable->isDone());
+    EXPECT_FALSE(unstorable->errorString().isEmpty());
+    EXPECT_EQ(text(), before);
+    stack().undo();
+    EXPECT_EQ(text(), before);
+}
+
+TEST_F(ChangePropertyTest, ANewNameIsFollowedAndListsStaySorted)
+{
+    DesignerObject *button = element("button1");
+    ASSERT_TRUE(set(button, "visualElement", linkTo(u"rectangle1"_s)));
+    ASSERT_TRUE(set(button, "normalState", u"name: rectangle1;"_s));
+    ASSERT_TRUE(set(button, "pressedState", u"name: rectangle1;"_s));
+    addTo(main, "PwmOutput");
+    const QString before = text();
+
+    push(new ChangeProperty(element("rectangle1")->idProperty(), named(element("rectangle1"), u"tank"_s),
+                            false));
+    EXPECT_EQ(value(button, "visualElement"), linkTo(u"tank"_s));
+    EXPECT_EQ(value(button, "normalState"), u"name: tank;"_s);
+    EXPECT_EQ(value(button, "pressedState"), u"name: tank;"_s);
+    EXPECT_TRUE(property(button, "visualElement")->isValid());
+
+    push(new ChangeProperty(element("pwmOutput1")->idProperty(),
+                            named(element("pwmOutput1"), u"pwmOutput9"_s), false));
+    EXPECT_LT(main->elements()->getListItemIndex(u"pwmOutput2"_s),
+              main->elements()->getListItemIndex(u"pwmOutput9"_s));
+    const QString after = text();
+    stack().setIndex(0);
+    EXPECT_EQ(text(), before);
+    EXPECT_TRUE(property(button, "visualElement")->isValid());
+    stack().setIndex(2);
+    EXPECT_EQ(text(), after);
+}
+
+TEST_F(ChangePropertyTest, StatesFollowTheLinkedElement)
+{
+    DesignerObject *spinner = element("numberSpinner1");
+    ASSERT_TRUE(set(spinner, "incVisualElement", linkTo(u"rectangle1"_s)));
+    ASSERT_TRUE(set(spinner, "incNormalState", u"name: rectangle1; | name: nowhere;"_s));
+    ASSERT_TRUE(set(spinner, "decNormalState", u"name: rectangle1;"_s));
+    push(new ChangeProperty(property(spinner, "incVisualElement"), linkTo(u"text1"_s), false));
+    EXPECT_EQ(value(spinner, "incNormalState"), u"name: text1;"_s);
+    EXPECT_EQ(value(spinner, "decNormalState"), u"name: rectangle1;"_s);
+    stack().undo();
+    EXPECT_EQ(value(spinner, "incNormalState"), u"name: rectangle1; | name: nowhere;"_s);
+}
+
+TEST_F(ChangePropertyTest, APictureWhoseFileIsMissingIsNotShown)
+{
+    const SharedProperty source = property(element("image1"), "source");
+    const QString link = u"filterType: ImageResource; objectId: %1; scopeType: Project;"_s;
+    EXPECT_TRUE(ChangeProperty(source, link.arg(u"pump.png"_s), false).isValid());
+    EXPECT_FALSE(ChangeProperty(source, link.arg(u"gone.png"_s), false).isValid());
+    const SharedProperty state = property(element("button1"), "normalState");
+    EXPECT_FALSE(ChangeProperty(state,
+                                u"name: image1; propertyValues: propName%3A source%3B propValue%3A "
+                                "objectId%253A gone.png%253B filterType%253A ImageResource%253B%3B;"_s,
+                                false)
+                     .isValid());
+}
+
+TEST_F(ChangePropertyTest, CommandsOfOneCompositeBuildOnEachOther)
+{
+    ASSERT_TRUE(set(element("propertyTrigger1"), "actionScheduler", u"action1, action2"_s));
+    addTo(main, "Action");
+    const QString before = text();
+    auto *both = new UndoCommand;
+    for (const char *name : {"action1", "action2"}) {
+        new ChangeProperty(element(name)->idProperty(),
+                           named(element(name), u"x_"_s + QLatin1StringView(name)), false, both);
+    }
+    stack().push(both);
+    EXPECT_EQ(value(element("propertyTrigger1"), "actionScheduler"), u"x_action1, x_action2"_s);
+    stack().undo();
+    EXPECT_EQ(text(), before);
+}
+
+} // namespace Halvane::Corvex::Designer::Test
