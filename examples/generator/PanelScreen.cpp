@@ -93,16 +93,6 @@ ElementHandle PanelScreen::image(const char *name, const QRect &place, const cha
     return addPlaced("Image", name, place).link("source", file);
 }
 
-void PanelScreen::card(const char *name, const QRect &place, const char *heading)
-{
-    constexpr int padding = 16;
-    constexpr int headingHeight = 28;
-    rectangle(name, place, PanelStyle::cardFace);
-    text(QByteArray(name).append("Title"),
-         {place.x() + padding, place.y() + padding / 2, place.width() - 2 * padding, headingHeight}, heading,
-         PanelStyle::heading);
-}
-
 void PanelScreen::openGroup(const char *name, const QPoint &position)
 {
     DesignerObject *group = m_builder.addElement(m_owners.constLast(), u"GroupElement"_s, utf8(name));
@@ -126,18 +116,6 @@ void PanelScreen::pushButton(const char *name, const QRect &place, const char *c
         .link("visualElement", face)
         .set("normalState", state({{face, "color", colorText(color)}}))
         .set("pressedState", state({{face, "color", pressed}}))
-        .bind("pressed", assignments);
-}
-
-void PanelScreen::pictureButton(const char *name, const QRect &place, const char *file,
-                                const char *assignments)
-{
-    const QByteArray picture = QByteArray(name).append("Picture");
-    image(picture, place, file);
-    function("Button", name)
-        .link("visualElement", picture)
-        .set("normalState", state({{picture, "opacity", u"100"_s}}))
-        .set("pressedState", state({{picture, "opacity", u"60"_s}}))
         .bind("pressed", assignments);
 }
 

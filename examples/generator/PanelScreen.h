@@ -51,16 +51,12 @@ public:
     ElementHandle text(const char *name, const QRect &place, const char *text, const TextStyle &style);
     ElementHandle rectangle(const char *name, const QRect &place, const Face &face);
     ElementHandle image(const char *name, const QRect &place, const char *file);
-    //! A card with its heading.
-    void card(const char *name, const QRect &place, const char *heading);
     void openGroup(const char *name, const QPoint &position);
     void closeGroup();
 
     //! A face with a caption that makes assignments when it is pressed; the face is called "nameFace".
     void pushButton(const char *name, const QRect &place, const char *caption, QRgb color,
                     const char *assignments);
-    //! A picture that makes assignments when it is pressed; the picture is called "namePicture".
-    void pictureButton(const char *name, const QRect &place, const char *file, const char *assignments);
     ElementHandle function(const char *className, const char *name);
     ElementHandle channel(const char *className, const char *name, int number);
     void logic(const char *name, std::initializer_list<Rule> rules);

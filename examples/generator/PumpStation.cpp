@@ -73,6 +73,8 @@ constexpr struct
     {"inputRegMap", 30001, "wellLevel", Info::NumberData},
     {"inputRegMap", 30002, "flow", Info::NumberData},
     {"inputRegMap", 30003, "pressure", Info::NumberData},
+    {"inputRegMap", 30004, "pump1Hours", Info::NumberData},
+    {"inputRegMap", 30005, "pump2Hours", Info::NumberData},
     {"holdingRegMap", 40001, "startLevel", Info::NumberData},
     {"holdingRegMap", 40002, "stopLevel", Info::NumberData},
     {"holdingRegMap", 40003, "pumpSpeed", Info::NumberData},
@@ -82,13 +84,12 @@ constexpr struct
 constexpr struct
 {
     const char *name;
-    const char *title;
     void (*draw)(PanelScreen &screen);
 } screens[] = {
-    {"Overview", "Overview", &PumpStationScreens::drawOverview},
-    {"Trends", "Trends", &PumpStationScreens::drawTrends},
-    {"Alarms", "Alarms", &PumpStationScreens::drawAlarms},
-    {"Settings", "Settings", &PumpStationScreens::drawSettings},
+    {"Overview", &PumpStationScreens::drawOverview},
+    {"Trends", &PumpStationScreens::drawTrends},
+    {"Alarms", &PumpStationScreens::drawAlarms},
+    {"Settings", &PumpStationScreens::drawSettings},
 };
 
 QString utf8(const char *text)
@@ -105,8 +106,8 @@ PumpStation::PumpStation()
 std::unique_ptr<Project> PumpStation::build()
 {
     m_builder.setModel(u"VTR 70-CE"_s);
-    for (const QString &image : {u"logo.svg"_s, u"pump.png"_s, u"gauge.png"_s, u"trend.png"_s, u"start.png"_s,
-                                 u"stop.png"_s, u"plus.png"_s, u"minus.png"_s}) {
+    for (const QString &image :
+         {u"logo.svg"_s, u"pump.png"_s, u"gauge.png"_s, u"trend.png"_s, u"plus.png"_s, u"minus.png"_s}) {
         m_builder.addImage(image);
     }
     addVariables();
@@ -148,12 +149,12 @@ void PumpStation::addSavedSettings()
     m_builder.set(saved, "typeOfObject", u"Rectangle"_s);
     m_builder.set(saved, "value",
                   m_builder.expression(GeneralDataList::GeneralExpression,
-                                       u"Settings.remoteBox.color Settings.automaticBox.color"));
+                                       u"Overview.topBar.color Settings.topBar.color"));
 }
 
 void PumpStation::drawScreens()
 {
-    // Screens come before their contents, since the bars lead to all of them.
+    // Screens come before their contents, since their frames lead from one to the other.
     QList<Screen *> made;
     for (const auto &screen : screens) {
         made.append(m_builder.addScreen(utf8(screen.name)));
@@ -161,7 +162,7 @@ void PumpStation::drawScreens()
     }
     for (size_t i = 0; i < std::size(screens); ++i) {
         PanelScreen screen(m_builder, made.at(qsizetype(i)));
-        PumpStationScreens::drawBars(screen, screens[i].title, screens[i].name);
+        PumpStationScreens::drawFrame(screen, screens[i].name);
         screens[i].draw(screen);
     }
 }

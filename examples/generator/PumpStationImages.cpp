@@ -31,14 +31,14 @@ QFont font(int pixels, bool isBold)
 
 void drawPump(QPainter &painter, const QRectF &area)
 {
-    painter.setPen(QPen(opaque(faint), 2));
+    painter.setPen(QPen(opaque(faint), 3));
     painter.setBrush(opaque(cardBorder));
     // The foot, the pressure pipe, the casing and the triangle that tells which way it pumps.
-    painter.drawPolygon(QPolygonF{QPointF(20, 48), QPointF(44, 48), QPointF(52, 61), QPointF(12, 61)});
-    painter.drawRect(QRectF(34, 6, 27, 14));
-    painter.drawEllipse(area.center() - QPointF(0, 2), 24, 24);
+    painter.drawPolygon(QPolygonF{QPointF(30, 72), QPointF(66, 72), QPointF(78, 92), QPointF(18, 92)});
+    painter.drawRect(QRectF(51, 9, 40, 21));
+    painter.drawEllipse(area.center() - QPointF(0, 3), 36, 36);
     painter.setBrush(opaque(card));
-    painter.drawPolygon(QPolygonF{QPointF(22, 16), QPointF(52, 30), QPointF(22, 44)});
+    painter.drawPolygon(QPolygonF{QPointF(33, 24), QPointF(78, 45), QPointF(33, 66)});
 }
 
 //! A dial from 0 to 10 bar over 240 degrees, the zero at the lower left.
@@ -78,27 +78,31 @@ void drawGauge(QPainter &painter, const QRectF &area)
     }
 }
 
-//! The axes of the plot; its field begins 48 pixels from the left and 16 from the top.
-void drawTrend(QPainter &painter, const QRectF &)
+//! The axes of the plot on a card; its field begins 64 pixels from the left and 24 from the top.
+void drawTrend(QPainter &painter, const QRectF &area)
 {
-    const QRectF field(48, 16, 488, 240);
+    const QRectF field(64, 24, 680, 300);
     constexpr int steps = 5;
-    painter.fillRect(field, opaque(0xfff4f6f8));
-    painter.setFont(font(12, false));
+    painter.setPen(QPen(opaque(cardBorder), 1));
+    painter.setBrush(opaque(card));
+    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+    painter.setFont(font(14, false));
     for (int i = 0; i <= steps; ++i) {
         const double y = field.bottom() - i * field.height() / steps;
         painter.setPen(QPen(opaque(cardBorder), 1));
         painter.drawLine(QPointF(field.left(), y), QPointF(field.right(), y));
         painter.setPen(opaque(faint));
-        painter.drawText(QRectF(0, y - 9, 42, 18), Qt::AlignRight | Qt::AlignVCenter,
+        painter.drawText(QRectF(0, y - 10, 56, 20), Qt::AlignRight | Qt::AlignVCenter,
                          QString::number(i * 100 / steps) + u" %"_s);
     }
     painter.setPen(QPen(opaque(stopped), 2));
     painter.drawLine(field.bottomLeft(), field.topLeft());
     painter.drawLine(field.bottomLeft(), field.bottomRight());
+    const QRectF legend(field.left(), 344, field.width(), 24);
     painter.setPen(opaque(faint));
-    painter.drawText(QRectF(field.left(), 264, 200, 20), Qt::AlignLeft | Qt::AlignVCenter, u"earlier"_s);
-    painter.drawText(QRectF(field.right() - 200, 264, 200, 20), Qt::AlignRight | Qt::AlignVCenter, u"now"_s);
+    painter.drawText(legend, Qt::AlignLeft | Qt::AlignVCenter, u"earlier"_s);
+    painter.drawText(legend, Qt::AlignRight | Qt::AlignVCenter, u"now"_s);
+    painter.drawText(legend, Qt::AlignCenter, u"level of the well; its maximum in red"_s);
 }
 
 void drawButton(QPainter &painter, const QRectF &area, QRgb color)
@@ -107,27 +111,6 @@ void drawButton(QPainter &painter, const QRectF &area, QRgb color)
     painter.setBrush(opaque(color));
     painter.drawRoundedRect(area, 4, 4);
     painter.setBrush(opaque(onBar));
-}
-
-void drawCaption(QPainter &painter, const QRectF &area, const QString &caption)
-{
-    painter.setFont(font(15, true));
-    painter.setPen(opaque(onBar));
-    painter.drawText(area.adjusted(38, 0, -4, 0), Qt::AlignLeft | Qt::AlignVCenter, caption);
-}
-
-void drawStart(QPainter &painter, const QRectF &area)
-{
-    drawButton(painter, area, running);
-    painter.drawPolygon(QPolygonF{QPointF(14, 12), QPointF(30, 20), QPointF(14, 28)});
-    drawCaption(painter, area, u"START"_s);
-}
-
-void drawStop(QPainter &painter, const QRectF &area)
-{
-    drawButton(painter, area, 0xff5f6f7c);
-    painter.drawRect(QRectF(14, 13, 14, 14));
-    drawCaption(painter, area, u"STOP"_s);
 }
 
 void drawMinus(QPainter &painter, const QRectF &area)
@@ -149,9 +132,8 @@ constexpr struct
     int height;
     void (*draw)(QPainter &painter, const QRectF &area);
 } pictures[] = {
-    {"gauge.png", 176, 176, &drawGauge}, {"minus.png", 64, 48, &drawMinus},  {"plus.png", 64, 48, &drawPlus},
-    {"pump.png", 64, 64, &drawPump},     {"start.png", 104, 40, &drawStart}, {"stop.png", 104, 40, &drawStop},
-    {"trend.png", 544, 296, &drawTrend},
+    {"gauge.png", 176, 176, &drawGauge}, {"minus.png", 64, 48, &drawMinus},   {"plus.png", 64, 48, &drawPlus},
+    {"pump.png", 96, 96, &drawPump},     {"trend.png", 768, 392, &drawTrend},
 };
 
 constexpr char logo[] = R"(<?xml version="1.0" encoding="UTF-8"?>

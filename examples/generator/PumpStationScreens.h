@@ -5,7 +5,7 @@ namespace Halvane::Corvex::Examples {
 
 class PanelScreen;
 
-//! The contents of the pump station's screens, between the bars at the top and at the bottom.
+//! The contents of the pump station's screens, below the bar at their top.
 namespace PumpStationScreens {
 
 void drawOverview(PanelScreen &screen);
@@ -13,9 +13,9 @@ void drawTrends(PanelScreen &screen);
 void drawAlarms(PanelScreen &screen);
 void drawSettings(PanelScreen &screen);
 
-/*! What all screens have: title and state at the top, the way to the other screens at the bottom, and the
-    rules by which the station runs. */
-void drawBars(PanelScreen &screen, const char *title, const char *screenName);
+/*! What all screens have: the bar with the title and the way to the other screens, and the rules by which the
+    station runs. */
+void drawFrame(PanelScreen &screen, const char *name);
 
 } // namespace PumpStationScreens
 

@@ -8,6 +8,7 @@
 #include "ExampleTest.h"
 #include "PumpStation.h"
 
+#include <QFontMetricsF>
 #include <QQmlComponent>
 #include <QQmlEngine>
 
@@ -71,40 +72,17 @@ TEST_F(PumpStationTest, HoldsAllThatThereIsToShow)
             }
         }
     }
-    for (const char *name : {"NumberVariable",
-                             "StringVariable",
-                             "BooleanVariable",
-                             "ColorVariable",
-                             "AutoSettingVariable",
-                             "MappingVariable",
-                             "LogVariable",
-                             "ImageResource",
-                             "GroupElement",
-                             "FilterElement",
-                             "Text",
-                             "Rectangle",
-                             "Image",
-                             "Button",
-                             "CheckButton",
-                             "NumberSpinner",
-                             "ScreenLoader",
-                             "LogicBuilder",
-                             "PropertyTrigger",
-                             "Action",
-                             "DataLogging",
-                             "ModbusCommands",
-                             "AlarmOutput",
-                             "AnalogInput",
-                             "DigitalInputOutput",
-                             "PwmOutput",
-                             "SerialCOMPort",
-                             "ThermistorInput",
-                             "EthernetPort",
-                             "CANBusDevice"}) {
-        EXPECT_TRUE(classes.contains(QString::fromLatin1(name))) << name;
+    const QString names =
+        u"NumberVariable StringVariable BooleanVariable ColorVariable AutoSettingVariable "
+        "MappingVariable LogVariable ImageResource GroupElement FilterElement Text Rectangle "
+        "Image Button CheckButton NumberSpinner ScreenLoader LogicBuilder PropertyTrigger Action "
+        "DataLogging ModbusCommands AlarmOutput AnalogInput DigitalInputOutput PwmOutput "
+        "SerialCOMPort ThermistorInput EthernetPort CANBusDevice"_s;
+    for (const QString &name : names.split(u' ')) {
+        EXPECT_TRUE(classes.contains(name)) << qPrintable(name);
     }
-    for (const char *id : {"textBinding", "colorBinding", "visibleBinding", "xBinding", "yBinding",
-                           "rotationBinding", "pressed", "condition", "dataValues", "initValue"}) {
+    for (const char *id : {"textBinding", "colorBinding", "visibleBinding", "yBinding", "rotationBinding",
+                           "pressed", "condition", "dataValues", "initValue"}) {
         EXPECT_TRUE(expressions.contains(QString::fromLatin1(id))) << id;
     }
 }
@@ -126,16 +104,34 @@ TEST_F(PumpStationTest, ItsScreensParse)
     }
 }
 
-TEST_F(PumpStationTest, StaysInsideItsScreens)
+//! Everything is on the screen, and each text fits into its place and lies whole on what is behind it.
+TEST_F(PumpStationTest, CanBeRead)
 {
     const std::unique_ptr<Project> project = load(projectFile);
     for (const DesignerObject *item : project->screens()->listItems()) {
         const auto *screen = kindCast<Screen>(item);
         const QRectF area(QPointF(), ValueConversion::toSize(screen->size()->valueString()));
         EXPECT_EQ(area.size(), QSizeF(800, 480));
+        QList<const VisualElement *> visuals;
         for (const DesignerObject *element : screen->elements()->listItems()) {
             if (const auto *visual = kindCast<VisualElement>(element)) {
                 EXPECT_TRUE(area.contains(visual->boundingRect())) << qPrintable(visual->objectPath());
+                visuals.append(visual);
+            }
+        }
+        for (const VisualElement *visual : visuals) {
+            const SharedProperty font = visual->getProperty(u"font");
+            if (!font) {
+                continue;
+            }
+            const QRectF place = visual->boundingRect();
+            const QFontMetricsF metrics(ValueConversion::toFont(font->valueString()));
+            EXPECT_LE(metrics.horizontalAdvance(visual->getProperty(u"text")->valueString()), place.width())
+                << qPrintable(visual->objectPath());
+            for (const VisualElement *other : visuals) {
+                const QRectF behind = other->boundingRect();
+                EXPECT_TRUE(other == visual || behind.contains(place) || !behind.intersects(place))
+                    << qPrintable(visual->objectPath() + u" and "_s + other->objectPath());
             }
         }
     }
