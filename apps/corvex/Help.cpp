@@ -80,7 +80,7 @@ void Help::printVerbs(Terminal &terminal)
     terminal.print(u"corvex VERB [OPTIONS] ARGUMENTS: create, check, inspect and build projects"_s);
     terminal.print({});
     for (const Verb *verb : allVerbs()) {
-        terminal.print(u"  %1  %2"_s.arg(QString::fromLatin1(verb->name).leftJustified(6),
+        terminal.print(u"  %1  %2"_s.arg(QString::fromLatin1(verb->name).leftJustified(11),
                                          QLatin1StringView(verb->summary)));
     }
     terminal.print({});

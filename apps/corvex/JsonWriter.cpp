@@ -3,6 +3,9 @@
 
 #include "Terminal.h"
 
+#include <charconv>
+#include <cmath>
+
 namespace Halvane::Corvex::Tool {
 
 namespace {
@@ -46,6 +49,35 @@ void JsonWriter::value(bool truth)
 {
     startValue();
     m_text.append(truth ? "true" : "false");
+}
+
+template<class Real>
+void JsonWriter::writeReal(Real number)
+{
+    if (!std::isfinite(number)) {
+        value(std::isnan(number) ? u"NaN" : number < 0 ? u"-Infinity" : u"Infinity");
+        return;
+    }
+    startValue();
+    char digits[32];
+    const auto [end, problem] = std::to_chars(std::begin(digits), std::end(digits), number);
+    m_text.append(digits, end - digits);
+}
+
+void JsonWriter::value(double number)
+{
+    writeReal(number);
+}
+
+void JsonWriter::value(float number)
+{
+    writeReal(number);
+}
+
+void JsonWriter::nothing()
+{
+    startValue();
+    m_text.append("null");
 }
 
 void JsonWriter::member(QLatin1StringView memberName, const QStringList &texts)

@@ -33,6 +33,10 @@ public:
     void value(QStringView text);
     void value(qint64 number);
     void value(bool truth);
+    //! In the fewest digits that give the number back; NaN and the infinities, which JSON has not, as text.
+    void value(double number);
+    void value(float number);
+    void nothing();
 
     template<class Value>
     void member(QLatin1StringView memberName, const Value &memberValue)
@@ -47,6 +51,8 @@ private:
     void end(char bracket);
     void startValue();
     void startLine();
+    template<class Real>
+    void writeReal(Real number);
     void appendQuoted(QStringView text);
     void flush(qsizetype limit);
 

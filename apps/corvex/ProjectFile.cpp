@@ -70,9 +70,9 @@ std::unique_ptr<Project> ProjectFile::create()
     return std::unique_ptr<Project>(static_cast<Project *>(object));
 }
 
-bool ProjectFile::open(const Call &call)
+bool ProjectFile::open(const Call &call, qsizetype argument)
 {
-    m_path = call.argument(0);
+    m_path = call.argument(argument);
     if (Installation::loadFactory(call) != ExitCode::Done) {
         return false;
     }

@@ -26,9 +26,9 @@ public:
     ~ProjectFile();
     Q_DISABLE_COPY_MOVE(ProjectFile)
 
-    //! Opens the file that is the call's first argument, with all plug-ins. False once the user has been
-    //! told.
-    bool open(const Call &call);
+    //! Opens the file that is an argument of the call, the first unless told otherwise, with all plug-ins.
+    //! False once the user has been told.
+    bool open(const Call &call, qsizetype argument = 0);
     //! A new project that has no file yet; null without a factory.
     static std::unique_ptr<Designer::Project> create();
 

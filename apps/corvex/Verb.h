@@ -30,6 +30,8 @@ struct Verb
 
 extern const Verb buildVerb;
 extern const Verb checkVerb;
+extern const Verb configDumpVerb;
+extern const Verb exportVerb;
 extern const Verb exprVerb;
 extern const Verb fmtVerb;
 extern const Verb helpVerb;

@@ -156,6 +156,54 @@ constexpr auto propertyRuns = std::to_array<Run>({
           "send-now floor-number device-uuid"_L1},
 });
 
+constexpr auto unitRuns = std::to_array<Run>({
+    {0, "square-meters square-feet milliamperes amperes ohms volts kilovolts megavolts volt-amperes "
+      "kilovolt-amperes"_L1},
+    {10, "megavolt-amperes volt-amperes-reactive kilovolt-amperes-reactive megavolt-amperes-reactive "
+       "degrees-phase power-factor joules kilojoules watt-hours kilowatt-hours"_L1},
+    {20, "btus therms ton-hours joules-per-kilogram-dry-air btus-per-pound-dry-air cycles-per-hour "
+       "cycles-per-minute hertz grams-of-water-per-kilogram-dry-air percent-relative-humidity"_L1},
+    {30, "millimeters meters inches feet watts-per-square-foot watts-per-square-meter lumens luxes "
+       "foot-candles kilograms"_L1},
+    {40, "pounds-mass tons kilograms-per-second kilograms-per-minute kilograms-per-hour "
+       "pounds-mass-per-minute pounds-mass-per-hour watts kilowatts megawatts"_L1},
+    {50, "btus-per-hour horsepower tons-refrigeration pascals kilopascals bars "
+       "pounds-force-per-square-inch centimeters-of-water inches-of-water millimeters-of-mercury"_L1},
+    {60, "centimeters-of-mercury inches-of-mercury degrees-celsius degrees-kelvin degrees-fahrenheit "
+       "degree-days-celsius degree-days-fahrenheit years months weeks"_L1},
+    {70, "days hours minutes seconds meters-per-second kilometers-per-hour feet-per-second "
+       "feet-per-minute miles-per-hour cubic-feet"_L1},
+    {80, "cubic-meters imperial-gallons liters us-gallons cubic-feet-per-minute "
+       "cubic-meters-per-second imperial-gallons-per-minute liters-per-second liters-per-minute "
+       "us-gallons-per-minute"_L1},
+    {90, "degrees-angular degrees-celsius-per-hour degrees-celsius-per-minute "
+       "degrees-fahrenheit-per-hour degrees-fahrenheit-per-minute no-units parts-per-million "
+       "parts-per-billion percent percent-per-second"_L1},
+    {100, "per-minute per-second psi-per-degree-fahrenheit radians revolutions-per-minute currency1 "
+        "currency2 currency3 currency4 currency5"_L1},
+    {110, "currency6 currency7 currency8 currency9 currency10 square-inches square-centimeters "
+        "btus-per-pound centimeters pounds-mass-per-second"_L1},
+    {120, "delta-degrees-fahrenheit delta-degrees-kelvin kilohms megohms millivolts "
+        "kilojoules-per-kilogram megajoules joules-per-degree-kelvin "
+        "joules-per-kilogram-degree-kelvin kilohertz"_L1},
+    {130, "megahertz per-hour milliwatts hectopascals millibars cubic-meters-per-hour liters-per-hour "
+        "kilowatt-hours-per-square-meter kilowatt-hours-per-square-foot megajoules-per-square-meter"_L1},
+    {140, "megajoules-per-square-foot watts-per-square-meter-degree-kelvin cubic-feet-per-second "
+        "percent-obscuration-per-foot percent-obscuration-per-meter milliohms megawatt-hours "
+        "kilo-btus mega-btus kilojoules-per-kilogram-dry-air"_L1},
+    {150, "megajoules-per-kilogram-dry-air kilojoules-per-degree-kelvin megajoules-per-degree-kelvin "
+        "newton grams-per-second grams-per-minute tons-per-hour kilo-btus-per-hour "
+        "hundredths-seconds milliseconds"_L1},
+    {160, "newton-meters millimeters-per-second millimeters-per-minute meters-per-minute "
+        "meters-per-hour cubic-meters-per-minute meters-per-second-per-second amperes-per-meter "
+        "amperes-per-square-meter ampere-square-meters"_L1},
+    {170, "farads henrys ohm-meters siemens siemens-per-meter teslas volts-per-degree-kelvin "
+        "volts-per-meter webers candelas"_L1},
+    {180, "candelas-per-square-meter degrees-kelvin-per-hour degrees-kelvin-per-minute joule-seconds "
+        "radians-per-second square-meters-per-newton kilograms-per-cubic-meter newton-seconds "
+        "newtons-per-meter watts-per-meter-per-degree-kelvin"_L1},
+});
+
 constexpr auto dataTypeRuns = std::to_array<Run>({
     {0, "null boolean unsigned integer real double octet-string character-string bit-string enumerated date time "
         "object-identifier"_L1},
@@ -192,6 +240,12 @@ const QList<Entry> &properties()
 const QList<Entry> &dataTypes()
 {
     static const QList<Entry> entries = entriesOf(dataTypeRuns);
+    return entries;
+}
+
+const QList<Entry> &units()
+{
+    static const QList<Entry> entries = entriesOf(unitRuns);
     return entries;
 }
 

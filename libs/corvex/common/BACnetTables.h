@@ -22,6 +22,9 @@ const QList<Entry> &properties();
 //! Clause 20.2.1.4, the numbers of the application tags.
 const QList<Entry> &dataTypes();
 
+//! Clause 21, BACnetEngineeringUnits, the first 190.
+const QList<Entry> &units();
+
 //! The name as a user reads it: "present-value" as "Present Value", "cov-increment" as "COV Increment".
 QString displayText(const QString &name);
 

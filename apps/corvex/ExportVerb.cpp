@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/FileHelper.h"
+#include "corvex/project/Project.h"
+#include "corvex/variables/exchange/DbcExport.h"
+#include "corvex/variables/exchange/EdeExport.h"
+#include "corvex/variables/exchange/ModbusExport.h"
+#include "corvex/variables/exchange/VariableExport.h"
+
+#include "Call.h"
+#include "JsonWriter.h"
+#include "ProjectFile.h"
+#include "Terminal.h"
+#include "Verb.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+Exported exportBACnet(const ProjectFile &file)
+{
+    return EdeExport::write(file.project(), QFileInfo(file.path()).lastModified().date());
+}
+
+template<class Exporter>
+Exported exportAs(const ProjectFile &file)
+{
+    return Exporter::write(file.project());
+}
+
+constexpr struct
+{
+    const char *name;
+    Exported (*write)(const ProjectFile &file);
+} kinds[] = {
+    {"modbus", exportAs<ModbusExport>},
+    {"bacnet", exportBACnet},
+    {"can", exportAs<DbcExport>},
+    {"variables", exportAs<VariableExport>},
+};
+
+void reportWritten(const QStringList &paths, const Exported &exported, const Call &call)
+{
+    if (!call.asJson()) {
+        for (const QString &path : paths) {
+            call.terminal().print(Terminal::oneLine(path));
+        }
+        return;
+    }
+    JsonWriter json(call.terminal());
+    json.beginObject();
+    json.member("files"_L1, paths);
+    json.member("problems"_L1, exported.problems);
+    json.endObject();
+}
+
+//! Writes all files into a folder, which is made when it is missing.
+bool writeAll(const Exported &exported, const QString &folder, const Call &call)
+{
+    if (!QDir().mkpath(folder)) {
+        call.failed(u"The folder \"%1\" cannot be made."_s.arg(folder));
+        return false;
+    }
+    QStringList paths;
+    for (const Exported::File &file : exported.files) {
+        QString error;
+        paths.append(QDir(folder).filePath(file.name));
+        if (!Common::FileHelper::writeFile(paths.last(), file.bytes, &error)) {
+            call.failed(error);
+            return false;
+        }
+    }
+    reportWritten(paths, exported, call);
+    return true;
+}
+
+ExitCode run(const Call &call)
+{
+    const auto *kind = std::ranges::find_if(
+        kinds, [&](const auto &entry) { return call.argument(0) == QLatin1StringView(entry.name); });
+    if (kind == std::end(kinds)) {
+        return call.misused(
+            u"\"%1\" cannot be exported; there are modbus, bacnet, can, variables."_s.arg(call.argument(0)));
+    }
+    const QString folder = call.value(u"output"_s);
+    if (call.asJson() && folder.isEmpty()) {
+        return call.misused(u"With --json the files have to go somewhere: add -o DIR."_s);
+    }
+    ProjectFile file;
+    if (!file.open(call, 1)) {
+        return ExitCode::File;
+    }
+    const Exported exported = kind->write(file);
+    for (const QString &problem : exported.problems) {
+        call.terminal().printError(Terminal::oneLine(problem));
+    }
+    if (folder.isEmpty()) {
+        call.terminal().write(exported.files.constFirst().bytes);
+    } else if (!writeAll(exported, folder, call)) {
+        return ExitCode::File;
+    }
+    return exported.problems.isEmpty() ? ExitCode::Done : ExitCode::Problems;
+}
+
+QList<QCommandLineOption> options()
+{
+    return {QCommandLineOption({u"o"_s, u"output"_s},
+                               u"Write the files into DIR, replacing those of before."_s, u"DIR"_s)};
+}
+
+} // namespace
+
+const Verb exportVerb{
+    .name = "export",
+    .arguments = "modbus|bacnet|can|variables FILE",
+    .summary = "hand registers, objects, messages or variables to other programs",
+    .details =
+        [] {
+            return u"Prints the Modbus registers or all variables as CSV, the J1939 groups as a DBC file, or "
+                   u"the\n"
+                   "BACnet objects as an EDE table. With -o DIR they become files in DIR, named after the "
+                   "project;\n"
+                   "for BACnet these are the whole set, with the texts of object types, states and units. "
+                   "What is\n"
+                   "not valid is left out and told, and the exit code is 1."_s;
+        },
+    .example = "corvex export modbus examples/PumpStation/PumpStation.kdproj",
+    .fewestArguments = 2,
+    .mostArguments = 2,
+    .opensProjects = true,
+    .options = options,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool

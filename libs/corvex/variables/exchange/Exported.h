@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace Halvane::Corvex::Designer {
+
+//! What a project hands to other programs.
+struct Exported
+{
+    struct File
+    {
+        QString name; //!< a usual name for it
+        QByteArray bytes;
+    };
+
+    QList<File> files;    //!< the chief one first
+    QStringList problems; //!< what could not be told and is left out, for the user
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/variables/exchange/ModbusExport.h"
+
+#include "corvex/core/DesignerObject.h"
+#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/variables/ModbusMap.h"
+#include "corvex/variables/exchange/CsvText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+constexpr struct
+{
+    const char16_t *map;
+    ModbusMap::RegisterKind kind;
+    const char16_t *title;
+    const char16_t *access;
+    int first; //!< the address that is 0 on the wire
+} maps[] = {
+    {u"coilMap", ModbusMap::Coil, u"coil", u"read/write", 1},
+    {u"discreteInputMap", ModbusMap::DiscreteInput, u"discrete input", u"read", 10001},
+    {u"inputRegMap", ModbusMap::InputRegister, u"input register", u"read", 30001},
+    {u"holdingRegMap", ModbusMap::HoldingRegister, u"holding register", u"read/write", 40001},
+    {u"virtualRegMap", ModbusMap::VirtualRegister, u"virtual register", u"read/write", 0},
+    {u"virtualStringMap", ModbusMap::VirtualString, u"virtual string", u"read/write", 0},
+};
+
+QString typeName(GeneralDataInfo::DataType type)
+{
+    switch (type) {
+    case GeneralDataInfo::BooleanData:
+        return u"boolean"_s;
+    case GeneralDataInfo::IntegerData:
+        return u"integer"_s;
+    case GeneralDataInfo::FloatData:
+        return u"float"_s;
+    case GeneralDataInfo::NumberData:
+        return u"number"_s;
+    case GeneralDataInfo::StringData:
+        return u"string"_s;
+    case GeneralDataInfo::ColorData:
+        return u"color"_s;
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+Exported ModbusExport::write(const DesignerObject &project)
+{
+    QString table = CsvText::row(
+        {u"map"_s, u"register"_s, u"address"_s, u"wire address"_s, u"access"_s, u"source"_s, u"type"_s});
+    Exported exported;
+    for (const DesignerObject *variable :
+         project.getListItemsInListPropertyOfType(u"variables"_s, u"MappingVariable"_s)) {
+        for (const auto &[id, kind, title, access, first] : maps) {
+            ModbusMap map(kind);
+            QString error;
+            const SharedProperty terms = variable->getProperty(id);
+            if (!map.read(static_cast<const GeneralDataListProperty &>(*terms).value(), error)) {
+                exported.problems.append(u"%1.%2: %3"_s.arg(variable->getIdName(), terms->id(), error));
+            }
+            for (const auto &[address, source] : map.entries()) {
+                table += CsvText::row({variable->getIdName(), QString::fromUtf16(title),
+                                       QString::number(address).rightJustified(5, u'0'),
+                                       QString::number(address - first), QString::fromUtf16(access),
+                                       source.value(), typeName(source.dataType())});
+            }
+        }
+    }
+    exported.files.append({project.getIdName() + u"_Modbus.csv"_s, table.toUtf8()});
+    return exported;
+}
+
+} // namespace Halvane::Corvex::Designer

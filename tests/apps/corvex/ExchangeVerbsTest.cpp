@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "Sandbox.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <gmock/gmock.h>
+
+using namespace Halvane::Corvex::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString pump = u"Pump/Pump.kdproj"_s;
+const QString config = u"out/project/config.kdrc"_s;
+
+QByteArray variable(const QByteArray &className, const QByteArray &name, const QByteArray &text,
+                    const QByteArray &property = "value")
+{
+    return Sandbox::object(className, name, Sandbox::value(property, text), "Project");
+}
+
+class ExchangeVerbs : public testing::Test
+{
+protected:
+    ExchangeVerbs()
+    {
+        sandbox.makeProject(
+            Sandbox::object("Text", "title", Sandbox::value("text", "Pump")),
+            variable("NumberVariable", "level", "62.0") + variable("NumberVariable", "speed", "x")
+                + variable("StringVariable", "who", "a \"b\"\nc")
+                + variable("MappingVariable", "map", "<02049c41><0406level>", "holdingRegMap"));
+    }
+
+    Sandbox sandbox;
+};
+
+} // namespace
+
+TEST_F(ExchangeVerbs, configDumpShowsWhatABuildHolds)
+{
+    ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
+    const ProgramRun text = sandbox.run({u"config-dump"_s, config});
+    EXPECT_EQ(text.code, 0);
+    EXPECT_THAT(text.out.toStdString(),
+                testing::StartsWith("comControlPassword: \"\"\ndefaultScreen: \"qml_Main\"\n"));
+    EXPECT_THAT(text.out.toStdString(), testing::HasSubstr("\nvariables:\n"
+                                                           "  level:\n"
+                                                           "    persistent: false\n"
+                                                           "    type: 3\n"
+                                                           "    value: 62.0\n"
+                                                           "  speed:\n"
+                                                           "    persistent: false\n"
+                                                           "    type: 2\n"
+                                                           "    value: (none)\n"
+                                                           "  who:\n"
+                                                           "    persistent: false\n"
+                                                           "    type: 4\n"
+                                                           "    value: \"a \\\"b\\\"\\nc\"\n"));
+    EXPECT_EQ(sandbox.run({u"config-dump"_s, u"out/project/canConfig.kdrc"_s}).out,
+              u"canIdInfo: (empty)\npgnInfo: (empty)\n"_s);
+    const QJsonValue variables = sandbox.run({u"config-dump"_s, config, u"--json"_s}).json()[u"variables"_s];
+    EXPECT_EQ(variables[u"level"_s][u"value"_s], QJsonValue(62.0));
+    EXPECT_TRUE(variables[u"speed"_s][u"value"_s].isNull());
+    EXPECT_EQ(variables[u"who"_s][u"value"_s], QJsonValue(u"a \"b\"\nc"_s));
+}
+
+TEST_F(ExchangeVerbs, configDumpTellsWhatItCannotRead)
+{
+    ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
+    const QByteArray bytes = sandbox.read(config);
+    sandbox.write(u"cut.kdrc"_s, bytes.chopped(1));
+    sandbox.write(u"longer.kdrc"_s, bytes + '\0');
+    for (const QString &bad : {u"cut.kdrc"_s, u"longer.kdrc"_s, pump}) {
+        const ProgramRun run = sandbox.run({u"config-dump"_s, bad});
+        EXPECT_EQ(run.code, 3);
+        EXPECT_EQ(run.out, QString());
+        EXPECT_TRUE(run.error.contains(u"damaged or cut off"_s)) << qPrintable(run.error);
+    }
+    EXPECT_EQ(sandbox.run({u"config-dump"_s, u"out"_s}).code, 3);
+    EXPECT_EQ(sandbox.run({u"config-dump"_s, u"missing.kdrc"_s}).code, 3);
+}
+
+TEST_F(ExchangeVerbs, exportPrintsOrWritesFiles)
+{
+    const QString table = u"map,register,address,wire address,access,source,type\r\n"
+                          "map,holding register,40001,0,read/write,level,number\r\n"_s;
+    const ProgramRun printed = sandbox.run({u"export"_s, u"modbus"_s, pump});
+    EXPECT_EQ(printed.code, 0);
+    EXPECT_EQ(printed.out, table);
+    const ProgramRun written = sandbox.run({u"export"_s, u"modbus"_s, pump, u"-o"_s, u"new/dir"_s});
+    EXPECT_EQ(written.out, u"new/dir/Pump_Modbus.csv\n"_s);
+    EXPECT_EQ(sandbox.read(u"new/dir/Pump_Modbus.csv"_s), table.toUtf8());
+
+    const ProgramRun set = sandbox.run({u"export"_s, u"bacnet"_s, pump, u"-o"_s, u"ede"_s, u"--json"_s});
+    EXPECT_EQ(set.code, 1);
+    EXPECT_EQ(set.json()[u"files"_s].toArray().size(), 4);
+    EXPECT_EQ(set.json()[u"problems"_s].toArray().size(), 1);
+    EXPECT_TRUE(set.error.startsWith(u"There is no local BACnet device"_s)) << qPrintable(set.error);
+    EXPECT_EQ(sandbox.files(u"ede"_s).size(), 4);
+
+    EXPECT_EQ(sandbox.run({u"export"_s, u"profibus"_s, pump}).code, 2);
+    EXPECT_EQ(sandbox.run({u"export"_s, u"can"_s, pump, u"--json"_s}).code, 2);
+    EXPECT_EQ(sandbox.run({u"export"_s, u"can"_s, u"missing.kdproj"_s}).code, 3);
+    EXPECT_EQ(sandbox.run({u"export"_s, u"can"_s, pump, u"-o"_s, pump}).code, 3);
+}
