@@ -35,7 +35,7 @@ QString advice(const QString &path)
                                 : u"Name the .kdproj file of a project."_s;
 }
 
-//! The parser's messages have no full stop.
+//! What the system has to say has no full stop.
 QString sentence(const QString &text)
 {
     return text.endsWith(u'.') ? text : text + u'.';

@@ -37,6 +37,49 @@ bool equals(QStringView text, const char *utf8)
     return *utf8 == 0;
 }
 
+//! As much of a text from a file as a message bears.
+QString excerpt(const XML_Char *utf8)
+{
+    constexpr qsizetype longest = 80;
+    return QString::fromUtf8(QByteArrayView(utf8, qstrnlen(utf8, 4 * longest))).left(longest);
+}
+
+//! Two bytes that no text in UTF-8 begins with and each in UTF-16 does, with a byte order mark or without.
+bool beginsAsUtf16(QByteArrayView bytes)
+{
+    return bytes.startsWith("\xFE\xFF") || bytes.startsWith("\xFF\xFE")
+           || (bytes.size() > 1 && (bytes[0] == '\0') != (bytes[1] == '\0'));
+}
+
+bool isUtf8(const XML_Char *encoding)
+{
+    return !encoding || qstricmp(encoding, "UTF-8") == 0 || qstricmp(encoding, "US-ASCII") == 0;
+}
+
+//! What the parser has to say in the words of someone who opened a file.
+QString parserError(XML_Parser parser)
+{
+    int offset = 0;
+    int size = 0;
+    const char *context = XML_GetInputContext(parser, &offset, &size);
+    const XML_Error code = XML_GetErrorCode(parser);
+    switch (code) {
+    case XML_ERROR_NO_ELEMENTS:
+    case XML_ERROR_UNCLOSED_TOKEN:
+    case XML_ERROR_PARTIAL_CHAR:
+        return u"The text ends before its root element does; it is empty or was cut off."_s;
+    case XML_ERROR_SYNTAX:
+        return u"This is no XML."_s;
+    case XML_ERROR_INVALID_TOKEN:
+        if (context && offset < size && static_cast<unsigned char>(context[offset]) >= 0x80) {
+            return u"The bytes here are not UTF-8, the one encoding that is read."_s;
+        }
+        [[fallthrough]];
+    default:
+        return u"This is no well-formed XML: %1."_s.arg(QString::fromUtf8(XML_ErrorString(code)));
+    }
+}
+
 } // namespace
 
 class ObjectXmlReader::Private
@@ -53,6 +96,7 @@ public:
     static void characters(void *self, const XML_Char *text, int length);
     static void comment(void *self, const XML_Char *text);
     static void instruction(void *self, const XML_Char *, const XML_Char *);
+    static void declaration(void *self, const XML_Char *, const XML_Char *encoding, int);
     static void docType(void *self, const XML_Char *, const XML_Char *, const XML_Char *, int);
 
     QIODevice *device;
@@ -121,14 +165,15 @@ bool ObjectXmlReader::Private::parse()
     XML_SetCharacterDataHandler(parser, characters);
     XML_SetCommentHandler(parser, comment);
     XML_SetProcessingInstructionHandler(parser, instruction);
+    XML_SetXmlDeclHandler(parser, declaration);
     XML_SetStartDoctypeDeclHandler(parser, docType);
 
     QByteArray chunk;
     bool good = true;
     do {
         chunk = device->read(chunkSize);
-        // The parser goes by a byte order mark before it goes by the encoding that it was told.
-        if (chunk.startsWith("\xFE\xFF") || chunk.startsWith("\xFF\xFE")) {
+        // The parser goes by the first bytes before it goes by the encoding that it was told.
+        if (fed == 0 && beginsAsUtf16(chunk)) {
             fail(u"The text is UTF-16; only UTF-8 is read."_s);
         }
         good = error.isEmpty() && feed(chunk, chunk.isEmpty());
@@ -165,7 +210,7 @@ bool ObjectXmlReader::Private::feed(const QByteArray &chunk, bool isLast)
 {
     if (XML_Parse(parser, chunk.constData(), int(chunk.size()), isLast) != XML_STATUS_OK) {
         if (error.isEmpty()) {
-            fail(QString::fromUtf8(XML_ErrorString(XML_GetErrorCode(parser))));
+            fail(parserError(parser));
         }
         return false;
     }
@@ -261,13 +306,13 @@ void ObjectXmlReader::Private::openRoot(const XML_Char *name)
 {
     const QString className = QString::fromUtf8(name);
     if (!createsRoot && className != root->className()) {
-        fail(u"The root element is \"%1\" where \"%2\" is expected."_s.arg(className, root->className()));
+        fail(u"The root element is \"%1\" where \"%2\" is expected."_s.arg(excerpt(name), root->className()));
         return;
     }
     if (createsRoot) {
         root = makeObject(className, nullptr);
         if (!root) {
-            fail(u"No object of the class \"%1\" can be made."_s.arg(className));
+            fail(u"No object of the class \"%1\" can be made."_s.arg(excerpt(name)));
             return;
         }
     }
@@ -280,7 +325,7 @@ void ObjectXmlReader::Private::openInObject(const Frame &frame, const XML_Char *
     if (qstrcmp(name, "Properties") == 0) {
         push(Context::Properties, frame.object);
     } else {
-        skip(u"The element \"%1\" is not known here."_s.arg(QString::fromUtf8(name)));
+        skip(u"The element \"%1\" is not known here."_s.arg(excerpt(name)));
     }
 }
 
@@ -289,7 +334,7 @@ void ObjectXmlReader::Private::openInProperties(Frame &frame, const XML_Char *na
 {
     DesignerObject *object = frame.object;
     if (qstrcmp(name, "Property") != 0) {
-        skip(u"The element \"%1\" is not known here."_s.arg(QString::fromUtf8(name)));
+        skip(u"The element \"%1\" is not known here."_s.arg(excerpt(name)));
         return;
     }
     const XML_Char *id = nullptr;
@@ -300,8 +345,7 @@ void ObjectXmlReader::Private::openInProperties(Frame &frame, const XML_Char *na
         } else if (qstrcmp(attributes[0], "value") == 0) {
             value = attributes[1];
         } else {
-            note(ReadNote::Dropped,
-                 u"The attribute \"%1\" is not known here."_s.arg(QString::fromUtf8(attributes[0])));
+            note(ReadNote::Dropped, u"The attribute \"%1\" is not known here."_s.arg(excerpt(attributes[0])));
         }
     }
     bool isSecond = false;
@@ -311,8 +355,7 @@ void ObjectXmlReader::Private::openInProperties(Frame &frame, const XML_Char *na
         return;
     }
     if (!property || !property->hasFlag(StoredFlag)) {
-        skip(id ? u"The property \"%1\" is not known."_s.arg(QString::fromUtf8(id))
-                : u"A property has no name."_s);
+        skip(id ? u"The property \"%1\" is not known."_s.arg(excerpt(id)) : u"A property has no name."_s);
         return;
     }
     push(Context::Property, object, property);
@@ -363,7 +406,7 @@ void ObjectXmlReader::Private::openInProperty(Frame &frame, const XML_Char *name
     const bool opensList = qstrcmp(name, "List") == 0 && frame.property->isList();
     const bool opensObject = qstrcmp(name, "Object") == 0 && frame.property->isObject();
     if ((!opensList && !opensObject) || frame.isAnswered) {
-        skip(u"The element \"%1\" is not known in the property \"%2\"."_s.arg(QString::fromUtf8(name),
+        skip(u"The element \"%1\" is not known in the property \"%2\"."_s.arg(excerpt(name),
                                                                               frame.property->id()));
         return;
     }
@@ -411,8 +454,9 @@ void ObjectXmlReader::Private::openItem(const Frame &frame, const XML_Char *name
         push(Context::Object, item);
         return;
     }
-    qWarning("loadListPropertyFromXml invalid class name %s", qUtf8Printable(className));
-    note(ReadNote::Kept, u"No plug-in knows the class \"%1\"; the item is kept as it is."_s.arg(className));
+    qWarning("loadListPropertyFromXml invalid class name %s", qUtf8Printable(excerpt(name)));
+    note(ReadNote::Kept,
+         u"No plug-in knows the class \"%1\"; the item is kept as it is."_s.arg(excerpt(name)));
     recorder.start(className);
     recorder.open(name, attributes);
     push(Context::Kept, frame.object, frame.property);
@@ -424,7 +468,7 @@ void ObjectXmlReader::Private::openObjectValue(const Frame &frame, const XML_Cha
     if (DesignerObject *object = makeObject(className, frame.object)) {
         push(Context::Object, object);
     } else {
-        skip(u"No plug-in knows the class \"%1\"."_s.arg(className));
+        skip(u"No plug-in knows the class \"%1\"."_s.arg(excerpt(name)));
     }
 }
 
@@ -541,6 +585,14 @@ void ObjectXmlReader::Private::instruction(void *self, const XML_Char *, const X
     auto *reader = static_cast<Private *>(self);
     if (reader->root) {
         reader->note(ReadNote::Dropped, u"A processing instruction is not kept."_s);
+    }
+}
+
+void ObjectXmlReader::Private::declaration(void *self, const XML_Char *, const XML_Char *encoding, int)
+{
+    if (!isUtf8(encoding)) {
+        static_cast<Private *>(self)->fail(
+            u"The text is declared as %1; only UTF-8 is read."_s.arg(excerpt(encoding)));
     }
 }
 
