@@ -6,6 +6,13 @@
 
 namespace Halvane::Corvex::Designer {
 
+//! An object without a name is saved with its scope and its class, and read again.
+template<>
+struct EmptyForm<IdentifierInfo>
+{
+    static std::optional<IdentifierInfo> parse(const QString &text);
+};
+
 //! The property "id" of every object.
 class IdentifierProperty : public TypedProperty<IdentifierInfo>
 {

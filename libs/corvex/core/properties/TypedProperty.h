@@ -9,6 +9,18 @@
 
 namespace Halvane::Corvex::Designer {
 
+//! The value of a text that the form of its kind refuses and prints all the same.
+template<class Value>
+struct EmptyForm
+{
+    static std::optional<Value> parse(const QString &text)
+    {
+        // The texts of all empty values are this short; longer ones need no second look.
+        const bool isEmpty = text.size() <= 1 && text == TextForm<Value>::print(Value());
+        return isEmpty ? std::optional(Value()) : std::nullopt;
+    }
+};
+
 /*! What all properties that hold a value of the C++ type \a Value have in common: the value, its text by
     TextForm<Value> and its QML by QmlForm<Value>.
 
@@ -90,11 +102,7 @@ private:
             return ok ? std::optional(value) : std::nullopt;
         } else {
             Value value = TextForm<Value>::parse(text, &ok);
-            // The texts of all empty values are this short; longer ones need no second look.
-            if (!ok && text.size() <= 1 && text == TextForm<Value>::print(Value())) {
-                return Value();
-            }
-            return ok ? std::optional(std::move(value)) : std::nullopt;
+            return ok ? std::optional(std::move(value)) : EmptyForm<Value>::parse(text);
         }
     }
 
