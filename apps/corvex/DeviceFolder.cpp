@@ -8,6 +8,11 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
@@ -16,7 +21,34 @@ namespace {
 
 const QString projectFolder = u"project"_s;
 const QString zippedProject = u"Project.kdproj.zip"_s;
+const QString previousFolder = u"previous"_s;
+const QString workshopName = u".corvex-build-"_s; // and some letters
 constexpr QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+
+//! Keeps other builds out of a folder. The system lets go of it when the process ends, however that happens.
+class FolderLock
+{
+public:
+    explicit FolderLock(const QString &folder)
+        : m_file(open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+        // Some file systems know no locks. Whoever builds there has to take turns by himself.
+        , m_isTaken(m_file >= 0 && flock(m_file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+    { }
+    ~FolderLock()
+    {
+        if (m_file >= 0) {
+            close(m_file);
+        }
+    }
+    Q_DISABLE_COPY_MOVE(FolderLock)
+
+    //! Whether another process has it.
+    bool isTaken() const { return m_isTaken; }
+
+private:
+    int m_file;
+    bool m_isTaken;
+};
 
 //! Whether a build makes, or copies, files of that name.
 bool isBuilt(const QString &name)
@@ -76,11 +108,10 @@ bool DeviceFolder::bring(const QString &source, QString *error)
                     "an empty folder."_s.arg(m_path, foreign));
     }
     const QStringList made = missingFolders(m_path);
-    if (QDir().mkpath(m_path) && replace(source, error)) {
-        return true;
-    }
-    if (error->isEmpty()) {
+    if (!QDir().mkpath(m_path)) {
         fail(error, u"The folder \"%1\" cannot be made."_s.arg(m_path));
+    } else if (bringLocked(source, error)) {
+        return true;
     }
     for (const QString &folder : made) {
         QDir().rmdir(folder);
@@ -88,10 +119,35 @@ bool DeviceFolder::bring(const QString &source, QString *error)
     return false;
 }
 
+bool DeviceFolder::bringLocked(const QString &source, QString *error) const
+{
+    const FolderLock lock(m_path);
+    if (lock.isTaken()) {
+        return fail(error,
+                    u"Another build is being brought to \"%1\". Wait until it has finished."_s.arg(m_path));
+    }
+    clearRemains();
+    return replace(source, error);
+}
+
+void DeviceFolder::clearRemains() const
+{
+    for (const QString &name : QDir(m_path).entryList({workshopName + u'*'}, everything)) {
+        const QDir workshop(QDir(m_path).filePath(name));
+        if (!QFileInfo::exists(projectPath())) {
+            QDir().rename(workshop.filePath(previousFolder), projectPath());
+        }
+        Common::FileHelper::removeDirectory(workshop.path());
+    }
+}
+
 QString DeviceFolder::foreignEntry(const QStringList &newFiles) const
 {
-    const QFileInfoList entries = QDir(m_path).entryInfoList(everything);
-    for (const QFileInfo &entry : entries) {
+    QFileInfoList entries = QDir(m_path).entryInfoList(everything);
+    entries.removeIf([](const QFileInfo &entry) {
+        return entry.fileName().startsWith(workshopName) && entry.isDir() && !entry.isSymLink();
+    });
+    for (const QFileInfo &entry : std::as_const(entries)) {
         if (entry.fileName() != projectFolder || !entry.isDir() || entry.isSymLink()) {
             return entry.fileName();
         }
@@ -112,7 +168,7 @@ QString DeviceFolder::foreignEntry(const QStringList &newFiles) const
 bool DeviceFolder::replace(const QString &source, QString *error) const
 {
     // The new files grow beside their place, on the same disk, and are moved there when they are complete.
-    const QTemporaryDir workshop(QDir(m_path).filePath(u".corvex-build-XXXXXX"_s));
+    const QTemporaryDir workshop(QDir(m_path).filePath(workshopName + "XXXXXX"_L1));
     const QDir draft(workshop.filePath(projectFolder));
     if (!workshop.isValid() || !QDir().mkdir(draft.path())) {
         return fail(error,
@@ -121,7 +177,7 @@ bool DeviceFolder::replace(const QString &source, QString *error) const
     if (!copyFiles(QDir(source), draft, error)) {
         return false;
     }
-    const QString previous = workshop.filePath(u"previous"_s);
+    const QString previous = workshop.filePath(previousFolder);
     const bool hasPrevious = QFileInfo::exists(projectPath());
     if (hasPrevious && !QDir().rename(projectPath(), previous)) {
         return fail(error, u"The earlier build \"%1\" cannot be moved."_s.arg(projectPath()));

@@ -11,6 +11,9 @@ namespace Halvane::Corvex::Tool {
     Nothing of the user's is ever replaced. Besides a folder that is missing or empty only that of an earlier
    build is taken: one that holds nothing but "project", and in it nothing but files that a build makes or
    copies, the zipped project among them.
+
+    One build at a time goes to a folder. What a build that was broken off left behind is in nobody's way: the
+    next one clears it away, and puts an earlier build back that had just been moved.
 */
 class DeviceFolder
 {
@@ -27,6 +30,8 @@ public:
 
 private:
     QString foreignEntry(const QStringList &newFiles) const;
+    bool bringLocked(const QString &source, QString *error) const;
+    void clearRemains() const;
     bool replace(const QString &source, QString *error) const;
     bool fail(QString *error, const QString &message) const;
 

@@ -8,7 +8,9 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 using namespace Halvane::Corvex::Test;
@@ -126,6 +128,31 @@ TEST_F(BuildVerb, replacesNothingButEarlierBuilds)
         EXPECT_TRUE(run.error.startsWith(u"corvex: "_s + error)) << run.error.toStdString();
     }
     EXPECT_EQ(sandbox.files(u"."_s), before);
+}
+
+TEST_F(BuildVerb, clearsAwayWhatABrokenOffBuildLeft)
+{
+    ASSERT_EQ(build(u"out"_s).code, 0);
+    sandbox.write(u"out/.corvex-build-a1/project/qml_Main.qml"_s, "half");
+    sandbox.write(u"out/.corvex-build-b2/project/qml_Main.qml"_s, "whole");
+    QDir().rename(sandbox.path(u"out/project"_s), sandbox.path(u"out/.corvex-build-b2/previous"_s));
+    const ProgramRun run = build(u"out"_s);
+    EXPECT_EQ(run.error, QString());
+    EXPECT_EQ(run.code, 0);
+    EXPECT_EQ(sandbox.files(u"out"_s), builtFiles);
+}
+
+TEST_F(BuildVerb, oneAtATimeGoesToAFolder)
+{
+    ASSERT_EQ(build(u"out"_s).code, 0);
+    const int folder = open(qPrintable(sandbox.path(u"out"_s)), O_RDONLY | O_DIRECTORY);
+    ASSERT_EQ(flock(folder, LOCK_EX), 0);
+    const ProgramRun run = build(u"out"_s);
+    close(folder);
+    EXPECT_EQ(run.error,
+              u"corvex: Another build is being brought to \"out\". Wait until it has finished.\n"_s);
+    EXPECT_EQ(run.code, 3);
+    EXPECT_EQ(sandbox.files(u"out"_s), builtFiles);
 }
 
 TEST_F(BuildVerb, refusesProblemsUnlessItIsForced)
