@@ -33,12 +33,12 @@ bool canBeRead(const QString &code)
     return !scriptEngine().evaluate(u"throw null;\n"_s + code).isError();
 }
 
-//! Operators and functions are parts of code; digits of commands stand for no code.
+//! Operators and functions are parts of code; constants of the other kinds of data stand for no code.
 bool isOperand(const Info &term)
 {
-    const bool isDigits = term.dataType() == Info::HexData || term.dataType() == Info::CommandData;
+    const bool isLiteral = term.dataType() >= Info::BooleanData && term.dataType() <= Info::ColorData;
     return term.valueType() == Info::ObjectValue || term.valueType() == Info::VariableValue
-           || (term.valueType() == Info::ConstantValue && !isDigits);
+           || (term.valueType() == Info::ConstantValue && isLiteral);
 }
 
 template<class Kind>
