@@ -35,7 +35,7 @@ void Terminal::write(const QByteArray &utf8)
 
 void Terminal::complain(QStringView message)
 {
-    printError(u"corvex: %1"_s.arg(message));
+    printError(u"corvex: %1"_s.arg(oneLine(message)));
 }
 
 void Terminal::printError(QStringView line)

@@ -23,7 +23,8 @@ public:
     void print(QStringView line);
     //! A part of the result as it stands.
     void write(const QByteArray &utf8);
-    //! A message of the program: what is wrong, where, and what to do.
+    //! A message of the program: what is wrong, where, and what to do. It names files and objects, whose
+    //! names may hold anything, and is kept on one line.
     void complain(QStringView message);
     //! A line to standard error as it stands.
     void printError(QStringView line);

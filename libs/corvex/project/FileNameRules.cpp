@@ -57,6 +57,10 @@ QString FileNameRules::projectNameError(const QString &name)
         return LocalizationHelper::coreString(
             u"The project's name cannot begin with a blank or a full stop."_s);
     }
+    // An identifier drops blanks around it: the file would bear another name than the project.
+    if (name.trimmed() != name) {
+        return LocalizationHelper::coreString(u"The project's name cannot begin or end with a blank."_s);
+    }
     return reservedNameError(name);
 }
 

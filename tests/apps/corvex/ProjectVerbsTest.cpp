@@ -75,6 +75,8 @@ TEST(NewVerb, touchesNothingThatIsThere)
         {QStringList{u"Locked/file/x2"_s} + model, 3, u"Locked/file\" does not exist."_s},
         {QStringList{u"Pump.kdproj"_s} + model, 2, u"corvex new \"Pump\" --model NAME."_s},
         {QStringList{u"a:b"_s} + model, 2, u"\"corvex help new\" tells more."_s},
+        {QStringList{u"a\nb"_s} + model, 2, u"may not be used: \\n \"corvex help new\""_s},
+        {QStringList{u"ab "_s} + model, 2, u"cannot begin or end with a blank."_s},
         {QStringList{QString(249, u'a')} + model, 2,
          u"The project's name cannot have more than 248 characters."_s},
         {{u"Pump"_s}, 2, u"needs a path and a device model"_s},
