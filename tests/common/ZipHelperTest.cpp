@@ -69,6 +69,22 @@ TEST_F(ZipHelperTest, FilesGoUnderTheirNames)
     EXPECT_GT(get(u"z.zip"_s).size(), packed + 9000);
 }
 
+TEST_F(ZipHelperTest, BytesArePackedLikeAFile)
+{
+    QByteArray noise;
+    for (quint32 i = 0, number = 1; i < 100'000; ++i) {
+        noise.append(char((number = number * 1'664'525 + 1'013'904'223) >> 24));
+    }
+    for (const QByteArray &bytes : {QByteArray(), QByteArray(1'000'000, 'z'), noise}) {
+        for (const int level : {0, 9, 10}) {
+            ASSERT_TRUE(ZipHelper::zipWithBytes(bytes, u"ü.txt"_s, path(u"z.zip"_s), u"a comment"_s, level));
+            ASSERT_TRUE(ZipHelper::unzip(path(u"z.zip"_s), path(u"out"_s)));
+            EXPECT_EQ(get(u"out/ü.txt"_s), bytes);
+            EXPECT_TRUE(get(u"z.zip"_s).endsWith("a comment"));
+        }
+    }
+}
+
 TEST_F(ZipHelperTest, FailuresLeaveTheOldArchive)
 {
     put(u"a"_s, "x");

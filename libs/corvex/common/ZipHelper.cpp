@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/ZipHelper.h"
 
+#include "corvex/common/DeflatedBytes.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/SafeFile.h"
 
@@ -21,6 +22,7 @@ namespace {
 constexpr zip_uint16_t entryDate = (1 << 5) | 1;
 constexpr zip_uint32_t regularFileMode = 0100644;
 constexpr int defaultLevel = 6;
+constexpr int highestLevel = 9;
 
 bool fail(QString *error, const QString &path, const QString &problem)
 {
@@ -52,15 +54,72 @@ struct EntryFileDeleter
 };
 using EntryFile = std::unique_ptr<zip_file_t, EntryFileDeleter>;
 
+/*! A file that is deflated when it comes into the archive. libzip takes it as it is, and would need more
+    than twice the time to deflate it itself. */
+class DeflatedSource
+{
+public:
+    explicit DeflatedSource(const DeflatedBytes &bytes)
+        : m_bytes(bytes)
+    { }
+
+    //! This object outlives what it makes.
+    zip_source_t *create(zip_t *archive) { return zip_source_function(archive, &serve, this); }
+
+private:
+    static zip_int64_t serve(void *self, void *data, zip_uint64_t size, zip_source_cmd_t command)
+    {
+        auto &source = *static_cast<DeflatedSource *>(self);
+        switch (command) {
+        case ZIP_SOURCE_SUPPORTS:
+            return ZIP_SOURCE_SUPPORTS_READABLE;
+        case ZIP_SOURCE_OPEN:
+            source.m_rest = source.m_bytes.deflated();
+            return 0;
+        case ZIP_SOURCE_READ:
+            return source.read(static_cast<char *>(data), size);
+        case ZIP_SOURCE_STAT:
+            return source.describe(*static_cast<zip_stat_t *>(data));
+        default:
+            return 0; // nothing to close, to free or to complain of
+        }
+    }
+
+    zip_int64_t read(char *data, zip_uint64_t size)
+    {
+        const qsizetype count = std::min(m_rest.size(), static_cast<qsizetype>(size));
+        std::copy_n(m_rest.data(), count, data);
+        m_rest = m_rest.sliced(count);
+        return count;
+    }
+
+    zip_int64_t describe(zip_stat_t &entry) const
+    {
+        zip_stat_init(&entry);
+        entry.valid = ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_COMP_METHOD | ZIP_STAT_CRC;
+        entry.size = m_bytes.size();
+        entry.comp_size = static_cast<zip_uint64_t>(m_bytes.deflated().size());
+        entry.comp_method = ZIP_CM_DEFLATE;
+        entry.crc = m_bytes.crc();
+        return sizeof(entry);
+    }
+
+    const DeflatedBytes &m_bytes;
+    QByteArrayView m_rest;
+};
+
 struct Entry
 {
     QString path;
     QString name;
+    DeflatedSource *source = nullptr; //!< in place of a file
 };
 
 bool addEntry(zip_t *archive, const Entry &entry, int level)
 {
-    zip_source_t *source = zip_source_file(archive, QFile::encodeName(entry.path).constData(), 0, -1);
+    zip_source_t *source = entry.source
+                               ? entry.source->create(archive)
+                               : zip_source_file(archive, QFile::encodeName(entry.path).constData(), 0, -1);
     if (!source)
         return false;
     const zip_int64_t index =
@@ -277,7 +336,17 @@ bool ZipHelper::zipWithFiles(const QStringList &files, const QString &zipPath, c
             return fail(error, file, LocalizationHelper::coreString(u"The file does not exist."_s));
         entries.append({file, info.fileName()});
     }
-    return pack(entries, zipPath, comment, qBound(0, level, 9), error);
+    return pack(entries, zipPath, comment, qBound(0, level, highestLevel), error);
+}
+
+bool ZipHelper::zipWithBytes(const QByteArray &bytes, const QString &name, const QString &zipPath,
+                             const QString &comment, int level, QString *error)
+{
+    const DeflatedBytes deflated(bytes, qBound(1, level, highestLevel));
+    if (deflated.deflated().isEmpty())
+        return fail(error, zipPath, LocalizationHelper::coreString(u"There is not enough memory."_s));
+    DeflatedSource source(deflated);
+    return pack({{zipPath, name, &source}}, zipPath, comment, highestLevel, error);
 }
 
 bool ZipHelper::zipDirectory(const QString &directory, const QString &zipPath, QString *error)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +17,10 @@ public:
     //! name.
     static bool zipWithFiles(const QStringList &files, const QString &zipPath, const QString &comment,
                              int level, QString *error = nullptr);
+
+    //! Packs bytes as a file of that name, alone in its archive. The level is 1 to 9, as above.
+    static bool zipWithBytes(const QByteArray &bytes, const QString &name, const QString &zipPath,
+                             const QString &comment, int level, QString *error = nullptr);
 
     //! Packs all files below the folder under their paths relative to it, in the order of these. Links are
     //! left out.
