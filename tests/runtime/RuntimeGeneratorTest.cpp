@@ -45,10 +45,15 @@ protected:
         EXPECT_TRUE(project->addListPropertyItem(project->screens(), make(u"Screen"_s, name)));
     }
 
+    static QByteArray bytesOf(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
     QByteArray read(const QString &name) const
     {
-        QFile file(generator.buildFolder() + u"/project/"_s + name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return bytesOf(generator.buildFolder() + u"/project/"_s + name);
     }
 
     QStringList files() const
@@ -87,6 +92,19 @@ TEST_F(RuntimeGeneratorTest, ABuildHoldsScreensProjectAndResources)
         qml.startsWith("import QtQuick 1.1\r\nimport RuntimeObjects 2.0\r\nScreen {\r\n\tid: qml_Main\r\n"));
     EXPECT_EQ(qml.count('\n'), qml.count("\r\n"));
     EXPECT_EQ(DesignerObject::toString(project.get()), before) << "the project keeps its name";
+}
+
+TEST_F(RuntimeGeneratorTest, TheZippedProjectIsWhatIsSavedUnderAnotherName)
+{
+    project->generateRuntimeFiles();
+    const QString folder = project->runtimeGenerator().buildFolder() + u"/project"_s;
+    ASSERT_TRUE(Common::ZipHelper::unzip(folder + u"/Project.kdproj.zip"_s, folder));
+    const std::unique_ptr<DesignerObject> copy(DesignerObject::createCopy(project.get(), false));
+    copy->setIdName(u"Project"_s);
+    const QString saved = resources.filePath(u"saved"_s);
+    ASSERT_TRUE(DesignerObject::saveToFile(copy.get(), saved));
+    EXPECT_EQ(bytesOf(folder + u"/Project.kdproj"_s), bytesOf(saved)) << "an empty version is filled in both";
+    project->runtimeGenerator().removeBuildFolder();
 }
 
 TEST_F(RuntimeGeneratorTest, TwoBuildsAreTheSameBytesInTwoFolders)

@@ -14,6 +14,7 @@ namespace Halvane::Corvex::Designer {
 namespace {
 
 constexpr qsizetype bufferSize = 256 * 1024;
+constexpr int rootPropertyLevel = 2;
 
 } // namespace
 
@@ -129,7 +130,9 @@ void ObjectXmlWriter::writeProperty(const DesignerProperty &property, int level)
     XmlText::appendAttribute(m_buffer, property.id());
     if (!property.isList() && !property.isObject()) {
         m_buffer.append("\" value=\"");
-        XmlText::appendAttribute(m_buffer, property.valueString());
+        const bool replaced = level == rootPropertyLevel && m_rootValues.contains(property.id());
+        XmlText::appendAttribute(m_buffer,
+                                 replaced ? m_rootValues.value(property.id()) : property.valueString());
         m_buffer.append("\"/>");
         endLine();
         return;

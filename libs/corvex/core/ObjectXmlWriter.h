@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 
 class QIODevice;
@@ -24,6 +25,8 @@ public:
     void setHeader(bool header) { m_header = header; }
     //! Whether properties are written that files leave out; they are not unless switched on.
     void setAllProperties(bool all) { m_allProperties = all; }
+    //! What is written as the value of the property \a id of the object itself, in place of its own.
+    void setRootValue(const QString &id, const QString &value) { m_rootValues.insert(id, value); }
 
     /*! False when the device does not take every byte, or, before anything is written, when isComplete() does
        not hold. */
@@ -47,6 +50,7 @@ private:
     QIODevice *m_device;
     QByteArray m_lineEnd;
     QByteArray m_buffer;
+    QHash<QString, QString> m_rootValues;
     QString m_error;
     bool m_header = true;
     bool m_allProperties = false;

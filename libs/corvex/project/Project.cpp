@@ -237,12 +237,15 @@ QString Project::buildVersion()
     return version.isEmpty() ? u"4.0.0"_s : version;
 }
 
+QString Project::newBuildTag() const
+{
+    return Common::TextHelper::encryptString(u"%1-%2"_s.arg(getIdName(), buildVersion()));
+}
+
 void Project::updateBuildVersion()
 {
-    const QString name = getIdName();
-    if (m_version && !name.isEmpty()) {
-        changePropertyValue(m_version,
-                            Common::TextHelper::encryptString(u"%1-%2"_s.arg(name, buildVersion())));
+    if (m_version && !getIdName().isEmpty()) {
+        changePropertyValue(m_version, newBuildTag());
     }
 }
 
@@ -336,6 +339,8 @@ void Project::startAutoSaveTimer()
 void Project::generateRuntimeFiles()
 {
     m_runtimeGenerator.setResourceFolder(imagesPath());
+    const bool needsTag = m_version->valueString().isEmpty() && !getIdName().isEmpty();
+    m_runtimeGenerator.setBuildTag(needsTag ? newBuildTag() : QString());
     m_runtimeGenerator.generate(this);
 }
 

@@ -155,6 +155,7 @@ protected:
     void afterListPropertyChanged() override;
 
 private:
+    QString newBuildTag() const;
     void onConfigurationPropertyChanged(const SharedProperty &property);
     void updateScreenSizes();
     void validateDefaultScreen();

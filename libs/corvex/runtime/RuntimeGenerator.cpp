@@ -5,11 +5,15 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/ZipHelper.h"
 #include "corvex/core/DesignerObject.h"
+#include "corvex/core/ObjectXmlWriter.h"
 #include "corvex/runtime/RuntimeConfiguration.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QUuid>
+
+#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -21,11 +25,26 @@ using Common::LocalizationHelper;
 
 //! Asked of the packer, which takes it as its highest.
 constexpr int compressionLevel = 10;
+const QString packedName = u"Project.kdproj"_s;
 
 //! Names of objects become names of files, and those stay where they belong.
 bool isPlainFileName(const QString &name)
 {
     return !name.contains(u'/') && !name.contains(u'\\') && !name.contains(QChar::Null);
+}
+
+QByteArray withWindowsLineEnds(QByteArrayView text)
+{
+    QByteArray result;
+    result.reserve(text.size() + text.size() / 16);
+    for (qsizetype from = 0, to = 0; from < text.size(); from = to + 1) {
+        to = text.indexOf('\n', from);
+        if (to < 0) {
+            return result.append(text.sliced(from));
+        }
+        result.append(text.sliced(from, to - from)).append("\r\n");
+    }
+    return result;
 }
 
 } // namespace
@@ -34,8 +53,7 @@ bool RuntimeGenerator::generate(const DesignerObject *project)
 {
     m_error.clear();
     m_buildFolder.clear();
-    const bool done = makeBuildFolder() && writeZippedProject(project) && writeConfiguration(project)
-                      && writeScreens(project) && copyResources();
+    const bool done = makeBuildFolder() && writeProject(project) && copyResources();
     if (!done) {
         removeBuildFolder();
     }
@@ -82,25 +100,41 @@ bool RuntimeGenerator::makeBuildFolder()
                        .arg(folder + u"/project"_s));
 }
 
-bool RuntimeGenerator::writeZippedProject(const DesignerObject *project)
+bool RuntimeGenerator::writeProject(const DesignerObject *project)
 {
-    const std::unique_ptr<DesignerObject> copy(DesignerObject::createCopy(project, false));
-    if (!copy) {
-        return fail(
-            LocalizationHelper::coreString(u"The project cannot be copied: it has no configuration."_s));
+    const QByteArray xml = projectXml(project);
+    if (xml.isEmpty()) {
+        return false;
     }
-    copy->setIdName(u"Project"_s);
-    const QString plainFile = filePath(copy->getIdName() + u".kdproj"_s);
-    QString error;
-    if (!DesignerObject::saveToFile(copy.get(), plainFile, &error)) {
-        return fail(error);
+    // Packing takes as long as writing all screens does; the packer gets nothing but the bytes. Without a
+    // second thread it works when it is asked for its result.
+    std::future<QString> packing = std::async(
+        std::launch::async | std::launch::deferred, [xml, path = filePath(packedName + u".zip"_s)] {
+            QString error;
+            Common::ZipHelper::zipWithBytes(xml, packedName, path, {}, compressionLevel, &error);
+            return error;
+        });
+    const bool written = writeConfiguration(project) && writeScreens(project);
+    const QString error = packing.get();
+    return error.isEmpty() ? written : fail(error);
+}
+
+QByteArray RuntimeGenerator::projectXml(const DesignerObject *project)
+{
+    IdentifierInfo id = project->getIdInfo();
+    id.setName(u"Project"_s);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    ObjectXmlWriter writer(&buffer, ObjectXmlWriter::LineEnd::Windows);
+    writer.setRootValue(project->idProperty()->id(), id.toString());
+    if (!m_buildTag.isEmpty()) {
+        writer.setRootValue(u"version"_s, m_buildTag);
     }
-    if (!Common::ZipHelper::zipWithFiles({plainFile}, plainFile + u".zip"_s, QString(), compressionLevel,
-                                         &error)) {
-        return fail(error);
+    if (!writer.write(project)) {
+        fail(writer.errorString());
+        return {};
     }
-    return QFile::remove(plainFile)
-           || fail(LocalizationHelper::coreString(u"\"%1\" cannot be removed."_s).arg(plainFile));
+    return buffer.data();
 }
 
 bool RuntimeGenerator::writeConfiguration(const DesignerObject *project)
@@ -125,12 +159,17 @@ bool RuntimeGenerator::writeScreens(const DesignerObject *project)
             return fail(
                 LocalizationHelper::coreString(u"Two screens would be written to \"%1\"."_s).arg(name));
         }
-        const QByteArray qml = screen->toQml(0).replace(u'\n', u"\r\n"_s).toUtf8();
+        const QString qml = screen->toQml(0);
+        const QByteArray bytes = withWindowsLineEnds(qml.toUtf8());
         QFile file(filePath(name));
-        const bool written = file.open(QIODevice::WriteOnly) && file.write(qml) == qml.size() && file.flush();
+        const bool written =
+            file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
         if (!written) {
             return fail(LocalizationHelper::coreString(u"\"%1\" cannot be written: %2"_s)
                             .arg(file.fileName(), file.errorString()));
+        }
+        if (m_screenObserver) {
+            m_screenObserver(*screen, qml);
         }
     }
     return true;

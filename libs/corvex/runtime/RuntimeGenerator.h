@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
@@ -18,6 +20,12 @@ public:
     //! The folder whose files are copied beside the screens; none when empty.
     void setResourceFolder(const QString &path) { m_resourceFolder = path; }
     const QString &resourceFolder() const { return m_resourceFolder; }
+    //! What the zipped project has as its version in place of its own; nothing when empty.
+    void setBuildTag(const QString &tag) { m_buildTag = tag; }
+
+    //! Is given each screen with its document when that has been written.
+    using ScreenObserver = std::function<void(const DesignerObject &screen, const QString &qml)>;
+    void setScreenObserver(const ScreenObserver &observer) { m_screenObserver = observer; }
 
     //! Builds \a project, an object with a list "screens". Ends with the first step that fails.
     bool generate(const DesignerObject *project);
@@ -31,7 +39,8 @@ public:
 
 private:
     bool makeBuildFolder();
-    bool writeZippedProject(const DesignerObject *project);
+    bool writeProject(const DesignerObject *project);
+    QByteArray projectXml(const DesignerObject *project);
     bool writeConfiguration(const DesignerObject *project);
     bool writeScreens(const DesignerObject *project);
     bool copyResources();
@@ -39,6 +48,8 @@ private:
     QString filePath(const QString &fileName) const;
 
     QString m_resourceFolder;
+    QString m_buildTag;
+    ScreenObserver m_screenObserver;
     QString m_buildFolder;
     QString m_error;
 };
