@@ -3,6 +3,7 @@
 #include "corvex/runtime/RuntimeGenerator.h"
 
 #include "Call.h"
+#include "CodeCheck.h"
 #include "DeviceFolder.h"
 #include "Installation.h"
 #include "JsonWriter.h"
@@ -39,6 +40,19 @@ bool isAccepted(const QList<Problem> &problems, const ProjectFile &file, const C
     return false;
 }
 
+//! Makes the build and tells, of the code that it holds too, what is wrong with the project.
+QList<Problem> build(ProjectFile &file, const ConfigurationContainer &models)
+{
+    CodeCheck code;
+    RuntimeGenerator &generator = file.project().runtimeGenerator();
+    generator.setScreenObserver(
+        [&code](const DesignerObject &screen, const QString &qml) { code.add(screen, qml); });
+    file.project().generateRuntimeFiles();
+    generator.setScreenObserver({});
+    const bool hasAllScreens = !generator.buildFolder().isEmpty();
+    return hasAllScreens ? ProjectProblems::find(file, models, code) : ProjectProblems::find(file, models);
+}
+
 void report(const QString &folder, const Call &call)
 {
     const QStringList files = QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
@@ -65,15 +79,13 @@ ExitCode run(const Call &call)
     if (!models) {
         return ExitCode::File;
     }
-    call.terminal().showProgress(u"checking %1"_s.arg(file.path()));
-    const QList<Problem> problems = ProjectProblems::find(file, *models);
-    if (!isAccepted(problems, file, call)) {
-        return ExitCode::Problems;
-    }
     call.terminal().showProgress(u"building %1"_s.arg(file.path()));
     RuntimeGenerator &generator = file.project().runtimeGenerator();
     const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
-    file.project().generateRuntimeFiles();
+    const QList<Problem> problems = build(file, *models);
+    if (!isAccepted(problems, file, call)) {
+        return ExitCode::Problems;
+    }
     if (generator.buildFolder().isEmpty()) {
         return call.failed(generator.errorString(), problems.isEmpty() ? ExitCode::File : ExitCode::Problems);
     }

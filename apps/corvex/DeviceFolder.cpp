@@ -60,6 +60,10 @@ bool isBuilt(const QString &name)
 
 bool copyFiles(const QDir &source, const QDir &target, QString *error)
 {
+    if (!QDir().mkdir(target.path())) {
+        *error = u"The folder \"%1\" cannot be made."_s.arg(target.path());
+        return false;
+    }
     for (const QString &name : source.entryList(everything)) {
         const QString from = source.filePath(name);
         const QString to = target.filePath(name);
@@ -170,11 +174,12 @@ bool DeviceFolder::replace(const QString &source, QString *error) const
     // The new files grow beside their place, on the same disk, and are moved there when they are complete.
     const QTemporaryDir workshop(QDir(m_path).filePath(workshopName + "XXXXXX"_L1));
     const QDir draft(workshop.filePath(projectFolder));
-    if (!workshop.isValid() || !QDir().mkdir(draft.path())) {
+    if (!workshop.isValid()) {
         return fail(error,
                     u"The folder \"%1\" cannot be written to: %2"_s.arg(m_path, workshop.errorString()));
     }
-    if (!copyFiles(QDir(source), draft, error)) {
+    // Files of another disk cannot be moved.
+    if (!QDir().rename(source, draft.path()) && !copyFiles(QDir(source), draft, error)) {
         return false;
     }
     const QString previous = workshop.filePath(previousFolder);

@@ -22,8 +22,8 @@ public:
         : m_path(path)
     { }
 
-    /*! Copies the folder \a source, which holds files only, and puts it in the place of "project". False,
-       with everything as it was and a text for the user, when that fails. */
+    /*! Moves the folder \a source, which holds files only, to the place of "project", or a copy of it when it
+       lies on another disk. False, with that place as it was and a text for the user, when that fails. */
     bool bring(const QString &source, QString *error);
     //! "project" in the folder, as the user would write it.
     QString projectPath() const;

@@ -3,10 +3,10 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
-#include "corvex/editors/ExpressionSyntax.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/Project.h"
 
+#include "CodeCheck.h"
 #include "JsonWriter.h"
 #include "ProjectFile.h"
 #include "Terminal.h"
@@ -43,65 +43,20 @@ void findInvalid(const DesignerObject &object, QList<Problem> &problems)
     }
 }
 
-//! The QML of one screen, looked at as a whole: only when something is wrong with it, each object is asked
-//! for its part.
-class CodeCheck
+//! What the project tells of itself.
+QList<Problem> findStated(const ProjectFile &file, const ConfigurationContainer &models)
 {
-public:
-    explicit CodeCheck(QList<Problem> &problems)
-        : m_problems(problems)
-    { }
-
-    void checkScreen(const DesignerObject &screen)
-    {
-        const ExpressionSyntax::Result result = m_syntax.checkDocument(screen.toQml(0));
-        if (!result.valid && !explains(screen.childObjects())) {
-            add(screen, {}, result);
-        }
+    const Project &project = file.project();
+    QList<Problem> problems;
+    for (const ReadNote &note : project.readNotes()) {
+        problems.append({note.place, {}, note.message, note.line, note.column});
     }
-
-private:
-    //! Whether one of the elements has wrong code, which is then among the problems.
-    bool explains(const QList<DesignerObject *> &elements)
-    {
-        bool found = false;
-        for (const DesignerObject *element : elements) {
-            found = checkElement(*element) || found;
-        }
-        return found;
+    if (QString error; !models.match(project.configurationObject(), &error)) {
+        problems.append({project.objectPath(), project.configuration()->id(), error});
     }
-
-    bool checkElement(const DesignerObject &element)
-    {
-        const ExpressionSyntax::Result result = m_syntax.checkDocument(element.toQml(0));
-        if (result.valid) {
-            return false;
-        }
-        bool found = explains(element.childObjects());
-        for (const SharedProperty &property : element.properties()) {
-            const QString member = property->isList() ? QString() : property->toQml(0);
-            const auto ofMember = m_syntax.checkDocument(u"Item {\n%1\n}"_s.arg(member));
-            found = found || !ofMember.valid;
-            // What comes of an invalid value is told already.
-            if (!ofMember.valid && property->isValid()) {
-                add(element, property->id(), ofMember);
-            }
-        }
-        if (!found) {
-            add(element, {}, result);
-        }
-        return true;
-    }
-
-    void add(const DesignerObject &object, const QString &property, const ExpressionSyntax::Result &result)
-    {
-        m_problems.append({object.objectPath(), property,
-                           u"The generated code cannot be read by the device: %1"_s.arg(result.message)});
-    }
-
-    ExpressionSyntax m_syntax;
-    QList<Problem> &m_problems;
-};
+    findInvalid(project, problems);
+    return problems;
+}
 
 } // namespace
 
@@ -115,20 +70,18 @@ QString Problem::toString() const
 
 QList<Problem> ProjectProblems::find(const ProjectFile &file, const ConfigurationContainer &models)
 {
-    const Project &project = file.project();
-    QList<Problem> problems;
-    for (const ReadNote &note : project.readNotes()) {
-        problems.append({note.place, {}, note.message, note.line, note.column});
+    CodeCheck code;
+    for (const DesignerObject *screen : file.project().screens()->listItems()) {
+        code.add(*screen, screen->toQml(0));
     }
-    if (QString error; !models.match(project.configurationObject(), &error)) {
-        problems.append({project.objectPath(), project.configuration()->id(), error});
-    }
-    findInvalid(project, problems);
-    CodeCheck code(problems);
-    for (const DesignerObject *screen : project.screens()->listItems()) {
-        code.checkScreen(*screen);
-    }
-    return problems;
+    return find(file, models, code);
+}
+
+QList<Problem> ProjectProblems::find(const ProjectFile &file, const ConfigurationContainer &models,
+                                     CodeCheck &code)
+{
+    const QList<Problem> stated = findStated(file, models);
+    return stated + code.problems();
 }
 
 void ProjectProblems::printJson(const QList<Problem> &problems, Terminal &terminal)

@@ -10,6 +10,7 @@ class ConfigurationContainer;
 
 namespace Halvane::Corvex::Tool {
 
+class CodeCheck;
 class ProjectFile;
 class Terminal;
 
@@ -33,6 +34,9 @@ public:
     //! What was not taken over from the file, a model that is not among \a models, what is invalid, and
     //! generated code that is none, in this order.
     static QList<Problem> find(const ProjectFile &file, const Designer::ConfigurationContainer &models);
+    //! The same with a check that was given the code of all screens.
+    static QList<Problem> find(const ProjectFile &file, const Designer::ConfigurationContainer &models,
+                               CodeCheck &code);
     static void printJson(const QList<Problem> &problems, Terminal &terminal);
 };
 
