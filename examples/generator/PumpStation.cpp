@@ -112,6 +112,7 @@ std::unique_ptr<Project> PumpStation::build()
     }
     addVariables();
     mapRegisters();
+    addNetworks();
     addSavedSettings();
     drawScreens();
     m_builder.link(&m_builder.project(), "defaultScreen", u"Overview"_s);

@@ -22,6 +22,7 @@ public:
 private:
     void addVariables();
     void mapRegisters();
+    void addNetworks();
     void addSavedSettings();
     void drawScreens();
 

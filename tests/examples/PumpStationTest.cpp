@@ -74,7 +74,8 @@ TEST_F(PumpStationTest, HoldsAllThatThereIsToShow)
     }
     const QString names =
         u"NumberVariable StringVariable BooleanVariable ColorVariable AutoSettingVariable "
-        "MappingVariable LogVariable ImageResource GroupElement FilterElement Text Rectangle "
+        "MappingVariable LogVariable CANVariable BACnetDevice BACnetObject ImageResource GroupElement "
+        "FilterElement Text Rectangle "
         "Image Button CheckButton NumberSpinner ScreenLoader LogicBuilder PropertyTrigger Action "
         "DataLogging ModbusCommands AlarmOutput AnalogInput DigitalInputOutput PwmOutput "
         "SerialCOMPort ThermistorInput EthernetPort CANBusDevice"_s;

@@ -169,7 +169,8 @@ TEST_F(ExportTest, BACnetObjectsAsEde)
             {69, text(u"0"_s)},
             {65, text(u"100"_s)},
             {28, text(u"Level"_s)}});
-    object(u"bPump"_s, u"3,1"_s, {{46, text(u"Off"_s)}, {4, text(u"On"_s)}});
+    add(u"BooleanVariable"_s, u"running"_s, {{u"value"_s, u"true"_s}});
+    object(u"bPump"_s, u"3,1"_s, {{85, variable(u"running"_s)}, {46, text(u"Off"_s)}, {4, text(u"On"_s)}});
     object(u"cPump"_s, u"3,2"_s, {{46, text(u"Off"_s)}, {4, text(u"On"_s)}});
     object(u"dMode"_s, u"19,1"_s, {{110, text(u"Hand|Off|Auto"_s)}, {117, text(u"95"_s)}});
     object(u"eWrong"_s, u"two"_s, {{85, variable(u"level"_s)}});
@@ -183,7 +184,7 @@ TEST_F(ExportTest, BACnetObjectsAsEde)
                            u"AUTHOR_OF_LAST_CHANGE;corvex"_s, u"VERSION_OF_LAYOUT;2.3"_s}));
     EXPECT_EQ(list.sliced(8), QStringList({u"panel;1234;panel;8;1234;;;;;;;;;;;"_s,
                                            u"aLevel;1234;\"P;aLevel\";2;7;Level;62.5;0;100;Y;;;;;98;"_s,
-                                           u"bPump;1234;\"P;bPump\";3;1;;;;;N;;;;1;;"_s,
+                                           u"bPump;1234;\"P;bPump\";3;1;;1;;;N;;;;1;;"_s,
                                            u"cPump;1234;\"P;cPump\";3;2;;;;;N;;;;1;;"_s,
                                            u"dMode;1234;\"P;dMode\";19;1;;;;;Y;;;;2;95;"_s}));
     for (const QString &line : list.sliced(6, 2)) {

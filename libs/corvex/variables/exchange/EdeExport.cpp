@@ -103,7 +103,9 @@ private:
         const DesignerObject *variable = source.valueType() == GeneralDataInfo::VariableValue
                                              ? project.getItemInListProperty(u"variables"_s, source.value())
                                              : nullptr;
-        return variable ? textOf(*variable, u"value") : QString();
+        const QString text = variable ? textOf(*variable, u"value") : QString();
+        // The states of binary objects are numbers.
+        return text == "true"_L1 ? u"1"_s : text == "false"_L1 ? u"0"_s : text;
     }
 
     QMap<int, QString> m_values;
