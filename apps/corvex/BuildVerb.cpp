@@ -41,7 +41,7 @@ bool isAccepted(const QList<Problem> &problems, const ProjectFile &file, const C
 }
 
 //! Makes the build and tells, of the code that it holds too, what is wrong with the project.
-QList<Problem> build(ProjectFile &file, const ConfigurationContainer &models)
+QList<Problem> build(const ProjectFile &file, const ConfigurationContainer &models)
 {
     CodeCheck code;
     RuntimeGenerator &generator = file.project().runtimeGenerator();
@@ -68,14 +68,9 @@ void report(const QString &folder, const Call &call)
     json.endObject();
 }
 
-ExitCode run(const Call &call)
+ExitCode buildAndBring(const Call &call, const ProjectFile &file)
 {
-    const QString path = call.value(u"output"_s);
-    if (path.isEmpty()) {
-        return call.misused(u"The folder for the build is missing: corvex build FILE -o DIR."_s);
-    }
-    ProjectFile file;
-    const ConfigurationContainer *models = file.open(call) ? Installation::loadModels(call) : nullptr;
+    const ConfigurationContainer *models = Installation::loadModels(call);
     if (!models) {
         return ExitCode::File;
     }
@@ -89,13 +84,21 @@ ExitCode run(const Call &call)
     if (generator.buildFolder().isEmpty()) {
         return call.failed(generator.errorString(), problems.isEmpty() ? ExitCode::File : ExitCode::Problems);
     }
-    DeviceFolder folder(path);
+    DeviceFolder folder(call.value(u"output"_s));
     QString error;
     if (!folder.bring(QDir(generator.buildFolder()).filePath(u"project"_s), &error)) {
         return call.failed(error);
     }
     report(folder.projectPath(), call);
     return ExitCode::Done;
+}
+
+ExitCode run(const Call &call)
+{
+    if (call.value(u"output"_s).isEmpty()) {
+        return call.misused(u"The folder for the build is missing: corvex build FILE -o DIR."_s);
+    }
+    return onProject<buildAndBring>(call);
 }
 
 QList<QCommandLineOption> options()
@@ -113,20 +116,14 @@ const Verb buildVerb{
     .summary = "make the folder that goes to the device",
     .details =
         [] {
-            return u"Builds the project and brings the result to DIR, which then holds the folder "
-                   u"\"project\" with\n"
-                   "one QML file for each screen, the images, the zipped project and what the device reads\n"
-                   "about variables and fieldbuses (config.kdrc, canConfig.kdrc, bacConfig.kdrc; \"corvex\n"
-                   "config-dump\" shows them). DIR is made when it is missing. Nothing of yours is replaced: "
-                   "DIR must be new, empty, or hold an earlier build "
-                   "and\n"
-                   "nothing else. A project with problems is not built without --force, and a build that "
-                   "fails\n"
-                   "leaves DIR as it was."_s;
+            return uR"(Builds the project and brings the result to DIR, which then holds the folder "project" with
+one QML file for each screen, the images, the zipped project and what the device reads
+about variables and fieldbuses (config.kdrc, canConfig.kdrc, bacConfig.kdrc; "corvex
+config-dump" shows them). DIR is made when it is missing. Nothing of yours is replaced: DIR
+must be new, empty, or hold an earlier build and nothing else. A project with problems is not
+built without --force, and a build that fails leaves DIR as it was.)"_s;
         },
     .example = "corvex build examples/PumpStation/PumpStation.kdproj -o out/PumpStation",
-    .fewestArguments = 1,
-    .mostArguments = 1,
     .opensProjects = true,
     .options = options,
     .run = run,

@@ -12,11 +12,9 @@ namespace Halvane::Corvex::Tool {
 
 namespace {
 
-ExitCode run(const Call &call)
+ExitCode run(const Call &call, const ProjectFile &file)
 {
-    ProjectFile file;
-    const Designer::ConfigurationContainer *models =
-        file.open(call) ? Installation::loadModels(call) : nullptr;
+    const Designer::ConfigurationContainer *models = Installation::loadModels(call);
     if (!models) {
         return ExitCode::File;
     }
@@ -40,19 +38,14 @@ const Verb checkVerb{
     .summary = "print every problem of a project",
     .details =
         [] {
-            return u"Loads the project, validates everything and prints one line for each problem: the path "
-                   u"of the\n"
-                   "object, the property, and what is wrong. Among them are parts of the file that could not "
-                   "be\n"
-                   "read, with line and column, and generated code that the device could not read. Without\n"
-                   "problems nothing is printed; with any the exit code is 1."_s;
+            return uR"(Loads the project, validates everything and prints one line for each problem: the path of the
+object, the property, and what is wrong. Among them are parts of the file that could not be
+read, with line and column, and generated code that the device could not read. Without
+problems nothing is printed; with any the exit code is 1.)"_s;
         },
     .example = "corvex check examples/PumpStation/PumpStation.kdproj",
-    .fewestArguments = 1,
-    .mostArguments = 1,
     .opensProjects = true,
-    .options = nullptr,
-    .run = run,
+    .run = onProject<run>,
 };
 
 } // namespace Halvane::Corvex::Tool

@@ -193,17 +193,11 @@ const Verb configDumpVerb{
     .summary = "show a configuration file of a build",
     .details =
         [] {
-            return u"Prints what is in one of the files config.kdrc, canConfig.kdrc and bacConfig.kdrc, one "
-                   u"line for\n"
-                   "each entry. Texts stand between quotes, real numbers have a decimal point, and (none) is "
-                   "a\n"
-                   "value that the project does not give. As JSON, (none) is null and colors are texts."_s;
+            return uR"(Prints what is in one of the files config.kdrc, canConfig.kdrc and bacConfig.kdrc, one line for
+each entry. Texts stand between quotes, real numbers have a decimal point, and (none) is a
+value that the project does not give. As JSON, (none) is null and colors are texts.)"_s;
         },
     .example = "corvex config-dump out/PumpStation/project/config.kdrc",
-    .fewestArguments = 1,
-    .mostArguments = 1,
-    .opensProjects = false,
-    .options = nullptr,
     .run = run,
 };
 

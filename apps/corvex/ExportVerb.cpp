@@ -123,13 +123,10 @@ const Verb exportVerb{
     .summary = "hand registers, objects, messages or variables to other programs",
     .details =
         [] {
-            return u"Prints the Modbus registers or all variables as CSV, the J1939 groups as a DBC file, or "
-                   u"the\n"
-                   "BACnet objects as an EDE table. With -o DIR they become files in DIR, named after the "
-                   "project;\n"
-                   "for BACnet these are the whole set, with the texts of object types, states and units. "
-                   "What is\n"
-                   "not valid is left out and told, and the exit code is 1."_s;
+            return uR"(Prints the Modbus registers or all variables as CSV, the J1939 groups as a DBC file, or the
+BACnet objects as an EDE table. With -o DIR they become files in DIR, named after the project;
+for BACnet these are the whole set, with the texts of object types, states and units. What is
+not valid is left out and told, and the exit code is 1.)"_s;
         },
     .example = "corvex export modbus examples/PumpStation/PumpStation.kdproj",
     .fewestArguments = 2,

@@ -144,15 +144,13 @@ const Verb exprVerb{
     .summary = "translate an expression into JavaScript",
     .details =
         [] {
-            return u"Prints the JavaScript that the device gets for the expression TEXT, which is written as "
-                   u"in\n"
-                   "project files. KIND is what the expression is for: %1. An expression that cannot\n"
-                   "be translated, or not into complete JavaScript, gives exit code 1."_s.arg(namesOf(kinds));
+            return uR"(Prints the JavaScript that the device gets for the expression TEXT, which is written as in
+project files. KIND is what the expression is for: %1. An expression that cannot
+be translated, or not into complete JavaScript, gives exit code 1.)"_s.arg(namesOf(kinds));
         },
     .example = "corvex expr math \"<0406speed><0101*><02042>\"",
     .fewestArguments = 2,
     .mostArguments = 2,
-    .opensProjects = false,
     .options = options,
     .run = run,
 };

@@ -69,12 +69,8 @@ void report(const Call &call, const ProjectFile &file, bool isCanonical, qsizety
     }
 }
 
-ExitCode run(const Call &call)
+ExitCode run(const Call &call, const ProjectFile &file)
 {
-    ProjectFile file;
-    if (!file.open(call)) {
-        return ExitCode::File;
-    }
     QString error;
     const QByteArray canonical = canonicalBytes(file.project(), &error);
     if (!error.isEmpty()) {
@@ -116,20 +112,15 @@ const Verb fmtVerb{
     .summary = "write a project file in its canonical form",
     .details =
         [] {
-            return u"Writes the file as the design tool would save it; a file that is so already is not "
-                   u"touched.\n"
-                   "With --check nothing is written, and the exit code is 1 when saving would change a byte. "
-                   "A\n"
-                   "file with parts that this version does not know is not written without --force, since "
-                   "they\n"
-                   "would be lost; elements whose plug-in is missing are kept and lose nothing."_s;
+            return uR"(Writes the file as the design tool would save it; a file that is so already is not touched.
+With --check nothing is written, and the exit code is 1 when saving would change a byte. A
+file with parts that this version does not know is not written without --force, since they
+would be lost; elements whose plug-in is missing are kept and lose nothing.)"_s;
         },
     .example = "corvex fmt --check examples/PumpStation/PumpStation.kdproj",
-    .fewestArguments = 1,
-    .mostArguments = 1,
     .opensProjects = true,
     .options = options,
-    .run = run,
+    .run = onProject<run>,
 };
 
 } // namespace Halvane::Corvex::Tool

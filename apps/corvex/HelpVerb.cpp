@@ -34,12 +34,9 @@ const Verb helpVerb{
     .name = "help",
     .arguments = "[VERB]",
     .summary = "list the verbs, or tell more of one",
-    .details = [] { return u"Lists all verbs, or shows usage, options and an example of one of them."_s; },
+    .details = [] { return uR"(Lists all verbs, or shows usage, options and an example of one of them.)"_s; },
     .example = "corvex help build",
     .fewestArguments = 0,
-    .mostArguments = 1,
-    .opensProjects = false,
-    .options = nullptr,
     .run = run,
 };
 

@@ -162,12 +162,8 @@ void printText(const Info &info, Terminal &terminal)
     printSection(u"not taken over from the file (line:column: object):"_s, info.notes, terminal);
 }
 
-ExitCode run(const Call &call)
+ExitCode run(const Call &call, const ProjectFile &file)
 {
-    ProjectFile file;
-    if (!file.open(call)) {
-        return ExitCode::File;
-    }
     const Info info = collect(file);
     if (call.asJson()) {
         printJson(info, call.terminal());
@@ -185,18 +181,13 @@ const Verb infoVerb{
     .summary = "tell what is in a project",
     .details =
         [] {
-            return u"Tells the project's name and version, the device model, how many objects there are of "
-                   u"each\n"
-                   "class, the images, classes whose plug-in is missing, and what was not taken over from "
-                   "the\n"
-                   "file. The exit code is 0 for every project that can be opened; \"corvex check\" judges it."_s;
+            return uR"(Tells the project's name and version, the device model, how many objects there are of each
+class, the images, classes whose plug-in is missing, and what was not taken over from the
+file. The exit code is 0 for every project that can be opened; "corvex check" judges it.)"_s;
         },
     .example = "corvex info examples/PumpStation/PumpStation.kdproj",
-    .fewestArguments = 1,
-    .mostArguments = 1,
     .opensProjects = true,
-    .options = nullptr,
-    .run = run,
+    .run = onProject<run>,
 };
 
 } // namespace Halvane::Corvex::Tool

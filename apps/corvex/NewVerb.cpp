@@ -156,16 +156,13 @@ const Verb newVerb{
     .summary = "create a project with one screen",
     .details =
         [] {
-            return u"Makes the folder PATH, which gives the project its name, and in it the project's file, "
-                   u"with\n"
-                   "the configuration of the device model and one screen, \"Main\": \"corvex new "
-                   "work/Boiler\"\n"
-                   "makes work/Boiler/Boiler.kdproj and prints this path. The folder above must be there; a\n"
-                   "project that is there already is not touched."_s;
+            return uR"(Makes the folder PATH, which gives the project its name, and in it the project's file, with
+the configuration of the device model and one screen, "Main": "corvex new work/Boiler"
+makes work/Boiler/Boiler.kdproj and prints this path. The folder above must be there; a
+project that is there already is not touched.)"_s;
         },
     .example = "corvex new Boiler --model \"VTR 50-K\"",
     .fewestArguments = 0,
-    .mostArguments = 1,
     .opensProjects = true,
     .options = options,
     .run = run,

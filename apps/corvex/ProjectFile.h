@@ -4,6 +4,8 @@
 #include "corvex/core/ItemList.h"
 #include "corvex/core/ObjectXmlReader.h"
 
+#include "ExitCode.h"
+
 #include <QList>
 #include <QString>
 
@@ -50,5 +52,13 @@ private:
     QString m_path;
     std::unique_ptr<Designer::Project> m_project;
 };
+
+//! A verb's run() that opens the project first.
+template<ExitCode (*run)(const Call &call, const ProjectFile &file)>
+ExitCode onProject(const Call &call)
+{
+    ProjectFile file;
+    return file.open(call) ? run(call, file) : ExitCode::File;
+}
 
 } // namespace Halvane::Corvex::Tool

@@ -3,6 +3,10 @@
 
 #include "corvex/core/DesignerObject.h"
 
+#include "Call.h"
+
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Tool {
 
 using namespace Designer;
@@ -43,6 +47,13 @@ ProjectPlace ProjectPath::find(DesignerObject *project, const QString &path)
 {
     const ProjectPlace place = findBelow(*project, path);
     return !place.object && path == project->getIdName() ? ProjectPlace{project, {}} : place;
+}
+
+ExitCode ProjectPath::notFound(const QString &path, const Call &call)
+{
+    return call.failed(u"There is nothing called \"%1\" in \"%2\". \"corvex tree\" without a path shows all "
+                       "objects, with the path of an object its properties."_s.arg(path, call.argument(0)),
+                       ExitCode::Usage);
 }
 
 } // namespace Halvane::Corvex::Tool

@@ -3,6 +3,8 @@
 
 #include "corvex/core/DesignerProperty.h"
 
+#include "ExitCode.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
@@ -10,6 +12,8 @@ class DesignerObject;
 }
 
 namespace Halvane::Corvex::Tool {
+
+class Call;
 
 //! What a path names: an object, or one of its properties.
 struct ProjectPlace
@@ -28,6 +32,8 @@ class ProjectPath
 {
 public:
     static ProjectPlace find(Designer::DesignerObject *project, const QString &path);
+    //! Tells the user that there is nothing of that path.
+    static ExitCode notFound(const QString &path, const Call &call);
 };
 
 } // namespace Halvane::Corvex::Tool

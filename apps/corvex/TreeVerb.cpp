@@ -187,12 +187,8 @@ void printValue(const DesignerProperty &property, const Call &call)
     json.endObject();
 }
 
-ExitCode run(const Call &call)
+ExitCode run(const Call &call, const ProjectFile &file)
 {
-    ProjectFile file;
-    if (!file.open(call)) {
-        return ExitCode::File;
-    }
     const QString path = call.argument(1);
     if (path.isEmpty()) {
         printObject(file.project(), false, call);
@@ -200,10 +196,7 @@ ExitCode run(const Call &call)
     }
     const auto [object, property] = ProjectPath::find(&file.project(), path);
     if (!object) {
-        return call.failed(
-            u"There is nothing called \"%1\" in \"%2\". \"corvex tree\" without a path shows all "
-            "objects, with the path of an object its properties."_s.arg(path, file.path()),
-            ExitCode::Usage);
+        return ProjectPath::notFound(path, call);
     }
     if (!property) {
         printObject(*object, true, call);
@@ -223,23 +216,17 @@ const Verb treeVerb{
     .summary = "show the objects of a project, one of them, or a value",
     .details =
         [] {
-            return u"Shows the tree of all objects, each with its class and its name. PATH is the names on "
-                   u"the way\n"
-                   "down, joined with \".\", perhaps with the id of a property behind them: \"Main\" shows "
-                   "the screen\n"
-                   "Main, \"Main.pump1\" an element of it with its properties and all below it, and\n"
-                   "\"Main.pump1.position\" prints one value and nothing else. Elements in a group stand "
-                   "below the\n"
-                   "group. Variables and images go by their names, and the id of a list (\"screens\") shows "
-                   "what is\n"
-                   "in it. In JSON each object has \"class\", \"name\", \"properties\" and \"children\"."_s;
+            return uR"(Shows the tree of all objects, each with its class and its name. PATH is the names on the way
+down, joined with ".", perhaps with the id of a property behind them: "Main" shows the screen
+Main, "Main.pump1" an element of it with its properties and all below it, and
+"Main.pump1.position" prints one value and nothing else. Elements in a group stand below the
+group. Variables and images go by their names, and the id of a list ("screens") shows what is
+in it. In JSON each object has "class", "name", "properties" and "children".)"_s;
         },
     .example = "corvex tree examples/PumpStation/PumpStation.kdproj",
-    .fewestArguments = 1,
     .mostArguments = 2,
     .opensProjects = true,
-    .options = nullptr,
-    .run = run,
+    .run = onProject<run>,
 };
 
 } // namespace Halvane::Corvex::Tool

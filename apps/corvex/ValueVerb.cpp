@@ -72,8 +72,6 @@ const Verb valueVerb{
     .example = "corvex value color red",
     .fewestArguments = 2,
     .mostArguments = 2,
-    .opensProjects = false,
-    .options = nullptr,
     .run = run,
 };
 

@@ -20,12 +20,12 @@ struct Verb
     const char *summary;   //!< a few words for the list of verbs
     QString (*details)();  //!< sentences for the page of the verb, lines at most 90 characters long
     const char *example;   //!< a command that works in the folder of the sources
-    int fewestArguments;
-    int mostArguments;
-    bool opensProjects; //!< takes --plugins and --configurations
+    int fewestArguments = 1;
+    int mostArguments = 1;
+    bool opensProjects = false; //!< takes --plugins and --configurations
     //! Beside those that all verbs have; may be null.
-    QList<QCommandLineOption> (*options)();
-    ExitCode (*run)(const Call &call);
+    QList<QCommandLineOption> (*options)() = nullptr;
+    ExitCode (*run)(const Call &call); //!< onProject<> for a verb whose first argument is a project's file
 };
 
 extern const Verb buildVerb;
@@ -38,6 +38,7 @@ extern const Verb helpVerb;
 extern const Verb infoVerb;
 extern const Verb newVerb;
 extern const Verb treeVerb;
+extern const Verb usesVerb;
 extern const Verb valueVerb;
 
 //! In the order in which the list of verbs shows them.

@@ -67,6 +67,7 @@ constexpr struct
     {"coilMap", 1, "pump1Running", Info::BooleanData},
     {"coilMap", 2, "pump2Running", Info::BooleanData},
     {"coilMap", 3, "autoMode", Info::BooleanData},
+    {"coilMap", 4, "remoteControl", Info::BooleanData},
     {"discreteInputMap", 10001, "highLevel", Info::BooleanData},
     {"discreteInputMap", 10002, "pump1Fault", Info::BooleanData},
     {"discreteInputMap", 10003, "pump2Fault", Info::BooleanData},
@@ -75,10 +76,12 @@ constexpr struct
     {"inputRegMap", 30003, "pressure", Info::NumberData},
     {"inputRegMap", 30004, "pump1Hours", Info::NumberData},
     {"inputRegMap", 30005, "pump2Hours", Info::NumberData},
+    {"inputRegMap", 30006, "inflow", Info::NumberData},
     {"holdingRegMap", 40001, "startLevel", Info::NumberData},
     {"holdingRegMap", 40002, "stopLevel", Info::NumberData},
     {"holdingRegMap", 40003, "pumpSpeed", Info::NumberData},
     {"virtualStringMap", 5000, "lastEvent", Info::StringData},
+    {"virtualStringMap", 5001, "valveState", Info::StringData},
 };
 
 constexpr struct

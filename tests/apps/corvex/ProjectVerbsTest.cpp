@@ -151,6 +151,36 @@ TEST(TreeVerb, showsObjectsAndValues)
     EXPECT_THAT(title.out.toStdString(), HasSubstr("\n  text = Pump %1 \"A\"\\n2\n"));
 }
 
+TEST(UsesVerb, tellsWhereAThingIsUsed)
+{
+    const Sandbox sandbox;
+    const auto variable = [](const char *name) {
+        return Sandbox::object("NumberVariable", name, {}, "Project");
+    };
+    sandbox.makeProject(
+        Sandbox::object("Text", "title", Sandbox::value("textBinding", "<0406speed><0101+><0406speed>"))
+            + Sandbox::object("Rectangle", "box", Sandbox::value("xBinding", "0406speedy"))
+            + Sandbox::object("Button", "press", Sandbox::value("visualElement", "objectId: box;")),
+        variable("idle") + variable("speed") + variable("speedy"));
+    const struct
+    {
+        QStringList arguments;
+        QString out;
+    } cases[] = {
+        {{u"speed"_s}, u"Main.title.textBinding\n"_s},
+        {{u"Main.box"_s}, u"Main.press.visualElement\n"_s},
+        {{u"Main.press"_s}, QString()},
+        {{}, u"idle\n"_s},
+        {{u"--json"_s}, u"{\n  \"unused\": [\n    \"idle\"\n  ]\n}\n"_s},
+    };
+    for (const auto &[arguments, out] : cases) {
+        const ProgramRun run = sandbox.run(QStringList{u"uses"_s, pump} + arguments);
+        EXPECT_EQ(run.out, out) << qPrintable(arguments.join(u' '));
+        EXPECT_EQ(run.code, 0) << qPrintable(run.error);
+    }
+    EXPECT_EQ(sandbox.run({u"uses"_s, pump, u"Main.gone"_s}).code, 2);
+}
+
 TEST(TreeVerb, printsJson)
 {
     const Sandbox sandbox;
