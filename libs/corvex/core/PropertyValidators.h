@@ -16,6 +16,8 @@ public:
     /*! The name of a project variable, a screen or an element: format, length, reserved words and everything
        that it must differ from. Tells the first failure. */
     static bool identifierElementValidator(const DesignerProperty *property, QString &error);
+    //! Why the variable, screen or element \a object could not be called \a name; empty when it could.
+    static QString nameError(const DesignerObject *object, const QString &name);
     //! The link of a function element: it names a visual element of the element's screen.
     static bool visualElementValidator(const DesignerProperty *property, QString &error);
     //! The channel of a digital output: no other element of the screen has it.

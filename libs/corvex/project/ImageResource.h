@@ -8,6 +8,8 @@
 
 class QPointF;
 class QSizeF;
+class QUrl;
+class QWidget;
 
 namespace Halvane::Corvex::Designer {
 
@@ -56,6 +58,13 @@ public:
         class, no parent, and belongs to the caller. Null when no plug-in knows the class. */
     static DesignerObject *createImageElement(const QString &name, const QSizeF &size,
                                               const QPointF &position);
+
+    /*! Adds local image files to the project of \a screen, with an element at \a position for each, in one
+        step of the history. A picture that the project has already is used again. Files that are no images,
+        or whose names will not do, are told to the user. False when nothing was added. Defined in the room
+        of the commands. */
+    static bool addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, const QPointF &position,
+                                  QWidget *parentWidget = nullptr);
 
 signals:
     void linkedElementsChanged();

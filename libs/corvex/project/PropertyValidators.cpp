@@ -39,9 +39,9 @@ bool isShortEnough(const DesignerObject *, const QString &name)
     return name.size() <= longest;
 }
 
-bool isUniqueName(const DesignerObject *object, const QString &)
+bool isUniqueName(const DesignerObject *object, const QString &name)
 {
-    return object->getIdInfo().isUnique(object);
+    return IdentifierInfo(name, {}, {}).isUnique(object);
 }
 
 bool isNotReserved(const DesignerObject *, const QString &name)
@@ -51,7 +51,8 @@ bool isNotReserved(const DesignerObject *, const QString &name)
 
 bool isNoOther(const SharedProperty &list, const DesignerObject *object, const QString &name)
 {
-    return list->listItemCount(name) == (list->itemList()->contains(object) ? 1 : 0);
+    const bool isItself = object->getIdName() == name && list->itemList()->contains(object);
+    return list->listItemCount(name) == (isItself ? 1 : 0);
 }
 
 bool isNoScreenOfProject(const DesignerObject *object, const QString &name)
@@ -118,16 +119,11 @@ constexpr NameRule elementRules[] = {
 };
 
 template<size_t count>
-bool passes(const NameRule (&rules)[count], const DesignerObject *object, QString &error)
+const char *brokenRule(const NameRule (&rules)[count], const DesignerObject *object, const QString &name)
 {
-    const QString name = object->getIdName();
     const auto broken = std::find_if(std::begin(rules), std::end(rules),
                                      [&](const NameRule &rule) { return !rule.passes(object, name); });
-    if (broken == std::end(rules)) {
-        return true;
-    }
-    error.append(translated(broken->message));
-    return false;
+    return broken == std::end(rules) ? nullptr : broken->message;
 }
 
 bool isOnlyOneOnChannel(const DesignerProperty *property, const char *message, QString &error)
@@ -152,13 +148,18 @@ bool isOnlyOneOnChannel(const DesignerProperty *property, const char *message, Q
 bool PropertyValidators::identifierElementValidator(const DesignerProperty *property, QString &error)
 {
     const DesignerObject *object = property->parentObject();
-    if (object->isKindOfClass(u"ProjectVariable"_s)) {
-        return passes(variableRules, object, error);
-    }
-    if (object->isKindOfClass(u"Screen"_s)) {
-        return passes(screenRules, object, error);
-    }
-    return passes(elementRules, object, error);
+    const QString reason = nameError(object, object->getIdName());
+    error.append(reason);
+    return reason.isEmpty();
+}
+
+QString PropertyValidators::nameError(const DesignerObject *object, const QString &name)
+{
+    const char *message = object->isKindOfClass(u"ProjectVariable"_s)
+                              ? brokenRule(variableRules, object, name)
+                          : object->isKindOfClass(u"Screen"_s) ? brokenRule(screenRules, object, name)
+                                                               : brokenRule(elementRules, object, name);
+    return message ? translated(message) : QString();
 }
 
 bool PropertyValidators::visualElementValidator(const DesignerProperty *property, QString &error)

@@ -2,6 +2,7 @@
 #include "corvex/editing/commands/ChangeProperty.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/EditStep.h"
 #include "corvex/editing/commands/ReferenceChanges.h"
 #include "corvex/editing/commands/ReferenceForm.h"
 #include "corvex/hardware/Configuration.h"
@@ -161,8 +162,8 @@ bool ChangeProperty::isValid() const
 bool ChangeProperty::set(const QString &value)
 {
     const bool isDone = ValueChange::set(property(), value);
-    if (isDone && m_sortsList && owner()->listProperty()) {
-        owner()->listProperty()->sortList();
+    if (const SharedProperty list = owner()->listProperty(); isDone && m_sortsList && list) {
+        SortListStep::sort(list);
     }
     return isDone;
 }

@@ -2,6 +2,7 @@
 #include "corvex/editing/commands/EditStep.h"
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/core/ItemList.h"
 
 namespace Halvane::Corvex::Designer {
 
@@ -128,13 +129,15 @@ void SwapItemsStep::undo()
 
 bool SortListStep::redo(QString &)
 {
-    m_list->sortList();
+    sort(m_list);
     return true;
 }
 
-void SortListStep::undo()
+void SortListStep::sort(const SharedProperty &list)
 {
-    m_list->sortList();
+    if (list->itemList() && !list->itemList()->isOrdered) {
+        list->sortList();
+    }
 }
 
 } // namespace Halvane::Corvex::Designer

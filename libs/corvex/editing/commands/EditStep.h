@@ -107,7 +107,7 @@ private:
     QPointer<DesignerObject> m_second;
 };
 
-//! Brings a list into its order, both ways.
+//! Brings a list whose items are out of order into its order, both ways.
 class SortListStep : public EditStep
 {
 public:
@@ -117,7 +117,10 @@ public:
 
     bool isPossible() const override { return m_list && m_list->parentObject(); }
     bool redo(QString &error) override;
-    void undo() override;
+    void undo() override { sort(m_list); }
+
+    //! Lists keep themselves in order, so that there is rarely anything to do.
+    static void sort(const SharedProperty &list);
 
 private:
     SharedProperty m_list;

@@ -35,7 +35,7 @@ public:
     //! Whether the command is done at the moment.
     bool isDone() const { return m_isDone; }
     //! Why it cannot be done, for the user; empty when nobody knows.
-    QString errorString() const;
+    virtual QString errorString() const;
     //! All values that the command and its children set, in order, those that follow from others included.
     QList<ValueChange> valueChanges() const;
 

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/AddImage.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/FileStep.h"
+#include "corvex/project/ImageResource.h"
+#include "corvex/project/Project.h"
+#include "corvex/values/ObjectLinkInfo.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+AddImage::AddImage(DesignerObject *image, const QString &filePath, Project *project,
+                   const QList<DesignerObject *> &users, UndoCommand *parent)
+    : ModelCommand(project ? project->imageResources() : SharedProperty(), false, parent)
+{
+    const auto *resource = kindCast<ImageResource>(image);
+    if (!project || !resource || project->imagesPath().isEmpty()) {
+        refuse(Common::LocalizationHelper::coreString(
+            u"There is no image to add, or the project has no folder yet. Save it first."_s));
+        return;
+    }
+    const QString name = image->getIdName();
+    setTitle(u"Add Image Resource \"%1\""_s, name);
+    addStep<PlaceFileStep>(project, name, filePath);
+    if (resource->originalLocation()->valueString().isEmpty()) {
+        addStep<SetValueStep>(ValueChange{resource->originalLocation(), {}, filePath});
+    }
+    addStep<InsertItemStep>(project->imageResources(), image);
+    const QString link = ObjectLinkInfo(name, u"Project"_s, u"ImageResource"_s).toString();
+    for (const DesignerObject *user : users) {
+        addChange(user ? user->getProperty(u"source") : SharedProperty(), link);
+    }
+}
+
+bool AddImage::redoOwn(QString &error)
+{
+    if (!ModelCommand::redoOwn(error)) {
+        return false;
+    }
+    if (m_isSortEnabled) {
+        SortListStep::sort(property());
+    }
+    return true;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/ModelCommand.h"
+
+#include <QMap>
+
+namespace Halvane::Corvex::Designer {
+
+class ImageResource;
+class Screen;
+
+//! Adds pictures and the elements that show them.
+class AddImagesAndElements : public ModelCommand
+{
+public:
+    //! \a images with the file of each.
+    AddImagesAndElements(const QMap<ImageResource *, QString> &images,
+                         const QList<DesignerObject *> &elements, Screen *screen,
+                         UndoCommand *parent = nullptr);
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/ModelCommand.h"
+
+namespace Halvane::Corvex::Designer {
+
+class Project;
+
+class AddScreen : public ModelCommand
+{
+public:
+    //! \a index -1 is the end.
+    AddScreen(DesignerObject *screen, Project *project, qsizetype index, UndoCommand *parent = nullptr);
+};
+
+} // namespace Halvane::Corvex::Designer

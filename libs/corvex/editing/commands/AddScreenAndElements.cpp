@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/AddScreenAndElements.h"
+
+namespace Halvane::Corvex::Designer {
+
+AddScreenAndElements::AddScreenAndElements(DesignerObject *screen, Project *project, qsizetype index,
+                                           UndoCommand *elements, UndoCommand *parent)
+    : AddScreen(screen, project, index, parent)
+    , m_elements(elements)
+{ }
+
+bool AddScreenAndElements::redoOwn(QString &error)
+{
+    if (!AddScreen::redoOwn(error)) {
+        return false;
+    }
+    if (!m_elements) {
+        return true;
+    }
+    m_elements->redo();
+    const auto *model = dynamic_cast<const ModelCommand *>(m_elements.get());
+    if (model && !model->isDone()) {
+        error = model->errorString();
+        AddScreen::undoOwn();
+        return false;
+    }
+    return true;
+}
+
+void AddScreenAndElements::undoOwn()
+{
+    if (m_elements) {
+        m_elements->undo();
+    }
+    AddScreen::undoOwn();
+}
+
+QList<DesignerObject *> AddScreenAndElements::selectedItems()
+{
+    return m_elements ? m_elements->selectedItems() : QList<DesignerObject *>();
+}
+
+void AddScreenAndElements::cleanJunkFiles()
+{
+    AddScreen::cleanJunkFiles();
+    if (m_elements) {
+        m_elements->cleanJunkFiles();
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/ModelCommand.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! Removes a filter from a screen; the elements that it lists stay.
+class DeleteFilter : public ModelCommand
+{
+public:
+    DeleteFilter(const SharedProperty &filters, DesignerObject *filter, bool selected,
+                 UndoCommand *parent = nullptr);
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/FileStep.h"
+
+#include "corvex/common/FileHelper.h"
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/project/ImageResource.h"
+#include "corvex/project/Project.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Common::FileHelper;
+using Common::LocalizationHelper;
+
+bool isThere(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+bool readFile(const QString &path, QByteArray &bytes, QString &error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = LocalizationHelper::coreString(u"The file \"%1\" cannot be read: %2"_s)
+                    .arg(path, file.errorString());
+        return false;
+    }
+    bytes = file.readAll();
+    return true;
+}
+
+bool hasContents(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.size() == bytes.size() && file.open(QIODevice::ReadOnly) && file.readAll() == bytes;
+}
+
+} // namespace
+
+FileStep::FileStep(Project *project, const QString &name)
+    : m_project(project)
+    , m_name(name)
+{ }
+
+QString FileStep::pathOf(const QString &name) const
+{
+    return m_project ? u"%1/%2"_s.arg(m_project->imagesPath(), name) : QString();
+}
+
+bool FileStep::isUsed(const QString &name) const
+{
+    return m_project && m_project->imageResources()->hasListItem(name);
+}
+
+void FileStep::removeUnused(const QString &name) const
+{
+    if (m_project && !m_project->imagesPath().isEmpty() && !isUsed(name)) {
+        QFile::remove(pathOf(name));
+    }
+}
+
+QString FileStep::freeName(const QString &name) const
+{
+    QString free;
+    int number = 1;
+    do {
+        free = u"%1.tmp%2"_s.arg(name, QString::number(number++));
+    } while (isThere(pathOf(free)));
+    return free;
+}
+
+void FileStep::lookAgain(const QString &name) const
+{
+    if (auto *image = kindCast<ImageResource>(m_project->imageResources()->getListItem(name))) {
+        image->updateFileFields();
+    }
+}
+
+PlaceFileStep::~PlaceFileStep()
+{
+    if (!m_isDone) {
+        cleanJunkFiles();
+    }
+}
+
+bool PlaceFileStep::readSource(QByteArray &bytes, QString &error) const
+{
+    bytes = m_bytes;
+    return m_source.isEmpty() || readFile(m_source, bytes, error);
+}
+
+bool PlaceFileStep::redo(QString &error)
+{
+    // What it has once placed is as good as the source, which may be gone by now.
+    if (!m_isMade || !isThere(path())) {
+        QByteArray bytes;
+        if (!readSource(bytes, error)) {
+            return false;
+        }
+        if (isThere(path()) && !hasContents(path(), bytes)) {
+            error = LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(path());
+            return false;
+        }
+        if (!isThere(path())) {
+            QDir().mkpath(project()->imagesPath());
+            if (!FileHelper::writeFile(path(), bytes, &error)) {
+                return false;
+            }
+            m_isMade = true;
+        }
+    }
+    m_isDone = true;
+    return true;
+}
+
+void PlaceFileStep::cleanJunkFiles()
+{
+    if (m_isMade) {
+        removeUnused(name());
+    }
+}
+
+bool RenameFileStep::rename(const QString &from, const QString &to, QString *error)
+{
+    const QString between = freeName(from);
+    const bool isFree = !isThere(pathOf(to)) || from.compare(to, Qt::CaseInsensitive) == 0;
+    if (isFree && QFile::rename(pathOf(from), pathOf(between))) {
+        if (!isThere(pathOf(to)) && QFile::rename(pathOf(between), pathOf(to))) {
+            return true;
+        }
+        QFile::rename(pathOf(between), pathOf(from));
+    }
+    if (error) {
+        *error = isFree
+                     ? LocalizationHelper::coreString(u"The file \"%1\" cannot be renamed to \"%2\"."_s)
+                           .arg(pathOf(from), to)
+                     : LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(pathOf(to));
+    }
+    return false;
+}
+
+ReplaceFileStep::~ReplaceFileStep()
+{
+    // Done and not saved, the spare file holds what the project's file still shows.
+    if (!m_isDone) {
+        cleanJunkFiles();
+    }
+}
+
+bool ReplaceFileStep::exchange()
+{
+    const QString between = freeName(name());
+    const bool hasOld = isThere(path());
+    if ((hasOld && !QFile::rename(path(), pathOf(between)))) {
+        return false;
+    }
+    if (!QFile::rename(pathOf(m_spareName), path())) {
+        if (hasOld) {
+            QFile::rename(pathOf(between), path());
+        }
+        return false;
+    }
+    m_spareName = hasOld ? between : QString();
+    lookAgain(name());
+    return true;
+}
+
+bool ReplaceFileStep::redo(QString &error)
+{
+    if (m_spareName.isEmpty() || !isThere(pathOf(m_spareName))) {
+        QByteArray bytes;
+        const QString spare = freeName(name());
+        if (!readFile(m_source, bytes, error) || !FileHelper::writeFile(pathOf(spare), bytes, &error)) {
+            return false;
+        }
+        m_spareName = spare;
+    }
+    m_isDone = exchange();
+    if (!m_isDone) {
+        error = LocalizationHelper::coreString(u"The file \"%1\" cannot be replaced."_s).arg(path());
+    }
+    return m_isDone;
+}
+
+void ReplaceFileStep::undo()
+{
+    exchange();
+    m_isDone = false;
+}
+
+void ReplaceFileStep::cleanJunkFiles()
+{
+    if (!m_spareName.isEmpty()) {
+        QFile::remove(pathOf(m_spareName));
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

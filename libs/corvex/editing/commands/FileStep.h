@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/EditStep.h"
+
+#include <QPointer>
+
+namespace Halvane::Corvex::Designer {
+
+class Project;
+
+/*! A step that works on a file in the folder of a project's images. Nothing that an undo would need is
+   deleted, and nothing that the file of the project may still refer to: files that are left over go when the
+   project has been saved, or with the step when it was undone and made them itself. */
+class FileStep : public EditStep
+{
+public:
+    FileStep(Project *project, const QString &name);
+
+    bool isPossible() const override { return m_project; }
+
+protected:
+    Project *project() const { return m_project; }
+    const QString &name() const { return m_name; }
+    QString path() const { return pathOf(m_name); }
+    QString pathOf(const QString &name) const;
+    //! Whether an image of the project shows the file of that name.
+    bool isUsed(const QString &name) const;
+    void removeUnused(const QString &name) const;
+    //! A name beside \a name that no file has.
+    QString freeName(const QString &name) const;
+    //! Tells the image of that name to look at its file again.
+    void lookAgain(const QString &name) const;
+
+private:
+    QPointer<Project> m_project;
+    QString m_name;
+};
+
+//! Puts a file into the folder: a copy of another one, or some bytes. A file of the same contents will do;
+//! any other of that name stops it.
+class PlaceFileStep : public FileStep
+{
+public:
+    PlaceFileStep(Project *project, const QString &name, const QString &source)
+        : FileStep(project, name)
+        , m_source(source)
+    { }
+    PlaceFileStep(Project *project, const QString &name, const QByteArray &bytes)
+        : FileStep(project, name)
+        , m_bytes(bytes)
+    { }
+    ~PlaceFileStep() override;
+
+    bool redo(QString &error) override;
+    void undo() override { m_isDone = false; }
+    void cleanJunkFiles() override;
+
+private:
+    bool readSource(QByteArray &bytes, QString &error) const;
+
+    QString m_source;
+    QByteArray m_bytes;
+    bool m_isMade = false; //!< by this step, so that it may be removed again
+    bool m_isDone = false;
+};
+
+//! Leaves the file of an image that goes where it is, until the project has been saved without it.
+class LeaveFileStep : public FileStep
+{
+public:
+    using FileStep::FileStep;
+
+    bool redo(QString &) override { return true; }
+    void undo() override { }
+    void cleanJunkFiles() override { removeUnused(name()); }
+};
+
+//! Renames a file, by way of a third name, so that names that differ in the case of letters alone will do.
+class RenameFileStep : public FileStep
+{
+public:
+    RenameFileStep(Project *project, const QString &oldName, const QString &newName)
+        : FileStep(project, oldName)
+        , m_newName(newName)
+    { }
+
+    bool redo(QString &error) override { return rename(name(), m_newName, &error); }
+    void undo() override { rename(m_newName, name(), nullptr); }
+
+private:
+    bool rename(const QString &from, const QString &to, QString *error);
+
+    QString m_newName;
+};
+
+//! Gives a file other contents, and the old ones back.
+class ReplaceFileStep : public FileStep
+{
+public:
+    ReplaceFileStep(Project *project, const QString &name, const QString &source)
+        : FileStep(project, name)
+        , m_source(source)
+    { }
+    ~ReplaceFileStep() override;
+
+    bool redo(QString &error) override;
+    void undo() override;
+    void cleanJunkFiles() override;
+
+private:
+    bool exchange();
+
+    QString m_source;
+    QString m_spareName; //!< of the file with the contents that are not shown; empty before the first redo
+    bool m_isDone = false;
+};
+
+} // namespace Halvane::Corvex::Designer

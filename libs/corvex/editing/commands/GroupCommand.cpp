@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/GroupCommand.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/ItemList.h"
+#include "corvex/editing/commands/EditStep.h"
+#include "corvex/editing/commands/ElementPlacement.h"
+#include "corvex/editing/commands/GroupIndexes.h"
+#include "corvex/project/GroupElement.h"
+#include "corvex/values/ListInfo.h"
+#include "corvex/values/ValueConversion.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+SharedProperty listOf(const QList<DesignerObject *> &members)
+{
+    return members.isEmpty() || !members.first() ? SharedProperty() : members.first()->listProperty();
+}
+
+//! The members that stand in the list, in its order, each once.
+QList<DesignerObject *> inOrder(const QList<DesignerObject *> &members, const SharedProperty &list)
+{
+    const QSet<DesignerObject *> wanted(members.cbegin(), members.cend());
+    QList<DesignerObject *> found;
+    for (DesignerObject *item : list ? list->listItems() : QList<DesignerObject *>()) {
+        if (wanted.contains(item)) {
+            found.append(item);
+        }
+    }
+    return found.size() == wanted.size() ? found : QList<DesignerObject *>();
+}
+
+} // namespace
+
+GroupCommand::GroupCommand(const SharedProperty &elements, GroupElement *group,
+                           const QList<DesignerObject *> &members, UndoCommand *parent)
+    : ModelCommand(elements, true, parent)
+    , m_group(group)
+{
+    const QList<DesignerObject *> ordered = inOrder(members, elements);
+    m_members = QList<QPointer<DesignerObject>>(ordered.cbegin(), ordered.cend());
+    if (!group || group->listProperty() || m_members.size() < 2) {
+        refuse(Common::LocalizationHelper::coreString(u"At least two elements are required."_s));
+        return;
+    }
+    setTitle(u"Group Elements \"%1\""_s, group->getIdName());
+    setupCommand(elements, group);
+}
+
+GroupCommand::GroupCommand(DesignerObject *group, const QList<DesignerObject *> &members, UndoCommand *parent)
+    : GroupCommand(listOf(members), kindCast<GroupElement>(group), members, parent)
+{ }
+
+void GroupCommand::setupCommand(const SharedProperty &list, GroupElement *group)
+{
+    QRectF bounds;
+    QStringList names;
+    for (const QPointer<DesignerObject> &member : std::as_const(m_members)) {
+        if (kindCast<VisualElement>(member.data())) {
+            bounds |= ElementPlacement::of(member).actualBoundingRect();
+        }
+        names.append(member->getIdName());
+    }
+    const qsizetype top = list->getListItemIndex(m_members.constLast()) - (m_members.size() - 1);
+    for (const QPointer<DesignerObject> &member : std::as_const(m_members)) {
+        addStep<TakeItemStep>(list, member);
+        if (kindCast<VisualElement>(member.data())) {
+            addValueStep(member->getProperty(u"position"),
+                         ValueConversion::toString(ElementPlacement::of(member).position - bounds.topLeft()));
+        }
+        addStep<InsertItemStep>(group->elements(), member);
+    }
+    addValueStep(group->getProperty(u"position"), ValueConversion::toString(bounds.topLeft()));
+    addValueStep(group->indexes(), ListInfo(names).toString());
+    addStep<InsertItemStep>(list, group, top);
+    if (const GroupElement *outer = GroupIndexes::groupOf(list)) {
+        addChange(outer->indexes(),
+                  GroupIndexes::replaced(valueOf(outer->indexes()), names, {group->getIdName()}));
+    }
+}
+
+QList<DesignerObject *> GroupCommand::selectedItems()
+{
+    QList<DesignerObject *> items;
+    if (m_group && m_group->listProperty()) {
+        items.append(m_group);
+        return items;
+    }
+    for (const QPointer<DesignerObject> &member : std::as_const(m_members)) {
+        if (member) {
+            items.append(member);
+        }
+    }
+    return items;
+}
+
+QRectF GroupCommand::actualBoundingRect(const QPointF &position, const QSizeF &size, double rotation,
+                                        const QString &transformOrigin)
+{
+    return ElementPlacement{position, size, rotation, transformOrigin}.actualBoundingRect();
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/ModelCommand.h"
+
+#include <QPointer>
+#include <QRectF>
+
+namespace Halvane::Corvex::Designer {
+
+class GroupElement;
+
+/*! Puts elements of one list into a new group, which takes the place of the topmost of them. What refers to
+   them stays as it is. */
+class GroupCommand : public ModelCommand
+{
+public:
+    //! \a elements is the list of a screen or of another group; \a group is in no model.
+    GroupCommand(const SharedProperty &elements, GroupElement *group, const QList<DesignerObject *> &members,
+                 UndoCommand *parent = nullptr);
+    //! Groups in the list in which the members stand.
+    GroupCommand(DesignerObject *group, const QList<DesignerObject *> &members,
+                 UndoCommand *parent = nullptr);
+
+    //! The group; the members once it is undone.
+    QList<DesignerObject *> selectedItems() override;
+
+    //! What an item covers that is turned by \a rotation degrees about one of the points "TopLeft", "Top",
+    //! "TopRight", "Left", "Right", "BottomLeft", "Bottom" and "BottomRight"; about its centre for any other
+    //! text.
+    static QRectF actualBoundingRect(const QPointF &position, const QSizeF &size, double rotation,
+                                     const QString &transformOrigin);
+
+private:
+    void setupCommand(const SharedProperty &list, GroupElement *group);
+
+    QPointer<DesignerObject> m_group;
+    QList<QPointer<DesignerObject>> m_members;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/MoveObject.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/EditStep.h"
+#include "corvex/editing/commands/GroupIndexes.h"
+#include "corvex/editing/commands/ReferenceChanges.h"
+#include "corvex/project/GroupElement.h"
+#include "corvex/project/Screen.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+const Screen *screenOf(const SharedProperty &list)
+{
+    const auto *screen = kindCast<Screen>(list->parentObject());
+    return screen ? screen : list->parentObject()->screen();
+}
+
+} // namespace
+
+MoveObject::MoveObject(const SharedProperty &from, const SharedProperty &to, DesignerObject *object,
+                       bool selected, UndoCommand *parent)
+    : ModelCommand(from, selected, parent)
+{
+    if (!from || !to || from == to || !to->parentObject() || !to->isList() || !object
+        || object->listProperty() != from) {
+        refuse(
+            Common::LocalizationHelper::coreString(u"There is nothing to move, or no list to move it to."_s));
+        return;
+    }
+    const QString name = object->getIdName();
+    setTitle(u"Move\"%1\" to \"%2\""_s, name, to->parentObject()->getIdName());
+    addStep<TakeItemStep>(from, object);
+    addStep<InsertItemStep>(to, object);
+    const GroupElement *oldGroup = GroupIndexes::groupOf(from);
+    if (screenOf(from) != screenOf(to)) {
+        // Drops it from the indexes of its group too.
+        addChanges(ReferenceChanges::removed({object}, pending()));
+    } else if (oldGroup) {
+        addChanges(ReferenceChanges::ungrouped(oldGroup, ReferenceTarget(object).names(), false, pending()));
+        addChange(oldGroup->indexes(), GroupIndexes::replaced(valueOf(oldGroup->indexes()), {name}, {}));
+    }
+    if (const GroupElement *group = GroupIndexes::groupOf(to)) {
+        addChange(group->indexes(), GroupIndexes::replaced(valueOf(group->indexes()), {}, {name}));
+    }
+    setSelection(selected ? QList<DesignerObject *>{object} : QList<DesignerObject *>());
+}
+
+} // namespace Halvane::Corvex::Designer

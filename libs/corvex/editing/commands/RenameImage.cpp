@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/RenameImage.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/FileStep.h"
+#include "corvex/editing/commands/ReferenceChanges.h"
+#include "corvex/project/FileNameRules.h"
+#include "corvex/project/ImageResource.h"
+#include "corvex/project/Project.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
+
+RenameImage::RenameImage(DesignerObject *image, const QString &newName, UndoCommand *parent)
+    : ModelCommand(image ? image->idProperty() : SharedProperty(), true, parent)
+{
+    if (!kindCast<ImageResource>(image) || !image->project()) {
+        refuse(LocalizationHelper::coreString(u"There is nothing to rename."_s));
+        return;
+    }
+    const QString oldName = image->getIdName();
+    setTitle(u"Rename Image Resource \"%1\""_s, oldName);
+    QString error = FileNameRules::imageNameError(newName);
+    if (error.isEmpty() && newName != oldName && image->project()->imageResources()->hasListItem(newName)) {
+        error = LocalizationHelper::coreString(u"An image resource with name \"%1\" already exists."_s)
+                    .arg(newName);
+    }
+    if (!error.isEmpty() || newName == oldName) {
+        refuse(error);
+        return;
+    }
+    addChanges(ReferenceChanges::renamed(image, newName, pending()));
+    addStep<RenameFileStep>(image->project(), oldName, newName);
+    IdentifierInfo info = image->getIdInfo();
+    info.setName(newName);
+    addValueStep(image->idProperty(), info.toString());
+    addStep<SortListStep>(image->listProperty());
+}
+
+} // namespace Halvane::Corvex::Designer

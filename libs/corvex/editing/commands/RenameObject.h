@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/ModelCommand.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! Gives a screen or a variable another name, which all that refers to it follows. The base of the commands
+//! for each of them.
+class RenameObject : public ModelCommand
+{
+protected:
+    //! Refuses an object that is none of \a className, and a name that it cannot have.
+    RenameObject(DesignerObject *object, const QString &className, const QString &newName,
+                 const QString &title, UndoCommand *parent);
+
+    bool redoOwn(QString &error) override;
+    void undoOwn() override;
+};
+
+} // namespace Halvane::Corvex::Designer

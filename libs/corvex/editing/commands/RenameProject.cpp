@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/RenameProject.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/EditStep.h"
+#include "corvex/project/FileNameRules.h"
+#include "corvex/project/Project.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! The folder and the file; a project without a file has nothing to rename but itself.
+class RenameProjectStep : public EditStep
+{
+public:
+    RenameProjectStep(Project *project, const QString &newName)
+        : m_project(project)
+        , m_oldName(project->getIdName())
+        , m_newName(newName)
+        , m_oldVersion(project->version()->valueString())
+    { }
+
+    bool isPossible() const override { return m_project; }
+    bool redo(QString &error) override
+    {
+        if (!rename(m_oldName, m_newName)) {
+            error = m_project->fileError();
+            return false;
+        }
+        if (!m_oldVersion.isEmpty()) {
+            m_project->updateBuildVersion();
+        }
+        return true;
+    }
+    void undo() override
+    {
+        rename(m_newName, m_oldName);
+        m_project->changePropertyValue(m_project->version(), m_oldVersion);
+    }
+
+private:
+    bool rename(const QString &from, const QString &to)
+    {
+        return (m_project->fullFilePath().isEmpty() || m_project->renameFile(from, to))
+               && m_project->setIdName(to);
+    }
+
+    QPointer<Project> m_project;
+    QString m_oldName;
+    QString m_newName;
+    QString m_oldVersion;
+};
+
+} // namespace
+
+RenameProject::RenameProject(Project *project, const QString &newName, UndoCommand *parent)
+    : ModelCommand(project ? project->idProperty() : SharedProperty(), true, parent)
+{
+    if (!project) {
+        refuse(Common::LocalizationHelper::coreString(u"There is nothing to rename."_s));
+        return;
+    }
+    setTitle(u"Rename Project \"%1\""_s, project->getIdName());
+    const QString error = FileNameRules::projectNameError(newName);
+    if (!error.isEmpty() || newName == project->getIdName()) {
+        refuse(error);
+        return;
+    }
+    addStep<RenameProjectStep>(project, newName);
+}
+
+} // namespace Halvane::Corvex::Designer

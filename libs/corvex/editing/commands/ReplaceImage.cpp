@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/ReplaceImage.h"
+
+#include "corvex/common/FileHelper.h"
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/FileStep.h"
+#include "corvex/editing/commands/ReferenceChanges.h"
+#include "corvex/project/FileNameRules.h"
+#include "corvex/project/ImageResource.h"
+#include "corvex/project/Project.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
+
+ReplaceImage::ReplaceImage(DesignerObject *image, const QString &newFile, const QString &name,
+                           UndoCommand *parent)
+    : ModelCommand(image ? image->listProperty() : SharedProperty(), true, parent)
+{
+    auto *resource = kindCast<ImageResource>(image);
+    Project *project = image ? image->project() : nullptr;
+    if (!resource || !project || project->imagesPath().isEmpty()) {
+        refuse(LocalizationHelper::coreString(u"There is no image to replace."_s));
+        return;
+    }
+    const QString oldName = image->getIdName();
+    setTitle(u"Replace Image Resource \"%1\""_s, oldName);
+    QString error = FileNameRules::imageNameError(name);
+    if (error.isEmpty() && !Common::FileHelper::isValidImage(newFile)) {
+        error = LocalizationHelper::coreString(
+            u"The image is invalid or its extension does not match the image format."_s);
+    }
+    if (error.isEmpty() && name != oldName && project->imageResources()->hasListItem(name)) {
+        error =
+            LocalizationHelper::coreString(u"An image resource with name \"%1\" already exists."_s).arg(name);
+    }
+    if (!error.isEmpty()) {
+        refuse(error);
+        return;
+    }
+    if (name == oldName) {
+        addStep<ReplaceFileStep>(project, name, newFile);
+    } else {
+        addChanges(ReferenceChanges::renamed(image, name, pending()));
+        addStep<PlaceFileStep>(project, name, newFile);
+        addStep<LeaveFileStep>(project, oldName);
+        IdentifierInfo info = image->getIdInfo();
+        info.setName(name);
+        addValueStep(image->idProperty(), info.toString());
+        addStep<SortListStep>(image->listProperty());
+    }
+    addValueStep(resource->originalLocation(), newFile);
+}
+
+} // namespace Halvane::Corvex::Designer

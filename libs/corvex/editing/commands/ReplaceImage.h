@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/ModelCommand.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! Gives a picture other contents and, perhaps, another name, which all that shows it follows. The old file
+//! stays beside until the project has been saved.
+class ReplaceImage : public ModelCommand
+{
+public:
+    ReplaceImage(DesignerObject *image, const QString &newFile, const QString &name,
+                 UndoCommand *parent = nullptr);
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/SwapItems.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/editing/commands/EditStep.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+SwapItems::SwapItems(const SharedProperty &list, DesignerObject *first, DesignerObject *second,
+                     UndoCommand *parent)
+    : ModelCommand(list, true, parent)
+{
+    if (!list || !first || !second || first == second || first->listProperty() != list
+        || second->listProperty() != list) {
+        refuse(Common::LocalizationHelper::coreString(u"These are not two items of one list."_s));
+        return;
+    }
+    setTitle(u"Swap \"%1\" and \"%2\""_s, first->getIdName(), second->getIdName());
+    addStep<SwapItemsStep>(list, first, second);
+    setActiveItem(first);
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/ModelCommand.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! Exchanges two items of a list.
+class SwapItems : public ModelCommand
+{
+public:
+    SwapItems(const SharedProperty &list, DesignerObject *first, DesignerObject *second,
+              UndoCommand *parent = nullptr);
+};
+
+} // namespace Halvane::Corvex::Designer

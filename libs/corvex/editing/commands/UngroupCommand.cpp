@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/UngroupCommand.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/EditStep.h"
+#include "corvex/editing/commands/GroupIndexes.h"
+#include "corvex/editing/commands/ReferenceChanges.h"
+#include "corvex/editing/commands/SplitGroup.h"
+#include "corvex/project/GroupElement.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+UngroupCommand::UngroupCommand(DesignerObject *group, UndoCommand *parent)
+    : ModelCommand(group ? group->listProperty() : SharedProperty(), true, parent)
+{
+    const auto *element = kindCast<GroupElement>(group);
+    const SharedProperty list = property();
+    if (!element || !list) {
+        refuse(Common::LocalizationHelper::coreString(u"There is no group to take apart."_s));
+        return;
+    }
+    const QString name = group->getIdName();
+    setTitle(u"Ungroup \"%1\""_s, name);
+    const GroupElement *outer = GroupIndexes::groupOf(list);
+    const QStringList members = element->elements()->listItemNames();
+    const QStringList below = element->childrenNames();
+    QList<ValueChange> changes =
+        ReferenceChanges::ungrouped(group, QSet<QString>(below.cbegin(), below.cend()), true, pending());
+    if (outer) {
+        // The members take the place of the group in the order of the outer one.
+        changes.removeIf([outer](const ValueChange &change) { return change.property == outer->indexes(); });
+    }
+    addChanges(changes);
+    if (outer) {
+        addChange(outer->indexes(), GroupIndexes::replaced(valueOf(outer->indexes()), {name}, members));
+    }
+    qsizetype index = list->getListItemIndex(group);
+    addStep<TakeItemStep>(list, group);
+    for (DesignerObject *member : element->elements()->listItems()) {
+        addStep<TakeItemStep>(element->elements(), member);
+        for (const ValueChange &change : SplitGroup::placeOutside(member, element)) {
+            addStep<SetValueStep>(change);
+        }
+        addStep<InsertItemStep>(list, member, index++);
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

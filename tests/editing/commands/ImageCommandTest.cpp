@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+// Commands that work on the files of pictures.
+#include "corvex/editing/commands/AddElementsWithResources.h"
+#include "corvex/editing/commands/AddImage.h"
+#include "corvex/editing/commands/AddImageFromData.h"
+#include "corvex/editing/commands/DeleteImage.h"
+#include "corvex/editing/commands/EditingDialogs.h"
+#include "corvex/editing/commands/RenameImage.h"
+#include "corvex/editing/commands/ReplaceImage.h"
+#include "corvex/project/ImageResource.h"
+
+#include "CommandFixture.h"
+
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer::Test {
+
+class ImageCommandTest : public CommandFixture
+{
+protected:
+    QString picture(const QString &name, QColor color, const char *format = nullptr) const
+    {
+        QImage image(6, 4, QImage::Format_RGB32);
+        image.fill(color);
+        EXPECT_TRUE(image.save(folder.filePath(name), format));
+        return folder.filePath(name);
+    }
+    QStringList files() const { return QDir(project->imagesPath()).entryList(QDir::Files, QDir::Name); }
+    QColor shown(const QString &name) const
+    {
+        return QImage(project->imagesPath() + u'/' + name).pixelColor(0, 0);
+    }
+    QString source(const char *name) const
+    {
+        return value(element(name), "source").section(u"objectId: "_s, 1).section(u';', 0, 0);
+    }
+    void showPump()
+    {
+        ASSERT_TRUE(set(element("image1"), "source",
+                        u"filterType: ImageResource; objectId: pump.png; scopeType: Project;"_s));
+    }
+};
+
+TEST_F(ImageCommandTest, AddingCopiesTheFileAndSavingCleansUp)
+{
+    const QString file = picture(u"tank.png"_s, Qt::blue);
+    push(new AddImage(make(u"ImageResource"_s, u"tank.png"_s), file, project.get(), {element("image1")}));
+    EXPECT_EQ(stack().undoText(), u"Add Image Resource \"tank.png\""_s);
+    EXPECT_EQ(source("image1"), u"tank.png"_s);
+    EXPECT_EQ(files(), (QStringList{u"pump.png"_s, u"tank.png"_s}));
+    stack().undo();
+    EXPECT_EQ(source("image1"), QString());
+    // The file it came from is gone, and the picture comes back all the same.
+    QFile::remove(file);
+    stack().redo();
+    EXPECT_EQ(source("image1"), u"tank.png"_s);
+    EXPECT_TRUE(object(u"tank.png"_s)->isValid());
+    stack().undo();
+    ASSERT_TRUE(project->saveFile());
+    EXPECT_EQ(files(), QStringList{u"pump.png"_s});
+
+    auto *missing = new AddImage(make(u"ImageResource"_s, u"gone.png"_s), file, project.get());
+    stack().push(missing);
+    EXPECT_FALSE(missing->isDone());
+    EXPECT_FALSE(missing->errorString().isEmpty());
+    auto *taken =
+        new AddImage(make(u"ImageResource"_s, u"other.png"_s), picture(u"a.png"_s, Qt::green), project.get());
+    writePicture("other.png", Qt::black);
+    stack().push(taken);
+    EXPECT_FALSE(taken->isDone());
+    EXPECT_EQ(shown(u"other.png"_s), QColor(Qt::black));
+}
+
+TEST_F(ImageCommandTest, DeletingLeavesTheFileUntilTheProjectIsSaved)
+{
+    showPump();
+    push(new DeleteImage(object(u"pump.png"_s)));
+    EXPECT_TRUE(stack().isDeleteImage());
+    EXPECT_EQ(source("image1"), QString());
+    EXPECT_EQ(files(), QStringList{u"pump.png"_s});
+    stack().undo();
+    EXPECT_EQ(source("image1"), u"pump.png"_s);
+    EXPECT_TRUE(object(u"pump.png"_s)->isValid());
+    stack().redo();
+    ASSERT_TRUE(project->saveFile());
+    EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(ImageCommandTest, RenamingTakesTheFileAlong)
+{
+    showPump();
+    push(new RenameImage(object(u"pump.png"_s), u"Pump.png"_s));
+    EXPECT_EQ(files(), QStringList{u"Pump.png"_s});
+    EXPECT_EQ(source("image1"), u"Pump.png"_s);
+    EXPECT_TRUE(object(u"Pump.png"_s)->isValid());
+    stack().undo();
+    EXPECT_EQ(files(), QStringList{u"pump.png"_s});
+    EXPECT_FALSE(RenameImage(object(u"pump.png"_s), u"pump.txt"_s).isValid());
+    EXPECT_FALSE(RenameImage(object(u"pump.png"_s), u"aux.png"_s).isValid());
+    // Nothing is written over.
+    writePicture("taken.png", Qt::black);
+    auto *onto = new RenameImage(object(u"pump.png"_s), u"taken.png"_s);
+    stack().push(onto);
+    EXPECT_FALSE(onto->isDone());
+    EXPECT_EQ(shown(u"taken.png"_s), QColor(Qt::black));
+    EXPECT_EQ(source("image1"), u"pump.png"_s);
+}
+
+TEST_F(ImageCommandTest, ReplacingGivesTheOldPictureBack)
+{
+    showPump();
+    const QString file = picture(u"new.png"_s, Qt::blue);
+    push(new ReplaceImage(object(u"pump.png"_s), file, u"pump.png"_s));
+    EXPECT_EQ(shown(u"pump.png"_s), QColor(Qt::blue));
+    stack().undo();
+    EXPECT_EQ(shown(u"pump.png"_s), QColor(Qt::red));
+    QFile::remove(file);
+    stack().redo();
+    EXPECT_EQ(shown(u"pump.png"_s), QColor(Qt::blue));
+    ASSERT_TRUE(project->saveFile());
+    EXPECT_EQ(files(), QStringList{u"pump.png"_s});
+
+    push(new ReplaceImage(object(u"pump.png"_s), picture(u"new.png"_s, Qt::green), u"well.png"_s));
+    EXPECT_EQ(source("image1"), u"well.png"_s);
+    stack().undo();
+    EXPECT_EQ(source("image1"), u"pump.png"_s);
+    EXPECT_EQ(shown(u"pump.png"_s), QColor(Qt::blue));
+    EXPECT_FALSE(ReplaceImage(object(u"pump.png"_s), folder.filePath(u"no.png"_s), u"pump.png"_s).isValid());
+}
+
+TEST_F(ImageCommandTest, PicturesFromMemory)
+{
+    QImage image(6, 4, QImage::Format_RGB32);
+    image.fill(Qt::cyan);
+    push(new AddImageFromData(image, project.get()));
+    EXPECT_EQ(stack().undoText(), u"Add \"Image Resource.png\" to \"Pumps\""_s);
+    AddImageFromData again(image, project.get());
+    EXPECT_FALSE(again.isValid());
+    EXPECT_EQ(again.errorString(),
+              u"The image data is already added to the project as \"Image Resource.png\"."_s);
+    push(new AddImageFromData(image, main, {5, 5}));
+    EXPECT_EQ(source("image2"), u"Image Resource.png"_s);
+    image.fill(Qt::magenta);
+    push(new AddImageFromData(image, main, {5, 5}));
+    EXPECT_EQ(source("image3"), u"Image Resource1.png"_s);
+    EXPECT_EQ(stack().activeItem(), element("image3"));
+    EXPECT_EQ(value(element("image3"), "size"), u"height: 4; width: 6;"_s);
+}
+
+TEST_F(ImageCommandTest, DroppedFiles)
+{
+    struct : EditingDialogs
+    {
+        void warn(QWidget *, const QString &title, const QString &text) override
+        {
+            warnings.append(title + u": "_s + text);
+        }
+        QStringList warnings;
+    } dialogs;
+    EditingDialogs::install(&dialogs);
+    const auto drop = [this](const QStringList &paths) {
+        QList<QUrl> urls{QUrl(u"https://example.org/far.png"_s)};
+        for (const QString &path : paths) {
+            urls.append(QUrl::fromLocalFile(path));
+        }
+        return ImageResource::addImagesFromUrls(urls, main, {1, 2});
+    };
+    picture(u"aux.png"_s, Qt::red);
+    picture(u"pump.png"_s, Qt::blue);
+    picture(u"liar.jpg"_s, Qt::blue, "PNG");
+    EXPECT_TRUE(drop(
+        {folder.filePath(u"pump.png"_s), folder.filePath(u"liar.jpg"_s), folder.filePath(u"aux.png"_s)}));
+    EXPECT_EQ(dialogs.warnings.takeFirst(),
+              u"Add Images: The following images are invalid or their extensions do not match the image "
+              "format: \n    aux.png\n     liar.jpg"_s);
+    EXPECT_EQ(stack().undoText(), u"Add 1 Image"_s);
+    EXPECT_EQ(source("image2"), u"pump1.png"_s);
+    // The same contents again: one more element, no other file.
+    EXPECT_TRUE(drop({folder.filePath(u"pump.png"_s), picture(u"sea.png"_s, Qt::cyan)}));
+    EXPECT_EQ(stack().undoText(), u"Add 2 Images"_s);
+    EXPECT_EQ(source("image3"), u"pump1.png"_s);
+    EXPECT_EQ(source("image4"), u"sea.png"_s);
+    EXPECT_FALSE(drop({folder.filePath(u"liar.jpg"_s)}));
+    EXPECT_EQ(dialogs.warnings.takeFirst(),
+              u"Add Image: The following image is invalid or its extension does not match the image format: "
+              "\n    liar.jpg"_s);
+    EditingDialogs::install(nullptr);
+    stack().setIndex(0);
+    ASSERT_TRUE(project->saveFile());
+    EXPECT_EQ(files(), QStringList{u"pump.png"_s});
+}
+
+TEST_F(ImageCommandTest, ElementsComeWithWhatTheyNeed)
+{
+    const auto image = [&](const QString &name, const QString &file) {
+        DesignerObject *resource = make(u"ImageResource"_s, name);
+        EXPECT_TRUE(set(resource, "originalLocation", file));
+        return resource;
+    };
+    push(new AddElementsWithResources(
+        main, {make(u"Text"_s, u"pasted1"_s), make(u"Text"_s, u"pasted2"_s)},
+        {image(u"pump.png"_s, project->imagesPath() + u"/pump.png"_s),
+         image(u"new.png"_s, picture(u"new.png"_s, Qt::blue))},
+        {make(u"NumberVariable"_s, u"speed"_s), make(u"NumberVariable"_s, u"depth"_s)}, true));
+    EXPECT_EQ(stack().undoText(), u"Add 2 objects to \"Main\""_s);
+    EXPECT_EQ(files(), (QStringList{u"new.png"_s, u"pump.png"_s}));
+    EXPECT_TRUE(variable("depth"));
+
+    // When one part fails, nothing of it stays.
+    const QString before = text();
+    auto *failing = new AddElementsWithResources(main, {make(u"Text"_s, u"pasted3"_s)},
+                                                 {image(u"far.png"_s, folder.filePath(u"far.png"_s))},
+                                                 {make(u"NumberVariable"_s, u"flow"_s)}, true);
+    stack().push(failing);
+    EXPECT_FALSE(failing->isDone());
+    EXPECT_EQ(text(), before);
+    EXPECT_EQ(files(), (QStringList{u"new.png"_s, u"pump.png"_s}));
+}
+
+} // namespace Halvane::Corvex::Designer::Test
