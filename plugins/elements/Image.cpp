@@ -3,6 +3,7 @@
 
 #include "corvex/core/properties/BooleanProperty.h"
 #include "corvex/core/properties/SizeProperty.h"
+#include "corvex/project/ImageResource.h"
 #include "corvex/project/RuntimeTable.h"
 
 #include "elements/Rows.h"
@@ -28,6 +29,36 @@ bool Image::initializeProperties()
             .editor("KeepRatioEditor"),
     };
     return StandardVisual::initializeProperties() && addProperties(table);
+}
+
+void Image::setProject(Project *newProject)
+{
+    StandardVisual::setProject(newProject);
+    showResource();
+}
+
+void Image::afterPropertyChanged(const DesignerProperty *property, const QString &previousValue)
+{
+    StandardVisual::afterPropertyChanged(property, previousValue);
+    if (property->id() == QLatin1StringView("source")) {
+        showResource();
+    }
+}
+
+//! Tells the picture that it names, and the one that it named before.
+void Image::showResource()
+{
+    ImageResource *resource = ImageResource::imageElement(this);
+    if (resource == m_resource) {
+        return;
+    }
+    if (m_resource) {
+        m_resource->unlinkElement(this);
+    }
+    m_resource = resource;
+    if (m_resource) {
+        m_resource->linkElement(this);
+    }
 }
 
 RuntimePropertyList Image::runtimeProperties() const

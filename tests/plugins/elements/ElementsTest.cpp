@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
+#include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/values/PropertyList.h"
@@ -235,6 +236,23 @@ TEST_F(Elements, LogicKeepsItsRulesApart)
     set(logic, "logicExpression", u"x|"_s);
     EXPECT_EQ(logic->getProperty(u"logicExpression")->errorString(),
               u"The condition of rule 1 is incomplete."_s);
+}
+
+TEST_F(Elements, PicturesKnowTheImagesThatShowThem)
+{
+    auto *logo = static_cast<ImageResource *>(make(u"ImageResource"_s, u"logo.png"_s));
+    auto *pump = static_cast<ImageResource *>(make(u"ImageResource"_s, u"pump.png"_s));
+    project->addListPropertyItem(project->imageResources(), logo);
+    project->addListPropertyItem(project->imageResources(), pump);
+    DesignerObject *image = make(u"Image"_s, u"picture"_s);
+    set(image, "source", link(u"logo.png"_s, u"Project"_s, u"ImageResource"_s));
+    screen->addListPropertyItem(screen->elements(), image);
+    EXPECT_EQ(logo->linkedElements(), QList<DesignerObject *>{image});
+    set(image, "source", link(u"pump.png"_s, u"Project"_s, u"ImageResource"_s));
+    EXPECT_FALSE(logo->isLinked());
+    EXPECT_TRUE(pump->isLinked());
+    const std::unique_ptr<DesignerObject> taken(screen->takeListPropertyItem(screen->elements(), image));
+    EXPECT_FALSE(pump->isLinked());
 }
 
 TEST_F(Elements, LinksAndChannelsAreJudged)
