@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/common/FileHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
+#include "corvex/preview/PreviewSession.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
@@ -10,6 +12,7 @@
 
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -78,6 +81,26 @@ protected:
         return errors;
     }
 
+    //! What goes wrong when the document of the screen "Main" runs.
+    static QStringList problemsInPreview(const QString &qml)
+    {
+        const QTemporaryDir folder;
+        Common::FileHelper::writeFile(folder.filePath(u"qml_Main.qml"_s), qml.toUtf8());
+        Common::FileHelper::variantToFile(QVariantMap{{u"variables"_s, QVariantMap()}},
+                                          folder.filePath(u"config.kdrc"_s), false);
+        Preview::PreviewSession session;
+        QString error;
+        QStringList problems;
+        if (!session.open(folder.path(), &error)) {
+            problems.append(error);
+        }
+        session.settle();
+        for (const Preview::PanelProblem &problem : session.panel().problems().problems()) {
+            problems.append(problem.toString());
+        }
+        return problems;
+    }
+
     std::unique_ptr<Project> project;
     Screen *screen = nullptr;
 };
@@ -129,6 +152,7 @@ TEST_F(Elements, TheDocumentOfAScreenHasItsPartsInOrderAndParses)
     const QString qml = screen->toQml(0);
     EXPECT_EQ(map->qmlActiveScreen(), u"Main"_s);
     EXPECT_EQ(syntaxErrors(qml), QStringList()) << qPrintable(qml);
+    EXPECT_EQ(problemsInPreview(qml), QStringList()) << qPrintable(qml);
     qsizetype last = -1;
     for (
         const QString &part :

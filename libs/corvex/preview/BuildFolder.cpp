@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/preview/BuildFolder.h"
+
+#include "corvex/common/FileHelper.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Preview {
+
+namespace {
+
+const QString configurationFile = u"config.kdrc"_s;
+
+QString projectPath(const QString &path)
+{
+    const QDir folder(path);
+    return folder.exists(u"project"_s) ? folder.absoluteFilePath(u"project"_s) : folder.absolutePath();
+}
+
+} // namespace
+
+bool BuildFolder::open(const QString &path, QString *error)
+{
+    *this = BuildFolder();
+    m_path = projectPath(path);
+    if (!findScreens()) {
+        *error = u"\"%1\" holds no screens. Make it with \"corvex build FILE -o DIR\"."_s.arg(path);
+        return false;
+    }
+    readConfiguration();
+    return true;
+}
+
+bool BuildFolder::findScreens()
+{
+    const QDir folder(m_path);
+    for (const QString &name : folder.entryList({u"qml_*.qml"_s}, QDir::Files, QDir::Name)) {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::ReadOnly)) {
+            m_problems.append({name, file.errorString()});
+            continue;
+        }
+        m_screens.insert(name.chopped(4),
+                         {folder.absoluteFilePath(name), QmlOutline(QString::fromUtf8(file.readAll()))});
+    }
+    return !m_screens.isEmpty();
+}
+
+void BuildFolder::readConfiguration()
+{
+    const QString path = QDir(m_path).filePath(configurationFile);
+    if (!QFile::exists(path)) {
+        m_problems.append({configurationFile, u"The file is missing, so there are no variables."_s});
+        return;
+    }
+    bool ok = false;
+    const QVariantMap configuration = Common::FileHelper::fileToVariant(path, &ok).toMap();
+    if (!ok || configuration.value(u"variables"_s).metaType() != QMetaType::fromType<QVariantMap>()) {
+        m_problems.append(
+            {configurationFile,
+             u"The file is cut off, or none of a build, so there are no variables. Build the project anew."_s});
+        return;
+    }
+    m_variables = configuration.value(u"variables"_s).toMap();
+    m_defaultScreen = configuration.value(u"defaultScreen"_s).toString();
+    if (!m_defaultScreen.isEmpty() && !m_screens.contains(m_defaultScreen)) {
+        m_problems.append(
+            {configurationFile, u"The default screen \"%1\" is missing."_s.arg(m_defaultScreen)});
+    }
+}
+
+QString BuildFolder::defaultScreen() const
+{
+    return m_screens.contains(m_defaultScreen) ? m_defaultScreen : m_screens.firstKey();
+}
+
+QString BuildFolder::stampOf(const QString &path)
+{
+    QCryptographicHash hash(QCryptographicHash::Md5);
+    const QFileInfoList files = QDir(projectPath(path)).entryInfoList(QDir::Files, QDir::Name);
+    for (const QFileInfo &file : files) {
+        hash.addData(u"%1|%2|%3\n"_s
+                         .arg(file.fileName(), QString::number(file.size()),
+                              QString::number(file.lastModified().toMSecsSinceEpoch()))
+                         .toUtf8());
+    }
+    return QString::fromLatin1(hash.result().toHex());
+}
+
+} // namespace Halvane::Corvex::Preview

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/preview/PreviewSession.h"
+
+#include "corvex/preview/StandIns.h"
+#include "corvex/preview/Viewer.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QQmlComponent>
+#include <QQmlProperty>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Preview {
+
+namespace {
+
+const QString idPrefix = u"qml_"_s;
+constexpr int mostScreenSide = 16384;
+
+} // namespace
+
+PreviewSession::PreviewSession(QObject *parent)
+    : QObject(parent)
+    , m_settings(m_state)
+    , m_panel(std::make_unique<Panel>())
+    , m_frame(std::make_unique<QQuickItem>())
+{ }
+
+PreviewSession::~PreviewSession()
+{
+    removeScreen();
+}
+
+bool PreviewSession::open(const QString &path, QString *error)
+{
+    StandIns::registerModules();
+    if (!m_build.open(path, error)) {
+        return false;
+    }
+    for (const auto &[file, message] : m_build.problems()) {
+        m_panel->problems().report(file, message);
+    }
+    for (const QString &name : StandIns::addUnknownClasses(m_build)) {
+        m_panel->problems().report(QString(), u"The preview knows no class \"%1\" and shows boxes for its "
+                                              "elements."_s.arg(name));
+    }
+    addVariables();
+    restoreState();
+    new Viewer(*m_panel, [this](const QString &file, int line) { return locate(file, line); });
+    connect(&m_panel->engine(), &QQmlEngine::warnings, this, &PreviewSession::takeWarnings);
+    // The screen that asks is in the middle of its handler, and deleted when another one is shown.
+    connect(
+        m_panel.get(), &Panel::screenWanted, this,
+        [this](const QString &id, const QString &element) {
+            if (m_build.screens().contains(id)) {
+                showScreen(id.sliced(idPrefix.size()));
+            } else {
+                m_panel->problems().report(element, u"There is no screen \"%1\"."_s.arg(id));
+            }
+        },
+        Qt::QueuedConnection);
+    showScreen(m_build.defaultScreen().sliced(idPrefix.size()));
+    return true;
+}
+
+void PreviewSession::addVariables()
+{
+    for (const auto &[name, value] : m_build.variables().asKeyValueRange()) {
+        const QVariantMap record = value.toMap();
+        // "Rectangle.savedLook": the elements of a class whose settings are kept.
+        if (name.contains(u'.')) {
+            m_settings.add(AutoSettings::pathsOf(record));
+        } else {
+            addVariable(name, record);
+        }
+    }
+    for (const BuildFolder::ScreenFile &screen : m_build.screens()) {
+        for (const QmlOutline::Object &object : screen.outline.objects()) {
+            if (object.className == "DataLogging"_L1) {
+                m_panel->variables().addLog(object.variable);
+            }
+        }
+    }
+}
+
+void PreviewSession::addVariable(const QString &name, const QVariantMap &record)
+{
+    Variable *variable = m_panel->variables().add(name, Variable::Type(record.value(u"type"_s).toInt()),
+                                                  record.value(u"persistent"_s).toBool());
+    const QVariant value = record.value(u"value"_s);
+    if (!variable->setValue(value)) {
+        m_panel->problems().report(name, u"The variable is to hold a %1, and its value is none."_s.arg(
+                                             Variable::nameOf(variable->type())));
+    }
+}
+
+void PreviewSession::restoreState()
+{
+    if (m_stateFile.isEmpty()) {
+        return;
+    }
+    QString error;
+    if (!m_state.open(m_stateFile, &error)) {
+        m_panel->problems().report(QString(), error);
+    }
+    connect(&m_state, &SavedState::failed, this,
+            [this](const QString &message) { m_panel->problems().report(QString(), message); });
+    for (Variable *variable : m_panel->variables().variables()) {
+        // A value of another type is one of an earlier build.
+        if (variable->isPersistent() && m_state.contains(variable->name())) {
+            variable->setValue(m_state.value(variable->name()));
+        }
+    }
+    connect(&m_panel->variables(), &VariableStore::changed, this, [this](const Variable *variable) {
+        if (variable->isPersistent()) {
+            m_state.setValue(variable->name(), variable->text());
+        }
+    });
+}
+
+QString PreviewSession::locate(const QString &file, int line) const
+{
+    const QString name = QFileInfo(file).completeBaseName();
+    const auto screen = m_build.screens().constFind(name);
+    if (screen == m_build.screens().cend()) {
+        return QFileInfo(file).fileName();
+    }
+    const QString path = screen->outline.pathAt(line);
+    return path.isEmpty() ? u"%1.qml:%2"_s.arg(name, QString::number(line)) : path;
+}
+
+void PreviewSession::takeWarnings(const QList<QQmlError> &warnings)
+{
+    for (const QQmlError &warning : warnings) {
+        m_panel->problems().report(locate(warning.url().path(), warning.line()), warning.description());
+    }
+}
+
+QStringList PreviewSession::screens() const
+{
+    QStringList names;
+    for (const QString &id : m_build.screens().keys()) {
+        names.append(id.sliced(idPrefix.size()));
+    }
+    return names;
+}
+
+QString PreviewSession::screen() const
+{
+    return m_screen ? m_screenId.sliced(idPrefix.size()) : QString();
+}
+
+bool PreviewSession::showScreen(const QString &name)
+{
+    const QString id = idPrefix + name;
+    if (!m_build.screens().contains(id)) {
+        m_panel->problems().report(QString(), u"There is no screen \"%1\"."_s.arg(name));
+        return false;
+    }
+    removeScreen();
+    m_screenId = id;
+    const ScriptScope scope(*m_panel, name);
+    m_screen = load(id);
+    if (m_screen) {
+        m_settings.attach(name, [this](const QString &path) { return find(path); });
+    }
+    emit screenChanged();
+    return m_screen;
+}
+
+QQuickItem *PreviewSession::load(const QString &id)
+{
+    QQmlComponent component(&m_panel->engine(), QUrl::fromLocalFile(m_build.screens().value(id).path));
+    std::unique_ptr<QObject> object(
+        component.isReady() ? component.beginCreate(m_panel->engine().rootContext()) : nullptr);
+    takeWarnings(component.errors());
+    auto *item = qobject_cast<QQuickItem *>(object.get());
+    if (!item) {
+        return nullptr;
+    }
+    object.release();
+    item->setParent(m_frame.get());
+    item->setParentItem(m_frame.get());
+    component.completeCreate();
+    m_frame->setSize(item->size().boundedTo(QSizeF(mostScreenSide, mostScreenSide)));
+    return item;
+}
+
+void PreviewSession::removeScreen()
+{
+    delete m_screen;
+}
+
+void PreviewSession::settle()
+{
+    m_panel->logic().flush();
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    m_panel->logic().flush();
+}
+
+QObject *PreviewSession::find(QStringView path) const
+{
+    if (!m_screen) {
+        return nullptr;
+    }
+    // Names are those of one screen, so the groups in between may be left out, and the screen itself.
+    const QString name = path.sliced(path.lastIndexOf(u'.') + 1).toString();
+    const QString screenName = m_screen->objectName();
+    if (path == screenName) {
+        return m_screen;
+    }
+    for (QObject *object : m_screen->findChildren<QObject *>(name)) {
+        if (path == name || path == QString(screenName + u'.' + name) || path == Panel::pathOf(object)) {
+            return object;
+        }
+    }
+    return nullptr;
+}
+
+QQuickItem *PreviewSession::touchedItem(QObject *element) const
+{
+    auto *item = qobject_cast<QQuickItem *>(element);
+    return item ? item : element->property("visualElement").value<QQuickItem *>();
+}
+
+QPointF PreviewSession::middleOf(const QQuickItem *item) const
+{
+    return m_frame->mapFromItem(item, QPointF(item->width() / 2, item->height() / 2));
+}
+
+} // namespace Halvane::Corvex::Preview

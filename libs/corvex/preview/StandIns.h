@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+namespace Halvane::Corvex::Preview {
+
+class BuildFolder;
+
+//! The modules that generated screens import, filled with types that stand in for those of the device.
+class StandIns
+{
+public:
+    //! Once for the program, before any engine loads a screen.
+    static void registerModules();
+
+    /*! Makes a type, shown as a labelled box, for each class of the build that there is none for, with all
+        properties and signals that are set of it. Gives the names of these classes. */
+    static QStringList addUnknownClasses(const BuildFolder &build);
+};
+
+} // namespace Halvane::Corvex::Preview

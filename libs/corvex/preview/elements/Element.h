@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QQmlParserStatus>
+#include <QString>
+
+#include <functional>
+
+namespace Halvane::Corvex::Preview {
+
+class Panel;
+
+//! What the elements that are not drawn have in common.
+class Element
+    : public QObject
+    , public QQmlParserStatus
+{
+    Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
+    Q_PROPERTY(bool addedToScene READ isCompleted NOTIFY completedChanged)
+    Q_PROPERTY(bool completed READ isCompleted NOTIFY completedChanged)
+    Q_PROPERTY(QString id READ objectName CONSTANT)
+
+public:
+    using QObject::QObject;
+
+    bool isCompleted() const { return m_isCompleted; }
+    void classBegin() override { }
+    void componentComplete() override;
+
+signals:
+    void completedChanged();
+
+protected:
+    //! Once all properties have their values.
+    virtual void start() { }
+    //! Never null from start on.
+    Panel *panel() const { return m_panel; }
+    //! Runs handlers, under the eye of the watchdog.
+    void perform(const std::function<void()> &handlers);
+
+private:
+    Panel *m_panel = nullptr;
+    bool m_isCompleted = false;
+};
+
+} // namespace Halvane::Corvex::Preview

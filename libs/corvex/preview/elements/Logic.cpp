@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/preview/elements/Logic.h"
+
+#include "corvex/preview/Panel.h"
+
+namespace Halvane::Corvex::Preview {
+
+void Action::execute()
+{
+    perform([this] { emit propertyChanges(); });
+}
+
+void LogicBuilder::start()
+{
+    panel()->logic().wake(this, this);
+}
+
+void LogicBuilder::setConditions(const QVariantList &conditions)
+{
+    // That they are the same as before does not matter: the values behind them, which the handler uses, are
+    // not.
+    m_conditions = conditions;
+    emit conditionsChanged();
+    if (isCompleted()) {
+        panel()->logic().wake(this, this);
+    }
+}
+
+void LogicBuilder::react()
+{
+    perform([this] { emit evaluate(); });
+}
+
+void PropertyTrigger::start()
+{
+    panel()->logic().wake(this, this);
+}
+
+void PropertyTrigger::setDataValues(const QVariantList &values)
+{
+    m_dataValues = values;
+    emit dataValuesChanged();
+    if (isCompleted()) {
+        panel()->logic().wake(this, this);
+    }
+}
+
+void PropertyTrigger::setCondition(const QVariant &condition)
+{
+    m_condition = condition;
+    emit conditionChanged();
+    if (isCompleted()) {
+        panel()->logic().wake(this, this);
+    }
+}
+
+void PropertyTrigger::react()
+{
+    const bool holds = m_condition.toBool();
+    const bool isDue = holds && (!m_held || m_seenValues != m_dataValues);
+    m_held = holds;
+    m_seenValues = m_dataValues;
+    if (!isDue) {
+        return;
+    }
+    for (const QVariant &entry : std::as_const(m_actions)) {
+        if (auto *action = qobject_cast<Action *>(entry.value<QObject *>())) {
+            action->execute();
+        }
+    }
+}
+
+} // namespace Halvane::Corvex::Preview

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "TestBuild.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace testing;
+
+namespace Halvane::Corvex::Preview {
+
+namespace {
+
+using Common::EnumHelper;
+
+auto startingWith(const char *text)
+{
+    return ResultOf([](const QString &problem) { return problem.toStdString(); }, StartsWith(text));
+}
+
+} // namespace
+
+TEST(PreviewSession, followsEachVariableByItself)
+{
+    TestBuild build;
+    build.addVariable(u"speed"_s, EnumHelper::FloatVariable, 12.3F);
+    build.addVariable(u"keys"_s, EnumHelper::IntegerVariable, 1);
+    build.addVariable(u"on"_s, EnumHelper::BooleanVariable, true);
+    build.addVariable(u"tint"_s, EnumHelper::ColorVariable, QColor(Qt::red));
+    build.writeConfiguration(u"qml_Main"_s);
+    build.addScreen("Aside", "");
+    build.addScreen("Main", R"(
+        property var seen: []
+        Text { objectName: "label"
+               text: { seen.push(1); return "".concat(qmlViewer.getVariableValue("speed"), " m") } }
+        Rectangle { objectName: "box"; width: 10; height: 10
+                    visible: qmlViewer.getVariableValue("on")
+                    color: qmlViewer.convertToColorFromName(qmlViewer.getVariableValue("tint"))
+                    x: qmlViewer.getVariableValue("keys") * 2 }
+    )");
+    TestPanel panel(build);
+    ASSERT_TRUE(panel.isOpen) << qPrintable(panel.error);
+    EXPECT_THAT(panel.run("expect screen Main; expect label.text \"12.3 m\"; expect box.x 2; expect seen 1"),
+                ElementsAre(startingWith("4: There is no variable")));
+    EXPECT_THAT(
+        panel.run("set keys 4; expect box.x 8; set on false; expect box.visible false; set tint #00f; "
+                  "expect box.color #0000ff; expect tint #FF0000FF; expect Main.seen.length 1"),
+        ElementsAre(startingWith("8: ")));
+    EXPECT_EQ(panel.session.screenItem()->property("seen").toList().size(), 1);
+    EXPECT_THAT(panel.run("set speed 7; expect Main.label.text \"7 m\"; expect label.text 8; set keys x; "
+                          "press label; nonsense; wait -1; set label.nothing 3; show Nowhere"),
+                ElementsAre(startingWith("3: expected label.text \"8\", but it is \"7 m\""),
+                            startingWith("4: "), startingWith("5: Nothing reacts"), startingWith("6: "),
+                            startingWith("7: "), startingWith("8: "), startingWith("9: ")));
+    EXPECT_EQ(panel.session.screenItem()->property("seen").toList().size(), 2);
+}
+
+TEST(PreviewSession, offersTheFunctionsOfTheDevice)
+{
+    TestBuild build;
+    build.addVariable(u"number"_s, EnumHelper::IntegerVariable, 3);
+    build.addVariable(u"flag"_s, EnumHelper::BooleanVariable, true);
+    build.writeConfiguration();
+    build.addScreen("Main",
+                    R"(functions: [ DataLogging { objectName: "logging"; variable: "history"; interval: 1000
+                               maxDataPoints: 3; behavior: "OverwriteOldest" } ])");
+    TestPanel panel(build);
+    EXPECT_THAT(panel.run("set history 5; wait 500; set history 1; wait 1000; set history 7; wait 1000; "
+                          "set history 2; wait 1000; set history 9"),
+                IsEmpty());
+    static constexpr std::pair<const char *, const char *> calls[] = {
+        {"getVariableValue('number') + 1", "4"},
+        {"getVariableValueString('flag')", "true"},
+        {"getVariableValueString('number')", "3"},
+        {"convertToColorFromName('red')", "#FFFF0000"},
+        {"split('a-b-c', '-', '1')", "b"},
+        {"split('a-b', '-', 5)", ""},
+        {"replace('a.b.c', '.', '$&')", "a$&b$&c"},
+        {"replaceFirst('a.b.c', '.', '')", "ab.c"},
+        {"replaceLast('a.b.c', '.', '!')", "a.b!c"},
+        {"replaceLast('abc', 'x', '!')", "abc"},
+        {"subString(12.345, '0', '4')", "12.3"},
+        {"subString('abc', 1)", "bc"},
+        {"toUpperCase('\u00e4b')", "\u00c4B"},
+        {"toLowerCase('AB')", "ab"},
+        {"trim('  a ')", "a"},
+        {"length('abc')", "3"},
+        {"poly(2, 1, 0, 3)", "13"},
+        {"getLogCount('history')", "3"},
+        {"getValueAt('history', 0)", "2"},
+        {"getValueAt('history', 2)", "1"},
+        {"getValueAt('history', 3)", "0"},
+        {"getLogMax('history')", "7"},
+        {"getLogMin('history')", "1"},
+        {"getLogAvg('history') * 3", "10"},
+    };
+    for (const auto &[call, result] : calls) {
+        EXPECT_EQ(panel.evaluate(u"qmlViewer."_s + QString::fromUtf8(call)), QString::fromUtf8(result))
+            << call;
+    }
+    EXPECT_EQ(panel.problems(), QStringList());
+}
+
+TEST(PreviewSession, tellsWhichElementGoesWrong)
+{
+    TestBuild build;
+    build.addVariable(u"number"_s, EnumHelper::IntegerVariable, 3);
+    build.addVariable(u"broken"_s, EnumHelper::IntegerVariable, QVariant());
+    build.writeConfiguration(u"qml_Gone"_s);
+    build.write(u"qml_Spoilt.qml"_s,
+                "Screen {\n  objectName: \"Spoilt\"\n Text {\n objectName: \"label\"\n width: }\n}\n");
+    build.addScreen("Main", R"(
+        functions: [
+            LogicBuilder { objectName: "pingPong"
+                           conditions: [qmlViewer.getVariableValue("number") > 5]
+                           onEvaluate: if (conditions[0]) qmlViewer.setVariableValue("number",
+                                           qmlViewer.getVariableValue("number") + 1, 2) },
+            Button { objectName: "hang"; visualElement: box; onPressed: { while (true) {} } },
+            Button { objectName: "wrong"; visualElement: other
+                     onPressed: { qmlViewer.setVariableValue("number", "many", 4);
+                                  qmlViewer.assignPropertyValue(other, "x", 3, "left"); } },
+            ScreenLoader { objectName: "loader"; visualElement: third; screen: "qml_Nowhere" },
+            ScreenLoader { objectName: "again"; visualElement: fourth; screen: "qml_Main" }
+        ]
+        GroupElement { objectName: "group"
+            Text { objectName: "label"; text: qmlViewer.getVariableValue("nobody") }
+        }
+        Rectangle { objectName: "loop"; width: height + 1; height: width + 1 }
+        Rectangle { id: box; objectName: "box"; width: 10; height: 10 }
+        Rectangle { id: other; objectName: "other"; x: 20; width: 10; height: 10 }
+        Rectangle { id: third; objectName: "third"; x: 40; width: 10; height: 10 }
+        Rectangle { id: fourth; objectName: "fourth"; x: 60; width: 10; height: 10 }
+        Gauge { objectName: "gauge"; width: 50; height: 50; needle.color: "red"; level: 3; onFull: {} }
+        Image { objectName: "picture"; source: "missing.png" }
+    )");
+    TestPanel panel(build);
+    ASSERT_TRUE(panel.isOpen) << qPrintable(panel.error);
+    EXPECT_THAT(
+        panel.run("expect screen Main; expect gauge.level 3; press hang; press wrong; expect number 3; "
+                  "press third; set number 6; press fourth; expect screen Main; show Spoilt"),
+        ElementsAre(startingWith("10: The screen \"Spoilt\" cannot be shown.")));
+    static constexpr const char *expected[] = {
+        "config.kdrc: The default screen \"qml_Gone\" is missing.",
+        "broken: The variable is to hold a number",
+        "The preview knows no class \"Gauge\"",
+        "Main.group.label: There is no variable \"nobody\".",
+        "Main.loop: ",
+        "Main.picture: ",
+        "Main.hang: A script took longer than 300 ms and was stopped.",
+        "Main.wrong: \"many\" is no value for the variable \"number\".",
+        "Main.wrong: \"left\" is no value for the property \"x\".",
+        "Main.loader: There is no screen \"qml_Nowhere\".",
+        "Main.pingPong: Its rules set themselves off again and again.",
+        "Spoilt.label: ",
+    };
+    for (const char *problem : expected) {
+        EXPECT_THAT(panel.problems(), Contains(startingWith(problem)));
+    }
+}
+
+TEST(PreviewSession, opensWhatIsLeftOfABuild)
+{
+    TestBuild build;
+    EXPECT_FALSE(TestPanel(build).isOpen);
+    build.addScreen("Main", "");
+    EXPECT_THAT(TestPanel(build).problems(), ElementsAre(startingWith("config.kdrc: The file is missing")));
+    build.addVariable(u"number"_s, EnumHelper::IntegerVariable, 3);
+    build.writeConfiguration();
+    QFile file(build.path(u"config.kdrc"_s));
+    file.resize(file.size() - 3);
+    TestPanel panel(build);
+    EXPECT_TRUE(panel.isOpen);
+    EXPECT_THAT(panel.problems(), ElementsAre(startingWith("config.kdrc: The file is cut off")));
+}
+
+TEST(PreviewSession, keepsWhatOutlivesTheDevice)
+{
+    TestBuild build;
+    build.addVariable(u"kept"_s, EnumHelper::IntegerVariable, 1, true);
+    build.addVariable(u"lost"_s, EnumHelper::IntegerVariable, 1);
+    build.addVariable(u"Rectangle.look"_s, EnumHelper::DeviceVariable,
+                      u"<0308Main.box.color><0304Main.box.x>"_s);
+    build.writeConfiguration();
+    build.addScreen("Main", "Rectangle { objectName: \"box\"; color: \"red\" }");
+    const QString state = build.path(u"state/kept.json"_s);
+    EXPECT_THAT(TestPanel(build, state).run("set kept 5; set lost 5; set box.color blue; set box.x 7"),
+                IsEmpty());
+    TestPanel panel(build, state);
+    EXPECT_THAT(panel.run("expect kept 5; expect lost 1; expect box.color blue; expect box.x 7"), IsEmpty());
+    build.write(u"state/kept.json"_s, "[");
+    EXPECT_THAT(TestPanel(build, state).problems(), ElementsAre(startingWith("\"")));
+}
+
+} // namespace Halvane::Corvex::Preview
