@@ -37,6 +37,7 @@ extern const Verb fmtVerb;
 extern const Verb helpVerb;
 extern const Verb infoVerb;
 extern const Verb newVerb;
+extern const Verb previewVerb;
 extern const Verb treeVerb;
 extern const Verb usesVerb;
 extern const Verb valueVerb;

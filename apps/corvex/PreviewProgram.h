@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ExitCode.h"
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+namespace Halvane::Corvex::Tool {
+
+class Call;
+
+/*! The program beside the library of verbs that runs a build. It brings Qt Quick along, which no other verb
+   has to wait for. */
+class PreviewProgram
+{
+public:
+    explicit PreviewProgram(const Call &call);
+
+    //! False, once the user has been told, when it does not start. What it writes goes where the caller's
+    //! does.
+    bool start(const QStringList &arguments);
+    QProcess &process() { return m_process; }
+    //! Of the program when it has ended.
+    ExitCode exitCode() const;
+
+private:
+    const Call &m_call;
+    QProcess m_process;
+};
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "ProjectBuild.h"
+
+#include "corvex/project/Project.h"
+#include "corvex/runtime/RuntimeGenerator.h"
+
+#include "Call.h"
+#include "CodeCheck.h"
+#include "DeviceFolder.h"
+#include "Installation.h"
+#include "ProjectFile.h"
+#include "ProjectProblems.h"
+#include "Terminal.h"
+
+#include <QDir>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+//! Names all problems and tells whether the build goes on in spite of them.
+bool isAccepted(const QList<Problem> &problems, const ProjectFile &file, const Call &call,
+                ProjectBuild::WithProblems withProblems)
+{
+    for (const Problem &problem : problems) {
+        call.terminal().printError(problem.toString());
+    }
+    if (problems.isEmpty() || withProblems == ProjectBuild::WithProblems::Build) {
+        return true;
+    }
+    if (call.asJson()) {
+        ProjectProblems::printJson(problems, call.terminal());
+    }
+    call.failed(u"\"%1\" has problems (%2) and is not built. Mend them, or build it all the same with "
+                "--force."_s.arg(file.path(), QString::number(problems.size())));
+    return false;
+}
+
+//! Makes the build and tells, of the code that it holds too, what is wrong with the project.
+QList<Problem> build(const ProjectFile &file, const ConfigurationContainer &models)
+{
+    CodeCheck code;
+    RuntimeGenerator &generator = file.project().runtimeGenerator();
+    generator.setScreenObserver(
+        [&code](const DesignerObject &screen, const QString &qml) { code.add(screen, qml); });
+    file.project().generateRuntimeFiles();
+    generator.setScreenObserver({});
+    const bool hasAllScreens = !generator.buildFolder().isEmpty();
+    return hasAllScreens ? ProjectProblems::find(file, models, code) : ProjectProblems::find(file, models);
+}
+
+} // namespace
+
+ExitCode ProjectBuild::run(const Call &call, const QString &folder, WithProblems withProblems)
+{
+    ProjectFile file;
+    const ConfigurationContainer *models = file.open(call) ? Installation::loadModels(call) : nullptr;
+    if (!models) {
+        return ExitCode::File;
+    }
+    call.terminal().showProgress(u"building %1"_s.arg(file.path()));
+    RuntimeGenerator &generator = file.project().runtimeGenerator();
+    const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
+    const QList<Problem> problems = build(file, *models);
+    if (!isAccepted(problems, file, call, withProblems)) {
+        return ExitCode::Problems;
+    }
+    if (generator.buildFolder().isEmpty()) {
+        return call.failed(generator.errorString(), problems.isEmpty() ? ExitCode::File : ExitCode::Problems);
+    }
+    DeviceFolder target(folder);
+    QString error;
+    if (!target.bring(QDir(generator.buildFolder()).filePath(u"project"_s), &error)) {
+        return call.failed(error);
+    }
+    return ExitCode::Done;
+}
+
+} // namespace Halvane::Corvex::Tool

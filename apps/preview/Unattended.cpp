@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "Unattended.h"
+
+#include "corvex/preview/script/PanelWindow.h"
+#include "corvex/preview/script/PreviewScript.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Preview {
+
+namespace {
+
+Exit printProblems(const ProblemLog &log)
+{
+    for (const PanelProblem &problem : log.problems()) {
+        complain(problem.toString());
+    }
+    return log.problems().isEmpty() ? Exit::Done : Exit::Problems;
+}
+
+bool save(PanelWindow &window, const QString &folder, const QString &name)
+{
+    const QString path = QDir(folder).filePath(name + u".png"_s);
+    if (name != QFileInfo(name).fileName() || !QDir().mkpath(folder) || !window.picture().save(path)) {
+        complain(u"\"%1\" cannot be written."_s.arg(path));
+        return false;
+    }
+    print(path);
+    return true;
+}
+
+Exit shootAll(PreviewSession &session, PanelWindow &window, const QString &folder)
+{
+    for (const QString &name : session.screens()) {
+        if (!session.showScreen(name)) {
+            continue;
+        }
+        session.panel().clock().advance(0); // so that logs have their first point
+        if (!save(window, folder, name)) {
+            return Exit::File;
+        }
+    }
+    return Exit::Done;
+}
+
+Exit runScript(PreviewSession &session, PanelWindow &window, const QString &scriptFile, const QString &folder)
+{
+    QFile file(scriptFile);
+    if (!file.open(QIODevice::ReadOnly)) {
+        complain(u"\"%1\" cannot be read: %2"_s.arg(scriptFile, file.errorString()));
+        return Exit::File;
+    }
+    const auto shoot = [&window, &folder](const QString &name) {
+        return save(window, folder.isEmpty() ? u"."_s : folder, name);
+    };
+    PreviewScript script(session, window, shoot);
+    const QStringList failures = script.run(QString::fromUtf8(file.readAll()));
+    for (const QString &failure : failures) {
+        print(u"%1:%2"_s.arg(scriptFile, failure));
+    }
+    return failures.isEmpty() ? Exit::Done : Exit::Problems;
+}
+
+} // namespace
+
+Exit runUnattended(PreviewSession &session, const QString &scriptFile, const QString &folder)
+{
+    PanelWindow window(session);
+    const Exit result = scriptFile.isEmpty() ? shootAll(session, window, folder)
+                                             : runScript(session, window, scriptFile, folder);
+    const Exit problems = printProblems(session.panel().problems());
+    return result == Exit::Done ? problems : result;
+}
+
+} // namespace Halvane::Corvex::Preview

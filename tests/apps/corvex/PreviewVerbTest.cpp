@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "Sandbox.h"
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+using namespace Halvane::Corvex::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString pump = u"Pump/Pump.kdproj"_s;
+
+class PreviewVerb : public testing::Test
+{
+protected:
+    PreviewVerb()
+    {
+        sandbox.makeProject(
+            Sandbox::object("Text", "title", Sandbox::value("textBinding", "0406speed")),
+            Sandbox::object("NumberVariable", "speed",
+                            Sandbox::value("value", "7") + Sandbox::value("persistent", "true"), "Project"));
+    }
+
+    ProgramRun preview(const QString &file, const QStringList &options) const
+    {
+        return sandbox.run(QStringList{u"preview"_s, file} + options);
+    }
+
+    Sandbox sandbox;
+};
+
+} // namespace
+
+TEST_F(PreviewVerb, takesPicturesOfAProjectAndOfABuild)
+{
+    const ProgramRun project = preview(pump, {u"--shot"_s, u"new/pictures"_s});
+    EXPECT_EQ(project.out, u"new/pictures/Main.png\n"_s);
+    EXPECT_EQ(project.error, QString());
+    EXPECT_EQ(project.code, 0);
+    const QImage picture(sandbox.path(u"new/pictures/Main.png"_s));
+    EXPECT_FALSE(picture.isNull());
+
+    EXPECT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
+    EXPECT_EQ(preview(u"out"_s, {u"--shot"_s, u"again"_s}).code, 0);
+    EXPECT_EQ(QImage(sandbox.path(u"again/Main.png"_s)), picture);
+    EXPECT_EQ(preview(u"Pump"_s, {u"--shot"_s, u"again"_s}).code, 3);
+    EXPECT_EQ(preview(pump, {u"--shot"_s, u"out/project/config.kdrc"_s}).code, 3);
+}
+
+TEST_F(PreviewVerb, tellsWhatAScriptExpectedAndWhatWasThere)
+{
+    sandbox.write(u"good"_s,
+                  "expect Main.title.text 7\nset speed 40\nexpect Main.title.text \"40\"\nshot fast\n");
+    const ProgramRun good =
+        preview(pump, {u"--script"_s, u"good"_s, u"--shot"_s, u"out"_s, u"--state"_s, u"kept"_s});
+    EXPECT_EQ(good.out, u"out/fast.png\n"_s);
+    EXPECT_EQ(good.code, 0);
+    sandbox.write(u"bad"_s, "# a remark\nexpect Main.title.text 7\nexpect speed 40\n");
+    const ProgramRun bad = preview(pump, {u"--script"_s, u"bad"_s, u"--state"_s, u"kept"_s});
+    EXPECT_EQ(bad.out, u"bad:2: expected Main.title.text \"7\", but it is \"40\"\n"_s);
+    EXPECT_EQ(bad.code, 1);
+    EXPECT_EQ(preview(pump, {u"--script"_s, u"missing"_s}).code, 3);
+}
+
+TEST_F(PreviewVerb, walksThroughThePumpStation)
+{
+    const QString folder = QStringLiteral(CORVEX_EXAMPLES "/PumpStation/");
+    const ProgramRun tour = preview(folder + u"PumpStation.kdproj"_s,
+                                    {u"--script"_s, folder + u"tour.preview"_s, u"--shot"_s, u"out"_s});
+    EXPECT_EQ(tour.out, u"out/flooded.png\nout/settings.png\nout/trends.png\n"_s);
+    EXPECT_EQ(tour.error, QString());
+    EXPECT_EQ(tour.code, 0);
+}
