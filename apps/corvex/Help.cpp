@@ -79,8 +79,10 @@ void Help::printVerbs(Terminal &terminal)
 {
     terminal.print(u"corvex VERB [OPTIONS] ARGUMENTS: create, check, inspect and build projects"_s);
     terminal.print({});
+    const QStringList names = verbNames();
+    const qsizetype width = std::ranges::max_element(names, {}, &QString::size)->size();
     for (const Verb *verb : allVerbs()) {
-        terminal.print(u"  %1  %2"_s.arg(QString::fromLatin1(verb->name).leftJustified(11),
+        terminal.print(u"  %1  %2"_s.arg(QString::fromLatin1(verb->name).leftJustified(width),
                                          QLatin1StringView(verb->summary)));
     }
     terminal.print({});

@@ -14,7 +14,7 @@ class PropertyValidators
 {
 public:
     /*! The name of a project variable, a screen or an element: format, length, reserved words and everything
-       that it must differ from. Tells the first failure. */
+        that it must differ from, by the tables of project/ObjectNameRules.cpp. Tells the first failure. */
     static bool identifierElementValidator(const DesignerProperty *property, QString &error);
     //! Why the variable, screen or element \a object could not be called \a name; empty when it could.
     static QString nameError(const DesignerObject *object, const QString &name);

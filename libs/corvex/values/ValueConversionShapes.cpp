@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The half of ValueConversion that holds the forms of fonts, points and what is made of points and colours.
+// The forms of fonts and of what is made of points and colours; ValueConversion.cpp has those of the basic
+// kinds.
 #include "corvex/common/TextHelper.h"
 #include "corvex/values/GroupText.h"
 #include "corvex/values/ValueConversion.h"

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// The rules for the names of variables, screens and elements. Those of projects and images, which are files,
+// are in FileNameRules.
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/TextHelper.h"
+#include "corvex/core/ItemList.h"
+#include "corvex/core/PropertyValidators.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/values/MathInfo.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+// Each answers whether the name passes.
+
+//! A letter, then at least one letter, digit or underscore; ASCII alone.
+bool hasGoodFormat(const DesignerObject *, const QString &name)
+{
+    const auto isLetter = [](QChar c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); };
+    return name.size() >= 2 && isLetter(name.front()) && std::all_of(name.begin(), name.end(), [&](QChar c) {
+               return isLetter(c) || (c >= u'0' && c <= u'9') || c == u'_';
+           });
+}
+
+template<int longest>
+bool isShortEnough(const DesignerObject *, const QString &name)
+{
+    return name.size() <= longest;
+}
+
+bool isUniqueName(const DesignerObject *object, const QString &name)
+{
+    return IdentifierInfo(name, {}, {}).isUnique(object);
+}
+
+bool isNotReserved(const DesignerObject *, const QString &name)
+{
+    return !Common::TextHelper::isReservedWord(name);
+}
+
+bool isNoOther(const SharedProperty &list, const DesignerObject *object, const QString &name)
+{
+    const bool isItself = object->getIdName() == name && list->itemList()->contains(object);
+    return list->listItemCount(name) == (isItself ? 1 : 0);
+}
+
+bool isNoScreenOfProject(const DesignerObject *object, const QString &name)
+{
+    return !object->project() || isNoOther(object->project()->screens(), object, name);
+}
+
+bool isNoVariableOfProject(const DesignerObject *object, const QString &name)
+{
+    return !object->project() || isNoOther(object->project()->variables(), object, name);
+}
+
+bool isNotItsScreen(const DesignerObject *object, const QString &name)
+{
+    return !object->screen() || object->screen()->getIdName() != name;
+}
+
+bool isNoElementOfIt(const DesignerObject *object, const QString &name)
+{
+    return static_cast<const Screen *>(object)->elementIndex().count(name) == 0;
+}
+
+bool isNoMathFunction(const DesignerObject *, const QString &name)
+{
+    static const QSet<QString> functions(MathInfo::mathFunctions().begin(), MathInfo::mathFunctions().end());
+    return !functions.contains(name);
+}
+
+struct NameRule
+{
+    bool (*passes)(const DesignerObject *object, const QString &name);
+    const char *message;
+};
+
+constexpr char wrongFormat[] =
+    "The name is in the wrong format. Only letters, numbers and underscore are allowed. "
+    "The first character must be a letter.";
+constexpr char notUnique[] = "The name is not unique.";
+constexpr char reserved[] = "This name is reserved.";
+constexpr char sameAsScreen[] = "The name cannot be the same as the screen's name.";
+constexpr char sameAsVariable[] = "The name cannot be the same as the project variables.";
+
+// The rules of each kind in the order in which they are asked; the first that fails is told.
+constexpr NameRule variableRules[] = {
+    {&hasGoodFormat, wrongFormat},
+    {&isUniqueName, notUnique},
+    {&isNotReserved, reserved},
+    {&isNoScreenOfProject, sameAsScreen},
+    {&isNoVariableOfProject, sameAsVariable},
+    {&isNoMathFunction, "The name cannot be the same as the standard math functions."},
+};
+constexpr NameRule screenRules[] = {
+    {&hasGoodFormat, wrongFormat},
+    {&isShortEnough<247>, "The screen's name cannot have more than 247 characters."},
+    {&isUniqueName, notUnique},
+    {&isNotReserved, reserved},
+    {&isNoElementOfIt, notUnique},
+    {&isNoVariableOfProject, sameAsVariable},
+};
+constexpr NameRule elementRules[] = {
+    {&hasGoodFormat, wrongFormat},   {&isShortEnough<255>, "The name cannot have more than 255 characters."},
+    {&isUniqueName, notUnique},      {&isNotReserved, reserved},
+    {&isNotItsScreen, sameAsScreen}, {&isNoVariableOfProject, sameAsVariable},
+};
+
+template<size_t count>
+const char *brokenRule(const NameRule (&rules)[count], const DesignerObject *object, const QString &name)
+{
+    const auto broken = std::find_if(std::begin(rules), std::end(rules),
+                                     [&](const NameRule &rule) { return !rule.passes(object, name); });
+    return broken == std::end(rules) ? nullptr : broken->message;
+}
+
+} // namespace
+
+bool PropertyValidators::identifierElementValidator(const DesignerProperty *property, QString &error)
+{
+    const DesignerObject *object = property->parentObject();
+    const QString reason = nameError(object, object->getIdName());
+    error.append(reason);
+    return reason.isEmpty();
+}
+
+QString PropertyValidators::nameError(const DesignerObject *object, const QString &name)
+{
+    const char *message = object->isKindOfClass(u"ProjectVariable"_s)
+                              ? brokenRule(variableRules, object, name)
+                          : object->isKindOfClass(u"Screen"_s) ? brokenRule(screenRules, object, name)
+                                                               : brokenRule(elementRules, object, name);
+    return message ? Common::LocalizationHelper::coreString(QString::fromLatin1(message)) : QString();
+}
+
+} // namespace Halvane::Corvex::Designer
