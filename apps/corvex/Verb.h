@@ -35,6 +35,7 @@ extern const Verb exportVerb;
 extern const Verb exprVerb;
 extern const Verb fmtVerb;
 extern const Verb helpVerb;
+extern const Verb importVerb;
 extern const Verb infoVerb;
 extern const Verb newVerb;
 extern const Verb previewVerb;

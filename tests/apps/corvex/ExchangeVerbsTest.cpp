@@ -104,3 +104,38 @@ TEST_F(ExchangeVerbs, exportPrintsOrWritesFiles)
     EXPECT_EQ(sandbox.run({u"export"_s, u"can"_s, u"missing.kdproj"_s}).code, 3);
     EXPECT_EQ(sandbox.run({u"export"_s, u"can"_s, pump, u"-o"_s, pump}).code, 3);
 }
+
+TEST_F(ExchangeVerbs, importTakesATableOrNothing)
+{
+    const auto import = [this](const QByteArray &table, const QStringList &options = {}) {
+        sandbox.write(u"t.csv"_s, table);
+        return sandbox.run(QStringList{u"import"_s, u"variables"_s, pump, u"t.csv"_s} + options);
+    };
+    const QByteArray exported = sandbox.run({u"export"_s, u"variables"_s, pump}).out.toUtf8();
+    const QByteArray before = sandbox.read(pump);
+    EXPECT_EQ(import(exported).out, u"0 values changed, 0 variables added, 4 as they were\n"_s);
+    const QByteArray table = "name,class,value\nlevel,,5\nnew1,NumberVariable,1\nspeed,,x\n";
+    const QString report = u"level.value: \"62.0\" -> \"5\"\n"
+                           "new1: new, a NumberVariable\n"
+                           "1 values changed, 1 variables added, 1 as they were\n"_s;
+    EXPECT_EQ(import(table, {u"--dry-run"_s}).out, report);
+    for (const auto &[bad, message] :
+         {std::pair("name,value\nlevel,5\nwell,5\n", u"t.csv: line 3: \"well\" is not in the project"_s),
+          std::pair("name,value\nlevel,16777216.0\n", u"t.csv: line 2: level.value: The floating"_s),
+          std::pair("name,class\nMain,NumberVariable\n", u"Main: "_s)}) {
+        const ProgramRun run = import(bad);
+        EXPECT_EQ(run.code, 1);
+        EXPECT_EQ(run.out, QString());
+        EXPECT_TRUE(run.error.contains(message)) << qPrintable(run.error);
+    }
+    EXPECT_EQ(sandbox.read(pump), before);
+
+    EXPECT_EQ(import(table).out, report);
+    EXPECT_THAT(sandbox.run({u"export"_s, u"variables"_s, pump}).out.toStdString(),
+                testing::HasSubstr("\r\nlevel,NumberVariable,5,false"));
+    const QJsonValue forced = import("name,value\nlevel,16777216.0\n", {u"--force"_s, u"--json"_s}).json();
+    EXPECT_EQ(forced[u"changed"_s][0][u"after"_s], QJsonValue(u"16777216.0"_s));
+    EXPECT_TRUE(forced[u"written"_s].toBool());
+    EXPECT_EQ(sandbox.run({u"import"_s, u"screens"_s, pump, u"t.csv"_s}).code, 2);
+    EXPECT_EQ(sandbox.run({u"import"_s, u"variables"_s, pump, u"missing.csv"_s}).code, 3);
+}

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/ImportVariables.h"
+#include "corvex/editing/undo/UndoStack.h"
+#include "corvex/project/Project.h"
+#include "corvex/variables/exchange/VariableImport.h"
+
+#include "Call.h"
+#include "JsonWriter.h"
+#include "ProjectFile.h"
+#include "Terminal.h"
+#include "Verb.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+//! What the import did, or would do, told before it is done: new variables leave the import then.
+struct Report
+{
+    struct Value
+    {
+        QString object;
+        QString property;
+        QString before;
+        QString after;
+    };
+
+    explicit Report(const VariableImport &import)
+        : unchanged(import.unchangedCount())
+    {
+        for (const auto &[property, after] : import.changes()) {
+            changed.append(
+                {property->parentObject()->getIdName(), property->id(), property->valueString(), after});
+        }
+        for (const auto &variable : import.additions()) {
+            added.append({variable->getIdName(), variable->className()});
+        }
+    }
+
+    bool isEmpty() const { return changed.isEmpty() && added.isEmpty(); }
+
+    QList<Value> changed;
+    QList<std::pair<QString, QString>> added;
+    qsizetype unchanged;
+};
+
+void printJson(const Report &report, bool isWritten, Terminal &terminal)
+{
+    JsonWriter json(terminal);
+    json.beginObject();
+    json.name("changed"_L1);
+    json.beginArray();
+    for (const auto &[object, property, before, after] : report.changed) {
+        json.beginObject();
+        json.member("object"_L1, object);
+        json.member("property"_L1, property);
+        json.member("before"_L1, before);
+        json.member("after"_L1, after);
+        json.endObject();
+    }
+    json.endArray();
+    json.name("added"_L1);
+    json.beginArray();
+    for (const auto &[name, className] : report.added) {
+        json.beginObject();
+        json.member("name"_L1, name);
+        json.member("class"_L1, className);
+        json.endObject();
+    }
+    json.endArray();
+    json.member("unchanged"_L1, qint64(report.unchanged));
+    json.member("written"_L1, isWritten);
+    json.endObject();
+}
+
+void print(const Report &report, bool isWritten, const Call &call)
+{
+    if (call.asJson()) {
+        printJson(report, isWritten, call.terminal());
+        return;
+    }
+    for (const auto &[object, property, before, after] : report.changed) {
+        call.terminal().print(
+            Terminal::oneLine(u"%1.%2: \"%3\" -> \"%4\""_s.arg(object, property, before, after)));
+    }
+    for (const auto &[name, className] : report.added) {
+        call.terminal().print(Terminal::oneLine(u"%1: new, a %2"_s.arg(name, className)));
+    }
+    call.terminal().print(u"%1 values changed, %2 variables added, %3 as they were"_s.arg(
+        QString::number(report.changed.size()), QString::number(report.added.size()),
+        QString::number(report.unchanged)));
+}
+
+bool complain(const QStringList &problems, const Call &call)
+{
+    for (const QString &problem : problems) {
+        call.terminal().printError(Terminal::oneLine(u"%1: %2"_s.arg(call.argument(2), problem)));
+    }
+    return !problems.isEmpty();
+}
+
+//! Does the edit. False when the project refuses it. What is wrong with the names of new variables shows only
+//! among the others.
+bool edit(Project &project, VariableImport &import, QStringList &problems)
+{
+    QList<const DesignerObject *> added;
+    for (const auto &variable : import.additions()) {
+        added.append(variable.get());
+    }
+    auto *command = new ImportVariables(project.variables(), import);
+    project.undoStack()->push(command);
+    if (!command->isDone()) {
+        problems.append(command->errorString());
+        return false;
+    }
+    for (const DesignerObject *variable : added) {
+        if (!variable->idProperty()->isValid()) {
+            problems.append(u"%1: %2"_s.arg(variable->getIdName(), variable->idProperty()->errorString()));
+        }
+    }
+    return true;
+}
+
+ExitCode save(ProjectFile &file, const Call &call)
+{
+    const QList<ReadNote> dropped = file.dropped();
+    if (!dropped.isEmpty() && !call.isSet(u"force"_s)) {
+        return call.failed(
+            u"\"%1\" holds what this version does not know and would lose; it stays as it is. "
+            "\"corvex check\" names the places; --force writes it all the same."_s.arg(file.path()),
+            ExitCode::Problems);
+    }
+    return file.project().saveFile() ? ExitCode::Done : call.failed(file.project().fileError());
+}
+
+ExitCode take(ProjectFile &file, VariableImport &import, const Call &call)
+{
+    const bool isForced = call.isSet(u"force"_s);
+    const bool isTrial = call.isSet(u"dry-run"_s);
+    const Report report(import);
+    QStringList problems = import.invalidValues();
+    const bool isDone = (problems.isEmpty() || isForced) && edit(file.project(), import, problems);
+    complain(problems, call);
+    if (!isDone || (!problems.isEmpty() && !isForced)) {
+        return call.failed(
+            u"\"%1\" stays as it is. Mend the table, or take it over with --force."_s.arg(file.path()),
+            ExitCode::Problems);
+    }
+    const bool isWritten = !isTrial && !report.isEmpty();
+    const ExitCode code = isWritten ? save(file, call) : ExitCode::Done;
+    if (code == ExitCode::Done) {
+        print(report, isWritten, call);
+    }
+    return code;
+}
+
+ExitCode run(const Call &call)
+{
+    if (call.argument(0) != "variables"_L1) {
+        return call.misused(u"\"%1\" cannot be imported; there are variables."_s.arg(call.argument(0)));
+    }
+    QFile table(call.argument(2));
+    if (!table.open(QIODevice::ReadOnly)) {
+        return call.failed(
+            u"The table \"%1\" cannot be read: %2."_s.arg(call.argument(2), table.errorString()));
+    }
+    ProjectFile file;
+    if (!file.open(call, 1)) {
+        return ExitCode::File;
+    }
+    VariableImport import(table.readAll(), file.project());
+    if (complain(import.problems(), call)) {
+        return call.failed(u"\"%1\" stays as it is. Mend the table."_s.arg(file.path()), ExitCode::Problems);
+    }
+    return take(file, import, call);
+}
+
+QList<QCommandLineOption> options()
+{
+    return {QCommandLineOption({u"n"_s, u"dry-run"_s}, u"Write nothing; tell what would change."_s),
+            QCommandLineOption(u"force"_s, u"Take values that are not valid, and write even though parts of "
+                                           "the file are lost."_s)};
+}
+
+} // namespace
+
+const Verb importVerb{
+    .name = "import",
+    .arguments = "variables FILE CSV",
+    .summary = "take over a table of variables",
+    .details =
+        [] {
+            return u"Reads a table as \"corvex export variables\" prints it, changes the variables that it "
+                   "names\n"
+                   "and adds those that are new, all or nothing, and prints each value that it changed. "
+                   "Columns may\n"
+                   "be left out, all but \"name\"; an empty field is the default. Variables that the table "
+                   "does not\n"
+                   "name stay as they are."_s;
+        },
+    .example = "corvex import --dry-run variables examples/PumpStation/PumpStation.kdproj variables.csv",
+    .fewestArguments = 3,
+    .mostArguments = 3,
+    .opensProjects = true,
+    .options = options,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/ModelCommand.h"
+
+namespace Halvane::Corvex::Designer {
+
+class VariableImport;
+
+//! Takes over a table of variables, in one step of the history: values, and variables that are new.
+class ImportVariables : public ModelCommand
+{
+public:
+    //! Takes the additions of \a import, which was made for the project whose list \a variables is.
+    ImportVariables(const SharedProperty &variables, VariableImport &import);
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/ImportVariables.h"
+#include "corvex/variables/exchange/VariableExport.h"
+#include "corvex/variables/exchange/VariableImport.h"
+
+#include "CommandFixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer::Test {
+
+namespace {
+
+class ImportVariablesTest : public CommandFixture
+{
+protected:
+    QByteArray table() const { return VariableExport::write(*project).files.constFirst().bytes; }
+
+    void set(const QString &name, const QString &id, const QString &text)
+    {
+        DesignerObject *variable = project->variables()->getListItem(name);
+        ASSERT_TRUE(variable->changePropertyValue(variable->getProperty(id), text));
+    }
+
+    //! False when the table has problems.
+    bool import(const QByteArray &csv)
+    {
+        VariableImport plan(csv, *project);
+        EXPECT_EQ(plan.invalidValues(), QStringList());
+        if (!plan.problems().isEmpty()) {
+            return false;
+        }
+        project->undoStack()->push(new ImportVariables(project->variables(), plan));
+        return true;
+    }
+};
+
+} // namespace
+
+TEST_F(ImportVariablesTest, ATableBringsEverythingBackInOneStep)
+{
+    add(project->variables(), "StringVariable", "title");
+    add(project->variables(), "CANVariable", "engine");
+    add(project->variables(), "FtpVariable", "upload");
+    set(u"title"_s, u"value"_s, u" a,\"b\"\r\n\u00e4\u20ac;"_s);
+    set(u"speed"_s, u"value"_s, u"-2.50"_s);
+    set(u"engine"_s, u"value"_s, u"key: 190; value: 1;"_s);
+    set(u"upload"_s, u"type"_s, u"SFTP"_s);
+    const QByteArray before = table();
+    EXPECT_TRUE(import(before));
+    EXPECT_EQ(project->undoStack()->index(), 1);
+    EXPECT_EQ(table(), before);
+
+    // Into a project that has two of the variables, one of them with another value.
+    for (const char *name : {"title", "engine", "upload", "history", "map1"}) {
+        delete project->takeListPropertyItem(project->variables(),
+                                             project->variables()->getListItem(QString::fromLatin1(name)));
+    }
+    set(u"speed"_s, u"value"_s, u"7"_s);
+    const QByteArray poorer = table();
+    EXPECT_TRUE(import(before));
+    EXPECT_EQ(table(), before);
+    project->undoStack()->undo();
+    EXPECT_EQ(table(), poorer);
+    project->undoStack()->redo();
+    EXPECT_EQ(table(), before);
+}
+
+TEST_F(ImportVariablesTest, TablesOfOthersMayBeShorter)
+{
+    set(u"history"_s, u"interval"_s, u"4000"_s);
+    set(u"speed"_s, u"value"_s, u"5"_s);
+    // A spreadsheet writes TRUE, another mark at the start, and other line ends; empty fields are defaults.
+    EXPECT_TRUE(import("\xef\xbb\xbfvalue,name,persistent,interval,class\n"
+                       "TRUE,on,TRUE,,\n"
+                       ",speed,FALSE,,\n"
+                       "0,history,false,,LogVariable\n"
+                       "1.5,depth,,,NumberVariable\n"));
+    const QString text = QString::fromUtf8(table());
+    EXPECT_TRUE(text.contains(u"\r\non,BooleanVariable,true,true,"_s)) << qPrintable(text);
+    EXPECT_TRUE(text.contains(u"\r\nspeed,NumberVariable,0,false,"_s));
+    EXPECT_TRUE(text.contains(u"\r\ndepth,NumberVariable,1.5,false,"_s));
+    EXPECT_EQ(project->variables()->getListItem(u"history"_s)->getProperty(u"interval")->valueString(),
+              u"5000"_s);
+}
+
+TEST_F(ImportVariablesTest, TellsWhatItCannotTake)
+{
+    const struct
+    {
+        const char *table;
+        const char *problem;
+    } cases[] = {
+        {"", "line 1: The first line has to name the columns, each once, \"name\" among them."},
+        {"value\n1\n", "line 1: The first line has to name the columns, each once, \"name\" among them."},
+        {"name,value,value\n",
+         "line 1: The first line has to name the columns, each once, \"name\" among them."},
+        {"name\n\xff\n", "line 1: The table is not in UTF-8."},
+        {"name,value\nspeed\n", "line 2: There are 1 fields for 2 columns."},
+        {"name\nspeed\nspeed\n", "line 3: \"speed\" is in line 2, too."},
+        {"name,value\nnew,1\n", "line 2: \"new\" is not in the project; a class is needed to make it."},
+        {"name,class\nnew,Rectangle\n", "line 2: \"Rectangle\" is no class of variables."},
+        {"name,class\nnew,Number\n", "line 2: \"Number\" is no class of variables."},
+        {"name,class\n,NumberVariable\n", "line 2: \"\" is no name for a variable."},
+        {"name,class\nspeed,LogVariable\n",
+         "line 2: \"speed\" is a NumberVariable and cannot become a LogVariable."},
+        {"name,interval\nhistory,soon\n", "line 2: history.interval: \"soon\" is no value for it."},
+        {"name,value\non,maybe\n", "line 2: on.value: \"maybe\" is no value for it."},
+        {"name,persistent\nhistory,true\n", "line 2: history.persistent: \"true\" is no value for it."},
+        {"name,interval\nspeed,1\n", "line 2: NumberVariable has no property \"interval\"."},
+        {"name,id\nspeed,other\n", "line 2: NumberVariable has no property \"id\"."},
+    };
+    const QByteArray before = table();
+    for (const auto &[csv, problem] : cases) {
+        EXPECT_EQ(VariableImport(csv, *project).problems(), QStringList(QString::fromLatin1(problem))) << csv;
+        EXPECT_FALSE(import(csv));
+    }
+    EXPECT_EQ(table(), before);
+    const VariableImport invalid("name,value\nspeed,16777216.0\n", *project);
+    EXPECT_EQ(invalid.problems(), QStringList());
+    EXPECT_EQ(invalid.invalidValues().size(), 1);
+}
+
+} // namespace Halvane::Corvex::Designer::Test
