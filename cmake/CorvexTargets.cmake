@@ -65,7 +65,7 @@ endfunction()
 # corvex_test(NAME SOURCES file... LINKS target...)
 #
 # One test program, test_NAME, run by CTest as one test named NAME. Its main function is
-# tests/support/main.cpp, which makes a GUI application object that needs no display.
+# tests/support/main.cpp, which makes an application object that needs no display.
 function(corvex_test name)
   cmake_parse_arguments(TEST "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(test_${name} ${TEST_SOURCES})

@@ -13,6 +13,8 @@
 #include "elements/DataLogging.h"
 #include "elements/DigitalInputOutput.h"
 #include "elements/EthernetPort.h"
+#include "elements/GraphicsImage.h"
+#include "elements/GraphicsText.h"
 #include "elements/I2CBus.h"
 #include "elements/Image.h"
 #include "elements/LogicBuilder.h"
@@ -95,9 +97,12 @@ DesignerObject *ElementsFactory::createObject(const QString &className, QObject 
     return entry == std::end(elementClasses) ? nullptr : entry->make(parent);
 }
 
-GraphicsItem *ElementsFactory::createGraphicsItem(const QString &, DesignerObject *)
+GraphicsItem *ElementsFactory::createGraphicsItem(const QString &className, DesignerObject *object)
 {
-    return nullptr;
+    if (className == GraphicsText::kindName()) {
+        return new GraphicsText(object);
+    }
+    return className == GraphicsImage::kindName() ? new GraphicsImage(object) : nullptr;
 }
 
 PropertyEditor *ElementsFactory::createEditor(const QString &, QWidget *)
@@ -150,7 +155,7 @@ QStringList ElementsFactory::creatableNames() const
 
 QStringList ElementsFactory::graphicsItemNames() const
 {
-    return {};
+    return {GraphicsImage::kindName(), GraphicsText::kindName()};
 }
 
 QStringList ElementsFactory::editorNames() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "elements/Image.h"
 
+#include "corvex/core/DesignerFactory.h"
 #include "corvex/core/properties/BooleanProperty.h"
 #include "corvex/core/properties/SizeProperty.h"
 #include "corvex/project/ImageResource.h"
@@ -10,6 +11,7 @@
 #include "elements/Statements.h"
 #include "elements/Validators.h"
 
+using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
 namespace Halvane::Corvex::Elements {
@@ -59,6 +61,11 @@ void Image::showResource()
     if (m_resource) {
         m_resource->linkElement(this);
     }
+}
+
+ObjectView *Image::createGraphicsItem()
+{
+    return DesignerFactory::createObjectView(u"GraphicsImage"_s, this);
 }
 
 RuntimePropertyList Image::runtimeProperties() const

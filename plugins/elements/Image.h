@@ -23,6 +23,7 @@ public:
 
 protected:
     using StandardVisual::StandardVisual;
+    Designer::ObjectView *createGraphicsItem() override;
     bool initializeProperties() override;
     void afterPropertyChanged(const Designer::DesignerProperty *property,
                               const QString &previousValue) override;

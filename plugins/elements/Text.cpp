@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "elements/Text.h"
 
+#include "corvex/core/DesignerFactory.h"
 #include "corvex/core/QmlText.h"
 #include "corvex/core/properties/ColorProperty.h"
 #include "corvex/core/properties/EnumProperty.h"
@@ -55,6 +56,11 @@ bool Text::initializeProperties()
             .qml(&alignmentToQml),
     };
     return StandardVisual::initializeProperties() && addProperties(table);
+}
+
+ObjectView *Text::createGraphicsItem()
+{
+    return DesignerFactory::createObjectView(u"GraphicsText"_s, this);
 }
 
 RuntimePropertyList Text::runtimeProperties() const

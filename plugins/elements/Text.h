@@ -30,6 +30,7 @@ public:
 
 protected:
     using StandardVisual::StandardVisual;
+    Designer::ObjectView *createGraphicsItem() override;
     bool initializeProperties() override;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <QGuiApplication>
+#include <QApplication>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ extern "C" const char *__lsan_default_options()
 }
 #endif
 
-//! Runs all tests of a program under one GUI application object on Qt's offscreen platform, so that fonts and
+//! Runs all tests of a program under one application object on Qt's offscreen platform, so that fonts and
 //! images work on a machine without a display.
 int main(int argc, char **argv)
 {
@@ -27,6 +27,6 @@ int main(int argc, char **argv)
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(home.path()));
     qputenv("LC_ALL", "C.UTF-8");
     testing::InitGoogleTest(&argc, argv);
-    QGuiApplication application(argc, argv);
+    QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -9,6 +9,8 @@
 
 namespace Halvane::Corvex::Designer {
 
+class ObjectView;
+
 /*! Creates everything that goes by a class name, through the factory that registered the name: the one of the
     library and those of the plug-ins. One per process, a child of the application object. */
 class DesignerFactory : public QObject
@@ -36,7 +38,11 @@ public:
     /*! A new, initialised object; null with a warning when that fails. Without \a parent the application
        object is the parent, until the object enters a model. */
     DesignerObject *createObject(const QString &className, QObject *parent = nullptr) const;
+    //! A canvas item that is not initialised yet; null when the name is none or there is no object.
     GraphicsItem *createGraphicsItem(const QString &className, DesignerObject *object) const;
+    /*! A canvas item for an object, initialised, as the object itself sees it; null without a factory too.
+        What DesignerObject::createGraphicsItem() answers. */
+    static ObjectView *createObjectView(const QString &className, DesignerObject *object);
     PropertyEditor *createEditor(const QString &editorName, QWidget *parent = nullptr) const;
     Template *createTemplate(const QString &className, QObject *parent = nullptr) const;
     Wizard *createWizard(const QString &wizardName) const;

@@ -22,6 +22,9 @@ DesignerObject::DesignerObject(QObject *parent)
 
 void DesignerObject::deleteChildren()
 {
+    if (ObjectView *view = std::exchange(d->view, nullptr)) {
+        view->objectGone();
+    }
     for (const SharedProperty &property : std::as_const(d->properties)) {
         qDeleteAll(property->releaseChildren());
     }

@@ -364,6 +364,9 @@ bool DesignerObject::swapListPropertyItems(const SharedProperty &property, Desig
     if (!property || property->parentObject() != this || !property->swapItems(first, second)) {
         return false;
     }
+    if (d->view) {
+        d->view->orderGraphicsItemChildren(property);
+    }
     revalidate(property);
     afterListPropertyChanged();
     emit listItemsSwapped(property, first, second);

@@ -21,6 +21,10 @@ public:
                                       DesignerObject *child) = 0;
     virtual void removeGraphicsItemChild(const QSharedPointer<DesignerProperty> &property,
                                          DesignerObject *child) = 0;
+    //! Children of a list have changed places.
+    virtual void orderGraphicsItemChildren(const QSharedPointer<DesignerProperty> &property) = 0;
+    //! The object is being deleted, and what shows it goes with it.
+    virtual void objectGone() = 0;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -3,6 +3,8 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
+#include "corvex/editing/graphics/GraphicsItemGroup.h"
+#include "corvex/editing/graphics/GraphicsRectangle.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/FilterElement.h"
@@ -203,9 +205,12 @@ DesignerObject *CoreFactory::createObject(const QString &className, QObject *par
     return make ? make(parent) : nullptr;
 }
 
-GraphicsItem *CoreFactory::createGraphicsItem(const QString &, DesignerObject *)
+GraphicsItem *CoreFactory::createGraphicsItem(const QString &className, DesignerObject *object)
 {
-    return nullptr;
+    if (className == GraphicsRectangle::kindName()) {
+        return new GraphicsRectangle(object);
+    }
+    return className == GraphicsItemGroup::kindName() ? new GraphicsItemGroup(object) : nullptr;
 }
 
 PropertyEditor *CoreFactory::createEditor(const QString &, QWidget *)
@@ -263,7 +268,7 @@ QStringList CoreFactory::creatableNames() const
 
 QStringList CoreFactory::graphicsItemNames() const
 {
-    return {u"GraphicsItemGroup"_s, u"GraphicsRectangle"_s};
+    return {GraphicsItemGroup::kindName(), GraphicsRectangle::kindName()};
 }
 
 QStringList CoreFactory::editorNames() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/project/GroupElement.h"
 
+#include "corvex/core/DesignerFactory.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/PropertyValidators.h"
 #include "corvex/core/properties/ListValueProperty.h"
@@ -30,6 +31,11 @@ bool GroupElement::initializeProperties()
             .allowInvalid(),
     };
     return VisualElement::initializeProperties() && addProperties(table);
+}
+
+ObjectView *GroupElement::createGraphicsItem()
+{
+    return DesignerFactory::createObjectView(u"GraphicsItemGroup"_s, this);
 }
 
 QStringList GroupElement::childrenNames() const

@@ -34,6 +34,7 @@ public:
 
 protected:
     using VisualElement::VisualElement;
+    ObjectView *createGraphicsItem() override;
     bool initializeProperties() override;
 };
 

@@ -106,7 +106,7 @@ bool Screen::initializeProperties()
 
 ObjectView *Screen::createGraphicsItem()
 {
-    return nullptr;
+    return DesignerFactory::createObjectView(u"GraphicsRectangle"_s, this);
 }
 
 void Screen::setProject(Project *newProject)

@@ -2,6 +2,7 @@
 #include "corvex/project/VisualElement.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/DesignerFactory.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/QmlText.h"
 #include "corvex/core/properties/BooleanProperty.h"
@@ -88,6 +89,11 @@ bool VisualElement::initializeProperties()
             .tooltip("When set to invisible the visual element will become unclickable."),
     };
     return Element::initializeProperties() && addProperties(table);
+}
+
+ObjectView *VisualElement::createGraphicsItem()
+{
+    return DesignerFactory::createObjectView(u"GraphicsRectangle"_s, this);
 }
 
 QRectF VisualElement::boundingRect() const

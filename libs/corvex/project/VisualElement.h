@@ -21,6 +21,8 @@ public:
 
 protected:
     using Element::Element;
+    //! A rectangle; those that look different say so.
+    ObjectView *createGraphicsItem() override;
     bool initializeProperties() override;
 };
 

@@ -1,0 +1,348 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/graphics/GraphicsItem.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/properties/TransformOriginProperty.h"
+#include "corvex/editing/commands/ChangeProperty.h"
+#include "corvex/editing/graphics/FramePoint.h"
+#include "corvex/values/ValueConversion.h"
+
+#include <QGraphicsItem>
+#include <QGraphicsScene>
+#include <QGraphicsView>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! Where a graphic keeps its GraphicsItem.
+constexpr int itemKey = 0;
+constexpr double handleZone = 5;
+
+bool isStored(const DesignerObject *object, QStringView id)
+{
+    const SharedProperty property = object ? object->getProperty(id) : SharedProperty();
+    return property && property->hasFlag(StoredFlag);
+}
+
+//! How the properties that all elements have show on the canvas. The model counts in per cent.
+constexpr struct
+{
+    QLatin1StringView id;
+    void (*show)(QGraphicsItem &graphic, const QString &value);
+} shownProperties[] = {
+    {"position"_L1,
+     [](QGraphicsItem &graphic, const QString &value) { graphic.setPos(ValueConversion::toPoint(value)); }},
+    {"rotation"_L1, [](QGraphicsItem &graphic,
+                       const QString &value) { graphic.setRotation(ValueConversion::toReal(value)); }},
+    {"scale"_L1, [](QGraphicsItem &graphic,
+                    const QString &value) { graphic.setScale(ValueConversion::toReal(value) / 100); }},
+    {"opacity"_L1, [](QGraphicsItem &graphic,
+                      const QString &value) { graphic.setOpacity(ValueConversion::toReal(value) / 100); }},
+    {"z"_L1,
+     [](QGraphicsItem &graphic, const QString &value) { graphic.setZValue(ValueConversion::toReal(value)); }},
+    {"visible"_L1, [](QGraphicsItem &graphic,
+                      const QString &value) { graphic.setVisible(ValueConversion::toBoolean(value)); }},
+};
+
+void resizeAt(QQuickItem::TransformOrigin handle, const QRectF &rect, const QPointF &point, QSizeF &size,
+              QPointF &position, double minimum)
+{
+    const FramePoint &framePoint = FramePoint::of(handle);
+    size = framePoint.sizeAt(rect, point, minimum);
+    position = framePoint.topLeftAt(rect, size);
+}
+
+} // namespace
+
+GraphicsItem::GraphicsItem(DesignerObject *dataObject, QGraphicsItem *graphic)
+    : m_dataObject(dataObject)
+    , m_graphic(graphic)
+    , m_isResizable(isStored(dataObject, u"size"))
+    , m_isRotatable(isStored(dataObject, u"rotation"))
+    , m_isScalable(isStored(dataObject, u"scale"))
+{
+    if (m_graphic) {
+        m_graphic->setData(itemKey, QVariant::fromValue(quintptr(this)));
+        m_graphic->setFlag(QGraphicsItem::ItemIsSelectable, isStored(dataObject, u"position"));
+    }
+}
+
+GraphicsItem::~GraphicsItem()
+{
+    if (m_dataObject && m_dataObject->graphicsItem() == this) {
+        m_dataObject->resetGraphicsItem();
+    }
+}
+
+GraphicsItem *GraphicsItem::of(const DesignerObject *object)
+{
+    ObjectView *view = object ? object->graphicsItem() : nullptr;
+    return view && view->isKindOfClass(kindName()) ? static_cast<GraphicsItem *>(view) : nullptr;
+}
+
+GraphicsItem *GraphicsItem::of(const QGraphicsItem *graphic)
+{
+    return graphic ? reinterpret_cast<GraphicsItem *>(graphic->data(itemKey).value<quintptr>()) : nullptr;
+}
+
+bool GraphicsItem::initialize()
+{
+    if (!m_dataObject || !m_graphic) {
+        return false;
+    }
+    readDataObject();
+    for (const SharedProperty &property : m_dataObject->properties()) {
+        if (!property->isList()) {
+            continue;
+        }
+        for (DesignerObject *child : property->listItems()) {
+            child->setGraphicsItem();
+            if (const GraphicsItem *item = of(child)) {
+                item->graphic()->setParentItem(m_graphic);
+            }
+        }
+    }
+    childrenChanged();
+    return true;
+}
+
+void GraphicsItem::readDataObject()
+{
+    if (!m_dataObject) {
+        return;
+    }
+    for (const SharedProperty &property : m_dataObject->properties()) {
+        updateGraphicsItem(property);
+    }
+    for (const QGraphicsItem *child : m_graphic->childItems()) {
+        if (GraphicsItem *item = of(child)) {
+            item->readDataObject();
+        }
+    }
+}
+
+void GraphicsItem::updateTransformOriginPoint()
+{
+    m_graphic->setTransformOriginPoint(FramePoint::of(m_transformOrigin).in(frame()));
+}
+
+QRectF GraphicsItem::frame() const
+{
+    return m_graphic ? m_graphic->boundingRect() : QRectF();
+}
+
+QPainterPath GraphicsItem::getShape() const
+{
+    QPainterPath path;
+    path.addRect(frame());
+    return path;
+}
+
+QPainterPath GraphicsItem::screenShape() const
+{
+    return m_graphic ? m_graphic->mapToScene(getShape()) : getShape();
+}
+
+double GraphicsItem::detectionWidth() const
+{
+    const QGraphicsScene *scene = m_graphic ? m_graphic->scene() : nullptr;
+    const QList<QGraphicsView *> views = scene ? scene->views() : QList<QGraphicsView *>();
+    const double scale = views.size() == 1 ? views.constFirst()->transform().m11() : 1;
+    return scale > 1 ? handleZone / scale : handleZone;
+}
+
+int GraphicsItem::getResizePointHandle(const QPointF &, bool *found) const
+{
+    if (found) {
+        *found = false;
+    }
+    return 0;
+}
+
+QQuickItem::TransformOrigin GraphicsItem::getResizeHandle(const QPointF &, bool *found) const
+{
+    if (found) {
+        *found = false;
+    }
+    return QQuickItem::Center;
+}
+
+void GraphicsItem::resizeByMouse(QQuickItem::TransformOrigin, const QSizeF &, const QPointF &) { }
+
+void GraphicsItem::resizeByMouse(int, const QPointF &) { }
+
+void GraphicsItem::rotateByMouse(double) { }
+
+bool GraphicsItem::keepsRatio() const
+{
+    const SharedProperty property = m_dataObject ? m_dataObject->getProperty(u"keepRatio") : SharedProperty();
+    return m_isRatioForced || (property && ValueConversion::toBoolean(property->valueString()));
+}
+
+QString GraphicsItem::shownValue(QStringView id) const
+{
+    if (id == "position"_L1) {
+        return ValueConversion::toString(m_graphic->pos());
+    }
+    return id == "rotation"_L1 ? ValueConversion::toString(m_graphic->rotation()) : QString();
+}
+
+UndoCommand *GraphicsItem::updateDataObject(const SharedProperty &property, UndoCommand *parent)
+{
+    const QString value = property && m_graphic ? shownValue(property->id()) : QString();
+    if (value.isNull() || property->equalsValue(value)) {
+        return nullptr;
+    }
+    return new ChangeProperty(property, value, true, parent);
+}
+
+void GraphicsItem::updateResizedDataObjects(int handle, UndoCommand *parent)
+{
+    if (!m_dataObject || !m_graphic) {
+        return;
+    }
+    updateDataObject(m_dataObject->getProperty(u"position"), parent);
+    updateDataObject(m_dataObject->getProperty(u"size"), parent);
+    for (const QGraphicsItem *child : m_graphic->childItems()) {
+        if (GraphicsItem *item = of(child)) {
+            item->updateResizedDataObjects(handle, parent);
+        }
+    }
+}
+
+void GraphicsItem::updateGraphicsItem(const SharedProperty &property)
+{
+    if (!property || !m_graphic) {
+        return;
+    }
+    const QString id = property->id();
+    if (id == "transformOrigin"_L1) {
+        m_transformOrigin = TransformOriginProperty::stringToEnum(property->valueString());
+        updateTransformOriginPoint();
+        tellParent();
+        return;
+    }
+    const auto *const shown =
+        std::ranges::find_if(shownProperties, [&](const auto &row) { return row.id == id; });
+    if (shown != std::end(shownProperties)) {
+        shown->show(*m_graphic, property->valueString());
+        tellParent();
+    }
+}
+
+void GraphicsItem::tellParent() const
+{
+    if (GraphicsItem *parent = of(m_graphic->parentItem())) {
+        parent->childrenChanged();
+    }
+}
+
+void GraphicsItem::addGraphicsItemChild(const SharedProperty &property, DesignerObject *child)
+{
+    const GraphicsItem *item = of(child);
+    if (!property || !item || !m_graphic) {
+        return;
+    }
+    item->graphic()->setParentItem(m_graphic);
+    // Now it is the topmost; most children come in at the end of the list, so it is searched from there.
+    const QList<DesignerObject *> siblings = property->listItems();
+    const GraphicsItem *next = nullptr;
+    for (auto sibling = siblings.crbegin(); sibling != siblings.crend() && *sibling != child; ++sibling) {
+        if (const GraphicsItem *shown = of(*sibling)) {
+            next = shown;
+        }
+    }
+    if (next) {
+        item->graphic()->stackBefore(next->graphic());
+    }
+    childrenChanged();
+}
+
+void GraphicsItem::removeGraphicsItemChild(const SharedProperty &, DesignerObject *child)
+{
+    delete of(child);
+    childrenChanged();
+}
+
+void GraphicsItem::orderGraphicsItemChildren(const SharedProperty &property)
+{
+    const QList<DesignerObject *> children = property ? property->listItems() : QList<DesignerObject *>();
+    const QGraphicsItem *next = nullptr;
+    for (auto child = children.crbegin(); child != children.crend(); ++child) {
+        if (const GraphicsItem *item = of(*child)) {
+            if (next) {
+                item->graphic()->stackBefore(next);
+            }
+            next = item->graphic();
+        }
+    }
+}
+
+void GraphicsItem::objectGone()
+{
+    GraphicsItem *parent = m_graphic ? of(m_graphic->parentItem()) : nullptr;
+    delete this;
+    if (parent) {
+        parent->childrenChanged();
+    }
+}
+
+void GraphicsItem::resizeTopLeft(const QRectF &rect, const QPointF &point, QSizeF &size, QPointF &position,
+                                 double minimum)
+{
+    resizeAt(QQuickItem::TopLeft, rect, point, size, position, minimum);
+}
+
+void GraphicsItem::resizeTop(const QRectF &rect, const QPointF &point, QSizeF &size, QPointF &position,
+                             double minimum)
+{
+    resizeAt(QQuickItem::Top, rect, point, size, position, minimum);
+}
+
+void GraphicsItem::resizeTopRight(const QRectF &rect, const QPointF &point, QSizeF &size, QPointF &position,
+                                  double minimum)
+{
+    resizeAt(QQuickItem::TopRight, rect, point, size, position, minimum);
+}
+
+void GraphicsItem::resizeRight(const QRectF &rect, const QPointF &point, QSizeF &size, QPointF &position,
+                               double minimum)
+{
+    resizeAt(QQuickItem::Right, rect, point, size, position, minimum);
+}
+
+void GraphicsItem::resizeBottomRight(const QRectF &rect, const QPointF &point, QSizeF &size,
+                                     QPointF &position, double minimum)
+{
+    resizeAt(QQuickItem::BottomRight, rect, point, size, position, minimum);
+}
+
+void GraphicsItem::resizeBottom(const QRectF &rect, const QPointF &point, QSizeF &size, QPointF &position,
+                                double minimum)
+{
+    resizeAt(QQuickItem::Bottom, rect, point, size, position, minimum);
+}
+
+void GraphicsItem::resizeBottomLeft(const QRectF &rect, const QPointF &point, QSizeF &size, QPointF &position,
+                                    double minimum)
+{
+    resizeAt(QQuickItem::BottomLeft, rect, point, size, position, minimum);
+}
+
+void GraphicsItem::resizeLeft(const QRectF &rect, const QPointF &point, QSizeF &size, QPointF &position,
+                              double minimum)
+{
+    resizeAt(QQuickItem::Left, rect, point, size, position, minimum);
+}
+
+ObjectView *DesignerFactory::createObjectView(const QString &className, DesignerObject *object)
+{
+    std::unique_ptr<GraphicsItem> item(instance() ? instance()->createGraphicsItem(className, object)
+                                                  : nullptr);
+    return item && item->initialize() ? item.release() : nullptr;
+}
+
+} // namespace Halvane::Corvex::Designer

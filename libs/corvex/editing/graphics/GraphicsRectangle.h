@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/graphics/FramedItem.h"
+#include "corvex/values/BorderInfo.h"
+
+#include <QColor>
+#include <QGraphicsItem>
+
+namespace Halvane::Corvex::Designer {
+
+/*! A rectangle with a colour, a border within its edges and round corners, as far as the object has such
+    properties. An element that has neither colour nor border is outlined, so that it can be seen. */
+class GraphicsRectangle
+    : public QGraphicsItem
+    , public FramedItem
+{
+    CORVEX_CLASS_NAMES(GraphicsRectangle, FramedItem)
+
+public:
+    explicit GraphicsRectangle(DesignerObject *dataObject);
+
+    QRectF frame() const override { return QRectF(QPointF(), m_size); }
+    void setFrameSize(const QSizeF &size) override;
+    //! There is always room for the border on both sides.
+    double minSize() const override;
+    void updateGraphicsItem(const SharedProperty &property) override;
+
+    QRectF boundingRect() const override { return frame(); }
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+protected:
+    QSizeF proportions() const override { return m_proportions; }
+    QString shownValue(QStringView id) const override;
+
+private:
+    void updateAspectRatio();
+    void paintSquare(QPainter &painter) const;
+    void paintRound(QPainter &painter) const;
+
+    QSizeF m_size;
+    QSizeF m_proportions; //!< the size in the model
+    QColor m_color = Qt::transparent;
+    BorderInfo m_border;
+    double m_radius = 0;
+    bool m_hasLook = false;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/graphics/SelectionOutline.h"
+
+#include "corvex/editing/graphics/FramedItem.h"
+
+#include <QPainter>
+
+#include <limits>
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+constexpr QColor outlineColor(0, 90, 200);
+//! How far handles and grip reach beyond a frame, in the coordinates of the scene.
+constexpr double reach = 28;
+
+} // namespace
+
+SelectionOutline::SelectionOutline()
+{
+    setZValue(std::numeric_limits<double>::max());
+}
+
+void SelectionOutline::follow(const QList<FramedItem *> &items)
+{
+    QRectF bounds;
+    for (const FramedItem *item : items) {
+        bounds |= item->graphic()->mapRectToScene(item->frame());
+    }
+    prepareGeometryChange();
+    m_items = items;
+    m_bounds = items.isEmpty() ? QRectF() : bounds.adjusted(-reach, -reach, reach, reach);
+}
+
+void SelectionOutline::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
+{
+    painter->setPen(QPen(outlineColor, 0));
+    for (const FramedItem *item : std::as_const(m_items)) {
+        painter->setBrush(Qt::NoBrush);
+        painter->drawPolygon(item->graphic()->mapToScene(item->frame()));
+    }
+    if (m_items.size() == 1) {
+        paintHandles(*painter, *m_items.constFirst());
+    }
+}
+
+void SelectionOutline::paintHandles(QPainter &painter, const FramedItem &item)
+{
+    const double half = item.detectionWidth() / 2;
+    painter.setBrush(Qt::white);
+    if (item.isRotatable()) {
+        painter.drawLine(item.handlePoint(QQuickItem::Top), item.rotationGrip());
+        painter.drawEllipse(item.rotationGrip(), half, half);
+    }
+    if (item.isResizable()) {
+        for (const QQuickItem::TransformOrigin handle : item.shownHandles()) {
+            const QPointF middle = item.handlePoint(handle);
+            painter.drawRect(QRectF(middle - QPointF(half, half), middle + QPointF(half, half)));
+        }
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

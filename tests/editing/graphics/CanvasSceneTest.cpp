@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/graphics/CanvasScene.h"
+#include "corvex/editing/undo/UndoStack.h"
+
+#include "CanvasFixture.h"
+
+#include <QGraphicsView>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! A canvas in a view that no display shows, with a mouse.
+class CanvasSceneTest : public Test::CanvasFixture
+{
+protected:
+    CanvasSceneTest()
+        : box(add(screen, "Rectangle", "box", {50, 50, 100, 60}))
+    {
+        set(box, "border", u"color: #FF000000; width: 1;"_s);
+    }
+
+    void show(double scale = 1)
+    {
+        scene = std::make_unique<CanvasScene>(screen);
+        view = std::make_unique<QGraphicsView>(scene.get());
+        view->setSceneRect(0, 0, 500, 300);
+        view->resize(int(540 * scale), int(340 * scale));
+        view->scale(scale, scale);
+        view->show();
+    }
+    QPoint at(const QPointF &point) const { return view->mapFromScene(point); }
+    void press(const QPointF &point, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::mousePress(view->viewport(), Qt::LeftButton, modifiers, at(point));
+    }
+    void moveTo(const QPointF &point, Qt::KeyboardModifiers modifiers = {})
+    {
+        QMouseEvent event(QEvent::MouseMove, at(point), view->viewport()->mapToGlobal(at(point)),
+                          Qt::NoButton, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(view->viewport(), &event);
+    }
+    void release(const QPointF &point)
+    {
+        QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, at(point));
+    }
+    void drag(const QPointF &from, const QPointF &to, Qt::KeyboardModifiers modifiers = {})
+    {
+        press(from);
+        moveTo((from + to) / 2, modifiers);
+        moveTo(to, modifiers);
+        release(to);
+    }
+    QString placeOf(const DesignerObject *object) const
+    {
+        return u"%1 %2 %3"_s.arg(valueOf(object, "position"), valueOf(object, "size"),
+                                 valueOf(object, "rotation"));
+    }
+
+    DesignerObject *box;
+    std::unique_ptr<CanvasScene> scene;
+    std::unique_ptr<QGraphicsView> view;
+};
+
+} // namespace
+
+TEST_F(CanvasSceneTest, EachGestureIsOneCommand)
+{
+    constexpr struct
+    {
+        const char *what;
+        QPointF from;
+        QPointF to;
+        Qt::KeyboardModifier modifier;
+        const char *place;
+        const char *text;
+    } cases[] = {
+        {"move",
+         {100, 80},
+         {130, 60},
+         Qt::NoModifier,
+         "x: 80; y: 30; height: 60; width: 100; 0",
+         "Move \"box\""},
+        {"right",
+         {150, 80},
+         {190, 10},
+         Qt::NoModifier,
+         "x: 50; y: 50; height: 60; width: 140; 0",
+         "Resize \"box\""},
+        {"top left",
+         {50, 50},
+         {149, 109},
+         Qt::NoModifier,
+         "x: 148; y: 108; height: 2; width: 2; 0",
+         "Resize \"box\""},
+        {"in proportion",
+         {150, 110},
+         {250, 120},
+         Qt::ShiftModifier,
+         "x: 50; y: 50; height: 120; width: 200; 0",
+         "Resize \"box\""},
+        {"turn",
+         {100, 30},
+         {180, 80},
+         Qt::NoModifier,
+         "x: 50; y: 50; height: 60; width: 100; 90",
+         "Rotate \"box\""},
+        {"turn back",
+         {100, 30},
+         {83, 31},
+         Qt::ShiftModifier,
+         "x: 50; y: 50; height: 60; width: 100; 345",
+         "Rotate \"box\""},
+    };
+    show();
+    UndoStack &stack = *project->undoStack();
+    const QString before = placeOf(box);
+    for (const auto &[what, from, to, modifier, place, text] : cases) {
+        SCOPED_TRACE(what);
+        scene->selectObjects({box});
+        press(from);
+        moveTo((from + to) / 2, modifier);
+        moveTo(to, modifier);
+        EXPECT_EQ(placeOf(box), before) << "nothing is told before the release";
+        EXPECT_EQ(stack.count(), 0);
+        release(to);
+        EXPECT_EQ(placeOf(box), QString::fromLatin1(place));
+        ASSERT_EQ(stack.count(), 1);
+        EXPECT_EQ(stack.undoText(), QString::fromLatin1(text));
+        stack.undo();
+        EXPECT_EQ(placeOf(box), before);
+        EXPECT_EQ(itemOf(box)->handlePoint(QQuickItem::BottomRight), QPointF(150, 110)) << "the item follows";
+        stack.startOver();
+    }
+}
+
+TEST_F(CanvasSceneTest, WhatChangesNothingLeavesNoCommand)
+{
+    show();
+    const QString before = placeOf(box);
+    drag({100, 80}, {102, 82}); // a click with an unsteady hand
+    EXPECT_EQ(scene->selectedObjects(), QList<DesignerObject *>{box});
+    drag({150, 80}, {150, 200}); // the right handle knows no height
+    press({100, 80});
+    moveTo({300, 200});
+    EXPECT_EQ(itemOf(box)->handlePoint(QQuickItem::TopLeft), QPointF(250, 170));
+    QTest::keyClick(view->viewport(), Qt::Key_Escape);
+    EXPECT_EQ(itemOf(box)->handlePoint(QQuickItem::TopLeft), QPointF(50, 50));
+    EXPECT_FALSE(scene->isGestureActive());
+    moveTo({400, 200});
+    release({400, 200});
+    EXPECT_EQ(placeOf(box), before);
+    EXPECT_EQ(project->undoStack()->count(), 0);
+
+    press({100, 80});
+    moveTo({300, 200});
+    delete screen->takeListPropertyItem(screen->elements(), box);
+    moveTo({310, 200});
+    release({310, 200});
+    EXPECT_EQ(project->undoStack()->count(), 0) << "its element went during the gesture";
+    EXPECT_TRUE(scene->selectedObjects().isEmpty());
+}
+
+TEST_F(CanvasSceneTest, HandlesAreFoundInAMagnifiedViewOfATurnedElement)
+{
+    set(box, "rotation", u"90"_s);
+    show(2);
+    scene->selectObjects({box});
+    const FramedItem *item = itemOf(box);
+    const QPointF handle = item->handlePoint(QQuickItem::Right); // below the box as it is turned
+    EXPECT_EQ(handle, QPointF(100, 130));
+    EXPECT_EQ(scene->cursorAt(handle), Qt::SizeVerCursor);
+    EXPECT_EQ(scene->cursorAt(handle - QPointF(0, 2)), Qt::SizeAllCursor);
+    EXPECT_EQ(scene->cursorAt({300, 200}), Qt::ArrowCursor);
+    const QPointF fixed = item->handlePoint(QQuickItem::Left);
+    drag(handle, handle + QPointF(0, 40));
+    EXPECT_EQ(item->handlePoint(QQuickItem::Left), fixed);
+    EXPECT_EQ(placeOf(box), u"x: 30; y: 70; height: 60; width: 140; 90"_s);
+}
+
+TEST_F(CanvasSceneTest, GroupsAreSelectedAndResizedAsAWholeAndEnteredByADoubleClick)
+{
+    DesignerObject *group = add(screen, "GroupElement", "group", {200, 100, 0, 0});
+    DesignerObject *left = add(group, "Rectangle", "left", {0, 0, 40, 40});
+    DesignerObject *right = add(group, "Rectangle", "right", {60, 20, 40, 40});
+    show();
+    UndoStack &stack = *project->undoStack();
+    const QPointF inLeft(210, 110);
+    press(inLeft);
+    release(inLeft);
+    EXPECT_EQ(scene->selectedObjects(), QList<DesignerObject *>{group});
+    const QString before = placeOf(left) + placeOf(right) + valueOf(group, "position");
+    drag({200, 100}, {100, 40});
+    EXPECT_EQ(valueOf(group, "position"), u"x: 100; y: 40;"_s);
+    EXPECT_EQ(placeOf(left), u"x: 0; y: 0; height: 80; width: 80; 0"_s);
+    EXPECT_EQ(placeOf(right), u"x: 120; y: 40; height: 80; width: 80; 0"_s);
+    ASSERT_EQ(stack.count(), 1);
+    stack.undo();
+    EXPECT_EQ(placeOf(left) + placeOf(right) + valueOf(group, "position"), before);
+
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at(inLeft));
+    release(inLeft);
+    EXPECT_EQ(scene->selectedObjects(), QList<DesignerObject *>{left});
+    drag(inLeft, inLeft + QPointF(15, 10));
+    EXPECT_EQ(placeOf(left), u"x: 15; y: 10; height: 40; width: 40; 0"_s);
+    scene->selectObjects({left, group});
+    EXPECT_EQ(scene->selectedObjects(), QList<DesignerObject *>{group}) << "nothing is moved twice";
+}
+
+TEST_F(CanvasSceneTest, SeveralElementsAreSelectedAndMovedTogether)
+{
+    DesignerObject *other = add(screen, "Text", "title", {300, 200, 50, 20});
+    show();
+    drag({20, 20}, {320, 210});
+    EXPECT_EQ(scene->selectedObjects().size(), 2) << "touched by the rectangle";
+    drag({100, 80}, {120, 90});
+    EXPECT_EQ(valueOf(box, "position"), u"x: 70; y: 60;"_s);
+    EXPECT_EQ(valueOf(other, "position"), u"x: 320; y: 210;"_s);
+    EXPECT_EQ(project->undoStack()->undoText(), u"Move 2 elements"_s);
+    press({330, 215}, Qt::ControlModifier);
+    release({330, 215});
+    EXPECT_EQ(scene->selectedObjects(), QList<DesignerObject *>{box});
+    press({450, 20});
+    release({450, 20});
+    EXPECT_TRUE(scene->selectedObjects().isEmpty());
+    scene->selectObjects({box, other});
+    project.reset();
+    EXPECT_TRUE(scene->selectedObjects().isEmpty());
+    press({100, 80});
+    moveTo({200, 80});
+    release({200, 80});
+}
+
+} // namespace Halvane::Corvex::Designer
