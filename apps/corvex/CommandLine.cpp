@@ -5,7 +5,10 @@
 #include "Terminal.h"
 #include "Verb.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QFile>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -49,15 +52,32 @@ ExitCode run(const QStringList &arguments, Terminal &terminal)
     return verb->run(call);
 }
 
+//! Most verbs start at once since they do without fonts; those that draw do so without a display.
+std::unique_ptr<QCoreApplication> makeApplication(const QString &verbName, int &argc, char **argv)
+{
+    const Verb *verb = findVerb(verbName);
+    if (verb && verb->draws) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return std::make_unique<QApplication>(argc, argv);
+    }
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
 } // namespace
 
 } // namespace Halvane::Corvex::Tool
 
-//! What the program calls, once there is an application object.
-extern "C" Q_DECL_EXPORT int corvexRun()
+//! What the program calls, with all its arguments, its own name among them.
+extern "C" Q_DECL_EXPORT int corvexRun(const QStringList &commandLine)
 {
     using namespace Halvane::Corvex::Tool;
+    const QStringList arguments = commandLine.mid(1);
+    // The application object sees none of the arguments: Qt would take some for its own.
+    QByteArray program = QFile::encodeName(commandLine.value(0));
+    char *argv[] = {program.data(), nullptr};
+    int argc = 1;
+    const std::unique_ptr<QCoreApplication> application = makeApplication(arguments.value(0), argc, argv);
     Terminal terminal;
-    const ExitCode code = run(QCoreApplication::arguments().mid(1), terminal);
+    const ExitCode code = run(arguments, terminal);
     return int(terminal.finish() ? code : ExitCode::File);
 }

@@ -23,6 +23,7 @@ struct Verb
     int fewestArguments = 1;
     int mostArguments = 1;
     bool opensProjects = false; //!< takes --plugins and --configurations
+    bool draws = false;         //!< needs an application object that knows fonts and pictures
     //! Beside those that all verbs have; may be null.
     QList<QCommandLineOption> (*options)() = nullptr;
     ExitCode (*run)(const Call &call); //!< onProject<> for a verb whose first argument is a project's file
@@ -39,6 +40,7 @@ extern const Verb importVerb;
 extern const Verb infoVerb;
 extern const Verb newVerb;
 extern const Verb previewVerb;
+extern const Verb renderVerb;
 extern const Verb treeVerb;
 extern const Verb usesVerb;
 extern const Verb valueVerb;

@@ -2,6 +2,7 @@
 // The program itself: it tells its version, and leaves all else to the library of verbs beside it.
 #include <QCoreApplication>
 #include <QLibrary>
+#include <QStringList>
 
 #include <csignal>
 #include <cstdio>
@@ -36,16 +37,21 @@ int main(int argc, char **argv)
         return printVersion();
     }
     qInstallMessageHandler(ignoreMessage);
-    QCoreApplication application(argc, argv);
+    QStringList arguments;
+    QLibrary verbs;
+    {
+        // Which kind of application object is needed is for the verbs to say; this one only knows the system.
+        const QCoreApplication application(argc, argv);
+        arguments = QCoreApplication::arguments();
+        verbs.setFileName(QCoreApplication::applicationDirPath() + QStringLiteral("/" CORVEX_VERBS_LIBRARY));
+    }
     QCoreApplication::setApplicationName(QStringLiteral("corvex"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVEX_VERSION));
-
-    QLibrary verbs(QCoreApplication::applicationDirPath() + QStringLiteral("/" CORVEX_VERBS_LIBRARY));
-    const auto run = reinterpret_cast<int (*)()>(verbs.resolve("corvexRun"));
+    const auto run = reinterpret_cast<int (*)(const QStringList &)>(verbs.resolve("corvexRun"));
     if (!run) {
         std::fprintf(stderr, "corvex: %s Install the program together with its libraries.\n",
                      qUtf8Printable(verbs.errorString()));
         return cannotRead;
     }
-    return run();
+    return run(arguments);
 }

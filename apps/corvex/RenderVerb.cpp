@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/properties/LinkProperty.h"
+#include "corvex/editing/graphics/CanvasScene.h"
+#include "corvex/project/Element.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+
+#include "Call.h"
+#include "Help.h"
+#include "JsonWriter.h"
+#include "ProjectFile.h"
+#include "Terminal.h"
+#include "Verb.h"
+
+#include <QImage>
+#include <QSaveFile>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+ExitCode unknownName(const Call &call, const QString &what, const QString &name, const QStringList &names)
+{
+    const QString nearest = Help::nearest(name, names);
+    return call.failed(nearest.isEmpty()
+                           ? u"There is no %1 \"%2\"."_s.arg(what, name)
+                           : u"There is no %1 \"%2\"; did you mean \"%3\"?"_s.arg(what, name, nearest),
+                       ExitCode::Usage);
+}
+
+QString screenName(const Call &call, const Project &project)
+{
+    return call.isSet(u"screen"_s)
+               ? call.value(u"screen"_s)
+               : static_cast<const LinkProperty &>(*project.defaultScreen()).value().objectId();
+}
+
+bool save(const QImage &picture, const QString &path, QString &error)
+{
+    QSaveFile file(path);
+    const bool saved = file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit();
+    error = saved ? QString() : u"\"%1\" cannot be written: %2"_s.arg(path, file.errorString());
+    return saved;
+}
+
+void report(const QString &path, const Screen &screen, const QImage &picture, const Call &call)
+{
+    if (!call.asJson()) {
+        call.terminal().print(Terminal::oneLine(u"%1: %2 x %3 pixels"_s.arg(
+            path, QString::number(picture.width()), QString::number(picture.height()))));
+        return;
+    }
+    JsonWriter json(call.terminal());
+    json.beginObject();
+    json.member("file"_L1, path);
+    json.member("screen"_L1, screen.getIdName());
+    json.name("width"_L1);
+    json.value(qint64(picture.width()));
+    json.name("height"_L1);
+    json.value(qint64(picture.height()));
+    json.endObject();
+}
+
+ExitCode run(const Call &call)
+{
+    const QString path = call.value(u"output"_s);
+    if (path.isEmpty()) {
+        return call.misused(u"The file for the picture is missing: corvex render FILE -o PNG."_s);
+    }
+    ProjectFile file;
+    if (!file.open(call)) {
+        return ExitCode::File;
+    }
+    const DesignerProperty &screens = *file.project().screens();
+    const QString name = screenName(call, file.project());
+    auto *screen = kindCast<Screen>(screens.getListItem(name));
+    if (!screen) {
+        return unknownName(call, u"screen"_s, name, screens.listItemNames());
+    }
+    Element *element = nullptr;
+    if (call.isSet(u"handles"_s)) {
+        const QString elementName = call.value(u"handles"_s);
+        element = screen->getElement(elementName);
+        if (!element) {
+            return unknownName(call, u"element"_s, elementName, screen->getElementNames());
+        }
+    }
+    call.terminal().showProgress(u"drawing %1"_s.arg(name));
+    CanvasScene scene(screen);
+    scene.selectObjects({element});
+    const QImage picture = scene.picture();
+    if (picture.isNull()) {
+        return call.failed(u"The screen \"%1\" has no area, or one too large for a picture. Mend the size in "
+                           "the project's configuration."_s.arg(name),
+                           ExitCode::Problems);
+    }
+    QString error;
+    if (!save(picture, path, error)) {
+        return call.failed(error);
+    }
+    report(path, *screen, picture, call);
+    return ExitCode::Done;
+}
+
+QList<QCommandLineOption> options()
+{
+    return {
+        QCommandLineOption({u"o"_s, u"output"_s}, u"The file for the picture."_s, u"PNG"_s),
+        QCommandLineOption(u"screen"_s,
+                           u"The screen to draw; the first that the device shows unless given."_s, u"NAME"_s),
+        QCommandLineOption(u"handles"_s, u"Draw the frame and the handles of an element too."_s, u"NAME"_s)};
+}
+
+} // namespace
+
+const Verb renderVerb{
+    .name = "render",
+    .arguments = "FILE -o PNG",
+    .summary = "draw a screen as the canvas shows it",
+    .details =
+        [] {
+            return u"Draws a screen of the project, with the values that it has in the design, into a "
+                   u"picture "
+                   u"in the\n"
+                   "format PNG that is as large as the screen. No display is needed. With --handles the "
+                   "picture also\n"
+                   "shows where the mouse would catch an element. An image whose file is missing is drawn as "
+                   "a\n"
+                   "crossed frame."_s;
+        },
+    .example = "corvex render examples/PumpStation/PumpStation.kdproj --screen Main -o out/Main.png",
+    .fewestArguments = 1,
+    .mostArguments = 1,
+    .opensProjects = true,
+    .draws = true,
+    .options = options,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool
