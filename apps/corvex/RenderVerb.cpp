@@ -65,15 +65,11 @@ void report(const QString &path, const Screen &screen, const QImage &picture, co
     json.endObject();
 }
 
-ExitCode run(const Call &call)
+ExitCode run(const Call &call, const ProjectFile &file)
 {
     const QString path = call.value(u"output"_s);
     if (path.isEmpty()) {
         return call.misused(u"The file for the picture is missing: corvex render FILE -o PNG."_s);
-    }
-    ProjectFile file;
-    if (!file.open(call)) {
-        return ExitCode::File;
     }
     const DesignerProperty &screens = *file.project().screens();
     const QString name = screenName(call, file.project());
@@ -123,22 +119,16 @@ const Verb renderVerb{
     .summary = "draw a screen as the canvas shows it",
     .details =
         [] {
-            return u"Draws a screen of the project, with the values that it has in the design, into a "
-                   u"picture "
-                   u"in the\n"
-                   "format PNG that is as large as the screen. No display is needed. With --handles the "
-                   "picture also\n"
-                   "shows where the mouse would catch an element. An image whose file is missing is drawn as "
-                   "a\n"
-                   "crossed frame."_s;
+            return uR"(Draws a screen of the project, with the values that it has in the design, into a picture in the
+format PNG that is as large as the screen. No display is needed. With --handles the picture also
+shows where the mouse would catch an element. An image whose file is missing is drawn as a
+crossed frame.)"_s;
         },
     .example = "corvex render examples/PumpStation/PumpStation.kdproj --screen Main -o out/Main.png",
-    .fewestArguments = 1,
-    .mostArguments = 1,
     .opensProjects = true,
     .draws = true,
     .options = options,
-    .run = run,
+    .run = onProject<run>,
 };
 
 } // namespace Halvane::Corvex::Tool
