@@ -124,7 +124,7 @@ format PNG that is as large as the screen. No display is needed. With --handles 
 shows where the mouse would catch an element. An image whose file is missing is drawn as a
 crossed frame.)"_s;
         },
-    .example = "corvex render examples/PumpStation/PumpStation.kdproj --screen Main -o out/Main.png",
+    .example = "corvex render examples/PumpStation/PumpStation.kdproj --screen Overview -o Overview.png",
     .opensProjects = true,
     .draws = true,
     .options = options,
