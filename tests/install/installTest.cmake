@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Installs the build tree into a temporary prefix, moves that elsewhere, and builds and runs the plug-in and the
-# program in outside/ with nothing but the moved prefix.
+# Installs the build tree into a temporary prefix, moves that elsewhere, and there runs the installed tool, and builds
+# and runs the plug-in and the program in outside/ with nothing but the moved prefix.
 # Variables: build, generator, compiler, launcher, sanitize.
 cmake_minimum_required(VERSION 3.25)
 
@@ -30,6 +30,10 @@ endfunction()
 
 run("installing" "${CMAKE_COMMAND}" --install "${build}" --prefix "${work}/first")
 file(RENAME "${work}/first" "${prefix}")
+
+# The installed tool finds its plug-ins and device models: a project with elements of a plug-in has no problems.
+run("building with the installed tool" "${CMAKE_COMMAND}" -E env "ASAN_OPTIONS=$ENV{ASAN_OPTIONS}:detect_leaks=0"
+  "${prefix}/bin/corvex" build "${CMAKE_CURRENT_LIST_DIR}/../../examples/PumpStation/PumpStation.kdproj" -o "${work}/out")
 
 # Nothing that only this tree knows may be asked of others.
 file(GLOB_RECURSE package "${prefix}/*DesignerCore*.cmake")
