@@ -5,10 +5,11 @@
 #include "Terminal.h"
 #include "Verb.h"
 
-#include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -23,6 +24,21 @@ namespace {
 // Editors write a file in several steps.
 constexpr int calmAfterChange = 300;
 
+bool isUnattended(const Call &call)
+{
+    return call.isSet(u"shot"_s) || call.isSet(u"script"_s);
+}
+
+//! What the panel of a project or a build keeps, wherever the build happens to be.
+QString usualStateFile(const QString &path)
+{
+    const QByteArray digest =
+        QCryptographicHash::hash(QFileInfo(path).canonicalFilePath().toUtf8(), QCryptographicHash::Md5)
+            .toHex();
+    return u"%1/Halvane/Corvex Nova/preview/%2.json"_s.arg(
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), QString::fromLatin1(digest));
+}
+
 QStringList programArguments(const Call &call, const QString &folder)
 {
     QStringList arguments{folder};
@@ -30,6 +46,9 @@ QStringList programArguments(const Call &call, const QString &folder)
         if (call.isSet(option)) {
             arguments += {u"--"_s + option, call.value(option)};
         }
+    }
+    if (!isUnattended(call) && !call.isSet(u"state"_s)) {
+        arguments += {u"--state"_s, usualStateFile(call.argument(0))};
     }
     return arguments;
 }
@@ -68,7 +87,7 @@ ExitCode run(const Call &call)
     if (!program.start(programArguments(call, folder))) {
         return ExitCode::File;
     }
-    if (isBuild || call.isSet(u"shot"_s) || call.isSet(u"script"_s)) {
+    if (isBuild || isUnattended(call)) {
         program.process().waitForFinished(-1);
     } else {
         follow(call, folder, program);

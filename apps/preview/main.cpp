@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
-// corvex-preview FOLDER [--shot DIR] [--script FILE]: runs a build on the desktop.
+// corvex-preview FOLDER [--shot DIR] [--script FILE] [--state FILE]: runs a build on the desktop, in a window
+// unless there is a picture to take or a script to follow.
+#include "corvex/preview/window/PreviewWindow.h"
+
 #include "Output.h"
 #include "Unattended.h"
 
+#include <QApplication>
 #include <QCommandLineParser>
-#include <QGuiApplication>
 #include <QQuickWindow>
 
 using namespace Qt::StringLiterals;
@@ -12,47 +15,77 @@ using namespace Halvane::Corvex::Preview;
 
 namespace {
 
-//! What scripts write to the console; Qt's own remarks mean nothing to a user.
-void printMessage(QtMsgType, const QMessageLogContext &context, const QString &message)
+//! What scripts write to the console; of Qt's own remarks the last one, before it ends the program.
+void printMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (QLatin1StringView(context.category) == "js"_L1 || QLatin1StringView(context.category) == "qml"_L1) {
+    if (type == QtFatalMsg || QLatin1StringView(context.category) == "js"_L1
+        || QLatin1StringView(context.category) == "qml"_L1) {
         complain(message);
     }
+}
+
+//! Before there is an application object, whose kind depends on it.
+bool needsNoWindow(int argc, char **argv)
+{
+    return std::any_of(argv + 1, argv + argc, [](const char *argument) {
+        return argument == QByteArrayView("--shot") || argument == QByteArrayView("--script");
+    });
+}
+
+Exit runInWindow(const QString &folder, const QString &stateFile)
+{
+    PreviewWindow window;
+    QString error;
+    if (!window.open(folder, stateFile, &error)) {
+        complain(error);
+        return Exit::File;
+    }
+    const QSize margin(420, 260); // for what stands beside the panel
+    window.resize(window.session().frame()->size().toSize() + margin);
+    window.show();
+    return QApplication::exec() == 0 ? Exit::Done : Exit::File;
+}
+
+Exit run(const QCommandLineParser &parser, bool isUnattended)
+{
+    if (parser.positionalArguments().size() != 1) {
+        complain(u"One folder of a build is to be given."_s);
+        return Exit::Usage;
+    }
+    const QString folder = parser.positionalArguments().constFirst();
+    if (!isUnattended) {
+        return runInWindow(folder, parser.value(u"state"_s));
+    }
+    PreviewSession session;
+    session.keepStateIn(parser.value(u"state"_s));
+    QString error;
+    if (!session.open(folder, &error)) {
+        complain(error);
+        return Exit::File;
+    }
+    return runUnattended(session, parser.value(u"script"_s), parser.value(u"shot"_s));
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    const QStringList unattended{u"--shot"_s, u"--script"_s};
-    const bool isUnattended = std::any_of(argv + 1, argv + argc, [&unattended](const char *argument) {
-        return unattended.contains(QString::fromLocal8Bit(argument));
-    });
     qInstallMessageHandler(printMessage);
+    const bool isUnattended = needsNoWindow(argc, argv);
     if (isUnattended) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     // Panels are small, and their pictures are to be the same everywhere.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    QGuiApplication application(argc, argv);
-    application.setApplicationName(u"corvex"_s);
+    const std::unique_ptr<QCoreApplication> application(isUnattended ? new QGuiApplication(argc, argv)
+                                                                     : new QApplication(argc, argv));
+    QCoreApplication::setApplicationName(u"corvex"_s);
 
     QCommandLineParser parser;
-    parser.addOption(QCommandLineOption(u"shot"_s, u"Pictures of all screens."_s, u"DIR"_s));
-    parser.addOption(QCommandLineOption(u"script"_s, u"What to do with the panel."_s, u"FILE"_s));
-    parser.addOption(QCommandLineOption(u"state"_s, u"Where persistent variables are kept."_s, u"PATH"_s));
+    parser.addOptions({{u"shot"_s, u"Pictures of all screens."_s, u"DIR"_s},
+                       {u"script"_s, u"What to do with the panel."_s, u"FILE"_s},
+                       {u"state"_s, u"Where persistent variables are kept."_s, u"PATH"_s}});
     parser.addPositionalArgument(u"FOLDER"_s, u"The folder of a build."_s);
-    parser.process(application);
-    if (parser.positionalArguments().size() != 1) {
-        complain(u"One folder of a build is to be given."_s);
-        return int(Exit::Usage);
-    }
-    PreviewSession session;
-    session.keepStateIn(parser.value(u"state"_s));
-    QString error;
-    if (!session.open(parser.positionalArguments().constFirst(), &error)) {
-        complain(error);
-        return int(Exit::File);
-    }
-    return int(runUnattended(session, parser.value(u"script"_s), parser.value(u"shot"_s)));
+    parser.process(*application);
+    return int(run(parser, isUnattended));
 }

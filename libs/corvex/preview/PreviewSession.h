@@ -24,6 +24,8 @@ public:
 
     //! Where the panel keeps what outlives it; before open.
     void keepStateIn(const QString &file) { m_stateFile = file; }
+    //! Writes what is not in that file yet.
+    void flushState() { m_state.flush(); }
     //! False, with a text for the user, when there is nothing to show.
     bool open(const QString &path, QString *error);
     const BuildFolder &build() const { return m_build; }

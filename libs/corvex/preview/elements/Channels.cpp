@@ -15,6 +15,9 @@ void ChannelElement::start()
 {
     m_channel = panel()->channels().channel(m_kind, m_number);
     m_channel->addElement(Panel::pathOf(this));
+    if (m_voltageRange.size() == 2) {
+        m_channel->setRange(m_voltageRange.at(0).toDouble(), m_voltageRange.at(1).toDouble());
+    }
     connect(m_channel, &Channel::valueChanged, this, &ChannelElement::valueChanged);
     emit valueChanged();
     if (m_initValue.isValid()) {

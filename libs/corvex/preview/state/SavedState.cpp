@@ -29,6 +29,11 @@ SavedState::SavedState(QObject *parent)
 
 SavedState::~SavedState()
 {
+    flush();
+}
+
+void SavedState::flush()
+{
     if (m_timer.isActive()) {
         write();
     }

@@ -16,7 +16,7 @@ class SavedState : public QObject
 
 public:
     explicit SavedState(QObject *parent = nullptr);
-    //! Writes what has not been written yet.
+    //! Flushes.
     ~SavedState() override;
 
     //! False, with a text for the user, for a file that is there and cannot be read; it will be replaced.
@@ -25,6 +25,8 @@ public:
     QString value(const QString &name) const { return m_values.value(name); }
     //! Written to the file soon.
     void setValue(const QString &name, const QString &value);
+    //! Writes what has not been written yet.
+    void flush();
 
 signals:
     void failed(const QString &message);

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/preview/window/PreviewWindow.h"
+
+#include "corvex/preview/window/ChannelsView.h"
+#include "corvex/preview/window/PanelView.h"
+#include "corvex/preview/window/ProblemsModel.h"
+#include "corvex/preview/window/VariablesModel.h"
+
+#include <QComboBox>
+#include <QDockWidget>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSortFilterProxyModel>
+#include <QStatusBar>
+#include <QTableView>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Preview {
+
+namespace {
+
+// How often the folder is looked at, in milliseconds.
+constexpr int watchInterval = 500;
+
+QTableView *makeTable(QAbstractItemModel *model, int wideColumn)
+{
+    auto *table = new QTableView;
+    table->setModel(model);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setWordWrap(false);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setSectionResizeMode(wideColumn, QHeaderView::Stretch);
+    return table;
+}
+
+//! The table of variables below a field that filters it.
+QWidget *makeVariables(VariablesModel *model)
+{
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *filter = new QLineEdit;
+    filter->setPlaceholderText(PreviewWindow::tr("Filter"));
+    filter->setClearButtonEnabled(true);
+    auto *proxy = new QSortFilterProxyModel(content);
+    proxy->setSourceModel(model);
+    proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    QObject::connect(filter, &QLineEdit::textChanged, proxy, &QSortFilterProxyModel::setFilterFixedString);
+    QTableView *table = makeTable(proxy, VariablesModel::Value);
+    table->setSortingEnabled(true);
+    table->sortByColumn(VariablesModel::Name, Qt::AscendingOrder);
+    layout->addWidget(filter);
+    layout->addWidget(table);
+    return content;
+}
+
+} // namespace
+
+PreviewWindow::PreviewWindow()
+    : m_variables(new VariablesModel(this))
+    , m_problems(new ProblemsModel(this))
+    , m_view(new PanelView)
+    , m_channels(new ChannelsView)
+    , m_screens(new QComboBox)
+{
+    setCentralWidget(m_view);
+    makeToolBar();
+    makeDocks();
+    connect(&m_watch, &QTimer::timeout, this, &PreviewWindow::reloadIfNew);
+}
+
+PreviewWindow::~PreviewWindow()
+{
+    use(nullptr);
+}
+
+void PreviewWindow::makeToolBar()
+{
+    QToolBar *bar = addToolBar(tr("Panel"));
+    bar->setMovable(false);
+    m_screens->setToolTip(tr("Screen"));
+    m_screens->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    bar->addWidget(m_screens);
+    auto *zoom = new QComboBox;
+    zoom->setToolTip(tr("Size of the panel"));
+    zoom->addItems({u"50 %"_s, u"75 %"_s, u"100 %"_s, u"150 %"_s, u"200 %"_s, u"300 %"_s});
+    zoom->setCurrentText(u"100 %"_s);
+    bar->addWidget(zoom);
+    QAction *reloading = bar->addAction(tr("Start anew"), this, &PreviewWindow::reload);
+    reloading->setToolTip(tr("Switch the panel off and on again"));
+    reloading->setShortcut(QKeySequence::Refresh);
+    bar->addAction(tr("Clear problems"), this, [this] { m_session->panel().problems().clear(); });
+    connect(m_screens, &QComboBox::textActivated, this,
+            [this](const QString &name) { m_session->showScreen(name); });
+    connect(zoom, &QComboBox::textActivated, this, &PreviewWindow::showZoom);
+}
+
+void PreviewWindow::showZoom(const QString &text)
+{
+    m_view->setZoom(text.section(u' ', 0, 0).toInt() / 100.0);
+}
+
+QDockWidget *PreviewWindow::addDock(const QString &title, QWidget *content, Qt::DockWidgetArea area)
+{
+    auto *dock = new QDockWidget(title);
+    dock->setWidget(content);
+    addDockWidget(area, dock);
+    return dock;
+}
+
+void PreviewWindow::makeDocks()
+{
+    addDock(tr("Variables"), makeVariables(m_variables), Qt::RightDockWidgetArea);
+    auto *scrolling = new QScrollArea;
+    scrolling->setWidget(m_channels);
+    scrolling->setWidgetResizable(true);
+    addDock(tr("Inputs and outputs"), scrolling, Qt::RightDockWidgetArea);
+    QDockWidget *problems =
+        addDock(tr("Problems"), makeTable(m_problems, ProblemsModel::Message), Qt::BottomDockWidgetArea);
+    resizeDocks({problems}, {120}, Qt::Vertical);
+}
+
+bool PreviewWindow::open(const QString &folder, const QString &stateFile, QString *error)
+{
+    m_folder = folder;
+    m_stateFile = stateFile;
+    m_stamp = BuildFolder::stampOf(folder);
+    auto session = std::make_unique<PreviewSession>();
+    session->keepStateIn(stateFile);
+    if (!session->open(folder, error)) {
+        return false;
+    }
+    use(std::move(session));
+    m_watch.start(watchInterval);
+    return true;
+}
+
+void PreviewWindow::use(std::unique_ptr<PreviewSession> session)
+{
+    Panel *panel = session ? &session->panel() : nullptr;
+    m_variables->setPanel(panel);
+    m_problems->setLog(panel ? &panel->problems() : nullptr);
+    m_channels->setPanel(panel);
+    m_view->setSession(session.get());
+    m_session = std::move(session);
+    if (!m_session) {
+        return;
+    }
+    m_screens->clear();
+    m_screens->addItems(m_session->screens());
+    connect(m_session.get(), &PreviewSession::screenChanged, this, &PreviewWindow::showScreen);
+    showScreen();
+    panel->clock().runFreely();
+}
+
+void PreviewWindow::showScreen()
+{
+    m_screens->setCurrentText(m_session->screen());
+    const QSizeF size = m_session->frame()->size();
+    setWindowTitle(tr("%1 - Preview").arg(m_session->screen()));
+    statusBar()->showMessage(tr("%1 x %2 pixels").arg(size.width()).arg(size.height()));
+}
+
+void PreviewWindow::reload()
+{
+    const QString shown = m_session->screen();
+    m_session->flushState();
+    QString error;
+    if (!open(m_folder, m_stateFile, &error)) {
+        m_session->panel().problems().report(QString(), error);
+    } else if (m_session->screens().contains(shown)) {
+        m_session->showScreen(shown);
+    }
+}
+
+void PreviewWindow::reloadIfNew()
+{
+    if (BuildFolder::stampOf(m_folder) != m_stamp) {
+        reload();
+    }
+}
+
+} // namespace Halvane::Corvex::Preview

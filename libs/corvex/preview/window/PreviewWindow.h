@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/preview/PreviewSession.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+class QComboBox;
+class QDockWidget;
+
+namespace Halvane::Corvex::Preview {
+
+class ChannelsView;
+class PanelView;
+class ProblemsModel;
+class VariablesModel;
+
+//! A build, running in a window, with all that is going on inside. Follows the folder when it is built anew.
+class PreviewWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    PreviewWindow();
+    ~PreviewWindow() override;
+
+    //! False, with a text for the user, when there is nothing to show; what was shown before stays.
+    bool open(const QString &folder, const QString &stateFile, QString *error);
+    PreviewSession &session() { return *m_session; }
+
+private:
+    void makeToolBar();
+    void makeDocks();
+    QDockWidget *addDock(const QString &title, QWidget *content, Qt::DockWidgetArea area);
+    void use(std::unique_ptr<PreviewSession> session);
+    void showScreen();
+    void showZoom(const QString &text);
+    void reload();
+    void reloadIfNew();
+
+    QString m_folder;
+    QString m_stateFile;
+    QString m_stamp;
+    std::unique_ptr<PreviewSession> m_session;
+    VariablesModel *m_variables;
+    ProblemsModel *m_problems;
+    PanelView *m_view;
+    ChannelsView *m_channels;
+    QComboBox *m_screens;
+    QTimer m_watch;
+};
+
+} // namespace Halvane::Corvex::Preview
