@@ -140,7 +140,7 @@ TEST(ObjectLinkInfo, Text)
     EXPECT_EQ(link.toString(), u"filterType: Text | Image; objectId: label1; scopeType: Screen;"_s);
     EXPECT_EQ(ObjectLinkInfo(u"a"_s, QString(), QString()).filterType(), QStringList());
     expectCanonical<ObjectLinkInfo>(
-        {{u"filterType:Text|Image||; objectId: a.png"_s, u"filterType: Text | Image; objectId: a.png;"_s},
+        {{u"filterType:Text|Image| |; objectId: a.png"_s, u"filterType: Text | Image; objectId: a.png;"_s},
          {u"scopeType: Project"_s, u"filterType: ; objectId: ; scopeType: Project;"_s},
          {ObjectLinkInfo().toString(), u"filterType: ; objectId: ;"_s},
          {u"objectId: a; b"_s, u"refused"_s},

@@ -19,8 +19,11 @@ QStringList filterOf(const QString &className)
 QStringList readFilter(QStringView text)
 {
     QStringList classNames;
-    for (const QStringView part : qTokenize(text, u'|', Qt::SkipEmptyParts))
-        classNames.append(part.trimmed().toString());
+    for (QStringView part : qTokenize(text, u'|')) {
+        part = part.trimmed();
+        if (!part.isEmpty())
+            classNames.append(part.toString());
+    }
     return classNames;
 }
 
