@@ -179,9 +179,18 @@ void DesignerFactory::loadPlugin(const QString &file)
 
 DesignerObject *DesignerFactory::createObject(const QString &className, QObject *parent) const
 {
+    return makeObject(className, parent ? parent : QCoreApplication::instance());
+}
+
+DesignerObject *DesignerFactory::createUnowned(const QString &className) const
+{
+    return makeObject(className, nullptr);
+}
+
+DesignerObject *DesignerFactory::makeObject(const QString &className, QObject *parent) const
+{
     IDesignerFactory *factory = m_objects.value(className);
-    DesignerObject *object =
-        factory ? factory->createObject(className, parent ? parent : QCoreApplication::instance()) : nullptr;
+    DesignerObject *object = factory ? factory->createObject(className, parent) : nullptr;
     if (object && !object->initialize()) {
         object->setParent(nullptr);
         delete std::exchange(object, nullptr);

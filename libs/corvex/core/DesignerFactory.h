@@ -38,6 +38,8 @@ public:
     /*! A new, initialised object; null with a warning when that fails. Without \a parent the application
        object is the parent, until the object enters a model. */
     DesignerObject *createObject(const QString &className, QObject *parent = nullptr) const;
+    //! The same without any parent, for a model that is being read; the caller owns it.
+    DesignerObject *createUnowned(const QString &className) const;
     //! A canvas item that is not initialised yet; null when the name is none or there is no object.
     GraphicsItem *createGraphicsItem(const QString &className, DesignerObject *object) const;
     /*! A canvas item for an object, initialised, as the object itself sees it; null without a factory too.
@@ -87,6 +89,7 @@ private:
     using Registry = QHash<QString, IDesignerFactory *>;
 
     explicit DesignerFactory(QObject *parent);
+    DesignerObject *makeObject(const QString &className, QObject *parent) const;
     bool namesAreFree(const IDesignerFactory &factory) const;
     void loadPlugin(const QString &file);
     void pluginFailed(const QString &message);

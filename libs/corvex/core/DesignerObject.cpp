@@ -75,21 +75,30 @@ void DesignerObject::registerIdentifier(const QString &scopeType)
 void DesignerObject::addProperty(const SharedProperty &property)
 {
     d->properties.append(property);
+    noteFlags(*property);
 }
 
 bool DesignerObject::addProperties(const PropertyTable &table)
 {
+    const std::vector<qsizetype> &places = table.placesAmong(d->properties);
     d->properties.reserve(d->properties.size() + qsizetype(table.m_rows.size()));
-    for (const PropertyRow &row : table.m_rows) {
-        if (const SharedProperty property = getProperty(row.id())) {
-            if (!table.describeAnew(row, *property)) {
-                return false;
-            }
-        } else {
-            d->properties.append(row.make(this));
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const PropertyRow &row = table.m_rows[i];
+        if (places[i] < 0) {
+            addProperty(row.make(this));
+            continue;
         }
+        if (!table.describeAnew(row, *d->properties.at(places[i]))) {
+            return false;
+        }
+        noteFlags(*d->properties.at(places[i]));
     }
     return true;
+}
+
+void DesignerObject::noteFlags(const DesignerProperty &property)
+{
+    d->mayHaveChildren = d->mayHaveChildren || property.isList() || property.isObject();
 }
 
 QString DesignerObject::baseName() const
@@ -312,6 +321,9 @@ DesignerObject *DesignerObject::rootElement(DesignerObject *object)
 QList<DesignerObject *> DesignerObject::childObjects() const
 {
     QList<DesignerObject *> children;
+    if (!d->mayHaveChildren) {
+        return children;
+    }
     for (const SharedProperty &property : d->properties) {
         if (property->isList()) {
             children += property->itemList()->items();

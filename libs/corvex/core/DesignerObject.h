@@ -275,9 +275,12 @@ private:
     };
     ValueChange changeValue(const SharedProperty &property, const QString &newValue);
     static bool canBeStored(DesignerProperty &property, const QString &value);
-    void takeNewName(const QString &oldValue);
-    void announceNewName(const QString &oldValue, const QString &newValue);
+    void takeNewName(const QString &oldName);
+    void announceNewName(const QString &oldName, const QString &newName);
     void revalidate(const SharedProperty &property);
+    //! Switches validation on for this object and everything below it, and validates, in one walk.
+    void validateWhatWasRead();
+    void judgeProperties();
     void childValidityChanged(DesignerProperty &property);
 
     bool mayEnter(const SharedProperty &property, const DesignerObject *item) const;
@@ -288,6 +291,8 @@ private:
     template<class Insert>
     bool addItem(const SharedProperty &property, DesignerObject *item, Insert insert);
     SharedProperty listOf(const QString &id) const;
+    //! Keeps in mind that there may be children, so that the many objects without any are not searched.
+    void noteFlags(const DesignerProperty &property);
     //! The object property that owns this object; null when a list owns it and out of the model.
     SharedProperty objectProperty() const;
 

@@ -16,6 +16,7 @@ struct DesignerObject::Data
     Screen *screen = nullptr;
     ObjectView *view = nullptr;
     QStringList validationErrors;
+    bool mayHaveChildren = false; //!< false when no property is a list or an object
     bool isValid = true;
     bool validationErrorSet = false;
     bool validationDisabled = false;

@@ -45,7 +45,10 @@ void DesignerObject::nameTaken(const QString &) { }
 
 bool DesignerObject::changePropertyValue(const SharedProperty &property, const QString &newValue)
 {
-    return changeValue(property, newValue) != ValueChange::Refused;
+    const bool isValue =
+        property && property->parentObject() == this && !property->isList() && !property->isObject();
+    return (!isValue || canBeStored(*property, newValue))
+           && changeValue(property, newValue) != ValueChange::Refused;
 }
 
 DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &property,
@@ -54,8 +57,7 @@ DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &pr
     if (!property) {
         return ValueChange::None;
     }
-    if (property->parentObject() != this || property->isList() || property->isObject()
-        || !canBeStored(*property, newValue)) {
+    if (property->parentObject() != this || property->isList() || property->isObject()) {
         return ValueChange::Refused;
     }
     const bool isGuarded = !disabledValidation() && !property->allowInvalidValue();
@@ -67,7 +69,7 @@ DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &pr
     }
     if (isGuarded) {
         bool valid = true;
-        if (!property->tryValue(newValue, valid)) {
+        if (!property->judgeText(newValue, valid)) {
             return ValueChange::Refused;
         }
         if (!valid) {
@@ -76,18 +78,20 @@ DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &pr
         }
     }
     const QString oldValue = property->valueString();
+    const QString oldName = getIdName();
     if (!beforePropertyChanged(property.data(), newValue)) {
         if (isGuarded) {
             property->validate(); // The trial has judged the other value.
         }
         return ValueChange::Refused;
     }
-    if (!property->convertToValue(newValue)) {
+    if (!property->takeText(newValue)) {
         return ValueChange::Refused;
     }
     const bool isName = property == d->id;
+    const QString newName = isName ? getIdName() : QString();
     if (isName) {
-        takeNewName(oldValue);
+        takeNewName(oldName);
     }
     if (ModelObserver *observer = ModelObserver::of(d->project)) {
         observer->valueChanged(property, oldValue);
@@ -98,7 +102,7 @@ DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &pr
     revalidate(property);
     afterPropertyChanged(property.data(), oldValue);
     if (isName) {
-        announceNewName(oldValue, newValue);
+        announceNewName(oldName, newName);
     }
     emit propertyValueChanged(property, oldValue);
     return ValueChange::Done;
@@ -126,10 +130,9 @@ void DesignerObject::revalidate(const SharedProperty &property)
     }
 }
 
-void DesignerObject::takeNewName(const QString &oldValue)
+void DesignerObject::takeNewName(const QString &oldName)
 {
     setObjectName(getIdName());
-    const QString oldName = IdentifierInfo(oldValue).name();
     for (DesignerProperty *list : std::as_const(d->lists)) {
         list->items().rekey(oldName, this);
         list->updateListItems();
@@ -137,20 +140,16 @@ void DesignerObject::takeNewName(const QString &oldValue)
     nameTaken(oldName);
 }
 
-void DesignerObject::announceNewName(const QString &oldValue, const QString &newValue)
+void DesignerObject::announceNewName(const QString &oldName, const QString &newName)
 {
-    bool oldIsName = false;
-    bool newIsName = false;
-    const IdentifierInfo oldInfo(oldValue, &oldIsName);
-    const IdentifierInfo newInfo(newValue, &newIsName);
-    if (!oldIsName || !newIsName || oldInfo.name().isEmpty() || newInfo.name().isEmpty()) {
+    if (oldName.isEmpty() || newName.isEmpty()) {
         return;
     }
     const QList<DesignerProperty *> lists = d->lists;
     for (DesignerProperty *list : lists) {
-        list->updateItemIdName(oldInfo.name(), newInfo.name());
+        list->updateItemIdName(oldName, newName);
     }
-    emit idNameChanged(oldInfo.name(), newInfo.name());
+    emit idNameChanged(oldName, newName);
 }
 
 bool DesignerObject::changePropertyObjectValue(const SharedProperty &property, DesignerObject *object,

@@ -18,12 +18,27 @@ bool DesignerObject::validate()
     for (DesignerObject *child : childObjects()) {
         child->validate();
     }
+    judgeProperties();
+    return d->isValid;
+}
+
+void DesignerObject::validateWhatWasRead()
+{
+    d->validationDisabled = false;
+    d->isValidatingChildren = true;
+    for (DesignerObject *child : childObjects()) {
+        child->validateWhatWasRead();
+    }
+    judgeProperties();
+}
+
+void DesignerObject::judgeProperties()
+{
     d->isValidatingChildren = false;
     for (const SharedProperty &property : std::as_const(d->properties)) {
         property->validate();
     }
     updateValidity();
-    return d->isValid;
 }
 
 void DesignerObject::updateValidity()

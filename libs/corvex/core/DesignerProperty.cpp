@@ -47,6 +47,7 @@ DesignerProperty::DesignerProperty(DesignerObject *parent, const QString &id, co
 DesignerProperty::DesignerProperty(DesignerObject *parent, const DesignerProperty &prototype)
     : m_parent(parent)
     , m_descriptor(prototype.m_descriptor)
+    , m_isInitial(true)
 { }
 
 DesignerProperty::~DesignerProperty()
@@ -114,6 +115,9 @@ void DesignerProperty::setEditorWidget(EditorView *widget)
 void DesignerProperty::setFlags(PropertyFlags flags)
 {
     describe(&PropertyDescriptor::flags, flags);
+    if (m_parent) {
+        m_parent->noteFlags(*this);
+    }
 }
 
 void DesignerProperty::setFlag(PropertyFlag flag, bool on)
@@ -222,7 +226,29 @@ QString DesignerProperty::valueString() const
     if (isObject()) {
         return objectValue() ? DesignerObject::toString(objectValue()) : QString();
     }
-    return convertToValueString();
+    const QString initial = initialText();
+    return initial.isNull() ? convertToValueString() : initial;
+}
+
+bool DesignerProperty::equalsValue(const QString &text) const
+{
+    const QString initial = initialText();
+    return (!initial.isNull() && text == initial) || valueIsEqual(text);
+}
+
+bool DesignerProperty::takeText(const QString &text)
+{
+    const bool isTaken = convertToValue(text);
+    m_isInitial = m_isInitial && !isTaken;
+    return isTaken;
+}
+
+bool DesignerProperty::judgeText(const QString &text, bool &valid)
+{
+    const bool wasInitial = std::exchange(m_isInitial, false);
+    const bool isRead = tryValue(text, valid);
+    m_isInitial = wasInitial;
+    return isRead;
 }
 
 bool DesignerProperty::equalsListItems(const QList<DesignerObject *> &items) const

@@ -101,7 +101,7 @@ public:
         canonical form of the value. */
     QString valueString() const;
     //! Whether \a text stands for the value that is held; a text that does not parse counts as equal.
-    bool equalsValue(const QString &text) const { return valueIsEqual(text); }
+    bool equalsValue(const QString &text) const;
     bool equalsObjectValue(const DesignerObject *object) const { return objectValue() == object; }
     bool equalsListItems(const QList<DesignerObject *> &items) const;
 
@@ -157,6 +157,8 @@ protected:
     //! when it does not parse.
     virtual bool tryValue(const QString &text, bool &valid);
     ItemList &items();
+    //! For whoever sets the typed value past convertToValue().
+    void leaveInitialValue() { m_isInitial = false; }
 
 private:
     friend class DesignerObject;
@@ -166,6 +168,10 @@ private:
     struct State;
 
     const PropertyDescriptor &descriptor() const { return *m_descriptor; }
+    //! The text of the value as long as it is the one that the property started with; else null.
+    QString initialText() const { return m_isInitial ? m_descriptor->initialText : QString(); }
+    bool takeText(const QString &text);
+    bool judgeText(const QString &text, bool &valid);
     template<class Field>
     void describe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value);
 
@@ -199,6 +205,7 @@ private:
     QSharedDataPointer<PropertyDescriptor> m_descriptor;
     std::unique_ptr<State> m_state; //!< what few properties have; null until it is needed
     bool m_isValid = true;
+    bool m_isInitial = false; //!< holds the value of its row
 };
 
 //! How properties are handed around; known to Qt's meta-type system under its full name.

@@ -80,6 +80,13 @@ QString parserError(XML_Parser parser)
     }
 }
 
+//! Whether there is nothing but what lies between the lines of a file.
+bool isBlank(const XML_Char *text, int length)
+{
+    return std::all_of(text, text + length,
+                       [](XML_Char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; });
+}
+
 } // namespace
 
 class ObjectXmlReader::Private
@@ -121,7 +128,7 @@ private:
         bool isAnswered = false;     //!< a property that got a value or children
     };
 
-    bool feed(const QByteArray &chunk, bool isLast);
+    bool feed(qint64 size);
     void dropUnfinished();
     void fail(const QString &message);
     void note(ReadNote::Kind kind, const QString &message);
@@ -134,12 +141,12 @@ private:
     void openInProperties(Frame &frame, const XML_Char *name, const XML_Char **attributes);
     void openInProperty(Frame &frame, const XML_Char *name);
     void openItem(const Frame &frame, const XML_Char *name, const XML_Char **attributes);
-    void openObjectValue(const Frame &frame, const XML_Char *name);
-    SharedProperty expectProperty(Frame &frame, const XML_Char *id, bool *isSecond);
-    void applyValue(const Frame &frame, const SharedProperty &property, const XML_Char *value);
+    void openObjectValue(const XML_Char *name);
+    static qsizetype expectProperty(Frame &frame, const XML_Char *id, bool *isSecond);
+    void applyValue(const Frame &frame, const XML_Char *value);
     static void emptyList(DesignerObject *owner, const SharedProperty &list);
     static void finishList(const SharedProperty &list);
-    DesignerObject *makeObject(const QString &className, DesignerObject *owner);
+    DesignerObject *makeObject(const QString &className);
     void closeObject(const Frame &closed);
     void addItem(const Frame &list, DesignerObject *item);
     void setChild(const Frame &slot, DesignerObject *child);
@@ -168,24 +175,28 @@ bool ObjectXmlReader::Private::parse()
     XML_SetXmlDeclHandler(parser, declaration);
     XML_SetStartDoctypeDeclHandler(parser, docType);
 
-    QByteArray chunk;
     bool good = true;
+    qint64 size = 0;
     do {
-        chunk = device->read(chunkSize);
+        auto *chunk = static_cast<char *>(XML_GetBuffer(parser, int(chunkSize)));
+        size = chunk ? device->read(chunk, chunkSize) : -1;
         // The parser goes by the first bytes before it goes by the encoding that it was told.
-        if (fed == 0 && beginsAsUtf16(chunk)) {
+        if (fed == 0 && beginsAsUtf16({chunk, std::clamp<qint64>(size, 0, 2)})) {
             fail(u"The text is UTF-16; only UTF-8 is read."_s);
+        } else if (size < 0) {
+            fail(u"The source cannot be read: %1"_s.arg(device->errorString()));
         }
-        good = error.isEmpty() && feed(chunk, chunk.isEmpty());
-    } while (good && !chunk.isEmpty());
+        good = error.isEmpty() && feed(size);
+    } while (good && size > 0);
     dropUnfinished();
     notes.finish();
     if (!root) {
         return false;
     }
-    enableValidation(root);
     if (good && validates) {
-        root->validate();
+        root->validateWhatWasRead();
+    } else {
+        enableValidation(root);
     }
     return good;
 }
@@ -206,15 +217,16 @@ void ObjectXmlReader::Private::dropUnfinished()
     frames.clear();
 }
 
-bool ObjectXmlReader::Private::feed(const QByteArray &chunk, bool isLast)
+//! Parses what lies in the parser's buffer; nothing there is the end.
+bool ObjectXmlReader::Private::feed(qint64 size)
 {
-    if (XML_Parse(parser, chunk.constData(), int(chunk.size()), isLast) != XML_STATUS_OK) {
+    if (XML_ParseBuffer(parser, int(size), size == 0) != XML_STATUS_OK) {
         if (error.isEmpty()) {
             fail(parserError(parser));
         }
         return false;
     }
-    fed += chunk.size();
+    fed += size;
     // A single token that outgrows every buffer is read again with each chunk; end that in time.
     if (fed - XML_GetCurrentByteIndex(parser) > longestToken + chunkSize) {
         fail(u"A value is longer than 16 MB."_s);
@@ -290,7 +302,7 @@ void ObjectXmlReader::Private::startElement(void *self, const XML_Char *name, co
         reader->openItem(frame, name, attributes);
         break;
     case Context::ObjectValue:
-        reader->openObjectValue(frame, name);
+        reader->openObjectValue(name);
         break;
     case Context::Kept:
         reader->recorder.open(name, attributes);
@@ -310,7 +322,7 @@ void ObjectXmlReader::Private::openRoot(const XML_Char *name)
         return;
     }
     if (createsRoot) {
-        root = makeObject(className, nullptr);
+        root = makeObject(className);
         if (!root) {
             fail(u"No object of the class \"%1\" can be made."_s.arg(excerpt(name)));
             return;
@@ -349,23 +361,26 @@ void ObjectXmlReader::Private::openInProperties(Frame &frame, const XML_Char *na
         }
     }
     bool isSecond = false;
-    const SharedProperty property = id ? expectProperty(frame, id, &isSecond) : SharedProperty();
+    const qsizetype index = id ? expectProperty(frame, id, &isSecond) : -1;
     if (isSecond) {
-        skip(u"The property \"%1\" stands here a second time; the first one counts."_s.arg(property->id()));
+        skip(u"The property \"%1\" stands here a second time; the first one counts."_s.arg(
+            QString::fromUtf8(id)));
         return;
     }
-    if (!property || !property->hasFlag(StoredFlag)) {
+    if (index < 0 || !object->properties().at(index)->hasFlag(StoredFlag)) {
         skip(id ? u"The property \"%1\" is not known."_s.arg(excerpt(id)) : u"A property has no name."_s);
         return;
     }
-    push(Context::Property, object, property);
+    push(Context::Property, object, object->properties().at(index));
     if (value && *value) {
-        frames.last().isAnswered = !property->isList() && !property->isObject();
-        applyValue(frames.last(), property, value);
+        Frame &opened = frames.last();
+        opened.isAnswered = !opened.property->isList() && !opened.property->isObject();
+        applyValue(opened, value);
     }
 }
 
-SharedProperty ObjectXmlReader::Private::expectProperty(Frame &frame, const XML_Char *id, bool *isSecond)
+//! The index of the property among those of the object; -1 for one that it does not have.
+qsizetype ObjectXmlReader::Private::expectProperty(Frame &frame, const XML_Char *id, bool *isSecond)
 {
     const QList<SharedProperty> &properties = frame.object->properties();
     const qsizetype count = properties.size();
@@ -377,17 +392,21 @@ SharedProperty ObjectXmlReader::Private::expectProperty(Frame &frame, const XML_
                 *isSecond = frame.known.test(size_t(index));
                 frame.known.set(size_t(index));
             }
-            return properties.at(index);
+            return index;
         }
     }
-    return {};
+    return -1;
 }
 
-void ObjectXmlReader::Private::applyValue(const Frame &frame, const SharedProperty &property,
-                                          const XML_Char *value)
+void ObjectXmlReader::Private::applyValue(const Frame &frame, const XML_Char *value)
 {
+    const SharedProperty &property = frame.property;
     if (property->isList() || property->isObject()) {
         note(ReadNote::Dropped, u"The property \"%1\" takes no value."_s.arg(property->id()));
+        return;
+    }
+    // Most values of a file are those that their properties start with.
+    if (const QString initial = property->initialText(); !initial.isEmpty() && equals(initial, value)) {
         return;
     }
     const QString text = QString::fromUtf8(value);
@@ -433,15 +452,14 @@ void ObjectXmlReader::Private::finishList(const SharedProperty &list)
     list->sortList();
 }
 
-DesignerObject *ObjectXmlReader::Private::makeObject(const QString &className, DesignerObject *owner)
+DesignerObject *ObjectXmlReader::Private::makeObject(const QString &className)
 {
     DesignerFactory *factory = DesignerFactory::instance();
     if (!factory || !factory->canCreateObject(className)) {
         return nullptr;
     }
-    DesignerObject *object = factory->createObject(className, owner);
+    DesignerObject *object = factory->createUnowned(className);
     if (object) {
-        object->setParent(nullptr);
         object->setDisableValidation(true);
     }
     return object;
@@ -450,7 +468,7 @@ DesignerObject *ObjectXmlReader::Private::makeObject(const QString &className, D
 void ObjectXmlReader::Private::openItem(const Frame &frame, const XML_Char *name, const XML_Char **attributes)
 {
     const QString className = QString::fromUtf8(name);
-    if (DesignerObject *item = makeObject(className, frame.object)) {
+    if (DesignerObject *item = makeObject(className)) {
         push(Context::Object, item);
         return;
     }
@@ -462,10 +480,10 @@ void ObjectXmlReader::Private::openItem(const Frame &frame, const XML_Char *name
     push(Context::Kept, frame.object, frame.property);
 }
 
-void ObjectXmlReader::Private::openObjectValue(const Frame &frame, const XML_Char *name)
+void ObjectXmlReader::Private::openObjectValue(const XML_Char *name)
 {
     const QString className = QString::fromUtf8(name);
-    if (DesignerObject *object = makeObject(className, frame.object)) {
+    if (DesignerObject *object = makeObject(className)) {
         push(Context::Object, object);
     } else {
         skip(u"No plug-in knows the class \"%1\"."_s.arg(excerpt(name)));
@@ -559,14 +577,14 @@ void ObjectXmlReader::Private::enableValidation(DesignerObject *object)
 void ObjectXmlReader::Private::characters(void *self, const XML_Char *text, int length)
 {
     auto *reader = static_cast<Private *>(self);
-    const QByteArrayView words = QByteArrayView(text, length).trimmed();
     if (reader->frames.isEmpty()) {
         return;
     }
     const Frame &frame = reader->frames.constLast();
     if (frame.context == Context::Kept) {
         reader->recorder.addText({text, length});
-    } else if (frame.object && !words.isEmpty()) {
+    } else if (frame.object && !isBlank(text, length)) {
+        const QByteArrayView words = QByteArrayView(text, length).trimmed();
         reader->note(ReadNote::Dropped, u"Text between elements is not kept: \"%1\"."_s.arg(QString::fromUtf8(
                                             words.first(std::min<qsizetype>(words.size(), 80)))));
     }

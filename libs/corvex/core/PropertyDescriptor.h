@@ -29,6 +29,8 @@ struct PropertyDescriptor : public QSharedData
     QString editor;
     QVariantMap editorParameters;
     QString description;
+    QString
+        initialText; //!< what a property prints as long as it holds the value of its row; null when unknown
     QStringList objectFilters;
     ValueValidator valueValidator = nullptr;
     ItemValidator addValidator = nullptr;

@@ -40,7 +40,11 @@ PropertyRow PropertyRow::anew(const SharedProperty &described)
 PropertyRow::PropertyRow(const SharedProperty &prototype, Maker maker)
     : m_prototype(prototype)
     , m_maker(maker)
-{ }
+{
+    if (maker && !prototype->isList() && !prototype->isObject()) {
+        m_prototype->m_descriptor->initialText = prototype->convertToValueString();
+    }
+}
 
 QString PropertyRow::text(const char *utf8)
 {
@@ -139,13 +143,30 @@ PropertyRow &PropertyRow::overridesValue()
     return *this;
 }
 
+const std::vector<qsizetype> &PropertyTable::placesAmong(const QList<SharedProperty> &properties) const
+{
+    if (m_placedAmong != properties.size()) {
+        m_placedAmong = properties.size();
+        m_places.clear();
+        for (const PropertyRow &row : m_rows) {
+            const auto found =
+                std::find_if(properties.begin(), properties.end(),
+                             [&row](const SharedProperty &property) { return property->id() == row.id(); });
+            m_places.push_back(found == properties.end() ? -1 : found - properties.begin());
+        }
+    }
+    return m_places;
+}
+
 bool PropertyTable::describeAnew(const PropertyRow &row, DesignerProperty &property) const
 {
     if (row.m_prototype->className() != property.className()) {
         qWarning("Property \"%s\" cannot be described anew as another kind.", qUtf8Printable(property.id()));
         return false;
     }
+    const bool startsAlike = property.initialText() == row.m_prototype->descriptor().initialText;
     property.m_descriptor = row.m_prototype->m_descriptor;
+    property.m_isInitial = row.m_overridesValue || (property.m_isInitial && startsAlike);
     return !row.m_overridesValue || property.convertToValue(row.m_prototype->convertToValueString());
 }
 

@@ -92,9 +92,14 @@ public:
 private:
     friend class DesignerObject;
 
+    /*! For each row the index of the one among \a properties that it describes anew; -1 for a row that makes
+        one. It is the same for all objects that use the table, and looked up once. */
+    const std::vector<qsizetype> &placesAmong(const QList<SharedProperty> &properties) const;
     bool describeAnew(const PropertyRow &row, DesignerProperty &property) const;
 
     std::vector<PropertyRow> m_rows;
+    mutable std::vector<qsizetype> m_places;
+    mutable qsizetype m_placedAmong = -1;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -62,7 +62,9 @@ QList<const DesignerObject *> ElementIndex::withChannel(const QString &className
     if (!m_channelsKnown) {
         m_byChannel.clear();
         for (const Element *element : m_byName) {
-            if (const SharedProperty property = element->getProperty(u"channel")) {
+            const bool mayHaveChannel = element->isKindOfClass(u"HardwareElement"_s);
+            if (const SharedProperty property =
+                    mayHaveChannel ? element->getProperty(u"channel") : SharedProperty()) {
                 m_byChannel.insert({element->className(), property->valueString()}, element);
             }
         }

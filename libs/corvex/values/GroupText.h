@@ -3,11 +3,49 @@
 
 #include <QLatin1StringView>
 #include <QString>
-#include <QStringTokenizer>
 #include <QStringView>
+
+#include <algorithm>
 
 //! The group form, "color: #FF000000; width: 2;": the form of most values that have several fields.
 namespace Halvane::Corvex::Designer::GroupText {
+
+//! \a text without the blanks at its ends. The texts of this form are short: this is a few steps in place.
+inline QStringView withoutBlanks(QStringView text)
+{
+    const QChar *first = text.begin();
+    const QChar *last = text.end();
+    while (first != last && first->isSpace())
+        ++first;
+    while (last != first && (last - 1)->isSpace())
+        --last;
+    return {first, last};
+}
+
+//! What lies between two semicolons, with the places of its first colons; -1 for one that is not there.
+struct Item
+{
+    QStringView text;
+    qsizetype colons[3] = {-1, -1, -1};
+
+    //! Takes the first item off \a rest.
+    static Item takeFrom(QStringView &rest)
+    {
+        qsizetype start = 0;
+        while (start < rest.size() && rest[start].isSpace())
+            ++start;
+        Item item;
+        qsizetype count = 0;
+        qsizetype i = start;
+        for (; i < rest.size() && rest[i] != u';'; ++i) {
+            if (rest[i] == u':' && count < 3)
+                item.colons[count++] = i - start;
+        }
+        item.text = withoutBlanks(rest.sliced(start, i - start));
+        rest = rest.sliced(std::min(i + 1, rest.size()));
+        return item;
+    }
+};
 
 //! Calls entry(key, value) for each entry, in the order of the text; the views are valid during the call. An
 //! entry that returns false ends the reading. False when the text is blank, holds nothing but semicolons, has
@@ -27,20 +65,20 @@ bool forEachEntry(QStringView text, Entry &&entry)
         valueString.append(piece);
         inValueString = true;
     };
-    for (QStringView item : qTokenize(text.trimmed(), u';', Qt::SkipEmptyParts)) {
-        anyItem = true;
-        item = item.trimmed();
-        if (item.isEmpty())
+    QStringView rest = withoutBlanks(text);
+    while (!rest.isEmpty()) {
+        const bool isNothing = rest.front() == u';';
+        const Item item = Item::takeFrom(rest);
+        anyItem = anyItem || !isNothing;
+        if (item.text.isEmpty())
             continue;
-        const qsizetype colon = item.indexOf(u':');
-        const qsizetype second = colon < 0 ? -1 : item.indexOf(u':', colon + 1);
-        const QStringView key = colon < 0 ? item : item.first(colon).trimmed();
+        const auto [colon, second, third] = item.colons;
+        const QStringView key = colon < 0 ? item.text : withoutBlanks(item.text.first(colon));
         if (second >= 0 && key.compare(QLatin1StringView("valueString"), Qt::CaseInsensitive) == 0) {
-            const qsizetype third = item.indexOf(u':', second + 1);
-            appendPiece(item.first(third < 0 ? item.size() : third).sliced(colon + 1));
+            appendPiece(item.text.first(third < 0 ? item.text.size() : third).sliced(colon + 1));
         } else if (inValueString) {
-            appendPiece(item);
-        } else if (colon < 0 || second >= 0 || !entry(key, item.sliced(colon + 1).trimmed())) {
+            appendPiece(item.text);
+        } else if (colon < 0 || second >= 0 || !entry(key, withoutBlanks(item.text.sliced(colon + 1)))) {
             return false;
         }
     }

@@ -14,7 +14,14 @@ IdentifierInfo::IdentifierInfo(const QString &name, const QString &scopeType, co
 { }
 
 IdentifierInfo::IdentifierInfo(QStringView text, bool *ok)
+    : IdentifierInfo(fromText(text, IdentifierInfo(), ok))
+{ }
+
+IdentifierInfo IdentifierInfo::fromText(QStringView text, const IdentifierInfo &like, bool *ok)
 {
+    const auto shared = [](QStringView value, const QString &known) {
+        return value == known ? known : value.toString();
+    };
     IdentifierInfo identifier;
     bool hasName = false;
     const bool parsed = GroupText::forEachEntry(text, [&](QStringView key, QStringView value) {
@@ -22,16 +29,15 @@ IdentifierInfo::IdentifierInfo(QStringView text, bool *ok)
             identifier.m_name = value.toString();
             hasName = true;
         } else if (key == "scopeType"_L1) {
-            identifier.m_scopeType = value.toString();
+            identifier.m_scopeType = shared(value, like.m_scopeType);
         } else if (key == "filterType"_L1) {
-            identifier.m_filterType = value.toString();
+            identifier.m_filterType = shared(value, like.m_filterType);
         }
         return true;
     });
-    if (parsed && hasName)
-        *this = identifier;
     if (ok)
         *ok = parsed && hasName;
+    return parsed && hasName ? identifier : IdentifierInfo();
 }
 
 QString IdentifierInfo::toString() const

@@ -13,6 +13,17 @@ struct EmptyForm<IdentifierInfo>
     static std::optional<IdentifierInfo> parse(const QString &text);
 };
 
+//! A project has thousands of identifiers of few scopes and classes, whose texts they share.
+template<>
+struct TextForm<IdentifierInfo>
+{
+    static IdentifierInfo parseLike(const QString &text, const IdentifierInfo &current, bool *ok)
+    {
+        return IdentifierInfo::fromText(text, current, ok);
+    }
+    static QString print(const IdentifierInfo &value) { return value.toString(); }
+};
+
 //! The property "id" of every object.
 class IdentifierProperty : public TypedProperty<IdentifierInfo>
 {

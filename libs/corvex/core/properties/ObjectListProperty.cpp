@@ -158,9 +158,14 @@ void ObjectListProperty::sortAll()
     for (DesignerObject *item : items().items()) {
         keyed.emplace_back(keyOf(item, m_rule), item);
     }
-    std::stable_sort(keyed.begin(), keyed.end(), [this](const auto &left, const auto &right) {
+    const auto isBefore = [this](const auto &left, const auto &right) {
         return isLess(left.first, right.first, m_rule);
-    });
+    };
+    // What was saved in order needs no more than this look.
+    if (std::is_sorted(keyed.begin(), keyed.end(), isBefore)) {
+        return;
+    }
+    std::stable_sort(keyed.begin(), keyed.end(), isBefore);
     QList<DesignerObject *> order(qsizetype(keyed.size()));
     std::transform(keyed.begin(), keyed.end(), order.begin(), [](const auto &entry) { return entry.second; });
     items().reorder(order);

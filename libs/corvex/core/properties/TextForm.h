@@ -23,6 +23,14 @@ concept ReadsBesideCurrent = requires(const QString &text, const Value &current,
     TextForm<Value>::parse(text, current, ok);
 };
 
+//! Of a kind whose values share what they have in common with the value at hand: parseLike(text, current,
+//! ok).
+template<class Value>
+concept SharesTexts = requires(const QString &text, const Value &current, bool *ok)
+{
+    TextForm<Value>::parseLike(text, current, ok);
+};
+
 template<>
 struct TextForm<QString>
 {

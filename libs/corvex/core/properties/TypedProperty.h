@@ -58,11 +58,11 @@ protected:
 
     bool convertToValue(const QString &text) override
     {
-        std::optional<Value> parsed = parse(text);
+        const std::optional<Value> &parsed = parse(text);
         if (!parsed) {
             return false;
         }
-        m_value = *std::move(parsed);
+        m_value = *parsed;
         return true;
     }
 
@@ -72,7 +72,7 @@ protected:
 
     bool valueIsEqual(const QString &text) const override
     {
-        const std::optional<Value> parsed = parse(text);
+        const std::optional<Value> &parsed = parse(text);
         return !parsed || *parsed == m_value;
     }
 
@@ -91,15 +91,41 @@ protected:
         return true;
     }
 
-    void setValue(const Value &value) { m_value = value; }
+    void setValue(const Value &value)
+    {
+        m_value = value;
+        leaveInitialValue();
+    }
 
 private:
-    std::optional<Value> parse(const QString &text) const
+    struct Parsed
+    {
+        QString text;
+        std::optional<Value> value;
+    };
+
+    /*! The value of \a text, until the next call for a property of this type. A change looks at its text
+        several times: to compare it, to try it and to take it over; only the first look parses. */
+    const std::optional<Value> &parse(const QString &text) const
+    {
+        static thread_local Parsed last;
+        if (ReadsBesideCurrent<Value> || last.text.isEmpty() || last.text != text) {
+            last.value = parseAnew(text);
+            // A text without a capacity lies in memory of somebody else, where it may change.
+            last.text = text.capacity() > 0 ? text : QString();
+        }
+        return last.value;
+    }
+
+    std::optional<Value> parseAnew(const QString &text) const
     {
         bool ok = false;
         if constexpr (ReadsBesideCurrent<Value>) {
             const Value value = TextForm<Value>::parse(text, m_value, &ok);
             return ok ? std::optional(value) : std::nullopt;
+        } else if constexpr (SharesTexts<Value>) {
+            Value value = TextForm<Value>::parseLike(text, m_value, &ok);
+            return ok ? std::optional(std::move(value)) : EmptyForm<Value>::parse(text);
         } else {
             Value value = TextForm<Value>::parse(text, &ok);
             return ok ? std::optional(std::move(value)) : EmptyForm<Value>::parse(text);
