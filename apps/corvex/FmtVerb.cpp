@@ -5,11 +5,9 @@
 #include "Call.h"
 #include "JsonWriter.h"
 #include "ProjectFile.h"
+#include "RewrittenFile.h"
 #include "Terminal.h"
 #include "Verb.h"
-
-#include <QBuffer>
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -18,26 +16,6 @@ namespace Halvane::Corvex::Tool {
 using namespace Designer;
 
 namespace {
-
-//! What saving would write; nothing, with a text in \a error, when the project cannot be saved.
-QByteArray canonicalBytes(Project &project, QString *error)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    ObjectXmlWriter writer(&buffer, ObjectXmlWriter::LineEnd::Windows);
-    project.changePropertyValue(project.designerVersion(), Project::buildVersion());
-    if (!writer.write(&project)) {
-        *error = writer.errorString();
-        return {};
-    }
-    return buffer.data();
-}
-
-qsizetype firstDifferentLine(QByteArrayView a, QByteArrayView b)
-{
-    const auto [end, other] = std::ranges::mismatch(a, b);
-    return std::count(a.begin(), end, '\n') + 1;
-}
 
 //! Tells, for each note, what would be lost.
 ExitCode refuse(const Call &call, const ProjectFile &file, const QList<ReadNote> &dropped)
@@ -50,15 +28,17 @@ ExitCode refuse(const Call &call, const ProjectFile &file, const QList<ReadNote>
                        ExitCode::Problems);
 }
 
-void report(const Call &call, const ProjectFile &file, bool isCanonical, qsizetype line, bool written)
+//! The first line that differs is 0 when none does.
+void report(const Call &call, const ProjectFile &file, qint64 line, bool written)
 {
+    const bool isCanonical = line == 0;
     if (call.asJson()) {
         JsonWriter json(call.terminal());
         json.beginObject();
         json.member("file"_L1, file.path());
         json.member("canonical"_L1, isCanonical);
         if (!isCanonical) {
-            json.member("line"_L1, qint64(line));
+            json.member("line"_L1, line);
         }
         json.member("written"_L1, written);
         json.endObject();
@@ -71,30 +51,37 @@ void report(const Call &call, const ProjectFile &file, bool isCanonical, qsizety
 
 ExitCode run(const Call &call, const ProjectFile &file)
 {
-    QString error;
-    const QByteArray canonical = canonicalBytes(file.project(), &error);
-    if (!error.isEmpty()) {
-        return call.failed(u"\"%1\" cannot be written: %2"_s.arg(file.path(), error), ExitCode::Problems);
+    const QList<ReadNote> dropped = file.dropped();
+    const bool onlyChecks = call.isSet(u"check"_s);
+    const bool loses = !dropped.isEmpty() && !call.isSet(u"force"_s);
+    Project &project = file.project();
+    using Mode = RewrittenFile::Mode;
+    RewrittenFile rewritten(project.fullFilePath(), onlyChecks || loses ? Mode::Compare : Mode::Rewrite);
+    if (!rewritten.openForWriting()) {
+        return call.failed(rewritten.errorString());
     }
-    QFile old(file.path());
-    if (!old.open(QIODevice::ReadOnly)) {
-        return call.failed(u"The file \"%1\" cannot be read: %2"_s.arg(file.path(), old.errorString()));
+    project.changePropertyValue(project.designerVersion(), Project::buildVersion());
+    ObjectXmlWriter writer(&rewritten, ObjectXmlWriter::LineEnd::Windows);
+    const bool isWritten = writer.write(&project) && rewritten.finish();
+    if (rewritten.hasFailed()) {
+        return call.failed(rewritten.errorString());
     }
-    const QByteArray bytes = old.readAll();
-    old.close();
-    const bool isCanonical = bytes == canonical;
-    const qsizetype line = isCanonical ? 0 : firstDifferentLine(bytes, canonical);
-    if (isCanonical || call.isSet(u"check"_s)) {
-        report(call, file, isCanonical, line, false);
-        return isCanonical ? ExitCode::Done : ExitCode::Problems;
+    if (!isWritten) {
+        return call.failed(u"\"%1\" cannot be written: %2"_s.arg(file.path(), writer.errorString()),
+                           ExitCode::Problems);
     }
-    if (const QList<ReadNote> dropped = file.dropped(); !dropped.isEmpty() && !call.isSet(u"force"_s)) {
+    const qint64 line = rewritten.differentLine();
+    if (line == 0 || onlyChecks) {
+        report(call, file, line, false);
+        return line == 0 ? ExitCode::Done : ExitCode::Problems;
+    }
+    if (loses) {
         return refuse(call, file, dropped);
     }
-    if (!file.project().saveFile()) {
-        return call.failed(file.project().fileError());
+    if (!rewritten.commit()) {
+        return call.failed(rewritten.errorString());
     }
-    report(call, file, false, line, true);
+    report(call, file, line, true);
     return ExitCode::Done;
 }
 

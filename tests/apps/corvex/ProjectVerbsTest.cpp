@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QProcess>
 
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -328,6 +329,37 @@ TEST(FmtVerb, writesTheCanonicalFormAndNothingElse)
     EXPECT_EQ(again.code, 0);
     EXPECT_EQ(sandbox.run({u"fmt"_s, pump}).out, QString());
     EXPECT_EQ(sandbox.read(pump), canonical);
+}
+
+TEST(FmtVerb, findsADifferenceWhereverItIs)
+{
+    const Sandbox sandbox;
+    QByteArray elements = goodElements();
+    for (const char *name : {"long1", "long2", "long3"}) {
+        elements += Sandbox::object("Text", name, Sandbox::value("text", QByteArray(300'000, 'x')));
+    }
+    sandbox.makeProject(elements);
+    ASSERT_EQ(sandbox.run({u"fmt"_s, pump}).code, 0);
+    const QByteArray canonical = sandbox.read(pump);
+    const auto changed = [&canonical](const QByteArray &text, const QByteArray &other) {
+        return QByteArray(canonical).replace(text, other);
+    };
+    const QByteArray cases[] = {
+        changed("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n", {}),
+        changed("name: long3;", "name:long3;"),
+        canonical + "\n",
+        canonical.chopped(2),
+    };
+    for (const QByteArray &text : cases) {
+        sandbox.write(pump, text);
+        const auto end = std::ranges::mismatch(text, canonical).in1;
+        const QString line = QString::number(std::count(text.begin(), end, '\n') + 1);
+        EXPECT_EQ(sandbox.run({u"fmt"_s, u"--check"_s, pump}).out,
+                  u"%1:%2: not in the canonical form\n"_s.arg(pump, line));
+        EXPECT_EQ(sandbox.read(pump), text);
+        EXPECT_EQ(sandbox.run({u"fmt"_s, pump}).code, 0);
+        EXPECT_EQ(sandbox.read(pump), canonical) << "line " << line.toStdString();
+    }
 }
 
 TEST(FmtVerb, losesNothingUnlessItIsTold)
