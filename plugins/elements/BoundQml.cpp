@@ -37,7 +37,9 @@ QString bindingOf(const DesignerObject *owner, const QString &name)
     if (!property || binding == std::end(bindings)) {
         return {};
     }
-    return GeneralDataList(property->valueString()).toQmlString(binding->output, binding->kind);
+    const QString expression = property->valueString();
+    return expression.isEmpty() ? QString()
+                                : GeneralDataList(expression).toQmlString(binding->output, binding->kind);
 }
 
 } // namespace

@@ -123,18 +123,21 @@ QString DesignerObject::onCompletedQml(int) const
 
 QString DesignerObject::toQml(int indent) const
 {
-    QStringList lines{QmlText::tabs(indent) + qmlName() + u" {"_s};
+    constexpr qsizetype usualSize = 1024;
+    QString text = QmlText::tabs(indent);
+    text.reserve(usualSize);
+    text += qmlName() + u" {\n"_s;
     for (const SharedProperty &property : d->properties) {
         const QString line = property->toQml(indent + 1);
         if (!line.isEmpty()) {
-            lines.append(line);
+            text.append(line).append(u'\n');
         }
         if (property == d->id) {
-            lines.append(QmlText::line(indent + 1, u"objectName"_s, QmlText::quoted(getIdName())));
+            text.append(QmlText::line(indent + 1, u"objectName"_s, QmlText::quoted(getIdName())))
+                .append(u'\n');
         }
     }
-    lines.append(QmlText::tabs(indent) + u'}');
-    return lines.join(u'\n');
+    return text.append(QmlText::tabs(indent)).append(u'}');
 }
 
 SharedProperty DesignerObject::getProperty(QStringView id) const

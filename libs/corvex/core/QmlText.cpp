@@ -14,7 +14,10 @@ QString tabs(int indent)
 
 QString line(int indent, const QString &id, const QString &value)
 {
-    return tabs(indent) + id + u": "_s + value;
+    QString text;
+    text.reserve(indent + id.size() + 2 + value.size());
+    text.resize(indent, u'\t');
+    return text.append(id).append(": "_L1).append(value);
 }
 
 QString quoted(const QString &text)

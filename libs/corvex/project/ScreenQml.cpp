@@ -45,10 +45,10 @@ constexpr int otherGroup = listCount + 1;
 //! Where an element goes: the index of its list, visualGroup or otherGroup.
 int groupOf(const DesignerObject *item)
 {
-    const QStringList classNames = item->classNames();
-    if (classNames.contains("VisualElement"_L1)) {
+    if (item->isKindOfClass(u"VisualElement"_s)) {
         return visualGroup;
     }
+    const QStringList classNames = item->classNames();
     const auto entry = std::find_if(std::begin(qmlLists), std::end(qmlLists), [&](const auto &list) {
         return classNames.contains(QLatin1StringView(list.className));
     });
@@ -104,7 +104,9 @@ QStringList Screen::elementLists(int indent) const
     for (const DesignerObject *item : elements()->listItems()) {
         const int group = groupOf(item);
         if (group < listCount && qmlLists[group].isSerialPort) {
-            announceScreen(item, *this);
+            if (group < listCount) {
+                announceScreen(item, *this);
+            }
         }
         blocks[group].append(item->toQml(group < listCount ? indent + 1 : indent));
     }

@@ -78,13 +78,16 @@ struct NamedValue
 //! A line for each value, "prefix" before its name.
 QString lines(int indent, const QString &prefix, std::initializer_list<NamedValue> values)
 {
-    QStringList texts;
+    constexpr qsizetype usualLine = 32;
+    QString text;
+    text.reserve(qsizetype(values.size()) * usualLine);
     for (const auto &[name, value] : values) {
         if (!value.isEmpty()) {
-            texts.append(QmlText::line(indent, prefix + name, value));
+            text.append(text.isEmpty() ? QLatin1StringView() : "\n"_L1);
+            text.append(QmlText::tabs(indent)).append(prefix).append(name).append(": "_L1).append(value);
         }
     }
-    return texts.join(u'\n');
+    return text;
 }
 
 struct Flag
