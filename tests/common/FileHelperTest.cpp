@@ -2,6 +2,8 @@
 #include "corvex/common/FileHelper.h"
 #include "corvex/common/SafeFile.h"
 
+#include "support/FullDisk.h"
+
 #include <QColor>
 #include <QDir>
 #include <QFile>
@@ -10,10 +12,8 @@
 #include <QSize>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <gtest/gtest.h>
 #include <limits>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 using Halvane::Corvex::Common::FileHelper;
@@ -32,29 +32,6 @@ void put(const QString &path, const QByteArray &bytes)
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
-
-//! A disk that takes only so many bytes per file, while it lives.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    void (*m_handler)(int);
-    rlimit m_before{};
-};
 
 class FileHelperTest : public testing::Test
 {

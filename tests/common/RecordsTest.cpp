@@ -33,51 +33,21 @@ TEST(EnumHelper, EveryVariableTypeHasAText)
 TEST(EnumHelper, BACnetTables)
 {
     // Numbers on both sides of each gap of the standard.
-    const struct
-    {
-        int number;
-        QString name;
-    } properties[] = {
-        {0, u"acked-transitions"_s},
-        {7, u"alarm-values"_s},
-        {9, u"all-writes-successful"_s},
-        {17, u"notification-class"_s},
-        {19, u"controlled-variable-reference"_s},
-        {28, u"description"_s},
-        {62, u"max-apdu-length-accepted"_s},
-        {77, u"object-name"_s},
-        {79, u"object-type"_s},
-        {81, u"out-of-service"_s},
-        {85, u"present-value"_s},
-        {94, u"proportional-constant-units"_s},
-        {96, u"protocol-object-types-supported"_s},
-        {104, u"relinquish-default"_s},
-        {106, u"resolution"_s},
-        {117, u"units"_s},
-        {155, u"database-revision"_s},
-        {193, u"align-intervals"_s},
-        {195, u"interval-offset"_s},
-        {197, u"logging-type"_s},
-        {202, u"restart-notification-recipients"_s},
-        {215, u"full-duty-baseline"_s},
-        {218, u"requested-shed-level"_s},
-        {222, u"state-description"_s},
-        {226, u"door-alarm-state"_s},
-        {235, u"secured-status"_s},
-        {244, u"absentee-limit"_s},
-        {311, u"user-information-reference"_s},
-        {317, u"user-name"_s},
-        {323, u"global-identifier"_s},
-        {326, u"verification-time"_s},
-        {371, u"property-list"_s},
-        {399, u"apdu-length"_s},
-        {427, u"network-type"_s},
-        {465, u"group-id"_s},
-        {467, u"group-mode"_s},
-        {507, u"device-uuid"_s},
-    };
-    for (const auto &row : properties)
-        EXPECT_EQ(EnumHelper::getBACnetPropIDToNames().value(row.number), row.name) << row.number;
+    const QString properties =
+        u"0=acked-transitions 7=alarm-values 9=all-writes-successful 17=notification-class "
+        "19=controlled-variable-reference 28=description 62=max-apdu-length-accepted 77=object-name "
+        "79=object-type 81=out-of-service 85=present-value 94=proportional-constant-units "
+        "96=protocol-object-types-supported 104=relinquish-default 106=resolution 117=units "
+        "155=database-revision 193=align-intervals 195=interval-offset 197=logging-type "
+        "202=restart-notification-recipients 215=full-duty-baseline 218=requested-shed-level "
+        "222=state-description 226=door-alarm-state 235=secured-status 244=absentee-limit "
+        "311=user-information-reference 317=user-name 323=global-identifier 326=verification-time "
+        "371=property-list 399=apdu-length 427=network-type 465=group-id 467=group-mode "
+        "507=device-uuid"_s;
+    for (const QString &row : properties.split(u' ')) {
+        const int number = row.section(u'=', 0, 0).toInt();
+        EXPECT_EQ(EnumHelper::getBACnetPropIDToNames().value(number), row.section(u'=', 1)) << number;
+    }
     for (const int gap : {8, 18, 80, 95, 105, 194, 198, 216, 223, 236, 312, 324, 466, 508})
         EXPECT_FALSE(EnumHelper::getBACnetPropIDToNames().contains(gap)) << gap;
     EXPECT_EQ(EnumHelper::getBACnetObjIDToNames().value(8), u"device"_s);

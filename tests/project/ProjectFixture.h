@@ -6,6 +6,8 @@
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 
+#include "support/Model.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
@@ -25,15 +27,6 @@ protected:
 
     QString path(const QString &relative = {}) const { return folder.filePath(relative); }
 
-    //! An object of one of the library's classes, which the caller owns.
-    template<class Object>
-    static Object *make(const QString &className, const QString &name)
-    {
-        DesignerObject *object = DesignerFactory::instance()->createObject(className);
-        object->setParent(nullptr);
-        object->setIdName(name);
-        return static_cast<Object *>(object);
-    }
     static std::unique_ptr<Project> makeEmptyProject(const QString &name = QStringLiteral("Pumps"))
     {
         return std::unique_ptr<Project>(make<Project>(QStringLiteral("Project"), name));

@@ -3,11 +3,10 @@
 #include "corvex/hardware/HardwareConfigurations.h"
 
 #include "ProjectFixture.h"
+#include "support/FullDisk.h"
 
 #include <QAction>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -16,33 +15,6 @@ using namespace Qt::StringLiterals;
 namespace Halvane::Corvex::Designer {
 
 using ProjectTest = Test::ProjectFixture;
-
-namespace {
-
-//! For its life the disk takes no file of more than some bytes, as if it were full.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_limit);
-        const rlimit full{bytes, m_limit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &full);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_limit);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    rlimit m_limit;
-    void (*m_handler)(int);
-};
-
-} // namespace
 
 TEST_F(ProjectTest, WhatIsCreatedAndSavedIsReadBackAsTheSameBytes)
 {

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/core/DesignerFactory.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/PropertyValidators.h"
 #include "corvex/project/FilterElement.h"
@@ -8,9 +7,7 @@
 #include "corvex/project/Screen.h"
 #include "corvex/values/ObjectLinkInfo.h"
 
-#include <QCoreApplication>
-
-#include <gtest/gtest.h>
+#include "ProjectFixture.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,29 +15,9 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-class ScreenTest : public testing::Test
+class ScreenTest : public Test::ProjectFixture
 {
 protected:
-    ScreenTest()
-    {
-        DesignerFactory::createInstance(QCoreApplication::applicationDirPath());
-        project.reset(make<Project>(u"Project"_s, u"Plant"_s));
-        configuration = make<DesignerObject>(u"Configuration"_s, u"VTR"_s);
-        set(configuration, u"screenSize", u"height: 272; width: 480;"_s);
-        project->changePropertyObjectValue(project->configuration(), configuration);
-        screen = make<Screen>(u"Screen"_s, u"Main"_s);
-        project->addListPropertyItem(project->screens(), screen);
-    }
-
-    template<class Object>
-    static Object *make(const QString &className, const QString &name)
-    {
-        DesignerObject *object = DesignerFactory::instance()->createObject(className);
-        object->setParent(nullptr);
-        object->setIdName(name);
-        return static_cast<Object *>(object);
-    }
-
     //! Groups stand in for all visual elements here: the core makes no others.
     GroupElement *addGroup(const QString &name, DesignerObject *to = nullptr)
     {
@@ -61,9 +38,9 @@ protected:
         return object->idProperty()->errorString();
     }
 
-    std::unique_ptr<Project> project;
-    DesignerObject *configuration = nullptr;
-    Screen *screen = nullptr;
+    const std::unique_ptr<Project> project = makeProject();
+    DesignerObject *const configuration = project->configuration()->objectValue();
+    Screen *const screen = static_cast<Screen *>(project->screens()->listItems().constFirst());
 };
 
 } // namespace

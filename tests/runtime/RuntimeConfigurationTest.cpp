@@ -8,6 +8,8 @@
 #include "corvex/variables/BACnetPropertyList.h"
 #include "corvex/variables/CanParameterMap.h"
 
+#include "support/Model.h"
+
 #include <QColor>
 #include <QCoreApplication>
 #include <QDir>
@@ -29,16 +31,8 @@ protected:
     RuntimeConfigurationTest()
     {
         DesignerFactory::createInstance(QCoreApplication::applicationDirPath());
-        project.reset(static_cast<Project *>(make(u"Project"_s, u"Pump Station"_s)));
+        project.reset(make<Project>(u"Project"_s, u"Pump Station"_s));
         project->changePropertyObjectValue(project->configuration(), make(u"Configuration"_s, u"VTR"_s));
-    }
-
-    static DesignerObject *make(const QString &className, const QString &name)
-    {
-        DesignerObject *object = DesignerFactory::instance()->createObject(className);
-        object->setParent(nullptr);
-        object->setIdName(name);
-        return object;
     }
 
     void addVariable(const QString &className, const QString &name, const Texts &texts)

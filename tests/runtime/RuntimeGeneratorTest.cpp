@@ -5,6 +5,8 @@
 #include "corvex/project/Screen.h"
 #include "corvex/runtime/RuntimeGenerator.h"
 
+#include "support/Model.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -24,21 +26,13 @@ protected:
     RuntimeGeneratorTest()
     {
         DesignerFactory::createInstance(QCoreApplication::applicationDirPath());
-        project.reset(static_cast<Project *>(make(u"Project"_s, u"Pump %1 Station"_s)));
+        project.reset(make<Project>(u"Project"_s, u"Pump %1 Station"_s));
         project->changePropertyObjectValue(project->configuration(), make(u"Configuration"_s, u"VTR"_s));
         addScreen(u"Main"_s);
         addScreen(u"Trends"_s);
     }
 
     ~RuntimeGeneratorTest() override { generator.removeBuildFolder(); }
-
-    static DesignerObject *make(const QString &className, const QString &name)
-    {
-        DesignerObject *object = DesignerFactory::instance()->createObject(className);
-        object->setParent(nullptr);
-        object->setIdName(name);
-        return object;
-    }
 
     void addScreen(const QString &name)
     {

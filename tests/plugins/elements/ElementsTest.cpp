@@ -10,6 +10,8 @@
 #include "corvex/values/UpdateObjectList.h"
 #include "corvex/variables/MappingVariable.h"
 
+#include "support/Model.h"
+
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QTemporaryDir>
@@ -29,18 +31,10 @@ protected:
     Elements()
     {
         DesignerFactory::createInstance(QString::fromUtf8(CORVEX_LIBRARY_DIR));
-        project.reset(static_cast<Project *>(make(u"Project"_s, u"Plant"_s)));
-        screen = static_cast<Screen *>(make(u"Screen"_s, u"Main"_s));
+        project.reset(make<Project>(u"Project"_s, u"Plant"_s));
+        screen = make<Screen>(u"Screen"_s, u"Main"_s);
         project->addListPropertyItem(project->screens(), screen);
         project->addListPropertyItem(project->screens(), make(u"Screen"_s, u"Other"_s));
-    }
-
-    static DesignerObject *make(const QString &className, const QString &name)
-    {
-        DesignerObject *object = DesignerFactory::instance()->createObject(className);
-        object->setParent(nullptr);
-        object->setIdName(name);
-        return object;
     }
 
     DesignerObject *add(const char *className, const QString &name)

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/DesignerObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! An object of a class that the factory knows, which the caller owns.
+template<class Object = DesignerObject>
+Object *make(const QString &className, const QString &name)
+{
+    DesignerObject *object = DesignerFactory::instance()->createObject(className);
+    object->setParent(nullptr);
+    object->setIdName(name);
+    return static_cast<Object *>(object);
+}
+
+} // namespace Halvane::Corvex::Designer
