@@ -1,25 +1,64 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/project/Project.h"
+#include "corvex/runtime/RuntimeGenerator.h"
+
 #include "Call.h"
 #include "Installation.h"
+#include "PreviewProgram.h"
 #include "ProjectFile.h"
 #include "ProjectProblems.h"
 #include "Terminal.h"
 #include "Verb.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QScopeGuard>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
 
+using namespace Designer;
+
 namespace {
+
+//! Runs a build of the project and adds what is wrong with its screens.
+ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> &problems)
+{
+    call.terminal().showProgress(u"looking at the screens of %1"_s.arg(file.path()));
+    RuntimeGenerator &generator = file.project().runtimeGenerator();
+    const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
+    file.project().generateRuntimeFiles();
+    if (generator.buildFolder().isEmpty()) {
+        return call.failed(generator.errorString());
+    }
+    PreviewProgram program(call);
+    program.process().setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    if (!program.start({generator.buildFolder(), u"--audit"_s}) || !program.process().waitForFinished(-1)) {
+        return ExitCode::File;
+    }
+    const QJsonArray entries = QJsonDocument::fromJson(program.process().readAllStandardOutput()).array();
+    for (const QJsonValue &entry : entries) {
+        problems.append({entry[u"object"].toString(), QString(), entry[u"message"].toString()});
+    }
+    const ExitCode code = program.exitCode();
+    return code == ExitCode::Problems ? ExitCode::Done : code;
+}
 
 ExitCode run(const Call &call, const ProjectFile &file)
 {
-    const Designer::ConfigurationContainer *models = Installation::loadModels(call);
+    const ConfigurationContainer *models = Installation::loadModels(call);
     if (!models) {
         return ExitCode::File;
     }
     call.terminal().showProgress(u"checking %1"_s.arg(file.path()));
-    const QList<Problem> problems = ProjectProblems::find(file, *models);
+    QList<Problem> problems = ProjectProblems::find(file, *models);
+    if (call.isSet(u"screens"_s)) {
+        const ExitCode code = checkScreens(call, file, problems);
+        if (code != ExitCode::Done) {
+            return code;
+        }
+    }
     if (call.asJson()) {
         ProjectProblems::printJson(problems, call.terminal());
     } else {
@@ -28,6 +67,11 @@ ExitCode run(const Call &call, const ProjectFile &file)
         }
     }
     return problems.isEmpty() ? ExitCode::Done : ExitCode::Problems;
+}
+
+QList<QCommandLineOption> options()
+{
+    return {QCommandLineOption(u"screens"_s, u"Run the screens, too, and look at them."_s)};
 }
 
 } // namespace
@@ -41,10 +85,15 @@ const Verb checkVerb{
             return uR"(Loads the project, validates everything and prints one line for each problem: the path of the
 object, the property, and what is wrong. Among them are parts of the file that could not be
 read, with line and column, and generated code that the device could not read. Without
-problems nothing is printed; with any the exit code is 1.)"_s;
+problems nothing is printed; with any the exit code is 1.
+
+With --screens, the screens are run as the device would run them: texts that do not fit,
+elements that are outside of the screen or wholly hidden by others, and all that goes wrong
+while they run are problems, too.)"_s;
         },
     .example = "corvex check examples/PumpStation/PumpStation.kdproj",
     .opensProjects = true,
+    .options = options,
     .run = onProject<run>,
 };
 

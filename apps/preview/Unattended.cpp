@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "Unattended.h"
 
+#include "corvex/preview/ScreenAudit.h"
 #include "corvex/preview/script/PanelWindow.h"
 #include "corvex/preview/script/PreviewScript.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 using namespace Qt::StringLiterals;
 
@@ -65,6 +69,13 @@ Exit runScript(PreviewSession &session, PanelWindow &window, const QString &scri
     return failures.isEmpty() ? Exit::Done : Exit::Problems;
 }
 
+void append(const QList<PanelProblem> &problems, QJsonArray &entries)
+{
+    for (const PanelProblem &problem : problems) {
+        entries.append(QJsonObject{{u"object"_s, problem.element}, {u"message"_s, problem.message}});
+    }
+}
+
 } // namespace
 
 Exit runUnattended(PreviewSession &session, const QString &scriptFile, const QString &folder)
@@ -74,6 +85,21 @@ Exit runUnattended(PreviewSession &session, const QString &scriptFile, const QSt
                                              : runScript(session, window, scriptFile, folder);
     const Exit problems = printProblems(session.panel().problems());
     return result == Exit::Done ? problems : result;
+}
+
+Exit runAudit(PreviewSession &session)
+{
+    PanelWindow window(session);
+    QJsonArray entries;
+    for (const QString &name : session.screens()) {
+        if (session.showScreen(name)) {
+            window.picture(); // which lays out what is in it
+            append(ScreenAudit::find(session.screenItem()), entries);
+        }
+    }
+    append(session.panel().problems().problems(), entries);
+    print(QString::fromUtf8(QJsonDocument(entries).toJson(QJsonDocument::Compact)));
+    return entries.isEmpty() ? Exit::Done : Exit::Problems;
 }
 
 } // namespace Halvane::Corvex::Preview

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// corvex-preview FOLDER [--shot DIR] [--script FILE] [--state FILE]: runs a build on the desktop, in a window
-// unless there is a picture to take or a script to follow.
+// corvex-preview FOLDER [--audit] [--shot DIR] [--script FILE] [--state FILE]: runs a build on the desktop,
+// in a window unless there is a picture to take or a script to follow.
 #include "corvex/preview/window/PreviewWindow.h"
 
 #include "Output.h"
@@ -28,7 +28,8 @@ void printMessage(QtMsgType type, const QMessageLogContext &context, const QStri
 bool needsNoWindow(int argc, char **argv)
 {
     return std::any_of(argv + 1, argv + argc, [](const char *argument) {
-        return argument == QByteArrayView("--shot") || argument == QByteArrayView("--script");
+        return argument == QByteArrayView("--shot") || argument == QByteArrayView("--script")
+               || argument == QByteArrayView("--audit");
     });
 }
 
@@ -63,6 +64,9 @@ Exit run(const QCommandLineParser &parser, bool isUnattended)
         complain(error);
         return Exit::File;
     }
+    if (parser.isSet(u"audit"_s)) {
+        return runAudit(session);
+    }
     return runUnattended(session, parser.value(u"script"_s), parser.value(u"shot"_s));
 }
 
@@ -84,6 +88,7 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     parser.addOptions({{u"shot"_s, u"Pictures of all screens."_s, u"DIR"_s},
                        {u"script"_s, u"What to do with the panel."_s, u"FILE"_s},
+                       {u"audit"_s, u"What is wrong with the screens, as JSON."_s},
                        {u"state"_s, u"Where persistent variables are kept."_s, u"PATH"_s}});
     parser.addPositionalArgument(u"FOLDER"_s, u"The folder of a build."_s);
     parser.process(*application);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/preview/ScreenAudit.h"
+
 #include "TestBuild.h"
 
 #include <gmock/gmock.h>
@@ -189,6 +191,39 @@ TEST(PreviewSession, keepsWhatOutlivesTheDevice)
     EXPECT_THAT(panel.run("expect kept 5; expect lost 1; expect box.color blue; expect box.x 7"), IsEmpty());
     build.write(u"state/kept.json"_s, "[");
     EXPECT_THAT(TestPanel(build, state).problems(), ElementsAre(startingWith("\"")));
+}
+
+TEST(PreviewSession, looksAtItsScreens)
+{
+    TestBuild build;
+    build.writeConfiguration();
+    build.addScreen("Main", R"(
+        Text { objectName: "fits"; text: "a"; width: 50; height: 30; font.pixelSize: 12 }
+        Text { objectName: "wide"; text: "much too much"; width: 50; height: 30; font.pixelSize: 12; y: 30 }
+        Rectangle { objectName: "gone"; x: 200; width: 10; height: 10 }
+        Rectangle { objectName: "cut"; x: 195; width: 10; height: 10 }
+        GroupElement { objectName: "group"; x: 100; z: 1
+            Rectangle { objectName: "below"; x: 2; y: 2; width: 16; height: 16; radius: 2 }
+            Rectangle { objectName: "hidden"; x: 2; y: 2; width: 16; height: 16 }
+            Rectangle { objectName: "left"; width: 10; height: 20 }
+            Rectangle { objectName: "right"; x: 10; width: 10; height: 20 }
+        }
+        Rectangle { objectName: "through"; x: 100; y: 40; width: 20; height: 20 }
+        Rectangle { objectName: "glass"; x: 100; y: 40; width: 20; height: 20; opacity: 0.9 }
+        Rectangle { objectName: "round"; x: 100; y: 40; width: 20; height: 20; radius: 10 }
+        Rectangle { objectName: "turned"; x: 100; y: 40; width: 20; height: 20; rotation: 45 }
+        Rectangle { objectName: "away"; x: 300; width: 20; height: 20; visible: false }
+    )");
+    TestPanel panel(build);
+    QStringList found;
+    for (const PanelProblem &problem : ScreenAudit::find(panel.session.screenItem())) {
+        found.append(problem.toString());
+    }
+    EXPECT_THAT(found, ElementsAre(startingWith("Main.wide: The text does not fit: it needs "),
+                                   startingWith("Main.gone: The element is outside of the screen."),
+                                   startingWith("Main.cut: A part"),
+                                   startingWith("Main.group.hidden: Other elements hide"),
+                                   startingWith("Main.group.below: Other elements hide")));
 }
 
 } // namespace Halvane::Corvex::Preview

@@ -159,10 +159,13 @@ void StandIns::registerModules()
 
 QStringList StandIns::addUnknownClasses(const BuildFolder &build)
 {
-    // The engine reads types from files alone.
-    static const QTemporaryDir folder;
     static QSet<QString> boxes;
     const QMap<QString, QSet<QString>> classes = unknownClasses(build, boxes);
+    if (classes.isEmpty()) {
+        return {};
+    }
+    // The engine reads types from files alone.
+    static const QTemporaryDir folder;
     for (const auto &[name, properties] : classes.asKeyValueRange()) {
         QFile file(folder.filePath(name + u".qml"_s));
         if (!file.open(QIODevice::WriteOnly)) {

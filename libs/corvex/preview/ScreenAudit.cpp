@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/preview/ScreenAudit.h"
+
+#include "corvex/preview/Panel.h"
+
+#include <QColor>
+#include <QQuickItem>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Preview {
+
+namespace {
+
+// Fractions of a pixel are nobody's business.
+constexpr double tolerance = 0.5;
+
+bool isDrawn(const QQuickItem *item)
+{
+    // Groups draw nothing themselves.
+    return !item->objectName().isEmpty() && !item->property("indexes").isValid();
+}
+
+//! Children in the order in which they are drawn.
+QList<QQuickItem *> sortedChildren(const QQuickItem *item)
+{
+    QList<QQuickItem *> children = item->childItems();
+    std::ranges::stable_sort(children, {}, &QQuickItem::z);
+    return children;
+}
+
+double effectiveOpacity(const QQuickItem *item, const QQuickItem *screen)
+{
+    double opacity = 1;
+    for (; item && item != screen; item = item->parentItem()) {
+        opacity *= item->opacity();
+    }
+    return opacity;
+}
+
+bool isUpright(const QQuickItem *item, const QQuickItem *screen)
+{
+    for (; item && item != screen; item = item->parentItem()) {
+        if (std::fmod(item->rotation(), 90) != 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+QString size(double width, double height)
+{
+    return u"%1 x %2"_s.arg(QString::number(std::ceil(width)), QString::number(std::ceil(height)));
+}
+
+} // namespace
+
+ScreenAudit::ScreenAudit(QQuickItem *screen)
+    : m_screen(screen)
+{ }
+
+QList<PanelProblem> ScreenAudit::find(QQuickItem *screen)
+{
+    ScreenAudit audit(screen);
+    audit.collect(screen);
+    for (const Drawn &drawn : std::as_const(audit.m_drawn)) {
+        audit.checkText(drawn);
+        audit.checkPlace(drawn);
+    }
+    audit.checkCovers();
+    return audit.m_problems;
+}
+
+void ScreenAudit::collect(QQuickItem *item)
+{
+    if (!item->isVisible() || effectiveOpacity(item, m_screen) <= 0) {
+        return;
+    }
+    if (item != m_screen && isDrawn(item)) {
+        m_drawn.append({item, item->mapRectToItem(m_screen, QRectF(QPointF(), item->size()))});
+    }
+    for (QQuickItem *child : sortedChildren(item)) {
+        collect(child);
+    }
+}
+
+void ScreenAudit::report(const QQuickItem *item, const QString &message)
+{
+    m_problems.append({Panel::pathOf(item), message});
+}
+
+void ScreenAudit::checkText(const Drawn &drawn)
+{
+    const QVariant width = drawn.item->property("contentWidth");
+    if (!width.isValid() || drawn.item->property("text").toString().isEmpty()) {
+        return;
+    }
+    const double neededWidth = width.toDouble();
+    const double neededHeight = drawn.item->property("contentHeight").toDouble();
+    if (neededWidth > drawn.item->width() + tolerance || neededHeight > drawn.item->height() + tolerance) {
+        report(drawn.item,
+               u"The text does not fit: it needs %1 pixels and has %2."_s.arg(
+                   size(neededWidth, neededHeight), size(drawn.item->width(), drawn.item->height())));
+    }
+}
+
+void ScreenAudit::checkPlace(const Drawn &drawn)
+{
+    const QRectF screen(QPointF(), m_screen->size());
+    const QRectF within = screen.adjusted(-tolerance, -tolerance, tolerance, tolerance);
+    if (drawn.rect.isEmpty() || within.contains(drawn.rect)) {
+        return;
+    }
+    report(drawn.item, screen.intersects(drawn.rect) ? u"A part of the element is outside of the screen."_s
+                                                     : u"The element is outside of the screen."_s);
+}
+
+QRect ScreenAudit::opaquePart(const Drawn &drawn) const
+{
+    const QVariant radius = drawn.item->property("radius");
+    const bool isFilled = radius.isValid() && drawn.item->property("color").value<QColor>().alpha() == 255;
+    if (!isFilled || effectiveOpacity(drawn.item, m_screen) < 1 || !isUpright(drawn.item, m_screen)) {
+        return {};
+    }
+    // Inside the round corners, and whole pixels.
+    const double corner = radius.toDouble() * (1 - M_SQRT1_2);
+    const QRectF inside = drawn.rect.adjusted(corner, corner, -corner, -corner);
+    return QRect(QPoint(int(std::ceil(inside.left())), int(std::ceil(inside.top()))),
+                 QPoint(int(std::floor(inside.right())) - 1, int(std::floor(inside.bottom())) - 1));
+}
+
+void ScreenAudit::checkCovers()
+{
+    const QRect screen(QPoint(), m_screen->size().toSize());
+    QRegion covered;
+    for (auto drawn = m_drawn.crbegin(); drawn != m_drawn.crend(); ++drawn) {
+        const QRect seen = drawn->rect.toAlignedRect() & screen;
+        if (!seen.isEmpty() && QRegion(seen).subtracted(covered).isEmpty()) {
+            report(drawn->item, u"Other elements hide the element wholly."_s);
+        }
+        covered += opaquePart(*drawn);
+    }
+}
+
+} // namespace Halvane::Corvex::Preview
