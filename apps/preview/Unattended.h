@@ -11,8 +11,8 @@ namespace Halvane::Corvex::Preview {
    one, those that the script asks for. */
 Exit runUnattended(PreviewSession &session, const QString &scriptFile, const QString &folder);
 
-/*! Looks at every screen, and prints all that is wrong as an array of JSON, with "object" and "message" in each
-    entry. */
+/*! Looks at every screen, and prints all that is wrong as an array of JSON, with "object" and "message" in
+   each entry. */
 Exit runAudit(PreviewSession &session);
 
 } // namespace Halvane::Corvex::Preview
