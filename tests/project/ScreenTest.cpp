@@ -43,7 +43,33 @@ protected:
     Screen *const screen = static_cast<Screen *>(project->screens()->listItems().constFirst());
 };
 
+//! Does something once its screen is there.
+class Starter : public GroupElement
+{
+public:
+    explicit Starter(const QString &name)
+    {
+        initialize();
+        setIdName(name);
+    }
+    QString onCompletedQml(int indent) const override
+    {
+        return u"%1start(\"%2\");"_s.arg(getTabs(indent), getIdName());
+    }
+};
+
 } // namespace
+
+TEST_F(ScreenTest, WhatStartsWithAScreenStandsAtItsEnd)
+{
+    EXPECT_FALSE(screen->toQml(0).contains(u"onCompleted"_s));
+    GroupElement *group = addGroup(u"group"_s);
+    group->addListPropertyItem(group->elements(), new Starter(u"inner"_s));
+    screen->addListPropertyItem(screen->elements(), new Starter(u"outer"_s));
+    EXPECT_TRUE(screen->toQml(0).endsWith(
+        u"\n\tComponent.onCompleted: {\n\tstart(\"inner\");\n\tstart(\"outer\");\n\t}\n}\n"_s))
+        << qPrintable(screen->toQml(0));
+}
 
 TEST_F(ScreenTest, TheSizeFollowsTheConfigurationAndTheOrientation)
 {

@@ -58,6 +58,16 @@ Screen *GroupElement::parentScreen() const
     return nullptr;
 }
 
+QString GroupElement::onCompletedQml(int indent) const
+{
+    QStringList pieces;
+    for (const DesignerObject *item : elements()->listItems()) {
+        pieces.append(item->onCompletedQml(indent));
+    }
+    pieces.removeAll(QString());
+    return pieces.join(u'\n');
+}
+
 QRectF GroupElement::boundingRect() const
 {
     QRectF bounds;

@@ -28,6 +28,8 @@ public:
     //! The screen on which the outermost group stands; null out of a screen.
     Screen *parentScreen() const;
 
+    //! The statements of the members, those of groups in it included.
+    QString onCompletedQml(int indent) const override;
     RuntimePropertyList runtimeProperties() const override;
     //! The rectangle around the members, moved to the group's position.
     QRectF boundingRect() const override;
