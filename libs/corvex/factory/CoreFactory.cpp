@@ -5,6 +5,7 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/editing/graphics/GraphicsItemGroup.h"
 #include "corvex/editing/graphics/GraphicsRectangle.h"
+#include "corvex/editing/graphics/ScreenRectangle.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/FilterElement.h"
@@ -208,7 +209,8 @@ DesignerObject *CoreFactory::createObject(const QString &className, QObject *par
 GraphicsItem *CoreFactory::createGraphicsItem(const QString &className, DesignerObject *object)
 {
     if (className == GraphicsRectangle::kindName()) {
-        return new GraphicsRectangle(object);
+        return object->isKindOfClass(Screen::kindName()) ? new ScreenRectangle(object)
+                                                         : new GraphicsRectangle(object);
     }
     return className == GraphicsItemGroup::kindName() ? new GraphicsItemGroup(object) : nullptr;
 }

@@ -34,8 +34,11 @@ protected:
     QStringList stacking() const
     {
         QStringList names;
-        for (const QGraphicsItem *child : GraphicsItem::of(screen)->graphic()->childItems()) {
-            names.append(GraphicsItem::of(child)->dataObject()->getIdName());
+        const QGraphicsScene *scene = GraphicsItem::of(screen)->graphic()->scene();
+        for (const QGraphicsItem *graphic : scene->items(Qt::AscendingOrder)) {
+            if (!graphic->parentItem()) {
+                names.append(GraphicsItem::of(graphic)->dataObject()->getIdName());
+            }
         }
         return names;
     }
@@ -147,7 +150,6 @@ TEST_F(GraphicsItemTest, ItemsFollowTheirElements)
     screen->setGraphicsItem();
     const FramedItem *item = itemOf(element);
     ASSERT_TRUE(item);
-    EXPECT_EQ(item->graphic()->parentItem(), GraphicsItem::of(screen)->graphic());
     EXPECT_EQ(GraphicsItem::of(screen)->frame(), QRectF(0, 0, 500, 300));
 
     set(element, "position", u"x: 30; y: 40;"_s);
@@ -176,7 +178,7 @@ TEST_F(GraphicsItemTest, ItemsGoWithTheirElementsAndComeBackWhereTheyWere)
     QGraphicsScene scene;
     screen->setGraphicsItem();
     scene.addItem(GraphicsItem::of(screen)->graphic());
-    ASSERT_EQ(stacking(), (QStringList{u"low"_s, u"middle"_s, u"high"_s}));
+    ASSERT_EQ(stacking(), (QStringList{u"Main"_s, u"low"_s, u"middle"_s, u"high"_s}));
 
     const qsizetype index = screen->elements()->getListItemIndex(middle);
     ASSERT_TRUE(screen->takeListPropertyItem(screen->elements(), middle));
@@ -184,15 +186,15 @@ TEST_F(GraphicsItemTest, ItemsGoWithTheirElementsAndComeBackWhereTheyWere)
     EXPECT_EQ(GraphicsItem::of(member), nullptr);
     EXPECT_EQ(scene.items().size(), 3);
     ASSERT_TRUE(screen->insertListPropertyItemAt(screen->elements(), middle, index));
-    EXPECT_EQ(stacking(), (QStringList{u"low"_s, u"middle"_s, u"high"_s}));
+    EXPECT_EQ(stacking(), (QStringList{u"Main"_s, u"low"_s, u"middle"_s, u"high"_s}));
     EXPECT_EQ(itemOf(member)->graphic()->parentItem(), itemOf(middle)->graphic());
 
     screen->swapListPropertyItems(screen->elements(), low, middle);
-    EXPECT_EQ(stacking(), (QStringList{u"middle"_s, u"low"_s, u"high"_s}));
+    EXPECT_EQ(stacking(), (QStringList{u"Main"_s, u"middle"_s, u"low"_s, u"high"_s}));
     delete member;
     EXPECT_TRUE(itemOf(middle)->frame().isEmpty()) << "the group has learnt that it is empty";
     delete low;
-    EXPECT_EQ(stacking(), (QStringList{u"middle"_s, u"high"_s}));
+    EXPECT_EQ(stacking(), (QStringList{u"Main"_s, u"middle"_s, u"high"_s}));
     project.reset();
     EXPECT_TRUE(scene.items().isEmpty());
 }
@@ -208,6 +210,16 @@ TEST_F(GraphicsItemTest, AScreenOutlivesItsSceneAndIsShownAgain)
     }
     EXPECT_EQ(screen->graphicsItem(), nullptr);
     EXPECT_EQ(element->graphicsItem(), nullptr);
+
+    QGraphicsScene left;
+    screen->setGraphicsItem();
+    left.addItem(GraphicsItem::of(screen)->graphic());
+    screen->resetGraphicsItem(); // as the deletion of a screen does
+    QGraphicsScene next;
+    screen->setGraphicsItem();
+    next.addItem(GraphicsItem::of(screen)->graphic());
+    EXPECT_EQ(itemOf(element)->graphic()->scene(), &next);
+    EXPECT_EQ(stacking(), (QStringList{u"Main"_s, u"box"_s}));
 }
 
 TEST_F(GraphicsItemTest, ResizingATurnedItemKeepsTheOppositeCornerInItsPlace)

@@ -277,8 +277,7 @@ void CanvasScene::selectTouched(const QRectF &area)
 {
     for (const QGraphicsItem *graphic : items(area)) {
         GraphicsItem *item = GraphicsItem::of(graphic);
-        const GraphicsItem *parent = GraphicsItem::of(graphic->parentItem());
-        if (item && parent && parent->dataObject() == m_screen) {
+        if (item && !graphic->parentItem() && item->dataObject() != m_screen) {
             item->graphic()->setSelected(true);
         }
     }
@@ -317,7 +316,7 @@ void CanvasScene::onSelectionChanged()
 void CanvasScene::followSelection()
 {
     const QList<FramedItem *> items = selectedItemsOnCanvas();
-    m_outline->follow(items);
+    m_outline->follow(items, !m_gesture || m_waitsForDrag);
     QRectF around;
     for (const FramedItem *item : items) {
         around |= item->graphic()->mapRectToScene(item->frame());

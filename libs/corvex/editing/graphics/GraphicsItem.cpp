@@ -47,6 +47,14 @@ constexpr struct
                       const QString &value) { graphic.setVisible(ValueConversion::toBoolean(value)); }},
 };
 
+//! Outside of a scene, graphics without a parent have no order.
+void stackBelow(QGraphicsItem *graphic, const QGraphicsItem *above)
+{
+    if (graphic->parentItem() || graphic->scene()) {
+        graphic->stackBefore(above);
+    }
+}
+
 void resizeAt(QQuickItem::TransformOrigin handle, const QRectF &rect, const QPointF &point, QSizeF &size,
               QPointF &position, double minimum)
 {
@@ -101,7 +109,7 @@ bool GraphicsItem::initialize()
         for (DesignerObject *child : property->listItems()) {
             child->setGraphicsItem();
             if (const GraphicsItem *item = of(child)) {
-                item->graphic()->setParentItem(m_graphic);
+                place(item->graphic());
             }
         }
     }
@@ -122,6 +130,11 @@ void GraphicsItem::readDataObject()
             item->readDataObject();
         }
     }
+}
+
+void GraphicsItem::place(QGraphicsItem *child)
+{
+    child->setParentItem(m_graphic);
 }
 
 void GraphicsItem::updateTransformOriginPoint()
@@ -246,7 +259,7 @@ void GraphicsItem::addGraphicsItemChild(const SharedProperty &property, Designer
     if (!property || !item || !m_graphic) {
         return;
     }
-    item->graphic()->setParentItem(m_graphic);
+    place(item->graphic());
     // Now it is the topmost; most children come in at the end of the list, so it is searched from there.
     const QList<DesignerObject *> siblings = property->listItems();
     const GraphicsItem *next = nullptr;
@@ -256,7 +269,7 @@ void GraphicsItem::addGraphicsItemChild(const SharedProperty &property, Designer
         }
     }
     if (next) {
-        item->graphic()->stackBefore(next->graphic());
+        stackBelow(item->graphic(), next->graphic());
     }
     childrenChanged();
 }
@@ -274,7 +287,7 @@ void GraphicsItem::orderGraphicsItemChildren(const SharedProperty &property)
     for (auto child = children.crbegin(); child != children.crend(); ++child) {
         if (const GraphicsItem *item = of(*child)) {
             if (next) {
-                item->graphic()->stackBefore(next);
+                stackBelow(item->graphic(), next);
             }
             next = item->graphic();
         }

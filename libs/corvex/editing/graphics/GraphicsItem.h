@@ -124,6 +124,8 @@ protected:
     //! \a graphic may be the object under construction itself; it is not owned otherwise.
     GraphicsItem(DesignerObject *dataObject, QGraphicsItem *graphic);
 
+    //! Puts the graphic of a child where it belongs, above those that are there: into this one.
+    virtual void place(QGraphicsItem *child);
     //! What the item shows, as the text of the property with that id; null for those that items do not
     //! change.
     virtual QString shownValue(QStringView id) const;

@@ -22,7 +22,7 @@ SelectionOutline::SelectionOutline()
     setZValue(std::numeric_limits<double>::max());
 }
 
-void SelectionOutline::follow(const QList<FramedItem *> &items)
+void SelectionOutline::follow(const QList<FramedItem *> &items, bool hasHandles)
 {
     QRectF bounds;
     for (const FramedItem *item : items) {
@@ -30,7 +30,9 @@ void SelectionOutline::follow(const QList<FramedItem *> &items)
     }
     prepareGeometryChange();
     m_items = items;
-    m_bounds = items.isEmpty() ? QRectF() : bounds.adjusted(-reach, -reach, reach, reach);
+    m_hasHandles = hasHandles && items.size() == 1;
+    const double margin = m_hasHandles ? reach : 1;
+    m_bounds = items.isEmpty() ? QRectF() : bounds.adjusted(-margin, -margin, margin, margin);
 }
 
 void SelectionOutline::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
@@ -40,7 +42,7 @@ void SelectionOutline::paint(QPainter *painter, const QStyleOptionGraphicsItem *
         painter->setBrush(Qt::NoBrush);
         painter->drawPolygon(item->graphic()->mapToScene(item->frame()));
     }
-    if (m_items.size() == 1) {
+    if (m_hasHandles) {
         paintHandles(*painter, *m_items.constFirst());
     }
 }

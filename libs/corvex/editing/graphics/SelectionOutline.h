@@ -14,8 +14,8 @@ class SelectionOutline : public QGraphicsItem
 public:
     SelectionOutline();
 
-    //! Takes over the items, and their places as they are now.
-    void follow(const QList<FramedItem *> &items);
+    //! Takes over the items, and their places as they are now. Without handles there are the frames alone.
+    void follow(const QList<FramedItem *> &items, bool hasHandles);
 
     QRectF boundingRect() const override { return m_bounds; }
     //! Nothing is ever hit.
@@ -27,6 +27,7 @@ private:
 
     QList<FramedItem *> m_items;
     QRectF m_bounds;
+    bool m_hasHandles = false;
 };
 
 } // namespace Halvane::Corvex::Designer
