@@ -6,12 +6,12 @@
 #include "corvex/core/ItemList.h"
 #include "corvex/core/KeptItemRecorder.h"
 #include "corvex/core/ObjectXmlWriter.h"
+#include "corvex/core/XmlInput.h"
 
 #include <QBuffer>
-#include <QIODevice>
 
+#include <algorithm>
 #include <bitset>
-#include <expat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -19,9 +19,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-constexpr qsizetype chunkSize = 256 * 1024;
 constexpr qsizetype deepestNesting = 512;
-constexpr qint64 longestToken = 16 * 1024 * 1024;
 
 //! Property ids are short and plain; comparing in place saves a conversion for each of a million properties.
 bool equals(QStringView text, const char *utf8)
@@ -37,83 +35,29 @@ bool equals(QStringView text, const char *utf8)
     return *utf8 == 0;
 }
 
-//! As much of a text from a file as a message bears.
-QString excerpt(const XML_Char *utf8)
-{
-    constexpr qsizetype longest = 80;
-    return QString::fromUtf8(QByteArrayView(utf8, qstrnlen(utf8, 4 * longest))).left(longest);
-}
-
-//! Two bytes that no text in UTF-8 begins with and each in UTF-16 does, with a byte order mark or without.
-bool beginsAsUtf16(QByteArrayView bytes)
-{
-    return bytes.startsWith("\xFE\xFF") || bytes.startsWith("\xFF\xFE")
-           || (bytes.size() > 1 && (bytes[0] == '\0') != (bytes[1] == '\0'));
-}
-
-bool isUtf8(const XML_Char *encoding)
-{
-    return !encoding || qstricmp(encoding, "UTF-8") == 0 || qstricmp(encoding, "US-ASCII") == 0;
-}
-
-//! What the parser has to say in the words of someone who opened a file.
-QString parserError(XML_Parser parser)
-{
-    int offset = 0;
-    int size = 0;
-    const char *context = XML_GetInputContext(parser, &offset, &size);
-    const XML_Error code = XML_GetErrorCode(parser);
-    switch (code) {
-    case XML_ERROR_NO_ELEMENTS:
-    case XML_ERROR_UNCLOSED_TOKEN:
-    case XML_ERROR_PARTIAL_CHAR:
-        return u"The text ends before its root element does; it is empty or was cut off."_s;
-    case XML_ERROR_SYNTAX:
-        return u"This is no XML."_s;
-    case XML_ERROR_INVALID_TOKEN:
-        if (context && offset < size && static_cast<unsigned char>(context[offset]) >= 0x80) {
-            return u"The bytes here are not UTF-8, the one encoding that is read."_s;
-        }
-        [[fallthrough]];
-    default:
-        return u"This is no well-formed XML: %1."_s.arg(QString::fromUtf8(XML_ErrorString(code)));
-    }
-}
-
 //! Whether there is nothing but what lies between the lines of a file.
-bool isBlank(const XML_Char *text, int length)
+bool isBlank(const char *text, int length)
 {
     return std::all_of(text, text + length,
-                       [](XML_Char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; });
+                       [](char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; });
 }
 
 } // namespace
 
-class ObjectXmlReader::Private
+class ObjectXmlReader::Private final : public XmlHandler
 {
 public:
-    explicit Private(QIODevice *source)
-        : device(source)
+    explicit Private(QIODevice *device)
+        : input(device, this)
     { }
 
     bool parse();
 
-    static void startElement(void *self, const XML_Char *name, const XML_Char **attributes);
-    static void endElement(void *self, const XML_Char *name);
-    static void characters(void *self, const XML_Char *text, int length);
-    static void comment(void *self, const XML_Char *text);
-    static void instruction(void *self, const XML_Char *, const XML_Char *);
-    static void declaration(void *self, const XML_Char *, const XML_Char *encoding, int);
-    static void docType(void *self, const XML_Char *, const XML_Char *, const XML_Char *, int);
-
-    QIODevice *device;
+    XmlInput input;
     DesignerObject *root = nullptr;
     bool createsRoot = false;
     bool validates = true;
     ReadNoteList notes;
-    QString error;
-    qint64 errorLine = 0;
-    qint64 errorColumn = 0;
 
 private:
     enum class Context { Object, Properties, Property, List, ObjectValue, Kept, Skipped };
@@ -128,22 +72,26 @@ private:
         bool isAnswered = false;     //!< a property that got a value or children
     };
 
-    bool feed(qint64 size);
+    void startElement(const char *name, const char **attributes) override;
+    void endElement(const char *name) override;
+    void characters(const char *text, int length) override;
+    void comment() override;
+    void processingInstruction() override;
+
     void dropUnfinished();
-    void fail(const QString &message);
     void note(ReadNote::Kind kind, const QString &message);
     QString place() const;
     void push(Context context, DesignerObject *object, const SharedProperty &property = {});
     void skip(const QString &message);
 
-    void openRoot(const XML_Char *name);
-    void openInObject(const Frame &frame, const XML_Char *name);
-    void openInProperties(Frame &frame, const XML_Char *name, const XML_Char **attributes);
-    void openInProperty(Frame &frame, const XML_Char *name);
-    void openItem(const Frame &frame, const XML_Char *name, const XML_Char **attributes);
-    void openObjectValue(const XML_Char *name);
-    static qsizetype expectProperty(Frame &frame, const XML_Char *id, bool *isSecond);
-    void applyValue(const Frame &frame, const XML_Char *value);
+    void openRoot(const char *name);
+    void openInObject(const Frame &frame, const char *name);
+    void openInProperties(Frame &frame, const char *name, const char **attributes);
+    void openInProperty(Frame &frame, const char *name);
+    void openItem(const Frame &frame, const char *name, const char **attributes);
+    void openObjectValue(const char *name);
+    static qsizetype expectProperty(Frame &frame, const char *id, bool *isSecond);
+    void applyValue(const Frame &frame, const char *value);
     static void emptyList(DesignerObject *owner, const SharedProperty &list);
     static void finishList(const SharedProperty &list);
     DesignerObject *makeObject(const QString &className);
@@ -152,42 +100,13 @@ private:
     void setChild(const Frame &slot, DesignerObject *child);
     void enableValidation(DesignerObject *object);
 
-    XML_Parser parser = nullptr;
-    qint64 fed = 0; //!< bytes that the parser was given
     QList<Frame> frames;
     KeptItemRecorder recorder;
 };
 
 bool ObjectXmlReader::Private::parse()
 {
-    if (!device->isReadable()) {
-        fail(u"The source cannot be read."_s);
-        return false;
-    }
-    const std::unique_ptr<std::remove_pointer_t<XML_Parser>, decltype(&XML_ParserFree)> owner(
-        XML_ParserCreate("UTF-8"), &XML_ParserFree);
-    parser = owner.get();
-    XML_SetUserData(parser, this);
-    XML_SetElementHandler(parser, startElement, endElement);
-    XML_SetCharacterDataHandler(parser, characters);
-    XML_SetCommentHandler(parser, comment);
-    XML_SetProcessingInstructionHandler(parser, instruction);
-    XML_SetXmlDeclHandler(parser, declaration);
-    XML_SetStartDoctypeDeclHandler(parser, docType);
-
-    bool good = true;
-    qint64 size = 0;
-    do {
-        auto *chunk = static_cast<char *>(XML_GetBuffer(parser, int(chunkSize)));
-        size = chunk ? device->read(chunk, chunkSize) : -1;
-        // The parser goes by the first bytes before it goes by the encoding that it was told.
-        if (fed == 0 && beginsAsUtf16({chunk, std::clamp<qint64>(size, 0, 2)})) {
-            fail(u"The text is UTF-16; only UTF-8 is read."_s);
-        } else if (size < 0) {
-            fail(u"The source cannot be read: %1"_s.arg(device->errorString()));
-        }
-        good = error.isEmpty() && feed(size);
-    } while (good && size > 0);
+    const bool good = input.parse();
     dropUnfinished();
     notes.finish();
     if (!root) {
@@ -217,39 +136,10 @@ void ObjectXmlReader::Private::dropUnfinished()
     frames.clear();
 }
 
-//! Parses what lies in the parser's buffer; nothing there is the end.
-bool ObjectXmlReader::Private::feed(qint64 size)
-{
-    if (XML_ParseBuffer(parser, int(size), size == 0) != XML_STATUS_OK) {
-        if (error.isEmpty()) {
-            fail(parserError(parser));
-        }
-        return false;
-    }
-    fed += size;
-    // A single token that outgrows every buffer is read again with each chunk; end that in time.
-    if (fed - XML_GetCurrentByteIndex(parser) > longestToken + chunkSize) {
-        fail(u"A value is longer than 16 MB."_s);
-        return false;
-    }
-    return true;
-}
-
-void ObjectXmlReader::Private::fail(const QString &message)
-{
-    error = message;
-    if (parser) {
-        errorLine = std::max<qint64>(qint64(XML_GetCurrentLineNumber(parser)), 1);
-        errorColumn = qint64(XML_GetCurrentColumnNumber(parser)) + 1;
-        XML_StopParser(parser, XML_FALSE);
-    }
-}
-
 void ObjectXmlReader::Private::note(ReadNote::Kind kind, const QString &message)
 {
     if (notes.count(kind)) {
-        notes.append({kind, qint64(XML_GetCurrentLineNumber(parser)),
-                      qint64(XML_GetCurrentColumnNumber(parser)) + 1, place(), message});
+        notes.append({kind, input.line(), input.column(), place(), message});
     }
 }
 
@@ -276,55 +166,55 @@ void ObjectXmlReader::Private::skip(const QString &message)
     push(Context::Skipped, nullptr);
 }
 
-void ObjectXmlReader::Private::startElement(void *self, const XML_Char *name, const XML_Char **attributes)
+void ObjectXmlReader::Private::startElement(const char *name, const char **attributes)
 {
-    auto *reader = static_cast<Private *>(self);
-    if (reader->frames.size() >= deepestNesting) {
-        reader->fail(u"Elements are nested deeper than %1."_s.arg(deepestNesting));
+    if (frames.size() >= deepestNesting) {
+        input.fail(u"Elements are nested deeper than %1."_s.arg(deepestNesting));
         return;
     }
-    if (reader->frames.isEmpty()) {
-        reader->openRoot(name);
+    if (frames.isEmpty()) {
+        openRoot(name);
         return;
     }
-    Frame &frame = reader->frames.last();
+    Frame &frame = frames.last();
     switch (frame.context) {
     case Context::Object:
-        reader->openInObject(frame, name);
+        openInObject(frame, name);
         break;
     case Context::Properties:
-        reader->openInProperties(frame, name, attributes);
+        openInProperties(frame, name, attributes);
         break;
     case Context::Property:
-        reader->openInProperty(frame, name);
+        openInProperty(frame, name);
         break;
     case Context::List:
-        reader->openItem(frame, name, attributes);
+        openItem(frame, name, attributes);
         break;
     case Context::ObjectValue:
-        reader->openObjectValue(name);
+        openObjectValue(name);
         break;
     case Context::Kept:
-        reader->recorder.open(name, attributes);
-        reader->push(Context::Kept, nullptr);
+        recorder.open(name, attributes);
+        push(Context::Kept, nullptr);
         break;
     case Context::Skipped:
-        reader->push(Context::Skipped, nullptr);
+        push(Context::Skipped, nullptr);
         break;
     }
 }
 
-void ObjectXmlReader::Private::openRoot(const XML_Char *name)
+void ObjectXmlReader::Private::openRoot(const char *name)
 {
     const QString className = QString::fromUtf8(name);
     if (!createsRoot && className != root->className()) {
-        fail(u"The root element is \"%1\" where \"%2\" is expected."_s.arg(excerpt(name), root->className()));
+        input.fail(u"The root element is \"%1\" where \"%2\" is expected."_s.arg(XmlInput::excerpt(name),
+                                                                                 root->className()));
         return;
     }
     if (createsRoot) {
         root = makeObject(className);
         if (!root) {
-            fail(u"No object of the class \"%1\" can be made."_s.arg(excerpt(name)));
+            input.fail(u"No object of the class \"%1\" can be made."_s.arg(XmlInput::excerpt(name)));
             return;
         }
     }
@@ -332,32 +222,32 @@ void ObjectXmlReader::Private::openRoot(const XML_Char *name)
     push(Context::Object, root);
 }
 
-void ObjectXmlReader::Private::openInObject(const Frame &frame, const XML_Char *name)
+void ObjectXmlReader::Private::openInObject(const Frame &frame, const char *name)
 {
     if (qstrcmp(name, "Properties") == 0) {
         push(Context::Properties, frame.object);
     } else {
-        skip(u"The element \"%1\" is not known here."_s.arg(excerpt(name)));
+        skip(u"The element \"%1\" is not known here."_s.arg(XmlInput::excerpt(name)));
     }
 }
 
-void ObjectXmlReader::Private::openInProperties(Frame &frame, const XML_Char *name,
-                                                const XML_Char **attributes)
+void ObjectXmlReader::Private::openInProperties(Frame &frame, const char *name, const char **attributes)
 {
     DesignerObject *object = frame.object;
     if (qstrcmp(name, "Property") != 0) {
-        skip(u"The element \"%1\" is not known here."_s.arg(excerpt(name)));
+        skip(u"The element \"%1\" is not known here."_s.arg(XmlInput::excerpt(name)));
         return;
     }
-    const XML_Char *id = nullptr;
-    const XML_Char *value = nullptr;
+    const char *id = nullptr;
+    const char *value = nullptr;
     for (; *attributes; attributes += 2) {
         if (qstrcmp(attributes[0], "name") == 0) {
             id = attributes[1];
         } else if (qstrcmp(attributes[0], "value") == 0) {
             value = attributes[1];
         } else {
-            note(ReadNote::Dropped, u"The attribute \"%1\" is not known here."_s.arg(excerpt(attributes[0])));
+            note(ReadNote::Dropped,
+                 u"The attribute \"%1\" is not known here."_s.arg(XmlInput::excerpt(attributes[0])));
         }
     }
     bool isSecond = false;
@@ -368,7 +258,8 @@ void ObjectXmlReader::Private::openInProperties(Frame &frame, const XML_Char *na
         return;
     }
     if (index < 0 || !object->properties().at(index)->hasFlag(StoredFlag)) {
-        skip(id ? u"The property \"%1\" is not known."_s.arg(excerpt(id)) : u"A property has no name."_s);
+        skip(id ? u"The property \"%1\" is not known."_s.arg(XmlInput::excerpt(id))
+                : u"A property has no name."_s);
         return;
     }
     push(Context::Property, object, object->properties().at(index));
@@ -380,7 +271,7 @@ void ObjectXmlReader::Private::openInProperties(Frame &frame, const XML_Char *na
 }
 
 //! The index of the property among those of the object; -1 for one that it does not have.
-qsizetype ObjectXmlReader::Private::expectProperty(Frame &frame, const XML_Char *id, bool *isSecond)
+qsizetype ObjectXmlReader::Private::expectProperty(Frame &frame, const char *id, bool *isSecond)
 {
     const QList<SharedProperty> &properties = frame.object->properties();
     const qsizetype count = properties.size();
@@ -398,7 +289,7 @@ qsizetype ObjectXmlReader::Private::expectProperty(Frame &frame, const XML_Char 
     return -1;
 }
 
-void ObjectXmlReader::Private::applyValue(const Frame &frame, const XML_Char *value)
+void ObjectXmlReader::Private::applyValue(const Frame &frame, const char *value)
 {
     const SharedProperty &property = frame.property;
     if (property->isList() || property->isObject()) {
@@ -420,12 +311,12 @@ void ObjectXmlReader::Private::applyValue(const Frame &frame, const XML_Char *va
     }
 }
 
-void ObjectXmlReader::Private::openInProperty(Frame &frame, const XML_Char *name)
+void ObjectXmlReader::Private::openInProperty(Frame &frame, const char *name)
 {
     const bool opensList = qstrcmp(name, "List") == 0 && frame.property->isList();
     const bool opensObject = qstrcmp(name, "Object") == 0 && frame.property->isObject();
     if ((!opensList && !opensObject) || frame.isAnswered) {
-        skip(u"The element \"%1\" is not known in the property \"%2\"."_s.arg(excerpt(name),
+        skip(u"The element \"%1\" is not known in the property \"%2\"."_s.arg(XmlInput::excerpt(name),
                                                                               frame.property->id()));
         return;
     }
@@ -465,41 +356,40 @@ DesignerObject *ObjectXmlReader::Private::makeObject(const QString &className)
     return object;
 }
 
-void ObjectXmlReader::Private::openItem(const Frame &frame, const XML_Char *name, const XML_Char **attributes)
+void ObjectXmlReader::Private::openItem(const Frame &frame, const char *name, const char **attributes)
 {
     const QString className = QString::fromUtf8(name);
     if (DesignerObject *item = makeObject(className)) {
         push(Context::Object, item);
         return;
     }
-    qWarning("loadListPropertyFromXml invalid class name %s", qUtf8Printable(excerpt(name)));
+    qWarning("loadListPropertyFromXml invalid class name %s", qUtf8Printable(XmlInput::excerpt(name)));
     note(ReadNote::Kept,
-         u"No plug-in knows the class \"%1\"; the item is kept as it is."_s.arg(excerpt(name)));
+         u"No plug-in knows the class \"%1\"; the item is kept as it is."_s.arg(XmlInput::excerpt(name)));
     recorder.start(className);
     recorder.open(name, attributes);
     push(Context::Kept, frame.object, frame.property);
 }
 
-void ObjectXmlReader::Private::openObjectValue(const XML_Char *name)
+void ObjectXmlReader::Private::openObjectValue(const char *name)
 {
     const QString className = QString::fromUtf8(name);
     if (DesignerObject *object = makeObject(className)) {
         push(Context::Object, object);
     } else {
-        skip(u"No plug-in knows the class \"%1\"."_s.arg(excerpt(name)));
+        skip(u"No plug-in knows the class \"%1\"."_s.arg(XmlInput::excerpt(name)));
     }
 }
 
-void ObjectXmlReader::Private::endElement(void *self, const XML_Char *name)
+void ObjectXmlReader::Private::endElement(const char *name)
 {
-    auto *reader = static_cast<Private *>(self);
-    if (reader->frames.isEmpty()) {
+    if (frames.isEmpty()) {
         return;
     }
-    const Frame closed = reader->frames.takeLast();
+    const Frame closed = frames.takeLast();
     switch (closed.context) {
     case Context::Object:
-        reader->closeObject(closed);
+        closeObject(closed);
         break;
     case Context::Property:
         if (!closed.isAnswered) {
@@ -510,9 +400,9 @@ void ObjectXmlReader::Private::endElement(void *self, const XML_Char *name)
         finishList(closed.property);
         break;
     case Context::Kept:
-        reader->recorder.close(name);
+        recorder.close(name);
         if (closed.property) {
-            closed.property->items().keep(reader->recorder.take());
+            closed.property->items().keep(recorder.take());
         }
         break;
     case Context::Properties:
@@ -574,49 +464,33 @@ void ObjectXmlReader::Private::enableValidation(DesignerObject *object)
     }
 }
 
-void ObjectXmlReader::Private::characters(void *self, const XML_Char *text, int length)
+void ObjectXmlReader::Private::characters(const char *text, int length)
 {
-    auto *reader = static_cast<Private *>(self);
-    if (reader->frames.isEmpty()) {
+    if (frames.isEmpty()) {
         return;
     }
-    const Frame &frame = reader->frames.constLast();
+    const Frame &frame = frames.constLast();
     if (frame.context == Context::Kept) {
-        reader->recorder.addText({text, length});
+        recorder.addText({text, length});
     } else if (frame.object && !isBlank(text, length)) {
         const QByteArrayView words = QByteArrayView(text, length).trimmed();
-        reader->note(ReadNote::Dropped, u"Text between elements is not kept: \"%1\"."_s.arg(QString::fromUtf8(
-                                            words.first(std::min<qsizetype>(words.size(), 80)))));
+        note(ReadNote::Dropped, u"Text between elements is not kept: \"%1\"."_s.arg(
+                                    QString::fromUtf8(words.first(std::min<qsizetype>(words.size(), 80)))));
     }
 }
 
-void ObjectXmlReader::Private::comment(void *self, const XML_Char *)
+void ObjectXmlReader::Private::comment()
 {
-    auto *reader = static_cast<Private *>(self);
-    if (reader->root) {
-        reader->note(ReadNote::Dropped, u"A comment is not kept."_s);
+    if (root) {
+        note(ReadNote::Dropped, u"A comment is not kept."_s);
     }
 }
 
-void ObjectXmlReader::Private::instruction(void *self, const XML_Char *, const XML_Char *)
+void ObjectXmlReader::Private::processingInstruction()
 {
-    auto *reader = static_cast<Private *>(self);
-    if (reader->root) {
-        reader->note(ReadNote::Dropped, u"A processing instruction is not kept."_s);
+    if (root) {
+        note(ReadNote::Dropped, u"A processing instruction is not kept."_s);
     }
-}
-
-void ObjectXmlReader::Private::declaration(void *self, const XML_Char *, const XML_Char *encoding, int)
-{
-    if (!isUtf8(encoding)) {
-        static_cast<Private *>(self)->fail(
-            u"The text is declared as %1; only UTF-8 is read."_s.arg(excerpt(encoding)));
-    }
-}
-
-void ObjectXmlReader::Private::docType(void *self, const XML_Char *, const XML_Char *, const XML_Char *, int)
-{
-    static_cast<Private *>(self)->fail(u"Document types and entities are not accepted."_s);
 }
 
 ObjectXmlReader::ObjectXmlReader(QIODevice *device)
@@ -654,17 +528,17 @@ const QList<ReadNote> &ObjectXmlReader::notes() const
 
 QString ObjectXmlReader::errorString() const
 {
-    return d->error;
+    return d->input.errorString();
 }
 
 qint64 ObjectXmlReader::errorLine() const
 {
-    return d->errorLine;
+    return d->input.errorLine();
 }
 
 qint64 ObjectXmlReader::errorColumn() const
 {
-    return d->errorColumn;
+    return d->input.errorColumn();
 }
 
 } // namespace Halvane::Corvex::Designer
