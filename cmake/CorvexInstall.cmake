@@ -9,9 +9,10 @@ install(TARGETS Common DesignerCore EXPORT DesignerCoreTargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-# The preview is a program; its library stays here.
+# The preview is a program; its library stays here, as do the headers that only sources of core include.
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/libs/corvex" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
-  FILES_MATCHING PATTERN "*.h" PATTERN "corvex/preview" EXCLUDE)
+  FILES_MATCHING PATTERN "*.h" PATTERN "corvex/preview" EXCLUDE
+  PATTERN "DesignerObjectData.h" EXCLUDE PATTERN "DesignerPropertyState.h" EXCLUDE PATTERN "XmlInput.h" EXCLUDE)
 install(EXPORT DesignerCoreTargets NAMESPACE Corvex:: DESTINATION "${package_path}")
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/DesignerCoreConfig.cmake.in"
