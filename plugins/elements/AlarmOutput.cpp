@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "elements/AlarmOutput.h"
 
-#include "elements/ChannelValue.h"
 #include "elements/Rows.h"
 #include "elements/Statements.h"
 
@@ -15,14 +14,7 @@ bool AlarmOutput::initializeProperties()
         channelRow().rank(1),
         initialValueRow("VerticalBooleanExpressionEditor").rank(2).qml(&conditionToQml),
     };
-    return HardwareElement::initializeProperties() && addProperties(table);
-}
-
-RuntimePropertyList AlarmOutput::runtimeProperties() const
-{
-    using Common::EnumHelper;
-    return withValue(HardwareElement::runtimeProperties(), EnumHelper::BooleanVariable,
-                     EnumHelper::ReadWrite);
+    return SwitchedOutput::initializeProperties() && addProperties(table);
 }
 
 } // namespace Halvane::Corvex::Elements

@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/project/HardwareElement.h"
+#include "elements/Channel.h"
 
 namespace Halvane::Corvex::Elements {
 
 //! An alarm output of the device.
-class AlarmOutput : public Designer::HardwareElement
+class AlarmOutput : public SwitchedOutput
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(AlarmOutput, Designer::HardwareElement)
 
-public:
-    Designer::RuntimePropertyList runtimeProperties() const override;
-
 protected:
-    using HardwareElement::HardwareElement;
+    using SwitchedOutput::Channel;
     bool initializeProperties() override;
 };
 

@@ -3,7 +3,6 @@
 
 #include "corvex/core/properties/RangeProperty.h"
 
-#include "elements/ChannelValue.h"
 #include "elements/Rows.h"
 
 using namespace Qt::StringLiterals;
@@ -21,13 +20,7 @@ bool AnalogInput::initializeProperties()
             .parameter("suffix", u" V"_s)
             .allowInvalid(),
     };
-    return HardwareElement::initializeProperties() && addProperties(table);
-}
-
-RuntimePropertyList AnalogInput::runtimeProperties() const
-{
-    using Common::EnumHelper;
-    return withValue(HardwareElement::runtimeProperties(), EnumHelper::FloatVariable, EnumHelper::ReadOnly);
+    return MeasuringInput::initializeProperties() && addProperties(table);
 }
 
 } // namespace Halvane::Corvex::Elements

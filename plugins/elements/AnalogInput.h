@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/project/HardwareElement.h"
+#include "elements/Channel.h"
 
 namespace Halvane::Corvex::Elements {
 
 //! An analog input of the device, with the voltages that it measures.
-class AnalogInput : public Designer::HardwareElement
+class AnalogInput : public MeasuringInput
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(AnalogInput, Designer::HardwareElement)
 
-public:
-    Designer::RuntimePropertyList runtimeProperties() const override;
-
 protected:
-    using HardwareElement::HardwareElement;
+    using MeasuringInput::Channel;
     bool initializeProperties() override;
 };
 

@@ -3,7 +3,6 @@
 
 #include "corvex/core/PropertyValidators.h"
 
-#include "elements/ChannelValue.h"
 #include "elements/Rows.h"
 #include "elements/Statements.h"
 
@@ -20,14 +19,7 @@ bool DigitalInputOutput::initializeProperties()
             .validator(&PropertyValidators::digitalChannelValidator),
         initialValueRow("VerticalBooleanExpressionEditor").rank(2).qml(&conditionToQml),
     };
-    return HardwareElement::initializeProperties() && addProperties(table);
-}
-
-RuntimePropertyList DigitalInputOutput::runtimeProperties() const
-{
-    using Common::EnumHelper;
-    return withValue(HardwareElement::runtimeProperties(), EnumHelper::BooleanVariable,
-                     EnumHelper::ReadWrite);
+    return SwitchedOutput::initializeProperties() && addProperties(table);
 }
 
 } // namespace Halvane::Corvex::Elements

@@ -3,7 +3,6 @@
 
 #include "corvex/core/PropertyValidators.h"
 
-#include "elements/ChannelValue.h"
 #include "elements/Rows.h"
 #include "elements/Statements.h"
 
@@ -17,13 +16,7 @@ bool PwmOutput::initializeProperties()
         channelRow().rank(1).validator(&PropertyValidators::pwmChannelValidator),
         initialValueRow("VerticalMathExpressionEditor").rank(2).qml(&mathToQml),
     };
-    return HardwareElement::initializeProperties() && addProperties(table);
-}
-
-RuntimePropertyList PwmOutput::runtimeProperties() const
-{
-    using Common::EnumHelper;
-    return withValue(HardwareElement::runtimeProperties(), EnumHelper::FloatVariable, EnumHelper::ReadWrite);
+    return AnalogOutput::initializeProperties() && addProperties(table);
 }
 
 } // namespace Halvane::Corvex::Elements

@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/project/HardwareElement.h"
+#include "elements/Channel.h"
 
 namespace Halvane::Corvex::Elements {
 
 //! A pulse-width modulated output of the device; its value is the duty cycle in per cent.
-class PwmOutput : public Designer::HardwareElement
+class PwmOutput : public AnalogOutput
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(PwmOutput, Designer::HardwareElement)
 
-public:
-    Designer::RuntimePropertyList runtimeProperties() const override;
-
 protected:
-    using HardwareElement::HardwareElement;
+    using AnalogOutput::Channel;
     bool initializeProperties() override;
 };
 

@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/project/HardwareElement.h"
+#include "elements/Channel.h"
 
 namespace Halvane::Corvex::Elements {
 
 //! An input of the device for a thermistor.
-class ThermistorInput : public Designer::HardwareElement
+class ThermistorInput : public MeasuringInput
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(ThermistorInput, Designer::HardwareElement)
 
-public:
-    Designer::RuntimePropertyList runtimeProperties() const override;
-
 protected:
-    using HardwareElement::HardwareElement;
+    using MeasuringInput::Channel;
     bool initializeProperties() override;
 };
 

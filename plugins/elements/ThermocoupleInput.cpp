@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "elements/ThermocoupleInput.h"
 
-#include "elements/ChannelValue.h"
 #include "elements/Rows.h"
 
 using namespace Halvane::Corvex::Designer;
@@ -13,13 +12,7 @@ bool ThermocoupleInput::initializeProperties()
     static const PropertyTable table{
         channelRow().rank(1),
     };
-    return HardwareElement::initializeProperties() && addProperties(table);
-}
-
-RuntimePropertyList ThermocoupleInput::runtimeProperties() const
-{
-    using Common::EnumHelper;
-    return withValue(HardwareElement::runtimeProperties(), EnumHelper::FloatVariable, EnumHelper::ReadOnly);
+    return MeasuringInput::initializeProperties() && addProperties(table);
 }
 
 } // namespace Halvane::Corvex::Elements

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "elements/ChannelValue.h"
+#include "elements/Channel.h"
 
 #include "corvex/project/RuntimeTable.h"
 
