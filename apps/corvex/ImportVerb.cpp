@@ -204,7 +204,8 @@ const Verb importVerb{
                    "does not\n"
                    "name stay as they are."_s;
         },
-    .example = "corvex import --dry-run variables examples/PumpStation/PumpStation.kdproj variables.csv",
+    .example =
+        "corvex import --dry-run variables examples/PumpStation/PumpStation.kdproj examples/variables.csv",
     .fewestArguments = 3,
     .mostArguments = 3,
     .opensProjects = true,
