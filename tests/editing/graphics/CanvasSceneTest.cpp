@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/DeleteObject.h"
+#include "corvex/editing/commands/GroupCommand.h"
+#include "corvex/editing/commands/UngroupCommand.h"
 #include "corvex/editing/graphics/CanvasScene.h"
 #include "corvex/editing/undo/UndoStack.h"
+#include "corvex/project/Element.h"
+#include "corvex/values/ValueConversion.h"
 
 #include "CanvasFixture.h"
 
@@ -208,6 +213,43 @@ TEST_F(CanvasSceneTest, GroupsAreSelectedAndResizedAsAWholeAndEnteredByADoubleCl
     EXPECT_EQ(placeOf(left), u"x: 15; y: 10; height: 40; width: 40; 0"_s);
     scene->selectObjects({left, group});
     EXPECT_EQ(scene->selectedObjects(), QList<DesignerObject *>{group}) << "nothing is moved twice";
+}
+
+TEST_F(CanvasSceneTest, GroupingAndDeletingLeaveEverythingElseInItsPlace)
+{
+    DesignerObject *turned = add(screen, "Rectangle", "turned", {200, 100, 80, 20});
+    set(turned, "rotation", u"30"_s);
+    DesignerObject *other = add(screen, "Rectangle", "other", {10, 10, 40, 40});
+    show();
+    const auto look = [this] {
+        QStringList drawn; // from the lowest to the topmost, each with its corners on the scene
+        for (const QGraphicsItem *graphic : scene->items(Qt::AscendingOrder)) {
+            const GraphicsItem *item = GraphicsItem::of(graphic);
+            if (item && item->isKindOfClass(u"GraphicsRectangle"_s)) {
+                const QRectF frame = item->frame();
+                drawn.append(
+                    u"%1 %2 %3"_s.arg(item->dataObject()->getIdName(),
+                                      ValueConversion::toString(graphic->mapToScene(frame.topLeft())),
+                                      ValueConversion::toString(graphic->mapToScene(frame.bottomRight()))));
+            }
+        }
+        return drawn;
+    };
+    const QStringList before = look();
+    UndoStack &stack = *project->undoStack();
+    stack.push(new GroupCommand(make("GroupElement", "group"), {box, turned}));
+    EXPECT_EQ(look(), before);
+    stack.push(new DeleteObject(turned, true));
+    EXPECT_EQ(look().size(), before.size() - 1);
+    stack.push(new DeleteObject(other, true));
+    stack.undo();
+    stack.undo();
+    EXPECT_EQ(look(), before);
+    stack.undo();
+    EXPECT_EQ(look(), before);
+    stack.redo();
+    stack.push(new UngroupCommand(screen->getElement(u"group"_s)));
+    EXPECT_EQ(look(), before);
 }
 
 TEST_F(CanvasSceneTest, SeveralElementsAreSelectedAndMovedTogether)
