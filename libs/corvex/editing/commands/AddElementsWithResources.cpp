@@ -38,8 +38,8 @@ AddElementsWithResources::AddElementsWithResources(Screen *screen, const QList<D
 {
     Project *project = screen ? screen->project() : nullptr;
     if (!project || elements.isEmpty() || elements.contains(nullptr)) {
-        refuse(
-            Common::LocalizationHelper::coreString(u"There is nothing to add, or no list to add it to."_s));
+        refuse(Common::LocalizationHelper::coreString(u"There is nothing to add, or no list to add it to."_s),
+               elements + images + variables);
         return;
     }
     if (elements.size() == 1) {
@@ -49,7 +49,7 @@ AddElementsWithResources::AddElementsWithResources(Screen *screen, const QList<D
     }
     for (DesignerObject *image : images) {
         if (isSameImage(project->imageResources()->getListItem(image->getIdName()), image)) {
-            m_unused.push_back(std::make_unique<HeldObject>(image));
+            hold({image});
         } else {
             new AddImage(image, originOf(image), project, {}, this);
         }
@@ -57,7 +57,7 @@ AddElementsWithResources::AddElementsWithResources(Screen *screen, const QList<D
     for (DesignerObject *variable : variables) {
         const DesignerObject *known = project->variables()->getListItem(variable->getIdName());
         if (known && known->className() == variable->className()) {
-            m_unused.push_back(std::make_unique<HeldObject>(variable));
+            hold({variable});
         } else {
             new AddVariable(variable, project, this);
         }
@@ -66,7 +66,5 @@ AddElementsWithResources::AddElementsWithResources(Screen *screen, const QList<D
         new AddObject(screen->elements(), element, selected, this);
     }
 }
-
-AddElementsWithResources::~AddElementsWithResources() = default;
 
 } // namespace Halvane::Corvex::Designer

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/editing/commands/EditStep.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
@@ -17,10 +16,6 @@ public:
     AddElementsWithResources(Screen *screen, const QList<DesignerObject *> &elements,
                              const QList<DesignerObject *> &images, const QList<DesignerObject *> &variables,
                              bool selected, UndoCommand *parent = nullptr);
-    ~AddElementsWithResources() override;
-
-private:
-    std::vector<std::unique_ptr<HeldObject>> m_unused;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -18,7 +18,8 @@ AddImage::AddImage(DesignerObject *image, const QString &filePath, Project *proj
     const auto *resource = kindCast<ImageResource>(image);
     if (!project || !resource || project->imagesPath().isEmpty()) {
         refuse(Common::LocalizationHelper::coreString(
-            u"There is no image to add, or the project has no folder yet. Save it first."_s));
+                   u"There is no image to add, or the project has no folder yet. Save it first."_s),
+               {image});
         return;
     }
     const QString name = image->getIdName();

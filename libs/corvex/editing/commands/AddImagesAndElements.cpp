@@ -20,7 +20,9 @@ AddImagesAndElements::AddImagesAndElements(const QMap<ImageResource *, QString> 
 {
     const qsizetype count = std::max(images.size(), elements.size());
     if (!screen || !screen->project() || count == 0) {
-        refuse(Common::LocalizationHelper::coreString(u"There is no image to add, or no screen."_s));
+        refuse(Common::LocalizationHelper::coreString(u"There is no image to add, or no screen."_s),
+               elements);
+        hold(QList<DesignerObject *>(images.keyBegin(), images.keyEnd()));
         return;
     }
     if (count == 1) {

@@ -55,8 +55,8 @@ DesignerObject *AddObject::make(const SharedProperty &list, const QString &class
 void AddObject::setupCommand(const SharedProperty &list)
 {
     if (!m_object || !list || !list->parentObject() || !list->isList()) {
-        refuse(
-            Common::LocalizationHelper::coreString(u"There is nothing to add, or no list to add it to."_s));
+        refuse(Common::LocalizationHelper::coreString(u"There is nothing to add, or no list to add it to."_s),
+               {m_object});
         return;
     }
     const QString name = m_object->getIdName();

@@ -14,7 +14,8 @@ AddScreen::AddScreen(DesignerObject *screen, Project *project, qsizetype index, 
     : ModelCommand(project ? project->screens() : SharedProperty(), true, parent)
 {
     if (!project || !kindCast<Screen>(screen)) {
-        refuse(Common::LocalizationHelper::coreString(u"There is no screen to add, or no project."_s));
+        refuse(Common::LocalizationHelper::coreString(u"There is no screen to add, or no project."_s),
+               {screen});
         return;
     }
     setTitle(u"Add Screen \"%1\""_s, screen->getIdName());

@@ -14,7 +14,8 @@ AddVariable::AddVariable(DesignerObject *variable, Project *project, UndoCommand
     : ModelCommand(project ? project->variables() : SharedProperty(), false, parent)
 {
     if (!project || !kindCast<ProjectVariable>(variable)) {
-        refuse(Common::LocalizationHelper::coreString(u"There is no variable to add, or no project."_s));
+        refuse(Common::LocalizationHelper::coreString(u"There is no variable to add, or no project."_s),
+               {variable});
         return;
     }
     setTitle(u"Add Project Variable \"%1\""_s, variable->getIdName());

@@ -44,7 +44,7 @@ GroupCommand::GroupCommand(const SharedProperty &elements, GroupElement *group,
     const QList<DesignerObject *> ordered = inOrder(members, elements);
     m_members = QList<QPointer<DesignerObject>>(ordered.cbegin(), ordered.cend());
     if (!group || group->listProperty() || m_members.size() < 2) {
-        refuse(Common::LocalizationHelper::coreString(u"At least two elements are required."_s));
+        refuse(Common::LocalizationHelper::coreString(u"At least two elements are required."_s), {group});
         return;
     }
     setTitle(u"Group Elements \"%1\""_s, group->getIdName());

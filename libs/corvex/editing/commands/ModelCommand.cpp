@@ -10,6 +10,7 @@ namespace Halvane::Corvex::Designer {
 struct ModelCommand::Plan
 {
     std::vector<std::unique_ptr<EditStep>> steps;
+    std::vector<std::unique_ptr<HeldObject>> unused;
     QList<ValueChange> changes;
     std::shared_ptr<PendingValues> pending;
     QPointer<DesignerObject> activeItem;
@@ -83,10 +84,18 @@ void ModelCommand::setTitle(const QString &english, const QString &first, const 
     setText(first.isNull() ? title : second.isNull() ? title.arg(first) : title.arg(first, second));
 }
 
-void ModelCommand::refuse(const QString &error)
+void ModelCommand::refuse(const QString &error, const QList<DesignerObject *> &unused)
 {
     plan().isRefused = true;
     plan().error = error;
+    hold(unused);
+}
+
+void ModelCommand::hold(const QList<DesignerObject *> &unused)
+{
+    for (DesignerObject *object : unused) {
+        plan().unused.push_back(std::make_unique<HeldObject>(object));
+    }
 }
 
 void ModelCommand::addStep(std::unique_ptr<EditStep> step)

@@ -45,8 +45,10 @@ protected:
     // For constructors.
     //! \a english with its placeholders filled, in the language of the user.
     void setTitle(const QString &english, const QString &first = {}, const QString &second = {});
-    //! Makes the command one that cannot be done.
-    void refuse(const QString &error);
+    //! Makes the command one that cannot be done. It owns \a unused all the same, unless they are in a model.
+    void refuse(const QString &error, const QList<DesignerObject *> &unused = {});
+    //! Objects that were given to the command and will not come into the model.
+    void hold(const QList<DesignerObject *> &unused);
     void addStep(std::unique_ptr<EditStep> step);
     template<class Step, class... Arguments>
     void addStep(Arguments &&...arguments)
