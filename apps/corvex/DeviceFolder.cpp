@@ -60,20 +60,11 @@ bool isBuilt(const QString &name)
 
 bool copyFiles(const QDir &source, const QDir &target, QString *error)
 {
-    if (!QDir().mkdir(target.path())) {
-        *error = u"The folder \"%1\" cannot be made."_s.arg(target.path());
-        return false;
-    }
-    for (const QString &name : source.entryList(everything)) {
-        const QString from = source.filePath(name);
-        const QString to = target.filePath(name);
-        // A disk that fills up may show in the size alone.
-        if (!QFile::copy(from, to) || QFileInfo(to).size() != QFileInfo(from).size()) {
-            *error = u"\"%1\" cannot be written. Is there room on the disk?"_s.arg(name);
-            return false;
-        }
-    }
-    return true;
+    const QStringList names = source.entryList(everything);
+    return Common::FileHelper::makeFolder(target.path(), error)
+           && std::ranges::all_of(names, [&](const QString &name) {
+                  return Common::FileHelper::copyFile(source.filePath(name), target.filePath(name), error);
+              });
 }
 
 //! The folders that make a path, the innermost first, as far as they are missing.
@@ -95,6 +86,14 @@ QString DeviceFolder::projectPath() const
     return QDir(m_path).filePath(projectFolder);
 }
 
+bool DeviceFolder::isInside(const QString &other) const
+{
+    const QStringList missing = missingFolders(m_path);
+    const QString existing = missing.isEmpty() ? m_path : QFileInfo(missing.constLast()).path();
+    const QString canonical = QFileInfo(existing).canonicalFilePath() + u'/';
+    return canonical.startsWith(QFileInfo(other).canonicalFilePath() + u'/');
+}
+
 bool DeviceFolder::fail(QString *error, const QString &message) const
 {
     *error = message;
@@ -112,9 +111,7 @@ bool DeviceFolder::bring(const QString &source, QString *error)
                     "an empty folder."_s.arg(m_path, foreign));
     }
     const QStringList made = missingFolders(m_path);
-    if (!QDir().mkpath(m_path)) {
-        fail(error, u"The folder \"%1\" cannot be made."_s.arg(m_path));
-    } else if (bringLocked(source, error)) {
+    if (Common::FileHelper::makeFolder(m_path, error) && bringLocked(source, error)) {
         return true;
     }
     for (const QString &folder : made) {

@@ -25,6 +25,8 @@ public:
     /*! Moves the folder \a source, which holds files only, to the place of "project", or a copy of it when it
        lies on another disk. False, with that place as it was and a text for the user, when that fails. */
     bool bring(const QString &source, QString *error);
+    //! Whether it is, or would be, in the folder \a other or below it, links followed.
+    bool isInside(const QString &other) const;
     //! "project" in the folder, as the user would write it.
     QString projectPath() const;
 

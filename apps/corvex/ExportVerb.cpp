@@ -64,13 +64,13 @@ void reportWritten(const QStringList &paths, const Exported &exported, const Cal
 //! Writes all files into a folder, which is made when it is missing.
 bool writeAll(const Exported &exported, const QString &folder, const Call &call)
 {
-    if (!QDir().mkpath(folder)) {
-        call.failed(u"The folder \"%1\" cannot be made."_s.arg(folder));
+    QString error;
+    if (!Common::FileHelper::makeFolder(folder, &error)) {
+        call.failed(error);
         return false;
     }
     QStringList paths;
     for (const Exported::File &file : exported.files) {
-        QString error;
         paths.append(QDir(folder).filePath(file.name));
         if (!Common::FileHelper::writeFile(paths.last(), file.bytes, &error)) {
             call.failed(error);

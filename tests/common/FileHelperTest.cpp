@@ -82,9 +82,30 @@ TEST_F(FileHelperTest, FullDiskLeavesTheOldFile)
             file.write(QByteArray(block, 'x'));
         EXPECT_FALSE(file.commit(&error));
         EXPECT_TRUE(error.contains(path(u"a"_s))) << error.toStdString();
+        EXPECT_FALSE(error.contains(u"Unknown"_s)) << error.toStdString();
     }
     EXPECT_EQ(contentOf(path(u"a"_s)), "old");
     EXPECT_EQ(names(), QStringList(u"a"_s));
+}
+
+TEST_F(FileHelperTest, CopiesAreWholeOrNotThere)
+{
+    put(path(u"a"_s), QByteArray(100'000, 'x'));
+    put(path(u"taken"_s), "mine");
+    QString error;
+    {
+        const FullDisk disk(50'000);
+        EXPECT_FALSE(FileHelper::copyFile(path(u"a"_s), path(u"b"_s), &error));
+    }
+    EXPECT_TRUE(error.contains(path(u"b"_s)) && !error.contains(u"Unknown"_s)) << error.toStdString();
+    EXPECT_FALSE(FileHelper::copyFile(path(u"a"_s), path(u"taken"_s)));
+    EXPECT_FALSE(FileHelper::copyFile(path(u"missing"_s), path(u"b"_s)));
+    EXPECT_FALSE(FileHelper::makeFolder(path(u"taken/below"_s), &error));
+    EXPECT_TRUE(error.contains(path(u"taken/below"_s))) << error.toStdString();
+    EXPECT_EQ(names(), QStringList({u"a"_s, u"taken"_s}));
+    EXPECT_EQ(contentOf(path(u"taken"_s)), "mine");
+    EXPECT_TRUE(FileHelper::copyFile(path(u"a"_s), path(u"b"_s)));
+    EXPECT_EQ(contentOf(path(u"b"_s)), contentOf(path(u"a"_s)));
 }
 
 TEST_F(FileHelperTest, WriteErrorsNameTheFile)

@@ -80,6 +80,53 @@ bool FileHelper::removeDirectory(const QString &path)
     return !error;
 }
 
+bool FileHelper::makeFolder(const QString &path, QString *error)
+{
+    std::error_code failure;
+    std::filesystem::create_directories(QFileInfo(QDir::cleanPath(path)).filesystemFilePath(), failure);
+    if (failure && error) {
+        *error = LocalizationHelper::coreString(u"The folder \"%1\" cannot be made: %2"_s)
+                     .arg(path, QString::fromLocal8Bit(failure.message().c_str()));
+    }
+    return !failure;
+}
+
+bool FileHelper::copyFile(const QString &source, const QString &target, QString *error)
+{
+    // Not QFile::copy(), which names other reasons for a disk that is full.
+    QFile from(source);
+    QFile to(target);
+    QString reason;
+    if (!from.open(QIODevice::ReadOnly)) {
+        reason = from.errorString();
+    } else if (!to.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        reason = to.errorString();
+    } else {
+        QByteArray block;
+        do {
+            block = from.read(1 << 18);
+        } while (!block.isEmpty() && to.write(block) == block.size());
+        if (!block.isEmpty() || !to.flush())
+            reason = writeError(to);
+        else if (from.error() != QFileDevice::NoError)
+            reason = from.errorString();
+        if (!reason.isEmpty())
+            to.remove();
+    }
+    if (!reason.isEmpty() && error) {
+        *error = LocalizationHelper::coreString(u"The file \"%1\" cannot be copied to \"%2\": %3"_s)
+                     .arg(source, target, reason);
+    }
+    return reason.isEmpty();
+}
+
+QString FileHelper::writeError(const QFileDevice &file)
+{
+    const QString text = file.errorString();
+    return text == QFile().errorString() ? LocalizationHelper::coreString(u"There is no room on the disk."_s)
+                                         : text;
+}
+
 bool FileHelper::writeFile(const QString &path, const QByteArray &bytes, QString *error)
 {
     SafeFile file(path);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFileDevice>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -19,6 +20,15 @@ public:
     //! left, which includes a path where nothing was. Refuses an empty path, the root, and the home folder
     //! with all above it.
     static bool removeDirectory(const QString &path);
+
+    //! Makes the folder and those above it that are missing. True for one that is there, too.
+    static bool makeFolder(const QString &path, QString *error = nullptr);
+
+    //! Copies a file to a place where none is. False, with nothing left there, unless every byte arrived.
+    static bool copyFile(const QString &source, const QString &target, QString *error = nullptr);
+
+    //! Why a file did not take all bytes. A disk that filled up leaves no text in the file.
+    static QString writeError(const QFileDevice &file);
 
     //! Replaces the file in one step, see SafeFile.
     static bool writeFile(const QString &path, const QByteArray &bytes, QString *error = nullptr);

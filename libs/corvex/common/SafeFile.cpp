@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/SafeFile.h"
 
+#include "corvex/common/FileHelper.h"
 #include "corvex/common/LocalizationHelper.h"
 
 #include <QDir>
@@ -23,14 +24,14 @@ qint64 SafeFile::writeData(const char *data, qint64 size)
     const qint64 written = QSaveFile::writeData(data, size);
     // The base class lets a short write pass and would move a file over the target that is cut off.
     if (written != size && m_failure.isEmpty())
-        m_failure = errorString();
+        m_failure = FileHelper::writeError(*this);
     return written;
 }
 
 bool SafeFile::commit(QString *error)
 {
     if (m_failure.isEmpty() && !flush())
-        m_failure = errorString();
+        m_failure = FileHelper::writeError(*this);
     if (!m_failure.isEmpty())
         cancelWriting();
     if (!QSaveFile::commit()) {

@@ -126,10 +126,9 @@ bool DesignerObject::saveToFile(const DesignerObject *object, const QString &pat
         problem = u"\"%1\" holds no object; nothing is written."_s.arg(problem);
     } else if (Common::SafeFile file(path); file.openForWriting(&problem)) {
         ObjectXmlWriter writer(&file, ObjectXmlWriter::LineEnd::Windows);
-        done = writer.write(object) && file.commit(&problem);
-        if (!done && problem.isEmpty()) {
-            problem = writer.errorString();
-        }
+        const bool isWritten = writer.write(object);
+        // What was not taken in full is not committed, and the file knows best why.
+        done = file.commit(&problem) && isWritten;
     }
     if (error) {
         *error = problem;

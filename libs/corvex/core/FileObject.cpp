@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/FileObject.h"
 
+#include "corvex/common/FileHelper.h"
 #include "corvex/common/LocalizationHelper.h"
 
 #include <QDir>
@@ -114,8 +115,8 @@ bool FileObject::createFile(const QString &path)
     }
     const QDir parent(path);
     const bool makesFolder = !sub.isEmpty() && !parent.exists(sub);
-    if (makesFolder && !parent.mkdir(sub)) {
-        return finish(message(u"The folder \"%1\" cannot be made."_s, parent.filePath(sub)));
+    if (makesFolder && !Common::FileHelper::makeFolder(parent.filePath(sub), &m_fileError)) {
+        return false;
     }
     if (!saveToFile(this, file, &m_fileError)) {
         if (makesFolder) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The files of Project: everything in its own folder, nothing beside it but the autosave file.
+#include "corvex/common/FileHelper.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/ModelObserver.h"
 #include "corvex/editing/undo/UndoStack.h"
@@ -26,16 +27,6 @@ const QString previewFile = u"Preview.png"_s;
 QString projectFileName(const QString &name)
 {
     return u"%1.kdproj"_s.arg(name);
-}
-
-bool copyFile(const QString &source, const QString &target, QString *error)
-{
-    if (QFile::copy(source, target)) {
-        return true;
-    }
-    *error = Common::LocalizationHelper::coreString(u"The file \"%1\" cannot be copied to \"%2\"."_s)
-                 .arg(source, target);
-    return false;
 }
 
 } // namespace
@@ -199,13 +190,13 @@ bool Project::copyResources(const QString &path, QString *error) const
             continue;
         }
         target.mkdir(imagesFolder);
-        if (!copyFile(image->filePath(), copy, error)) {
+        if (!Common::FileHelper::copyFile(image->filePath(), copy, error)) {
             return false;
         }
     }
     const QString preview = QDir(folderPath()).filePath(previewFile);
     return folderPath().isEmpty() || !QFileInfo(preview).isFile()
-           || copyFile(preview, target.filePath(previewFile), error);
+           || Common::FileHelper::copyFile(preview, target.filePath(previewFile), error);
 }
 
 QList<ImageResource *> Project::images() const

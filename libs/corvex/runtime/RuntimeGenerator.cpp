@@ -83,21 +83,16 @@ bool RuntimeGenerator::makeBuildFolder()
 {
     const QDir temporary(Common::FileHelper::getStandardTemporatyLocation());
     const QString designerFolder = temporary.absoluteFilePath(u"%1/CorvexNova/Designer"_s.arg(u"Halvane"_s));
-    if (!QDir().mkpath(designerFolder)) {
-        return fail(
-            LocalizationHelper::coreString(u"The folder \"%1\" cannot be made."_s).arg(designerFolder));
-    }
     QString folder;
     do {
         folder = u"%1/%2"_s.arg(designerFolder, QUuid::createUuid().toString());
     } while (QFile::exists(folder));
-    if (!QDir().mkdir(folder)) {
-        return fail(LocalizationHelper::coreString(u"The folder \"%1\" cannot be made."_s).arg(folder));
+    QString error;
+    if (!Common::FileHelper::makeFolder(folder + u"/project"_s, &error)) {
+        return fail(error);
     }
     m_buildFolder = folder;
-    return QDir(folder).mkdir(u"project"_s)
-           || fail(LocalizationHelper::coreString(u"The folder \"%1\" cannot be made."_s)
-                       .arg(folder + u"/project"_s));
+    return true;
 }
 
 bool RuntimeGenerator::writeProject(const DesignerObject *project)
@@ -166,7 +161,7 @@ bool RuntimeGenerator::writeScreens(const DesignerObject *project)
             file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
         if (!written) {
             return fail(LocalizationHelper::coreString(u"\"%1\" cannot be written: %2"_s)
-                            .arg(file.fileName(), file.errorString()));
+                            .arg(file.fileName(), Common::FileHelper::writeError(file)));
         }
         if (m_screenObserver) {
             m_screenObserver(*screen, qml);
@@ -182,10 +177,9 @@ bool RuntimeGenerator::copyResources()
     }
     const QDir resources(m_resourceFolder);
     for (const QString &name : resources.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
-        QFile file(resources.absoluteFilePath(name));
-        if (!file.copy(filePath(name))) {
-            return fail(LocalizationHelper::coreString(u"\"%1\" cannot be copied: %2"_s)
-                            .arg(file.fileName(), file.errorString()));
+        QString error;
+        if (!Common::FileHelper::copyFile(resources.absoluteFilePath(name), filePath(name), &error)) {
+            return fail(error);
         }
     }
     return true;
