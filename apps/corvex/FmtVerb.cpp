@@ -78,6 +78,9 @@ ExitCode run(const Call &call, const ProjectFile &file)
     if (loses) {
         return refuse(call, file, dropped);
     }
+    if (!file.isAsOpened(call)) {
+        return ExitCode::File;
+    }
     if (!rewritten.commit()) {
         return call.failed(rewritten.errorString());
     }

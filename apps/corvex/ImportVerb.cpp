@@ -136,6 +136,9 @@ ExitCode save(ProjectFile &file, const Call &call)
             "\"corvex check\" names the places; --force writes it all the same."_s.arg(file.path()),
             ExitCode::Problems);
     }
+    if (!file.isAsOpened(call)) {
+        return ExitCode::File;
+    }
     return file.project().saveFile() ? ExitCode::Done : call.failed(file.project().fileError());
 }
 

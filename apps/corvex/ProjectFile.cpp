@@ -26,6 +26,9 @@ QString advice(const QString &path)
     if (!info.exists()) {
         return u"Name the .kdproj file of a project; \"corvex new\" makes one."_s;
     }
+    if (info.isFile() && !info.isReadable()) {
+        return u"Ask its owner to let you read it."_s;
+    }
     if (info.isFile()) {
         return u"Mend the file at that place, or take it from a copy."_s;
     }
@@ -84,12 +87,23 @@ bool ProjectFile::open(const Call &call, qsizetype argument)
         return false;
     }
     call.terminal().showProgress(u"reading %1"_s.arg(m_path));
+    m_timeOfFile = QFileInfo(m_path).lastModified();
     m_project = create();
     if (m_project && m_project->loadFile(m_path)) {
         return true;
     }
     const QString error = m_project ? m_project->fileError() : u"No project can be made."_s;
     call.failed(u"%1 %2"_s.arg(sentence(error), advice(m_path)));
+    return false;
+}
+
+bool ProjectFile::isAsOpened(const Call &call) const
+{
+    if (QFileInfo(m_path).lastModified() == m_timeOfFile) {
+        return true;
+    }
+    call.failed(u"\"%1\" has been written by another program since it was opened, and stays as that program "
+                "left it. Try again."_s.arg(m_path));
     return false;
 }
 

@@ -6,6 +6,7 @@
 
 #include "ExitCode.h"
 
+#include <QDateTime>
 #include <QList>
 #include <QString>
 
@@ -38,6 +39,10 @@ public:
     //! As the user wrote it.
     const QString &path() const { return m_path; }
 
+    //! Whether nobody else has written the file since it was opened, which is asked before it is saved. False
+    //! once the user has been told.
+    bool isAsOpened(const Call &call) const;
+
     //! What would be lost if the project were saved.
     QList<Designer::ReadNote> dropped() const;
     //! An item of a list that no plug-in knows, with the object in whose list it stands.
@@ -50,6 +55,7 @@ public:
 
 private:
     QString m_path;
+    QDateTime m_timeOfFile; //!< when it was written, as it was opened
     std::unique_ptr<Designer::Project> m_project;
 };
 

@@ -8,6 +8,11 @@
 #include <cstdio>
 #include <cstring>
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 namespace {
 
 constexpr int cannotRead = 3;
@@ -19,8 +24,25 @@ bool asksForVersion(int argc, char **argv)
 
 int printVersion()
 {
-    return std::puts("corvex " CORVEX_VERSION) >= 0 && std::fflush(stdout) == 0 ? 0 : cannotRead;
+    if (std::puts("corvex " CORVEX_VERSION) >= 0 && std::fflush(stdout) == 0) {
+        return 0;
+    }
+    std::perror("corvex: The version cannot be written");
+    return cannotRead;
 }
+
+#ifdef Q_OS_UNIX
+//! A stream that the caller has closed gives its number to the next file that is opened, which would then get
+//! what is printed. Here it is one that cannot be written to.
+void occupyStandardStreams()
+{
+    int file = 0;
+    do {
+        file = open("/dev/null", O_RDONLY);
+    } while (file >= 0 && file <= STDERR_FILENO);
+    close(file);
+}
+#endif
 
 //! Qt's remarks on the system's locale mean nothing here: whatever it is, texts are UTF-8.
 void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
@@ -29,9 +51,12 @@ void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 
 int main(int argc, char **argv)
 {
-#ifdef SIGPIPE
-    // Writing to a pipe that nobody reads any more is an error like others, not the end of a build.
+#ifdef Q_OS_UNIX
+    occupyStandardStreams();
+    // Writing to a pipe that nobody reads any more, or more than a file may hold, is an error like others,
+    // not the end of a build.
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
 #endif
     if (asksForVersion(argc, argv)) {
         return printVersion();

@@ -380,3 +380,23 @@ TEST(FmtVerb, losesNothingUnlessItIsTold)
     EXPECT_EQ(sandbox.run({u"fmt"_s, u"--force"_s, pump}).code, 0);
     EXPECT_THAT(sandbox.read(pump).toStdString(), testing::Not(HasSubstr("shadow")));
 }
+
+TEST(FmtVerb, leavesTheFileWholeWhenThereIsNoRoom)
+{
+    const Sandbox sandbox;
+    sandbox.makeProject(goodElements());
+    const QByteArray before = sandbox.read(pump);
+    // What is printed would go into the file that gets the number of a closed stream.
+    for (const QString &streams : {QString(), u" >&-"_s, u" 2>&-"_s}) {
+        QProcess shell;
+        shell.start(u"bash"_s, {u"-c"_s, u"ulimit -f 2; exec '%1' fmt '%2'%3"_s.arg(
+                                             QStringLiteral(CORVEX_PROGRAM), sandbox.path(pump), streams)});
+        ASSERT_TRUE(shell.waitForFinished(60'000));
+        EXPECT_EQ(shell.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(shell.exitCode(), 3);
+        const QString told = QString::fromUtf8(shell.readAllStandardError());
+        EXPECT_EQ(told.contains(sandbox.path(pump)), !streams.startsWith(u" 2"_s)) << told.toStdString();
+        EXPECT_EQ(sandbox.read(pump), before);
+        EXPECT_EQ(sandbox.files(u"Pump"_s), QStringList{u"Pump.kdproj"_s});
+    }
+}
