@@ -63,6 +63,11 @@ ExitCode ProjectBuild::run(const Call &call, const QString &folder, WithProblems
     if (!models) {
         return ExitCode::File;
     }
+    DeviceFolder target(folder);
+    if (target.isInside(file.project().folderPath())) {
+        return call.failed(u"\"%1\" lies in the project's own folder, in which a build changes nothing. "
+                           "Choose a folder outside."_s.arg(folder));
+    }
     call.terminal().showProgress(u"building %1"_s.arg(file.path()));
     RuntimeGenerator &generator = file.project().runtimeGenerator();
     const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
@@ -73,7 +78,6 @@ ExitCode ProjectBuild::run(const Call &call, const QString &folder, WithProblems
     if (generator.buildFolder().isEmpty()) {
         return call.failed(generator.errorString(), problems.isEmpty() ? ExitCode::File : ExitCode::Problems);
     }
-    DeviceFolder target(folder);
     QString error;
     if (!target.bring(QDir(generator.buildFolder()).filePath(u"project"_s), &error)) {
         return call.failed(error);

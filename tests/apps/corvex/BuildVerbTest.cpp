@@ -101,6 +101,7 @@ TEST_F(BuildVerb, replacesNothingButEarlierBuilds)
     sandbox.write(u"file"_s, "mine");
     sandbox.write(u"link/target/Project.kdproj.zip"_s, "mine");
     QFile::link(u"link/target"_s, sandbox.path(u"linked"_s));
+    QFile::link(u"Pump"_s, sandbox.path(u"into"_s));
     QDir().mkpath(sandbox.path(u"aside"_s));
     QFile::link(u"../link/target"_s, sandbox.path(u"aside/project"_s));
     const struct
@@ -115,10 +116,11 @@ TEST_F(BuildVerb, replacesNothingButEarlierBuilds)
         {u"code"_s, u"\"code\" holds \"project\", which is no part of a build"_s},
         {u"aside"_s, u"\"aside\" holds \"project\", which is no part of a build"_s},
         {u"linked"_s, u"\"linked\" holds \"Project.kdproj.zip\", which is no part of a build"_s},
-        {u"Pump"_s, u"\"Pump\" holds "_s},
+        {u"Pump"_s, u"\"Pump\" lies in the project's own folder"_s},
+        {u"into/out"_s, u"\"into/out\" lies in the project's own folder"_s},
         {u"file"_s, u"\"file\" is not a folder."_s},
-        {u"file/below/it"_s, u"The folder \"file/below/it\" cannot be made."_s},
-        {u"/proc/nowhere"_s, u"The folder \"/proc/nowhere\" cannot be made."_s},
+        {u"file/below/it"_s, u"The folder \"file/below/it\" cannot be made: "_s},
+        {u"/proc/nowhere"_s, u"The folder \"/proc/nowhere\" cannot be made: "_s},
     };
     const QStringList before = sandbox.files(u"."_s);
     for (const auto &[folder, error] : cases) {
