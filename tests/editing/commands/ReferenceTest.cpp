@@ -153,6 +153,27 @@ TEST_F(ReferenceTest, AllFormsAreFoundRenamedAndDropped)
     }
 }
 
+TEST_F(ReferenceTest, AnElementCalledLikeAnotherScreenIsMeantOnItsOwn)
+{
+    DesignerObject *namesake = add(main->elements(), "Rectangle", "Other");
+    DesignerObject *elsewhere = addTo(other, "Rectangle");
+    ASSERT_TRUE(set(element("button1"), "visualElement",
+                    QStringLiteral("filterType: VisualElement; objectId: Other; scopeType: Screen;")));
+    ASSERT_TRUE(set(element("text1"), "xBinding", QStringLiteral("0306Other.x")));
+    ASSERT_TRUE(set(elsewhere, "xBinding", QStringLiteral("0306Other.brightness")));
+    const auto referrers = [](const DesignerObject *renamed) {
+        QStringList names;
+        for (const ValueChange &change : ReferenceChanges::renamed(renamed, QStringLiteral("r"))) {
+            names.append(change.property->parentObject()->objectPath());
+        }
+        names.sort();
+        return names;
+    };
+    EXPECT_EQ(referrers(namesake),
+              QStringList({QStringLiteral("Main.button1"), QStringLiteral("Main.text1")}));
+    EXPECT_EQ(referrers(other), QStringList{elsewhere->objectPath()});
+}
+
 TEST_F(ReferenceTest, TheIndexFollowsObjectsThatComeAndGo)
 {
     ReferenceIndex::of(project.get());

@@ -31,6 +31,15 @@ void addNames(const DesignerObject *object, QSet<QString> &names)
     }
 }
 
+//! The screen that a path starts with, as seen from a property of \a owner: an element that is called like
+//! another screen comes before it on its own screen.
+const DesignerObject *screenNamedBy(QStringView path, const DesignerObject *owner, const Project *project)
+{
+    const QString first = ObjectPath::firstSegment(path).toString();
+    const bool isElement = owner->screen() && owner->screen()->hasElement(first);
+    return isElement ? nullptr : project->screens()->getListItem(first);
+}
+
 bool hasSegmentOf(QStringView path, const QSet<QString> &names)
 {
     for (const QStringView segment : path.split(u'.')) {
@@ -88,19 +97,21 @@ bool ReferenceTarget::isMeantBy(const Mention &mention, const DesignerObject *ow
     if (!kinds) {
         return false;
     }
+    if (!mention.kinds.testFlag(NamedKind::Element)) {
+        // One name, which may hold a "." itself.
+        return m_names.contains(mention.path);
+    }
     if (kinds.testFlag(NamedKind::Element) && isElementMeant(mention, owner)) {
         return true;
     }
-    // Without elements among what can be meant, the path is one name, which may hold a "." itself.
-    const bool isPath = mention.kinds.testFlag(NamedKind::Element);
-    if (kinds.testFlag(NamedKind::Screen) && isPath
-        && m_names.contains(ObjectPath::firstSegment(mention.path).toString())) {
-        return true;
+    if (kinds.testFlag(NamedKind::Screen)) {
+        const DesignerObject *named = screenNamedBy(mention.path, owner, m_project);
+        if (named && m_names.contains(named->getIdName())) {
+            return true;
+        }
     }
-    if (kinds.testFlag(NamedKind::Variable) && isPath && hasSegmentOf(mention.path, m_names)) {
-        return true;
-    }
-    return kinds != NamedKind::Element && m_names.contains(mention.path);
+    return (kinds.testFlag(NamedKind::Variable) && hasSegmentOf(mention.path, m_names))
+           || (kinds.testFlag(NamedKind::Image) && m_names.contains(mention.path));
 }
 
 bool ReferenceTarget::isElementMeant(const Mention &mention, const DesignerObject *owner) const
@@ -111,8 +122,7 @@ bool ReferenceTarget::isElementMeant(const Mention &mention, const DesignerObjec
     if (!m_screen) {
         return true;
     }
-    const QString first = ObjectPath::firstSegment(mention.path).toString();
-    const DesignerObject *named = m_project->screens()->getListItem(first);
+    const DesignerObject *named = screenNamedBy(mention.path, owner, m_project);
     return named ? named == m_screen : !owner->screen() || owner->screen() == m_screen;
 }
 
