@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/commands/DeleteObject.h"
 #include "corvex/editing/commands/GroupCommand.h"
+#include "corvex/editing/commands/SplitGroup.h"
 #include "corvex/editing/commands/UngroupCommand.h"
 #include "corvex/editing/graphics/CanvasScene.h"
 #include "corvex/editing/undo/UndoStack.h"
@@ -227,10 +228,13 @@ TEST_F(CanvasSceneTest, GroupingAndDeletingLeaveEverythingElseInItsPlace)
             const GraphicsItem *item = GraphicsItem::of(graphic);
             if (item && item->isKindOfClass(u"GraphicsRectangle"_s)) {
                 const QRectF frame = item->frame();
-                drawn.append(
-                    u"%1 %2 %3"_s.arg(item->dataObject()->getIdName(),
-                                      ValueConversion::toString(graphic->mapToScene(frame.topLeft())),
-                                      ValueConversion::toString(graphic->mapToScene(frame.bottomRight()))));
+                const QPointF corner = graphic->mapToScene(frame.topLeft());
+                const QPointF opposite = graphic->mapToScene(frame.bottomRight());
+                drawn.append(u"%1 %2 %3 %4 %5"_s.arg(item->dataObject()->getIdName())
+                                 .arg(corner.x(), 0, 'f', 1)
+                                 .arg(corner.y(), 0, 'f', 1)
+                                 .arg(opposite.x(), 0, 'f', 1)
+                                 .arg(opposite.y(), 0, 'f', 1));
             }
         }
         return drawn;
@@ -250,6 +254,24 @@ TEST_F(CanvasSceneTest, GroupingAndDeletingLeaveEverythingElseInItsPlace)
     stack.redo();
     stack.push(new UngroupCommand(screen->getElement(u"group"_s)));
     EXPECT_EQ(look(), before);
+
+    // Taken apart bit by bit, a group that is turned, scaled and not full in its upper left corner.
+    stack.push(new GroupCommand(make("GroupElement", "group2"), {box, turned, other}));
+    DesignerObject *group = screen->getElement(u"group2"_s);
+    set(other, "position", u"x: 30; y: 15;"_s);
+    set(box, "position", u"x: 60; y: 25;"_s);
+    set(group, "rotation", u"25"_s);
+    set(group, "scale", u"150"_s);
+    const auto lookUnordered = [&look] {
+        QStringList drawn = look();
+        drawn.sort();
+        return drawn;
+    };
+    const QStringList placed = lookUnordered();
+    stack.push(new SplitGroup(group, QList<DesignerObject *>{turned}));
+    EXPECT_EQ(lookUnordered(), placed);
+    stack.push(new UngroupCommand(group));
+    EXPECT_EQ(lookUnordered(), placed);
 }
 
 TEST_F(CanvasSceneTest, SeveralElementsAreSelectedAndMovedTogether)

@@ -36,9 +36,13 @@ ElementPlacement ElementPlacement::of(const DesignerObject *element)
         const SharedProperty property = element->getProperty(id);
         return property ? property->valueString() : QString();
     };
+    const QPointF position = ValueConversion::toPoint(text(u"position"));
     const auto *visual = kindCast<VisualElement>(element);
-    return {ValueConversion::toPoint(text(u"position")), visual ? visual->boundingRect().size() : QSizeF(),
-            text(u"rotation").toDouble(), text(u"transformOrigin")};
+    const QRectF rect = visual ? visual->boundingRect() : QRectF(position, QSizeF(0, 0));
+    const QPointF start = rect.topLeft() - position; // not zero in a group whose members stand away from it
+    const QSizeF size(start.x() + rect.width(), start.y() + rect.height());
+    return {position, size.expandedTo(QSizeF(0, 0)), text(u"rotation").toDouble(), text(u"transformOrigin"),
+            visual ? text(u"scale").toDouble() / 100 : 1};
 }
 
 QPointF ElementPlacement::origin() const
@@ -63,16 +67,38 @@ QRectF ElementPlacement::actualBoundingRect() const
     return turn.mapRect(rect);
 }
 
+QPointF ElementPlacement::turned(const QPointF &way) const
+{
+    QTransform turn;
+    turn.rotate(rotation);
+    turn.scale(scale, scale);
+    return turn.map(way);
+}
+
+ElementPlacement ElementPlacement::withRest(const QList<DesignerObject *> &rest) const
+{
+    // A group reaches from its own zero point to the far edges of its members, turned or not.
+    ElementPlacement left = *this;
+    left.size = {0, 0};
+    for (const DesignerObject *member : rest) {
+        const ElementPlacement inside = of(member);
+        left.size = left.size.expandedTo(
+            {inside.position.x() + inside.size.width(), inside.position.y() + inside.size.height()});
+    }
+    const QPointF way = origin() - left.origin();
+    left.position += way - turned(way);
+    return left;
+}
+
 ElementPlacement ElementPlacement::outOf(const ElementPlacement &group) const
 {
     ElementPlacement outside = *this;
     outside.position += group.position;
-    if (std::fmod(group.rotation, 360) != 0) {
-        QTransform turn;
-        turn.rotate(group.rotation);
-        const QPointF center = group.origin() + turn.map(position + origin() - group.origin());
-        outside.position = group.position + center - origin();
+    if (group.rotation != 0 || group.scale != 1) {
         outside.rotation = std::fmod(rotation + group.rotation, 360);
+        outside.scale *= group.scale;
+        outside.position =
+            group.position + group.origin() + group.turned(position + origin() - group.origin()) - origin();
     }
     return outside;
 }

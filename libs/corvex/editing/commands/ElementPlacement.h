@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QList>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
@@ -16,15 +17,22 @@ struct ElementPlacement
     QSizeF size;
     double rotation = 0; //!< in degrees, clockwise, about the origin
     QString transformOrigin;
+    double scale = 1;
 
     static ElementPlacement of(const DesignerObject *element);
 
-    //! The point about which it turns, from its own top left corner.
+    //! The point about which it turns and scales, from its own top left corner.
     QPointF origin() const;
     //! What it covers, turned as it is.
     QRectF actualBoundingRect() const;
+    //! That of a group that only \a rest are left of, where they are still seen as before.
+    ElementPlacement withRest(const QList<DesignerObject *> &rest) const;
     //! The same place outside of the group \a group for something that stands in it.
     ElementPlacement outOf(const ElementPlacement &group) const;
+
+private:
+    //! A way within it, turned and scaled as it is.
+    QPointF turned(const QPointF &way) const;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -70,6 +70,9 @@ QList<ValueChange> SplitGroup::placeOutside(const DesignerObject *member, const 
     if (outside.rotation != inside.rotation) {
         add(u"rotation", ValueConversion::toString(outside.rotation));
     }
+    if (outside.scale != inside.scale) {
+        add(u"scale", ValueConversion::toString(outside.scale * 100));
+    }
     return changes;
 }
 
@@ -88,6 +91,10 @@ void SplitGroup::setupCommands(GroupElement *group, const QList<DesignerObject *
         }
         addStep<InsertItemStep>(list, member, ++index);
     }
+    QList<DesignerObject *> rest = group->elements()->listItems();
+    rest.removeIf([&members](DesignerObject *member) { return members.contains(member); });
+    addValueStep(group->getProperty(u"position"),
+                 ValueConversion::toString(ElementPlacement::of(group).withRest(rest).position));
     addChanges(ReferenceChanges::ungrouped(group, below, false, pending()));
     addChange(group->indexes(), GroupIndexes::replaced(valueOf(group->indexes()), names, {}));
     if (const GroupElement *outer = GroupIndexes::groupOf(list)) {

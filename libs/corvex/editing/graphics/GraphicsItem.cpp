@@ -139,7 +139,9 @@ void GraphicsItem::place(QGraphicsItem *child)
 
 void GraphicsItem::updateTransformOriginPoint()
 {
-    m_graphic->setTransformOriginPoint(FramePoint::of(m_transformOrigin).in(frame()));
+    if (m_graphic) {
+        m_graphic->setTransformOriginPoint(FramePoint::of(m_transformOrigin).in(turningFrame()));
+    }
 }
 
 QRectF GraphicsItem::frame() const

@@ -59,6 +59,8 @@ public:
     // Shapes.
     //! The rectangle with the handles, in the item's own coordinates, as all shapes are.
     virtual QRectF frame() const;
+    //! The rectangle whose nine points the item can turn about; the frame of most.
+    virtual QRectF turningFrame() const { return frame(); }
     //! What the item covers.
     virtual QPainterPath getShape() const;
     QPainterPath itemShape() const { return getShape(); }

@@ -56,8 +56,11 @@ void GraphicsItemGroup::updateBoundingSize()
 {
     prepareGeometryChange();
     m_frame = {};
+    m_turningSize = {0, 0};
     for (const GraphicsItem *member : members()) {
         m_frame |= member->graphic()->mapRectToParent(member->frame());
+        const QPointF corner = member->graphic()->pos() + member->turningFrame().bottomRight();
+        m_turningSize = m_turningSize.expandedTo({corner.x(), corner.y()});
     }
     updateTransformOriginPoint();
 }

@@ -20,6 +20,8 @@ public:
     explicit GraphicsItemGroup(DesignerObject *dataObject);
 
     QRectF frame() const override { return m_frame; }
+    //! As on the device: from the group's own zero point to the far edges of the members, turned or not.
+    QRectF turningFrame() const override { return QRectF(QPointF(), m_turningSize); }
     QPainterPath getShape() const override;
     void setFrameSize(const QSizeF &size) override;
     bool keepsRatio() const override;
@@ -40,6 +42,7 @@ private:
     void scaleMembers(double across, double down);
 
     QRectF m_frame;
+    QSizeF m_turningSize;
     QRectF m_modelFrame; //!< the frame around the members as they are in the model
     bool m_isChangingSize = false;
 };
