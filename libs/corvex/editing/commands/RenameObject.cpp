@@ -62,16 +62,16 @@ RenameObject::RenameObject(DesignerObject *object, const QString &className, con
     addStep<SortListStep>(object->listProperty());
 }
 
-bool RenameObject::redoOwn(QString &error)
+void RenameObject::redo()
 {
     const WaitCursor cursor;
-    return ModelCommand::redoOwn(error);
+    ModelCommand::redo();
 }
 
-void RenameObject::undoOwn()
+void RenameObject::undo()
 {
     const WaitCursor cursor;
-    ModelCommand::undoOwn();
+    ModelCommand::undo();
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -9,13 +9,14 @@ namespace Halvane::Corvex::Designer {
 //! for each of them.
 class RenameObject : public ModelCommand
 {
+public:
+    void redo() override;
+    void undo() override;
+
 protected:
     //! Refuses an object that is none of \a className, and a name that it cannot have.
     RenameObject(DesignerObject *object, const QString &className, const QString &newName,
                  const QString &title, UndoCommand *parent);
-
-    bool redoOwn(QString &error) override;
-    void undoOwn() override;
 };
 
 } // namespace Halvane::Corvex::Designer
