@@ -99,31 +99,52 @@ bool PlaceFileStep::readSource(QByteArray &bytes, QString &error) const
 
 bool PlaceFileStep::redo(QString &error)
 {
-    // What it has once placed is as good as the source, which may be gone by now.
-    if (!m_isMade || !isThere(path())) {
-        QByteArray bytes;
-        if (!readSource(bytes, error)) {
-            return false;
-        }
-        if (isThere(path()) && !hasContents(path(), bytes)) {
-            error = LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(path());
-            return false;
-        }
-        if (!isThere(path())) {
-            QDir().mkpath(project()->imagesPath());
-            if (!FileHelper::writeFile(path(), bytes, &error)) {
-                return false;
-            }
-            m_isMade = true;
-        }
+    m_isDone = bringBack() || place(error);
+    return m_isDone;
+}
+
+//! What was placed once is as good as the source, which may be gone by now.
+bool PlaceFileStep::bringBack()
+{
+    if (m_spareName.isEmpty() || isThere(path()) || !QFile::rename(pathOf(m_spareName), path())) {
+        return false;
     }
-    m_isDone = true;
+    m_spareName.clear();
     return true;
+}
+
+bool PlaceFileStep::place(QString &error)
+{
+    QByteArray bytes;
+    if (!readSource(bytes, error)) {
+        return false;
+    }
+    if (isThere(path())) {
+        const bool isSame = hasContents(path(), bytes);
+        if (!isSame) {
+            error = LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(path());
+        }
+        return isSame;
+    }
+    QDir().mkpath(project()->imagesPath());
+    m_isMade = FileHelper::writeFile(path(), bytes, &error);
+    return m_isMade;
+}
+
+void PlaceFileStep::undo()
+{
+    m_isDone = false;
+    const QString spare = freeName(name());
+    if (m_isMade && QFile::rename(path(), pathOf(spare))) {
+        m_spareName = spare;
+    }
 }
 
 void PlaceFileStep::cleanJunkFiles()
 {
-    if (m_isMade) {
+    if (!m_spareName.isEmpty()) {
+        QFile::remove(pathOf(m_spareName));
+    } else if (m_isMade) {
         removeUnused(name());
     }
 }

@@ -38,7 +38,8 @@ private:
 };
 
 //! Puts a file into the folder: a copy of another one, or some bytes. A file of the same contents will do;
-//! any other of that name stops it.
+//! any other of that name stops it. Undone, the file steps aside, so that each state of the project finds the
+//! names of files as they were.
 class PlaceFileStep : public FileStep
 {
 public:
@@ -53,14 +54,17 @@ public:
     ~PlaceFileStep() override;
 
     bool redo(QString &error) override;
-    void undo() override { m_isDone = false; }
+    void undo() override;
     void cleanJunkFiles() override;
 
 private:
     bool readSource(QByteArray &bytes, QString &error) const;
+    bool bringBack();
+    bool place(QString &error);
 
     QString m_source;
     QByteArray m_bytes;
+    QString m_spareName;   //!< of the file while the step is undone
     bool m_isMade = false; //!< by this step, so that it may be removed again
     bool m_isDone = false;
 };
