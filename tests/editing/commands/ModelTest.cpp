@@ -1,0 +1,372 @@
+// SPDX-License-Identifier: MIT
+// Random edits with random undo and redo of a project with elements of every class. After each step the model
+// must hold together; from the last one the history must lead back to the first byte and forth to the last.
+//
+// CORVEX_MODEL_STEPS and CORVEX_MODEL_SEED make longer and other runs; scripts/soak sets them.
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/ItemList.h"
+#include "corvex/core/properties/LinkProperty.h"
+#include "corvex/editing/commands/AddImage.h"
+#include "corvex/editing/commands/AddImageFromData.h"
+#include "corvex/editing/commands/AddObject.h"
+#include "corvex/editing/commands/AddScreen.h"
+#include "corvex/editing/commands/AddVariable.h"
+#include "corvex/editing/commands/ChangeConfiguration.h"
+#include "corvex/editing/commands/ChangeProperty.h"
+#include "corvex/editing/commands/ChangeVisualElements.h"
+#include "corvex/editing/commands/DeleteImage.h"
+#include "corvex/editing/commands/DeleteObject.h"
+#include "corvex/editing/commands/DeleteObjectsAndCheckFilters.h"
+#include "corvex/editing/commands/DeleteScreen.h"
+#include "corvex/editing/commands/DeleteVariable.h"
+#include "corvex/editing/commands/GroupCommand.h"
+#include "corvex/editing/commands/MoveObject.h"
+#include "corvex/editing/commands/ReferenceChanges.h"
+#include "corvex/editing/commands/ReferenceScanner.h"
+#include "corvex/editing/commands/RenameImage.h"
+#include "corvex/editing/commands/RenameScreen.h"
+#include "corvex/editing/commands/RenameVariable.h"
+#include "corvex/editing/commands/ReplaceImage.h"
+#include "corvex/editing/commands/SplitGroup.h"
+#include "corvex/editing/commands/SwapItems.h"
+#include "corvex/editing/commands/UngroupCommand.h"
+#include "corvex/editing/undo/UndoStack.h"
+#include "corvex/hardware/ConfigurationContainer.h"
+#include "corvex/hardware/HardwareConfigurations.h"
+#include "corvex/project/GroupElement.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/project/VisualElement.h"
+#include "corvex/values/ListInfo.h"
+
+#include "ProjectGenerator.h"
+#include "Random.h"
+
+#include <QDir>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer::Test {
+
+namespace {
+
+QList<DesignerObject *> below(const DesignerObject *object)
+{
+    QList<DesignerObject *> all;
+    for (DesignerObject *child : object->childObjects()) {
+        all.append(child);
+        all += below(child);
+    }
+    return all;
+}
+
+//! The first line that differs, on both sides; empty for equal texts.
+QString difference(const QString &text, const QString &expected)
+{
+    const QStringList left = text.split(u'\n');
+    const QStringList right = expected.split(u'\n');
+    for (qsizetype i = 0; i < std::max(left.size(), right.size()); ++i) {
+        if (left.value(i) != right.value(i)) {
+            return u"line %1:\n%2\ninstead of\n%3"_s.arg(QString::number(i + 1), left.value(i).left(2000),
+                                                         right.value(i).left(2000));
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+class ModelTest : public testing::Test
+{
+protected:
+    static void SetUpTestSuite()
+    {
+        DesignerFactory::createInstance(QStringLiteral(CORVEX_LIBRARY));
+        HardwareConfigurations::createInstance(QStringLiteral(CORVEX_DATA));
+    }
+
+    void SetUp() override
+    {
+        Examples::ProjectGenerator generator(u"Model"_s, {.screens = 3, .variables = 24, .elements = 90},
+                                             seed);
+        project = generator.generate();
+        ASSERT_TRUE(project->createFile(folder.path())) << qPrintable(project->fileError());
+        QDir().mkpath(project->imagesPath());
+        ASSERT_TRUE(Examples::ProjectGenerator::writeImages(project->imagesPath()));
+        project->validate();
+    }
+
+    static int setting(const char *name, int usual)
+    {
+        bool ok = false;
+        const int value = qEnvironmentVariableIntValue(name, &ok);
+        return ok ? value : usual;
+    }
+
+    QString newName(const QString &stem) { return stem + QString::number(++lastNumber); }
+    static DesignerObject *make(const QString &className, const QString &name)
+    {
+        DesignerObject *object = DesignerFactory::instance()->createObject(className);
+        object->setParent(nullptr);
+        object->setIdName(name);
+        return object;
+    }
+    DesignerObject *itemOf(const SharedProperty &list)
+    {
+        const qsizetype count = list->listItemCount();
+        return count > 0 ? list->getListItemAtIndex(random.below(int(count))) : nullptr;
+    }
+    Screen *anyScreen() { return static_cast<Screen *>(itemOf(project->screens())); }
+    Element *anyElement(const QString &className = u"Element"_s)
+    {
+        const QList<Element *> elements = anyScreen()->getElementsOfType(className);
+        return elements.isEmpty() ? nullptr : random.oneOf(elements);
+    }
+    static QString named(const DesignerObject *object, const QString &name)
+    {
+        IdentifierInfo info = object->getIdInfo();
+        info.setName(name);
+        return info.toString();
+    }
+
+    //! A command that may be possible; null when there is nothing for it.
+    UndoCommand *anyCommand();
+    UndoCommand *imageCommand();
+    UndoCommand *groupCommand();
+    UndoCommand *valueCommand(Element *element);
+
+    void checkModel();
+    void checkOwners(const DesignerObject *owner);
+    void checkReferences(const DesignerObject *object);
+    QString text() const { return DesignerObject::toString(project.get()); }
+
+    const quint64 seed = quint64(setting("CORVEX_MODEL_SEED", 1));
+    QTemporaryDir folder;
+    std::unique_ptr<Project> project;
+    Examples::Random random{seed};
+    int lastNumber = 0;
+};
+
+UndoCommand *ModelTest::valueCommand(Element *element)
+{
+    if (!element) {
+        return nullptr;
+    }
+    // Another element of the class lends its value, which is a good one for this property.
+    const SharedProperty property = random.oneOf(element->properties());
+    const Element *other = random.oneOf(element->screen()->getElementsOfType(element->className()));
+    if (property->isList() || property->isObject() || property->id() == "id"_L1
+        || property->id() == "indexes"_L1) {
+        return nullptr;
+    }
+    if (random.chance(20)) {
+        QList<VisualElement *> all;
+        for (Element *item : element->screen()->getElementsOfType(u"VisualElement"_s)) {
+            all.append(static_cast<VisualElement *>(item));
+        }
+        return new ChangeVisualElements(element->getProperty(u"opacity"), all);
+    }
+    return new ChangeProperty(property, other->getProperty(property->id())->valueString(), true);
+}
+
+UndoCommand *ModelTest::groupCommand()
+{
+    if (Element *group = anyElement(u"GroupElement"_s); group && random.chance(60)) {
+        const SharedProperty elements = group->getProperty(u"elements");
+        DesignerObject *member = itemOf(elements);
+        switch (random.below(member ? 4 : 1)) {
+        case 0:
+            return new UngroupCommand(group);
+        case 1:
+            return new SplitGroup(group, {member});
+        case 2:
+            return new MoveObject(elements, group->screen()->elements(), member, true);
+        default:
+            return new AddObject(elements, u"Text"_s, newName(u"inGroup"_s), true);
+        }
+    }
+    Screen *screen = anyScreen();
+    QList<DesignerObject *> members;
+    for (DesignerObject *item : screen->elements()->getItemsOfType(u"VisualElement"_s)) {
+        if (members.size() < 4 && random.chance(20)) {
+            members.append(item);
+        }
+    }
+    return new GroupCommand(make(u"GroupElement"_s, newName(u"madeGroup"_s)), members);
+}
+
+UndoCommand *ModelTest::imageCommand()
+{
+    DesignerObject *image = itemOf(project->imageResources());
+    const int kind = random.below(5);
+    const QString file = folder.filePath(newName(u"picture"_s) + u".png"_s);
+    QImage picture(4, 4, QImage::Format_RGB32);
+    picture.fill(QRgb(lastNumber * 7919));
+    picture.save(file);
+    if (kind == 0 || !image) {
+        Element *user = anyElement(u"Image"_s);
+        return new AddImage(make(u"ImageResource"_s, newName(u"added"_s) + u".png"_s), file, project.get(),
+                            user ? QList<DesignerObject *>{user} : QList<DesignerObject *>());
+    }
+    switch (kind) {
+    case 1:
+        return new AddImageFromData(picture, anyScreen(), {double(random.below(50)), 3});
+    case 2:
+        return new RenameImage(image, newName(u"renamed"_s) + u".png"_s);
+    case 3:
+        return new ReplaceImage(image, file,
+                                random.chance(50) ? image->getIdName() : newName(u"replaced"_s) + u".png"_s);
+    default:
+        return new DeleteImage(image);
+    }
+}
+
+UndoCommand *ModelTest::anyCommand()
+{
+    static const QStringList models =
+        HardwareConfigurations::instance()->installed()->getProperty(u"configurations")->listItemNames();
+    Screen *screen = anyScreen();
+    Element *element = anyElement();
+    DesignerObject *variable = itemOf(project->variables());
+    switch (random.below(14)) {
+    case 0: {
+        const Element *like = anyElement();
+        return like ? new AddObject(screen->elements(), like->className(), newName(u"added"_s), true)
+                    : nullptr;
+    }
+    case 1:
+        return element ? new DeleteObject(element, true) : nullptr;
+    case 2: {
+        QList<DesignerObject *> some{element, anyElement(), anyElement()};
+        some.removeIf([&](const DesignerObject *item) { return !item || item->screen() != screen; });
+        return new DeleteObjectsAndCheckFilters(some, screen);
+    }
+    case 3:
+    case 4:
+        return element
+                   ? new ChangeProperty(element->idProperty(), named(element, newName(u"renamed"_s)), true)
+                   : nullptr;
+    case 5:
+        return groupCommand();
+    case 6: {
+        DesignerObject *other = itemOf(screen->elements());
+        return new SwapItems(screen->elements(), itemOf(screen->elements()), other);
+    }
+    case 7:
+        return imageCommand();
+    case 8:
+        return random.chance(30)
+                   ? static_cast<UndoCommand *>(new ChangeConfiguration(project.get(), random.oneOf(models)))
+                   : valueCommand(element);
+    case 9:
+        if (project->screens()->listItemCount() > 2 && random.chance(20)) {
+            return new DeleteScreen(screen);
+        }
+        return random.chance(20) ? static_cast<UndoCommand *>(
+                   new AddScreen(make(u"Screen"_s, newName(u"Screen"_s)), project.get(), random.below(3)))
+                                 : new RenameScreen(screen, newName(u"Renamed"_s));
+    case 10:
+        return variable && random.chance(40)
+                   ? static_cast<UndoCommand *>(new DeleteVariable(variable))
+                   : new AddVariable(make(u"NumberVariable"_s, newName(u"variable"_s)), project.get());
+    case 11:
+        return variable ? new RenameVariable(variable, newName(u"renamed"_s)) : nullptr;
+    default:
+        return valueCommand(element);
+    }
+}
+
+void ModelTest::checkOwners(const DesignerObject *owner)
+{
+    for (const SharedProperty &list : owner->properties()) {
+        if (!list->isList()) {
+            continue;
+        }
+        for (DesignerObject *item : list->listItems()) {
+            ASSERT_EQ(item->parent(), owner) << qPrintable(item->objectPath());
+            ASSERT_EQ(item->listProperty(), list) << qPrintable(item->objectPath());
+            ASSERT_EQ(item->listProperties().size(), 1) << qPrintable(item->objectPath());
+            ASSERT_EQ(item->project(), project.get()) << qPrintable(item->objectPath());
+            ASSERT_EQ(list->getListItem(item->getIdName()), item) << qPrintable(item->objectPath());
+            checkOwners(item);
+        }
+        const QStringList names = list->listItemNames();
+        list->sortList();
+        ASSERT_EQ(list->listItemNames(), names) << qPrintable(owner->objectPath() + u'.' + list->id());
+    }
+}
+
+//! The index knows the same sites as a walk.
+void ModelTest::checkReferences(const DesignerObject *object)
+{
+    QSet<SharedProperty> walked;
+    for (const ReferenceUse &use : ReferenceScanner::uses(ReferenceTarget::toItself(object))) {
+        walked.insert(use.property);
+    }
+    QSet<SharedProperty> indexed;
+    for (const ValueChange &change : ReferenceChanges::renamed(object, u"anything"_s)) {
+        indexed.insert(change.property);
+    }
+    ASSERT_EQ(indexed, walked) << qPrintable(object->objectPath());
+}
+
+void ModelTest::checkModel()
+{
+    ASSERT_NO_FATAL_FAILURE(checkOwners(project.get()));
+    const QList<DesignerObject *> all = below(project.get());
+    for (const DesignerObject *object : all) {
+        if (const auto *group = kindCast<GroupElement>(object)) {
+            QStringList indexes = ListInfo(group->indexes()->valueString()).toList();
+            QStringList members = group->elements()->listItemNames();
+            indexes.sort();
+            members.sort();
+            ASSERT_EQ(indexes, members) << qPrintable(group->objectPath());
+        }
+        for (const SharedProperty &property : object->properties()) {
+            if (property->isKindOfClass(LinkProperty::kindName())) {
+                const auto &link = static_cast<const LinkProperty &>(*property);
+                ASSERT_TRUE(!link.value().isValid() || link.connectLink())
+                    << qPrintable(object->objectPath() + u": "_s + property->valueString());
+            }
+        }
+    }
+    ASSERT_NO_FATAL_FAILURE(checkReferences(random.oneOf(all)));
+}
+
+TEST_F(ModelTest, RandomEditsLeadBackToTheFirstByte)
+{
+    const int steps = setting("CORVEX_MODEL_STEPS", 2000);
+    UndoStack *stack = project->undoStack();
+    ASSERT_NO_FATAL_FAILURE(checkModel());
+    const QString first = text();
+    int done = 0;
+    for (int step = 0; step < steps; ++step) {
+        QString what = u"undo or redo"_s;
+        if (random.chance(25)) {
+            stack->setIndex(std::clamp(stack->index() + random.between(-4, 3), 0, stack->count()));
+        } else if (std::unique_ptr<UndoCommand> command{anyCommand()}; command && command->isValid()) {
+            what = command->text();
+            const auto *model = dynamic_cast<const ModelCommand *>(command.get());
+            stack->push(command.release());
+            done += model->isDone() ? 1 : 0;
+        }
+        SCOPED_TRACE(testing::Message()
+                     << "seed " << seed << ", step " << step << ": " << what.toStdString());
+        ASSERT_NO_FATAL_FAILURE(checkModel());
+        if (step % setting("CORVEX_MODEL_WALK", 250) == 0 || step == steps - 1) {
+            const int index = stack->index();
+            const QString last = text();
+            stack->setIndex(0);
+            ASSERT_EQ(difference(text(), first), QString());
+            stack->setIndex(index);
+            ASSERT_EQ(difference(text(), last), QString());
+        }
+    }
+    EXPECT_GT(done, steps / 3);
+}
+
+} // namespace Halvane::Corvex::Designer::Test
