@@ -127,21 +127,6 @@ bool edit(Project &project, VariableImport &import, QStringList &problems)
     return true;
 }
 
-ExitCode save(ProjectFile &file, const Call &call)
-{
-    const QList<ReadNote> dropped = file.dropped();
-    if (!dropped.isEmpty() && !call.isSet(u"force"_s)) {
-        return call.failed(
-            u"\"%1\" holds what this version does not know and would lose; it stays as it is. "
-            "\"corvex check\" names the places; --force writes it all the same."_s.arg(file.path()),
-            ExitCode::Problems);
-    }
-    if (!file.isAsOpened(call)) {
-        return ExitCode::File;
-    }
-    return file.project().saveFile() ? ExitCode::Done : call.failed(file.project().fileError());
-}
-
 ExitCode take(ProjectFile &file, VariableImport &import, const Call &call)
 {
     const bool isForced = call.isSet(u"force"_s);
@@ -156,7 +141,7 @@ ExitCode take(ProjectFile &file, VariableImport &import, const Call &call)
             ExitCode::Problems);
     }
     const bool isWritten = !isTrial && !report.isEmpty();
-    const ExitCode code = isWritten ? save(file, call) : ExitCode::Done;
+    const ExitCode code = isWritten ? file.save(call) : ExitCode::Done;
     if (code == ExitCode::Done) {
         print(report, isWritten, call);
     }

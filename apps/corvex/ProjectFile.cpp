@@ -107,6 +107,19 @@ bool ProjectFile::isAsOpened(const Call &call) const
     return false;
 }
 
+ExitCode ProjectFile::save(const Call &call) const
+{
+    if (!dropped().isEmpty() && !call.isSet(u"force"_s)) {
+        return call.failed(u"\"%1\" holds what this version does not know and would lose; it stays as it is. "
+                           "\"corvex check\" names the places; --force writes it all the same."_s.arg(m_path),
+                           ExitCode::Problems);
+    }
+    if (!isAsOpened(call)) {
+        return ExitCode::File;
+    }
+    return m_project->saveFile() ? ExitCode::Done : call.failed(m_project->fileError());
+}
+
 QList<ReadNote> ProjectFile::dropped() const
 {
     QList<ReadNote> notes;

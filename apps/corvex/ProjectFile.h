@@ -42,6 +42,9 @@ public:
     //! Whether nobody else has written the file since it was opened, which is asked before it is saved. False
     //! once the user has been told.
     bool isAsOpened(const Call &call) const;
+    //! Saves the project, which loses what dropped() tells only when the call says --force. The user has been
+    //! told of a failure.
+    ExitCode save(const Call &call) const;
 
     //! What would be lost if the project were saved.
     QList<Designer::ReadNote> dropped() const;

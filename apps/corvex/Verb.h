@@ -32,6 +32,8 @@ struct Verb
 extern const Verb buildVerb;
 extern const Verb checkVerb;
 extern const Verb configDumpVerb;
+extern const Verb diffVerb;
+extern const Verb editVerb;
 extern const Verb exportVerb;
 extern const Verb exprVerb;
 extern const Verb fmtVerb;
@@ -40,6 +42,7 @@ extern const Verb importVerb;
 extern const Verb infoVerb;
 extern const Verb newVerb;
 extern const Verb previewVerb;
+extern const Verb renameVerb;
 extern const Verb renderVerb;
 extern const Verb treeVerb;
 extern const Verb usesVerb;

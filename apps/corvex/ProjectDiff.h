@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+namespace Halvane::Corvex::Designer {
+class DesignerObject;
+class DesignerProperty;
+} // namespace Halvane::Corvex::Designer
+
+namespace Halvane::Corvex::Tool {
+
+/*! What became of one project in another: objects that came, went, were renamed or moved, and values that
+    changed. An object is the same when it has the same name and class in the same list; what is gone from one
+    list and new in another under its name was moved; what is gone and what is new in one list were renamed
+   when nothing but the name tells them apart. */
+class ProjectDiff
+{
+public:
+    enum Kind { Added, Removed, Renamed, Moved, Changed };
+    struct Difference
+    {
+        Kind kind;
+        QString path; //!< of the object; of the property when a value changed
+        QString className;
+        QString before; //!< the old value, name or place
+        QString after;
+    };
+
+    ProjectDiff(const Designer::DesignerObject &before, const Designer::DesignerObject &after);
+
+    const QList<Difference> &differences() const { return m_differences; }
+    //! "added", "removed", "renamed", "moved" and "changed".
+    static QString nameOf(Kind kind);
+
+private:
+    struct Loose
+    {
+        const Designer::DesignerObject *object;
+        QString place; //!< the path of its list
+    };
+
+    void compareObjects(const Designer::DesignerObject &before, const Designer::DesignerObject &after);
+    void compareLists(const Designer::DesignerProperty &before, const Designer::DesignerProperty &after);
+    void compareOrder(const QList<const Designer::DesignerObject *> &before,
+                      const QList<const Designer::DesignerObject *> &after);
+    void matchMoved();
+    void matchRenamed();
+    void add(Kind kind, const Designer::DesignerObject &object, const QString &before = {},
+             const QString &after = {});
+
+    QList<Difference> m_differences;
+    QList<Loose> m_gone;
+    QList<Loose> m_new;
+};
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,497 @@
+// SPDX-License-Identifier: MIT
+#include "ProjectEditor.h"
+
+#include "corvex/common/FileHelper.h"
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/PropertyValidators.h"
+#include "corvex/editing/commands/AddImage.h"
+#include "corvex/editing/commands/AddObject.h"
+#include "corvex/editing/commands/AddScreen.h"
+#include "corvex/editing/commands/AddVariable.h"
+#include "corvex/editing/commands/ChangeConfiguration.h"
+#include "corvex/editing/commands/ChangeProperty.h"
+#include "corvex/editing/commands/DeleteFilter.h"
+#include "corvex/editing/commands/DeleteImage.h"
+#include "corvex/editing/commands/DeleteObjectsAndCheckFilters.h"
+#include "corvex/editing/commands/DeleteScreen.h"
+#include "corvex/editing/commands/DeleteVariable.h"
+#include "corvex/editing/commands/GroupCommand.h"
+#include "corvex/editing/commands/ImageNames.h"
+#include "corvex/editing/commands/MoveObject.h"
+#include "corvex/editing/commands/RenameImage.h"
+#include "corvex/editing/commands/RenameProject.h"
+#include "corvex/editing/commands/RenameScreen.h"
+#include "corvex/editing/commands/RenameVariable.h"
+#include "corvex/editing/commands/ReplaceImage.h"
+#include "corvex/editing/commands/SplitGroup.h"
+#include "corvex/editing/commands/SwapItems.h"
+#include "corvex/editing/commands/UngroupCommand.h"
+#include "corvex/editing/undo/UndoStack.h"
+#include "corvex/project/FilterElement.h"
+#include "corvex/project/ImageResource.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/values/ListInfo.h"
+#include "corvex/variables/ProjectVariable.h"
+
+#include "ProjectPath.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+DesignerObject *make(const QString &className, const QString &name)
+{
+    const DesignerFactory *factory = DesignerFactory::instance();
+    DesignerObject *object = factory->canCreateObject(className) ? factory->createObject(className) : nullptr;
+    if (object) {
+        object->setParent(nullptr);
+        object->setIdName(name);
+    }
+    return object;
+}
+
+QString withName(const DesignerObject *object, const QString &name)
+{
+    IdentifierInfo info = object->getIdInfo();
+    info.setName(name);
+    return info.toString();
+}
+
+//! How closely the list describes such an item; -1 when it does not take it.
+qsizetype closeness(const SharedProperty &list, const DesignerObject *item)
+{
+    qsizetype closest = list->isList() && list->objectFilters().isEmpty() ? 0 : -1;
+    if (list->isList()) {
+        for (const QString &className : list->objectFilters()) {
+            closest = std::max(closest, item->classNames().indexOf(className));
+        }
+    }
+    return closest;
+}
+
+bool isImage(const QString &file)
+{
+    return Common::FileHelper::isValidImage(file);
+}
+
+} // namespace
+
+struct ProjectEditor::Entry
+{
+    const char *name;
+    const char *usage;
+    int fewest; //!< words behind the name
+    int most;   //!< -1 for any number
+    bool (ProjectEditor::*run)(const Words &words);
+};
+
+const QList<ProjectEditor::Entry> &ProjectEditor::entries()
+{
+    static const QList<Entry> table{
+        {"set", "set PATH VALUE", 1, -1, &ProjectEditor::set},
+        {"add", "add CLASS TO [NAME]", 2, 3, &ProjectEditor::add},
+        {"delete", "delete PATH...", 1, -1, &ProjectEditor::remove},
+        {"rename", "rename PATH NAME", 2, 2, &ProjectEditor::rename},
+        {"group", "group NAME PATH...", 3, -1, &ProjectEditor::group},
+        {"ungroup", "ungroup PATH", 1, 1, &ProjectEditor::ungroup},
+        {"split", "split PATH MEMBER...", 2, -1, &ProjectEditor::splitGroup},
+        {"swap", "swap PATH PATH", 2, 2, &ProjectEditor::swap},
+        {"move", "move PATH TO", 2, 2, &ProjectEditor::move},
+        {"add-image", "add-image FILE...", 1, -1, &ProjectEditor::addImages},
+        {"replace-image", "replace-image PATH FILE [NAME]", 2, 3, &ProjectEditor::replaceImage},
+        {"model", "model NAME", 1, -1, &ProjectEditor::model},
+        {"filter", "filter NAME PATH...", 2, -1, &ProjectEditor::filter},
+        {"undo", "undo [N]", 0, 1, &ProjectEditor::undo},
+        {"redo", "redo [N]", 0, 1, &ProjectEditor::redo},
+        {"print", "print PATH", 1, 1, &ProjectEditor::print},
+    };
+    return table;
+}
+
+bool ProjectEditor::split(const QString &line, QStringList &words, QString &error)
+{
+    QString word;
+    bool isInWord = false;
+    bool isQuoted = false;
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        const QChar c = line.at(i);
+        if (isQuoted && c == u'\\' && i + 1 < line.size()) {
+            const QChar next = line.at(++i);
+            word += next == u'n' ? QChar(u'\n') : next == u't' ? QChar(u'\t') : next;
+        } else if (c == u'"') {
+            isQuoted = !isQuoted;
+            isInWord = true;
+        } else if (!isQuoted && (c == u' ' || c == u'\t')) {
+            if (isInWord) {
+                words.append(std::exchange(word, {}));
+            }
+            isInWord = false;
+        } else {
+            word += c;
+            isInWord = true;
+        }
+    }
+    if (isQuoted) {
+        error = u"A quote is opened and not closed."_s;
+        return false;
+    }
+    if (isInWord) {
+        words.append(word);
+    }
+    return true;
+}
+
+bool ProjectEditor::run(const QString &line, QString &error)
+{
+    const QString trimmed = line.trimmed();
+    if (trimmed.isEmpty() || trimmed.startsWith(u'#')) {
+        return true;
+    }
+    m_error.clear();
+    Words words;
+    if (line.contains(QChar::Null)) {
+        error = u"The line holds a NUL."_s;
+        return false;
+    }
+    if (!split(trimmed, words, error)) {
+        return false;
+    }
+    const auto entry = std::ranges::find_if(
+        entries(), [&](const Entry &known) { return words.first() == QLatin1StringView(known.name); });
+    if (entry == entries().cend()) {
+        error = u"There is no edit \"%1\"."_s.arg(words.first());
+        return false;
+    }
+    m_rest = trimmed.section(u' ', 2, -1, QString::SectionSkipEmpty).trimmed();
+    words.removeFirst();
+    if (words.size() < entry->fewest || (entry->most >= 0 && words.size() > entry->most)) {
+        error = u"The form of this edit is: %1"_s.arg(QLatin1StringView(entry->usage));
+        return false;
+    }
+    const bool isDone = (this->*entry->run)(words);
+    error = m_error;
+    return isDone;
+}
+
+bool ProjectEditor::fail(const QString &reason)
+{
+    m_error = reason;
+    return false;
+}
+
+bool ProjectEditor::push(ModelCommand *command)
+{
+    std::unique_ptr<ModelCommand> owned(command);
+    if (!command->isValid()) {
+        const QString reason = command->errorString();
+        return fail(reason.isEmpty() ? u"This cannot be done here."_s : reason);
+    }
+    m_project.undoStack()->push(owned.release());
+    if (!command->isDone()) {
+        const QString reason = command->errorString();
+        m_project.undoStack()->undo();
+        return fail(reason.isEmpty() ? u"The project does not take this."_s : reason);
+    }
+    m_edits.append({command->text(), command->valueChanges()});
+    return true;
+}
+
+void ProjectEditor::undoAll()
+{
+    m_project.undoStack()->setIndex(0);
+}
+
+DesignerObject *ProjectEditor::object(const QString &path)
+{
+    const ProjectPlace place = ProjectPath::find(&m_project, path);
+    if (!place.object || place.property) {
+        fail(u"There is no object \"%1\"."_s.arg(path));
+        return nullptr;
+    }
+    return place.object;
+}
+
+bool ProjectEditor::objects(const Words &paths, QList<DesignerObject *> &found)
+{
+    for (const QString &path : paths) {
+        DesignerObject *item = object(path);
+        if (!item) {
+            return false;
+        }
+        found.append(item);
+    }
+    return true;
+}
+
+//! The list that the path names, or that of the object that it names which takes such an item.
+SharedProperty ProjectEditor::listFor(const QString &path, const DesignerObject *item)
+{
+    const ProjectPlace place = ProjectPath::find(&m_project, path);
+    if (place.property && place.property->isList()) {
+        return place.property;
+    }
+    if (place.object && !place.property) {
+        const QList<SharedProperty> &properties = place.object->properties();
+        const auto list = std::ranges::max_element(
+            properties, {}, [item](const SharedProperty &property) { return closeness(property, item); });
+        if (closeness(*list, item) >= 0) {
+            return *list;
+        }
+    }
+    fail(u"\"%1\" has no list for an object of the class %2."_s.arg(path, item->className()));
+    return {};
+}
+
+bool ProjectEditor::set(const Words &words)
+{
+    const ProjectPlace place = ProjectPath::find(&m_project, words.first());
+    if (!place.property) {
+        return fail(u"There is no property \"%1\"."_s.arg(words.first()));
+    }
+    if (place.property->isList() || place.property->isObject()) {
+        return fail(u"\"%1\" holds objects. Use add, delete and move."_s.arg(words.first()));
+    }
+    if (place.property == place.object->idProperty()) {
+        return fail(u"Names are given by rename, which takes all references along."_s);
+    }
+    const QString value = words.size() == 2 ? words.at(1) : m_rest;
+    if (place.property->valueString() == value) {
+        return true;
+    }
+    return push(new ChangeProperty(place.property, value, false));
+}
+
+bool ProjectEditor::add(const Words &words)
+{
+    const std::unique_ptr<DesignerObject> sample(make(words.first(), {}));
+    if (!sample) {
+        return fail(
+            u"There is no class \"%1\". \"corvex help\" tells how plug-ins are found."_s.arg(words.first()));
+    }
+    const SharedProperty list = listFor(words.at(1), sample.get());
+    if (!list) {
+        return false;
+    }
+    const QString name = words.value(2);
+    if (name.isEmpty()) {
+        return push(new AddObject(list, words.first(), name, false));
+    }
+    DesignerObject *item = make(words.first(), name);
+    if (list == m_project.screens()) {
+        return push(new AddScreen(item, &m_project, -1));
+    }
+    if (list == m_project.variables()) {
+        return push(new AddVariable(item, &m_project));
+    }
+    return push(new AddObject(list, item, false));
+}
+
+bool ProjectEditor::remove(const Words &words)
+{
+    QList<DesignerObject *> found;
+    if (!objects(words, found)) {
+        return false;
+    }
+    QHash<Screen *, QList<DesignerObject *>> elements;
+    for (DesignerObject *item : std::as_const(found)) {
+        bool isDone = true;
+        if (kindCast<Screen>(item)) {
+            isDone = push(new DeleteScreen(item));
+        } else if (kindCast<ProjectVariable>(item)) {
+            isDone = push(new DeleteVariable(item));
+        } else if (kindCast<ImageResource>(item)) {
+            isDone = push(new DeleteImage(item));
+        } else if (kindCast<FilterElement>(item)) {
+            isDone = push(new DeleteFilter(item->listProperty(), item, false));
+        } else if (item->screen()) {
+            elements[item->screen()].append(item);
+        } else {
+            isDone = fail(u"\"%1\" cannot be deleted."_s.arg(item->objectPath()));
+        }
+        if (!isDone) {
+            return false;
+        }
+    }
+    for (const auto &[screen, items] : elements.asKeyValueRange()) {
+        if (!push(new DeleteObjectsAndCheckFilters(items, screen))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool ProjectEditor::rename(const Words &words)
+{
+    DesignerObject *item = object(words.first());
+    const QString &name = words.at(1);
+    if (!item) {
+        return false;
+    }
+    if (item->getIdName() == name) {
+        return true;
+    }
+    if (item == &m_project) {
+        return push(new RenameProject(&m_project, name));
+    }
+    if (kindCast<Screen>(item)) {
+        return push(new RenameScreen(item, name));
+    }
+    if (kindCast<ProjectVariable>(item)) {
+        return push(new RenameVariable(item, name));
+    }
+    if (kindCast<ImageResource>(item)) {
+        return push(new RenameImage(item, name));
+    }
+    if (!kindCast<Element>(item)) {
+        return fail(u"\"%1\" cannot be renamed."_s.arg(item->objectPath()));
+    }
+    if (const QString reason = PropertyValidators::nameError(item, name); !reason.isEmpty()) {
+        return fail(reason);
+    }
+    return push(new ChangeProperty(item->idProperty(), withName(item, name), false));
+}
+
+bool ProjectEditor::group(const Words &words)
+{
+    QList<DesignerObject *> members;
+    if (!objects(words.sliced(1), members)) {
+        return false;
+    }
+    DesignerObject *made = make(u"GroupElement"_s, words.first());
+    return push(new GroupCommand(made, members));
+}
+
+bool ProjectEditor::ungroup(const Words &words)
+{
+    DesignerObject *item = object(words.first());
+    return item && push(new UngroupCommand(item));
+}
+
+bool ProjectEditor::splitGroup(const Words &words)
+{
+    DesignerObject *item = object(words.first());
+    return item && push(new SplitGroup(item, words.sliced(1)));
+}
+
+bool ProjectEditor::swap(const Words &words)
+{
+    QList<DesignerObject *> both;
+    return objects(words, both)
+           && push(new SwapItems(both.first()->listProperty(), both.first(), both.last()));
+}
+
+bool ProjectEditor::move(const Words &words)
+{
+    DesignerObject *item = object(words.first());
+    const SharedProperty list = item ? listFor(words.at(1), item) : SharedProperty();
+    return list && push(new MoveObject(item->listProperty(), list, item, false));
+}
+
+bool ProjectEditor::addImages(const Words &words)
+{
+    ImageNames names(&m_project);
+    for (const QString &file : words) {
+        const QFileInfo info(file);
+        if (!isImage(file)) {
+            return fail(u"\"%1\" is no image, or not one of the kind that its extension tells."_s.arg(file));
+        }
+        const QString digest = Common::FileHelper::md5(file);
+        if (!names.withContents(digest, info.suffix().toLower()).isEmpty()) {
+            continue;
+        }
+        const QString name = names.freeName(info.fileName());
+        names.add(name, digest);
+        if (!push(new AddImage(make(ImageResource::kindName(), name), info.absoluteFilePath(), &m_project))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool ProjectEditor::replaceImage(const Words &words)
+{
+    DesignerObject *item = object(words.first());
+    if (!item) {
+        return false;
+    }
+    const QString name = words.size() > 2 ? words.at(2) : item->getIdName();
+    return push(new ReplaceImage(item, QFileInfo(words.at(1)).absoluteFilePath(), name));
+}
+
+bool ProjectEditor::model(const Words &words)
+{
+    return push(new ChangeConfiguration(&m_project, words.join(u' ')));
+}
+
+bool ProjectEditor::filter(const Words &words)
+{
+    QList<DesignerObject *> listed;
+    if (!objects(words.sliced(1), listed)) {
+        return false;
+    }
+    Screen *screen = listed.first()->screen();
+    QStringList names;
+    for (const DesignerObject *item : std::as_const(listed)) {
+        if (!screen || item->screen() != screen || !kindCast<Element>(item)) {
+            return fail(u"A filter lists elements of one screen."_s);
+        }
+        names.append(item->getIdName());
+    }
+    const QString text = ListInfo(names).toString();
+    if (const DesignerObject *known = screen->filters()->getListItem(words.first())) {
+        return push(new ChangeProperty(known->getProperty(u"elements"), text, false));
+    }
+    DesignerObject *made = make(FilterElement::kindName(), words.first());
+    made->changePropertyValue(made->getProperty(u"elements"), text);
+    return push(new AddObject(screen->filters(), made, false));
+}
+
+bool ProjectEditor::step(const Words &words, int direction)
+{
+    bool isNumber = true;
+    const int count = words.isEmpty() ? 1 : words.first().toInt(&isNumber);
+    UndoStack *stack = m_project.undoStack();
+    const int target = stack->index() + direction * count;
+    if (!isNumber || count < 0 || target < 0 || target > stack->count()) {
+        return fail(direction < 0 ? u"There are %1 edits to undo."_s.arg(stack->index())
+                                  : u"There are %1 edits to redo."_s.arg(stack->count() - stack->index()));
+    }
+    stack->setIndex(target);
+    m_edits.append({direction < 0 ? u"Undo %1"_s.arg(count) : u"Redo %1"_s.arg(count), {}});
+    return true;
+}
+
+bool ProjectEditor::undo(const Words &words)
+{
+    return step(words, -1);
+}
+
+bool ProjectEditor::redo(const Words &words)
+{
+    return step(words, 1);
+}
+
+bool ProjectEditor::print(const Words &words)
+{
+    const ProjectPlace place = ProjectPath::find(&m_project, words.first());
+    if (!place.object) {
+        return fail(u"There is nothing called \"%1\"."_s.arg(words.first()));
+    }
+    if (!place.property) {
+        m_output.append(u"%1 %2"_s.arg(place.object->className(), place.object->getIdName()));
+    } else if (place.property->isList()) {
+        m_output.append(place.property->listItemNames().join(u", "_s));
+    } else {
+        m_output.append(place.property->valueString());
+    }
+    return true;
+}
+
+} // namespace Halvane::Corvex::Tool

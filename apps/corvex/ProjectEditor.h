@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/ModelCommand.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace Halvane::Corvex::Designer {
+class Project;
+class Screen;
+} // namespace Halvane::Corvex::Designer
+
+namespace Halvane::Corvex::Tool {
+
+/*! Edits a project by lines of text, one edit each: "set Main.title.text Hello". Words are parted by blanks;
+   a word in double quotes may hold blanks, and \", \\, \n and \t. Paths are those of ProjectPath.
+
+    Each edit is one step of the project's history, except undo and redo. */
+class ProjectEditor
+{
+public:
+    //! One edit that was made.
+    struct Edit
+    {
+        QString text; //!< what the history calls it
+        QList<Designer::ValueChange> changes;
+    };
+
+    explicit ProjectEditor(Designer::Project &project)
+        : m_project(project)
+    { }
+
+    //! False, with the reason for the user, when the line cannot be done; the project is as before then. An
+    //! empty line and one that starts with "#" do nothing.
+    bool run(const QString &line, QString &error);
+    const QList<Edit> &edits() const { return m_edits; }
+    //! What "print" lines have shown since the last call.
+    QStringList takeOutput() { return std::exchange(m_output, {}); }
+    //! Takes all edits back.
+    void undoAll();
+
+    //! The words of a line; false when a quote is not closed.
+    static bool split(const QString &line, QStringList &words, QString &error);
+
+private:
+    using Words = QStringList;
+    struct Entry;
+    static const QList<Entry> &entries();
+
+    bool push(Designer::ModelCommand *command);
+    bool fail(const QString &reason);
+    Designer::DesignerObject *object(const QString &path);
+    bool objects(const Words &paths, QList<Designer::DesignerObject *> &found);
+    Designer::SharedProperty listFor(const QString &path, const Designer::DesignerObject *item);
+
+    bool set(const Words &words);
+    bool add(const Words &words);
+    bool remove(const Words &words);
+    bool rename(const Words &words);
+    bool group(const Words &words);
+    bool ungroup(const Words &words);
+    bool splitGroup(const Words &words);
+    bool swap(const Words &words);
+    bool move(const Words &words);
+    bool addImages(const Words &words);
+    bool replaceImage(const Words &words);
+    bool model(const Words &words);
+    bool filter(const Words &words);
+    bool undo(const Words &words);
+    bool redo(const Words &words);
+    bool print(const Words &words);
+    bool step(const Words &words, int direction);
+
+    Designer::Project &m_project;
+    QList<Edit> m_edits;
+    QStringList m_output;
+    QString m_error;
+    QString m_rest; //!< of the line behind its second word, as it stands
+};
+
+} // namespace Halvane::Corvex::Tool

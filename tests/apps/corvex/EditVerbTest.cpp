@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "Sandbox.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace Halvane::Corvex::Test;
+using namespace Qt::StringLiterals;
+using testing::HasSubstr;
+
+namespace {
+
+const QString pump = u"Pump/Pump.kdproj"_s;
+
+class EditVerb : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        const QString link = u"filterType: VisualElement; objectId: box1; scopeType: Screen;"_s;
+        sandbox.makeProject(
+            Sandbox::object("Button", "press", Sandbox::value("visualElement", link.toUtf8()))
+                + Sandbox::object("Rectangle", "box1", Sandbox::value("position", "x: 10; y: 20;"))
+                + Sandbox::object("Rectangle", "box2") + Sandbox::object("Text", "title")
+                + Sandbox::object("Image", "photo"),
+            Sandbox::object("NumberVariable", "speed", {}, "Project"));
+        sandbox.run({u"fmt"_s, pump});
+        QImage picture(8, 8, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        picture.save(sandbox.path(u"one.png"_s));
+        picture.fill(Qt::blue);
+        picture.save(sandbox.path(u"two.png"_s));
+    }
+    ProgramRun edit(const QByteArray &script, const QStringList &options = {}) const
+    {
+        sandbox.write(u"script"_s, script);
+        return sandbox.run(QStringList{u"edit"_s, pump, u"script"_s} + options);
+    }
+    QString tree(const QString &path) const { return sandbox.run({u"tree"_s, pump, path}).out.trimmed(); }
+
+    const Sandbox sandbox;
+};
+
+} // namespace
+
+TEST_F(EditVerb, everyEditIsDoneAndTakenBackToTheFirstByte)
+{
+    const QByteArray before = sandbox.read(pump);
+    const QByteArray script = R"(# all that there is
+set Main.title.text Hello "you" %1
+set Main.title.text "two\nlines"
+add Rectangle Main box3
+add Text Main.elements
+add NumberVariable Pump depth
+add Screen screens Second
+rename Main.box1 tank
+rename speed rate
+rename Second Other
+swap Main.tank Main.box2
+group group1 Main.tank Main.box2 Main.box3
+move Main.title Main.group1
+split Main.group1 title box3
+ungroup Main.group1
+filter boxes Main.tank Main.box2
+filter boxes Main.tank
+add-image one.png two.png
+rename one.png uno.png
+replace-image uno.png two.png
+delete Main.title Main.box3 boxes Other rate two.png
+)";
+    const ProgramRun done = edit(QByteArray(script).replace(" boxes Other", " Main.boxes Other")
+                                 + "undo 2\nredo\nprint Main.press.visualElement\n");
+    EXPECT_EQ(done.error, QString());
+    EXPECT_EQ(done.out, u"filterType: VisualElement; objectId: tank; scopeType: Screen;\n"_s);
+    EXPECT_EQ(done.code, 0);
+    EXPECT_EQ(tree(u"Main.tank.position"_s), u"x: 10; y: 20;"_s);
+    EXPECT_EQ(sandbox.run({u"fmt"_s, pump, u"--check"_s}).code, 0);
+
+    sandbox.write(pump, before);
+    QByteArray twice = script;
+    twice.replace(" boxes Other", " Main.boxes Other");
+    EXPECT_EQ(edit(twice + "undo 25\n").error, QString());
+    EXPECT_EQ(sandbox.read(pump), before);
+}
+
+TEST_F(EditVerb, oneBadLineAndNothingIsDone)
+{
+    const QByteArray before = sandbox.read(pump);
+    const struct
+    {
+        const char *line;
+        const char *reason;
+    } rows[] = {
+        {"explode", "There is no edit \"explode\"."},
+        {"set Main.nothing.text x", "There is no property \"Main.nothing.text\"."},
+        {"set Main.title.position far", "The project does not take this."},
+        {"set Main.title.id x", "Names are given by rename, which takes all references along."},
+        {"rename Main.title", "The form of this edit is: rename PATH NAME"},
+        {"rename Main.title box1", "The name is not unique."},
+        {"add Nothing Main", "There is no class \"Nothing\". \"corvex help\" tells how plug-ins are found."},
+        {"add Text speed", "\"speed\" has no list for an object of the class Text."},
+        {"delete Main.title nowhere", "There is no object \"nowhere\"."},
+        {"group one Main.title", "The form of this edit is: group NAME PATH..."},
+        {"group one Main.title Main.title", "At least two elements are required."},
+        {"add-image script", "\"script\" is no image, or not one of the kind that its extension tells."},
+        {"model VTR 1", "The device model \"VTR 1\" is not available."},
+        {"undo 9", "There are 2 edits to undo."},
+        {"print \"Main", "A quote is opened and not closed."},
+    };
+    for (const auto &[line, reason] : rows) {
+        const ProgramRun run = edit(QByteArray("set Main.title.text new\nadd-image one.png\n") + line + '\n');
+        EXPECT_EQ(run.error,
+                  u"script:3: %1\ncorvex: \"%2\" stays as it is.\n"_s.arg(QString::fromLatin1(reason), pump))
+            << line;
+        EXPECT_EQ(run.code, 1) << line;
+        EXPECT_EQ(sandbox.read(pump), before) << line;
+        EXPECT_EQ(sandbox.files(u"Pump"_s), QStringList{u"Pump.kdproj"_s}) << line;
+    }
+    EXPECT_EQ(edit(QByteArray("set Main.title.text a\0b\n", 24)).code, 1);
+    EXPECT_EQ(sandbox.run({u"edit"_s, pump, u"nowhere"_s}).code, 3);
+}
+
+TEST_F(EditVerb, aTrialShowsWhatFollows)
+{
+    const QByteArray before = sandbox.read(pump);
+    const ProgramRun run = edit("rename Main.box1 tank\n", {u"--dry-run"_s});
+    EXPECT_THAT(run.out.toStdString(), HasSubstr("Change Name\n"));
+    EXPECT_THAT(run.out.toStdString(),
+                HasSubstr("  Main.press.visualElement: filterType: VisualElement; objectId: box1; scopeType: "
+                          "Screen; -> filterType: VisualElement; objectId: tank; scopeType: Screen;\n"));
+    EXPECT_EQ(run.code, 0);
+    EXPECT_EQ(sandbox.read(pump), before);
+    const QJsonObject json = edit("set Main.title.text new\n", {u"--json"_s}).json().toObject();
+    EXPECT_EQ(json[u"edits"_s][0][u"changes"_s][0][u"new"_s].toString(), u"new"_s);
+    EXPECT_EQ(tree(u"Main.title.text"_s), u"new"_s);
+}
+
+TEST_F(EditVerb, renameAndDiff)
+{
+    const QString old = u"Old/Old.kdproj"_s;
+    QDir(sandbox.path({})).mkdir(u"Old"_s);
+    QFile::copy(sandbox.path(pump), sandbox.path(old));
+    EXPECT_EQ(sandbox.run({u"diff"_s, old, pump}).code, 0);
+    EXPECT_EQ(sandbox.run({u"rename"_s, pump, u"Main.title"_s, u"box1"_s}).code, 1);
+    EXPECT_EQ(sandbox.run({u"rename"_s, pump, u"Main.photo"_s, u"picture"_s}).code, 0);
+    EXPECT_EQ(edit("add Text Main note\ndelete Main.box2\nset Main.title.text new\n"
+                   "group pair Main.box1 Main.title\n")
+                  .error,
+              QString());
+    const ProgramRun diff = sandbox.run({u"diff"_s, old, pump});
+    EXPECT_EQ(diff.out, u"moved Main.box1: Main.elements -> Main.pair.elements\n"
+                        "changed box1.position: x: 10; y: 20; -> x: 10; y: 20;\n"_s);
+    EXPECT_EQ(diff.code, 1);
+}
