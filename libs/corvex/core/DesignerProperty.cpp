@@ -236,6 +236,14 @@ bool DesignerProperty::equalsValue(const QString &text) const
     return (!initial.isNull() && text == initial) || valueIsEqual(text);
 }
 
+bool DesignerProperty::canRead(const QString &text)
+{
+    bool isGood = false;
+    const bool isRead = judgeText(text, isGood);
+    validate(); // The trial has judged the other value.
+    return isRead;
+}
+
 bool DesignerProperty::takeText(const QString &text)
 {
     const bool isTaken = convertToValue(text);

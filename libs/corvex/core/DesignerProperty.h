@@ -102,6 +102,8 @@ public:
     QString valueString() const;
     //! Whether \a text stands for the value that is held; a text that does not parse counts as equal.
     bool equalsValue(const QString &text) const;
+    //! Whether \a text stands for a value at all. The value and the outcome of its validation stay.
+    bool canRead(const QString &text);
     bool equalsObjectValue(const DesignerObject *object) const { return objectValue() == object; }
     bool equalsListItems(const QList<DesignerObject *> &items) const;
 
