@@ -31,13 +31,14 @@ bool take(const SharedProperty &list, DesignerObject *object)
 
 } // namespace
 
-HeldObject::HeldObject(DesignerObject *object)
+HeldObject::HeldObject(DesignerObject *object, bool isHeld)
     : m_object(object)
+    , m_isHeld(isHeld)
 { }
 
 HeldObject::~HeldObject()
 {
-    if (m_object && !m_object->parent()) {
+    if (m_isHeld && m_object && !m_object->parent()) {
         delete m_object;
     }
 }
@@ -53,7 +54,8 @@ bool SetValueStep::redo(QString &error)
 
 InsertItemStep::InsertItemStep(const SharedProperty &list, DesignerObject *object, qsizetype index)
     : m_list(list)
-    , m_object(object)
+    , m_isNew(object && !object->listProperty())
+    , m_object(object, m_isNew)
     , m_index(index)
 { }
 
@@ -69,17 +71,18 @@ bool InsertItemStep::redo(QString &error)
         return false;
     }
     m_index = m_list->getListItemIndex(m_object.get());
+    m_object.setHeld(false);
     return true;
 }
 
 void InsertItemStep::undo()
 {
-    take(m_list, m_object.get());
+    m_object.setHeld(take(m_list, m_object.get()) && m_isNew);
 }
 
 TakeItemStep::TakeItemStep(const SharedProperty &list, DesignerObject *object)
     : m_list(list)
-    , m_object(object)
+    , m_object(object, false)
 { }
 
 bool TakeItemStep::isPossible() const
@@ -94,12 +97,13 @@ bool TakeItemStep::redo(QString &error)
         error = m_list->errorString();
         return false;
     }
+    m_object.setHeld(true);
     return true;
 }
 
 void TakeItemStep::undo()
 {
-    insert(m_list, m_object.get(), m_index);
+    m_object.setHeld(!insert(m_list, m_object.get(), m_index));
 }
 
 SwapItemsStep::SwapItemsStep(const SharedProperty &list, DesignerObject *first, DesignerObject *second)

@@ -27,19 +27,23 @@ public:
     virtual void cleanJunkFiles() { }
 };
 
-//! An object in the care of a command: deleted with it, unless it is in a model by then.
+/*! An object that a command works on and that is in its care while it is held: deleted with the command then,
+   unless it is in a model. A stack does a new command before it drops those that were undone, so that an
+   object without an owner may well be in the care of another command. */
 class HeldObject
 {
     Q_DISABLE_COPY_MOVE(HeldObject)
 
 public:
-    explicit HeldObject(DesignerObject *object);
+    HeldObject(DesignerObject *object, bool isHeld);
     ~HeldObject();
 
     DesignerObject *get() const { return m_object; }
+    void setHeld(bool isHeld) { m_isHeld = isHeld; }
 
 private:
     QPointer<DesignerObject> m_object;
+    bool m_isHeld;
 };
 
 class SetValueStep : public EditStep
@@ -71,6 +75,7 @@ public:
 
 private:
     SharedProperty m_list;
+    bool m_isNew; //!< to the model; an object that came from a list goes back there when this is undone
     HeldObject m_object;
     qsizetype m_index;
 };
