@@ -1,25 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "EditReport.h"
 
-#include "corvex/core/DesignerObject.h"
-
 #include "Call.h"
 #include "JsonWriter.h"
+#include "ProjectEditor.h"
+#include "ProjectFile.h"
 #include "Terminal.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
 
-using namespace Designer;
-
 namespace {
-
-QString pathOf(const SharedProperty &property)
-{
-    const DesignerObject *owner = property->parentObject();
-    return owner ? u"%1.%2"_s.arg(owner->objectPath(), property->id()) : property->id();
-}
 
 void printJson(const QList<ProjectEditor::Edit> &edits, bool isSaved, const Call &call)
 {
@@ -33,9 +25,9 @@ void printJson(const QList<ProjectEditor::Edit> &edits, bool isSaved, const Call
         json.member("text"_L1, text);
         json.name("changes"_L1);
         json.beginArray();
-        for (const ValueChange &change : changes) {
+        for (const ProjectEditor::Change &change : changes) {
             json.beginObject();
-            json.member("property"_L1, pathOf(change.property));
+            json.member("property"_L1, change.property);
             json.member("old"_L1, change.before);
             json.member("new"_L1, change.after);
             json.endObject();
@@ -47,22 +39,33 @@ void printJson(const QList<ProjectEditor::Edit> &edits, bool isSaved, const Call
     json.endObject();
 }
 
-} // namespace
-
-void EditReport::print(const QList<ProjectEditor::Edit> &edits, bool isSaved, const Call &call)
+void print(const QList<ProjectEditor::Edit> &edits, const Call &call)
 {
-    if (call.asJson()) {
-        printJson(edits, isSaved, call);
-        return;
-    }
     for (const auto &[text, changes] : edits) {
         call.terminal().print(Terminal::oneLine(text));
-        for (const ValueChange &change : changes) {
+        for (const auto &[property, before, after] : changes) {
             call.terminal().print(u"  "_s
-                                  + Terminal::oneLine(u"%1: %2 -> %3"_s.arg(pathOf(change.property),
-                                                                            change.before, change.after)));
+                                  + Terminal::oneLine(u"%1: %2 -> %3"_s.arg(property, before, after)));
         }
     }
+}
+
+} // namespace
+
+ExitCode EditReport::finish(ProjectEditor &editor, const ProjectFile &file, const Call &call)
+{
+    const QList<ProjectEditor::Edit> edits = editor.edits();
+    const bool isTrial = call.isSet(u"dry-run"_s);
+    const ExitCode code = isTrial || edits.isEmpty() ? ExitCode::Done : file.save(call);
+    if (isTrial || code != ExitCode::Done) {
+        editor.undoAll();
+    }
+    if (call.asJson()) {
+        printJson(edits, !isTrial && code == ExitCode::Done, call);
+    } else if (isTrial) {
+        print(edits, call);
+    }
+    return code;
 }
 
 } // namespace Halvane::Corvex::Tool

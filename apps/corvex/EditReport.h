@@ -1,17 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ProjectEditor.h"
+#include "ExitCode.h"
 
 namespace Halvane::Corvex::Tool {
 
 class Call;
+class ProjectEditor;
+class ProjectFile;
 
-//! Shows edits and all changes of values that came with them, as lines or as JSON.
+//! How a verb ends that has edited a project.
 class EditReport
 {
 public:
-    static void print(const QList<ProjectEditor::Edit> &edits, bool isSaved, const Call &call);
+    /*! Saves the project, or takes all edits back when the call says --dry-run or the project cannot be
+       saved. A trial shows the edits and all changes of values that came with them, as lines or as JSON;
+       otherwise they are shown with --json alone. */
+    static ExitCode finish(ProjectEditor &editor, const ProjectFile &file, const Call &call);
 };
 
 } // namespace Halvane::Corvex::Tool

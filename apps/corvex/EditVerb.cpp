@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/project/Project.h"
-
 #include "Call.h"
 #include "EditReport.h"
 #include "ProjectEditor.h"
@@ -15,8 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
-
-using namespace Designer;
 
 namespace {
 
@@ -58,20 +54,8 @@ ExitCode run(const Call &call, const ProjectFile &file)
             u"The script \"%1\" cannot be read: %2."_s.arg(call.argument(1), script.errorString()));
     }
     ProjectEditor editor(file.project());
-    ExitCode code = edit(editor, script, call);
-    if (code != ExitCode::Done) {
-        return code;
-    }
-    const bool isTrial = call.isSet(u"dry-run"_s);
-    // What a value has been called before shows only before the history goes.
-    if (isTrial || call.asJson()) {
-        EditReport::print(editor.edits(), !isTrial, call);
-    }
-    if (isTrial) {
-        editor.undoAll();
-        return ExitCode::Done;
-    }
-    return editor.edits().isEmpty() ? ExitCode::Done : file.save(call);
+    const ExitCode code = edit(editor, script, call);
+    return code == ExitCode::Done ? EditReport::finish(editor, file, call) : code;
 }
 
 QList<QCommandLineOption> options()

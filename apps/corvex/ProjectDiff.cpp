@@ -2,6 +2,7 @@
 #include "ProjectDiff.h"
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/project/Screen.h"
 
 #include <algorithm>
 
@@ -27,6 +28,21 @@ QString contentsOf(const DesignerObject *object)
     const QString id = object->idProperty()->valueString();
     const qsizetype place = text.indexOf(id);
     return place < 0 ? text : text.remove(place, id.size());
+}
+
+//! What tells an object from all others on its screen, and the name of the screen.
+QStringList keyOnScreen(const DesignerObject *object)
+{
+    const DesignerObject *screen = object->screen();
+    return {object->className(), object->getIdName(), screen ? screen->getIdName() : QString()};
+}
+
+bool isWithin(const DesignerObject *object, const QSet<const DesignerObject *> &some)
+{
+    while (object && !some.contains(object)) {
+        object = object->ownerObject();
+    }
+    return object;
 }
 
 //! Which of the numbers stand in a longest ascending row of them.
@@ -57,13 +73,17 @@ QList<bool> ascending(const QList<qsizetype> &numbers)
 ProjectDiff::ProjectDiff(const DesignerObject &before, const DesignerObject &after)
 {
     compareObjects(before, after);
-    matchMoved();
-    matchRenamed();
+    // What is in an object that was moved may itself have been renamed, or moved out of it.
+    while (matchRenamed() || matchMoved(Within::Screen) || matchMoved(Within::Project)) { }
     for (const Loose &gone : std::as_const(m_gone)) {
-        add(Removed, *gone.object);
+        if (!gone.isNested) {
+            add(Removed, *gone.object);
+        }
     }
     for (const Loose &added : std::as_const(m_new)) {
-        add(Added, *added.object);
+        if (!added.isNested) {
+            add(Added, *added.object);
+        }
     }
 }
 
@@ -89,9 +109,7 @@ void ProjectDiff::compareObjects(const DesignerObject &before, const DesignerObj
             compareLists(*property, *other);
         } else if (const DesignerObject *child = property->objectValue(); child && other->objectValue()) {
             compareObjects(*child, *other->objectValue());
-        } else if (property->hasFlag(StoredFlag) && property->valueString() != other->valueString()
-                   && !(property == before.idProperty() && before.ownerObject()
-                        && before.getIdName() != after.getIdName() && property->isList())) {
+        } else if (property->hasFlag(StoredFlag) && property->valueString() != other->valueString()) {
             m_differences.append({Changed, pathOf(*property), before.className(), property->valueString(),
                                   other->valueString()});
         }
@@ -108,7 +126,7 @@ void ProjectDiff::compareLists(const DesignerProperty &before, const DesignerPro
             keptBefore.append(item);
             compareObjects(*item, *other);
         } else {
-            m_gone.append({item, pathOf(before)});
+            addLoose(m_gone, item, pathOf(before), false);
         }
     }
     for (const DesignerObject *item : after.listItems()) {
@@ -116,7 +134,7 @@ void ProjectDiff::compareLists(const DesignerProperty &before, const DesignerPro
         if (other && other->className() == item->className()) {
             keptAfter.append(item);
         } else {
-            m_new.append({item, pathOf(after)});
+            addLoose(m_new, item, pathOf(after), false);
         }
     }
     compareOrder(keptBefore, keptAfter);
@@ -142,46 +160,84 @@ void ProjectDiff::compareOrder(const QList<const DesignerObject *> &before,
     }
 }
 
-void ProjectDiff::matchMoved()
+//! With all that the object holds, which may have come from elsewhere or gone there.
+void ProjectDiff::addLoose(QList<Loose> &to, const DesignerObject *object, const QString &place,
+                           bool isNested)
 {
-    QHash<QPair<QString, QString>, const DesignerObject *> byName;
-    QHash<const DesignerObject *, QString> places;
-    for (const Loose &added : std::as_const(m_new)) {
-        byName.insert({added.object->className(), added.object->getIdName()}, added.object);
-        places.insert(added.object, added.place);
-    }
-    QSet<const DesignerObject *> matched;
-    const QList<Loose> gone = std::exchange(m_gone, {});
-    for (const Loose &loose : gone) {
-        const DesignerObject *other = byName.take({loose.object->className(), loose.object->getIdName()});
-        if (!other) {
-            m_gone.append(loose);
-            continue;
+    to.append({object, place, isNested});
+    for (const SharedProperty &property : object->properties()) {
+        if (property->isList()) {
+            for (const DesignerObject *item : property->listItems()) {
+                addLoose(to, item, pathOf(*property), true);
+            }
         }
-        matched.insert(other);
-        add(Moved, *loose.object, loose.place, places.value(other));
-        compareObjects(*loose.object, *other);
     }
-    m_new.removeIf([&matched](const Loose &added) { return matched.contains(added.object); });
 }
 
-void ProjectDiff::matchRenamed()
+//! What has found its other side, and all in it, is no longer loose.
+bool ProjectDiff::settle(const QSet<const DesignerObject *> &matched)
 {
-    QMultiHash<QPair<QString, QString>, const DesignerObject *> byContents;
+    const auto isSettled = [&matched](const Loose &loose) { return isWithin(loose.object, matched); };
+    m_gone.removeIf(isSettled);
+    m_new.removeIf(isSettled);
+    return !matched.isEmpty();
+}
+
+bool ProjectDiff::matchMoved(Within within)
+{
+    const auto keyOf = [within](const DesignerObject *object) {
+        return within == Within::Screen ? keyOnScreen(object) : keyOnScreen(object).sliced(0, 2);
+    };
+    const auto isMeant = [within](const Loose &loose) { return within == Within::Screen || !loose.isNested; };
+    QHash<QStringList, const Loose *> byName;
     for (const Loose &added : std::as_const(m_new)) {
-        byContents.insert({added.place, contentsOf(added.object)}, added.object);
+        if (isMeant(added)) {
+            byName.insert(keyOf(added.object), &added);
+        }
     }
     QSet<const DesignerObject *> matched;
-    m_gone.removeIf([&](const Loose &loose) {
-        const DesignerObject *other =
-            byContents.isEmpty() ? nullptr : byContents.take({loose.place, contentsOf(loose.object)});
+    QList<QPair<const DesignerObject *, const DesignerObject *>> pairs;
+    for (const Loose &loose : std::as_const(m_gone)) {
+        const bool isOpen = isMeant(loose) && !isWithin(loose.object, matched);
+        const Loose *other = isOpen ? byName.take(keyOf(loose.object)) : nullptr;
         if (other) {
-            matched.insert(other);
+            matched += {loose.object, other->object};
+            pairs.emplaceBack(loose.object, other->object);
+            add(Moved, *loose.object, loose.place, other->place);
+        }
+    }
+    settle(matched);
+    for (const auto &[before, after] : std::as_const(pairs)) {
+        compareObjects(*before, *after);
+    }
+    return !pairs.isEmpty();
+}
+
+bool ProjectDiff::matchRenamed()
+{
+    QSet<QStringList> oldNames;
+    QSet<QStringList> newNames;
+    for (const Loose &gone : std::as_const(m_gone)) {
+        oldNames.insert(keyOnScreen(gone.object));
+    }
+    QMultiHash<QPair<QString, QString>, const DesignerObject *> byContents;
+    for (const Loose &added : std::as_const(m_new)) {
+        newNames.insert(keyOnScreen(added.object));
+        if (!added.isNested && !oldNames.contains(keyOnScreen(added.object))) {
+            byContents.insert({added.place, contentsOf(added.object)}, added.object);
+        }
+    }
+    QSet<const DesignerObject *> matched;
+    for (const Loose &loose : std::as_const(m_gone)) {
+        if (byContents.isEmpty() || loose.isNested || newNames.contains(keyOnScreen(loose.object))) {
+            continue;
+        }
+        if (const DesignerObject *other = byContents.take({loose.place, contentsOf(loose.object)})) {
+            matched += {loose.object, other};
             add(Renamed, *loose.object, loose.object->getIdName(), other->getIdName());
         }
-        return other;
-    });
-    m_new.removeIf([&matched](const Loose &added) { return matched.contains(added.object); });
+    }
+    return settle(matched);
 }
 
 } // namespace Halvane::Corvex::Tool

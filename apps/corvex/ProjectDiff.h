@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QHash>
 #include <QList>
+#include <QSet>
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
@@ -13,9 +13,12 @@ class DesignerProperty;
 namespace Halvane::Corvex::Tool {
 
 /*! What became of one project in another: objects that came, went, were renamed or moved, and values that
-    changed. An object is the same when it has the same name and class in the same list; what is gone from one
-    list and new in another under its name was moved; what is gone and what is new in one list were renamed
-   when nothing but the name tells them apart. */
+   changed.
+
+    An object is the same when it has the same name and class in the same list. What is gone from one list and
+   new in another under its name was moved, into a new group for example. What is gone and what is new in one
+   list were renamed when nothing but the name tells them apart. Of an object that came or went, what is in it
+   is not told, unless it was moved. */
 class ProjectDiff
 {
 public:
@@ -36,18 +39,24 @@ public:
     static QString nameOf(Kind kind);
 
 private:
+    enum class Within { Screen, Project };
     struct Loose
     {
         const Designer::DesignerObject *object;
         QString place; //!< the path of its list
+        bool isNested; //!< in another one that is loose
     };
 
     void compareObjects(const Designer::DesignerObject &before, const Designer::DesignerObject &after);
     void compareLists(const Designer::DesignerProperty &before, const Designer::DesignerProperty &after);
     void compareOrder(const QList<const Designer::DesignerObject *> &before,
                       const QList<const Designer::DesignerObject *> &after);
-    void matchMoved();
-    void matchRenamed();
+    static void addLoose(QList<Loose> &to, const Designer::DesignerObject *object, const QString &place,
+                         bool isNested);
+    // Both tell whether they have found anything.
+    bool matchMoved(Within within);
+    bool matchRenamed();
+    bool settle(const QSet<const Designer::DesignerObject *> &matched);
     void add(Kind kind, const Designer::DesignerObject &object, const QString &before = {},
              const QString &after = {});
 

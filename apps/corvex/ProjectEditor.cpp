@@ -38,6 +38,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
@@ -62,6 +64,12 @@ QString withName(const DesignerObject *object, const QString &name)
     IdentifierInfo info = object->getIdInfo();
     info.setName(name);
     return info.toString();
+}
+
+QString pathOf(const SharedProperty &property)
+{
+    const DesignerObject *owner = property->parentObject();
+    return owner ? u"%1.%2"_s.arg(owner->objectPath(), property->id()) : property->id();
 }
 
 //! How closely the list describes such an item; -1 when it does not take it.
@@ -199,13 +207,19 @@ bool ProjectEditor::push(ModelCommand *command)
         m_project.undoStack()->undo();
         return fail(reason.isEmpty() ? u"The project does not take this."_s : reason);
     }
-    m_edits.append({command->text(), command->valueChanges()});
+    Edit edit{command->text(), {}};
+    for (const ValueChange &change : command->valueChanges()) {
+        edit.changes.append({pathOf(change.property), change.before, change.after});
+    }
+    std::ranges::stable_sort(edit.changes, {}, &Change::property);
+    m_edits.append(edit);
     return true;
 }
 
 void ProjectEditor::undoAll()
 {
     m_project.undoStack()->setIndex(0);
+    m_project.createUndoStack();
 }
 
 DesignerObject *ProjectEditor::object(const QString &path)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/editing/commands/ModelCommand.h"
+#include "corvex/core/DesignerProperty.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,6 +9,7 @@
 #include <memory>
 
 namespace Halvane::Corvex::Designer {
+class ModelCommand;
 class Project;
 class Screen;
 } // namespace Halvane::Corvex::Designer
@@ -22,11 +23,18 @@ namespace Halvane::Corvex::Tool {
 class ProjectEditor
 {
 public:
+    //! A value that an edit changed.
+    struct Change
+    {
+        QString property; //!< its path
+        QString before;
+        QString after;
+    };
     //! One edit that was made.
     struct Edit
     {
-        QString text; //!< what the history calls it
-        QList<Designer::ValueChange> changes;
+        QString text;          //!< what the history calls it
+        QList<Change> changes; //!< in the order of their paths
     };
 
     explicit ProjectEditor(Designer::Project &project)
@@ -39,7 +47,7 @@ public:
     const QList<Edit> &edits() const { return m_edits; }
     //! What "print" lines have shown since the last call.
     QStringList takeOutput() { return std::exchange(m_output, {}); }
-    //! Takes all edits back.
+    //! Takes all edits back for good, with the files that came with them.
     void undoAll();
 
     //! The words of a line; false when a quote is not closed.

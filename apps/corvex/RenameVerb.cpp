@@ -33,15 +33,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     if (!editor.run(line, error)) {
         return call.failed(error, ExitCode::Problems);
     }
-    const bool isTrial = call.isSet(u"dry-run"_s);
-    if (isTrial || call.asJson()) {
-        EditReport::print(editor.edits(), !isTrial, call);
-    }
-    if (isTrial) {
-        editor.undoAll();
-        return ExitCode::Done;
-    }
-    return editor.edits().isEmpty() ? ExitCode::Done : file.save(call);
+    return EditReport::finish(editor, file, call);
 }
 
 QList<QCommandLineOption> options()

@@ -82,11 +82,14 @@ delete Main.title Main.box3 boxes Other rate two.png
     EXPECT_EQ(tree(u"Main.tank.position"_s), u"x: 10; y: 20;"_s);
     EXPECT_EQ(sandbox.run({u"fmt"_s, pump, u"--check"_s}).code, 0);
 
+    // Back to a project without images.
     sandbox.write(pump, before);
+    QDir(sandbox.path(u"Pump/Images"_s)).removeRecursively();
     QByteArray twice = script;
     twice.replace(" boxes Other", " Main.boxes Other");
     EXPECT_EQ(edit(twice + "undo 25\n").error, QString());
     EXPECT_EQ(sandbox.read(pump), before);
+    EXPECT_EQ(sandbox.files(u"Pump"_s), QStringList{u"Pump.kdproj"_s});
 }
 
 TEST_F(EditVerb, oneBadLineAndNothingIsDone)
@@ -154,7 +157,13 @@ TEST_F(EditVerb, renameAndDiff)
                   .error,
               QString());
     const ProgramRun diff = sandbox.run({u"diff"_s, old, pump});
-    EXPECT_EQ(diff.out, u"moved Main.box1: Main.elements -> Main.pair.elements\n"
-                        "changed box1.position: x: 10; y: 20; -> x: 10; y: 20;\n"_s);
+    EXPECT_EQ(diff.out, uR"(renamed Main.photo: photo -> picture
+moved Main.box1: Main.elements -> Main.pair.elements
+moved Main.title: Main.elements -> Main.pair.elements
+changed Main.title.text:  -> new
+removed Rectangle Main.box2
+added GroupElement Main.pair
+added Text Main.note
+)"_s);
     EXPECT_EQ(diff.code, 1);
 }
