@@ -165,8 +165,8 @@ TEST(GeneralDataInfo, valuesOfConstants)
          {u"red"_s, u"#FF0000"_s, u"80FF00000"_s, u"#GGFF0000"_s}},
         {Info::HexData, {u"0"_s, u"beef"_s, u"ABC"_s}, {u""_s, u"0x1"_s, u"G"_s}},
         {Info::ReferenceData,
-         {u"label1"_s, u"group1.label1.id"_s},
-         {u""_s, u"a..b"_s, u"a b"_s, u".a"_s, u"a.1b"_s}},
+         {u"label1"_s, u"group1.label1.id"_s, u"null"_s},
+         {u""_s, u"a..b"_s, u"a b"_s, u".a"_s, u"a.1b"_s, u"1b"_s, u"new"_s, u"null.a"_s}},
         {Info::CommandData, {u"00ff"_s}, {u""_s, u"0"_s, u"0G"_s}},
     };
     for (const Case &c : cases) {

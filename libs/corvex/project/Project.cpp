@@ -138,6 +138,10 @@ bool Project::storesProperty(const DesignerProperty &property) const
     if (property.isList() && property.listItemCount() == 0 && !property.itemList()->hasKeptItems()) {
         return false;
     }
+    // An empty build tag in a file asks for a new one, see readEmptyValue(); a project without any stays so.
+    if (&property == m_version.data() && property.valueString().isEmpty()) {
+        return false;
+    }
     return FileObject::storesProperty(property);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/values/ExpressionRules.h"
 
+#include "corvex/common/TextHelper.h"
 #include "corvex/values/ExpressionVocabulary.h"
 #include "corvex/values/ObjectPath.h"
 
@@ -106,6 +107,14 @@ bool isNumber(QStringView text)
     return simple && fits;
 }
 
+//! A constant reference stands in code as it is, without the prefix that lets paths begin as they like.
+bool isReference(QStringView path)
+{
+    const QStringView first = ObjectPath::firstSegment(path);
+    return ObjectPath::isValid(path) && !first[0].isDigit()
+           && (path == "null"_L1 || !Common::TextHelper::isReservedWord(first.toString()));
+}
+
 } // namespace
 
 bool ExpressionRules::isHexadecimal(QStringView digits)
@@ -145,7 +154,7 @@ bool ExpressionRules::isConstant(Info::DataType type, const QString &value)
     case Info::HexData:
         return !value.isEmpty() && isHexadecimal(value);
     case Info::ReferenceData:
-        return ObjectPath::isValid(value);
+        return isReference(value);
     case Info::CommandData:
         return !value.isEmpty() && value.size() % 2 == 0 && isHexadecimal(value);
     case Info::OperatorData:
