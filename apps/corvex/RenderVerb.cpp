@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/common/SafeFile.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/editing/graphics/CanvasScene.h"
 #include "corvex/project/Element.h"
@@ -13,7 +14,6 @@
 #include "Verb.h"
 
 #include <QImage>
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
@@ -41,10 +41,14 @@ QString screenName(const Call &call, const Project &project)
 
 bool save(const QImage &picture, const QString &path, QString &error)
 {
-    QSaveFile file(path);
-    const bool saved = file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit();
-    error = saved ? QString() : u"\"%1\" cannot be written: %2"_s.arg(path, file.errorString());
-    return saved;
+    Common::SafeFile file(path);
+    if (!file.openForWriting(&error)) {
+        return false;
+    }
+    if (!picture.save(&file, "PNG")) {
+        file.cancelWriting();
+    }
+    return file.commit(&error);
 }
 
 void report(const QString &path, const Screen &screen, const QImage &picture, const Call &call)

@@ -126,9 +126,10 @@ bool DesignerObject::saveToFile(const DesignerObject *object, const QString &pat
         problem = u"\"%1\" holds no object; nothing is written."_s.arg(problem);
     } else if (Common::SafeFile file(path); file.openForWriting(&problem)) {
         ObjectXmlWriter writer(&file, ObjectXmlWriter::LineEnd::Windows);
-        const bool isWritten = writer.write(object);
-        // What was not taken in full is not committed, and the file knows best why.
-        done = file.commit(&problem) && isWritten;
+        if (!writer.write(object)) {
+            file.cancelWriting();
+        }
+        done = file.commit(&problem); // the file knows best why it did not take all
     }
     if (error) {
         *error = problem;
