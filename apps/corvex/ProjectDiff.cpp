@@ -30,11 +30,12 @@ QString contentsOf(const DesignerObject *object)
     return place < 0 ? text : text.remove(place, id.size());
 }
 
-//! What tells an object from all others on its screen, and the name of the screen.
-QStringList keyOnScreen(const DesignerObject *object)
+QString screenOf(const DesignerObject *object)
 {
-    const DesignerObject *screen = object->screen();
-    return {object->className(), object->getIdName(), screen ? screen->getIdName() : QString()};
+    while (object && !kindCast<Screen>(object)) {
+        object = object->ownerObject();
+    }
+    return object ? object->getIdName() : QString();
 }
 
 bool isWithin(const DesignerObject *object, const QSet<const DesignerObject *> &some)
@@ -43,6 +44,31 @@ bool isWithin(const DesignerObject *object, const QSet<const DesignerObject *> &
         object = object->ownerObject();
     }
     return object;
+}
+
+using Holders = QHash<QStringList, QList<const DesignerObject *>>;
+
+//! The one with at least half of the members that tell holders apart: those that few have.
+const DesignerObject *mostAlike(const QList<QStringList> &members, const Holders &holders,
+                                const QSet<const DesignerObject *> &taken)
+{
+    constexpr qsizetype few = 8;
+    QHash<const DesignerObject *, qsizetype> shared;
+    const DesignerObject *best = nullptr;
+    qsizetype telling = 0;
+    for (const QStringList &member : members) {
+        const QList<const DesignerObject *> known = holders.value(member);
+        if (known.size() > few) {
+            continue;
+        }
+        ++telling;
+        for (const DesignerObject *holder : known) {
+            if (!taken.contains(holder) && ++shared[holder] > shared.value(best)) {
+                best = holder;
+            }
+        }
+    }
+    return 2 * shared.value(best) >= telling ? best : nullptr;
 }
 
 //! Which of the numbers stand in a longest ascending row of them.
@@ -74,7 +100,7 @@ ProjectDiff::ProjectDiff(const DesignerObject &before, const DesignerObject &aft
 {
     compareObjects(before, after);
     // What is in an object that was moved may itself have been renamed, or moved out of it.
-    while (matchRenamed() || matchMoved(Within::Screen) || matchMoved(Within::Project)) { }
+    while (matchRenamed() || matchAlike() || matchMoved(Within::Screen) || matchMoved(Within::Project)) { }
     for (const Loose &gone : std::as_const(m_gone)) {
         if (!gone.isNested) {
             add(Removed, *gone.object);
@@ -109,7 +135,8 @@ void ProjectDiff::compareObjects(const DesignerObject &before, const DesignerObj
             compareLists(*property, *other);
         } else if (const DesignerObject *child = property->objectValue(); child && other->objectValue()) {
             compareObjects(*child, *other->objectValue());
-        } else if (property->hasFlag(StoredFlag) && property->valueString() != other->valueString()) {
+        } else if (property->hasFlag(StoredFlag) && property->valueString() != other->valueString()
+                   && (property != before.idProperty() || !before.ownerObject())) {
             m_differences.append({Changed, pathOf(*property), before.className(), property->valueString(),
                                   other->valueString()});
         }
@@ -126,7 +153,7 @@ void ProjectDiff::compareLists(const DesignerProperty &before, const DesignerPro
             keptBefore.append(item);
             compareObjects(*item, *other);
         } else {
-            addLoose(m_gone, item, pathOf(before), false);
+            addLoose(m_gone, item, before, false);
         }
     }
     for (const DesignerObject *item : after.listItems()) {
@@ -134,7 +161,7 @@ void ProjectDiff::compareLists(const DesignerProperty &before, const DesignerPro
         if (other && other->className() == item->className()) {
             keptAfter.append(item);
         } else {
-            addLoose(m_new, item, pathOf(after), false);
+            addLoose(m_new, item, before, false);
         }
     }
     compareOrder(keptBefore, keptAfter);
@@ -160,18 +187,34 @@ void ProjectDiff::compareOrder(const QList<const DesignerObject *> &before,
     }
 }
 
-//! With all that the object holds, which may have come from elsewhere or gone there.
-void ProjectDiff::addLoose(QList<Loose> &to, const DesignerObject *object, const QString &place,
+/*! With all that the object holds, which may have come from elsewhere or gone there. \a list is that of the
+   old project also for what is new in it: the owner may have another name now. */
+void ProjectDiff::addLoose(QList<Loose> &to, const DesignerObject *object, const DesignerProperty &list,
                            bool isNested)
 {
-    to.append({object, place, isNested});
+    to.append({object,
+               pathOf(list),
+               {object->className(), object->getIdName(), screenOf(list.parentObject())},
+               isNested});
     for (const SharedProperty &property : object->properties()) {
         if (property->isList()) {
             for (const DesignerObject *item : property->listItems()) {
-                addLoose(to, item, pathOf(*property), true);
+                addLoose(to, item, kindCast<Screen>(object) ? *property : list, true);
             }
         }
     }
+}
+
+//! All that is in an object, each with what it must have in common with that in another.
+QList<QStringList> ProjectDiff::memberKeys(const Loose &loose)
+{
+    QList<QStringList> keys;
+    QList<Loose> members;
+    addLoose(members, loose.object, *loose.object->listProperty(), true);
+    for (const Loose &member : members.sliced(1)) {
+        keys.append({loose.place, loose.object->className(), member.key.at(0), member.key.at(1)});
+    }
+    return keys;
 }
 
 //! What has found its other side, and all in it, is no longer loose.
@@ -185,25 +228,26 @@ bool ProjectDiff::settle(const QSet<const DesignerObject *> &matched)
 
 bool ProjectDiff::matchMoved(Within within)
 {
-    const auto keyOf = [within](const DesignerObject *object) {
-        return within == Within::Screen ? keyOnScreen(object) : keyOnScreen(object).sliced(0, 2);
+    const auto keyOf = [within](const Loose &loose) {
+        return within == Within::Screen ? loose.key : loose.key.sliced(0, 2);
     };
     const auto isMeant = [within](const Loose &loose) { return within == Within::Screen || !loose.isNested; };
     QHash<QStringList, const Loose *> byName;
     for (const Loose &added : std::as_const(m_new)) {
         if (isMeant(added)) {
-            byName.insert(keyOf(added.object), &added);
+            byName.insert(keyOf(added), &added);
         }
     }
     QSet<const DesignerObject *> matched;
     QList<QPair<const DesignerObject *, const DesignerObject *>> pairs;
     for (const Loose &loose : std::as_const(m_gone)) {
         const bool isOpen = isMeant(loose) && !isWithin(loose.object, matched);
-        const Loose *other = isOpen ? byName.take(keyOf(loose.object)) : nullptr;
+        const Loose *other = isOpen ? byName.take(keyOf(loose)) : nullptr;
         if (other) {
             matched += {loose.object, other->object};
             pairs.emplaceBack(loose.object, other->object);
-            add(Moved, *loose.object, loose.place, other->place);
+            add(Moved, *loose.object, pathOf(*loose.object->listProperty()),
+                pathOf(*other->object->listProperty()));
         }
     }
     settle(matched);
@@ -218,18 +262,18 @@ bool ProjectDiff::matchRenamed()
     QSet<QStringList> oldNames;
     QSet<QStringList> newNames;
     for (const Loose &gone : std::as_const(m_gone)) {
-        oldNames.insert(keyOnScreen(gone.object));
+        oldNames.insert(gone.key);
     }
     QMultiHash<QPair<QString, QString>, const DesignerObject *> byContents;
     for (const Loose &added : std::as_const(m_new)) {
-        newNames.insert(keyOnScreen(added.object));
-        if (!added.isNested && !oldNames.contains(keyOnScreen(added.object))) {
+        newNames.insert(added.key);
+        if (!added.isNested && !oldNames.contains(added.key)) {
             byContents.insert({added.place, contentsOf(added.object)}, added.object);
         }
     }
     QSet<const DesignerObject *> matched;
     for (const Loose &loose : std::as_const(m_gone)) {
-        if (byContents.isEmpty() || loose.isNested || newNames.contains(keyOnScreen(loose.object))) {
+        if (byContents.isEmpty() || loose.isNested || newNames.contains(loose.key)) {
             continue;
         }
         if (const DesignerObject *other = byContents.take({loose.place, contentsOf(loose.object)})) {
@@ -238,6 +282,35 @@ bool ProjectDiff::matchRenamed()
         }
     }
     return settle(matched);
+}
+
+//! Screens and groups that have another name and have changed, too: most of what is in them is the same.
+bool ProjectDiff::matchAlike()
+{
+    Holders byMember;
+    for (const Loose &added : std::as_const(m_new)) {
+        if (!added.isNested) {
+            for (const QStringList &key : memberKeys(added)) {
+                byMember[key].append(added.object);
+            }
+        }
+    }
+    QSet<const DesignerObject *> matched;
+    QList<QPair<const DesignerObject *, const DesignerObject *>> pairs;
+    for (const Loose &gone : std::as_const(m_gone)) {
+        const DesignerObject *other =
+            gone.isNested ? nullptr : mostAlike(memberKeys(gone), byMember, matched);
+        if (other) {
+            matched += {gone.object, other};
+            pairs.emplaceBack(gone.object, other);
+            add(Renamed, *gone.object, gone.object->getIdName(), other->getIdName());
+        }
+    }
+    settle(matched);
+    for (const auto &[before, after] : std::as_const(pairs)) {
+        compareObjects(*before, *after);
+    }
+    return !pairs.isEmpty();
 }
 
 } // namespace Halvane::Corvex::Tool

@@ -17,8 +17,8 @@ namespace Halvane::Corvex::Tool {
 
     An object is the same when it has the same name and class in the same list. What is gone from one list and
    new in another under its name was moved, into a new group for example. What is gone and what is new in one
-   list were renamed when nothing but the name tells them apart. Of an object that came or went, what is in it
-   is not told, unless it was moved. */
+   list were renamed when nothing but the name tells them apart, or when half of what they hold is the same.
+   Of an object that came or went, what is in it is not told, unless it was moved. */
 class ProjectDiff
 {
 public:
@@ -43,19 +43,22 @@ private:
     struct Loose
     {
         const Designer::DesignerObject *object;
-        QString place; //!< the path of its list
-        bool isNested; //!< in another one that is loose
+        QString place;   //!< the path of its list, or of the list of that in which it is nested
+        QStringList key; //!< its class, its name and its screen
+        bool isNested;   //!< in another one that is loose
     };
 
     void compareObjects(const Designer::DesignerObject &before, const Designer::DesignerObject &after);
     void compareLists(const Designer::DesignerProperty &before, const Designer::DesignerProperty &after);
     void compareOrder(const QList<const Designer::DesignerObject *> &before,
                       const QList<const Designer::DesignerObject *> &after);
-    static void addLoose(QList<Loose> &to, const Designer::DesignerObject *object, const QString &place,
-                         bool isNested);
-    // Both tell whether they have found anything.
+    static void addLoose(QList<Loose> &to, const Designer::DesignerObject *object,
+                         const Designer::DesignerProperty &list, bool isNested);
+    // All tell whether they have found anything.
     bool matchMoved(Within within);
     bool matchRenamed();
+    bool matchAlike();
+    static QList<QStringList> memberKeys(const Loose &loose);
     bool settle(const QSet<const Designer::DesignerObject *> &matched);
     void add(Kind kind, const Designer::DesignerObject &object, const QString &before = {},
              const QString &after = {});

@@ -166,4 +166,19 @@ added GroupElement Main.pair
 added Text Main.note
 )"_s);
     EXPECT_EQ(diff.code, 1);
+    sandbox.write(old, sandbox.read(pump));
+    EXPECT_EQ(edit("rename Main First\nrename First.pair couple\nset First.couple.title.text old\n"
+                   "group trio First.note First.press\n")
+                  .error,
+              QString());
+    EXPECT_EQ(
+        sandbox.run({u"diff"_s, old, pump}).out,
+        uR"(changed defaultScreen: filterType: Screen; objectId: Main; scopeType: Project; -> filterType: Screen; objectId: First; scopeType: Project;
+renamed Main: Main -> First
+renamed Main.pair: pair -> couple
+changed Main.pair.title.text: new -> old
+moved Main.press: Main.elements -> First.trio.elements
+moved Main.note: Main.elements -> First.trio.elements
+added GroupElement First.trio
+)"_s);
 }
