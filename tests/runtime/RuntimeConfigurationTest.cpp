@@ -246,6 +246,8 @@ TEST_F(RuntimeConfigurationTest, BACnetDevicesAndObjects)
 TEST_F(RuntimeConfigurationTest, WritesThreeFilesOrTellsWhyNot)
 {
     addVariable(u"NumberVariable"_s, u"level"_s, {{u"value"_s, u"62.5"_s}});
+    addVariable(u"StringVariable"_s, u"level10"_s, {{u"value"_s, u"x"_s}});
+    addVariable(u"NumberVariable"_s, u"level9"_s, {{u"value"_s, u"y"_s}});
     QTemporaryDir folder;
     QString error;
     ASSERT_TRUE(collected().write(folder.path(), &error)) << qPrintable(error);
@@ -257,6 +259,10 @@ TEST_F(RuntimeConfigurationTest, WritesThreeFilesOrTellsWhyNot)
         EXPECT_EQ(Common::FileHelper::fileToVariant(folder.filePath(name), &ok), QVariant(map));
         EXPECT_TRUE(ok) << qPrintable(name);
     }
+    // The variables are written one by one.
+    const QString whole = folder.filePath(u"whole"_s);
+    ASSERT_TRUE(Common::FileHelper::variantToFile(configuration.configMap(), whole, false));
+    EXPECT_EQ(Common::FileHelper::md5(folder.filePath(u"config.kdrc"_s)), Common::FileHelper::md5(whole));
     EXPECT_FALSE(configuration.write(folder.filePath(u"missing"_s), &error));
     EXPECT_TRUE(error.contains(u"canConfig.kdrc"_s)) << qPrintable(error);
 }

@@ -221,6 +221,45 @@ bool write(const QVariant &value, QByteArray &bytes)
     return stream.status() == QDataStream::Ok;
 }
 
+MapWriter::MapWriter(QByteArray *bytes, qsizetype count)
+    : m_stream(bytes, QIODevice::WriteOnly)
+{
+    setForm(m_stream);
+    writeMapStart(count);
+}
+
+void MapWriter::writeMapStart(qsizetype count)
+{
+    m_stream << quint32(Map) << qint8(0) << quint32(count);
+}
+
+void MapWriter::beginMap(const QString &key, qsizetype count)
+{
+    m_stream << key;
+    writeMapStart(count);
+}
+
+void MapWriter::add(const QString &key, const QVariant &value)
+{
+    m_isGood = m_isGood && canHold(value);
+    if (m_isGood)
+        m_stream << key << value;
+}
+
+void MapWriter::addEncoded(const QByteArray &entries)
+{
+    m_stream.writeRawData(entries.constData(), int(entries.size()));
+}
+
+QByteArray MapWriter::encoded(const QString &key, const QVariant &value)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    setForm(stream);
+    stream << key << value;
+    return bytes;
+}
+
 QVariant read(const QByteArray &bytes, qint64 mostBytes, bool &ok)
 {
     if (isCompressed(bytes)) {

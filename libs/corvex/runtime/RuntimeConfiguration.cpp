@@ -4,6 +4,7 @@
 #include "corvex/common/FileHelper.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/PasswordHash.h"
+#include "corvex/common/VariantStream.h"
 #include "corvex/values/ObjectLinkInfo.h"
 #include "corvex/variables/AutoSettingVariable.h"
 #include "corvex/variables/BACnetDevice.h"
@@ -13,7 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
+using Common::VariantStream::MapWriter;
+
 namespace {
+
+const QString variablesKey = u"variables"_s;
+const QString persistentKey = u"persistent"_s;
+const QString typeKey = u"type"_s;
+const QString valueKey = u"value"_s;
 
 QString valueOf(const DesignerObject *object, QStringView property)
 {
@@ -44,12 +52,23 @@ bool RuntimeConfiguration::collect(const DesignerObject &project, QString *error
             }
         }
     }
-    m_config = {{u"defaultScreen"_s, defaultScreen(project)},
-                {u"version"_s, valueOf(&project, u"version")},
-                {u"comControlPassword"_s, QString()},
-                {u"reintializePassword"_s, QString()},
-                {u"variables"_s, m_variables}};
+    sortVariables();
+    m_settings = {{u"defaultScreen"_s, defaultScreen(project)},
+                  {u"version"_s, valueOf(&project, u"version")},
+                  {u"comControlPassword"_s, QString()},
+                  {u"reintializePassword"_s, QString()}};
     return addPasswords(project, error);
+}
+
+//! As a map has them: of several with one key, which a project with problems may hold, the last.
+void RuntimeConfiguration::sortVariables()
+{
+    std::ranges::stable_sort(m_variables, {}, &Variable::key);
+    const auto hasHeir = [](const Variable &variable, const Variable &next) {
+        return variable.key == next.key;
+    };
+    const auto kept = std::unique(m_variables.rbegin(), m_variables.rend(), hasHeir).base();
+    m_variables.erase(m_variables.begin(), kept);
 }
 
 void RuntimeConfiguration::addVariable(const ProjectVariable &variable)
@@ -71,12 +90,20 @@ void RuntimeConfiguration::addVariable(const ProjectVariable &variable)
 
 void RuntimeConfiguration::addRecord(const QString &key, const ProjectVariable &variable)
 {
-    static const QString persistent = u"persistent"_s;
-    static const QString type = u"type"_s;
-    static const QString value = u"value"_s;
-    m_variables.insert(key, QVariantMap{{persistent, variable.persistent()->valueString() == "true"_L1},
-                                        {type, int(variable.variableType())},
-                                        {value, variable.toVariant()}});
+    m_variables.push_back({key, variable.persistent()->valueString() == "true"_L1,
+                           int(variable.variableType()), variable.toVariant()});
+}
+
+QVariantMap RuntimeConfiguration::configMap() const
+{
+    QVariantMap variables;
+    for (const auto &[key, isPersistent, type, value] : m_variables) {
+        const QVariantMap record{{persistentKey, isPersistent}, {typeKey, type}, {valueKey, value}};
+        variables.insert(key, record);
+    }
+    QVariantMap config = m_settings;
+    config.insert(variablesKey, variables);
+    return config;
 }
 
 bool RuntimeConfiguration::addPasswords(const DesignerObject &project, QString *error)
@@ -104,21 +131,56 @@ bool RuntimeConfiguration::addPasswords(const DesignerObject &project, QString *
                 return false;
             }
         }
-        m_config.insert(name, hash);
+        m_settings.insert(name, hash);
     }
     return true;
 }
 
+void RuntimeConfiguration::writeVariables(MapWriter &writer) const
+{
+    writer.beginMap(variablesKey, qsizetype(m_variables.size()));
+    QHash<int, QByteArray> starts[2];
+    for (const auto &[name, isPersistent, type, value] : m_variables) {
+        QByteArray &start = starts[isPersistent][type];
+        if (start.isEmpty()) {
+            start = MapWriter::encoded(persistentKey, isPersistent) + MapWriter::encoded(typeKey, type);
+        }
+        writer.beginMap(name, 3);
+        writer.addEncoded(start);
+        writer.add(valueKey, value);
+    }
+}
+
+//! The bytes that variantToFile() makes of configMap().
+bool RuntimeConfiguration::writeConfig(const QString &path, QString *error) const
+{
+    constexpr qsizetype usualRecordSize = 160;
+    QVariantMap config = m_settings;
+    config.insert(variablesKey, QVariant());
+    QByteArray bytes;
+    bytes.reserve(qsizetype(m_variables.size()) * usualRecordSize);
+    MapWriter writer(&bytes, config.size());
+    for (const auto &[key, setting] : config.asKeyValueRange()) {
+        if (key == variablesKey) {
+            writeVariables(writer);
+        } else {
+            writer.add(key, setting);
+        }
+    }
+    if (!writer.isGood()) {
+        *error = Common::LocalizationHelper::coreString(
+            u"A variable has a value of a type that the device does not know."_s);
+        return false;
+    }
+    return Common::FileHelper::writeFile(path, bytes, error);
+}
+
 bool RuntimeConfiguration::write(const QString &folder, QString *error) const
 {
-    const std::pair<QString, QVariantMap> files[] = {
-        {u"%1/canConfig.kdrc"_s, canMap()},
-        {u"%1/bacConfig.kdrc"_s, bacnetMap()},
-        {u"%1/config.kdrc"_s, m_config},
-    };
-    return std::all_of(std::begin(files), std::end(files), [&](const auto &file) {
-        return Common::FileHelper::variantToFile(file.second, file.first.arg(folder), false, error);
-    });
+    using Common::FileHelper;
+    return FileHelper::variantToFile(canMap(), u"%1/canConfig.kdrc"_s.arg(folder), false, error)
+           && FileHelper::variantToFile(bacnetMap(), u"%1/bacConfig.kdrc"_s.arg(folder), false, error)
+           && writeConfig(u"%1/config.kdrc"_s.arg(folder), error);
 }
 
 } // namespace Halvane::Corvex::Designer

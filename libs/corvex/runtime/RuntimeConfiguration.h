@@ -6,6 +6,12 @@
 
 #include <QVariantMap>
 
+#include <vector>
+
+namespace Halvane::Corvex::Common::VariantStream {
+class MapWriter;
+}
+
 namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
@@ -32,17 +38,29 @@ public:
 
     QVariantMap canMap() const { return m_can.toMap(); }
     QVariantMap bacnetMap() const { return m_bacnet.toMap(); }
-    const QVariantMap &configMap() const { return m_config; }
+    QVariantMap configMap() const;
 
 private:
+    struct Variable
+    {
+        QString key;
+        bool isPersistent;
+        int type;
+        QVariant value;
+    };
+
     void addVariable(const ProjectVariable &variable);
     void addRecord(const QString &key, const ProjectVariable &variable);
+    void sortVariables();
     bool addPasswords(const DesignerObject &project, QString *error);
+    void writeVariables(Common::VariantStream::MapWriter &writer) const;
+    bool writeConfig(const QString &path, QString *error) const;
 
     CanConfiguration m_can;
     BACnetConfiguration m_bacnet;
-    QVariantMap m_variables;
-    QVariantMap m_config;
+    // A project may have 20,000 variables: they become a map only for those who ask for one.
+    std::vector<Variable> m_variables;
+    QVariantMap m_settings;
 };
 
 } // namespace Halvane::Corvex::Designer
