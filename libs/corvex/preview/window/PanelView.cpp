@@ -15,6 +15,7 @@ PanelView::PanelView(QWidget *parent)
     setWidget(m_panel);
     setAlignment(Qt::AlignCenter);
     setBackgroundRole(QPalette::Dark);
+    connect(m_panel->quickWindow(), &QQuickWindow::afterRendering, this, &PanelView::drawn);
 }
 
 void PanelView::setSession(PreviewSession *session)

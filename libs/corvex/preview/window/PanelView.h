@@ -21,6 +21,9 @@ public:
     void setSession(PreviewSession *session);
     void setZoom(double factor);
 
+signals:
+    void drawn();
+
 private:
     void follow();
 

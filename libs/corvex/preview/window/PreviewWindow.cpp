@@ -25,6 +25,8 @@ namespace {
 
 // How often the folder is looked at, in milliseconds.
 constexpr int watchInterval = 500;
+constexpr int sideWidth = 400;
+constexpr int bottomHeight = 120;
 
 QTableView *makeTable(QAbstractItemModel *model, int wideColumn)
 {
@@ -66,7 +68,9 @@ PreviewWindow::PreviewWindow()
     : m_variables(new VariablesModel(this))
     , m_problems(new ProblemsModel(this))
     , m_view(new PanelView)
-    , m_channels(new ChannelsView)
+    , m_variablesDock(addDock(tr("Variables"), Qt::RightDockWidgetArea))
+    , m_channelsDock(addDock(tr("Inputs and outputs"), Qt::RightDockWidgetArea))
+    , m_problemsDock(addDock(tr("Problems"), Qt::BottomDockWidgetArea))
     , m_screens(new QComboBox)
 {
     setCentralWidget(m_view);
@@ -106,24 +110,34 @@ void PreviewWindow::showZoom(const QString &text)
     m_view->setZoom(text.section(u' ', 0, 0).toInt() / 100.0);
 }
 
-QDockWidget *PreviewWindow::addDock(const QString &title, QWidget *content, Qt::DockWidgetArea area)
+QDockWidget *PreviewWindow::addDock(const QString &title, Qt::DockWidgetArea area)
 {
     auto *dock = new QDockWidget(title);
-    dock->setWidget(content);
     addDockWidget(area, dock);
     return dock;
 }
 
+//! The panel is what the user waits for: what is beside it comes when it is there.
 void PreviewWindow::makeDocks()
 {
-    addDock(tr("Variables"), makeVariables(m_variables), Qt::RightDockWidgetArea);
+    resizeDocks({m_variablesDock}, {sideWidth}, Qt::Horizontal);
+    resizeDocks({m_problemsDock}, {bottomHeight}, Qt::Vertical);
+    connect(m_view, &PanelView::drawn, this, &PreviewWindow::fillDocks,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
+void PreviewWindow::fillDocks()
+{
+    m_variablesDock->setWidget(makeVariables(m_variables));
+    m_problemsDock->setWidget(makeTable(m_problems, ProblemsModel::Message));
+    m_channels = new ChannelsView;
+    m_channels->setPanel(m_session ? &m_session->panel() : nullptr);
     auto *scrolling = new QScrollArea;
     scrolling->setWidget(m_channels);
     scrolling->setWidgetResizable(true);
-    addDock(tr("Inputs and outputs"), scrolling, Qt::RightDockWidgetArea);
-    QDockWidget *problems =
-        addDock(tr("Problems"), makeTable(m_problems, ProblemsModel::Message), Qt::BottomDockWidgetArea);
-    resizeDocks({problems}, {120}, Qt::Vertical);
+    m_channelsDock->setWidget(scrolling);
+    resizeDocks({m_variablesDock}, {sideWidth}, Qt::Horizontal);
+    resizeDocks({m_problemsDock}, {bottomHeight}, Qt::Vertical);
 }
 
 bool PreviewWindow::open(const QString &folder, const QString &stateFile, QString *error)
@@ -146,7 +160,9 @@ void PreviewWindow::use(std::unique_ptr<PreviewSession> session)
     Panel *panel = session ? &session->panel() : nullptr;
     m_variables->setPanel(panel);
     m_problems->setLog(panel ? &panel->problems() : nullptr);
-    m_channels->setPanel(panel);
+    if (m_channels) {
+        m_channels->setPanel(panel);
+    }
     m_view->setSession(session.get());
     m_session = std::move(session);
     if (!m_session) {

@@ -32,7 +32,8 @@ public:
 private:
     void makeToolBar();
     void makeDocks();
-    QDockWidget *addDock(const QString &title, QWidget *content, Qt::DockWidgetArea area);
+    void fillDocks();
+    QDockWidget *addDock(const QString &title, Qt::DockWidgetArea area);
     void use(std::unique_ptr<PreviewSession> session);
     void showScreen();
     void showZoom(const QString &text);
@@ -46,7 +47,10 @@ private:
     VariablesModel *m_variables;
     ProblemsModel *m_problems;
     PanelView *m_view;
-    ChannelsView *m_channels;
+    QDockWidget *m_variablesDock;
+    QDockWidget *m_channelsDock;
+    QDockWidget *m_problemsDock;
+    ChannelsView *m_channels = nullptr;
     QComboBox *m_screens;
     QTimer m_watch;
 };
