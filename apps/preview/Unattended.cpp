@@ -43,7 +43,9 @@ Exit shootAll(PreviewSession &session, PanelWindow &window, const QString &folde
         if (!session.showScreen(name)) {
             continue;
         }
-        session.panel().clock().advance(0); // so that logs have their first point
+        // The rules come first, so that the first points of logs are what they give.
+        session.settle();
+        session.panel().clock().advance(0);
         if (!save(window, folder, name)) {
             return Exit::File;
         }

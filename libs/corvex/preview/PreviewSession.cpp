@@ -126,7 +126,8 @@ QString PreviewSession::locate(const QString &file, int line) const
     if (screen == m_build.screens().cend()) {
         return QFileInfo(file).fileName();
     }
-    const QString path = screen->outline.pathAt(line);
+    // An engine that has run out of stack knows no line.
+    const QString path = line < 1 ? name.sliced(idPrefix.size()) : screen->outline.pathAt(line);
     return path.isEmpty() ? u"%1.qml:%2"_s.arg(name, QString::number(line)) : path;
 }
 
