@@ -10,7 +10,7 @@ using namespace PanelStyle;
 
 namespace {
 
-//! A lamp for each alarm, which is there as long as the alarm is.
+//! A lamp for each alarm, which is lit as long as the alarm is there.
 void drawTable(PanelScreen &screen)
 {
     constexpr struct
@@ -26,6 +26,7 @@ void drawTable(PanelScreen &screen)
     for (int i = 0; i < int(std::size(alarms)); ++i) {
         const QByteArray variable(alarms[i].variable);
         const int y = 96 + i * pitch;
+        screen.rectangle(variable + "Socket", {32, y + 8, 32, 32}, darkLampFace);
         screen.rectangle(variable + "Lamp", {32, y + 8, 32, 32}, lampFace).bind("visibleBinding", variable);
         screen.text(variable + "Text", {88, y, 680, 48}, alarms[i].title, label);
     }

@@ -52,5 +52,6 @@ constexpr Face plain(QRgb color, int radius = 0)
 }
 inline constexpr Face tankFace{card, 2, stopped, 4};
 inline constexpr Face lampFace{alarm, 2, cardBorder, 16};
+inline constexpr Face darkLampFace{0xffdde4e9, 2, cardBorder, 16};
 
 } // namespace Halvane::Corvex::Examples::PanelStyle

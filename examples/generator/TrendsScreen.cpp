@@ -19,7 +19,7 @@ constexpr int pixelsPerCent = 3;
 void drawSamples(PanelScreen &screen)
 {
     // Where the points stand on the drawing board; on the device they follow the log, the newest at the
-    // right.
+    // right. Where the log is too short for a point, it stands as high as the oldest.
     constexpr int levels[] = {41, 56, 71, 62};
     constexpr int count = int(std::size(levels));
     constexpr int size = 16;
@@ -27,7 +27,8 @@ void drawSamples(PanelScreen &screen)
         const int x = fieldLeft + (i + 1) * fieldWidth / (count + 1) - size / 2;
         const int y = fieldBottom - levels[i] * pixelsPerCent - size / 2;
         screen.rectangle("sample" + QByteArray::number(i + 1), {x, y, size, size}, plain(accent, size / 2))
-            .bind("yBinding", QByteArray("388 - max(0, getValueAt(levelLog, #)) * 3")
+            .bind("yBinding", QByteArray("388 - max(0, getValueAt(levelLog, min(#, "
+                                         "max(0, getLogCount(levelLog) - 1)))) * 3")
                                   .replace("#", QByteArray::number(count - 1 - i)));
     }
 }
