@@ -6,6 +6,7 @@
 #include "support/FullDisk.h"
 
 #include <QAction>
+#include <QIcon>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -366,6 +367,7 @@ TEST_F(ProjectTest, ANewHistoryBeginsWithEachFile)
     QAction *redo = project->createRedoAction();
     EXPECT_EQ(undo, project->createUndoAction());
     EXPECT_FALSE(undo->isEnabled());
+    EXPECT_FALSE(undo->icon().isNull() || redo->icon().isNull());
     const auto edit = [&project] { project->undoStack()->QUndoStack::push(new QUndoCommand); };
     edit();
     EXPECT_TRUE(undo->isEnabled());

@@ -23,6 +23,7 @@
 
 #include <QAction>
 #include <QFileInfo>
+#include <QIcon>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
@@ -316,7 +317,8 @@ bool Project::checkStackIsSame(const UndoCommand *command, const UndoStack *stac
 QAction *Project::createUndoAction()
 {
     if (!m_undoAction) {
-        m_undoAction = new QAction(Common::LocalizationHelper::coreString(u"Undo"_s), this);
+        m_undoAction =
+            new QAction(QIcon(u":/images/undo"_s), Common::LocalizationHelper::coreString(u"Undo"_s), this);
         m_undoAction->setEnabled(undoStack()->canUndo());
         connect(m_undoStack, &UndoStack::canUndoChanged, m_undoAction, &QAction::setEnabled);
         connect(m_undoAction, &QAction::triggered, m_undoStack, &UndoStack::undo);
@@ -327,7 +329,8 @@ QAction *Project::createUndoAction()
 QAction *Project::createRedoAction()
 {
     if (!m_redoAction) {
-        m_redoAction = new QAction(Common::LocalizationHelper::coreString(u"Redo"_s), this);
+        m_redoAction =
+            new QAction(QIcon(u":/images/redo"_s), Common::LocalizationHelper::coreString(u"Redo"_s), this);
         m_redoAction->setEnabled(undoStack()->canRedo());
         connect(m_undoStack, &UndoStack::canRedoChanged, m_redoAction, &QAction::setEnabled);
         connect(m_redoAction, &QAction::triggered, m_undoStack, &UndoStack::redo);
