@@ -103,6 +103,7 @@ TEST_F(ChangePropertyTest, APictureWhoseFileIsMissingIsNotShown)
     const QString link = u"filterType: ImageResource; objectId: %1; scopeType: Project;"_s;
     EXPECT_TRUE(ChangeProperty(source, link.arg(u"pump.png"_s), false).isValid());
     EXPECT_FALSE(ChangeProperty(source, link.arg(u"gone.png"_s), false).isValid());
+    EXPECT_FALSE(ChangeProperty(source, u"objectId: gone.png;"_s, false).isValid());
     const SharedProperty state = property(element("button1"), "normalState");
     EXPECT_FALSE(ChangeProperty(state,
                                 u"name: image1; propertyValues: propName%3A source%3B propValue%3A "

@@ -145,7 +145,7 @@ bool ChangeProperty::notifyFileMissing() const
         return false;
     }
     for (const Mention &mention : ReferenceForm::mentions(ReferenceForm::of(*property()), m_after)) {
-        if (mention.kinds == NamedKind::Image && !isFileThere(project, mention.path)) {
+        if (mention.kinds.testFlag(NamedKind::Image) && !isFileThere(project, mention.path)) {
             qDebug().noquote() << u"%1: the file of the image \"%2\" is missing."_s.arg(owner()->objectPath(),
                                                                                         mention.path);
             return true;
