@@ -20,7 +20,6 @@ AddScreen::AddScreen(DesignerObject *screen, Project *project, qsizetype index, 
     }
     setTitle(u"Add Screen \"%1\""_s, screen->getIdName());
     addStep<InsertItemStep>(project->screens(), screen, index);
-    setActiveItem(screen);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -7,7 +7,9 @@ AddScreenAndElements::AddScreenAndElements(DesignerObject *screen, Project *proj
                                            UndoCommand *elements, UndoCommand *parent)
     : AddScreen(screen, project, index, parent)
     , m_elements(elements)
-{ }
+{
+    setActiveItem(screen);
+}
 
 bool AddScreenAndElements::redoOwn(QString &error)
 {
@@ -27,12 +29,12 @@ bool AddScreenAndElements::redoOwn(QString &error)
     return true;
 }
 
-void AddScreenAndElements::undoOwn()
+bool AddScreenAndElements::undoOwn()
 {
     if (m_elements) {
         m_elements->undo();
     }
-    AddScreen::undoOwn();
+    return AddScreen::undoOwn();
 }
 
 QList<DesignerObject *> AddScreenAndElements::selectedItems()

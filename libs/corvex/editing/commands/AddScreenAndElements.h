@@ -18,7 +18,7 @@ public:
 
 protected:
     bool redoOwn(QString &error) override;
-    void undoOwn() override;
+    bool undoOwn() override;
 
 private:
     std::unique_ptr<UndoCommand> m_elements;

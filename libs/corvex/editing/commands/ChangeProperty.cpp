@@ -177,9 +177,9 @@ bool ChangeProperty::redoOwn(QString &error)
     return isDone;
 }
 
-void ChangeProperty::undoOwn()
+bool ChangeProperty::undoOwn()
 {
-    set(m_before);
+    return set(m_before);
 }
 
 void ChangeProperty::appendOwnChanges(QList<ValueChange> &changes) const

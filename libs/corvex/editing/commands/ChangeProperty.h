@@ -24,7 +24,7 @@ public:
 
 protected:
     bool redoOwn(QString &error) override;
-    void undoOwn() override;
+    bool undoOwn() override;
     void appendOwnChanges(QList<ValueChange> &changes) const override;
 
 private:

@@ -78,10 +78,9 @@ std::shared_ptr<PendingValues> ModelCommand::siblingValues() const
     return values;
 }
 
-void ModelCommand::setTitle(const QString &english, const QString &first, const QString &second)
+QString ModelCommand::localized(const QString &english)
 {
-    const QString title = Common::LocalizationHelper::coreString(english);
-    setText(first.isNull() ? title : second.isNull() ? title.arg(first) : title.arg(first, second));
+    return Common::LocalizationHelper::coreString(english);
 }
 
 void ModelCommand::refuse(const QString &error, const QList<DesignerObject *> &unused)
@@ -268,8 +267,7 @@ void ModelCommand::undo()
     }
     if (childCount() > 0) {
         QUndoCommand::undo();
-    } else if (isValid()) {
-        undoOwn();
+    } else if (isValid() && undoOwn()) {
         for (const ValueChange &change : m_plan ? m_plan->changes : QList<ValueChange>()) {
             change.undo();
         }
@@ -282,11 +280,17 @@ bool ModelCommand::redoOwn(QString &error)
     return !m_plan || m_plan->redoSteps(error);
 }
 
-void ModelCommand::undoOwn()
+bool ModelCommand::undoOwn()
 {
-    if (m_plan) {
-        m_plan->undoSteps(m_plan->steps.end());
+    if (!m_plan) {
+        return true;
     }
+    m_plan->undoSteps(m_plan->steps.end());
+    return std::all_of(m_plan->steps.begin(), m_plan->steps.end(), [this](const auto &step) {
+        const auto *value = dynamic_cast<const SetValueStep *>(step.get());
+        return !value || value->change().property != property()
+               || property()->equalsValue(value->change().before);
+    });
 }
 
 void ModelCommand::appendOwnChanges(QList<ValueChange> &changes) const

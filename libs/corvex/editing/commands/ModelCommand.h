@@ -44,7 +44,16 @@ protected:
 
     // For constructors.
     //! \a english with its placeholders filled, in the language of the user.
-    void setTitle(const QString &english, const QString &first = {}, const QString &second = {});
+    template<class... Names>
+    void setTitle(const QString &english, const Names &...names)
+    {
+        const QString title = localized(english);
+        if constexpr (sizeof...(names) > 0) {
+            setText(title.arg(names...));
+        } else {
+            setText(title);
+        }
+    }
     //! Makes the command one that cannot be done. It owns \a unused all the same, unless they are in a model.
     void refuse(const QString &error, const QList<DesignerObject *> &unused = {});
     //! Objects that were given to the command and will not come into the model.
@@ -72,12 +81,15 @@ protected:
 
     //! What the command does of itself: its steps.
     virtual bool redoOwn(QString &error);
-    virtual void undoOwn();
+    //! False when the property of the command does not get its old value back: what follows from it stays
+    //! too.
+    virtual bool undoOwn();
     virtual void appendOwnChanges(QList<ValueChange> &changes) const;
 
 private:
     struct Plan;
     Plan &plan();
+    static QString localized(const QString &english);
     std::shared_ptr<PendingValues> siblingValues() const;
     bool redoChildren(QString &error);
     bool redoLeaf(QString &error);
