@@ -3,6 +3,7 @@
 #include "corvex/editing/commands/AddElementsWithResources.h"
 #include "corvex/editing/commands/AddImage.h"
 #include "corvex/editing/commands/AddImageFromData.h"
+#include "corvex/editing/commands/AddImagesAndElements.h"
 #include "corvex/editing/commands/DeleteImage.h"
 #include "corvex/editing/commands/EditingDialogs.h"
 #include "corvex/editing/commands/RenameImage.h"
@@ -128,6 +129,8 @@ TEST_F(ImageCommandTest, ReplacingGivesTheOldPictureBack)
     EXPECT_EQ(source("image1"), u"pump.png"_s);
     EXPECT_EQ(shown(u"pump.png"_s), QColor(Qt::blue));
     EXPECT_FALSE(ReplaceImage(object(u"pump.png"_s), folder.filePath(u"no.png"_s), u"pump.png"_s).isValid());
+    EXPECT_FALSE(
+        ReplaceImage(object(u"pump.png"_s), picture(u"new.jpg"_s, Qt::blue), u"pump.png"_s).isValid());
 }
 
 TEST_F(ImageCommandTest, PicturesFromMemory)
@@ -186,6 +189,14 @@ TEST_F(ImageCommandTest, DroppedFiles)
     EXPECT_EQ(dialogs.warnings.takeFirst(),
               u"Add Image: The following image is invalid or its extension does not match the image format: "
               "\n    liar.jpg"_s);
+    // A project that was never saved has no folder for them.
+    const std::unique_ptr<DesignerObject> unsaved(make(u"Project"_s, u"Wells"_s));
+    auto *screen =
+        static_cast<Screen *>(add(static_cast<Project *>(unsaved.get())->screens(), "Screen", "Main"));
+    EXPECT_FALSE(
+        ImageResource::addImagesFromUrls({QUrl::fromLocalFile(folder.filePath(u"pump.png"_s))}, screen, {}));
+    EXPECT_EQ(static_cast<Project *>(unsaved.get())->undoStack()->count(), 0);
+    EXPECT_EQ(dialogs.warnings.size(), 1);
     EditingDialogs::install(nullptr);
     stack().setIndex(0);
     ASSERT_TRUE(project->saveFile());
@@ -207,6 +218,10 @@ TEST_F(ImageCommandTest, ElementsComeWithWhatTheyNeed)
     EXPECT_EQ(stack().undoText(), u"Add 2 objects to \"Main\""_s);
     EXPECT_EQ(files(), (QStringList{u"new.png"_s, u"pump.png"_s}));
     EXPECT_TRUE(variable("depth"));
+
+    EXPECT_FALSE(
+        AddElementsWithResources(main, {make(u"Text"_s, u"pasted3"_s)}, {nullptr}, {}, true).isValid());
+    EXPECT_FALSE(AddImagesAndElements({{nullptr, u"x.png"_s}}, {}, main).isValid());
 
     // When one part fails, nothing of it stays.
     const QString before = text();

@@ -37,9 +37,12 @@ AddElementsWithResources::AddElementsWithResources(Screen *screen, const QList<D
     : ModelCommand({}, selected, parent)
 {
     Project *project = screen ? screen->project() : nullptr;
-    if (!project || elements.isEmpty() || elements.contains(nullptr)) {
+    const QList<DesignerObject *> all = elements + images + variables;
+    const auto isImage = [](const DesignerObject *image) { return kindCast<ImageResource>(image); };
+    if (!project || elements.isEmpty() || all.contains(nullptr)
+        || !std::all_of(images.begin(), images.end(), isImage)) {
         refuse(Common::LocalizationHelper::coreString(u"There is nothing to add, or no list to add it to."_s),
-               elements + images + variables);
+               all);
         return;
     }
     if (elements.size() == 1) {

@@ -19,7 +19,8 @@ AddImagesAndElements::AddImagesAndElements(const QMap<ImageResource *, QString> 
     : ModelCommand({}, true, parent)
 {
     const qsizetype count = std::max(images.size(), elements.size());
-    if (!screen || !screen->project() || count == 0) {
+    if (!screen || !screen->project() || count == 0 || images.contains(nullptr)
+        || elements.contains(nullptr)) {
         refuse(Common::LocalizationHelper::coreString(u"There is no image to add, or no screen."_s),
                elements);
         hold(QList<DesignerObject *>(images.keyBegin(), images.keyEnd()));

@@ -110,9 +110,15 @@ bool ImageResource::addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, c
     if (images.isEmpty() && elements.isEmpty()) {
         return false;
     }
-    auto *command = new AddImagesAndElements(images, elements, screen);
-    project->undoStack()->push(command);
-    return command->isDone();
+    auto command = std::make_unique<AddImagesAndElements>(images, elements, screen);
+    if (!command->isValid()) {
+        const QString title = LocalizationHelper::coreString(u"Add Images"_s);
+        EditingDialogs::instance()->warn(parentWidget, title, command->errorString());
+        return false;
+    }
+    const AddImagesAndElements *pushed = command.get();
+    project->undoStack()->push(command.release());
+    return pushed->isDone();
 }
 
 } // namespace Halvane::Corvex::Designer

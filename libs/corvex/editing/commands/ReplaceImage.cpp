@@ -13,22 +13,34 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
+using Common::FileHelper;
 using Common::LocalizationHelper;
+
+namespace {
+
+//! The format that the extension tells.
+QString formatOf(const QString &name)
+{
+    const QString extension = name.section(u'.', -1).toLower();
+    return extension == "jpeg"_L1 ? u"jpg"_s : extension;
+}
+
+} // namespace
 
 ReplaceImage::ReplaceImage(DesignerObject *image, const QString &newFile, const QString &name,
                            UndoCommand *parent)
     : ModelCommand(image ? image->listProperty() : SharedProperty(), true, parent)
 {
-    auto *resource = kindCast<ImageResource>(image);
     Project *project = image ? image->project() : nullptr;
-    if (!resource || !project || project->imagesPath().isEmpty()) {
+    if (!kindCast<ImageResource>(image) || !project || project->imagesPath().isEmpty()) {
         refuse(LocalizationHelper::coreString(u"There is no image to replace."_s));
         return;
     }
     const QString oldName = image->getIdName();
     setTitle(u"Replace Image Resource \"%1\""_s, oldName);
     QString error = FileNameRules::imageNameError(name);
-    if (error.isEmpty() && !Common::FileHelper::isValidImage(newFile)) {
+    if (QString format;
+        error.isEmpty() && (!FileHelper::isValidImage(newFile, &format) || format != formatOf(name))) {
         error = LocalizationHelper::coreString(
             u"The image is invalid or its extension does not match the image format."_s);
     }
@@ -51,7 +63,6 @@ ReplaceImage::ReplaceImage(DesignerObject *image, const QString &newFile, const 
         addValueStep(image->idProperty(), info.toString());
         addStep<SortListStep>(image->listProperty());
     }
-    addValueStep(resource->originalLocation(), newFile);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -6,7 +6,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! Gives a picture other contents and, perhaps, another name, which all that shows it follows. The old file
-//! stays beside until the project has been saved.
+//! stays beside until the project has been saved. The original location stays what it was.
 class ReplaceImage : public ModelCommand
 {
 public:
