@@ -53,7 +53,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
         return call.failed(
             u"The script \"%1\" cannot be read: %2."_s.arg(call.argument(1), script.errorString()));
     }
-    ProjectEditor editor(file.project());
+    ProjectEditor editor(file.project(), call);
     const ExitCode code = edit(editor, script, call);
     return code == ExitCode::Done ? EditReport::finish(editor, file, call) : code;
 }

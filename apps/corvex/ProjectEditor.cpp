@@ -27,6 +27,7 @@
 #include "corvex/editing/commands/SwapItems.h"
 #include "corvex/editing/commands/UngroupCommand.h"
 #include "corvex/editing/undo/UndoStack.h"
+#include "corvex/hardware/HardwareConfigurations.h"
 #include "corvex/project/FilterElement.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
@@ -34,6 +35,7 @@
 #include "corvex/values/ListInfo.h"
 #include "corvex/variables/ProjectVariable.h"
 
+#include "Installation.h"
 #include "ProjectPath.h"
 
 #include <QFileInfo>
@@ -441,6 +443,9 @@ bool ProjectEditor::replaceImage(const Words &words)
 
 bool ProjectEditor::model(const Words &words)
 {
+    if (!HardwareConfigurations::instance() && !Installation::loadModels(m_call)) {
+        return fail(u"No device model can be read."_s);
+    }
     return push(new ChangeConfiguration(&m_project, words.join(u' ')));
 }
 

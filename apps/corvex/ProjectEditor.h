@@ -16,6 +16,8 @@ class Screen;
 
 namespace Halvane::Corvex::Tool {
 
+class Call;
+
 /*! Edits a project by lines of text, one edit each: "set Main.title.text Hello". Words are parted by blanks;
    a word in double quotes may hold blanks, and \", \\, \n and \t. Paths are those of ProjectPath.
 
@@ -37,8 +39,10 @@ public:
         QList<Change> changes; //!< in the order of their paths
     };
 
-    explicit ProjectEditor(Designer::Project &project)
+    //! \a call tells where the device models are, which are read when an edit needs them.
+    ProjectEditor(Designer::Project &project, const Call &call)
         : m_project(project)
+        , m_call(call)
     { }
 
     //! False, with the reason for the user, when the line cannot be done; the project is as before then. An
@@ -83,6 +87,7 @@ private:
     bool step(const Words &words, int direction);
 
     Designer::Project &m_project;
+    const Call &m_call;
     QList<Edit> m_edits;
     QStringList m_output;
     QString m_error;

@@ -99,7 +99,7 @@ bool ProjectFile::open(const Call &call, qsizetype argument)
 
 bool ProjectFile::isAsOpened(const Call &call) const
 {
-    if (QFileInfo(m_path).lastModified() == m_timeOfFile) {
+    if (QFileInfo(m_project->fullFilePath()).lastModified() == m_timeOfFile) {
         return true;
     }
     call.failed(u"\"%1\" has been written by another program since it was opened, and stays as that program "

@@ -27,7 +27,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     if (!ProjectPath::find(&file.project(), call.argument(1)).object) {
         return ProjectPath::notFound(call.argument(1), call);
     }
-    ProjectEditor editor(file.project());
+    ProjectEditor editor(file.project(), call);
     QString error;
     const QString line = u"rename %1 %2"_s.arg(quoted(call.argument(1)), quoted(call.argument(2)));
     if (!editor.run(line, error)) {

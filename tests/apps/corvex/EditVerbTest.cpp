@@ -2,10 +2,12 @@
 #include "Sandbox.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,6 +19,13 @@ using testing::HasSubstr;
 namespace {
 
 const QString pump = u"Pump/Pump.kdproj"_s;
+
+void savePicture(Qt::GlobalColor color, const QString &path)
+{
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(color);
+    picture.save(path);
+}
 
 class EditVerb : public testing::Test
 {
@@ -31,11 +40,8 @@ protected:
                 + Sandbox::object("Image", "photo"),
             Sandbox::object("NumberVariable", "speed", {}, "Project"));
         sandbox.run({u"fmt"_s, pump});
-        QImage picture(8, 8, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        picture.save(sandbox.path(u"one.png"_s));
-        picture.fill(Qt::blue);
-        picture.save(sandbox.path(u"two.png"_s));
+        savePicture(Qt::red, sandbox.path(u"one.png"_s));
+        savePicture(Qt::blue, sandbox.path(u"two.png"_s));
     }
     ProgramRun edit(const QByteArray &script, const QStringList &options = {}) const
     {
@@ -181,4 +187,49 @@ moved Main.press: Main.elements -> First.trio.elements
 moved Main.note: Main.elements -> First.trio.elements
 added GroupElement First.trio
 )"_s);
+}
+
+//! All files that the example has after the lines.
+struct EditedExample
+{
+    explicit EditedExample(const QByteArray &lines)
+    {
+        const Sandbox sandbox;
+        const QDir examples(QStringLiteral(CORVEX_EXAMPLES));
+        QDirIterator entries(examples.filePath(u"PumpStation"_s), QDir::Files, QDirIterator::Subdirectories);
+        while (entries.hasNext()) {
+            const QString name = examples.relativeFilePath(entries.next());
+            QDir().mkpath(QFileInfo(sandbox.path(name)).path());
+            QFile::copy(examples.filePath(name), sandbox.path(name));
+        }
+        savePicture(Qt::red, sandbox.path(u"one.png"_s));
+        savePicture(Qt::blue, sandbox.path(u"two.png"_s));
+        sandbox.write(u"script"_s, lines);
+        error = sandbox.run({u"edit"_s, u"PumpStation/PumpStation.kdproj"_s, u"script"_s}).error;
+        for (const QString &name : sandbox.files({})) {
+            files.insert(name, name == "script"_L1 ? QByteArray() : sandbox.read(name));
+        }
+    }
+
+    QString error;
+    QMap<QString, QByteArray> files;
+};
+
+TEST(EditScript, aHundredEditsLeadBackToTheFirstByteAndForthToTheLast)
+{
+    QFile script(QStringLiteral(CORVEX_EDITS));
+    ASSERT_TRUE(script.open(QIODevice::ReadOnly));
+    const QByteArray lines = script.readAll();
+    const EditedExample first("# nothing\n");
+    const EditedExample last(lines);
+    ASSERT_EQ(last.error, QString());
+    EXPECT_TRUE(last.files.contains(u"NorthStation/NorthStation.kdproj"_s));
+
+    const EditedExample failed(lines + "undo 9999\n");
+    static const QRegularExpression count(u"There are (\\d+) edits to undo"_s);
+    const QByteArray number = count.match(failed.error).captured(1).toLatin1();
+    EXPECT_GE(number.toInt(), 100);
+    EXPECT_EQ(failed.files, first.files);
+    EXPECT_EQ(EditedExample(lines + "undo " + number + '\n').files, first.files);
+    EXPECT_EQ(EditedExample(lines + "undo " + number + "\nredo " + number + '\n').files, last.files);
 }

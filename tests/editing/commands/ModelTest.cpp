@@ -6,14 +6,18 @@
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/properties/LinkProperty.h"
+#include "corvex/editing/commands/AddElementsWithResources.h"
 #include "corvex/editing/commands/AddImage.h"
 #include "corvex/editing/commands/AddImageFromData.h"
 #include "corvex/editing/commands/AddObject.h"
 #include "corvex/editing/commands/AddScreen.h"
+#include "corvex/editing/commands/AddScreenAndElements.h"
 #include "corvex/editing/commands/AddVariable.h"
 #include "corvex/editing/commands/ChangeConfiguration.h"
 #include "corvex/editing/commands/ChangeProperty.h"
 #include "corvex/editing/commands/ChangeVisualElements.h"
+#include "corvex/editing/commands/DeleteFilter.h"
+#include "corvex/editing/commands/DeleteFiltersWithObjects.h"
 #include "corvex/editing/commands/DeleteImage.h"
 #include "corvex/editing/commands/DeleteObject.h"
 #include "corvex/editing/commands/DeleteObjectsAndCheckFilters.h"
@@ -24,6 +28,7 @@
 #include "corvex/editing/commands/ReferenceChanges.h"
 #include "corvex/editing/commands/ReferenceScanner.h"
 #include "corvex/editing/commands/RenameImage.h"
+#include "corvex/editing/commands/RenameProject.h"
 #include "corvex/editing/commands/RenameScreen.h"
 #include "corvex/editing/commands/RenameVariable.h"
 #include "corvex/editing/commands/ReplaceImage.h"
@@ -97,6 +102,11 @@ protected:
         ASSERT_TRUE(project->createFile(folder.path())) << qPrintable(project->fileError());
         QDir().mkpath(project->imagesPath());
         ASSERT_TRUE(Examples::ProjectGenerator::writeImages(project->imagesPath()));
+        for (const QString &name : classesOf(u"Element"_s)) {
+            project->screens()->getListItemAtIndex(0)->addListPropertyItem(
+                static_cast<Screen *>(project->screens()->getListItemAtIndex(0))->elements(),
+                make(name, newName(u"first"_s)));
+        }
         project->validate();
     }
 
@@ -126,6 +136,20 @@ protected:
         const QList<Element *> elements = anyScreen()->getElementsOfType(className);
         return elements.isEmpty() ? nullptr : random.oneOf(elements);
     }
+    static const QStringList &classesOf(const QString &base)
+    {
+        static QHash<QString, QStringList> classes;
+        QStringList &found = classes[base];
+        if (found.isEmpty()) {
+            for (const QString &name : DesignerFactory::instance()->creatableNames()) {
+                const std::unique_ptr<DesignerObject> sample(make(name, name));
+                if (sample->isKindOfClass(base)) {
+                    found.append(name);
+                }
+            }
+        }
+        return found;
+    }
     static QString named(const DesignerObject *object, const QString &name)
     {
         IdentifierInfo info = object->getIdInfo();
@@ -136,8 +160,11 @@ protected:
     //! A command that may be possible; null when there is nothing for it.
     UndoCommand *anyCommand();
     UndoCommand *imageCommand();
+    QString newPicture(QImage &picture);
     UndoCommand *groupCommand();
-    UndoCommand *valueCommand(Element *element);
+    UndoCommand *filterCommand(Screen *screen);
+    UndoCommand *manyCommand(Screen *screen);
+    UndoCommand *valueCommand();
 
     void checkModel();
     void checkOwners(const DesignerObject *owner);
@@ -151,26 +178,28 @@ protected:
     int lastNumber = 0;
 };
 
-UndoCommand *ModelTest::valueCommand(Element *element)
+UndoCommand *ModelTest::valueCommand()
 {
-    if (!element) {
-        return nullptr;
-    }
-    // Another element of the class lends its value, which is a good one for this property.
-    const SharedProperty property = random.oneOf(element->properties());
-    const Element *other = random.oneOf(element->screen()->getElementsOfType(element->className()));
+    // Another object of the class and the screen lends its value, which is a good one for this property.
+    QList<DesignerObject *> all = below(project.get());
+    const DesignerObject *object = random.oneOf(all);
+    all.removeIf([object](const DesignerObject *other) {
+        return other->className() != object->className() || other->screen() != object->screen();
+    });
+    const SharedProperty property = random.oneOf(object->properties());
     if (property->isList() || property->isObject() || property->id() == "id"_L1
         || property->id() == "indexes"_L1) {
         return nullptr;
     }
-    if (random.chance(20)) {
-        QList<VisualElement *> all;
-        for (Element *item : element->screen()->getElementsOfType(u"VisualElement"_s)) {
-            all.append(static_cast<VisualElement *>(item));
+    if (object->isKindOfClass(u"VisualElement"_s) && random.chance(20)) {
+        QList<VisualElement *> visible;
+        for (Element *item : object->screen()->getElementsOfType(u"VisualElement"_s)) {
+            visible.append(static_cast<VisualElement *>(item));
         }
-        return new ChangeVisualElements(element->getProperty(u"opacity"), all);
+        return new ChangeVisualElements(object->getProperty(u"opacity"), visible);
     }
-    return new ChangeProperty(property, other->getProperty(property->id())->valueString(), true);
+    const QString value = random.oneOf(all)->getProperty(property->id())->valueString();
+    return new ChangeProperty(property, random.chance(5) ? QString() : value, true);
 }
 
 UndoCommand *ModelTest::groupCommand()
@@ -192,21 +221,65 @@ UndoCommand *ModelTest::groupCommand()
     Screen *screen = anyScreen();
     QList<DesignerObject *> members;
     for (DesignerObject *item : screen->elements()->getItemsOfType(u"VisualElement"_s)) {
-        if (members.size() < 4 && random.chance(20)) {
+        if (members.size() < 4 && random.chance(40)) {
             members.append(item);
         }
     }
     return new GroupCommand(make(u"GroupElement"_s, newName(u"madeGroup"_s)), members);
 }
 
+QString ModelTest::newPicture(QImage &picture)
+{
+    const QString file = folder.filePath(newName(u"picture"_s) + u".png"_s);
+    picture = QImage(4, 4, QImage::Format_RGB32);
+    picture.fill(QRgb(lastNumber * 7919));
+    picture.save(file);
+    return file;
+}
+
+UndoCommand *ModelTest::filterCommand(Screen *screen)
+{
+    DesignerObject *filter = itemOf(screen->filters());
+    if (filter && random.chance(30)) {
+        return new DeleteFilter(screen->filters(), filter, false);
+    }
+    if (filter && random.chance(20)) {
+        return new DeleteFiltersWithObjects({filter}, screen, random.chance(50), false);
+    }
+    QStringList names = screen->elements()->listItemNames();
+    names.removeIf([this](const QString &) { return random.chance(90); });
+    DesignerObject *made = make(u"FilterElement"_s, newName(u"filter"_s));
+    made->changePropertyValue(made->getProperty(u"elements"), ListInfo(names).toString());
+    return new AddObject(screen->filters(), made, false);
+}
+
+//! Composites: what is pasted, a screen from a template, the new name of the project.
+UndoCommand *ModelTest::manyCommand(Screen *screen)
+{
+    QImage picture;
+    DesignerObject *image = make(u"ImageResource"_s, newName(u"pasted"_s) + u".png"_s);
+    image->changePropertyValue(image->getProperty(u"originalLocation"), newPicture(picture));
+    const QList<DesignerObject *> elements{make(u"Text"_s, newName(u"pasted"_s)),
+                                           make(u"GroupElement"_s, newName(u"pasted"_s))};
+    DesignerObject *variable = make(u"NumberVariable"_s, newName(u"pasted"_s));
+    auto *paste = new AddElementsWithResources(screen, elements, {image}, {variable}, true);
+    if (random.chance(60)) {
+        return paste;
+    }
+    delete paste;
+    return random.chance(50)
+               ? static_cast<UndoCommand *>(new RenameProject(project.get(), newName(u"Model"_s)))
+               : new AddScreenAndElements(
+                   make(u"Screen"_s, newName(u"Screen"_s)), project.get(), 0,
+                   new AddVariable(make(u"StringVariable"_s, newName(u"variable"_s)), project.get()));
+}
+
 UndoCommand *ModelTest::imageCommand()
 {
     DesignerObject *image = itemOf(project->imageResources());
     const int kind = random.below(5);
-    const QString file = folder.filePath(newName(u"picture"_s) + u".png"_s);
-    QImage picture(4, 4, QImage::Format_RGB32);
-    picture.fill(QRgb(lastNumber * 7919));
-    picture.save(file);
+    QImage picture;
+    const QString file = newPicture(picture);
     if (kind == 0 || !image) {
         Element *user = anyElement(u"Image"_s);
         return new AddImage(make(u"ImageResource"_s, newName(u"added"_s) + u".png"_s), file, project.get(),
@@ -232,11 +305,10 @@ UndoCommand *ModelTest::anyCommand()
     Screen *screen = anyScreen();
     Element *element = anyElement();
     DesignerObject *variable = itemOf(project->variables());
-    switch (random.below(14)) {
+    switch (random.below(18)) {
     case 0: {
-        const Element *like = anyElement();
-        return like ? new AddObject(screen->elements(), like->className(), newName(u"added"_s), true)
-                    : nullptr;
+        return new AddObject(screen->elements(), random.oneOf(classesOf(u"Element"_s)), newName(u"added"_s),
+                             true);
     }
     case 1:
         return element ? new DeleteObject(element, true) : nullptr;
@@ -251,6 +323,8 @@ UndoCommand *ModelTest::anyCommand()
                    ? new ChangeProperty(element->idProperty(), named(element, newName(u"renamed"_s)), true)
                    : nullptr;
     case 5:
+    case 14:
+    case 15:
         return groupCommand();
     case 6: {
         DesignerObject *other = itemOf(screen->elements());
@@ -261,7 +335,7 @@ UndoCommand *ModelTest::anyCommand()
     case 8:
         return random.chance(30)
                    ? static_cast<UndoCommand *>(new ChangeConfiguration(project.get(), random.oneOf(models)))
-                   : valueCommand(element);
+                   : valueCommand();
     case 9:
         if (project->screens()->listItemCount() > 2 && random.chance(20)) {
             return new DeleteScreen(screen);
@@ -272,11 +346,17 @@ UndoCommand *ModelTest::anyCommand()
     case 10:
         return variable && random.chance(40)
                    ? static_cast<UndoCommand *>(new DeleteVariable(variable))
-                   : new AddVariable(make(u"NumberVariable"_s, newName(u"variable"_s)), project.get());
+                   : new AddVariable(
+                       make(random.oneOf(classesOf(u"ProjectVariable"_s)), newName(u"variable"_s)),
+                       project.get());
     case 11:
         return variable ? new RenameVariable(variable, newName(u"renamed"_s)) : nullptr;
+    case 12:
+        return filterCommand(screen);
+    case 13:
+        return manyCommand(screen);
     default:
-        return valueCommand(element);
+        return valueCommand();
     }
 }
 
