@@ -6,7 +6,9 @@
 #include "corvex/core/ItemList.h"
 #include "corvex/core/KeptItemRecorder.h"
 #include "corvex/core/ObjectXmlWriter.h"
+#include "corvex/core/XmlHandler.h"
 #include "corvex/core/XmlInput.h"
+#include "corvex/core/XmlTokenizer.h"
 
 #include <QBuffer>
 
@@ -33,13 +35,6 @@ bool equals(QStringView text, const char *utf8)
         }
     }
     return *utf8 == 0;
-}
-
-//! Whether there is nothing but what lies between the lines of a file.
-bool isBlank(const char *text, int length)
-{
-    return std::all_of(text, text + length,
-                       [](char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; });
 }
 
 } // namespace
@@ -74,7 +69,7 @@ private:
 
     void startElement(const char *name, const char **attributes) override;
     void endElement(const char *name) override;
-    void characters(const char *text, int length) override;
+    void characters(QByteArrayView text, bool isBlank) override;
     void comment() override;
     void processingInstruction() override;
 
@@ -139,7 +134,7 @@ void ObjectXmlReader::Private::dropUnfinished()
 void ObjectXmlReader::Private::note(ReadNote::Kind kind, const QString &message)
 {
     if (notes.count(kind)) {
-        notes.append({kind, input.line(), input.column(), place(), message});
+        notes.append({kind, input.place().line, input.place().column, place(), message});
     }
 }
 
@@ -207,14 +202,14 @@ void ObjectXmlReader::Private::openRoot(const char *name)
 {
     const QString className = QString::fromUtf8(name);
     if (!createsRoot && className != root->className()) {
-        input.fail(u"The root element is \"%1\" where \"%2\" is expected."_s.arg(XmlInput::excerpt(name),
+        input.fail(u"The root element is \"%1\" where \"%2\" is expected."_s.arg(XmlTokenizer::excerpt(name),
                                                                                  root->className()));
         return;
     }
     if (createsRoot) {
         root = makeObject(className);
         if (!root) {
-            input.fail(u"No object of the class \"%1\" can be made."_s.arg(XmlInput::excerpt(name)));
+            input.fail(u"No object of the class \"%1\" can be made."_s.arg(XmlTokenizer::excerpt(name)));
             return;
         }
     }
@@ -227,7 +222,7 @@ void ObjectXmlReader::Private::openInObject(const Frame &frame, const char *name
     if (qstrcmp(name, "Properties") == 0) {
         push(Context::Properties, frame.object);
     } else {
-        skip(u"The element \"%1\" is not known here."_s.arg(XmlInput::excerpt(name)));
+        skip(u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
     }
 }
 
@@ -235,7 +230,7 @@ void ObjectXmlReader::Private::openInProperties(Frame &frame, const char *name, 
 {
     DesignerObject *object = frame.object;
     if (qstrcmp(name, "Property") != 0) {
-        skip(u"The element \"%1\" is not known here."_s.arg(XmlInput::excerpt(name)));
+        skip(u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
         return;
     }
     const char *id = nullptr;
@@ -247,7 +242,7 @@ void ObjectXmlReader::Private::openInProperties(Frame &frame, const char *name, 
             value = attributes[1];
         } else {
             note(ReadNote::Dropped,
-                 u"The attribute \"%1\" is not known here."_s.arg(XmlInput::excerpt(attributes[0])));
+                 u"The attribute \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(attributes[0])));
         }
     }
     bool isSecond = false;
@@ -258,7 +253,7 @@ void ObjectXmlReader::Private::openInProperties(Frame &frame, const char *name, 
         return;
     }
     if (index < 0 || !object->properties().at(index)->hasFlag(StoredFlag)) {
-        skip(id ? u"The property \"%1\" is not known."_s.arg(XmlInput::excerpt(id))
+        skip(id ? u"The property \"%1\" is not known."_s.arg(XmlTokenizer::excerpt(id))
                 : u"A property has no name."_s);
         return;
     }
@@ -316,7 +311,7 @@ void ObjectXmlReader::Private::openInProperty(Frame &frame, const char *name)
     const bool opensList = qstrcmp(name, "List") == 0 && frame.property->isList();
     const bool opensObject = qstrcmp(name, "Object") == 0 && frame.property->isObject();
     if ((!opensList && !opensObject) || frame.isAnswered) {
-        skip(u"The element \"%1\" is not known in the property \"%2\"."_s.arg(XmlInput::excerpt(name),
+        skip(u"The element \"%1\" is not known in the property \"%2\"."_s.arg(XmlTokenizer::excerpt(name),
                                                                               frame.property->id()));
         return;
     }
@@ -363,9 +358,9 @@ void ObjectXmlReader::Private::openItem(const Frame &frame, const char *name, co
         push(Context::Object, item);
         return;
     }
-    qWarning("loadListPropertyFromXml invalid class name %s", qUtf8Printable(XmlInput::excerpt(name)));
+    qWarning("loadListPropertyFromXml invalid class name %s", qUtf8Printable(XmlTokenizer::excerpt(name)));
     note(ReadNote::Kept,
-         u"No plug-in knows the class \"%1\"; the item is kept as it is."_s.arg(XmlInput::excerpt(name)));
+         u"No plug-in knows the class \"%1\"; the item is kept as it is."_s.arg(XmlTokenizer::excerpt(name)));
     recorder.start(className);
     recorder.open(name, attributes);
     push(Context::Kept, frame.object, frame.property);
@@ -377,7 +372,7 @@ void ObjectXmlReader::Private::openObjectValue(const char *name)
     if (DesignerObject *object = makeObject(className)) {
         push(Context::Object, object);
     } else {
-        skip(u"No plug-in knows the class \"%1\"."_s.arg(XmlInput::excerpt(name)));
+        skip(u"No plug-in knows the class \"%1\"."_s.arg(XmlTokenizer::excerpt(name)));
     }
 }
 
@@ -464,16 +459,16 @@ void ObjectXmlReader::Private::enableValidation(DesignerObject *object)
     }
 }
 
-void ObjectXmlReader::Private::characters(const char *text, int length)
+void ObjectXmlReader::Private::characters(QByteArrayView text, bool isBlank)
 {
     if (frames.isEmpty()) {
         return;
     }
     const Frame &frame = frames.constLast();
     if (frame.context == Context::Kept) {
-        recorder.addText({text, length});
-    } else if (frame.object && !isBlank(text, length)) {
-        const QByteArrayView words = QByteArrayView(text, length).trimmed();
+        recorder.addText(text);
+    } else if (frame.object && !isBlank) {
+        const QByteArrayView words = text.trimmed();
         note(ReadNote::Dropped, u"Text between elements is not kept: \"%1\"."_s.arg(
                                     QString::fromUtf8(words.first(std::min<qsizetype>(words.size(), 80)))));
     }
@@ -533,12 +528,12 @@ QString ObjectXmlReader::errorString() const
 
 qint64 ObjectXmlReader::errorLine() const
 {
-    return d->input.errorLine();
+    return d->input.errorPlace().line;
 }
 
 qint64 ObjectXmlReader::errorColumn() const
 {
-    return d->input.errorColumn();
+    return d->input.errorPlace().column;
 }
 
 } // namespace Halvane::Corvex::Designer
