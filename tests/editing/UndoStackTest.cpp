@@ -102,13 +102,17 @@ TEST(UndoStackTest, CandidatesDieOnceAndOnlyOutOfTheModel)
     QPointer<DesignerObject> back(make("Screen"));
     QObject model;
     back->setParent(&model);
+    auto *gone = make("Screen");
     {
         UndoStack stack;
-        for (DesignerObject *candidate : {lost.data(), lost.data(), back.data()}) {
+        for (DesignerObject *candidate : {lost.data(), lost.data(), back.data(), gone}) {
             auto *step = new Step;
             step->candidate = candidate;
+            step->active = candidate;
             stack.push(step);
         }
+        delete gone;
+        EXPECT_EQ(stack.activeItem(), nullptr);
     }
     EXPECT_FALSE(lost);
     EXPECT_TRUE(back);

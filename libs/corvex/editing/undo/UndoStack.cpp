@@ -41,11 +41,17 @@ void UndoStack::startOver()
     }
 }
 
+DesignerObject *UndoStack::activeItem() const
+{
+    return m_activeItem;
+}
+
 void UndoStack::deleteCandidates()
 {
     while (!m_deletionCandidates.isEmpty()) {
-        DesignerObject *candidate = m_deletionCandidates.takeFirst();
-        if (!candidate->parent()) {
+        // What was put back may have gone with the model since.
+        const QPointer<DesignerObject> candidate = m_deletionCandidates.takeFirst();
+        if (candidate && !candidate->parent()) {
             delete candidate;
         }
     }

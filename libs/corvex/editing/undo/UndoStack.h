@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QList>
+#include <QPointer>
 #include <QUndoStack>
 
 namespace Halvane::Corvex::Designer {
@@ -44,7 +45,8 @@ public:
     bool isDeleteScreen() const { return m_isDeleteScreen; }
     bool isDeleteImage() const { return m_isDeleteImage; }
     bool isDeleteVariable() const { return m_isDeleteVariable; }
-    DesignerObject *activeItem() const { return m_activeItem; }
+    //! Null also when the object is gone meanwhile.
+    DesignerObject *activeItem() const;
 
 signals:
     void activeItemChanged(Halvane::Corvex::Designer::DesignerObject *item);
@@ -54,9 +56,9 @@ private:
     void onIndexChanged(int index);
     const UndoCommand *decidingCommand(int index) const;
 
-    QList<DesignerObject *> m_deletionCandidates;
+    QList<QPointer<DesignerObject>> m_deletionCandidates;
     const UndoCommand *m_lastPushed = nullptr;
-    DesignerObject *m_activeItem = nullptr;
+    QPointer<DesignerObject> m_activeItem;
     int m_previousIndex = 0;
     int m_currentIndex = 0;
     bool m_isDeleteScreen = false;
