@@ -119,6 +119,10 @@ TEST_F(ScreenTest, FreeNamesCountFromOneAndUseWhatWasFreed)
     EXPECT_EQ(screen->uniqueElementName(u"pump1"_s), u"pump11"_s);
     first->setIdName(u"motor"_s);
     EXPECT_EQ(screen->uniqueElementName(u"pump"_s), u"pump1"_s);
+    const DesignerObject *variable = add(*project, project->variables(), u"NumberVariable"_s, u"pump1"_s);
+    EXPECT_EQ(screen->uniqueElementName(u"pump"_s), u"pump3"_s);
+    delete variable;
+    EXPECT_EQ(screen->uniqueElementName(u"pump"_s), u"pump1"_s);
 }
 
 TEST_F(ScreenTest, NamesOfElementsObeyTheirRulesInOrder)

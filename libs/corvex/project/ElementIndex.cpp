@@ -46,14 +46,18 @@ void ElementIndex::clear()
     *this = {};
 }
 
-QString ElementIndex::freeName(const QString &base)
+QString ElementIndex::freeName(const QString &base, const std::function<bool(const QString &name)> &isTaken)
 {
-    int &number = m_firstFree[base];
-    number = std::max(number, 1);
-    while (m_byName.contains(base + QString::number(number))) {
-        ++number;
+    int &firstFree = m_firstFree[base];
+    firstFree = std::max(firstFree, 1);
+    for (int number = firstFree;; ++number) {
+        const QString name = base + QString::number(number);
+        if (m_byName.contains(name)) {
+            firstFree += number == firstFree ? 1 : 0;
+        } else if (!isTaken || !isTaken(name)) {
+            return name;
+        }
     }
-    return base + QString::number(number);
 }
 
 QList<const DesignerObject *> ElementIndex::withChannel(const QString &className,

@@ -6,6 +6,8 @@
 #include <QMultiHash>
 #include <QString>
 
+#include <functional>
+
 namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
@@ -25,8 +27,8 @@ public:
 
     QList<Element *> named(const QString &name) const { return m_byName.values(name); }
     qsizetype count(const QString &name) const { return m_byName.count(name); }
-    //! The first of base1, base2, ... that no element bears.
-    QString freeName(const QString &base);
+    //! The first of base1, base2, ... that no element bears and that is not taken otherwise.
+    QString freeName(const QString &base, const std::function<bool(const QString &name)> &isTaken = {});
 
     //! The hardware elements of that class with that channel; worked out anew after channels have changed.
     QList<const DesignerObject *> withChannel(const QString &className, const QString &channel) const;

@@ -24,7 +24,6 @@
 #include <QAction>
 #include <QFileInfo>
 #include <QIcon>
-#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -353,17 +352,19 @@ void Project::generateRuntimeFiles()
 
 QString Project::generateUniqueName(const QString &stem) const
 {
-    QSet<QString> used;
-    for (const SharedProperty &list : {m_variables, m_screens}) {
-        for (const DesignerObject *object : list->listItems(true)) {
-            used.insert(object->getIdName());
-        }
-    }
+    const QList<DesignerObject *> screens = m_screens->listItems();
+    const auto isTaken = [&](const QString &name) {
+        return m_variables->hasListItem(name) || m_screens->hasListItem(name)
+               || std::any_of(screens.begin(), screens.end(), [&name](const DesignerObject *screen) {
+                      return static_cast<const Screen *>(screen)->elementIndex().count(name) > 0;
+                  });
+    };
+    QString name;
     int number = 1;
-    while (used.contains(u"%1%2"_s.arg(stem, QString::number(number)))) {
-        ++number;
-    }
-    return u"%1%2"_s.arg(stem, QString::number(number));
+    do {
+        name = u"%1%2"_s.arg(stem, QString::number(number++));
+    } while (isTaken(name));
+    return name;
 }
 
 QString Project::generateUniqueName(const QString &folder, const QString &name)

@@ -153,6 +153,17 @@ Element *Screen::getElement(const QString &name) const
     return nullptr;
 }
 
+QString Screen::uniqueElementName(const QString &base)
+{
+    return m_index.freeName(base, [this](const QString &name) { return !isFreeName(name); });
+}
+
+bool Screen::isFreeName(const QString &name) const
+{
+    return m_index.count(name) == 0 && name != getIdName()
+           && !(project() && project()->variables()->hasListItem(name));
+}
+
 QList<Element *> Screen::getElementsOfType(const QString &className) const
 {
     QList<Element *> found;

@@ -42,7 +42,9 @@ public:
     //! All elements of that class, members of groups included.
     QList<Element *> getElementsOfType(const QString &className) const;
     //! A name for a new element: the class's base name and the first free number.
-    QString uniqueElementName(const QString &base) { return m_index.freeName(base); }
+    QString uniqueElementName(const QString &base);
+    //! Whether nothing bears the name that a new element of this screen must not be called like.
+    bool isFreeName(const QString &name) const;
 
     RuntimePropertyList runtimeProperties() const;
 

@@ -6,6 +6,7 @@
 #include "corvex/editing/commands/EditStep.h"
 #include "corvex/editing/commands/GroupIndexes.h"
 #include "corvex/project/GroupElement.h"
+#include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 
 using namespace Qt::StringLiterals;
@@ -38,10 +39,13 @@ DesignerObject *AddObject::make(const SharedProperty &list, const QString &class
     const DesignerObject *owner = list->parentObject();
     auto *screen = kindCast<Screen>(const_cast<DesignerObject *>(owner));
     screen = screen ? screen : owner->screen();
+    const Project *project = owner->project();
     if (!name.isEmpty()) {
         object->setIdName(name);
     } else if (screen) {
         object->setIdName(screen->uniqueElementName(object->baseName()));
+    } else if (project && (list == project->variables() || list == project->screens())) {
+        object->setIdName(project->generateUniqueName(object->baseName()));
     } else {
         int number = 1;
         while (list->hasListItem(object->baseName() + QString::number(number))) {

@@ -99,7 +99,7 @@ bool ImageResource::addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, c
             QString elementName;
             do {
                 elementName = element->baseName() + QString::number(number++);
-            } while (screen->elementIndex().count(elementName) > 0);
+            } while (!screen->isFreeName(elementName));
             element->setIdName(elementName);
             elements.append(element);
         }
