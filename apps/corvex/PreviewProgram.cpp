@@ -6,6 +6,11 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <csignal>
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
@@ -15,6 +20,10 @@ PreviewProgram::PreviewProgram(const Call &call)
 {
     m_process.setProcessChannelMode(QProcess::ForwardedChannels);
     m_process.setInputChannelMode(QProcess::ForwardedInputChannel);
+#ifdef Q_OS_LINUX
+    // A window without the tool that it belongs to would stay for good.
+    m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
+#endif
     m_process.setProgram(QDir::cleanPath(QCoreApplication::applicationDirPath()
                                          + u"/" CORVEX_PROGRAM_TO_LIBRARY "/corvex-preview"_s));
 }

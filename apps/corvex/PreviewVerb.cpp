@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/common/TemporaryFolder.h"
+
 #include "Call.h"
 #include "PreviewProgram.h"
 #include "ProjectBuild.h"
@@ -10,7 +12,6 @@
 #include <QFileInfo>
 #include <QFileSystemWatcher>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <csignal>
@@ -72,7 +73,7 @@ void follow(const Call &call, const QString &folder, PreviewProgram &program)
 
 ExitCode run(const Call &call)
 {
-    const QTemporaryDir temporary;
+    const Common::TemporaryFolder temporary(u"corvex-preview"_s);
     const bool isBuild = QFileInfo(call.argument(0)).isDir();
     const QString folder = isBuild ? call.argument(0) : temporary.filePath(u"build"_s);
     if (!isBuild) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/FileHelper.h"
 #include "corvex/common/SafeFile.h"
+#include "corvex/common/TemporaryFolder.h"
 
 #include "support/FullDisk.h"
 
@@ -12,12 +13,14 @@
 #include <QSize>
 #include <QTemporaryDir>
 
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <limits>
 
 using namespace Qt::StringLiterals;
 using Halvane::Corvex::Common::FileHelper;
 using Halvane::Corvex::Common::SafeFile;
+using Halvane::Corvex::Common::TemporaryFolder;
 
 namespace {
 
@@ -153,6 +156,35 @@ TEST_F(FileHelperTest, TemporaryLocationIsOurs)
     const QFileInfo info(FileHelper::getStandardTemporatyLocation());
     EXPECT_TRUE(info.isDir() && info.isWritable());
     EXPECT_TRUE(info.absoluteFilePath().startsWith(QDir::tempPath()));
+}
+
+TEST_F(FileHelperTest, TemporaryFoldersOfKilledProgramsGo)
+{
+    const auto count = [] { return QDir::temp().entryList({u"corvex-kept-test-*"_s}, QDir::Dirs).size(); };
+    const auto leave = [](const char *name, const QByteArray &lock, bool isOld) {
+        const QString path = QDir::temp().filePath(u"corvex-kept-test-"_s + QString::fromLatin1(name));
+        EXPECT_TRUE(QDir().mkpath(path));
+        if (!lock.isEmpty()) {
+            EXPECT_TRUE(FileHelper::writeFile(path + u"/.lock"_s, lock));
+        }
+        if (isOld) {
+            using namespace std::chrono_literals;
+            std::filesystem::last_write_time(path.toStdString(),
+                                             std::filesystem::file_time_type::clock::now() - 2h);
+        }
+        return path;
+    };
+    leave("killed", "2147483646\nnobody\n\n", false); // a process with that number cannot be
+    leave("oldone", {}, true);
+    const QString young = leave("abcdef", {}, false);
+    {
+        const TemporaryFolder first(u"corvex-kept-test"_s);
+        EXPECT_TRUE(QFileInfo(first.filePath(u"."_s)).isDir());
+        const TemporaryFolder second(u"corvex-kept-test"_s);
+        EXPECT_EQ(count(), 3);
+    }
+    EXPECT_EQ(count(), 1);
+    EXPECT_TRUE(QDir(young).removeRecursively());
 }
 
 TEST_F(FileHelperTest, VariantBytes)

@@ -173,6 +173,33 @@ TEST(PreviewSession, opensWhatIsLeftOfABuild)
     TestPanel panel(build);
     EXPECT_TRUE(panel.isOpen);
     EXPECT_THAT(panel.problems(), ElementsAre(startingWith("config.kdrc: The file is cut off")));
+
+    build.writeConfiguration(QString(), u"Plant-one-4.0.0"_s);
+    EXPECT_THAT(TestPanel(build).problems(), IsEmpty());
+    build.writeConfiguration(QString(), u"Plant-one-4.10.0"_s);
+    EXPECT_THAT(TestPanel(build).problems(),
+                ElementsAre(startingWith("config.kdrc: The build was made by version 4.10.0, ")));
+}
+
+TEST(PreviewSession, survivesDocumentsThatAreNotGenerated)
+{
+    static constexpr std::pair<const char *, const char *> documents[] = {
+        {"", "Main: File is empty"},
+        {"import QtQuick 1.1\nimport QtQml 2.15 as Q\nQ.QtObject {}",
+         "qml_Main.qml: The document is none of a screen."},
+        {"import QtQuick 2.0 as Q\nQ.Item { Q.Loader { source: \"qml_Main.qml\" } }",
+         "Main: Maximum call stack size exceeded."},
+        {"import QtQuick 2.0 as Q\nQ.Item { objectName: \"Main\"; x: { while (true) {} } }",
+         "Main: A script took longer than 300 ms and was stopped."},
+        {"import QtQuick 2.0 as Q\nQ.Item { objectName: \"Main\"; width: 1e9 }",
+         "Main: The screen is larger than "},
+    };
+    for (const auto &[document, problem] : documents) {
+        TestBuild build;
+        build.writeConfiguration();
+        build.write(u"qml_Main.qml"_s, document);
+        EXPECT_THAT(TestPanel(build).problems(), Contains(startingWith(problem))) << document;
+    }
 }
 
 TEST(PreviewSession, keepsWhatOutlivesTheDevice)

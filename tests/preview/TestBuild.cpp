@@ -2,6 +2,7 @@
 #include "TestBuild.h"
 
 #include "corvex/common/FileHelper.h"
+#include "corvex/common/TextHelper.h"
 
 #include <QFile>
 
@@ -41,11 +42,12 @@ void TestBuild::addVariable(const QString &name, Common::EnumHelper::VariableTyp
         name, QVariantMap{{u"type"_s, int(type)}, {u"value"_s, value}, {u"persistent"_s, isPersistent}});
 }
 
-void TestBuild::writeConfiguration(const QString &defaultScreen) const
+void TestBuild::writeConfiguration(const QString &defaultScreen, const QString &tag) const
 {
-    Common::FileHelper::variantToFile(
-        QVariantMap{{u"defaultScreen"_s, defaultScreen}, {u"variables"_s, m_variables}},
-        path(u"config.kdrc"_s), false);
+    Common::FileHelper::variantToFile(QVariantMap{{u"defaultScreen"_s, defaultScreen},
+                                                  {u"version"_s, Common::TextHelper::encryptString(tag)},
+                                                  {u"variables"_s, m_variables}},
+                                      path(u"config.kdrc"_s), false);
 }
 
 TestPanel::TestPanel(const TestBuild &build, const QString &stateFile)

@@ -25,8 +25,8 @@ public:
     void addScreen(const QByteArray &name, const QByteArray &body) const;
     void addVariable(const QString &name, Common::EnumHelper::VariableType type, const QVariant &value,
                      bool isPersistent = false);
-    //! Writes config.kdrc with all variables.
-    void writeConfiguration(const QString &defaultScreen = QString()) const;
+    //! Writes config.kdrc with all variables. A tag is "Plant-4.0.0".
+    void writeConfiguration(const QString &defaultScreen = QString(), const QString &tag = QString()) const;
 
 private:
     QTemporaryDir m_folder;

@@ -2,11 +2,13 @@
 #include "corvex/preview/BuildFolder.h"
 
 #include "corvex/common/FileHelper.h"
+#include "corvex/common/TextHelper.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QVersionNumber>
 
 using namespace Qt::StringLiterals;
 
@@ -39,7 +41,7 @@ bool BuildFolder::open(const QString &path, QString *error)
 bool BuildFolder::findScreens()
 {
     const QDir folder(m_path);
-    for (const QString &name : folder.entryList({u"qml_*.qml"_s}, QDir::Files, QDir::Name)) {
+    for (const QString &name : folder.entryList({u"qml_?*.qml"_s}, QDir::Files, QDir::Name)) {
         QFile file(folder.filePath(name));
         if (!file.open(QIODevice::ReadOnly)) {
             m_problems.append({name, file.errorString()});
@@ -66,11 +68,25 @@ void BuildFolder::readConfiguration()
              u"The file is cut off, or none of a build, so there are no variables. Build the project anew."_s});
         return;
     }
+    checkVersion(configuration.value(u"version"_s).toString());
     m_variables = configuration.value(u"variables"_s).toMap();
     m_defaultScreen = configuration.value(u"defaultScreen"_s).toString();
     if (!m_defaultScreen.isEmpty() && !m_screens.contains(m_defaultScreen)) {
         m_problems.append(
             {configurationFile, u"The default screen \"%1\" is missing."_s.arg(m_defaultScreen)});
+    }
+}
+
+void BuildFolder::checkVersion(const QString &tag)
+{
+    const QString text = Common::TextHelper::decryptString(tag);
+    const QString version = text.section(u'-', -1);
+    const QString known = QStringLiteral(CORVEX_BUILD_VERSION);
+    if (QVersionNumber::fromString(version) > QVersionNumber::fromString(known)) {
+        m_problems.append(
+            {configurationFile,
+             u"The build was made by version %1, and this preview knows builds up to version %2. It "
+             "may show and do other things than the device."_s.arg(version, known)});
     }
 }
 

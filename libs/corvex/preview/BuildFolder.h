@@ -37,6 +37,8 @@ public:
 private:
     bool findScreens();
     void readConfiguration();
+    //! The text of the configuration file that tells what made the build: "PumpStation-4.0.0", encrypted.
+    void checkVersion(const QString &tag);
 
     QString m_path;
     QMap<QString, ScreenFile> m_screens;

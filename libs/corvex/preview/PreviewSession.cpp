@@ -133,7 +133,12 @@ QString PreviewSession::locate(const QString &file, int line) const
 
 void PreviewSession::takeWarnings(const QList<QQmlError> &warnings)
 {
+    // While an engine is interrupted, nothing that is evaluated has a value.
+    const bool isInterrupted = m_panel->engine().isInterrupted();
     for (const QQmlError &warning : warnings) {
+        if (isInterrupted && warning.url().scheme() == "qrc"_L1) {
+            continue;
+        }
         m_panel->problems().report(locate(warning.url().path(), warning.line()), warning.description());
     }
 }
@@ -178,13 +183,22 @@ QQuickItem *PreviewSession::load(const QString &id)
     takeWarnings(component.errors());
     auto *item = qobject_cast<QQuickItem *>(object.get());
     if (!item) {
+        if (object) {
+            component.completeCreate();
+            m_panel->problems().report(id + u".qml"_s, u"The document is none of a screen."_s);
+        }
         return nullptr;
     }
     object.release();
     item->setParent(m_frame.get());
     item->setParentItem(m_frame.get());
     component.completeCreate();
-    m_frame->setSize(item->size().boundedTo(QSizeF(mostScreenSide, mostScreenSide)));
+    const QSizeF most(mostScreenSide, mostScreenSide);
+    m_frame->setSize(item->size().boundedTo(most));
+    if (m_frame->size() != item->size()) {
+        m_panel->report(
+            item, u"The screen is larger than %1 pixels, so only a part is shown."_s.arg(mostScreenSide));
+    }
     return item;
 }
 

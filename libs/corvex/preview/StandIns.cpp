@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/preview/StandIns.h"
 
+#include "corvex/common/TemporaryFolder.h"
 #include "corvex/preview/BuildFolder.h"
 #include "corvex/preview/elements/Buttons.h"
 #include "corvex/preview/elements/Channels.h"
@@ -9,7 +10,6 @@
 #include "corvex/preview/elements/PlainElement.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 #include <QUrl>
 #include <qqml.h>
 
@@ -165,7 +165,7 @@ QStringList StandIns::addUnknownClasses(const BuildFolder &build)
         return {};
     }
     // The engine reads types from files alone.
-    static const QTemporaryDir folder;
+    static const Common::TemporaryFolder folder(u"corvex-classes"_s);
     for (const auto &[name, properties] : classes.asKeyValueRange()) {
         QFile file(folder.filePath(name + u".qml"_s));
         if (!file.open(QIODevice::WriteOnly)) {
