@@ -89,7 +89,9 @@ problems nothing is printed; with any the exit code is 1.
 
 With --screens, the screens are run as the device would run them: texts that do not fit,
 elements that are outside of the screen or wholly hidden by others, and all that goes wrong
-while they run are problems, too.)"_s;
+while they run are problems, too. They are looked at as they start, with the first values of
+their variables; what hides others is a rectangle or a picture without transparent parts. A
+script of "corvex preview" looks at everything else.)"_s;
         },
     .example = "corvex check examples/PumpStation/PumpStation.kdproj",
     .opensProjects = true,

@@ -224,6 +224,10 @@ TEST(PreviewSession, looksAtItsScreens)
 {
     TestBuild build;
     build.writeConfiguration();
+    QImage picture(8, 8, QImage::Format_ARGB32);
+    picture.fill(Qt::transparent);
+    ASSERT_TRUE(picture.save(build.path(u"frame.png"_s)));
+    ASSERT_TRUE(picture.convertToFormat(QImage::Format_RGB32).save(build.path(u"photo.png"_s)));
     build.addScreen("Main", R"(
         Text { objectName: "fits"; text: "a"; width: 50; height: 30; font.pixelSize: 12 }
         Text { objectName: "wide"; text: "much too much"; width: 50; height: 30; font.pixelSize: 12; y: 30 }
@@ -240,6 +244,9 @@ TEST(PreviewSession, looksAtItsScreens)
         Rectangle { objectName: "round"; x: 100; y: 40; width: 20; height: 20; radius: 10 }
         Rectangle { objectName: "turned"; x: 100; y: 40; width: 20; height: 20; rotation: 45 }
         Rectangle { objectName: "away"; x: 300; width: 20; height: 20; visible: false }
+        Rectangle { objectName: "framed"; x: 150; y: 40; width: 20; height: 20 }
+        Image { objectName: "frame"; x: 150; y: 40; width: 20; height: 20; source: "frame.png" }
+        Image { objectName: "photo"; x: 150; y: 40; width: 20; height: 20; source: "photo.png" }
     )");
     TestPanel panel(build);
     QStringList found;
@@ -250,7 +257,9 @@ TEST(PreviewSession, looksAtItsScreens)
                                    startingWith("Main.gone: The element is outside of the screen."),
                                    startingWith("Main.cut: A part"),
                                    startingWith("Main.group.hidden: Other elements hide"),
-                                   startingWith("Main.group.below: Other elements hide")));
+                                   startingWith("Main.group.below: Other elements hide"),
+                                   startingWith("Main.frame: Other elements hide"),
+                                   startingWith("Main.framed: Other elements hide")));
 }
 
 } // namespace Halvane::Corvex::Preview

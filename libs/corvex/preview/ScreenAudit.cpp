@@ -4,6 +4,10 @@
 #include "corvex/preview/Panel.h"
 
 #include <QColor>
+#include <QImageReader>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlFile>
 #include <QQuickItem>
 
 #include <cmath>
@@ -48,6 +52,22 @@ bool isUpright(const QQuickItem *item, const QQuickItem *screen)
         }
     }
     return true;
+}
+
+//! A picture that fills the item and has no transparent parts.
+bool isOpaqueImage(const QQuickItem *item)
+{
+    constexpr int stretched = 0;
+    const QVariant fillMode = item->property("fillMode");
+    if (!fillMode.isValid() || fillMode.toInt() != stretched) {
+        return false;
+    }
+    const QQmlContext *context = qmlContext(item);
+    const QUrl source = item->property("source").toUrl();
+    const QImageReader reader(QQmlFile::urlToLocalFileOrQrc(context ? context->resolvedUrl(source) : source));
+    const QImage::Format format = reader.imageFormat();
+    return format != QImage::Format_Invalid
+           && QImage::toPixelFormat(format).alphaUsage() == QPixelFormat::IgnoresAlpha;
 }
 
 QString size(double width, double height)
@@ -120,7 +140,8 @@ void ScreenAudit::checkPlace(const Drawn &drawn)
 QRect ScreenAudit::opaquePart(const Drawn &drawn) const
 {
     const QVariant radius = drawn.item->property("radius");
-    const bool isFilled = radius.isValid() && drawn.item->property("color").value<QColor>().alpha() == 255;
+    const bool isFilled = radius.isValid() ? drawn.item->property("color").value<QColor>().alpha() == 255
+                                           : isOpaqueImage(drawn.item);
     if (!isFilled || effectiveOpacity(drawn.item, m_screen) < 1 || !isUpright(drawn.item, m_screen)) {
         return {};
     }

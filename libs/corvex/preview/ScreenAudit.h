@@ -12,8 +12,8 @@ class QQuickItem;
 namespace Halvane::Corvex::Preview {
 
 /*! What a person would find wrong when looking at a screen: texts that do not fit, elements that stand
-   outside of the screen, and elements that others cover wholly. Elements that are not visible at the moment
-   are left alone. */
+   outside of the screen, and elements that rectangles and pictures without transparent parts cover wholly.
+   Elements that are not visible at the moment are left alone. */
 class ScreenAudit
 {
 public:
