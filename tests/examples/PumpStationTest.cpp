@@ -88,6 +88,32 @@ TEST_F(PumpStationTest, HoldsAllThatThereIsToShow)
     }
 }
 
+//! What an expression gives is looked at by the tour, which runs with the tests of the command line.
+TEST_F(PumpStationTest, ItsTourExpectsEachBinding)
+{
+    static const QMap<QString, QString> targets{{u"textBinding"_s, u"text"_s},
+                                                {u"colorBinding"_s, u"color"_s},
+                                                {u"visibleBinding"_s, u"visible"_s},
+                                                {u"rotationBinding"_s, u"rotation"_s},
+                                                {u"yBinding"_s, u"y"_s},
+                                                {u"initValue"_s, u"value"_s}};
+    const QString tour = QString::fromUtf8(bytesOf(examples + u"/PumpStation/tour.preview"_s));
+    const std::unique_ptr<Project> project = load(projectFile);
+    int bindings = 0;
+    for (const DesignerObject *object : project->screens()->listItems(true)) {
+        for (const SharedProperty &property : object->properties()) {
+            if (targets.contains(property->id()) && !property->valueString().isEmpty()
+                && property->isKindOfClass(u"GeneralDataListProperty"_s)) {
+                const QString line =
+                    u"expect %1.%2 "_s.arg(object->getIdName(), targets.value(property->id()));
+                EXPECT_TRUE(tour.contains(line)) << qPrintable(line);
+                ++bindings;
+            }
+        }
+    }
+    EXPECT_GT(bindings, 20);
+}
+
 TEST_F(PumpStationTest, ItsScreensParse)
 {
     const std::unique_ptr<Project> project = load(projectFile);
