@@ -2,7 +2,7 @@
 #include "corvex/core/ItemList.h"
 #include "corvex/core/ObjectXmlReader.h"
 #include "corvex/core/ObjectXmlWriter.h"
-#include "corvex/core/XmlText.h"
+#include "corvex/core/XmlBuffer.h"
 
 #include "TestObjects.h"
 
@@ -228,9 +228,9 @@ TEST_F(Xml, WhatNoFileCanHoldNeverSpoilsAFile)
 {
     const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
     EXPECT_FALSE(owner->set("text", u"a\u0001b"_s));
-    QByteArray bytes;
-    XmlText::appendAttribute(bytes, QString(u"a\u0001\u000B\uFFFF"_s + QChar(0xD800) + u'\t'));
-    EXPECT_EQ(bytes, QByteArray("a") + QByteArray("\xEF\xBF\xBD").repeated(4) + "&#x9;");
+    XmlBuffer bytes;
+    bytes.appendEscaped(u"a\u0001\u000B\uFFFF"_s + QChar(0xD800) + u'\t');
+    EXPECT_EQ(bytes.bytes(), QByteArray("a") + QByteArray("\xEF\xBF\xBD").repeated(4) + "&#x9;");
 }
 
 TEST_F(Xml, HostileBytesEndWithAnErrorAndAPlace)

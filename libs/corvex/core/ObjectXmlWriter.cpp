@@ -3,7 +3,6 @@
 
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ItemList.h"
-#include "corvex/core/XmlText.h"
 
 #include <QIODevice>
 
@@ -60,7 +59,6 @@ bool ObjectXmlWriter::write(const DesignerObject *object)
         m_error = u"\"%1\" holds no object; nothing is written."_s.arg(missing);
         return false;
     }
-    m_buffer.reserve(bufferSize * 2);
     if (m_header) {
         m_buffer.append("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
         endLine();
@@ -72,7 +70,7 @@ bool ObjectXmlWriter::write(const DesignerObject *object)
 
 void ObjectXmlWriter::startLine(int level)
 {
-    m_buffer.append(level, ' ');
+    m_buffer.appendBlanks(level);
 }
 
 void ObjectXmlWriter::endLine()
@@ -80,11 +78,11 @@ void ObjectXmlWriter::endLine()
     m_buffer.append(m_lineEnd);
 }
 
-void ObjectXmlWriter::openTag(const QString &name, int level, const char *ending)
+void ObjectXmlWriter::openTag(const QString &name, int level, QByteArrayView ending)
 {
     startLine(level);
     m_buffer.append('<');
-    m_buffer.append(name.toUtf8());
+    m_buffer.appendEscaped(name);
     m_buffer.append(ending);
     endLine();
 }
@@ -93,17 +91,18 @@ void ObjectXmlWriter::closeTag(const QString &name, int level)
 {
     startLine(level);
     m_buffer.append("</");
-    m_buffer.append(name.toUtf8());
+    m_buffer.appendEscaped(name);
     m_buffer.append('>');
     endLine();
 }
 
 void ObjectXmlWriter::flush()
 {
-    if (m_error.isEmpty() && m_device->write(m_buffer) != m_buffer.size()) {
+    const QByteArrayView bytes = m_buffer.bytes();
+    if (m_error.isEmpty() && m_device->write(bytes.data(), bytes.size()) != bytes.size()) {
         m_error = m_device->errorString();
     }
-    m_buffer.resize(0);
+    m_buffer.clear();
 }
 
 void ObjectXmlWriter::writeObject(const DesignerObject *object, int level)
@@ -118,7 +117,7 @@ void ObjectXmlWriter::writeObject(const DesignerObject *object, int level)
     }
     closeTag(u"Properties"_s, level + 1);
     closeTag(name, level);
-    if (m_buffer.size() > bufferSize) {
+    if (m_buffer.bytes().size() > bufferSize) {
         flush();
     }
 }
@@ -127,12 +126,11 @@ void ObjectXmlWriter::writeProperty(const DesignerProperty &property, int level)
 {
     startLine(level);
     m_buffer.append("<Property name=\"");
-    XmlText::appendAttribute(m_buffer, property.id());
+    m_buffer.appendEscaped(property.id());
     if (!property.isList() && !property.isObject()) {
         m_buffer.append("\" value=\"");
         const bool replaced = level == rootPropertyLevel && m_rootValues.contains(property.id());
-        XmlText::appendAttribute(m_buffer,
-                                 replaced ? m_rootValues.value(property.id()) : property.valueString());
+        m_buffer.appendEscaped(replaced ? m_rootValues.value(property.id()) : property.valueString());
         m_buffer.append("\"/>");
         endLine();
         return;

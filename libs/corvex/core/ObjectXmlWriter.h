@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
+#include "corvex/core/XmlBuffer.h"
+
 #include <QHash>
 #include <QString>
 
@@ -43,13 +44,13 @@ private:
     void writeKept(const DesignerProperty &list, const DesignerObject *after, int level);
     void startLine(int level);
     void endLine();
-    void openTag(const QString &name, int level, const char *ending = ">");
+    void openTag(const QString &name, int level, QByteArrayView ending = ">");
     void closeTag(const QString &name, int level);
     void flush();
 
     QIODevice *m_device;
-    QByteArray m_lineEnd;
-    QByteArray m_buffer;
+    QByteArrayView m_lineEnd;
+    XmlBuffer m_buffer;
     QHash<QString, QString> m_rootValues;
     QString m_error;
     bool m_header = true;

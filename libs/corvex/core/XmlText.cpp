@@ -29,9 +29,6 @@ constexpr std::array<const char *, 128> makeEscapes()
 
 constexpr std::array<const char *, 128> escapes = makeEscapes();
 
-//! The longest escape and the longest UTF-8 sequence of one UTF-16 unit both fit.
-constexpr qsizetype longestPerUnit = 6;
-
 char *appendEscape(char *out, const char *escape)
 {
     while (*escape) {
@@ -79,12 +76,8 @@ qsizetype indexOfUnstorable(QStringView text)
     return -1;
 }
 
-void appendAttribute(QByteArray &bytes, QStringView text)
+char *putAttribute(char *out, QStringView text)
 {
-    const qsizetype oldSize = bytes.size();
-    bytes.resize(oldSize + text.size() * longestPerUnit);
-    char *const begin = bytes.data();
-    char *out = begin + oldSize;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t unit = text[i].unicode();
         if (unit < 0x80) {
@@ -100,7 +93,7 @@ void appendAttribute(QByteArray &bytes, QStringView text)
             out = isUnstorable ? appendEscape(out, replacement) : appendUtf8(out, unit);
         }
     }
-    bytes.resize(out - begin);
+    return out;
 }
 
 void appendAttribute(QByteArray &bytes, QByteArrayView utf8)

@@ -10,12 +10,15 @@ namespace Halvane::Corvex::Designer::XmlText {
 //! U+FFFE, U+FFFF); -1 when all can be stored.
 qsizetype indexOfUnstorable(QStringView text);
 
-/*! Appends \a text in UTF-8 as the inside of an attribute between double quotes: markup characters as
-   entities, line ends and tabs as character references, so that they survive the parser's normalisation.
-   What no XML file can hold becomes U+FFFD. */
-void appendAttribute(QByteArray &bytes, QStringView text);
+//! How many bytes putAttribute() writes at most for a UTF-16 unit.
+constexpr qsizetype longestPerUnit = 6;
 
-//! The same for bytes that are UTF-8 already.
+/*! Writes \a text to \a out in UTF-8 as the inside of an attribute between double quotes: markup characters
+   as entities, line ends and tabs as character references, so that they survive the parser's normalisation.
+   What no XML file can hold becomes U+FFFD. Returns where it ended. */
+char *putAttribute(char *out, QStringView text);
+
+//! Appends the same for bytes that are UTF-8 already.
 void appendAttribute(QByteArray &bytes, QByteArrayView utf8);
 
 } // namespace Halvane::Corvex::Designer::XmlText
