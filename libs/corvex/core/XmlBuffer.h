@@ -54,7 +54,7 @@ private:
         return m_bytes.data() + m_size;
     }
 
-    std::vector<char> m_bytes; //!< all of them have a value, so that its size is the room that there is
+    std::vector<char> m_bytes = std::vector<char>(1024); //!< its size is the room that there is
     size_t m_size = 0;
 };
 
