@@ -274,6 +274,41 @@ TEST_F(CanvasSceneTest, GroupingAndDeletingLeaveEverythingElseInItsPlace)
     EXPECT_EQ(lookUnordered(), placed);
 }
 
+TEST_F(CanvasSceneTest, MembersOfTurnedGroupsGoWhereTheMouseTakesThem)
+{
+    // A group that grows with a member turns about another point; nothing is seen to move by that.
+    DesignerObject *outer = add(screen, "GroupElement", "outer", {150, 100, 0, 0});
+    set(outer, "rotation", u"30"_s);
+    set(outer, "scale", u"120"_s);
+    DesignerObject *other = add(outer, "Rectangle", "other", {0, 0, 40, 40});
+    DesignerObject *inner = add(outer, "GroupElement", "inner", {50, 20, 0, 0});
+    set(inner, "rotation", u"200"_s);
+    DesignerObject *member = add(inner, "Rectangle", "member", {0, 0, 60, 40});
+    show();
+    scene->selectObjects({member});
+    const auto corner = [](const DesignerObject *object, QQuickItem::TransformOrigin handle) {
+        return itemOf(object)->handlePoint(handle).toPoint();
+    };
+    const QPoint otherCorner = corner(other, QQuickItem::TopLeft);
+    const QPoint fixed = corner(member, QQuickItem::TopLeft);
+    const QString before = placeOf(member) + valueOf(inner, "position") + valueOf(outer, "position");
+    const QPoint grip = corner(member, QQuickItem::BottomRight);
+    const QPoint target = grip + (grip - fixed) / 2;
+    drag(grip, target);
+    EXPECT_LE((corner(member, QQuickItem::BottomRight) - target).manhattanLength(), 3);
+    EXPECT_LE((corner(member, QQuickItem::TopLeft) - fixed).manhattanLength(), 1);
+    EXPECT_LE((corner(other, QQuickItem::TopLeft) - otherCorner).manhattanLength(), 1);
+
+    const QPoint middle = ((fixed + target) / 2);
+    drag(middle, middle + QPoint(40, 30));
+    EXPECT_LE((corner(member, QQuickItem::TopLeft) - fixed - QPoint(40, 30)).manhattanLength(), 2);
+    EXPECT_LE((corner(other, QQuickItem::TopLeft) - otherCorner).manhattanLength(), 1);
+    EXPECT_EQ(project->undoStack()->count(), 2);
+    EXPECT_EQ(scene->selectedObjects(), QList<DesignerObject *>{member});
+    project->undoStack()->setIndex(0);
+    EXPECT_EQ(placeOf(member) + valueOf(inner, "position") + valueOf(outer, "position"), before);
+}
+
 TEST_F(CanvasSceneTest, SeveralElementsAreSelectedAndMovedTogether)
 {
     DesignerObject *other = add(screen, "Text", "title", {300, 200, 50, 20});

@@ -2,9 +2,12 @@
 #include "corvex/editing/graphics/CanvasGesture.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/ChangeProperty.h"
 #include "corvex/editing/graphics/FramePoint.h"
 #include "corvex/editing/graphics/FramedItem.h"
+#include "corvex/editing/graphics/GraphicsItemGroup.h"
 #include "corvex/editing/undo/UndoCommand.h"
+#include "corvex/values/ValueConversion.h"
 
 #include <QGraphicsItem>
 #include <QLineF>
@@ -124,6 +127,23 @@ QString CanvasGesture::text() const
     return LocalizationHelper::coreString(u"Rotate \"%1\""_s).arg(name);
 }
 
+QList<GraphicsItemGroup *> CanvasGesture::groupsAround() const
+{
+    QList<GraphicsItemGroup *> groups;
+    for (const Start &start : m_items) {
+        const FramedItem *item = framed(start.object);
+        const QGraphicsItem *around = item ? item->graphic()->parentItem() : nullptr;
+        for (; around; around = around->parentItem()) {
+            GraphicsItem *group = GraphicsItem::of(around);
+            if (group && group->isKindOfClass(GraphicsItemGroup::kindName())) {
+                groups.removeOne(static_cast<GraphicsItemGroup *>(group));
+                groups.append(static_cast<GraphicsItemGroup *>(group));
+            }
+        }
+    }
+    return groups;
+}
+
 std::unique_ptr<UndoCommand> CanvasGesture::command() const
 {
     auto whole = std::make_unique<UndoCommand>();
@@ -142,17 +162,29 @@ std::unique_ptr<UndoCommand> CanvasGesture::command() const
     if (whole->childCount() == 0) {
         return nullptr;
     }
+    for (GraphicsItemGroup *group : groupsAround()) {
+        group->settle();
+        const SharedProperty position = group->dataObject()->getProperty(u"position");
+        const QString place = ValueConversion::toString(group->pos());
+        if (!position->equalsValue(place)) {
+            new ChangeProperty(position, place, false, whole.get());
+        }
+    }
     whole->setText(text());
     return whole;
 }
 
 void CanvasGesture::release()
 {
+    const QList<GraphicsItemGroup *> groups = groupsAround();
     for (const Start &start : std::as_const(m_items)) {
         if (FramedItem *item = framed(start.object)) {
             item->setRatioForced(false);
             item->readDataObject();
         }
+    }
+    for (GraphicsItemGroup *group : groups) {
+        group->readDataObject();
     }
     m_items.clear();
 }

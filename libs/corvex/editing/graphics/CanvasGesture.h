@@ -12,6 +12,7 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 class FramedItem;
+class GraphicsItemGroup;
 class UndoCommand;
 
 /*! What happens between pressing and releasing the mouse: items are moved, resized or turned on the canvas,
@@ -48,6 +49,8 @@ private:
     { }
     void moveItem(FramedItem &item, const Start &start, const QPointF &point) const;
     void resizeItem(FramedItem &item, const Start &start, const QPointF &point) const;
+    //! The groups around the items, each once and behind those in it.
+    QList<GraphicsItemGroup *> groupsAround() const;
     QString text() const;
 
     Kind m_kind;

@@ -65,6 +65,15 @@ void GraphicsItemGroup::updateBoundingSize()
     updateTransformOriginPoint();
 }
 
+void GraphicsItemGroup::settle()
+{
+    const QPointF oldOrigin = transformOriginPoint();
+    updateBoundingSize();
+    const QPointF way = oldOrigin - transformOriginPoint();
+    const QPointF turnedWay = mapToParent(way) - mapToParent(QPointF());
+    setPos(pos() + way - turnedWay);
+}
+
 void GraphicsItemGroup::setFrameSize(const QSizeF &size)
 {
     if (m_modelFrame.isEmpty()) {

@@ -25,6 +25,10 @@ public:
     QPainterPath getShape() const override;
     void setFrameSize(const QSizeF &size) override;
     bool keepsRatio() const override;
+    /*! Takes over the places that the mouse has given to members. A group that is as large as its members
+       reach turns about another point then; it gets the place in which none of them is seen to move by that.
+     */
+    void settle();
     //! Whether the members are changing because the group is being resized.
     bool isChangingSize() const { return m_isChangingSize; }
 
