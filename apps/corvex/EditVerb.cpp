@@ -38,8 +38,10 @@ ExitCode edit(ProjectEditor &editor, QFile &script, const Call &call)
         }
         if (!isDone) {
             editor.undoAll();
+            constexpr qsizetype most = 500; // a reason may quote a line that is no line of a script
+            const QString reason = error.size() > most ? error.left(most) + u"..."_s : error;
             call.terminal().printError(
-                Terminal::oneLine(u"%1:%2: %3"_s.arg(name, QString::number(number), error)));
+                Terminal::oneLine(u"%1:%2: %3"_s.arg(name, QString::number(number), reason)));
             return call.failed(u"\"%1\" stays as it is."_s.arg(call.argument(0)), ExitCode::Problems);
         }
     }

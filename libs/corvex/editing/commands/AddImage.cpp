@@ -3,6 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editing/commands/FileStep.h"
+#include "corvex/project/FileNameRules.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 #include "corvex/values/ObjectLinkInfo.h"
@@ -23,6 +24,10 @@ AddImage::AddImage(DesignerObject *image, const QString &filePath, Project *proj
         return;
     }
     const QString name = image->getIdName();
+    if (const QString error = FileNameRules::imageNameError(name); !error.isEmpty()) {
+        refuse(error, {image});
+        return;
+    }
     setTitle(u"Add Image Resource \"%1\""_s, name);
     addStep<PlaceFileStep>(project, name, filePath);
     if (resource->originalLocation()->valueString().isEmpty()) {
@@ -31,7 +36,8 @@ AddImage::AddImage(DesignerObject *image, const QString &filePath, Project *proj
     addStep<InsertItemStep>(project->imageResources(), image);
     const QString link = ObjectLinkInfo(name, u"Project"_s, u"ImageResource"_s).toString();
     for (const DesignerObject *user : users) {
-        addChange(user ? user->getProperty(u"source") : SharedProperty(), link);
+        const bool isOfOthers = !user || (user->project() && user->project() != project);
+        addChange(isOfOthers ? SharedProperty() : user->getProperty(u"source"), link);
     }
 }
 

@@ -25,7 +25,8 @@ ChangeVisualElements::ChangeVisualElements(const SharedProperty &property, const
     setTitle(u"Change property %1"_s, property->name());
     QSet<const DesignerProperty *> known;
     for (const VisualElement *element : elements) {
-        const SharedProperty target = element ? element->getProperty(property->id()) : SharedProperty();
+        const bool isOurs = element && element->project() == owner()->project();
+        const SharedProperty target = isOurs ? element->getProperty(property->id()) : SharedProperty();
         if (target && !known.contains(target.data())) {
             known.insert(target.data());
             new ChangeProperty(target, value, true, this);

@@ -28,12 +28,14 @@ bool isThere(const QString &path)
 bool readFile(const QString &path, QByteArray &bytes, QString &error)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (file.open(QIODevice::ReadOnly)) {
+        bytes = file.readAll();
+    }
+    if (file.error() != QFileDevice::NoError) {
         error = LocalizationHelper::coreString(u"The file \"%1\" cannot be read: %2"_s)
                     .arg(path, file.errorString());
         return false;
     }
-    bytes = file.readAll();
     return true;
 }
 
@@ -52,7 +54,8 @@ FileStep::FileStep(Project *project, const QString &name)
 
 QString FileStep::pathOf(const QString &name) const
 {
-    return m_project ? u"%1/%2"_s.arg(m_project->imagesPath(), name) : QString();
+    const QString folder = m_project ? m_project->imagesPath() : QString();
+    return folder.isEmpty() ? QString() : u"%1/%2"_s.arg(folder, name);
 }
 
 bool FileStep::isUsed(const QString &name) const
@@ -62,8 +65,8 @@ bool FileStep::isUsed(const QString &name) const
 
 void FileStep::removeUnused(const QString &name) const
 {
-    if (m_project && !m_project->imagesPath().isEmpty() && !isUsed(name)) {
-        QFile::remove(pathOf(name));
+    if (const QString path = pathOf(name); !path.isEmpty() && !isUsed(name)) {
+        QFile::remove(path);
     }
 }
 
@@ -134,8 +137,12 @@ bool PlaceFileStep::place(QString &error)
 void PlaceFileStep::undo()
 {
     m_isDone = false;
+    if (!m_isMade) {
+        return;
+    }
     const QString spare = freeName(name());
-    if (m_isMade && QFile::rename(path(), pathOf(spare))) {
+    m_isMade = QFile::rename(path(), pathOf(spare));
+    if (m_isMade) {
         m_spareName = spare;
     }
 }
@@ -151,6 +158,9 @@ void PlaceFileStep::cleanJunkFiles()
 
 bool RenameFileStep::rename(const QString &from, const QString &to, QString *error)
 {
+    if (!isThere(pathOf(from)) && !isThere(pathOf(to))) {
+        return true; // somebody has taken the file away; the image does without, under either name
+    }
     const QString between = freeName(from);
     const bool isFree = !isThere(pathOf(to)) || from.compare(to, Qt::CaseInsensitive) == 0;
     if (isFree && QFile::rename(pathOf(from), pathOf(between))) {

@@ -6,6 +6,7 @@
 #include "corvex/editing/commands/GroupIndexes.h"
 #include "corvex/editing/commands/ReferenceChanges.h"
 #include "corvex/project/GroupElement.h"
+#include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 
 using namespace Qt::StringLiterals;
@@ -20,6 +21,13 @@ const Screen *screenOf(const SharedProperty &list)
     return screen ? screen : list->parentObject()->screen();
 }
 
+//! Objects keep to their project: references and files would stay behind.
+const Project *projectOf(const SharedProperty &list)
+{
+    const auto *project = kindCast<Project>(list->parentObject());
+    return project ? project : list->parentObject()->project();
+}
+
 } // namespace
 
 MoveObject::MoveObject(const SharedProperty &from, const SharedProperty &to, DesignerObject *object,
@@ -27,7 +35,7 @@ MoveObject::MoveObject(const SharedProperty &from, const SharedProperty &to, Des
     : ModelCommand(from, selected, parent)
 {
     if (!from || !to || from == to || !to->parentObject() || !to->isList() || !object
-        || object->listProperty() != from) {
+        || object->listProperty() != from || projectOf(from) != projectOf(to)) {
         refuse(
             Common::LocalizationHelper::coreString(u"There is nothing to move, or no list to move it to."_s));
         return;

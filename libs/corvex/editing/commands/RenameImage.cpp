@@ -17,7 +17,7 @@ using Common::LocalizationHelper;
 RenameImage::RenameImage(DesignerObject *image, const QString &newName, UndoCommand *parent)
     : ModelCommand(image ? image->idProperty() : SharedProperty(), true, parent)
 {
-    if (!kindCast<ImageResource>(image) || !image->project()) {
+    if (!kindCast<ImageResource>(image) || !image->project() || image->project()->imagesPath().isEmpty()) {
         refuse(LocalizationHelper::coreString(u"There is nothing to rename."_s));
         return;
     }
