@@ -13,11 +13,13 @@ namespace Halvane::Corvex::Tool {
 
 namespace {
 
-void printJson(const QList<ProjectEditor::Edit> &edits, bool isSaved, const Call &call)
+void printJson(const QList<ProjectEditor::Edit> &edits, const QStringList &output, bool isSaved,
+               const Call &call)
 {
     JsonWriter json(call.terminal());
     json.beginObject();
     json.member("saved"_L1, isSaved);
+    json.member("printed"_L1, output);
     json.name("edits"_L1);
     json.beginArray();
     for (const auto &[text, changes] : edits) {
@@ -61,7 +63,7 @@ ExitCode EditReport::finish(ProjectEditor &editor, const ProjectFile &file, cons
         editor.undoAll();
     }
     if (call.asJson()) {
-        printJson(edits, !isTrial && code == ExitCode::Done, call);
+        printJson(edits, editor.takeOutput(), !isTrial && code == ExitCode::Done, call);
     } else if (isTrial) {
         print(edits, call);
     }

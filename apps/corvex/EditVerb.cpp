@@ -30,11 +30,12 @@ bool openScript(QFile &script, const Call &call)
 ExitCode edit(ProjectEditor &editor, QFile &script, const Call &call)
 {
     const QString name = script.fileName().isEmpty() ? u"-"_s : script.fileName();
-    for (int number = 1; !script.atEnd(); ++number) {
-        QString error;
-        const bool isDone = editor.run(QString::fromUtf8(script.readLine()), error);
-        for (const QString &line : editor.takeOutput()) {
-            call.terminal().print(line);
+    QByteArray line = script.readLine();
+    for (int number = 1; !line.isEmpty(); ++number, line = script.readLine()) {
+        QString error = u"The bytes are not UTF-8, the one encoding that is read."_s;
+        const bool isDone = line.isValidUtf8() && editor.run(QString::fromUtf8(line), error);
+        for (const QString &output : call.asJson() ? QStringList() : editor.takeOutput()) {
+            call.terminal().print(output);
         }
         if (!isDone) {
             editor.undoAll();
@@ -44,6 +45,10 @@ ExitCode edit(ProjectEditor &editor, QFile &script, const Call &call)
                 Terminal::oneLine(u"%1:%2: %3"_s.arg(name, QString::number(number), reason)));
             return call.failed(u"\"%1\" stays as it is."_s.arg(call.argument(0)), ExitCode::Problems);
         }
+    }
+    if (script.error() != QFileDevice::NoError) {
+        editor.undoAll();
+        return call.failed(u"The script \"%1\" cannot be read: %2."_s.arg(name, script.errorString()));
     }
     return ExitCode::Done;
 }

@@ -50,6 +50,8 @@ using namespace Designer;
 
 namespace {
 
+const QString refused = u"The project does not take this."_s;
+
 DesignerObject *make(const QString &className, const QString &name)
 {
     const DesignerFactory *factory = DesignerFactory::instance();
@@ -130,6 +132,7 @@ bool ProjectEditor::split(const QString &line, QStringList &words, QString &erro
     QString word;
     bool isInWord = false;
     bool isQuoted = false;
+    m_rest.clear();
     for (qsizetype i = 0; i < line.size(); ++i) {
         const QChar c = line.at(i);
         if (isQuoted && c == u'\\' && i + 1 < line.size()) {
@@ -141,6 +144,9 @@ bool ProjectEditor::split(const QString &line, QStringList &words, QString &erro
         } else if (!isQuoted && (c == u' ' || c == u'\t')) {
             if (isInWord) {
                 words.append(std::exchange(word, {}));
+                if (words.size() == 2) {
+                    m_rest = line.sliced(i).trimmed();
+                }
             }
             isInWord = false;
         } else {
@@ -179,7 +185,6 @@ bool ProjectEditor::run(const QString &line, QString &error)
         error = u"There is no edit \"%1\"."_s.arg(words.first());
         return false;
     }
-    m_rest = trimmed.section(u' ', 2, -1, QString::SectionSkipEmpty).trimmed();
     words.removeFirst();
     if (words.size() < entry->fewest || (entry->most >= 0 && words.size() > entry->most)) {
         error = u"The form of this edit is: %1"_s.arg(QLatin1StringView(entry->usage));
@@ -207,7 +212,7 @@ bool ProjectEditor::push(ModelCommand *command)
     if (!command->isDone()) {
         const QString reason = command->errorString();
         m_project.undoStack()->undo();
-        return fail(reason.isEmpty() ? u"The project does not take this."_s : reason);
+        return fail(reason.isEmpty() ? refused : reason);
     }
     Edit edit{command->text(), {}};
     for (const ValueChange &change : command->valueChanges()) {
@@ -216,6 +221,17 @@ bool ProjectEditor::push(ModelCommand *command)
     std::ranges::stable_sort(edit.changes, {}, &Change::property);
     m_edits.append(edit);
     return true;
+}
+
+bool ProjectEditor::push(ModelCommand *command, const DesignerObject *made)
+{
+    if (!push(command) || made->idProperty()->isValid()) {
+        return m_error.isEmpty();
+    }
+    fail(made->idProperty()->errorString());
+    m_project.undoStack()->undo();
+    m_edits.removeLast();
+    return false;
 }
 
 void ProjectEditor::undoAll()
@@ -277,11 +293,17 @@ bool ProjectEditor::set(const Words &words)
     if (place.property == place.object->idProperty()) {
         return fail(u"Names are given by rename, which takes all references along."_s);
     }
+    if (!place.property->hasFlag(StoredFlag)) {
+        return fail(u"\"%1\" is not stored; it follows from other values."_s.arg(words.first()));
+    }
     const QString value = words.size() == 2 ? words.at(1) : m_rest;
     if (place.property->valueString() == value) {
         return true;
     }
-    return push(new ChangeProperty(place.property, value, false));
+    if (push(new ChangeProperty(place.property, value, false))) {
+        return true;
+    }
+    return fail(m_error == refused ? u"\"%1\" does not take \"%2\"."_s.arg(words.first(), value) : m_error);
 }
 
 bool ProjectEditor::add(const Words &words)
@@ -290,6 +312,9 @@ bool ProjectEditor::add(const Words &words)
     if (!sample) {
         return fail(
             u"There is no class \"%1\". \"corvex help\" tells how plug-ins are found."_s.arg(words.first()));
+    }
+    if (kindCast<ImageResource>(sample.get())) {
+        return fail(u"Images are added by add-image, which takes their files along."_s);
     }
     const SharedProperty list = listFor(words.at(1), sample.get());
     if (!list) {
@@ -301,12 +326,12 @@ bool ProjectEditor::add(const Words &words)
     }
     DesignerObject *item = make(words.first(), name);
     if (list == m_project.screens()) {
-        return push(new AddScreen(item, &m_project, -1));
+        return push(new AddScreen(item, &m_project, -1), item);
     }
     if (list == m_project.variables()) {
-        return push(new AddVariable(item, &m_project));
+        return push(new AddVariable(item, &m_project), item);
     }
-    return push(new AddObject(list, item, false));
+    return push(new AddObject(list, item, false), item);
 }
 
 bool ProjectEditor::remove(const Words &words)
@@ -381,7 +406,7 @@ bool ProjectEditor::group(const Words &words)
         return false;
     }
     DesignerObject *made = make(u"GroupElement"_s, words.first());
-    return push(new GroupCommand(made, members));
+    return push(new GroupCommand(made, members), made);
 }
 
 bool ProjectEditor::ungroup(const Words &words)
@@ -469,7 +494,7 @@ bool ProjectEditor::filter(const Words &words)
     }
     DesignerObject *made = make(FilterElement::kindName(), words.first());
     made->changePropertyValue(made->getProperty(u"elements"), text);
-    return push(new AddObject(screen->filters(), made, false));
+    return push(new AddObject(screen->filters(), made, false), made);
 }
 
 bool ProjectEditor::step(const Words &words, int direction)
@@ -477,12 +502,12 @@ bool ProjectEditor::step(const Words &words, int direction)
     bool isNumber = true;
     const int count = words.isEmpty() ? 1 : words.first().toInt(&isNumber);
     UndoStack *stack = m_project.undoStack();
-    const int target = stack->index() + direction * count;
-    if (!isNumber || count < 0 || target < 0 || target > stack->count()) {
-        return fail(direction < 0 ? u"There are %1 edits to undo."_s.arg(stack->index())
-                                  : u"There are %1 edits to redo."_s.arg(stack->count() - stack->index()));
+    const int most = direction < 0 ? stack->index() : stack->count() - stack->index();
+    if (!isNumber || count < 0 || count > most) {
+        return fail(direction < 0 ? u"There are %1 edits to undo."_s.arg(most)
+                                  : u"There are %1 edits to redo."_s.arg(most));
     }
-    stack->setIndex(target);
+    stack->setIndex(stack->index() + direction * count);
     m_edits.append({direction < 0 ? u"Undo %1"_s.arg(count) : u"Redo %1"_s.arg(count), {}});
     return true;
 }

@@ -54,15 +54,16 @@ public:
     //! Takes all edits back for good, with the files that came with them.
     void undoAll();
 
-    //! The words of a line; false when a quote is not closed.
-    static bool split(const QString &line, QStringList &words, QString &error);
-
 private:
     using Words = QStringList;
     struct Entry;
     static const QList<Entry> &entries();
 
+    //! The words of a line; false when a quote is not closed.
+    bool split(const QString &line, QStringList &words, QString &error);
     bool push(Designer::ModelCommand *command);
+    //! For a command that brings \a made into the model, which is refused when its name is not valid there.
+    bool push(Designer::ModelCommand *command, const Designer::DesignerObject *made);
     bool fail(const QString &reason);
     Designer::DesignerObject *object(const QString &path);
     bool objects(const Words &paths, QList<Designer::DesignerObject *> &found);

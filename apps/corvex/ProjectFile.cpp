@@ -2,6 +2,7 @@
 #include "ProjectFile.h"
 
 #include "corvex/core/DesignerFactory.h"
+#include "corvex/core/ObjectXmlWriter.h"
 #include "corvex/project/Project.h"
 
 #include "Call.h"
@@ -99,6 +100,7 @@ bool ProjectFile::open(const Call &call, qsizetype argument)
 
 bool ProjectFile::isAsOpened(const Call &call) const
 {
+    // A project that got another name has taken its file along.
     if (QFileInfo(m_project->fullFilePath()).lastModified() == m_timeOfFile) {
         return true;
     }
@@ -113,6 +115,11 @@ ExitCode ProjectFile::save(const Call &call) const
         return call.failed(u"\"%1\" holds what this version does not know and would lose; it stays as it is. "
                            "\"corvex check\" names the places; --force writes it all the same."_s.arg(m_path),
                            ExitCode::Problems);
+    }
+    if (QString missing; !ObjectXmlWriter::isComplete(m_project.get(), false, &missing)) {
+        return call.failed(
+            u"\"%1\" holds no object, and \"%2\" is not written without it."_s.arg(missing, m_path),
+            ExitCode::Problems);
     }
     if (!isAsOpened(call)) {
         return ExitCode::File;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/SafeFile.h"
+#include "corvex/common/FileHelper.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/editing/graphics/CanvasScene.h"
 #include "corvex/project/Element.h"
@@ -13,6 +13,7 @@
 #include "Terminal.h"
 #include "Verb.h"
 
+#include <QBuffer>
 #include <QImage>
 
 using namespace Qt::StringLiterals;
@@ -41,14 +42,9 @@ QString screenName(const Call &call, const Project &project)
 
 bool save(const QImage &picture, const QString &path, QString &error)
 {
-    Common::SafeFile file(path);
-    if (!file.openForWriting(&error)) {
-        return false;
-    }
-    if (!picture.save(&file, "PNG")) {
-        file.cancelWriting();
-    }
-    return file.commit(&error);
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    return picture.save(&bytes, "PNG") && Common::FileHelper::writeFile(path, bytes.data(), &error);
 }
 
 void report(const QString &path, const Screen &screen, const QImage &picture, const Call &call)
@@ -78,6 +74,11 @@ ExitCode run(const Call &call, const ProjectFile &file)
     const DesignerProperty &screens = *file.project().screens();
     const QString name = screenName(call, file.project());
     auto *screen = kindCast<Screen>(screens.getListItem(name));
+    if (!screen && !call.isSet(u"screen"_s)) {
+        return call.failed(
+            u"The project's default screen \"%1\" does not exist. Choose another with --screen."_s.arg(name),
+            ExitCode::Problems);
+    }
     if (!screen) {
         return unknownName(call, u"screen"_s, name, screens.listItemNames());
     }

@@ -78,6 +78,15 @@ bool Terminal::finish()
     return false;
 }
 
+//! Characters that show what stands behind them in another order.
+static bool turnsText(QChar character)
+{
+    const auto in = [character](char16_t first, char16_t last) {
+        return character >= first && character <= last;
+    };
+    return in(0x202A, 0x202E) || in(0x2066, 0x2069);
+}
+
 QString Terminal::oneLine(QStringView text)
 {
     static constexpr struct
@@ -95,7 +104,7 @@ QString Terminal::oneLine(QStringView text)
             line += u'\\';
             line += QLatin1Char(escape->letter);
         } else if (character.category() == QChar::Other_Control || character == QChar::LineSeparator
-                   || character == QChar::ParagraphSeparator) {
+                   || character == QChar::ParagraphSeparator || turnsText(character)) {
             line += u"\\u%1"_s.arg(character.unicode(), 4, 16, QLatin1Char('0'));
         } else {
             line += character;

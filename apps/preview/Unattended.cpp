@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Unattended.h"
 
+#include "corvex/common/FileHelper.h"
 #include "corvex/preview/ScreenAudit.h"
 #include "corvex/preview/script/PanelWindow.h"
 #include "corvex/preview/script/PreviewScript.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -29,8 +31,13 @@ Exit printProblems(const ProblemLog &log)
 bool save(PanelWindow &window, const QString &folder, const QString &name)
 {
     const QString path = QDir(folder).filePath(name + u".png"_s);
-    if (name != QFileInfo(name).fileName() || !QDir().mkpath(folder) || !window.picture().save(path)) {
-        complain(u"\"%1\" cannot be written."_s.arg(path));
+    QString error = u"\"%1\" is no name for a picture."_s.arg(name);
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    if (name != QFileInfo(name).fileName() || !Common::FileHelper::makeFolder(folder, &error)
+        || !window.picture().save(&bytes, "PNG")
+        || !Common::FileHelper::writeFile(path, bytes.data(), &error)) {
+        complain(error);
         return false;
     }
     print(path);

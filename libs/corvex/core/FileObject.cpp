@@ -194,11 +194,12 @@ bool FileObject::renameFile(const QString &oldName, const QString &newName)
         }
     }
     if (!renameEntry(folder, m_fileName, file)) {
-        return finish(message(u"The file \"%1\" cannot be renamed."_s, m_fullFilePath));
+        return finish(message(u"The file \"%1\" cannot be renamed: %2"_s, m_fullFilePath, qt_error_string()));
     }
     if (!renameEntry(m_parentPath, m_subPath, sub)) {
+        const QString reason = qt_error_string();
         renameEntry(folder, file, m_fileName);
-        return finish(message(u"The folder \"%1\" cannot be renamed."_s, folder));
+        return finish(message(u"The folder \"%1\" cannot be renamed: %2"_s, folder, reason));
     }
     setFileFields(m_parentPath, sub, file);
     return finish({});

@@ -117,9 +117,10 @@ bool ImageResource::renameFile(const QString &oldName, const QString &newName)
 {
     const QString from = createFullFilePath(parentPath(), {}, oldName);
     const QString to = createFullFilePath(parentPath(), {}, newName);
-    if (to.isEmpty() || !QFile::rename(from, to)) {
-        return finish(LocalizationHelper::coreString(u"The file \"%1\" cannot be renamed to \"%2\"."_s)
-                          .arg(oldName, newName));
+    QFile file(from);
+    if (to.isEmpty() || !file.rename(to)) {
+        return finish(LocalizationHelper::coreString(u"The file \"%1\" cannot be renamed to \"%2\": %3"_s)
+                          .arg(oldName, newName, file.errorString()));
     }
     setFileFields(parentPath(), {}, newName);
     return finish({});

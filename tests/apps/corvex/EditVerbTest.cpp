@@ -61,6 +61,8 @@ TEST_F(EditVerb, everyEditIsDoneAndTakenBackToTheFirstByte)
     const QByteArray script = R"(# all that there is
 set Main.title.text Hello "you" %1
 set Main.title.text "two\nlines"
+set	Main.title.text	three  words here
+model VTR 50-S
 add Rectangle Main box3
 add Text Main.elements
 add NumberVariable Pump depth
@@ -93,7 +95,7 @@ delete Main.title Main.box3 boxes Other rate two.png
     QDir(sandbox.path(u"Pump/Images"_s)).removeRecursively();
     QByteArray twice = script;
     twice.replace(" boxes Other", " Main.boxes Other");
-    EXPECT_EQ(edit(twice + "undo 25\n").error, QString());
+    EXPECT_EQ(edit(twice + "undo 27\n").error, QString());
     EXPECT_EQ(sandbox.read(pump), before);
     EXPECT_EQ(sandbox.files(u"Pump"_s), QStringList{u"Pump.kdproj"_s});
 }
@@ -108,11 +110,16 @@ TEST_F(EditVerb, oneBadLineAndNothingIsDone)
     } rows[] = {
         {"explode", "There is no edit \"explode\"."},
         {"set Main.nothing.text x", "There is no property \"Main.nothing.text\"."},
-        {"set Main.title.position far", "The project does not take this."},
+        {"set Main.title.position far", "\"Main.title.position\" does not take \"far\"."},
+        {"set Main.size height: 1; width: 1;", "\"Main.size\" is not stored; it follows from other values."},
+        {"set Main.title.text \xff", "The bytes are not UTF-8, the one encoding that is read."},
         {"set Main.title.id x", "Names are given by rename, which takes all references along."},
         {"rename Main.title", "The form of this edit is: rename PATH NAME"},
         {"rename Main.title box1", "The name is not unique."},
         {"add Nothing Main", "There is no class \"Nothing\". \"corvex help\" tells how plug-ins are found."},
+        {"add Text Main new", "This name is reserved."},
+        {"group new Main.box1 Main.box2", "This name is reserved."},
+        {"add ImageResource Pump a.png", "Images are added by add-image, which takes their files along."},
         {"add Text speed", "\"speed\" has no list for an object of the class Text."},
         {"delete Main.title nowhere", "There is no object \"nowhere\"."},
         {"group one Main.title", "The form of this edit is: group NAME PATH..."},
@@ -120,6 +127,7 @@ TEST_F(EditVerb, oneBadLineAndNothingIsDone)
         {"add-image script", "\"script\" is no image, or not one of the kind that its extension tells."},
         {"model VTR 1", "The device model \"VTR 1\" is not available."},
         {"undo 9", "There are 2 edits to undo."},
+        {"undo -2147483648", "There are 2 edits to undo."},
         {"print \"Main", "A quote is opened and not closed."},
     };
     for (const auto &[line, reason] : rows) {
@@ -187,6 +195,10 @@ moved Main.press: Main.elements -> First.trio.elements
 moved Main.note: Main.elements -> First.trio.elements
 added GroupElement First.trio
 )"_s);
+    const QString station = u"Station/Station.kdproj"_s;
+    EXPECT_EQ(sandbox.run({u"rename"_s, pump, u"Pump"_s, u"Station"_s}).error, QString());
+    EXPECT_EQ(sandbox.run({u"fmt"_s, station, u"--check"_s}).code, 0);
+    EXPECT_FALSE(QFile::exists(sandbox.path(u"Pump"_s)));
 }
 
 //! All files that the example has after the lines.

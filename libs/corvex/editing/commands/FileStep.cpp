@@ -163,16 +163,21 @@ bool RenameFileStep::rename(const QString &from, const QString &to, QString *err
     }
     const QString between = freeName(from);
     const bool isFree = !isThere(pathOf(to)) || from.compare(to, Qt::CaseInsensitive) == 0;
-    if (isFree && QFile::rename(pathOf(from), pathOf(between))) {
-        if (!isThere(pathOf(to)) && QFile::rename(pathOf(between), pathOf(to))) {
+    QFile file(pathOf(from));
+    QString reason;
+    if (isFree && file.rename(pathOf(between))) {
+        if (!isThere(pathOf(to)) && file.rename(pathOf(to))) {
             return true;
         }
-        QFile::rename(pathOf(between), pathOf(from));
+        reason = file.errorString();
+        file.rename(pathOf(from));
+    } else {
+        reason = file.errorString();
     }
     if (error) {
         *error = isFree
-                     ? LocalizationHelper::coreString(u"The file \"%1\" cannot be renamed to \"%2\"."_s)
-                           .arg(pathOf(from), to)
+                     ? LocalizationHelper::coreString(u"The file \"%1\" cannot be renamed to \"%2\": %3"_s)
+                           .arg(pathOf(from), to, reason)
                      : LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(pathOf(to));
     }
     return false;
