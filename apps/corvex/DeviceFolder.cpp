@@ -3,15 +3,12 @@
 
 #include "corvex/common/FileHelper.h"
 
+#include "FolderLock.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -24,31 +21,6 @@ const QString zippedProject = u"Project.kdproj.zip"_s;
 const QString previousFolder = u"previous"_s;
 const QString workshopName = u".corvex-build-"_s; // and some letters
 constexpr QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-
-//! Keeps other builds out of a folder. The system lets go of it when the process ends, however that happens.
-class FolderLock
-{
-public:
-    explicit FolderLock(const QString &folder)
-        : m_file(open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
-        // Some file systems know no locks. Whoever builds there has to take turns by himself.
-        , m_isTaken(m_file >= 0 && flock(m_file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
-    { }
-    ~FolderLock()
-    {
-        if (m_file >= 0) {
-            close(m_file);
-        }
-    }
-    Q_DISABLE_COPY_MOVE(FolderLock)
-
-    //! Whether another process has it.
-    bool isTaken() const { return m_isTaken; }
-
-private:
-    int m_file;
-    bool m_isTaken;
-};
 
 //! Whether a build makes, or copies, files of that name.
 bool isBuilt(const QString &name)

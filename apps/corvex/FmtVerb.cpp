@@ -78,7 +78,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     if (loses) {
         return refuse(call, file, dropped);
     }
-    if (!file.isAsOpened(call)) {
+    if (!file.claim(call)) {
         return ExitCode::File;
     }
     if (!rewritten.commit()) {

@@ -98,8 +98,9 @@ bool ProjectFile::open(const Call &call, qsizetype argument)
     return false;
 }
 
-bool ProjectFile::isAsOpened(const Call &call) const
+bool ProjectFile::claim(const Call &call) const
 {
+    m_claim.emplace(m_project->folderPath(), FolderLock::Mode::Wait);
     // A project that got another name has taken its file along.
     if (QFileInfo(m_project->fullFilePath()).lastModified() == m_timeOfFile) {
         return true;
@@ -121,7 +122,7 @@ ExitCode ProjectFile::save(const Call &call) const
             u"\"%1\" holds no object, and \"%2\" is not written without it."_s.arg(missing, m_path),
             ExitCode::Problems);
     }
-    if (!isAsOpened(call)) {
+    if (!claim(call)) {
         return ExitCode::File;
     }
     return m_project->saveFile() ? ExitCode::Done : call.failed(m_project->fileError());

@@ -5,12 +5,14 @@
 #include "corvex/core/ObjectXmlReader.h"
 
 #include "ExitCode.h"
+#include "FolderLock.h"
 
 #include <QDateTime>
 #include <QList>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace Halvane::Corvex::Designer {
 class DesignerObject;
@@ -39,9 +41,9 @@ public:
     //! As the user wrote it.
     const QString &path() const { return m_path; }
 
-    //! Whether nobody else has written the file since it was opened, which is asked before it is saved. False
-    //! once the user has been told.
-    bool isAsOpened(const Call &call) const;
+    //! Keeps other runs of the program from writing the file, which is done before it is saved. False, once
+    //! the user has been told, when somebody has written it since it was opened.
+    bool claim(const Call &call) const;
     //! Saves the project, which loses what dropped() tells only when the call says --force. The user has been
     //! told of a failure.
     ExitCode save(const Call &call) const;
@@ -59,6 +61,7 @@ public:
 private:
     QString m_path;
     QDateTime m_timeOfFile; //!< when it was written, as it was opened
+    mutable std::optional<FolderLock> m_claim;
     std::unique_ptr<Designer::Project> m_project;
 };
 

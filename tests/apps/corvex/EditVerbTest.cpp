@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QProcess>
 #include <QRegularExpression>
 
 #include <gmock/gmock.h>
@@ -199,6 +200,30 @@ added GroupElement First.trio
     EXPECT_EQ(sandbox.run({u"rename"_s, pump, u"Pump"_s, u"Station"_s}).error, QString());
     EXPECT_EQ(sandbox.run({u"fmt"_s, station, u"--check"_s}).code, 0);
     EXPECT_FALSE(QFile::exists(sandbox.path(u"Pump"_s)));
+}
+
+TEST_F(EditVerb, ofTwoAtOnceNoneTakesBackWhatTheOtherDid)
+{
+    const struct
+    {
+        QString script;
+        QString path;
+    } edits[] = {{u"first"_s, u"Main.title.text"_s}, {u"second"_s, u"Main.box1.opacity"_s}};
+    for (int round = 1; round <= 5; ++round) {
+        const QString value = QString::number(round);
+        QProcess programs[2];
+        for (int i = 0; i < 2; ++i) {
+            sandbox.write(edits[i].script, u"set %1 %2\n"_s.arg(edits[i].path, value).toUtf8());
+            programs[i].setWorkingDirectory(sandbox.path({}));
+            programs[i].start(QStringLiteral(CORVEX_PROGRAM), {u"edit"_s, pump, edits[i].script});
+        }
+        for (int i = 0; i < 2; ++i) {
+            ASSERT_TRUE(programs[i].waitForFinished(60'000));
+        }
+        for (int i = 0; i < 2; ++i) {
+            EXPECT_EQ(programs[i].exitCode() == 0, tree(edits[i].path) == value) << round << ' ' << i;
+        }
+    }
 }
 
 //! All files that the example has after the lines.
