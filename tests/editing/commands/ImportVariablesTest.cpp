@@ -116,9 +116,12 @@ TEST_F(ImportVariablesTest, TellsWhatItCannotTake)
         EXPECT_FALSE(import(csv));
     }
     EXPECT_EQ(table(), before);
-    const VariableImport invalid("name,value\nspeed,16777216.0\n", *project);
-    EXPECT_EQ(invalid.problems(), QStringList());
-    EXPECT_EQ(invalid.invalidValues().size(), 1);
+    for (const char *value : {"16777216.0", "many", "1e5"}) {
+        const VariableImport invalid(QByteArray("name,value\nspeed,") + value + '\n', *project);
+        EXPECT_EQ(invalid.problems(), QStringList());
+        EXPECT_EQ(invalid.invalidValues().size(), 1) << value;
+    }
+    EXPECT_EQ(VariableImport("name,value\nspeed,-Infinity\n", *project).invalidValues(), QStringList());
 }
 
 } // namespace Halvane::Corvex::Designer::Test

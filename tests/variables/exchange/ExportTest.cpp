@@ -136,7 +136,11 @@ TEST_F(ExportTest, CanGroupsAsADatabase)
     EXPECT_THAT(dbc, HasSubstr("\nBA_ \"SPN\" SG_ 2364539904 SPN190_engine 190;\n"));
     EXPECT_THAT(dbc, HasSubstr(" SG_ SPN96 : 63|1@1+ (1e-07,-0.5) [-4e-07|1e+20] \"\xb0"
                                "C ?\" "));
-    EXPECT_EQ(exported.problems, QStringList(u"empty.parameterMap: At least one SPN required"_s));
+    EXPECT_EQ(
+        exported.problems,
+        QStringList(
+            {u"empty.parameterMap: At least one SPN required"_s,
+             u"tank: The unit \"\u00b0C \u03a9\" of SPN 96 has characters that the file cannot hold."_s}));
 
     // The grammar tells good from bad.
     for (const auto &[good, bad] :

@@ -153,6 +153,17 @@ private:
     QSet<QString> m_names;
 };
 
+//! Databases are read in the character set of Western Europe.
+void reportLostUnits(const QString &variable, const CanParameterMap &map, QStringList &problems)
+{
+    for (const CanParameter &parameter : map.parameters()) {
+        if (QString::fromLatin1(parameter.units.toLatin1()) != parameter.units) {
+            problems.append(u"%1: The unit \"%2\" of SPN %3 has characters that the file cannot hold."_s.arg(
+                variable, parameter.units, QString::number(parameter.spn)));
+        }
+    }
+}
+
 } // namespace
 
 Exported DbcExport::write(const DesignerObject &project)
@@ -166,6 +177,7 @@ Exported DbcExport::write(const DesignerObject &project)
         QString error;
         if (map.read(static_cast<const GeneralDataListProperty &>(*terms).value(), error)) {
             database.add(object->getIdName(), map);
+            reportLostUnits(object->getIdName(), map, exported.problems);
         } else {
             exported.problems.append(u"%1.%2: %3"_s.arg(object->getIdName(), terms->id(), error));
         }

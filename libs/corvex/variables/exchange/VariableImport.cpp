@@ -2,7 +2,7 @@
 #include "corvex/variables/exchange/VariableImport.h"
 
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/variables/ProjectVariable.h"
+#include "corvex/variables/LogVariable.h"
 #include "corvex/variables/exchange/CsvText.h"
 
 #include <QSet>
@@ -25,6 +25,12 @@ std::unique_ptr<DesignerObject> makeVariable(const QString &className)
         object->setParent(nullptr);
     }
     return object && object->isKindOfClass(ProjectVariable::kindName()) ? std::move(object) : nullptr;
+}
+
+bool holdsNumber(const DesignerObject &variable)
+{
+    return variable.isKindOfClass(NumberVariable::kindName())
+           || variable.isKindOfClass(LogVariable::kindName());
 }
 
 } // namespace
@@ -134,9 +140,13 @@ bool VariableImport::set(const Record &record, DesignerObject &copy, qsizetype c
     if (!wasSet || !isRead) {
         return fail(record, u"%1.%2: \"%3\" is no value for it."_s.arg(record.name, id, text));
     }
-    if (!property->isValid()) {
+    // The model keeps any text for a number, and the device would start without one.
+    const bool isNumber =
+        id != "value"_L1 || !holdsNumber(copy) || NumberVariable::typedValue(text).isValid();
+    if (!property->isValid() || !isNumber) {
         m_invalidValues.append(u"line %1: %2.%3: %4"_s.arg(QString::number(record.line), record.name, id,
-                                                           property->errorString()));
+                                                           isNumber ? property->errorString()
+                                                                    : u"\"%1\" is no number."_s.arg(text)));
     }
     return true;
 }
