@@ -13,7 +13,7 @@ install(TARGETS Common DesignerCore EXPORT DesignerCoreTargets
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/libs/corvex" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
   FILES_MATCHING PATTERN "*.h" PATTERN "corvex/preview" EXCLUDE
   PATTERN "DesignerObjectData.h" EXCLUDE PATTERN "DesignerPropertyState.h" EXCLUDE
-  PATTERN "XmlHandler.h" EXCLUDE PATTERN "XmlInput.h" EXCLUDE PATTERN "XmlToken*.h" EXCLUDE)
+  PATTERN "ObjectBuilder.h" EXCLUDE PATTERN "XmlHandler.h" EXCLUDE PATTERN "XmlInput.h" EXCLUDE PATTERN "XmlToken*.h" EXCLUDE)
 install(EXPORT DesignerCoreTargets NAMESPACE Corvex:: DESTINATION "${package_path}")
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/DesignerCoreConfig.cmake.in"

@@ -265,7 +265,7 @@ protected:
 private:
     friend class DesignerProperty;
     friend class ItemList;
-    friend class ObjectXmlReader;
+    friend class ObjectBuilder;
     friend class ObjectXmlWriter;
 
     enum class ValueChange {

@@ -164,7 +164,7 @@ protected:
 
 private:
     friend class DesignerObject;
-    friend class ObjectXmlReader;
+    friend class ObjectBuilder;
     friend class PropertyTable;
     friend class PropertyRow;
     struct State;

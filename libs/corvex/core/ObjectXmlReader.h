@@ -13,6 +13,7 @@ class QIODevice;
 namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
+class ObjectBuilder;
 
 /*! Reads an object and everything below it from XML in UTF-8, in one walk and without a tree of the document.
 
@@ -44,8 +45,7 @@ public:
     qint64 errorColumn() const;
 
 private:
-    class Private;
-    std::unique_ptr<Private> d;
+    std::unique_ptr<ObjectBuilder> d;
 };
 
 } // namespace Halvane::Corvex::Designer

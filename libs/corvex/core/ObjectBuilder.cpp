@@ -1,0 +1,433 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/ObjectBuilder.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/core/ItemList.h"
+#include "corvex/core/ObjectXmlWriter.h"
+#include "corvex/core/XmlTokenizer.h"
+
+#include <QBuffer>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+constexpr qsizetype deepestNesting = 512;
+
+//! Property ids are short and plain; comparing in place saves a conversion for each of a million properties.
+bool equals(QStringView text, const char *utf8)
+{
+    for (const QChar character : text) {
+        if (character.unicode() >= 0x80) {
+            return text == QString::fromUtf8(utf8);
+        }
+        if (character.unicode() != static_cast<unsigned char>(*utf8++)) {
+            return false;
+        }
+    }
+    return *utf8 == 0;
+}
+
+} // namespace
+
+void ObjectBuilder::setRoot(DesignerObject *root)
+{
+    m_root = root;
+    m_createsRoot = !root;
+}
+
+bool ObjectBuilder::build()
+{
+    const bool good = m_input.parse();
+    dropUnfinished();
+    m_notes.finish();
+    if (!m_root) {
+        return false;
+    }
+    if (good && m_validates) {
+        m_root->validateWhatWasRead();
+    } else {
+        enableValidation(m_root);
+    }
+    return good;
+}
+
+void ObjectBuilder::dropUnfinished()
+{
+    for (const Frame &frame : std::as_const(m_frames)) {
+        if (frame.context == Context::List) {
+            finishList(frame.property);
+        }
+    }
+    for (const Frame &frame : std::as_const(m_frames)) {
+        // What was cut off in the middle has no owner yet.
+        if (frame.context == Context::Object && frame.object != m_root && !frame.object->ownerObject()) {
+            delete frame.object;
+        }
+    }
+    m_frames.clear();
+}
+
+void ObjectBuilder::note(ReadNote::Kind kind, const QString &message)
+{
+    if (m_notes.count(kind)) {
+        m_notes.append({kind, m_input.place().line, m_input.place().column, place(), message});
+    }
+}
+
+//! The path of the object that is being read, which has no owner yet that could tell it.
+QString ObjectBuilder::place() const
+{
+    QStringList names;
+    for (const Frame &frame : m_frames) {
+        if (frame.context == Context::Object && frame.object != m_root) {
+            names.append(frame.object->getIdName());
+        }
+    }
+    return names.isEmpty() && m_root ? m_root->objectPath() : names.join(u'.');
+}
+
+void ObjectBuilder::push(Context context, DesignerObject *object, const SharedProperty &property)
+{
+    m_frames.append({context, object, property});
+}
+
+void ObjectBuilder::skip(const QString &message)
+{
+    note(ReadNote::Dropped, message);
+    push(Context::Skipped, nullptr);
+}
+
+void ObjectBuilder::startElement(const char *name, const char **attributes)
+{
+    if (m_frames.size() >= deepestNesting) {
+        m_input.fail(u"Elements are nested deeper than %1."_s.arg(deepestNesting));
+        return;
+    }
+    if (m_frames.isEmpty()) {
+        openRoot(name);
+        return;
+    }
+    Frame &frame = m_frames.last();
+    switch (frame.context) {
+    case Context::Object:
+        openInObject(frame, name);
+        break;
+    case Context::Properties:
+        openInProperties(frame, name, attributes);
+        break;
+    case Context::Property:
+        openInProperty(frame, name);
+        break;
+    case Context::List:
+        openItem(frame, name, attributes);
+        break;
+    case Context::ObjectValue:
+        openObjectValue(name);
+        break;
+    case Context::Kept:
+        m_recorder.open(name, attributes);
+        push(Context::Kept, nullptr);
+        break;
+    case Context::Skipped:
+        push(Context::Skipped, nullptr);
+        break;
+    }
+}
+
+void ObjectBuilder::openRoot(const char *name)
+{
+    const QString className = QString::fromUtf8(name);
+    if (!m_createsRoot && className != m_root->className()) {
+        m_input.fail(u"The root element is \"%1\" where \"%2\" is expected."_s.arg(
+            XmlTokenizer::excerpt(name), m_root->className()));
+        return;
+    }
+    if (m_createsRoot) {
+        m_root = makeObject(className);
+        if (!m_root) {
+            m_input.fail(u"No object of the class \"%1\" can be made."_s.arg(XmlTokenizer::excerpt(name)));
+            return;
+        }
+    }
+    m_root->setDisableValidation(true);
+    push(Context::Object, m_root);
+}
+
+void ObjectBuilder::openInObject(const Frame &frame, const char *name)
+{
+    if (qstrcmp(name, "Properties") == 0) {
+        push(Context::Properties, frame.object);
+    } else {
+        skip(u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
+    }
+}
+
+void ObjectBuilder::openInProperties(Frame &frame, const char *name, const char **attributes)
+{
+    DesignerObject *object = frame.object;
+    if (qstrcmp(name, "Property") != 0) {
+        skip(u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
+        return;
+    }
+    const char *id = nullptr;
+    const char *value = nullptr;
+    for (; *attributes; attributes += 2) {
+        if (qstrcmp(attributes[0], "name") == 0) {
+            id = attributes[1];
+        } else if (qstrcmp(attributes[0], "value") == 0) {
+            value = attributes[1];
+        } else {
+            note(ReadNote::Dropped,
+                 u"The attribute \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(attributes[0])));
+        }
+    }
+    bool isSecond = false;
+    const qsizetype index = id ? expectProperty(frame, id, &isSecond) : -1;
+    if (isSecond) {
+        skip(u"The property \"%1\" stands here a second time; the first one counts."_s.arg(
+            QString::fromUtf8(id)));
+        return;
+    }
+    if (index < 0 || !object->properties().at(index)->hasFlag(StoredFlag)) {
+        skip(id ? u"The property \"%1\" is not known."_s.arg(XmlTokenizer::excerpt(id))
+                : u"A property has no name."_s);
+        return;
+    }
+    push(Context::Property, object, object->properties().at(index));
+    if (value && *value) {
+        Frame &opened = m_frames.last();
+        opened.isAnswered = !opened.property->isList() && !opened.property->isObject();
+        applyValue(opened, value);
+    }
+}
+
+//! The index of the property among those of the object; -1 for one that it does not have.
+qsizetype ObjectBuilder::expectProperty(Frame &frame, const char *id, bool *isSecond)
+{
+    const QList<SharedProperty> &properties = frame.object->properties();
+    const qsizetype count = properties.size();
+    for (qsizetype i = 0; i < count; ++i) {
+        const qsizetype index = (frame.nextProperty + i) % count;
+        if (equals(properties.at(index)->id(), id)) {
+            frame.nextProperty = index + 1;
+            if (size_t(index) < frame.known.size()) {
+                *isSecond = frame.known.test(size_t(index));
+                frame.known.set(size_t(index));
+            }
+            return index;
+        }
+    }
+    return -1;
+}
+
+void ObjectBuilder::applyValue(const Frame &frame, const char *value)
+{
+    const SharedProperty &property = frame.property;
+    if (property->isList() || property->isObject()) {
+        note(ReadNote::Dropped, u"The property \"%1\" takes no value."_s.arg(property->id()));
+        return;
+    }
+    // Most values of a file are those that their properties start with.
+    if (const QString initial = property->initialText(); !initial.isEmpty() && equals(initial, value)) {
+        return;
+    }
+    const QString text = QString::fromUtf8(value);
+    const DesignerObject::ValueChange change = frame.object->changeValue(property, text);
+    // "Equal" is also said of a text that does not parse; only a second parse tells the two apart.
+    if (change == DesignerObject::ValueChange::Refused
+        || (change == DesignerObject::ValueChange::None && !property->convertToValue(text))) {
+        note(ReadNote::Dropped,
+             u"The value \"%1\" of the property \"%2\" cannot be read; it stays \"%3\"."_s.arg(
+                 text.left(80), property->id(), property->valueString()));
+    }
+}
+
+void ObjectBuilder::openInProperty(Frame &frame, const char *name)
+{
+    const bool opensList = qstrcmp(name, "List") == 0 && frame.property->isList();
+    const bool opensObject = qstrcmp(name, "Object") == 0 && frame.property->isObject();
+    if ((!opensList && !opensObject) || frame.isAnswered) {
+        skip(u"The element \"%1\" is not known in the property \"%2\"."_s.arg(XmlTokenizer::excerpt(name),
+                                                                              frame.property->id()));
+        return;
+    }
+    frame.isAnswered = true;
+    if (opensList) {
+        emptyList(frame.object, frame.property);
+        frame.property->items().isLoading = true;
+    }
+    push(opensList ? Context::List : Context::ObjectValue, frame.object, frame.property);
+}
+
+void ObjectBuilder::emptyList(DesignerObject *owner, const SharedProperty &list)
+{
+    const QList<DesignerObject *> items = list->listItems();
+    for (auto item = items.crbegin(); item != items.crend(); ++item) {
+        delete owner->takeListPropertyItem(list, *item);
+    }
+    list->items().dropKeptItems();
+}
+
+void ObjectBuilder::finishList(const SharedProperty &list)
+{
+    list->items().isLoading = false;
+    list->sortList();
+}
+
+DesignerObject *ObjectBuilder::makeObject(const QString &className)
+{
+    DesignerFactory *factory = DesignerFactory::instance();
+    if (!factory || !factory->canCreateObject(className)) {
+        return nullptr;
+    }
+    DesignerObject *object = factory->createUnowned(className);
+    if (object) {
+        object->setDisableValidation(true);
+    }
+    return object;
+}
+
+void ObjectBuilder::openItem(const Frame &frame, const char *name, const char **attributes)
+{
+    const QString className = QString::fromUtf8(name);
+    if (DesignerObject *item = makeObject(className)) {
+        push(Context::Object, item);
+        return;
+    }
+    qWarning("loadListPropertyFromXml invalid class name %s", qUtf8Printable(XmlTokenizer::excerpt(name)));
+    note(ReadNote::Kept,
+         u"No plug-in knows the class \"%1\"; the item is kept as it is."_s.arg(XmlTokenizer::excerpt(name)));
+    m_recorder.start(className);
+    m_recorder.open(name, attributes);
+    push(Context::Kept, frame.object, frame.property);
+}
+
+void ObjectBuilder::openObjectValue(const char *name)
+{
+    const QString className = QString::fromUtf8(name);
+    if (DesignerObject *object = makeObject(className)) {
+        push(Context::Object, object);
+    } else {
+        skip(u"No plug-in knows the class \"%1\"."_s.arg(XmlTokenizer::excerpt(name)));
+    }
+}
+
+void ObjectBuilder::endElement(const char *name)
+{
+    if (m_frames.isEmpty()) {
+        return;
+    }
+    const Frame closed = m_frames.takeLast();
+    switch (closed.context) {
+    case Context::Object:
+        closeObject(closed);
+        break;
+    case Context::Property:
+        if (!closed.isAnswered) {
+            closed.object->readEmptyValue(closed.property);
+        }
+        break;
+    case Context::List:
+        finishList(closed.property);
+        break;
+    case Context::Kept:
+        m_recorder.close(name);
+        if (closed.property) {
+            closed.property->items().keep(m_recorder.take());
+        }
+        break;
+    case Context::Properties:
+    case Context::ObjectValue:
+    case Context::Skipped:
+        break;
+    }
+}
+
+void ObjectBuilder::closeObject(const Frame &closed)
+{
+    closed.object->finishReading();
+    if (m_frames.isEmpty()) {
+        return;
+    }
+    const Frame &owner = m_frames.constLast();
+    if (owner.context == Context::List) {
+        addItem(owner, closed.object);
+    } else {
+        setChild(owner, closed.object);
+    }
+}
+
+void ObjectBuilder::addItem(const Frame &list, DesignerObject *item)
+{
+    if (list.object->addListPropertyItem(list.property, item)) {
+        return;
+    }
+    const std::unique_ptr<DesignerObject> refused(item);
+    QBuffer text;
+    text.open(QIODevice::WriteOnly);
+    ObjectXmlWriter writer(&text);
+    writer.setHeader(false);
+    const bool isKept = writer.write(item);
+    const QString message = u"\"%1\" cannot stand in \"%2\": %3 %4"_s.arg(
+        item->getIdName(), list.property->id(), list.property->errorString(),
+        isKept ? u"The item is kept as it is."_s : writer.errorString());
+    qWarning("%s", qUtf8Printable(message));
+    note(isKept ? ReadNote::Kept : ReadNote::Dropped, message);
+    if (isKept) {
+        list.property->items().keep({text.data().trimmed(), item->className(), item->getIdName()});
+    }
+}
+
+void ObjectBuilder::setChild(const Frame &slot, DesignerObject *child)
+{
+    if (!slot.object->changePropertyObjectValue(slot.property, child, true)) {
+        note(ReadNote::Dropped,
+             u"\"%1\" takes no object of the class \"%2\"."_s.arg(slot.property->id(), child->className()));
+        delete child;
+    }
+}
+
+void ObjectBuilder::enableValidation(DesignerObject *object)
+{
+    object->setDisableValidation(false);
+    for (DesignerObject *child : object->childObjects()) {
+        enableValidation(child);
+    }
+}
+
+void ObjectBuilder::characters(QByteArrayView text, bool isBlank)
+{
+    if (m_frames.isEmpty()) {
+        return;
+    }
+    const Frame &frame = m_frames.constLast();
+    if (frame.context == Context::Kept) {
+        m_recorder.addText(text);
+    } else if (frame.object && !isBlank) {
+        const QByteArrayView words = text.trimmed();
+        note(ReadNote::Dropped, u"Text between elements is not kept: \"%1\"."_s.arg(
+                                    QString::fromUtf8(words.first(std::min<qsizetype>(words.size(), 80)))));
+    }
+}
+
+void ObjectBuilder::comment()
+{
+    if (m_root) {
+        note(ReadNote::Dropped, u"A comment is not kept."_s);
+    }
+}
+
+void ObjectBuilder::processingInstruction()
+{
+    if (m_root) {
+        note(ReadNote::Dropped, u"A processing instruction is not kept."_s);
+    }
+}
+
+} // namespace Halvane::Corvex::Designer
