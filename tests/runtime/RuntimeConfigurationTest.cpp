@@ -248,6 +248,11 @@ TEST_F(RuntimeConfigurationTest, WritesThreeFilesOrTellsWhyNot)
     addVariable(u"NumberVariable"_s, u"level"_s, {{u"value"_s, u"62.5"_s}});
     addVariable(u"StringVariable"_s, u"level10"_s, {{u"value"_s, u"x"_s}});
     addVariable(u"NumberVariable"_s, u"level9"_s, {{u"value"_s, u"y"_s}});
+    // Two of one name, which is a problem and no reason to write what cannot be read.
+    addVariable(u"NumberVariable"_s, u"level2"_s, {{u"value"_s, u"2"_s}});
+    DesignerObject *twin = project->getItemInListProperty(u"variables"_s, u"level2"_s);
+    twin->setIdName(u"level9"_s);
+    ASSERT_EQ(twin->getIdName(), u"level9"_s);
     QTemporaryDir folder;
     QString error;
     ASSERT_TRUE(collected().write(folder.path(), &error)) << qPrintable(error);

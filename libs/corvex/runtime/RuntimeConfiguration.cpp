@@ -63,6 +63,10 @@ bool RuntimeConfiguration::collect(const DesignerObject &project, QString *error
 //! As a map has them: of several with one key, which a project with problems may hold, the last.
 void RuntimeConfiguration::sortVariables()
 {
+    // As a rule the project has them in this order already.
+    if (std::ranges::adjacent_find(m_variables, std::greater_equal(), &Variable::key) == m_variables.end()) {
+        return;
+    }
     std::ranges::stable_sort(m_variables, {}, &Variable::key);
     const auto hasHeir = [](const Variable &variable, const Variable &next) {
         return variable.key == next.key;
