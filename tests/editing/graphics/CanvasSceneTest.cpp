@@ -270,8 +270,14 @@ TEST_F(CanvasSceneTest, GroupingAndDeletingLeaveEverythingElseInItsPlace)
     const QStringList placed = lookUnordered();
     stack.push(new SplitGroup(group, QList<DesignerObject *>{turned}));
     EXPECT_EQ(lookUnordered(), placed);
-    stack.push(new UngroupCommand(group));
+    stack.push(new GroupCommand(make("GroupElement", "group3"), {box, other}));
     EXPECT_EQ(lookUnordered(), placed);
+    set(screen->getElement(u"group3"_s), "rotation", u"70"_s);
+    const QStringList turnedAgain = lookUnordered();
+    stack.push(new UngroupCommand(screen->getElement(u"group3"_s)));
+    EXPECT_EQ(lookUnordered(), turnedAgain);
+    stack.push(new UngroupCommand(group));
+    EXPECT_EQ(lookUnordered(), turnedAgain);
 }
 
 TEST_F(CanvasSceneTest, MembersOfTurnedGroupsGoWhereTheMouseTakesThem)

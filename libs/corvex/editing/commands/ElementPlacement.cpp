@@ -75,19 +75,18 @@ QPointF ElementPlacement::turned(const QPointF &way) const
     return turn.map(way);
 }
 
-ElementPlacement ElementPlacement::withRest(const QList<DesignerObject *> &rest) const
+ElementPlacement ElementPlacement::holding(const QList<ElementPlacement> &members) const
 {
     // A group reaches from its own zero point to the far edges of its members, turned or not.
-    ElementPlacement left = *this;
-    left.size = {0, 0};
-    for (const DesignerObject *member : rest) {
-        const ElementPlacement inside = of(member);
-        left.size = left.size.expandedTo(
-            {inside.position.x() + inside.size.width(), inside.position.y() + inside.size.height()});
+    ElementPlacement group = *this;
+    group.size = {0, 0};
+    for (const ElementPlacement &member : members) {
+        group.size = group.size.expandedTo(
+            {member.position.x() + member.size.width(), member.position.y() + member.size.height()});
     }
-    const QPointF way = origin() - left.origin();
-    left.position += way - turned(way);
-    return left;
+    const QPointF way = origin() - group.origin();
+    group.position += way - turned(way);
+    return group;
 }
 
 ElementPlacement ElementPlacement::outOf(const ElementPlacement &group) const

@@ -25,8 +25,8 @@ struct ElementPlacement
     QPointF origin() const;
     //! What it covers, turned as it is.
     QRectF actualBoundingRect() const;
-    //! That of a group that only \a rest are left of, where they are still seen as before.
-    ElementPlacement withRest(const QList<DesignerObject *> &rest) const;
+    //! That of a group that holds \a members from here on, in which they are seen where they were.
+    ElementPlacement holding(const QList<ElementPlacement> &members) const;
     //! The same place outside of the group \a group for something that stands in it.
     ElementPlacement outOf(const ElementPlacement &group) const;
 

@@ -13,6 +13,22 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
+namespace {
+
+//! Those of a group's members but for some.
+QList<ElementPlacement> placements(const GroupElement *group, const QSet<const DesignerObject *> &without)
+{
+    QList<ElementPlacement> found;
+    for (const DesignerObject *member : group ? group->elements()->listItems() : QList<DesignerObject *>()) {
+        if (!without.contains(member)) {
+            found.append(ElementPlacement::of(member));
+        }
+    }
+    return found;
+}
+
+} // namespace
+
 SplitGroup::SplitGroup(DesignerObject *group, const QList<DesignerObject *> &members, UndoCommand *parent)
     : ModelCommand(group ? group->listProperty() : SharedProperty(), true, parent)
 {
@@ -52,14 +68,14 @@ QList<DesignerObject *> SplitGroup::named(DesignerObject *group, const QStringLi
     return members;
 }
 
-QList<ValueChange> SplitGroup::placeOutside(const DesignerObject *member, const GroupElement *group)
+QList<ValueChange> SplitGroup::placeOutside(const DesignerObject *member, const ElementPlacement &group)
 {
     QList<ValueChange> changes;
     if (!kindCast<VisualElement>(member)) {
         return changes;
     }
     const ElementPlacement inside = ElementPlacement::of(member);
-    const ElementPlacement outside = inside.outOf(ElementPlacement::of(group));
+    const ElementPlacement outside = inside.outOf(group);
     const auto add = [&](QStringView id, const QString &value) {
         const SharedProperty property = member->getProperty(id);
         if (property->valueString() != value) {
@@ -76,9 +92,38 @@ QList<ValueChange> SplitGroup::placeOutside(const DesignerObject *member, const 
     return changes;
 }
 
+QList<ValueChange> SplitGroup::placesAround(const GroupElement *group, const QList<DesignerObject *> &leaving,
+                                            bool groupGoes)
+{
+    QList<ValueChange> changes;
+    const ElementPlacement whole = ElementPlacement::of(group);
+    QList<ElementPlacement> outside;
+    for (const DesignerObject *member : leaving) {
+        outside.append(ElementPlacement::of(member).outOf(whole));
+    }
+    QList<ElementPlacement> inside = placements(group, {leaving.cbegin(), leaving.cend()});
+    while (group) {
+        if (!groupGoes) {
+            const ElementPlacement place = ElementPlacement::of(group).holding(inside);
+            const SharedProperty position = group->getProperty(u"position");
+            const QString text = ValueConversion::toString(place.position);
+            if (position->valueString() != text) {
+                changes.append({position, position->valueString(), text});
+            }
+            outside.append(place);
+        }
+        const GroupElement *outer = GroupIndexes::groupOf(group->listProperty());
+        inside = placements(outer, {group}) + std::exchange(outside, {});
+        group = outer;
+        groupGoes = false;
+    }
+    return changes;
+}
+
 void SplitGroup::setupCommands(GroupElement *group, const QList<DesignerObject *> &members)
 {
     const SharedProperty list = group->listProperty();
+    const ElementPlacement whole = ElementPlacement::of(group);
     qsizetype index = list->getListItemIndex(group);
     QStringList names;
     QSet<QString> below;
@@ -86,15 +131,14 @@ void SplitGroup::setupCommands(GroupElement *group, const QList<DesignerObject *
         names.append(member->getIdName());
         below |= ReferenceTarget(member).names();
         addStep<TakeItemStep>(group->elements(), member);
-        for (const ValueChange &change : placeOutside(member, group)) {
+        for (const ValueChange &change : placeOutside(member, whole)) {
             addStep<SetValueStep>(change);
         }
         addStep<InsertItemStep>(list, member, ++index);
     }
-    QList<DesignerObject *> rest = group->elements()->listItems();
-    rest.removeIf([&members](DesignerObject *member) { return members.contains(member); });
-    addValueStep(group->getProperty(u"position"),
-                 ValueConversion::toString(ElementPlacement::of(group).withRest(rest).position));
+    for (const ValueChange &change : placesAround(group, members, false)) {
+        addStep<SetValueStep>(change);
+    }
     addChanges(ReferenceChanges::ungrouped(group, below, false, pending()));
     addChange(group->indexes(), GroupIndexes::replaced(valueOf(group->indexes()), names, {}));
     if (const GroupElement *outer = GroupIndexes::groupOf(list)) {

@@ -6,6 +6,7 @@
 namespace Halvane::Corvex::Designer {
 
 class GroupElement;
+struct ElementPlacement;
 
 //! Takes some members out of a group and puts them in front of it, where they are seen as before. References
 //! to them lose the name of the group.
@@ -16,7 +17,11 @@ public:
     SplitGroup(DesignerObject *group, const QStringList &memberNames, UndoCommand *parent = nullptr);
 
     //! The values that leave a member of the group at the same place out of it.
-    static QList<ValueChange> placeOutside(const DesignerObject *member, const GroupElement *group);
+    static QList<ValueChange> placeOutside(const DesignerObject *member, const ElementPlacement &group);
+    /*! The places of a turned group and of those around it in which nothing is seen to move when some members
+        leave it, or it goes with that: what a group turns about depends on what it holds. */
+    static QList<ValueChange> placesAround(const GroupElement *group, const QList<DesignerObject *> &leaving,
+                                           bool groupGoes);
 
 private:
     void setupCommands(GroupElement *group, const QList<DesignerObject *> &members);

@@ -3,6 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editing/commands/EditStep.h"
+#include "corvex/editing/commands/ElementPlacement.h"
 #include "corvex/editing/commands/GroupIndexes.h"
 #include "corvex/editing/commands/ReferenceChanges.h"
 #include "corvex/editing/commands/SplitGroup.h"
@@ -36,14 +37,20 @@ UngroupCommand::UngroupCommand(DesignerObject *group, UndoCommand *parent)
     if (outer) {
         addChange(outer->indexes(), GroupIndexes::replaced(valueOf(outer->indexes()), {name}, members));
     }
+    const ElementPlacement whole = ElementPlacement::of(element);
+    const QList<ValueChange> around =
+        SplitGroup::placesAround(element, element->elements()->listItems(), true);
     qsizetype index = list->getListItemIndex(group);
     addStep<TakeItemStep>(list, group);
     for (DesignerObject *member : element->elements()->listItems()) {
         addStep<TakeItemStep>(element->elements(), member);
-        for (const ValueChange &change : SplitGroup::placeOutside(member, element)) {
+        for (const ValueChange &change : SplitGroup::placeOutside(member, whole)) {
             addStep<SetValueStep>(change);
         }
         addStep<InsertItemStep>(list, member, index++);
+    }
+    for (const ValueChange &change : around) {
+        addStep<SetValueStep>(change);
     }
 }
 
