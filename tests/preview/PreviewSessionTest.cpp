@@ -207,8 +207,7 @@ TEST(PreviewSession, keepsWhatOutlivesTheDevice)
     TestBuild build;
     build.addVariable(u"kept"_s, EnumHelper::IntegerVariable, 1, true);
     build.addVariable(u"lost"_s, EnumHelper::IntegerVariable, 1);
-    build.addVariable(u"Rectangle.look"_s, EnumHelper::DeviceVariable,
-                      u"<0308Main.box.color><0304Main.box.x>"_s);
+    build.addVariable(u"Rectangle.look"_s, EnumHelper::DeviceVariable, u"<0308Main.box.color><0304box.x>"_s);
     build.writeConfiguration();
     build.addScreen("Main", "Rectangle { objectName: \"box\"; color: \"red\" }");
     const QString state = build.path(u"state/kept.json"_s);

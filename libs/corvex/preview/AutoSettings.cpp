@@ -33,17 +33,18 @@ void AutoSettings::attach(const QString &screen, const std::function<QObject *(c
     m_watchers.clear();
     for (const QString &path : std::as_const(m_paths)) {
         const qsizetype dot = path.lastIndexOf(u'.');
-        QObject *element = path.startsWith(screen + u'.') && dot > 0 ? find(path.first(dot)) : nullptr;
+        QObject *element = dot > 0 ? find(path.first(dot)) : nullptr;
         if (!element) {
             continue;
         }
+        const QString key = path.startsWith(screen + u'.') ? path : u"%1.%2"_s.arg(screen, path);
         QQmlProperty property(element, path.sliced(dot + 1));
-        if (m_state.contains(path)) {
-            property.write(m_state.value(path));
+        if (m_state.contains(key)) {
+            property.write(m_state.value(key));
         }
         auto watcher = std::make_unique<SettingWatcher>(property);
         connect(watcher.get(), &SettingWatcher::changed, this,
-                [this, path](const QVariant &value) { m_state.setValue(path, Variable::textOf(value)); });
+                [this, key](const QVariant &value) { m_state.setValue(key, Variable::textOf(value)); });
         m_watchers.push_back(std::move(watcher));
     }
 }

@@ -21,7 +21,8 @@ class AutoSettings : public QObject
 public:
     explicit AutoSettings(SavedState &state);
 
-    //! A path is "Main.box.color". The record of a variable holds them as an expression.
+    //! A path is "Main.box.color", or "box.color" for the elements of that name on every screen. The record
+    //! of a variable holds them as an expression.
     static QStringList pathsOf(const QVariantMap &record);
 
     void add(const QStringList &paths) { m_paths += paths; }
