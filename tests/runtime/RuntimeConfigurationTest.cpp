@@ -147,6 +147,8 @@ TEST_F(RuntimeConfigurationTest, PasswordsAreHashedWhereTheyAreAskedFor)
     EXPECT_EQ(password(u"retreivePassword"_s), hash) << "two builds agree";
     EXPECT_EQ(password(u"uploadPassword"_s), QString());
     configure(u"enableUpload"_s, u"true"_s);
+    configure(u"uploadPassword"_s, {});
+    EXPECT_FALSE(password(u"uploadPassword"_s).isEmpty()) << "what is to ask never stands open";
     configure(u"uploadPassword"_s, u"secret42"_s);
     EXPECT_FALSE(password(u"uploadPassword"_s).isEmpty());
     EXPECT_NE(password(u"uploadPassword"_s), hash) << "that the two are the same is nobody's business";

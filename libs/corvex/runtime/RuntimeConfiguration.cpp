@@ -125,10 +125,9 @@ bool RuntimeConfiguration::addPasswords(const DesignerObject &project, QString *
     const DesignerObject *device = configuration ? configuration->objectValue() : nullptr;
     for (const auto &[key, enabled, password] : passwords) {
         const QString name = QString::fromUtf16(key);
-        const QString plain = valueOf(device, password);
         QString hash;
-        if (valueOf(device, enabled) == "true"_L1 && !plain.isEmpty()) {
-            hash = Common::PasswordHash::of(plain, {project.getIdName(), name});
+        if (valueOf(device, enabled) == "true"_L1) {
+            hash = Common::PasswordHash::of(valueOf(device, password), {project.getIdName(), name});
             if (hash.isEmpty()) {
                 *error = Common::LocalizationHelper::coreString(
                     u"There is not enough memory for the protection of the passwords (64 MB)."_s);
