@@ -55,7 +55,7 @@ int groupOf(const DesignerObject *item)
     return entry == std::end(qmlLists) ? otherGroup : int(entry - std::begin(qmlLists));
 }
 
-//! A serial port writes the address map of its variable, which has to know for which screen.
+//! A serial port comes with the address map of its variable, which has to know for which screen.
 void announceScreen(const DesignerObject *port, const Screen &screen)
 {
     const SharedProperty mapping = port->getProperty(u"mapping");
@@ -104,9 +104,7 @@ QStringList Screen::elementLists(int indent) const
     for (const DesignerObject *item : elements()->listItems()) {
         const int group = groupOf(item);
         if (group < listCount && qmlLists[group].isSerialPort) {
-            if (group < listCount) {
-                announceScreen(item, *this);
-            }
+            announceScreen(item, *this);
         }
         blocks[group].append(item->toQml(group < listCount ? indent + 1 : indent));
     }

@@ -22,7 +22,7 @@ public:
     //! The name of the screen for whose port the map's QML is being written.
     void setQmlActiveScreen(const QString &screenName) { m_qmlActiveScreen = screenName; }
     const QString &qmlActiveScreen() const { return m_qmlActiveScreen; }
-    //! Nothing: the device takes the maps from its configuration.
+    //! Nothing: a port names its map, and the maps themselves travel in the zipped project.
     QString toQml(int indent) const override;
 
 protected:
