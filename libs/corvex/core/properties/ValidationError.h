@@ -3,7 +3,8 @@
 
 #include <QString>
 
-//! The sentences in which properties say why they are invalid.
+//! How the value checks of the property classes write their sentences, and those that several of them use.
+//! What looks beyond a property writes its own: PropertyValidators.
 namespace Halvane::Corvex::Designer::ValidationError {
 
 inline constexpr auto *invalidColor = "The color is invalid. Please choose a valid color.";

@@ -31,7 +31,6 @@ private:
     void setupCommand();
     void followLinkedElement();
     void followName();
-    void followConfiguration();
     bool notifyFileMissing() const;
     bool set(const QString &value);
 
