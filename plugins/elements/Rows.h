@@ -6,9 +6,11 @@
 //! Rows that occur in the tables of several elements.
 namespace Halvane::Corvex::Elements {
 
+//! Stored, edited and sent to the runtime. A row of a property class without an editor of its own has to say
+//! so.
+inline constexpr int ordinary = Designer::OrdinaryFlags.toInt();
 //! Stored and edited; what goes to the runtime is written by those who use it.
-inline constexpr int notAtRuntime = Designer::StoredFlag | Designer::EditableFlag | Designer::StateFlag;
-inline constexpr int ordinary = notAtRuntime | Designer::RuntimeFlag;
+inline constexpr int notAtRuntime = ordinary & ~Designer::RuntimeFlag;
 
 //! An expression, empty at first.
 Designer::PropertyRow expressionRow(const char *id, const char *title, const char *editor);
