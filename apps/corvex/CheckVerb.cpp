@@ -38,7 +38,7 @@ ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> 
         return ExitCode::File;
     }
     const QJsonArray entries = QJsonDocument::fromJson(program.process().readAllStandardOutput()).array();
-    for (const QJsonValue &entry : entries) {
+    for (const auto &entry : entries) {
         problems.append({entry[u"object"].toString(), QString(), entry[u"message"].toString()});
     }
     const ExitCode code = program.exitCode();

@@ -16,6 +16,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
@@ -35,15 +37,17 @@ Exported exportAs(const ProjectFile &file)
     return Exporter::write(file.project());
 }
 
-constexpr struct
+struct Kind
 {
     const char *name;
     Exported (*write)(const ProjectFile &file);
-} kinds[] = {
-    {"modbus", exportAs<ModbusExport>},
-    {"bacnet", exportBACnet},
-    {"can", exportAs<DbcExport>},
-    {"variables", exportAs<VariableExport>},
+};
+
+constexpr std::array kinds{
+    Kind{"modbus", exportAs<ModbusExport>},
+    Kind{"bacnet", exportBACnet},
+    Kind{"can", exportAs<DbcExport>},
+    Kind{"variables", exportAs<VariableExport>},
 };
 
 void reportWritten(const QStringList &paths, const Exported &exported, const Call &call)

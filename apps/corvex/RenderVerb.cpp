@@ -14,6 +14,7 @@
 #include "Verb.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QImage>
 
 using namespace Qt::StringLiterals;
@@ -70,6 +71,9 @@ ExitCode run(const Call &call, const ProjectFile &file)
     const QString path = call.value(u"output"_s);
     if (path.isEmpty()) {
         return call.misused(u"The file for the picture is missing: corvex render FILE -o PNG."_s);
+    }
+    if (QFileInfo(path).canonicalFilePath() == QFileInfo(file.project().fullFilePath()).canonicalFilePath()) {
+        return call.misused(u"\"%1\" is the project's own file. Choose another for the picture."_s.arg(path));
     }
     const DesignerProperty &screens = *file.project().screens();
     const QString name = screenName(call, file.project());

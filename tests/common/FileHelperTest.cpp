@@ -16,6 +16,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <limits>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using Halvane::Corvex::Common::FileHelper;
@@ -113,7 +114,9 @@ TEST_F(FileHelperTest, CopiesAreWholeOrNotThere)
 
 TEST_F(FileHelperTest, WriteErrorsNameTheFile)
 {
-    const QString bad[] = {path(u"missing/a"_s), m_folder.path(), QString()};
+    // A pipe stands for devices, which a test had better not put at risk.
+    ASSERT_EQ(mkfifo(path(u"pipe"_s).toUtf8().constData(), 0600), 0);
+    const QString bad[] = {path(u"missing/a"_s), path(u"pipe"_s), m_folder.path(), QString()};
     for (const QString &name : bad) {
         QString error;
         EXPECT_FALSE(FileHelper::writeFile(name, "x", &error)) << name.toStdString();

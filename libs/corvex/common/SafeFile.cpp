@@ -5,6 +5,7 @@
 #include "corvex/common/LocalizationHelper.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +14,11 @@ namespace Halvane::Corvex::Common {
 bool SafeFile::openForWriting(QString *error)
 {
     m_failure.clear();
+    // What is moved over a device or a pipe would be in its place for every program.
+    if (const QFileInfo target(fileName()); target.exists() && !target.isFile()) {
+        m_failure = LocalizationHelper::coreString(u"This is no file."_s);
+        return fail(error);
+    }
     if (open(QIODevice::WriteOnly))
         return true;
     m_failure = errorString();

@@ -70,6 +70,7 @@ TEST_F(RenderVerb, tellsWhatIsWrong)
         {{u"--screen"_s, u"Main"_s}, 2, u"corvex render FILE -o PNG"_s},
         {{u"--screen"_s, u"Mian"_s, u"-o"_s, u"x.png"_s}, 2, u"did you mean \"Main\""_s},
         {{u"--screen"_s, u"Main"_s, u"--handles"_s, u"bx"_s, u"-o"_s, u"x.png"_s}, 2, u"\"box\""_s},
+        {{u"-o"_s, u"Pump/../Pump/Pump.kdproj"_s}, 2, u"is the project's own file"_s},
         {{u"--screen"_s, u"Main"_s, u"-o"_s, u"none/x.png"_s}, 3, u"\"none/x.png\" cannot be written"_s},
     };
     for (const auto &[options, code, says] : cases) {
