@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The tools as their users run them: whole processes, beside other programs that do work of the same kind.
+#include "corvex/project/Element.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+
 #include "support/Counterparts.h"
 #include "support/Process.h"
 #include "support/Projects.h"
@@ -10,6 +14,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Benchmarks;
+using namespace Halvane::Corvex::Designer;
 
 namespace {
 
@@ -24,12 +29,12 @@ BENCHMARK_CAPTURE(start, QCoreApplication, QStringLiteral(CORVEX_BENCHMARK_FOLDE
 
 //! A file that differs from its canonical form in nothing but its very end, so that it is compared from the
 //! first byte to the last before it is written.
-QString fileToRewrite()
+QString fileToRewrite(const QString &size)
 {
     const QString path = QStringLiteral(CORVEX_BENCHMARK_FOLDER "/projects/Rewritten/Rewritten.kdproj");
     QDir().mkpath(QFileInfo(path).path());
     QFile::remove(path);
-    QFile::copy(projectFile(u"L"_s), path);
+    QFile::copy(projectFile(size), path);
     QFile file(path);
     if (!file.open(QIODevice::Append) || file.write("\n") != 1) {
         qFatal("%s cannot be written", qUtf8Printable(path));
@@ -37,11 +42,53 @@ QString fileToRewrite()
     return path;
 }
 
-void rewriteProject(benchmark::State &state)
+void rewriteProject(benchmark::State &state, const QString &size)
 {
-    measureProcess(state, tool(u"corvex"_s), {u"fmt"_s, fileToRewrite()}, [] { fileToRewrite(); });
+    measureProcess(state, tool(u"corvex"_s), {u"fmt"_s, fileToRewrite(size)},
+                   [size] { fileToRewrite(size); });
 }
-BENCHMARK(rewriteProject)->Name("rewrite/corvex")->UseManualTime()->Iterations(1);
+BENCHMARK_CAPTURE(rewriteProject, corvex, u"L"_s)->Name("rewrite/corvex")->UseManualTime()->Iterations(1);
+BENCHMARK_CAPTURE(rewriteProject, M, u"M"_s)->Name("rewrite/M")->UseManualTime()->Iterations(2);
+
+//! A line for each tenth a new name and for the others a new place, going round all that is seen.
+QString scriptOfEdits()
+{
+    constexpr int lineCount = 10'000;
+    const QString path = QStringLiteral(CORVEX_BENCHMARK_FOLDER "/edits.txt");
+    QStringList paths;
+    const std::unique_ptr<Project> project = loadProject(projectFile(u"M"_s));
+    for (const DesignerObject *screen : project->screens()->listItems()) {
+        for (const Element *element :
+             static_cast<const Screen *>(screen)->getElementsOfType(u"VisualElement"_s)) {
+            if (element->ownerObject() == screen) {
+                paths.append(element->objectPath());
+            }
+        }
+    }
+    QFile file(path);
+    bool isWritten = file.open(QIODevice::WriteOnly) && !paths.isEmpty();
+    for (int i = 0; isWritten && i < lineCount; ++i) {
+        QString &target = paths[i % paths.size()];
+        QString line = u"set %1.position x: %2; y: 7;\n"_s.arg(target, QString::number(i));
+        if (i % 10 == 0) {
+            const QString name = u"edited%1"_s.arg(i);
+            line = u"rename %1 %2\n"_s.arg(target, name);
+            target = target.section(u'.', 0, -2) + u'.' + name;
+        }
+        isWritten = file.write(line.toUtf8()) > 0;
+    }
+    if (!isWritten) {
+        qFatal("%s cannot be written", qUtf8Printable(path));
+    }
+    return path;
+}
+
+void editByScript(benchmark::State &state)
+{
+    measureProcess(state, tool(u"corvex"_s), {u"edit"_s, fileToRewrite(u"M"_s), scriptOfEdits()},
+                   [] { fileToRewrite(u"M"_s); });
+}
+BENCHMARK(editByScript)->Name("edit/M")->UseManualTime()->Iterations(2);
 
 void rewriteMap(benchmark::State &state)
 {

@@ -114,6 +114,8 @@ TEST_F(EditVerb, oneBadLineAndNothingIsDone)
         {"set Main.title.position far", "\"Main.title.position\" does not take \"far\"."},
         {"set Main.size height: 1; width: 1;", "\"Main.size\" is not stored; it follows from other values."},
         {"set Main.title.text \xff", "The bytes are not UTF-8, the one encoding that is read."},
+        {"set Main.photo.source filterType: ImageResource; objectId: x.png; scopeType: Project;",
+         "The file of the image is missing."},
         {"set Main.title.id x", "Names are given by rename, which takes all references along."},
         {"rename Main.title", "The form of this edit is: rename PATH NAME"},
         {"rename Main.title box1", "The name is not unique."},

@@ -159,6 +159,12 @@ bool ChangeProperty::isValid() const
     return !m_isFileMissing && ModelCommand::isValid();
 }
 
+QString ChangeProperty::errorString() const
+{
+    return m_isFileMissing ? Common::LocalizationHelper::coreString(u"The file of the image is missing."_s)
+                           : ModelCommand::errorString();
+}
+
 bool ChangeProperty::set(const QString &value)
 {
     const bool isDone = ValueChange::set(property(), value);

@@ -18,6 +18,7 @@ public:
                    UndoCommand *parent = nullptr);
 
     bool isValid() const override;
+    QString errorString() const override;
 
     const QString &oldValue() const { return m_before; }
     const QString &newValue() const { return m_after; }
