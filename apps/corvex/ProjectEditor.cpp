@@ -35,6 +35,7 @@
 #include "corvex/values/ListInfo.h"
 #include "corvex/variables/ProjectVariable.h"
 
+#include "EditLine.h"
 #include "Installation.h"
 #include "ProjectPath.h"
 
@@ -88,11 +89,6 @@ qsizetype closeness(const SharedProperty &list, const DesignerObject *item)
     return closest;
 }
 
-bool isImage(const QString &file)
-{
-    return Common::FileHelper::isValidImage(file);
-}
-
 } // namespace
 
 struct ProjectEditor::Entry
@@ -127,43 +123,6 @@ const QList<ProjectEditor::Entry> &ProjectEditor::entries()
     return table;
 }
 
-bool ProjectEditor::split(const QString &line, QStringList &words, QString &error)
-{
-    QString word;
-    bool isInWord = false;
-    bool isQuoted = false;
-    m_rest.clear();
-    for (qsizetype i = 0; i < line.size(); ++i) {
-        const QChar c = line.at(i);
-        if (isQuoted && c == u'\\' && i + 1 < line.size()) {
-            const QChar next = line.at(++i);
-            word += next == u'n' ? QChar(u'\n') : next == u't' ? QChar(u'\t') : next;
-        } else if (c == u'"') {
-            isQuoted = !isQuoted;
-            isInWord = true;
-        } else if (!isQuoted && (c == u' ' || c == u'\t')) {
-            if (isInWord) {
-                words.append(std::exchange(word, {}));
-                if (words.size() == 2) {
-                    m_rest = line.sliced(i).trimmed();
-                }
-            }
-            isInWord = false;
-        } else {
-            word += c;
-            isInWord = true;
-        }
-    }
-    if (isQuoted) {
-        error = u"A quote is opened and not closed."_s;
-        return false;
-    }
-    if (isInWord) {
-        words.append(word);
-    }
-    return true;
-}
-
 bool ProjectEditor::run(const QString &line, QString &error)
 {
     const QString trimmed = line.trimmed();
@@ -171,14 +130,12 @@ bool ProjectEditor::run(const QString &line, QString &error)
         return true;
     }
     m_error.clear();
-    Words words;
-    if (line.contains(QChar::Null)) {
-        error = u"The line holds a NUL."_s;
+    EditLine taken;
+    if (!taken.read(trimmed, error)) {
         return false;
     }
-    if (!split(trimmed, words, error)) {
-        return false;
-    }
+    m_rest = taken.rest;
+    Words &words = taken.words;
     const auto entry = std::ranges::find_if(
         entries(), [&](const Entry &known) { return words.first() == QLatin1StringView(known.name); });
     if (entry == entries().cend()) {
@@ -440,7 +397,7 @@ bool ProjectEditor::addImages(const Words &words)
     ImageNames names(&m_project);
     for (const QString &file : words) {
         const QFileInfo info(file);
-        if (!isImage(file)) {
+        if (!Common::FileHelper::isValidImage(file)) {
             return fail(u"\"%1\" is no image, or not one of the kind that its extension tells."_s.arg(file));
         }
         const QString digest = Common::FileHelper::md5(file);

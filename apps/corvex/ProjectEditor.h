@@ -18,8 +18,8 @@ namespace Halvane::Corvex::Tool {
 
 class Call;
 
-/*! Edits a project by lines of text, one edit each: "set Main.title.text Hello". Words are parted by blanks;
-   a word in double quotes may hold blanks, and \", \\, \n and \t. Paths are those of ProjectPath.
+/*! Edits a project by lines of text, one edit each: "set Main.title.text Hello". Words are those of
+    EditLine, paths those of ProjectPath.
 
     Each edit is one step of the project's history, except undo and redo. */
 class ProjectEditor
@@ -59,8 +59,6 @@ private:
     struct Entry;
     static const QList<Entry> &entries();
 
-    //! The words of a line; false when a quote is not closed.
-    bool split(const QString &line, QStringList &words, QString &error);
     bool push(Designer::ModelCommand *command);
     //! For a command that brings \a made into the model, which is refused when its name is not valid there.
     bool push(Designer::ModelCommand *command, const Designer::DesignerObject *made);

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "EditLine.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+bool EditLine::read(const QString &line, QString &error)
+{
+    QString word;
+    bool isInWord = false;
+    bool isQuoted = false;
+    words.clear();
+    rest.clear();
+    if (line.contains(QChar::Null)) {
+        error = u"The line holds a NUL."_s;
+        return false;
+    }
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        const QChar c = line.at(i);
+        if (isQuoted && c == u'\\' && i + 1 < line.size()) {
+            const QChar next = line.at(++i);
+            word += next == u'n' ? QChar(u'\n') : next == u't' ? QChar(u'\t') : next;
+        } else if (c == u'"') {
+            isQuoted = !isQuoted;
+            isInWord = true;
+        } else if (!isQuoted && (c == u' ' || c == u'\t')) {
+            if (isInWord) {
+                words.append(std::exchange(word, {}));
+                if (words.size() == 2) {
+                    rest = line.sliced(i).trimmed();
+                }
+            }
+            isInWord = false;
+        } else {
+            word += c;
+            isInWord = true;
+        }
+    }
+    if (isQuoted) {
+        error = u"A quote is opened and not closed."_s;
+        return false;
+    }
+    if (isInWord) {
+        words.append(word);
+    }
+    return true;
+}
+
+} // namespace Halvane::Corvex::Tool
