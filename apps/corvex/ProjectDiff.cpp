@@ -5,6 +5,7 @@
 #include "corvex/project/Screen.h"
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -115,7 +116,7 @@ ProjectDiff::ProjectDiff(const DesignerObject &before, const DesignerObject &aft
 
 QString ProjectDiff::nameOf(Kind kind)
 {
-    static const QString names[] = {u"added"_s, u"removed"_s, u"renamed"_s, u"moved"_s, u"changed"_s};
+    static const std::array names{u"added"_s, u"removed"_s, u"renamed"_s, u"moved"_s, u"changed"_s};
     return names[kind];
 }
 

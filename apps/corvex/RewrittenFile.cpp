@@ -58,7 +58,7 @@ bool RewrittenFile::beginDifference()
             return fail(error);
         }
     }
-    constexpr qint64 blockSize = 256 * 1024;
+    constexpr qint64 blockSize = qint64(256) * 1024;
     m_line = 1;
     m_old.seek(0);
     for (qint64 left = m_equalBytes; left > 0;) {

@@ -106,10 +106,11 @@ bool FileHelper::copyFile(const QString &source, const QString &target, QString 
         do {
             block = from.read(1 << 18);
         } while (!block.isEmpty() && to.write(block) == block.size());
-        if (!block.isEmpty() || !to.flush())
+        if (!block.isEmpty() || !to.flush()) {
             reason = writeError(to);
-        else if (from.error() != QFileDevice::NoError)
+        } else if (from.error() != QFileDevice::NoError) {
             reason = from.errorString();
+        }
         if (!reason.isEmpty())
             to.remove();
     }

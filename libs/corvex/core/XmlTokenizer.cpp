@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-constexpr qint64 longestToken = 16 * 1024 * 1024;
+constexpr qint64 longestToken = qint64(16) * 1024 * 1024;
 
 //! Two bytes that no text in UTF-8 begins with and each in UTF-16 does, with a byte order mark or without.
 bool beginsAsUtf16(QByteArrayView bytes)
