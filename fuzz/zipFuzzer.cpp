@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/ZipHelper.h"
+#include "corvex/common/zip/ZipHelper.h"
 
 #include "FuzzSupport.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/FileHelper.h"
-#include "corvex/common/ZipHelper.h"
+#include "corvex/common/zip/ZipHelper.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/ProjectAutosave.h"
 

@@ -32,7 +32,7 @@ PreviewSession::~PreviewSession()
     removeScreen();
 }
 
-bool PreviewSession::open(const QString &path, QString *error)
+bool PreviewSession::load(const QString &path, QString *error)
 {
     StandIns::registerModules();
     if (!m_build.open(path, error)) {
@@ -45,6 +45,13 @@ bool PreviewSession::open(const QString &path, QString *error)
         m_panel->problems().report(QString(), u"The preview knows no class \"%1\" and shows boxes for its "
                                               "elements."_s.arg(name));
     }
+    m_first = std::make_unique<QQmlComponent>(&m_panel->engine(), urlOf(m_build.defaultScreen()),
+                                              QQmlComponent::Asynchronous);
+    return true;
+}
+
+void PreviewSession::start()
+{
     addVariables();
     restoreState();
     new Viewer(*m_panel, [this](const QString &file, int line) { return locate(file, line); });
@@ -61,6 +68,15 @@ bool PreviewSession::open(const QString &path, QString *error)
         },
         Qt::QueuedConnection);
     showScreen(m_build.defaultScreen().sliced(idPrefix.size()));
+    m_first.reset();
+}
+
+bool PreviewSession::open(const QString &path, QString *error)
+{
+    if (!load(path, error)) {
+        return false;
+    }
+    start();
     return true;
 }
 
@@ -167,7 +183,7 @@ bool PreviewSession::showScreen(const QString &name)
     removeScreen();
     m_screenId = id;
     const ScriptScope scope(*m_panel, name);
-    m_screen = load(id);
+    m_screen = makeScreen(id);
     if (m_screen) {
         m_settings.attach(name, [this](const QString &path) { return find(path); });
     }
@@ -175,9 +191,14 @@ bool PreviewSession::showScreen(const QString &name)
     return m_screen;
 }
 
-QQuickItem *PreviewSession::load(const QString &id)
+QUrl PreviewSession::urlOf(const QString &id) const
 {
-    QQmlComponent component(&m_panel->engine(), QUrl::fromLocalFile(m_build.screens().value(id).path));
+    return QUrl::fromLocalFile(m_build.screens().value(id).path);
+}
+
+QQuickItem *PreviewSession::makeScreen(const QString &id)
+{
+    QQmlComponent component(&m_panel->engine(), urlOf(id));
     std::unique_ptr<QObject> object(
         component.isReady() ? component.beginCreate(m_panel->engine().rootContext()) : nullptr);
     takeWarnings(component.errors());

@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QPointer>
+#include <QQmlComponent>
 #include <QQuickItem>
 
 namespace Halvane::Corvex::Preview {
@@ -26,7 +27,12 @@ public:
     void keepStateIn(const QString &file) { m_stateFile = file; }
     //! Writes what is not in that file yet.
     void flushState() { m_state.flush(); }
-    //! False, with a text for the user, when there is nothing to show.
+    /*! Reads a build, of which a thread of its own then reads the first screen. False, with a text for the
+       user, when there is nothing to show. */
+    bool load(const QString &path, QString *error);
+    //! Gives the variables their values and shows the first screen; once, after load.
+    void start();
+    //! Loads and starts.
     bool open(const QString &path, QString *error);
     const BuildFolder &build() const { return m_build; }
     Panel &panel() { return *m_panel; }
@@ -60,7 +66,8 @@ private:
     void restoreState();
     void takeWarnings(const QList<QQmlError> &warnings);
     QString locate(const QString &file, int line) const;
-    QQuickItem *load(const QString &id);
+    QUrl urlOf(const QString &id) const;
+    QQuickItem *makeScreen(const QString &id);
     void removeScreen();
 
     QString m_stateFile;
@@ -68,6 +75,7 @@ private:
     SavedState m_state;
     AutoSettings m_settings;
     std::unique_ptr<Panel> m_panel;
+    std::unique_ptr<QQmlComponent> m_first; //!< the first screen on its way, until it is there
     std::unique_ptr<QQuickItem> m_frame;
     QPointer<QQuickItem> m_screen;
     QString m_screenId;

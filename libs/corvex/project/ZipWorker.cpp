@@ -2,7 +2,7 @@
 #include "corvex/project/ZipWorker.h"
 
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/common/ZipHelper.h"
+#include "corvex/common/zip/ZipHelper.h"
 
 #include <QThread>
 

@@ -3,7 +3,7 @@
 
 #include "corvex/common/FileHelper.h"
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/common/ZipHelper.h"
+#include "corvex/common/zip/ZipHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ObjectXmlWriter.h"
 #include "corvex/runtime/RuntimeConfiguration.h"

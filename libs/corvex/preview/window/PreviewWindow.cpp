@@ -6,6 +6,7 @@
 #include "corvex/preview/window/ProblemsModel.h"
 #include "corvex/preview/window/VariablesModel.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QHeaderView>
@@ -14,6 +15,7 @@
 #include <QSortFilterProxyModel>
 #include <QStatusBar>
 #include <QTableView>
+#include <QThreadPool>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -62,30 +64,40 @@ QWidget *makeVariables(VariablesModel *model)
     return content;
 }
 
+//! The system looks through all its fonts for the first text, and no screen has to be there for that.
+void findFonts()
+{
+    QThreadPool::globalInstance()->start([font = QApplication::font()] { QFontInfo(font).family(); });
+}
+
 } // namespace
 
 PreviewWindow::PreviewWindow()
     : m_variables(new VariablesModel(this))
     , m_problems(new ProblemsModel(this))
-    , m_view(new PanelView)
-    , m_variablesDock(addDock(tr("Variables"), Qt::RightDockWidgetArea))
-    , m_channelsDock(addDock(tr("Inputs and outputs"), Qt::RightDockWidgetArea))
-    , m_problemsDock(addDock(tr("Problems"), Qt::BottomDockWidgetArea))
-    , m_screens(new QComboBox)
 {
-    setCentralWidget(m_view);
-    makeToolBar();
-    makeDocks();
+    findFonts();
     connect(&m_watch, &QTimer::timeout, this, &PreviewWindow::reloadIfNew);
 }
 
 PreviewWindow::~PreviewWindow()
 {
-    use(nullptr);
+    if (m_session) {
+        use(nullptr);
+    }
+}
+
+void PreviewWindow::makeView()
+{
+    m_view = new PanelView;
+    setCentralWidget(m_view);
+    makeToolBar();
+    makeDocks();
 }
 
 void PreviewWindow::makeToolBar()
 {
+    m_screens = new QComboBox;
     QToolBar *bar = addToolBar(tr("Panel"));
     bar->setMovable(false);
     m_screens->setToolTip(tr("Screen"));
@@ -120,6 +132,9 @@ QDockWidget *PreviewWindow::addDock(const QString &title, Qt::DockWidgetArea are
 //! The panel is what the user waits for: what is beside it comes when it is there.
 void PreviewWindow::makeDocks()
 {
+    m_variablesDock = addDock(tr("Variables"), Qt::RightDockWidgetArea);
+    m_channelsDock = addDock(tr("Inputs and outputs"), Qt::RightDockWidgetArea);
+    m_problemsDock = addDock(tr("Problems"), Qt::BottomDockWidgetArea);
     resizeDocks({m_variablesDock}, {sideWidth}, Qt::Horizontal);
     resizeDocks({m_problemsDock}, {bottomHeight}, Qt::Vertical);
     connect(m_view, &PanelView::drawn, this, &PreviewWindow::fillDocks,
@@ -147,9 +162,14 @@ bool PreviewWindow::open(const QString &folder, const QString &stateFile, QStrin
     m_stamp = BuildFolder::stampOf(folder);
     auto session = std::make_unique<PreviewSession>();
     session->keepStateIn(stateFile);
-    if (!session->open(folder, error)) {
+    if (!session->load(folder, error)) {
         return false;
     }
+    // The window is made while the screen is read.
+    if (!m_view) {
+        makeView();
+    }
+    session->start();
     use(std::move(session));
     m_watch.start(watchInterval);
     return true;

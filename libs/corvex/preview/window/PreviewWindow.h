@@ -30,6 +30,7 @@ public:
     PreviewSession &session() { return *m_session; }
 
 private:
+    void makeView();
     void makeToolBar();
     void makeDocks();
     void fillDocks();
@@ -46,12 +47,12 @@ private:
     std::unique_ptr<PreviewSession> m_session;
     VariablesModel *m_variables;
     ProblemsModel *m_problems;
-    PanelView *m_view;
-    QDockWidget *m_variablesDock;
-    QDockWidget *m_channelsDock;
-    QDockWidget *m_problemsDock;
+    PanelView *m_view = nullptr; //!< as all that is below it, from the first build on
+    QDockWidget *m_variablesDock = nullptr;
+    QDockWidget *m_channelsDock = nullptr;
+    QDockWidget *m_problemsDock = nullptr;
     ChannelsView *m_channels = nullptr;
-    QComboBox *m_screens;
+    QComboBox *m_screens = nullptr;
     QTimer m_watch;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/DeflatedBytes.h"
+#include "corvex/common/zip/DeflatedBytes.h"
 
 #include <libdeflate.h>
 #include <memory>

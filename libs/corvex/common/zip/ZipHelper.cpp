@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/ZipHelper.h"
+#include "corvex/common/zip/ZipHelper.h"
 
-#include "corvex/common/DeflatedBytes.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/SafeFile.h"
+#include "corvex/common/zip/DeflatedBytes.h"
 
 #include <QDir>
 #include <QDirIterator>
