@@ -97,37 +97,39 @@ bool RuntimeGenerator::makeBuildFolder()
 
 bool RuntimeGenerator::writeProject(const DesignerObject *project)
 {
-    const QByteArray xml = projectXml(project);
-    if (xml.isEmpty()) {
-        return false;
-    }
-    // Packing takes as long as writing all screens does; the packer gets nothing but the bytes. Without a
-    // second thread it works when it is asked for its result.
-    std::future<QString> packing = std::async(
-        std::launch::async | std::launch::deferred, [xml, path = filePath(packedName + u".zip"_s)] {
-            QString error;
-            Common::ZipHelper::zipWithBytes(xml, packedName, path, {}, compressionLevel, &error);
-            return error;
-        });
+    // Packing takes as long as writing all screens does. The packer reads the values of the model, which
+    // nothing changes meanwhile. Without a second thread it works when it is asked for its result.
+    std::future<QString> packing = std::async(std::launch::async | std::launch::deferred,
+                                              [this, project] { return packProject(*project); });
     const bool written = writeConfiguration(project) && writeScreens(project);
     const QString error = packing.get();
     return error.isEmpty() ? written : fail(error);
 }
 
-QByteArray RuntimeGenerator::projectXml(const DesignerObject *project)
+QString RuntimeGenerator::packProject(const DesignerObject &project) const
 {
-    IdentifierInfo id = project->getIdInfo();
+    QString error;
+    const QByteArray xml = projectXml(project, &error);
+    if (error.isEmpty()) {
+        Common::ZipHelper::zipWithBytes(xml, packedName, filePath(packedName + u".zip"_s), {},
+                                        compressionLevel, &error);
+    }
+    return error;
+}
+
+QByteArray RuntimeGenerator::projectXml(const DesignerObject &project, QString *error) const
+{
+    IdentifierInfo id = project.getIdInfo();
     id.setName(u"Project"_s);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     ObjectXmlWriter writer(&buffer, ObjectXmlWriter::LineEnd::Windows);
-    writer.setRootValue(project->idProperty()->id(), id.toString());
+    writer.setRootValue(project.idProperty()->id(), id.toString());
     if (!m_buildTag.isEmpty()) {
         writer.setRootValue(u"version"_s, m_buildTag);
     }
-    if (!writer.write(project)) {
-        fail(writer.errorString());
-        return {};
+    if (!writer.write(&project)) {
+        *error = writer.errorString();
     }
     return buffer.data();
 }

@@ -40,7 +40,9 @@ public:
 private:
     bool makeBuildFolder();
     bool writeProject(const DesignerObject *project);
-    QByteArray projectXml(const DesignerObject *project);
+    //! In a thread of its own: reads the model and this, and changes neither. The error, empty without one.
+    QString packProject(const DesignerObject &project) const;
+    QByteArray projectXml(const DesignerObject &project, QString *error) const;
     bool writeConfiguration(const DesignerObject *project);
     bool writeScreens(const DesignerObject *project);
     bool copyResources();
