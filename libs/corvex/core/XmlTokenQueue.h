@@ -4,10 +4,9 @@
 
 #include "corvex/core/XmlTokens.h"
 
-#include <QMutex>
-#include <QWaitCondition>
-
 #include <array>
+#include <condition_variable>
+#include <mutex>
 
 namespace Halvane::Corvex::Designer {
 
@@ -30,8 +29,8 @@ private:
     static constexpr size_t size = 4;
 
     std::array<XmlTokens, size> m_tokens;
-    QMutex m_mutex;
-    QWaitCondition m_changed;
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
     size_t m_filled = 0; //!< how many have been filled so far
     size_t m_walked = 0; //!< how many of them have been walked
     bool m_isLastFilled = false;
