@@ -55,7 +55,8 @@ void XmlInput::parseBeside(XmlTokenizer &tokenizer)
         }
     }));
     reader->start();
-    if (!reader->isRunning()) {
+    // A thread that is through with a small file by now does not run either.
+    if (!reader->isRunning() && !reader->isFinished()) {
         parseHere(tokenizer);
         return;
     }
