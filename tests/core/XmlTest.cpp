@@ -80,7 +80,11 @@ TEST_F(Xml, TheFormIsFixed)
     EXPECT_FALSE(text.contains(u"secret"_s));
     EXPECT_TRUE(owner->convertToXmlDocument(false, true).isNull())
         << "the child that is missing is not stored";
-    EXPECT_EQ(owner->convertToXmlDocument(true, false).documentElement().tagName(), u"Node"_s);
+    const QDomDocument document = owner->convertToXmlDocument(true, false);
+    EXPECT_EQ(document.documentElement().tagName(), u"Node"_s);
+    EXPECT_EQ(document.firstChild().toProcessingInstruction().data(),
+              u"version=\"1.0\" encoding=\"UTF-8\""_s);
+    EXPECT_FALSE(owner->convertToXmlDocument(false, false).firstChild().isProcessingInstruction());
 }
 
 TEST_F(Xml, WhatWasSavedReadsBackEqual)

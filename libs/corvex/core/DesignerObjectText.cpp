@@ -64,8 +64,16 @@ void DesignerObject::finishReading() { }
 QDomDocument DesignerObject::convertToXmlDocument(bool withHeader, bool allProperties) const
 {
     QDomDocument document;
-    const QByteArray xml = toXml(this, withHeader, allProperties);
-    return !xml.isEmpty() && document.setContent(xml) ? document : QDomDocument();
+    const QByteArray xml = toXml(this, false, allProperties);
+    if (xml.isEmpty() || !document.setContent(xml)) {
+        return {};
+    }
+    if (withHeader) {
+        document.insertBefore(
+            document.createProcessingInstruction(u"xml"_s, u"version=\"1.0\" encoding=\"UTF-8\""_s),
+            document.firstChild());
+    }
+    return document;
 }
 
 QString DesignerObject::convertToString(bool withHeader, bool allProperties) const
