@@ -87,8 +87,12 @@ TEST(DesignerFactoryTest, AnInstanceNeedsAPathAndKnowsTheLibrarysClasses)
     const Warnings warnings;
     EXPECT_FALSE(factory->createObject({}));
     EXPECT_FALSE(factory->createObject(u"Robot"_s));
+    EXPECT_FALSE(factory->createGraphicsItem(u"GraphicsRectangle"_s, nullptr));
+    EXPECT_FALSE(factory->createTemplate(u"Robot"_s));
     EXPECT_EQ(Warnings::s_texts, QStringList({u"Failed to create designer object \"\"."_s,
-                                              u"Failed to create designer object \"Robot\"."_s}));
+                                              u"Failed to create designer object \"Robot\"."_s,
+                                              u"Failed to create graphics item \"GraphicsRectangle\"."_s,
+                                              u"Failed to create template \"Robot\"."_s}));
 }
 
 TEST(DesignerFactoryTest, FactoriesWithBadOrTakenNamesAreRefused)

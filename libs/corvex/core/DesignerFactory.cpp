@@ -57,6 +57,16 @@ QPixmap drawIcon(const QString &className, QRgb color)
     return icon;
 }
 
+//! \a made, after a warning when it is null.
+template<class Made>
+Made *warnedOf(const char *kind, const QString &name, Made *made)
+{
+    if (!made) {
+        qWarning("Failed to create %s \"%s\".", kind, qUtf8Printable(name));
+    }
+    return made;
+}
+
 } // namespace
 
 DesignerFactory::DesignerFactory(QObject *parent)
@@ -195,38 +205,33 @@ DesignerObject *DesignerFactory::makeObject(const QString &className, QObject *p
         object->setParent(nullptr);
         delete std::exchange(object, nullptr);
     }
-    if (!object) {
-        qWarning("Failed to create designer object \"%s\".", qUtf8Printable(className));
-    }
-    return object;
+    return warnedOf("designer object", className, object);
 }
 
 GraphicsItem *DesignerFactory::createGraphicsItem(const QString &className, DesignerObject *object) const
 {
     IDesignerFactory *factory = object ? m_graphicsItems.value(className) : nullptr;
-    return factory ? factory->createGraphicsItem(className, object) : nullptr;
+    return warnedOf("graphics item", className,
+                    factory ? factory->createGraphicsItem(className, object) : nullptr);
 }
 
 PropertyEditor *DesignerFactory::createEditor(const QString &editorName, QWidget *parent) const
 {
     IDesignerFactory *factory = m_editors.value(editorName);
-    PropertyEditor *editor = factory ? factory->createEditor(editorName, parent) : nullptr;
-    if (!editor) {
-        qWarning("Failed to create property editor \"%s\".", qUtf8Printable(editorName));
-    }
-    return editor;
+    return warnedOf("property editor", editorName,
+                    factory ? factory->createEditor(editorName, parent) : nullptr);
 }
 
 Template *DesignerFactory::createTemplate(const QString &className, QObject *parent) const
 {
     IDesignerFactory *factory = m_templates.value(className);
-    return factory ? factory->createTemplate(className, parent) : nullptr;
+    return warnedOf("template", className, factory ? factory->createTemplate(className, parent) : nullptr);
 }
 
 Wizard *DesignerFactory::createWizard(const QString &wizardName) const
 {
     IDesignerFactory *factory = m_wizards.value(wizardName);
-    return factory ? factory->createWizard(wizardName) : nullptr;
+    return warnedOf("wizard", wizardName, factory ? factory->createWizard(wizardName) : nullptr);
 }
 
 QStringList DesignerFactory::objectNames() const

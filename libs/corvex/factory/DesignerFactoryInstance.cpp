@@ -14,6 +14,8 @@ namespace Halvane::Corvex::Designer {
 bool DesignerFactory::createInstance(const QString &path)
 {
     if (!QCoreApplication::instance() || !QFileInfo::exists(path)) {
+        qWarning("Failed to make the factory: there is no application object, or no \"%s\".",
+                 qUtf8Printable(path));
         return false;
     }
     delete instance();
