@@ -131,9 +131,13 @@ void Help::printJson(const Verb *verb, Terminal &terminal)
 
 QString Help::nearest(const QString &text, const QStringList &names)
 {
-    qsizetype least = std::max<qsizetype>(text.size() / 2, 1) + 1;
+    constexpr qsizetype mostSlips = 4;
+    qsizetype least = std::clamp<qsizetype>(text.size() / 2, 1, mostSlips) + 1;
     QString found;
     for (const QString &name : names) {
+        if (std::abs(text.size() - name.size()) >= least) {
+            continue; // it is as far away at least
+        }
         const qsizetype between = distance(text.toLower(), name.toLower());
         if (between < least) {
             least = between;

@@ -36,6 +36,7 @@
 #include "corvex/variables/ProjectVariable.h"
 
 #include "EditLine.h"
+#include "Help.h"
 #include "Installation.h"
 #include "ProjectPath.h"
 
@@ -75,18 +76,6 @@ QString pathOf(const SharedProperty &property)
 {
     const DesignerObject *owner = property->parentObject();
     return owner ? u"%1.%2"_s.arg(owner->objectPath(), property->id()) : property->id();
-}
-
-//! How closely the list describes such an item; -1 when it does not take it.
-qsizetype closeness(const SharedProperty &list, const DesignerObject *item)
-{
-    qsizetype closest = list->isList() && list->objectFilters().isEmpty() ? 0 : -1;
-    if (list->isList()) {
-        for (const QString &className : list->objectFilters()) {
-            closest = std::max(closest, item->classNames().indexOf(className));
-        }
-    }
-    return closest;
 }
 
 } // namespace
@@ -139,7 +128,7 @@ bool ProjectEditor::run(const QString &line, QString &error)
     const auto entry = std::ranges::find_if(
         entries(), [&](const Entry &known) { return words.first() == QLatin1StringView(known.name); });
     if (entry == entries().cend()) {
-        error = u"There is no edit \"%1\"."_s.arg(words.first());
+        error = u"There is no edit \"%1\". \"corvex help edit\" lists them."_s.arg(words.first());
         return false;
     }
     words.removeFirst();
@@ -197,11 +186,16 @@ void ProjectEditor::undoAll()
     m_project.createUndoStack();
 }
 
+bool ProjectEditor::failToFind(const QString &what, const QString &path)
+{
+    return fail(u"There is no %1 \"%2\". %3"_s.arg(what, path, ProjectPath::hint(&m_project, path)));
+}
+
 DesignerObject *ProjectEditor::object(const QString &path)
 {
     const ProjectPlace place = ProjectPath::find(&m_project, path);
     if (!place.object || place.property) {
-        fail(u"There is no object \"%1\"."_s.arg(path));
+        failToFind(u"object"_s, path);
         return nullptr;
     }
     return place.object;
@@ -219,30 +213,20 @@ bool ProjectEditor::objects(const Words &paths, QList<DesignerObject *> &found)
     return true;
 }
 
-//! The list that the path names, or that of the object that it names which takes such an item.
-SharedProperty ProjectEditor::listFor(const QString &path, const DesignerObject *item)
+SharedProperty ProjectEditor::listFor(const QString &path, const DesignerObject &item)
 {
-    const ProjectPlace place = ProjectPath::find(&m_project, path);
-    if (place.property && place.property->isList()) {
-        return place.property;
+    const SharedProperty list = ProjectPath::listFor(&m_project, path, item);
+    if (!list) {
+        fail(u"\"%1\" has no list for an object of the class %2."_s.arg(path, item.className()));
     }
-    if (place.object && !place.property) {
-        const QList<SharedProperty> &properties = place.object->properties();
-        const auto list = std::ranges::max_element(
-            properties, {}, [item](const SharedProperty &property) { return closeness(property, item); });
-        if (closeness(*list, item) >= 0) {
-            return *list;
-        }
-    }
-    fail(u"\"%1\" has no list for an object of the class %2."_s.arg(path, item->className()));
-    return {};
+    return list;
 }
 
 bool ProjectEditor::set(const Words &words)
 {
     const ProjectPlace place = ProjectPath::find(&m_project, words.first());
     if (!place.property) {
-        return fail(u"There is no property \"%1\"."_s.arg(words.first()));
+        return failToFind(u"property"_s, words.first());
     }
     if (place.property->isList() || place.property->isObject()) {
         return fail(u"\"%1\" holds objects. Use add, delete and move."_s.arg(words.first()));
@@ -267,13 +251,14 @@ bool ProjectEditor::add(const Words &words)
 {
     const std::unique_ptr<DesignerObject> sample(make(words.first(), {}));
     if (!sample) {
-        return fail(
-            u"There is no class \"%1\". \"corvex help\" tells how plug-ins are found."_s.arg(words.first()));
+        const QString nearest = Help::nearest(words.first(), DesignerFactory::instance()->creatableNames());
+        return fail(u"There is no class \"%1\"%2 \"corvex help\" tells how plug-ins are found."_s.arg(
+            words.first(), nearest.isEmpty() ? u"."_s : u"; did you mean \"%1\"?"_s.arg(nearest)));
     }
     if (kindCast<ImageResource>(sample.get())) {
         return fail(u"Images are added by add-image, which takes their files along."_s);
     }
-    const SharedProperty list = listFor(words.at(1), sample.get());
+    const SharedProperty list = listFor(words.at(1), *sample);
     if (!list) {
         return false;
     }
@@ -388,7 +373,7 @@ bool ProjectEditor::swap(const Words &words)
 bool ProjectEditor::move(const Words &words)
 {
     DesignerObject *item = object(words.first());
-    const SharedProperty list = item ? listFor(words.at(1), item) : SharedProperty();
+    const SharedProperty list = item ? listFor(words.at(1), *item) : SharedProperty();
     return list && push(new MoveObject(item->listProperty(), list, item, false));
 }
 
@@ -483,7 +468,7 @@ bool ProjectEditor::print(const Words &words)
 {
     const ProjectPlace place = ProjectPath::find(&m_project, words.first());
     if (!place.object) {
-        return fail(u"There is nothing called \"%1\"."_s.arg(words.first()));
+        return failToFind(u"object or property"_s, words.first());
     }
     if (!place.property) {
         m_output.append(u"%1 %2"_s.arg(place.object->className(), place.object->getIdName()));

@@ -63,9 +63,10 @@ private:
     //! For a command that brings \a made into the model, which is refused when its name is not valid there.
     bool push(Designer::ModelCommand *command, const Designer::DesignerObject *made);
     bool fail(const QString &reason);
+    bool failToFind(const QString &what, const QString &path);
     Designer::DesignerObject *object(const QString &path);
     bool objects(const Words &paths, QList<Designer::DesignerObject *> &found);
-    Designer::SharedProperty listFor(const QString &path, const Designer::DesignerObject *item);
+    Designer::SharedProperty listFor(const QString &path, const Designer::DesignerObject &item);
 
     bool set(const Words &words);
     bool add(const Words &words);

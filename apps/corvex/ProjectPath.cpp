@@ -4,6 +4,9 @@
 #include "corvex/core/DesignerObject.h"
 
 #include "Call.h"
+#include "Help.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -41,12 +44,71 @@ ProjectPlace findBelow(DesignerObject &owner, const QString &path)
     return {property ? &owner : nullptr, property};
 }
 
+//! How closely the list describes such an item; -1 when it does not take it.
+qsizetype closeness(const SharedProperty &list, const DesignerObject &item)
+{
+    qsizetype closest = list->isList() && list->objectFilters().isEmpty() ? 0 : -1;
+    if (list->isList()) {
+        for (const QString &className : list->objectFilters()) {
+            closest = std::max(closest, item.classNames().indexOf(className));
+        }
+    }
+    return closest;
+}
+
+//! The names that may follow that of \a owner in a path.
+QStringList namesBelow(const DesignerObject &owner)
+{
+    QStringList names;
+    for (const SharedProperty &property : owner.properties()) {
+        names.append(property->id());
+        for (const DesignerObject *item : property->listItems()) {
+            names.append(item->getIdName());
+        }
+    }
+    return names;
+}
+
 } // namespace
 
 ProjectPlace ProjectPath::find(DesignerObject *project, const QString &path)
 {
     const ProjectPlace place = findBelow(*project, path);
     return !place.object && path == project->getIdName() ? ProjectPlace{project, {}} : place;
+}
+
+SharedProperty ProjectPath::listFor(DesignerObject *project, const QString &path, const DesignerObject &item)
+{
+    const ProjectPlace place = find(project, path);
+    if (!place.object || place.property) {
+        return place.property && place.property->isList() ? place.property : SharedProperty();
+    }
+    const auto list =
+        std::ranges::max_element(place.object->properties(), {}, [&item](const SharedProperty &property) {
+            return closeness(property, item);
+        });
+    return closeness(*list, item) >= 0 ? *list : SharedProperty();
+}
+
+QString ProjectPath::hint(DesignerObject *project, const QString &path)
+{
+    DesignerObject *owner = project;
+    qsizetype known = 0; // of the path, the "." behind the owner included
+    for (qsizetype end = path.indexOf(u'.'); end >= 0; end = path.indexOf(u'.', end + 1)) {
+        const ProjectPlace place = find(project, path.first(end));
+        if (place.object && !place.property) {
+            owner = place.object;
+            known = end + 1;
+        }
+    }
+    const qsizetype end = path.indexOf(u'.', known);
+    const QString nearest = Help::nearest(path.mid(known, end < 0 ? -1 : end - known), namesBelow(*owner));
+    if (nearest.isEmpty() || path.mid(known).startsWith(nearest + u'.')) {
+        return u"\"corvex tree FILE %1\" shows what there is."_s.arg(owner == project ? project->getIdName()
+                                                                                      : owner->objectPath());
+    }
+    return u"Did you mean \"%1\"?"_s.arg(path.first(known) + nearest
+                                         + (end < 0 ? QString() : path.sliced(end)));
 }
 
 ExitCode ProjectPath::notFound(const QString &path, const Call &call)

@@ -32,6 +32,13 @@ class ProjectPath
 {
 public:
     static ProjectPlace find(Designer::DesignerObject *project, const QString &path);
+    /*! The list that the path names, or of the object that it names the one that describes such an item most
+        closely; null without one. */
+    static Designer::SharedProperty listFor(Designer::DesignerObject *project, const QString &path,
+                                            const Designer::DesignerObject &item);
+    /*! What to do about a path that nothing is found by, for the end of a message: the path that may be
+       meant, or how to see those that there are. */
+    static QString hint(Designer::DesignerObject *project, const QString &path);
     //! Tells the user that there is nothing of that path.
     static ExitCode notFound(const QString &path, const Call &call);
 };

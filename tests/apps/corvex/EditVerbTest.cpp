@@ -109,8 +109,11 @@ TEST_F(EditVerb, oneBadLineAndNothingIsDone)
         const char *line;
         const char *reason;
     } rows[] = {
-        {"explode", "There is no edit \"explode\"."},
-        {"set Main.nothing.text x", "There is no property \"Main.nothing.text\"."},
+        {"explode", "There is no edit \"explode\". \"corvex help edit\" lists them."},
+        {"set Main.nothing.text x",
+         "There is no property \"Main.nothing.text\". \"corvex tree FILE Main\" shows what there is."},
+        {"set Main.titel.text x",
+         "There is no property \"Main.titel.text\". Did you mean \"Main.title.text\"?"},
         {"set Main.title.position far", "\"Main.title.position\" does not take \"far\"."},
         {"set Main.size height: 1; width: 1;", "\"Main.size\" is not stored; it follows from other values."},
         {"set Main.title.text \xff", "The bytes are not UTF-8, the one encoding that is read."},
@@ -124,7 +127,8 @@ TEST_F(EditVerb, oneBadLineAndNothingIsDone)
         {"group new Main.box1 Main.box2", "This name is reserved."},
         {"add ImageResource Pump a.png", "Images are added by add-image, which takes their files along."},
         {"add Text speed", "\"speed\" has no list for an object of the class Text."},
-        {"delete Main.title nowhere", "There is no object \"nowhere\"."},
+        {"delete Main.title nowhere",
+         "There is no object \"nowhere\". \"corvex tree FILE Pump\" shows what there is."},
         {"group one Main.title", "The form of this edit is: group NAME PATH..."},
         {"group one Main.title Main.title", "At least two elements are required."},
         {"add-image script", "\"script\" is no image, or not one of the kind that its extension tells."},
