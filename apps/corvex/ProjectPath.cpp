@@ -16,6 +16,9 @@ using namespace Designer;
 
 namespace {
 
+// Far more than any name that a project may have; a path has one for each of its objects.
+constexpr qsizetype longestName = 4096;
+
 DesignerObject *childNamed(const DesignerObject &owner, const QString &name)
 {
     for (const SharedProperty &property : owner.properties()) {
@@ -29,7 +32,8 @@ DesignerObject *childNamed(const DesignerObject &owner, const QString &name)
 
 ProjectPlace findBelow(DesignerObject &owner, const QString &path)
 {
-    for (qsizetype end = path.indexOf(u'.'); end >= 0; end = path.indexOf(u'.', end + 1)) {
+    for (qsizetype end = path.indexOf(u'.'); end >= 0 && end < longestName;
+         end = path.indexOf(u'.', end + 1)) {
         if (DesignerObject *child = childNamed(owner, path.first(end))) {
             const ProjectPlace place = findBelow(*child, path.sliced(end + 1));
             if (place.object) {
@@ -94,7 +98,8 @@ QString ProjectPath::hint(DesignerObject *project, const QString &path)
 {
     DesignerObject *owner = project;
     qsizetype known = 0; // of the path, the "." behind the owner included
-    for (qsizetype end = path.indexOf(u'.'); end >= 0; end = path.indexOf(u'.', end + 1)) {
+    for (qsizetype end = path.indexOf(u'.'); end >= 0 && end < longestName;
+         end = path.indexOf(u'.', end + 1)) {
         const ProjectPlace place = find(project, path.first(end));
         if (place.object && !place.property) {
             owner = place.object;
