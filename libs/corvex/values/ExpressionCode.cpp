@@ -275,8 +275,11 @@ bool ExpressionCode::appendAssignment(QString &code, const Info &target, const I
                                       Info::OutputType output)
 {
     QString sourceCode;
+    // The digits of a hexadecimal constant are no number in code.
+    const bool isValue =
+        source.valueType() != Info::ConstantValue || ExpressionRules::allowsDataType(Kind::Assign, source);
     if (target.dataType() > Info::CommandData || !ExpressionRules::allowsValue(Kind::Assign, target)
-        || !appendTerm(sourceCode, Kind::Assign, source, output))
+        || !isValue || !appendTerm(sourceCode, Kind::Assign, source, output))
         return false;
     const QString &path = target.value();
     const QString type = QString::number(int(Info::variableType(target.dataType())));
