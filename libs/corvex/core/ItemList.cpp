@@ -37,13 +37,38 @@ void ItemList::insert(qsizetype index, DesignerObject *item)
     m_byName.insert(item->getIdName(), item);
     invalidCount += item->isValid() ? 0 : 1;
     newestIndex = index;
+    if (!m_kept.isEmpty()) {
+        takeBack(before(index), item);
+    }
+}
+
+void ItemList::takeBack(const DesignerObject *from, const DesignerObject *item)
+{
+    QList<KeptItem> stays;
+    QList<KeptItem> goes;
+    for (KeptItem &kept : m_kept.take(from)) {
+        const bool isBack = !kept.leftBehind.isEmpty() && kept.leftBehind.constLast() == item;
+        if (isBack) {
+            kept.leftBehind.removeLast();
+        }
+        (isBack ? goes : stays).append(kept);
+    }
+    if (!stays.isEmpty()) {
+        m_kept.insert(from, stays);
+    }
+    if (!goes.isEmpty()) {
+        m_kept.insert(item, goes);
+    }
 }
 
 void ItemList::removeAt(qsizetype index)
 {
     DesignerObject *item = m_items.at(index);
-    if (const QList<KeptItem> kept = m_kept.take(item); !kept.isEmpty()) {
-        m_kept[index > 0 ? m_items.at(index - 1) : nullptr] += kept;
+    if (QList<KeptItem> left = m_kept.take(item); !left.isEmpty()) {
+        for (KeptItem &kept : left) {
+            kept.leftBehind.append(item);
+        }
+        m_kept[before(index)] += left;
     }
     m_items.removeAt(index);
     m_byName.remove(item->getIdName(), item);

@@ -17,6 +17,8 @@ struct KeptItem
     QByteArray xml; //!< the element in UTF-8, its lines parted by "\n", indented from level 0
     QString className;
     QString name; //!< its identifier name, empty when none could be made out
+    //! Items that it stood behind before they left the list, the last to leave at the end.
+    QList<const DesignerObject *> leftBehind = {};
 };
 
 /*! The children of a list property: in order, and found by identifier name in constant time.
@@ -35,7 +37,9 @@ public:
     //! How many items bear that name.
     qsizetype countOf(const QString &name) const { return m_byName.count(name); }
 
+    //! An item that comes back to its place has behind it again what was kept there.
     void insert(qsizetype index, DesignerObject *item);
+    //! What is kept behind the item stays, behind the one before it.
     void removeAt(qsizetype index);
     //! What is kept behind the old item stays behind the new one.
     void replaceAt(qsizetype index, DesignerObject *item);
@@ -67,6 +71,12 @@ public:
     qsizetype newestIndex = -1;
 
 private:
+    const DesignerObject *before(qsizetype index) const
+    {
+        return index > 0 ? m_items.at(index - 1) : nullptr;
+    }
+    void takeBack(const DesignerObject *from, const DesignerObject *item);
+
     QList<DesignerObject *> m_items;
     QMultiHash<QString, DesignerObject *> m_byName;
     QHash<const DesignerObject *, QList<KeptItem>> m_kept; //!< by the item that they stand behind

@@ -15,7 +15,8 @@ constexpr int propertyDepth = 2;
 
 void KeptItemRecorder::start(const QString &className)
 {
-    m_item = {{}, className, {}};
+    m_item = {};
+    m_item.className = className;
     m_text.clear();
     m_depth = 0;
     m_isTagOpen = false;
