@@ -268,6 +268,12 @@ TEST_F(CanvasSceneTest, GroupingAndDeletingLeaveEverythingElseInItsPlace)
         return drawn;
     };
     const QStringList placed = lookUnordered();
+    stack.push(new DeleteObject(turned, true));
+    QStringList left = placed;
+    left.removeIf([](const QString &line) { return line.startsWith("turned"_L1); });
+    EXPECT_EQ(lookUnordered(), left);
+    stack.undo();
+    EXPECT_EQ(lookUnordered(), placed);
     stack.push(new SplitGroup(group, QList<DesignerObject *>{turned}));
     EXPECT_EQ(lookUnordered(), placed);
     stack.push(new GroupCommand(make("GroupElement", "group3"), {box, other}));

@@ -5,6 +5,7 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/editing/commands/EditStep.h"
 #include "corvex/editing/commands/ReferenceChanges.h"
+#include "corvex/editing/commands/SplitGroup.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +25,7 @@ DeleteObject::DeleteObject(DesignerObject *object, const QList<DesignerObject *>
     }
     makeChangesFirst();
     addChanges(ReferenceChanges::removed(together, pending()));
+    addChanges(SplitGroup::placesWithout(together));
     addStep<TakeItemStep>(object->listProperty(), object);
 }
 

@@ -120,6 +120,50 @@ QList<ValueChange> SplitGroup::placesAround(const GroupElement *group, const QLi
     return changes;
 }
 
+QList<ValueChange> SplitGroup::placesWithout(const QList<DesignerObject *> &going)
+{
+    // The groups around them, each behind those that it holds.
+    QList<const GroupElement *> groups;
+    QSet<const GroupElement *> known;
+    bool isTurned = false;
+    for (const DesignerObject *object : going) {
+        QList<const GroupElement *> around;
+        const GroupElement *group = object ? GroupIndexes::groupOf(object->listProperty()) : nullptr;
+        for (; group && !known.contains(group); group = GroupIndexes::groupOf(group->listProperty())) {
+            isTurned = isTurned || group->getProperty(u"rotation")->valueString() != "0"_L1
+                       || group->getProperty(u"scale")->valueString() != "100"_L1;
+            known.insert(group);
+            around.append(group);
+        }
+        if (!around.isEmpty()) {
+            groups = around + groups;
+        }
+    }
+    QList<ValueChange> changes;
+    if (!isTurned) {
+        return changes;
+    }
+    const QSet<const DesignerObject *> without(going.cbegin(), going.cend());
+    QHash<const DesignerObject *, ElementPlacement> places;
+    for (const GroupElement *group : std::as_const(groups)) {
+        QList<ElementPlacement> inside;
+        for (const DesignerObject *member : group->elements()->listItems()) {
+            if (!without.contains(member)) {
+                const auto moved = places.constFind(member);
+                inside.append(moved == places.cend() ? ElementPlacement::of(member) : *moved);
+            }
+        }
+        const ElementPlacement place = ElementPlacement::of(group).holding(inside);
+        places.insert(group, place);
+        const SharedProperty position = group->getProperty(u"position");
+        const QString text = ValueConversion::toString(place.position);
+        if (position->valueString() != text) {
+            changes.append({position, position->valueString(), text});
+        }
+    }
+    return changes;
+}
+
 void SplitGroup::setupCommands(GroupElement *group, const QList<DesignerObject *> &members)
 {
     const SharedProperty list = group->listProperty();

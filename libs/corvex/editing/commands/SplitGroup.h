@@ -22,6 +22,8 @@ public:
         leave it, or it goes with that: what a group turns about depends on what it holds. */
     static QList<ValueChange> placesAround(const GroupElement *group, const QList<DesignerObject *> &leaving,
                                            bool groupGoes);
+    //! The same when objects leave whatever groups they are in, for good or for a place in no group.
+    static QList<ValueChange> placesWithout(const QList<DesignerObject *> &going);
 
 private:
     void setupCommands(GroupElement *group, const QList<DesignerObject *> &members);
