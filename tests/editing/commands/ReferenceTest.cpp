@@ -77,6 +77,8 @@ const Row rows[] = {
      "rectangle1",
      "name: renamed; propertyValues: propName%3A color%3B propValue%3A rectangle1%3B; | name: text1;",
      "name: text1;"},
+    {"button1", "normalState", "name: text1; screen: Other; | name: text1;", "Other",
+     "name: text1; screen: renamed; | name: text1;", "name: text1;"},
     {"checkButton1", "uncheckedState", "name: group1.rectangle1;", "rectangle1", "name: group1.renamed;", ""},
     {"numberSpinner1", "incPressedState", "name: rectangle1;", "rectangle1", "name: renamed;", ""},
     {"button1", "pressedState",
@@ -94,6 +96,18 @@ const Row rows[] = {
      "elementName: rectangle1; propertyName: color; valueString: I0ZGMDAwMDAw; | elementName: renamed; "
      "propertyName: text; valueString: ;",
      "elementName: rectangle1; propertyName: color; valueString: I0ZGMDAwMDAw;"},
+    {"action1", "propertyChanges",
+     "elementName: dataLogging1; propertyName: variable; valueString: "
+     "ZmlsdGVyVHlwZTogTG9nVmFyaWFibGU7IG9iamVjdElkOiBoaXN0b3J5OyBzY29wZVR5cGU6IFByb2plY3Q7;",
+     "history",
+     "elementName: dataLogging1; propertyName: variable; valueString: "
+     "ZmlsdGVyVHlwZTogTG9nVmFyaWFibGU7IG9iamVjdElkOiByZW5hbWVkOyBzY29wZVR5cGU6IFByb2plY3Q7;",
+     "elementName: dataLogging1; propertyName: variable; valueString: "
+     "ZmlsdGVyVHlwZTogTG9nVmFyaWFibGU7IG9iamVjdElkOiA7IHNjb3BlVHlwZTogUHJvamVjdDs=;"},
+    {"action1", "propertyChanges",
+     "elementName: pwmOutput1; propertyName: initValue; valueString: MDQwNnNwZWVk;", "speed",
+     "elementName: pwmOutput1; propertyName: initValue; valueString: MDQwNnJlbmFtZWQ=;",
+     "elementName: pwmOutput1; propertyName: initValue; valueString: MDQwNg==;"},
     // Lists of names and pairs.
     {"filter1", "elements", "rectangle1 | text1 | rectangle10", "rectangle1", "renamed | text1 | rectangle10",
      "text1 | rectangle10"},

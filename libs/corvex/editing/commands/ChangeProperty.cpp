@@ -70,6 +70,16 @@ QString relinked(const QString &states, const QString &newName, const Screen *sc
     return updates.toString();
 }
 
+//! A link that does not tell what it names may mean a variable, a screen or an element.
+bool isOtherThing(const Mention &mention, const DesignerObject *owner)
+{
+    const Project *project = owner->project();
+    return (mention.kinds.testFlag(NamedKind::Variable) && project->variables()->hasListItem(mention.path))
+           || (mention.kinds.testFlag(NamedKind::Screen) && project->screens()->hasListItem(mention.path))
+           || (mention.kinds.testFlag(NamedKind::Element) && owner->screen()
+               && owner->screen()->hasElement(mention.path));
+}
+
 bool isFileThere(const Project *project, const QString &image)
 {
     const auto *resource = static_cast<const ImageResource *>(project->imageResources()->getListItem(image));
@@ -145,7 +155,8 @@ bool ChangeProperty::notifyFileMissing() const
         return false;
     }
     for (const Mention &mention : ReferenceForm::mentions(ReferenceForm::of(*property()), m_after)) {
-        if (mention.kinds.testFlag(NamedKind::Image) && !isFileThere(project, mention.path)) {
+        if (mention.kinds.testFlag(NamedKind::Image) && !isOtherThing(mention, owner())
+            && !isFileThere(project, mention.path)) {
             qDebug().noquote() << u"%1: the file of the image \"%2\" is missing."_s.arg(owner()->objectPath(),
                                                                                         mention.path);
             return true;

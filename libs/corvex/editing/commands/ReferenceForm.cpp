@@ -11,6 +11,7 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -65,11 +66,21 @@ const QList<const Site *> &sitesOf(const DesignerProperty &property)
     return *known.insert(property.className(), rows);
 }
 
-//! The form of a value that a state or an action gives to the property \a id of an element: by the id alone,
-//! since the element may not be there.
+//! Values that a state or an action gives to properties of elements, by the id alone, since the element may
+//! not be there.
+constexpr std::array nestedLinks{"source"_L1,          "variable"_L1,      "screen"_L1,
+                                 "mapping"_L1,         "visualElement"_L1, "incVisualElement"_L1,
+                                 "decVisualElement"_L1};
+constexpr std::array nestedExpressions{"initValue"_L1, "condition"_L1, "dataValues"_L1, "pressed"_L1};
+
 Form formOfNested(const QString &id)
 {
-    return id == "source"_L1 ? Form::Link : id.endsWith("Binding"_L1) ? Form::Expression : Form::None;
+    if (std::ranges::find(nestedLinks, id) != nestedLinks.end()) {
+        return Form::Link;
+    }
+    const bool isExpression =
+        id.endsWith("Binding"_L1) || std::ranges::find(nestedExpressions, id) != nestedExpressions.end();
+    return isExpression ? Form::Expression : Form::None;
 }
 
 constexpr NamedKinds projectKinds = NamedKind::Variable | NamedKind::Screen | NamedKind::Image;
@@ -162,6 +173,14 @@ bool visitStates(QString &text, const MentionVisitor &visitor)
                 continue;
             }
             update.setName(mention.path);
+        }
+        if (Mention mention{NamedKind::Screen, update.screen()};
+            !mention.path.isEmpty() && show(mention, visitor)) {
+            isChanged = true;
+            if (mention.isDropped) {
+                continue;
+            }
+            update.setScreen(mention.path);
         }
         PropertyInfoList values;
         for (PropertyInfo value : update.propertyValues()) {
