@@ -143,6 +143,7 @@ TEST_F(BadInputTest, ObjectsOfNobodyAndOfOthers)
         new DeleteObjectsAndCheckFilters({nullptr}, main),
         new DeleteObjectsAndCheckFilters({rectangle1}, nullptr),
         new DeleteObjectsAndCheckFilters({text1}, main),
+        new DeleteObjectsAndCheckFilters({main}, main),
         new RemoveObject(elements, nullptr, true),
         new RemoveObject({}, rectangle1, true),
         new RemoveObject(elements, text1, true),
@@ -217,6 +218,13 @@ TEST_F(BadInputTest, FilesThatComeAndGo)
     stack().setIndex(stack().count());
     EXPECT_EQ(text(), last);
     EXPECT_EQ(files(), (QStringList{u"pump.png"_s, u"renamed.png"_s}));
+    // A picture without a file is given one, and loses it again.
+    QFile::remove(images + u"pump.png"_s);
+    push(new ReplaceImage(object(u"pump.png"_s), file, u"pump.png"_s));
+    stack().undo();
+    EXPECT_FALSE(files().contains(u"pump.png"_s));
+    stack().redo();
+    EXPECT_TRUE(files().contains(u"pump.png"_s));
 }
 
 TEST_F(BadInputTest, ADiskThatTakesNoMore)

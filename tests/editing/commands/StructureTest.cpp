@@ -219,6 +219,8 @@ TEST_F(StructureTest, DeletingSeveralAsksAboutCommonFilters)
     EXPECT_EQ(value(main->filters()->getListItem(u"common"_s), "elements"), u"text1"_s);
     EXPECT_FALSE(main->filters()->getListItem(u"own"_s));
     stack().undo();
+    push(new DeleteObjectsAndCheckFilters(both + QList{main->filters()->getListItem(u"own"_s)}, main));
+    stack().undo();
     dialogs.answer = {u"common"_s};
     push(new DeleteObjectsAndCheckFilters(both, main));
     EXPECT_FALSE(main->filters()->getListItem(u"common"_s));

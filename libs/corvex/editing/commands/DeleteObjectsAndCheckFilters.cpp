@@ -61,6 +61,9 @@ QList<DesignerObject *> filtersToDelete(const Screen *screen, const QList<Design
     QList<DesignerObject *> filters;
     QMap<QString, QString> common;
     for (DesignerObject *filter : screen->filters()->listItems()) {
+        if (going.names().contains(filter->getIdName())) {
+            continue; // it is one of the objects
+        }
         bool isConcerned = false;
         const QStringList others =
             othersIn(static_cast<const FilterElement *>(filter), going.names(), &isConcerned);
@@ -89,7 +92,9 @@ QList<DesignerObject *> DeleteObjectsAndCheckFilters::addDeletions(const QList<D
     const QList<DesignerObject *> roots = outermost(objects);
     for (DesignerObject *object : roots) {
         const bool isFirst = object == roots.first();
-        new DeleteObject(object, isFirst ? roots : QList<DesignerObject *>(), true, parent);
+        auto *deletion = new DeleteObject(object, isFirst ? roots : QList<DesignerObject *>(), true, parent);
+        deletion->setText(
+            Common::LocalizationHelper::coreString(u"Delete \"%1\""_s).arg(object->getIdName()));
     }
     return roots;
 }
@@ -101,7 +106,7 @@ DeleteObjectsAndCheckFilters::DeleteObjectsAndCheckFilters(const QList<DesignerO
     setTitle(u"Delete Elements and Filters"_s);
     QList<DesignerObject *> own;
     for (DesignerObject *object : objects) {
-        if (screen && object && object->screen() == screen) {
+        if (screen && kindCast<Element>(object) && object->screen() == screen) {
             own.append(object);
         }
     }

@@ -198,7 +198,8 @@ bool ReplaceFileStep::exchange()
     if ((hasOld && !QFile::rename(path(), pathOf(between)))) {
         return false;
     }
-    if (!QFile::rename(pathOf(m_spareName), path())) {
+    const bool isMissing = m_spareName.isEmpty(); // there was no file before
+    if (!isMissing && !QFile::rename(pathOf(m_spareName), path())) {
         if (hasOld) {
             QFile::rename(pathOf(between), path());
         }

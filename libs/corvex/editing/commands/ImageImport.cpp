@@ -67,6 +67,21 @@ ImageResource *makeResource(const QString &name)
     return static_cast<ImageResource *>(image);
 }
 
+//! False, and the user knows why, when the command cannot be done.
+bool push(std::unique_ptr<AddImagesAndElements> command, Project *project, QWidget *parentWidget)
+{
+    const AddImagesAndElements *pushed = command.get();
+    if (pushed->isValid()) {
+        project->undoStack()->push(command.release());
+        if (pushed->isDone()) {
+            return true;
+        }
+    }
+    EditingDialogs::instance()->warn(parentWidget, LocalizationHelper::coreString(u"Add Images"_s),
+                                     pushed->errorString());
+    return false;
+}
+
 } // namespace
 
 bool ImageResource::addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, const QPointF &position,
@@ -110,15 +125,7 @@ bool ImageResource::addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, c
     if (images.isEmpty() && elements.isEmpty()) {
         return false;
     }
-    auto command = std::make_unique<AddImagesAndElements>(images, elements, screen);
-    if (!command->isValid()) {
-        const QString title = LocalizationHelper::coreString(u"Add Images"_s);
-        EditingDialogs::instance()->warn(parentWidget, title, command->errorString());
-        return false;
-    }
-    const AddImagesAndElements *pushed = command.get();
-    project->undoStack()->push(command.release());
-    return pushed->isDone();
+    return push(std::make_unique<AddImagesAndElements>(images, elements, screen), project, parentWidget);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -2,6 +2,7 @@
 #include "corvex/editing/commands/UngroupCommand.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/ItemList.h"
 #include "corvex/editing/commands/EditStep.h"
 #include "corvex/editing/commands/ElementPlacement.h"
 #include "corvex/editing/commands/GroupIndexes.h"
@@ -20,6 +21,11 @@ UngroupCommand::UngroupCommand(DesignerObject *group, UndoCommand *parent)
     const SharedProperty list = property();
     if (!element || !list) {
         refuse(Common::LocalizationHelper::coreString(u"There is no group to take apart."_s));
+        return;
+    }
+    if (element->elements()->itemList()->hasKeptItems()) {
+        refuse(Common::LocalizationHelper::coreString(
+            u"The group holds elements whose plug-in is missing. They would be lost with it."_s));
         return;
     }
     const QString name = group->getIdName();
