@@ -2,6 +2,7 @@
 #include "ProjectDiff.h"
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/core/ItemList.h"
 #include "corvex/project/Screen.h"
 
 #include <algorithm>
@@ -134,13 +135,28 @@ void ProjectDiff::compareObjects(const DesignerObject &before, const DesignerObj
         }
         if (property->isList()) {
             compareLists(*property, *other);
-        } else if (const DesignerObject *child = property->objectValue(); child && other->objectValue()) {
-            compareObjects(*child, *other->objectValue());
+        } else if (property->isObject()) {
+            compareChildren(property->objectValue(), other->objectValue());
         } else if (property->hasFlag(StoredFlag) && property->valueString() != other->valueString()
-                   && (property != before.idProperty() || !before.ownerObject())) {
+                   && (property != before.idProperty() || !before.listProperty())) {
             m_differences.append({Changed, pathOf(*property), before.className(), property->valueString(),
                                   other->valueString()});
         }
+    }
+}
+
+void ProjectDiff::compareChildren(const DesignerObject *before, const DesignerObject *after)
+{
+    const bool isSame = before && after && before->className() == after->className();
+    if (isSame) {
+        compareObjects(*before, *after);
+        return;
+    }
+    if (before) {
+        add(Removed, *before);
+    }
+    if (after) {
+        add(Added, *after);
     }
 }
 
@@ -166,6 +182,48 @@ void ProjectDiff::compareLists(const DesignerProperty &before, const DesignerPro
         }
     }
     compareOrder(keptBefore, keptAfter);
+    compareKept(before, after);
+}
+
+void ProjectDiff::compareKept(const DesignerProperty &before, const DesignerProperty &after)
+{
+    const QList<KeptItem> oldItems = before.itemList()->keptItems();
+    const QList<KeptItem> newItems = after.itemList()->keptItems();
+    QHash<QByteArray, qsizetype> newTexts;
+    for (const KeptItem &item : newItems) {
+        ++newTexts[item.xml];
+    }
+    QHash<QStringList, QList<QByteArray>> gone; // by class and name
+    for (const KeptItem &item : oldItems) {
+        if (qsizetype &count = newTexts[item.xml]; count > 0) {
+            --count;
+        } else {
+            gone[{item.className, item.name}].append(item.xml);
+        }
+    }
+    const auto tell = [this, &before](Kind kind, const KeptItem &item, const QByteArray &oldText,
+                                      const QByteArray &newText) {
+        const DesignerObject *owner = before.parentObject();
+        const QString path = owner->ownerObject() ? owner->objectPath() + u'.' : QString();
+        m_differences.append(
+            {kind, path + item.name, item.className, QString::fromUtf8(oldText), QString::fromUtf8(newText)});
+    };
+    for (const KeptItem &item : newItems) {
+        if (qsizetype &count = newTexts[item.xml]; count > 0) {
+            --count;
+            QList<QByteArray> &others = gone[{item.className, item.name}];
+            if (others.isEmpty()) {
+                tell(Added, item, {}, {});
+            } else {
+                tell(Changed, item, others.takeFirst(), item.xml);
+            }
+        }
+    }
+    for (const KeptItem &item : oldItems) {
+        if (gone[{item.className, item.name}].removeOne(item.xml)) {
+            tell(Removed, item, {}, {});
+        }
+    }
 }
 
 //! Tells of the fewest objects that had to be moved for the new order.

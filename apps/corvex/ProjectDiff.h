@@ -18,7 +18,8 @@ namespace Halvane::Corvex::Tool {
     An object is the same when it has the same name and class in the same list. What is gone from one list and
    new in another under its name was moved, into a new group for example. What is gone and what is new in one
    list were renamed when nothing but the name tells them apart, or when half of what they hold is the same.
-   Of an object that came or went, what is in it is not told, unless it was moved. */
+   Of an object that came or went, what is in it is not told, unless it was moved. What is kept as text, since
+   no plug-in knows it, is compared as text. */
 class ProjectDiff
 {
 public:
@@ -28,7 +29,7 @@ public:
         Kind kind;
         QString path; //!< of the object; of the property when a value changed
         QString className;
-        QString before; //!< the old value, name or place
+        QString before; //!< the old value, name or place; the XML of what is kept
         QString after;
     };
 
@@ -49,7 +50,10 @@ private:
     };
 
     void compareObjects(const Designer::DesignerObject &before, const Designer::DesignerObject &after);
+    //! The objects of an object property, either of which may be null.
+    void compareChildren(const Designer::DesignerObject *before, const Designer::DesignerObject *after);
     void compareLists(const Designer::DesignerProperty &before, const Designer::DesignerProperty &after);
+    void compareKept(const Designer::DesignerProperty &before, const Designer::DesignerProperty &after);
     void compareOrder(const QList<const Designer::DesignerObject *> &before,
                       const QList<const Designer::DesignerObject *> &after);
     static void addLoose(QList<Loose> &to, const Designer::DesignerObject *object,
