@@ -78,7 +78,14 @@ QStringList namesBelow(const DesignerObject &owner)
 ProjectPlace ProjectPath::find(DesignerObject *project, const QString &path)
 {
     const ProjectPlace place = findBelow(*project, path);
-    return !place.object && path == project->getIdName() ? ProjectPlace{project, {}} : place;
+    const QString name = project->getIdName();
+    if (place.object || !path.startsWith(name)) {
+        return place;
+    }
+    if (path == name) {
+        return {project, {}};
+    }
+    return path.at(name.size()) == u'.' ? findBelow(*project, path.sliced(name.size() + 1)) : place;
 }
 
 SharedProperty ProjectPath::listFor(DesignerObject *project, const QString &path, const DesignerObject &item)

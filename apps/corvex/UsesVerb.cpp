@@ -3,6 +3,7 @@
 #include "corvex/editing/commands/ReferenceScanner.h"
 #include "corvex/editing/commands/ReferenceTarget.h"
 #include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
 
 #include "Call.h"
 #include "JsonWriter.h"
@@ -19,17 +20,34 @@ using namespace Designer;
 
 namespace {
 
-//! The paths of the properties that name the object or something in it, each once.
-QStringList usesOf(const DesignerObject &object)
+//! A place that names something.
+struct Use
 {
-    QStringList paths;
-    for (const ReferenceUse &use : ReferenceScanner::uses(ReferenceTarget(&object))) {
+    QString property; //!< its path
+    QString text;     //!< the name as it stands there, with what it goes through: "Main.group1.pump1"
+};
+
+QList<Use> usesOf(const ReferenceTarget &target)
+{
+    QList<Use> uses;
+    QSet<QPair<QString, QString>> known;
+    for (const ReferenceUse &use : ReferenceScanner::uses(target)) {
         const QString path = u"%1.%2"_s.arg(use.property->parentObject()->objectPath(), use.property->id());
-        if (paths.isEmpty() || paths.constLast() != path) {
-            paths.append(path);
+        const qsizetype before = known.size();
+        known.insert({path, use.path});
+        if (known.size() > before) {
+            uses.append({path, use.path});
         }
     }
-    return paths;
+    return uses;
+}
+
+bool hasElement(const Project &project, const QString &name)
+{
+    const QList<DesignerObject *> screens = project.screens()->listItems();
+    return std::ranges::any_of(screens, [&name](const DesignerObject *screen) {
+        return static_cast<const Screen *>(screen)->hasElement(name);
+    });
 }
 
 bool isUsed(const DesignerObject &object, const ReferenceIndex &index)
@@ -59,41 +77,73 @@ QStringList unusedIn(Project &project)
     return paths;
 }
 
-ExitCode run(const Call &call, const ProjectFile &file)
+ExitCode printUses(const QList<Use> &uses, const Call &call)
 {
-    const QString path = call.argument(1);
-    const DesignerObject *object = nullptr;
-    if (!path.isEmpty()) {
-        object = ProjectPath::find(&file.project(), path).object;
-        if (!object) {
-            return ProjectPath::notFound(path, call);
+    if (!call.asJson()) {
+        for (const Use &use : uses) {
+            call.terminal().print(Terminal::oneLine(u"%1: %2"_s.arg(use.property, use.text)));
         }
-    }
-    const QStringList paths = object ? usesOf(*object) : unusedIn(file.project());
-    if (call.asJson()) {
-        JsonWriter json(call.terminal());
-        json.beginObject();
-        json.member(object ? "uses"_L1 : "unused"_L1, paths);
-        json.endObject();
         return ExitCode::Done;
     }
-    for (const QString &line : paths) {
-        call.terminal().print(Terminal::oneLine(line));
+    JsonWriter json(call.terminal());
+    json.beginObject();
+    json.name("uses"_L1);
+    json.beginArray();
+    for (const Use &use : uses) {
+        json.beginObject();
+        json.member("property"_L1, use.property);
+        json.member("text"_L1, use.text);
+        json.endObject();
     }
+    json.endArray();
+    json.endObject();
     return ExitCode::Done;
+}
+
+ExitCode printUnused(const QStringList &paths, const Call &call)
+{
+    if (!call.asJson()) {
+        for (const QString &path : paths) {
+            call.terminal().print(Terminal::oneLine(path));
+        }
+        return ExitCode::Done;
+    }
+    JsonWriter json(call.terminal());
+    json.beginObject();
+    json.member("unused"_L1, paths);
+    json.endObject();
+    return ExitCode::Done;
+}
+
+ExitCode run(const Call &call, const ProjectFile &file)
+{
+    const QString name = call.argument(1);
+    if (name.isEmpty()) {
+        return printUnused(unusedIn(file.project()), call);
+    }
+    if (const DesignerObject *object = ProjectPath::find(&file.project(), name).object) {
+        return printUses(usesOf(ReferenceTarget(object)), call);
+    }
+    // A name without the way to it: of elements, and of what is no longer there.
+    const QList<Use> uses = usesOf(ReferenceTarget(&file.project(), name));
+    if (uses.isEmpty() && !hasElement(file.project(), name)) {
+        return ProjectPath::notFound(name, call);
+    }
+    return printUses(uses, call);
 }
 
 } // namespace
 
 const Verb usesVerb{
     .name = "uses",
-    .arguments = "FILE [PATH]",
+    .arguments = "FILE [NAME]",
     .summary = "tell where something is used, or what is not used at all",
     .details =
         [] {
-            return uR"(Prints the properties that name the object PATH or an element in it: links, expressions, states
-of buttons, address maps. A line each, as a path that "corvex tree" takes. Without PATH it prints
-the screens, variables and images that nothing names.)"_s;
+            return uR"(Prints where the object NAME or an element in it is named: in links, expressions, states of
+buttons, address maps. A line each, with the property, as a path that "corvex tree" takes, and the
+name as it stands there. NAME is a path, or the name of elements on any screen. Without NAME it
+prints the screens, variables and images that nothing names.)"_s;
         },
     .example = "corvex uses examples/PumpStation/PumpStation.kdproj wellLevel",
     .mostArguments = 2,

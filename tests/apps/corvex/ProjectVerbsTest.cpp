@@ -159,7 +159,10 @@ TEST(UsesVerb, tellsWhereAThingIsUsed)
         return Sandbox::object("NumberVariable", name, {}, "Project");
     };
     sandbox.makeProject(
-        Sandbox::object("Text", "title", Sandbox::value("textBinding", "<0406speed><0101+><0406speed>"))
+        Sandbox::object("Text", "title",
+                        Sandbox::value("textBinding", "<0406speed><0101+><0406speed>")
+                            + Sandbox::value("xBinding", "0306Main.box.x")
+                            + Sandbox::value("yBinding", "0306gone.y"))
             + Sandbox::object("Rectangle", "box", Sandbox::value("xBinding", "0406speedy"))
             + Sandbox::object("Button", "press", Sandbox::value("visualElement", "objectId: box;")),
         variable("idle") + variable("speed") + variable("speedy"));
@@ -168,9 +171,15 @@ TEST(UsesVerb, tellsWhereAThingIsUsed)
         QStringList arguments;
         QString out;
     } cases[] = {
-        {{u"speed"_s}, u"Main.title.textBinding\n"_s},
-        {{u"Main.box"_s}, u"Main.press.visualElement\n"_s},
-        {{u"Main.press"_s}, QString()},
+        {{u"speed"_s}, u"Main.title.textBinding: speed\n"_s},
+        {{u"Main.box"_s}, u"Main.press.visualElement: box\nMain.title.xBinding: Main.box\n"_s},
+        {{u"box"_s}, u"Main.press.visualElement: box\nMain.title.xBinding: Main.box\n"_s},
+        {{u"gone"_s}, u"Main.title.yBinding: gone\n"_s},
+        {{u"Pump.Main.press"_s}, QString()},
+        {{u"press"_s}, QString()},
+        {{u"gone"_s, u"--json"_s},
+         u"{\n  \"uses\": [\n    {\n      \"property\": \"Main.title.yBinding\",\n      \"text\": "
+         "\"gone\"\n    }\n  ]\n}\n"_s},
         {{}, u"idle\n"_s},
         {{u"--json"_s}, u"{\n  \"unused\": [\n    \"idle\"\n  ]\n}\n"_s},
     };
