@@ -97,6 +97,11 @@ ExitCode run(const Call &call, const ProjectFile &file)
     call.terminal().showProgress(u"drawing %1"_s.arg(name));
     CanvasScene scene(screen);
     scene.selectObjects({element});
+    if (element && scene.selectedObjects().isEmpty()) {
+        return call.failed(u"\"%1\" is hidden or of a kind that is not drawn, and has no handles."_s.arg(
+                               element->getIdName()),
+                           ExitCode::Problems);
+    }
     const QImage picture = scene.picture();
     if (picture.isNull()) {
         return call.failed(u"The screen \"%1\" has no area, or one too large for a picture. Mend the size in "

@@ -20,11 +20,13 @@ class RenderVerb : public testing::Test
 protected:
     RenderVerb()
     {
-        sandbox.makeProject(Sandbox::object(
-            "Rectangle", "box",
-            Sandbox::value("position", "x: 100; y: 50;") + Sandbox::value("size", "height: 20; width: 60;")
-                + Sandbox::value("rotation", "90") + Sandbox::value("color", "#FFFF0000")
-                + Sandbox::value("border", "color: #FF000000; width: 0;")));
+        sandbox.makeProject(Sandbox::object("Rectangle", "box",
+                                            Sandbox::value("position", "x: 100; y: 50;")
+                                                + Sandbox::value("size", "height: 20; width: 60;")
+                                                + Sandbox::value("rotation", "90")
+                                                + Sandbox::value("color", "#FFFF0000")
+                                                + Sandbox::value("border", "color: #FF000000; width: 0;"))
+                            + Sandbox::object("Button", "press"));
     }
 
     ProgramRun render(const QStringList &options) const
@@ -70,6 +72,9 @@ TEST_F(RenderVerb, tellsWhatIsWrong)
         {{u"--screen"_s, u"Main"_s}, 2, u"corvex render FILE -o PNG"_s},
         {{u"--screen"_s, u"Mian"_s, u"-o"_s, u"x.png"_s}, 2, u"did you mean \"Main\""_s},
         {{u"--screen"_s, u"Main"_s, u"--handles"_s, u"bx"_s, u"-o"_s, u"x.png"_s}, 2, u"\"box\""_s},
+        {{u"--screen"_s, u"Main"_s, u"--handles"_s, u"press"_s, u"-o"_s, u"x.png"_s},
+         1,
+         u"\"press\" is hidden or of a kind"_s},
         {{u"-o"_s, u"Pump/../Pump/Pump.kdproj"_s}, 2, u"is the project's own file"_s},
         {{u"--screen"_s, u"Main"_s, u"-o"_s, u"none/x.png"_s}, 3, u"\"none/x.png\" cannot be written"_s},
     };
