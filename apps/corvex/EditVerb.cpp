@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Call.h"
 #include "EditReport.h"
+#include "Interruption.h"
 #include "ProjectEditor.h"
 #include "ProjectFile.h"
 #include "Terminal.h"
@@ -31,7 +32,7 @@ ExitCode edit(ProjectEditor &editor, QFile &script, const Call &call)
 {
     const QString name = script.fileName().isEmpty() ? u"-"_s : script.fileName();
     QByteArray line = script.readLine();
-    for (int number = 1; !line.isEmpty(); ++number, line = script.readLine()) {
+    for (int number = 1; !line.isEmpty() && !Interruption::isWanted(); ++number, line = script.readLine()) {
         QString error = u"The bytes are not UTF-8, the one encoding that is read."_s;
         const bool isDone = line.isValidUtf8() && editor.run(QString::fromUtf8(line), error);
         for (const QString &output : call.asJson() ? QStringList() : editor.takeOutput()) {
@@ -45,6 +46,11 @@ ExitCode edit(ProjectEditor &editor, QFile &script, const Call &call)
                 Terminal::oneLine(u"%1:%2: %3"_s.arg(name, QString::number(number), reason)));
             return call.failed(u"\"%1\" stays as it is."_s.arg(call.argument(0)), ExitCode::Problems);
         }
+    }
+    if (Interruption::isWanted()) {
+        editor.undoAll();
+        return call.failed(u"Interrupted: \"%1\" stays as it is."_s.arg(call.argument(0)),
+                           ExitCode::Problems);
     }
     if (script.error() != QFileDevice::NoError) {
         editor.undoAll();
@@ -60,6 +66,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
         return call.failed(
             u"The script \"%1\" cannot be read: %2."_s.arg(call.argument(1), script.errorString()));
     }
+    const Interruption interruption; // files of images would be left in the middle of it
     ProjectEditor editor(file.project(), call);
     const ExitCode code = edit(editor, script, call);
     return code == ExitCode::Done ? EditReport::finish(editor, file, call) : code;

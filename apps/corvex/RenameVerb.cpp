@@ -3,6 +3,7 @@
 
 #include "Call.h"
 #include "EditReport.h"
+#include "Interruption.h"
 #include "ProjectEditor.h"
 #include "ProjectFile.h"
 #include "ProjectPath.h"
@@ -27,6 +28,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     if (!ProjectPath::find(&file.project(), call.argument(1)).object) {
         return ProjectPath::notFound(call.argument(1), call);
     }
+    const Interruption interruption;
     ProjectEditor editor(file.project(), call);
     QString error;
     const QString line = u"rename %1 %2"_s.arg(quoted(call.argument(1)), quoted(call.argument(2)));
