@@ -22,9 +22,10 @@ void printJson(const QList<ProjectEditor::Edit> &edits, const QStringList &outpu
     json.member("printed"_L1, output);
     json.name("edits"_L1);
     json.beginArray();
-    for (const auto &[text, changes] : edits) {
+    for (const auto &[text, parts, changes] : edits) {
         json.beginObject();
         json.member("text"_L1, text);
+        json.member("parts"_L1, parts);
         json.name("changes"_L1);
         json.beginArray();
         for (const ProjectEditor::Change &change : changes) {
@@ -43,8 +44,11 @@ void printJson(const QList<ProjectEditor::Edit> &edits, const QStringList &outpu
 
 void print(const QList<ProjectEditor::Edit> &edits, const Call &call)
 {
-    for (const auto &[text, changes] : edits) {
+    for (const auto &[text, parts, changes] : edits) {
         call.terminal().print(Terminal::oneLine(text));
+        for (const QString &part : parts) {
+            call.terminal().print(u"  "_s + Terminal::oneLine(part));
+        }
         for (const auto &[property, before, after] : changes) {
             call.terminal().print(u"  "_s
                                   + Terminal::oneLine(u"%1: %2 -> %3"_s.arg(property, before, after)));

@@ -10,11 +10,7 @@
 #include "corvex/editing/commands/AddVariable.h"
 #include "corvex/editing/commands/ChangeConfiguration.h"
 #include "corvex/editing/commands/ChangeProperty.h"
-#include "corvex/editing/commands/DeleteFilter.h"
-#include "corvex/editing/commands/DeleteImage.h"
 #include "corvex/editing/commands/DeleteObjectsAndCheckFilters.h"
-#include "corvex/editing/commands/DeleteScreen.h"
-#include "corvex/editing/commands/DeleteVariable.h"
 #include "corvex/editing/commands/GroupCommand.h"
 #include "corvex/editing/commands/ImageNames.h"
 #include "corvex/editing/commands/MoveObject.h"
@@ -38,6 +34,7 @@
 #include "EditLine.h"
 #include "Help.h"
 #include "Installation.h"
+#include "LineCommand.h"
 #include "ProjectPath.h"
 
 #include <QFileInfo>
@@ -154,16 +151,25 @@ bool ProjectEditor::push(ModelCommand *command)
         const QString reason = command->errorString();
         return fail(reason.isEmpty() ? u"This cannot be done here."_s : reason);
     }
+    QList<Change> changes;
+    const QList<ValueChange> values = command->valueChanges();
+    for (const ValueChange &change : values) {
+        changes.append({pathOf(change.property), change.before, change.after});
+    }
     m_project.undoStack()->push(owned.release());
     if (!command->isDone()) {
         const QString reason = command->errorString();
         m_project.undoStack()->undo();
         return fail(reason.isEmpty() ? refused : reason);
     }
-    Edit edit{command->text(), {}};
-    for (const ValueChange &change : command->valueChanges()) {
-        edit.changes.append({pathOf(change.property), change.before, change.after});
+    for (qsizetype i = 0; i < values.size(); ++i) {
+        // What has left the project is known by where it was.
+        const DesignerObject *owner = values.at(i).property->parentObject();
+        if (owner && owner->project()) {
+            changes[i].property = pathOf(values.at(i).property);
+        }
     }
+    Edit edit{command->text(), LineCommand::partsOf(*command), changes};
     std::ranges::stable_sort(edit.changes, {}, &Change::property);
     m_edits.append(edit);
     return true;
@@ -262,7 +268,10 @@ bool ProjectEditor::add(const Words &words)
     if (!list) {
         return false;
     }
-    const QString name = words.value(2);
+    QString name = words.value(2);
+    if (name.isEmpty() && (list == m_project.screens() || list == m_project.variables())) {
+        name = m_project.generateUniqueName(sample->baseName());
+    }
     if (name.isEmpty()) {
         return push(new AddObject(list, words.first(), name, false));
     }
@@ -282,32 +291,33 @@ bool ProjectEditor::remove(const Words &words)
     if (!objects(words, found)) {
         return false;
     }
-    QHash<Screen *, QList<DesignerObject *>> elements;
+    if (found.size() == 1) {
+        ModelCommand *command = LineCommand::deletionOf(found.first(), nullptr);
+        return command ? push(command) : fail(u"\"%1\" cannot be deleted."_s.arg(words.first()));
+    }
+    auto all = std::make_unique<LineCommand>();
+    QSet<DesignerObject *> known;
+    QList<Screen *> screens;
+    QHash<Screen *, QList<DesignerObject *>> elements; // and filters: together they decide what else goes
     for (DesignerObject *item : std::as_const(found)) {
-        bool isDone = true;
-        if (kindCast<Screen>(item)) {
-            isDone = push(new DeleteScreen(item));
-        } else if (kindCast<ProjectVariable>(item)) {
-            isDone = push(new DeleteVariable(item));
-        } else if (kindCast<ImageResource>(item)) {
-            isDone = push(new DeleteImage(item));
-        } else if (kindCast<FilterElement>(item)) {
-            isDone = push(new DeleteFilter(item->listProperty(), item, false));
-        } else if (item->screen()) {
+        if (known.contains(item)) {
+            continue;
+        }
+        known.insert(item);
+        if (kindCast<Element>(item)) {
+            if (!elements.contains(item->screen())) {
+                screens.append(item->screen());
+            }
             elements[item->screen()].append(item);
-        } else {
-            isDone = fail(u"\"%1\" cannot be deleted."_s.arg(item->objectPath()));
-        }
-        if (!isDone) {
-            return false;
+        } else if (!LineCommand::deletionOf(item, all.get())) {
+            return fail(u"\"%1\" cannot be deleted."_s.arg(item->objectPath()));
         }
     }
-    for (const auto &[screen, items] : elements.asKeyValueRange()) {
-        if (!push(new DeleteObjectsAndCheckFilters(items, screen))) {
-            return false;
-        }
+    for (Screen *screen : std::as_const(screens)) {
+        new DeleteObjectsAndCheckFilters(elements.value(screen), screen, all.get());
     }
-    return true;
+    all->describe();
+    return all->childCount() == 0 || push(all.release());
 }
 
 bool ProjectEditor::rename(const Words &words)
@@ -380,6 +390,7 @@ bool ProjectEditor::move(const Words &words)
 bool ProjectEditor::addImages(const Words &words)
 {
     ImageNames names(&m_project);
+    auto all = std::make_unique<LineCommand>();
     for (const QString &file : words) {
         const QFileInfo info(file);
         if (!Common::FileHelper::isValidImage(file)) {
@@ -391,11 +402,14 @@ bool ProjectEditor::addImages(const Words &words)
         }
         const QString name = names.freeName(info.fileName());
         names.add(name, digest);
-        if (!push(new AddImage(make(ImageResource::kindName(), name), info.absoluteFilePath(), &m_project))) {
-            return false;
+        DesignerObject *image = make(ImageResource::kindName(), name);
+        if (words.size() == 1) {
+            return push(new AddImage(image, info.absoluteFilePath(), &m_project));
         }
+        new AddImage(image, info.absoluteFilePath(), &m_project, {}, all.get());
     }
-    return true;
+    all->describe();
+    return all->childCount() == 0 || push(all.release());
 }
 
 bool ProjectEditor::replaceImage(const Words &words)
@@ -425,7 +439,8 @@ bool ProjectEditor::filter(const Words &words)
     Screen *screen = listed.first()->screen();
     QStringList names;
     for (const DesignerObject *item : std::as_const(listed)) {
-        if (!screen || item->screen() != screen || !kindCast<Element>(item)) {
+        if (!screen || item->screen() != screen || !kindCast<Element>(item)
+            || kindCast<FilterElement>(item)) {
             return fail(u"A filter lists elements of one screen."_s);
         }
         names.append(item->getIdName());
@@ -450,7 +465,7 @@ bool ProjectEditor::step(const Words &words, int direction)
                                   : u"There are %1 edits to redo."_s.arg(most));
     }
     stack->setIndex(stack->index() + direction * count);
-    m_edits.append({direction < 0 ? u"Undo %1"_s.arg(count) : u"Redo %1"_s.arg(count), {}});
+    m_edits.append({direction < 0 ? u"Undo %1"_s.arg(count) : u"Redo %1"_s.arg(count), {}, {}});
     return true;
 }
 

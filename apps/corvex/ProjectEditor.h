@@ -21,7 +21,7 @@ class Call;
 /*! Edits a project by lines of text, one edit each: "set Main.title.text Hello". Words are those of
     EditLine, paths those of ProjectPath.
 
-    Each edit is one step of the project's history, except undo and redo. */
+    Each line is one step of the project's history, except undo and redo. */
 class ProjectEditor
 {
 public:
@@ -36,6 +36,7 @@ public:
     struct Edit
     {
         QString text;          //!< what the history calls it
+        QStringList parts;     //!< the same of what it is made of, when that is more than one thing
         QList<Change> changes; //!< in the order of their paths
     };
 

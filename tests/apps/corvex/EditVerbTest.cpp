@@ -96,7 +96,7 @@ delete Main.title Main.box3 boxes Other rate two.png
     QDir(sandbox.path(u"Pump/Images"_s)).removeRecursively();
     QByteArray twice = script;
     twice.replace(" boxes Other", " Main.boxes Other");
-    EXPECT_EQ(edit(twice + "undo 27\n").error, QString());
+    EXPECT_EQ(edit(twice + "undo 22\n").error, QString());
     EXPECT_EQ(sandbox.read(pump), before);
     EXPECT_EQ(sandbox.files(u"Pump"_s), QStringList{u"Pump.kdproj"_s});
 }
@@ -150,6 +150,28 @@ TEST_F(EditVerb, oneBadLineAndNothingIsDone)
     EXPECT_EQ(sandbox.run({u"edit"_s, pump, u"nowhere"_s}).code, 3);
 }
 
+TEST_F(EditVerb, anInterruptedScriptIsTakenBack)
+{
+    const QByteArray before = sandbox.read(pump);
+    QProcess program;
+    program.setWorkingDirectory(sandbox.path({}));
+    program.start(QStringLiteral(CORVEX_PROGRAM), {u"edit"_s, pump});
+    program.write("add-image one.png\nrename one.png uno.png\n");
+    const QString image = sandbox.path(u"Pump/Images/uno.png"_s);
+    for (int tries = 0; tries < 1200 && !QFile::exists(image); ++tries) {
+        program.waitForReadyRead(50);
+    }
+    ASSERT_TRUE(QFile::exists(image));
+    program.terminate();
+    ASSERT_TRUE(program.waitForFinished(60'000));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_EQ(QString::fromUtf8(program.readAllStandardError()),
+              u"corvex: Interrupted: \"%1\" stays as it is.\n"_s.arg(pump));
+    EXPECT_EQ(sandbox.read(pump), before);
+    EXPECT_EQ(sandbox.files(u"Pump"_s), QStringList{u"Pump.kdproj"_s});
+}
+
 TEST_F(EditVerb, aTrialShowsWhatFollows)
 {
     const QByteArray before = sandbox.read(pump);
@@ -159,6 +181,14 @@ TEST_F(EditVerb, aTrialShowsWhatFollows)
                 HasSubstr("  Main.press.visualElement: filterType: VisualElement; objectId: box1; scopeType: "
                           "Screen; -> filterType: VisualElement; objectId: tank; scopeType: Screen;\n"));
     EXPECT_EQ(run.code, 0);
+    EXPECT_EQ(edit("filter both Main.title\ndelete speed Main.title\n", {u"--dry-run"_s}).out,
+              uR"(Add "both" to "Main"
+Delete Project Variable "speed", Delete Elements and Filters
+  Delete Project Variable "speed"
+  Delete "title"
+  Delete "both"
+  Main.both.elements: title -> 
+)"_s);
     EXPECT_EQ(sandbox.read(pump), before);
     const QJsonObject json = edit("set Main.title.text new\n", {u"--json"_s}).json().toObject();
     EXPECT_EQ(json[u"edits"_s][0][u"changes"_s][0][u"new"_s].toString(), u"new"_s);
@@ -202,10 +232,56 @@ moved Main.press: Main.elements -> First.trio.elements
 moved Main.note: Main.elements -> First.trio.elements
 added GroupElement First.trio
 )"_s);
+    sandbox.write(old, sandbox.read(pump).replace("name: VTR 50-K", "name: VTR 50-S"));
+    const ProgramRun models = sandbox.run({u"diff"_s, old, pump});
+    EXPECT_EQ(models.out, u"changed VTR 50-S.id: name: VTR 50-S; -> name: VTR 50-K;\n"_s);
+    EXPECT_EQ(models.code, 1);
     const QString station = u"Station/Station.kdproj"_s;
     EXPECT_EQ(sandbox.run({u"rename"_s, pump, u"Pump"_s, u"Station"_s}).error, QString());
     EXPECT_EQ(sandbox.run({u"fmt"_s, station, u"--check"_s}).code, 0);
     EXPECT_FALSE(QFile::exists(sandbox.path(u"Pump"_s)));
+}
+
+TEST(EditVerbKept, whatNoPluginKnowsStaysInItsPlace)
+{
+    const Sandbox sandbox;
+    const QByteArray inner = Sandbox::object("Rectangle", "box1") + Sandbox::object("Gauge", "inner")
+                             + Sandbox::object("Rectangle", "box2");
+    sandbox.makeProject(
+        Sandbox::object("Text", "one") + Sandbox::object("Text", "two")
+        + Sandbox::object("Gauge", "dial", Sandbox::value("range", "far")) + Sandbox::object("Text", "three")
+        + Sandbox::object("GroupElement", "group1",
+                          Sandbox::value("indexes", "box1 | box2") + "<Property name=\"elements\">\n<List>\n"
+                              + inner + "</List>\n</Property>\n"));
+    sandbox.run({u"fmt"_s, pump});
+    const QByteArray before = sandbox.read(pump);
+    ASSERT_TRUE(before.contains("dial") && before.contains("inner"));
+    const auto edit = [&sandbox](const QByteArray &script) {
+        sandbox.write(u"script"_s, script);
+        return sandbox.run({u"edit"_s, pump, u"script"_s});
+    };
+    for (const QByteArray script :
+         {"delete Main.two", "delete Main.two Main.one", "group pair Main.one Main.two Main.three",
+          "move Main.two Main.group1", "split Main.group1 box1", "delete Main", "swap Main.two Main.one"}) {
+        EXPECT_EQ(edit(script + "\nundo\n").error, QString());
+        EXPECT_EQ(sandbox.read(pump), before) << script.constData();
+    }
+    EXPECT_EQ(edit("ungroup Main.group1\n").code, 1);
+    EXPECT_EQ(sandbox.read(pump), before);
+
+    const QString old = u"Old/Old.kdproj"_s;
+    QDir(sandbox.path({})).mkdir(u"Old"_s);
+    sandbox.write(old, before);
+    EXPECT_EQ(sandbox.run({u"diff"_s, old, pump}).code, 0);
+    sandbox.write(pump, QByteArray(before).replace("far", "near").replace("name: inner", "name: other"));
+    const ProgramRun diff = sandbox.run({u"diff"_s, old, pump, u"--json"_s});
+    EXPECT_EQ(diff.code, 1);
+    QStringList told;
+    for (const QJsonValue &difference : diff.json().toArray()) {
+        told.append(difference[u"kind"_s].toString() + u' ' + difference[u"path"_s].toString());
+    }
+    EXPECT_EQ(told, (QStringList{u"added Main.group1.other"_s, u"removed Main.group1.inner"_s,
+                                 u"changed Main.dial"_s}));
 }
 
 TEST_F(EditVerb, ofTwoAtOnceNoneTakesBackWhatTheOtherDid)
