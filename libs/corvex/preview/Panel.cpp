@@ -25,6 +25,7 @@ Panel::Panel(QObject *parent)
 {
     m_engine.setProperty(panelProperty, QVariant::fromValue<QObject *>(this));
     m_engine.setOutputWarningsToStandardError(false);
+    m_guard.guard(m_engine);
     connect(&m_clock, &Clock::ticked, &m_logic, &LogicQueue::flush);
     connect(&m_logic, &LogicQueue::isEndless, this, [this](QObject *element) {
         report(element,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/preview/BuildGuard.h"
 #include "corvex/preview/LogicQueue.h"
 #include "corvex/preview/Watchdog.h"
 #include "corvex/preview/state/ChannelStore.h"
@@ -22,6 +23,7 @@ public:
     ~Panel() override;
 
     QQmlEngine &engine() { return m_engine; }
+    BuildGuard &guard() { return m_guard; }
     VariableStore &variables() { return m_variables; }
     ChannelStore &channels() { return m_channels; }
     Clock &clock() { return m_clock; }
@@ -45,6 +47,7 @@ private:
     Clock m_clock;
     LogicQueue m_logic;
     ProblemLog m_problems;
+    BuildGuard m_guard;
     QQmlEngine m_engine;
     Watchdog m_watchdog;
 };

@@ -45,6 +45,10 @@ bool PreviewSession::load(const QString &path, QString *error)
         m_panel->problems().report(QString(), u"The preview knows no class \"%1\" and shows boxes for its "
                                               "elements."_s.arg(name));
     }
+    m_panel->guard().allow({m_build.path(), StandIns::boxFolder()});
+    connect(&m_panel->guard(), &BuildGuard::refused, this, [this](const QString &message) {
+        m_panel->problems().report(m_screenId.mid(idPrefix.size()), message);
+    });
     m_first = std::make_unique<QQmlComponent>(&m_panel->engine(), urlOf(m_build.defaultScreen()),
                                               QQmlComponent::Asynchronous);
     return true;

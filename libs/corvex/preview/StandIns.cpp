@@ -9,6 +9,7 @@
 #include "corvex/preview/elements/Logic.h"
 #include "corvex/preview/elements/PlainElement.h"
 
+#include <QDir>
 #include <QFile>
 #include <QUrl>
 #include <qqml.h>
@@ -77,6 +78,9 @@ QString boxDocument(const QString &className, const QSet<QString> &properties)
     QString declarations;
     QMap<QString, QStringList> groups;
     for (const QString &property : properties) {
+        if (property.at(0).isUpper()) {
+            continue; // "Component.onCompleted", which every object has
+        }
         if (property.contains(u'.')) {
             groups[property.section(u'.', 0, 0)].append(property.section(u'.', 1));
         } else if (!isOfItem(property)) {
@@ -98,6 +102,7 @@ QString boxDocument(const QString &className, const QSet<QString> &properties)
            "    color: \"#fff4d6\"; border.color: \"#a06a00\"; border.width: 1\n"
            "    Quick.Text {\n"
            "        anchors.fill: parent; anchors.margins: 2; text: \"%1\\n\" + box.objectName\n"
+           "        textFormat: Quick.Text.PlainText\n"
            "        color: \"#5a3c00\"; font.pixelSize: 12; fontSizeMode: Quick.Text.Fit; minimumPixelSize: "
            "6\n"
            "        horizontalAlignment: Quick.Text.AlignHCenter; verticalAlignment: "
@@ -157,6 +162,13 @@ void StandIns::registerModules()
     add<ThermocoupleInput>("ThermocoupleInput");
 }
 
+QString StandIns::boxFolder()
+{
+    // The engine reads types from files alone.
+    static const Common::TemporaryFolder folder(u"corvex-classes"_s);
+    return QDir::cleanPath(folder.filePath(QString()));
+}
+
 QStringList StandIns::addUnknownClasses(const BuildFolder &build)
 {
     static QSet<QString> boxes;
@@ -164,10 +176,8 @@ QStringList StandIns::addUnknownClasses(const BuildFolder &build)
     if (classes.isEmpty()) {
         return {};
     }
-    // The engine reads types from files alone.
-    static const Common::TemporaryFolder folder(u"corvex-classes"_s);
     for (const auto &[name, properties] : classes.asKeyValueRange()) {
-        QFile file(folder.filePath(name + u".qml"_s));
+        QFile file(u"%1/%2.qml"_s.arg(boxFolder(), name));
         if (!file.open(QIODevice::WriteOnly)) {
             continue;
         }

@@ -19,6 +19,8 @@ public:
     /*! Makes a type, shown as a labelled box, for each class of the build that there is none for, with all
         properties and signals that are set of it. Gives the names of these classes. */
     static QStringList addUnknownClasses(const BuildFolder &build);
+    //! The folder, made for this program, in which the documents of the boxes are.
+    static QString boxFolder();
 };
 
 } // namespace Halvane::Corvex::Preview

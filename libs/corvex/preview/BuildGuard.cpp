@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/preview/BuildGuard.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QNetworkAccessManager>
+#include <QQmlEngine>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Preview {
+
+namespace {
+
+//! Those that screens import, and what these need.
+constexpr const char *modules[] = {"QtQml", "QtQml/Models", "QtQml/WorkerScript", "QtQuick"};
+
+//! Of addresses that intercept() leaves as they are, though no other program is to get them.
+const QStringList ourSchemes{u"data"_s, u"file"_s, u"qrc"_s};
+//! The one that has the desktop's handlers; a new session has them before the old one ends.
+BuildGuard *s_current = nullptr;
+
+bool isOurs(const QUrl &url)
+{
+    return url.scheme() == "qrc"_L1 || url.scheme() == "data"_L1;
+}
+
+const QString refusedFolder = u"/refused/"_s;
+
+//! An address of the program at which there is nothing, and which tells what was asked for.
+QUrl nothingFor(const QUrl &url)
+{
+    QUrl nothing(u"qrc:"_s);
+    nothing.setPath(refusedFolder + url.toString());
+    return nothing;
+}
+
+//! What is in a picture or a text that came with its address passes, and nothing else does.
+class ClosedNetwork : public QNetworkAccessManager
+{
+public:
+    ClosedNetwork(BuildGuard &guard, QObject *parent)
+        : QNetworkAccessManager(parent)
+        , m_guard(guard)
+    { }
+
+protected:
+    QNetworkReply *createRequest(Operation operation, const QNetworkRequest &request,
+                                 QIODevice *data) override
+    {
+        const QUrl url = m_guard.intercept(request.url(), QQmlAbstractUrlInterceptor::UrlString);
+        // A file of the build is not read this way: a script would see what is in it.
+        const QUrl ours = isOurs(url) ? url : nothingFor(url);
+        return QNetworkAccessManager::createRequest(operation, QNetworkRequest(ours), data);
+    }
+
+private:
+    BuildGuard &m_guard;
+};
+
+} // namespace
+
+BuildGuard::~BuildGuard()
+{
+    if (s_current == this) {
+        s_current = nullptr;
+        for (const QString &scheme : ourSchemes) {
+            QDesktopServices::unsetUrlHandler(scheme);
+        }
+    }
+}
+
+void BuildGuard::guard(QQmlEngine &engine)
+{
+    // What stands as "qml_Main.qmlc" beside a document would be taken for its compiled form.
+    qputenv("QML_DISABLE_DISK_CACHE", "1");
+    for (const QString &path : engine.importPathList()) {
+        for (const char *module : modules) {
+            m_modules.insert(u"%1/%2/qmldir"_s.arg(path, QLatin1StringView(module)));
+        }
+    }
+    s_current = this;
+    for (const QString &scheme : ourSchemes) {
+        QDesktopServices::setUrlHandler(scheme, this, "refuseToShow");
+    }
+    engine.addUrlInterceptor(this);
+    engine.setNetworkAccessManagerFactory(this);
+}
+
+void BuildGuard::allow(const QStringList &folders)
+{
+    m_folders.clear();
+    for (const QString &folder : folders) {
+        m_folders += {QDir::cleanPath(folder), QFileInfo(folder).canonicalFilePath()};
+    }
+}
+
+bool BuildGuard::isAllowed(const QString &path) const
+{
+    // A link counts as what it leads to; a file that is missing may be asked for.
+    const QFileInfo file(path);
+    const QString folder =
+        file.exists() ? QFileInfo(file.canonicalFilePath()).path() : QFileInfo(QDir::cleanPath(path)).path();
+    return std::ranges::any_of(m_folders, [&folder](const QString &allowed) {
+        return folder == allowed || folder.startsWith(allowed + u'/');
+    });
+}
+
+//! The list of what a folder offers as a module. One that is not let through is missing, in a folder of ours.
+QUrl BuildGuard::moduleFile(const QUrl &url)
+{
+    if (isOurs(url) || m_modules.contains(url.toLocalFile())) {
+        return url;
+    }
+    if (url.isLocalFile() && QFileInfo::exists(url.toLocalFile())) {
+        emit refused(
+            u"\"%1\" is not read: the preview has the modules of the device alone."_s.arg(url.toLocalFile()));
+    }
+    return QUrl(u"qrc:/corvex/preview/qmldir"_s);
+}
+
+QUrl BuildGuard::intercept(const QUrl &url, DataType type)
+{
+    if (type == QmldirFile) {
+        return moduleFile(url);
+    }
+    const bool isFile = url.isLocalFile() && type != JavaScriptFile;
+    if (url.isEmpty() || isOurs(url) || (isFile && isAllowed(url.toLocalFile()))) {
+        return url;
+    }
+    emit refused(u"\"%1\" is not opened: the preview reads the files of the build alone."_s.arg(
+        url.toString(QUrl::RemoveUserInfo)));
+    return nothingFor(url);
+}
+
+void BuildGuard::refuseToShow(const QUrl &url)
+{
+    if (url.path().startsWith(refusedFolder)) {
+        return; // and was told already
+    }
+    emit refused(u"\"%1\" is not shown: the preview starts no other program."_s.arg(url.toString()));
+}
+
+QNetworkAccessManager *BuildGuard::create(QObject *parent)
+{
+    return new ClosedNetwork(*this, parent);
+}
+
+} // namespace Halvane::Corvex::Preview

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QQmlAbstractUrlInterceptor>
+#include <QQmlNetworkAccessManagerFactory>
+#include <QSet>
+#include <QStringList>
+
+class QQmlEngine;
+
+namespace Halvane::Corvex::Preview {
+
+/*! Keeps the documents of a build to the files of the build, whoever has made it: an engine asks here for
+   each address that it meets, in whatever thread. Nothing comes from the network, no script from another
+   file, and no module but those that generated screens import, since a module may bring machine code along.
+ */
+class BuildGuard
+    : public QObject
+    , public QQmlAbstractUrlInterceptor
+    , public QQmlNetworkAccessManagerFactory
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+    ~BuildGuard() override;
+
+    //! For the life of the engine; before it loads anything.
+    void guard(QQmlEngine &engine);
+    //! The folders whose files may be read; before any document is loaded.
+    void allow(const QStringList &folders);
+
+    QUrl intercept(const QUrl &url, DataType type) override;
+    QNetworkAccessManager *create(QObject *parent) override;
+
+signals:
+    //! What is not let through, in a text for the user.
+    void refused(const QString &message);
+
+private slots:
+    void refuseToShow(const QUrl &url);
+
+private:
+    QUrl moduleFile(const QUrl &url);
+    bool isAllowed(const QString &path) const;
+
+    QSet<QString> m_modules; //!< the files "qmldir" of those that may be imported
+    QStringList m_folders;
+};
+
+} // namespace Halvane::Corvex::Preview

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "TestBuild.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTcpServer>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace testing;
+
+namespace Halvane::Corvex::Preview {
+
+namespace {
+
+using Common::EnumHelper;
+
+//! A build that someone has sent, with a file beside it that is none of its own, and a server that waits.
+class BuildGuardTest : public Test
+{
+protected:
+    BuildGuardTest()
+    {
+        build.addVariable(u"reached"_s, EnumHelper::IntegerVariable, 0);
+        build.writeConfiguration();
+        outside.write(u"Beside.qml"_s, "import QtQuick 2.0\nItem { Component.onCompleted: "
+                                       "qmlViewer.setVariableValue('reached', 1, 2) }");
+        outside.write(u"beside.js"_s, "function f() { return 1; }\nf();\n");
+        QImage picture(8, 8, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        picture.save(outside.path(u"beside.png"_s));
+        picture.save(build.path(u"own.png"_s));
+        EXPECT_TRUE(m_server.listen(QHostAddress::LocalHost));
+    }
+
+    QByteArray server() const { return "http://127.0.0.1:" + QByteArray::number(m_server.serverPort()); }
+    static QByteArray fileUrl(const QString &path) { return QUrl::fromLocalFile(path).toEncoded(); }
+
+    //! What a screen with this inside leads to.
+    QStringList problemsOf(const QByteArray &body, const char *script = "")
+    {
+        build.addScreen("Main", body);
+        TestPanel panel(build);
+        EXPECT_TRUE(panel.isOpen);
+        EXPECT_THAT(panel.run("wait 100; expect reached 0; expect screen Main"), IsEmpty());
+        EXPECT_THAT(panel.run(script), IsEmpty());
+        QTest::qWait(20);
+        panel.session.settle();
+        return panel.problems();
+    }
+
+    TestBuild build;
+    TestBuild outside;
+    QTcpServer m_server;
+};
+
+} // namespace
+
+TEST_F(BuildGuardTest, letsNothingInButTheFilesOfTheBuild)
+{
+    // In place of %1 stands an address, in place of %2 that of its folder. XMLHttpRequest takes no file at
+    // all.
+    static constexpr const char *documents[] = {
+        "Image { source: '%1' }",
+        "Image { source: 'own.png'; Component.onCompleted: source = '%1' }",
+        "Text { text: 'a<img src=\"%1\">b' }",
+        "Text { text: 'a< IMG width=\"5\" src=\"%1\" src=\"%1\"' }",
+        "Component.onCompleted: Qt.createComponent('%1')",
+        "Component.onCompleted: Qt.openUrlExternally('%1')",
+        "Component.onCompleted: { var r = new XMLHttpRequest(); r.open('GET', '%1'); r.send(); }",
+        "Component.onCompleted: Qt.createQmlObject('import QtQuick 2.0; Loader { source: \"%1\" }', "
+        "qml_Main)",
+        "Component.onCompleted: Qt.createQmlObject('import QtQuick 2.0; FontLoader { source: \"%1\" }', "
+        "qml_Main)",
+        "Component.onCompleted: Qt.createQmlObject('import QtQuick 2.0; BorderImage { source: \"%1\" }', "
+        "qml_Main)",
+        "Component.onCompleted: Qt.createQmlObject('import QtQml.WorkerScript 2.0; WorkerScript { source: "
+        "\"%1\" }', "
+        "qml_Main)",
+        "Component.onCompleted: Qt.createQmlObject('import \"%2\" as Far; Far.Beside {}', qml_Main)",
+        "Component.onCompleted: Qt.createQmlObject('import QtQuick 2.0; import \"%2/beside.js\" as Far; Item "
+        "{}', "
+        "qml_Main)",
+    };
+    for (const QByteArray document : documents) {
+        for (const QByteArray &folder : {server(), fileUrl(outside.path())}) {
+            const QByteArray address = folder + (document.contains("%2/") ? "/beside.js" : "/Beside.qml");
+            const QByteArray body = QByteArray(document).replace("%1", address).replace("%2", folder);
+            if (body.contains("'GET', 'file:")) {
+                continue;
+            }
+            EXPECT_THAT(problemsOf(body),
+                        Contains(u"Main: \"%1\" is not opened: the preview reads the files of the "
+                                 "build alone."_s.arg(QString::fromUtf8(address))))
+                << body.constData();
+            EXPECT_FALSE(m_server.hasPendingConnections()) << body.constData();
+        }
+    }
+}
+
+TEST_F(BuildGuardTest, readsWhatIsInTheBuild)
+{
+    const QString far = outside.path(u"beside.png"_s);
+    ASSERT_TRUE(QFile::link(far, build.path(u"link.png"_s)));
+    const auto address = [this](const QString &name) { return QString::fromUtf8(fileUrl(build.path(name))); };
+    build.write(u"qmldir"_s, "module Sent\nplugin machinecode\nBeside 1.0 Beside.qml\n");
+    EXPECT_THAT(
+        problemsOf("Image { objectName: 'own'; source: 'own.png' }\n"
+                   "Image { objectName: 'link'; source: 'link.png' }\n"
+                   "Text { objectName: 'text'; text: '<b>a</b><img src=\"own.png\" width=\"8\">' }\n"
+                   "Gauge { objectName: 'box'; Component.onCompleted: visible = false }\n"
+                   "Component.onCompleted: Qt.openUrlExternally('own.png')\n",
+                   "expect own.status 1; expect link.status 3; expect box.visible false; expect "
+                   "text.textFormat 2"),
+        UnorderedElementsAre(
+            u"The preview knows no class \"Gauge\" and shows boxes for its elements."_s,
+            u"Main: \"%1\" is not read: the preview has the modules of the device alone."_s.arg(
+                build.path(u"qmldir"_s)),
+            u"Main: \"%1\" is not opened: the preview reads the files of the build alone."_s.arg(
+                address(u"link.png"_s)),
+            u"Main.link: QML Image: Cannot open: qrc:/refused/%1"_s.arg(address(u"link.png"_s)),
+            u"Main: \"%1\" is not shown: the preview starts no other program."_s.arg(address(u"own.png"_s))));
+}
+
+} // namespace Halvane::Corvex::Preview
