@@ -22,15 +22,19 @@ using namespace Designer;
 
 namespace {
 
-//! Runs a build of the project and adds what is wrong with its screens.
+//! Runs a build of the project and adds what is wrong with its screens. Of a project that cannot be built
+//! the problems tell why, as a rule.
 ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> &problems)
 {
+    if (file.project().screens()->listItems().isEmpty()) {
+        return ExitCode::Done;
+    }
     call.terminal().showProgress(u"looking at the screens of %1"_s.arg(file.path()));
     RuntimeGenerator &generator = file.project().runtimeGenerator();
     const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
     file.project().generateRuntimeFiles();
     if (generator.buildFolder().isEmpty()) {
-        return call.failed(generator.errorString());
+        return call.failed(generator.errorString(), problems.isEmpty() ? ExitCode::File : ExitCode::Problems);
     }
     PreviewProgram program(call);
     program.process().setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -53,12 +57,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     }
     call.terminal().showProgress(u"checking %1"_s.arg(file.path()));
     QList<Problem> problems = ProjectProblems::find(file, *models);
-    if (call.isSet(u"screens"_s)) {
-        const ExitCode code = checkScreens(call, file, problems);
-        if (code != ExitCode::Done) {
-            return code;
-        }
-    }
+    const ExitCode code = call.isSet(u"screens"_s) ? checkScreens(call, file, problems) : ExitCode::Done;
     if (call.asJson()) {
         ProjectProblems::printJson(problems, call.terminal());
     } else {
@@ -66,7 +65,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
             call.terminal().print(problem.toString());
         }
     }
-    return problems.isEmpty() ? ExitCode::Done : ExitCode::Problems;
+    return code == ExitCode::Done && !problems.isEmpty() ? ExitCode::Problems : code;
 }
 
 QList<QCommandLineOption> options()

@@ -5,14 +5,29 @@
 
 namespace Halvane::Corvex::Preview {
 
+namespace {
+
+//! Scripts write what they like, and a terminal would obey.
+QByteArray withoutCommands(QString text)
+{
+    for (QChar &character : text) {
+        if (character.category() == QChar::Other_Control && character != u'\n' && character != u'\t') {
+            character = QChar::ReplacementCharacter;
+        }
+    }
+    return text.toUtf8();
+}
+
+} // namespace
+
 void complain(const QString &message)
 {
-    std::fprintf(stderr, "corvex: %s\n", qUtf8Printable(message));
+    std::fprintf(stderr, "corvex: %s\n", withoutCommands(message).constData());
 }
 
 void print(const QString &line)
 {
-    std::printf("%s\n", qUtf8Printable(line));
+    std::printf("%s\n", withoutCommands(line).constData());
 }
 
 } // namespace Halvane::Corvex::Preview

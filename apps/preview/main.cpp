@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 // corvex-preview FOLDER [--audit] [--shot DIR] [--script FILE] [--state FILE]: runs a build on the desktop,
 // in a window unless there is a picture to take or a script to follow.
+#include "corvex/preview/StandIns.h"
 #include "corvex/preview/window/PreviewWindow.h"
 
+#include "Confinement.h"
 #include "Output.h"
 #include "Unattended.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QQuickWindow>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +50,21 @@ Exit runInWindow(const QString &folder, const QString &stateFile)
     return QApplication::exec() == 0 ? Exit::Done : Exit::File;
 }
 
+//! Where the options ask for files.
+QStringList ownFolders(const QCommandLineParser &parser)
+{
+    QStringList folders{StandIns::boxFolder()};
+    if (parser.isSet(u"state"_s)) {
+        folders.append(QFileInfo(parser.value(u"state"_s)).absolutePath());
+    }
+    if (parser.isSet(u"shot"_s)) {
+        folders.append(parser.value(u"shot"_s));
+    } else if (parser.isSet(u"script"_s)) {
+        folders.append(u"."_s);
+    }
+    return folders;
+}
+
 Exit run(const QCommandLineParser &parser, bool isUnattended)
 {
     if (parser.positionalArguments().size() != 1) {
@@ -54,6 +72,7 @@ Exit run(const QCommandLineParser &parser, bool isUnattended)
         return Exit::Usage;
     }
     const QString folder = parser.positionalArguments().constFirst();
+    confine(ownFolders(parser));
     if (!isUnattended) {
         return runInWindow(folder, parser.value(u"state"_s));
     }

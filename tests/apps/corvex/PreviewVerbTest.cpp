@@ -5,6 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#ifdef Q_OS_LINUX
+#include <sys/syscall.h>
+#include <unistd.h>
+#endif
+
 using namespace Halvane::Corvex::Test;
 using namespace Qt::StringLiterals;
 
@@ -30,6 +35,16 @@ protected:
 
     Sandbox sandbox;
 };
+
+bool hasLandlock()
+{
+#ifdef SYS_landlock_create_ruleset
+    constexpr unsigned int askForVersion = 1;
+    return syscall(SYS_landlock_create_ruleset, nullptr, 0, askForVersion) > 0;
+#else
+    return false;
+#endif
+}
 
 } // namespace
 
@@ -71,6 +86,40 @@ TEST_F(PreviewVerb, looksAtTheScreensForCheck)
     const ProgramRun check = sandbox.run({u"check"_s, pump, u"--screens"_s});
     EXPECT_EQ(check.out, u"Main.title: There is no variable \"none\".\n"_s);
     EXPECT_EQ(check.code, 1);
+
+    // What cannot be built is told with the reasons.
+    sandbox.write(u"none.kdproj"_s, "<Project><Properties><Property name=\"id\" value=\"name: None;\"/>"
+                                    "</Properties></Project>");
+    const ProgramRun none = sandbox.run({u"check"_s, u"none.kdproj"_s, u"--screens"_s});
+    EXPECT_TRUE(none.out.contains(u"At least one screen is required."_s)) << qPrintable(none.out);
+    EXPECT_EQ(none.code, 1);
+}
+
+TEST_F(PreviewVerb, leavesTheRestOfTheMachineAlone)
+{
+    ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
+    sandbox.write(u"out/project/qmldir"_s, "module Sent\nplugin machinecode\n");
+    sandbox.write(u"out/project/qml_Main.qml"_s, R"(
+        import QtQuick 2.0
+        Canvas {
+            objectName: "Main"; width: 40; height: 40
+            onPaint: getContext("2d").fillRect(0, 0, 40, 40)
+            property var speed: qmlViewer.getVariableValue("speed")
+            onSpeedChanged: {
+                for (const folder of ["pictures", ".", "out/project"])
+                    console.log(folder, save(folder + "/sent.png"), "\u001b[2J");
+            }
+        })");
+    sandbox.write(u"script"_s, "shot before\nset speed 8\n");
+    const ProgramRun run = preview(u"out"_s, {u"--script"_s, u"script"_s, u"--shot"_s, u"pictures"_s});
+    EXPECT_TRUE(run.error.contains(u"out/project/qmldir\" is not read"_s)) << qPrintable(run.error);
+    EXPECT_TRUE(run.error.contains(u"pictures true \uFFFD[2J\n"_s)) << qPrintable(run.error);
+    EXPECT_EQ(run.code, 1);
+    if (!hasLandlock()) {
+        GTEST_SKIP() << "the system does not keep programs from writing files";
+    }
+    EXPECT_TRUE(run.error.contains(u". false "_s)) << qPrintable(run.error);
+    EXPECT_EQ(sandbox.files(u"."_s).filter(u"sent.png"_s), QStringList(u"pictures/sent.png"_s));
 }
 
 TEST_F(PreviewVerb, walksThroughThePumpStation)
