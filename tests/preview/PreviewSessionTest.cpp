@@ -117,6 +117,7 @@ TEST(PreviewSession, tellsWhichElementGoesWrong)
                            conditions: [qmlViewer.getVariableValue("number") > 5]
                            onEvaluate: if (conditions[0]) qmlViewer.setVariableValue("number",
                                            qmlViewer.getVariableValue("number") + 1, 2) },
+            DataLogging { id: noLog; objectName: "noLog"; variable: "number" },
             Button { objectName: "hang"; visualElement: box; onPressed: { while (true) {} } },
             Button { objectName: "wrong"; visualElement: other
                      onPressed: { qmlViewer.setVariableValue("number", "many", 4);
@@ -134,6 +135,9 @@ TEST(PreviewSession, tellsWhichElementGoesWrong)
         Rectangle { id: fourth; objectName: "fourth"; x: 60; width: 10; height: 10 }
         Gauge { objectName: "gauge"; width: 50; height: 50; needle.color: "red"; level: 3; onFull: {} }
         Image { objectName: "picture"; source: "missing.png" }
+        // Before it has started, and afterwards.
+        property var early: noLog.run()
+        Component.onCompleted: noLog.run()
     )");
     TestPanel panel(build);
     ASSERT_TRUE(panel.isOpen) << qPrintable(panel.error);
@@ -145,6 +149,7 @@ TEST(PreviewSession, tellsWhichElementGoesWrong)
         "config.kdrc: The default screen \"qml_Gone\" is missing.",
         "broken: The variable is to hold a number",
         "The preview knows no class \"Gauge\"",
+        "Main.noLog: The variable \"number\" is no log.",
         "Main.group.label: There is no variable \"nobody\".",
         "Main.loop: ",
         "Main.picture: ",
@@ -190,6 +195,9 @@ TEST(PreviewSession, survivesDocumentsThatAreNotGenerated)
         {"import QtQuick 2.0 as Q\nQ.Item { Q.Loader { source: \"qml_Main.qml\" } }",
          "Main: Maximum call stack size exceeded."},
         {"import QtQuick 2.0 as Q\nQ.Item { objectName: \"Main\"; x: { while (true) {} } }",
+         "Main: A script took longer than 300 ms and was stopped."},
+        {"import QtQuick 2.0 as Q\nQ.Item { objectName: \"Main\"; Q.Component.onCompleted: "
+         "Qt.callLater(() => { while (true) {} }) }",
          "Main: A script took longer than 300 ms and was stopped."},
         {"import QtQuick 2.0 as Q\nQ.Item { objectName: \"Main\"; width: 1e9 }",
          "Main: The screen is larger than "},

@@ -234,6 +234,7 @@ void PreviewSession::removeScreen()
 
 void PreviewSession::settle()
 {
+    const ScriptScope scope(*m_panel, m_screenId.mid(idPrefix.size()));
     m_panel->logic().flush();
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();

@@ -20,13 +20,15 @@ DataLog::WhenFull whenFull(const QString &behavior)
 
 void DataLogging::start()
 {
-    panel()->variables().addLog(m_variable);
-    DataLog *log = panel()->variables().logOf(m_variable);
-    if (!log) {
+    VariableStore &variables = panel()->variables();
+    variables.addLog(m_variable);
+    m_log = variables.logOf(m_variable);
+    m_source = variables.find(m_variable);
+    if (!m_log) {
         panel()->report(this, u"The variable \"%1\" is no log."_s.arg(m_variable));
         return;
     }
-    log->setLimit(m_maxDataPoints, whenFull(m_behavior));
+    m_log->setLimit(m_maxDataPoints, whenFull(m_behavior));
     if (m_autoStart) {
         run();
     }
@@ -35,19 +37,17 @@ void DataLogging::start()
 void DataLogging::run()
 {
     stop();
-    panel()->clock().start(m_startDelay, std::max(m_interval, 1), this, [this] {
-        perform([this] {
-            panel()
-                ->variables()
-                .logOf(m_variable)
-                ->add(panel()->variables().find(m_variable)->value().toDouble());
-        });
-    });
+    if (m_log) {
+        panel()->clock().start(m_startDelay, std::max(m_interval, 1), this,
+                               [this] { perform([this] { m_log->add(m_source->value().toDouble()); }); });
+    }
 }
 
 void DataLogging::stop()
 {
-    panel()->clock().stop(this);
+    if (m_log) {
+        panel()->clock().stop(this);
+    }
 }
 
 } // namespace Halvane::Corvex::Preview

@@ -5,6 +5,9 @@
 
 namespace Halvane::Corvex::Preview {
 
+class DataLog;
+class Variable;
+
 //! Takes a sample of a log variable at regular times, as long as its screen is shown.
 class DataLogging : public Element
 {
@@ -20,6 +23,7 @@ class DataLogging : public Element
 public:
     using Element::Element;
 
+    // Without a log they do nothing.
     Q_INVOKABLE void run();
     Q_INVOKABLE void stop();
 
@@ -33,6 +37,9 @@ private:
     int m_maxDataPoints = 10000;
     QString m_behavior;
     bool m_autoStart = true;
+    // Those of the variable that it started with.
+    DataLog *m_log = nullptr;
+    Variable *m_source = nullptr;
 };
 
 } // namespace Halvane::Corvex::Preview
