@@ -75,6 +75,10 @@ bool writeAll(const Exported &exported, const QString &folder, const Call &call)
     }
     QStringList paths;
     for (const Exported::File &file : exported.files) {
+        if (file.name != QFileInfo(file.name).fileName()) {
+            call.failed(u"\"%1\" is no name for a file. Give the project another name."_s.arg(file.name));
+            return false;
+        }
         paths.append(QDir(folder).filePath(file.name));
         if (!Common::FileHelper::writeFile(paths.last(), file.bytes, &error)) {
             call.failed(error);

@@ -103,6 +103,10 @@ TEST_F(ExchangeVerbs, exportPrintsOrWritesFiles)
     EXPECT_EQ(sandbox.run({u"export"_s, u"can"_s, pump, u"--json"_s}).code, 2);
     EXPECT_EQ(sandbox.run({u"export"_s, u"can"_s, u"missing.kdproj"_s}).code, 3);
     EXPECT_EQ(sandbox.run({u"export"_s, u"can"_s, pump, u"-o"_s, pump}).code, 3);
+    // A project from elsewhere may be called like a place outside of DIR.
+    sandbox.write(pump, sandbox.read(pump).replace("name: Pump;", "name: ../Pump;"));
+    EXPECT_EQ(sandbox.run({u"export"_s, u"modbus"_s, pump, u"-o"_s, u"new/dir"_s}).code, 3);
+    EXPECT_FALSE(sandbox.files(u"new"_s).contains(u"Pump_Modbus.csv"_s));
 }
 
 TEST_F(ExchangeVerbs, importTakesATableOrNothing)

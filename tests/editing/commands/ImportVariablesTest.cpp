@@ -82,6 +82,8 @@ TEST_F(ImportVariablesTest, TablesOfOthersMayBeShorter)
     EXPECT_TRUE(text.contains(u"\r\ndepth,NumberVariable,1.5,false,"_s));
     EXPECT_EQ(project->variables()->getListItem(u"history"_s)->getProperty(u"interval")->valueString(),
               u"5000"_s);
+    // The same value in another spelling is no mistake.
+    EXPECT_TRUE(import("name,interval\nhistory,05000\n"));
 }
 
 TEST_F(ImportVariablesTest, TellsWhatItCannotTake)

@@ -136,7 +136,8 @@ bool VariableImport::set(const Record &record, DesignerObject &copy, qsizetype c
     }
     const bool wasSet = copy.changePropertyValue(property, text);
     // A text that cannot be read changes nothing; one in another spelling of the same value does not, either.
-    const bool isRead = property->valueString() != before || text.compare(before, Qt::CaseInsensitive) == 0;
+    const bool isRead =
+        property->valueString() != before || (property->canRead(text) && property->equalsValue(text));
     if (!wasSet || !isRead) {
         return fail(record, u"%1.%2: \"%3\" is no value for it."_s.arg(record.name, id, text));
     }
