@@ -149,6 +149,13 @@ TEST_F(ProjectTest, WhatNoPlugInKnowsIsWrittenBack)
     EXPECT_EQ(project->variables()->listItemCount(), 0);
     ASSERT_TRUE(project->saveFile());
     EXPECT_EQ(read(file), bytes) << "a list is no empty list while it keeps something";
+
+    const auto other = makeProject(u"Other"_s);
+    ASSERT_TRUE(other->createFile(path()));
+    const QByteArray otherBytes = read(other->fullFilePath());
+    ASSERT_TRUE(project->loadFile(other->fullFilePath()));
+    ASSERT_TRUE(project->saveFile());
+    EXPECT_EQ(read(other->fullFilePath()), otherBytes) << "what one file kept gets into no other";
 }
 
 TEST_F(ProjectTest, AFullDiskLeavesTheOldFileWhole)

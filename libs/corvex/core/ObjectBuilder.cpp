@@ -156,7 +156,19 @@ void ObjectBuilder::openRoot(const char *name)
         }
     }
     m_root->setDisableValidation(true);
+    forgetKeptItems();
     push(Context::Object, m_root);
+}
+
+//! What is kept in a list without items stood beside those of another text: a file leaves empty lists out.
+void ObjectBuilder::forgetKeptItems()
+{
+    for (const SharedProperty &property : m_root->properties()) {
+        const ItemList *list = property->itemList();
+        if (list && list->count() == 0 && list->hasKeptItems()) {
+            property->items().dropKeptItems();
+        }
+    }
 }
 
 void ObjectBuilder::openInObject(const Frame &frame, const char *name)

@@ -60,6 +60,7 @@ private:
     void skip(const QString &message);
 
     void openRoot(const char *name);
+    void forgetKeptItems();
     void openInObject(const Frame &frame, const char *name);
     void openInProperties(Frame &frame, const char *name, const char **attributes);
     void openInProperty(Frame &frame, const char *name);
