@@ -31,6 +31,11 @@ public:
     //! Whether the device keeps the value when it is switched off.
     const SharedProperty &persistent() const { return m_persistent; }
 
+protected:
+    //! Makes the property "value"; null stops the initialisation.
+    virtual SharedProperty initializeValueProperty();
+
+public:
     virtual VariableType variableType() const;
     //! The value as the device gets it; invalid when its text does not stand for one.
     virtual QVariant toVariant() const;
@@ -40,8 +45,6 @@ protected:
 
     ObjectView *createGraphicsItem() override;
     bool initializeProperties() override;
-    //! Makes the property "value"; null stops the initialisation.
-    virtual SharedProperty initializeValueProperty();
     //! Refuses to change "persistent" of a kind that decides about it by itself.
     bool beforePropertyChanged(const DesignerProperty *property, const QString &newValue) override;
 
