@@ -14,6 +14,30 @@ namespace Halvane::Corvex::Designer {
 
 using Common::EnumHelper;
 
+namespace {
+
+//! The numbers that the device begins with, by their names at run time: "x" is a part of "position",
+//! "opacity" a fraction. What follows an expression begins with none.
+QHash<QString, QString> firstNumbers(const DesignerObject &element)
+{
+    QHash<QString, QString> numbers;
+    for (const SharedProperty &property : element.properties()) {
+        const QString qml = property->isList() ? QString() : property->toQml(0);
+        for (const QStringView line : QStringView(qml).split(u'\n')) {
+            const qsizetype colon = line.indexOf(u": "_s);
+            const QStringView value = colon < 0 ? QStringView() : line.sliced(colon + 2);
+            bool isNumber = false;
+            std::ignore = value.toDouble(&isNumber);
+            if (isNumber) {
+                numbers.insert(line.first(colon).toString(), value.toString());
+            }
+        }
+    }
+    return numbers;
+}
+
+} // namespace
+
 Element::Element(QObject *parent)
     : DesignerObject(parent)
 { }
@@ -92,12 +116,15 @@ RuntimePropertyList Element::runtimeProperties() const
 RuntimeAutoSettingList Element::runtimeAutoSettingProperties() const
 {
     QList<RuntimeAutoSettingProperty> settings;
+    const QHash<QString, QString> numbers = firstNumbers(*this);
     for (const RuntimeProperty &runtime : runtimeProperties()) {
         if (runtime.accessMode() == EnumHelper::ReadWrite) {
-            const SharedProperty property = getProperty(runtime.property());
+            const SharedProperty property =
+                runtime.isNumber() ? SharedProperty() : getProperty(runtime.property());
             settings.append(RuntimeAutoSettingProperty(
                 runtime.property(), runtime.displayName(), runtime.type(), runtime.accessMode(),
-                runtime.description(), property ? property->valueString() : QString()));
+                runtime.description(),
+                property ? property->valueString() : numbers.value(runtime.property())));
         }
     }
     RuntimeAutoSettingList list;

@@ -23,7 +23,7 @@ public:
 
     //! What expressions and actions can use of the element at run time.
     virtual RuntimePropertyList runtimeProperties() const;
-    /*! Those of them that can be written, with the values that they have in the design: what an auto-setting
+    /*! Those of them that can be written, with the values that the device begins with: what an auto-setting
         variable can save and restore. */
     virtual RuntimeAutoSettingList runtimeAutoSettingProperties() const;
 
