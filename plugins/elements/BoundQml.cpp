@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "elements/BoundQml.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/QmlText.h"
 #include "corvex/values/GeneralDataList.h"
@@ -11,6 +12,8 @@ using namespace Halvane::Corvex::Designer;
 namespace Halvane::Corvex::Elements {
 
 namespace {
+
+constexpr auto suffix = "Binding"_L1;
 
 //! How the expression for each bound name is translated.
 constexpr struct
@@ -30,7 +33,7 @@ constexpr struct
 //! The expression bound to a name of \a owner as JavaScript; empty when there is none.
 QString bindingOf(const DesignerObject *owner, const QString &name)
 {
-    const SharedProperty property = owner->getProperty(QString(name + u"Binding"_s));
+    const SharedProperty property = owner->getProperty(QString(name + suffix));
     const auto binding = std::find_if(std::begin(bindings), std::end(bindings), [&name](const auto &entry) {
         return name == QLatin1StringView(entry.name);
     });
@@ -43,6 +46,16 @@ QString bindingOf(const DesignerObject *owner, const QString &name)
 }
 
 } // namespace
+
+bool bindingValidator(const DesignerProperty *property, QString &error)
+{
+    const QString name = property->id().chopped(suffix.size());
+    if (property->valueString().isEmpty() || !bindingOf(property->parentObject(), name).isEmpty()) {
+        return true;
+    }
+    error = Common::LocalizationHelper::coreString(u"The expression is incomplete."_s);
+    return false;
+}
 
 QString boundToQml(const DesignerProperty *property, int indent)
 {

@@ -14,6 +14,9 @@ class DesignerProperty;
 */
 namespace Halvane::Corvex::Elements {
 
+//! An expression beside a plain value: empty, or one that can be written in the value's place.
+bool bindingValidator(const Designer::DesignerProperty *property, QString &error);
+
 //! The QML creator of "text", "color", "rotation" and "visible".
 QString boundToQml(const Designer::DesignerProperty *property, int indent);
 

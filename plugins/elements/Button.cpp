@@ -3,6 +3,7 @@
 
 #include "elements/Rows.h"
 #include "elements/Statements.h"
+#include "elements/Validators.h"
 
 using namespace Halvane::Corvex::Designer;
 
@@ -17,6 +18,7 @@ bool Button::initializeProperties()
         expressionRow("pressed", "When Pressed", "PropertyChangesEditor")
             .rank(4)
             .flags(ordinary)
+            .validator(&assignmentsValidator)
             .qml(&assignmentsToQml),
     };
     return FunctionElement::initializeProperties() && addProperties(table);

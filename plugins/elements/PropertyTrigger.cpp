@@ -30,10 +30,15 @@ QString actionsToQml(const DesignerProperty *property, int indent)
 bool PropertyTrigger::initializeProperties()
 {
     static const PropertyTable table{
-        expressionRow("dataValues", "Data Values", "PropertyEditor").rank(1).flags(ordinary).qml(&termsToQml),
+        expressionRow("dataValues", "Data Values", "PropertyEditor")
+            .rank(1)
+            .flags(ordinary)
+            .validator(&termsValidator)
+            .qml(&termsToQml),
         expressionRow("condition", "Condition", "VerticalBooleanExpressionEditor")
             .rank(2)
             .flags(ordinary)
+            .validator(&codeValidator)
             .qml(&conditionToQml),
         row<StringProperty>("actionScheduler", "Actions", QString())
             .rank(3)

@@ -19,7 +19,7 @@ bool Rectangle::initializeProperties()
     static const PropertyTable table{
         row<SizeProperty>("size", "Size", QSizeF(100, 60)).rank(2).allowInvalid(),
         row<ColorProperty>("color", "Color", QColor(Qt::white)).rank(3).qml(&boundToQml),
-        expressionRow("colorBinding", "Color (Expression)", "PropertyEditor").rank(4),
+        bindingRow("colorBinding", "Color (Expression)", "PropertyEditor").rank(4),
         row<BorderProperty>("border", "Border", BorderInfo(1, Qt::black)).rank(5).allowInvalid(),
         row<IntegerProperty>("radius", "Corner Radius", 0)
             .rank(6)

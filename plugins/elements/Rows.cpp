@@ -7,7 +7,9 @@
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/core/properties/UpdateObjectListProperty.h"
 
+#include "elements/BoundQml.h"
 #include "elements/Statements.h"
+#include "elements/Validators.h"
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
@@ -33,6 +35,11 @@ PropertyRow expressionRow(const char *id, const char *title, const char *editor)
         .flags(notAtRuntime)
         .editor(editor)
         .allowInvalid();
+}
+
+PropertyRow bindingRow(const char *id, const char *title, const char *editor)
+{
+    return expressionRow(id, title, editor).validator(&bindingValidator);
 }
 
 PropertyRow elementLinkRow(const char *id, const char *title, const char *className)
@@ -70,7 +77,7 @@ PropertyRow channelRow()
 
 PropertyRow initialValueRow(const char *editor)
 {
-    return expressionRow("initValue", "Initial Value", editor).flags(ordinary);
+    return expressionRow("initValue", "Initial Value", editor).flags(ordinary).validator(&codeValidator);
 }
 
 } // namespace Halvane::Corvex::Elements

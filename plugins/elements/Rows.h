@@ -14,6 +14,8 @@ inline constexpr int notAtRuntime = ordinary & ~Designer::RuntimeFlag;
 
 //! An expression, empty at first.
 Designer::PropertyRow expressionRow(const char *id, const char *title, const char *editor);
+//! An expression that is written in the place of the value that it is named after, "textBinding".
+Designer::PropertyRow bindingRow(const char *id, const char *title, const char *editor);
 //! A link to an element of the same screen.
 Designer::PropertyRow elementLinkRow(const char *id, const char *title, const char *className);
 //! A link to an object of the project.

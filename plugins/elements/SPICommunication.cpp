@@ -3,6 +3,7 @@
 
 #include "elements/Rows.h"
 #include "elements/Statements.h"
+#include "elements/Validators.h"
 
 using namespace Halvane::Corvex::Designer;
 
@@ -14,6 +15,7 @@ bool SPICommunication::initializeProperties()
         expressionRow("dataValues", "Data Values", "VerticalMathExpressionEditor")
             .rank(1)
             .flags(ordinary)
+            .validator(&termsValidator)
             .qml(&termsToQml),
     };
     return FunctionElement::initializeProperties() && addProperties(table);

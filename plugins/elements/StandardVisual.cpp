@@ -17,10 +17,10 @@ bool StandardVisual::initializeProperties()
         PropertyRow::anew(getProperty(u"position")).qml(&boundPositionToQml),
         PropertyRow::anew(getProperty(u"rotation")).qml(&boundToQml),
         PropertyRow::anew(getProperty(u"visible")).qml(&boundToQml),
-        expressionRow("xBinding", "Position X (Expression)", "VerticalMathExpressionEditor").rank(60),
-        expressionRow("yBinding", "Position Y (Expression)", "VerticalMathExpressionEditor").rank(61),
-        expressionRow("rotationBinding", "Rotation (Expression)", "VerticalMathExpressionEditor").rank(62),
-        expressionRow("visibleBinding", "Visible (Expression)", "VerticalBooleanExpressionEditor").rank(63),
+        bindingRow("xBinding", "Position X (Expression)", "VerticalMathExpressionEditor").rank(60),
+        bindingRow("yBinding", "Position Y (Expression)", "VerticalMathExpressionEditor").rank(61),
+        bindingRow("rotationBinding", "Rotation (Expression)", "VerticalMathExpressionEditor").rank(62),
+        bindingRow("visibleBinding", "Visible (Expression)", "VerticalBooleanExpressionEditor").rank(63),
     };
     return addProperties(table);
 }

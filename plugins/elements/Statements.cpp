@@ -76,7 +76,7 @@ QStringList assignments(const DesignerObject *owner, const QString &name,
     QStringList statements;
     for (const auto &[id, value] : values.asKeyValueRange()) {
         const SharedProperty property = model->getProperty(id);
-        if (!property || !model->changePropertyValue(property, value)) {
+        if (!property || !property->canRead(value) || !model->changePropertyValue(property, value)) {
             continue;
         }
         const QString qml = property->toQml(0);

@@ -18,8 +18,8 @@ namespace Halvane::Corvex::Elements {
 QStringList assignments(const Designer::GeneralDataList &expression);
 
 /*! Statements that give the element \a name, looked up on the screen of \a owner, the values of a map from
-   property id to value text. A property that the element does not have, and a value that QML writes as a
-   block of its own, give no statement. */
+   property id to value text. A property that the element does not have, a text that is no value of it, and a
+   value that QML writes as a block of its own give no statement. */
 QStringList assignments(const Designer::DesignerObject *owner, const QString &name,
                         const QMap<QString, QString> &values);
 

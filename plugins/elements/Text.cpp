@@ -37,10 +37,10 @@ bool Text::initializeProperties()
             .editor("PlainTextEditor")
             .qml(&boundToQml)
             .allowInvalid(),
-        expressionRow("textBinding", "Text (Expression)", "VerticalStringExpressionEditor").rank(3),
+        bindingRow("textBinding", "Text (Expression)", "VerticalStringExpressionEditor").rank(3),
         row<FontProperty>("font", "Font", QFont(u"DejaVu Sans"_s, 12)).rank(4),
         row<ColorProperty>("color", "Color", QColor(Qt::black)).rank(5).qml(&boundToQml),
-        expressionRow("colorBinding", "Color (Expression)", "PropertyEditor").rank(6),
+        bindingRow("colorBinding", "Color (Expression)", "PropertyEditor").rank(6),
         row<SizeProperty>("size", "Size", QSizeF(120, 24)).rank(7).allowInvalid(),
         row<EnumProperty>("horizontalAlignment", "Horizontal Alignment",
                           EnumInfo(QMetaEnum::fromType<HorizontalAlignment>(), AlignLeft))

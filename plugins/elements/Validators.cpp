@@ -30,6 +30,14 @@ bool isTranslatable(const QString &text, GeneralDataList::InfoType kind)
            && (expression.isEmpty() || !expression.toQmlString(GeneralDataInfo::RawOutput, kind).isEmpty());
 }
 
+bool accept(bool isComplete, QString &error)
+{
+    if (!isComplete) {
+        error = translated("The expression is incomplete.");
+    }
+    return isComplete;
+}
+
 } // namespace
 
 bool linkTargetValidator(const DesignerProperty *property, QString &error)
@@ -61,6 +69,25 @@ bool logicValidator(const DesignerProperty *property, QString &error)
         ++number;
     }
     return true;
+}
+
+bool codeValidator(const DesignerProperty *property, QString &error)
+{
+    return accept(property->valueString().isEmpty() || !property->toQml(0).isEmpty(), error);
+}
+
+bool assignmentsValidator(const DesignerProperty *property, QString &error)
+{
+    return accept(isTranslatable(property->valueString(), GeneralDataList::AssignExpression), error);
+}
+
+bool termsValidator(const DesignerProperty *property, QString &error)
+{
+    const GeneralDataList terms(property->valueString());
+    const bool isComplete = std::all_of(terms.begin(), terms.end(), [](const GeneralDataInfo &term) {
+        return !term.toQmlString(GeneralDataInfo::RawOutput).isEmpty();
+    });
+    return accept(isComplete, error);
 }
 
 bool actionsValidator(const DesignerProperty *property, QString &error)

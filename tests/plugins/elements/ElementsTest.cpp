@@ -3,6 +3,7 @@
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/preview/PreviewSession.h"
+#include "corvex/project/Element.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
@@ -207,6 +208,7 @@ TEST_F(Elements, StatesAndActionsBecomeAssignmentsToWhatIsThere)
     update.setPropValueMap({{u"color"_s, u"#FF00FF00"_s},
                             {u"position"_s, u"x: 1; y: 2;"_s},
                             {u"border"_s, u"color: #FF0000FF; width: 3;"_s},
+                            {u"radius"_s, u"round"_s},
                             {u"nothing"_s, u"1"_s}});
     UpdateObjectInfo gone;
     gone.setName(u"gone"_s);
@@ -254,6 +256,54 @@ TEST_F(Elements, LogicKeepsItsRulesApart)
     set(logic, "logicExpression", u"x|"_s);
     EXPECT_EQ(logic->getProperty(u"logicExpression")->errorString(),
               u"The condition of rule 1 is incomplete."_s);
+}
+
+TEST_F(Elements, AutoSettingsBeginWithWhatTheDeviceHas)
+{
+    DesignerObject *box = add("Rectangle", u"box"_s);
+    set(box, "position", u"x: 10; y: 20.5;"_s);
+    set(box, "opacity", u"50"_s);
+    set(box, "rotationBinding", u"0406speed"_s);
+    const RuntimeAutoSettingList settings = static_cast<Element *>(box)->runtimeAutoSettingProperties();
+    const QMap<QString, QString> expected{
+        {u"x"_s, u"10"_s},         {u"y"_s, u"20.5"_s},    {u"opacity"_s, u"0.5"_s},
+        {u"scale"_s, u"1"_s},      {u"width"_s, u"100"_s}, {u"color"_s, u"#FFFFFFFF"_s},
+        {u"visible"_s, u"true"_s}, {u"rotation"_s, u""_s},
+    };
+    for (const auto &[name, value] : expected.asKeyValueRange()) {
+        EXPECT_EQ(settings.property(name).defaultValue(), value) << qPrintable(name);
+    }
+}
+
+TEST_F(Elements, AnExpressionThatGivesNoCodeIsTold)
+{
+    const struct
+    {
+        const char *className;
+        const char *property;
+        QString good;
+        QString bad;
+    } rows[] = {
+        {"Text", "textBinding", u"0407name"_s, u"0407"_s},
+        {"Text", "colorBinding", u"0408paint"_s, u"0408"_s},
+        {"Rectangle", "xBinding", u"<0406speed><0101*><02042>"_s, u"<0406><0101*><02042>"_s},
+        {"Rectangle", "visibleBinding", u"<0406speed><0101>><02042>"_s, u"<0406><0101>><02042>"_s},
+        {"DigitalInputOutput", "initValue", u"0403on"_s, u"0403"_s},
+        {"PwmOutput", "initValue", u"0406speed"_s, u"0406"_s},
+        {"PropertyTrigger", "condition", u"0403on"_s, u"0502sqrt"_s},
+        {"PropertyTrigger", "dataValues", u"<0403on><0406speed>"_s, u"<0403on><0406>"_s},
+        {"SPICommunication", "dataValues", u"02047"_s, u"0406"_s},
+        {"Button", "pressed", u"<0406speed><02047><0403on><02031>"_s, u"<0406speed><02047><0403on>"_s},
+    };
+    for (const auto &[className, property, good, bad] : rows) {
+        DesignerObject *element = add(className, QLatin1StringView(className) + QLatin1StringView(property));
+        const SharedProperty expression = element->getProperty(QString::fromLatin1(property));
+        EXPECT_TRUE(expression->isValid()) << className << ' ' << property;
+        set(element, property, good);
+        EXPECT_TRUE(expression->isValid()) << className << ' ' << property;
+        set(element, property, bad);
+        EXPECT_EQ(expression->errorString(), u"The expression is incomplete."_s) << className << property;
+    }
 }
 
 TEST_F(Elements, PicturesKnowTheImagesThatShowThem)
