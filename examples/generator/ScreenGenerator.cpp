@@ -358,7 +358,6 @@ void ScreenGenerator::fillBACnetService(DesignerObject *element)
 {
     const QStringList objects{m_expressions.oneOf('n'), m_expressions.oneOf('n')};
     set(element, "bacNetObjectList", ListInfo(objects).toString());
-    set(element, "bacNetDevices", u"controller1"_s);
 }
 
 void ScreenGenerator::fillSpi(DesignerObject *element)
