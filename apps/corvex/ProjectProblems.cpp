@@ -5,10 +5,13 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/Project.h"
+#include "corvex/variables/LogVariable.h"
+#include "corvex/variables/NumberVariable.h"
 
 #include "CodeCheck.h"
 #include "JsonWriter.h"
 #include "ProjectFile.h"
+#include "ReferenceCheck.h"
 #include "Terminal.h"
 
 using namespace Qt::StringLiterals;
@@ -43,6 +46,22 @@ void findInvalid(const DesignerObject &object, QList<Problem> &problems)
     }
 }
 
+//! Variables whose text is kept as it was typed and is no number: the device would get no value for them.
+void findNoNumbers(const Project &project, QList<Problem> &problems)
+{
+    for (const DesignerObject *variable : project.variables()->listItems()) {
+        if (!variable->isKindOfClass(NumberVariable::kindName())
+            && !variable->isKindOfClass(LogVariable::kindName())) {
+            continue;
+        }
+        const SharedProperty value = static_cast<const ProjectVariable *>(variable)->value();
+        if (value->isValid() && !NumberVariable::typedValue(value->valueString()).isValid()) {
+            problems.append({variable->objectPath(), value->id(),
+                             u"\"%1\" is no number that the device can hold."_s.arg(value->valueString())});
+        }
+    }
+}
+
 //! What the project tells of itself.
 QList<Problem> findStated(const ProjectFile &file, const ConfigurationContainer &models)
 {
@@ -55,7 +74,8 @@ QList<Problem> findStated(const ProjectFile &file, const ConfigurationContainer 
         problems.append({project.objectPath(), project.configuration()->id(), error});
     }
     findInvalid(project, problems);
-    return problems;
+    findNoNumbers(project, problems);
+    return problems + ReferenceCheck::find(project);
 }
 
 } // namespace

@@ -31,8 +31,8 @@ struct Problem
 class ProjectProblems
 {
 public:
-    //! What was not taken over from the file, a model that is not among \a models, what is invalid, and
-    //! generated code that is none, in this order.
+    //! What was not taken over from the file, a model that is not among \a models, what is invalid, numbers
+    //! that are none, names that lead nowhere, and generated code that is none, in this order.
     static QList<Problem> find(const ProjectFile &file, const Designer::ConfigurationContainer &models);
     //! The same with a check that was given the code of all screens.
     static QList<Problem> find(const ProjectFile &file, const Designer::ConfigurationContainer &models,

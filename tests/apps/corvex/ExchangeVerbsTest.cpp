@@ -39,7 +39,7 @@ protected:
 
 TEST_F(ExchangeVerbs, configDumpShowsWhatABuildHolds)
 {
-    ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
+    ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s, u"--force"_s}).code, 0);
     const ProgramRun text = sandbox.run({u"config-dump"_s, config});
     EXPECT_EQ(text.code, 0);
     EXPECT_THAT(text.out.toStdString(),
@@ -67,7 +67,7 @@ TEST_F(ExchangeVerbs, configDumpShowsWhatABuildHolds)
 
 TEST_F(ExchangeVerbs, configDumpTellsWhatItCannotRead)
 {
-    ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
+    ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s, u"--force"_s}).code, 0);
     const QByteArray bytes = sandbox.read(config);
     sandbox.write(u"cut.kdrc"_s, bytes.chopped(1));
     sandbox.write(u"longer.kdrc"_s, bytes + '\0');

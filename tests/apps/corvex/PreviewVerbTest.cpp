@@ -84,7 +84,8 @@ TEST_F(PreviewVerb, looksAtTheScreensForCheck)
     EXPECT_EQ(sandbox.run({u"check"_s, pump, u"--screens"_s}).code, 0);
     sandbox.write(pump, sandbox.read(pump).replace("0406speed", "0406none"));
     const ProgramRun check = sandbox.run({u"check"_s, pump, u"--screens"_s});
-    EXPECT_EQ(check.out, u"Main.title: There is no variable \"none\".\n"_s);
+    EXPECT_EQ(check.out, u"Main.title: textBinding: Cannot find \"none\" in the project.\n"
+                         "Main.title: There is no variable \"none\".\n"_s);
     EXPECT_EQ(check.code, 1);
 
     // What cannot be built is told with the reasons.

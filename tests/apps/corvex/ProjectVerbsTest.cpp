@@ -258,6 +258,64 @@ TEST(CheckVerb, namesEveryProblemInOneLine)
     EXPECT_EQ(info[u"notes"_s].toArray().size(), 2);
 }
 
+TEST(CheckVerb, followsWhatPartsSayOfEachOther)
+{
+    const auto text = [](const char *name, const char *property, const char *value) {
+        return Sandbox::object("Text", name, Sandbox::value(property, value));
+    };
+    const auto link = [](const QByteArray &className, const QByteArray &name, const QByteArray &scope) {
+        return "filterType: " + className + "; objectId: " + name + "; scopeType: " + scope + ';';
+    };
+    const QByteArray toBox = Sandbox::value("visualElement", link("VisualElement", "box1", "Screen"));
+    const QByteArray numbers = Sandbox::object("NumberVariable", "speed", {}, "Project");
+    const Sandbox good;
+    good.makeProject(
+        goodElements() + text("own", "xBinding", "0304box1.x")
+            + text("inGroup", "xBinding", "0304group1.box2.x")
+            + text("onScreen", "xBinding", "0304Main.box1.x")
+            + text("screen", "visibleBinding", "<0304Main.width><0101>><02041>")
+            + Sandbox::object("CheckButton", "free", toBox)
+            + Sandbox::object("ModbusCommands", "commands", Sandbox::value("commands", "readSpeed|0103")),
+        numbers
+            + Sandbox::object("MappingVariable", "map",
+                              Sandbox::value("inputRegMap", "<02047531><0406speed><02047532><0304box2.x>"),
+                              "Project"));
+    EXPECT_EQ(good.run({u"check"_s, pump}).out, QString());
+
+    const Sandbox bad;
+    bad.makeProject(
+        goodElements() + text("value", "textBinding", "<0502concat><0407gone><0101,><0407gone><0101)>")
+            + text("element", "xBinding", "0304box1.away.x") + text("screen", "xBinding", "0304Main.away.x")
+            + Sandbox::object("Button", "button",
+                              toBox
+                                  + Sandbox::value("pressedState",
+                                                   "name: away; | name: box1; propertyValues: propName%3A "
+                                                   "size%3B propValue%3A small%3B; | name: box1; "
+                                                   "propertyValues: propName%3A hue%3B propValue%3A red%3B;"))
+            + Sandbox::object("CheckButton", "check",
+                              toBox + Sandbox::value("variable", link("BooleanVariable", "speed", "Project")))
+            + Sandbox::object("Action", "action",
+                              Sandbox::value("propertyChanges", "elementName: box1; propertyName: color; "
+                                                                "valueString: cmVkaXNo;")),
+        numbers
+            + Sandbox::object("MappingVariable", "map", Sandbox::value("coilMap", "<02041><0403gone>"),
+                              "Project")
+            + Sandbox::object("NumberVariable", "text", Sandbox::value("value", "12 V"), "Project"));
+    const QStringList expected{
+        u"text: value: \"12 V\" is no number that the device can hold."_s,
+        u"map: coilMap: Cannot find \"gone\" in the project."_s,
+        u"Main.button: pressedState: Cannot find element \"away\" in the screen."_s,
+        u"Main.button: pressedState: \"small\" is no value for the property \"size\" of \"box1\"."_s,
+        u"Main.button: pressedState: \"box1\" has no property \"hue\"."_s,
+        u"Main.check: variable: Cannot find \"speed\" in the project."_s,
+        u"Main.value: textBinding: Cannot find \"gone\" in the project."_s,
+        u"Main.element: xBinding: Cannot find element \"box1.away\" in the screen."_s,
+        u"Main.screen: xBinding: Cannot find element \"Main.away\" in the screen."_s,
+        u"Main.action: propertyChanges: \"redish\" is no value for the property \"color\" of \"box1\"."_s,
+    };
+    EXPECT_EQ(bad.run({u"check"_s, pump}).out, expected.join(u'\n') + u'\n');
+}
+
 TEST(CheckVerb, wantsTheModelToBeInstalled)
 {
     const Sandbox sandbox;
