@@ -78,9 +78,6 @@ TEST_F(BuildGuardTest, letsNothingInButTheFilesOfTheBuild)
         "qml_Main)",
         "Component.onCompleted: Qt.createQmlObject('import QtQuick 2.0; BorderImage { source: \"%1\" }', "
         "qml_Main)",
-        "Component.onCompleted: Qt.createQmlObject('import QtQml.WorkerScript 2.0; WorkerScript { source: "
-        "\"%1\" }', "
-        "qml_Main)",
         "Component.onCompleted: Qt.createQmlObject('import \"%2\" as Far; Far.Beside {}', qml_Main)",
         "Component.onCompleted: Qt.createQmlObject('import QtQuick 2.0; import \"%2/beside.js\" as Far; Item "
         "{}', "
@@ -100,6 +97,15 @@ TEST_F(BuildGuardTest, letsNothingInButTheFilesOfTheBuild)
             EXPECT_FALSE(m_server.hasPendingConnections()) << body.constData();
         }
     }
+}
+
+TEST_F(BuildGuardTest, hasNoWorkers)
+{
+    build.write(u"worker.js"_s, "Qt.include('" + fileUrl(outside.path(u"beside.js"_s)) + "')");
+    EXPECT_THAT(problemsOf("Component.onCompleted: Qt.createQmlObject('import QtQml 2.15; import "
+                           "QtQml.WorkerScript 2.0; WorkerScript { source: \"worker.js\" }', qml_Main)"),
+                ElementsAre(ResultOf([](const QString &problem) { return problem.toStdString(); },
+                                     HasSubstr("WorkerScript is not a type"))));
 }
 
 TEST_F(BuildGuardTest, readsWhatIsInTheBuild)

@@ -14,7 +14,9 @@ namespace Halvane::Corvex::Preview {
 namespace {
 
 //! Those that screens import, and what these need.
-constexpr const char *modules[] = {"QtQml", "QtQml/Models", "QtQml/WorkerScript", "QtQuick"};
+constexpr const char *modules[] = {"QtQml", "QtQml/Models", "QtQuick"};
+//! In whose place StandIns has one without types.
+const QString workers = u"QtQml/WorkerScript/qmldir"_s;
 
 //! Of addresses that intercept() leaves as they are, though no other program is to get them.
 const QStringList ourSchemes{u"data"_s, u"file"_s, u"qrc"_s};
@@ -113,9 +115,9 @@ QUrl BuildGuard::moduleFile(const QUrl &url)
     if (isOurs(url) || m_modules.contains(url.toLocalFile())) {
         return url;
     }
-    if (url.isLocalFile() && QFileInfo::exists(url.toLocalFile())) {
-        emit refused(
-            u"\"%1\" is not read: the preview has the modules of the device alone."_s.arg(url.toLocalFile()));
+    const QString path = url.toLocalFile();
+    if (!path.endsWith(workers) && QFileInfo::exists(path)) {
+        emit refused(u"\"%1\" is not read: the preview has the modules of the device alone."_s.arg(path));
     }
     return QUrl(u"qrc:/corvex/preview/qmldir"_s);
 }
