@@ -119,6 +119,22 @@ TEST_F(RuntimeGeneratorTest, TwoBuildsAreTheSameBytesInTwoFolders)
     QDir(first).removeRecursively();
 }
 
+TEST_F(RuntimeGeneratorTest, ALinkStaysInTheProject)
+{
+    const QString images = resources.filePath(u"Images"_s);
+    ASSERT_TRUE(QDir().mkpath(images));
+    generator.setResourceFolder(images);
+    write(u"shared.png"_s, "png");
+    ASSERT_TRUE(QFile::link(u"../shared.png"_s, images + u"/pump.png"_s));
+    ASSERT_TRUE(generator.generate(project.get())) << qPrintable(generator.errorString());
+    EXPECT_EQ(read(u"pump.png"_s), "png");
+    generator.removeBuildFolder();
+    ASSERT_TRUE(QFile::link(QCoreApplication::applicationFilePath(), images + u"/secret.png"_s));
+    EXPECT_FALSE(generator.generate(project.get()));
+    EXPECT_TRUE(generator.errorString().contains(u"secret.png\" leads to"_s))
+        << qPrintable(generator.errorString());
+}
+
 TEST_F(RuntimeGeneratorTest, AFailedBuildLeavesNothingBehind)
 {
     const auto fails = [this] {

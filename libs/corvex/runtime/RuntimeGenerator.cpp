@@ -11,6 +11,7 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QUuid>
 
 #include <future>
@@ -178,9 +179,19 @@ bool RuntimeGenerator::copyResources()
         return true;
     }
     const QDir resources(m_resourceFolder);
+    const QString projectFolder =
+        QFileInfo(QFileInfo(resources.absolutePath()).path()).canonicalFilePath() + u'/';
     for (const QString &name : resources.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
+        const QString path = resources.absoluteFilePath(name);
+        // A build is handed on, and a project from elsewhere may have a link to any file of this machine.
+        if (!QFileInfo(path).canonicalFilePath().startsWith(projectFolder)) {
+            return fail(
+                LocalizationHelper::coreString(
+                    u"\"%1\" leads to a file outside of the project. Put the file itself in its place."_s)
+                    .arg(path));
+        }
         QString error;
-        if (!Common::FileHelper::copyFile(resources.absoluteFilePath(name), filePath(name), &error)) {
+        if (!Common::FileHelper::copyFile(path, filePath(name), &error)) {
             return fail(error);
         }
     }
