@@ -207,6 +207,10 @@ UndoCommand *ModelTest::groupCommand()
     if (Element *group = anyElement(u"GroupElement"_s); group && random.chance(60)) {
         const SharedProperty elements = group->getProperty(u"elements");
         DesignerObject *member = itemOf(elements);
+        if (random.chance(10)) {
+            return new ChangeProperty(group->getProperty(u"rotation"), QString::number(random.below(360)),
+                                      true);
+        }
         switch (random.below(member ? 4 : 1)) {
         case 0:
             return new UngroupCommand(group);
