@@ -108,6 +108,7 @@ TEST(PreviewSession, tellsWhichElementGoesWrong)
     TestBuild build;
     build.addVariable(u"number"_s, EnumHelper::IntegerVariable, 3);
     build.addVariable(u"broken"_s, EnumHelper::IntegerVariable, QVariant());
+    build.addVariable(u"isStuck"_s, EnumHelper::BooleanVariable, false);
     build.writeConfiguration(u"qml_Gone"_s);
     build.write(u"qml_Spoilt.qml"_s,
                 "Screen {\n  objectName: \"Spoilt\"\n Text {\n objectName: \"label\"\n width: }\n}\n");
@@ -117,6 +118,8 @@ TEST(PreviewSession, tellsWhichElementGoesWrong)
                            conditions: [qmlViewer.getVariableValue("number") > 5]
                            onEvaluate: if (conditions[0]) qmlViewer.setVariableValue("number",
                                            qmlViewer.getVariableValue("number") + 1, 2) },
+            LogicBuilder { objectName: "stuck"; conditions: [qmlViewer.getVariableValue("isStuck")]
+                           onEvaluate: { while (conditions[0]) {} } },
             DataLogging { id: noLog; objectName: "noLog"; variable: "number" },
             Button { objectName: "hang"; visualElement: box; onPressed: { while (true) {} } },
             Button { objectName: "wrong"; visualElement: other
@@ -143,8 +146,9 @@ TEST(PreviewSession, tellsWhichElementGoesWrong)
     ASSERT_TRUE(panel.isOpen) << qPrintable(panel.error);
     EXPECT_THAT(
         panel.run("expect screen Main; expect gauge.level 3; press hang; press wrong; expect number 3; "
-                  "press third; set number 6; press fourth; expect screen Main; show Spoilt"),
-        ElementsAre(startingWith("10: The screen \"Spoilt\" cannot be shown.")));
+                  "press third; set number 6; press fourth; expect screen Main; "
+                  "set isStuck true; show Spoilt"),
+        ElementsAre(startingWith("11: The screen \"Spoilt\" cannot be shown.")));
     static constexpr const char *expected[] = {
         "config.kdrc: The default screen \"qml_Gone\" is missing.",
         "broken: The variable is to hold a number",
@@ -154,6 +158,7 @@ TEST(PreviewSession, tellsWhichElementGoesWrong)
         "Main.loop: ",
         "Main.picture: ",
         "Main.hang: A script took longer than 300 ms and was stopped.",
+        "Main.stuck: A script took longer than 300 ms and was stopped.",
         "Main.wrong: \"many\" is no value for the variable \"number\".",
         "Main.wrong: \"left\" is no value for the property \"x\".",
         "Main.loader: There is no screen \"qml_Nowhere\".",

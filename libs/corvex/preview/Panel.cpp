@@ -67,9 +67,13 @@ ScriptScope::ScriptScope(Panel &panel, const QString &element)
 
 ScriptScope::~ScriptScope()
 {
+    if (m_panel.m_stopped.isEmpty() && m_panel.engine().isInterrupted()) {
+        m_panel.m_stopped = m_element;
+    }
     if (m_panel.watchdog().leave()) {
         m_panel.problems().report(
-            m_element, u"A script took longer than %1 ms and was stopped."_s.arg(m_panel.watchdog().limit()));
+            std::exchange(m_panel.m_stopped, QString()),
+            u"A script took longer than %1 ms and was stopped."_s.arg(m_panel.watchdog().limit()));
     }
 }
 

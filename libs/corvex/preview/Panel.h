@@ -42,6 +42,8 @@ signals:
     void screenWanted(const QString &screen, const QString &element);
 
 private:
+    friend class ScriptScope;
+
     VariableStore m_variables;
     ChannelStore m_channels;
     Clock m_clock;
@@ -50,9 +52,11 @@ private:
     BuildGuard m_guard;
     QQmlEngine m_engine;
     Watchdog m_watchdog;
+    QString m_stopped; //!< the element whose script the watchdog has stopped, until that is told
 };
 
-//! A stretch in which scripts of an element may run. Tells when they had to be stopped.
+//! A stretch in which scripts of an element may run. Tells when they had to be stopped; of stretches within
+//! each other the innermost that was.
 class ScriptScope
 {
 public:
