@@ -7,6 +7,8 @@
 #include <QNetworkAccessManager>
 #include <QQmlEngine>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Preview {
@@ -14,7 +16,7 @@ namespace Halvane::Corvex::Preview {
 namespace {
 
 //! Those that screens import, and what these need.
-constexpr const char *modules[] = {"QtQml", "QtQml/Models", "QtQuick"};
+constexpr auto modules = std::to_array<const char *>({"QtQml", "QtQml/Models", "QtQuick"});
 //! In whose place StandIns has one without types.
 const QString workers = u"QtQml/WorkerScript/qmldir"_s;
 

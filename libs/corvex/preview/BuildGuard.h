@@ -38,10 +38,9 @@ signals:
     //! What is not let through, in a text for the user.
     void refused(const QString &message);
 
-private slots:
-    void refuseToShow(const QUrl &url);
-
 private:
+    //! In place of the desktop's programs.
+    Q_INVOKABLE void refuseToShow(const QUrl &url);
     QUrl moduleFile(const QUrl &url);
     bool isAllowed(const QString &path) const;
 
