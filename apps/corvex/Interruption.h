@@ -8,7 +8,7 @@ namespace Halvane::Corvex::Tool {
 
 /*! While it lives, the wish that the program shall end (Ctrl+C, or a signal from elsewhere) is noted and not
     followed, so that what has begun in the folder of a project can be ended or taken back. Reading that waits
-    for input gives up then. */
+    for input gives up then, and the standard input ends. */
 class Interruption
 {
 public:
