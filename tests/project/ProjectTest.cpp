@@ -355,11 +355,15 @@ TEST_F(ProjectTest, ScreensAndTheDefaultScreenAreChecked)
 TEST_F(ProjectTest, UniqueNamesLookEverywhere)
 {
     const auto project = makeProject();
-    add(*project, project->screens(), u"Screen"_s, u"x1"_s);
-    add(*project, project->variables(), u"NumberVariable"_s, u"x2"_s);
+    DesignerObject *first = add(*project, project->screens(), u"Screen"_s, u"x1"_s);
+    DesignerObject *second = add(*project, project->variables(), u"NumberVariable"_s, u"x2"_s);
     add(*project, project->variables(), u"NumberVariable"_s, u"x4"_s);
     EXPECT_EQ(project->generateUniqueName(u"x"_s), u"x3"_s);
     EXPECT_EQ(project->generateUniqueName(u"%1"_s), u"%11"_s);
+    const std::unique_ptr<DesignerObject> taken(project->takeListPropertyItem(project->variables(), second));
+    EXPECT_EQ(project->generateUniqueName(u"x"_s), u"x2"_s);
+    first->setIdName(u"y"_s);
+    EXPECT_EQ(project->generateUniqueName(u"x"_s), u"x1"_s);
 
     write(path(u"Pumps/a"_s), "");
     write(path(u"Pumps1/a"_s), "");

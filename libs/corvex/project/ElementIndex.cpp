@@ -32,11 +32,11 @@ void ElementIndex::rename(Element *element, const QString &oldName)
 void ElementIndex::nameFreed(const QString &name)
 {
     for (qsizetype digits = 1; digits < name.size() && name.at(name.size() - digits).isDigit(); ++digits) {
-        const auto known = m_firstFree.find(name.chopped(digits));
+        const auto known = m_numbers.find(name.chopped(digits));
         bool isNumber = false;
         const int number = QStringView(name).last(digits).toInt(&isNumber);
-        if (known != m_firstFree.end() && isNumber && number < *known) {
-            *known = number;
+        if (known != m_numbers.end() && isNumber && number < known->next) {
+            known->gaps.insert(number);
         }
     }
 }
@@ -48,15 +48,26 @@ void ElementIndex::clear()
 
 QString ElementIndex::freeName(const QString &base, const std::function<bool(const QString &name)> &isTaken)
 {
-    int &firstFree = m_firstFree[base];
-    firstFree = std::max(firstFree, 1);
-    for (int number = firstFree;; ++number) {
-        const QString name = base + QString::number(number);
+    auto &[next, gaps] = m_numbers[base];
+    for (auto gap = gaps.begin(); gap != gaps.end();) {
+        const QString name = base + QString::number(*gap);
         if (m_byName.contains(name)) {
-            firstFree += number == firstFree ? 1 : 0;
-        } else if (!isTaken || !isTaken(name)) {
+            gap = gaps.erase(gap);
+        } else if (isTaken && isTaken(name)) {
+            ++gap;
+        } else {
             return name;
         }
+    }
+    for (;; ++next) {
+        const QString name = base + QString::number(next);
+        if (m_byName.contains(name)) {
+            continue;
+        }
+        if (!isTaken || !isTaken(name)) {
+            return name;
+        }
+        gaps.insert(next);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <functional>
+#include <set>
 
 namespace Halvane::Corvex::Designer {
 
@@ -38,7 +39,13 @@ private:
     void nameFreed(const QString &name);
 
     QMultiHash<QString, Element *> m_byName;
-    QHash<QString, int> m_firstFree; //!< by base: no number below this one is free
+    //! What is known of the numbers behind a base.
+    struct Numbers
+    {
+        int next = 1;       //!< below it, a number is an element's or one of the gaps
+        std::set<int> gaps; //!< numbers that were freed, or were taken elsewhere when they were asked for
+    };
+    QHash<QString, Numbers> m_numbers; //!< by base
     mutable QMultiHash<QPair<QString, QString>, const DesignerObject *> m_byChannel;
     mutable bool m_channelsKnown = false;
 };

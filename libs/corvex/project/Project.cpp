@@ -217,6 +217,7 @@ void Project::afterListItemAdded(const DesignerProperty *property, const Designe
 
 void Project::afterListItemRemoved(const DesignerProperty *property, const DesignerObject *)
 {
+    m_firstFree.clear();
     if (property == m_screens.data()) {
         validateDefaultScreen();
     }
@@ -224,6 +225,7 @@ void Project::afterListItemRemoved(const DesignerProperty *property, const Desig
 
 void Project::afterListPropertyChanged()
 {
+    m_firstFree.clear();
     validateDefaultScreen();
 }
 
@@ -352,19 +354,22 @@ void Project::generateRuntimeFiles()
 
 QString Project::generateUniqueName(const QString &stem) const
 {
-    const QList<DesignerObject *> screens = m_screens->listItems();
-    const auto isTaken = [&](const QString &name) {
-        return m_variables->hasListItem(name) || m_screens->hasListItem(name)
-               || std::any_of(screens.begin(), screens.end(), [&name](const DesignerObject *screen) {
-                      return static_cast<const Screen *>(screen)->elementIndex().count(name) > 0;
-                  });
+    const QList<DesignerObject *> &screens = m_screens->itemList()->items();
+    const auto isElement = [&screens](const QString &name) {
+        return std::any_of(screens.begin(), screens.end(), [&name](const DesignerObject *screen) {
+            return static_cast<const Screen *>(screen)->elementIndex().count(name) > 0;
+        });
     };
-    QString name;
-    int number = 1;
-    do {
-        name = u"%1%2"_s.arg(stem, QString::number(number++));
-    } while (isTaken(name));
-    return name;
+    int &firstFree = m_firstFree[stem];
+    firstFree = std::max(firstFree, 1);
+    for (int number = firstFree;; ++number) {
+        const QString name = u"%1%2"_s.arg(stem, QString::number(number));
+        if (m_variables->hasListItem(name) || m_screens->hasListItem(name)) {
+            firstFree += number == firstFree ? 1 : 0;
+        } else if (!isElement(name)) {
+            return name;
+        }
+    }
 }
 
 QString Project::generateUniqueName(const QString &folder, const QString &name)

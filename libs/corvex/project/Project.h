@@ -172,6 +172,8 @@ private:
     SharedProperty m_screens;
     SharedProperty m_defaultScreen;
     QHash<QString, RuntimeAutoSettingList> m_autoSaveVariables;
+    //! By stem: below this number all are those of variables and screens.
+    mutable QHash<QString, int> m_firstFree;
     UndoStack *m_undoStack = nullptr;
     QAction *m_undoAction = nullptr;
     QAction *m_redoAction = nullptr;
