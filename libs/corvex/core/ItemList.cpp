@@ -82,7 +82,7 @@ void ItemList::replaceAt(qsizetype index, DesignerObject *item)
     removeAt(index);
     insert(index, item);
     if (!kept.isEmpty()) {
-        m_kept.insert(item, kept);
+        m_kept[item] += kept;
     }
 }
 
