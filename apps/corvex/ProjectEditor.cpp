@@ -221,7 +221,7 @@ bool ProjectEditor::objects(const Words &paths, QList<DesignerObject *> &found)
 
 SharedProperty ProjectEditor::listFor(const QString &path, const DesignerObject &item)
 {
-    const SharedProperty list = ProjectPath::listFor(&m_project, path, item);
+    SharedProperty list = ProjectPath::listFor(&m_project, path, item);
     if (!list) {
         fail(u"\"%1\" has no list for an object of the class %2."_s.arg(path, item.className()));
     }

@@ -35,7 +35,7 @@ ProjectPlace findBelow(DesignerObject &owner, const QString &path)
     for (qsizetype end = path.indexOf(u'.'); end >= 0 && end < longestName;
          end = path.indexOf(u'.', end + 1)) {
         if (DesignerObject *child = childNamed(owner, path.first(end))) {
-            const ProjectPlace place = findBelow(*child, path.sliced(end + 1));
+            ProjectPlace place = findBelow(*child, path.sliced(end + 1));
             if (place.object) {
                 return place;
             }
@@ -77,7 +77,7 @@ QStringList namesBelow(const DesignerObject &owner)
 
 ProjectPlace ProjectPath::find(DesignerObject *project, const QString &path)
 {
-    const ProjectPlace place = findBelow(*project, path);
+    ProjectPlace place = findBelow(*project, path);
     const QString name = project->getIdName();
     if (place.object || !path.startsWith(name)) {
         return place;

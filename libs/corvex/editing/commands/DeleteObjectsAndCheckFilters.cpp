@@ -89,9 +89,9 @@ QList<DesignerObject *> filtersToDelete(const Screen *screen, const QList<Design
 QList<DesignerObject *> DeleteObjectsAndCheckFilters::addDeletions(const QList<DesignerObject *> &objects,
                                                                    UndoCommand *parent)
 {
-    const QList<DesignerObject *> roots = outermost(objects);
-    for (DesignerObject *object : roots) {
-        const bool isFirst = object == roots.first();
+    QList<DesignerObject *> roots = outermost(objects);
+    for (DesignerObject *object : std::as_const(roots)) {
+        const bool isFirst = object == roots.constFirst();
         auto *deletion = new DeleteObject(object, isFirst ? roots : QList<DesignerObject *>(), true, parent);
         deletion->setText(
             Common::LocalizationHelper::coreString(u"Delete \"%1\""_s).arg(object->getIdName()));

@@ -90,7 +90,7 @@ void FileStep::lookAgain(const QString &name) const
 PlaceFileStep::~PlaceFileStep()
 {
     if (!m_isDone) {
-        cleanJunkFiles();
+        PlaceFileStep::cleanJunkFiles();
     }
 }
 
@@ -187,7 +187,7 @@ ReplaceFileStep::~ReplaceFileStep()
 {
     // Done and not saved, the spare file holds what the project's file still shows.
     if (!m_isDone) {
-        cleanJunkFiles();
+        ReplaceFileStep::cleanJunkFiles();
     }
 }
 
