@@ -38,7 +38,9 @@ ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> 
     }
     PreviewProgram program(call);
     program.process().setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    if (!program.start({generator.buildFolder(), u"--audit"_s}) || !program.process().waitForFinished(-1)) {
+    const QStringList arguments{generator.buildFolder(), u"--audit"_s, u"--temporary"_s,
+                                generator.buildFolder() + u"/classes"_s};
+    if (!program.start(arguments) || !program.process().waitForFinished(-1)) {
         return ExitCode::File;
     }
     const QJsonArray entries = QJsonDocument::fromJson(program.process().readAllStandardOutput()).array();

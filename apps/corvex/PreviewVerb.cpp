@@ -85,7 +85,8 @@ ExitCode run(const Call &call)
     // The key that ends the preview leaves time to clean up here.
     std::signal(SIGINT, [](int) {});
     PreviewProgram program(call);
-    if (!program.start(programArguments(call, folder))) {
+    const QStringList arguments{u"--temporary"_s, temporary.filePath(u"classes"_s)};
+    if (!program.start(programArguments(call, folder) + arguments)) {
         return ExitCode::File;
     }
     if (isBuild || isUnattended(call)) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// corvex-preview FOLDER [--audit] [--shot DIR] [--script FILE] [--state FILE]: runs a build on the desktop,
-// in a window unless there is a picture to take or a script to follow.
+// corvex-preview FOLDER [--audit] [--shot DIR] [--script FILE] [--state FILE] [--temporary DIR]: runs a build
+// on the desktop, in a window unless there is a picture to take or a script to follow.
+#include "corvex/common/TemporaryFolder.h"
 #include "corvex/preview/StandIns.h"
 #include "corvex/preview/window/PreviewWindow.h"
 
@@ -10,6 +11,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
 #include <QQuickWindow>
 
@@ -53,6 +55,12 @@ Exit runInWindow(const QString &folder, const QString &stateFile)
 //! Where the options ask for files.
 QStringList ownFolders(const QCommandLineParser &parser)
 {
+    if (parser.isSet(u"temporary"_s)) {
+        StandIns::keepBoxesIn(parser.value(u"temporary"_s));
+    } else {
+        static const Halvane::Corvex::Common::TemporaryFolder temporary(u"corvex-classes"_s);
+        StandIns::keepBoxesIn(QDir::cleanPath(temporary.filePath(QString())));
+    }
     QStringList folders{StandIns::boxFolder()};
     if (parser.isSet(u"state"_s)) {
         folders.append(QFileInfo(parser.value(u"state"_s)).absolutePath());
@@ -108,7 +116,8 @@ int main(int argc, char **argv)
     parser.addOptions({{u"shot"_s, u"Pictures of all screens."_s, u"DIR"_s},
                        {u"script"_s, u"What to do with the panel."_s, u"FILE"_s},
                        {u"audit"_s, u"What is wrong with the screens, as JSON."_s},
-                       {u"state"_s, u"Where persistent variables are kept."_s, u"PATH"_s}});
+                       {u"state"_s, u"Where persistent variables are kept."_s, u"PATH"_s},
+                       {u"temporary"_s, u"A folder for what goes with the program."_s, u"DIR"_s}});
     parser.addPositionalArgument(u"FOLDER"_s, u"The folder of a build."_s);
     parser.process(*application);
     return int(run(parser, isUnattended));

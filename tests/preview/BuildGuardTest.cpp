@@ -98,6 +98,16 @@ TEST_F(BuildGuardTest, letsNothingInButTheFilesOfTheBuild)
     }
 }
 
+TEST_F(BuildGuardTest, letsNothingInForAFolderThatIsGone)
+{
+    BuildGuard guard;
+    const QUrl file = QUrl::fromLocalFile(outside.path(u"beside.png"_s));
+    guard.allow({outside.path(u"gone"_s), QString()});
+    EXPECT_NE(guard.intercept(file, QQmlAbstractUrlInterceptor::UrlString), file);
+    guard.allow({outside.path()});
+    EXPECT_EQ(guard.intercept(file, QQmlAbstractUrlInterceptor::UrlString), file);
+}
+
 TEST_F(BuildGuardTest, hasNoWorkers)
 {
     build.write(u"worker.js"_s, "Qt.include('" + fileUrl(outside.path(u"beside.js"_s)) + "')");

@@ -98,6 +98,7 @@ void BuildGuard::allow(const QStringList &folders)
     for (const QString &folder : folders) {
         m_folders += {QDir::cleanPath(folder), QFileInfo(folder).canonicalFilePath()};
     }
+    m_folders.removeAll(QString()); // of a folder that is not there
 }
 
 bool BuildGuard::isAllowed(const QString &path) const

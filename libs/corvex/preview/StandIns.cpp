@@ -42,6 +42,12 @@ QSet<QString> &knownClasses()
     return names;
 }
 
+QString &folderOfBoxes()
+{
+    static QString folder;
+    return folder;
+}
+
 template<typename Class>
 void add(const char *name)
 {
@@ -167,11 +173,14 @@ void StandIns::registerModules()
     add<ThermocoupleInput>("ThermocoupleInput");
 }
 
-QString StandIns::boxFolder()
+void StandIns::keepBoxesIn(const QString &folder)
 {
-    // The engine reads types from files alone.
-    static const Common::TemporaryFolder folder(u"corvex-classes"_s);
-    return QDir::cleanPath(folder.filePath(QString()));
+    folderOfBoxes() = folder;
+}
+
+const QString &StandIns::boxFolder()
+{
+    return folderOfBoxes();
 }
 
 QStringList StandIns::addUnknownClasses(const BuildFolder &build)
@@ -181,6 +190,12 @@ QStringList StandIns::addUnknownClasses(const BuildFolder &build)
     if (classes.isEmpty()) {
         return {};
     }
+    // The engine reads types from files alone.
+    if (boxFolder().isEmpty()) {
+        static const Common::TemporaryFolder folder(u"corvex-classes"_s);
+        keepBoxesIn(QDir::cleanPath(folder.filePath(QString())));
+    }
+    QDir().mkpath(boxFolder());
     for (const auto &[name, properties] : classes.asKeyValueRange()) {
         QFile file(u"%1/%2.qml"_s.arg(boxFolder(), name));
         if (!file.open(QIODevice::WriteOnly)) {

@@ -19,8 +19,10 @@ public:
     /*! Makes a type, shown as a labelled box, for each class of the build that there is none for, with all
         properties and signals that are set of it. Gives the names of these classes. */
     static QStringList addUnknownClasses(const BuildFolder &build);
-    //! The folder, made for this program, in which the documents of the boxes are.
-    static QString boxFolder();
+    //! Where the documents of the boxes are to be, before there are any; else in a folder of their own.
+    static void keepBoxesIn(const QString &folder);
+    //! Empty as long as nobody knows.
+    static const QString &boxFolder();
 };
 
 } // namespace Halvane::Corvex::Preview
