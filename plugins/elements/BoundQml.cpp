@@ -4,7 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/QmlText.h"
-#include "corvex/values/GeneralDataList.h"
+#include "corvex/core/properties/GeneralDataListProperty.h"
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
@@ -30,27 +30,31 @@ constexpr struct
     {"y", GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput},
 };
 
-//! The expression bound to a name of \a owner as JavaScript; empty when there is none.
-QString bindingOf(const DesignerObject *owner, const QString &name)
+//! The expression beside the plain value called \a name as JavaScript; empty when there is none.
+QString codeOf(const DesignerProperty &property, QStringView name)
 {
-    const SharedProperty property = owner->getProperty(QString(name + suffix));
+    const GeneralDataList &expression = static_cast<const GeneralDataListProperty &>(property).value();
+    if (expression.count() == 0) {
+        return {};
+    }
     const auto binding = std::find_if(std::begin(bindings), std::end(bindings), [&name](const auto &entry) {
         return name == QLatin1StringView(entry.name);
     });
-    if (!property || binding == std::end(bindings)) {
-        return {};
-    }
-    const QString expression = property->valueString();
-    return expression.isEmpty() ? QString()
-                                : GeneralDataList(expression).toQmlString(binding->output, binding->kind);
+    return binding == std::end(bindings) ? QString() : expression.toQmlString(binding->output, binding->kind);
+}
+
+QString bindingOf(const DesignerObject *owner, const QString &name)
+{
+    const SharedProperty property = owner->getProperty(QString(name + suffix));
+    return property ? codeOf(*property, name) : QString();
 }
 
 } // namespace
 
 bool bindingValidator(const DesignerProperty *property, QString &error)
 {
-    const QString name = property->id().chopped(suffix.size());
-    if (property->valueString().isEmpty() || !bindingOf(property->parentObject(), name).isEmpty()) {
+    if (static_cast<const GeneralDataListProperty *>(property)->value().count() == 0
+        || !codeOf(*property, QStringView(property->id()).chopped(suffix.size())).isEmpty()) {
         return true;
     }
     error = Common::LocalizationHelper::coreString(u"The expression is incomplete."_s);
