@@ -75,7 +75,9 @@ TEST_F(ZipHelperTest, BytesArePackedLikeAFile)
     for (quint32 i = 0, number = 1; i < 100'000; ++i) {
         noise.append(char((number = number * 1'664'525 + 1'013'904'223) >> 24));
     }
-    for (const QByteArray &bytes : {QByteArray(), QByteArray(1'000'000, 'z'), noise}) {
+    const QByteArray manyPieces = noise.repeated(50);
+    const QByteArray onePiece(2 * 1024 * 1024, 'z');
+    for (const QByteArray &bytes : {QByteArray(), QByteArray(1'000'000, 'z'), noise, onePiece, manyPieces}) {
         for (const int level : {0, 9, 10}) {
             ASSERT_TRUE(ZipHelper::zipWithBytes(bytes, u"ü.txt"_s, path(u"z.zip"_s), u"a comment"_s, level));
             ASSERT_TRUE(ZipHelper::unzip(path(u"z.zip"_s), path(u"out"_s)));

@@ -1,23 +1,102 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/zip/DeflatedBytes.h"
 
-#include <libdeflate.h>
-#include <memory>
+#include <algorithm>
+#include <atomic>
+#include <future>
+#include <thread>
+#include <vector>
+#include <zlib.h>
 
 namespace Halvane::Corvex::Common {
 
+namespace {
+
+// Worth a thread. The same on every machine, since other pieces would be other bytes.
+constexpr qsizetype pieceSize = qsizetype(2) * 1024 * 1024;
+constexpr qsizetype windowSize = 32 * 1024; // as far back as the format can refer to
+constexpr qsizetype markSize = 16;          // room for what ends a piece
+constexpr int memoryLevel = 8;              // zlib's own choice
+
+Bytef *writable(const char *data)
+{
+    return reinterpret_cast<Bytef *>(const_cast<char *>(data));
+}
+
+struct Piece
+{
+    QByteArrayView before; //!< the end of the piece before it, to which it may refer
+    QByteArrayView bytes;
+    bool isLast = false;
+    QByteArray deflated = {}; //!< ends with a whole byte; empty when there was no memory
+    uLong crc = 0;
+};
+
+void deflatePiece(Piece &piece, int level)
+{
+    z_stream stream{};
+    if (deflateInit2(&stream, level, Z_DEFLATED, -MAX_WBITS, memoryLevel, Z_DEFAULT_STRATEGY) != Z_OK) {
+        return;
+    }
+    if (!piece.before.isEmpty()) {
+        deflateSetDictionary(&stream, writable(piece.before.data()), uInt(piece.before.size()));
+    }
+    const uLong room = deflateBound(&stream, uLong(piece.bytes.size())) + markSize;
+    piece.deflated.resize(qsizetype(room));
+    stream.next_in = writable(piece.bytes.data());
+    stream.avail_in = uInt(piece.bytes.size());
+    stream.next_out = writable(piece.deflated.data());
+    stream.avail_out = uInt(room);
+    const int result = deflate(&stream, piece.isLast ? Z_FINISH : Z_SYNC_FLUSH);
+    const bool isDone = result == (piece.isLast ? Z_STREAM_END : Z_OK) && stream.avail_in == 0;
+    piece.deflated.resize(isDone ? qsizetype(stream.total_out) : 0);
+    piece.crc = crc32(0, writable(piece.bytes.data()), uInt(piece.bytes.size()));
+    deflateEnd(&stream);
+}
+
+std::vector<Piece> piecesOf(QByteArrayView bytes)
+{
+    std::vector<Piece> pieces;
+    qsizetype from = 0;
+    do {
+        const qsizetype size = std::min(pieceSize, bytes.size() - from);
+        const qsizetype known = std::min(from, windowSize);
+        pieces.push_back(
+            {bytes.sliced(from - known, known), bytes.sliced(from, size), from + size == bytes.size()});
+        from += size;
+    } while (from < bytes.size());
+    return pieces;
+}
+
+} // namespace
+
 DeflatedBytes::DeflatedBytes(const QByteArray &bytes, int level)
     : m_size(static_cast<quint64>(bytes.size()))
-    , m_crc(libdeflate_crc32(0, bytes.constData(), m_size))
 {
-    const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> compressor(
-        libdeflate_alloc_compressor(level), &libdeflate_free_compressor);
-    if (!compressor)
-        return;
-    const size_t bound = libdeflate_deflate_compress_bound(compressor.get(), m_size);
-    m_deflated.resize(static_cast<qsizetype>(bound));
-    m_deflated.resize(static_cast<qsizetype>(
-        libdeflate_deflate_compress(compressor.get(), bytes.constData(), m_size, m_deflated.data(), bound)));
+    std::vector<Piece> pieces = piecesOf(bytes);
+    std::atomic<size_t> next = 0;
+    const auto deflateSome = [&pieces, &next, level] {
+        for (size_t i = next++; i < pieces.size(); i = next++) {
+            deflatePiece(pieces[i], level);
+        }
+    };
+    std::vector<std::future<void>> others(
+        std::min<size_t>(std::max(std::thread::hardware_concurrency(), 1U), pieces.size()) - 1);
+    for (std::future<void> &other : others) {
+        other = std::async(std::launch::async | std::launch::deferred, deflateSome);
+    }
+    deflateSome();
+    for (const std::future<void> &other : others) {
+        other.wait();
+    }
+    for (const Piece &piece : pieces) {
+        if (piece.deflated.isEmpty()) {
+            m_deflated.clear();
+            return;
+        }
+        m_deflated.append(piece.deflated);
+        m_crc = quint32(crc32_combine(m_crc, piece.crc, z_off_t(piece.bytes.size())));
+    }
 }
 
 } // namespace Halvane::Corvex::Common

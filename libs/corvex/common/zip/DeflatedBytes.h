@@ -5,7 +5,8 @@
 
 namespace Halvane::Corvex::Common {
 
-//! Bytes in their deflated form, with what an archive tells about them.
+/*! Bytes in their deflated form, with what an archive tells about them. All processors work at it; what comes
+    out is the same for any number of them. */
 class DeflatedBytes
 {
 public:
@@ -21,7 +22,7 @@ public:
 private:
     QByteArray m_deflated;
     quint64 m_size;
-    quint32 m_crc;
+    quint32 m_crc = 0;
 };
 
 } // namespace Halvane::Corvex::Common

@@ -54,8 +54,8 @@ struct EntryFileDeleter
 };
 using EntryFile = std::unique_ptr<zip_file_t, EntryFileDeleter>;
 
-/*! A file that is deflated when it comes into the archive. libzip takes it as it is, and would need more
-    than twice the time to deflate it itself. */
+/*! A file that is deflated when it comes into the archive. libzip takes it as it is, and would deflate it
+    on one processor. */
 class DeflatedSource
 {
 public:
