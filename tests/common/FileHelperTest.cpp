@@ -145,12 +145,12 @@ TEST_F(FileHelperTest, RemoveDirectoryStaysInside)
 TEST_F(FileHelperTest, RemoveDirectoryRefuses)
 {
     const QByteArray home = qgetenv("HOME");
-    QDir(m_folder.path()).mkpath(u"users/me/work"_s);
+    QDir(m_folder.path()).mkpath(u"users/me/plans"_s);
     qputenv("HOME", path(u"users/me"_s).toUtf8());
     for (const QString &bad : {u""_s, u"/"_s, u"//"_s, u"/tmp/.."_s, path(u"users/me"_s), path(u"users"_s),
-                               path(u"users/me/work/.."_s), path(u"users/me/."_s)})
+                               path(u"users/me/plans/.."_s), path(u"users/me/."_s)})
         EXPECT_FALSE(FileHelper::removeDirectory(bad)) << bad.toStdString();
-    EXPECT_TRUE(FileHelper::removeDirectory(path(u"users/me/work"_s)));
+    EXPECT_TRUE(FileHelper::removeDirectory(path(u"users/me/plans"_s)));
     qputenv("HOME", home);
 }
 
