@@ -15,16 +15,31 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Those of a group's members but for some.
-QList<ElementPlacement> placements(const GroupElement *group, const QSet<const DesignerObject *> &without)
+/*! The places of groups, each behind those that it holds, when some objects leave them and others come in:
+    what a group turns about depends on what it holds, and nothing else is to be seen to move. */
+QList<ValueChange> placesOf(const QList<const GroupElement *> &groups,
+                            const QSet<const DesignerObject *> &leaving,
+                            const QHash<const GroupElement *, QList<ElementPlacement>> &coming = {})
 {
-    QList<ElementPlacement> found;
-    for (const DesignerObject *member : group ? group->elements()->listItems() : QList<DesignerObject *>()) {
-        if (!without.contains(member)) {
-            found.append(ElementPlacement::of(member));
+    QList<ValueChange> changes;
+    QHash<const DesignerObject *, ElementPlacement> places;
+    for (const GroupElement *group : groups) {
+        QList<ElementPlacement> inside = coming.value(group);
+        for (const DesignerObject *member : group->elements()->listItems()) {
+            if (!leaving.contains(member)) {
+                const auto moved = places.constFind(member);
+                inside.append(moved == places.cend() ? ElementPlacement::of(member) : *moved);
+            }
+        }
+        const ElementPlacement place = ElementPlacement::of(group).holding(inside);
+        places.insert(group, place);
+        const SharedProperty position = group->getProperty(u"position");
+        const QString text = ValueConversion::toString(place.position);
+        if (position->valueString() != text) {
+            changes.append({position, position->valueString(), text});
         }
     }
-    return found;
+    return changes;
 }
 
 } // namespace
@@ -95,29 +110,23 @@ QList<ValueChange> SplitGroup::placeOutside(const DesignerObject *member, const 
 QList<ValueChange> SplitGroup::placesAround(const GroupElement *group, const QList<DesignerObject *> &leaving,
                                             bool groupGoes)
 {
-    QList<ValueChange> changes;
     const ElementPlacement whole = ElementPlacement::of(group);
     QList<ElementPlacement> outside;
     for (const DesignerObject *member : leaving) {
         outside.append(ElementPlacement::of(member).outOf(whole));
     }
-    QList<ElementPlacement> inside = placements(group, {leaving.cbegin(), leaving.cend()});
-    while (group) {
-        if (!groupGoes) {
-            const ElementPlacement place = ElementPlacement::of(group).holding(inside);
-            const SharedProperty position = group->getProperty(u"position");
-            const QString text = ValueConversion::toString(place.position);
-            if (position->valueString() != text) {
-                changes.append({position, position->valueString(), text});
-            }
-            outside.append(place);
-        }
-        const GroupElement *outer = GroupIndexes::groupOf(group->listProperty());
-        inside = placements(outer, {group}) + std::exchange(outside, {});
-        group = outer;
-        groupGoes = false;
+    QSet<const DesignerObject *> gone(leaving.cbegin(), leaving.cend());
+    QList<const GroupElement *> groups;
+    if (groupGoes) {
+        gone.insert(group);
+    } else {
+        groups.append(group);
     }
-    return changes;
+    const GroupElement *outer = GroupIndexes::groupOf(group->listProperty());
+    for (const GroupElement *next = outer; next; next = GroupIndexes::groupOf(next->listProperty())) {
+        groups.append(next);
+    }
+    return placesOf(groups, gone, {{outer, outside}});
 }
 
 QList<ValueChange> SplitGroup::placesWithout(const QList<DesignerObject *> &going)
@@ -139,29 +148,7 @@ QList<ValueChange> SplitGroup::placesWithout(const QList<DesignerObject *> &goin
             groups = around + groups;
         }
     }
-    QList<ValueChange> changes;
-    if (!isTurned) {
-        return changes;
-    }
-    const QSet<const DesignerObject *> without(going.cbegin(), going.cend());
-    QHash<const DesignerObject *, ElementPlacement> places;
-    for (const GroupElement *group : std::as_const(groups)) {
-        QList<ElementPlacement> inside;
-        for (const DesignerObject *member : group->elements()->listItems()) {
-            if (!without.contains(member)) {
-                const auto moved = places.constFind(member);
-                inside.append(moved == places.cend() ? ElementPlacement::of(member) : *moved);
-            }
-        }
-        const ElementPlacement place = ElementPlacement::of(group).holding(inside);
-        places.insert(group, place);
-        const SharedProperty position = group->getProperty(u"position");
-        const QString text = ValueConversion::toString(place.position);
-        if (position->valueString() != text) {
-            changes.append({position, position->valueString(), text});
-        }
-    }
-    return changes;
+    return isTurned ? placesOf(groups, {going.cbegin(), going.cend()}) : QList<ValueChange>();
 }
 
 void SplitGroup::setupCommands(GroupElement *group, const QList<DesignerObject *> &members)
