@@ -18,9 +18,9 @@ constexpr qsizetype windowSize = 32 * 1024; // as far back as the format can ref
 constexpr qsizetype markSize = 16;          // room for what ends a piece
 constexpr int memoryLevel = 8;              // zlib's own choice
 
-Bytef *writable(const char *data)
+const Bytef *bytesOf(QByteArrayView view)
 {
-    return reinterpret_cast<Bytef *>(const_cast<char *>(data));
+    return reinterpret_cast<const Bytef *>(view.data());
 }
 
 struct Piece
@@ -39,18 +39,18 @@ void deflatePiece(Piece &piece, int level)
         return;
     }
     if (!piece.before.isEmpty()) {
-        deflateSetDictionary(&stream, writable(piece.before.data()), uInt(piece.before.size()));
+        deflateSetDictionary(&stream, bytesOf(piece.before), uInt(piece.before.size()));
     }
     const uLong room = deflateBound(&stream, uLong(piece.bytes.size())) + markSize;
     piece.deflated.resize(qsizetype(room));
-    stream.next_in = writable(piece.bytes.data());
+    stream.next_in = bytesOf(piece.bytes);
     stream.avail_in = uInt(piece.bytes.size());
-    stream.next_out = writable(piece.deflated.data());
+    stream.next_out = reinterpret_cast<Bytef *>(piece.deflated.data());
     stream.avail_out = uInt(room);
     const int result = deflate(&stream, piece.isLast ? Z_FINISH : Z_SYNC_FLUSH);
     const bool isDone = result == (piece.isLast ? Z_STREAM_END : Z_OK) && stream.avail_in == 0;
     piece.deflated.resize(isDone ? qsizetype(stream.total_out) : 0);
-    piece.crc = crc32(0, writable(piece.bytes.data()), uInt(piece.bytes.size()));
+    piece.crc = crc32(0, bytesOf(piece.bytes), uInt(piece.bytes.size()));
     deflateEnd(&stream);
 }
 
