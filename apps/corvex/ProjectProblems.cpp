@@ -5,7 +5,6 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/Project.h"
-#include "corvex/variables/LogVariable.h"
 #include "corvex/variables/NumberVariable.h"
 
 #include "CodeCheck.h"
@@ -49,13 +48,10 @@ void findInvalid(const DesignerObject &object, QList<Problem> &problems)
 //! Variables whose text is kept as it was typed and is no number: the device would get no value for them.
 void findNoNumbers(const Project &project, QList<Problem> &problems)
 {
-    for (const DesignerObject *variable : project.variables()->listItems()) {
-        if (!variable->isKindOfClass(NumberVariable::kindName())
-            && !variable->isKindOfClass(LogVariable::kindName())) {
-            continue;
-        }
-        const SharedProperty value = static_cast<const ProjectVariable *>(variable)->value();
-        if (value->isValid() && !NumberVariable::typedValue(value->valueString()).isValid()) {
+    for (const DesignerObject *object : project.variables()->listItems()) {
+        const auto *variable = static_cast<const ProjectVariable *>(object);
+        const SharedProperty value = variable->value();
+        if (value->isValid() && NumberVariable::lacksNumber(*variable)) {
             problems.append({variable->objectPath(), value->id(),
                              u"\"%1\" is no number that the device can hold."_s.arg(value->valueString())});
         }

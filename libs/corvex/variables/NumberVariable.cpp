@@ -4,6 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/properties/StringProperty.h"
+#include "corvex/variables/LogVariable.h"
 
 #include <limits>
 
@@ -44,6 +45,12 @@ QVariant NumberVariable::typedValue(const QString &text)
     const QVariant number =
         typeOf(text) == VariableType::FloatVariable ? QVariant(text.toFloat(&ok)) : QVariant(text.toInt(&ok));
     return ok ? number : QVariant();
+}
+
+bool NumberVariable::lacksNumber(const ProjectVariable &variable)
+{
+    return (variable.isKindOfClass(kindName()) || variable.isKindOfClass(LogVariable::kindName()))
+           && !variable.toVariant().isValid();
 }
 
 bool NumberVariable::isWithinLimits(const QString &text, QString &error)

@@ -19,6 +19,9 @@ public:
     static VariableType typeOf(const QString &text);
     //! A float or an int of 32 bits; invalid when the text is no number.
     static QVariant typedValue(const QString &text);
+    //! Whether a variable that is to hold a number, a log among them, has a text that is none: the model
+    //! keeps it, and the device would start without a value.
+    static bool lacksNumber(const ProjectVariable &variable);
     //! Whether the device can hold the number; a text that is none passes.
     static bool isWithinLimits(const QString &text, QString &error);
     //! The property "value" of variables that hold a number.

@@ -2,7 +2,7 @@
 #include "corvex/variables/exchange/VariableImport.h"
 
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/variables/LogVariable.h"
+#include "corvex/variables/NumberVariable.h"
 #include "corvex/variables/exchange/CsvText.h"
 
 #include <QSet>
@@ -25,12 +25,6 @@ std::unique_ptr<DesignerObject> makeVariable(const QString &className)
         object->setParent(nullptr);
     }
     return object && object->isKindOfClass(ProjectVariable::kindName()) ? std::move(object) : nullptr;
-}
-
-bool holdsNumber(const DesignerObject &variable)
-{
-    return variable.isKindOfClass(NumberVariable::kindName())
-           || variable.isKindOfClass(LogVariable::kindName());
 }
 
 } // namespace
@@ -141,9 +135,8 @@ bool VariableImport::set(const Record &record, DesignerObject &copy, qsizetype c
     if (!wasSet || !isRead) {
         return fail(record, u"%1.%2: \"%3\" is no value for it."_s.arg(record.name, id, text));
     }
-    // The model keeps any text for a number, and the device would start without one.
     const bool isNumber =
-        id != "value"_L1 || !holdsNumber(copy) || NumberVariable::typedValue(text).isValid();
+        id != "value"_L1 || !NumberVariable::lacksNumber(static_cast<const ProjectVariable &>(copy));
     if (!property->isValid() || !isNumber) {
         m_invalidValues.append(u"line %1: %2.%3: %4"_s.arg(QString::number(record.line), record.name, id,
                                                            isNumber ? property->errorString()
