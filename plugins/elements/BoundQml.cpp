@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "elements/BoundQml.h"
 
-#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/QmlText.h"
-#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/values/GeneralDataList.h"
+
+#include "elements/Rows.h"
+#include "elements/Validators.h"
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
@@ -33,8 +35,8 @@ constexpr struct
 //! The expression beside the plain value called \a name as JavaScript; empty when there is none.
 QString codeOf(const DesignerProperty &property, QStringView name)
 {
-    const GeneralDataList &expression = static_cast<const GeneralDataListProperty &>(property).value();
-    if (expression.count() == 0) {
+    const GeneralDataList &expression = expressionOf(property);
+    if (expression.isEmpty()) {
         return {};
     }
     const auto binding = std::find_if(std::begin(bindings), std::end(bindings), [&name](const auto &entry) {
@@ -53,12 +55,10 @@ QString bindingOf(const DesignerObject *owner, const QString &name)
 
 bool bindingValidator(const DesignerProperty *property, QString &error)
 {
-    if (static_cast<const GeneralDataListProperty *>(property)->value().count() == 0
-        || !codeOf(*property, QStringView(property->id()).chopped(suffix.size())).isEmpty()) {
-        return true;
-    }
-    error = Common::LocalizationHelper::coreString(u"The expression is incomplete."_s);
-    return false;
+    const auto hasCode = [property] {
+        return !codeOf(*property, QStringView(property->id()).chopped(suffix.size())).isEmpty();
+    };
+    return acceptExpression(expressionOf(*property).isEmpty() || hasCode(), error);
 }
 
 QString boundToQml(const DesignerProperty *property, int indent)

@@ -37,6 +37,11 @@ PropertyRow expressionRow(const char *id, const char *title, const char *editor)
         .allowInvalid();
 }
 
+const GeneralDataList &expressionOf(const DesignerProperty &property)
+{
+    return static_cast<const GeneralDataListProperty &>(property).value();
+}
+
 PropertyRow bindingRow(const char *id, const char *title, const char *editor)
 {
     return expressionRow(id, title, editor).validator(&bindingValidator);

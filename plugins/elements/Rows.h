@@ -3,6 +3,10 @@
 
 #include "corvex/core/PropertyTable.h"
 
+namespace Halvane::Corvex::Designer {
+class GeneralDataList;
+}
+
 //! Rows that occur in the tables of several elements.
 namespace Halvane::Corvex::Elements {
 
@@ -14,6 +18,8 @@ inline constexpr int notAtRuntime = ordinary & ~Designer::RuntimeFlag;
 
 //! An expression, empty at first.
 Designer::PropertyRow expressionRow(const char *id, const char *title, const char *editor);
+//! What a property of such a row holds.
+const Designer::GeneralDataList &expressionOf(const Designer::DesignerProperty &property);
 //! An expression that is written in the place of the value that it is named after, "textBinding".
 Designer::PropertyRow bindingRow(const char *id, const char *title, const char *editor);
 //! A link to an element of the same screen.

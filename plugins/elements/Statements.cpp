@@ -11,6 +11,8 @@
 #include "corvex/values/PropertyList.h"
 #include "corvex/values/UpdateObjectList.h"
 
+#include "elements/Rows.h"
+
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
@@ -37,7 +39,7 @@ QString handlerName(const DesignerProperty *property)
 QString expressionToQml(const DesignerProperty *property, int indent, GeneralDataInfo::OutputType output,
                         GeneralDataList::InfoType kind)
 {
-    const QString code = GeneralDataList(property->valueString()).toQmlString(output, kind);
+    const QString code = expressionOf(*property).toQmlString(output, kind);
     return code.isEmpty() ? QString() : QmlText::line(indent, property->id(), code);
 }
 
@@ -129,7 +131,7 @@ QString changesToQml(const DesignerProperty *property, int indent)
 
 QString assignmentsToQml(const DesignerProperty *property, int indent)
 {
-    return handler(indent, handlerName(property), assignments(GeneralDataList(property->valueString())));
+    return handler(indent, handlerName(property), assignments(expressionOf(*property)));
 }
 
 QString mathToQml(const DesignerProperty *property, int indent)
@@ -145,7 +147,7 @@ QString conditionToQml(const DesignerProperty *property, int indent)
 QString termsToQml(const DesignerProperty *property, int indent)
 {
     QStringList codes;
-    for (const GeneralDataInfo &term : GeneralDataList(property->valueString())) {
+    for (const GeneralDataInfo &term : expressionOf(*property)) {
         const QString code = term.toQmlString(GeneralDataInfo::RawOutput);
         if (!code.isEmpty()) {
             codes.append(code);

@@ -9,6 +9,8 @@
 #include "corvex/values/GeneralDataList.h"
 #include "corvex/values/PairList.h"
 
+#include "elements/Rows.h"
+
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
@@ -21,21 +23,17 @@ QString translated(const char *message)
     return Common::LocalizationHelper::coreString(QString::fromLatin1(message));
 }
 
+bool isTranslatable(const GeneralDataList &expression, GeneralDataList::InfoType kind)
+{
+    return expression.isEmpty() || !expression.toQmlString(GeneralDataInfo::RawOutput, kind).isEmpty();
+}
+
 //! An empty text is no expression and no fault.
 bool isTranslatable(const QString &text, GeneralDataList::InfoType kind)
 {
     bool ok = true;
     const GeneralDataList expression(text, &ok);
-    return ok
-           && (expression.isEmpty() || !expression.toQmlString(GeneralDataInfo::RawOutput, kind).isEmpty());
-}
-
-bool accept(bool isComplete, QString &error)
-{
-    if (!isComplete) {
-        error = translated("The expression is incomplete.");
-    }
-    return isComplete;
+    return ok && isTranslatable(expression, kind);
 }
 
 } // namespace
@@ -71,23 +69,32 @@ bool logicValidator(const DesignerProperty *property, QString &error)
     return true;
 }
 
+bool acceptExpression(bool isComplete, QString &error)
+{
+    if (!isComplete) {
+        error = translated("The expression is incomplete.");
+    }
+    return isComplete;
+}
+
 bool codeValidator(const DesignerProperty *property, QString &error)
 {
-    return accept(property->valueString().isEmpty() || !property->toQml(0).isEmpty(), error);
+    return acceptExpression(expressionOf(*property).isEmpty() || !property->toQml(0).isEmpty(), error);
 }
 
 bool assignmentsValidator(const DesignerProperty *property, QString &error)
 {
-    return accept(isTranslatable(property->valueString(), GeneralDataList::AssignExpression), error);
+    return acceptExpression(isTranslatable(expressionOf(*property), GeneralDataList::AssignExpression),
+                            error);
 }
 
 bool termsValidator(const DesignerProperty *property, QString &error)
 {
-    const GeneralDataList terms(property->valueString());
+    const GeneralDataList &terms = expressionOf(*property);
     const bool isComplete = std::all_of(terms.begin(), terms.end(), [](const GeneralDataInfo &term) {
         return !term.toQmlString(GeneralDataInfo::RawOutput).isEmpty();
     });
-    return accept(isComplete, error);
+    return acceptExpression(isComplete, error);
 }
 
 bool actionsValidator(const DesignerProperty *property, QString &error)

@@ -13,6 +13,8 @@ namespace Halvane::Corvex::Elements {
 bool linkTargetValidator(const Designer::DesignerProperty *property, QString &error);
 //! The rules of a logic builder: each condition and each assignment is an expression that can be translated.
 bool logicValidator(const Designer::DesignerProperty *property, QString &error);
+//! Gives \a error its text when the expression is not complete.
+bool acceptExpression(bool isComplete, QString &error);
 //! An expression of which its property's QML creator makes code.
 bool codeValidator(const Designer::DesignerProperty *property, QString &error);
 //! Assignments, each of which can be translated.
