@@ -12,9 +12,8 @@
 #include "corvex/variables/MappingVariable.h"
 
 #include "support/Model.h"
+#include "support/QmlSyntax.h"
 
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -56,24 +55,6 @@ protected:
     static QString link(const QString &name, const QString &scope, const QString &filter)
     {
         return u"filterType: %1; objectId: %2; scopeType: %3;"_s.arg(filter, name, scope);
-    }
-
-    //! What Qt's own parser has against a document; types that it does not know are none of its business
-    //! here.
-    static QStringList syntaxErrors(QString qml)
-    {
-        static QQmlEngine engine;
-        qmlRegisterModule("StandIn", 1, 0);
-        qml.replace(u"import QtQuick 1.1"_s, u"import StandIn 1.0"_s).remove(u"import RuntimeObjects 2.0"_s);
-        QQmlComponent component(&engine);
-        component.setData(qml.toUtf8(), QUrl(u"file:///screen.qml"_s));
-        QStringList errors;
-        for (const QQmlError &error : component.errors()) {
-            if (!error.description().contains(u"is not a type"_s)) {
-                errors.append(error.toString());
-            }
-        }
-        return errors;
     }
 
     //! What goes wrong when the document of the screen "Main" runs.
@@ -146,7 +127,7 @@ TEST_F(Elements, TheDocumentOfAScreenHasItsPartsInOrderAndParses)
         link(u"registers"_s, u"Project"_s, u"MappingVariable"_s));
     const QString qml = screen->toQml(0);
     EXPECT_EQ(map->qmlActiveScreen(), u"Main"_s);
-    EXPECT_EQ(syntaxErrors(qml), QStringList()) << qPrintable(qml);
+    EXPECT_EQ(qmlSyntaxErrors(qml), QString()) << qPrintable(qml);
     EXPECT_EQ(problemsInPreview(qml), QStringList()) << qPrintable(qml);
     qsizetype last = -1;
     for (
