@@ -108,13 +108,26 @@ TEST_F(BuildGuardTest, letsNothingInForAFolderThatIsGone)
     EXPECT_EQ(guard.intercept(file, QQmlAbstractUrlInterceptor::UrlString), file);
 }
 
-TEST_F(BuildGuardTest, hasNoWorkers)
+TEST_F(BuildGuardTest, hasNoModulesButThoseOfScreens)
 {
     build.write(u"worker.js"_s, "Qt.include('" + fileUrl(outside.path(u"beside.js"_s)) + "')");
-    EXPECT_THAT(problemsOf("Component.onCompleted: Qt.createQmlObject('import QtQml 2.15; import "
-                           "QtQml.WorkerScript 2.0; WorkerScript { source: \"worker.js\" }', qml_Main)"),
-                ElementsAre(ResultOf([](const QString &problem) { return problem.toStdString(); },
-                                     HasSubstr("WorkerScript is not a type"))));
+    // Some come with the libraries of Qt, some as plug-ins, where they are installed.
+    static constexpr const char *documents[] = {
+        "import QtQml.WorkerScript 2.0; WorkerScript { source: 'worker.js' }",
+        "import QtQml.WorkerScript; WorkerScript { source: 'worker.js' }",
+        "import QtQml; WorkerScript { source: 'worker.js' }",
+        "import QtQuick 2.15; WorkerScript { source: 'worker.js' }",
+        "import QtQuick.Window 2.15; Window {}",
+        "import Qt.labs.folderlistmodel 2.0; FolderListModel {}",
+        "import QtQuick.Controls; Button {}",
+    };
+    for (const char *document : documents) {
+        const QByteArray body = document;
+        EXPECT_THAT(problemsOf("Component.onCompleted: Qt.createQmlObject(\"" + body + "\", qml_Main)"),
+                    ElementsAre(ResultOf([](const QString &problem) { return problem.toStdString(); },
+                                         HasSubstr("failed to create object"))))
+            << document;
+    }
 }
 
 TEST_F(BuildGuardTest, readsWhatIsInTheBuild)

@@ -4,8 +4,12 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QMutex>
 #include <QNetworkAccessManager>
 #include <QQmlEngine>
+#include <QRegularExpression>
+#include <QSet>
+#include <qqml.h>
 
 #include <array>
 
@@ -15,10 +19,11 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-//! Those that screens import, and what these need.
-constexpr auto modules = std::to_array<const char *>({"QtQml", "QtQml/Models", "QtQuick"});
-//! In whose place StandIns has one without types.
-const QString workers = u"QtQml/WorkerScript/qmldir"_s;
+//! Those that screens import, and what these need in one version of Qt or another.
+constexpr auto modules =
+    std::to_array<const char *>({"QML", "QtQml", "QtQml/Models", "QtQuick", "RuntimeObjects"});
+const QString listOfModule = u"/qmldir"_s;
+constexpr int newestMinorVersion = 254; // that Qt knows
 
 //! Of addresses that intercept() leaves as they are, though no other program is to get them.
 const QStringList ourSchemes{u"data"_s, u"file"_s, u"qrc"_s};
@@ -79,10 +84,8 @@ void BuildGuard::guard(QQmlEngine &engine)
 {
     // What stands as "qml_Main.qmlc" beside a document would be taken for its compiled form.
     qputenv("QML_DISABLE_DISK_CACHE", "1");
-    for (const QString &path : engine.importPathList()) {
-        for (const char *module : modules) {
-            m_modules.insert(u"%1/%2/qmldir"_s.arg(path, QLatin1StringView(module)));
-        }
+    for (QString path : engine.importPathList()) {
+        m_importPaths.append(path.remove(u"qrc:"_s) + u'/');
     }
     s_current = this;
     for (const QString &scheme : ourSchemes) {
@@ -112,14 +115,50 @@ bool BuildGuard::isAllowed(const QString &path) const
     });
 }
 
+/*! The module "QtQuick/Window" for a list in one of the folders of modules, whose names may have a version:
+   "QtQuick.2/Window". Empty for a list elsewhere. */
+QString BuildGuard::moduleOf(const QString &path) const
+{
+    static const QRegularExpression version(u"\\.[0-9.]+(?=/|$)"_s);
+    for (const QString &folder : m_importPaths) {
+        if (path.startsWith(folder)) {
+            return path.sliced(folder.size()).chopped(listOfModule.size()).remove(version);
+        }
+    }
+    return {};
+}
+
+/*! Types that come with the libraries of Qt need no list. An engine asks for the list of a module before it
+   looks for these types. A locked module can be imported, in any version, and has none. */
+void BuildGuard::lockModule(const QString &module)
+{
+    static QMutex mutex;
+    static QSet<QString> locked; // for good, in all engines
+    const QMutexLocker lock(&mutex);
+    if (locked.contains(module)) {
+        return;
+    }
+    locked.insert(module);
+    const QByteArray name = QString(module).replace(u'/', u'.').toUtf8();
+    for (int version = 0; version <= QT_VERSION_MAJOR; ++version) {
+        qmlRegisterModule(name.constData(), version, 0);
+        qmlRegisterModule(name.constData(), version, newestMinorVersion);
+        qmlProtectModule(name.constData(), version);
+    }
+}
+
 //! The list of what a folder offers as a module. One that is not let through is missing, in a folder of ours.
 QUrl BuildGuard::moduleFile(const QUrl &url)
 {
-    if (isOurs(url) || m_modules.contains(url.toLocalFile())) {
+    const QString path = url.isLocalFile() ? url.toLocalFile() : url.path();
+    const QString module = moduleOf(path);
+    if (std::ranges::any_of(modules,
+                            [&module](const char *name) { return module == QLatin1StringView(name); })) {
         return url;
     }
-    const QString path = url.toLocalFile();
-    if (!path.endsWith(workers) && QFileInfo::exists(path)) {
+    if (!module.isEmpty()) {
+        lockModule(module);
+    } else if (QFileInfo::exists(path)) {
         emit refused(u"\"%1\" is not read: the preview has the modules of the device alone."_s.arg(path));
     }
     return QUrl(u"qrc:/corvex/preview/qmldir"_s);

@@ -4,7 +4,6 @@
 #include <QObject>
 #include <QQmlAbstractUrlInterceptor>
 #include <QQmlNetworkAccessManagerFactory>
-#include <QSet>
 #include <QStringList>
 
 class QQmlEngine;
@@ -12,9 +11,9 @@ class QQmlEngine;
 namespace Halvane::Corvex::Preview {
 
 /*! Keeps the documents of a build to the files of the build, whoever has made it: an engine asks here for
-   each address that it meets, in whatever thread. Nothing comes from the network, no script from another
-   file, and no module but those that generated screens import, since a module may bring machine code along.
- */
+   each address that it meets, in whatever thread. Nothing comes from the network, and no script from another
+   file. Of modules there are those that generated screens import. Every other is locked as soon as somebody
+   asks for it, since its types may bring machine code along, or scripts that ask no engine. */
 class BuildGuard
     : public QObject
     , public QQmlAbstractUrlInterceptor
@@ -41,10 +40,12 @@ signals:
 private:
     //! In place of the desktop's programs.
     Q_INVOKABLE void refuseToShow(const QUrl &url);
+    QString moduleOf(const QString &path) const;
+    static void lockModule(const QString &module);
     QUrl moduleFile(const QUrl &url);
     bool isAllowed(const QString &path) const;
 
-    QSet<QString> m_modules; //!< the files "qmldir" of those that may be imported
+    QStringList m_importPaths; //!< the folders of modules, each with "/" at its end
     QStringList m_folders;
 };
 

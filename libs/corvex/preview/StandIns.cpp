@@ -141,13 +141,8 @@ void StandIns::registerModules()
         return;
     }
     initializeResources();
-    for (const char *name : {"QtQuick", "QtQml", "QtQml.Models", "QtQml.WorkerScript"}) {
+    for (const char *name : {"QtQuick", "QtQml", "QtQml.Models"}) {
         qmlRegisterModule(name, 1, 1);
-    }
-    // Qt's own, which it imports with the others, has workers, whose scripts ask no engine what they may
-    // read.
-    for (const int minorVersion : {0, 15}) {
-        qmlRegisterModule("QtQml.WorkerScript", 2, minorVersion);
     }
     qmlRegisterModuleImport("QtQuick", 1, "QtQuick", 2, 0);
     for (const char *name : drawn) {
