@@ -38,6 +38,9 @@ target_compile_definitions(corvex_build_options INTERFACE
 target_compile_options(corvex_build_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wundef
   $<$<BOOL:${CORVEX_WARNINGS_AS_ERRORS}>:-Werror>)
+# Programs share the precompiled headers of libraries, and GCC takes one only for code of the same kind; CMake has
+# -fPIE for programs.
+target_compile_options(corvex_build_options INTERFACE $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-fPIC>)
 
 if(CORVEX_SANITIZE)
   set(corvex_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
