@@ -136,7 +136,7 @@ protected:
         const QList<Element *> elements = anyScreen()->getElementsOfType(className);
         return elements.isEmpty() ? nullptr : random.oneOf(elements);
     }
-    static const QStringList &classesOf(const QString &base)
+    static QStringList classesOf(const QString &base)
     {
         static QHash<QString, QStringList> classes;
         QStringList &found = classes[base];
