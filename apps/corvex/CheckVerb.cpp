@@ -36,11 +36,10 @@ ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> 
     if (generator.buildFolder().isEmpty()) {
         return call.failed(generator.errorString(), problems.isEmpty() ? ExitCode::File : ExitCode::Problems);
     }
-    PreviewProgram program(call);
+    PreviewProgram program(call, generator.buildFolder() + u"/classes"_s);
     program.process().setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    const QStringList arguments{generator.buildFolder(), u"--audit"_s, u"--temporary"_s,
-                                generator.buildFolder() + u"/classes"_s};
-    if (!program.start(arguments) || !program.process().waitForFinished(-1)) {
+    if (!program.start({generator.buildFolder(), u"--audit"_s, u"--trust"_s})
+        || !program.process().waitForFinished(-1)) {
         return ExitCode::File;
     }
     const QJsonArray entries = QJsonDocument::fromJson(program.process().readAllStandardOutput()).array();

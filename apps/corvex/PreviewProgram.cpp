@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "PreviewProgram.h"
 
+#include "corvex/preview/Bounds.h"
+
 #include "Call.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 
 #include <csignal>
 #ifdef Q_OS_LINUX
@@ -15,8 +18,9 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
 
-PreviewProgram::PreviewProgram(const Call &call)
+PreviewProgram::PreviewProgram(const Call &call, const QString &temporary)
     : m_call(call)
+    , m_temporary(temporary)
 {
     m_process.setProcessChannelMode(QProcess::ForwardedChannels);
     m_process.setInputChannelMode(QProcess::ForwardedInputChannel);
@@ -30,7 +34,7 @@ PreviewProgram::PreviewProgram(const Call &call)
 
 bool PreviewProgram::start(const QStringList &arguments)
 {
-    m_process.setArguments(arguments);
+    m_process.setArguments(arguments + QStringList{u"--temporary"_s, m_temporary});
     m_process.start();
     if (m_process.waitForStarted()) {
         return true;
@@ -44,7 +48,29 @@ ExitCode PreviewProgram::exitCode() const
 {
     const bool isOurs = m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() >= 0
                         && m_process.exitCode() <= int(ExitCode::File);
-    return isOurs ? ExitCode(m_process.exitCode()) : m_call.failed(u"The preview has ended unexpectedly."_s);
+    return isOurs ? ExitCode(m_process.exitCode()) : m_call.failed(reasonOfEnd());
+}
+
+//! The preview ends itself in no other way than by its exit code.
+QString PreviewProgram::reasonOfEnd() const
+{
+    QFile file(m_temporary + QLatin1StringView(Preview::Bounds::placeFile));
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const QString place = QString::fromUtf8(bytes.constData());
+    const QString where = place.isEmpty() ? u"before its first screen"_s : u"at \"%1\""_s.arg(place);
+    switch (m_process.exitStatus() == QProcess::CrashExit ? m_process.exitCode() : 0) {
+    case SIGXCPU:
+        return u"The preview was ended %1: it kept the processor busy for more than %2 seconds."_s.arg(
+            where, QString::number(Preview::Bounds::processorSeconds));
+    case SIGABRT:
+    case SIGSEGV:
+    case SIGBUS:
+        return u"The preview was ended %1: it needed more than %2 GB of memory, or a script called itself "
+               "without end."_s.arg(where, QString::number(Preview::Bounds::memory / 1024 / 1024 / 1024));
+    default:
+        return u"The preview was ended %1 by the system (%2)."_s.arg(where,
+                                                                     QString::number(m_process.exitCode()));
+    }
 }
 
 } // namespace Halvane::Corvex::Tool

@@ -16,7 +16,8 @@ class Call;
 class PreviewProgram
 {
 public:
-    explicit PreviewProgram(const Call &call);
+    //! The program keeps its own files in the folder \a temporary.
+    PreviewProgram(const Call &call, const QString &temporary);
 
     //! False, once the user has been told, when it does not start. What it writes goes where the caller's
     //! does.
@@ -26,7 +27,10 @@ public:
     ExitCode exitCode() const;
 
 private:
+    QString reasonOfEnd() const;
+
     const Call &m_call;
+    QString m_temporary;
     QProcess m_process;
 };
 

@@ -43,6 +43,10 @@ QString usualStateFile(const QString &path)
 QStringList programArguments(const Call &call, const QString &folder)
 {
     QStringList arguments{folder};
+    // What comes of a project was generated right now; the folder of a build may hold anybody's scripts.
+    if (folder != call.argument(0) || call.isSet(u"trust"_s)) {
+        arguments.append(u"--trust"_s);
+    }
     for (const QString &option : {u"shot"_s, u"script"_s, u"state"_s}) {
         if (call.isSet(option)) {
             arguments += {u"--"_s + option, call.value(option)};
@@ -84,9 +88,8 @@ ExitCode run(const Call &call)
     }
     // The key that ends the preview leaves time to clean up here.
     std::signal(SIGINT, [](int) {});
-    PreviewProgram program(call);
-    const QStringList arguments{u"--temporary"_s, temporary.filePath(u"classes"_s)};
-    if (!program.start(programArguments(call, folder) + arguments)) {
+    PreviewProgram program(call, temporary.filePath(u"classes"_s));
+    if (!program.start(programArguments(call, folder))) {
         return ExitCode::File;
     }
     if (isBuild || isUnattended(call)) {
@@ -104,6 +107,7 @@ QList<QCommandLineOption> options()
                            u"DIR"_s),
         QCommandLineOption(u"script"_s, u"Run the panel without a window as the script says."_s, u"SCRIPT"_s),
         QCommandLineOption(u"state"_s, u"Where persistent variables are kept between runs."_s, u"PATH"_s),
+        QCommandLineOption(u"trust"_s, u"Run the folder of a build where nothing confines its scripts."_s),
     };
 }
 
@@ -133,7 +137,12 @@ picture for each screen. A script has one command a line:
 
 The exit code is 1 when an expectation fails, which is told with what was there, and when
 anything goes wrong on the screens. With --state, persistent variables and saved settings are
-read from PATH and written back; the window keeps them by itself.)"_s;
+read from PATH and written back; the window keeps them by itself. A file that holds anything else
+is left as it is.
+
+The scripts of a build reach the files of the build alone, no network and no program; memory and
+processor time are bounded. Where the system cannot do that (Linux does, with Landlock), the
+folder of a build needs --trust; a project does not.)"_s;
         },
     .example = "corvex preview examples/PumpStation/PumpStation.kdproj --shot out/pictures",
     .opensProjects = true,

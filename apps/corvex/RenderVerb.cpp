@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/FileHelper.h"
+#include "corvex/common/PictureFile.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/editing/graphics/CanvasScene.h"
 #include "corvex/project/Element.h"
+#include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 
@@ -108,6 +110,13 @@ ExitCode run(const Call &call, const ProjectFile &file)
                            "the project's configuration."_s.arg(name),
                            ExitCode::Problems);
     }
+    for (const DesignerObject *image : file.project().imageResources()->listItems()) {
+        const QString imageFile = static_cast<const ImageResource *>(image)->fullFilePath();
+        const QString problem = Common::PictureFile::problem(imageFile);
+        if (!problem.isEmpty() && QFileInfo::exists(imageFile)) {
+            call.terminal().complain(problem);
+        }
+    }
     QString error;
     if (!save(picture, path, error)) {
         return call.failed(error);
@@ -135,8 +144,8 @@ const Verb renderVerb{
         [] {
             return uR"(Draws a screen of the project, with the values that it has in the design, into a picture in the
 format PNG that is as large as the screen. No display is needed. With --handles the picture also
-shows where the mouse would catch an element. An image whose file is missing is drawn as a
-crossed frame.)"_s;
+shows where the mouse would catch an element. An image whose file is missing, or is a drawing that
+links to other files, is drawn as a crossed frame.)"_s;
         },
     .example = "corvex render examples/PumpStation/PumpStation.kdproj --screen Overview -o Overview.png",
     .opensProjects = true,

@@ -8,8 +8,12 @@
 #endif
 
 #ifdef CORVEX_CAN_CONFINE
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QStandardPaths>
 
 #include <array>
 #include <cerrno>
@@ -24,6 +28,8 @@
 #include <unistd.h>
 #endif
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Preview {
 
 #ifdef CORVEX_CAN_CONFINE
@@ -37,38 +43,73 @@ constexpr quint64 changes = LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_R
                             | LANDLOCK_ACCESS_FS_MAKE_SOCK | LANDLOCK_ACCESS_FS_MAKE_FIFO
                             | LANDLOCK_ACCESS_FS_MAKE_BLOCK | LANDLOCK_ACCESS_FS_MAKE_SYM;
 
-void allow(int rules, const QString &folder, quint64 access)
+constexpr quint64 reading = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
+//! Rights that a rule for a file may give.
+constexpr quint64 ofFiles = LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_READ_FILE;
+
+//! Where a program with Qt finds its parts while it runs.
+QStringList placesOfTheSystem()
 {
-    landlock_path_beneath_attr rule{};
-    rule.allowed_access = access;
-    rule.parent_fd = open(QFile::encodeName(folder).constData(), O_PATH | O_CLOEXEC);
-    if (rule.parent_fd >= 0) {
-        syscall(SYS_landlock_add_rule, rules, LANDLOCK_RULE_PATH_BENEATH, &rule, 0);
-        close(rule.parent_fd);
+    QStringList places{u"/usr/lib"_s,
+                       u"/usr/lib64"_s,
+                       u"/usr/libexec"_s,
+                       u"/usr/share"_s,
+                       u"/usr/local/lib"_s,
+                       u"/usr/local/share"_s,
+                       u"/lib"_s,
+                       u"/lib64"_s,
+                       u"/etc/fonts"_s,
+                       u"/etc/ld.so.cache"_s,
+                       u"/etc/localtime"_s,
+                       u"/var/cache/fontconfig"_s,
+                       u"/proc/self"_s,
+                       u"/sys/devices/system/cpu"_s,
+                       QCoreApplication::applicationDirPath(),
+                       QLibraryInfo::path(QLibraryInfo::LibrariesPath),
+                       QLibraryInfo::path(QLibraryInfo::PluginsPath),
+                       QLibraryInfo::path(QLibraryInfo::QmlImportsPath)};
+    places += QCoreApplication::libraryPaths();
+    places += QStandardPaths::standardLocations(QStandardPaths::FontsLocation);
+    for (const auto place : {QStandardPaths::GenericConfigLocation, QStandardPaths::GenericCacheLocation}) {
+        places.append(QStandardPaths::writableLocation(place) + u"/fontconfig"_s);
+    }
+    return places;
+}
+
+//! A place that is not there needs no rule.
+void allow(int rules, const QStringList &places, quint64 access)
+{
+    for (const QString &place : places) {
+        landlock_path_beneath_attr rule{};
+        rule.allowed_access = QFileInfo(place).isDir() ? access : access & ofFiles;
+        rule.parent_fd = open(QFile::encodeName(place).constData(), O_PATH | O_CLOEXEC);
+        if (rule.parent_fd >= 0) {
+            syscall(SYS_landlock_add_rule, rules, LANDLOCK_RULE_PATH_BENEATH, &rule, 0);
+            close(rule.parent_fd);
+        }
     }
 }
 
-void closeFiles(const QStringList &folders)
+bool closeFiles(const QStringList &readable, const QStringList &writable)
 {
     landlock_ruleset_attr handled{};
-    handled.handled_access_fs = changes;
+    handled.handled_access_fs = changes | reading;
     const int rules = int(syscall(SYS_landlock_create_ruleset, &handled, sizeof(handled), 0));
     if (rules < 0) {
-        return;
+        return false;
     }
-    for (const QString &folder : folders) {
-        QDir().mkpath(folder);
-        allow(rules, folder, changes);
-    }
-    allow(rules, QStringLiteral("/dev"), LANDLOCK_ACCESS_FS_WRITE_FILE);
+    allow(rules, placesOfTheSystem() + readable, reading);
+    allow(rules, writable, changes | reading);
+    allow(rules, {u"/dev/null"_s, u"/dev/zero"_s, u"/dev/random"_s, u"/dev/urandom"_s}, ofFiles);
     // Temporary folders go when the program ends.
-    allow(rules, QDir::tempPath(), LANDLOCK_ACCESS_FS_REMOVE_DIR);
-    syscall(SYS_landlock_restrict_self, rules, 0);
+    allow(rules, {QDir::tempPath()}, LANDLOCK_ACCESS_FS_REMOVE_DIR);
+    const bool isClosed = syscall(SYS_landlock_restrict_self, rules, 0) == 0;
     close(rules);
+    return isClosed;
 }
 
 //! Sockets within the system remain: the display is behind one.
-void closeNetworkAndPrograms()
+bool closeNetworkAndPrograms()
 {
     constexpr quint32 lowHalf = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? 0 : 4;
     constexpr quint32 firstArgument = offsetof(seccomp_data, args) + lowHalf;
@@ -85,23 +126,24 @@ void closeNetworkAndPrograms()
     sock_fprog filter{};
     filter.len = steps.size();
     filter.filter = steps.data();
-    prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter);
+    return prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) == 0;
 }
 
 } // namespace
 
-void confine(const QStringList &folders)
+bool confine(const QStringList &readable, const QStringList &writable)
 {
     // Without it neither is given to programs of ordinary users.
-    if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0) {
-        closeFiles(folders);
-        closeNetworkAndPrograms();
-    }
+    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && closeFiles(readable, writable)
+           && closeNetworkAndPrograms();
 }
 
 #else
 
-void confine(const QStringList &) { }
+bool confine(const QStringList &, const QStringList &)
+{
+    return false;
+}
 
 #endif
 

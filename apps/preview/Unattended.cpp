@@ -2,6 +2,8 @@
 #include "Unattended.h"
 
 #include "corvex/common/FileHelper.h"
+#include "corvex/preview/Bounds.h"
+#include "corvex/preview/OutsideThread.h"
 #include "corvex/preview/ScreenAudit.h"
 #include "corvex/preview/script/PanelWindow.h"
 #include "corvex/preview/script/PreviewScript.h"
@@ -34,14 +36,19 @@ bool save(PanelWindow &window, const QString &folder, const QString &name)
     QString error = u"\"%1\" is no name for a picture."_s.arg(name);
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
-    if (name != QFileInfo(name).fileName() || !Common::FileHelper::makeFolder(folder, &error)
-        || !window.picture().save(&bytes, "PNG")
-        || !Common::FileHelper::writeFile(path, bytes.data(), &error)) {
-        complain(error);
-        return false;
+    bool isSaved = name == QFileInfo(name).fileName() && window.picture().save(&bytes, "PNG");
+    if (isSaved) {
+        OutsideThread::run([&] {
+            isSaved = Common::FileHelper::makeFolder(folder, &error)
+                      && Common::FileHelper::writeFile(path, bytes.data(), &error);
+        });
     }
-    print(path);
-    return true;
+    if (isSaved) {
+        print(path);
+    } else {
+        complain(error);
+    }
+    return isSaved;
 }
 
 Exit shootAll(PreviewSession &session, PanelWindow &window, const QString &folder)
@@ -63,7 +70,13 @@ Exit shootAll(PreviewSession &session, PanelWindow &window, const QString &folde
 Exit runScript(PreviewSession &session, PanelWindow &window, const QString &scriptFile, const QString &folder)
 {
     QFile file(scriptFile);
-    if (!file.open(QIODevice::ReadOnly)) {
+    QByteArray text;
+    OutsideThread::run([&file, &text] {
+        if (file.open(QIODevice::ReadOnly)) {
+            text = file.read(Bounds::longestFile); // of a pipe, too
+        }
+    });
+    if (!file.isOpen()) {
         complain(u"\"%1\" cannot be read: %2"_s.arg(scriptFile, file.errorString()));
         return Exit::File;
     }
@@ -71,7 +84,7 @@ Exit runScript(PreviewSession &session, PanelWindow &window, const QString &scri
         return save(window, folder.isEmpty() ? u"."_s : folder, name);
     };
     PreviewScript script(session, window, shoot);
-    const QStringList failures = script.run(QString::fromUtf8(file.readAll()));
+    const QStringList failures = script.run(QString::fromUtf8(text));
     for (const QString &failure : failures) {
         print(u"%1:%2"_s.arg(scriptFile, failure));
     }

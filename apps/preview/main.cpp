@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// corvex-preview FOLDER [--audit] [--shot DIR] [--script FILE] [--state FILE] [--temporary DIR]: runs a build
-// on the desktop, in a window unless there is a picture to take or a script to follow.
+// corvex-preview FOLDER [--audit] [--shot DIR] [--script FILE] [--state FILE] [--temporary DIR] [--trust]:
+// runs a build on the desktop, in a window unless there is a picture to take or a script to follow.
 #include "corvex/common/TemporaryFolder.h"
+#include "corvex/preview/Bounds.h"
+#include "corvex/preview/OutsideThread.h"
 #include "corvex/preview/StandIns.h"
 #include "corvex/preview/window/PreviewWindow.h"
 
@@ -52,25 +54,36 @@ Exit runInWindow(const QString &folder, const QString &stateFile)
     return QApplication::exec() == 0 ? Exit::Done : Exit::File;
 }
 
-//! Where the options ask for files.
-QStringList ownFolders(const QCommandLineParser &parser)
+/*! Takes from the program what a build does not need. False, once the user has been told, for a build that
+   nobody vouches for on a system that lets every program do everything. */
+bool giveUpRights(const QCommandLineParser &parser, const QString &folder)
 {
+    OutsideThread::start();
     if (parser.isSet(u"temporary"_s)) {
         StandIns::keepBoxesIn(parser.value(u"temporary"_s));
     } else {
         static const Halvane::Corvex::Common::TemporaryFolder temporary(u"corvex-classes"_s);
         StandIns::keepBoxesIn(QDir::cleanPath(temporary.filePath(QString())));
     }
-    QStringList folders{StandIns::boxFolder()};
-    if (parser.isSet(u"state"_s)) {
-        folders.append(QFileInfo(parser.value(u"state"_s)).absolutePath());
+    const QString boxes = StandIns::boxFolder();
+    QDir().mkpath(boxes);
+    Bounds::set(boxes);
+    QStringList readable{folder};
+    if (parser.isSet(u"trust"_s)) {
+        readable.append(QFileInfo(folder).absolutePath()); // where the next build takes its place
     }
-    if (parser.isSet(u"shot"_s)) {
-        folders.append(parser.value(u"shot"_s));
-    } else if (parser.isSet(u"script"_s)) {
-        folders.append(u"."_s);
+    const bool isConfined = confine(readable, {boxes});
+    if (!isConfined && !parser.isSet(u"trust"_s)) {
+        complain(
+            u"This system cannot keep a program from files and networks (Linux does, with Landlock), and "
+            "\"%1\" may hold anybody's scripts. Give the project itself, or --trust for a build of which "
+            "you know who has made it."_s.arg(folder));
+        return false;
     }
-    return folders;
+    if (!isConfined) {
+        complain(u"The scripts of the build are not confined, since this system has no Landlock."_s);
+    }
+    return true;
 }
 
 Exit run(const QCommandLineParser &parser, bool isUnattended)
@@ -80,14 +93,16 @@ Exit run(const QCommandLineParser &parser, bool isUnattended)
         return Exit::Usage;
     }
     const QString folder = parser.positionalArguments().constFirst();
-    confine(ownFolders(parser));
+    if (!giveUpRights(parser, folder)) {
+        return Exit::File;
+    }
     if (!isUnattended) {
         return runInWindow(folder, parser.value(u"state"_s));
     }
     PreviewSession session;
-    session.keepStateIn(parser.value(u"state"_s));
     QString error;
-    if (!session.open(folder, &error)) {
+    if ((parser.isSet(u"state"_s) && !session.keepStateIn(parser.value(u"state"_s), &error))
+        || !session.open(folder, &error)) {
         complain(error);
         return Exit::File;
     }
@@ -117,7 +132,8 @@ int main(int argc, char **argv)
                        {u"script"_s, u"What to do with the panel."_s, u"FILE"_s},
                        {u"audit"_s, u"What is wrong with the screens, as JSON."_s},
                        {u"state"_s, u"Where persistent variables are kept."_s, u"PATH"_s},
-                       {u"temporary"_s, u"A folder for what goes with the program."_s, u"DIR"_s}});
+                       {u"temporary"_s, u"A folder for what goes with the program."_s, u"DIR"_s},
+                       {u"trust"_s, u"The build is the user's own."_s}});
     parser.addPositionalArgument(u"FOLDER"_s, u"The folder of a build."_s);
     parser.process(*application);
     return int(run(parser, isUnattended));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "elements/GraphicsImage.h"
 
+#include "corvex/common/PictureFile.h"
 #include "corvex/project/ImageResource.h"
 
 #include <QFileInfo>
@@ -16,7 +17,7 @@ namespace Halvane::Corvex::Elements {
 namespace {
 
 //! The picture of a file as it is now; drawn anew for each size when it is made of lines. Null when it cannot
-//! be read.
+//! be read, or would have other files read.
 QPixmap pictureOf(const QFileInfo &file, const QSize &size)
 {
     const bool isDrawing = file.suffix().compare("svg"_L1, Qt::CaseInsensitive) == 0;
@@ -25,7 +26,8 @@ QPixmap pictureOf(const QFileInfo &file, const QSize &size)
         u"%1|%2|%3x%4"_s.arg(file.filePath(), QString::number(file.lastModified().toMSecsSinceEpoch()),
                              QString::number(wanted.width()), QString::number(wanted.height()));
     QPixmap picture;
-    if (file.isFile() && !QPixmapCache::find(key, &picture)) {
+    if (!QPixmapCache::find(key, &picture) && file.isFile()
+        && Common::PictureFile::problem(file.filePath()).isEmpty()) {
         QImageReader reader(file.filePath());
         if (isDrawing) {
             reader.setScaledSize(wanted);

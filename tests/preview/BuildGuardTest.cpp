@@ -3,12 +3,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QImage>
 #include <QTcpServer>
 #include <QTest>
+#include <QWindow>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using namespace testing;
@@ -154,6 +157,39 @@ TEST_F(BuildGuardTest, readsWhatIsInTheBuild)
                 address(u"link.png"_s)),
             u"Main.link: QML Image: Cannot open: qrc:/refused/%1"_s.arg(address(u"link.png"_s)),
             u"Main: \"%1\" is not shown: the preview starts no other program."_s.arg(address(u"own.png"_s))));
+}
+
+TEST_F(BuildGuardTest, readsNoFileFurtherAndOpensNoWindow)
+{
+    const QByteArray far = outside.path(u"beside.png"_s).toUtf8();
+    build.write(u"drawing.svg"_s,
+                "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink'>"
+                "<image xlink:href='"
+                    + far + "' width='8' height='8'/></svg>");
+    for (const QString &name : {u"pipe.png"_s, u"Pipe.qml"_s}) {
+        ASSERT_EQ(mkfifo(QFile::encodeName(build.path(name)).constData(), 0600), 0);
+    }
+    const auto startsWith = [](const QString &start) {
+        return Contains(ResultOf([](const QString &problem) { return problem.toStdString(); },
+                                 StartsWith(start.toStdString())));
+    };
+    const QStringList problems =
+        problemsOf("Image { source: 'drawing.svg' }\nImage { source: 'pipe.png' }\n"
+                   "Component.onCompleted: { Qt.createComponent('Pipe.qml'); "
+                   "Qt.createQmlObject('import QtQuick 2.15; Window { visible: true }', qml_Main) }");
+    EXPECT_THAT(problems,
+                startsWith(u"Main: \"%1\" is not drawn: it links to "_s.arg(build.path(u"drawing.svg"_s))));
+    EXPECT_THAT(problems, startsWith(u"Main: \"%1\" is not read: "_s.arg(build.path(u"pipe.png"_s))));
+    EXPECT_THAT(problems, startsWith(u"Main: \"%1\" is not read: "_s.arg(build.path(u"Pipe.qml"_s))));
+    EXPECT_THAT(problems, startsWith(u"Main: A window of its own is not opened"_s));
+    for (const QWindow *window : QGuiApplication::topLevelWindows()) {
+        EXPECT_FALSE(window->isVisible());
+    }
+
+    ASSERT_TRUE(QFile::remove(build.path(u"config.kdrc"_s)));
+    ASSERT_EQ(mkfifo(QFile::encodeName(build.path(u"config.kdrc"_s)).constData(), 0600), 0);
+    EXPECT_THAT(TestPanel(build).problems(),
+                startsWith(u"config.kdrc: \"%1\" is not read: "_s.arg(build.path(u"config.kdrc"_s))));
 }
 
 } // namespace Halvane::Corvex::Preview

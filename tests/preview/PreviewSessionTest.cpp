@@ -228,8 +228,37 @@ TEST(PreviewSession, keepsWhatOutlivesTheDevice)
                 IsEmpty());
     TestPanel panel(build, state);
     EXPECT_THAT(panel.run("expect kept 5; expect lost 1; expect box.color blue; expect box.x 7"), IsEmpty());
-    build.write(u"state/kept.json"_s, "[");
-    EXPECT_THAT(TestPanel(build, state).problems(), ElementsAre(startingWith("\"")));
+}
+
+TEST(PreviewSession, writesNoFileButItsOwn)
+{
+    TestBuild build;
+    build.addVariable(u"kept"_s, EnumHelper::IntegerVariable, 1, true);
+    build.writeConfiguration();
+    build.addScreen("Main", "");
+    const QString state = build.path(u"kept.json"_s);
+    for (const char *content : {"", "[", "{}", R"({"kept": "1"})", "<Project/>", "\x89PNG\r\n"}) {
+        build.write(u"kept.json"_s, content);
+        const TestPanel panel(build, state);
+        EXPECT_FALSE(panel.isOpen) << content;
+        EXPECT_TRUE(panel.error.contains(u"holds no saved values of a preview"_s)) << qPrintable(panel.error);
+    }
+    // One that is exchanged while the panel runs is not written either.
+    QFile::remove(state);
+    {
+        TestPanel panel(build, state);
+        EXPECT_THAT(panel.run("set kept 5"), IsEmpty());
+        build.write(u"kept.json"_s, "theirs");
+        panel.session.flushState();
+        EXPECT_THAT(panel.problems(), ElementsAre(startingWith("\"")));
+    }
+    QFile file(state);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "theirs");
+    QFile::remove(state);
+    ASSERT_TRUE(QFile::link(build.path(u"elsewhere"_s), state));
+    EXPECT_FALSE(TestPanel(build, state).isOpen);
+    EXPECT_FALSE(QFile::exists(build.path(u"elsewhere"_s)));
 }
 
 TEST(PreviewSession, looksAtItsScreens)

@@ -52,9 +52,9 @@ void TestBuild::writeConfiguration(const QString &defaultScreen, const QString &
 
 TestPanel::TestPanel(const TestBuild &build, const QString &stateFile)
 {
-    session.keepStateIn(stateFile);
     session.panel().watchdog().setLimit(300);
-    isOpen = session.open(build.path(), &error);
+    isOpen =
+        (stateFile.isEmpty() || session.keepStateIn(stateFile, &error)) && session.open(build.path(), &error);
     m_window = std::make_unique<PanelWindow>(session);
     session.settle();
 }

@@ -2,6 +2,7 @@
 #include "corvex/common/FileHelper.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/PictureFile.h"
 #include "corvex/common/SafeFile.h"
 #include "corvex/common/VariantStream.h"
 
@@ -236,6 +237,7 @@ bool FileHelper::isValidImage(const QString &path, QString *format)
             whole = canBeDecoded(file, found);
         } else if (hasSvgRoot(file, whole)) {
             found = u"svg"_s;
+            whole = whole && PictureFile::problem(path).isEmpty();
         }
     }
     if (format)

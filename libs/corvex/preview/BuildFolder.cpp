@@ -2,7 +2,9 @@
 #include "corvex/preview/BuildFolder.h"
 
 #include "corvex/common/FileHelper.h"
+#include "corvex/common/RegularFile.h"
 #include "corvex/common/TextHelper.h"
+#include "corvex/preview/Bounds.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -42,13 +44,14 @@ bool BuildFolder::findScreens()
 {
     const QDir folder(m_path);
     for (const QString &name : folder.entryList({u"qml_?*.qml"_s}, QDir::Files, QDir::Name)) {
-        QFile file(folder.filePath(name));
-        if (!file.open(QIODevice::ReadOnly)) {
-            m_problems.append({name, file.errorString()});
+        QByteArray bytes;
+        QString error;
+        if (!Common::RegularFile::read(folder.filePath(name), Bounds::longestFile, &bytes, &error)) {
+            m_problems.append({name, error});
             continue;
         }
         m_screens.insert(name.chopped(4),
-                         {folder.absoluteFilePath(name), QmlOutline(QString::fromUtf8(file.readAll()))});
+                         {folder.absoluteFilePath(name), QmlOutline(QString::fromUtf8(bytes))});
     }
     return !m_screens.isEmpty();
 }
@@ -58,6 +61,11 @@ void BuildFolder::readConfiguration()
     const QString path = QDir(m_path).filePath(configurationFile);
     if (!QFile::exists(path)) {
         m_problems.append({configurationFile, u"The file is missing, so there are no variables."_s});
+        return;
+    }
+    const QString problem = Common::RegularFile::problem(path, Bounds::longestFile);
+    if (!problem.isEmpty()) {
+        m_problems.append({configurationFile, problem + u" There are no variables."_s});
         return;
     }
     bool ok = false;

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/preview/BuildGuard.h"
 
+#include "corvex/common/PictureFile.h"
+#include "corvex/common/RegularFile.h"
+#include "corvex/preview/Bounds.h"
+
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -9,6 +14,7 @@
 #include <QQmlEngine>
 #include <QRegularExpression>
 #include <QSet>
+#include <QWindow>
 #include <qqml.h>
 
 #include <array>
@@ -91,6 +97,8 @@ void BuildGuard::guard(QQmlEngine &engine)
     for (const QString &scheme : ourSchemes) {
         QDesktopServices::setUrlHandler(scheme, this, "refuseToShow");
     }
+    m_engine = &engine;
+    QCoreApplication::instance()->installEventFilter(this);
     engine.addUrlInterceptor(this);
     engine.setNetworkAccessManagerFactory(this);
 }
@@ -164,17 +172,45 @@ QUrl BuildGuard::moduleFile(const QUrl &url)
     return QUrl(u"qrc:/corvex/preview/qmldir"_s);
 }
 
+bool BuildGuard::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *window = event->type() == QEvent::Show ? qobject_cast<QWindow *>(watched) : nullptr;
+    if (window && qmlEngine(window) == m_engine) {
+        emit refused(u"A window of its own is not opened: a panel has one screen at a time."_s);
+        QMetaObject::invokeMethod(window, &QWindow::destroy, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+//! What is wrong with a file that may be read by its place. A picture may lead further.
+QString BuildGuard::fileProblem(const QUrl &url, DataType type) const
+{
+    const QString path = url.toLocalFile();
+    if (!QFileInfo::exists(path)) {
+        return {};
+    }
+    return type == UrlString ? Common::PictureFile::problem(path)
+                             : Common::RegularFile::problem(path, Bounds::longestFile);
+}
+
 QUrl BuildGuard::intercept(const QUrl &url, DataType type)
 {
     if (type == QmldirFile) {
         return moduleFile(url);
     }
-    const bool isFile = url.isLocalFile() && type != JavaScriptFile;
-    if (url.isEmpty() || isOurs(url) || (isFile && isAllowed(url.toLocalFile()))) {
+    if (url.isEmpty() || isOurs(url)) {
         return url;
     }
-    emit refused(u"\"%1\" is not opened: the preview reads the files of the build alone."_s.arg(
-        url.toString(QUrl::RemoveUserInfo)));
+    const bool isFile = url.isLocalFile() && type != JavaScriptFile;
+    QString problem = u"\"%1\" is not opened: the preview reads the files of the build alone."_s.arg(
+        url.toString(QUrl::RemoveUserInfo));
+    if (isFile && isAllowed(url.toLocalFile())) {
+        problem = fileProblem(url, type);
+    }
+    if (problem.isEmpty()) {
+        return url;
+    }
+    emit refused(problem);
     return nothingFor(url);
 }
 

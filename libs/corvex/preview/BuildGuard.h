@@ -29,6 +29,8 @@ public:
     void guard(QQmlEngine &engine);
     //! The folders whose files may be read; before any document is loaded.
     void allow(const QStringList &folders);
+    //! Closes a window that a document of the engine opens.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     QUrl intercept(const QUrl &url, DataType type) override;
     QNetworkAccessManager *create(QObject *parent) override;
@@ -44,9 +46,11 @@ private:
     static void lockModule(const QString &module);
     QUrl moduleFile(const QUrl &url);
     bool isAllowed(const QString &path) const;
+    QString fileProblem(const QUrl &url, DataType type) const;
 
     QStringList m_importPaths; //!< the folders of modules, each with "/" at its end
     QStringList m_folders;
+    QQmlEngine *m_engine = nullptr;
 };
 
 } // namespace Halvane::Corvex::Preview

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/preview/Panel.h"
 
+#include "corvex/preview/Bounds.h"
+
 #include <QQuickItem>
 
 using namespace Qt::StringLiterals;
@@ -61,12 +63,15 @@ void Panel::report(const QObject *element, const QString &message)
 ScriptScope::ScriptScope(Panel &panel, const QString &element)
     : m_panel(panel)
     , m_element(element)
+    , m_placeBefore(Bounds::enter(element))
 {
+    Bounds::renew();
     m_panel.watchdog().enter();
 }
 
 ScriptScope::~ScriptScope()
 {
+    Bounds::enter(m_placeBefore);
     if (m_panel.m_stopped.isEmpty() && m_panel.engine().isInterrupted()) {
         m_panel.m_stopped = m_element;
     }

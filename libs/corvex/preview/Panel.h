@@ -67,6 +67,7 @@ public:
 private:
     Panel &m_panel;
     QString m_element;
+    QString m_placeBefore;
 };
 
 } // namespace Halvane::Corvex::Preview

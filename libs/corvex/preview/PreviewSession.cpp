@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/preview/PreviewSession.h"
 
+#include "corvex/preview/Bounds.h"
 #include "corvex/preview/StandIns.h"
 #include "corvex/preview/Viewer.h"
 
@@ -30,6 +31,12 @@ PreviewSession::PreviewSession(QObject *parent)
 PreviewSession::~PreviewSession()
 {
     removeScreen();
+}
+
+bool PreviewSession::keepStateIn(const QString &file, QString *error)
+{
+    m_isStateKept = m_state.open(file, error);
+    return m_isStateKept;
 }
 
 bool PreviewSession::load(const QString &path, QString *error)
@@ -117,12 +124,8 @@ void PreviewSession::addVariable(const QString &name, const QVariantMap &record)
 
 void PreviewSession::restoreState()
 {
-    if (m_stateFile.isEmpty()) {
+    if (!m_isStateKept) {
         return;
-    }
-    QString error;
-    if (!m_state.open(m_stateFile, &error)) {
-        m_panel->problems().report(QString(), error);
     }
     connect(&m_state, &SavedState::failed, this,
             [this](const QString &message) { m_panel->problems().report(QString(), message); });
@@ -186,6 +189,7 @@ bool PreviewSession::showScreen(const QString &name)
     }
     removeScreen();
     m_screenId = id;
+    Bounds::enter(name);
     const ScriptScope scope(*m_panel, name);
     m_screen = makeScreen(id);
     if (m_screen) {

@@ -23,8 +23,9 @@ public:
     explicit PreviewSession(QObject *parent = nullptr);
     ~PreviewSession() override;
 
-    //! Where the panel keeps what outlives it; before open.
-    void keepStateIn(const QString &file) { m_stateFile = file; }
+    /*! Where the panel keeps what outlives it; before open. False, with a text for the user, for a file that
+        holds something else. */
+    bool keepStateIn(const QString &file, QString *error);
     //! Writes what is not in that file yet.
     void flushState() { m_state.flush(); }
     /*! Reads a build, of which a thread of its own then reads the first screen. False, with a text for the
@@ -70,7 +71,7 @@ private:
     QQuickItem *makeScreen(const QString &id);
     void removeScreen();
 
-    QString m_stateFile;
+    bool m_isStateKept = false;
     BuildFolder m_build;
     SavedState m_state;
     AutoSettings m_settings;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/preview/ScreenAudit.h"
 
+#include "corvex/common/PictureFile.h"
 #include "corvex/preview/Panel.h"
 
 #include <QColor>
@@ -64,7 +65,11 @@ bool isOpaqueImage(const QQuickItem *item)
     }
     const QQmlContext *context = qmlContext(item);
     const QUrl source = item->property("source").toUrl();
-    const QImageReader reader(QQmlFile::urlToLocalFileOrQrc(context ? context->resolvedUrl(source) : source));
+    const QString file = QQmlFile::urlToLocalFileOrQrc(context ? context->resolvedUrl(source) : source);
+    if (!Common::PictureFile::problem(file).isEmpty()) {
+        return false;
+    }
+    const QImageReader reader(file);
     const QImage::Format format = reader.imageFormat();
     return format != QImage::Format_Invalid
            && QImage::toPixelFormat(format).alphaUsage() == QPixelFormat::IgnoresAlpha;

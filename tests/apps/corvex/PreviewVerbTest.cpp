@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Sandbox.h"
 
+#include <QFile>
 #include <QImage>
 
 #include <gtest/gtest.h>
-
+#include <sys/stat.h>
 #ifdef Q_OS_LINUX
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -114,14 +115,83 @@ TEST_F(PreviewVerb, leavesTheRestOfTheMachineAlone)
     sandbox.write(u"script"_s, "shot before\nset speed 8\n");
     const ProgramRun run = preview(u"out"_s, {u"--script"_s, u"script"_s, u"--shot"_s, u"pictures"_s});
     EXPECT_TRUE(run.error.contains(u"out/project/qmldir\" is not read"_s)) << qPrintable(run.error);
-    EXPECT_TRUE(run.error.contains(u"pictures true \uFFFD[2J\n"_s)) << qPrintable(run.error);
     EXPECT_EQ(run.code, 1);
     if (!hasLandlock()) {
         GTEST_SKIP() << "the system does not keep programs from writing files";
     }
+    EXPECT_TRUE(run.error.contains(u"pictures false \uFFFD[2J\n"_s)) << qPrintable(run.error);
     EXPECT_TRUE(run.error.contains(u". false "_s)) << qPrintable(run.error);
-    EXPECT_EQ(sandbox.files(u"."_s).filter(u"sent.png"_s), QStringList(u"pictures/sent.png"_s));
+    EXPECT_EQ(sandbox.files(u"."_s).filter(u"sent.png"_s), QStringList());
+
+    // Markup asks no engine about the files that it names.
+    QImage secret(8, 8, QImage::Format_RGB32);
+    secret.fill(Qt::red);
+    ASSERT_TRUE(secret.save(sandbox.path(u"secret.png"_s)));
+    sandbox.write(u"out/project/qml_Main.qml"_s,
+                  "import QtQuick 2.0 as Q\nQ.TextEdit { objectName: 'Main'; width: 20;"
+                  "height: 20; textFormat: Q.TextEdit.RichText; text: '<img src=\""
+                      + sandbox.path(u"secret.png"_s).toUtf8() + "\">' }");
+    EXPECT_TRUE(
+        preview(u"out"_s, {u"--shot"_s, u"pictures"_s}).error.contains(u"Main: QML TextEdit: Cannot open"_s));
+    EXPECT_NE(QImage(sandbox.path(u"pictures/Main.png"_s)).pixelColor(4, 4), QColor(Qt::red));
 }
+
+TEST_F(PreviewVerb, endsWhereABuildTakesTooMuch)
+{
+    ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer maps more memory than a preview may have";
+#endif
+    static constexpr std::pair<const char *, const char *> documents[] = {
+        {"import RuntimeObjects 2.0\nScreen { objectName: 'Main'; property var all: new Array(1e9).fill(1) }",
+         "The preview was ended at \"Main\": it needed more than 2 GB"},
+        {"import QtQuick 2.0 as Q\nimport RuntimeObjects 2.0\nScreen { objectName: 'Main'\n"
+         "functions: [ Button { objectName: 'touched'; visualElement: box; "
+         "onPressed: { new Array(1e9).fill(1) } } ]\n"
+         "Rectangle { id: box; objectName: 'box'; width: 20; height: 20 } }",
+         "The preview was ended at \"Main.touched\": it needed more than 2 GB"},
+        {"import QtQuick 2.0\nCanvas { objectName: 'Main'; width: 20; height: 20; onPaint: getContext('2d')\n"
+         "onPainted: save('sent.png') }",
+         "or a script called itself without end"},
+    };
+    sandbox.write(u"script"_s, "show Main\npress box\nshot after\n");
+    for (const auto &[document, sentence] : documents) {
+        sandbox.write(u"out/project/qml_Main.qml"_s, document);
+        const ProgramRun run = preview(u"out"_s, {u"--script"_s, u"script"_s});
+        EXPECT_TRUE(run.error.contains(QString::fromUtf8(sentence))) << qPrintable(run.error);
+        EXPECT_EQ(run.code, 3) << document;
+    }
+}
+
+TEST_F(PreviewVerb, keepsItsStateInNoFileOfOthers)
+{
+    const QByteArray project = sandbox.read(pump);
+    sandbox.write(u"script"_s, "set speed 8\n");
+    EXPECT_EQ(preview(pump, {u"--script"_s, u"script"_s, u"--state"_s, pump}).code, 3);
+    EXPECT_EQ(sandbox.read(pump), project);
+    ASSERT_EQ(mkfifo(QFile::encodeName(sandbox.path(u"pipe"_s)).constData(), 0600), 0);
+    const ProgramRun run = preview(pump, {u"--script"_s, u"script"_s, u"--state"_s, u"pipe"_s});
+    EXPECT_EQ(run.error, u"corvex: \"pipe\" is not read: it is not a regular file.\n"_s);
+    EXPECT_EQ(run.code, 3);
+}
+
+#ifdef SYS_landlock_create_ruleset
+TEST_F(PreviewVerb, trustsNoBuildWhereNothingConfinesIt)
+{
+    ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
+    sandbox.deny(SYS_landlock_create_ruleset);
+    const QStringList shot{u"--shot"_s, u"pictures"_s};
+    const ProgramRun stranger = preview(u"out"_s, shot);
+    EXPECT_TRUE(stranger.error.contains(u"--trust"_s)) << qPrintable(stranger.error);
+    EXPECT_EQ(stranger.code, 3);
+    for (const ProgramRun &run : {preview(u"out"_s, shot + QStringList{u"--trust"_s}), preview(pump, shot)}) {
+        EXPECT_EQ(
+            run.error,
+            u"corvex: The scripts of the build are not confined, since this system has no Landlock.\n"_s);
+        EXPECT_EQ(run.code, 0);
+    }
+}
+#endif
 
 TEST_F(PreviewVerb, walksThroughThePumpStation)
 {

@@ -18,7 +18,7 @@ struct ProgramRun
     QJsonValue json() const;
 };
 
-//! Runs the program in \a folder, the current one unless given.
-ProgramRun corvex(const QStringList &arguments, const QString &folder = {});
+//! Runs the program in \a folder, the current one unless given, on a system that lacks a system call.
+ProgramRun corvex(const QStringList &arguments, const QString &folder = {}, long denied = -1);
 
 } // namespace Halvane::Corvex::Test

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Sandbox.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QJsonObject>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace Halvane::Corvex::Test;
 using namespace Qt::StringLiterals;
@@ -83,5 +86,33 @@ TEST_F(RenderVerb, tellsWhatIsWrong)
         EXPECT_EQ(run.code, code) << qPrintable(options.join(u' '));
         EXPECT_TRUE(run.error.contains(says)) << qPrintable(run.error);
         EXPECT_FALSE(QFileInfo::exists(sandbox.path(u"x.png"_s)));
+    }
+}
+
+TEST_F(RenderVerb, drawsNothingThatADrawingLinksTo)
+{
+    QImage secret(8, 8, QImage::Format_RGB32);
+    secret.fill(Qt::blue);
+    ASSERT_TRUE(secret.save(sandbox.path(u"secret.png"_s)));
+    ASSERT_EQ(mkfifo(QFile::encodeName(sandbox.path(u"pipe"_s)).constData(), 0600), 0);
+    for (const QString &target : {u"secret.png"_s, u"pipe"_s}) {
+        Sandbox other;
+        other.makeProject(
+            Sandbox::object(
+                "Image", "sign",
+                Sandbox::value("size", "height: 40; width: 40;")
+                    + Sandbox::value("source",
+                                     "filterType: ImageResource; objectId: a.svg; scopeType: Project;")),
+            {}, Sandbox::object("ImageResource", "a.svg", {}, "Project"));
+        QDir().mkpath(other.path(u"Pump/Images"_s));
+        other.write(u"Pump/Images/a.svg"_s,
+                    "<svg xmlns='http://www.w3.org/2000/svg' width='40' height='40' "
+                    "xmlns:xlink='http://www.w3.org/1999/xlink'><image width='40' height='40' xlink:href='"
+                        + sandbox.path(target).toUtf8() + "'/></svg>");
+        const ProgramRun run =
+            other.run({u"render"_s, pump, u"--screen"_s, u"Main"_s, u"-o"_s, u"main.png"_s});
+        EXPECT_TRUE(run.error.contains(u"a.svg\" is not drawn: it links to "_s)) << qPrintable(run.error);
+        EXPECT_EQ(run.code, 0);
+        EXPECT_NE(QImage(other.path(u"main.png"_s)).pixelColor(10, 20), QColor(Qt::blue));
     }
 }

@@ -13,7 +13,12 @@ class Sandbox
 public:
     QString path(const QString &name) const { return m_folder.filePath(name); }
     //! Runs the program in this folder.
-    ProgramRun run(const QStringList &arguments) const { return corvex(arguments, m_folder.path()); }
+    ProgramRun run(const QStringList &arguments) const
+    {
+        return corvex(arguments, m_folder.path(), m_denied);
+    }
+    //! A system call that the system does not have for the program from now on, on Linux.
+    void deny(long systemCall) { m_denied = systemCall; }
 
     QByteArray read(const QString &name) const;
     void write(const QString &name, const QByteArray &bytes) const;
@@ -34,6 +39,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    long m_denied = -1;
 };
 
 } // namespace Halvane::Corvex::Test

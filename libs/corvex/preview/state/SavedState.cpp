@@ -2,9 +2,10 @@
 #include "corvex/preview/state/SavedState.h"
 
 #include "corvex/common/FileHelper.h"
+#include "corvex/common/RegularFile.h"
+#include "corvex/preview/Bounds.h"
+#include "corvex/preview/OutsideThread.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -16,6 +17,31 @@ namespace Halvane::Corvex::Preview {
 namespace {
 
 constexpr int writeDelay = 500;
+const QString formatKey = u"format"_s;
+const QString formatName = u"corvex preview state"_s;
+const QString valuesKey = u"values"_s;
+
+//! The values of a file of ours; none of a file that is not there. False, with a text, for any other.
+bool readValues(const QString &path, QJsonObject *values, QString *error)
+{
+    const QFileInfo file(path);
+    if (!file.exists() && !file.isSymbolicLink()) {
+        return true;
+    }
+    QByteArray bytes;
+    if (!Common::RegularFile::read(path, Bounds::longestFile, &bytes, error,
+                                   Common::RegularFile::Links::Refuse)) {
+        return false;
+    }
+    const QJsonObject content = QJsonDocument::fromJson(bytes).object();
+    if (content.value(formatKey) != formatName) {
+        *error = u"\"%1\" holds no saved values of a preview, and is left as it is. Name another file."_s.arg(
+            path);
+        return false;
+    }
+    *values = content.value(valuesKey).toObject();
+    return true;
+}
 
 } // namespace
 
@@ -41,20 +67,13 @@ void SavedState::flush()
 
 bool SavedState::open(const QString &path, QString *error)
 {
-    m_path = path;
-    QFile file(path);
-    if (!file.exists()) {
-        return true;
-    }
-    QJsonParseError parsing;
-    const QJsonDocument document =
-        file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll(), &parsing) : QJsonDocument();
-    if (!document.isObject()) {
-        *error = u"\"%1\" holds no saved values: %2."_s.arg(path, file.isOpen() ? parsing.errorString()
-                                                                                : file.errorString());
+    QJsonObject values;
+    bool isOurs = false;
+    OutsideThread::run([&] { isOurs = readValues(path, &values, error); });
+    if (!isOurs) {
         return false;
     }
-    const QJsonObject values = document.object();
+    m_path = path;
     for (auto value = values.begin(); value != values.end(); ++value) {
         m_values.insert(value.key(), value.value().toString());
     }
@@ -79,10 +98,17 @@ void SavedState::write()
     for (const auto &[name, value] : m_values.asKeyValueRange()) {
         values.insert(name, value);
     }
+    const QJsonObject content{{formatKey, formatName}, {valuesKey, values}};
     QString error;
-    if (!QDir().mkpath(QFileInfo(m_path).absolutePath())
-        || !Common::FileHelper::writeFile(m_path, QJsonDocument(values).toJson(), &error)) {
-        emit failed(error.isEmpty() ? u"\"%1\" cannot be written."_s.arg(m_path) : error);
+    OutsideThread::run([this, &content, &error] {
+        QJsonObject known;
+        if (readValues(m_path, &known, &error)
+            && Common::FileHelper::makeFolder(QFileInfo(m_path).absolutePath(), &error)) {
+            Common::FileHelper::writeFile(m_path, QJsonDocument(content).toJson(), &error);
+        }
+    });
+    if (!error.isEmpty()) {
+        emit failed(error);
     }
 }
 

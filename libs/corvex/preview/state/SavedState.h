@@ -9,7 +9,7 @@
 namespace Halvane::Corvex::Preview {
 
 /*! What a panel keeps when it is switched off: texts of values by the names of variables and by the paths of
-    properties ("Main.box.color"). A file of JSON; without one nothing is kept. */
+    properties ("Main.box.color"). A file of JSON that says what it is; without one nothing is kept. */
 class SavedState : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,8 @@ public:
     //! Flushes.
     ~SavedState() override;
 
-    //! False, with a text for the user, for a file that is there and cannot be read; it will be replaced.
+    /*! False, with a text for the user, for a file that is there and holds no saved values, and for links and
+        pipes; such a file is never written. */
     bool open(const QString &path, QString *error);
     bool contains(const QString &name) const { return m_values.contains(name); }
     QString value(const QString &name) const { return m_values.value(name); }

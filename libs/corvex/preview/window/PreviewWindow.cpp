@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/preview/window/PreviewWindow.h"
 
+#include "corvex/preview/Bounds.h"
 #include "corvex/preview/window/ChannelsView.h"
 #include "corvex/preview/window/PanelView.h"
 #include "corvex/preview/window/ProblemsModel.h"
@@ -161,7 +162,9 @@ bool PreviewWindow::open(const QString &folder, const QString &stateFile, QStrin
     m_stateFile = stateFile;
     m_stamp = BuildFolder::stampOf(folder);
     auto session = std::make_unique<PreviewSession>();
-    session->keepStateIn(stateFile);
+    if (!stateFile.isEmpty() && !session->keepStateIn(stateFile, error)) {
+        return false;
+    }
     if (!session->load(folder, error)) {
         return false;
     }
@@ -217,6 +220,7 @@ void PreviewWindow::reload()
 
 void PreviewWindow::reloadIfNew()
 {
+    Bounds::renew();
     if (BuildFolder::stampOf(m_folder) != m_stamp) {
         reload();
     }
