@@ -9,6 +9,7 @@
 #include <cstring>
 #include <exception>
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace Halvane::Corvex::Preview {
 
@@ -32,6 +33,16 @@ void limit(decltype(RLIMIT_AS) resource, rlim_t most)
     }
 }
 
+#ifndef __SANITIZE_ADDRESS__
+rlim_t addressesInUse()
+{
+    QFile file(QStringLiteral("/proc/self/statm")); // the first number, in pages
+    return file.open(QIODevice::ReadOnly)
+               ? file.readLine().split(' ').constFirst().toULongLong() * getpagesize()
+               : 0;
+}
+#endif
+
 void mapPlace(const QString &folder)
 {
     static QFile file;
@@ -48,7 +59,7 @@ void Bounds::set(const QString &folder)
     mapPlace(folder);
     s_isSet = true;
 #ifndef __SANITIZE_ADDRESS__ // which maps far more than it uses
-    limit(RLIMIT_AS, rlim_t(memory));
+    limit(RLIMIT_AS, rlim_t(memory) + addressesInUse());
 #endif
     limit(RLIMIT_NOFILE, mostOpenFiles);
     limit(RLIMIT_FSIZE, longestWritten);

@@ -11,6 +11,7 @@ namespace Halvane::Corvex::Preview {
 class Bounds
 {
 public:
+    //! Addresses, beside those that the program has before: drivers of displays reserve many.
     static constexpr qint64 memory = qint64(2) * 1024 * 1024 * 1024;
     static constexpr int processorSeconds = 60;                     //!< from one renewal to the next
     static constexpr qint64 longestFile = qint64(32) * 1024 * 1024; //!< of those that a build is made of
