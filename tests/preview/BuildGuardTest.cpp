@@ -176,7 +176,7 @@ TEST_F(BuildGuardTest, readsNoFileFurtherAndOpensNoWindow)
     const QStringList problems =
         problemsOf("Image { source: 'drawing.svg' }\nImage { source: 'pipe.png' }\n"
                    "Component.onCompleted: { Qt.createComponent('Pipe.qml'); "
-                   "Qt.createQmlObject('import QtQuick 2.15; Window { visible: true }', qml_Main) }");
+                   "Qt.createQmlObject('import QtQuick 2.15; Window { visible: true }', Qt.application) }");
     EXPECT_THAT(problems,
                 startsWith(u"Main: \"%1\" is not drawn: it links to "_s.arg(build.path(u"drawing.svg"_s))));
     EXPECT_THAT(problems, startsWith(u"Main: \"%1\" is not read: "_s.arg(build.path(u"pipe.png"_s))));

@@ -131,8 +131,8 @@ TEST_F(PreviewVerb, leavesTheRestOfTheMachineAlone)
                   "import QtQuick 2.0 as Q\nQ.TextEdit { objectName: 'Main'; width: 20;"
                   "height: 20; textFormat: Q.TextEdit.RichText; text: '<img src=\""
                       + sandbox.path(u"secret.png"_s).toUtf8() + "\">' }");
-    EXPECT_TRUE(
-        preview(u"out"_s, {u"--shot"_s, u"pictures"_s}).error.contains(u"Main: QML TextEdit: Cannot open"_s));
+    preview(u"out"_s, {u"--shot"_s, u"pictures"_s});
+    ASSERT_FALSE(QImage(sandbox.path(u"pictures/Main.png"_s)).isNull());
     EXPECT_NE(QImage(sandbox.path(u"pictures/Main.png"_s)).pixelColor(4, 4), QColor(Qt::red));
 }
 
