@@ -5,7 +5,7 @@ include(CMakePackageConfigHelpers)
 
 set(package_path "${CMAKE_INSTALL_LIBDIR}/cmake/DesignerCore")
 
-install(TARGETS Common Zip DesignerCore EXPORT DesignerCoreTargets
+install(TARGETS CommonBase Zip Common DesignerCore EXPORT DesignerCoreTargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")

@@ -64,12 +64,12 @@ bool bindingValidator(const DesignerProperty *property, QString &error)
 QString boundToQml(const DesignerProperty *property, int indent)
 {
     const QString code = bindingOf(property->parentObject(), property->id());
-    return code.isEmpty() ? property->toPlainQml(indent) : QmlText::line(indent, property->id(), code);
+    return code.isEmpty() ? property->convertToQml(indent) : QmlText::line(indent, property->id(), code);
 }
 
 QString boundPositionToQml(const DesignerProperty *property, int indent)
 {
-    QStringList lines = property->toPlainQml(indent).split(u'\n');
+    QStringList lines = property->convertToQml(indent).split(u'\n');
     for (QString &line : lines) {
         const QString name = QStringView(line).trimmed().left(1).toString();
         const QString code = bindingOf(property->parentObject(), name);

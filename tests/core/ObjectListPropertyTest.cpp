@@ -120,14 +120,14 @@ TEST(ObjectListProperty, StaysInOrderWhateverComes)
         std::mt19937 random(7);
         Owner owner(rule);
         Owner sortedOnce(rule);
-        sortedOnce.list->items().isLoading = true;
+        sortedOnce.list->items().isOrderingPaused = true;
         for (int i = 0; i < 300; ++i) {
             const QString name = u"%1%2"_s.arg(QChar(u'a' + char16_t(random() % 4)), QString::number(i));
             const QString &className = classes[random() % 4];
             ASSERT_TRUE(owner.add(name, className) && sortedOnce.add(name, className));
         }
         EXPECT_EQ(sortedOnce.list->items().isOrdered, false);
-        sortedOnce.list->items().isLoading = false;
+        sortedOnce.list->items().isOrderingPaused = false;
         sortedOnce.list->sortList();
         EXPECT_EQ(owner.names(), sortedOnce.names()) << int(rule);
 
@@ -163,12 +163,12 @@ TEST(ObjectListProperty, FindsPlacesBySearchAndSortsALoadedListOnce)
     EXPECT_LT(Item::questions, count * 16);
 
     Item::questions = 0;
-    loaded.list->items().isLoading = true;
+    loaded.list->items().isOrderingPaused = true;
     for (const QString &name : names) {
         loaded.add(name, u"ProjectVariable"_s);
     }
     EXPECT_EQ(Item::questions, 0);
-    loaded.list->items().isLoading = false;
+    loaded.list->items().isOrderingPaused = false;
     loaded.list->sortList();
     EXPECT_EQ(Item::questions, count);
     EXPECT_EQ(loaded.names(), grown.names());

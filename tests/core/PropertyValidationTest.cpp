@@ -116,8 +116,7 @@ TEST(PropertyValidation, GradientStops)
 {
     Device device;
     const QString tooFew = u"The gradient stops must have at least 2 stops."_s;
-    const QString empty = device.errorOf("gradient", QString());
-    EXPECT_TRUE(empty.startsWith(tooFew) && empty.contains(u"emptyValue"_s));
+    EXPECT_EQ(device.errorOf("gradient", QString()), tooFew);
     EXPECT_EQ(device.errorOf("gradient", stops(1)), tooFew);
     EXPECT_EQ(device.errorOf("gradient", stops(2)), QString());
     EXPECT_EQ(device.errorOf("gradient", stops(101)), QString());

@@ -24,13 +24,14 @@ public:
         setFlags(OrdinaryFlags);
     }
 
-protected:
-    using TypedProperty::TypedProperty;
     bool validateValue(QString &error) const override
     {
         error = QStringLiteral("Out of range.");
         return value() >= 0 && value() <= 100;
     }
+
+protected:
+    using TypedProperty::TypedProperty;
 };
 
 class TextValue : public TypedProperty<QString>

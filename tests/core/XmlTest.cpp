@@ -87,6 +87,60 @@ TEST_F(Xml, TheFormIsFixed)
     EXPECT_FALSE(owner->convertToXmlDocument(false, false).firstChild().isProcessingInstruction());
 }
 
+namespace {
+
+//! Stores its text in capitals, and a note of its own.
+class Loud : public Node
+{
+public:
+    QString className() const override { return u"Loud"_s; }
+    QDomDocument convertToXmlDocument(bool withHeader, bool allProperties) const override
+    {
+        QDomDocument document = Node::convertToXmlDocument(withHeader, allProperties);
+        document.documentElement().setTagName(u"Node"_s);
+        QDomElement property = document.documentElement().firstChildElement().firstChildElement();
+        while (property.attribute(u"name"_s) != u"text"_s) {
+            property = property.nextSiblingElement();
+        }
+        property.setAttribute(u"value"_s, property.attribute(u"value"_s).toUpper());
+        QDomElement more = document.createElement(u"More"_s);
+        more.setAttribute(u"a"_s, u"<\n>"_s);
+        more.appendChild(document.createTextNode(u"x & y"_s));
+        document.documentElement().appendChild(more);
+        return isMute ? QDomDocument() : document;
+    }
+    bool isMute = false;
+};
+
+class LoudByMacro : public Loud
+{
+    CORVEX_CLASS_NAMES(LoudByMacro, Node)
+};
+
+} // namespace
+
+TEST_F(Xml, AFormOfAClassOfItsOwnIsWhatIsSavedAndCopied)
+{
+    const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
+    EXPECT_FALSE(owner->hasOwnXmlDocument());
+    EXPECT_TRUE(LoudByMacro().hasOwnXmlDocument());
+    auto *loud = new Loud;
+    loud->initialize();
+    loud->set("text", u"quiet"_s);
+    loud->addListPropertyItem(loud->property("nodes"), Node::create(u"in"_s));
+    ASSERT_TRUE(owner->addListPropertyItem(owner->property("nodes"), loud));
+    const QByteArray text = write(owner.get());
+    EXPECT_TRUE(text.contains("\n      <Property name=\"text\" value=\"QUIET\"/>\n")) << text.data();
+    EXPECT_TRUE(text.contains("\n     <More a=\"&lt;&#xA;&gt;\">x &amp; y</More>\n")) << text.data();
+    EXPECT_EQ(loud->value("text"), u"quiet"_s);
+    const std::unique_ptr<DesignerObject> copy(DesignerObject::createCopy(loud));
+    EXPECT_EQ(copy->getProperty(u"text")->valueString(), u"QUIET"_s);
+    EXPECT_EQ(copy->getProperty(u"nodes")->listItemNames(), QStringList{u"in"_s});
+    loud->isMute = true;
+    EXPECT_TRUE(write(owner.get()).isEmpty());
+    EXPECT_TRUE(owner->convertToXmlDocument(false, false).isNull());
+}
+
 TEST_F(Xml, WhatWasSavedReadsBackEqual)
 {
     const std::unique_ptr<Node> owner(Node::create(u"owner"_s));

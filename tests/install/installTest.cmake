@@ -56,6 +56,8 @@ run("configuring the program outside" "${CMAKE_COMMAND}" -S "${CMAKE_CURRENT_LIS
   -G "${generator}" "-DCMAKE_CXX_COMPILER=${compiler}" "-DCMAKE_CXX_COMPILER_LAUNCHER=${launcher}"
   "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_EXE_LINKER_FLAGS=${flags}")
 run("building the program outside" "${CMAKE_COMMAND}" --build "${work}/outside")
+file(GLOB_RECURSE zipped "${work}/out/*.kdproj.zip")
+run("running the program that packs" "${work}/outside/archive" "${zipped}")
 run("running the program outside" "${CMAKE_COMMAND}" -E chdir "${work}" "${work}/outside/outside")
 if(NOT output STREQUAL "Main: FlowMeter meter (30 l/min), Text label\n")
   message(FATAL_ERROR "the program printed something else: ${output}")

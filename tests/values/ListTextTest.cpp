@@ -58,7 +58,7 @@ TEST(ListInfo, Text)
         EXPECT_EQ(list.toString(), printed);
     }
     bool ok = true;
-    EXPECT_TRUE(ListInfo(u" ", &ok).isEmpty());
+    EXPECT_TRUE(ListInfo(u" "_s, &ok).isEmpty());
     EXPECT_FALSE(ok);
     EXPECT_EQ(ListInfo().toString(), QString());
 }
@@ -66,7 +66,7 @@ TEST(ListInfo, Text)
 TEST(ListInfo, Operations)
 {
     ListInfo list;
-    list << u"b"_s << QStringList{u"a"_s, u"b"_s} << ListInfo(u"c | A");
+    list << u"b"_s << QStringList{u"a"_s, u"b"_s} << ListInfo(u"c | A"_s);
     EXPECT_EQ(list.removeDuplicates(), 1);
     list.sort();
     EXPECT_EQ(list.join(u","_s), u"A,a,b,c"_s);
@@ -76,7 +76,7 @@ TEST(ListInfo, Operations)
     EXPECT_TRUE(list.insert(3, u"x"_s));
     EXPECT_FALSE(list.replace(4, u"y"_s));
     EXPECT_TRUE(list.replace(0, u"y"_s));
-    EXPECT_EQ(list, ListInfo(u"y | b | c | x"));
+    EXPECT_EQ(list, ListInfo(u"y | b | c | x"_s));
     EXPECT_EQ(list.value(9, u"none"_s), u"none"_s);
     EXPECT_EQ(list.takeFirst() + list.takeLast() + list.takeAt(7), u"yx"_s);
     list.clear();

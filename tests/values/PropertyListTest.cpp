@@ -127,6 +127,39 @@ TEST(PropertyList, RemoveAndTake)
     EXPECT_EQ(pairs(list), u"a.x"_s);
 }
 
+TEST(PropertyList, ThousandsInRandomOrderAreAMap)
+{
+    NastyText random(7);
+    QMap<QString, QString> expected;
+    PropertyList list;
+    for (int turn = 0; turn < 6000; ++turn) {
+        const QString name = u"p%1"_s.arg(random.number(2000), 4, 10, QChar(u'0'));
+        const QString value = QString::number(turn);
+        if (random.number(4) > 0) {
+            list << change(u"e"_s, name, value);
+            expected.insert(name, expected.value(name, value));
+        } else if (random.number(2) > 0) {
+            ASSERT_EQ(list.remove(u"e"_s, name), expected.remove(name));
+        } else {
+            const QString other = name.chopped(1);
+            const bool isFree = expected.contains(name) && !expected.contains(other);
+            ASSERT_EQ(list.replace(u"e"_s, name, change(u"e"_s, other, value)), isFree);
+            if (isFree) {
+                expected.remove(name);
+                expected.insert(other, value);
+            }
+        }
+    }
+    ASSERT_GT(list.size(), 1000);
+    QMap<QString, QString> held;
+    for (const PropertyChangeInfo &entry : list)
+        held.insert(entry.propertyName(), entry.valueString());
+    EXPECT_EQ(held, expected);
+    for (qsizetype i = 0; i < list.size(); ++i)
+        ASSERT_EQ(list.indexOf(list.at(i)), i);
+    EXPECT_EQ(list.take(u"e"_s).size(), expected.size());
+}
+
 TEST(PropertyList, ReadsBackWhatItPrints)
 {
     NastyText nasty(5);

@@ -86,7 +86,7 @@ TEST(ErrorInfos, Text)
                                     {u"busy: true, busy: true"_s, u"refused"_s},
                                     {u"busy: true, offline: "_s, u"refused"_s}});
     bool ok = false;
-    EXPECT_TRUE(SendErrorInfo(u"busy: true, offline: false", &ok).isBusy()) << "a literal is no boolean";
+    EXPECT_TRUE(SendErrorInfo(u"busy: true, offline: false"_s, &ok).isBusy()) << "a literal is no boolean";
 
     EXPECT_EQ(ReceiveErrorInfo(true, false, false, true).toString(),
               u"name: true, value: false, type: false, dataFlow: true"_s);
@@ -123,7 +123,7 @@ TEST(IdentifierInfo, Text)
          {u"name: a: b"_s, u"refused"_s},
          {u"a"_s, u"refused"_s}});
     bool ok = false;
-    EXPECT_FALSE(IdentifierInfo(u"name: ;", &ok).isValid());
+    EXPECT_FALSE(IdentifierInfo(u"name: ;"_s, &ok).isValid());
     EXPECT_TRUE(ok);
 }
 
@@ -158,22 +158,22 @@ TEST(EnumInfo, KeysAndValues)
     EXPECT_EQ(info.key(EnumHelper::RECEIVE), u"RECEIVE"_s);
     EXPECT_EQ(info.key(-1), QString());
     EXPECT_EQ(info.key(1000), QString());
-    EXPECT_EQ(info.keyToValue(u"INPUT"), EnumHelper::INPUT);
-    EXPECT_EQ(info.keyToValue(u"input"), -1);
-    EXPECT_EQ(info.keyOf(u"1"), info.key(1));
-    EXPECT_EQ(info.keyOf(u"SEND"), u"SEND"_s);
-    EXPECT_EQ(info.keyOf(u"99"), QString());
+    EXPECT_EQ(info.keyToValue(u"INPUT"_s), EnumHelper::INPUT);
+    EXPECT_EQ(info.keyToValue(u"input"_s), -1);
+    EXPECT_EQ(info.keyOf(u"1"_s), info.key(1));
+    EXPECT_EQ(info.keyOf(u"SEND"_s), u"SEND"_s);
+    EXPECT_EQ(info.keyOf(u"99"_s), QString());
 
     bool ok = false;
-    EXPECT_EQ(EnumInfo(types, u"SEND", &ok), info);
+    EXPECT_EQ(EnumInfo(types, u"SEND"_s, &ok), info);
     EXPECT_TRUE(ok);
-    EXPECT_EQ(EnumInfo(types, u"NONE", &ok).value(), 0);
+    EXPECT_EQ(EnumInfo(types, u"NONE"_s, &ok).value(), 0);
     EXPECT_FALSE(ok);
     EXPECT_FALSE(EnumInfo(types, 99).isValid());
     EXPECT_FALSE(info == EnumInfo(EnumHelper::metaEnum(u"VariableType"_s), EnumHelper::SEND));
 
     const EnumInfo none;
     EXPECT_FALSE(none.isValid());
-    EXPECT_EQ(none.valueString() + none.key(0) + none.keyOf(u"0"), QString());
+    EXPECT_EQ(none.valueString() + none.key(0) + none.keyOf(u"0"_s), QString());
     EXPECT_EQ(none, EnumInfo());
 }

@@ -81,7 +81,7 @@ TEST(UpdateObjectInfo, RefusesWhatItDoesNotWrite)
         EXPECT_FALSE(ok) << text.toStdString();
     }
     bool ok = true;
-    EXPECT_TRUE(UpdateObjectList(u"name: a; | nothing", &ok).isEmpty());
+    EXPECT_TRUE(UpdateObjectList(u"name: a; | nothing"_s, &ok).isEmpty());
     EXPECT_FALSE(ok);
 }
 
@@ -106,8 +106,8 @@ TEST(UpdateObjectList, Valid)
 {
     UpdateObjectList list;
     EXPECT_TRUE(list.isValid());
-    list << UpdateObjectInfo(u"name: a");
+    list << UpdateObjectInfo(u"name: a"_s);
     EXPECT_TRUE(list.isValid());
-    list << UpdateObjectInfo(u"screen: b");
+    list << UpdateObjectInfo(u"screen: b"_s);
     EXPECT_FALSE(list.isValid());
 }

@@ -48,6 +48,17 @@ const QMap<QString, QString> &EnumHelper::getVariableTypeNames()
     return names;
 }
 
+const QMap<QString, QString> &EnumHelper::getVariableAccessModeNames()
+{
+    static const QMap<QString, QString> names{
+        {u"NoAccess"_s, u"None"_s},
+        {u"ReadOnly"_s, u"Read Only"_s},
+        {u"WriteOnly"_s, u"Write Only"_s},
+        {u"ReadWrite"_s, u"Read and Write"_s},
+    };
+    return names;
+}
+
 const QStringList &EnumHelper::inputOutputTypeNames()
 {
     static const QStringList names = keysOf(QMetaEnum::fromType<InputOutputType>());

@@ -52,6 +52,9 @@ public:
     //! The texts a user reads for the variable types, by the name of the type ("BooleanVariable").
     static const QMap<QString, QString> &getVariableTypeNames();
 
+    //! The texts a user reads for the access modes, by the name of the mode ("ReadOnly").
+    static const QMap<QString, QString> &getVariableAccessModeNames();
+
     //! The words of the channel types, in the order of their numbers.
     static const QStringList &inputOutputTypeNames();
 

@@ -68,6 +68,7 @@ public:
     // Properties.
     //! The property with that id or null.
     SharedProperty getProperty(QStringView id) const;
+    SharedProperty getProperty(const QString &id) const { return getProperty(QStringView(id)); }
     //! In the order in which they were made, which is the order of files and of QML.
     const QList<SharedProperty> &properties() const;
     //! The properties whose value other objects refer to.
@@ -174,8 +175,9 @@ public:
     void emitResetValidationError() { emit resetValidationError(); }
 
     // Files and copies; see ObjectXmlReader and ObjectXmlWriter for streams.
-    //! Null when a child is missing that must be there.
-    QDomDocument convertToXmlDocument(bool withHeader, bool allProperties) const;
+    /*! What files and copies hold of the object; null when a child is missing that must be there. Most objects
+       are written past it, as the base would; a class with a form of its own (hasOwnXmlDocument()) is asked. */
+    virtual QDomDocument convertToXmlDocument(bool withHeader, bool allProperties) const;
     QString convertToString(bool withHeader, bool allProperties) const;
     //! What would be saved; the text of a ProjectVariable has no XML declaration. Empty when it cannot be
     //! written.

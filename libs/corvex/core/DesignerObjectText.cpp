@@ -15,14 +15,15 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-QByteArray toXml(const DesignerObject *object, bool withHeader, bool allProperties)
+template<class Write>
+QByteArray toXml(bool withHeader, bool allProperties, Write write)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     ObjectXmlWriter writer(&buffer);
     writer.setHeader(withHeader);
     writer.setAllProperties(allProperties);
-    return writer.write(object) ? buffer.data() : QByteArray();
+    return write(writer) ? buffer.data() : QByteArray();
 }
 
 void warn(const char *operation, const ObjectXmlReader &reader)
@@ -64,7 +65,8 @@ void DesignerObject::finishReading() { }
 QDomDocument DesignerObject::convertToXmlDocument(bool withHeader, bool allProperties) const
 {
     QDomDocument document;
-    const QByteArray xml = toXml(this, false, allProperties);
+    const QByteArray xml =
+        toXml(false, allProperties, [this](ObjectXmlWriter &writer) { return writer.writeProperties(this); });
     if (xml.isEmpty() || !document.setContent(xml)) {
         return {};
     }
@@ -78,7 +80,8 @@ QDomDocument DesignerObject::convertToXmlDocument(bool withHeader, bool allPrope
 
 QString DesignerObject::convertToString(bool withHeader, bool allProperties) const
 {
-    return QString::fromUtf8(toXml(this, withHeader, allProperties));
+    return QString::fromUtf8(toXml(withHeader, allProperties,
+                                   [this](ObjectXmlWriter &writer) { return writer.write(this); }));
 }
 
 QString DesignerObject::toString(const DesignerObject *object)

@@ -47,7 +47,6 @@ DesignerProperty::DesignerProperty(DesignerObject *parent, const QString &id, co
 DesignerProperty::DesignerProperty(DesignerObject *parent, const DesignerProperty &prototype)
     : m_parent(parent)
     , m_descriptor(prototype.m_descriptor)
-    , m_isInitial(true)
 { }
 
 DesignerProperty::~DesignerProperty()
@@ -418,6 +417,13 @@ void DesignerProperty::sortList()
     if (m_state && m_state->items) {
         m_state->items->isOrdered = false;
         updateListItems();
+    }
+}
+
+void DesignerProperty::setOrderingPaused(bool paused)
+{
+    if (isList()) {
+        items().isOrderingPaused = paused;
     }
 }
 

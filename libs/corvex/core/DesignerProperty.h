@@ -110,8 +110,6 @@ public:
     //! The property's QML, its lines parted by "\n" and none behind the last; empty unless RuntimeFlag is
     //! set.
     QString toQml(int indent) const;
-    //! The QML of the value itself, whatever the flags and the QML creator say.
-    QString toPlainQml(int indent) const { return convertToQml(indent); }
 
     //! The child of an object property, owned by parentObject().
     DesignerObject *objectValue() const;
@@ -135,6 +133,24 @@ public:
     QStringList getItemNamesOfType(const QString &className, bool recursive = false) const;
     //! Puts the items into the order of the list's rule; nothing for a list without one.
     void sortList();
+    //! While it is paused, items stay where they are put; the first change after that orders them all.
+    void setOrderingPaused(bool paused);
+
+    // What each kind of property does with its value, past the protocol: none of these asks a hook or emits a
+    // signal.
+    //! Parses \a text into the typed value; false, and the value as it was, when it does not parse.
+    virtual bool convertToValue(const QString &text) = 0;
+    //! The canonical text of the typed value.
+    virtual QString convertToValueString() const = 0;
+    //! The QML of the value itself, whatever the flags and the QML creator say.
+    virtual QString convertToQml(int indent) const;
+    virtual bool valueIsEqual(const QString &text) const = 0;
+    //! Judges the value without keeping the outcome.
+    virtual bool validateValue(QString &error) const = 0;
+    virtual bool validateObjectValue(QString &error) const;
+    virtual bool validateListItems(QString &error) const;
+    //! Runs after the list has changed; the place to keep it in order.
+    virtual void updateListItems();
 
     //! The list's children with what is kept beside them; null for other properties.
     const ItemList *itemList() const;
@@ -144,23 +160,27 @@ protected:
         the rows of a property table make properties that share one descriptor. */
     DesignerProperty(DesignerObject *parent, const DesignerProperty &prototype);
 
-    //! Parses \a text into the typed value; false, and the value as it was, when it does not parse.
-    virtual bool convertToValue(const QString &text) = 0;
-    //! The canonical text of the typed value.
-    virtual QString convertToValueString() const = 0;
-    virtual QString convertToQml(int indent) const;
-    virtual bool valueIsEqual(const QString &text) const = 0;
-    virtual bool validateValue(QString &error) const = 0;
-    virtual bool validateObjectValue(QString &error) const;
-    virtual bool validateListItems(QString &error) const;
-    //! Runs after the list has changed; the place to keep it in order.
-    virtual void updateListItems();
     //! Validates \a text in the place of the value, which is the same afterwards to the last digit; false
     //! when it does not parse.
     virtual bool tryValue(const QString &text, bool &valid);
     ItemList &items();
-    //! For whoever sets the typed value past convertToValue().
-    void leaveInitialValue() { m_isInitial = false; }
+    //! Whether the property holds the value of its row. Whoever sets the typed value switches it off.
+    void setInitial(bool isInitial) { m_isInitial = isInitial; }
+
+    // The changes of lists and objects, which DesignerObject calls under its protocol.
+    bool addListItem(DesignerObject *item);
+    bool insertItemAt(qsizetype index, DesignerObject *item);
+    bool insertItemBefore(DesignerObject *reference, DesignerObject *item);
+    bool insertItemAfter(DesignerObject *reference, DesignerObject *item);
+    DesignerObject *takeListItem(DesignerObject *item);
+    bool replaceItem(DesignerObject *oldItem, DesignerObject *newItem);
+    bool replaceItemAt(qsizetype index, DesignerObject *newItem);
+    bool swapItems(DesignerObject *first, DesignerObject *second);
+    //! Takes over \a object, which may be null, and gives the previous child free.
+    bool setObjectValue(DesignerObject *object);
+    void updateItemIdName(const QString &oldName, const QString &newName);
+    //! Makes \a child, which has no owner, the child of an object property that is being made.
+    void startWith(DesignerObject *child);
 
 private:
     friend class DesignerObject;
@@ -181,18 +201,6 @@ private:
     bool acceptsClassOf(const DesignerObject *object) const;
     bool canAdd(const DesignerObject *item, const char *duplicateMessage);
     bool canRemove(const DesignerObject *item);
-
-    bool addListItem(DesignerObject *item);
-    bool insertItemAt(qsizetype index, DesignerObject *item);
-    bool insertItemBefore(DesignerObject *reference, DesignerObject *item);
-    bool insertItemAfter(DesignerObject *reference, DesignerObject *item);
-    DesignerObject *takeListItem(DesignerObject *item);
-    bool replaceItem(DesignerObject *oldItem, DesignerObject *newItem);
-    bool replaceItemAt(qsizetype index, DesignerObject *newItem);
-    bool swapItems(DesignerObject *first, DesignerObject *second);
-    //! Takes over \a object, which may be null, and gives the previous child free.
-    bool setObjectValue(DesignerObject *object);
-    void updateItemIdName(const QString &oldName, const QString &newName);
 
     // For a child that is being deleted: it leaves without a word.
     void forgetItem(DesignerObject *item);

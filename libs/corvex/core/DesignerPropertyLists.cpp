@@ -211,6 +211,18 @@ bool DesignerProperty::setObjectValue(DesignerObject *object)
     return true;
 }
 
+void DesignerProperty::startWith(DesignerObject *child)
+{
+    if (!child) {
+        return;
+    }
+    if (child->ownerObject()) {
+        refuse(itemExists);
+    } else if (setObjectValue(child)) {
+        m_parent->enter(child);
+    }
+}
+
 void DesignerProperty::updateItemIdName(const QString &oldName, const QString &newName)
 {
     DesignerObject *item = getListItem(oldName);

@@ -4,7 +4,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <type_traits>
+
+class QDomDocument;
+
 namespace Halvane::Corvex::Designer {
+
+class DesignerObject;
 
 //! Root of everything in the model. Kinds are told apart by class-name strings and never by the language's
 //! own run-time types, so that they hold across plug-ins.
@@ -19,6 +25,9 @@ public:
     virtual bool initialize() = 0;
 
     bool isKindOfClass(const QString &name) const { return classNames().contains(name); }
+    //! Whether the class writes its XML by a convertToXmlDocument() of its own. CORVEX_CLASS_NAMES knows; a
+    //! class without it may have one.
+    virtual bool hasOwnXmlDocument() const { return false; }
 
 protected:
     IDesignerObject() = default;
@@ -26,10 +35,25 @@ protected:
     IDesignerObject &operator=(const IDesignerObject &) = default;
 };
 
+//! Whether Class or a class between it and DesignerObject overrides convertToXmlDocument(): the name then means
+//! a member of another class. Where it cannot be seen it is taken for overridden.
+template<class Class>
+constexpr bool overridesXmlDocument()
+{
+    if constexpr (std::is_base_of_v<DesignerObject, Class>) {
+        return !requires {
+            requires std::is_same_v<decltype(&Class::convertToXmlDocument),
+                                    QDomDocument (DesignerObject::*)(bool, bool) const>;
+        };
+    }
+    return false;
+}
+
 } // namespace Halvane::Corvex::Designer
 
 //! Declares className() and classNames() of a concrete class, and kindName() for kindCast(); \a Base is the
-//! class whose chain it extends. The chain is built once for all instances.
+//! class whose chain it extends. The chain is built once for all instances. A class that declares them by hand
+//! is written by its convertToXmlDocument(), which takes longer.
 #define CORVEX_CLASS_NAMES(Class, Base)                                                                      \
 public:                                                                                                      \
     static QString kindName()                                                                                \
@@ -44,4 +68,8 @@ public:                                                                         
     {                                                                                                        \
         static const QStringList names = Base::classNames() << kindName();                                   \
         return names;                                                                                        \
+    }                                                                                                        \
+    bool hasOwnXmlDocument() const override                                                                  \
+    {                                                                                                        \
+        return overridesXmlDocument<Class>() || className() != kindName();                                   \
     }

@@ -62,8 +62,8 @@ public:
 
     //! The number of items whose object is invalid, as counted by the objects themselves.
     qsizetype invalidCount = 0;
-    //! While a stored list is read, ordering waits for its end.
-    bool isLoading = false;
+    //! Items stay where they are put, as long as a stored list is being read or somebody wants it so.
+    bool isOrderingPaused = false;
     //! False when more than one item may be out of order.
     bool isOrdered = true;
     //! The index of the item that came in or got its name last, the only one out of order when isOrdered; -1

@@ -272,7 +272,7 @@ void ObjectBuilder::openInProperty(Frame &frame, const char *name)
     frame.isAnswered = true;
     if (opensList) {
         emptyList(frame.object, frame.property);
-        frame.property->items().isLoading = true;
+        frame.property->setOrderingPaused(true);
     }
     push(opensList ? Context::List : Context::ObjectValue, frame.object, frame.property);
 }
@@ -288,7 +288,7 @@ void ObjectBuilder::emptyList(DesignerObject *owner, const SharedProperty &list)
 
 void ObjectBuilder::finishList(const SharedProperty &list)
 {
-    list->items().isLoading = false;
+    list->setOrderingPaused(false);
     list->sortList();
 }
 

@@ -4,7 +4,9 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ItemList.h"
 
+#include <QDomDocument>
 #include <QIODevice>
+#include <QMap>
 
 using namespace Qt::StringLiterals;
 
@@ -33,6 +35,18 @@ bool ObjectXmlWriter::isComplete(const DesignerObject *object, bool allPropertie
     if (!object) {
         return false;
     }
+    if (!object->hasOwnXmlDocument()) {
+        return hasAllChildren(object, allProperties, missing);
+    }
+    const bool isThere = !object->convertToXmlDocument(false, allProperties).isNull();
+    if (!isThere && missing) {
+        *missing = object->objectPath();
+    }
+    return isThere;
+}
+
+bool ObjectXmlWriter::hasAllChildren(const DesignerObject *object, bool allProperties, QString *missing)
+{
     for (const SharedProperty &property : object->properties()) {
         if (!(property->isList() || property->isObject()) || !isWritten(object, *property, allProperties)) {
             continue;
@@ -53,17 +67,32 @@ bool ObjectXmlWriter::isComplete(const DesignerObject *object, bool allPropertie
 
 bool ObjectXmlWriter::write(const DesignerObject *object)
 {
-    m_error.clear();
     QString missing;
-    if (!isComplete(object, m_allProperties, &missing)) {
-        m_error = u"\"%1\" holds no object; nothing is written."_s.arg(missing);
-        return false;
-    }
+    return judge(isComplete(object, m_allProperties, &missing), missing)
+           && writeDocument(object, &ObjectXmlWriter::writeObject);
+}
+
+bool ObjectXmlWriter::writeProperties(const DesignerObject *object)
+{
+    QString missing;
+    return judge(hasAllChildren(object, m_allProperties, &missing), missing)
+           && writeDocument(object, &ObjectXmlWriter::writeOwnProperties);
+}
+
+bool ObjectXmlWriter::judge(bool isComplete, const QString &missing)
+{
+    m_error = isComplete ? QString() : u"\"%1\" holds no object; nothing is written."_s.arg(missing);
+    return isComplete;
+}
+
+bool ObjectXmlWriter::writeDocument(const DesignerObject *object,
+                                    void (ObjectXmlWriter::*form)(const DesignerObject *, int))
+{
     if (m_header) {
         m_buffer.append("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
         endLine();
     }
-    writeObject(object, 0);
+    (this->*form)(object, 0);
     flush();
     return m_error.isEmpty();
 }
@@ -107,6 +136,18 @@ void ObjectXmlWriter::flush()
 
 void ObjectXmlWriter::writeObject(const DesignerObject *object, int level)
 {
+    if (object->hasOwnXmlDocument()) {
+        writeElement(object->convertToXmlDocument(false, m_allProperties).documentElement(), level);
+    } else {
+        writeOwnProperties(object, level);
+    }
+    if (m_buffer.bytes().size() > bufferSize) {
+        flush();
+    }
+}
+
+void ObjectXmlWriter::writeOwnProperties(const DesignerObject *object, int level)
+{
     const QString name = object->className();
     openTag(name, level);
     openTag(u"Properties"_s, level + 1);
@@ -117,8 +158,64 @@ void ObjectXmlWriter::writeObject(const DesignerObject *object, int level)
     }
     closeTag(u"Properties"_s, level + 1);
     closeTag(name, level);
-    if (m_buffer.bytes().size() > bufferSize) {
-        flush();
+}
+
+void ObjectXmlWriter::writeElement(const QDomElement &element, int level)
+{
+    startLine(level);
+    writeStartTag(element);
+    const bool isNested = !element.firstChildElement().isNull() && element.text().trimmed().isEmpty();
+    if (!element.hasChildNodes()) {
+        m_buffer.append("/>");
+        endLine();
+    } else if (isNested) {
+        m_buffer.append('>');
+        endLine();
+        for (QDomElement child = element.firstChildElement(); !child.isNull();
+             child = child.nextSiblingElement()) {
+            writeElement(child, level + 1);
+        }
+        closeTag(element.tagName(), level);
+    } else {
+        writeContent(element);
+        endLine();
+    }
+}
+
+//! Blanks and line ends between elements would become part of a text, so there are none.
+void ObjectXmlWriter::writeContent(const QDomElement &element)
+{
+    m_buffer.append('>');
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.isElement()) {
+            writeStartTag(child.toElement());
+            writeContent(child.toElement());
+        } else if (child.isText()) {
+            m_buffer.appendEscaped(child.nodeValue());
+        }
+    }
+    m_buffer.append("</");
+    m_buffer.appendEscaped(element.tagName());
+    m_buffer.append('>');
+}
+
+void ObjectXmlWriter::writeStartTag(const QDomElement &element)
+{
+    m_buffer.append('<');
+    m_buffer.appendEscaped(element.tagName());
+    // A document keeps its attributes in no order.
+    QMap<std::pair<int, QString>, QString> attributes;
+    for (int i = 0; i < element.attributes().count(); ++i) {
+        const QDomNode attribute = element.attributes().item(i);
+        const QString name = attribute.nodeName();
+        attributes.insert({name == "name"_L1 ? 0 : name == "value"_L1 ? 1 : 2, name}, attribute.nodeValue());
+    }
+    for (auto attribute = attributes.cbegin(); attribute != attributes.cend(); ++attribute) {
+        m_buffer.append(' ');
+        m_buffer.appendEscaped(attribute.key().second);
+        m_buffer.append("=\"");
+        m_buffer.appendEscaped(attribute.value());
+        m_buffer.append('"');
     }
 }
 

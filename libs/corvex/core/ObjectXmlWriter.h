@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QString>
 
+class QDomElement;
 class QIODevice;
 
 namespace Halvane::Corvex::Designer {
@@ -32,14 +33,25 @@ public:
     /*! False when the device does not take every byte, or, before anything is written, when isComplete() does
        not hold. */
     bool write(const DesignerObject *object);
+    //! The same from the properties of the object, where its class has an XML form of its own; the objects below
+    //! it keep theirs.
+    bool writeProperties(const DesignerObject *object);
     QString errorString() const { return m_error; }
 
-    //! Whether every object property holds its object. \a missing names the place that does not.
+    //! Whether every object property holds its object, and every class with a form of its own gives one. \a
+    //! missing names the place that does not.
     static bool isComplete(const DesignerObject *object, bool allProperties, QString *missing = nullptr);
 
 private:
     static bool isWritten(const DesignerObject *object, const DesignerProperty &property, bool allProperties);
+    static bool hasAllChildren(const DesignerObject *object, bool allProperties, QString *missing);
+    bool judge(bool isComplete, const QString &missing);
+    bool writeDocument(const DesignerObject *object, void (ObjectXmlWriter::*form)(const DesignerObject *, int));
     void writeObject(const DesignerObject *object, int level);
+    void writeOwnProperties(const DesignerObject *object, int level);
+    void writeElement(const QDomElement &element, int level);
+    void writeContent(const QDomElement &element);
+    void writeStartTag(const QDomElement &element);
     void writeProperty(const DesignerProperty &property, int level);
     void writeKept(const DesignerProperty &list, const DesignerObject *after, int level);
     void startLine(int level);

@@ -20,7 +20,6 @@ public:
 
     QString className() const override { return m_className; }
 
-protected:
     bool convertToValue(const QString &) override { return false; }
     QString convertToValueString() const override { return {}; }
     bool valueIsEqual(const QString &) const override { return true; }
@@ -166,8 +165,11 @@ bool PropertyTable::describeAnew(const PropertyRow &row, DesignerProperty &prope
     }
     const bool startsAlike = property.initialText() == row.m_prototype->descriptor().initialText;
     property.m_descriptor = row.m_prototype->m_descriptor;
-    property.m_isInitial = row.m_overridesValue || (property.m_isInitial && startsAlike);
-    return !row.m_overridesValue || property.convertToValue(row.m_prototype->convertToValueString());
+    const bool staysInitial = property.m_isInitial && startsAlike;
+    const bool isTaken =
+        !row.m_overridesValue || property.convertToValue(row.m_prototype->convertToValueString());
+    property.m_isInitial = row.m_overridesValue || staysInitial;
+    return isTaken;
 }
 
 } // namespace Halvane::Corvex::Designer

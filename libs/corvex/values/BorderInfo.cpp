@@ -13,7 +13,7 @@ BorderInfo::BorderInfo(int width, const QColor &color)
     , m_color(color)
 { }
 
-BorderInfo::BorderInfo(QStringView text, bool *ok)
+BorderInfo::BorderInfo(const QString &text, bool *ok)
 {
     BorderInfo border;
     const auto read = [&border](bool isWidth, QStringView value) {

@@ -3,7 +3,6 @@
 
 #include <QColor>
 #include <QString>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -14,7 +13,7 @@ public:
     BorderInfo() = default;
     BorderInfo(int width, const QColor &color);
     //! "color: #FFFF0000; width: 2;"
-    explicit BorderInfo(QStringView text, bool *ok = nullptr);
+    explicit BorderInfo(const QString &text, bool *ok = nullptr);
 
     int width() const { return m_width; }
     void setWidth(int width) { m_width = width; }

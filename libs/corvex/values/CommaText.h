@@ -11,11 +11,11 @@
 //! present, in any order when read.
 namespace Halvane::Corvex::Designer::CommaText {
 
-//! Reads a text that consists of exactly the fields \a keys, each once, into \a values. \a read(view, ok) is
-//! the reader of one value. What the values hold after a failure is open.
-template<class Value, size_t Count, class Read>
+//! Reads a text that consists of exactly the fields \a keys, each once, into \a values. \a read is the
+//! reader of one value. What the values hold after a failure is open.
+template<class Value, size_t Count>
 bool readFields(QStringView text, const std::array<QLatin1StringView, Count> &keys,
-                std::array<Value, Count> &values, Read &&read)
+                std::array<Value, Count> &values, Value (*read)(QStringView, bool *))
 {
     std::array<bool, Count> seen{};
     size_t fieldCount = 0;

@@ -10,7 +10,7 @@ EnumInfo::EnumInfo(const QMetaEnum &enumerator, int value)
     , m_value(value)
 { }
 
-EnumInfo::EnumInfo(const QMetaEnum &enumerator, QStringView key, bool *ok)
+EnumInfo::EnumInfo(const QMetaEnum &enumerator, const QString &key, bool *ok)
     : m_enumerator(enumerator)
 {
     bool known = false;
@@ -26,14 +26,14 @@ bool EnumInfo::valueIsValid(int value) const
     return m_enumerator.isValid() && m_enumerator.valueToKey(value);
 }
 
-bool EnumInfo::keyIsValid(QStringView key) const
+bool EnumInfo::keyIsValid(const QString &key) const
 {
     bool known = false;
     keyToValue(key, &known);
     return known;
 }
 
-int EnumInfo::keyToValue(QStringView key, bool *ok) const
+int EnumInfo::keyToValue(const QString &key, bool *ok) const
 {
     for (int i = 0; i < m_enumerator.keyCount(); ++i) {
         if (key == QLatin1StringView(m_enumerator.key(i))) {
@@ -58,10 +58,10 @@ QString EnumInfo::key(int index) const
     return exists ? QString::fromLatin1(m_enumerator.key(index)) : QString();
 }
 
-QString EnumInfo::keyOf(QStringView text) const
+QString EnumInfo::keyOf(const QString &text) const
 {
     if (keyIsValid(text))
-        return text.toString();
+        return text;
     bool isNumber = false;
     const int value = text.toInt(&isNumber);
     return isNumber ? valueToKey(value) : QString();

@@ -3,7 +3,6 @@
 
 #include <QMetaEnum>
 #include <QString>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -14,7 +13,7 @@ public:
     EnumInfo() = default;
     EnumInfo(const QMetaEnum &enumerator, int value);
     //! The value that a key of the enumeration names; an unknown key leaves 0.
-    EnumInfo(const QMetaEnum &enumerator, QStringView key, bool *ok);
+    EnumInfo(const QMetaEnum &enumerator, const QString &key, bool *ok);
 
     const QMetaEnum &enumerator() const { return m_enumerator; }
     void setEnumerator(const QMetaEnum &enumerator) { m_enumerator = enumerator; }
@@ -24,14 +23,14 @@ public:
     //! The value is one of the enumeration.
     bool isValid() const { return valueIsValid(m_value); }
     bool valueIsValid(int value) const;
-    bool keyIsValid(QStringView key) const;
+    bool keyIsValid(const QString &key) const;
     //! -1 and false of a key that the enumeration does not have.
-    int keyToValue(QStringView key, bool *ok = nullptr) const;
+    int keyToValue(const QString &key, bool *ok = nullptr) const;
     QString valueToKey(int value) const;
     //! The key at a place of the enumeration, in the order of its declaration.
     QString key(int index) const;
     //! The key that a text means, which is a key or the number of a value; empty when it means none.
-    QString keyOf(QStringView text) const;
+    QString keyOf(const QString &text) const;
 
     //! The key of the value, empty when the value is not one of the enumeration.
     QString valueString() const { return valueToKey(m_value); }

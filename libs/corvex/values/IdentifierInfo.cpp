@@ -13,7 +13,7 @@ IdentifierInfo::IdentifierInfo(const QString &name, const QString &scopeType, co
     , m_filterType(filterType)
 { }
 
-IdentifierInfo::IdentifierInfo(QStringView text, bool *ok)
+IdentifierInfo::IdentifierInfo(const QString &text, bool *ok)
     : IdentifierInfo(fromText(text, IdentifierInfo(), ok))
 { }
 

@@ -18,7 +18,7 @@ public:
     IdentifierInfo() = default;
     IdentifierInfo(const QString &name, const QString &scopeType, const QString &filterType);
     //! "filterType: NumberVariable; name: speed; scopeType: Project;". Asks for the name alone.
-    explicit IdentifierInfo(QStringView text, bool *ok = nullptr);
+    explicit IdentifierInfo(const QString &text, bool *ok = nullptr);
     //! The same; a scope and a class that are those of \a like share its texts.
     static IdentifierInfo fromText(QStringView text, const IdentifierInfo &like, bool *ok);
 

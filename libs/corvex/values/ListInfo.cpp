@@ -7,19 +7,19 @@ namespace Halvane::Corvex::Designer {
 
 using namespace Qt::StringLiterals;
 
-ListInfo::ListInfo(QStringView text, bool *ok)
+ListInfo::ListInfo(const QString &text, bool *ok)
 {
-    text = text.trimmed();
-    const bool hasItems = !text.isEmpty();
+    const QStringView items = QStringView(text).trimmed();
+    const bool hasItems = !items.isEmpty();
     qsizetype start = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (NestedText::isItemSeparator(text, i)) {
-            append(NestedText::fromField(text.sliced(start, i - start).trimmed()));
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        if (NestedText::isItemSeparator(items, i)) {
+            append(NestedText::fromField(items.sliced(start, i - start).trimmed()));
             start = i + 1;
         }
     }
     if (hasItems)
-        append(NestedText::fromField(text.sliced(start).trimmed()));
+        append(NestedText::fromField(items.sliced(start).trimmed()));
     if (ok)
         *ok = hasItems;
 }

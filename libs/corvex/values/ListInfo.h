@@ -5,7 +5,6 @@
 
 #include <QString>
 #include <QStringList>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -16,7 +15,7 @@ public:
     using RecordList::RecordList;
     ListInfo() = default;
     //! "pump1 | pump2". A "|" without a blank or an end on both its sides belongs to the item.
-    explicit ListInfo(QStringView text, bool *ok = nullptr);
+    explicit ListInfo(const QString &text, bool *ok = nullptr);
 
     //! Whether the item was there.
     bool removeOne(const QString &item) { return m_records.removeOne(item); }

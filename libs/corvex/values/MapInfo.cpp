@@ -10,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 
 using namespace Qt::StringLiterals;
 
-MapInfo::MapInfo(QStringView text, bool *ok)
+MapInfo::MapInfo(const QString &text, bool *ok)
 {
     QList<Entry> entries;
     bool parsed = true;

@@ -6,7 +6,6 @@
 #include <QPair>
 #include <QString>
 #include <QStringList>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -20,7 +19,7 @@ public:
 
     MapInfo() = default;
     //! "key: 1; value: On; | key: 0; value: Off;". Refuses the empty text, as the other records do.
-    explicit MapInfo(QStringView text, bool *ok = nullptr);
+    explicit MapInfo(const QString &text, bool *ok = nullptr);
 
     //! Adds a pair at the end, also when the key is there already.
     void insert(const QString &key, const QString &value) { m_entries.append({key, value}); }

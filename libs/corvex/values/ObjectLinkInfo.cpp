@@ -40,7 +40,7 @@ ObjectLinkInfo::ObjectLinkInfo(const QString &objectId, const QString &scopeType
     , m_objectId(objectId)
 { }
 
-ObjectLinkInfo::ObjectLinkInfo(QStringView text, bool *ok)
+ObjectLinkInfo::ObjectLinkInfo(const QString &text, bool *ok)
 {
     ObjectLinkInfo link;
     bool anyEntry = false;

@@ -4,7 +4,6 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -20,7 +19,7 @@ public:
     ObjectLinkInfo(const QString &objectId, const QString &scopeType, const QString &filterType);
     ObjectLinkInfo(const QString &objectId, const QString &scopeType, const QStringList &filterType);
     //! "filterType: Text | Image; objectId: label1; scopeType: Screen;", any of the three absent.
-    explicit ObjectLinkInfo(QStringView text, bool *ok = nullptr);
+    explicit ObjectLinkInfo(const QString &text, bool *ok = nullptr);
 
     const QString &scopeType() const { return m_scopeType; }
     void setScopeType(const QString &scopeType) { m_scopeType = scopeType; }

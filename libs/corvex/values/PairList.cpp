@@ -37,7 +37,7 @@ QString TextPair::toString() const
     return first + u'|' + second;
 }
 
-PairList::PairList(QStringView text, bool *ok)
+PairList::PairList(const QString &text, bool *ok)
 {
     if (!text.isEmpty()) {
         for (const QStringView item : text.split(u", "_s)) {

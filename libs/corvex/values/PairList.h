@@ -30,7 +30,7 @@ class PairList : public RecordList<TextPair>
 public:
     using RecordList::RecordList;
     PairList() = default;
-    explicit PairList(QStringView text, bool *ok = nullptr);
+    explicit PairList(const QString &text, bool *ok = nullptr);
 
     QString toString() const;
 };

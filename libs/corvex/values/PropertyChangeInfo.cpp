@@ -16,7 +16,7 @@ PropertyChangeInfo::PropertyChangeInfo(const QString &elementName, const QString
     , m_valueString(valueString)
 { }
 
-PropertyChangeInfo::PropertyChangeInfo(QStringView text, bool *ok)
+PropertyChangeInfo::PropertyChangeInfo(const QString &text, bool *ok)
 {
     PropertyChangeInfo change;
     unsigned seen = 0;

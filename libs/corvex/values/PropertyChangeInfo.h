@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -13,7 +12,7 @@ public:
     PropertyChangeInfo() = default;
     PropertyChangeInfo(const QString &elementName, const QString &propertyName, const QString &valueString);
     //! "elementName: label1; propertyName: text; valueString: SGVsbG8=;", the value in Base64.
-    explicit PropertyChangeInfo(QStringView text, bool *ok = nullptr);
+    explicit PropertyChangeInfo(const QString &text, bool *ok = nullptr);
 
     const QString &elementName() const { return m_elementName; }
     void setElementName(const QString &name) { m_elementName = name; }

@@ -13,7 +13,7 @@ PropertyInfo::PropertyInfo(const QString &propName, const QString &propValue)
     , m_propValue(propValue)
 { }
 
-PropertyInfo::PropertyInfo(QStringView text, bool *ok)
+PropertyInfo::PropertyInfo(const QString &text, bool *ok)
 {
     PropertyInfo info;
     const auto read = [&info](bool isValue, QStringView field) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -13,7 +12,7 @@ public:
     PropertyInfo() = default;
     PropertyInfo(const QString &propName, const QString &propValue);
     //! "propName: text; propValue: Hello;". Separators inside either are escaped (see NestedText).
-    explicit PropertyInfo(QStringView text, bool *ok = nullptr);
+    explicit PropertyInfo(const QString &text, bool *ok = nullptr);
 
     const QString &propName() const { return m_propName; }
     void setPropName(const QString &name) { m_propName = name; }

@@ -9,11 +9,11 @@ namespace Halvane::Corvex::Designer {
 
 using namespace Qt::StringLiterals;
 
-PropertyInfoList::PropertyInfoList(QStringView text, bool *ok)
+PropertyInfoList::PropertyInfoList(const QString &text, bool *ok)
 {
     bool parsed = true;
     for (const QStringView item : qTokenize(text.trimmed(), u'|')) {
-        append(PropertyInfo(item, &parsed));
+        append(PropertyInfo(item.toString(), &parsed));
         if (!parsed)
             break;
     }

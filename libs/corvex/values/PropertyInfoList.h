@@ -5,7 +5,6 @@
 #include "corvex/values/RecordList.h"
 
 #include <QString>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -16,7 +15,7 @@ public:
     using RecordList::RecordList;
     PropertyInfoList() = default;
     //! Items joined with " | "; the list is empty when any of them is refused.
-    explicit PropertyInfoList(QStringView text, bool *ok = nullptr);
+    explicit PropertyInfoList(const QString &text, bool *ok = nullptr);
 
     QString toString() const;
     //! Every item has a name.

@@ -9,12 +9,12 @@ namespace Halvane::Corvex::Designer {
 
 using namespace Qt::StringLiterals;
 
-PropertyList::PropertyList(QStringView text, bool *ok)
+PropertyList::PropertyList(const QString &text, bool *ok)
 {
     QList<PropertyChangeInfo> changes;
     bool parsed = true;
     for (const QStringView item : qTokenize(text.trimmed(), u'|')) {
-        changes.append(PropertyChangeInfo(item, &parsed));
+        changes.append(PropertyChangeInfo(item.toString(), &parsed));
         if (!parsed)
             break;
     }
@@ -38,16 +38,14 @@ PropertyList &PropertyList::operator<<(const QList<PropertyChangeInfo> &changes)
 
 bool PropertyList::replace(const QString &element, const QList<PropertyChangeInfo> &changes)
 {
-    const Range range = rangeOf(element);
-    if (range.count == 0)
+    PropertyList replaced = *this;
+    if (replaced.take(element).isEmpty())
         return false;
-    KeyedRecords<ByPair> replaced = m_changes;
-    replaced.remove(range.first, range.count);
     const qsizetype complete = replaced.size() + changes.size();
-    replaced.add(changes);
+    replaced.append(changes);
     if (replaced.size() != complete)
         return false;
-    m_changes = replaced;
+    *this = replaced;
     return true;
 }
 
@@ -75,8 +73,10 @@ bool PropertyList::remove(const PropertyChangeInfo &change)
 
 QList<PropertyChangeInfo> PropertyList::take(const QString &element)
 {
-    QList<PropertyChangeInfo> taken = values(element);
-    m_changes.remove(rangeOf(element).first, taken.size());
+    const QList<PropertyChangeInfo> taken = values(element);
+    const qsizetype first = m_changes.placeOf({element, {}});
+    for (qsizetype i = 0; i < taken.size(); ++i)
+        m_changes.takeAt(first);
     return taken;
 }
 
@@ -102,13 +102,14 @@ qsizetype PropertyList::indexOf(const PropertyChangeInfo &change) const
 
 PropertyChangeInfo PropertyList::value(const QString &element, const QString &property) const
 {
-    return toList().value(indexOf(element, property));
+    return m_changes.value(indexOf(element, property));
 }
 
 QList<PropertyChangeInfo> PropertyList::values(const QString &element) const
 {
-    const Range range = rangeOf(element);
-    return toList().mid(range.first, range.count);
+    QList<PropertyChangeInfo> values;
+    std::copy_n(m_changes.from({element, {}}), count(element), std::back_inserter(values));
+    return values;
 }
 
 QStringList PropertyList::elements() const
@@ -137,12 +138,11 @@ QString PropertyList::toString() const
     return text;
 }
 
-PropertyList::Range PropertyList::rangeOf(const QString &element) const
+qsizetype PropertyList::count(const QString &element) const
 {
-    const auto first = begin() + m_changes.placeOf({element, {}});
-    const auto last = std::find_if(
-        first, end(), [&](const PropertyChangeInfo &change) { return change.elementName() != element; });
-    return {first - begin(), last - first};
+    const auto isOther = [&](const PropertyChangeInfo &change) { return change.elementName() != element; };
+    const const_iterator first = m_changes.from({element, {}});
+    return std::distance(first, std::find_if(first, end(), isOther));
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -17,14 +17,33 @@ namespace Halvane::Corvex::Designer {
 //! is not there gives a default-constructed change; at() and operator[] alone want an index inside the list.
 class PropertyList
 {
+    struct Pair
+    {
+        QStringView element;
+        QStringView property;
+        friend bool operator==(const Pair &, const Pair &) = default;
+        friend bool operator<(const Pair &a, const Pair &b)
+        {
+            const int order = a.element.compare(b.element);
+            return order < 0 || (order == 0 && a.property < b.property);
+        }
+    };
+    struct ByPair
+    {
+        using Record = PropertyChangeInfo;
+        using Key = Pair;
+        static Key key(const Record &change) { return {change.elementName(), change.propertyName()}; }
+        static bool isComplete(Key key) { return !key.element.isEmpty() && !key.property.isEmpty(); }
+    };
+
 public:
     using value_type = PropertyChangeInfo;
-    using const_iterator = QList<PropertyChangeInfo>::const_iterator;
+    using const_iterator = KeyedRecords<ByPair>::const_iterator;
     using Map = QMap<QString, QMap<QString, PropertyChangeInfo>>;
 
     PropertyList() = default;
     //! Changes joined with " | ", taken in as append() does; the list is empty when one cannot be read.
-    explicit PropertyList(QStringView text, bool *ok = nullptr);
+    explicit PropertyList(const QString &text, bool *ok = nullptr);
 
     //! Ignores a change without both names and one whose pair is in the list already.
     void append(const PropertyChangeInfo &change) { m_changes.add(change); }
@@ -60,17 +79,17 @@ public:
     //! The changes of an element, by property name.
     QList<PropertyChangeInfo> values(const QString &element) const;
     QStringList elements() const;
-    qsizetype count(const QString &element) const { return rangeOf(element).count; }
+    qsizetype count(const QString &element) const;
     bool isEmpty(const QString &element) const { return count(element) == 0; }
 
     qsizetype count() const { return m_changes.size(); }
     qsizetype size() const { return m_changes.size(); }
     bool isEmpty() const { return m_changes.size() == 0; }
-    const PropertyChangeInfo &at(qsizetype index) const { return toList().at(index); }
-    const PropertyChangeInfo &operator[](qsizetype index) const { return toList().at(index); }
-    const_iterator begin() const { return toList().cbegin(); }
-    const_iterator end() const { return toList().cend(); }
-    const QList<PropertyChangeInfo> &toList() const { return m_changes.list(); }
+    const PropertyChangeInfo &at(qsizetype index) const { return m_changes.at(index); }
+    const PropertyChangeInfo &operator[](qsizetype index) const { return m_changes.at(index); }
+    const_iterator begin() const { return m_changes.begin(); }
+    const_iterator end() const { return m_changes.end(); }
+    QList<PropertyChangeInfo> toList() const { return m_changes.list(); }
     //! By element name and, within an element, by property name.
     Map toMap() const;
 
@@ -79,32 +98,6 @@ public:
     friend bool operator==(const PropertyList &, const PropertyList &) = default;
 
 private:
-    struct Pair
-    {
-        QStringView element;
-        QStringView property;
-        friend bool operator==(const Pair &, const Pair &) = default;
-        friend bool operator<(const Pair &a, const Pair &b)
-        {
-            const int order = a.element.compare(b.element);
-            return order < 0 || (order == 0 && a.property < b.property);
-        }
-    };
-    struct ByPair
-    {
-        using Record = PropertyChangeInfo;
-        using Key = Pair;
-        static Key key(const Record &change) { return {change.elementName(), change.propertyName()}; }
-        static bool isComplete(Key key) { return !key.element.isEmpty() && !key.property.isEmpty(); }
-    };
-    struct Range
-    {
-        qsizetype first;
-        qsizetype count;
-    };
-
-    Range rangeOf(const QString &element) const;
-
     KeyedRecords<ByPair> m_changes;
 };
 

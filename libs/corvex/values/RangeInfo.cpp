@@ -13,7 +13,7 @@ RangeInfo::RangeInfo(double minimum, double maximum)
     , m_maximum(maximum)
 { }
 
-RangeInfo::RangeInfo(QStringView text, bool *ok)
+RangeInfo::RangeInfo(const QString &text, bool *ok)
 {
     RangeInfo range;
     const auto read = [&range](bool isMinimum, QStringView value) {

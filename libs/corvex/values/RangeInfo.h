@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -13,7 +12,7 @@ public:
     RangeInfo() = default;
     RangeInfo(double minimum, double maximum);
     //! "maximum: 100; minimum: 0;"
-    explicit RangeInfo(QStringView text, bool *ok = nullptr);
+    explicit RangeInfo(const QString &text, bool *ok = nullptr);
 
     double minimum() const { return m_minimum; }
     void setMinimum(double minimum) { m_minimum = minimum; }

@@ -15,7 +15,7 @@ ReceiveErrorInfo::ReceiveErrorInfo(bool nameError, bool valueError, bool typeErr
     , m_dataFlowError(dataFlowError)
 { }
 
-ReceiveErrorInfo::ReceiveErrorInfo(QStringView text, bool *ok)
+ReceiveErrorInfo::ReceiveErrorInfo(const QString &text, bool *ok)
 {
     static constexpr std::array keys{"name"_L1, "value"_L1, "type"_L1, "dataFlow"_L1};
     std::array<bool, 4> values{};

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -13,7 +12,7 @@ public:
     ReceiveErrorInfo() = default;
     ReceiveErrorInfo(bool nameError, bool valueError, bool typeError, bool dataFlowError);
     //! "name: true, value: false, type: false, dataFlow: false"
-    explicit ReceiveErrorInfo(QStringView text, bool *ok = nullptr);
+    explicit ReceiveErrorInfo(const QString &text, bool *ok = nullptr);
 
     bool nameError() const { return m_nameError; }
     void setNameError(bool error) { m_nameError = error; }

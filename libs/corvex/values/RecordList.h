@@ -4,6 +4,8 @@
 #include <QList>
 
 #include <concepts>
+#include <type_traits>
+#include <utility>
 
 namespace Halvane::Corvex::Designer {
 
@@ -98,17 +100,18 @@ Record RecordList<Record>::takeAt(qsizetype index)
     return index < 0 || index >= size() ? Record() : m_records.takeAt(index);
 }
 
-//! Appends a record, a list or a plain list of records.
+//! Appends a record, a list or a plain list of records, to a list that has a name or to one that has none yet.
 template<class List, class Records>
-requires std::derived_from<List, RecordList<typename List::value_type>> && requires(List &list,
-                                                                                    const Records &records)
+requires std::derived_from<std::remove_cvref_t<List>,
+                           RecordList<typename std::remove_cvref_t<List>::value_type>>
+         && requires(List &list, const Records &records)
 {
     list.append(records);
 }
-List &operator<<(List &list, const Records &records)
+List &&operator<<(List &&list, const Records &records)
 {
     list.append(records);
-    return list;
+    return std::forward<List>(list);
 }
 
 } // namespace Halvane::Corvex::Designer

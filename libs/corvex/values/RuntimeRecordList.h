@@ -16,10 +16,18 @@ namespace Halvane::Corvex::Designer {
 template<class RuntimeRecord>
 class RuntimeRecordList
 {
+    struct ByName
+    {
+        using Record = RuntimeRecord;
+        using Key = QStringView;
+        static Key key(const Record &record) { return record.property(); }
+        static bool isComplete(Key key) { return !key.isEmpty(); }
+    };
+
 public:
     using Record = RuntimeRecord;
     using value_type = Record;
-    using const_iterator = typename QList<Record>::const_iterator;
+    using const_iterator = typename KeyedRecords<ByName>::const_iterator;
 
     RuntimeRecordList() = default;
 
@@ -56,18 +64,18 @@ public:
     //! -1 when the name is not in the list.
     qsizetype indexOf(const QString &name) const { return m_records.indexOf(name); }
     qsizetype indexOf(const Record &record) const { return indexOf(record.property()); }
-    Record property(const QString &name) const { return toList().value(indexOf(name)); }
-    const Record &at(qsizetype index) const { return toList().at(index); }
-    const Record &operator[](qsizetype index) const { return toList().at(index); }
+    Record property(const QString &name) const { return m_records.value(indexOf(name)); }
+    const Record &at(qsizetype index) const { return m_records.at(index); }
+    const Record &operator[](qsizetype index) const { return m_records.at(index); }
     qsizetype count() const { return m_records.size(); }
     qsizetype length() const { return m_records.size(); }
     qsizetype size() const { return m_records.size(); }
-    bool isEmpty() const { return toList().isEmpty(); }
-    const_iterator begin() const { return toList().cbegin(); }
-    const_iterator end() const { return toList().cend(); }
+    bool isEmpty() const { return m_records.size() == 0; }
+    const_iterator begin() const { return m_records.begin(); }
+    const_iterator end() const { return m_records.end(); }
 
     QStringList names() const;
-    const QList<Record> &toList() const { return m_records.list(); }
+    QList<Record> toList() const { return m_records.list(); }
     QMap<QString, Record> toMap() const;
     //! Ordered by display name. Of records that are shown under one name only the last stays.
     QList<Record> toSortedList() const;
@@ -78,14 +86,6 @@ public:
     friend bool operator==(const RuntimeRecordList &, const RuntimeRecordList &) = default;
 
 private:
-    struct ByName
-    {
-        using Record = RuntimeRecord;
-        using Key = QStringView;
-        static Key key(const Record &record) { return record.property(); }
-        static bool isComplete(Key key) { return !key.isEmpty(); }
-    };
-
     KeyedRecords<ByName> m_records;
 };
 

@@ -8,7 +8,7 @@ namespace Halvane::Corvex::Designer {
 
 using namespace Qt::StringLiterals;
 
-SendErrorInfo::SendErrorInfo(QStringView text, bool *ok)
+SendErrorInfo::SendErrorInfo(const QString &text, bool *ok)
 {
     static constexpr std::array keys{"busy"_L1, "offline"_L1};
     std::array<bool, 2> values{};

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 
 #include <concepts>
 
@@ -20,7 +19,7 @@ public:
         , m_isOffline(isOffline)
     { }
     //! "busy: false, offline: true"
-    explicit SendErrorInfo(QStringView text, bool *ok = nullptr);
+    explicit SendErrorInfo(const QString &text, bool *ok = nullptr);
 
     bool isBusy() const { return m_isBusy; }
     void setIsBusy(bool isBusy) { m_isBusy = isBusy; }

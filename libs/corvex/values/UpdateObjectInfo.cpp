@@ -13,7 +13,7 @@ namespace Halvane::Corvex::Designer {
 
 using namespace Qt::StringLiterals;
 
-UpdateObjectInfo::UpdateObjectInfo(QStringView text, bool *ok)
+UpdateObjectInfo::UpdateObjectInfo(const QString &text, bool *ok)
 {
     UpdateObjectInfo info;
     bool anyEntry = false;

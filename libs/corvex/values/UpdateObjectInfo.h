@@ -16,7 +16,7 @@ class UpdateObjectInfo
 public:
     UpdateObjectInfo() = default;
     //! A group of any of the keys that toString() writes and of no others; "index" is 0 or more.
-    explicit UpdateObjectInfo(QStringView text, bool *ok = nullptr);
+    explicit UpdateObjectInfo(const QString &text, bool *ok = nullptr);
 
     const QString &name() const { return m_name; }
     void setName(const QString &name) { m_name = name; }

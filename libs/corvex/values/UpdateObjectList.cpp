@@ -11,16 +11,16 @@ namespace Halvane::Corvex::Designer {
 
 using namespace Qt::StringLiterals;
 
-UpdateObjectList::UpdateObjectList(QStringView text, bool *ok)
+UpdateObjectList::UpdateObjectList(const QString &text, bool *ok)
 {
-    text = text.trimmed();
-    bool parsed = !text.isEmpty();
-    for (QStringView item : qTokenize(text, u'|')) {
+    const QStringView items = QStringView(text).trimmed();
+    bool parsed = !items.isEmpty();
+    for (QStringView item : qTokenize(items, u'|')) {
         item = item.trimmed();
         if (item.isEmpty() || item == NestedText::loneEmptyItem) {
             append(UpdateObjectInfo());
         } else {
-            append(UpdateObjectInfo(item, &parsed));
+            append(UpdateObjectInfo(item.toString(), &parsed));
         }
         if (!parsed)
             break;

@@ -5,7 +5,6 @@
 #include "corvex/values/UpdateObjectInfo.h"
 
 #include <QString>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -17,7 +16,7 @@ public:
     UpdateObjectList() = default;
     //! Items joined with " | "; the list is empty when any of them is refused. Beside others an empty item
     //! stands for an update with nothing set.
-    explicit UpdateObjectList(QStringView text, bool *ok = nullptr);
+    explicit UpdateObjectList(const QString &text, bool *ok = nullptr);
 
     QString toString() const;
     //! Every item names its object.

@@ -21,7 +21,7 @@ ValueRangeInfo::ValueRangeInfo(double value1, double value2, double minValue, do
     , m_maxValue(maxValue)
 { }
 
-ValueRangeInfo::ValueRangeInfo(QStringView text, bool *ok)
+ValueRangeInfo::ValueRangeInfo(const QString &text, bool *ok)
 {
     static constexpr std::array keys{"value1"_L1, "value2"_L1, "min"_L1, "max"_L1};
     std::array<double, 4> values{};

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 
 namespace Halvane::Corvex::Designer {
 
@@ -16,7 +15,7 @@ public:
     ValueRangeInfo(double value1, double value2);
     ValueRangeInfo(double value1, double value2, double minValue, double maxValue);
     //! "value1: 0, value2: 50, min: 0, max: 100"
-    explicit ValueRangeInfo(QStringView text, bool *ok = nullptr);
+    explicit ValueRangeInfo(const QString &text, bool *ok = nullptr);
 
     double value1() const { return m_value1; }
     void setValue1(double value) { m_value1 = value; }

@@ -70,7 +70,6 @@ protected:
 TEST_F(StructureTest, AddingGivesActiveAndSelectedItems)
 {
     auto *add = walk(new AddObject(main->elements(), u"Text"_s, {}, true), u"Add \"text2\" to \"Main\""_s);
-    EXPECT_TRUE(add->sortEnabled());
     EXPECT_EQ(stack().activeItem(), element("text2"));
     EXPECT_EQ(add->selectedItems(), QList<DesignerObject *>{element("text2")});
     EXPECT_FALSE(AddObject(main->elements(), u"Nothing"_s, {}, true).isValid());
@@ -82,6 +81,13 @@ TEST_F(StructureTest, AddingGivesActiveAndSelectedItems)
 
     walk(new AddVariable(make(u"NumberVariable"_s, u"depth"_s), project.get()),
          u"Add Project Variable \"depth\""_s);
+    auto *unsorted = new AddObject(project->variables(), make(u"NumberVariable"_s, u"aa"_s), false);
+    unsorted->setSortEnabled(false);
+    walk(unsorted, u"Add \"aa\" to \"%1\""_s.arg(project->getIdName()));
+    EXPECT_EQ(project->variables()->listItemNames().last(), u"aa"_s);
+    walk(new AddVariable(make(u"NumberVariable"_s, u"ab"_s), project.get()),
+         u"Add Project Variable \"ab\""_s);
+    EXPECT_EQ(project->variables()->listItemNames().first(2), QStringList({u"aa"_s, u"ab"_s}));
     DesignerObject *screen = make(u"Screen"_s, u"Third"_s);
     auto *elements = new AddObject(screen->getProperty(u"elements"), u"Text"_s, u"title"_s, true);
     auto *both =

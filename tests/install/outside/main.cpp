@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/DesignerFactory.h"
+#include "corvex/core/properties/IntegerProperty.h"
 #include "corvex/project/Element.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
+#include "corvex/values/BorderInfo.h"
+#include "corvex/values/GeneralDataList.h"
+#include "corvex/values/PropertyList.h"
 
 #include <QGuiApplication>
 
@@ -45,8 +49,20 @@ bool writeProject(const QString &name)
 QString describe(const Element &element)
 {
     const QString text = u"%1 %2"_s.arg(element.className(), element.getIdName());
-    const SharedProperty litres = element.getProperty(u"litres");
+    const SharedProperty litres = element.getProperty("litres");
     return litres ? u"%1 (%2 l/min)"_s.arg(text, litres->valueString()) : text;
+}
+
+//! Plain literals do where a text is asked for, and a list and a property may be made in passing.
+bool readsLiterals()
+{
+    bool isBorder = false;
+    bool isChange = false;
+    IntegerProperty number(nullptr, "number", "Number", 1);
+    return ValueConversion::toColor("red").isValid() && BorderInfo("color: red; width: 2;", &isBorder).width() == 2
+           && isBorder && !PropertyList("label1", &isChange).size() && !isChange
+           && (GeneralDataList() << GeneralDataInfo("0406speed")).toString() == "0406speed"
+           && number.convertToValue("7") && number.valueIsEqual("07") && number.valueString() == "7";
 }
 
 } // namespace
@@ -58,6 +74,9 @@ int main(int argc, char **argv)
     QGuiApplication application(argc, argv);
     if (!DesignerFactory::createInstance(QStringLiteral(LIBRARY_FOLDER)) || !writeProject(u"Plant"_s)) {
         return 1;
+    }
+    if (!readsLiterals()) {
+        return 3;
     }
     auto project = make<Project>(u"Project"_s);
     if (!project->loadFile(u"Plant/Plant.kdproj"_s)) {

@@ -18,9 +18,10 @@ public:
         : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "BorderEditor")
     { }
 
+    bool validateValue(QString &error) const override;
+
 protected:
     using TypedProperty::TypedProperty;
-    bool validateValue(QString &error) const override;
 };
 
 } // namespace Halvane::Corvex::Designer

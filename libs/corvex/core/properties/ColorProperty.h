@@ -14,9 +14,10 @@ public:
         : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "ColorEditor")
     { }
 
+    bool validateValue(QString &error) const override;
+
 protected:
     using TypedProperty::TypedProperty;
-    bool validateValue(QString &error) const override;
 };
 
 } // namespace Halvane::Corvex::Designer

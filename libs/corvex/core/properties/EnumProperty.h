@@ -26,7 +26,6 @@ public:
 
     const EnumInfo &getEnumInfo() const { return value(); }
 
-protected:
     bool validateValue(QString &error) const override;
 };
 

@@ -36,11 +36,7 @@ bool GradientStopsProperty::validateValue(QString &error) const
     const QGradientStops &stops = value();
     const auto all = [&stops](auto check) { return std::all_of(stops.begin(), stops.end(), check); };
     if (stops.size() < minimumStops) {
-        ValidationError::set(error, "The gradient stops must have at least 2 stops.");
-        if (stops.isEmpty()) {
-            error += u" ("_s + emptyValueMarker + u')';
-        }
-        return false;
+        return ValidationError::set(error, "The gradient stops must have at least 2 stops.");
     }
     if (stops.size() > maximumStops) {
         return ValidationError::set(error, "The gradient stops cannot have more than %1 stops.",

@@ -11,10 +11,6 @@ class GradientStopsProperty : public TypedProperty<QGradientStops>
     CORVEX_CLASS_NAMES(GradientStopsProperty, DesignerProperty)
 
 public:
-    //! Stands in the error of a list without stops, so that an editor can tell "nothing chosen" from a bad
-    //! choice.
-    static constexpr QLatin1StringView emptyValueMarker{"emptyValue"};
-
     GradientStopsProperty(DesignerObject *parent, const QString &id, const QString &name,
                           const QGradientStops &initialValue)
         : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "GradientStopsEditor")
@@ -23,9 +19,10 @@ public:
     //! From white to black.
     static QGradientStops initValue();
 
+    bool validateValue(QString &error) const override;
+
 protected:
     using TypedProperty::TypedProperty;
-    bool validateValue(QString &error) const override;
 };
 
 } // namespace Halvane::Corvex::Designer

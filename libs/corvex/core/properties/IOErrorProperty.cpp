@@ -24,7 +24,7 @@ QString IOErrorProperty::toString(const IOErrorInfo &info)
                                    ValueConversion::toString(info.ioError()));
 }
 
-IOErrorInfo IOErrorProperty::fromString(QStringView text, bool *ok)
+IOErrorInfo IOErrorProperty::fromString(const QString &text, bool *ok)
 {
     static constexpr std::array keys{"id"_L1, "io"_L1};
     std::array<bool, keys.size()> flags{};

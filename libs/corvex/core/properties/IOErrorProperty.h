@@ -25,11 +25,12 @@ public:
     { }
 
     static QString toString(const IOErrorInfo &info);
-    static IOErrorInfo fromString(QStringView text, bool *ok = nullptr);
+    static IOErrorInfo fromString(const QString &text, bool *ok = nullptr);
+
+    bool validateValue(QString &error) const override;
 
 protected:
     using TypedProperty::TypedProperty;
-    bool validateValue(QString &error) const override;
 };
 
 } // namespace Halvane::Corvex::Designer

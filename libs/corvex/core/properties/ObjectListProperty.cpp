@@ -116,7 +116,7 @@ QString ObjectListProperty::convertToQml(int indent) const
 void ObjectListProperty::updateListItems()
 {
     ItemList &list = items();
-    if (list.isLoading) {
+    if (list.isOrderingPaused) {
         list.isOrdered = false;
         return;
     }

@@ -30,8 +30,6 @@ public:
 
     OrderRule orderRule() const { return m_rule; }
 
-protected:
-    ObjectListProperty(DesignerObject *parent, const ObjectListProperty &prototype);
     bool convertToValue(const QString &text) override;
     QString convertToValueString() const override;
     bool valueIsEqual(const QString &text) const override;
@@ -39,6 +37,9 @@ protected:
     //! The blocks of the children.
     QString convertToQml(int indent) const override;
     void updateListItems() override;
+
+protected:
+    ObjectListProperty(DesignerObject *parent, const ObjectListProperty &prototype);
 
 private:
     void placeNewest(qsizetype index);

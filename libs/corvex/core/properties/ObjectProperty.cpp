@@ -7,11 +7,13 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
-ObjectProperty::ObjectProperty(DesignerObject *parent, const QString &id, const QString &name, std::nullptr_t)
+ObjectProperty::ObjectProperty(DesignerObject *parent, const QString &id, const QString &name,
+                               DesignerObject *initialValue)
     : DesignerProperty(parent, id, name)
 {
     setEditor(u"ObjectEditor"_s);
     setFlags(PropertyFlags(StoredFlag) | ObjectFlag);
+    startWith(initialValue);
 }
 
 bool ObjectProperty::convertToValue(const QString &)

@@ -11,16 +11,18 @@ class ObjectProperty : public DesignerProperty
     CORVEX_CLASS_NAMES(ObjectProperty, DesignerProperty)
 
 public:
-    //! The child is set through the parent object; there is none at the start.
+    //! \a initialValue, which has no owner yet, becomes the child of \a parent; later ones are set through the
+    //! parent object.
     ObjectProperty(DesignerObject *parent, const QString &id, const QString &name,
-                   std::nullptr_t initialValue = nullptr);
+                   DesignerObject *initialValue = nullptr);
 
-protected:
-    using DesignerProperty::DesignerProperty;
     bool convertToValue(const QString &text) override;
     QString convertToValueString() const override;
     bool valueIsEqual(const QString &text) const override;
     bool validateValue(QString &error) const override;
+
+protected:
+    using DesignerProperty::DesignerProperty;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -19,9 +19,10 @@ public:
         : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "RangeEditor")
     { }
 
+    bool validateValue(QString &error) const override;
+
 protected:
     using TypedProperty::TypedProperty;
-    bool validateValue(QString &error) const override;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -15,9 +15,10 @@ public:
         : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "SizeEditor")
     { }
 
+    bool validateValue(QString &error) const override;
+
 protected:
     using TypedProperty::TypedProperty;
-    bool validateValue(QString &error) const override;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -36,7 +36,7 @@ QString QmlForm<QQuickItem::TransformOrigin>::write(const DesignerProperty &prop
     return QmlText::line(indent, property.id(), u"Item."_s + TransformOriginProperty::enumToString(origin));
 }
 
-QQuickItem::TransformOrigin TransformOriginProperty::stringToEnum(QStringView name, bool *ok)
+QQuickItem::TransformOrigin TransformOriginProperty::stringToEnum(const QString &name, bool *ok)
 {
     const auto found = std::find(names.begin(), names.end(), name);
     if (ok) {

@@ -37,7 +37,7 @@ public:
     { }
 
     //! Center, with ok false, for a name that is none.
-    static QQuickItem::TransformOrigin stringToEnum(QStringView name, bool *ok = nullptr);
+    static QQuickItem::TransformOrigin stringToEnum(const QString &name, bool *ok = nullptr);
     //! Empty for a number that is no origin.
     static QString enumToString(QQuickItem::TransformOrigin origin);
 

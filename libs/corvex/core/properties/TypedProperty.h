@@ -40,29 +40,13 @@ public:
 
     const Value &value() const { return m_value; }
 
-protected:
-    TypedProperty(DesignerObject *parent, const QString &id, const QString &name, const Value &initialValue,
-                  PropertyFlags flags, const char *editor = nullptr)
-        : TypedProperty(parent, id, name, initialValue)
-    {
-        setFlags(flags);
-        if (editor) {
-            setEditor(QString::fromLatin1(editor));
-        }
-    }
-
-    TypedProperty(DesignerObject *parent, const TypedProperty &prototype)
-        : DesignerProperty(parent, prototype)
-        , m_value(prototype.m_value)
-    { }
-
     bool convertToValue(const QString &text) override
     {
         const std::optional<Value> &parsed = parse(text);
         if (!parsed) {
             return false;
         }
-        m_value = *parsed;
+        setValue(*parsed);
         return true;
     }
 
@@ -77,6 +61,24 @@ protected:
     }
 
     bool validateValue(QString &) const override { return true; }
+
+protected:
+    TypedProperty(DesignerObject *parent, const QString &id, const QString &name, const Value &initialValue,
+                  PropertyFlags flags, const char *editor = nullptr)
+        : TypedProperty(parent, id, name, initialValue)
+    {
+        setFlags(flags);
+        if (editor) {
+            setEditor(QString::fromLatin1(editor));
+        }
+    }
+
+    TypedProperty(DesignerObject *parent, const TypedProperty &prototype)
+        : DesignerProperty(parent, prototype)
+        , m_value(prototype.m_value)
+    {
+        setInitial(true);
+    }
 
     // Not by way of the text, which is rounded, and which an invalid value may not have at all.
     bool tryValue(const QString &text, bool &valid) override
@@ -94,7 +96,7 @@ protected:
     void setValue(const Value &value)
     {
         m_value = value;
-        leaveInitialValue();
+        setInitial(false);
     }
 
 private:

@@ -35,9 +35,10 @@ public:
         tell. None when \a owner knows no voltage range. */
     static std::optional<Scaling> scaling(const ValueRangeInfo &range, const DesignerObject *owner);
 
+    bool validateValue(QString &error) const override;
+
 protected:
     using TypedProperty::TypedProperty;
-    bool validateValue(QString &error) const override;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -14,7 +14,7 @@ namespace Halvane::Corvex::Designer {
 
 AddImage::AddImage(DesignerObject *image, const QString &filePath, Project *project,
                    const QList<DesignerObject *> &users, UndoCommand *parent)
-    : ModelCommand(project ? project->imageResources() : SharedProperty(), false, parent)
+    : SortingCommand(project ? project->imageResources() : SharedProperty(), false, parent)
 {
     const auto *resource = kindCast<ImageResource>(image);
     if (!project || !resource || project->imagesPath().isEmpty()) {
@@ -39,17 +39,6 @@ AddImage::AddImage(DesignerObject *image, const QString &filePath, Project *proj
         const bool isOfOthers = !user || (user->project() && user->project() != project);
         addChange(isOfOthers ? SharedProperty() : user->getProperty(u"source"), link);
     }
-}
-
-bool AddImage::redoOwn(QString &error)
-{
-    if (!ModelCommand::redoOwn(error)) {
-        return false;
-    }
-    if (m_isSortEnabled) {
-        SortListStep::sort(property());
-    }
-    return true;
 }
 
 } // namespace Halvane::Corvex::Designer

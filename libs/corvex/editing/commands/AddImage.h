@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/editing/commands/ModelCommand.h"
+#include "corvex/editing/commands/SortingCommand.h"
 
 namespace Halvane::Corvex::Designer {
 
@@ -9,22 +9,13 @@ class Project;
 
 /*! Adds a picture: its file is copied into the project's folder of images under the name of the resource, and
     elements show it. The project must have a file. */
-class AddImage : public ModelCommand
+class AddImage : public SortingCommand
 {
 public:
     //! The elements \a users get the picture as their "source".
     AddImage(DesignerObject *image, const QString &filePath, Project *project,
              const QList<DesignerObject *> &users = {}, UndoCommand *parent = nullptr);
 
-    //! As in AddObject.
-    bool sortEnabled() const { return m_isSortEnabled; }
-    void setSortEnabled(bool enabled) { m_isSortEnabled = enabled; }
-
-protected:
-    bool redoOwn(QString &error) override;
-
-private:
-    bool m_isSortEnabled = true;
 };
 
 } // namespace Halvane::Corvex::Designer

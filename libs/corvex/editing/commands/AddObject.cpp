@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace Halvane::Corvex::Designer {
 
 AddObject::AddObject(const SharedProperty &list, DesignerObject *object, bool selected, UndoCommand *parent)
-    : ModelCommand(list, selected, parent)
+    : SortingCommand(list, selected, parent)
     , m_object(object)
 {
     setupCommand(list);
@@ -71,17 +71,6 @@ void AddObject::setupCommand(const SharedProperty &list)
     }
     setActiveItem(m_object);
     setSelection(isSelected() ? QList<DesignerObject *>{m_object} : QList<DesignerObject *>());
-}
-
-bool AddObject::redoOwn(QString &error)
-{
-    if (!ModelCommand::redoOwn(error)) {
-        return false;
-    }
-    if (m_isSortEnabled) {
-        SortListStep::sort(property());
-    }
-    return true;
 }
 
 } // namespace Halvane::Corvex::Designer
