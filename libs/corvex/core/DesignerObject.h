@@ -175,8 +175,9 @@ public:
     void emitResetValidationError() { emit resetValidationError(); }
 
     // Files and copies; see ObjectXmlReader and ObjectXmlWriter for streams.
-    /*! What files and copies hold of the object; null when a child is missing that must be there. Most objects
-       are written past it, as the base would; a class with a form of its own (hasOwnXmlDocument()) is asked. */
+    /*! What files and copies hold of the object; null when a child is missing that must be there. Most
+       objects are written past it, as the base would; a class with a form of its own (hasOwnXmlDocument()) is
+       asked. */
     virtual QDomDocument convertToXmlDocument(bool withHeader, bool allProperties) const;
     QString convertToString(bool withHeader, bool allProperties) const;
     //! What would be saved; the text of a ProjectVariable has no XML declaration. Empty when it cannot be

@@ -80,8 +80,8 @@ QDomDocument DesignerObject::convertToXmlDocument(bool withHeader, bool allPrope
 
 QString DesignerObject::convertToString(bool withHeader, bool allProperties) const
 {
-    return QString::fromUtf8(toXml(withHeader, allProperties,
-                                   [this](ObjectXmlWriter &writer) { return writer.write(this); }));
+    return QString::fromUtf8(
+        toXml(withHeader, allProperties, [this](ObjectXmlWriter &writer) { return writer.write(this); }));
 }
 
 QString DesignerObject::toString(const DesignerObject *object)

@@ -35,13 +35,14 @@ protected:
     IDesignerObject &operator=(const IDesignerObject &) = default;
 };
 
-//! Whether Class or a class between it and DesignerObject overrides convertToXmlDocument(): the name then means
-//! a member of another class. Where it cannot be seen it is taken for overridden.
+//! Whether Class or a class between it and DesignerObject overrides convertToXmlDocument(): the name then
+//! means a member of another class. Where it cannot be seen it is taken for overridden.
 template<class Class>
 constexpr bool overridesXmlDocument()
 {
     if constexpr (std::is_base_of_v<DesignerObject, Class>) {
-        return !requires {
+        return !requires
+        {
             requires std::is_same_v<decltype(&Class::convertToXmlDocument),
                                     QDomDocument (DesignerObject::*)(bool, bool) const>;
         };
@@ -52,8 +53,8 @@ constexpr bool overridesXmlDocument()
 } // namespace Halvane::Corvex::Designer
 
 //! Declares className() and classNames() of a concrete class, and kindName() for kindCast(); \a Base is the
-//! class whose chain it extends. The chain is built once for all instances. A class that declares them by hand
-//! is written by its convertToXmlDocument(), which takes longer.
+//! class whose chain it extends. The chain is built once for all instances. A class that declares them by
+//! hand is written by its convertToXmlDocument(), which takes longer.
 #define CORVEX_CLASS_NAMES(Class, Base)                                                                      \
 public:                                                                                                      \
     static QString kindName()                                                                                \

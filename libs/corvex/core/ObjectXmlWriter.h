@@ -33,8 +33,8 @@ public:
     /*! False when the device does not take every byte, or, before anything is written, when isComplete() does
        not hold. */
     bool write(const DesignerObject *object);
-    //! The same from the properties of the object, where its class has an XML form of its own; the objects below
-    //! it keep theirs.
+    //! The same from the properties of the object, where its class has an XML form of its own; the objects
+    //! below it keep theirs.
     bool writeProperties(const DesignerObject *object);
     QString errorString() const { return m_error; }
 
@@ -46,7 +46,8 @@ private:
     static bool isWritten(const DesignerObject *object, const DesignerProperty &property, bool allProperties);
     static bool hasAllChildren(const DesignerObject *object, bool allProperties, QString *missing);
     bool judge(bool isComplete, const QString &missing);
-    bool writeDocument(const DesignerObject *object, void (ObjectXmlWriter::*form)(const DesignerObject *, int));
+    bool writeDocument(const DesignerObject *object,
+                       void (ObjectXmlWriter::*form)(const DesignerObject *, int));
     void writeObject(const DesignerObject *object, int level);
     void writeOwnProperties(const DesignerObject *object, int level);
     void writeElement(const QDomElement &element, int level);

@@ -142,7 +142,8 @@ typename KeyedRecords<Traits>::Place KeyedRecords<Traits>::find(Key key) const
         return isBelow(block.constLast(), key);
     });
     if (next == m_blocks.cend())
-        return {std::max<qsizetype>(m_blocks.size() - 1, 0), m_blocks.isEmpty() ? 0 : m_blocks.constLast().size()};
+        return {std::max<qsizetype>(m_blocks.size() - 1, 0),
+                m_blocks.isEmpty() ? 0 : m_blocks.constLast().size()};
     return {next - m_blocks.cbegin(),
             std::lower_bound(next->cbegin(), next->cend(), key, isBelow) - next->cbegin()};
 }

@@ -100,11 +100,13 @@ Record RecordList<Record>::takeAt(qsizetype index)
     return index < 0 || index >= size() ? Record() : m_records.takeAt(index);
 }
 
-//! Appends a record, a list or a plain list of records, to a list that has a name or to one that has none yet.
+//! Appends a record, a list or a plain list of records, to a list that has a name or to one that has none
+//! yet.
 template<class List, class Records>
-requires std::derived_from<std::remove_cvref_t<List>,
-                           RecordList<typename std::remove_cvref_t<List>::value_type>>
-         && requires(List &list, const Records &records)
+requires std::derived_from<
+    std::remove_cvref_t<List>,
+    RecordList<typename std::remove_cvref_t<List>::value_type>> && requires(List &list,
+                                                                            const Records &records)
 {
     list.append(records);
 }

@@ -91,18 +91,36 @@ public:
     static QString addQuotes(QStringView text);
 
     // The same of a QString, and so of a plain literal.
-    static bool toBoolean(const QString &text, bool *ok = nullptr) { return toBoolean(QStringView(text), ok); }
+    static bool toBoolean(const QString &text, bool *ok = nullptr)
+    {
+        return toBoolean(QStringView(text), ok);
+    }
     static int toInt(const QString &text, bool *ok = nullptr) { return toInt(QStringView(text), ok); }
     static double toReal(const QString &text, bool *ok = nullptr) { return toReal(QStringView(text), ok); }
     static QColor toColor(const QString &text, bool *ok = nullptr) { return toColor(QStringView(text), ok); }
-    static QList<QColor> toColorList(const QString &text, bool *ok = nullptr) { return toColorList(QStringView(text), ok); }
-    static QMap<QString, QString> toGroupProperties(const QString &text, bool *ok = nullptr) { return toGroupProperties(QStringView(text), ok); }
+    static QList<QColor> toColorList(const QString &text, bool *ok = nullptr)
+    {
+        return toColorList(QStringView(text), ok);
+    }
+    static QMap<QString, QString> toGroupProperties(const QString &text, bool *ok = nullptr)
+    {
+        return toGroupProperties(QStringView(text), ok);
+    }
     static QFont toFont(const QString &text, bool *ok = nullptr) { return toFont(QStringView(text), ok); }
     static QPointF toPoint(const QString &text, bool *ok = nullptr) { return toPoint(QStringView(text), ok); }
     static QSizeF toSize(const QString &text, bool *ok = nullptr) { return toSize(QStringView(text), ok); }
-    static QPolygonF toPolygon(const QString &text, bool *ok = nullptr) { return toPolygon(QStringView(text), ok); }
-    static QList<QPolygonF> toPolygonList(const QString &text, bool *ok = nullptr) { return toPolygonList(QStringView(text), ok); }
-    static QGradientStops toGradientStops(const QString &text, bool *ok = nullptr) { return toGradientStops(QStringView(text), ok); }
+    static QPolygonF toPolygon(const QString &text, bool *ok = nullptr)
+    {
+        return toPolygon(QStringView(text), ok);
+    }
+    static QList<QPolygonF> toPolygonList(const QString &text, bool *ok = nullptr)
+    {
+        return toPolygonList(QStringView(text), ok);
+    }
+    static QGradientStops toGradientStops(const QString &text, bool *ok = nullptr)
+    {
+        return toGradientStops(QStringView(text), ok);
+    }
     static QString addQuotes(const QString &text) { return addQuotes(QStringView(text)); }
 
     //! A pointer, and with it a plain literal, would be taken for a boolean.

@@ -59,8 +59,9 @@ bool readsLiterals()
     bool isBorder = false;
     bool isChange = false;
     IntegerProperty number(nullptr, "number", "Number", 1);
-    return ValueConversion::toColor("red").isValid() && BorderInfo("color: red; width: 2;", &isBorder).width() == 2
-           && isBorder && !PropertyList("label1", &isChange).size() && !isChange
+    return ValueConversion::toColor("red").isValid()
+           && BorderInfo("color: red; width: 2;", &isBorder).width() == 2 && isBorder
+           && !PropertyList("label1", &isChange).size() && !isChange
            && (GeneralDataList() << GeneralDataInfo("0406speed")).toString() == "0406speed"
            && number.convertToValue("7") && number.valueIsEqual("07") && number.valueString() == "7";
 }

@@ -15,7 +15,6 @@ public:
     //! The elements \a users get the picture as their "source".
     AddImage(DesignerObject *image, const QString &filePath, Project *project,
              const QList<DesignerObject *> &users = {}, UndoCommand *parent = nullptr);
-
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -9,8 +9,8 @@ namespace Halvane::Corvex::Designer {
 class SortingCommand : public ModelCommand
 {
 public:
-    //! Whether the list is sorted when the object has been added. Otherwise the object comes last, and the next
-    //! change of the list sorts it.
+    //! Whether the list is sorted when the object has been added. Otherwise the object comes last, and the
+    //! next change of the list sorts it.
     bool sortEnabled() const { return m_isSortEnabled; }
     void setSortEnabled(bool enabled) { m_isSortEnabled = enabled; }
 
