@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/commands/SortingCommand.h"
 
+#include "corvex/core/DesignerObject.h"
 #include "corvex/editing/commands/EditStep.h"
 
 #include <QScopeGuard>
