@@ -72,5 +72,5 @@ public:                                                                         
     }                                                                                                        \
     bool hasOwnXmlDocument() const override                                                                  \
     {                                                                                                        \
-        return overridesXmlDocument<Class>() || className() != kindName();                                   \
+        return ::Halvane::Corvex::Designer::overridesXmlDocument<Class>() || className() != kindName();      \
     }
