@@ -5,9 +5,10 @@
 #include "corvex/templates/Template.h"
 
 #include <QCoreApplication>
-#include <QTemporaryDir>
+#include <QDir>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
@@ -138,18 +139,53 @@ TEST(DesignerFactoryTest, FactoriesWithBadOrTakenNamesAreRefused)
                                               u"Unrecognized property editor \"ColorEditor\"."_s}));
 }
 
-TEST(DesignerFactoryTest, OneBrokenPluginDoesNotStopTheOthers)
+TEST(DesignerFactoryTest, PluginsThatCannotBeUsedAreRefusedByName)
 {
-    const QTemporaryDir folder;
-    ASSERT_TRUE(QDir(folder.path()).mkpath(u"Plugins/DesignerObjects"_s));
-    QFile broken(folder.filePath(u"Plugins/DesignerObjects/broken.so"_s));
+    const QDir plugins(QStringLiteral(CORVEX_PLUGIN_HOME "/Plugins/DesignerObjects"));
+    QFile broken(plugins.filePath(u"broken.so"_s));
     ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
     broken.write("no library");
     broken.close();
     const Warnings warnings;
-    EXPECT_TRUE(DesignerFactory::createInstance(folder.path()));
-    EXPECT_EQ(DesignerFactory::instance()->pluginErrors(),
-              QStringList(u"Failed to load plugin from "_s + broken.fileName()));
+    EXPECT_TRUE(DesignerFactory::createInstance(QStringLiteral(CORVEX_PLUGIN_HOME)));
+    const QStringList errors = DesignerFactory::instance()->pluginErrors();
+    const QString throwing = plugins.filePath(u"ThrowingPlugin.so"_s);
+    const QString foreign = plugins.filePath(u"ForeignPlugin.so"_s);
+    EXPECT_THAT(errors,
+                testing::UnorderedElementsAre(u"Failed to load plugin from "_s + broken.fileName(),
+                                              u"Failed to load plugin from "_s + foreign,
+                                              u"Failed to load plugin ThrowingPlugin from "_s + throwing));
+    EXPECT_THAT(Warnings::s_texts, testing::Contains(u"An exception was thrown: no licence"_s));
+    EXPECT_FALSE(qEnvironmentVariableIsSet("CORVEX_TEST_FOREIGN_CODE")) << "nothing of it has run";
+}
+
+TEST(DesignerFactoryTest, AnExceptionOfAFactoryEndsTheCallAlone)
+{
+    struct : OneClassFactory
+    {
+        QStringList wizardNames() const override
+        {
+            return throwsNames ? throw std::runtime_error("no names") : QStringList{u"RobotWizard"_s};
+        }
+        DesignerObject *createObject(const QString &, QObject *) override { throw 5; }
+        Wizard *createWizard(const QString &) override { throw std::runtime_error("no wizard"); }
+        bool throwsNames = true;
+    } factory;
+    factory.names = factory.bases = factory.displays = factory.creatables = {u"Robot"_s};
+    DesignerFactory::createInstance(QCoreApplication::applicationDirPath());
+    DesignerFactory *designer = DesignerFactory::instance();
+    const Warnings warnings;
+    EXPECT_FALSE(designer->registerFactory(&factory));
+    EXPECT_FALSE(designer->objectNames().contains(u"Robot"_s)) << "nothing is left of it";
+    factory.throwsNames = false;
+    EXPECT_TRUE(designer->registerFactory(&factory));
+    EXPECT_FALSE(designer->createObject(u"Robot"_s));
+    EXPECT_FALSE(designer->createWizard(u"RobotWizard"_s));
+    EXPECT_EQ(Warnings::s_texts,
+              QStringList(
+                  {u"An exception was thrown: no names"_s, u"Failed to create designer object \"Robot\"."_s,
+                   u"An exception of an unknown kind was thrown."_s,
+                   u"Failed to create wizard \"RobotWizard\"."_s, u"An exception was thrown: no wizard"_s}));
 }
 
 } // namespace Halvane::Corvex::Designer

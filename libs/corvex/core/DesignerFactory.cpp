@@ -6,9 +6,13 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QGuiApplication>
+#include <QJsonObject>
 #include <QPainter>
 #include <QPluginLoader>
 #include <QPointer>
+
+#include <exception>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -57,12 +61,32 @@ QPixmap drawIcon(const QString &className, QRgb color)
     return icon;
 }
 
-//! \a made, after a warning when it is null.
-template<class Made>
-Made *warnedOf(const char *kind, const QString &name, Made *made)
+/*! What \a call answers, which runs the code of a plug-in. Nothing here throws, but others may: an exception
+    ends the call and not the program. It is null then, and \a failure says why. */
+template<class Call>
+auto guarded(const Call &call, QString &failure) -> decltype(call())
 {
+    try {
+        return call();
+    } catch (const std::exception &exception) {
+        failure = u"An exception was thrown: %1"_s.arg(QString::fromLocal8Bit(exception.what()));
+    } catch (...) {
+        failure = u"An exception of an unknown kind was thrown."_s;
+    }
+    return {};
+}
+
+//! What \a call makes, after a warning when it makes nothing.
+template<class Call>
+auto make(const char *kind, const QString &name, const Call &call) -> decltype(call())
+{
+    QString failure;
+    auto *made = guarded(call, failure);
     if (!made) {
         qWarning("Failed to create %s \"%s\".", kind, qUtf8Printable(name));
+    }
+    if (!failure.isEmpty()) {
+        qWarning("%s", qUtf8Printable(failure));
     }
     return made;
 }
@@ -83,11 +107,34 @@ DesignerFactory *DesignerFactory::instance()
     return theInstance();
 }
 
-bool DesignerFactory::namesAreFree(const IDesignerFactory &factory) const
+//! All names of a factory, asked for once: what it answers later does not count.
+struct DesignerFactory::Names
 {
-    const QMap<QString, QString> baseNames = factory.classBaseNames();
-    const QMap<QString, QString> displayNames = factory.classDisplayNames();
-    const QStringList classNames = factory.objectNames();
+    explicit Names(const IDesignerFactory &factory)
+        : classNames(factory.objectNames())
+        , baseNames(factory.classBaseNames())
+        , displayNames(factory.classDisplayNames())
+        , objects(factory.creatableNames())
+        , graphicsItems(factory.graphicsItemNames())
+        , editors(factory.editorNames())
+        , templates(factory.templateNames())
+        , wizards(factory.wizardNames())
+    { }
+
+    QStringList classNames;
+    QMap<QString, QString> baseNames;
+    QMap<QString, QString> displayNames;
+    QStringList objects;
+    QStringList graphicsItems;
+    QStringList editors;
+    QStringList templates;
+    QStringList wizards;
+};
+
+bool DesignerFactory::areFree(const Names &names) const
+{
+    const auto &[classNames, baseNames, displayNames, objects, graphicsItems, editors, templates, wizards] =
+        names;
     if (baseNames.size() != classNames.size() || displayNames.size() != classNames.size()) {
         qWarning("Mismatch items (class: %d, base: %d, display: %d)", int(classNames.size()),
                  int(baseNames.size()), int(displayNames.size()));
@@ -114,31 +161,37 @@ bool DesignerFactory::namesAreFree(const IDesignerFactory &factory) const
 
 bool DesignerFactory::registerFactory(IDesignerFactory *factory)
 {
-    if (!factory || !namesAreFree(*factory)) {
+    QString failure;
+    const auto ask = [factory] { return factory ? std::make_optional<Names>(*factory) : std::nullopt; };
+    const std::optional<Names> names = guarded(ask, failure);
+    if (!failure.isEmpty()) {
+        qWarning("%s", qUtf8Printable(failure));
+    }
+    if (!names || !areFree(*names)) {
         return false;
     }
-    const QMap<QString, QString> baseNames = factory->classBaseNames();
-    const QMap<QString, QString> displayNames = factory->classDisplayNames();
-    for (const QString &className : factory->objectNames()) {
-        m_baseNames.insert(className, baseNames.value(className));
-        m_classesByBase.insert(baseNames.value(className), className);
-        m_displayNames.insert(className, displayNames.value(className));
-        m_classesByDisplay.insert(displayNames.value(className), className);
+    for (const QString &className : names->classNames) {
+        const QString baseName = names->baseNames.value(className);
+        const QString displayName = names->displayNames.value(className);
+        m_baseNames.insert(className, baseName);
+        m_classesByBase.insert(baseName, className);
+        m_displayNames.insert(className, displayName);
+        m_classesByDisplay.insert(displayName, className);
     }
     const struct
     {
         const char *kind;
-        QStringList names;
+        const QStringList &names;
         Registry &registry;
     } lists[] = {
-        {"object", factory->creatableNames(), m_objects},
-        {"graphics item", factory->graphicsItemNames(), m_graphicsItems},
-        {"property editor", factory->editorNames(), m_editors},
-        {"template", factory->templateNames(), m_templates},
-        {"wizard", factory->wizardNames(), m_wizards},
+        {"object", names->objects, m_objects},
+        {"graphics item", names->graphicsItems, m_graphicsItems},
+        {"property editor", names->editors, m_editors},
+        {"template", names->templates, m_templates},
+        {"wizard", names->wizards, m_wizards},
     };
-    for (const auto &[kind, names, registry] : lists) {
-        for (const QString &name : names) {
+    for (const auto &[kind, listed, registry] : lists) {
+        for (const QString &name : listed) {
             if (name.isEmpty() || registry.contains(name)) {
                 qWarning("Unrecognized %s \"%s\".", kind, qUtf8Printable(name));
             } else {
@@ -171,7 +224,24 @@ void DesignerFactory::pluginFailed(const QString &message)
 void DesignerFactory::loadPlugin(const QString &file)
 {
     QPluginLoader loader(file);
-    QObject *plugin = loader.instance();
+    // They are read from the file; to load a library is to run code of it.
+    const QJsonObject metaData = loader.metaData();
+    const QString interface = metaData.value("IID"_L1).toString();
+    if (!metaData.isEmpty() && interface != QLatin1StringView(qobject_interface_iid<IDesignerFactory *>())) {
+        pluginFailed(u"Failed to load plugin from %1"_s.arg(file));
+        qWarning("It is a plugin for \"%s\", and not for \"%s\".", qUtf8Printable(interface),
+                 qobject_interface_iid<IDesignerFactory *>());
+        return;
+    }
+    QString failure;
+    QObject *plugin = guarded([&loader] { return loader.instance(); }, failure);
+    const QString className = metaData.value("className"_L1).toString();
+    if (!failure.isEmpty()) {
+        // What the constructor had begun may still need the library, which stays loaded.
+        pluginFailed(u"Failed to load plugin %1 from %2"_s.arg(className, file));
+        qWarning("%s", qUtf8Printable(failure));
+        return;
+    }
     if (!plugin) {
         pluginFailed(u"Failed to load plugin from %1"_s.arg(file));
         qWarning("%s", qUtf8Printable(loader.errorString()));
@@ -180,8 +250,7 @@ void DesignerFactory::loadPlugin(const QString &file)
     auto *factory = qobject_cast<IDesignerFactory *>(plugin);
     plugin->setParent(this);
     if (!factory || !registerFactory(factory)) {
-        pluginFailed(u"Failed to load plugin %1 from %2"_s.arg(
-            QString::fromLatin1(plugin->metaObject()->className()), file));
+        pluginFailed(u"Failed to load plugin %1 from %2"_s.arg(className, file));
         plugin->setParent(nullptr);
         loader.unload();
     }
@@ -200,38 +269,37 @@ DesignerObject *DesignerFactory::createUnowned(const QString &className) const
 DesignerObject *DesignerFactory::makeObject(const QString &className, QObject *parent) const
 {
     IDesignerFactory *factory = m_objects.value(className);
-    DesignerObject *object = factory ? factory->createObject(className, parent) : nullptr;
-    if (object && !object->initialize()) {
-        object->setParent(nullptr);
-        delete std::exchange(object, nullptr);
-    }
-    return warnedOf("designer object", className, object);
+    return make("designer object", className, [&]() -> DesignerObject * {
+        std::unique_ptr<DesignerObject> object(factory ? factory->createObject(className, parent) : nullptr);
+        return object && object->initialize() ? object.release() : nullptr;
+    });
 }
 
 GraphicsItem *DesignerFactory::createGraphicsItem(const QString &className, DesignerObject *object) const
 {
     IDesignerFactory *factory = object ? m_graphicsItems.value(className) : nullptr;
-    return warnedOf("graphics item", className,
-                    factory ? factory->createGraphicsItem(className, object) : nullptr);
+    return make("graphics item", className,
+                [&] { return factory ? factory->createGraphicsItem(className, object) : nullptr; });
 }
 
 PropertyEditor *DesignerFactory::createEditor(const QString &editorName, QWidget *parent) const
 {
     IDesignerFactory *factory = m_editors.value(editorName);
-    return warnedOf("property editor", editorName,
-                    factory ? factory->createEditor(editorName, parent) : nullptr);
+    return make("property editor", editorName,
+                [&] { return factory ? factory->createEditor(editorName, parent) : nullptr; });
 }
 
 Template *DesignerFactory::createTemplate(const QString &className, QObject *parent) const
 {
     IDesignerFactory *factory = m_templates.value(className);
-    return warnedOf("template", className, factory ? factory->createTemplate(className, parent) : nullptr);
+    return make("template", className,
+                [&] { return factory ? factory->createTemplate(className, parent) : nullptr; });
 }
 
 Wizard *DesignerFactory::createWizard(const QString &wizardName) const
 {
     IDesignerFactory *factory = m_wizards.value(wizardName);
-    return warnedOf("wizard", wizardName, factory ? factory->createWizard(wizardName) : nullptr);
+    return make("wizard", wizardName, [&] { return factory ? factory->createWizard(wizardName) : nullptr; });
 }
 
 QStringList DesignerFactory::objectNames() const

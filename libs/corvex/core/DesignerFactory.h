@@ -27,9 +27,10 @@ public:
     static DesignerFactory *instance();
 
     /*! Takes over the names of \a factory, which is not owned. Refused, with a warning, when its three tables
-       of names differ in length or a name is taken. */
+       of names differ in length, a name is taken, or the factory throws an exception. */
     bool registerFactory(IDesignerFactory *factory);
-    //! Loads every plug-in of a folder; a file that fails is warned about and passed over.
+    //! Loads every plug-in of a folder; a file that fails is warned about and passed over. Nothing runs of
+    //! plug-ins for another interface.
     void loadPlugins(const QString &folder);
     //! What loadPlugins() had to pass over, one line each.
     const QStringList &pluginErrors() const { return m_pluginErrors; }
@@ -90,7 +91,8 @@ private:
 
     explicit DesignerFactory(QObject *parent);
     DesignerObject *makeObject(const QString &className, QObject *parent) const;
-    bool namesAreFree(const IDesignerFactory &factory) const;
+    struct Names;
+    bool areFree(const Names &names) const;
     void loadPlugin(const QString &file);
     void pluginFailed(const QString &message);
 
