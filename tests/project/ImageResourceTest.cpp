@@ -65,8 +65,9 @@ TEST_F(ImageResourceTest, TheBytesAreOfTheKindThatTheNameTells)
 
     writePicture(path(u"Pumps/Images/b.jpg"_s), "png");
     const DesignerObject *mismatch = add(*project, project->imageResources(), u"ImageResource"_s, u"b.jpg"_s);
-    EXPECT_EQ(mismatch->getProperty(u"imageFile")->errorString(),
-              u"The image is invalid or its extension does not match the image format."_s);
+    EXPECT_EQ(
+        mismatch->getProperty(u"imageFile")->errorString(),
+        u"The file \"b.jpg\" is an image of the kind png. Its name must end with \".png\", and \"b.jpg\" does not."_s);
     const DesignerObject *missing = add(*project, project->imageResources(), u"ImageResource"_s, u"c.png"_s);
     EXPECT_EQ(missing->getProperty(u"imageFile")->errorString(), u"The file \"c.png\" does not exist."_s);
     EXPECT_FALSE(read(project->fullFilePath()).contains("imageFile"));

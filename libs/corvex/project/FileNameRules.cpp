@@ -5,6 +5,8 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/TextHelper.h"
 
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -38,6 +40,13 @@ bool hasImageExtension(const QString &name)
 {
     const qsizetype dot = name.lastIndexOf(u'.');
     return dot >= 0 && Common::FileHelper::validImageExtensions().contains(name.mid(dot + 1).toLower());
+}
+
+//! In the words of FileHelper::isValidImage().
+QString formatOf(const QString &name)
+{
+    const QString extension = name.section(u'.', -1).toLower();
+    return extension == "jpeg"_L1 ? u"jpg"_s : extension;
 }
 
 } // namespace
@@ -81,6 +90,35 @@ QString FileNameRules::imageNameError(const QString &name)
         return LocalizationHelper::coreString(u"An error occurred."_s);
     }
     return reservedNameError(name);
+}
+
+QString FileNameRules::imageFileError(const QString &path, const QString &name)
+{
+    const QString file = QFileInfo(path).fileName();
+    if (!QFileInfo(path).isFile()) {
+        return LocalizationHelper::coreString(u"The file \"%1\" does not exist."_s).arg(file);
+    }
+    QString format;
+    const bool isWhole = Common::FileHelper::isValidImage(path, &format);
+    if (format.isEmpty()) {
+        return LocalizationHelper::coreString(u"The file \"%1\" is not an image of one of these kinds: %2"_s)
+            .arg(file, Common::FileHelper::validImageExtensions().join(u", "_s));
+    }
+    if (format != formatOf(name)) {
+        return LocalizationHelper::coreString(
+                   u"The file \"%1\" is an image of the kind %2. Its name must end with \".%2\", and \"%3\" does not."_s)
+            .arg(file, format, name);
+    }
+    return isWhole || formatOf(file) != format
+               ? QString()
+               : LocalizationHelper::coreString(
+                     u"The file \"%1\" is damaged: the image in it is not complete."_s)
+                     .arg(file);
+}
+
+bool FileNameRules::haveSameFormat(const QString &name, const QString &otherName)
+{
+    return formatOf(name) == formatOf(otherName);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -17,6 +17,10 @@ public:
     static QString projectNameError(const QString &name);
     //! An image's name is that of its file, extension included.
     static QString imageNameError(const QString &name);
+    //! The same for the contents of a file that is to be the image of that name.
+    static QString imageFileError(const QString &path, const QString &name);
+    //! Whether the two names tell of one image format.
+    static bool haveSameFormat(const QString &name, const QString &otherName);
 };
 
 } // namespace Halvane::Corvex::Designer

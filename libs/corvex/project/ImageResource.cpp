@@ -161,8 +161,7 @@ bool ImageResource::imageFileValidator(const DesignerProperty *property, QString
     if (!QFileInfo(image->filePath()).isFile()) {
         error = LocalizationHelper::coreString(u"The file \"%1\" does not exist."_s).arg(image->getIdName());
     } else if (!image->isImage()) {
-        error = LocalizationHelper::coreString(
-            u"The image is invalid or its extension does not match the image format."_s);
+        error = FileNameRules::imageFileError(image->filePath(), image->getIdName());
     }
     return error.isEmpty();
 }

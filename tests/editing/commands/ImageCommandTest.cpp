@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Commands that work on the files of pictures.
+#include "corvex/common/FileHelper.h"
 #include "corvex/editing/commands/AddElementsWithResources.h"
 #include "corvex/editing/commands/AddImage.h"
 #include "corvex/editing/commands/AddImageFromData.h"
@@ -98,8 +99,20 @@ TEST_F(ImageCommandTest, RenamingTakesTheFileAlong)
     EXPECT_TRUE(object(u"Pump.png"_s)->isValid());
     stack().undo();
     EXPECT_EQ(files(), QStringList{u"pump.png"_s});
-    EXPECT_FALSE(RenameImage(object(u"pump.png"_s), u"pump.txt"_s).isValid());
-    EXPECT_FALSE(RenameImage(object(u"pump.png"_s), u"aux.png"_s).isValid());
+    for (const QString &bad : {u"pump.txt"_s, u"aux.png"_s, u"pump.jpg"_s}) {
+        EXPECT_FALSE(RenameImage(object(u"pump.png"_s), bad).isValid()) << qPrintable(bad);
+    }
+    QFile text(folder.filePath(u"text.png"_s));
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("no image") > 0);
+    text.close();
+    const AddImage added(make(u"ImageResource"_s, u"text.png"_s), text.fileName(), project.get());
+    EXPECT_FALSE(added.isValid());
+    EXPECT_EQ(added.errorString(), u"The file \"text.png\" is not an image of one of these kinds: "_s
+                                       + Common::FileHelper::validImageExtensions().join(u", "_s));
+    EXPECT_FALSE(ReplaceImage(object(u"pump.png"_s), text.fileName(), u"pump.png"_s).isValid());
+    EXPECT_TRUE(AddImage(make(u"ImageResource"_s, u"sea.png"_s), picture(u"sea.dat"_s, Qt::cyan, "PNG"),
+                         project.get())
+                    .isValid());
     // Nothing is written over.
     writePicture("taken.png", Qt::black);
     auto *onto = new RenameImage(object(u"pump.png"_s), u"taken.png"_s);

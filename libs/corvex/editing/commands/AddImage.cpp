@@ -24,7 +24,11 @@ AddImage::AddImage(DesignerObject *image, const QString &filePath, Project *proj
         return;
     }
     const QString name = image->getIdName();
-    if (const QString error = FileNameRules::imageNameError(name); !error.isEmpty()) {
+    QString error = FileNameRules::imageNameError(name);
+    if (error.isEmpty()) {
+        error = FileNameRules::imageFileError(filePath, name);
+    }
+    if (!error.isEmpty()) {
         refuse(error, {image});
         return;
     }

@@ -17,7 +17,8 @@ using Common::LocalizationHelper;
 RenameImage::RenameImage(DesignerObject *image, const QString &newName, UndoCommand *parent)
     : ModelCommand(image ? image->idProperty() : SharedProperty(), true, parent)
 {
-    if (!kindCast<ImageResource>(image) || !image->project() || image->project()->imagesPath().isEmpty()) {
+    const auto *resource = kindCast<ImageResource>(image);
+    if (!resource || !image->project() || image->project()->imagesPath().isEmpty()) {
         refuse(LocalizationHelper::coreString(u"There is nothing to rename."_s));
         return;
     }
@@ -27,6 +28,10 @@ RenameImage::RenameImage(DesignerObject *image, const QString &newName, UndoComm
     if (error.isEmpty() && newName != oldName && image->project()->imageResources()->hasListItem(newName)) {
         error = LocalizationHelper::coreString(u"An image resource with name \"%1\" already exists."_s)
                     .arg(newName);
+    }
+    // An image whose file is missing or damaged keeps at least the kind that its name tells.
+    if (error.isEmpty() && !FileNameRules::haveSameFormat(oldName, newName)) {
+        error = FileNameRules::imageFileError(resource->filePath(), newName);
     }
     if (!error.isEmpty() || newName == oldName) {
         refuse(error);

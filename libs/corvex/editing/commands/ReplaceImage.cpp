@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/commands/ReplaceImage.h"
 
-#include "corvex/common/FileHelper.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editing/commands/FileStep.h"
 #include "corvex/editing/commands/ReferenceChanges.h"
@@ -13,19 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
-using Common::FileHelper;
 using Common::LocalizationHelper;
-
-namespace {
-
-//! The format that the extension tells.
-QString formatOf(const QString &name)
-{
-    const QString extension = name.section(u'.', -1).toLower();
-    return extension == "jpeg"_L1 ? u"jpg"_s : extension;
-}
-
-} // namespace
 
 ReplaceImage::ReplaceImage(DesignerObject *image, const QString &newFile, const QString &name,
                            UndoCommand *parent)
@@ -38,11 +25,10 @@ ReplaceImage::ReplaceImage(DesignerObject *image, const QString &newFile, const 
     }
     const QString oldName = image->getIdName();
     setTitle(u"Replace Image Resource \"%1\""_s, oldName);
+    setSelection({image});
     QString error = FileNameRules::imageNameError(name);
-    if (QString format;
-        error.isEmpty() && (!FileHelper::isValidImage(newFile, &format) || format != formatOf(name))) {
-        error = LocalizationHelper::coreString(
-            u"The image is invalid or its extension does not match the image format."_s);
+    if (error.isEmpty()) {
+        error = FileNameRules::imageFileError(newFile, name);
     }
     if (error.isEmpty() && name != oldName && project->imageResources()->hasListItem(name)) {
         error =
