@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// One frame while the mouse drags one of 2,000 rectangles: the mouse moves, and the view paints what changed.
+// The canvas with 2,000 rectangles: one frame while the mouse drags one of them, in which the mouse moves and
+// the view paints what changed; and all of them selected and moved.
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/editing/graphics/CanvasScene.h"
+#include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 
@@ -60,12 +62,11 @@ void measureDragging(benchmark::State &state, QGraphicsScene &scene)
     send(view, QEvent::MouseButtonRelease, point);
 }
 
-void dragOnCanvas(benchmark::State &state)
+Screen *fillScreen(Project &project)
 {
-    const std::unique_ptr<Project> project = makeProject();
-    DesignerObject *screen = DesignerFactory::instance()->createObject(u"Screen"_s, project.get());
+    DesignerObject *screen = DesignerFactory::instance()->createObject(u"Screen"_s, &project);
     screen->setParent(nullptr);
-    project->addListPropertyItem(project->screens(), screen);
+    project.addListPropertyItem(project.screens(), screen);
     const SharedProperty elements = screen->getProperty(u"elements");
     for (int i = 0; i < itemCount; ++i) {
         DesignerObject *element = DesignerFactory::instance()->createObject(u"Rectangle"_s, screen);
@@ -79,7 +80,13 @@ void dragOnCanvas(benchmark::State &state)
         set("size", u"height: %1; width: %2;"_s.arg(rect.height()).arg(rect.width()));
         screen->addListPropertyItem(elements, element);
     }
-    CanvasScene scene(static_cast<Screen *>(screen));
+    return static_cast<Screen *>(screen);
+}
+
+void dragOnCanvas(benchmark::State &state)
+{
+    const std::unique_ptr<Project> project = makeProject();
+    CanvasScene scene(fillScreen(*project));
     measureDragging(state, scene);
 }
 BENCHMARK(dragOnCanvas)->Name("drag/canvas");
@@ -96,5 +103,54 @@ void dragOnBareScene(benchmark::State &state)
     measureDragging(state, scene);
 }
 BENCHMARK(dragOnBareScene)->Name("drag/QGraphicsScene");
+
+//! With the mouse, as a user does it: a rectangle around all, a drag, an undo.
+void moveAllOnCanvas(benchmark::State &state)
+{
+    const std::unique_ptr<Project> project = makeProject();
+    Screen *screen = fillScreen(*project);
+    CanvasScene scene(screen);
+    QGraphicsView view(&scene);
+    view.setSceneRect(QRectF(QPointF(), viewSize));
+    view.resize(viewSize);
+    const auto drag = [&](const QPointF &from, const QPointF &to) {
+        const auto at = [&view](const QPointF &point) { return view.mapFromScene(point); };
+        send(view, QEvent::MouseButtonPress, at(from));
+        send(view, QEvent::MouseMove, at(to));
+        send(view, QEvent::MouseButtonRelease, at(to));
+    };
+    for (auto _ : state) {
+        drag({990, 790}, {0, 0});
+        drag(place(dragged).center(), place(dragged).center() + QPointF(40, 20));
+        project->undoStack()->undo();
+        QApplication::processEvents();
+        state.PauseTiming();
+        if (scene.selectedObjects().size() != itemCount || project->undoStack()->count() != 1) {
+            state.SkipWithError("not all were selected and moved");
+        }
+        project->createUndoStack();
+        scene.clearSelection();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(moveAllOnCanvas)->Name("move/canvas")->Unit(benchmark::kMillisecond);
+
+void moveAllInModel(benchmark::State &state)
+{
+    const std::unique_ptr<Project> project = makeProject();
+    Screen *screen = fillScreen(*project);
+    const CanvasScene scene(screen);
+    const QList<DesignerObject *> elements = screen->elements()->listItems();
+    double way = 0;
+    for (auto _ : state) {
+        way = way > 0 ? 0 : 20;
+        for (int i = 0; i < itemCount; ++i) {
+            DesignerObject *element = elements.at(i);
+            element->changePropertyValue(element->getProperty(u"position"),
+                                         u"x: %1; y: %2;"_s.arg(place(i).x() + way).arg(place(i).y() + way));
+        }
+    }
+}
+BENCHMARK(moveAllInModel)->Name("move/changePropertyValue")->Unit(benchmark::kMillisecond);
 
 } // namespace

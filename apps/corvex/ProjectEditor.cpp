@@ -151,10 +151,10 @@ bool ProjectEditor::push(ModelCommand *command)
         const QString reason = command->errorString();
         return fail(reason.isEmpty() ? u"This cannot be done here."_s : reason);
     }
-    QList<Change> changes;
-    const QList<ValueChange> values = command->valueChanges();
-    for (const ValueChange &change : values) {
-        changes.append({pathOf(change.property), change.before, change.after});
+    // What leaves the project is known by where it was.
+    QHash<const DesignerProperty *, QString> paths;
+    for (const ValueChange &change : command->valueChanges()) {
+        paths.insert(change.property.data(), pathOf(change.property));
     }
     m_project.undoStack()->push(owned.release());
     if (!command->isDone()) {
@@ -162,12 +162,11 @@ bool ProjectEditor::push(ModelCommand *command)
         m_project.undoStack()->undo();
         return fail(reason.isEmpty() ? refused : reason);
     }
-    for (qsizetype i = 0; i < values.size(); ++i) {
-        // What has left the project is known by where it was.
-        const DesignerObject *owner = values.at(i).property->parentObject();
-        if (owner && owner->project()) {
-            changes[i].property = pathOf(values.at(i).property);
-        }
+    QList<Change> changes;
+    for (const auto &[property, before, after] : command->valueChanges()) {
+        const DesignerObject *owner = property->parentObject();
+        const bool isThere = owner && owner->project();
+        changes.append({isThere ? pathOf(property) : paths.value(property.data()), before, after});
     }
     Edit edit{command->text(), LineCommand::partsOf(*command), changes};
     std::ranges::stable_sort(edit.changes, {}, &Change::property);
@@ -397,11 +396,15 @@ bool ProjectEditor::addImages(const Words &words)
             return fail(u"\"%1\" is no image, or not one of the kind that its extension tells."_s.arg(file));
         }
         const QString digest = Common::FileHelper::md5(file);
-        if (!names.withContents(digest, info.suffix().toLower()).isEmpty()) {
+        if (const QString known = names.withContents(digest, info.suffix().toLower()); !known.isEmpty()) {
+            m_output.append(u"\"%1\" is in the project already: it is the image \"%2\"."_s.arg(file, known));
             continue;
         }
         const QString name = names.freeName(info.fileName());
         names.add(name, digest);
+        if (name != info.fileName()) {
+            m_output.append(u"\"%1\" is called \"%2\" now, since the name was used."_s.arg(file, name));
+        }
         DesignerObject *image = make(ImageResource::kindName(), name);
         if (words.size() == 1) {
             return push(new AddImage(image, info.absoluteFilePath(), &m_project));

@@ -1,17 +1,28 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/AddObject.h"
+#include "corvex/editing/commands/ChangeProperty.h"
+#include "corvex/editing/commands/ChangeVisualElements.h"
 #include "corvex/editing/commands/DeleteObject.h"
+#include "corvex/editing/commands/DeleteObjectsAndCheckFilters.h"
 #include "corvex/editing/commands/GroupCommand.h"
+#include "corvex/editing/commands/MoveObject.h"
+#include "corvex/editing/commands/RemoveObject.h"
 #include "corvex/editing/commands/SplitGroup.h"
+#include "corvex/editing/commands/SwapItems.h"
 #include "corvex/editing/commands/UngroupCommand.h"
 #include "corvex/editing/graphics/CanvasScene.h"
 #include "corvex/editing/undo/UndoStack.h"
-#include "corvex/project/Element.h"
+#include "corvex/project/VisualElement.h"
 #include "corvex/values/ValueConversion.h"
 
 #include "CanvasFixture.h"
 
 #include <QGraphicsView>
+#include <QSignalSpy>
 #include <QTest>
+
+#include <functional>
+#include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
 
@@ -254,36 +265,163 @@ TEST_F(CanvasSceneTest, GroupingAndDeletingLeaveEverythingElseInItsPlace)
     stack.redo();
     stack.push(new UngroupCommand(screen->getElement(u"group"_s)));
     EXPECT_EQ(look(), before);
+}
 
-    // Taken apart bit by bit, a group that is turned, scaled and not full in its upper left corner.
-    stack.push(new GroupCommand(make("GroupElement", "group2"), {box, turned, other}));
-    DesignerObject *group = screen->getElement(u"group2"_s);
-    set(other, "position", u"x: 30; y: 15;"_s);
-    set(box, "position", u"x: 60; y: 25;"_s);
-    set(group, "rotation", u"25"_s);
-    set(group, "scale", u"150"_s);
-    const auto lookUnordered = [&look] {
-        QStringList drawn = look();
-        drawn.sort();
-        return drawn;
+TEST_F(CanvasSceneTest, WhatElseATurnedGroupHoldsStaysInItsPlace)
+{
+    // A group that reaches less or further turns about another point.
+    DesignerObject *outer = add(screen, "GroupElement", "outer", {150, 100, 0, 0});
+    DesignerObject *other = add(outer, "Rectangle", "other", {20, 5, 40, 40});
+    DesignerObject *inner = add(outer, "GroupElement", "inner", {50, 20, 0, 0});
+    DesignerObject *member = add(inner, "Rectangle", "member", {40, 0, 60, 40});
+    DesignerObject *second = add(inner, "Rectangle", "second", {5, 60, 20, 20});
+    set(outer, "rotation", u"30"_s);
+    set(outer, "scale", u"120"_s);
+    set(inner, "rotation", u"200"_s);
+    show();
+    const auto listOf = [](const DesignerObject *object) { return object->getProperty(u"elements"); };
+    const auto change = [](DesignerObject *object, const char *id, const QString &value,
+                           UndoCommand *parent = nullptr) {
+        return new ChangeProperty(object->getProperty(QString::fromLatin1(id)), value, true, parent);
     };
-    const QStringList placed = lookUnordered();
-    stack.push(new DeleteObject(turned, true));
-    QStringList left = placed;
-    left.removeIf([](const QString &line) { return line.startsWith("turned"_L1); });
-    EXPECT_EQ(lookUnordered(), left);
-    stack.undo();
-    EXPECT_EQ(lookUnordered(), placed);
-    stack.push(new SplitGroup(group, QList<DesignerObject *>{turned}));
-    EXPECT_EQ(lookUnordered(), placed);
-    stack.push(new GroupCommand(make("GroupElement", "group3"), {box, other}));
-    EXPECT_EQ(lookUnordered(), placed);
-    set(screen->getElement(u"group3"_s), "rotation", u"70"_s);
-    const QStringList turnedAgain = lookUnordered();
-    stack.push(new UngroupCommand(screen->getElement(u"group3"_s)));
-    EXPECT_EQ(lookUnordered(), turnedAgain);
-    stack.push(new UngroupCommand(group));
-    EXPECT_EQ(lookUnordered(), turnedAgain);
+    const auto makeFar = [](const char *className, const char *name) {
+        DesignerObject *made = make(className, name);
+        set(made, "position", u"x: 70; y: 90;"_s);
+        return made;
+    };
+    using Objects = QList<const DesignerObject *>;
+    const struct
+    {
+        const char *what;
+        std::function<UndoCommand *()> command;
+        Objects still;
+    } cases[] = {
+        {"move", [&] { return change(member, "position", u"x: 90; y: 70;"_s); }, {other, second}},
+        {"resize", [&] { return change(member, "size", u"height: 200; width: 9;"_s); }, {other, second}},
+        {"move two",
+         [&] {
+             auto *both = new UndoCommand;
+             change(member, "position", u"x: 200; y: 170;"_s, both);
+             change(other, "position", u"x: 300; y: 10;"_s, both);
+             return both;
+         },
+         {second}},
+        {"align",
+         [&] {
+             return new ChangeVisualElements(second->getProperty(u"position"), u"x: 150; y: 3;"_s,
+                                             {static_cast<VisualElement *>(member)});
+         },
+         {other, second}},
+        {"add",
+         [&] { return new AddObject(listOf(inner), makeFar("Text", "far"), true); },
+         {other, second, member}},
+        {"move in",
+         [&] { return new MoveObject(listOf(screen), listOf(inner), box, true); },
+         {other, second, member}},
+        {"move on",
+         [&] { return new MoveObject(listOf(inner), listOf(outer), member, true); },
+         {other, second}},
+        {"move out", [&] { return new MoveObject(listOf(outer), listOf(screen), inner, true); }, {other}},
+        {"remove", [&] { return new RemoveObject(listOf(inner), member, true); }, {other, second}},
+        {"delete two",
+         [&] {
+             return new DeleteObjectsAndCheckFilters({member, second}, screen);
+         },
+         {other}},
+        {"group",
+         [&] {
+             return new GroupCommand(makeFar("GroupElement", "group"), {member, second});
+         },
+         {other, second, member}},
+        {"split", [&] { return new SplitGroup(inner, {member}); }, {other, second, member}},
+        {"ungroup", [&] { return new UngroupCommand(inner); }, {other, second, member}},
+        {"ungroup the outer one", [&] { return new UngroupCommand(outer); }, {other, second, member}},
+    };
+    UndoStack &stack = *project->undoStack();
+    const auto cornersOf = [](const DesignerObject *object) {
+        return itemOf(object)->graphic()->mapToScene(itemOf(object)->frame());
+    };
+    const auto areEqual = [](const QPolygonF &corners, const QPolygonF &others) {
+        return std::ranges::equal(corners, others, [](const QPointF &corner, const QPointF &otherCorner) {
+            return (corner - otherCorner).manhattanLength() < 0.05;
+        });
+    };
+    const QString before = DesignerObject::toString(project.get());
+    for (const auto &[what, command, still] : cases) {
+        SCOPED_TRACE(what);
+        QList<QPolygonF> places;
+        std::ranges::transform(still, std::back_inserter(places), cornersOf);
+        stack.push(command());
+        const QString after = DesignerObject::toString(project.get());
+        EXPECT_NE(after, before);
+        for (qsizetype i = 0; i < still.size(); ++i) {
+            EXPECT_TRUE(areEqual(cornersOf(still.at(i)), places.at(i)))
+                << qPrintable(still.at(i)->getIdName());
+        }
+        stack.undo();
+        EXPECT_EQ(DesignerObject::toString(project.get()), before);
+        stack.redo();
+        EXPECT_EQ(DesignerObject::toString(project.get()), after);
+        stack.undo();
+    }
+
+    // Only what is dragged by a handle says where it is itself.
+    scene->selectObjects({inner});
+    const QPolygonF otherPlace = cornersOf(other);
+    const QPointF fixed = itemOf(inner)->handlePoint(QQuickItem::TopLeft);
+    const QPointF grip = itemOf(inner)->handlePoint(QQuickItem::BottomRight);
+    drag(grip, grip + (grip - fixed) / 3);
+    EXPECT_EQ(stack.count(), 1);
+    EXPECT_LE((itemOf(inner)->handlePoint(QQuickItem::TopLeft) - fixed).manhattanLength(), 1);
+    EXPECT_TRUE(areEqual(cornersOf(other), otherPlace));
+}
+
+TEST_F(CanvasSceneTest, TheHistorySelectsWhatAnEditIsAbout)
+{
+    DesignerObject *other = add(screen, "Rectangle", "other", {200, 100, 80, 20});
+    DesignerObject *third = add(screen, "Rectangle", "third", {10, 200, 20, 20});
+    DesignerObject *group = make("GroupElement", "group");
+    show();
+    using Objects = QList<DesignerObject *>;
+    const struct
+    {
+        std::function<UndoCommand *()> command;
+        Objects done;
+        Objects undone;
+    } cases[] = {
+        {[&] {
+             return new GroupCommand(group, {box, other, third});
+         },
+         {group},
+         {box, other, third}},
+        {[&] { return new SplitGroup(group, Objects{third}); }, {third}, {third}},
+        {[&] {
+             return new DeleteObjectsAndCheckFilters({other, third}, screen);
+         },
+         {},
+         {other, third}},
+        {[&] { return new SwapItems(screen->elements(), group, third); }, {group, third}, {group, third}},
+        {[&] { return new UngroupCommand(group); }, {box, other}, {group}},
+        {[&] { return new DeleteObject(box, true); }, {}, {box}},
+    };
+    UndoStack &stack = *project->undoStack();
+    const auto check = [&](const UndoCommand &command, const Objects &selected) {
+        EXPECT_THAT(scene->selectedObjects(), testing::UnorderedElementsAreArray(selected));
+        EXPECT_EQ(command.activeItem(), selected.value(0));
+        scene->selectObjects({});
+    };
+    for (const auto &[command, done, undone] : cases) {
+        SCOPED_TRACE(&command - &cases[0].command);
+        UndoCommand *pushed = command();
+        stack.push(pushed);
+        check(*pushed, done);
+        stack.undo();
+        check(*pushed, undone);
+        if (!done.isEmpty()) {
+            stack.redo();
+            check(*pushed, done);
+        }
+    }
 }
 
 TEST_F(CanvasSceneTest, MembersOfTurnedGroupsGoWhereTheMouseTakesThem)
@@ -325,8 +463,11 @@ TEST_F(CanvasSceneTest, SeveralElementsAreSelectedAndMovedTogether)
 {
     DesignerObject *other = add(screen, "Text", "title", {300, 200, 50, 20});
     show();
+    const QSignalSpy selection(scene.get(), &QGraphicsScene::selectionChanged);
     drag({20, 20}, {320, 210});
     EXPECT_EQ(scene->selectedObjects().size(), 2) << "touched by the rectangle";
+    scene->selectObjects({box, other});
+    EXPECT_EQ(selection.count(), 1) << "however many they are";
     drag({100, 80}, {120, 90});
     EXPECT_EQ(valueOf(box, "position"), u"x: 70; y: 60;"_s);
     EXPECT_EQ(valueOf(other, "position"), u"x: 320; y: 210;"_s);
@@ -338,6 +479,10 @@ TEST_F(CanvasSceneTest, SeveralElementsAreSelectedAndMovedTogether)
     release({450, 20});
     EXPECT_TRUE(scene->selectedObjects().isEmpty());
     scene->selectObjects({box, other});
+    const QImage both = scene->picture();
+    delete screen->takeListPropertyItem(screen->elements(), other);
+    set(box, "position", u"x: 200; y: 100;"_s);
+    EXPECT_NE(scene->picture(), both) << "the outline needs nothing that is gone";
     project.reset();
     EXPECT_TRUE(scene->selectedObjects().isEmpty());
     press({100, 80});

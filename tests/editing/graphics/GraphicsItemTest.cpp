@@ -191,8 +191,16 @@ TEST_F(GraphicsItemTest, ItemsGoWithTheirElementsAndComeBackWhereTheyWere)
 
     screen->swapListPropertyItems(screen->elements(), low, middle);
     EXPECT_EQ(stacking(), (QStringList{u"Main"_s, u"middle"_s, u"low"_s, u"high"_s}));
+    DesignerObject *far = add(middle, "Rectangle", "far", {70, 0, 10, 90});
+    add(middle, "Rectangle", "near", {-5, 3, 10, 10});
+    for (const auto &[place, frame] :
+         {std::pair("x: 20; y: 20;", QRectF(-5, 0, 35, 110)), {"x: -8; y: 5;", QRectF(-8, 0, 18, 95)}}) {
+        far->changePropertyValue(far->getProperty(u"position"), QString::fromLatin1(place));
+        EXPECT_EQ(itemOf(middle)->frame(), frame) << place;
+    }
+    delete far;
     delete member;
-    EXPECT_TRUE(itemOf(middle)->frame().isEmpty()) << "the group has learnt that it is empty";
+    EXPECT_EQ(itemOf(middle)->frame(), QRectF(-5, 3, 10, 10)) << "the group has learnt what it holds";
     delete low;
     EXPECT_EQ(stacking(), (QStringList{u"Main"_s, u"middle"_s, u"high"_s}));
     project.reset();

@@ -20,6 +20,7 @@ AddScreen::AddScreen(DesignerObject *screen, Project *project, qsizetype index, 
     }
     setTitle(u"Add Screen \"%1\""_s, screen->getIdName());
     addStep<InsertItemStep>(project->screens(), screen, index);
+    setSelection({screen});
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -5,7 +5,6 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/editing/commands/EditStep.h"
 #include "corvex/editing/commands/ReferenceChanges.h"
-#include "corvex/editing/commands/SplitGroup.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,8 +24,8 @@ DeleteObject::DeleteObject(DesignerObject *object, const QList<DesignerObject *>
     }
     makeChangesFirst();
     addChanges(ReferenceChanges::removed(together, pending()));
-    addChanges(SplitGroup::placesWithout(together));
     addStep<TakeItemStep>(object->listProperty(), object);
+    setSelection({}, selected ? QList<DesignerObject *>{object} : QList<DesignerObject *>());
 }
 
 DeleteObject::DeleteObject(DesignerObject *object, const QString &className, const QString &title,

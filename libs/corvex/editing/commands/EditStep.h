@@ -23,6 +23,8 @@ public:
     //! False, with nothing changed, when it cannot be done; \a error then tells the user why, if it can.
     virtual bool redo(QString &error) = 0;
     virtual void undo() = 0;
+    //! The value or the list of the model that it changes; null for anything else.
+    virtual SharedProperty property() const { return {}; }
     //! Deletes files that were left for an undo and that no image of the project needs.
     virtual void cleanJunkFiles() { }
 };
@@ -56,6 +58,7 @@ public:
     bool isPossible() const override { return m_change.property && m_change.property->parentObject(); }
     bool redo(QString &error) override;
     void undo() override { m_change.undo(); }
+    SharedProperty property() const override { return m_change.property; }
     const ValueChange &change() const { return m_change; }
 
 private:
@@ -72,6 +75,7 @@ public:
     bool isPossible() const override;
     bool redo(QString &error) override;
     void undo() override;
+    SharedProperty property() const override { return m_list; }
 
 private:
     SharedProperty m_list;
@@ -89,6 +93,7 @@ public:
     bool isPossible() const override;
     bool redo(QString &error) override;
     void undo() override;
+    SharedProperty property() const override { return m_list; }
 
 private:
     SharedProperty m_list;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/commands/ElementPlacement.h"
 
-#include "corvex/project/VisualElement.h"
+#include "corvex/project/GroupElement.h"
 #include "corvex/values/ValueConversion.h"
 
 #include <QTransform>
@@ -38,10 +38,18 @@ ElementPlacement ElementPlacement::of(const DesignerObject *element)
     };
     const QPointF position = ValueConversion::toPoint(text(u"position"));
     const auto *visual = kindCast<VisualElement>(element);
-    const QRectF rect = visual ? visual->boundingRect() : QRectF(position, QSizeF(0, 0));
-    const QPointF start = rect.topLeft() - position; // not zero in a group whose members stand away from it
-    const QSizeF size(start.x() + rect.width(), start.y() + rect.height());
-    return {position, size.expandedTo(QSizeF(0, 0)), text(u"rotation").toDouble(), text(u"transformOrigin"),
+    QSizeF size(0, 0);
+    if (const auto *group = kindCast<GroupElement>(element)) {
+        // As on the device: from its own zero point to the far edges of its members, turned or not.
+        for (const DesignerObject *member : group->elements()->listItems()) {
+            const ElementPlacement place = of(member);
+            size = size.expandedTo(
+                {place.position.x() + place.size.width(), place.position.y() + place.size.height()});
+        }
+    } else if (visual) {
+        size = visual->boundingRect().size();
+    }
+    return {position, size, text(u"rotation").toDouble(), text(u"transformOrigin"),
             visual ? text(u"scale").toDouble() / 100 : 1};
 }
 
@@ -75,18 +83,12 @@ QPointF ElementPlacement::turned(const QPointF &way) const
     return turn.map(way);
 }
 
-ElementPlacement ElementPlacement::holding(const QList<ElementPlacement> &members) const
+QPointF ElementPlacement::positionAfterSize(const QSizeF &oldSize) const
 {
-    // A group reaches from its own zero point to the far edges of its members, turned or not.
-    ElementPlacement group = *this;
-    group.size = {0, 0};
-    for (const ElementPlacement &member : members) {
-        group.size = group.size.expandedTo(
-            {member.position.x() + member.size.width(), member.position.y() + member.size.height()});
-    }
-    const QPointF way = origin() - group.origin();
-    group.position += way - turned(way);
-    return group;
+    ElementPlacement before = *this;
+    before.size = oldSize;
+    const QPointF way = before.origin() - origin();
+    return position + way - turned(way);
 }
 
 ElementPlacement ElementPlacement::outOf(const ElementPlacement &group) const

@@ -25,8 +25,9 @@ struct ElementPlacement
     QPointF origin() const;
     //! What it covers, turned as it is.
     QRectF actualBoundingRect() const;
-    //! That of a group that holds \a members from here on, in which they are seen where they were.
-    ElementPlacement holding(const QList<ElementPlacement> &members) const;
+    //! Where it has to be so that what it holds is seen where it was when it had \a oldSize: another size is
+    //! another point to turn about.
+    QPointF positionAfterSize(const QSizeF &oldSize) const;
     //! The same place outside of the group \a group for something that stands in it.
     ElementPlacement outOf(const ElementPlacement &group) const;
 

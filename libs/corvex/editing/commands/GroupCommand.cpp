@@ -39,36 +39,36 @@ QList<DesignerObject *> inOrder(const QList<DesignerObject *> &members, const Sh
 GroupCommand::GroupCommand(const SharedProperty &elements, GroupElement *group,
                            const QList<DesignerObject *> &members, UndoCommand *parent)
     : ModelCommand(elements, true, parent)
-    , m_group(group)
 {
     const QList<DesignerObject *> ordered = inOrder(members, elements);
-    m_members = QList<QPointer<DesignerObject>>(ordered.cbegin(), ordered.cend());
-    if (!group || group->listProperty() || m_members.size() < 2) {
+    if (!group || group->listProperty() || ordered.size() < 2) {
         refuse(Common::LocalizationHelper::coreString(u"At least two elements are required."_s), {group});
         return;
     }
     setTitle(u"Group Elements \"%1\""_s, group->getIdName());
-    setupCommand(elements, group);
+    setupCommand(elements, group, ordered);
+    setSelection({group}, ordered);
 }
 
 GroupCommand::GroupCommand(DesignerObject *group, const QList<DesignerObject *> &members, UndoCommand *parent)
     : GroupCommand(listOf(members), kindCast<GroupElement>(group), members, parent)
 { }
 
-void GroupCommand::setupCommand(const SharedProperty &list, GroupElement *group)
+void GroupCommand::setupCommand(const SharedProperty &list, GroupElement *group,
+                                const QList<DesignerObject *> &members)
 {
     QRectF bounds;
     QStringList names;
-    for (const QPointer<DesignerObject> &member : std::as_const(m_members)) {
-        if (kindCast<VisualElement>(member.data())) {
+    for (DesignerObject *member : members) {
+        if (kindCast<VisualElement>(member)) {
             bounds |= ElementPlacement::of(member).actualBoundingRect();
         }
         names.append(member->getIdName());
     }
-    const qsizetype top = list->getListItemIndex(m_members.constLast()) - (m_members.size() - 1);
-    for (const QPointer<DesignerObject> &member : std::as_const(m_members)) {
+    const qsizetype top = list->getListItemIndex(members.constLast()) - (members.size() - 1);
+    for (DesignerObject *member : members) {
         addStep<TakeItemStep>(list, member);
-        if (kindCast<VisualElement>(member.data())) {
+        if (kindCast<VisualElement>(member)) {
             addValueStep(member->getProperty(u"position"),
                          ValueConversion::toString(ElementPlacement::of(member).position - bounds.topLeft()));
         }
@@ -81,21 +81,6 @@ void GroupCommand::setupCommand(const SharedProperty &list, GroupElement *group)
         addChange(outer->indexes(),
                   GroupIndexes::replaced(valueOf(outer->indexes()), names, {group->getIdName()}));
     }
-}
-
-QList<DesignerObject *> GroupCommand::selectedItems()
-{
-    QList<DesignerObject *> items;
-    if (m_group && m_group->listProperty()) {
-        items.append(m_group);
-        return items;
-    }
-    for (const QPointer<DesignerObject> &member : std::as_const(m_members)) {
-        if (member) {
-            items.append(member);
-        }
-    }
-    return items;
 }
 
 QRectF GroupCommand::actualBoundingRect(const QPointF &position, const QSizeF &size, double rotation,

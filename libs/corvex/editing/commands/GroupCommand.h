@@ -3,7 +3,6 @@
 
 #include "corvex/editing/commands/ModelCommand.h"
 
-#include <QPointer>
 #include <QRectF>
 
 namespace Halvane::Corvex::Designer {
@@ -22,9 +21,6 @@ public:
     GroupCommand(DesignerObject *group, const QList<DesignerObject *> &members,
                  UndoCommand *parent = nullptr);
 
-    //! The group; the members once it is undone.
-    QList<DesignerObject *> selectedItems() override;
-
     //! What an item covers that is turned by \a rotation degrees about one of the points "TopLeft", "Top",
     //! "TopRight", "Left", "Right", "BottomLeft", "Bottom" and "BottomRight"; about its centre for any other
     //! text.
@@ -32,10 +28,8 @@ public:
                                      const QString &transformOrigin);
 
 private:
-    void setupCommand(const SharedProperty &list, GroupElement *group);
-
-    QPointer<DesignerObject> m_group;
-    QList<QPointer<DesignerObject>> m_members;
+    void setupCommand(const SharedProperty &list, GroupElement *group,
+                      const QList<DesignerObject *> &members);
 };
 
 } // namespace Halvane::Corvex::Designer

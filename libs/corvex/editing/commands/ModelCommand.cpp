@@ -4,17 +4,31 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/editing/commands/EditStep.h"
+#include "corvex/editing/commands/GroupPlaces.h"
+
+#include <optional>
 
 namespace Halvane::Corvex::Designer {
+
+//! What the commands of one edit share.
+struct ModelCommand::Edit
+{
+    PendingValues pending;
+    bool hasSeveral = false; //!< commands
+    GroupPlaces places;
+    const ModelCommand *lastInGroups = nullptr; //!< the one after which the groups are settled
+};
 
 struct ModelCommand::Plan
 {
     std::vector<std::unique_ptr<EditStep>> steps;
     std::vector<std::unique_ptr<HeldObject>> unused;
     QList<ValueChange> changes;
-    std::shared_ptr<PendingValues> pending;
+    std::shared_ptr<Edit> edit;
+    std::optional<QList<ValueChange>> settled;
     QPointer<DesignerObject> activeItem;
-    QList<QPointer<DesignerObject>> selection;
+    QList<QPointer<DesignerObject>> selectedWhenDone;
+    QList<QPointer<DesignerObject>> selectedWhenUndone;
     QString error;
     bool changesComeFirst = false;
     bool isRefused = false;
@@ -42,8 +56,10 @@ ModelCommand::ModelCommand(const SharedProperty &property, bool selected, UndoCo
     : UndoCommand(property, selected, parent)
 {
     if (parent) {
-        plan().pending = siblingValues();
+        plan().edit = wholeEdit();
+        plan().edit->hasSeveral = true;
     }
+    noteForGroups(property);
 }
 
 ModelCommand::~ModelCommand() = default;
@@ -56,7 +72,7 @@ ModelCommand::Plan &ModelCommand::plan()
     return *m_plan;
 }
 
-std::shared_ptr<PendingValues> ModelCommand::siblingValues() const
+std::shared_ptr<ModelCommand::Edit> ModelCommand::wholeEdit() const
 {
     const UndoCommand *command = this;
     for (const UndoCommand *parent = parentCommand(); parent; parent = parent->parentCommand()) {
@@ -65,17 +81,44 @@ std::shared_ptr<PendingValues> ModelCommand::siblingValues() const
             // The command is the last child of its parent for now.
             model = dynamic_cast<const ModelCommand *>(parent->child(parent->childCount() - 2));
         }
-        if (model && model->m_plan && model->m_plan->pending) {
-            return model->m_plan->pending;
+        if (model && model->m_plan && model->m_plan->edit) {
+            return model->m_plan->edit;
         }
         command = parent;
     }
     auto *root = const_cast<ModelCommand *>(dynamic_cast<const ModelCommand *>(command));
-    auto values = std::make_shared<PendingValues>();
+    auto edit = std::make_shared<Edit>();
     if (root && root != this) {
-        root->plan().pending = values;
+        root->plan().edit = edit;
     }
-    return values;
+    return edit;
+}
+
+void ModelCommand::noteForGroups(const SharedProperty &property)
+{
+    if (!GroupPlaces::concerns(property)) {
+        return;
+    }
+    if (!plan().edit) {
+        plan().edit = std::make_shared<Edit>();
+    }
+    if (plan().edit->places.note(property)) {
+        plan().edit->lastInGroups = this;
+    }
+}
+
+void ModelCommand::settleGroups()
+{
+    if (!m_plan || !m_plan->edit || m_plan->edit->lastInGroups != this) {
+        return;
+    }
+    if (!m_plan->settled) {
+        m_plan->settled = m_plan->edit->places.settle();
+        return;
+    }
+    for (const ValueChange &change : std::as_const(*m_plan->settled)) {
+        change.redo();
+    }
 }
 
 QString ModelCommand::localized(const QString &english)
@@ -99,6 +142,7 @@ void ModelCommand::hold(const QList<DesignerObject *> &unused)
 
 void ModelCommand::addStep(std::unique_ptr<EditStep> step)
 {
+    noteForGroups(step->property());
     plan().steps.push_back(std::move(step));
 }
 
@@ -118,6 +162,7 @@ void ModelCommand::addChanges(const QList<ValueChange> &changes)
     }
     plan().changes += changes;
     for (const ValueChange &change : changes) {
+        noteForGroups(change.property);
         notePending(change.property, change.after);
     }
 }
@@ -140,9 +185,12 @@ void ModelCommand::setActiveItem(DesignerObject *item)
     plan().activeItem = item;
 }
 
-void ModelCommand::setSelection(const QList<DesignerObject *> &items)
+void ModelCommand::setSelection(const QList<DesignerObject *> &whenDone,
+                                const QList<DesignerObject *> &whenUndone)
 {
-    plan().selection = QList<QPointer<DesignerObject>>(items.cbegin(), items.cend());
+    using Items = QList<QPointer<DesignerObject>>;
+    plan().selectedWhenDone = Items(whenDone.cbegin(), whenDone.cend());
+    plan().selectedWhenUndone = Items(whenUndone.cbegin(), whenUndone.cend());
     plan().hasSelection = true;
 }
 
@@ -159,13 +207,13 @@ QString ModelCommand::valueOf(const SharedProperty &property) const
 
 const PendingValues *ModelCommand::pending() const
 {
-    return m_plan ? m_plan->pending.get() : nullptr;
+    return m_plan && m_plan->edit && m_plan->edit->hasSeveral ? &m_plan->edit->pending : nullptr;
 }
 
 void ModelCommand::notePending(const SharedProperty &property, const QString &value)
 {
-    if (m_plan && m_plan->pending) {
-        m_plan->pending->insert(property.data(), value);
+    if (pending()) {
+        m_plan->edit->pending.insert(property.data(), value);
     }
 }
 
@@ -192,21 +240,27 @@ QString ModelCommand::errorString() const
 
 DesignerObject *ModelCommand::activeItem() const
 {
-    return m_plan && m_plan->activeItem ? m_plan->activeItem.data() : UndoCommand::activeItem();
+    if (m_plan && m_plan->activeItem) {
+        return m_plan->activeItem;
+    }
+    return m_plan && m_plan->hasSelection ? ownSelection().value(0) : UndoCommand::activeItem();
 }
 
-QList<DesignerObject *> ModelCommand::selectedItems()
+QList<DesignerObject *> ModelCommand::ownSelection() const
 {
-    if (!m_plan || !m_plan->hasSelection) {
-        return UndoCommand::selectedItems();
-    }
     QList<DesignerObject *> items;
-    for (const QPointer<DesignerObject> &item : std::as_const(m_plan->selection)) {
+    for (const QPointer<DesignerObject> &item :
+         m_isDone ? m_plan->selectedWhenDone : m_plan->selectedWhenUndone) {
         if (item) {
             items.append(item);
         }
     }
     return items;
+}
+
+QList<DesignerObject *> ModelCommand::selectedItems()
+{
+    return m_plan && m_plan->hasSelection ? ownSelection() : UndoCommand::selectedItems();
 }
 
 void ModelCommand::redo()
@@ -257,6 +311,9 @@ bool ModelCommand::redoLeaf(QString &error)
             change.undo();
         }
     }
+    if (done) {
+        settleGroups();
+    }
     return done;
 }
 
@@ -269,6 +326,10 @@ void ModelCommand::undo()
         QUndoCommand::undo();
     } else if (isValid() && undoOwn()) {
         for (const ValueChange &change : m_plan ? m_plan->changes : QList<ValueChange>()) {
+            change.undo();
+        }
+        for (const ValueChange &change :
+             m_plan && m_plan->settled ? *m_plan->settled : QList<ValueChange>()) {
             change.undo();
         }
     }
@@ -313,7 +374,7 @@ QList<ValueChange> ModelCommand::valueChanges() const
         }
     }
     appendOwnChanges(changes);
-    return m_plan ? changes + m_plan->changes : changes;
+    return m_plan ? changes + m_plan->changes + m_plan->settled.value_or(QList<ValueChange>()) : changes;
 }
 
 void ModelCommand::cleanJunkFiles()

@@ -37,6 +37,7 @@ public:
     //! Why it cannot be done, for the user; empty when nobody knows.
     virtual QString errorString() const;
     //! All values that the command and its children set, in order, those that follow from others included.
+    //! The places of groups that an edit keeps in sight are among them once it has been done.
     QList<ValueChange> valueChanges() const;
 
 protected:
@@ -72,7 +73,10 @@ protected:
     //! The changes are made before the steps; an undo always comes back to the steps first.
     void makeChangesFirst();
     void setActiveItem(DesignerObject *item);
-    void setSelection(const QList<DesignerObject *> &items);
+    void setSelection(const QList<DesignerObject *> &items) { setSelection(items, items); }
+    //! What is selected once the command is done, and what when it is not. The first of them is the active
+    //! item unless there is one of its own.
+    void setSelection(const QList<DesignerObject *> &whenDone, const QList<DesignerObject *> &whenUndone);
     //! What a property will hold when this command's turn comes.
     QString valueOf(const SharedProperty &property) const;
     //! Null for a command of its own.
@@ -88,9 +92,13 @@ protected:
 
 private:
     struct Plan;
+    struct Edit;
     Plan &plan();
     static QString localized(const QString &english);
-    std::shared_ptr<PendingValues> siblingValues() const;
+    std::shared_ptr<Edit> wholeEdit() const;
+    void noteForGroups(const SharedProperty &property);
+    void settleGroups();
+    QList<DesignerObject *> ownSelection() const;
     bool redoChildren(QString &error);
     bool redoLeaf(QString &error);
 

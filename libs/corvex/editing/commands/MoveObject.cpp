@@ -5,7 +5,6 @@
 #include "corvex/editing/commands/EditStep.h"
 #include "corvex/editing/commands/GroupIndexes.h"
 #include "corvex/editing/commands/ReferenceChanges.h"
-#include "corvex/editing/commands/SplitGroup.h"
 #include "corvex/project/GroupElement.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
@@ -55,8 +54,6 @@ MoveObject::MoveObject(const SharedProperty &from, const SharedProperty &to, Des
     }
     if (const GroupElement *group = GroupIndexes::groupOf(to)) {
         addChange(group->indexes(), GroupIndexes::replaced(valueOf(group->indexes()), {}, {name}));
-    } else {
-        addChanges(SplitGroup::placesWithout({object}));
     }
     setSelection(selected ? QList<DesignerObject *>{object} : QList<DesignerObject *>());
 }

@@ -4,7 +4,6 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editing/commands/EditStep.h"
 #include "corvex/editing/commands/GroupIndexes.h"
-#include "corvex/editing/commands/SplitGroup.h"
 #include "corvex/project/GroupElement.h"
 
 using namespace Qt::StringLiterals;
@@ -24,7 +23,6 @@ RemoveObject::RemoveObject(const SharedProperty &list, DesignerObject *object, b
     if (const GroupElement *group = GroupIndexes::groupOf(list)) {
         addChange(group->indexes(),
                   GroupIndexes::replaced(valueOf(group->indexes()), {object->getIdName()}, {}));
-        addChanges(SplitGroup::placesWithout({object}));
     }
     setActiveItem(object);
     setSelection(selected ? QList<DesignerObject *>{object} : QList<DesignerObject *>());

@@ -13,37 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
-namespace {
-
-/*! The places of groups, each behind those that it holds, when some objects leave them and others come in:
-    what a group turns about depends on what it holds, and nothing else is to be seen to move. */
-QList<ValueChange> placesOf(const QList<const GroupElement *> &groups,
-                            const QSet<const DesignerObject *> &leaving,
-                            const QHash<const GroupElement *, QList<ElementPlacement>> &coming = {})
-{
-    QList<ValueChange> changes;
-    QHash<const DesignerObject *, ElementPlacement> places;
-    for (const GroupElement *group : groups) {
-        QList<ElementPlacement> inside = coming.value(group);
-        for (const DesignerObject *member : group->elements()->listItems()) {
-            if (!leaving.contains(member)) {
-                const auto moved = places.constFind(member);
-                inside.append(moved == places.cend() ? ElementPlacement::of(member) : *moved);
-            }
-        }
-        const ElementPlacement place = ElementPlacement::of(group).holding(inside);
-        places.insert(group, place);
-        const SharedProperty position = group->getProperty(u"position");
-        const QString text = ValueConversion::toString(place.position);
-        if (position->valueString() != text) {
-            changes.append({position, position->valueString(), text});
-        }
-    }
-    return changes;
-}
-
-} // namespace
-
 SplitGroup::SplitGroup(DesignerObject *group, const QList<DesignerObject *> &members, UndoCommand *parent)
     : ModelCommand(group ? group->listProperty() : SharedProperty(), true, parent)
 {
@@ -66,6 +35,7 @@ SplitGroup::SplitGroup(DesignerObject *group, const QList<DesignerObject *> &mem
                  group->getIdName());
     }
     setupCommands(element, ordered);
+    setSelection(ordered);
 }
 
 SplitGroup::SplitGroup(DesignerObject *group, const QStringList &memberNames, UndoCommand *parent)
@@ -107,50 +77,6 @@ QList<ValueChange> SplitGroup::placeOutside(const DesignerObject *member, const 
     return changes;
 }
 
-QList<ValueChange> SplitGroup::placesAround(const GroupElement *group, const QList<DesignerObject *> &leaving,
-                                            bool groupGoes)
-{
-    const ElementPlacement whole = ElementPlacement::of(group);
-    QList<ElementPlacement> outside;
-    for (const DesignerObject *member : leaving) {
-        outside.append(ElementPlacement::of(member).outOf(whole));
-    }
-    QSet<const DesignerObject *> gone(leaving.cbegin(), leaving.cend());
-    QList<const GroupElement *> groups;
-    if (groupGoes) {
-        gone.insert(group);
-    } else {
-        groups.append(group);
-    }
-    const GroupElement *outer = GroupIndexes::groupOf(group->listProperty());
-    for (const GroupElement *next = outer; next; next = GroupIndexes::groupOf(next->listProperty())) {
-        groups.append(next);
-    }
-    return placesOf(groups, gone, {{outer, outside}});
-}
-
-QList<ValueChange> SplitGroup::placesWithout(const QList<DesignerObject *> &going)
-{
-    // The groups around them, each behind those that it holds.
-    QList<const GroupElement *> groups;
-    QSet<const GroupElement *> known;
-    bool isTurned = false;
-    for (const DesignerObject *object : going) {
-        QList<const GroupElement *> around;
-        const GroupElement *group = object ? GroupIndexes::groupOf(object->listProperty()) : nullptr;
-        for (; group && !known.contains(group); group = GroupIndexes::groupOf(group->listProperty())) {
-            isTurned = isTurned || group->getProperty(u"rotation")->valueString() != "0"_L1
-                       || group->getProperty(u"scale")->valueString() != "100"_L1;
-            known.insert(group);
-            around.append(group);
-        }
-        if (!around.isEmpty()) {
-            groups = around + groups;
-        }
-    }
-    return isTurned ? placesOf(groups, {going.cbegin(), going.cend()}) : QList<ValueChange>();
-}
-
 void SplitGroup::setupCommands(GroupElement *group, const QList<DesignerObject *> &members)
 {
     const SharedProperty list = group->listProperty();
@@ -166,9 +92,6 @@ void SplitGroup::setupCommands(GroupElement *group, const QList<DesignerObject *
             addStep<SetValueStep>(change);
         }
         addStep<InsertItemStep>(list, member, ++index);
-    }
-    for (const ValueChange &change : placesAround(group, members, false)) {
-        addStep<SetValueStep>(change);
     }
     addChanges(ReferenceChanges::ungrouped(group, below, false, pending()));
     addChange(group->indexes(), GroupIndexes::replaced(valueOf(group->indexes()), names, {}));

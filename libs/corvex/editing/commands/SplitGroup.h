@@ -18,12 +18,6 @@ public:
 
     //! The values that leave a member of the group at the same place out of it.
     static QList<ValueChange> placeOutside(const DesignerObject *member, const ElementPlacement &group);
-    /*! The places of a turned group and of those around it in which nothing is seen to move when some members
-        leave it, or it goes with that: what a group turns about depends on what it holds. */
-    static QList<ValueChange> placesAround(const GroupElement *group, const QList<DesignerObject *> &leaving,
-                                           bool groupGoes);
-    //! The same when objects leave whatever groups they are in, for good or for a place in no group.
-    static QList<ValueChange> placesWithout(const QList<DesignerObject *> &going);
 
 private:
     void setupCommands(GroupElement *group, const QList<DesignerObject *> &members);

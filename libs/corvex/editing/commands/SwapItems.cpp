@@ -45,7 +45,7 @@ SwapItems::SwapItems(const SharedProperty &list, DesignerObject *first, Designer
     }
     setTitle(u"Swap \"%1\" and \"%2\""_s, first->getIdName(), second->getIdName());
     addStep<SwapItemsStep>(list, first, second);
-    setActiveItem(first);
+    setSelection({first, second});
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -44,8 +44,6 @@ UngroupCommand::UngroupCommand(DesignerObject *group, UndoCommand *parent)
         addChange(outer->indexes(), GroupIndexes::replaced(valueOf(outer->indexes()), {name}, members));
     }
     const ElementPlacement whole = ElementPlacement::of(element);
-    const QList<ValueChange> around =
-        SplitGroup::placesAround(element, element->elements()->listItems(), true);
     qsizetype index = list->getListItemIndex(group);
     addStep<TakeItemStep>(list, group);
     for (DesignerObject *member : element->elements()->listItems()) {
@@ -55,9 +53,7 @@ UngroupCommand::UngroupCommand(DesignerObject *group, UndoCommand *parent)
         }
         addStep<InsertItemStep>(list, member, index++);
     }
-    for (const ValueChange &change : around) {
-        addStep<SetValueStep>(change);
-    }
+    setSelection(element->elements()->listItems(), {group});
 }
 
 } // namespace Halvane::Corvex::Designer

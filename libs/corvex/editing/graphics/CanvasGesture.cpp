@@ -2,12 +2,9 @@
 #include "corvex/editing/graphics/CanvasGesture.h"
 
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/editing/commands/ChangeProperty.h"
 #include "corvex/editing/graphics/FramePoint.h"
 #include "corvex/editing/graphics/FramedItem.h"
-#include "corvex/editing/graphics/GraphicsItemGroup.h"
 #include "corvex/editing/undo/UndoCommand.h"
-#include "corvex/values/ValueConversion.h"
 
 #include <QGraphicsItem>
 #include <QLineF>
@@ -22,12 +19,6 @@ namespace {
 
 constexpr double turnStep = 1;
 constexpr double coarseTurnStep = 15;
-
-FramedItem *framed(const DesignerObject *object)
-{
-    GraphicsItem *item = GraphicsItem::of(object);
-    return item && item->isKindOfClass(FramedItem::kindName()) ? static_cast<FramedItem *>(item) : nullptr;
-}
 
 //! In degrees, clockwise as rotations are.
 double direction(const FramedItem &item, const QPointF &point)
@@ -72,7 +63,7 @@ void CanvasGesture::moveTo(const QPointF &point, Qt::KeyboardModifiers modifiers
 {
     const bool isShifted = modifiers.testFlag(Qt::ShiftModifier);
     for (const Start &start : std::as_const(m_items)) {
-        FramedItem *item = framed(start.object);
+        FramedItem *item = FramedItem::of(start.object);
         if (!item) {
             continue;
         }
@@ -127,48 +118,27 @@ QString CanvasGesture::text() const
     return LocalizationHelper::coreString(u"Rotate \"%1\""_s).arg(name);
 }
 
-QList<GraphicsItemGroup *> CanvasGesture::groupsAround() const
+SharedProperty CanvasGesture::movedProperty(const DesignerObject &object) const
 {
-    QList<GraphicsItemGroup *> groups;
-    for (const Start &start : m_items) {
-        const FramedItem *item = framed(start.object);
-        const QGraphicsItem *around = item ? item->graphic()->parentItem() : nullptr;
-        for (; around; around = around->parentItem()) {
-            GraphicsItem *group = GraphicsItem::of(around);
-            if (group && group->isKindOfClass(GraphicsItemGroup::kindName())) {
-                groups.removeOne(static_cast<GraphicsItemGroup *>(group));
-                groups.append(static_cast<GraphicsItemGroup *>(group));
-            }
-        }
-    }
-    return groups;
+    return object.getProperty(m_kind == Kind::Turn ? u"rotation" : u"position");
 }
 
 std::unique_ptr<UndoCommand> CanvasGesture::command() const
 {
     auto whole = std::make_unique<UndoCommand>();
     for (const Start &start : m_items) {
-        FramedItem *item = framed(start.object);
+        FramedItem *item = FramedItem::of(start.object);
         if (!item) {
             continue;
         }
         if (m_kind == Kind::Resize) {
             item->updateResizedDataObjects(m_handle, whole.get());
         } else {
-            const QString id = m_kind == Kind::Move ? u"position"_s : u"rotation"_s;
-            item->updateDataObject(start.object->getProperty(id), whole.get());
+            item->updateDataObject(movedProperty(*start.object), whole.get());
         }
     }
     if (whole->childCount() == 0) {
         return nullptr;
-    }
-    for (GraphicsItemGroup *group : groupsAround()) {
-        group->settle();
-        const SharedProperty position = group->dataObject()->getProperty(u"position");
-        const QString place = ValueConversion::toString(group->pos());
-        if (!position->equalsValue(place)) {
-            new ChangeProperty(position, place, false, whole.get());
-        }
     }
     whole->setText(text());
     return whole;
@@ -176,15 +146,14 @@ std::unique_ptr<UndoCommand> CanvasGesture::command() const
 
 void CanvasGesture::release()
 {
-    const QList<GraphicsItemGroup *> groups = groupsAround();
     for (const Start &start : std::as_const(m_items)) {
-        if (FramedItem *item = framed(start.object)) {
+        FramedItem *item = FramedItem::of(start.object);
+        if (item && m_kind == Kind::Resize) {
             item->setRatioForced(false);
             item->readDataObject();
+        } else if (item) {
+            item->updateGraphicsItem(movedProperty(*start.object));
         }
-    }
-    for (GraphicsItemGroup *group : groups) {
-        group->readDataObject();
     }
     m_items.clear();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/core/DesignerProperty.h"
+
 #include <QList>
 #include <QPointF>
 #include <QPointer>
@@ -12,7 +14,6 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 class FramedItem;
-class GraphicsItemGroup;
 class UndoCommand;
 
 /*! What happens between pressing and releasing the mouse: items are moved, resized or turned on the canvas,
@@ -49,9 +50,9 @@ private:
     { }
     void moveItem(FramedItem &item, const Start &start, const QPointF &point) const;
     void resizeItem(FramedItem &item, const Start &start, const QPointF &point) const;
-    //! The groups around the items, each once and behind those in it.
-    QList<GraphicsItemGroup *> groupsAround() const;
     QString text() const;
+    //! What moving or turning changes.
+    SharedProperty movedProperty(const DesignerObject &object) const;
 
     Kind m_kind;
     QPointF m_start;

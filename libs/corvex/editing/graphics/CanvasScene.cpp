@@ -18,19 +18,17 @@
 #include <QPainter>
 #include <QWidget>
 
+#include <functional>
+
 namespace Halvane::Corvex::Designer {
 
 namespace {
 
-FramedItem *framed(GraphicsItem *item)
+template<class Condition>
+bool hasParent(const QGraphicsItem *item, const Condition &condition)
 {
-    return item && item->isKindOfClass(FramedItem::kindName()) ? static_cast<FramedItem *>(item) : nullptr;
-}
-
-bool hasSelectedParent(const QGraphicsItem *item)
-{
-    for (const QGraphicsItem *parent = item->parentItem(); parent; parent = parent->parentItem()) {
-        if (parent->isSelected()) {
+    for (QGraphicsItem *parent = item->parentItem(); parent; parent = parent->parentItem()) {
+        if (condition(parent)) {
             return true;
         }
     }
@@ -52,16 +50,13 @@ CanvasScene::CanvasScene(Screen *screen, QObject *parent)
         }
     }
     if (screen && screen->project()) {
-        // A command may also replace the file of a picture, which no property tells.
-        connect(screen->project()->undoStack(), &UndoStack::indexChanged, this, [this] {
-            followSelection();
-            update();
-        });
+        const UndoStack *stack = screen->project()->undoStack();
+        connect(stack, &UndoStack::indexChanged, this, [this, stack] { followHistory(*stack); });
     }
     addItem(m_outline);
     addItem(m_bounding);
     m_bounding->setZValue(m_outline->zValue());
-    connect(this, &QGraphicsScene::selectionChanged, this, &CanvasScene::onSelectionChanged);
+    connect(this, &QGraphicsScene::selectionChanged, this, &CanvasScene::outlineLater);
 }
 
 CanvasScene::~CanvasScene()
@@ -79,8 +74,8 @@ QList<FramedItem *> CanvasScene::selectedItemsOnCanvas() const
 {
     QList<FramedItem *> items;
     for (const QGraphicsItem *graphic : selectedItems()) {
-        FramedItem *item = framed(GraphicsItem::of(graphic));
-        if (item && !hasSelectedParent(graphic)) {
+        FramedItem *item = FramedItem::of(graphic);
+        if (item && !hasParent(graphic, std::mem_fn(&QGraphicsItem::isSelected))) {
             items.append(item);
         }
     }
@@ -104,19 +99,56 @@ QList<DesignerObject *> CanvasScene::selectedObjects() const
 
 void CanvasScene::selectObjects(const QList<DesignerObject *> &objects)
 {
-    clearSelection();
+    selectItems(itemsOf(objects));
+}
+
+QList<QGraphicsItem *> CanvasScene::itemsOf(const QList<DesignerObject *> &objects) const
+{
+    QList<QGraphicsItem *> items;
     for (const DesignerObject *object : objects) {
         const GraphicsItem *item = GraphicsItem::of(object);
-        if (item && item->graphic()->scene() == this) {
-            item->graphic()->setSelected(true);
+        if (item && item->graphic()->scene() == this
+            && item->graphic()->flags().testFlag(QGraphicsItem::ItemIsSelectable)) {
+            items.append(item->graphic());
         }
+    }
+    return items;
+}
+
+void CanvasScene::selectItems(const QList<QGraphicsItem *> &items)
+{
+    const QSet<QGraphicsItem *> all(items.cbegin(), items.cend());
+    QSet<QGraphicsItem *> wanted = all;
+    // With a group go its members.
+    wanted.removeIf([&all](const QGraphicsItem *item) {
+        return hasParent(item, [&all](QGraphicsItem *parent) { return all.contains(parent); });
+    });
+    bool isChanged = false;
+    {
+        // The scene would tell of every single item.
+        const QSignalBlocker blocker(this);
+        for (QGraphicsItem *item : selectedItems()) {
+            if (!wanted.contains(item)) {
+                item->setSelected(false);
+                isChanged = true;
+            }
+        }
+        for (QGraphicsItem *item : std::as_const(wanted)) {
+            if (!item->isSelected()) {
+                item->setSelected(true);
+                isChanged = isChanged || item->isSelected();
+            }
+        }
+    }
+    if (isChanged) {
+        emit selectionChanged();
     }
 }
 
 FramedItem *CanvasScene::innermostAt(const QPointF &point) const
 {
     for (const QGraphicsItem *graphic : items(point)) {
-        FramedItem *item = framed(GraphicsItem::of(graphic));
+        FramedItem *item = FramedItem::of(graphic);
         if (item && graphic->flags().testFlag(QGraphicsItem::ItemIsSelectable)) {
             return item;
         }
@@ -129,7 +161,7 @@ FramedItem *CanvasScene::clickedAt(const QPointF &point) const
 {
     FramedItem *clicked = innermostAt(point);
     for (FramedItem *item = clicked; item && !clicked->graphic()->isSelected();
-         item = framed(GraphicsItem::of(item->graphic()->parentItem()))) {
+         item = FramedItem::of(item->graphic()->parentItem())) {
         if (item->graphic()->flags().testFlag(QGraphicsItem::ItemIsSelectable)) {
             clicked = item;
         }
@@ -142,8 +174,7 @@ void CanvasScene::select(FramedItem *item, bool adds)
     if (adds) {
         item->graphic()->setSelected(!item->graphic()->isSelected());
     } else if (!item->graphic()->isSelected()) {
-        clearSelection();
-        item->graphic()->setSelected(true);
+        selectItems({item->graphic()});
     }
 }
 
@@ -153,6 +184,7 @@ QImage CanvasScene::picture()
     const QRectF area = item ? item->graphic()->mapRectToScene(item->frame()) : QRectF();
     QImage image(area.size().toSize(), QImage::Format_ARGB32_Premultiplied);
     if (!image.isNull()) {
+        outline();
         image.fill(Qt::transparent);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::TextAntialiasing);
@@ -229,7 +261,7 @@ void CanvasScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
         m_waitsForDrag = m_waitsForDrag && way.manhattanLength() < QApplication::startDragDistance();
         if (!m_waitsForDrag) {
             m_gesture->moveTo(event->scenePos(), event->modifiers());
-            followSelection();
+            outline();
         }
     } else if (event->widget()) {
         event->widget()->setCursor(cursorAt(event->scenePos()));
@@ -269,18 +301,20 @@ void CanvasScene::cancelGesture()
         m_gesture->release();
         m_gesture.reset();
         m_waitsForDrag = false;
-        followSelection();
+        outlineLater();
     }
 }
 
 void CanvasScene::selectTouched(const QRectF &area)
 {
-    for (const QGraphicsItem *graphic : items(area)) {
-        GraphicsItem *item = GraphicsItem::of(graphic);
+    QList<QGraphicsItem *> touched = selectedItems();
+    for (QGraphicsItem *graphic : items(area)) {
+        const GraphicsItem *item = GraphicsItem::of(graphic);
         if (item && !graphic->parentItem() && item->dataObject() != m_screen) {
-            item->graphic()->setSelected(true);
+            touched.append(graphic);
         }
     }
+    selectItems(touched);
 }
 
 void CanvasScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
@@ -300,21 +334,32 @@ void CanvasScene::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void CanvasScene::onSelectionChanged()
+void CanvasScene::followHistory(const UndoStack &stack)
 {
-    for (const QMetaObject::Connection &connection : std::as_const(m_followed)) {
-        disconnect(connection);
+    // A command may also replace the file of a picture, which no property tells.
+    update();
+    const int done = stack.currentIndex() - (stack.isRedoToCurrentIndex() ? 1 : 0);
+    // The stack owns its commands; QUndoStack shows them to be read only.
+    auto *command = const_cast<UndoCommand *>(dynamic_cast<const UndoCommand *>(stack.command(done)));
+    if (const QList<QGraphicsItem *> items =
+            itemsOf(command ? command->selectedItems() : QList<DesignerObject *>());
+        !items.isEmpty()) {
+        selectItems(items);
     }
-    m_followed.clear();
-    for (const FramedItem *item : selectedItemsOnCanvas()) {
-        m_followed.append(connect(item->dataObject(), &DesignerObject::propertyValueChanged, this,
-                                  &CanvasScene::followSelection));
-    }
-    followSelection();
 }
 
-void CanvasScene::followSelection()
+void CanvasScene::outlineLater()
 {
+    // An edit may change thousands of items, each of which says so.
+    if (!m_isOutlineDue) {
+        m_isOutlineDue = true;
+        QMetaObject::invokeMethod(this, &CanvasScene::outline, Qt::QueuedConnection);
+    }
+}
+
+void CanvasScene::outline()
+{
+    m_isOutlineDue = false;
     const QList<FramedItem *> items = selectedItemsOnCanvas();
     m_outline->follow(items, !m_gesture || m_waitsForDrag);
     QRectF around;

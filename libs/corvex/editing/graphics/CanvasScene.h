@@ -13,6 +13,7 @@ class CropArea;
 class GraphicsBounding;
 class Screen;
 class SelectionOutline;
+class UndoStack;
 
 /*! The canvas of one screen: its items, the selection, and the mouse at work on it.
 
@@ -35,6 +36,8 @@ public:
     QList<DesignerObject *> selectedObjects() const;
     //! Elements that are not on the canvas are passed over.
     void selectObjects(const QList<DesignerObject *> &objects);
+    //! Has what is selected outlined again soon, where it is by then.
+    void outlineLater();
     bool isGestureActive() const { return m_gesture || m_crop; }
     void cancelGesture();
     //! The screen, as large as it is, with what is selected; null when that would be no picture.
@@ -55,11 +58,15 @@ private:
     FramedItem *innermostAt(const QPointF &point) const;
     FramedItem *clickedAt(const QPointF &point) const;
     void select(FramedItem *item, bool adds);
+    //! Those of the objects that are on the canvas to be selected.
+    QList<QGraphicsItem *> itemsOf(const QList<DesignerObject *> &objects) const;
+    //! In one step, however many they are.
+    void selectItems(const QList<QGraphicsItem *> &items);
     void startMoving(const QPointF &point);
     void endGesture();
     void selectTouched(const QRectF &area);
-    void onSelectionChanged();
-    void followSelection();
+    void outline();
+    void followHistory(const UndoStack &stack);
 
     QPointer<DesignerObject> m_screen;
     std::optional<CanvasGesture> m_gesture;
@@ -67,7 +74,7 @@ private:
     CropArea *m_crop = nullptr;
     SelectionOutline *m_outline;
     GraphicsBounding *m_bounding;
-    QList<QMetaObject::Connection> m_followed;
+    bool m_isOutlineDue = false;
 };
 
 } // namespace Halvane::Corvex::Designer

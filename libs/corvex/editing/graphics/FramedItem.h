@@ -11,6 +11,11 @@ class FramedItem : public GraphicsItem
     CORVEX_CLASS_NAMES(FramedItem, GraphicsItem)
 
 public:
+    //! The item of such a kind that shows an object; null when none does.
+    static FramedItem *of(const DesignerObject *object) { return framed(GraphicsItem::of(object)); }
+    //! The one that an item of a scene is the graphic of; null for any other item.
+    static FramedItem *of(const QGraphicsItem *graphic) { return framed(GraphicsItem::of(graphic)); }
+
     QQuickItem::TransformOrigin getResizeHandle(const QPointF &point, bool *found = nullptr) const override;
     using GraphicsItem::resizeByMouse;
     void resizeByMouse(QQuickItem::TransformOrigin handle, const QSizeF &size,
@@ -34,6 +39,10 @@ protected:
     virtual QSizeF proportions() const = 0;
 
 private:
+    static FramedItem *framed(GraphicsItem *item)
+    {
+        return item && item->isKindOfClass(kindName()) ? static_cast<FramedItem *>(item) : nullptr;
+    }
     bool isInZone(const QPointF &zone, const QPointF &point) const;
 };
 

@@ -4,6 +4,7 @@
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/properties/TransformOriginProperty.h"
 #include "corvex/editing/commands/ChangeProperty.h"
+#include "corvex/editing/graphics/CanvasScene.h"
 #include "corvex/editing/graphics/FramePoint.h"
 #include "corvex/values/ValueConversion.h"
 
@@ -31,20 +32,29 @@ bool isStored(const DesignerObject *object, QStringView id)
 constexpr struct
 {
     QLatin1StringView id;
+    bool isPlace;
     void (*show)(QGraphicsItem &graphic, const QString &value);
 } shownProperties[] = {
-    {"position"_L1,
+    {"position"_L1, true,
      [](QGraphicsItem &graphic, const QString &value) { graphic.setPos(ValueConversion::toPoint(value)); }},
-    {"rotation"_L1, [](QGraphicsItem &graphic,
-                       const QString &value) { graphic.setRotation(ValueConversion::toReal(value)); }},
-    {"scale"_L1, [](QGraphicsItem &graphic,
-                    const QString &value) { graphic.setScale(ValueConversion::toReal(value) / 100); }},
-    {"opacity"_L1, [](QGraphicsItem &graphic,
-                      const QString &value) { graphic.setOpacity(ValueConversion::toReal(value) / 100); }},
-    {"z"_L1,
+    {"rotation"_L1, true,
+     [](QGraphicsItem &graphic, const QString &value) {
+         graphic.setRotation(ValueConversion::toReal(value));
+     }},
+    {"scale"_L1, true,
+     [](QGraphicsItem &graphic, const QString &value) {
+         graphic.setScale(ValueConversion::toReal(value) / 100);
+     }},
+    {"opacity"_L1, false,
+     [](QGraphicsItem &graphic, const QString &value) {
+         graphic.setOpacity(ValueConversion::toReal(value) / 100);
+     }},
+    {"z"_L1, false,
      [](QGraphicsItem &graphic, const QString &value) { graphic.setZValue(ValueConversion::toReal(value)); }},
-    {"visible"_L1, [](QGraphicsItem &graphic,
-                      const QString &value) { graphic.setVisible(ValueConversion::toBoolean(value)); }},
+    {"visible"_L1, false,
+     [](QGraphicsItem &graphic, const QString &value) {
+         graphic.setVisible(ValueConversion::toBoolean(value));
+     }},
 };
 
 //! Outside of a scene, graphics without a parent have no order.
@@ -110,10 +120,10 @@ bool GraphicsItem::initialize()
             child->setGraphicsItem();
             if (const GraphicsItem *item = of(child)) {
                 place(item->graphic());
+                childChanged(*item);
             }
         }
     }
-    childrenChanged();
     return true;
 }
 
@@ -237,21 +247,26 @@ void GraphicsItem::updateGraphicsItem(const SharedProperty &property)
     if (id == "transformOrigin"_L1) {
         m_transformOrigin = TransformOriginProperty::stringToEnum(property->valueString());
         updateTransformOriginPoint();
-        tellParent();
+        announcePlace();
         return;
     }
     const auto *const shown =
         std::ranges::find_if(shownProperties, [&](const auto &row) { return row.id == id; });
     if (shown != std::end(shownProperties)) {
         shown->show(*m_graphic, property->valueString());
-        tellParent();
+        if (shown->isPlace) {
+            announcePlace();
+        }
     }
 }
 
-void GraphicsItem::tellParent() const
+void GraphicsItem::announcePlace() const
 {
     if (GraphicsItem *parent = of(m_graphic->parentItem())) {
-        parent->childrenChanged();
+        parent->childChanged(*this);
+    }
+    if (auto *canvas = qobject_cast<CanvasScene *>(m_graphic->scene())) {
+        canvas->outlineLater();
     }
 }
 
@@ -262,24 +277,23 @@ void GraphicsItem::addGraphicsItemChild(const SharedProperty &property, Designer
         return;
     }
     place(item->graphic());
-    // Now it is the topmost; most children come in at the end of the list, so it is searched from there.
+    // Now it is the topmost.
     const QList<DesignerObject *> siblings = property->listItems();
-    const GraphicsItem *next = nullptr;
-    for (auto sibling = siblings.crbegin(); sibling != siblings.crend() && *sibling != child; ++sibling) {
-        if (const GraphicsItem *shown = of(*sibling)) {
-            next = shown;
+    for (qsizetype index = property->getListItemIndex(child) + 1; index < siblings.size(); ++index) {
+        if (const GraphicsItem *next = of(siblings.at(index))) {
+            stackBelow(item->graphic(), next->graphic());
+            break;
         }
     }
-    if (next) {
-        stackBelow(item->graphic(), next->graphic());
-    }
-    childrenChanged();
+    childChanged(*item);
 }
 
 void GraphicsItem::removeGraphicsItemChild(const SharedProperty &, DesignerObject *child)
 {
-    delete of(child);
-    childrenChanged();
+    if (GraphicsItem *item = of(child)) {
+        childLeaves(*item);
+        delete item;
+    }
 }
 
 void GraphicsItem::orderGraphicsItemChildren(const SharedProperty &property)
@@ -298,11 +312,10 @@ void GraphicsItem::orderGraphicsItemChildren(const SharedProperty &property)
 
 void GraphicsItem::objectGone()
 {
-    GraphicsItem *parent = m_graphic ? of(m_graphic->parentItem()) : nullptr;
-    delete this;
-    if (parent) {
-        parent->childrenChanged();
+    if (GraphicsItem *parent = m_graphic ? of(m_graphic->parentItem()) : nullptr) {
+        parent->childLeaves(*this);
     }
+    delete this;
 }
 
 void GraphicsItem::resizeTopLeft(const QRectF &rect, const QPointF &point, QSizeF &size, QPointF &position,

@@ -131,10 +131,12 @@ protected:
     //! What the item shows, as the text of the property with that id; null for those that items do not
     //! change.
     virtual QString shownValue(QStringView id) const;
-    //! Runs when a child has come, gone, or changed its place or its size.
-    virtual void childrenChanged() { }
-    //! Tells the item around this one that its place or its size is another.
-    void tellParent() const;
+    //! Runs when a child has come, or its place or its size is another.
+    virtual void childChanged(const GraphicsItem &) { }
+    //! Runs before a child goes that does not go with this item.
+    virtual void childLeaves(const GraphicsItem &) { }
+    //! Tells the item around this one and the canvas that the place or the size is another.
+    void announcePlace() const;
 
 private:
     QPointer<DesignerObject> m_dataObject;

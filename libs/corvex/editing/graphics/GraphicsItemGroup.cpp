@@ -1,11 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/graphics/GraphicsItemGroup.h"
 
+#include "corvex/editing/commands/ChangeProperty.h"
+
 #include <QScopedValueRollback>
 
 #include <cmath>
 
 namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! In the coordinates of the group, as the two below are.
+QRectF coveredBy(const GraphicsItem &member)
+{
+    return member.graphic()->mapRectToParent(member.frame());
+}
+
+//! Of the member as it would be if it were not turned.
+QPointF farCorner(const GraphicsItem &member)
+{
+    return member.graphic()->pos() + member.turningFrame().bottomRight();
+}
+
+} // namespace
 
 GraphicsItemGroup::GraphicsItemGroup(DesignerObject *dataObject)
     : FramedItem(dataObject, this)
@@ -43,40 +61,65 @@ bool GraphicsItemGroup::keepsRatio() const
            });
 }
 
-void GraphicsItemGroup::childrenChanged()
+void GraphicsItemGroup::childChanged(const GraphicsItem &child)
 {
     if (!m_isChangingSize) {
-        updateBoundingSize();
-        m_modelFrame = m_frame;
-        tellParent();
+        m_modelBounds.set(&child, coveredBy(child), farCorner(child));
+        takeModelBounds();
+    }
+}
+
+void GraphicsItemGroup::childLeaves(const GraphicsItem &child)
+{
+    m_modelBounds.remove(&child);
+    takeModelBounds();
+}
+
+void GraphicsItemGroup::takeModelBounds()
+{
+    const QRectF frame = m_modelBounds.frame();
+    const QSizeF reach = m_modelBounds.reach();
+    if (frame != m_frame || reach != m_turningSize) {
+        setBounds(frame, reach);
+        announcePlace();
     }
 }
 
 void GraphicsItemGroup::updateBoundingSize()
 {
-    prepareGeometryChange();
-    m_frame = {};
-    m_turningSize = {0, 0};
+    QRectF frame;
+    QSizeF reach(0, 0);
     for (const GraphicsItem *member : members()) {
-        m_frame |= member->graphic()->mapRectToParent(member->frame());
-        const QPointF corner = member->graphic()->pos() + member->turningFrame().bottomRight();
-        m_turningSize = m_turningSize.expandedTo({corner.x(), corner.y()});
+        frame |= coveredBy(*member);
+        const QPointF corner = farCorner(*member);
+        reach = reach.expandedTo({corner.x(), corner.y()});
     }
+    setBounds(frame, reach);
+}
+
+void GraphicsItemGroup::setBounds(const QRectF &frame, const QSizeF &turningSize)
+{
+    prepareGeometryChange();
+    m_frame = frame;
+    m_turningSize = turningSize;
     updateTransformOriginPoint();
 }
 
-void GraphicsItemGroup::settle()
+void GraphicsItemGroup::updateResizedDataObjects(int handle, UndoCommand *parent)
 {
-    const QPointF oldOrigin = transformOriginPoint();
-    updateBoundingSize();
-    const QPointF way = oldOrigin - transformOriginPoint();
-    const QPointF turnedWay = mapToParent(way) - mapToParent(QPointF());
-    setPos(pos() + way - turnedWay);
+    const int before = parent->childCount();
+    for (GraphicsItem *member : members()) {
+        member->updateResizedDataObjects(handle, parent);
+    }
+    if (dataObject() && parent->childCount() > before) {
+        new ChangeProperty(dataObject()->getProperty(u"position"), shownValue(u"position"), true, parent);
+    }
 }
 
 void GraphicsItemGroup::setFrameSize(const QSizeF &size)
 {
-    if (m_modelFrame.isEmpty()) {
+    const QRectF modelFrame = m_modelBounds.frame();
+    if (modelFrame.isEmpty()) {
         return;
     }
     const QScopedValueRollback changing(m_isChangingSize, true);
@@ -84,7 +127,7 @@ void GraphicsItemGroup::setFrameSize(const QSizeF &size)
     for (GraphicsItem *member : members()) {
         member->readDataObject();
     }
-    scaleMembers(size.width() / m_modelFrame.width(), size.height() / m_modelFrame.height());
+    scaleMembers(size.width() / modelFrame.width(), size.height() / modelFrame.height());
 }
 
 void GraphicsItemGroup::scaleMembers(double across, double down)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/editing/graphics/FramedItem.h"
+#include "corvex/editing/graphics/MemberBounds.h"
 
 #include <QGraphicsItem>
 
@@ -25,10 +26,9 @@ public:
     QPainterPath getShape() const override;
     void setFrameSize(const QSizeF &size) override;
     bool keepsRatio() const override;
-    /*! Takes over the places that the mouse has given to members. A group that is as large as its members
-       reach turns about another point then; it gets the place in which none of them is seen to move by that.
-     */
-    void settle();
+    //! With the place of the group, even when it stays the same: it belongs to the size that the members
+    //! give.
+    void updateResizedDataObjects(int handle, UndoCommand *parent) override;
     //! Whether the members are changing because the group is being resized.
     bool isChangingSize() const { return m_isChangingSize; }
 
@@ -37,17 +37,20 @@ public:
     void paint(QPainter *, const QStyleOptionGraphicsItem *, QWidget *) override { }
 
 protected:
-    QSizeF proportions() const override { return m_modelFrame.size(); }
-    void childrenChanged() override;
+    QSizeF proportions() const override { return m_modelBounds.frame().size(); }
+    void childChanged(const GraphicsItem &child) override;
+    void childLeaves(const GraphicsItem &child) override;
 
 private:
     QList<GraphicsItem *> members() const;
     void updateBoundingSize();
+    void setBounds(const QRectF &frame, const QSizeF &turningSize);
+    void takeModelBounds();
     void scaleMembers(double across, double down);
 
     QRectF m_frame;
     QSizeF m_turningSize;
-    QRectF m_modelFrame; //!< the frame around the members as they are in the model
+    MemberBounds m_modelBounds; //!< of the members as they are in the model
     bool m_isChangingSize = false;
 };
 

@@ -42,7 +42,7 @@ void GraphicsRectangle::updateGraphicsItem(const SharedProperty &property)
         setFrameSize(ValueConversion::toSize(property->valueString()));
         updateAspectRatio();
         updateTransformOriginPoint();
-        tellParent();
+        announcePlace();
     } else if (id == "color"_L1) {
         m_color = ValueConversion::toColor(property->valueString());
     } else if (id == "border"_L1) {

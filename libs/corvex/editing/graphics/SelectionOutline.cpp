@@ -24,26 +24,27 @@ SelectionOutline::SelectionOutline()
 
 void SelectionOutline::follow(const QList<FramedItem *> &items, bool hasHandles)
 {
-    QRectF bounds;
-    for (const FramedItem *item : items) {
-        bounds |= item->graphic()->mapRectToScene(item->frame());
-    }
     prepareGeometryChange();
-    m_items = items;
-    m_hasHandles = hasHandles && items.size() == 1;
-    const double margin = m_hasHandles ? reach : 1;
+    QRectF bounds;
+    m_frames.clear();
+    for (const FramedItem *item : items) {
+        const QPolygonF corners = item->graphic()->mapToScene(item->frame());
+        bounds |= corners.boundingRect();
+        for (qsizetype corner = 0; corner < corners.size(); ++corner) {
+            m_frames.append({corners.at(corner), corners.at((corner + 1) % corners.size())});
+        }
+    }
+    m_handled = hasHandles && items.size() == 1 ? items.constFirst()->dataObject() : nullptr;
+    const double margin = m_handled ? reach : 1;
     m_bounds = items.isEmpty() ? QRectF() : bounds.adjusted(-margin, -margin, margin, margin);
 }
 
 void SelectionOutline::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     painter->setPen(QPen(outlineColor, 0));
-    for (const FramedItem *item : std::as_const(m_items)) {
-        painter->setBrush(Qt::NoBrush);
-        painter->drawPolygon(item->graphic()->mapToScene(item->frame()));
-    }
-    if (m_hasHandles) {
-        paintHandles(*painter, *m_items.constFirst());
+    painter->drawLines(m_frames);
+    if (const FramedItem *item = FramedItem::of(m_handled)) {
+        paintHandles(*painter, *item);
     }
 }
 

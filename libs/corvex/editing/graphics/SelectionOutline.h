@@ -2,13 +2,17 @@
 #pragma once
 
 #include <QGraphicsItem>
+#include <QLineF>
 #include <QList>
+#include <QPointer>
 
 namespace Halvane::Corvex::Designer {
 
+class DesignerObject;
 class FramedItem;
 
-//! The frames of the selected items; a single one has its handles and its grip too. It lies above all items.
+/*! The frames of the selected items; a single one has its handles and its grip too. It lies above all items.
+    It shows them as they were when it took them over, and needs none of them afterwards. */
 class SelectionOutline : public QGraphicsItem
 {
 public:
@@ -25,9 +29,10 @@ public:
 private:
     static void paintHandles(QPainter &painter, const FramedItem &item);
 
-    QList<FramedItem *> m_items;
+    QList<QLineF> m_frames;
     QRectF m_bounds;
-    bool m_hasHandles = false;
+    QPointer<DesignerObject>
+        m_handled; //!< the object with handles, which depend on how large the view shows it
 };
 
 } // namespace Halvane::Corvex::Designer
