@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/checks/ProjectProblems.h"
 #include "corvex/project/Project.h"
 #include "corvex/runtime/RuntimeGenerator.h"
 
 #include "Call.h"
 #include "Installation.h"
 #include "PreviewProgram.h"
+#include "ProblemReport.h"
 #include "ProjectFile.h"
-#include "ProjectProblems.h"
 #include "Terminal.h"
 #include "Verb.h"
 
@@ -34,7 +35,8 @@ ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> 
     const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
     file.project().generateRuntimeFiles();
     if (generator.buildFolder().isEmpty()) {
-        return call.failed(generator.errorString(), problems.isEmpty() ? ExitCode::File : ExitCode::Problems);
+        return call.failed(generator.errorString(),
+                           hasErrors(problems) ? ExitCode::Problems : ExitCode::File);
     }
     PreviewProgram program(call, generator.buildFolder() + u"/classes"_s);
     program.process().setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -44,7 +46,8 @@ ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> 
     }
     const QJsonArray entries = QJsonDocument::fromJson(program.process().readAllStandardOutput()).array();
     for (const auto &entry : entries) {
-        problems.append({entry[u"object"].toString(), QString(), entry[u"message"].toString()});
+        problems.append(
+            {ProblemCode::ScreenLook, entry[u"object"].toString(), QString(), entry[u"message"].toString()});
     }
     const ExitCode code = program.exitCode();
     return code == ExitCode::Problems ? ExitCode::Done : code;
@@ -57,16 +60,16 @@ ExitCode run(const Call &call, const ProjectFile &file)
         return ExitCode::File;
     }
     call.terminal().showProgress(u"checking %1"_s.arg(file.path()));
-    QList<Problem> problems = ProjectProblems::find(file, *models);
+    QList<Problem> problems = ProjectProblems::find(file.project(), *models);
     const ExitCode code = call.isSet(u"screens"_s) ? checkScreens(call, file, problems) : ExitCode::Done;
     if (call.asJson()) {
-        ProjectProblems::printJson(problems, call.terminal());
+        ProblemReport::printJson(problems, call.terminal());
     } else {
         for (const Problem &problem : problems) {
-            call.terminal().print(problem.toString());
+            call.terminal().print(ProblemReport::line(problem));
         }
     }
-    return code == ExitCode::Done && !problems.isEmpty() ? ExitCode::Problems : code;
+    return code == ExitCode::Done && hasErrors(problems) ? ExitCode::Problems : code;
 }
 
 QList<QCommandLineOption> options()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/editors/ExpressionSyntax.h"
+#include "corvex/checks/ExpressionSyntax.h"
 #include "corvex/values/GeneralDataList.h"
 
 #include "Call.h"

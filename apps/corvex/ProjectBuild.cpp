@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ProjectBuild.h"
 
+#include "corvex/checks/CodeCheck.h"
+#include "corvex/checks/ProjectProblems.h"
 #include "corvex/project/Project.h"
 #include "corvex/runtime/RuntimeGenerator.h"
 
 #include "Call.h"
-#include "CodeCheck.h"
 #include "DeviceFolder.h"
 #include "Installation.h"
+#include "ProblemReport.h"
 #include "ProjectFile.h"
-#include "ProjectProblems.h"
 #include "Terminal.h"
 
 #include <QDir>
@@ -28,13 +29,13 @@ bool isAccepted(const QList<Problem> &problems, const ProjectFile &file, const C
                 ProjectBuild::WithProblems withProblems)
 {
     for (const Problem &problem : problems) {
-        call.terminal().printError(problem.toString());
+        call.terminal().printError(ProblemReport::line(problem));
     }
-    if (problems.isEmpty() || withProblems == ProjectBuild::WithProblems::Build) {
+    if (!hasErrors(problems) || withProblems == ProjectBuild::WithProblems::Build) {
         return true;
     }
     if (call.asJson()) {
-        ProjectProblems::printJson(problems, call.terminal());
+        ProblemReport::printJson(problems, call.terminal());
     }
     call.failed(u"\"%1\" has problems (%2) and is not built. Mend them, or build it all the same with "
                 "--force."_s.arg(file.path(), QString::number(problems.size())));
@@ -51,7 +52,8 @@ QList<Problem> build(const ProjectFile &file, const ConfigurationContainer &mode
     file.project().generateRuntimeFiles();
     generator.setScreenObserver({});
     const bool hasAllScreens = !generator.buildFolder().isEmpty();
-    return hasAllScreens ? ProjectProblems::find(file, models, code) : ProjectProblems::find(file, models);
+    return hasAllScreens ? ProjectProblems::find(file.project(), models, code)
+                         : ProjectProblems::find(file.project(), models);
 }
 
 } // namespace
@@ -76,7 +78,8 @@ ExitCode ProjectBuild::run(const Call &call, const QString &folder, WithProblems
         return ExitCode::Problems;
     }
     if (generator.buildFolder().isEmpty()) {
-        return call.failed(generator.errorString(), problems.isEmpty() ? ExitCode::File : ExitCode::Problems);
+        return call.failed(generator.errorString(),
+                           hasErrors(problems) ? ExitCode::Problems : ExitCode::File);
     }
     QString error;
     if (!target.bring(QDir(generator.buildFolder()).filePath(u"project"_s), &error)) {

@@ -198,23 +198,30 @@ QString DesignerProperty::errorString() const
 bool DesignerProperty::validate()
 {
     QString error;
-    bool valid = true;
-    const auto enabled = [this] { return !m_parent || !m_parent->disabledValidation(); };
-    // The callback sees the model through the parent, which a property may outlive.
-    if (m_parent && enabled() && descriptor().valueValidator) {
-        valid = descriptor().valueValidator(this, error);
-    }
-    if (valid && enabled()) {
-        valid = isList()     ? validateListItems(error)
-                : isObject() ? validateObjectValue(error)
-                             : validateValue(error);
-    }
-    m_isValid = valid;
-    setErrorString(valid ? QString() : error);
+    m_failure = findFailure(error);
+    setErrorString(isValid() ? QString() : error);
     if (EditorView *editor = editorWidget()) {
         editor->setErrorString(errorString());
     }
-    return valid;
+    return isValid();
+}
+
+//! The first step that fails. A step may disable validation, which skips those after it.
+DesignerProperty::Failure DesignerProperty::findFailure(QString &error) const
+{
+    const auto enabled = [this] { return !m_parent || !m_parent->disabledValidation(); };
+    // The callback sees the model through the parent, which a property may outlive.
+    if (m_parent && enabled() && descriptor().valueValidator && !descriptor().valueValidator(this, error)) {
+        return Failure::Validator;
+    }
+    if (!enabled()) {
+        return Failure::None;
+    }
+    if (isList() || isObject()) {
+        const bool isGood = isList() ? validateListItems(error) : validateObjectValue(error);
+        return isGood ? Failure::None : Failure::Children;
+    }
+    return validateValue(error) ? Failure::None : Failure::Kind;
 }
 
 QString DesignerProperty::valueString() const

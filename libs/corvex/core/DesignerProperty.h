@@ -87,8 +87,16 @@ public:
     void setConflictProperties(const QList<QSharedPointer<DesignerProperty>> &properties);
     void resetConflictProperties();
 
+    //! Which step of a validation failed.
+    enum class Failure : quint8 {
+        None,
+        Validator, //!< the validator of the row
+        Kind,      //!< the check of the property's class
+        Children,  //!< a child is invalid, and says why itself
+    };
     //! The outcome of the last validation.
-    bool isValid() const { return m_isValid; }
+    Failure failure() const { return m_failure; }
+    bool isValid() const { return m_failure == Failure::None; }
     //! Why the last validation failed or the last list or object operation was refused; empty otherwise.
     QString errorString() const;
     /*! Runs the value validator, then the check of the property's kind, and keeps the outcome. For lists and
@@ -197,6 +205,7 @@ private:
     template<class Field>
     void describe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value);
 
+    Failure findFailure(QString &error) const;
     bool refuse(const char *message);
     bool acceptsClassOf(const DesignerObject *object) const;
     bool canAdd(const DesignerObject *item, const char *duplicateMessage);
@@ -214,7 +223,7 @@ private:
     DesignerObject *m_parent;
     QSharedDataPointer<PropertyDescriptor> m_descriptor;
     std::unique_ptr<State> m_state; //!< what few properties have; null until it is needed
-    bool m_isValid = true;
+    Failure m_failure = Failure::None;
     bool m_isInitial = false; //!< holds the value of its row
 };
 

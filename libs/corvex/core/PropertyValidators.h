@@ -16,6 +16,9 @@ public:
     /*! The name of a project variable, a screen or an element: format, length, reserved words and everything
         that it must differ from, by the tables of project/ObjectNameRules.cpp. Tells the first failure. */
     static bool identifierElementValidator(const DesignerProperty *property, QString &error);
+    //! What is wrong with a name.
+    enum class NameFault { None, Format, Length, Taken, Reserved };
+    static NameFault nameFault(const DesignerObject *object, const QString &name);
     //! Why the variable, screen or element \a object could not be called \a name; empty when it could.
     static QString nameError(const DesignerObject *object, const QString &name);
     //! The link of a function element: it names a visual element of the element's screen.

@@ -9,6 +9,9 @@
 #include "corvex/project/Screen.h"
 #include "corvex/values/MathInfo.h"
 
+#include <algorithm>
+#include <span>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -74,9 +77,12 @@ bool isNoMathFunction(const DesignerObject *, const QString &name)
     return !functions.contains(name);
 }
 
+using enum PropertyValidators::NameFault;
+
 struct NameRule
 {
     bool (*passes)(const DesignerObject *object, const QString &name);
+    PropertyValidators::NameFault fault;
     const char *message;
 };
 
@@ -90,33 +96,46 @@ constexpr char sameAsVariable[] = "The name cannot be the same as the project va
 
 // The rules of each kind in the order in which they are asked; the first that fails is told.
 constexpr NameRule variableRules[] = {
-    {&hasGoodFormat, wrongFormat},
-    {&isUniqueName, notUnique},
-    {&isNotReserved, reserved},
-    {&isNoScreenOfProject, sameAsScreen},
-    {&isNoVariableOfProject, sameAsVariable},
-    {&isNoMathFunction, "The name cannot be the same as the standard math functions."},
+    {&hasGoodFormat, Format, wrongFormat},
+    {&isUniqueName, Taken, notUnique},
+    {&isNotReserved, Reserved, reserved},
+    {&isNoScreenOfProject, Taken, sameAsScreen},
+    {&isNoVariableOfProject, Taken, sameAsVariable},
+    {&isNoMathFunction, Reserved, "The name cannot be the same as the standard math functions."},
 };
 constexpr NameRule screenRules[] = {
-    {&hasGoodFormat, wrongFormat},
-    {&isShortEnough<247>, "The screen's name cannot have more than 247 characters."},
-    {&isUniqueName, notUnique},
-    {&isNotReserved, reserved},
-    {&isNoElementOfIt, notUnique},
-    {&isNoVariableOfProject, sameAsVariable},
+    {&hasGoodFormat, Format, wrongFormat},
+    {&isShortEnough<247>, Length, "The screen's name cannot have more than 247 characters."},
+    {&isUniqueName, Taken, notUnique},
+    {&isNotReserved, Reserved, reserved},
+    {&isNoElementOfIt, Taken, notUnique},
+    {&isNoVariableOfProject, Taken, sameAsVariable},
 };
 constexpr NameRule elementRules[] = {
-    {&hasGoodFormat, wrongFormat},   {&isShortEnough<255>, "The name cannot have more than 255 characters."},
-    {&isUniqueName, notUnique},      {&isNotReserved, reserved},
-    {&isNotItsScreen, sameAsScreen}, {&isNoVariableOfProject, sameAsVariable},
+    {&hasGoodFormat, Format, wrongFormat},
+    {&isShortEnough<255>, Length, "The name cannot have more than 255 characters."},
+    {&isUniqueName, Taken, notUnique},
+    {&isNotReserved, Reserved, reserved},
+    {&isNotItsScreen, Taken, sameAsScreen},
+    {&isNoVariableOfProject, Taken, sameAsVariable},
 };
 
-template<size_t count>
-const char *brokenRule(const NameRule (&rules)[count], const DesignerObject *object, const QString &name)
+using NameRules = std::span<const NameRule>;
+
+NameRules rulesFor(const DesignerObject *object)
 {
-    const auto broken = std::find_if(std::begin(rules), std::end(rules),
-                                     [&](const NameRule &rule) { return !rule.passes(object, name); });
-    return broken == std::end(rules) ? nullptr : broken->message;
+    return object->isKindOfClass(u"ProjectVariable"_s) ? NameRules(variableRules)
+           : object->isKindOfClass(u"Screen"_s)        ? NameRules(screenRules)
+                                                       : NameRules(elementRules);
+}
+
+//! Null when the name passes.
+const NameRule *brokenRule(const DesignerObject *object, const QString &name)
+{
+    const NameRules rules = rulesFor(object);
+    const auto broken =
+        std::ranges::find_if(rules, [&](const NameRule &rule) { return !rule.passes(object, name); });
+    return broken == rules.end() ? nullptr : &*broken;
 }
 
 } // namespace
@@ -129,13 +148,16 @@ bool PropertyValidators::identifierElementValidator(const DesignerProperty *prop
     return reason.isEmpty();
 }
 
+PropertyValidators::NameFault PropertyValidators::nameFault(const DesignerObject *object, const QString &name)
+{
+    const NameRule *broken = brokenRule(object, name);
+    return broken ? broken->fault : None;
+}
+
 QString PropertyValidators::nameError(const DesignerObject *object, const QString &name)
 {
-    const char *message = object->isKindOfClass(u"ProjectVariable"_s)
-                              ? brokenRule(variableRules, object, name)
-                          : object->isKindOfClass(u"Screen"_s) ? brokenRule(screenRules, object, name)
-                                                               : brokenRule(elementRules, object, name);
-    return message ? Common::LocalizationHelper::coreString(QString::fromLatin1(message)) : QString();
+    const NameRule *broken = brokenRule(object, name);
+    return broken ? Common::LocalizationHelper::coreString(QString::fromLatin1(broken->message)) : QString();
 }
 
 } // namespace Halvane::Corvex::Designer

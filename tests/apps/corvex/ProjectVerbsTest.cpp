@@ -250,6 +250,13 @@ TEST(CheckVerb, namesEveryProblemInOneLine)
     EXPECT_EQ(problems.at(0)[u"line"_s].toInt(), gauge);
     EXPECT_EQ(problems.at(4)[u"object"_s].toString(), u"a.png"_s);
     EXPECT_EQ(problems.at(4)[u"property"_s].toString(), u"imageFile"_s);
+    QStringList codes;
+    for (const auto &problem : problems) {
+        EXPECT_EQ(problem[u"severity"_s].toString(), u"error"_s);
+        codes.append(problem[u"code"_s].toString());
+    }
+    EXPECT_EQ(codes.join(u' '),
+              u"file.kept file.dropped name.invalid image.file image.file name.format code.unreadable"_s);
 
     const QJsonValue info = other.run({u"info"_s, pump, u"--json"_s}).json();
     EXPECT_EQ(info[u"missingPlugins"_s], QJsonValue(QJsonObject{{u"Gauge"_s, QJsonArray{u"Main.gauge1"_s}}}));

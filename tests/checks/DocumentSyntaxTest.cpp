@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/editors/ExpressionSyntax.h"
-#include "corvex/editors/PlainQmlMembers.h"
+#include "corvex/checks/ExpressionSyntax.h"
+#include "corvex/checks/PlainQmlMembers.h"
 
 #include <gtest/gtest.h>
 

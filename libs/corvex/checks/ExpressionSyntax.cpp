@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/editors/ExpressionSyntax.h"
+#include "corvex/checks/ExpressionSyntax.h"
 
-#include "corvex/editors/PlainQmlMembers.h"
+#include "corvex/checks/PlainQmlMembers.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>

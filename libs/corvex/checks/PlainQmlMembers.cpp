@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/editors/PlainQmlMembers.h"
+#include "corvex/checks/PlainQmlMembers.h"
 
 #include <QList>
 #include <QSet>

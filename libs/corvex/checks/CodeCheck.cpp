@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "CodeCheck.h"
+#include "corvex/checks/CodeCheck.h"
 
 #include "corvex/core/DesignerObject.h"
 
 using namespace Qt::StringLiterals;
 
-namespace Halvane::Corvex::Tool {
-
-using namespace Designer;
+namespace Halvane::Corvex::Designer {
 
 namespace {
 
@@ -26,7 +24,7 @@ public:
     void explain(const DesignerObject &screen, const ExpressionSyntax::Result &result)
     {
         if (!explains(screen.childObjects())) {
-            add(screen, {}, result);
+            m_problems.append(Problem::at(screen, ProblemCode::CodeUnreadable, {result.message}));
         }
     }
 
@@ -52,21 +50,15 @@ private:
             const QString member = property->isList() ? QString() : property->toQml(0);
             const auto ofMember = m_syntax.checkDocument(u"Item {\n%1\n}"_s.arg(member));
             found = found || !ofMember.valid;
-            // What comes of an invalid value is told already.
+            // An invalid value has its own problem.
             if (!ofMember.valid && property->isValid()) {
-                add(element, property->id(), ofMember);
+                m_problems.append(Problem::at(*property, ProblemCode::CodeUnreadable, {ofMember.message}));
             }
         }
         if (!found) {
-            add(element, {}, result);
+            m_problems.append(Problem::at(element, ProblemCode::CodeUnreadable, {result.message}));
         }
         return true;
-    }
-
-    void add(const DesignerObject &object, const QString &property, const ExpressionSyntax::Result &result)
-    {
-        m_problems.append({object.objectPath(), property,
-                           u"The generated code cannot be read by the device: %1"_s.arg(result.message)});
     }
 
     ExpressionSyntax m_syntax;
@@ -134,4 +126,4 @@ QList<Problem> CodeCheck::problems()
     return problems;
 }
 
-} // namespace Halvane::Corvex::Tool
+} // namespace Halvane::Corvex::Designer

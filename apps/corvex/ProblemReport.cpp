@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "ProblemReport.h"
+
+#include "JsonWriter.h"
+#include "Terminal.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+QString ProblemReport::line(const Problem &problem)
+{
+    return Terminal::oneLine(problem.toString());
+}
+
+void ProblemReport::printJson(const QList<Problem> &problems, Terminal &terminal)
+{
+    JsonWriter json(terminal);
+    json.beginObject();
+    json.name("problems"_L1);
+    json.beginArray();
+    for (const Problem &problem : problems) {
+        json.beginObject();
+        json.member("object"_L1, problem.object);
+        json.member("property"_L1, problem.property);
+        json.member("severity"_L1, QString(problem.kind().severityWord()));
+        json.member("code"_L1, QString::fromUtf8(problem.kind().word));
+        json.member("message"_L1, problem.message);
+        if (problem.line > 0) {
+            json.member("line"_L1, problem.line);
+            json.member("column"_L1, problem.column);
+        }
+        json.endObject();
+    }
+    json.endArray();
+    json.endObject();
+}
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/checks/Problem.h"
+
+namespace Halvane::Corvex::Designer {
+
+class Project;
+
+/*! Looks for problems of one kind.
+
+    A check says what it looks at by its base: PropertyCheck, ObjectCheck or ProjectCheck. What it says of a
+    property depends on that property and on what it refers to, and nothing else; likewise for an object. So
+    the part that an edit has changed can be checked again alone, and one walk through the project serves all
+    checks. A check of a list is one of the list property.
+*/
+class Check
+{
+public:
+    Check() = default;
+    virtual ~Check() = default;
+    Q_DISABLE_COPY_MOVE(Check)
+
+    const QList<Problem> &problems() const { return m_problems; }
+
+protected:
+    void report(const Problem &problem) { m_problems.append(problem); }
+    template<class Subject>
+    void report(const Subject &subject, ProblemCode code, const QStringList &values = {})
+    {
+        report(Problem::at(subject, code, values));
+    }
+
+private:
+    QList<Problem> m_problems;
+};
+
+//! Looks at one property at a time.
+class PropertyCheck : public Check
+{
+public:
+    //! Whether the check looks at such properties. The answer holds for all objects of the owner's class.
+    virtual bool concerns(const DesignerProperty &property) const = 0;
+    virtual void look(const DesignerProperty &property) = 0;
+};
+
+//! Looks at one object at a time, and perhaps at what is below it.
+class ObjectCheck : public Check
+{
+public:
+    //! Whether the check looks at such objects. The answer holds for all objects of the class.
+    virtual bool concerns(const DesignerObject &object) const = 0;
+    virtual void look(const DesignerObject &object) = 0;
+};
+
+//! Looks at the project as a whole.
+class ProjectCheck : public Check
+{
+public:
+    virtual void look(const Project &project) = 0;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/checks/Check.h"
+
+namespace Halvane::Corvex::Designer {
+
+class ConfigurationContainer;
+
+//! What was not taken over from the project's file, and a device model that is not installed.
+class FileCheck : public ProjectCheck
+{
+public:
+    explicit FileCheck(const ConfigurationContainer &models)
+        : m_models(models)
+    { }
+
+    void look(const Project &project) override;
+
+private:
+    const ConfigurationContainer &m_models;
+};
+
+} // namespace Halvane::Corvex::Designer

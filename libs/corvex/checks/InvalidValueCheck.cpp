@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/checks/InvalidValueCheck.h"
+
+#include "corvex/core/DesignerObject.h"
+#include "corvex/core/PropertyValidators.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+struct Row
+{
+    QLatin1StringView ownerClass; //!< empty: of any class
+    QLatin1StringView id;         //!< empty: any property
+    ProblemCode code;
+};
+
+//! What the validators of the standard classes look after. The first row that fits counts.
+constexpr Row rows[] = {
+    {"Project"_L1, "screens"_L1, ProblemCode::ListIncomplete},
+    {"Project"_L1, "defaultScreen"_L1, ProblemCode::ReferenceMissing},
+    {"Screen"_L1, "elements"_L1, ProblemCode::ListIncomplete},
+    {"GroupElement"_L1, "elements"_L1, ProblemCode::GroupMembers},
+    {"GroupElement"_L1, "indexes"_L1, ProblemCode::GroupOrder},
+    {"ImageResource"_L1, "imageFile"_L1, ProblemCode::ImageFile},
+    {"HardwareElement"_L1, "channel"_L1, ProblemCode::ChannelShared},
+    {{}, "password"_L1, ProblemCode::PasswordEmpty},
+    {{}, "uploadPassword"_L1, ProblemCode::PasswordEmpty},
+    {"Configuration"_L1, "displayBrightness"_L1, ProblemCode::ValueInvalid},
+    {"Configuration"_L1, "screenSize"_L1, ProblemCode::ValueInvalid},
+    {"Configuration"_L1, {}, ProblemCode::ChannelSignal},
+    {"NumberVariable"_L1, "value"_L1, ProblemCode::NumberUnreadable},
+    {"ProjectVariable"_L1, {}, ProblemCode::FieldbusMap},
+};
+
+ProblemCode nameCode(const DesignerObject &object)
+{
+    switch (PropertyValidators::nameFault(&object, object.getIdName())) {
+    case PropertyValidators::NameFault::Format:
+        return ProblemCode::NameFormat;
+    case PropertyValidators::NameFault::Length:
+        return ProblemCode::NameLength;
+    case PropertyValidators::NameFault::Reserved:
+        return ProblemCode::NameReserved;
+    case PropertyValidators::NameFault::Taken:
+        return ProblemCode::NameTaken;
+    case PropertyValidators::NameFault::None:
+        break;
+    }
+    return ProblemCode::NameInvalid;
+}
+
+//! What a validator refuses depends on the property that it is for.
+ProblemCode refusalCode(const DesignerProperty &property)
+{
+    const DesignerObject &owner = *property.parentObject();
+    if (&property == owner.idProperty()) {
+        return nameCode(owner);
+    }
+    for (const Row &row : rows) {
+        const bool isOfOwner = row.ownerClass.isEmpty() || owner.isKindOfClass(QString(row.ownerClass));
+        if (isOfOwner && (row.id.isEmpty() || row.id == property.id())) {
+            return row.code;
+        }
+    }
+    return property.isKindOfClass(u"LinkProperty"_s) ? ProblemCode::LinkTarget
+                                                     : ProblemCode::ExpressionInvalid;
+}
+
+} // namespace
+
+void InvalidValueCheck::look(const DesignerObject &object)
+{
+    if (object.isValid()) {
+        return;
+    }
+    for (const SharedProperty &property : object.properties()) {
+        using enum DesignerProperty::Failure;
+        if (property->failure() == Validator || property->failure() == Kind) {
+            report({property->failure() == Kind ? ProblemCode::ValueInvalid : refusalCode(*property),
+                    object.objectPath(), property->id(), property->errorString()});
+        }
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

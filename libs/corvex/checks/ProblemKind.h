@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLatin1StringView>
+
+#include <span>
+
+namespace Halvane::Corvex::Designer {
+
+//! How bad a problem is.
+enum class Severity {
+    Error,   //!< The device cannot do what the author means. A build refuses it.
+    Warning, //!< The device probably does not do what the author means. A build goes on.
+    Hint,    //!< It works, and there is a better way.
+};
+
+//! What kind of problem a check has found. The words that users and programs see are in ProblemKind.
+enum class ProblemCode {
+    FileKept,
+    FileDropped,
+    ModelUnknown,
+    NameFormat,
+    NameLength,
+    NameReserved,
+    NameTaken,
+    NameInvalid,
+    ValueInvalid,
+    ListIncomplete,
+    GroupMembers,
+    GroupOrder,
+    LinkTarget,
+    ImageFile,
+    ChannelShared,
+    ChannelSignal,
+    PasswordEmpty,
+    FieldbusMap,
+    ExpressionInvalid,
+    NumberUnreadable,
+    ReferenceElement,
+    ReferenceMissing,
+    StateProperty,
+    StateValue,
+    CodeUnreadable,
+    ScreenLook,
+};
+
+/*! One row of the table of all kinds of problems.
+
+    The code word is stable: programs compare it, and users look it up in docs/problems.md. The message has
+    placeholders for the names and values of one problem; it is null where the property that is invalid, the
+    reader or a compiler gives the text.
+*/
+struct ProblemKind
+{
+    ProblemCode code;
+    Severity severity;
+    const char *word; //!< "name.taken"
+    const char *message;
+    const char *cause;
+    const char *cure;
+
+    static const ProblemKind &of(ProblemCode code);
+    //! In the order of the page that lists them.
+    static std::span<const ProblemKind> all();
+    //! "error", "warning" or "hint".
+    QLatin1StringView severityWord() const;
+};
+
+} // namespace Halvane::Corvex::Designer

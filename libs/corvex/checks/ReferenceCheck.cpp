@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/checks/ReferenceCheck.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/properties/LinkProperty.h"
+#include "corvex/project/Element.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/values/ObjectPath.h"
+#include "corvex/values/PropertyList.h"
+#include "corvex/values/UpdateObjectList.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+ReferenceCheck::ReferenceCheck(const Project &project)
+    : m_project(project)
+{ }
+
+ReferenceCheck::~ReferenceCheck() = default;
+
+bool ReferenceCheck::concerns(const DesignerProperty &property) const
+{
+    const ReferenceForm::Form form = ReferenceForm::of(property);
+    // The first halves of pairs may be names of the device's own.
+    return form != ReferenceForm::None && form != ReferenceForm::NamePairs;
+}
+
+void ReferenceCheck::look(const DesignerProperty &property)
+{
+    if (!property.isValid()) {
+        return;
+    }
+    const ReferenceForm::Form form = ReferenceForm::of(property);
+    if (form == ReferenceForm::Link) {
+        checkLink(static_cast<const LinkProperty &>(property));
+        return;
+    }
+    const QString text = property.valueString();
+    if (text.isEmpty()) {
+        return;
+    }
+    checkNames(property, form, text);
+    if (form == ReferenceForm::States) {
+        for (const UpdateObjectInfo &update : UpdateObjectList(text)) {
+            for (const PropertyInfo &info : update.propertyValues()) {
+                checkValue(property, update.name(), info.propName(), info.propValue());
+            }
+        }
+    } else if (form == ReferenceForm::Changes) {
+        for (const PropertyChangeInfo &change : PropertyList(text)) {
+            checkValue(property, change.elementName(), change.propertyName(), change.valueString());
+        }
+    }
+}
+
+void ReferenceCheck::checkLink(const LinkProperty &link)
+{
+    if (link.value().isValid() && !link.connectLink()) {
+        report(link, ProblemCode::ReferenceMissing, {link.value().objectId()});
+    }
+}
+
+void ReferenceCheck::checkNames(const DesignerProperty &property, ReferenceForm::Form form,
+                                const QString &text)
+{
+    const Screen *screen = property.parentObject()->screen();
+    QSet<QString> reported;
+    for (const Mention &mention : ReferenceForm::mentions(form, text)) {
+        if (isThere(mention, screen) || reported.contains(mention.path)) {
+            continue;
+        }
+        reported.insert(mention.path);
+        const bool isOnScreen = screen && mention.kinds.testFlag(NamedKind::Element)
+                                && !mention.kinds.testFlag(NamedKind::Variable);
+        report(property, isOnScreen ? ProblemCode::ReferenceElement : ProblemCode::ReferenceMissing,
+               {mention.path});
+    }
+}
+
+bool ReferenceCheck::isThere(const Mention &mention, const Screen *screen) const
+{
+    const auto isListed = [&mention](NamedKind kind, const SharedProperty &list) {
+        return mention.kinds.testFlag(kind) && list->hasListItem(mention.path);
+    };
+    if (isListed(NamedKind::Variable, m_project.variables())
+        || isListed(NamedKind::Screen, m_project.screens())
+        || isListed(NamedKind::Image, m_project.imageResources())) {
+        return true;
+    }
+    if (!mention.kinds.testFlag(NamedKind::Element)) {
+        return false;
+    }
+    // The members of a log or a device follow the name of its variable.
+    const bool isOfVariable =
+        mention.kinds.testFlag(NamedKind::Variable)
+        && m_project.variables()->hasListItem(ObjectPath::firstSegment(mention.path).toString());
+    return isOfVariable || isElement(mention.path, screen);
+}
+
+//! Whether all names of the path are those of elements, which stand on \a screen, on the screen that the path
+//! starts with, or, in a property that belongs to no screen, on any.
+bool ReferenceCheck::isElement(const QString &path, const Screen *screen) const
+{
+    QStringList names = path.split(u'.');
+    const auto hasAll = [&names](const DesignerObject *candidate) {
+        const auto *on = static_cast<const Screen *>(candidate);
+        return std::ranges::all_of(names, [on](const QString &name) { return on->hasElement(name); });
+    };
+    if (screen && hasAll(screen)) {
+        return true;
+    }
+    if (const DesignerObject *named = m_project.screens()->getListItem(names.constFirst());
+        named && names.size() > 1) {
+        names.removeFirst();
+        return hasAll(named);
+    }
+    return !screen && std::ranges::any_of(m_project.screens()->listItems(), hasAll);
+}
+
+void ReferenceCheck::checkValue(const DesignerProperty &property, const QString &elementName,
+                                const QString &id, const QString &value)
+{
+    const Screen *screen = property.parentObject()->screen();
+    const Element *element = screen ? screen->getElement(elementName) : nullptr;
+    const DesignerObject *model = element ? modelOf(element->className()) : nullptr;
+    if (!model) {
+        return;
+    }
+    const SharedProperty target = model->getProperty(id);
+    if (!target) {
+        report(property, ProblemCode::StateProperty, {elementName, id});
+    } else if (!target->canRead(value)) {
+        report(property, ProblemCode::StateValue, {value, id, elementName});
+    }
+}
+
+//! An object of the class that is nowhere: what is tried out on it changes nothing.
+const DesignerObject *ReferenceCheck::modelOf(const QString &className)
+{
+    std::unique_ptr<DesignerObject> &model = m_models[className];
+    if (!model) {
+        model.reset(DesignerFactory::instance()->createUnowned(className));
+    }
+    return model.get();
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/checks/Check.h"
+#include "corvex/editing/commands/ReferenceForm.h"
+
+#include <QHash>
+
+#include <map>
+#include <memory>
+
+namespace Halvane::Corvex::Designer {
+
+class LinkProperty;
+class Screen;
+
+/*! Looks at what the parts of a project say of each other: names that lead nowhere, and new values for
+    properties that are not there or cannot hold them. The generated code is correct with any of them, and the
+    device does without what they mean. Properties that are invalid are left to their own messages. */
+class ReferenceCheck : public PropertyCheck
+{
+public:
+    explicit ReferenceCheck(const Project &project);
+    ~ReferenceCheck() override;
+
+    bool concerns(const DesignerProperty &property) const override;
+    void look(const DesignerProperty &property) override;
+
+private:
+    void checkLink(const LinkProperty &link);
+    void checkNames(const DesignerProperty &property, ReferenceForm::Form form, const QString &text);
+    void checkValue(const DesignerProperty &property, const QString &elementName, const QString &id,
+                    const QString &value);
+    bool isThere(const Mention &mention, const Screen *screen) const;
+    bool isElement(const QString &path, const Screen *screen) const;
+    const DesignerObject *modelOf(const QString &className);
+
+    const Project &m_project;
+    std::map<QString, std::unique_ptr<DesignerObject>> m_models; //!< by class
+};
+
+} // namespace Halvane::Corvex::Designer
