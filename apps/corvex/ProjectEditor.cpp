@@ -430,7 +430,18 @@ bool ProjectEditor::model(const Words &words)
     if (!HardwareConfigurations::instance() && !Installation::loadModels(m_call)) {
         return fail(u"No device model can be read."_s);
     }
-    return push(new ChangeConfiguration(&m_project, words.join(u' ')));
+    auto *command = new ChangeConfiguration(&m_project, words.join(u' '));
+    const QList<ChangeConfiguration::Move> moves = command->moves();
+    if (!push(command)) {
+        return false;
+    }
+    for (const auto &[element, from, to] : moves) {
+        const QString what = to > 0
+                                 ? u"%1: moved from channel %2 to %3"_s.arg(element).arg(from).arg(to)
+                                 : u"%1: has no channel %2 here, and none is free"_s.arg(element).arg(from);
+        m_output.append(what);
+    }
+    return true;
 }
 
 bool ProjectEditor::filter(const Words &words)

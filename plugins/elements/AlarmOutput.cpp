@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "elements/AlarmOutput.h"
 
+#include "corvex/core/PropertyValidators.h"
+
 #include "elements/Rows.h"
 #include "elements/Statements.h"
 
@@ -11,7 +13,7 @@ namespace Halvane::Corvex::Elements {
 bool AlarmOutput::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow().rank(1),
+        channelRow().rank(1).validator(&PropertyValidators::channelValidator),
         initialValueRow("VerticalBooleanExpressionEditor").rank(2).qml(&conditionToQml),
     };
     return SwitchedOutput::initializeProperties() && addProperties(table);

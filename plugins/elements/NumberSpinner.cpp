@@ -22,7 +22,7 @@ bool NumberSpinner::initializeProperties()
         stateRow("decNormalState", "Decrement Normal State").rank(5),
         stateRow("decPressedState", "Decrement Pressed State").rank(6),
         projectLinkRow("variable", "Variable", "NumberVariable").rank(7).qml(&linkNameToQml),
-        row<RealProperty>("step", "Step", 1.0).rank(8).flags(ordinary).allowInvalid(),
+        row<RealProperty>("step", "Step", 1.0).rank(8).flags(ordinary).parameter("above", 0).allowInvalid(),
         row<RangeProperty>("range", "Range", RangeInfo(0, 100))
             .rank(9)
             .parameter("rangeStyle", u"MinMax"_s)

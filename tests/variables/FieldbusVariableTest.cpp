@@ -78,6 +78,13 @@ TEST(FieldbusVariables, tellWhatIsMissing)
     EXPECT_EQ(errorOf(u"BACnetObject"_s, u"properties", text(u"units"_s)), u"Incomplete property list."_s);
     EXPECT_EQ(errorOf(u"BACnetObject"_s, u"bacnetObjName", {}), u"BACnet Object name should be provided"_s);
     EXPECT_EQ(errorOf(u"BACnetObject"_s, u"bacnetObjName", u"Pump"_s), QString());
+    for (const auto &identifier :
+         {u"AI1"_s, u"99999,5000000"_s, u"1"_s, u"-1,2"_s, u"1,2,3"_s, u"1,4194303"_s}) {
+        EXPECT_TRUE(errorOf(u"BACnetObject"_s, u"objectID", identifier).startsWith(u"The identifier must"_s));
+    }
+    EXPECT_EQ(errorOf(u"BACnetObject"_s, u"objectID", u"1023,4194302"_s), QString());
+    EXPECT_EQ(errorOf(u"LogVariable"_s, u"interval", u"2999"_s),
+              u"interval takes numbers from 3000 to 2147483647, not 2999."_s);
 }
 
 TEST(LogVariable, readsItsValueAsANumber)

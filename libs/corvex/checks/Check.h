@@ -21,6 +21,8 @@ public:
     virtual ~Check() = default;
     Q_DISABLE_COPY_MOVE(Check)
 
+    //! Runs when the check has seen all that it looks at.
+    virtual void finish(const Project &) { }
     const QList<Problem> &problems() const { return m_problems; }
 
 protected:

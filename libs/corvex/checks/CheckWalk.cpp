@@ -30,7 +30,8 @@ QList<Problem> CheckWalk::run(const Project &project)
     }
     visit(project);
     QList<Problem> problems;
-    for (const Check *check : std::as_const(m_order)) {
+    for (Check *check : std::as_const(m_order)) {
+        check->finish(project);
         problems += check->problems();
     }
     return problems;

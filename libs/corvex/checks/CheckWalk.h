@@ -35,7 +35,7 @@ private:
     Plan planFor(const DesignerObject &object) const;
     void visit(const DesignerObject &object);
 
-    QList<const Check *> m_order;
+    QList<Check *> m_order;
     QList<ProjectCheck *> m_projectChecks;
     QList<ObjectCheck *> m_objectChecks;
     QList<PropertyCheck *> m_propertyChecks;

@@ -2,6 +2,7 @@
 #include "corvex/checks/InvalidValueCheck.h"
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/core/ItemList.h"
 #include "corvex/core/PropertyValidators.h"
 
 using namespace Qt::StringLiterals;
@@ -26,6 +27,7 @@ constexpr Row rows[] = {
     {"GroupElement"_L1, "indexes"_L1, ProblemCode::GroupOrder},
     {"ImageResource"_L1, "imageFile"_L1, ProblemCode::ImageFile},
     {"HardwareElement"_L1, "channel"_L1, ProblemCode::ChannelShared},
+    {"BACnetObject"_L1, "objectID"_L1, ProblemCode::BACnetIdentifier},
     {{}, "password"_L1, ProblemCode::PasswordEmpty},
     {{}, "uploadPassword"_L1, ProblemCode::PasswordEmpty},
     {"Configuration"_L1, "displayBrightness"_L1, ProblemCode::ValueInvalid},
@@ -69,6 +71,20 @@ ProblemCode refusalCode(const DesignerProperty &property)
                                                      : ProblemCode::ExpressionInvalid;
 }
 
+//! What is drawn can be drawn with any number; everything else counts on its range.
+ProblemCode rangeCode(const DesignerObject &owner)
+{
+    const bool isDrawn = owner.isKindOfClass(u"VisualElement"_s) || owner.isKindOfClass(u"Screen"_s);
+    return isDrawn ? ProblemCode::AppearanceRange : ProblemCode::ValueRange;
+}
+
+//! A group says of itself that a member is invalid; the member says why.
+bool isEcho(const DesignerProperty &property)
+{
+    return property.failure() == DesignerProperty::Failure::Children
+           || (property.isList() && property.itemList()->invalidCount > 0 && property.listItemCount() > 1);
+}
+
 } // namespace
 
 void InvalidValueCheck::look(const DesignerObject &object)
@@ -78,10 +94,13 @@ void InvalidValueCheck::look(const DesignerObject &object)
     }
     for (const SharedProperty &property : object.properties()) {
         using enum DesignerProperty::Failure;
-        if (property->failure() == Validator || property->failure() == Kind) {
-            report({property->failure() == Kind ? ProblemCode::ValueInvalid : refusalCode(*property),
-                    object.objectPath(), property->id(), property->errorString()});
+        if (property->isValid() || isEcho(*property)) {
+            continue;
         }
+        const ProblemCode code = property->failure() == Kind    ? ProblemCode::ValueInvalid
+                                 : property->failure() == Range ? rangeCode(object)
+                                                                : refusalCode(*property);
+        report({code, object.objectPath(), property->id(), property->errorString()});
     }
 }
 

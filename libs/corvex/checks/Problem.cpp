@@ -22,8 +22,10 @@ QString filled(const QString &text, const QStringList &values)
         return text.arg(values[0]);
     case 2:
         return text.arg(values[0], values[1]);
-    default:
+    case 3:
         return text.arg(values[0], values[1], values[2]);
+    default:
+        return text.arg(values[0], values[1], values[2], values[3]);
     }
 }
 

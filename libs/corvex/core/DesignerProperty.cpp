@@ -5,6 +5,7 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/DesignerPropertyState.h"
 #include "corvex/core/EditorView.h"
+#include "corvex/core/properties/FormText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -80,12 +81,18 @@ void DesignerProperty::setName(const QString &name)
 void DesignerProperty::setEditor(const QString &editorName, const QVariantMap &parameters)
 {
     describe(&PropertyDescriptor::editor, editorName);
-    describe(&PropertyDescriptor::editorParameters, parameters);
+    setParameters(parameters);
 }
 
 void DesignerProperty::setEditorParameters(const QVariantMap &parameters)
 {
+    setParameters(parameters);
+}
+
+void DesignerProperty::setParameters(const QVariantMap &parameters)
+{
     describe(&PropertyDescriptor::editorParameters, parameters);
+    describe(&PropertyDescriptor::range, NumberRange::of(parameters));
 }
 
 void DesignerProperty::setEditorParameter(const QString &key, const QVariant &value)
@@ -93,7 +100,9 @@ void DesignerProperty::setEditorParameter(const QString &key, const QVariant &va
     if (editorParameters().contains(key) && editorParameters().value(key) == value) {
         return;
     }
-    m_descriptor->editorParameters.insert(key, value);
+    QVariantMap parameters = editorParameters();
+    parameters.insert(key, value);
+    setParameters(parameters);
     if (EditorView *editor = editorWidget(); editor && key == "visible"_L1) {
         editor->setShown(value.toBool());
     }
@@ -221,7 +230,23 @@ DesignerProperty::Failure DesignerProperty::findFailure(QString &error) const
         const bool isGood = isList() ? validateListItems(error) : validateObjectValue(error);
         return isGood ? Failure::None : Failure::Children;
     }
-    return validateValue(error) ? Failure::None : Failure::Kind;
+    return !validateValue(error) ? Failure::Kind : isInRange(error) ? Failure::None : Failure::Range;
+}
+
+bool DesignerProperty::isInRange(QString &error) const
+{
+    // The value of a row is one that the row allows.
+    if (m_isInitial || descriptor().range.contains(number())) {
+        return true;
+    }
+    error = Common::LocalizationHelper::coreString(u"%1 takes numbers %2, not %3."_s)
+                .arg(id(), descriptor().range.toString(), convertToValueString());
+    return false;
+}
+
+double DesignerProperty::number() const
+{
+    return std::numeric_limits<double>::quiet_NaN();
 }
 
 QString DesignerProperty::valueString() const
@@ -248,6 +273,26 @@ bool DesignerProperty::canRead(const QString &text)
     const bool isRead = judgeText(text, isGood);
     validate(); // The trial has judged the other value.
     return isRead;
+}
+
+QString DesignerProperty::refusalOf(const QString &text)
+{
+    bool isGood = false;
+    const bool isRead = judgeText(text, isGood);
+    const QString reason = errorString();
+    validate(); // The trial has judged the other value.
+    if (isRead) {
+        return isGood ? QString() : reason;
+    }
+    const QString range = descriptor().range.toString();
+    const QString form = range.isEmpty() ? formText() : u"%1 %2"_s.arg(formText(), range);
+    return Common::LocalizationHelper::coreString(u"%1 takes %2, not \"%3\"."_s).arg(id(), form, text);
+}
+
+QString DesignerProperty::formText() const
+{
+    const QString initial = descriptor().initialText;
+    return FormText::example(initial.isEmpty() ? convertToValueString() : initial);
 }
 
 bool DesignerProperty::takeText(const QString &text)

@@ -92,6 +92,7 @@ public:
         None,
         Validator, //!< the validator of the row
         Kind,      //!< the check of the property's class
+        Range,     //!< the number is not among those that the row allows
         Children,  //!< a child is invalid, and says why itself
     };
     //! The outcome of the last validation.
@@ -112,6 +113,8 @@ public:
     bool equalsValue(const QString &text) const;
     //! Whether \a text stands for a value at all. The value and the outcome of its validation stay.
     bool canRead(const QString &text);
+    //! Why the property does not take \a text, for the user; empty when it does. The value stays.
+    QString refusalOf(const QString &text);
     bool equalsObjectValue(const DesignerObject *object) const { return objectValue() == object; }
     bool equalsListItems(const QList<DesignerObject *> &items) const;
 
@@ -168,6 +171,10 @@ protected:
         the rows of a property table make properties that share one descriptor. */
     DesignerProperty(DesignerObject *parent, const DesignerProperty &prototype);
 
+    //! The value of a property that holds a number; else not a number.
+    virtual double number() const;
+    //! What texts the property reads, as in "a whole number". Translated.
+    virtual QString formText() const;
     //! Validates \a text in the place of the value, which is the same afterwards to the last digit; false
     //! when it does not parse.
     virtual bool tryValue(const QString &text, bool &valid);
@@ -206,6 +213,8 @@ private:
     void describe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value);
 
     Failure findFailure(QString &error) const;
+    bool isInRange(QString &error) const;
+    void setParameters(const QVariantMap &parameters);
     bool refuse(const char *message);
     bool acceptsClassOf(const DesignerObject *object) const;
     bool canAdd(const DesignerObject *item, const char *duplicateMessage);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/core/NumberRange.h"
 #include "corvex/core/PropertyFlag.h"
 
 #include <QSharedData>
@@ -28,6 +29,7 @@ struct PropertyDescriptor : public QSharedData
     QString name;
     QString editor;
     QVariantMap editorParameters;
+    NumberRange range; //!< what the editor parameters say of numbers
     QString description;
     QString
         initialText; //!< what a property prints as long as it holds the value of its row; null when unknown

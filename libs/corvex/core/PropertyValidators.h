@@ -26,6 +26,8 @@ public:
     //! The channel of a digital output: no other element of the screen has it.
     static bool digitalChannelValidator(const DesignerProperty *property, QString &error);
     static bool pwmChannelValidator(const DesignerProperty *property, QString &error);
+    //! The channel of any other element that has its channel alone.
+    static bool channelValidator(const DesignerProperty *property, QString &error);
     //! The members of a group: at least two, all of them valid.
     static bool groupElementsValidator(const DesignerProperty *property, QString &error);
     //! The order of the members of a group: each of them once.

@@ -7,17 +7,52 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
+namespace {
+
+//! Null for what has no channel.
+SharedProperty channelOf(const DesignerObject *element)
+{
+    const bool mayHaveChannel = element->isKindOfClass(u"HardwareElement"_s);
+    return mayHaveChannel ? element->getProperty(u"channel") : SharedProperty();
+}
+
+} // namespace
+
 void ElementIndex::insert(Element *element)
 {
     m_byName.insert(element->getIdName(), element);
-    m_channelsKnown = false;
+    if (const SharedProperty channel = m_channelsKnown ? channelOf(element) : SharedProperty()) {
+        m_byChannel.insert({element->className(), channel->valueString()}, element);
+    }
 }
 
 void ElementIndex::remove(Element *element)
 {
     m_byName.remove(element->getIdName(), element);
     nameFreed(element->getIdName());
-    m_channelsKnown = false;
+    forgetChannelOf(element);
+}
+
+void ElementIndex::forgetChannelOf(Element *element)
+{
+    const SharedProperty channel = m_channelsKnown ? element->getProperty(u"channel") : SharedProperty();
+    if (!channel) {
+        return;
+    }
+    if (!m_byChannel.remove({element->className(), channel->valueString()}, element)) {
+        // An element that is being destroyed no longer knows its class.
+        m_byChannel.clear();
+        m_channelsKnown = false;
+    }
+}
+
+void ElementIndex::changeChannel(DesignerObject *element, const QString &oldChannel)
+{
+    if (!m_channelsKnown) {
+        return;
+    }
+    m_byChannel.remove({element->className(), oldChannel}, element);
+    m_byChannel.insert({element->className(), element->getProperty(u"channel")->valueString()}, element);
 }
 
 void ElementIndex::rename(Element *element, const QString &oldName)
@@ -71,21 +106,30 @@ QString ElementIndex::freeName(const QString &base, const std::function<bool(con
     }
 }
 
-QList<const DesignerObject *> ElementIndex::withChannel(const QString &className,
-                                                        const QString &channel) const
+QList<DesignerObject *> ElementIndex::withChannel(const QString &className, const QString &channel) const
+{
+    return channels().values({className, channel});
+}
+
+const DesignerObject *ElementIndex::otherWithChannel(const DesignerObject *element,
+                                                     const QString &channel) const
+{
+    const auto [begin, end] = channels().equal_range({element->className(), channel});
+    const auto other = std::find_if(begin, end, [element](const DesignerObject *e) { return e != element; });
+    return other == end ? nullptr : *other;
+}
+
+const ElementIndex::Channels &ElementIndex::channels() const
 {
     if (!m_channelsKnown) {
-        m_byChannel.clear();
-        for (const Element *element : m_byName) {
-            const bool mayHaveChannel = element->isKindOfClass(u"HardwareElement"_s);
-            if (const SharedProperty property =
-                    mayHaveChannel ? element->getProperty(u"channel") : SharedProperty()) {
+        for (Element *element : m_byName) {
+            if (const SharedProperty property = channelOf(element)) {
                 m_byChannel.insert({element->className(), property->valueString()}, element);
             }
         }
         m_channelsKnown = true;
     }
-    return m_byChannel.values({className, channel});
+    return m_byChannel;
 }
 
 } // namespace Halvane::Corvex::Designer

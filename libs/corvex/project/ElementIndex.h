@@ -31,12 +31,18 @@ public:
     //! The first of base1, base2, ... that no element bears and that is not taken otherwise.
     QString freeName(const QString &base, const std::function<bool(const QString &name)> &isTaken = {});
 
-    //! The hardware elements of that class with that channel; worked out anew after channels have changed.
-    QList<const DesignerObject *> withChannel(const QString &className, const QString &channel) const;
-    void forgetChannels() { m_channelsKnown = false; }
+    //! The hardware elements of that class with that channel.
+    QList<DesignerObject *> withChannel(const QString &className, const QString &channel) const;
+    //! One of the class of \a element with that channel, and not the element itself; null when there is none.
+    const DesignerObject *otherWithChannel(const DesignerObject *element, const QString &channel) const;
+    void changeChannel(DesignerObject *element, const QString &oldChannel);
 
 private:
+    using Channels = QMultiHash<QPair<QString, QString>, DesignerObject *>; //!< by class and channel
+
+    const Channels &channels() const;
     void nameFreed(const QString &name);
+    void forgetChannelOf(Element *element);
 
     QMultiHash<QString, Element *> m_byName;
     //! What is known of the numbers behind a base.
@@ -46,7 +52,8 @@ private:
         std::set<int> gaps; //!< numbers that were freed, or were taken elsewhere when they were asked for
     };
     QHash<QString, Numbers> m_numbers; //!< by base
-    mutable QMultiHash<QPair<QString, QString>, const DesignerObject *> m_byChannel;
+    // Found at the first question, since most screens are never asked, and kept from then on.
+    mutable Channels m_byChannel;
     mutable bool m_channelsKnown = false;
 };
 

@@ -25,14 +25,12 @@ bool isOnlyOneOnChannel(const DesignerProperty *property, const char *message, Q
     if (!element->screen()) {
         return true;
     }
-    const QList<const DesignerObject *> sharers =
-        element->screen()->elementIndex().withChannel(element->className(), property->valueString());
-    const auto other = std::find_if(sharers.begin(), sharers.end(),
-                                    [element](const DesignerObject *sharer) { return sharer != element; });
-    if (other == sharers.end()) {
+    const DesignerObject *other =
+        element->screen()->elementIndex().otherWithChannel(element, property->valueString());
+    if (!other) {
         return true;
     }
-    error = translated(message).arg(element->getIdName(), (*other)->getIdName());
+    error = translated(message).arg(element->getIdName(), other->getIdName());
     return false;
 }
 
@@ -62,6 +60,11 @@ bool PropertyValidators::digitalChannelValidator(const DesignerProperty *propert
 bool PropertyValidators::pwmChannelValidator(const DesignerProperty *property, QString &error)
 {
     return isOnlyOneOnChannel(property, "%1 and %2 are connected to same PWM output.", error);
+}
+
+bool PropertyValidators::channelValidator(const DesignerProperty *property, QString &error)
+{
+    return isOnlyOneOnChannel(property, "%1 and %2 use the same channel.", error);
 }
 
 bool PropertyValidators::groupElementsValidator(const DesignerProperty *property, QString &error)

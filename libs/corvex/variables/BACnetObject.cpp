@@ -13,6 +13,14 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
+bool validateIdentifier(const DesignerProperty *property, QString &error)
+{
+    return BACnetObject::readIdentifier(property->valueString())
+           || ValidationError::set(
+               error, "The identifier must be an object type from 0 to 1023 and an instance from 0 "
+                      "to 4194302, as in \"5,1\".");
+}
+
 bool validateName(const DesignerProperty *property, QString &error)
 {
     return !property->valueString().isEmpty()
@@ -26,6 +34,21 @@ bool validateProperties(const DesignerProperty *property, QString &error)
 
 } // namespace
 
+std::optional<BACnetObject::Identifier> BACnetObject::readIdentifier(const QString &text)
+{
+    constexpr int highestType = 1023;
+    constexpr int highestInstance = 4194302;
+    const QStringList parts = text.split(u',');
+    const auto number = [&parts](qsizetype index, int highest) {
+        bool ok = false;
+        const int read = parts.value(index).trimmed().toInt(&ok);
+        return ok && read >= 0 && read <= highest ? read : -1;
+    };
+    const Identifier identifier{number(0, highestType), number(1, highestInstance)};
+    const bool isGood = parts.size() == 2 && identifier.type >= 0 && identifier.instance >= 0;
+    return isGood ? std::optional(identifier) : std::nullopt;
+}
+
 bool BACnetObject::initializeProperties()
 {
     static const PropertyTable table{
@@ -34,7 +57,8 @@ bool BACnetObject::initializeProperties()
             .rank(12)
             .flags(15)
             .allowInvalid()
-            .editor("BACObjIdEditor"),
+            .editor("BACObjIdEditor")
+            .validator(&validateIdentifier),
         row<StringProperty>("bacnetObjName", "Object Name", QString())
             .rank(13)
             .flags(15)

@@ -3,6 +3,8 @@
 
 #include "corvex/variables/DeviceVariable.h"
 
+#include <optional>
+
 namespace Halvane::Corvex::Designer {
 
 //! An object that the device exposes over BACnet; see BACnetPropertyList for what its list of properties
@@ -11,6 +13,18 @@ class BACnetObject : public DeviceVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(BACnetObject, ProjectVariable)
+
+public:
+    //! What an object is known by in its device.
+    struct Identifier
+    {
+        int type;     //!< 0 to 1023
+        int instance; //!< 0 to 4194302
+
+        friend bool operator==(const Identifier &, const Identifier &) = default;
+    };
+    //! Reads "type,instance"; blanks around the numbers mean nothing.
+    static std::optional<Identifier> readIdentifier(const QString &text);
 
 protected:
     using DeviceVariable::DeviceVariable;

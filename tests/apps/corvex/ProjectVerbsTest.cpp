@@ -323,6 +323,96 @@ TEST(CheckVerb, followsWhatPartsSayOfEachOther)
     EXPECT_EQ(bad.run({u"check"_s, pump}).out, expected.join(u'\n') + u'\n');
 }
 
+TEST(CheckVerb, knowsTheDeviceAndTheFieldbuses)
+{
+    const auto channel = [](const char *className, const char *name, const char *number) {
+        return Sandbox::object(className, name, Sandbox::value("channel", number));
+    };
+    const auto variable = [](const QByteArray &className, const QByteArray &name, const QByteArray &property,
+                             const QByteArray &text) {
+        return Sandbox::object(className, name, Sandbox::value(property, text), "Project");
+    };
+    const auto point = [&](const QByteArray &name, const QByteArray &identifier) {
+        return Sandbox::object("BACnetObject", name,
+                               Sandbox::value("objectID", identifier) + Sandbox::value("bacnetObjName", name)
+                                   + Sandbox::value("properties", "<0207cHJlc2VudC12YWx1ZQ==><0207cmVhbA=="
+                                                                  "><0406speed>"),
+                               "Project");
+    };
+    // PGN 1, priority 6, source 0, and one SPN of 16 bits from a byte on.
+    const auto signal = [&](const QByteArray &name, const QByteArray &spn, const QByteArray &byte) {
+        return variable("CANVariable", name, "parameterMap",
+                        "<02041><02046><02040><0204" + spn + "><0207><0204" + byte
+                            + "><02041><020410><02050><02050><02051><02051>");
+    };
+    const QByteArray box =
+        Sandbox::value("visualElement", "filterType: VisualElement; objectId: box1; scopeType: Screen;");
+    const Sandbox sandbox;
+    sandbox.makeProject(
+        goodElements() + channel("AlarmOutput", "beeper", "99") + channel("AnalogInput", "probe", "-3")
+            + channel("CANBusDevice", "bus", "1") + channel("SerialCOMPort", "port1", "2")
+            + channel("SerialCOMPort", "port2", "2")
+            + Sandbox::object("Rectangle", "frame",
+                              Sandbox::value("opacity", "300") + Sandbox::value("radius", "-5"))
+            + Sandbox::object("Button", "button",
+                              box + Sandbox::value("pressed", "<0406speed><0407word><0406speed><0207MTI=>"))
+            + Sandbox::object("Text", "shown",
+                              Sandbox::value("visibleBinding", "0407word")
+                                  + Sandbox::value("xBinding", "0406map"))
+            + Sandbox::object("Text", "compared",
+                              Sandbox::value("visibleBinding", "<0101(><0407word><0101)><0101==><0207YQ==>")),
+        variable("NumberVariable", "speed", "value", "1") + variable("StringVariable", "word", "value", "a")
+            + variable("LogVariable", "history", "interval", "100")
+            + variable("MappingVariable", "map", "coilMap", "<02041><0406speed>") + point("level", "2,1")
+            + point("other", "2, 01") + point("wrong", "AI1") + signal("engine", "A", "1")
+            + signal("oil", "B", "2") + signal("water", "C", "4"));
+    const ProgramRun check = sandbox.run({u"check"_s, pump, u"--json"_s});
+    EXPECT_EQ(check.code, 1);
+    QStringList found;
+    for (const auto &problem : check.json()[u"problems"_s].toArray()) {
+        found.append(problem[u"severity"_s].toString() + u' ' + problem[u"code"_s].toString() + u' '
+                     + problem[u"object"_s].toString() + u'.' + problem[u"property"_s].toString());
+    }
+    EXPECT_EQ(found.join(u'\n'), uR"(error value.range history.interval
+error bacnet.identifier wrong.objectID
+error channel.shared Main.port1.channel
+error channel.shared Main.port2.channel
+error value.range Main.probe.channel
+warning appearance.range Main.frame.opacity
+warning appearance.range Main.frame.radius
+warning model.lacks engine.
+warning model.lacks oil.
+warning model.lacks water.
+error channel.missing Main.beeper.channel
+error channel.missing Main.bus.channel
+error bacnet.taken other.objectID
+warning can.overlap oil.parameterMap
+warning modbus.type map.coilMap
+warning expression.type Main.button.pressed
+warning expression.condition Main.shown.visibleBinding
+warning expression.fieldbus Main.shown.xBinding
+warning log.unfed history.)"_s);
+    EXPECT_EQ(sandbox.run({u"build"_s, pump, u"out"_s}).code, 1);
+
+    // Warnings are printed, and fail neither the check nor the build.
+    const Sandbox warned;
+    warned.makeProject(goodElements()
+                       + Sandbox::object("Rectangle", "frame", Sandbox::value("opacity", "300")));
+    const ProgramRun mild = warned.run({u"check"_s, pump});
+    EXPECT_EQ(mild.out, u"Main.frame: opacity: warning: opacity takes numbers from 10 to 100, not 300.\n"_s);
+    EXPECT_EQ(mild.code, 0);
+    EXPECT_EQ(warned.run({u"build"_s, pump, u"out"_s}).code, 0);
+
+    // A model with fewer channels says which elements move.
+    const Sandbox moved;
+    moved.makeProject(goodElements() + channel("PwmOutput", "fan", "4") + channel("AlarmOutput", "horn", "2")
+                      + channel("AlarmOutput", "lamp", "1"));
+    moved.write(u"script"_s, "model VTR 38-K\n");
+    EXPECT_EQ(moved.run({u"edit"_s, pump, u"script"_s}).out,
+              u"Main.horn: has no channel 2 here, and none is free\n"
+              "Main.fan: moved from channel 4 to 1\n"_s);
+}
+
 TEST(CheckVerb, wantsTheModelToBeInstalled)
 {
     const Sandbox sandbox;

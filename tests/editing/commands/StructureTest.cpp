@@ -258,10 +258,17 @@ TEST_F(StructureTest, SharedValuesSwapsAndModels)
     ASSERT_TRUE(set(model.get(), "pwmOutputs", u"OUTPUT, OUTPUT"_s));
     ASSERT_TRUE(set(model.get(), "screenSize", u"height: 480; width: 800;"_s));
     addTo(main, "PwmOutput");
+    addTo(main, "PwmOutput");
     ASSERT_TRUE(set(element("pwmOutput1"), "channel", u"1"_s));
     ASSERT_TRUE(set(element("pwmOutput2"), "channel", u"7"_s));
-    walk(new ChangeConfiguration(project.get(), static_cast<Configuration *>(model.get())),
-         u"Change Model to \"VTR 70\""_s);
+    ASSERT_TRUE(set(element("pwmOutput3"), "channel", u"4"_s));
+    auto *change = new ChangeConfiguration(project.get(), static_cast<Configuration *>(model.get()));
+    QStringList moves;
+    for (const auto &[path, from, to] : change->moves()) {
+        moves.append(u"%1 %2 %3"_s.arg(path).arg(from).arg(to));
+    }
+    EXPECT_EQ(moves.filter(u"pwm"_s), QStringList({u"Main.pwmOutput2 7 2"_s, u"Main.pwmOutput3 4 0"_s}));
+    walk(change, u"Change Model to \"VTR 70\""_s);
     EXPECT_EQ(value(element("pwmOutput2"), "channel"), u"2"_s);
     EXPECT_EQ(value(main, "size"), u"height: 480; width: 800;"_s);
     EXPECT_FALSE(ChangeConfiguration(project.get(), u"VTR 999"_s).isValid());

@@ -322,9 +322,17 @@ TEST_F(Elements, LinksAndChannelsAreJudged)
     DesignerObject *second = add("DigitalInputOutput", u"second"_s);
     EXPECT_EQ(second->getProperty(u"channel")->errorString(),
               u"second and first are connected to same Digital Output."_s);
+    // Both say so, and both hear when one of them changes or leaves.
+    EXPECT_EQ(first->getProperty(u"channel")->errorString(),
+              u"first and second are connected to same Digital Output."_s);
     set(second, "channel", u"2"_s);
-    EXPECT_TRUE(second->isValid());
-    EXPECT_TRUE(first->validate());
+    EXPECT_TRUE(second->isValid() && first->isValid());
+    set(first, "channel", u"2"_s);
+    EXPECT_FALSE(second->isValid() || first->isValid());
+    const std::unique_ptr<DesignerObject> left(screen->takeListPropertyItem(screen->elements(), second));
+    EXPECT_TRUE(first->isValid());
+    set(first, "channel", u"0"_s);
+    EXPECT_EQ(first->getProperty(u"channel")->errorString(), u"channel takes numbers from 1 on, not 0."_s);
 
     DesignerObject *loader = add("ScreenLoader", u"loader"_s);
     set(loader, "screen", link(u"Other"_s, u"Project"_s, u"Screen"_s));

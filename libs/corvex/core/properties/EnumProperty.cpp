@@ -1,13 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/properties/EnumProperty.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/properties/ValidationError.h"
+
+using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
 bool EnumProperty::validateValue(QString &error) const
 {
     return value().isValid() || ValidationError::set(error, "The enumeration value is invalid.");
+}
+
+//! The keys.
+QString EnumProperty::formText() const
+{
+    QStringList keys;
+    for (int i = 0; i < value().enumerator().keyCount(); ++i) {
+        keys.append(value().key(i));
+    }
+    return Common::LocalizationHelper::coreString(u"one of %1"_s).arg(keys.join(u", "_s));
 }
 
 } // namespace Halvane::Corvex::Designer

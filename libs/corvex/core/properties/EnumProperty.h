@@ -27,6 +27,7 @@ public:
     const EnumInfo &getEnumInfo() const { return value(); }
 
     bool validateValue(QString &error) const override;
+    QString formText() const override;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/core/DesignerProperty.h"
+#include "corvex/core/properties/FormText.h"
 #include "corvex/core/properties/QmlForm.h"
 #include "corvex/core/properties/TextForm.h"
 
@@ -78,6 +79,27 @@ protected:
         , m_value(prototype.m_value)
     {
         setInitial(true);
+    }
+
+    double number() const override
+    {
+        if constexpr (std::is_same_v<Value, int> || std::is_same_v<Value, double>) {
+            return m_value;
+        } else {
+            return DesignerProperty::number();
+        }
+    }
+
+    QString formText() const override
+    {
+        if constexpr (
+            std::is_same_v<
+                Value,
+                int> || std::is_same_v<Value, double> || std::is_same_v<Value, bool> || std::is_same_v<Value, QColor>) {
+            return FormText::of(m_value);
+        } else {
+            return DesignerProperty::formText();
+        }
     }
 
     // Not by way of the text, which is rounded, and which an invalid value may not have at all.

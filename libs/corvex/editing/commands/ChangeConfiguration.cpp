@@ -2,9 +2,9 @@
 #include "corvex/editing/commands/ChangeConfiguration.h"
 
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/hardware/ChannelList.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationContainer.h"
+#include "corvex/hardware/DeviceChannels.h"
 #include "corvex/hardware/HardwareConfigurations.h"
 #include "corvex/project/Element.h"
 #include "corvex/project/Project.h"
@@ -23,20 +23,6 @@ constexpr std::array copied{
     "url"_L1,          "description"_L1,         "compatibleModels"_L1, "colorDepth"_L1,   "screenSize"_L1,
     "analogInputs"_L1, "alarmOutputs"_L1,        "serialCOMPorts"_L1,   "pwmFrequency"_L1, "pwmOutputs"_L1,
     "canbusPorts"_L1,  "digitalInputOutputs"_L1, "serialRS485Ports"_L1,
-};
-
-struct ChannelUser
-{
-    QLatin1StringView className;
-    QLatin1StringView channels; //!< of the configuration
-};
-
-constexpr std::array channelUsers{
-    ChannelUser{"AlarmOutput"_L1, "alarmOutputs"_L1},
-    ChannelUser{"AnalogInput"_L1, "analogInputs"_L1},
-    ChannelUser{"PwmOutput"_L1, "pwmOutputs"_L1},
-    ChannelUser{"DigitalInputOutput"_L1, "digitalInputOutputs"_L1},
-    ChannelUser{"SerialCOMPort"_L1, "serialCOMPorts"_L1},
 };
 
 const Configuration *installed(const QString &modelName)
@@ -81,28 +67,33 @@ void ChangeConfiguration::setupCommand(Configuration *own, const Configuration *
 
 void ChangeConfiguration::setupHardwareElements(const Project *project, const Configuration *model)
 {
-    for (const auto &[className, channels] : channelUsers) {
-        const qsizetype count = ChannelList(model->getProperty(QString(channels))->valueString()).count();
+    for (const DeviceChannels &channels : DeviceChannels::all()) {
         for (const DesignerObject *item : project->screens()->listItems()) {
-            const QList<Element *> users = static_cast<const Screen *>(item)->getElementsOfType(className);
-            QSet<qsizetype> taken;
-            for (const Element *user : users) {
-                taken.insert(user->getProperty(u"channel")->valueString().toInt());
-            }
-            for (const Element *user : users) {
-                const SharedProperty channel = user->getProperty(u"channel");
-                if (channel->valueString().toInt() <= count) {
-                    continue;
-                }
-                qsizetype free = 1;
-                while (taken.contains(free)) {
-                    ++free;
-                }
-                if (free <= count) {
-                    taken.insert(free);
-                    addValueStep(channel, QString::number(free));
-                }
-            }
+            moveElements(static_cast<const Screen *>(item)->getElementsOfType(channels.elementClass),
+                         channels, *model);
+        }
+    }
+}
+
+//! Gives the elements of one screen whose channel is too high the first free channels.
+void ChangeConfiguration::moveElements(const QList<Element *> &users, const DeviceChannels &channels,
+                                       const Configuration &model)
+{
+    const QList<int> available = channels.available(model);
+    QList<int> free = available;
+    for (const Element *user : users) {
+        free.removeOne(user->getProperty(u"channel")->valueString().toInt());
+    }
+    for (const Element *user : users) {
+        const SharedProperty channel = user->getProperty(u"channel");
+        const int from = channel->valueString().toInt();
+        if (from < 1 || available.contains(from)) {
+            continue;
+        }
+        const int to = free.isEmpty() ? 0 : free.takeFirst();
+        m_moves.append({user->objectPath(), from, to});
+        if (to > 0) {
+            addValueStep(channel, QString::number(to));
         }
     }
 }

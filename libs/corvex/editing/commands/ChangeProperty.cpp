@@ -189,7 +189,7 @@ bool ChangeProperty::redoOwn(QString &error)
 {
     const bool isDone = set(m_after);
     if (!isDone) {
-        error = property()->errorString();
+        error = property()->refusalOf(m_after);
     }
     return isDone;
 }

@@ -47,7 +47,7 @@ bool SetValueStep::redo(QString &error)
 {
     const bool isDone = m_change.redo();
     if (!isDone) {
-        error = m_change.property->errorString();
+        error = m_change.property->refusalOf(m_change.after);
     }
     return isDone;
 }

@@ -5,6 +5,7 @@
 #include "corvex/common/BACnetTables.h"
 #include "corvex/core/properties/GeneralDataListProperty.h"
 #include "corvex/variables/BACnetDevice.h"
+#include "corvex/variables/BACnetObject.h"
 #include "corvex/variables/BACnetPropertyList.h"
 #include "corvex/variables/exchange/CsvText.h"
 
@@ -149,16 +150,14 @@ private:
 
     void addObject(const DesignerObject &object)
     {
-        const QStringList identifier = textOf(object, u"objectID").split(u',');
-        bool isType = false;
-        bool isInstance = false;
-        const int type = identifier.value(0).toInt(&isType);
-        const int instance = identifier.value(1).toInt(&isInstance);
-        if (!isType || !isInstance || identifier.size() != 2) {
+        const QString text = textOf(object, u"objectID");
+        const std::optional<BACnetObject::Identifier> identifier = BACnetObject::readIdentifier(text);
+        if (!identifier) {
             m_exported.problems.append(u"%1.objectID: \"%2\" is no type and instance, as in \"2,1\"."_s.arg(
-                object.getIdName(), identifier.join(u',')));
+                object.getIdName(), text));
             return;
         }
+        const auto [type, instance] = *identifier;
         BACnetPropertyList list;
         QString error;
         const SharedProperty terms = object.getProperty(u"properties");

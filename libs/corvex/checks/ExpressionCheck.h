@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/checks/Check.h"
+
+namespace Halvane::Corvex::Designer {
+
+class GeneralDataInfo;
+class GeneralDataList;
+
+//! Types of values in the expressions of screens: assignments, conditions, and names of variables that have
+//! no value.
+class ExpressionCheck : public PropertyCheck
+{
+public:
+    explicit ExpressionCheck(const Project &project)
+        : m_project(project)
+    { }
+
+    bool concerns(const DesignerProperty &property) const override;
+    void look(const DesignerProperty &property) override;
+
+private:
+    void lookAtTerms(const DesignerProperty &property, const GeneralDataList &terms);
+    void lookAtAssignments(const DesignerProperty &property, const GeneralDataList &terms);
+    void lookAtCondition(const DesignerProperty &property, const GeneralDataList &terms);
+
+    const Project &m_project;
+};
+
+} // namespace Halvane::Corvex::Designer

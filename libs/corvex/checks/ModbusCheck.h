@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/checks/Check.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! Registers of a Modbus map that are bound to a value of another type.
+class ModbusCheck : public PropertyCheck
+{
+public:
+    bool concerns(const DesignerProperty &property) const override;
+    void look(const DesignerProperty &map) override;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QVariantMap>
+
+#include <limits>
+
+namespace Halvane::Corvex::Designer {
+
+//! The numbers that a property takes. Its row gives them as editor parameters: "minimum" and "maximum", or
+//! "above" for a limit that the number must exceed.
+struct NumberRange
+{
+    double minimum = -std::numeric_limits<double>::infinity();
+    double maximum = std::numeric_limits<double>::infinity();
+    bool isAbove = false; //!< the minimum itself is too small
+
+    static NumberRange of(const QVariantMap &editorParameters);
+
+    //! Not a number is in every range.
+    bool contains(double number) const
+    {
+        return !(number < minimum || number > maximum || (isAbove && number == minimum));
+    }
+    //! "from 10 to 100", "from 1 on"; empty when the range has no limits. Translated.
+    QString toString() const;
+
+    friend bool operator==(const NumberRange &, const NumberRange &) = default;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/checks/ProblemKind.h"
+
+#include <QFile>
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+using namespace Halvane::Corvex::Designer;
+using namespace Qt::StringLiterals;
+
+//! docs/problems.md is made from the table: CORVEX_WRITE=1 makes this test write it.
+TEST(ProblemPage, listsEveryKindOfProblem)
+{
+    QString page =
+        u"# Problems\n\nWhat `corvex check` can find. An error keeps a project from being built; a "
+        "warning and a hint do\nnot. `--json` prints the code words, which stay the same from version "
+        "to version.\n"_s;
+    QSet<QByteArray> words;
+    for (const ProblemKind &kind : ProblemKind::all()) {
+        EXPECT_FALSE(words.contains(kind.word)) << kind.word;
+        words.insert(kind.word);
+        page += u"\n## %1\n\n"_s.arg(QString::fromUtf8(kind.word));
+        page += kind.message ? u"`%1`\n\n"_s.arg(QString::fromUtf8(kind.message)) : QString();
+        page += u"- Severity: %1\n- Cause: %2\n- Cure: %3\n"_s.arg(
+            kind.severityWord(), QString::fromUtf8(kind.cause), QString::fromUtf8(kind.cure));
+    }
+    QFile file(QStringLiteral(CORVEX_DOCS "/problems.md"));
+    if (qEnvironmentVariableIsSet("CORVEX_WRITE")) {
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(page.toUtf8());
+        return;
+    }
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(QString::fromUtf8(file.readAll()), page);
+}
