@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ProjectBuild.h"
 
-#include "corvex/checks/CodeCheck.h"
 #include "corvex/checks/ProjectProblems.h"
 #include "corvex/project/Project.h"
 #include "corvex/runtime/RuntimeGenerator.h"
@@ -42,20 +41,6 @@ bool isAccepted(const QList<Problem> &problems, const ProjectFile &file, const C
     return false;
 }
 
-//! Makes the build and tells, of the code that it holds too, what is wrong with the project.
-QList<Problem> build(const ProjectFile &file, const ConfigurationContainer &models)
-{
-    CodeCheck code;
-    RuntimeGenerator &generator = file.project().runtimeGenerator();
-    generator.setScreenObserver(
-        [&code](const DesignerObject &screen, const QString &qml) { code.add(screen, qml); });
-    file.project().generateRuntimeFiles();
-    generator.setScreenObserver({});
-    const bool hasAllScreens = !generator.buildFolder().isEmpty();
-    return hasAllScreens ? ProjectProblems::find(file.project(), models, code)
-                         : ProjectProblems::find(file.project(), models);
-}
-
 } // namespace
 
 ExitCode ProjectBuild::run(const Call &call, const QString &folder, WithProblems withProblems)
@@ -73,10 +58,11 @@ ExitCode ProjectBuild::run(const Call &call, const QString &folder, WithProblems
     call.terminal().showProgress(u"building %1"_s.arg(file.path()));
     RuntimeGenerator &generator = file.project().runtimeGenerator();
     const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
-    const QList<Problem> problems = build(file, *models);
+    const QList<Problem> problems = ProjectProblems::find(file.project(), *models);
     if (!isAccepted(problems, file, call, withProblems)) {
         return ExitCode::Problems;
     }
+    file.project().generateRuntimeFiles();
     if (generator.buildFolder().isEmpty()) {
         return call.failed(generator.errorString(),
                            hasErrors(problems) ? ExitCode::Problems : ExitCode::File);

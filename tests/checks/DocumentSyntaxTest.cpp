@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionSyntax.h"
-#include "corvex/checks/PlainQmlMembers.h"
+#include "corvex/checks/PlainQml.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Lines that look plain are not read: what is wrong with them or around them has to be found all the same.
 TEST(DocumentSyntax, WhatIsWrongIsFoundOnItsLine)
 {
     struct
@@ -42,13 +41,16 @@ TEST(DocumentSyntax, WhatIsWrongIsFoundOnItsLine)
     }
 }
 
-TEST(DocumentSyntax, PlainMembersNeedNoReading)
+TEST(PlainQml, IsWhatCannotBeWrong)
 {
-    const QString first =
-        u"Text {\n\tid: a\n\tx: 1\n\ttext: b.c(\"d\")\n\tcolor: \"#FF102030\"\n\tat: Item.Top\n}\n"_s;
-    const QString second = u"Text {\n\tid: b\n\tx: -2.5\n\ttext: d\n\tcolor: \"\\n\"\n\tat: Item.Left\n}\n"_s;
-    EXPECT_EQ(qmlWithoutPlainMembers(first + second).trimmed(),
-              first + u"Text {\n\tid: b\n\n\ttext: d\n\n\n}"_s);
+    for (const QString &plain :
+         {u"x: -2.5\ny: 0"_s, u"a: \"\\n\""_s, u"at: Item.Left"_s, u"b: qml_pump1"_s, u"c: null"_s}) {
+        EXPECT_TRUE(isPlainQml(plain)) << qPrintable(plain);
+    }
+    for (const QString &other :
+         {u"x: 1\ny: a"_s, u"a: \"\\\""_s, u"x: 01"_s, u"b: qml_a.b"_s, u"onA: {"_s, u""_s}) {
+        EXPECT_FALSE(isPlainQml(other)) << qPrintable(other);
+    }
 }
 
 } // namespace

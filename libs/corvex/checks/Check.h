@@ -42,7 +42,7 @@ class PropertyCheck : public Check
 {
 public:
     //! Whether the check looks at such properties. The answer holds for all objects of the owner's class.
-    virtual bool concerns(const DesignerProperty &property) const = 0;
+    virtual bool concerns(const DesignerProperty &property) = 0;
     virtual void look(const DesignerProperty &property) = 0;
 };
 
@@ -51,7 +51,7 @@ class ObjectCheck : public Check
 {
 public:
     //! Whether the check looks at such objects. The answer holds for all objects of the class.
-    virtual bool concerns(const DesignerObject &object) const = 0;
+    virtual bool concerns(const DesignerObject &object) = 0;
     virtual void look(const DesignerObject &object) = 0;
 };
 

@@ -41,7 +41,7 @@ CheckWalk::Plan CheckWalk::planFor(const DesignerObject &object) const
 {
     Plan plan;
     std::ranges::copy_if(m_objectChecks, std::back_inserter(plan.objectChecks),
-                         [&object](const ObjectCheck *check) { return check->concerns(object); });
+                         [&object](ObjectCheck *check) { return check->concerns(object); });
     const QList<SharedProperty> &properties = object.properties();
     for (qsizetype place = 0; place < properties.size(); ++place) {
         for (PropertyCheck *check : m_propertyChecks) {

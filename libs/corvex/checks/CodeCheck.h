@@ -1,44 +1,37 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/checks/ExpressionSyntax.h"
-#include "corvex/checks/Problem.h"
+#include "corvex/checks/Check.h"
+#include "corvex/checks/CodeReader.h"
 
-#include <QSemaphore>
-#include <QThread>
+#include <QHash>
 
 namespace Halvane::Corvex::Designer {
 
-/*! Reads generated code as the device will do. A thread of its own reads it, since that takes longer than
-    generating it. */
-class CodeCheck
+/*! Reads the code that properties of screens and elements generate, as the device will do. A text that many
+    properties generate is read once, and a text that cannot be wrong not at all. */
+class CodeCheck : public PropertyCheck
 {
 public:
-    CodeCheck();
-    ~CodeCheck();
-    Q_DISABLE_COPY_MOVE(CodeCheck)
-
-    //! \a qml is the document that the screen generates.
-    void add(const DesignerObject &screen, const QString &qml);
-    //! Of all that was added, in that order; nothing can be added any more.
-    QList<Problem> problems();
+    bool concerns(const DesignerProperty &property) override;
+    void look(const DesignerProperty &property) override;
+    void finish(const Project &project) override;
 
 private:
-    struct Finding
+    //! A property with the number of its text.
+    struct Use
     {
-        const DesignerObject *screen;
-        ExpressionSyntax::Result result;
+        const DesignerProperty *property;
+        qsizetype text;
     };
 
-    void read(const DesignerObject &screen, const QString &qml);
-    void finish();
+    void add(const DesignerProperty &property, const QString &qml);
+    void readPending();
 
-    QThread m_thread;
-    QObject m_reader; //!< lives in the thread
-    QSemaphore m_room;
-    // Used in the thread alone, until it has finished.
-    std::unique_ptr<ExpressionSyntax> m_syntax;
-    QList<Finding> m_findings;
+    QHash<QString, qsizetype> m_numbers;
+    QStringList m_pending; //!< the last texts, which have not been given to the reader
+    QList<Use> m_uses;
+    CodeReader m_reader;
 };
 
 } // namespace Halvane::Corvex::Designer

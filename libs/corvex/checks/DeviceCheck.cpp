@@ -39,7 +39,7 @@ bool isCanVariable(const DesignerObject &object)
 
 } // namespace
 
-bool DeviceCheck::concerns(const DesignerObject &object) const
+bool DeviceCheck::concerns(const DesignerObject &object)
 {
     return isCanVariable(object) || DeviceChannels::of(object.className());
 }

@@ -9,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 class DeviceCheck : public ObjectCheck
 {
 public:
-    bool concerns(const DesignerObject &object) const override;
+    bool concerns(const DesignerObject &object) override;
     void look(const DesignerObject &object) override;
 };
 

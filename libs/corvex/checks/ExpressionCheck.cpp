@@ -61,7 +61,7 @@ bool isAlone(Iterator term, Iterator end, QLatin1StringView parenthesis)
 
 } // namespace
 
-bool ExpressionCheck::concerns(const DesignerProperty &property) const
+bool ExpressionCheck::concerns(const DesignerProperty &property)
 {
     const ReferenceForm::Form form = ReferenceForm::of(property);
     const bool isExpression =

@@ -17,7 +17,7 @@ public:
         : m_project(project)
     { }
 
-    bool concerns(const DesignerProperty &property) const override;
+    bool concerns(const DesignerProperty &property) override;
     void look(const DesignerProperty &property) override;
 
 private:

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionSyntax.h"
 
-#include "corvex/checks/PlainQmlMembers.h"
-
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QRegularExpression>
@@ -66,7 +64,7 @@ ExpressionSyntax::Result ExpressionSyntax::checkDocument(const QString &qml)
     // Without its imports a document that can be read has one error, an unknown type: reading comes first.
     static const QRegularExpression imports(u"^import [^\n]*"_s, QRegularExpression::MultilineOption);
     QQmlComponent component(m_engine.get());
-    component.setData(qmlWithoutPlainMembers(qml).remove(imports).toUtf8(), QUrl(u"qrc:/document.qml"_s));
+    component.setData(QString(qml).remove(imports).toUtf8(), QUrl(u"qrc:/document.qml"_s));
     for (const QQmlError &error : component.errors()) {
         if (!isOfUnknownType(error.description())) {
             return {false, error.line(), error.column(), error.description()};

@@ -29,7 +29,7 @@ using Message = std::array<BitUser, messageBits>;
 
 } // namespace
 
-bool FieldbusCheck::concerns(const DesignerProperty &property) const
+bool FieldbusCheck::concerns(const DesignerProperty &property)
 {
     return property.id() == "variables"_L1 && property.parentObject()->isKindOfClass(Project::kindName());
 }

@@ -10,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 class FieldbusCheck : public PropertyCheck
 {
 public:
-    bool concerns(const DesignerProperty &property) const override;
+    bool concerns(const DesignerProperty &property) override;
     void look(const DesignerProperty &variables) override;
 
 private:

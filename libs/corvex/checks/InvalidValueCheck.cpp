@@ -39,6 +39,12 @@ constexpr Row rows[] = {
 
 ProblemCode nameCode(const DesignerObject &object)
 {
+    // Projects and images are files, with rules of their own.
+    const bool isScriptName = object.isKindOfClass(u"ProjectVariable"_s) || object.isKindOfClass(u"Screen"_s)
+                              || object.isKindOfClass(u"Element"_s);
+    if (!isScriptName) {
+        return ProblemCode::NameInvalid;
+    }
     switch (PropertyValidators::nameFault(&object, object.getIdName())) {
     case PropertyValidators::NameFault::Format:
         return ProblemCode::NameFormat;

@@ -10,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 class InvalidValueCheck : public ObjectCheck
 {
 public:
-    bool concerns(const DesignerObject &) const override { return true; }
+    bool concerns(const DesignerObject &) override { return true; }
     void look(const DesignerObject &object) override;
 };
 

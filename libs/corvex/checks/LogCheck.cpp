@@ -14,7 +14,7 @@ const QString logClass = u"LogVariable"_s;
 
 } // namespace
 
-bool LogCheck::concerns(const DesignerProperty &property) const
+bool LogCheck::concerns(const DesignerProperty &property)
 {
     return property.isKindOfClass(u"LinkProperty"_s)
            && property.editorParameter(u"filterType"_s).toString() == logClass;

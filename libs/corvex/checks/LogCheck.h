@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 class LogCheck : public PropertyCheck
 {
 public:
-    bool concerns(const DesignerProperty &property) const override;
+    bool concerns(const DesignerProperty &property) override;
     void look(const DesignerProperty &link) override;
     void finish(const Project &project) override;
 

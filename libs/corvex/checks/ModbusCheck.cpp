@@ -28,7 +28,7 @@ bool carries(ModbusMap::RegisterKind kind, ValueType type)
 
 } // namespace
 
-bool ModbusCheck::concerns(const DesignerProperty &property) const
+bool ModbusCheck::concerns(const DesignerProperty &property)
 {
     return property.parentObject()->isKindOfClass(u"MappingVariable"_s)
            && property.editorParameters().contains(u"RegType"_s);

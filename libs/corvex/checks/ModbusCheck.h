@@ -9,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 class ModbusCheck : public PropertyCheck
 {
 public:
-    bool concerns(const DesignerProperty &property) const override;
+    bool concerns(const DesignerProperty &property) override;
     void look(const DesignerProperty &map) override;
 };
 

@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-bool NumberCheck::concerns(const DesignerProperty &property) const
+bool NumberCheck::concerns(const DesignerProperty &property)
 {
     const auto *variable = kindCast<ProjectVariable>(property.parentObject());
     return variable && &property == variable->value();

@@ -9,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 class NumberCheck : public PropertyCheck
 {
 public:
-    bool concerns(const DesignerProperty &property) const override;
+    bool concerns(const DesignerProperty &property) override;
     void look(const DesignerProperty &property) override;
 };
 

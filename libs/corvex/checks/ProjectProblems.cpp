@@ -18,16 +18,6 @@ namespace Halvane::Corvex::Designer {
 
 QList<Problem> ProjectProblems::find(const Project &project, const ConfigurationContainer &models)
 {
-    CodeCheck code;
-    for (const DesignerObject *screen : project.screens()->listItems()) {
-        code.add(*screen, screen->toQml(0));
-    }
-    return find(project, models, code);
-}
-
-QList<Problem> ProjectProblems::find(const Project &project, const ConfigurationContainer &models,
-                                     CodeCheck &code)
-{
     FileCheck file(models);
     InvalidValueCheck invalidValues;
     NumberCheck numbers;
@@ -37,6 +27,7 @@ QList<Problem> ProjectProblems::find(const Project &project, const Configuration
     ModbusCheck registers;
     ExpressionCheck expressions(project);
     LogCheck logs;
+    CodeCheck code;
 
     CheckWalk walk;
     walk.add(file);
@@ -48,7 +39,8 @@ QList<Problem> ProjectProblems::find(const Project &project, const Configuration
     walk.add(registers);
     walk.add(expressions);
     walk.add(logs);
-    return walk.run(project) + code.problems();
+    walk.add(code);
+    return walk.run(project);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -24,7 +24,7 @@ ReferenceCheck::ReferenceCheck(const Project &project)
 
 ReferenceCheck::~ReferenceCheck() = default;
 
-bool ReferenceCheck::concerns(const DesignerProperty &property) const
+bool ReferenceCheck::concerns(const DesignerProperty &property)
 {
     const ReferenceForm::Form form = ReferenceForm::of(property);
     // The first halves of pairs may be names of the device's own.

@@ -23,7 +23,7 @@ public:
     explicit ReferenceCheck(const Project &project);
     ~ReferenceCheck() override;
 
-    bool concerns(const DesignerProperty &property) const override;
+    bool concerns(const DesignerProperty &property) override;
     void look(const DesignerProperty &property) override;
 
 private:

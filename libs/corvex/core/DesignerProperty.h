@@ -121,6 +121,8 @@ public:
     //! The property's QML, its lines parted by "\n" and none behind the last; empty unless RuntimeFlag is
     //! set.
     QString toQml(int indent) const;
+    //! Whether toQml() writes literals alone, which are correct whatever the value is.
+    bool writesPlainQml() const { return !m_descriptor->qmlCreator && hasPlainForm(); }
 
     //! The child of an object property, owned by parentObject().
     DesignerObject *objectValue() const;
@@ -173,6 +175,7 @@ protected:
 
     //! The value of a property that holds a number; else not a number.
     virtual double number() const;
+    virtual bool hasPlainForm() const { return false; }
     //! What texts the property reads, as in "a whole number". Translated.
     virtual QString formText() const;
     //! Validates \a text in the place of the value, which is the same afterwards to the last digit; false

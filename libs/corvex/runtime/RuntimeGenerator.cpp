@@ -157,17 +157,13 @@ bool RuntimeGenerator::writeScreens(const DesignerObject *project)
             return fail(
                 LocalizationHelper::coreString(u"Two screens would be written to \"%1\"."_s).arg(name));
         }
-        const QString qml = screen->toQml(0);
-        const QByteArray bytes = withWindowsLineEnds(qml.toUtf8());
+        const QByteArray bytes = withWindowsLineEnds(screen->toQml(0).toUtf8());
         QFile file(filePath(name));
         const bool written =
             file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
         if (!written) {
             return fail(LocalizationHelper::coreString(u"\"%1\" cannot be written: %2"_s)
                             .arg(file.fileName(), Common::FileHelper::writeError(file)));
-        }
-        if (m_screenObserver) {
-            m_screenObserver(*screen, qml);
         }
     }
     return true;

@@ -3,8 +3,6 @@
 
 #include <QString>
 
-#include <functional>
-
 namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
@@ -22,10 +20,6 @@ public:
     const QString &resourceFolder() const { return m_resourceFolder; }
     //! What the zipped project has as its version in place of its own; nothing when empty.
     void setBuildTag(const QString &tag) { m_buildTag = tag; }
-
-    //! Is given each screen with its document when that has been written.
-    using ScreenObserver = std::function<void(const DesignerObject &screen, const QString &qml)>;
-    void setScreenObserver(const ScreenObserver &observer) { m_screenObserver = observer; }
 
     //! Builds \a project, an object with a list "screens". Ends with the first step that fails.
     bool generate(const DesignerObject *project);
@@ -51,7 +45,6 @@ private:
 
     QString m_resourceFolder;
     QString m_buildTag;
-    ScreenObserver m_screenObserver;
     QString m_buildFolder;
     QString m_error;
 };

@@ -389,8 +389,8 @@ error bacnet.taken other.objectID
 warning can.overlap oil.parameterMap
 warning modbus.type map.coilMap
 warning expression.type Main.button.pressed
-warning expression.condition Main.shown.visibleBinding
 warning expression.fieldbus Main.shown.xBinding
+warning expression.condition Main.shown.visibleBinding
 warning log.unfed history.)"_s);
     EXPECT_EQ(sandbox.run({u"build"_s, pump, u"out"_s}).code, 1);
 

@@ -73,4 +73,31 @@ CORVEX_QML_FORM(SendErrorInfo)  // the same of TargetBusy, TargetOffline
 CORVEX_QML_FORM(ReceiveErrorInfo)
 #undef CORVEX_QML_FORM
 
+//! Of types that write numbers, truths and quoted texts alone.
+template<class Value>
+inline constexpr bool WritesPlainQml = false;
+template<>
+inline constexpr bool WritesPlainQml<bool> = true;
+template<>
+inline constexpr bool WritesPlainQml<int> = true;
+template<>
+inline constexpr bool WritesPlainQml<double> = true;
+template<>
+inline constexpr bool WritesPlainQml<QString> = true;
+template<>
+inline constexpr bool WritesPlainQml<QColor> = true;
+template<>
+inline constexpr bool WritesPlainQml<QFont> = true;
+template<>
+inline constexpr bool WritesPlainQml<QSizeF> = true;
+template<>
+inline constexpr bool WritesPlainQml<BorderInfo> = true;
+template<>
+inline constexpr bool WritesPlainQml<RangeInfo> = true;
+template<>
+inline constexpr bool WritesPlainQml<EnumInfo> = true;
+//! A name that the language does not take is refused before it is written.
+template<>
+inline constexpr bool WritesPlainQml<IdentifierInfo> = true;
+
 } // namespace Halvane::Corvex::Designer

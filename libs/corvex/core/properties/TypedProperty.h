@@ -90,6 +90,8 @@ protected:
         }
     }
 
+    bool hasPlainForm() const override { return WritesPlainQml<Value>; }
+
     QString formText() const override
     {
         if constexpr (
