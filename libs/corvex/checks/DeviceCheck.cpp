@@ -3,8 +3,11 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/hardware/Configuration.h"
+#include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/hardware/DeviceChannels.h"
 #include "corvex/project/Project.h"
+
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -12,14 +15,11 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
+constexpr auto ethernetName = "Ethernet ports";
+
 QString translated(const char *text)
 {
     return Common::LocalizationHelper::coreString(QString::fromUtf8(text));
-}
-
-const Configuration *modelOf(const DesignerObject &object)
-{
-    return object.project() ? object.project()->configurationObject() : nullptr;
 }
 
 //! "1, 2, 5"
@@ -29,7 +29,7 @@ QString listed(const QList<int> &channels)
     for (const int channel : channels) {
         numbers.append(QString::number(channel));
     }
-    return numbers.join(u", "_s);
+    return numbers.isEmpty() ? translated("none") : numbers.join(u", "_s);
 }
 
 bool isCanVariable(const DesignerObject &object)
@@ -37,37 +37,52 @@ bool isCanVariable(const DesignerObject &object)
     return object.isKindOfClass(u"CANVariable"_s);
 }
 
+bool usesEthernet(const DesignerObject &object)
+{
+    return object.isKindOfClass(u"EthernetPort"_s) || object.isKindOfClass(u"FtpVariable"_s)
+           || object.isKindOfClass(u"BACnetDevice"_s);
+}
+
 } // namespace
+
+DeviceCheck::DeviceCheck(const Project &project, const ConfigurationContainer &models)
+    : m_model(project.configurationObject())
+{
+    const Configuration *installed = m_model ? models.configuration(m_model->getIdName()) : nullptr;
+    m_ethernetPorts = installed ? installed->ethernetPorts() : std::nullopt;
+}
 
 bool DeviceCheck::concerns(const DesignerObject &object)
 {
-    return isCanVariable(object) || DeviceChannels::of(object.className());
+    return m_model
+           && (isCanVariable(object) || DeviceChannels::of(object.className())
+               || (m_ethernetPorts && usesEthernet(object)));
 }
 
 void DeviceCheck::look(const DesignerObject &object)
 {
-    const Configuration *model = modelOf(object);
-    if (!model) {
-        return;
+    const char *name = ethernetName;
+    QList<int> available(m_ethernetPorts.value_or(0));
+    std::iota(available.begin(), available.end(), 1);
+    if (!usesEthernet(object)) {
+        const DeviceChannels *channels =
+            DeviceChannels::of(isCanVariable(object) ? u"CANBusDevice"_s : object.className());
+        name = channels->name;
+        available = channels->available(*m_model);
     }
-    const DeviceChannels *channels =
-        DeviceChannels::of(isCanVariable(object) ? u"CANBusDevice"_s : object.className());
-    const QList<int> available = channels->available(*model);
-    const SharedProperty channel = object.getProperty(u"channel");
-    if (!channel) {
-        if (available.isEmpty()) {
-            report(object, ProblemCode::ModelLacks, {model->getIdName(), translated(channels->name)});
+    if (const SharedProperty channel = object.getProperty(u"channel")) {
+        // A number that no model has is the property's own problem.
+        const int number = channel->valueString().toInt();
+        if (number >= 1 && !available.contains(number)) {
+            report(*channel, ProblemCode::ChannelMissing,
+                   {m_model->getIdName(), QString::number(number), translated(name), listed(available)});
         }
         return;
     }
-    // A number that no model has is the property's own problem.
-    const int number = channel->valueString().toInt();
-    if (number < 1 || available.contains(number)) {
-        return;
+    const SharedProperty network = object.getProperty(u"bacnetType");
+    if (available.isEmpty() && (!network || network->valueString() == "BACnetIP"_L1)) {
+        report(object, ProblemCode::ModelLacks, {m_model->getIdName(), translated(name)});
     }
-    const QString numbers = available.isEmpty() ? translated("none") : listed(available);
-    report(*channel, ProblemCode::ChannelMissing,
-           {model->getIdName(), QString::number(number), translated(channels->name), numbers});
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -22,7 +22,7 @@ QList<Problem> ProjectProblems::find(const Project &project, const Configuration
     InvalidValueCheck invalidValues;
     NumberCheck numbers;
     ReferenceCheck references(project);
-    DeviceCheck device;
+    DeviceCheck device(project, models);
     FieldbusCheck fieldbuses;
     ModbusCheck registers;
     ExpressionCheck expressions(project);

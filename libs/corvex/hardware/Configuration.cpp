@@ -205,6 +205,18 @@ QStringList Configuration::allCompatibleModels() const
     return models;
 }
 
+std::optional<int> Configuration::ethernetPorts() const
+{
+    const QString path = u"%1/Ports.strings"_s.arg(folderPath());
+    Common::StringsFile table;
+    if (folderPath().isEmpty() || !QFileInfo(path).isFile() || !table.load(path)) {
+        return std::nullopt;
+    }
+    bool ok = false;
+    const int count = Common::LocalizationHelper::localizedString(table, u"ETHERNET"_s).toInt(&ok);
+    return ok ? std::optional(count) : std::nullopt;
+}
+
 void Configuration::finishReading()
 {
     FileObject::finishReading();

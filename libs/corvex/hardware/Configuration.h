@@ -3,6 +3,7 @@
 
 #include "corvex/core/FileObject.h"
 
+#include <optional>
 #include <utility>
 
 namespace Halvane::Corvex::Common {
@@ -50,6 +51,10 @@ public:
     const SharedProperty &compatibleModels() const { return at(CompatibleModels); }
     const SharedProperty &description() const { return at(Description); }
     const SharedProperty &url() const { return at(Url); }
+
+    //! How many Ethernet ports an installed model has, from "Ports.strings" in its folder; nothing when that
+    //! does not say. The configuration of a project does not know.
+    std::optional<int> ethernetPorts() const;
 
     //! The model itself, then the models that its projects run on.
     QStringList allCompatibleModels() const;

@@ -350,8 +350,8 @@ TEST(CheckVerb, knowsTheDeviceAndTheFieldbuses)
     const Sandbox sandbox;
     sandbox.makeProject(
         goodElements() + channel("AlarmOutput", "beeper", "99") + channel("AnalogInput", "probe", "-3")
-            + channel("CANBusDevice", "bus", "1") + channel("SerialCOMPort", "port1", "2")
-            + channel("SerialCOMPort", "port2", "2")
+            + channel("CANBusDevice", "bus", "1") + channel("EthernetPort", "net", "1")
+            + channel("SerialCOMPort", "port1", "2") + channel("SerialCOMPort", "port2", "2")
             + Sandbox::object("Rectangle", "frame",
                               Sandbox::value("opacity", "300") + Sandbox::value("radius", "-5"))
             + Sandbox::object("Button", "button",
@@ -363,6 +363,7 @@ TEST(CheckVerb, knowsTheDeviceAndTheFieldbuses)
                               Sandbox::value("visibleBinding", "<0101(><0407word><0101)><0101==><0207YQ==>")),
         variable("NumberVariable", "speed", "value", "1") + variable("StringVariable", "word", "value", "a")
             + variable("LogVariable", "history", "interval", "100")
+            + variable("BACnetDevice", "panel", "bacnetType", "BACnetIP")
             + variable("MappingVariable", "map", "coilMap", "<02041><0406speed>") + point("level", "2,1")
             + point("other", "2, 01") + point("wrong", "AI1") + signal("engine", "A", "1")
             + signal("oil", "B", "2") + signal("water", "C", "4"));
@@ -382,9 +383,11 @@ warning appearance.range Main.frame.opacity
 warning appearance.range Main.frame.radius
 warning model.lacks engine.
 warning model.lacks oil.
+warning model.lacks panel.
 warning model.lacks water.
 error channel.missing Main.beeper.channel
 error channel.missing Main.bus.channel
+error channel.missing Main.net.channel
 error bacnet.taken other.objectID
 warning can.overlap oil.parameterMap
 warning modbus.type map.coilMap
