@@ -5,6 +5,8 @@
 #include "corvex/values/ModbusCommandInfo.h"
 #include "corvex/values/StringInfo.h"
 
+#include "support/CodeShape.h"
+
 #include <QColor>
 
 #include <gtest/gtest.h>
@@ -87,6 +89,35 @@ TEST(GeneralDataInfo, refusedTexts)
     EXPECT_EQ(constant(Info::IntegerData, u"abc"_s).toString(), u"0204");
 }
 
+namespace {
+
+//! Whatever the value is, there is code only of types that go together, and of known shapes.
+void writesNothingForeign(Info &term)
+{
+    const QStringList values{
+        u""_s,           u"alert(1)"_s, u"a.b"_s,         u"a.b(1)"_s,    u"a\"+alert(1)+\"b"_s,
+        u"1;alert(1)"_s, u"true"_s,     u"1"_s,           u"-1e5"_s,      u"00FF"_s,
+        u"#80FF0000"_s,  u"\\\""_s,     u"x\nalert(1)"_s, u"("_s,         u"random"_s,
+        u"trim"_s,       u"PI"_s,       u"this.b"_s,      u"a.b=alert"_s, u"qml_a"_s};
+    for (const QString &value : values) {
+        term.setValue(value);
+        for (int output = 0; output < 9; ++output) {
+            const QString code = term.toQmlString(Info::OutputType(output));
+            if (code.isEmpty())
+                continue;
+            EXPECT_TRUE(term.isValidValueType() && term.isValidDataType() && term.isValidValue())
+                << qPrintable(term.toString()) << " gives " << qPrintable(code);
+            // Digits stand as they are, and so does the path of a reference.
+            const bool isBare = term.valueType() == Info::CommandValue || term.dataType() == Info::HexData
+                                || term.dataType() == Info::ReferenceData;
+            EXPECT_TRUE(foreignCode(code).isEmpty() || (isBare && code == value))
+                << qPrintable(term.toString()) << " gives " << qPrintable(code);
+        }
+    }
+}
+
+} // namespace
+
 TEST(GeneralDataInfo, typesOfEachKind)
 {
     struct Kind
@@ -136,6 +167,7 @@ TEST(GeneralDataInfo, typesOfEachKind)
                           valueType < 8 && dataType < 14
                               && holds(kind.dataTypes[size_t(valueType)], dataType))
                     << kind.name << ' ' << valueType << ' ' << dataType;
+                writesNothingForeign(*kind.term);
             }
         }
     }

@@ -149,6 +149,22 @@ TEST(GeneralDataList, translatesExpressions)
         {u"<0406a><0101?>", List::MathExpression, Info::RawOutput, u""},
         {u"<0502concat><0407a><0101,><0207Ig==><0101)>", List::StringExpression, Info::RawOutput,
          u"\"\".concat( qmlViewer.getVariableValue(\"a\") , \"\\\"\" )"},
+        // What would run: a text of wrong types, a value that is called, the end of a text behind a "/" that
+        // begins a regular expression. A condition that is made a text or a color always holds.
+        {u"0707alert(1)", List::GeneralExpression, Info::RawOutput, u""},
+        {u"<0307a.constructor.constructor><0101(><0207YQ==><0101)><0101(><0101)>", List::StringExpression,
+         Info::StringOutput, u""},
+        {u"<0101(><0407a><0101)><0101(><02041><0101)>", List::GeneralExpression, Info::RawOutput, u""},
+        {u"<0307a.constructor><0403b>", List::StringExpression, Info::RawOutput, u""},
+        {u"<0101/><0207eC8uYShhbGVydCgxKSkvLw==>", List::StringExpression, Info::RawOutput, u""},
+        {u"<0406a><0101*><0101/><0207YQ==>", List::MathExpression, Info::RawOutput, u""},
+        {u"<0502random><0101/><02042>", List::MathExpression, Info::RawOutput, u"Math.random() / 2"},
+        {u"<0209BEEF><0101==><02041>", List::BoolExpression, Info::RawOutput, u""},
+        {u"<0403hot><0101?><0208FFC62828><0101:><0208FFC3CDD6>", List::GeneralExpression, Info::ColorOutput,
+         u""},
+        {u"<0403hot><0101?><02041><0101:><02042>", List::GeneralExpression, Info::StringOutput, u""},
+        {u"<0403hot><0101?><02041><0101:><02042>", List::GeneralExpression, Info::RawOutput,
+         u"qmlViewer.getVariableValue(\"hot\") ? 1 : 2"},
         {u"0406a", List::InfoType(5), Info::RawOutput, u""},
         {u"0406a", List::InfoType(-1), Info::RawOutput, u""},
         {u"0406a", List::GeneralExpression, Info::NoOutput, u""},
@@ -190,11 +206,52 @@ TEST(GeneralDataList, translatesAssignments)
         {u"<0304a><02041>", Info::RawOutput, u""},
         {u"<0406a><02041><0406b><0308c.color>", Info::StringOutput, u""},
         {u"<0406a><02041>", Info::NoOutput, u""},
+        {u"<0404a><02041>", Info::RawOutput, u""},
+        {u"<0303a.b><0707alert(1)>", Info::RawOutput, u""},
+        {u"<030Ba.b><02031>", Info::RawOutput, u""},
     };
     for (const Case &c : cases) {
         EXPECT_EQ(list(QString::fromUtf16(c.text)).toQmlString(c.output, List::AssignExpression),
                   QString::fromUtf16(c.code))
             << qPrintable(QString::fromUtf16(c.text));
+    }
+}
+
+TEST(GeneralDataList, knowsWhatIsIncomplete)
+{
+    const struct
+    {
+        const char16_t *text;
+        List::InfoType type;
+        const char16_t *obstacle;
+    } cases[]{
+        {u"<0502max><0406a><0101,><0101(><0101-><0205PI><0101)><0101)><0101%><0502random>",
+         List::MathExpression, u""},
+        {u"<0502trim><0101)><0101+><0403b><0101?><0403c><0101?><0207><0101:><0207><0101:><0207>",
+         List::StringExpression, u""},
+        {u"<0101~><0406a>", List::MathExpression, u""},
+        {u"<0406a><0101&&><0101(><0403b>", List::BoolExpression, u"The expression is incomplete."},
+        {u"<0406a><0101+>", List::MathExpression, u"The expression is incomplete."},
+        {u"<0403a><0101?><02041>", List::MathExpression, u"The expression is incomplete."},
+        {u"<0406><0101+><02041>", List::MathExpression, u"The expression is incomplete."},
+        {u"<0406a><02041><0406b>", List::AssignExpression, u"The expression is incomplete."},
+        {u"<0406a><0406b>", List::MathExpression,
+         u"Term 2 of the expression, \"0406b\", cannot follow what is before it."},
+        {u"<0406a><0101)>", List::MathExpression, u"Term 2"},
+        {u"<0101(><0101)>", List::MathExpression, u"Term 2"},
+        {u"<0406a><0101,><0406b>", List::MathExpression, u"Term 2"},
+        {u"<0101(><0403a><0101?><02041><0101)><0101:><02042>", List::MathExpression, u"Term 5"},
+        {u"<0403a><0101~>", List::MathExpression, u"Term 2"},
+        {u"<0502sqrt><0101(>", List::GeneralExpression, u"Term 1"},
+        {u"<0406a><0707alert(1)>", List::GeneralExpression,
+         u"Term 2 of the expression, \"0707alert(1)\", cannot be used in it."},
+    };
+    for (const auto &[text, type, obstacle] : cases) {
+        const List terms = list(QString::fromUtf16(text));
+        const QString expected = QString::fromUtf16(obstacle);
+        const QString found = terms.obstacle(type);
+        EXPECT_EQ(expected.isEmpty() ? found : found.left(expected.size()), expected)
+            << qPrintable(terms.toString());
     }
 }
 

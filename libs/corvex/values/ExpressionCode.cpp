@@ -160,7 +160,7 @@ std::span<const Row> rowsOf(ExpressionRules::Kind kind)
 
 const Row *findRow(ExpressionRules::Kind kind, const Info &term, Info::OutputType output)
 {
-    if (output > Info::NoOutput || term.dataType() > Info::CommandData)
+    if (output > Info::NoOutput)
         return nullptr;
     const std::span<const Row> rows = rowsOf(kind);
     const auto row = std::find_if(rows.begin(), rows.end(), [&](const Row &candidate) {
@@ -251,18 +251,22 @@ bool needsConversion(const Info &target, const Info &source)
 
 } // namespace
 
-bool ExpressionCode::appendTerm(QString &code, Kind kind, const Info &term, Info::OutputType output)
+bool ExpressionCode::appendAllowed(QString &code, Kind kind, const Info &term, Info::OutputType output)
 {
-    const bool strict = kind == Kind::Math || kind == Kind::String;
-    const bool allowed =
-        strict ? ExpressionRules::allows(kind, term)
-               : ExpressionRules::allowsValueType(kind, term) && ExpressionRules::allowsValue(kind, term);
-    const Row *row = allowed ? findRow(kind, term, output) : nullptr;
+    const Row *row = findRow(kind, term, output);
     if (!row)
         return false;
     const qsizetype size = code.size();
     appendRow(code, *row, term.value());
     return code.size() > size;
+}
+
+bool ExpressionCode::appendTerm(QString &code, Kind kind, const Info &term, Info::OutputType output)
+{
+    const bool needsTypes = kind == Kind::Math || kind == Kind::String;
+    const bool allowed =
+        needsTypes ? ExpressionRules::allows(kind, term) : ExpressionRules::allowsUntyped(kind, term);
+    return allowed && appendAllowed(code, kind, term, output);
 }
 
 bool ExpressionCode::appendSelector(QString &code, Kind kind, const Info &term)
@@ -275,11 +279,8 @@ bool ExpressionCode::appendAssignment(QString &code, const Info &target, const I
                                       Info::OutputType output)
 {
     QString sourceCode;
-    // The digits of a hexadecimal constant are no number in code.
-    const bool isValue =
-        source.valueType() != Info::ConstantValue || ExpressionRules::allowsDataType(Kind::Assign, source);
-    if (target.dataType() > Info::CommandData || !ExpressionRules::allowsValue(Kind::Assign, target)
-        || !isValue || !appendTerm(sourceCode, Kind::Assign, source, output))
+    if (!ExpressionRules::allowsUntyped(Kind::Assign, target)
+        || !appendTerm(sourceCode, Kind::Assign, source, output))
         return false;
     const QString &path = target.value();
     const QString type = QString::number(int(Info::variableType(target.dataType())));

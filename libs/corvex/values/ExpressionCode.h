@@ -12,6 +12,9 @@ class ExpressionCode
 public:
     using Kind = ExpressionRules::Kind;
 
+    //! For a term that is known to be allowed.
+    static bool appendAllowed(QString &code, Kind kind, const GeneralDataInfo &term,
+                              GeneralDataInfo::OutputType output);
     static bool appendTerm(QString &code, Kind kind, const GeneralDataInfo &term,
                            GeneralDataInfo::OutputType output);
     //! The term before a "?": it must be boolean and stands without conversion.

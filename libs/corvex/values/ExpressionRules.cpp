@@ -204,10 +204,14 @@ bool ExpressionRules::allowsValue(Kind kind, const Info &term)
     return false;
 }
 
+bool ExpressionRules::allowsUntyped(Kind kind, const Info &term)
+{
+    return allowsValueType(kind, term) && allowsDataType(kind, term) && allowsValue(kind, term);
+}
+
 bool ExpressionRules::allows(Kind kind, const Info &term)
 {
-    return term.valueType() != Info::NoValue && term.dataType() != Info::NoData && allowsValueType(kind, term)
-           && allowsDataType(kind, term) && allowsValue(kind, term);
+    return term.valueType() != Info::NoValue && term.dataType() != Info::NoData && allowsUntyped(kind, term);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -16,6 +16,8 @@ public:
     static bool allowsValueType(Kind kind, const GeneralDataInfo &term);
     static bool allowsDataType(Kind kind, const GeneralDataInfo &term);
     static bool allowsValue(Kind kind, const GeneralDataInfo &term);
+    //! All three. A term without a value or without a data type passes where the kind knows such terms.
+    static bool allowsUntyped(Kind kind, const GeneralDataInfo &term);
     //! All three, and both types are set.
     static bool allows(Kind kind, const GeneralDataInfo &term);
 

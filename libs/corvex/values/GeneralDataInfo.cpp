@@ -195,7 +195,9 @@ bool GeneralDataInfo::isValid(bool allowEmpty) const
 QString GeneralDataInfo::toQmlString(const OutputType &output) const
 {
     QString code;
-    ExpressionCode::appendTerm(code, Kind::General, *this, output);
+    // Kinds without a translation of their own have rules of their own.
+    if (isValidValueType() && isValidDataType() && isValidValue())
+        ExpressionCode::appendAllowed(code, Kind::General, *this, output);
     return code;
 }
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/values/GeneralDataList.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/values/ExpressionCode.h"
-#include "corvex/values/ExpressionRules.h"
+#include "corvex/values/ExpressionGrammar.h"
 
 #include <algorithm>
 
@@ -28,21 +29,38 @@ bool allTerms(const QList<GeneralDataInfo> &terms, GeneralDataList::InfoType inf
            });
 }
 
-bool isSelection(const GeneralDataInfo &term)
+//! What a converted condition gives is not the truth of what it was: "false" as a text is true.
+bool canSelect(Kind kind, GeneralDataInfo::OutputType output)
 {
-    return term.valueType() == GeneralDataInfo::OperatorValue && term.value() == u'?';
+    const bool isConverted =
+        output == GeneralDataInfo::StringOutput || output == GeneralDataInfo::ColorOutput;
+    return kind == Kind::Math || kind == Kind::String || !isConverted;
+}
+
+/*! Whether the code of a term means something else behind that of the terms before: what begins with a
+    parenthesis calls the operand before it, and a division sign without one begins a regular expression,
+   which may end inside of a text constant and lets the rest of the text run. */
+bool isMisread(QStringView code, bool followsOperand)
+{
+    return followsOperand ? code.startsWith(u'(') : code == u'/';
 }
 
 bool appendExpression(QString &code, const QList<GeneralDataInfo> &terms, Kind kind,
                       GeneralDataInfo::OutputType output)
 {
-    const bool selects = kind == Kind::Math || kind == Kind::String;
+    const bool selectorsAreBoolean = kind == Kind::Math || kind == Kind::String;
     for (qsizetype i = 0; i < terms.size(); ++i) {
         if (i > 0)
             code += u' ';
-        const bool selector = selects && i + 1 < terms.size() && isSelection(terms[i + 1]);
-        if (!(selector ? ExpressionCode::appendSelector(code, kind, terms[i])
-                       : ExpressionCode::appendTerm(code, kind, terms[i], output)))
+        const qsizetype begin = code.size();
+        const bool selects = i + 1 < terms.size() && ExpressionGrammar::isOperator(terms[i + 1], u'?');
+        if (selects && !canSelect(kind, output))
+            return false;
+        if (!(selects && selectorsAreBoolean ? ExpressionCode::appendSelector(code, kind, terms[i])
+                                             : ExpressionCode::appendTerm(code, kind, terms[i], output)))
+            return false;
+        const bool followsOperand = i > 0 && ExpressionGrammar::endsOperand(kind, terms[i - 1]);
+        if (isMisread(QStringView(code).sliced(begin), followsOperand))
             return false;
     }
     return true;
@@ -59,6 +77,20 @@ bool appendAssignments(QString &code, const QList<GeneralDataInfo> &terms, Gener
             return false;
     }
     return true;
+}
+
+QString translated(const char *message)
+{
+    return Common::LocalizationHelper::coreString(QString::fromLatin1(message));
+}
+
+//! "Term 2, "0101+", …"
+QString aboutTerm(const char *message, const QList<GeneralDataInfo> &terms, qsizetype index)
+{
+    constexpr qsizetype longest = 60;
+    const QString text = terms[index].toString();
+    return translated(message).arg(QString::number(index + 1),
+                                   text.size() > longest ? text.first(longest) + u'\u2026' : text);
 }
 
 //! Calls \a change on every term and counts how often it says that it did change it.
@@ -156,6 +188,37 @@ QString GeneralDataList::toQmlString(const OutputType &output, const InfoType &i
                                 ? appendAssignments(code, m_records, output)
                                 : appendExpression(code, m_records, Kind(infoType), output);
     return translated ? code : QString();
+}
+
+bool GeneralDataList::isComplete(InfoType infoType) const
+{
+    return isInfoType(infoType)
+           && (infoType == AssignExpression
+                   ? m_records.size() % 2 == 0
+                   : ExpressionGrammar::firstMisplaced(Kind(infoType), m_records) < 0);
+}
+
+QString GeneralDataList::obstacle(InfoType infoType) const
+{
+    const char *const incomplete = "The expression is incomplete.";
+    for (qsizetype i = 0; i < m_records.size(); ++i) {
+        const GeneralDataInfo &term = m_records[i];
+        if (!isInfoType(infoType) || !ExpressionRules::allowsUntyped(Kind(infoType), term)) {
+            const bool lacksName = term.value().isEmpty() && term.valueType() != GeneralDataInfo::NoValue;
+            return lacksName
+                       ? translated(incomplete)
+                       : aboutTerm("Term %1 of the expression, \"%2\", cannot be used in it.", m_records, i);
+        }
+    }
+    if (isComplete(infoType))
+        return {};
+    const qsizetype misplaced = infoType == AssignExpression
+                                    ? m_records.size()
+                                    : ExpressionGrammar::firstMisplaced(Kind(infoType), m_records);
+    return misplaced == m_records.size()
+               ? translated(incomplete)
+               : aboutTerm("Term %1 of the expression, \"%2\", cannot follow what is before it.", m_records,
+                           misplaced);
 }
 
 bool GeneralDataList::containsObject(const QString &name, NameKind kind) const

@@ -51,9 +51,15 @@ public:
 
     /*!
         The whole list as JavaScript: one expression, or for AssignExpression one statement a line. Empty
-        when any term cannot be translated to \a output.
+        when any term cannot be translated to \a output, when the terms in a row would be read as something
+        else, and when a condition before "?" would have to become a text or a colour.
     */
     QString toQmlString(const OutputType &output, const InfoType &infoType) const;
+    //! Whether the terms follow each other as those of one complete expression, or of assignments.
+    bool isComplete(InfoType infoType) const;
+    //! Why the list is no expression of that kind, for the user: the first term that cannot be used, else
+    //! the first that cannot stand where it does. Empty when there is nothing of that.
+    QString obstacle(InfoType infoType) const;
 
     // The operations of GeneralDataInfo on every term; the numbers returned are those of the terms changed.
     bool containsObject(const QString &name, NameKind kind = GeneralDataInfo::AnyName) const;

@@ -15,6 +15,8 @@ public:
     //! Whether generated code can hold the path as it stands: segments of letters, digits and "_", none
     //! empty, none after the first beginning with a digit.
     static bool isValid(QStringView path);
+    //! Whether it is a valid path of one segment.
+    static bool isSegment(QStringView name) { return isValid(name) && !name.contains(u'.'); }
     //! What stands before the first ".", the whole path when there is none.
     static QStringView firstSegment(QStringView path);
     //! What stands behind the last ".", the whole path when there is none.
