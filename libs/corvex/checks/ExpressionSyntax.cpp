@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionSyntax.h"
 
+#include "corvex/checks/NestingDepth.h"
+
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QRegularExpression>
@@ -37,6 +39,31 @@ Place within(Place place, Place end)
     return place.line > end.line ? end : place;
 }
 
+//! An error where the code is nested deeper than any compiler has to follow it.
+ExpressionSyntax::Result judgeNesting(QStringView code, int linesBefore = 0)
+{
+    const qsizetype place = findTooDeepNesting(code);
+    if (place < 0)
+        return {};
+    const auto [line, column] = endOf(code.first(place));
+    return {false, line + linesBefore, column,
+            u"It is nested more than %1 levels deep."_s.arg(deepestNesting)};
+}
+
+//! Looks into the lines that are long enough to go that deep; an expression stands on one.
+ExpressionSyntax::Result judgeNestingOfLines(QStringView document)
+{
+    int number = 0;
+    for (const QStringView line : document.tokenize(u'\n')) {
+        if (const auto result =
+                line.size() > deepestNesting ? judgeNesting(line, number) : ExpressionSyntax::Result();
+            !result.valid)
+            return result;
+        ++number;
+    }
+    return {};
+}
+
 } // namespace
 
 ExpressionSyntax::ExpressionSyntax()
@@ -62,6 +89,8 @@ ExpressionSyntax::Result ExpressionSyntax::checkStatements(const QString &code)
 ExpressionSyntax::Result ExpressionSyntax::checkDocument(const QString &qml)
 {
     // Without its imports a document that can be read has one error, an unknown type: reading comes first.
+    if (const Result nesting = judgeNestingOfLines(qml); !nesting.valid)
+        return nesting;
     static const QRegularExpression imports(u"^import [^\n]*"_s, QRegularExpression::MultilineOption);
     QQmlComponent component(m_engine.get());
     component.setData(QString(qml).remove(imports).toUtf8(), QUrl(u"qrc:/document.qml"_s));
@@ -89,6 +118,8 @@ bool ExpressionSyntax::isOfUnknownType(const QString &error)
 // end between quotes.
 ExpressionSyntax::Result ExpressionSyntax::compile(const QString &code, bool inParentheses)
 {
+    if (const Result nesting = judgeNesting(code); !nesting.valid)
+        return nesting;
     const QString block = inParentheses ? u"(\n%1\n)"_s.arg(code) : code;
     const int linesBefore = inParentheses ? 2 : 1;
     const Place end = endOf(code);

@@ -29,6 +29,8 @@ public:
     ~ExpressionSyntax();
     Q_DISABLE_COPY_MOVE(ExpressionSyntax)
 
+    // What is nested deeper than deepestNesting is refused, and no compiler asked.
+
     //! One expression: what can stand between parentheses.
     Result checkExpression(const QString &code);
     //! Any number of statements, none included.
