@@ -4,7 +4,6 @@
 #include "corvex/core/PropertyValidators.h"
 
 #include "elements/Rows.h"
-#include "elements/Statements.h"
 
 using namespace Halvane::Corvex::Designer;
 
@@ -14,7 +13,7 @@ bool AlarmOutput::initializeProperties()
 {
     static const PropertyTable table{
         channelRow().rank(1).validator(&PropertyValidators::channelValidator),
-        initialValueRow("VerticalBooleanExpressionEditor").rank(2).qml(&conditionToQml),
+        initialConditionRow().rank(2),
     };
     return SwitchedOutput::initializeProperties() && addProperties(table);
 }

@@ -18,7 +18,7 @@ bool Button::initializeProperties()
         expressionRow("pressed", "When Pressed", "PropertyChangesEditor")
             .rank(4)
             .flags(ordinary)
-            .validator(&assignmentsValidator)
+            .validator(&codeValidator<GeneralDataList::AssignExpression>)
             .qml(&assignmentsToQml),
     };
     return FunctionElement::initializeProperties() && addProperties(table);

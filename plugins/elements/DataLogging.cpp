@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "elements/DataLogging.h"
 
-#include "corvex/core/DesignerObject.h"
 #include "corvex/core/QmlText.h"
 #include "corvex/core/properties/LinkProperty.h"
+#include "corvex/variables/LogVariable.h"
 
 #include "elements/Rows.h"
 #include "elements/Statements.h"
@@ -20,7 +20,7 @@ namespace {
 QString logToQml(const DesignerProperty *property, int indent)
 {
     QStringList lines{linkNameToQml(property, indent)};
-    if (const DesignerObject *log = static_cast<const LinkProperty *>(property)->connectLink()) {
+    if (const auto *log = static_cast<const LinkProperty *>(property)->connectLinkTo<LogVariable>()) {
         for (const QString &id : {QStringLiteral("autoStart"), QStringLiteral("interval"),
                                   QStringLiteral("maxDataPoints"), QStringLiteral("startDelay")}) {
             lines.append(log->getProperty(id)->toQml(indent));

@@ -4,7 +4,6 @@
 #include "corvex/core/PropertyValidators.h"
 
 #include "elements/Rows.h"
-#include "elements/Statements.h"
 
 using namespace Halvane::Corvex::Designer;
 
@@ -17,7 +16,7 @@ bool DigitalInputOutput::initializeProperties()
             .rank(1)
             .editor("DigitalChannelEditor")
             .validator(&PropertyValidators::digitalChannelValidator),
-        initialValueRow("VerticalBooleanExpressionEditor").rank(2).qml(&conditionToQml),
+        initialConditionRow().rank(2),
     };
     return SwitchedOutput::initializeProperties() && addProperties(table);
 }

@@ -25,10 +25,10 @@ QString logicToQml(const DesignerProperty *property, int indent)
     QStringList rules;
     for (const TextPair &rule : PairList(property->valueString())) {
         const QStringList statements = assignments(GeneralDataList(rule.second));
-        const QString condition = rule.first.isEmpty() ? u"true"_s
-                                                       : GeneralDataList(rule.first)
-                                                             .toQmlString(GeneralDataInfo::RawOutput,
-                                                                          GeneralDataList::BoolExpression);
+        const QString condition = rule.first.isEmpty()
+                                      ? u"true"_s
+                                      : completeCode(GeneralDataList(rule.first), GeneralDataInfo::RawOutput,
+                                                     GeneralDataList::BoolExpression);
         if (statements.isEmpty() || condition.isEmpty()) {
             continue;
         }

@@ -20,7 +20,9 @@ QString actionsToQml(const DesignerProperty *property, int indent)
 {
     QStringList actions;
     for (const QString &name : property->valueString().split(u", "_s, Qt::SkipEmptyParts)) {
-        actions.append(QmlText::reference(name));
+        if (const QString id = QmlText::reference(name); !id.isEmpty()) {
+            actions.append(id);
+        }
     }
     return QmlText::line(indent, u"actions"_s, QmlText::array(actions));
 }
@@ -38,7 +40,7 @@ bool PropertyTrigger::initializeProperties()
         expressionRow("condition", "Condition", "VerticalBooleanExpressionEditor")
             .rank(2)
             .flags(ordinary)
-            .validator(&codeValidator)
+            .validator(&codeValidator<GeneralDataList::BoolExpression>)
             .qml(&conditionToQml),
         row<StringProperty>("actionScheduler", "Actions", QString())
             .rank(3)

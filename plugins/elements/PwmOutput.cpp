@@ -4,7 +4,6 @@
 #include "corvex/core/PropertyValidators.h"
 
 #include "elements/Rows.h"
-#include "elements/Statements.h"
 
 using namespace Halvane::Corvex::Designer;
 
@@ -14,7 +13,7 @@ bool PwmOutput::initializeProperties()
 {
     static const PropertyTable table{
         channelRow().rank(1).validator(&PropertyValidators::pwmChannelValidator),
-        initialValueRow("VerticalMathExpressionEditor").rank(2).qml(&mathToQml),
+        initialNumberRow().rank(2),
     };
     return AnalogOutput::initializeProperties() && addProperties(table);
 }

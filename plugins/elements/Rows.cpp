@@ -80,9 +80,20 @@ PropertyRow channelRow()
         .allowInvalid();
 }
 
-PropertyRow initialValueRow(const char *editor)
+PropertyRow initialConditionRow()
 {
-    return expressionRow("initValue", "Initial Value", editor).flags(ordinary).validator(&codeValidator);
+    return expressionRow("initValue", "Initial Value", "VerticalBooleanExpressionEditor")
+        .flags(ordinary)
+        .validator(&codeValidator<GeneralDataList::BoolExpression>)
+        .qml(&conditionToQml);
+}
+
+PropertyRow initialNumberRow()
+{
+    return expressionRow("initValue", "Initial Value", "VerticalMathExpressionEditor")
+        .flags(ordinary)
+        .validator(&codeValidator<GeneralDataList::MathExpression>)
+        .qml(&mathToQml);
 }
 
 } // namespace Halvane::Corvex::Elements

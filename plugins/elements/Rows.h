@@ -32,7 +32,8 @@ Designer::PropertyRow visualElementRow(const char *id, const char *title);
 Designer::PropertyRow stateRow(const char *id, const char *title);
 //! The number of a device channel, from 1.
 Designer::PropertyRow channelRow();
-//! The value that an output has when the screen starts: an expression.
-Designer::PropertyRow initialValueRow(const char *editor);
+//! The value that an output has when the screen starts: a condition or a number.
+Designer::PropertyRow initialConditionRow();
+Designer::PropertyRow initialNumberRow();
 
 } // namespace Halvane::Corvex::Elements

@@ -8,6 +8,7 @@
 #include "corvex/project/Screen.h"
 #include "corvex/values/GeneralDataList.h"
 #include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/values/ObjectPath.h"
 #include "corvex/values/PropertyList.h"
 #include "corvex/values/UpdateObjectList.h"
 
@@ -20,12 +21,12 @@ namespace Halvane::Corvex::Elements {
 
 namespace {
 
-//! "qml_a.x = 1;" of the line "x: 1"; empty for a line that opens a block.
+//! "qml_a.x = 1;" of the line "x: 1"; empty for a line of another form, such as one that opens a block.
 QString assignment(const QString &object, QStringView qmlLine)
 {
     const QStringView line = qmlLine.trimmed();
     const qsizetype colon = line.indexOf(u": "_s);
-    if (colon < 0 || line.endsWith(u'{') || line.endsWith(u'}')) {
+    if (colon < 0 || !ObjectPath::isValid(line.first(colon)) || line.endsWith(u'{') || line.endsWith(u'}')) {
         return {};
     }
     return u"%1.%2 = %3;"_s.arg(object, line.first(colon), line.sliced(colon + 2));
@@ -39,11 +40,26 @@ QString handlerName(const DesignerProperty *property)
 QString expressionToQml(const DesignerProperty *property, int indent, GeneralDataInfo::OutputType output,
                         GeneralDataList::InfoType kind)
 {
-    const QString code = expressionOf(*property).toQmlString(output, kind);
+    const QString code = completeCode(expressionOf(*property), output, kind);
     return code.isEmpty() ? QString() : QmlText::line(indent, property->id(), code);
 }
 
 } // namespace
+
+QString completeCode(const GeneralDataList &expression, GeneralDataInfo::OutputType output,
+                     GeneralDataList::InfoType kind)
+{
+    return expression.isComplete(kind) ? expression.toQmlString(output, kind) : QString();
+}
+
+QString operandCode(const GeneralDataInfo &term)
+{
+    const bool isOperand = term.valueType() == GeneralDataInfo::ObjectValue
+                           || term.valueType() == GeneralDataInfo::VariableValue
+                           || (term.valueType() == GeneralDataInfo::ConstantValue
+                               && term.dataType() != GeneralDataInfo::HexData);
+    return isOperand ? term.toQmlString(GeneralDataInfo::RawOutput) : QString();
+}
 
 QStringList assignments(const GeneralDataList &expression)
 {
@@ -65,7 +81,8 @@ QStringList assignments(const DesignerObject *owner, const QString &name,
                         const QMap<QString, QString> &values)
 {
     const Element *element = owner->screen() ? owner->screen()->getElement(name) : nullptr;
-    if (!element) {
+    const QString object = element ? element->getQmlIdName() : QString();
+    if (object.isEmpty()) {
         return {};
     }
     // A new object of the class writes the values as the element itself would.
@@ -78,12 +95,13 @@ QStringList assignments(const DesignerObject *owner, const QString &name,
     QStringList statements;
     for (const auto &[id, value] : values.asKeyValueRange()) {
         const SharedProperty property = model->getProperty(id);
-        if (!property || !property->canRead(value) || !model->changePropertyValue(property, value)) {
+        if (!property || property == model->idProperty() || !property->canRead(value)
+            || !model->changePropertyValue(property, value)) {
             continue;
         }
         const QString qml = property->toQml(0);
         for (const QStringView line : QStringView(qml).split(u'\n')) {
-            const QString statement = assignment(element->getQmlIdName(), line);
+            const QString statement = assignment(object, line);
             if (!statement.isEmpty()) {
                 statements.append(statement);
             }
@@ -148,7 +166,7 @@ QString termsToQml(const DesignerProperty *property, int indent)
 {
     QStringList codes;
     for (const GeneralDataInfo &term : expressionOf(*property)) {
-        const QString code = term.toQmlString(GeneralDataInfo::RawOutput);
+        const QString code = operandCode(term);
         if (!code.isEmpty()) {
             codes.append(code);
         }

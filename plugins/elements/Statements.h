@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/values/GeneralDataList.h"
+
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -8,18 +10,24 @@
 namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class DesignerProperty;
-class GeneralDataList;
 } // namespace Halvane::Corvex::Designer
 
 //! JavaScript that elements run when something happens to them.
 namespace Halvane::Corvex::Elements {
 
+//! Empty when the expression is not complete or cannot be translated.
+QString completeCode(const Designer::GeneralDataList &expression,
+                     Designer::GeneralDataInfo::OutputType output, Designer::GeneralDataList::InfoType kind);
+/*! Empty for a term that is no value by itself: an operator, a function, and hexadecimal digits, which a
+   script would take for another number or a name. */
+QString operandCode(const Designer::GeneralDataInfo &term);
+
 //! One statement for each pair of an expression of kind assign; pairs that cannot be translated are left out.
 QStringList assignments(const Designer::GeneralDataList &expression);
 
 /*! Statements that give the element \a name, looked up on the screen of \a owner, the values of a map from
-   property id to value text. A property that the element does not have, a text that is no value of it, and a
-   value that QML writes as a block of its own give no statement. */
+   property id to value text. A property that the element does not have, a text that is no value of it, the
+   identifier, and a value that QML writes as a block of its own give no statement. */
 QStringList assignments(const Designer::DesignerObject *owner, const QString &name,
                         const QMap<QString, QString> &values);
 

@@ -10,6 +10,7 @@
 #include "corvex/values/PairList.h"
 
 #include "elements/Rows.h"
+#include "elements/Statements.h"
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
@@ -23,17 +24,13 @@ QString translated(const char *message)
     return Common::LocalizationHelper::coreString(QString::fromLatin1(message));
 }
 
-bool isTranslatable(const GeneralDataList &expression, GeneralDataList::InfoType kind)
-{
-    return expression.isEmpty() || !expression.toQmlString(GeneralDataInfo::RawOutput, kind).isEmpty();
-}
-
 //! An empty text is no expression and no fault.
 bool isTranslatable(const QString &text, GeneralDataList::InfoType kind)
 {
     bool ok = true;
     const GeneralDataList expression(text, &ok);
-    return ok && isTranslatable(expression, kind);
+    return ok
+           && (expression.isEmpty() || !completeCode(expression, GeneralDataInfo::RawOutput, kind).isEmpty());
 }
 
 } // namespace
@@ -45,7 +42,7 @@ bool linkTargetValidator(const DesignerProperty *property, QString &error)
         error = translated("The link is not set.");
         return false;
     }
-    if (link->parentObject()->project() && !link->connectLink()) {
+    if (link->parentObject()->project() && !link->namesake()) {
         error = translated("Cannot find \"%1\" in the project.").arg(link->value().objectId());
         return false;
     }
@@ -69,32 +66,42 @@ bool logicValidator(const DesignerProperty *property, QString &error)
     return true;
 }
 
-bool acceptExpression(bool isComplete, QString &error)
+bool acceptExpression(const GeneralDataList &expression, GeneralDataList::InfoType kind, bool hasCode,
+                      QString &error)
 {
-    if (!isComplete) {
-        error = translated("The expression is incomplete.");
+    if (expression.isEmpty() || hasCode) {
+        return true;
     }
-    return isComplete;
+    const QString obstacle = expression.obstacle(kind);
+    error = obstacle.isEmpty() ? translated("The terms of the expression do not go together.") : obstacle;
+    return false;
 }
 
+template<GeneralDataList::InfoType kind>
 bool codeValidator(const DesignerProperty *property, QString &error)
 {
-    return acceptExpression(expressionOf(*property).isEmpty() || !property->toQml(0).isEmpty(), error);
+    const GeneralDataList &expression = expressionOf(*property);
+    const QString code = completeCode(expression, GeneralDataInfo::RawOutput, kind);
+    return acceptExpression(expression, kind, !code.isEmpty(), error);
 }
 
-bool assignmentsValidator(const DesignerProperty *property, QString &error)
-{
-    return acceptExpression(isTranslatable(expressionOf(*property), GeneralDataList::AssignExpression),
-                            error);
-}
+template bool codeValidator<GeneralDataList::AssignExpression>(const DesignerProperty *, QString &);
+template bool codeValidator<GeneralDataList::BoolExpression>(const DesignerProperty *, QString &);
+template bool codeValidator<GeneralDataList::MathExpression>(const DesignerProperty *, QString &);
 
 bool termsValidator(const DesignerProperty *property, QString &error)
 {
-    const GeneralDataList &terms = expressionOf(*property);
-    const bool isComplete = std::all_of(terms.begin(), terms.end(), [](const GeneralDataInfo &term) {
-        return !term.toQmlString(GeneralDataInfo::RawOutput).isEmpty();
-    });
-    return acceptExpression(isComplete, error);
+    int number = 1;
+    for (const GeneralDataInfo &term : expressionOf(*property)) {
+        if (operandCode(term).isEmpty()) {
+            error = translated("Value %1, \"%2\", is no constant, variable or property that a script can "
+                               "read.")
+                        .arg(QString::number(number), term.toString());
+            return false;
+        }
+        ++number;
+    }
+    return true;
 }
 
 bool actionsValidator(const DesignerProperty *property, QString &error)

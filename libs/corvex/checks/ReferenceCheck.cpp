@@ -45,7 +45,7 @@ void ReferenceCheck::look(const DesignerProperty &property)
     if (text.isEmpty()) {
         return;
     }
-    checkNames(property, form, text);
+    checkNames(property, text);
     if (form == ReferenceForm::States) {
         for (const UpdateObjectInfo &update : UpdateObjectList(text)) {
             for (const PropertyInfo &info : update.propertyValues()) {
@@ -66,12 +66,11 @@ void ReferenceCheck::checkLink(const LinkProperty &link)
     }
 }
 
-void ReferenceCheck::checkNames(const DesignerProperty &property, ReferenceForm::Form form,
-                                const QString &text)
+void ReferenceCheck::checkNames(const DesignerProperty &property, const QString &text)
 {
     const Screen *screen = property.parentObject()->screen();
     QSet<QString> reported;
-    for (const Mention &mention : ReferenceForm::mentions(form, text)) {
+    for (const Mention &mention : ReferenceForm::mentions(property, text)) {
         if (isThere(mention, screen) || reported.contains(mention.path)) {
             continue;
         }

@@ -28,7 +28,7 @@ public:
 
 private:
     void checkLink(const LinkProperty &link);
-    void checkNames(const DesignerProperty &property, ReferenceForm::Form form, const QString &text);
+    void checkNames(const DesignerProperty &property, const QString &text);
     void checkValue(const DesignerProperty &property, const QString &elementName, const QString &id,
                     const QString &value);
     bool isThere(const Mention &mention, const Screen *screen) const;

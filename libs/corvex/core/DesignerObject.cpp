@@ -196,7 +196,7 @@ void DesignerObject::setIdFlag(PropertyFlag flag, bool on)
 
 QString DesignerObject::getQmlIdName() const
 {
-    return u"qml_%1"_s.arg(getIdName());
+    return QmlText::reference(getIdName());
 }
 
 bool DesignerObject::isUnique(const DesignerObject *other) const

@@ -117,7 +117,7 @@ public:
     IdentifierInfo getIdInfo() const;
     bool setIdInfo(const IdentifierInfo &info);
     void setIdFlag(PropertyFlag flag, bool on);
-    //! "qml_" and the name: the id that QML knows the object by.
+    //! "qml_" and the name: the id that QML knows the object by. Empty for a name that is no identifier.
     QString getQmlIdName() const;
     //! Whether no other object where this one lives bears the name of \a other.
     bool isUnique(const DesignerObject *other) const;

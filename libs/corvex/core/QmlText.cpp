@@ -2,6 +2,7 @@
 #include "corvex/core/QmlText.h"
 
 #include "corvex/common/TextHelper.h"
+#include "corvex/values/ObjectPath.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,7 +28,7 @@ QString quoted(const QString &text)
 
 QString reference(const QString &name)
 {
-    return u"qml_"_s + name;
+    return name.isEmpty() || ObjectPath::isSegment(name) ? u"qml_"_s + name : QString();
 }
 
 QString array(const QStringList &values)

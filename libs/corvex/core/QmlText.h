@@ -12,7 +12,8 @@ QString tabs(int indent);
 QString line(int indent, const QString &id, const QString &value);
 //! The text between double quotes, made safe.
 QString quoted(const QString &text);
-//! The QML id of the object with that identifier name.
+/*! The QML id of the object with that identifier name. Empty when the name holds anything but letters, digits
+    and "_": nothing is generated that refers to such an object. */
 QString reference(const QString &name);
 //! "[a, b]"
 QString array(const QStringList &values);

@@ -198,11 +198,8 @@ void ImageResource::unlinkElement(DesignerObject *element)
 ImageResource *ImageResource::imageElement(const DesignerObject *element)
 {
     const SharedProperty source = element ? element->getProperty(u"source") : SharedProperty();
-    if (!source || source->className() != "LinkProperty"_L1 || !element->project()) {
-        return nullptr;
-    }
-    const QString name = static_cast<const LinkProperty &>(*source).value().objectId();
-    return static_cast<ImageResource *>(element->project()->imageResources()->getListItem(name));
+    const bool isLink = source && source->isKindOfClass(LinkProperty::kindName());
+    return isLink ? static_cast<const LinkProperty &>(*source).connectLinkTo<ImageResource>() : nullptr;
 }
 
 DesignerObject *ImageResource::createImageElement(const QString &name, const QSizeF &size,

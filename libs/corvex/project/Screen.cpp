@@ -10,10 +10,11 @@
 #include "corvex/core/properties/ObjectListProperty.h"
 #include "corvex/core/properties/RealProperty.h"
 #include "corvex/core/properties/SizeProperty.h"
-#include "corvex/project/Element.h"
+#include "corvex/project/GroupElement.h"
 #include "corvex/project/PercentQml.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/RuntimeTable.h"
+#include "corvex/values/ObjectPath.h"
 #include "corvex/values/ValueConversion.h"
 
 using namespace Qt::StringLiterals;
@@ -150,7 +151,21 @@ Element *Screen::getElement(const QString &name) const
             return element;
         }
     }
-    return nullptr;
+    return name.contains(u'.') ? memberAt(name) : nullptr;
+}
+
+//! The element that a path through groups leads to.
+Element *Screen::memberAt(QStringView path) const
+{
+    Element *element = getElement(ObjectPath::firstSegment(path).toString());
+    path = path.sliced(ObjectPath::firstSegment(path).size());
+    while (element && !path.isEmpty()) {
+        const QStringView name = ObjectPath::firstSegment(path.sliced(1));
+        const auto *group = kindCast<GroupElement>(element);
+        element = group ? group->getChild(name.toString()) : nullptr;
+        path = path.sliced(1 + name.size());
+    }
+    return element;
 }
 
 QString Screen::uniqueElementName(const QString &base)

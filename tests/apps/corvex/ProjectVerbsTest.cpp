@@ -217,13 +217,15 @@ TEST(CheckVerb, namesEveryProblemInOneLine)
     EXPECT_EQ(good.code, 0);
 
     const Sandbox other;
-    other.makeProject(
-        goodElements() + Sandbox::object("Gauge", "gauge1")
-            + Sandbox::object("Text", "bad\nname", Sandbox::value("size", "small"))
-            + Sandbox::object("Text", "turned", Sandbox::value("rotationBinding", "<02041><0101+>")),
-        {},
-        Sandbox::object("ImageResource", "a.png", {}, "Project")
-            + Sandbox::object("ImageResource", "../../x.png", {}, "Project"));
+    const QByteArray nested =
+        QByteArray("<0101(>").repeated(5000) + "<02041>" + QByteArray("<0101)>").repeated(5000);
+    other.makeProject(goodElements() + Sandbox::object("Gauge", "gauge1")
+                          + Sandbox::object("Text", "bad\nname", Sandbox::value("size", "small"))
+                          + Sandbox::object("Text", "late", Sandbox::value("textBinding", "0707alert(1)"))
+                          + Sandbox::object("Text", "turned", Sandbox::value("rotationBinding", nested)),
+                      {},
+                      Sandbox::object("ImageResource", "a.png", {}, "Project")
+                          + Sandbox::object("ImageResource", "../../x.png", {}, "Project"));
     const ProgramRun bad = other.run({u"check"_s, pump});
     EXPECT_EQ(bad.code, 1);
     EXPECT_EQ(bad.error, QString());
@@ -241,8 +243,9 @@ TEST(CheckVerb, namesEveryProblemInOneLine)
         u"Main.bad\\nname: id: The name is in the wrong format. Only letters, numbers and underscore are "
         u"allowed. "
         "The first character must be a letter."_s,
-        u"Main.turned: rotation: The generated code cannot be read by the device: Expected token `numeric "
-        "literal'"_s,
+        u"Main.late: textBinding: Term 1 of the expression, \"0707alert(1)\", cannot be used in it."_s,
+        u"Main.turned: rotation: The generated code cannot be read by the device: It is nested more than "
+        "1000 levels deep."_s,
     };
     EXPECT_EQ(bad.out, expected.join(u'\n') + u'\n');
     const QJsonArray problems = other.run({u"check"_s, pump, u"--json"_s}).json()[u"problems"_s].toArray();
@@ -260,7 +263,7 @@ TEST(CheckVerb, namesEveryProblemInOneLine)
 
     const QJsonValue info = other.run({u"info"_s, pump, u"--json"_s}).json();
     EXPECT_EQ(info[u"missingPlugins"_s], QJsonValue(QJsonObject{{u"Gauge"_s, QJsonArray{u"Main.gauge1"_s}}}));
-    EXPECT_EQ(info[u"classes"_s][u"Text"_s].toInt(), 3);
+    EXPECT_EQ(info[u"classes"_s][u"Text"_s].toInt(), 4);
     EXPECT_EQ(info[u"images"_s][0][u"usable"_s], QJsonValue(false));
     EXPECT_EQ(info[u"notes"_s].toArray().size(), 2);
 }
@@ -309,12 +312,14 @@ TEST(CheckVerb, followsWhatPartsSayOfEachOther)
                               "Project")
             + Sandbox::object("NumberVariable", "text", Sandbox::value("value", "12 V"), "Project"));
     const QStringList expected{
+        u"Main.check: variable: \"speed\" is of the class NumberVariable, and the link needs an object of "
+        u"the "
+        "class BooleanVariable."_s,
         u"text: value: \"12 V\" is no number that the device can hold."_s,
         u"map: coilMap: Cannot find \"gone\" in the project."_s,
         u"Main.button: pressedState: Cannot find element \"away\" in the screen."_s,
         u"Main.button: pressedState: \"small\" is no value for the property \"size\" of \"box1\"."_s,
         u"Main.button: pressedState: \"box1\" has no property \"hue\"."_s,
-        u"Main.check: variable: Cannot find \"speed\" in the project."_s,
         u"Main.value: textBinding: Cannot find \"gone\" in the project."_s,
         u"Main.element: xBinding: Cannot find element \"box1.away\" in the screen."_s,
         u"Main.screen: xBinding: Cannot find element \"Main.away\" in the screen."_s,

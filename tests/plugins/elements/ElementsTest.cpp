@@ -3,7 +3,7 @@
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/preview/PreviewSession.h"
-#include "corvex/project/Element.h"
+#include "corvex/project/GroupElement.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
@@ -11,6 +11,7 @@
 #include "corvex/values/UpdateObjectList.h"
 #include "corvex/variables/MappingVariable.h"
 
+#include "support/CodeShape.h"
 #include "support/Model.h"
 #include "support/QmlSyntax.h"
 
@@ -258,33 +259,89 @@ TEST_F(Elements, AutoSettingsBeginWithWhatTheDeviceHas)
 
 TEST_F(Elements, AnExpressionThatGivesNoCodeIsTold)
 {
+    const QString incomplete = u"The expression is incomplete."_s;
+    const QString hot = u"<0403hot><0101?><0208FFC62828><0101:><0208FFC3CDD6>"_s;
     const struct
     {
         const char *className;
-        const char *property;
+        QLatin1StringView property;
         QString good;
         QString bad;
+        QString error = {}; // that it is incomplete
     } rows[] = {
-        {"Text", "textBinding", u"0407name"_s, u"0407"_s},
-        {"Text", "colorBinding", u"0408paint"_s, u"0408"_s},
-        {"Rectangle", "xBinding", u"<0406speed><0101*><02042>"_s, u"<0406><0101*><02042>"_s},
-        {"Rectangle", "visibleBinding", u"<0406speed><0101>><02042>"_s, u"<0406><0101>><02042>"_s},
-        {"DigitalInputOutput", "initValue", u"0403on"_s, u"0403"_s},
-        {"PwmOutput", "initValue", u"0406speed"_s, u"0406"_s},
-        {"PropertyTrigger", "condition", u"0403on"_s, u"0502sqrt"_s},
-        {"PropertyTrigger", "dataValues", u"<0403on><0406speed>"_s, u"<0403on><0406>"_s},
-        {"SPICommunication", "dataValues", u"02047"_s, u"0406"_s},
-        {"Button", "pressed", u"<0406speed><02047><0403on><02031>"_s, u"<0406speed><02047><0403on>"_s},
+        {"Text", "colorBinding"_L1, u"<0403hot><0101?><0207cmVk><0101:><0307label.text>"_s, hot,
+         u"A color is a single term"_s},
+        {"Rectangle", "colorBinding"_L1, u"0208FFC62828"_s, u"<0408a><0101==><0408b>"_s, u"A color is"_s},
+        {"Rectangle", "yBinding"_L1, u"0406a"_s, u"<0406a><0101(><0406b><0101)>"_s, u"Term 2"_s},
+        {"Text", "rotationBinding"_L1, u"0205PI"_s, u"0707alert(1)"_s,
+         u"Term 1 of the expression, \"0707alert(1)\", cannot be used in it."_s},
+        {"AlarmOutput", "initValue"_L1, u"0403on"_s, u"<0403on><0101==><0209BEEF>"_s, u"Term 3"_s},
+        {"SPICommunication", "dataValues"_L1, u"0306in.value"_s, u"<0101/><0207eC8uYShhbGVydCgxKSldLy8=>"_s,
+         u"Value 1"_s},
+        {"PropertyTrigger", "dataValues"_L1, u"0207"_s, u"02091F"_s, u"Value 1"_s},
+        {"Text", "textBinding"_L1, u"0407name"_s, u"0407"_s},
+        {"Text", "colorBinding"_L1, u"0408paint"_s, u"0408"_s},
+        {"Rectangle", "xBinding"_L1, u"<0406speed><0101*><02042>"_s, u"<0406><0101*><02042>"_s},
+        {"Rectangle", "visibleBinding"_L1, u"<0406speed><0101>><02042>"_s, u"<0406><0101>><02042>"_s},
+        {"DigitalInputOutput", "initValue"_L1, u"0403on"_s, u"0403"_s},
+        {"PwmOutput", "initValue"_L1, u"0406speed"_s, u"0406"_s},
+        {"PropertyTrigger", "condition"_L1, u"0403on"_s, u"<0403on><0101||>"_s},
+        {"PropertyTrigger", "dataValues"_L1, u"<0403on><0406speed>"_s, u"<0403on><0406>"_s, u"Value 2"_s},
+        {"Button", "pressed"_L1, u"<0406speed><02047><0403on><02031>"_s, u"<0406speed><02047><0403on>"_s},
     };
-    for (const auto &[className, property, good, bad] : rows) {
-        DesignerObject *element = add(className, QLatin1StringView(className) + QLatin1StringView(property));
-        const SharedProperty expression = element->getProperty(QString::fromLatin1(property));
-        EXPECT_TRUE(expression->isValid()) << className << ' ' << property;
-        set(element, property, good);
-        EXPECT_TRUE(expression->isValid()) << className << ' ' << property;
-        set(element, property, bad);
-        EXPECT_EQ(expression->errorString(), u"The expression is incomplete."_s) << className << property;
+    for (const auto &[className, property, good, bad, error] : rows) {
+        DesignerObject *element = add(className, screen->uniqueElementName(u"element"_s));
+        const QString plain = element->toQml(0);
+        const SharedProperty expression = element->getProperty(QString(property));
+        EXPECT_TRUE(expression->isValid()) << className << ' ' << property.data();
+        set(element, property.data(), good);
+        EXPECT_TRUE(expression->isValid()) << className << ' ' << property.data();
+        set(element, property.data(), bad);
+        EXPECT_TRUE(expression->errorString().startsWith(error.isEmpty() ? incomplete : error))
+            << className << property.data() << qPrintable(expression->errorString());
+        EXPECT_EQ(foreignCall(element->toQml(0)), QString());
+        // Of lists, what is complete remains.
+        if (property != "dataValues"_L1 && property != "pressed"_L1) {
+            EXPECT_EQ(element->toQml(0), plain);
+        }
     }
+}
+
+TEST_F(Elements, NoNameBecomesCode)
+{
+    const QString hostile = u"x = alert(1)"_s;
+    DesignerObject *box = add("Rectangle", u"box"_s);
+    add("Action", hostile);
+    UpdateObjectInfo update;
+    update.setName(u"box"_s);
+    update.setPropValueMap({{u"id"_s, u"name: a = alert(1);"_s},
+                            {u"text"_s, u"alert(1)"_s},
+                            {u"z"_s, u"1; alert(1)"_s},
+                            {u"radius"_s, u"3"_s}});
+    UpdateObjectInfo ofHostile = update;
+    ofHostile.setName(hostile);
+    UpdateObjectInfo ofTrigger;
+    ofTrigger.setName(u"trigger"_s);
+    ofTrigger.setPropValueMap({{u"pressed"_s, u"<0407a><0207YTogYWxlcnQoMSk=>"_s}, // "a: alert(1)"
+                               {u"actionScheduler"_s, hostile + u", action"_s}});
+    DesignerObject *trigger = add("PropertyTrigger", u"trigger"_s);
+    set(trigger, "actionScheduler", u"(alert(1)), "_s + hostile);
+    EXPECT_EQ(line(trigger, "actionScheduler"), u"actions: []"_s);
+    EXPECT_EQ(trigger->getProperty(u"actionScheduler")->errorString(),
+              u"Cannot find action \"(alert(1))\" in the screen."_s);
+    DesignerObject *button = add("Button", u"button"_s);
+    set(button, "visualElement", link(hostile, u"Screen"_s, u"VisualElement"_s));
+    EXPECT_EQ(line(button, "visualElement"), u"visualElement: null"_s);
+    set(button, "pressedState", UpdateObjectList({update, ofHostile, ofTrigger}).toString());
+    EXPECT_EQ(line(button, "pressedState"),
+              u"onPressedState: {\n\tqml_box.radius = 3;\n\tqml_trigger.actions = [qml_action];\n}"_s);
+    box->setIdName(hostile);
+    EXPECT_EQ(line(box, "id"), QString());
+    EXPECT_FALSE(box->getProperty(u"id")->isValid());
+    EXPECT_EQ(line(button, "pressedState").count(u"qml_"_s), 2);
+    DesignerObject *loader = add("ScreenLoader", u"loader"_s);
+    set(loader, "screen", link(hostile, u"Project"_s, u"Screen"_s));
+    EXPECT_EQ(line(loader, "screen"), u"screen: \"\""_s);
 }
 
 TEST_F(Elements, PicturesKnowTheImagesThatShowThem)
@@ -334,10 +391,53 @@ TEST_F(Elements, LinksAndChannelsAreJudged)
     set(first, "channel", u"0"_s);
     EXPECT_EQ(first->getProperty(u"channel")->errorString(), u"channel takes numbers from 1 on, not 0."_s);
 
+    auto *group = static_cast<GroupElement *>(add("GroupElement", u"group"_s));
+    group->addListPropertyItem(group->elements(), make(u"Rectangle"_s, u"member"_s));
+    for (const QString &name : {u"group.member"_s, u"member"_s}) {
+        set(button, "visualElement", link(name, u"Screen"_s, u"VisualElement"_s));
+        EXPECT_TRUE(visual->isValid()) << qPrintable(visual->errorString());
+        EXPECT_EQ(line(button, "visualElement"), u"visualElement: qml_member"_s);
+    }
+    set(button, "visualElement", link(u"group.box"_s, u"Screen"_s, u"VisualElement"_s));
+    EXPECT_EQ(visual->errorString(), u"Cannot find visual element \"group.box\" in the screen."_s);
+    EXPECT_EQ(screen->getElement(u"group."_s + u"member."_s.repeated(200'000)), nullptr);
+
     DesignerObject *loader = add("ScreenLoader", u"loader"_s);
     set(loader, "screen", link(u"Other"_s, u"Project"_s, u"Screen"_s));
     EXPECT_TRUE(loader->getProperty(u"screen")->isValid());
     EXPECT_EQ(line(loader, "screen"), u"screen: \"qml_Other\""_s);
+}
+
+TEST_F(Elements, ALinkIsHeldAgainstWhatItsPropertyNeeds)
+{
+    const QString number = u"NumberVariable"_s;
+    project->addListPropertyItem(project->variables(), make(number, u"speed"_s));
+    const struct
+    {
+        const char *className;
+        const char *property;
+        QString needed;
+    } rows[] = {
+        {"DataLogging", "variable", u"LogVariable"_s},      {"ScreenLoader", "screen", u"Screen"_s},
+        {"SerialCOMPort", "mapping", u"MappingVariable"_s}, {"RS485COMPort", "mapping", u"MappingVariable"_s},
+        {"CheckButton", "variable", u"BooleanVariable"_s},  {"Image", "source", u"ImageResource"_s},
+    };
+    for (const auto &[className, property, needed] : rows) {
+        DesignerObject *element = add(className, u"the"_s + QLatin1StringView(className));
+        // What the link itself says it may name does not count.
+        set(element, property, link(u"speed"_s, u"Project"_s, number));
+        EXPECT_EQ(
+            element->getProperty(QString::fromLatin1(property))->errorString(),
+            u"\"speed\" is of the class NumberVariable, and the link needs an object of the class %1."_s.arg(
+                needed));
+        if (DesignerFactory::instance()->canCreateObject(needed) && needed.endsWith("Variable"_L1)) {
+            const QString name = u"of"_s + QLatin1StringView(className);
+            project->addListPropertyItem(project->variables(), make(needed, name));
+            set(element, property, link(name, u"Screen"_s, number));
+            EXPECT_TRUE(element->getProperty(QString::fromLatin1(property))->isValid()) << className;
+        }
+    }
+    EXPECT_EQ(qmlSyntaxErrors(screen->toQml(0)), QString());
 }
 
 } // namespace Halvane::Corvex::Designer

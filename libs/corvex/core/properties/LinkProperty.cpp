@@ -1,11 +1,58 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/properties/LinkProperty.h"
 
+#include "corvex/common/LocalizationHelper.h"
+
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Designer {
+
+ObjectLinkInfo LinkProperty::checked(const ObjectLinkInfo &link) const
+{
+    ObjectLinkInfo checkedLink = link;
+    if (const QVariant scope = editorParameter(u"scopeType"_s); scope.isValid()) {
+        checkedLink.setScopeType(scope.toString());
+    }
+    if (const QVariant filter = editorParameter(u"filterType"_s); filter.isValid()) {
+        checkedLink.setFilterType(filter.toStringList());
+    }
+    return checkedLink;
+}
 
 DesignerObject *LinkProperty::connectLink() const
 {
-    return value().objectId().isEmpty() ? nullptr : value().findLinks(parentObject(), false).value(0);
+    return value().isValid() ? checked(value()).findLinks(parentObject(), false).value(0) : nullptr;
+}
+
+DesignerObject *LinkProperty::namesake() const
+{
+    ObjectLinkInfo ofAnyClass = checked(value());
+    ofAnyClass.setFilterType(QStringList());
+    return value().isValid() ? ofAnyClass.findLinks(parentObject(), false).value(0) : nullptr;
+}
+
+QString LinkProperty::convertToQml(int indent) const
+{
+    // QML knows a member of a group by its own name, which ends the path that the link holds.
+    const DesignerObject *target = value().objectId().contains(u'.') ? connectLink() : nullptr;
+    if (!target) {
+        return TypedProperty::convertToQml(indent);
+    }
+    ObjectLinkInfo direct = value();
+    direct.setObjectId(target->getIdName());
+    return QmlForm<ObjectLinkInfo>::write(*this, direct, indent);
+}
+
+bool LinkProperty::validateValue(QString &error) const
+{
+    const DesignerObject *target = namesake();
+    if (!target || connectLink()) {
+        return true;
+    }
+    error = Common::LocalizationHelper::coreString(
+                u"\"%1\" is of the class %2, and the link needs an object of the class %3."_s)
+                .arg(value().objectId(), target->className(), checked(value()).filterType().join(u", "_s));
+    return false;
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/core/DesignerObject.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/ObjectLinkInfo.h"
 
@@ -18,11 +19,28 @@ public:
                         "LinkEditor")
     { }
 
-    //! The object that the link names, as seen from the owner of the property; null when there is none.
+    /*! The link with the scope and the classes that the property asks for in its editor parameters
+        "scopeType" and "filterType". What they do not say, the stored link says itself. */
+    ObjectLinkInfo checked(const ObjectLinkInfo &link) const;
+
+    //! The object that the checked link names, as seen from the owner of the property; null when there is
+    //! none.
     DesignerObject *connectLink() const;
+    //! The same as an object of that class; null when it is of another one.
+    template<class Object>
+    Object *connectLinkTo() const
+    {
+        return kindCast<Object>(connectLink());
+    }
+    //! The object of that name in the scope of the link, whatever its class.
+    DesignerObject *namesake() const;
 
 protected:
     using TypedProperty::TypedProperty;
+
+    QString convertToQml(int indent) const override;
+    //! Whether the object of that name, if there is one, is of a class that the property asks for.
+    bool validateValue(QString &error) const override;
 };
 
 } // namespace Halvane::Corvex::Designer

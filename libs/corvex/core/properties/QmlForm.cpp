@@ -263,13 +263,15 @@ QString QmlForm<ConditionInfo>::write(const DesignerProperty &property, const Co
 QString QmlForm<IdentifierInfo>::write(const DesignerProperty &property, const IdentifierInfo &info,
                                        int indent)
 {
-    return line(property, indent, QmlText::reference(info.name()));
+    const QString id = QmlText::reference(info.name());
+    return id.isEmpty() ? QString() : line(property, indent, id);
 }
 
 QString QmlForm<ObjectLinkInfo>::write(const DesignerProperty &property, const ObjectLinkInfo &link,
                                        int indent)
 {
-    return line(property, indent, link.isValid() ? QmlText::reference(link.objectId()) : u"null"_s);
+    const QString target = link.isValid() ? QmlText::reference(link.objectId()) : QString();
+    return line(property, indent, target.isEmpty() ? u"null"_s : target);
 }
 
 QString QmlForm<MapInfo>::write(const DesignerProperty &property, const MapInfo &map, int indent)

@@ -154,7 +154,7 @@ bool ChangeProperty::notifyFileMissing() const
     if (!project || std::none_of(pictured.begin(), pictured.end(), isShown)) {
         return false;
     }
-    for (const Mention &mention : ReferenceForm::mentions(ReferenceForm::of(*property()), m_after)) {
+    for (const Mention &mention : ReferenceForm::mentions(*property(), m_after)) {
         if (mention.kinds.testFlag(NamedKind::Image) && !isOtherThing(mention, owner())
             && !isFileThere(project, mention.path)) {
             qDebug().noquote() << u"%1: the file of the image \"%2\" is missing."_s.arg(owner()->objectPath(),

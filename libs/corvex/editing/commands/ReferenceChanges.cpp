@@ -64,7 +64,7 @@ QList<ValueChange> ReferenceChanges::rewritten(const ReferenceTarget &target, co
                 rewriter(mention, owner);
             }
         };
-        if (ReferenceForm::visit(ReferenceForm::of(*property), after, visitor)) {
+        if (ReferenceForm::visit(*property, after, visitor)) {
             changes.append({property, before, after});
         }
     }

@@ -2,6 +2,7 @@
 #include "corvex/editing/commands/ReferenceForm.h"
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/core/properties/LinkProperty.h"
 #include "corvex/values/GeneralDataList.h"
 #include "corvex/values/ListInfo.h"
 #include "corvex/values/ObjectLinkInfo.h"
@@ -126,13 +127,14 @@ bool show(Mention &mention, const MentionVisitor &visitor)
     return mention.isDropped || mention.path != path;
 }
 
-bool visitLink(QString &text, const MentionVisitor &visitor)
+//! \a property may be null.
+bool visitLink(const LinkProperty *property, QString &text, const MentionVisitor &visitor)
 {
     ObjectLinkInfo link(text);
     if (!link.isValid()) {
         return false;
     }
-    Mention mention{kindsOf(link), link.objectId()};
+    Mention mention{kindsOf(property ? property->checked(link) : link), link.objectId()};
     if (!show(mention, visitor)) {
         return false;
     }
@@ -309,13 +311,20 @@ ReferenceForm::Form ReferenceForm::of(const DesignerProperty &property)
     return None;
 }
 
+bool ReferenceForm::visit(const DesignerProperty &property, QString &text, const MentionVisitor &visitor)
+{
+    const Form form = of(property);
+    return form == Link ? visitLink(static_cast<const LinkProperty *>(&property), text, visitor)
+                        : visit(form, text, visitor);
+}
+
 bool ReferenceForm::visit(Form form, QString &text, const MentionVisitor &visitor)
 {
     switch (form) {
     case None:
         return false;
     case Link:
-        return visitLink(text, visitor);
+        return visitLink(nullptr, text, visitor);
     case Expression:
         return visitExpression(text, visitor);
     case States:
@@ -335,11 +344,11 @@ bool ReferenceForm::visit(Form form, QString &text, const MentionVisitor &visito
     return false;
 }
 
-QList<Mention> ReferenceForm::mentions(Form form, const QString &text)
+QList<Mention> ReferenceForm::mentions(const DesignerProperty &property, const QString &text)
 {
     QList<Mention> found;
     QString copy = text;
-    visit(form, copy, [&found](const Mention &mention) { found.append(mention); });
+    visit(property, copy, [&found](const Mention &mention) { found.append(mention); });
     return found;
 }
 

@@ -32,10 +32,12 @@ public:
 
     static Form of(const DesignerProperty &property);
 
-    /*! Shows all mentions of a text, in their order, and rewrites it when one was changed. A text that does
-        not parse has none. \return whether \a text is another one now. */
+    /*! Shows all mentions of \a text, taken as a value of the property, in their order, and rewrites it when
+        one was changed. A text that does not parse has none. \return whether \a text is another one now. */
+    static bool visit(const DesignerProperty &property, QString &text, const MentionVisitor &visitor);
+    static QList<Mention> mentions(const DesignerProperty &property, const QString &text);
+    //! For a text of that form which no property holds. A link then says itself what it may name.
     static bool visit(Form form, QString &text, const MentionVisitor &visitor);
-    static QList<Mention> mentions(Form form, const QString &text);
 };
 
 } // namespace Halvane::Corvex::Designer

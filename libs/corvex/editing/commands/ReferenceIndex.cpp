@@ -51,15 +51,14 @@ void ReferenceIndex::addKeys(const Mention &mention, const Screen *screen,
     }
 }
 
-void ReferenceIndex::update(const SharedProperty &property, ReferenceForm::Form form, const QString &text,
-                            bool add)
+void ReferenceIndex::update(const SharedProperty &property, const QString &text, bool add)
 {
     if (text.isEmpty()) {
         return;
     }
     const Screen *screen = property->parentObject()->screen();
     QSet<QPair<const Screen *, QString>> keys;
-    for (const Mention &mention : ReferenceForm::mentions(form, text)) {
+    for (const Mention &mention : ReferenceForm::mentions(*property, text)) {
         addKeys(mention, screen, keys);
     }
     for (const auto &[scope, name] : std::as_const(keys)) {
@@ -73,26 +72,24 @@ void ReferenceIndex::update(const SharedProperty &property, ReferenceForm::Form 
 
 void ReferenceIndex::valueChanged(const SharedProperty &property, const QString &previousValue)
 {
-    if (const ReferenceForm::Form form = ReferenceForm::of(*property)) {
-        update(property, form, previousValue, false);
-        update(property, form, property->valueString(), true);
+    if (ReferenceForm::of(*property)) {
+        update(property, previousValue, false);
+        update(property, property->valueString(), true);
     }
 }
 
 void ReferenceIndex::entered(DesignerObject *object)
 {
-    ReferenceScanner::visitSites(object, true,
-                                 [this](const SharedProperty &property, ReferenceForm::Form form) {
-                                     update(property, form, property->valueString(), true);
-                                 });
+    ReferenceScanner::visitSites(object, true, [this](const SharedProperty &property) {
+        update(property, property->valueString(), true);
+    });
 }
 
 void ReferenceIndex::leaving(DesignerObject *object)
 {
-    ReferenceScanner::visitSites(object, true,
-                                 [this](const SharedProperty &property, ReferenceForm::Form form) {
-                                     update(property, form, property->valueString(), false);
-                                 });
+    ReferenceScanner::visitSites(object, true, [this](const SharedProperty &property) {
+        update(property, property->valueString(), false);
+    });
 }
 
 void ReferenceIndex::find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const

@@ -44,7 +44,7 @@ private:
 
     static void addKeys(const Mention &mention, const Screen *screen,
                         QSet<QPair<const Screen *, QString>> &keys);
-    void update(const SharedProperty &property, ReferenceForm::Form form, const QString &text, bool add);
+    void update(const SharedProperty &property, const QString &text, bool add);
     void find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const;
 
     std::set<Entry> m_entries;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/commands/ReferenceScanner.h"
 
+#include "corvex/editing/commands/ReferenceForm.h"
 #include "corvex/editing/commands/ReferenceTarget.h"
 #include "corvex/project/Project.h"
 
@@ -17,8 +18,8 @@ void ReferenceScanner::visitSites(const DesignerObject *object, bool recursive, 
             if (recursive && property->objectValue()) {
                 visitSites(property->objectValue(), true, visitor);
             }
-        } else if (const ReferenceForm::Form form = ReferenceForm::of(*property)) {
-            visitor(property, form);
+        } else if (ReferenceForm::of(*property)) {
+            visitor(property);
         }
     }
 }
@@ -29,8 +30,8 @@ QList<ReferenceUse> ReferenceScanner::uses(const ReferenceTarget &target)
     if (!target.isValid()) {
         return found;
     }
-    visitSites(target.project(), true, [&](const SharedProperty &property, ReferenceForm::Form form) {
-        for (const Mention &mention : ReferenceForm::mentions(form, property->valueString())) {
+    visitSites(target.project(), true, [&](const SharedProperty &property) {
+        for (const Mention &mention : ReferenceForm::mentions(*property, property->valueString())) {
             if (target.isMeantBy(mention, property->parentObject())) {
                 found.append({property, mention.path});
             }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "corvex/core/DesignerProperty.h"
-#include "corvex/editing/commands/ReferenceForm.h"
 
 #include <functional>
 
@@ -21,7 +20,7 @@ struct ReferenceUse
 class ReferenceScanner
 {
 public:
-    using SiteVisitor = std::function<void(const SharedProperty &property, ReferenceForm::Form form)>;
+    using SiteVisitor = std::function<void(const SharedProperty &property)>;
 
     //! Shows all properties of \a object that can name others and, with \a recursive, those of everything
     //! below it, in the order of the file.
