@@ -7,6 +7,7 @@
 #include "corvex/project/Screen.h"
 
 #include "FuzzSupport.h"
+#include "support/CodeShape.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
@@ -56,6 +57,7 @@ void checkQml(const DesignerObject *object)
     ExpressionSyntax syntax;
     for (const DesignerObject *screen : project->screens()->listItems()) {
         const QString qml = screen->toQml(0);
+        Fuzz::require(foreignCall(qml).isEmpty(), "a call of something else", foreignCall(qml));
         Fuzz::require(!project->isValid() || syntax.checkDocument(qml).valid, "QML of a good project", qml);
     }
 }

@@ -7,6 +7,7 @@
 #include "corvex/values/StringInfo.h"
 
 #include "FuzzSupport.h"
+#include "support/CodeShape.h"
 
 #include <QCoreApplication>
 #include <QJSEngine>
@@ -63,6 +64,103 @@ void checkAssignments(const QString &text)
     }
 }
 
+//! Hands out what terms can be made of.
+class Author
+{
+public:
+    Author(const std::uint8_t *data, std::size_t size)
+        : m_data(data)
+        , m_size(size)
+    { }
+
+    bool isDone() const { return m_size == 0; }
+
+    Info term()
+    {
+        const int types = number();
+        const int chosen = number();
+        return Info(Info::ValueType(types % 9), Info::DataType(types / 9 % 15),
+                    chosen < values().size() ? values().at(chosen) : text(chosen - int(values().size())));
+    }
+
+private:
+    static const QStringList &values()
+    {
+        static const QStringList list = MathInfo::mathOperators() + MathInfo::booleanOperators()
+                                        + MathInfo::mathFunctions() + StringInfo::stringFunctions()
+                                        + QStringList{u"a.b"_s,
+                                                      u"alert"_s,
+                                                      u"1"_s,
+                                                      u"true"_s,
+                                                      u"00FF"_s,
+                                                      u"#80FF0000"_s,
+                                                      u"PI"_s,
+                                                      u"\\"_s,
+                                                      u"\""_s,
+                                                      u"x/.a(alert(1))//"_s,
+                                                      u"a.constructor.constructor"_s,
+                                                      u"null"_s,
+                                                      u"\n"_s};
+        return list;
+    }
+
+    int number()
+    {
+        const int byte = isDone() ? 0 : *m_data;
+        m_data += isDone() ? 0 : 1;
+        m_size -= isDone() ? 0 : 1;
+        return byte;
+    }
+
+    QString text(int length)
+    {
+        const std::size_t taken = std::min(m_size, std::size_t(std::max(length, 0)));
+        const QString result = Fuzz::toText(m_data, taken);
+        m_data += taken;
+        m_size -= taken;
+        return result;
+    }
+
+    const std::uint8_t *m_data;
+    std::size_t m_size;
+};
+
+//! Constants whose characters stand in code as they are.
+bool isBare(const Info &term)
+{
+    return term.valueType() == Info::CommandValue
+           || (term.valueType() == Info::ConstantValue
+               && (term.dataType() == Info::HexData || term.dataType() == Info::ReferenceData));
+}
+
+//! Terms of all types and their expressions: types that do not go together give no code, and code is of known
+//! words alone.
+void checkBuilt(const std::uint8_t *data, std::size_t size)
+{
+    Author author(data, size);
+    GeneralDataList list;
+    bool anyBare = false;
+    while (!author.isDone()) {
+        list.append(author.term());
+        anyBare = anyBare || isBare(list.last());
+    }
+    for (int kind = GeneralDataList::GeneralExpression; kind <= GeneralDataList::StringExpression; ++kind) {
+        const auto type = GeneralDataList::InfoType(kind);
+        const bool goesTogether =
+            list.isValidValueType(type) && list.isValidDataType(type) && list.isValidValue(type);
+        for (int output = Info::RawOutput; output <= Info::NoOutput; ++output) {
+            const QString code = list.toQmlString(Info::OutputType(output), type);
+            Fuzz::require(code.isEmpty() || goesTogether, "code of wrong types", list.toString());
+            Fuzz::require(anyBare || foreignCode(code).isEmpty(), "code of other words", code);
+            Fuzz::require(foreignCall(code).isEmpty(), "a call of something else", code);
+            const bool isStatement = type == GeneralDataList::AssignExpression || code.isEmpty();
+            Fuzz::require(anyBare || !list.isComplete(type)
+                              || canBeRead(isStatement ? code : u'(' + code + u')'),
+                          "code of a complete expression", code);
+        }
+    }
+}
+
 } // namespace
 
 //! The leak checker does not see into the heap of the script engine.
@@ -88,5 +186,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         checkCode<StringInfo>(term);
     }
     checkAssignments(text);
+    checkBuilt(data, size);
     return 0;
 }
