@@ -190,18 +190,6 @@ TEST(GeneratedCode, ofValidExpressionsIsCorrectInEveryKindAndType)
     }
 }
 
-TEST(GeneratedCode, textFormsReadBack)
-{
-    Author author(7);
-    for (int i = 0; i < 2000; ++i) {
-        const List terms = author.write(List::InfoType(i % 5));
-        bool ok = false;
-        const List again(terms.toString(), &ok);
-        ASSERT_TRUE(ok) << qPrintable(terms.toString());
-        ASSERT_EQ(again.toString(), terms.toString());
-    }
-}
-
 TEST(GeneratedCode, withPlainNamesIsCorrectToo)
 {
     ExpressionSyntax syntax;
