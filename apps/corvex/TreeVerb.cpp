@@ -36,16 +36,8 @@ void walk(const DesignerObject &object, Printer &printer)
 template<class Printer>
 void walkItems(const ItemList &list, Printer &printer)
 {
-    const auto walkKept = [&](const DesignerObject *before) {
-        for (const KeptItem &kept : list.keptItems(before)) {
-            printer.addKept(kept);
-        }
-    };
-    walkKept(nullptr);
-    for (const DesignerObject *item : list.items()) {
-        walk(*item, printer);
-        walkKept(item);
-    }
+    list.walk([&printer](const DesignerObject *item) { walk(*item, printer); },
+              [&printer](const KeptItem &kept) { printer.addKept(kept); });
 }
 
 bool isShown(const DesignerProperty &property)

@@ -86,6 +86,10 @@ public:
     bool addListPropertyItem(const SharedProperty &property, DesignerObject *item);
     //! An index beyond the ends counts as the nearest end.
     bool insertListPropertyItemAt(const SharedProperty &property, DesignerObject *item, qsizetype index);
+    //! The same for a place that counts what the list keeps, so that an item comes back to exactly where it
+    //! was.
+    bool insertListPropertyItemAt(const SharedProperty &property, DesignerObject *item,
+                                  const ItemPlace &place);
     bool insertListPropertyItemBefore(const SharedProperty &property, DesignerObject *reference,
                                       DesignerObject *item);
     bool insertListPropertyItemAfter(const SharedProperty &property, DesignerObject *reference,

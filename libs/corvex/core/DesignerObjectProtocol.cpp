@@ -285,7 +285,13 @@ bool DesignerObject::addListPropertyItem(const SharedProperty &property, Designe
 bool DesignerObject::insertListPropertyItemAt(const SharedProperty &property, DesignerObject *item,
                                               qsizetype index)
 {
-    return addItem(property, item, [&] { return property->insertItemAt(index, item); });
+    return insertListPropertyItemAt(property, item, ItemPlace{index});
+}
+
+bool DesignerObject::insertListPropertyItemAt(const SharedProperty &property, DesignerObject *item,
+                                              const ItemPlace &place)
+{
+    return addItem(property, item, [&] { return property->insertItemAt(place, item); });
 }
 
 bool DesignerObject::insertListPropertyItemBefore(const SharedProperty &property, DesignerObject *reference,

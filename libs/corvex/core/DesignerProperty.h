@@ -16,6 +16,7 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class EditorView;
 class ItemList;
+struct ItemPlace;
 
 /*! One named, typed value of a DesignerObject.
 
@@ -187,7 +188,7 @@ protected:
 
     // The changes of lists and objects, which DesignerObject calls under its protocol.
     bool addListItem(DesignerObject *item);
-    bool insertItemAt(qsizetype index, DesignerObject *item);
+    bool insertItemAt(const ItemPlace &place, DesignerObject *item);
     bool insertItemBefore(DesignerObject *reference, DesignerObject *item);
     bool insertItemAfter(DesignerObject *reference, DesignerObject *item);
     DesignerObject *takeListItem(DesignerObject *item);
@@ -228,7 +229,7 @@ private:
     void forgetObjectValue();
     //! Lets go of all children at once, for an owner that deletes them.
     QList<DesignerObject *> releaseChildren();
-    void putItem(qsizetype index, DesignerObject *item);
+    void putItem(ItemPlace place, DesignerObject *item);
     void setErrorString(const QString &error);
     State &state();
 

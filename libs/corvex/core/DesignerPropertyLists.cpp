@@ -61,9 +61,10 @@ bool DesignerProperty::canRemove(const DesignerObject *item)
     return true;
 }
 
-void DesignerProperty::putItem(qsizetype index, DesignerObject *item)
+void DesignerProperty::putItem(ItemPlace place, DesignerObject *item)
 {
-    items().insert(std::clamp<qsizetype>(index, 0, items().count()), item);
+    place.index = std::clamp<qsizetype>(place.index, 0, items().count());
+    items().insert(place, item);
     item->addListDesignerProperty(this);
     updateListItems();
 }
@@ -102,16 +103,16 @@ bool DesignerProperty::addListItem(DesignerObject *item)
     if (!canAdd(item, itemExists)) {
         return false;
     }
-    putItem(items().count(), item);
+    putItem({items().count()}, item);
     return true;
 }
 
-bool DesignerProperty::insertItemAt(qsizetype index, DesignerObject *item)
+bool DesignerProperty::insertItemAt(const ItemPlace &place, DesignerObject *item)
 {
     if (!canAdd(item, itemExists)) {
         return false;
     }
-    putItem(index, item);
+    putItem(place, item);
     return true;
 }
 
@@ -121,7 +122,7 @@ bool DesignerProperty::insertItemBefore(DesignerObject *reference, DesignerObjec
         return refuse("Object does not exist.");
     }
     const qsizetype index = getListItemIndex(reference);
-    return index < 0 && isList() ? refuse("Cannot find reference object.") : insertItemAt(index, item);
+    return index < 0 && isList() ? refuse("Cannot find reference object.") : insertItemAt({index}, item);
 }
 
 bool DesignerProperty::insertItemAfter(DesignerObject *reference, DesignerObject *item)
@@ -130,7 +131,7 @@ bool DesignerProperty::insertItemAfter(DesignerObject *reference, DesignerObject
         return refuse("Object does not exist.");
     }
     const qsizetype index = getListItemIndex(reference);
-    return index < 0 && isList() ? refuse("Cannot find reference object") : insertItemAt(index + 1, item);
+    return index < 0 && isList() ? refuse("Cannot find reference object") : insertItemAt({index + 1}, item);
 }
 
 DesignerObject *DesignerProperty::takeListItem(DesignerObject *item)

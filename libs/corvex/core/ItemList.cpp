@@ -3,6 +3,8 @@
 
 #include "corvex/core/DesignerObject.h"
 
+#include <algorithm>
+
 namespace Halvane::Corvex::Designer {
 
 bool ItemList::contains(const DesignerObject *item) const
@@ -31,45 +33,40 @@ DesignerObject *ItemList::find(const QString &name) const
     });
 }
 
-void ItemList::insert(qsizetype index, DesignerObject *item)
+ItemPlace ItemList::placeOf(const DesignerObject *item) const
 {
-    m_items.insert(index, item);
-    m_byName.insert(item->getIdName(), item);
-    invalidCount += item->isValid() ? 0 : 1;
-    newestIndex = index;
-    if (!m_kept.isEmpty()) {
-        takeBack(before(index), item);
+    const qsizetype index = indexOf(item);
+    return {index, keptUpTo(index)};
+}
+
+//! How many kept items come before the item of that index.
+qsizetype ItemList::keptUpTo(qsizetype index) const
+{
+    return std::ranges::upper_bound(m_kept, index, {}, &KeptItem::itemsBefore) - m_kept.cbegin();
+}
+
+void ItemList::shiftKept(qsizetype first, qsizetype by)
+{
+    for (qsizetype i = first; i < m_kept.size(); ++i) {
+        m_kept[i].itemsBefore += by;
     }
 }
 
-void ItemList::takeBack(const DesignerObject *from, const DesignerObject *item)
+void ItemList::insert(ItemPlace place, DesignerObject *item)
 {
-    QList<KeptItem> stays;
-    QList<KeptItem> goes;
-    for (KeptItem &kept : m_kept.take(from)) {
-        const bool isBack = !kept.leftBehind.isEmpty() && kept.leftBehind.constLast() == item;
-        if (isBack) {
-            kept.leftBehind.removeLast();
-        }
-        (isBack ? goes : stays).append(kept);
-    }
-    if (!stays.isEmpty()) {
-        m_kept.insert(from, stays);
-    }
-    if (!goes.isEmpty()) {
-        m_kept.insert(item, goes);
-    }
+    m_items.insert(place.index, item);
+    m_byName.insert(item->getIdName(), item);
+    invalidCount += item->isValid() ? 0 : 1;
+    newestIndex = place.index;
+    m_hasNewestComeIn = true;
+    const qsizetype most = keptUpTo(place.index);
+    shiftKept(place.keptBefore < 0 ? most : std::clamp(place.keptBefore, keptUpTo(place.index - 1), most), 1);
 }
 
 void ItemList::removeAt(qsizetype index)
 {
     DesignerObject *item = m_items.at(index);
-    if (QList<KeptItem> left = m_kept.take(item); !left.isEmpty()) {
-        for (KeptItem &kept : left) {
-            kept.leftBehind.append(item);
-        }
-        m_kept[before(index)] += left;
-    }
+    shiftKept(keptUpTo(index), -1);
     m_items.removeAt(index);
     m_byName.remove(item->getIdName(), item);
     invalidCount -= item->isValid() ? 0 : 1;
@@ -78,12 +75,9 @@ void ItemList::removeAt(qsizetype index)
 
 void ItemList::replaceAt(qsizetype index, DesignerObject *item)
 {
-    const QList<KeptItem> kept = m_kept.take(m_items.at(index));
+    const ItemPlace place{index, keptUpTo(index)};
     removeAt(index);
-    insert(index, item);
-    if (!kept.isEmpty()) {
-        m_kept[item] += kept;
-    }
+    insert(place, item);
 }
 
 void ItemList::swap(qsizetype first, qsizetype second)
@@ -91,25 +85,20 @@ void ItemList::swap(qsizetype first, qsizetype second)
     m_items.swapItemsAt(first, second);
 }
 
-void ItemList::move(qsizetype from, qsizetype to)
+void ItemList::moveNewest(qsizetype from, qsizetype to)
 {
-    m_items.insert(to, m_items.takeAt(from));
-}
-
-QList<KeptItem> ItemList::keptItems() const
-{
-    QList<KeptItem> kept = m_kept.value(nullptr);
-    if (!m_kept.isEmpty()) {
-        for (const DesignerObject *item : m_items) {
-            kept += m_kept.value(item);
-        }
+    m_items.move(from, to);
+    // A new item goes to its place past what is kept, as if it had come in there.
+    if (m_hasNewestComeIn) {
+        shiftKept(keptUpTo(from), -1);
+        shiftKept(keptUpTo(to), 1);
     }
-    return kept;
 }
 
 void ItemList::keep(const KeptItem &kept)
 {
-    m_kept[m_items.isEmpty() ? nullptr : m_items.constLast()].append(kept);
+    m_kept.append(kept);
+    m_kept.last().itemsBefore = m_items.size();
 }
 
 void ItemList::rekey(const QString &oldName, DesignerObject *item)
@@ -121,6 +110,7 @@ void ItemList::rekey(const QString &oldName, DesignerObject *item)
     m_byName.insert(name, item);
     if (isOrdered && newestIndex < 0) {
         newestIndex = indexOf(item);
+        m_hasNewestComeIn = false;
     } else {
         isOrdered = false;
     }

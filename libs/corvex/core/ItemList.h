@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QHash>
 #include <QList>
 #include <QMultiHash>
 #include <QString>
@@ -16,15 +15,24 @@ struct KeptItem
 {
     QByteArray xml; //!< the element in UTF-8, its lines parted by "\n", indented from level 0
     QString className;
-    QString name; //!< its identifier name, empty when none could be made out
-    //! Items that it stood behind before they left the list, the last to leave at the end.
-    QList<const DesignerObject *> leftBehind = {};
+    QString name;              //!< its identifier name, empty when none could be made out
+    qsizetype itemsBefore = 0; //!< how many items of the list come before it
+};
+
+//! Where an item is among the items of a list and those that are kept.
+struct ItemPlace
+{
+    qsizetype index = -1;      //!< among the items; -1 when it is not in the list
+    qsizetype keptBefore = -1; //!< how many kept items come before it; -1 for all that its index allows
 };
 
 /*! The children of a list property: in order, and found by identifier name in constant time.
 
     The list owns nothing. It does not learn of a new name by itself: rekey() tells it. Two items may bear one
     name, since the model stores bad names and marks them; find() then answers the first in list order.
+
+    What is kept has its own place between the items. It moves when an item comes or goes before it, and stays
+   where it is when items change places among themselves.
 */
 class ItemList
 {
@@ -33,32 +41,43 @@ public:
     qsizetype count() const { return m_items.size(); }
     bool contains(const DesignerObject *item) const;
     qsizetype indexOf(const DesignerObject *item) const;
+    ItemPlace placeOf(const DesignerObject *item) const;
     DesignerObject *find(const QString &name) const;
     //! How many items bear that name.
     qsizetype countOf(const QString &name) const { return m_byName.count(name); }
 
-    //! An item that comes back to its place has behind it again what was kept there.
-    void insert(qsizetype index, DesignerObject *item);
-    //! What is kept behind the item stays, behind the one before it.
+    //! The index of the place must be one of the list, or the one behind the last.
+    void insert(ItemPlace place, DesignerObject *item);
     void removeAt(qsizetype index);
-    //! What is kept behind the old item stays behind the new one.
     void replaceAt(qsizetype index, DesignerObject *item);
     void swap(qsizetype first, qsizetype second);
-    //! Moves an item; \a to is its index afterwards.
-    void move(qsizetype from, qsizetype to);
+    //! Puts the item that came in or got its name last in order; \a to is its index afterwards.
+    void moveNewest(qsizetype from, qsizetype to);
     //! Takes over \a order, which holds the same items.
     void reorder(const QList<DesignerObject *> &order) { m_items = order; }
     //! Moves \a item from its old name to the one it bears now; harmless when that was done before.
     void rekey(const QString &oldName, DesignerObject *item);
 
     bool hasKeptItems() const { return !m_kept.isEmpty(); }
-    //! What stands behind \a item, or at the start of the list for null.
-    QList<KeptItem> keptItems(const DesignerObject *item) const { return m_kept.value(item); }
     //! All that is kept, in list order.
-    QList<KeptItem> keptItems() const;
-    //! Keeps \a kept behind the item that is the last now. It moves with that item.
+    const QList<KeptItem> &keptItems() const { return m_kept; }
+    //! Keeps \a kept at the end of the list.
     void keep(const KeptItem &kept);
     void dropKeptItems() { m_kept.clear(); }
+    //! Shows items and kept items in the order in which they are stored.
+    template<class OnItem, class OnKept>
+    void walk(const OnItem &onItem, const OnKept &onKept) const
+    {
+        auto kept = m_kept.cbegin();
+        for (qsizetype index = 0; index <= m_items.size(); ++index) {
+            for (; kept != m_kept.cend() && kept->itemsBefore <= index; ++kept) {
+                onKept(*kept);
+            }
+            if (index < m_items.size()) {
+                onItem(m_items.at(index));
+            }
+        }
+    }
 
     //! The number of items whose object is invalid, as counted by the objects themselves.
     qsizetype invalidCount = 0;
@@ -71,15 +90,13 @@ public:
     qsizetype newestIndex = -1;
 
 private:
-    const DesignerObject *before(qsizetype index) const
-    {
-        return index > 0 ? m_items.at(index - 1) : nullptr;
-    }
-    void takeBack(const DesignerObject *from, const DesignerObject *item);
+    qsizetype keptUpTo(qsizetype index) const;
+    void shiftKept(qsizetype first, qsizetype by);
 
     QList<DesignerObject *> m_items;
     QMultiHash<QString, DesignerObject *> m_byName;
-    QHash<const DesignerObject *, QList<KeptItem>> m_kept; //!< by the item that they stand behind
+    QList<KeptItem> m_kept;         //!< in list order
+    bool m_hasNewestComeIn = false; //!< the newest item is new to the list, not just to its name
 };
 
 } // namespace Halvane::Corvex::Designer

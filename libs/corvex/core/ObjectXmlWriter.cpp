@@ -240,11 +240,9 @@ void ObjectXmlWriter::writeProperty(const DesignerProperty &property, int level)
     openTag(container, level + 1, isEmpty ? "/>" : ">");
     if (!isEmpty) {
         if (property.isList()) {
-            writeKept(property, nullptr, level + 2);
-            for (const DesignerObject *item : property.itemList()->items()) {
-                writeObject(item, level + 2);
-                writeKept(property, item, level + 2);
-            }
+            property.itemList()->walk(
+                [this, level](const DesignerObject *item) { writeObject(item, level + 2); },
+                [this, level](const KeptItem &kept) { writeKept(kept, level + 2); });
         } else {
             writeObject(property.objectValue(), level + 2);
         }
@@ -253,15 +251,13 @@ void ObjectXmlWriter::writeProperty(const DesignerProperty &property, int level)
     closeTag(u"Property"_s, level);
 }
 
-void ObjectXmlWriter::writeKept(const DesignerProperty &list, const DesignerObject *after, int level)
+void ObjectXmlWriter::writeKept(const KeptItem &kept, int level)
 {
-    for (const KeptItem &kept : list.itemList()->keptItems(after)) {
-        for (const QByteArray &line : kept.xml.split('\n')) {
-            if (!line.isEmpty()) {
-                startLine(level);
-                m_buffer.append(line);
-                endLine();
-            }
+    for (const QByteArray &line : kept.xml.split('\n')) {
+        if (!line.isEmpty()) {
+            startLine(level);
+            m_buffer.append(line);
+            endLine();
         }
     }
 }

@@ -13,6 +13,7 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 class DesignerProperty;
+struct KeptItem;
 
 /*! Writes an object and everything below it as XML in UTF-8: one element per line, one blank of indent per
     level, `name` before `value`. The same object written twice is the same bytes. */
@@ -54,7 +55,7 @@ private:
     void writeContent(const QDomElement &element);
     void writeStartTag(const QDomElement &element);
     void writeProperty(const DesignerProperty &property, int level);
-    void writeKept(const DesignerProperty &list, const DesignerObject *after, int level);
+    void writeKept(const KeptItem &kept, int level);
     void startLine(int level);
     void endLine();
     void openTag(const QString &name, int level, QByteArrayView ending = ">");

@@ -33,6 +33,8 @@
 #include <QFileInfo>
 #include <QPointer>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer::Test {
@@ -114,6 +116,51 @@ TEST_F(StructureTest, DeletingDropsReferencesAndComesBackToItsPlace)
     project->createUndoStack();
     EXPECT_FALSE(rectangle);
     EXPECT_FALSE(DeleteObject(nullptr, true).isValid());
+}
+
+TEST_F(StructureTest, CommandsShareWhatTheyTookOutOfTheModel)
+{
+    // Each gives away what an older command holds and is dropped from the history; the older one is undone.
+    const QPointer<DesignerObject> screen = other;
+    const QPointer<DesignerObject> text = element("text1");
+    const QPointer<DesignerObject> lost = make(u"GroupElement"_s, u"lost"_s);
+    const QString first = CommandFixture::text();
+    push(new DeleteObject(text, true));
+    push(new DeleteScreen(screen));
+    const std::function<UndoCommand *()> second[] = {
+        [&] { return new AddObject(main->elements(), text, true); },
+        [&] { return new AddScreen(screen, project.get(), 0); },
+        [&] { return new AddScreenAndElements(screen, project.get(), 0, nullptr); },
+        [&] {
+            return new GroupCommand(text, {element("rectangle1"), element("rectangle2")});
+        },
+        [&] { return new AddElementsWithResources(main, {text}, {}, {}, true); },
+    };
+    for (const auto &command : second) {
+        stack().push(command());
+        stack().setIndex(2);
+        push(new DeleteObject(element("image1"), true));
+        stack().setIndex(2);
+    }
+    stack().setIndex(0);
+    ASSERT_TRUE(text && screen);
+    EXPECT_EQ(CommandFixture::text(), first);
+    // The last command that holds an object takes it along, in whatever order they go.
+    push(new DeleteObject(text, true));
+    push(new GroupCommand(lost, {element("rectangle1"), element("rectangle2")}));
+    push(new DeleteObject(lost, true));
+    auto kept = std::make_unique<AddObject>(main->elements(), lost, true);
+    stack().clear();
+    EXPECT_FALSE(text);
+    EXPECT_TRUE(lost);
+    kept.reset();
+    EXPECT_FALSE(lost);
+    // What somebody else took out of the model is theirs.
+    push(new AddObject(main->elements(), u"Text"_s, u"theirs"_s, true));
+    const std::unique_ptr<DesignerObject> theirs(
+        main->takeListPropertyItem(main->elements(), element("theirs")));
+    stack().clear();
+    EXPECT_EQ(theirs->getIdName(), u"theirs"_s);
 }
 
 TEST_F(StructureTest, ScreensAndVariables)

@@ -145,9 +145,9 @@ void ObjectListProperty::placeNewest(qsizetype index)
     const auto item = begin + index;
     const auto end = list.items().cend();
     if (index > 0 && isBehind(key, *(item - 1))) {
-        list.move(index, std::upper_bound(begin, item, key, isBehind) - begin);
+        list.moveNewest(index, std::upper_bound(begin, item, key, isBehind) - begin);
     } else if (item + 1 != end && isBefore(*(item + 1), key)) {
-        list.move(index, std::lower_bound(item + 1, end, key, isBefore) - begin - 1);
+        list.moveNewest(index, std::lower_bound(item + 1, end, key, isBefore) - begin - 1);
     }
 }
 

@@ -2,7 +2,6 @@
 #include "corvex/editing/commands/EditStep.h"
 
 #include "corvex/core/DesignerObject.h"
-#include "corvex/core/ItemList.h"
 
 namespace Halvane::Corvex::Designer {
 
@@ -13,35 +12,28 @@ bool isList(const SharedProperty &list)
     return list && list->parentObject() && list->isList();
 }
 
-bool insert(const SharedProperty &list, DesignerObject *object, qsizetype index)
+bool insert(const SharedProperty &list, HeldObject &object, const ItemPlace &place)
 {
     DesignerObject *owner = list->parentObject();
-    return index < 0 ? owner->addListPropertyItem(list, object)
-                     : owner->insertListPropertyItemAt(list, object, index);
-}
-
-bool take(const SharedProperty &list, DesignerObject *object)
-{
-    if (!list->parentObject()->takeListPropertyItem(list, object)) {
+    if (place.index < 0 ? !owner->addListPropertyItem(list, object.get())
+                        : !owner->insertListPropertyItemAt(list, object.get(), place)) {
         return false;
     }
-    object->resetGraphicsItem();
+    object.setOut(false);
+    return true;
+}
+
+bool take(const SharedProperty &list, HeldObject &object)
+{
+    if (!list->parentObject()->takeListPropertyItem(list, object.get())) {
+        return false;
+    }
+    object.get()->resetGraphicsItem();
+    object.setOut(true);
     return true;
 }
 
 } // namespace
-
-HeldObject::HeldObject(DesignerObject *object, bool isHeld)
-    : m_object(object)
-    , m_isHeld(isHeld)
-{ }
-
-HeldObject::~HeldObject()
-{
-    if (m_isHeld && m_object && !m_object->parent()) {
-        delete m_object;
-    }
-}
 
 bool SetValueStep::redo(QString &error)
 {
@@ -54,9 +46,8 @@ bool SetValueStep::redo(QString &error)
 
 InsertItemStep::InsertItemStep(const SharedProperty &list, DesignerObject *object, qsizetype index)
     : m_list(list)
-    , m_isNew(object && !object->listProperty())
-    , m_object(object, m_isNew)
-    , m_index(index)
+    , m_object(object)
+    , m_place{index}
 { }
 
 bool InsertItemStep::isPossible() const
@@ -66,23 +57,22 @@ bool InsertItemStep::isPossible() const
 
 bool InsertItemStep::redo(QString &error)
 {
-    if (!insert(m_list, m_object.get(), m_index)) {
+    if (!insert(m_list, m_object, m_place)) {
         error = m_list->errorString();
         return false;
     }
-    m_index = m_list->getListItemIndex(m_object.get());
-    m_object.setHeld(false);
+    m_place = m_list->itemList()->placeOf(m_object.get());
     return true;
 }
 
 void InsertItemStep::undo()
 {
-    m_object.setHeld(take(m_list, m_object.get()) && m_isNew);
+    take(m_list, m_object);
 }
 
 TakeItemStep::TakeItemStep(const SharedProperty &list, DesignerObject *object)
     : m_list(list)
-    , m_object(object, false)
+    , m_object(object)
 { }
 
 bool TakeItemStep::isPossible() const
@@ -92,18 +82,17 @@ bool TakeItemStep::isPossible() const
 
 bool TakeItemStep::redo(QString &error)
 {
-    m_index = m_list->getListItemIndex(m_object.get());
-    if (m_index < 0 || !take(m_list, m_object.get())) {
+    m_place = m_list->itemList()->placeOf(m_object.get());
+    if (m_place.index < 0 || !take(m_list, m_object)) {
         error = m_list->errorString();
         return false;
     }
-    m_object.setHeld(true);
     return true;
 }
 
 void TakeItemStep::undo()
 {
-    m_object.setHeld(!insert(m_list, m_object.get(), m_index));
+    insert(m_list, m_object, m_place);
 }
 
 SwapItemsStep::SwapItemsStep(const SharedProperty &list, DesignerObject *first, DesignerObject *second)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/core/ItemList.h"
+#include "corvex/editing/commands/HeldObject.h"
 #include "corvex/editing/commands/ValueChange.h"
 
 #include <QPointer>
@@ -27,25 +29,6 @@ public:
     virtual SharedProperty property() const { return {}; }
     //! Deletes files that were left for an undo and that no image of the project needs.
     virtual void cleanJunkFiles() { }
-};
-
-/*! An object that a command works on and that is in its care while it is held: deleted with the command then,
-   unless it is in a model. A stack does a new command before it drops those that were undone, so that an
-   object without an owner may well be in the care of another command. */
-class HeldObject
-{
-    Q_DISABLE_COPY_MOVE(HeldObject)
-
-public:
-    HeldObject(DesignerObject *object, bool isHeld);
-    ~HeldObject();
-
-    DesignerObject *get() const { return m_object; }
-    void setHeld(bool isHeld) { m_isHeld = isHeld; }
-
-private:
-    QPointer<DesignerObject> m_object;
-    bool m_isHeld;
 };
 
 class SetValueStep : public EditStep
@@ -79,9 +62,8 @@ public:
 
 private:
     SharedProperty m_list;
-    bool m_isNew; //!< to the model; an object that came from a list goes back there when this is undone
     HeldObject m_object;
-    qsizetype m_index;
+    ItemPlace m_place;
 };
 
 //! Takes an object out of its list and brings it back to its place.
@@ -98,7 +80,7 @@ public:
 private:
     SharedProperty m_list;
     HeldObject m_object;
-    qsizetype m_index = -1;
+    ItemPlace m_place;
 };
 
 //! Exchanges two items; doing it again takes it back.

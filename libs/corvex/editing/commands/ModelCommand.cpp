@@ -136,7 +136,7 @@ void ModelCommand::refuse(const QString &error, const QList<DesignerObject *> &u
 void ModelCommand::hold(const QList<DesignerObject *> &unused)
 {
     for (DesignerObject *object : unused) {
-        plan().unused.push_back(std::make_unique<HeldObject>(object, true));
+        plan().unused.push_back(std::make_unique<HeldObject>(object));
     }
 }
 
