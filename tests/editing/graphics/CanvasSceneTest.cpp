@@ -346,22 +346,22 @@ TEST_F(CanvasSceneTest, WhatElseATurnedGroupHoldsStaysInItsPlace)
             return (corner - otherCorner).manhattanLength() < 0.05;
         });
     };
-    const QString before = DesignerObject::toString(project.get());
+    const QString before = screen->convertToString(false, false);
     for (const auto &[what, command, still] : cases) {
         SCOPED_TRACE(what);
         QList<QPolygonF> places;
         std::ranges::transform(still, std::back_inserter(places), cornersOf);
         stack.push(command());
-        const QString after = DesignerObject::toString(project.get());
+        const QString after = screen->convertToString(false, false);
         EXPECT_NE(after, before);
         for (qsizetype i = 0; i < still.size(); ++i) {
             EXPECT_TRUE(areEqual(cornersOf(still.at(i)), places.at(i)))
                 << qPrintable(still.at(i)->getIdName());
         }
         stack.undo();
-        EXPECT_EQ(DesignerObject::toString(project.get()), before);
+        EXPECT_EQ(screen->convertToString(false, false), before);
         stack.redo();
-        EXPECT_EQ(DesignerObject::toString(project.get()), after);
+        EXPECT_EQ(screen->convertToString(false, false), after);
         stack.undo();
     }
 
