@@ -4,7 +4,7 @@
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/core/properties/PropertyChangeListProperty.h"
 #include "corvex/core/properties/UpdateObjectListProperty.h"
-#include "corvex/editors/ExpressionSyntax.h"
+#include "corvex/checks/ExpressionSyntax.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 
