@@ -120,7 +120,8 @@ protected:
         for (qsizetype i = 0; i + 1 < lines.size(); ++i) {
             if (lines.at(i + 1).endsWith("<Properties>"_L1) && i > 2 && ++items % 5 == 0) {
                 const QString unknown = u"<Unknown%1 note=\"kept\"/>"_s.arg(items);
-                lines.insert(i++, lines.at(i).section(u'<', 0, 0) + unknown);
+                lines.insert(i, lines.at(i).section(u'<', 0, 0) + unknown);
+                ++i;
             }
         }
         QFile file(project->fullFilePath());
