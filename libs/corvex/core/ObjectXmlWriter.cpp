@@ -17,6 +17,16 @@ namespace {
 constexpr qsizetype bufferSize = 256 * 1024;
 constexpr int rootPropertyLevel = 2;
 
+//! Whether there is text beside the elements in it.
+bool hasWords(const QDomElement &element)
+{
+    bool found = false;
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        found = found || (child.isText() && !child.nodeValue().trimmed().isEmpty());
+    }
+    return found;
+}
+
 } // namespace
 
 bool ObjectXmlWriter::isWritten(const DesignerObject *object, const DesignerProperty &property,
@@ -164,7 +174,7 @@ void ObjectXmlWriter::writeElement(const QDomElement &element, int level)
 {
     startLine(level);
     writeStartTag(element);
-    const bool isNested = !element.firstChildElement().isNull() && element.text().trimmed().isEmpty();
+    const bool isNested = !element.firstChildElement().isNull() && !hasWords(element);
     if (!element.hasChildNodes()) {
         m_buffer.append("/>");
         endLine();
