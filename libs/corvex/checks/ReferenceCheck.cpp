@@ -102,24 +102,23 @@ bool ReferenceCheck::isThere(const Mention &mention, const Screen *screen) const
     return isOfVariable || isElement(mention.path, screen);
 }
 
-//! Whether all names of the path are those of elements, which stand on \a screen, on the screen that the path
-//! starts with, or, in a property that belongs to no screen, on any.
+//! Whether the path leads to an element of \a screen, of the screen that the path starts with, or, in a
+//! property that belongs to no screen, of any.
 bool ReferenceCheck::isElement(const QString &path, const Screen *screen) const
 {
-    QStringList names = path.split(u'.');
-    const auto hasAll = [&names](const DesignerObject *candidate) {
-        const auto *on = static_cast<const Screen *>(candidate);
-        return std::ranges::all_of(names, [on](const QString &name) { return on->hasElement(name); });
+    const auto hasElement = [](const DesignerObject *on, const QString &place) {
+        return static_cast<const Screen *>(on)->hasElement(place);
     };
-    if (screen && hasAll(screen)) {
+    if (screen && hasElement(screen, path)) {
         return true;
     }
-    if (const DesignerObject *named = m_project.screens()->getListItem(names.constFirst());
-        named && names.size() > 1) {
-        names.removeFirst();
-        return hasAll(named);
+    const QString first = ObjectPath::firstSegment(path).toString();
+    if (const DesignerObject *named = m_project.screens()->getListItem(first); named && first != path) {
+        return hasElement(named, path.sliced(first.size() + 1));
     }
-    return !screen && std::ranges::any_of(m_project.screens()->listItems(), hasAll);
+    return !screen && std::ranges::any_of(m_project.screens()->listItems(), [&](const DesignerObject *any) {
+        return hasElement(any, path);
+    });
 }
 
 void ReferenceCheck::checkValue(const DesignerProperty &property, const QString &elementName,
@@ -132,7 +131,8 @@ void ReferenceCheck::checkValue(const DesignerProperty &property, const QString 
         return;
     }
     const SharedProperty target = model->getProperty(id);
-    if (!target) {
+    // What an element is called cannot change while the screen runs.
+    if (!target || target == model->idProperty()) {
         report(property, ProblemCode::StateProperty, {elementName, id});
     } else if (!target->canRead(value)) {
         report(property, ProblemCode::StateValue, {value, id, elementName});

@@ -295,7 +295,7 @@ TEST(CheckVerb, followsWhatPartsSayOfEachOther)
     const Sandbox bad;
     bad.makeProject(
         goodElements() + text("value", "textBinding", "<0502concat><0407gone><0101,><0407gone><0101)>")
-            + text("element", "xBinding", "0304box1.away.x") + text("screen", "xBinding", "0304Main.away.x")
+            + text("element", "xBinding", "0304box1.box2.x") + text("screen", "xBinding", "0304Main.away.x")
             + Sandbox::object("Button", "button",
                               toBox
                                   + Sandbox::value("pressedState",
@@ -321,7 +321,7 @@ TEST(CheckVerb, followsWhatPartsSayOfEachOther)
         u"Main.button: pressedState: \"small\" is no value for the property \"size\" of \"box1\"."_s,
         u"Main.button: pressedState: \"box1\" has no property \"hue\"."_s,
         u"Main.value: textBinding: Cannot find \"gone\" in the project."_s,
-        u"Main.element: xBinding: Cannot find element \"box1.away\" in the screen."_s,
+        u"Main.element: xBinding: Cannot find element \"box1.box2\" in the screen."_s,
         u"Main.screen: xBinding: Cannot find element \"Main.away\" in the screen."_s,
         u"Main.action: propertyChanges: \"redish\" is no value for the property \"color\" of \"box1\"."_s,
     };
