@@ -338,6 +338,19 @@ TEST(TypedProperty, StartsWithItsInitialValue)
               u"0, #FFFFFFFF | 1, #FF000000"_s);
 }
 
+TEST(TypedProperty, ZeroKeepsItsSign)
+{
+    const Subject real = make<RealProperty>(0.0);
+    const Subject point = make<PointProperty>(QPointF(0, 3));
+    for (const auto &[subject, text] :
+         {std::pair{real, u"-0"_s}, {real, u"0"_s}, {point, u"x: -0; y: 3;"_s}, {point, u"x: 0; y: 3;"_s}}) {
+        const bool isSame = subject.property->valueString() == text;
+        EXPECT_EQ(subject.property->equalsValue(text), isSame) << qPrintable(text);
+        EXPECT_TRUE(subject.read(text));
+        EXPECT_EQ(subject.property->valueString(), text);
+    }
+}
+
 TEST(TypedProperty, EqualFontsAreHeldOnce)
 {
     const auto fontOf = [](const Subject &subject) {

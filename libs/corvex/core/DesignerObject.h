@@ -291,6 +291,9 @@ private:
     void childValidityChanged(DesignerProperty &property);
 
     bool mayEnter(const SharedProperty &property, const DesignerObject *item) const;
+    bool isShallow(const DesignerObject *item) const;
+    //! How many objects there are below it, one in the other, at most.
+    qsizetype height() const;
     void enter(DesignerObject *item);
     void leave(const SharedProperty &property, DesignerObject *item);
     void showChild(const SharedProperty &property, DesignerObject *item);

@@ -5,6 +5,7 @@
 #include "corvex/core/ItemList.h"
 #include "corvex/core/ModelObserver.h"
 #include "corvex/core/ObjectView.h"
+#include "corvex/core/XmlLimits.h"
 #include "corvex/core/XmlText.h"
 
 using namespace Qt::StringLiterals;
@@ -111,6 +112,12 @@ DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &pr
 bool DesignerObject::canBeStored(DesignerProperty &property, const QString &value)
 {
     const qsizetype position = XmlText::indexOfUnstorable(value);
+    const bool mayBeLong = value.size() > XmlLimits::longestValue / XmlText::longestPerUnit;
+    if (mayBeLong && XmlText::attributeSize(value) > XmlLimits::longestValue) {
+        property.setErrorString(Common::LocalizationHelper::coreString(
+            u"The value is longer than 16 MB in a file. Please shorten it."_s));
+        return false;
+    }
     if (position < 0) {
         return true;
     }
@@ -199,7 +206,33 @@ bool DesignerObject::mayEnter(const SharedProperty &property, const DesignerObje
             return property->refuse("The type is not supported.");
         }
     }
-    return (!item->listProperty() && !item->objectProperty()) || property->refuse("Item already exists.");
+    if (item->listProperty() || item->objectProperty()) {
+        return property->refuse("Item already exists.");
+    }
+    return isShallow(item)
+           || property->refuse("The objects are nested too deeply. Please take it out of some groups.");
+}
+
+//! Whether a file that holds all of it can be read again. The reader, which validates at its end, counts for itself.
+bool DesignerObject::isShallow(const DesignerObject *item) const
+{
+    if (disabledValidation()) {
+        return true;
+    }
+    qsizetype owners = 1;
+    for (const DesignerObject *object = ownerObject(); object; object = object->ownerObject()) {
+        ++owners;
+    }
+    return owners + item->height() <= XmlLimits::mostOwners;
+}
+
+qsizetype DesignerObject::height() const
+{
+    qsizetype highest = 0;
+    for (const DesignerObject *child : childObjects()) {
+        highest = std::max(highest, 1 + child->height());
+    }
+    return highest;
 }
 
 void DesignerObject::enter(DesignerObject *item)

@@ -15,7 +15,9 @@ struct KeptItem
 {
     QByteArray xml; //!< the element in UTF-8, its lines parted by "\n", indented from level 0
     QString className;
-    QString name;              //!< its identifier name, empty when none could be made out
+    QString name; //!< its identifier name, empty when none could be made out
+    //! Kept because an item before it has the same name, which counts.
+    bool isNamesake = false;
     qsizetype itemsBefore = 0; //!< how many items of the list come before it
 };
 

@@ -5,6 +5,7 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/ObjectXmlWriter.h"
+#include "corvex/core/XmlLimits.h"
 #include "corvex/core/XmlTokenizer.h"
 
 #include <QBuffer>
@@ -16,8 +17,6 @@ using namespace Qt::StringLiterals;
 namespace Halvane::Corvex::Designer {
 
 namespace {
-
-constexpr qsizetype deepestNesting = 512;
 
 //! Property ids are short and plain; comparing in place saves a conversion for each of a million properties.
 bool equals(QStringView text, const char *utf8)
@@ -105,8 +104,8 @@ void ObjectBuilder::skip(const QString &message)
 
 void ObjectBuilder::startElement(const char *name, const char **attributes)
 {
-    if (m_frames.size() >= deepestNesting) {
-        m_input.fail(u"Elements are nested deeper than %1."_s.arg(deepestNesting));
+    if (m_frames.size() >= XmlLimits::deepestNesting) {
+        m_input.fail(u"Elements are nested deeper than %1."_s.arg(XmlLimits::deepestNesting));
         return;
     }
     if (m_frames.isEmpty()) {
@@ -199,19 +198,19 @@ void ObjectBuilder::openInProperties(Frame &frame, const char *name, const char 
                  u"The attribute \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(attributes[0])));
         }
     }
-    bool isSecond = false;
-    const qsizetype index = id ? expectProperty(frame, id, &isSecond) : -1;
-    if (isSecond) {
-        skip(u"The property \"%1\" stands here a second time; the first one counts."_s.arg(
-            QString::fromUtf8(id)));
-        return;
-    }
+    bool isRepeated = false;
+    const qsizetype index = id ? expectProperty(frame, id, &isRepeated) : -1;
     if (index < 0 || !object->properties().at(index)->hasFlag(StoredFlag)) {
         skip(id ? u"The property \"%1\" is not known."_s.arg(XmlTokenizer::excerpt(id))
                 : u"A property has no name."_s);
         return;
     }
+    if (isRepeated) {
+        note(ReadNote::Dropped, u"The property \"%1\" is here a second time; the later one counts."_s.arg(
+                                    QString::fromUtf8(id)));
+    }
     push(Context::Property, object, object->properties().at(index));
+    m_frames.last().isRepeated = isRepeated;
     if (value && *value) {
         Frame &opened = m_frames.last();
         opened.isAnswered = !opened.property->isList() && !opened.property->isObject();
@@ -220,7 +219,7 @@ void ObjectBuilder::openInProperties(Frame &frame, const char *name, const char 
 }
 
 //! The index of the property among those of the object; -1 for one that it does not have.
-qsizetype ObjectBuilder::expectProperty(Frame &frame, const char *id, bool *isSecond)
+qsizetype ObjectBuilder::expectProperty(Frame &frame, const char *id, bool *isRepeated)
 {
     const QList<SharedProperty> &properties = frame.object->properties();
     const qsizetype count = properties.size();
@@ -229,7 +228,7 @@ qsizetype ObjectBuilder::expectProperty(Frame &frame, const char *id, bool *isSe
         if (equals(properties.at(index)->id(), id)) {
             frame.nextProperty = index + 1;
             if (size_t(index) < frame.known.size()) {
-                *isSecond = frame.known.test(size_t(index));
+                *isRepeated = frame.known.test(size_t(index));
                 frame.known.set(size_t(index));
             }
             return index;
@@ -271,7 +270,9 @@ void ObjectBuilder::openInProperty(Frame &frame, const char *name)
     }
     frame.isAnswered = true;
     if (opensList) {
-        emptyList(frame.object, frame.property);
+        if (!frame.isRepeated) {
+            emptyList(frame.object, frame.property);
+        }
         frame.property->setOrderingPaused(true);
     }
     push(opensList ? Context::List : Context::ObjectValue, frame.object, frame.property);
@@ -392,7 +393,8 @@ void ObjectBuilder::addItem(const Frame &list, DesignerObject *item)
     qWarning("%s", qUtf8Printable(message));
     note(isKept ? ReadNote::Kept : ReadNote::Dropped, message);
     if (isKept) {
-        list.property->items().keep({text.data().trimmed(), item->className(), item->getIdName()});
+        list.property->items().keep({text.data().trimmed(), item->className(), item->getIdName(),
+                                     list.property->hasListItem(item->getIdName())});
     }
 }
 

@@ -45,6 +45,7 @@ private:
             0; //!< where the next property is expected: files keep the order of the table
         std::bitset<128> known = {}; //!< the properties that have been there, by their index
         bool isAnswered = false;     //!< a property that got a value or children
+        bool isRepeated = false;     //!< a property that was there before
     };
 
     void startElement(const char *name, const char **attributes) override;
@@ -66,7 +67,7 @@ private:
     void openInProperty(Frame &frame, const char *name);
     void openItem(const Frame &frame, const char *name, const char **attributes);
     void openObjectValue(const char *name);
-    static qsizetype expectProperty(Frame &frame, const char *id, bool *isSecond);
+    static qsizetype expectProperty(Frame &frame, const char *id, bool *isRepeated);
     void applyValue(const Frame &frame, const char *value);
     static void emptyList(DesignerObject *owner, const SharedProperty &list);
     static void finishList(const SharedProperty &list);

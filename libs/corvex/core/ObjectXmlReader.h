@@ -20,7 +20,8 @@ class ObjectBuilder;
     The bytes are not trusted: document types and entities of their own, other encodings, elements nested
    deeper than 512 and values of more than 16 MB end the reading with an error. Properties that the object
    does not know keep nothing but a note; a list item whose class no factory knows is kept by the list with a
-   note, to be written back. Of a property that stands twice the first counts. Validation is switched off on
+   note, to be written back. Of a property that is there twice each is taken in turn, so that the later value
+    counts. Validation is switched off on
    everything that is read and runs once when the root is complete.
 */
 class ObjectXmlReader

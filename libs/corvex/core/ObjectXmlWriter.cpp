@@ -3,10 +3,14 @@
 
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ItemList.h"
+#include "corvex/core/XmlLimits.h"
 
 #include <QDomDocument>
 #include <QIODevice>
 #include <QMap>
+#include <QSet>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +20,8 @@ namespace {
 
 constexpr qsizetype bufferSize = 256 * 1024;
 constexpr int rootPropertyLevel = 2;
+const QString tooLong = u"The value is longer than 16 MB in a file. Please shorten it."_s;
+const QString tooDeep = u"The objects are nested too deeply. Please take it out of some groups."_s;
 
 //! Whether there is text beside the elements in it.
 bool hasWords(const QDomElement &element)
@@ -112,6 +118,13 @@ void ObjectXmlWriter::startLine(int level)
     m_buffer.appendBlanks(level);
 }
 
+void ObjectXmlWriter::refuse(const QString &place, const QString &reason)
+{
+    if (m_error.isEmpty()) {
+        m_error = u"%1: %2"_s.arg(place, reason);
+    }
+}
+
 void ObjectXmlWriter::endLine()
 {
     m_buffer.append(m_lineEnd);
@@ -158,6 +171,10 @@ void ObjectXmlWriter::writeObject(const DesignerObject *object, int level)
 
 void ObjectXmlWriter::writeOwnProperties(const DesignerObject *object, int level)
 {
+    if (level > XmlLimits::mostOwners * XmlLimits::levelsPerObject) {
+        refuse(object->objectPath(), tooDeep);
+        return;
+    }
     const QString name = object->className();
     openTag(name, level);
     openTag(u"Properties"_s, level + 1);
@@ -172,6 +189,10 @@ void ObjectXmlWriter::writeOwnProperties(const DesignerObject *object, int level
 
 void ObjectXmlWriter::writeElement(const QDomElement &element, int level)
 {
+    if (level >= XmlLimits::deepestNesting) {
+        refuse(element.tagName(), tooDeep);
+        return;
+    }
     startLine(level);
     writeStartTag(element);
     const bool isNested = !element.firstChildElement().isNull() && !hasWords(element);
@@ -211,6 +232,7 @@ void ObjectXmlWriter::writeContent(const QDomElement &element)
 
 void ObjectXmlWriter::writeStartTag(const QDomElement &element)
 {
+    const qsizetype start = m_buffer.bytes().size();
     m_buffer.append('<');
     m_buffer.appendEscaped(element.tagName());
     // A document keeps its attributes in no order.
@@ -227,6 +249,9 @@ void ObjectXmlWriter::writeStartTag(const QDomElement &element)
         m_buffer.appendEscaped(attribute.value());
         m_buffer.append('"');
     }
+    if (m_buffer.bytes().size() - start > XmlLimits::longestTag) {
+        refuse(element.tagName(), tooLong);
+    }
 }
 
 void ObjectXmlWriter::writeProperty(const DesignerProperty &property, int level)
@@ -237,7 +262,12 @@ void ObjectXmlWriter::writeProperty(const DesignerProperty &property, int level)
     if (!property.isList() && !property.isObject()) {
         m_buffer.append("\" value=\"");
         const bool replaced = level == rootPropertyLevel && m_rootValues.contains(property.id());
+        const qsizetype start = m_buffer.bytes().size();
         m_buffer.appendEscaped(replaced ? m_rootValues.value(property.id()) : property.valueString());
+        if (m_buffer.bytes().size() - start > XmlLimits::longestValue) {
+            const DesignerObject *owner = property.parentObject();
+            refuse(owner ? owner->objectPath() + u'.' + property.id() : property.id(), tooLong);
+        }
         m_buffer.append("\"/>");
         endLine();
         return;
@@ -250,9 +280,7 @@ void ObjectXmlWriter::writeProperty(const DesignerProperty &property, int level)
     openTag(container, level + 1, isEmpty ? "/>" : ">");
     if (!isEmpty) {
         if (property.isList()) {
-            property.itemList()->walk(
-                [this, level](const DesignerObject *item) { writeObject(item, level + 2); },
-                [this, level](const KeptItem &kept) { writeKept(kept, level + 2); });
+            writeItems(property, level + 2);
         } else {
             writeObject(property.objectValue(), level + 2);
         }
@@ -261,14 +289,49 @@ void ObjectXmlWriter::writeProperty(const DesignerProperty &property, int level)
     closeTag(u"Property"_s, level);
 }
 
+void ObjectXmlWriter::writeItems(const DesignerProperty &property, int level)
+{
+    const ItemList &list = *property.itemList();
+    const bool keeps = list.hasKeptItems();
+    // Of two items of one name the first counts, wherever lists put the other one when they were ordered.
+    QHash<const DesignerObject *, QList<KeptItem>> waiting;
+    QSet<const DesignerObject *> written;
+    list.walk(
+        [&](const DesignerObject *item) {
+            writeObject(item, level);
+            if (keeps) {
+                written.insert(item);
+                for (const KeptItem &kept : waiting.take(item)) {
+                    writeKept(kept, level);
+                }
+            }
+        },
+        [&](const KeptItem &kept) {
+            const DesignerObject *namesake = kept.isNamesake ? list.find(kept.name) : nullptr;
+            if (namesake && !written.contains(namesake)) {
+                waiting[namesake].append(kept);
+            } else {
+                writeKept(kept, level);
+            }
+        });
+}
+
 void ObjectXmlWriter::writeKept(const KeptItem &kept, int level)
 {
     for (const QByteArray &line : kept.xml.split('\n')) {
-        if (!line.isEmpty()) {
-            startLine(level);
-            m_buffer.append(line);
-            endLine();
+        if (line.isEmpty()) {
+            continue;
         }
+        const qsizetype depth = std::ranges::find_if(line, [](char c) { return c != ' '; }) - line.begin();
+        if (level + depth >= XmlLimits::deepestNesting) {
+            refuse(kept.name, tooDeep);
+        }
+        if (line.size() > XmlLimits::longestTag) {
+            refuse(kept.name, tooLong);
+        }
+        startLine(level + int(depth));
+        m_buffer.append(QByteArrayView(line).sliced(depth));
+        endLine();
     }
 }
 

@@ -32,7 +32,7 @@ public:
     void setRootValue(const QString &id, const QString &value) { m_rootValues.insert(id, value); }
 
     /*! False when the device does not take every byte, or, before anything is written, when isComplete() does
-       not hold. */
+       not hold. Also false, in the middle of it, for what the reader would not take: see XmlLimits. */
     bool write(const DesignerObject *object);
     //! The same from the properties of the object, where its class has an XML form of its own; the objects
     //! below it keep theirs.
@@ -55,8 +55,10 @@ private:
     void writeContent(const QDomElement &element);
     void writeStartTag(const QDomElement &element);
     void writeProperty(const DesignerProperty &property, int level);
+    void writeItems(const DesignerProperty &list, int level);
     void writeKept(const KeptItem &kept, int level);
     void startLine(int level);
+    void refuse(const QString &place, const QString &reason);
     void endLine();
     void openTag(const QString &name, int level, QByteArrayView ending = ">");
     void closeTag(const QString &name, int level);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/XmlText.h"
 
+#include <algorithm>
 #include <array>
 
 namespace Halvane::Corvex::Designer::XmlText {
@@ -94,6 +95,22 @@ char *putAttribute(char *out, QStringView text)
         }
     }
     return out;
+}
+
+qsizetype attributeSize(QStringView text)
+{
+    std::array<char, 256 * longestPerUnit> piece;
+    qsizetype size = 0;
+    while (!text.isEmpty()) {
+        qsizetype count = std::min<qsizetype>(text.size(), 256);
+        // Both halves of a character stay together.
+        if (count < text.size() && text[count - 1].isHighSurrogate()) {
+            --count;
+        }
+        size += putAttribute(piece.data(), text.first(count)) - piece.data();
+        text = text.sliced(count);
+    }
+    return size;
 }
 
 void appendAttribute(QByteArray &bytes, QByteArrayView utf8)

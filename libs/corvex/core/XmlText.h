@@ -18,6 +18,9 @@ constexpr qsizetype longestPerUnit = 6;
    What no XML file can hold becomes U+FFFD. Returns where it ended. */
 char *putAttribute(char *out, QStringView text);
 
+//! How many bytes that takes.
+qsizetype attributeSize(QStringView text);
+
 //! Appends the same for bytes that are UTF-8 already.
 void appendAttribute(QByteArray &bytes, QByteArrayView utf8);
 

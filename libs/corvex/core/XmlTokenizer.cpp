@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/XmlTokenizer.h"
 
+#include "corvex/core/XmlLimits.h"
+
 #include <QIODevice>
 
 #include <algorithm>
@@ -10,8 +12,6 @@ using namespace Qt::StringLiterals;
 namespace Halvane::Corvex::Designer {
 
 namespace {
-
-constexpr qint64 longestToken = qint64(16) * 1024 * 1024;
 
 //! Two bytes that no text in UTF-8 begins with and each in UTF-16 does, with a byte order mark or without.
 bool beginsAsUtf16(QByteArrayView bytes)
@@ -127,7 +127,7 @@ bool XmlTokenizer::feed(qint64 size)
     }
     m_fed += size;
     // A single token that outgrows every buffer is read again with each chunk; end that in time.
-    if (m_fed - XML_GetCurrentByteIndex(m_parser.get()) > longestToken + chunkSize) {
+    if (m_fed - XML_GetCurrentByteIndex(m_parser.get()) > XmlLimits::longestValue + chunkSize) {
         return fail(u"A value is longer than 16 MB."_s);
     }
     return true;

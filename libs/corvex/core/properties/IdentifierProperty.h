@@ -19,7 +19,10 @@ struct TextForm<IdentifierInfo>
 {
     static IdentifierInfo parseLike(const QString &text, const IdentifierInfo &current, bool *ok)
     {
-        return IdentifierInfo::fromText(text, current, ok);
+        const IdentifierInfo info = IdentifierInfo::fromText(text, current, ok);
+        // "name: ;" would be saved as nothing, and nothing is read as the name of a new object.
+        *ok = *ok && info != IdentifierInfo();
+        return info;
     }
     static QString print(const IdentifierInfo &value) { return value.toString(); }
 };

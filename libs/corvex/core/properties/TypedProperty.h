@@ -58,7 +58,9 @@ public:
     bool valueIsEqual(const QString &text) const override
     {
         const std::optional<Value> &parsed = parse(text);
-        return !parsed || *parsed == m_value;
+        // Values that compare as equal may have two texts: 0 and -0.
+        return !parsed
+               || (*parsed == m_value && TextForm<Value>::print(*parsed) == TextForm<Value>::print(m_value));
     }
 
     bool validateValue(QString &) const override { return true; }
