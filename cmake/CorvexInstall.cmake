@@ -13,6 +13,7 @@ install(TARGETS CommonBase Zip Common DesignerCore EXPORT DesignerCoreTargets
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/libs/corvex" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
   FILES_MATCHING PATTERN "*.h" PATTERN "corvex/preview" EXCLUDE
   PATTERN "DesignerObjectData.h" EXCLUDE PATTERN "DesignerPropertyState.h" EXCLUDE
+  PATTERN "FileJournal.h" EXCLUDE PATTERN "FileRecovery.h" EXCLUDE
   PATTERN "ObjectBuilder.h" EXCLUDE PATTERN "XmlHandler.h" EXCLUDE PATTERN "XmlInput.h" EXCLUDE PATTERN "XmlToken*.h" EXCLUDE)
 install(EXPORT DesignerCoreTargets NAMESPACE Corvex:: DESTINATION "${package_path}")
 

@@ -2,13 +2,16 @@
 #include "DeviceFolder.h"
 
 #include "corvex/common/FileHelper.h"
-
-#include "FolderLock.h"
+#include "corvex/common/FileSync.h"
+#include "corvex/common/FolderLock.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+
+#include <algorithm>
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
@@ -84,7 +87,7 @@ bool DeviceFolder::bring(const QString &source, QString *error)
     }
     const QStringList made = missingFolders(m_path);
     if (Common::FileHelper::makeFolder(m_path, error) && bringLocked(source, error)) {
-        return true;
+        return syncFrom(made, error);
     }
     for (const QString &folder : made) {
         QDir().rmdir(folder);
@@ -92,10 +95,22 @@ bool DeviceFolder::bring(const QString &source, QString *error)
     return false;
 }
 
+//! The build is on the disk; so is the way to it.
+bool DeviceFolder::syncFrom(const QStringList &made, QString *error) const
+{
+    QStringList folders{m_path};
+    for (const QString &folder : made) {
+        folders.append(QFileInfo(folder).path());
+    }
+    return std::ranges::all_of(folders, Common::FileSync::sync)
+           || fail(error,
+                   u"The folder \"%1\" cannot be written to: %2"_s.arg(m_path, Common::FileSync::reason()));
+}
+
 bool DeviceFolder::bringLocked(const QString &source, QString *error) const
 {
-    const FolderLock lock(m_path);
-    if (lock.isTaken()) {
+    Common::FolderLock lock;
+    if (!lock.take(m_path, Common::FolderLock::Kind::Exclusive)) {
         return fail(error,
                     u"Another build is being brought to \"%1\". Wait until it has finished."_s.arg(m_path));
     }
@@ -151,18 +166,28 @@ bool DeviceFolder::replace(const QString &source, QString *error) const
     if (!QDir().rename(source, draft.path()) && !copyFiles(QDir(source), draft, error)) {
         return false;
     }
-    const QString previous = workshop.filePath(previousFolder);
+    using namespace Common;
+    if (!FileSync::syncAll(draft.path())) {
+        return fail(error, u"The folder \"%1\" cannot be written to: %2"_s.arg(m_path, FileSync::reason()));
+    }
     const bool hasPrevious = QFileInfo::exists(projectPath());
-    if (hasPrevious && !QDir().rename(projectPath(), previous)) {
-        return fail(error, u"The earlier build \"%1\" cannot be moved."_s.arg(projectPath()));
+    bool isInPlace = hasPrevious ? FileSync::exchange(draft.path(), projectPath())
+                                 : FileSync::move(draft.path(), projectPath());
+    if (hasPrevious && !isInPlace && errno == ENOTSUP) {
+        // In two steps; a build that is broken off between them is put back by the next one.
+        const QString previous = workshop.filePath(previousFolder);
+        isInPlace =
+            FileSync::move(projectPath(), previous)
+            && (FileSync::move(draft.path(), projectPath()) || !FileSync::move(previous, projectPath()));
+        isInPlace = isInPlace && !QFileInfo::exists(draft.path());
     }
-    if (!QDir().rename(draft.path(), projectPath())) {
-        if (hasPrevious) {
-            QDir().rename(previous, projectPath());
-        }
-        return fail(error, u"The folder \"%1\" cannot be made."_s.arg(projectPath()));
+    if (!isInPlace) {
+        return fail(error,
+                    u"The build cannot be moved to \"%1\": %2"_s.arg(projectPath(), FileSync::reason()));
     }
-    return true;
+    // Before the earlier build goes.
+    return FileSync::sync(m_path)
+           || fail(error, u"The folder \"%1\" cannot be written to: %2"_s.arg(m_path, FileSync::reason()));
 }
 
 } // namespace Halvane::Corvex::Tool

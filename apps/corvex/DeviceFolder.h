@@ -33,6 +33,7 @@ public:
 private:
     QString foreignEntry(const QStringList &newFiles) const;
     bool bringLocked(const QString &source, QString *error) const;
+    bool syncFrom(const QStringList &made, QString *error) const;
     void clearRemains() const;
     bool replace(const QString &source, QString *error) const;
     bool fail(QString *error, const QString &message) const;

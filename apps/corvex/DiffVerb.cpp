@@ -50,7 +50,8 @@ ExitCode run(const Call &call)
 {
     ProjectFile before;
     ProjectFile after;
-    if (!before.open(call) || !after.open(call, 1)) {
+    using Use = ProjectFile::Use;
+    if (!before.open(call, Use::Read) || !after.open(call, Use::Read, 1)) {
         return ExitCode::File;
     }
     const ProjectDiff diff(before.project(), after.project());

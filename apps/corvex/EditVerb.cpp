@@ -108,7 +108,7 @@ Empty lines and lines that start with "#" do nothing.)"_s;
     .mostArguments = 2,
     .opensProjects = true,
     .options = options,
-    .run = onProject<run>,
+    .run = onProject<run, ProjectFile::Use::Change>,
 };
 
 } // namespace Halvane::Corvex::Tool

@@ -102,7 +102,7 @@ ExitCode run(const Call &call)
         return call.misused(u"With --json the files have to go somewhere: add -o DIR."_s);
     }
     ProjectFile file;
-    if (!file.open(call, 1)) {
+    if (!file.open(call, ProjectFile::Use::Read, 1)) {
         return ExitCode::File;
     }
     const Exported exported = kind->write(file);

@@ -49,7 +49,7 @@ void report(const Call &call, const ProjectFile &file, qint64 line, bool written
     }
 }
 
-ExitCode run(const Call &call, const ProjectFile &file)
+ExitCode format(const Call &call, const ProjectFile &file)
 {
     const QList<ReadNote> dropped = file.dropped();
     const bool onlyChecks = call.isSet(u"check"_s);
@@ -78,7 +78,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     if (loses) {
         return refuse(call, file, dropped);
     }
-    if (!file.claim(call)) {
+    if (!file.isUnchanged(call)) {
         return ExitCode::File;
     }
     if (!rewritten.commit()) {
@@ -86,6 +86,14 @@ ExitCode run(const Call &call, const ProjectFile &file)
     }
     report(call, file, line, true);
     return ExitCode::Done;
+}
+
+ExitCode run(const Call &call)
+{
+    using Use = ProjectFile::Use;
+    ProjectFile file;
+    return file.open(call, call.isSet(u"check"_s) ? Use::Read : Use::Change) ? format(call, file)
+                                                                             : ExitCode::File;
 }
 
 QList<QCommandLineOption> options()
@@ -110,7 +118,7 @@ would be lost; elements whose plug-in is missing are kept and lose nothing.)"_s;
     .example = "corvex fmt --check examples/PumpStation/PumpStation.kdproj",
     .opensProjects = true,
     .options = options,
-    .run = onProject<run>,
+    .run = run,
 };
 
 } // namespace Halvane::Corvex::Tool

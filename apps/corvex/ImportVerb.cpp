@@ -159,7 +159,7 @@ ExitCode run(const Call &call)
             u"The table \"%1\" cannot be read: %2."_s.arg(call.argument(2), table.errorString()));
     }
     ProjectFile file;
-    if (!file.open(call, 1)) {
+    if (!file.open(call, ProjectFile::Use::Change, 1)) {
         return ExitCode::File;
     }
     VariableImport import(table.readAll(), file.project());

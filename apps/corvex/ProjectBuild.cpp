@@ -46,7 +46,8 @@ bool isAccepted(const QList<Problem> &problems, const ProjectFile &file, const C
 ExitCode ProjectBuild::run(const Call &call, const QString &folder, WithProblems withProblems)
 {
     ProjectFile file;
-    const ConfigurationContainer *models = file.open(call) ? Installation::loadModels(call) : nullptr;
+    const ConfigurationContainer *models =
+        file.open(call, ProjectFile::Use::Read) ? Installation::loadModels(call) : nullptr;
     if (!models) {
         return ExitCode::File;
     }
@@ -62,6 +63,8 @@ ExitCode ProjectBuild::run(const Call &call, const QString &folder, WithProblems
     if (!isAccepted(problems, file, call, withProblems)) {
         return ExitCode::Problems;
     }
+    // What else lies beside the images is the user's own and not for the device.
+    generator.setResourceNames(file.project().imageResources()->listItemNames());
     file.project().generateRuntimeFiles();
     if (generator.buildFolder().isEmpty()) {
         return call.failed(generator.errorString(),

@@ -20,6 +20,9 @@ using namespace Designer;
 
 namespace {
 
+//! An edit that a person types may take long; a script does not.
+constexpr int longestWait = 30'000; // milliseconds
+
 //! What a user can do who named something that is no project file.
 QString advice(const QString &path)
 {
@@ -68,6 +71,9 @@ ProjectFile::~ProjectFile()
     // The program ends with its verb, and taking a large model apart would take longer than many a verb does.
     // It stays here, where a search for leaks finds it.
     static const Project *left = nullptr;
+    if (m_project) {
+        m_project->closeFiles();
+    }
     delete std::exchange(left, m_project.release());
 }
 
@@ -81,15 +87,29 @@ std::unique_ptr<Project> ProjectFile::create()
     return std::unique_ptr<Project>(static_cast<Project *>(object));
 }
 
-bool ProjectFile::open(const Call &call, qsizetype argument)
+bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
 {
     m_path = call.argument(argument);
     if (Installation::loadFactory(call) != ExitCode::Done) {
         return false;
     }
-    call.terminal().showProgress(u"reading %1"_s.arg(m_path));
-    m_timeOfFile = QFileInfo(m_path).lastModified();
     m_project = create();
+    call.terminal().showProgress(u"waiting for others that work on %1"_s.arg(m_path));
+    using Kind = Common::FolderLock::Kind;
+    const bool isLocked =
+        m_project
+        && m_project->lockFiles(m_path, use == Use::Change ? Kind::Exclusive : Kind::Shared, longestWait);
+    if (isLocked && !m_project->recoveryNote().isEmpty()) {
+        call.terminal().printError(Terminal::oneLine(u"%1: %2"_s.arg(m_path, m_project->recoveryNote())));
+    }
+    if (m_project && !isLocked) {
+        call.failed(m_project->fileError());
+        return false;
+    }
+    call.terminal().showProgress(u"reading %1"_s.arg(m_path));
+    if (use == Use::Change) {
+        m_stamp = Common::FileStamp::of(m_path);
+    }
     if (m_project && m_project->loadFile(m_path)) {
         return true;
     }
@@ -98,11 +118,10 @@ bool ProjectFile::open(const Call &call, qsizetype argument)
     return false;
 }
 
-bool ProjectFile::claim(const Call &call) const
+bool ProjectFile::isUnchanged(const Call &call) const
 {
-    m_claim.emplace(m_project->folderPath(), FolderLock::Mode::Wait);
     // A project that got another name has taken its file along.
-    if (QFileInfo(m_project->fullFilePath()).lastModified() == m_timeOfFile) {
+    if (Common::FileStamp::of(m_project->fullFilePath()) == m_stamp) {
         return true;
     }
     call.failed(u"\"%1\" has been written by another program since it was opened, and stays as that program "
@@ -122,7 +141,7 @@ ExitCode ProjectFile::save(const Call &call) const
             u"\"%1\" holds no object, and \"%2\" is not written without it."_s.arg(missing, m_path),
             ExitCode::Problems);
     }
-    if (!claim(call)) {
+    if (!isUnchanged(call)) {
         return ExitCode::File;
     }
     return m_project->saveFile() ? ExitCode::Done : call.failed(m_project->fileError());

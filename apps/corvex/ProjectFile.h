@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/FileStamp.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/ObjectXmlReader.h"
 
 #include "ExitCode.h"
-#include "FolderLock.h"
 
-#include <QDateTime>
 #include <QList>
 #include <QString>
 
 #include <memory>
-#include <optional>
 
 namespace Halvane::Corvex::Designer {
 class DesignerObject;
@@ -31,9 +29,13 @@ public:
     ~ProjectFile();
     Q_DISABLE_COPY_MOVE(ProjectFile)
 
-    //! Opens the file that is an argument of the call, the first unless told otherwise, with all plug-ins.
-    //! False once the user has been told.
-    bool open(const Call &call, qsizetype argument = 0);
+    enum class Use {
+        Read,  //!< beside others that do
+        Change //!< alone: others wait until this object is gone
+    };
+    /*! Opens the file that is an argument of the call, the first unless told otherwise, with all plug-ins.
+       What a run that was killed has begun there is ended first. False once the user has been told. */
+    bool open(const Call &call, Use use, qsizetype argument = 0);
     //! A new project that has no file yet; null without a factory.
     static std::unique_ptr<Designer::Project> create();
 
@@ -41,9 +43,9 @@ public:
     //! As the user wrote it.
     const QString &path() const { return m_path; }
 
-    //! Keeps other runs of the program from writing the file, which is done before it is saved. False, once
-    //! the user has been told, when somebody has written it since it was opened.
-    bool claim(const Call &call) const;
+    //! False, once the user has been told, when some program has written the file since it was opened for a
+    //! change.
+    bool isUnchanged(const Call &call) const;
     //! Saves the project, which loses what dropped() tells only when the call says --force. The user has been
     //! told of a failure.
     ExitCode save(const Call &call) const;
@@ -60,17 +62,17 @@ public:
 
 private:
     QString m_path;
-    QDateTime m_timeOfFile; //!< when it was written, as it was opened
-    mutable std::optional<FolderLock> m_claim;
+    Common::FileStamp m_stamp; //!< of the file as it was opened
     std::unique_ptr<Designer::Project> m_project;
 };
 
 //! A verb's run() that opens the project first.
-template<ExitCode (*run)(const Call &call, const ProjectFile &file)>
+template<ExitCode (*run)(const Call &call, const ProjectFile &file),
+         ProjectFile::Use use = ProjectFile::Use::Read>
 ExitCode onProject(const Call &call)
 {
     ProjectFile file;
-    return file.open(call) ? run(call, file) : ExitCode::File;
+    return file.open(call, use) ? run(call, file) : ExitCode::File;
 }
 
 } // namespace Halvane::Corvex::Tool

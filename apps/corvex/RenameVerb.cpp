@@ -61,7 +61,7 @@ project get the new name too. A name that will not do is refused.)"_s;
     .mostArguments = 3,
     .opensProjects = true,
     .options = options,
-    .run = onProject<run>,
+    .run = onProject<run, ProjectFile::Use::Change>,
 };
 
 } // namespace Halvane::Corvex::Tool

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/TemporaryFolder.h"
 
-#include <QDateTime>
+#include "corvex/common/FileHelper.h"
+
 #include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
+#include <QTemporaryDir>
 
 #include <unistd.h>
 
@@ -12,47 +13,44 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Common {
 
-namespace {
+TemporaryFolder::TemporaryFolder(const QString &name)
+    : TemporaryFolder(QDir::tempPath(), name)
+{ }
 
-// So long a program may take, in seconds, from making a folder to locking it.
-constexpr qint64 timeToLock = 60;
-const QString lockName = u".lock"_s;
-
-bool isAbandoned(const QFileInfo &folder)
+TemporaryFolder::TemporaryFolder(const QString &parent, const QString &name)
 {
-    const QString path = QDir(folder.filePath()).filePath(lockName);
-    if (!QFileInfo::exists(path)) {
-        return folder.lastModified().secsTo(QDateTime::currentDateTime()) > timeToLock;
-    }
-    QLockFile lock(path);
-    lock.setStaleLockTime(0); // a lock gets old with its program alone
-    return lock.tryLock(0);
+    removeAbandoned(parent, name + u"-??????"_s);
+    bool isMade = false;
+    do {
+        QTemporaryDir folder(QDir(parent).filePath(name + u"-XXXXXX"_s));
+        folder.setAutoRemove(false);
+        isMade = folder.isValid();
+        m_path = isMade ? folder.path() : QString();
+        m_error = folder.errorString();
+        // Somebody may have taken it for an abandoned one in the moment before it is locked.
+    } while (isMade && !m_lock.take(m_path, FolderLock::Kind::Exclusive));
 }
 
-void removeAbandoned(const QString &name)
+TemporaryFolder::~TemporaryFolder()
+{
+    if (isValid()) {
+        FileHelper::removeDirectory(m_path);
+    }
+}
+
+void TemporaryFolder::removeAbandoned(const QString &parent, const QString &pattern)
 {
     const QFileInfoList folders =
-        QDir(QDir::tempPath()).entryInfoList({name + u"-??????"_s}, QDir::Dirs | QDir::NoSymLinks);
+        QDir(parent).entryInfoList({pattern}, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
     for (const QFileInfo &folder : folders) {
-        if (folder.ownerId() == getuid() && isAbandoned(folder)) {
-            QDir(folder.filePath()).removeRecursively();
+        if (folder.ownerId() != geteuid()) {
+            continue;
+        }
+        const FolderLock lock(folder.filePath(), FolderLock::Kind::Exclusive);
+        if (lock.isReal()) {
+            FileHelper::removeDirectory(folder.filePath());
         }
     }
 }
-
-} // namespace
-
-TemporaryFolder::TemporaryFolder(const QString &name)
-    : m_folder(QDir::temp().filePath(name + u"-XXXXXX"_s))
-    , m_lock(std::make_unique<QLockFile>(m_folder.filePath(lockName)))
-{
-    m_lock->setStaleLockTime(0);
-    if (isValid()) {
-        m_lock->tryLock(0);
-    }
-    removeAbandoned(name);
-}
-
-TemporaryFolder::~TemporaryFolder() = default;
 
 } // namespace Halvane::Corvex::Common

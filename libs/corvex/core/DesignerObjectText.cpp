@@ -137,10 +137,12 @@ bool DesignerObject::saveToFile(const DesignerObject *object, const QString &pat
         problem = u"\"%1\" holds no object; nothing is written."_s.arg(problem);
     } else if (Common::SafeFile file(path); file.openForWriting(&problem)) {
         ObjectXmlWriter writer(&file, ObjectXmlWriter::LineEnd::Windows);
-        if (!writer.write(object)) {
-            file.cancelWriting();
+        // A file that did not take all knows best why.
+        const bool isRefused = !writer.write(object) && file.error() == QFileDevice::NoError;
+        done = !isRefused && file.commit(&problem);
+        if (isRefused) {
+            problem = writer.errorString();
         }
-        done = file.commit(&problem); // the file knows best why it did not take all
     }
     if (error) {
         *error = problem;

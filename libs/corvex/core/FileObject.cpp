@@ -2,7 +2,9 @@
 #include "corvex/core/FileObject.h"
 
 #include "corvex/common/FileHelper.h"
+#include "corvex/common/FileSync.h"
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/TemporaryFolder.h"
 
 #include <QDir>
 #include <QFile>
@@ -115,17 +117,33 @@ bool FileObject::createFile(const QString &path)
     }
     const QDir parent(path);
     const bool makesFolder = !sub.isEmpty() && !parent.exists(sub);
-    if (makesFolder && !Common::FileHelper::makeFolder(parent.filePath(sub), &m_fileError)) {
-        return false;
-    }
-    if (!saveToFile(this, file, &m_fileError)) {
-        if (makesFolder) {
-            parent.rmdir(sub);
-        }
+    if (!(makesFolder ? createWithFolder(parent.path(), sub, &m_fileError)
+                      : saveToFile(this, file, &m_fileError))) {
         return false;
     }
     setFileFields(parent.absolutePath(), sub, createFileName());
     return finish({});
+}
+
+//! The folder comes to its place with the file in it.
+bool FileObject::createWithFolder(const QString &parent, const QString &sub, QString *error)
+{
+    const Common::TemporaryFolder workshop(parent, u".corvex-new"_s);
+    const QString draft = workshop.filePath(sub);
+    const QString folder = u"%1/%2"_s.arg(parent, sub);
+    if (!workshop.isValid()) {
+        *error = message(u"The folder \"%1\" cannot be made: %2"_s, folder, workshop.errorString());
+        return false;
+    }
+    if (!Common::FileHelper::makeFolder(draft, error)
+        || !saveToFile(this, u"%1/%2"_s.arg(draft, createFileName()), error)) {
+        return false;
+    }
+    if (!Common::FileSync::move(draft, folder) || !Common::FileSync::sync(parent)) {
+        *error = message(u"The folder \"%1\" cannot be made: %2"_s, folder, Common::FileSync::reason());
+        return false;
+    }
+    return true;
 }
 
 bool FileObject::loadFile(const QString &path)
@@ -171,7 +189,13 @@ bool FileObject::saveFile()
     if (m_fullFilePath.isEmpty() || !QFileInfo(m_fullFilePath).isFile()) {
         return finish(message(u"The file \"%1\" does not exist."_s, m_fullFilePath));
     }
-    return saveToFile(this, m_fullFilePath, &m_fileError);
+    m_fileError.clear();
+    return writeAgain(&m_fileError);
+}
+
+bool FileObject::writeAgain(QString *error)
+{
+    return saveToFile(this, m_fullFilePath, error);
 }
 
 bool FileObject::renameFile(const QString &oldName, const QString &newName)
@@ -193,16 +217,26 @@ bool FileObject::renameFile(const QString &oldName, const QString &newName)
             return finish(message(u"The file \"%1\" exists already."_s, target));
         }
     }
-    if (!renameEntry(folder, m_fileName, file)) {
-        return finish(message(u"The file \"%1\" cannot be renamed: %2"_s, m_fullFilePath, qt_error_string()));
-    }
-    if (!renameEntry(m_parentPath, m_subPath, sub)) {
-        const QString reason = qt_error_string();
-        renameEntry(folder, file, m_fileName);
-        return finish(message(u"The folder \"%1\" cannot be renamed: %2"_s, folder, reason));
+    if (!renameEntries(file, sub, &m_fileError)) {
+        return false;
     }
     setFileFields(m_parentPath, sub, file);
     return finish({});
+}
+
+bool FileObject::renameEntries(const QString &fileName, const QString &subPath, QString *error)
+{
+    const QString folder = folderPath();
+    if (!renameEntry(folder, m_fileName, fileName)) {
+        *error = message(u"The file \"%1\" cannot be renamed: %2"_s, m_fullFilePath, qt_error_string());
+        return false;
+    }
+    if (!renameEntry(m_parentPath, m_subPath, subPath)) {
+        *error = message(u"The folder \"%1\" cannot be renamed: %2"_s, folder, qt_error_string());
+        renameEntry(folder, fileName, m_fileName);
+        return false;
+    }
+    return true;
 }
 
 bool FileObject::deleteFile()

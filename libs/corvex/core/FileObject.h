@@ -69,11 +69,17 @@ protected:
     //! Runs when the file fields were set or reset; while a file is being read, before its first byte.
     virtual void afterFileFieldsChanged();
 
+    //! Writes the file that is there. An error is for fileError(), here and below.
+    virtual bool writeAgain(QString *error);
+    //! Gives the file, and the object's own folder, other names, which nothing has. Both or none.
+    virtual bool renameEntries(const QString &fileName, const QString &subPath, QString *error);
+
     //! Keeps the text for fileError(); false when there is one.
     bool finish(const QString &error);
 
 private:
     bool readFile(const QString &path);
+    bool createWithFolder(const QString &parent, const QString &sub, QString *error);
 
     QString m_parentPath;
     QString m_subPath;

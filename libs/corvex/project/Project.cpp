@@ -60,6 +60,7 @@ Project::~Project()
     m_observer.reset();
     // Undo steps own what they took out of the model, and refer to what they left in it.
     delete std::exchange(m_undoStack, nullptr);
+    m_folder.close();
     deleteChildren();
 }
 

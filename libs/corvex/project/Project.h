@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/core/FileObject.h"
+#include "corvex/project/ProjectFolder.h"
 #include "corvex/runtime/RuntimeGenerator.h"
 #include "corvex/values/RuntimeAutoSettingList.h"
 
@@ -63,6 +64,20 @@ public:
     //! Reads D/P/P.kdproj into this project, whose own contents go before.
     bool loadFile(const QString &path) override;
     bool saveFile() override;
+    /*! Keeps others from changing the project in the file \a path, or from reading it too (exclusive), from
+       before it is loaded until closeFiles(). False when others work there for longer than \a milliseconds.
+     */
+    bool lockFiles(const QString &path, Common::FolderLock::Kind kind, int milliseconds);
+    //! Takes back what commands did to files since the last save, and lets others in. The destructor does so,
+    //! too.
+    void closeFiles() { m_folder.close(); }
+    //! What the opening had to end that a program did not end itself, as a sentence; mostly empty.
+    const QString &recoveryNote() const { return m_folder.recoveryNote(); }
+    /*! Where commands change files: all of it counts with the next saveFile(), and nobody else can write the
+        project until then. Null, with an error, when that cannot be. */
+    Common::FileTransaction *beginFileChanges(QString *error);
+    //! The changes that wait for the next save; null when there are none.
+    Common::FileTransaction *fileChanges() const { return m_folder.changes(); }
     //! Deletes the project's file, its images and its preview, and their folders once they are empty.
     bool deleteFile() override;
     /*! Makes the project D/Q/Q.kdproj with images and preview in the existing folder D = \a parentPath, as it
@@ -148,6 +163,8 @@ protected:
     void readEmptyValue(const SharedProperty &property) override;
     void finishReading() override;
     void afterFileFieldsChanged() override;
+    bool renameEntries(const QString &fileName, const QString &subPath, QString *error) override;
+    bool writeAgain(QString *error) override;
     void afterObjectPropertyChanged(const DesignerProperty *property,
                                     const DesignerObject *previousObject) override;
     void afterListItemAdded(const DesignerProperty *property, const DesignerObject *item) override;
@@ -180,6 +197,7 @@ private:
     std::unique_ptr<ProjectAutosave> m_autosave;
     std::unique_ptr<ModelObserver> m_observer;
     RuntimeGenerator m_runtimeGenerator;
+    ProjectFolder m_folder;
     bool m_needsBuildVersion = false;
 };
 

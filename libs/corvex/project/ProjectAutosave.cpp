@@ -3,13 +3,13 @@
 
 #include "corvex/common/FileHelper.h"
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/TemporaryFolder.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/ZipWorker.h"
 
 #include <QFile>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QThread>
 #include <QTimerEvent>
 
@@ -113,8 +113,8 @@ QString ProjectAutosave::moveAside()
 
 QString ProjectAutosave::stage()
 {
-    m_staging = std::make_unique<QTemporaryDir>(Common::FileHelper::getStandardTemporatyLocation()
-                                                + "/CorvexNova-autosave-XXXXXX"_L1);
+    m_staging = std::make_unique<Common::TemporaryFolder>(Common::FileHelper::getStandardTemporatyLocation(),
+                                                          u"CorvexNova-autosave"_s);
     if (!m_staging->isValid()) {
         return Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be made: %2"_s)
             .arg(m_staging->path(), m_staging->errorString());

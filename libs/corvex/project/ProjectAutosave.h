@@ -5,8 +5,11 @@
 
 #include <memory>
 
-class QTemporaryDir;
 class QThread;
+
+namespace Halvane::Corvex::Common {
+class TemporaryFolder;
+} // namespace Halvane::Corvex::Common
 
 namespace Halvane::Corvex::Designer {
 
@@ -82,7 +85,7 @@ private:
     HistoryState m_beingSaved;
     bool m_isRunning = false;
     QString m_archive;
-    std::unique_ptr<QTemporaryDir> m_staging;
+    std::unique_ptr<Common::TemporaryFolder> m_staging;
     std::unique_ptr<ZipWorker> m_worker;
     std::unique_ptr<QThread> m_thread;
 };

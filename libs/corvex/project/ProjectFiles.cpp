@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The files of Project: everything in its own folder, nothing beside it but the autosave file.
 #include "corvex/common/FileHelper.h"
+#include "corvex/common/FileSync.h"
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/SafeFile.h"
+#include "corvex/common/TemporaryFolder.h"
 #include "corvex/core/ModelObserver.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/FileNameRules.h"
@@ -12,7 +15,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
@@ -55,13 +57,32 @@ bool Project::createFile(const QString &path)
         changePropertyValue(m_designerVersion, oldDesignerVersion);
         return false;
     }
+    m_folder.close(); // another one from now on
     createUndoStack();
     return true;
 }
 
+bool Project::lockFiles(const QString &path, Common::FolderLock::Kind kind, int milliseconds)
+{
+    QString error;
+    m_folder.lock(path, kind, milliseconds, &error);
+    return finish(error);
+}
+
+Common::FileTransaction *Project::beginFileChanges(QString *error)
+{
+    return m_folder.begin(folderPath(), error);
+}
+
 bool Project::loadFile(const QString &path)
 {
+    QString error;
+    m_folder.takeBack();
+    if (!m_folder.recover(path, &error)) {
+        return finish(error);
+    }
     if (QFileInfo(path).isFile()) {
+        Common::SafeFile::removeAbandoned(QFileInfo(path).absolutePath());
         clearContents();
     }
     const bool done = FileObject::loadFile(path) && updateProjectProperties();
@@ -97,13 +118,40 @@ bool Project::saveFile()
         changePropertyValue(m_designerVersion, oldDesignerVersion);
         return false;
     }
-    undoStack()->cleanJunkFiles();
     createUndoStack();
     return true;
 }
 
+bool Project::writeAgain(QString *error)
+{
+    const auto clean = [this] { undoStack()->cleanJunkFiles(); };
+    const auto write = [this](const QString &path, QString *reason) {
+        return saveToFile(this, path, reason);
+    };
+    return m_folder.save(folderPath(), fileName(), clean, write, error);
+}
+
+bool Project::renameEntries(const QString &fileName, const QString &subPath, QString *error)
+{
+    const bool waitsForSave = fileChanges();
+    Common::FileTransaction *changes = beginFileChanges(error);
+    const bool isRenamed =
+        changes && (fileName == this->fileName() || changes->move(this->fileName(), fileName, error))
+        && (subPath == this->subPath() || changes->renameFolder(subPath, error));
+    if (waitsForSave) {
+        return isRenamed;
+    }
+    if (!isRenamed) {
+        m_folder.takeBack();
+    }
+    return isRenamed && m_folder.keepChanges(fileName, error);
+}
+
 bool Project::deleteFile()
 {
+    if (QString error; !m_folder.keepChanges(fileName(), &error)) {
+        return finish(error);
+    }
     const QDir folder(folderPath());
     const QString ownFolder = subPath() == createSubPath() ? subPath() : QString();
     const QDir parent(parentPath());
@@ -144,7 +192,7 @@ bool Project::createFileCopy(const QString &parentPath, const QString &name)
             Common::LocalizationHelper::coreString(u"The folder \"%1\" exists already."_s).arg(folder));
     }
     // The copy grows in a folder beside its place and is moved there when it is complete.
-    const QTemporaryDir workshop(parentPath + "/.corvex-copy-XXXXXX"_L1);
+    const Common::TemporaryFolder workshop(parentPath, u".corvex-copy"_s);
     const QString draft = workshop.filePath(copyName);
     if (!workshop.isValid() || !QDir().mkdir(draft)) {
         return finish(Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be made: %2"_s)
@@ -153,9 +201,10 @@ bool Project::createFileCopy(const QString &parentPath, const QString &name)
     QString error;
     if (copyName == getIdName() ? writeContents(draft, createFileName(), &error)
                                 : writeRenamed(draft, copyName, &error)) {
-        if (!QDir().rename(draft, folder)) {
-            error =
-                Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be made."_s).arg(folder);
+        if (!Common::FileSync::syncAll(draft) || !Common::FileSync::move(draft, folder)
+            || !Common::FileSync::sync(parentPath)) {
+            error = Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be made: %2"_s)
+                        .arg(folder, Common::FileSync::reason());
         }
     }
     return finish(error);

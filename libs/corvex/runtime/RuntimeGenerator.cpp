@@ -2,7 +2,9 @@
 #include "corvex/runtime/RuntimeGenerator.h"
 
 #include "corvex/common/FileHelper.h"
+#include "corvex/common/FolderLock.h"
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/TemporaryFolder.h"
 #include "corvex/common/zip/ZipHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ObjectXmlWriter.h"
@@ -12,9 +14,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QUuid>
 
 #include <future>
+#include <map>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +32,13 @@ using Common::LocalizationHelper;
 //! Asked of the packer, which takes it as its highest.
 constexpr int compressionLevel = 10;
 const QString packedName = u"Project.kdproj"_s;
+
+//! By these other processes see which build folders are in use, whatever became of their generators.
+std::map<QString, std::unique_ptr<Common::FolderLock>> &buildFolderLocks()
+{
+    static std::map<QString, std::unique_ptr<Common::FolderLock>> locks;
+    return locks;
+}
 
 QByteArray withWindowsLineEnds(QByteArrayView text)
 {
@@ -59,6 +71,7 @@ void RuntimeGenerator::removeBuildFolder()
 {
     if (!m_buildFolder.isEmpty()) {
         Common::FileHelper::removeDirectory(m_buildFolder);
+        buildFolderLocks().erase(m_buildFolder);
         m_buildFolder.clear();
     }
 }
@@ -78,14 +91,24 @@ bool RuntimeGenerator::makeBuildFolder()
 {
     const QDir temporary(Common::FileHelper::getStandardTemporatyLocation());
     const QString designerFolder = temporary.absoluteFilePath(u"%1/CorvexNova/Designer"_s.arg(u"Halvane"_s));
+    Common::TemporaryFolder::removeAbandoned(designerFolder, u"{*-*-*-*-*}"_s);
     QString folder;
-    do {
-        folder = u"%1/%2"_s.arg(designerFolder, QUuid::createUuid().toString());
-    } while (QFile::exists(folder));
     QString error;
+    auto lock = std::make_unique<Common::FolderLock>();
+    do {
+        do {
+            folder = u"%1/%2"_s.arg(designerFolder, QUuid::createUuid().toString());
+        } while (QFile::exists(folder));
+        if (!Common::FileHelper::makeFolder(folder, &error)) {
+            return fail(error);
+        }
+        // Somebody may have taken it for an abandoned one in the moment before it is locked.
+    } while (!lock->take(folder, Common::FolderLock::Kind::Exclusive));
     if (!Common::FileHelper::makeFolder(folder + u"/project"_s, &error)) {
+        Common::FileHelper::removeDirectory(folder);
         return fail(error);
     }
+    buildFolderLocks().emplace(folder, std::move(lock));
     m_buildFolder = folder;
     return true;
 }
@@ -172,7 +195,12 @@ bool RuntimeGenerator::copyResources()
     const QDir resources(m_resourceFolder);
     const QString projectFolder =
         QFileInfo(QFileInfo(resources.absolutePath()).path()).canonicalFilePath() + u'/';
-    for (const QString &name : resources.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
+    QStringList names = resources.entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    if (m_resourceNames) {
+        const QSet<QString> wanted(m_resourceNames->cbegin(), m_resourceNames->cend());
+        names.removeIf([&wanted](const QString &name) { return !wanted.contains(name); });
+    }
+    for (const QString &name : std::as_const(names)) {
         const QString path = resources.absoluteFilePath(name);
         // A build is handed on, and a project from elsewhere may have a link to any file of this machine.
         if (!QFileInfo(path).canonicalFilePath().startsWith(projectFolder)) {

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+
+#include <optional>
 
 namespace Halvane::Corvex::Designer {
 
@@ -10,7 +13,8 @@ class DesignerObject;
 /*! Makes the folder that goes to the device: one QML file per screen, the zipped project, the files of
    RuntimeConfiguration and the resources, all in the sub-folder "project".
 
-    Each build gets a fresh folder of its own below the temporary location. A build that fails leaves none.
+    Each build gets a fresh folder of its own below the temporary location, which belongs to this process
+   until its end: builds of later processes remove it then. A build that fails leaves none.
 */
 class RuntimeGenerator
 {
@@ -18,6 +22,9 @@ public:
     //! The folder whose files are copied beside the screens; none when empty.
     void setResourceFolder(const QString &path) { m_resourceFolder = path; }
     const QString &resourceFolder() const { return m_resourceFolder; }
+    //! Those of them that are copied, of which some may be missing; all files of the folder unless this is
+    //! called.
+    void setResourceNames(const QStringList &names) { m_resourceNames = names; }
     //! What the zipped project has as its version in place of its own; nothing when empty.
     void setBuildTag(const QString &tag) { m_buildTag = tag; }
 
@@ -44,6 +51,7 @@ private:
     QString filePath(const QString &fileName) const;
 
     QString m_resourceFolder;
+    std::optional<QStringList> m_resourceNames;
     QString m_buildTag;
     QString m_buildFolder;
     QString m_error;

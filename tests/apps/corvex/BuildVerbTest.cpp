@@ -78,10 +78,20 @@ TEST_F(BuildVerb, bringsTheBuildToItsFolder)
         QStringList{u"project"_s});
 }
 
+TEST_F(BuildVerb, holdsNothingButWhatTheProjectNames)
+{
+    sandbox.write(u"Pump/Images/notes.txt"_s, "mine");
+    sandbox.write(u"Pump/Images/old.png"_s, "mine");
+    EXPECT_EQ(build(u"out"_s).code, 0);
+    EXPECT_EQ(sandbox.files(u"out"_s), builtFiles);
+}
+
 TEST_F(BuildVerb, leavesNoTraceElsewhere)
 {
     const QDir builds(u"/tmp/corvex-%1/Halvane/CorvexNova/Designer"_s.arg(QString::number(getuid())));
     const QStringList before = builds.entryList();
+    // What a build that was killed has left goes, too.
+    ASSERT_TRUE(builds.mkpath(u"{5d4a1c1e-0000-4000-8000-000000000000}/project"_s));
     ASSERT_EQ(build(u"out"_s).code, 0);
     sandbox.write(u"mine/letter.txt"_s, "");
     ASSERT_EQ(build(u"mine"_s).code, 3);

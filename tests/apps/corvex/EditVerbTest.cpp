@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/common/zip/ZipHelper.h"
+
 #include "Sandbox.h"
 
 #include <QDir>
@@ -13,6 +15,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+using namespace Halvane::Corvex;
 using namespace Halvane::Corvex::Test;
 using namespace Qt::StringLiterals;
 using testing::HasSubstr;
@@ -21,7 +24,7 @@ namespace {
 
 const QString pump = u"Pump/Pump.kdproj"_s;
 
-void savePicture(Qt::GlobalColor color, const QString &path)
+void savePicture(QColor color, const QString &path)
 {
     QImage picture(8, 8, QImage::Format_RGB32);
     picture.fill(color);
@@ -286,28 +289,80 @@ TEST(EditVerbKept, whatNoPluginKnowsStaysInItsPlace)
                                  u"changed Main.dial"_s}));
 }
 
-TEST_F(EditVerb, ofTwoAtOnceNoneTakesBackWhatTheOtherDid)
+TEST_F(EditVerb, ofTwoAtOnceBothCount)
 {
-    const struct
-    {
-        QString script;
-        QString path;
-    } edits[] = {{u"first"_s, u"Main.title.text"_s}, {u"second"_s, u"Main.box1.opacity"_s}};
-    for (int round = 1; round <= 5; ++round) {
+    sandbox.run({u"edit"_s, pump, u"-"_s});
+    for (int round = 1; round <= 3; ++round) {
         const QString value = QString::number(round);
-        QProcess programs[2];
+        const QStringList names{u"one"_s + value, u"two"_s + value};
+        QProcess programs[3];
         for (int i = 0; i < 2; ++i) {
-            sandbox.write(edits[i].script, u"set %1 %2\n"_s.arg(edits[i].path, value).toUtf8());
+            savePicture(QColor::fromHsv(40 * round + 20 * i, 200, 200), sandbox.path(names[i] + u".png"_s));
+            sandbox.write(names[i], u"set Main.%1 %2\nadd-image %3.png\nrename %3.png %3new.png\n"_s
+                                        .arg(i == 0 ? u"title.text"_s : u"box1.opacity"_s, value, names[i])
+                                        .toUtf8());
+        }
+        // A build beside them has the images that it names.
+        const QList<QStringList> calls{{u"edit"_s, pump, names[0]},
+                                       {u"edit"_s, pump, names[1]},
+                                       {u"build"_s, pump, u"--force"_s, u"-o"_s, u"out"_s}};
+        for (int i = 0; i < 3; ++i) {
             programs[i].setWorkingDirectory(sandbox.path({}));
-            programs[i].start(QStringLiteral(CORVEX_PROGRAM), {u"edit"_s, pump, edits[i].script});
+            programs[i].start(QStringLiteral(CORVEX_PROGRAM), calls[i]);
         }
-        for (int i = 0; i < 2; ++i) {
-            ASSERT_TRUE(programs[i].waitForFinished(60'000));
+        for (QProcess &program : programs) {
+            ASSERT_TRUE(program.waitForFinished(60'000));
+            EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().constData();
         }
-        for (int i = 0; i < 2; ++i) {
-            EXPECT_EQ(programs[i].exitCode() == 0, tree(edits[i].path) == value) << round << ' ' << i;
+        EXPECT_EQ(tree(u"Main.title.text"_s), value);
+        EXPECT_EQ(tree(u"Main.box1.opacity"_s), value);
+        const QString built = sandbox.path(u"unzipped"_s);
+        EXPECT_TRUE(Common::ZipHelper::unzip(sandbox.path(u"out/project/Project.kdproj.zip"_s), built));
+        const QByteArray text = sandbox.read(u"unzipped/Project.kdproj"_s);
+        for (const QString &name : names) {
+            const QString image = name + u"new.png"_s;
+            EXPECT_TRUE(QFile::exists(sandbox.path(u"Pump/Images/"_s + image)));
+            EXPECT_EQ(text.contains(image.toUtf8()), QFile::exists(sandbox.path(u"out/project/"_s + image)));
         }
     }
+    EXPECT_EQ(sandbox.files(u"Pump"_s).size(), 7) << "nothing is left over";
+}
+
+TEST_F(EditVerb, anEditThatWasKilledIsTakenBackByTheNextOpening)
+{
+    const QByteArray before = sandbox.read(pump);
+    QProcess program;
+    program.setWorkingDirectory(sandbox.path({}));
+    program.start(QStringLiteral(CORVEX_PROGRAM), {u"edit"_s, pump});
+    program.write("add-image one.png\nrename Pump Well\n");
+    for (int tries = 0; tries < 1200 && !QFile::exists(sandbox.path(u"Well"_s)); ++tries) {
+        program.waitForReadyRead(50);
+    }
+    ASSERT_TRUE(QFile::exists(sandbox.path(u"Well"_s)));
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished(60'000));
+    const ProgramRun next = sandbox.run({u"info"_s, pump});
+    EXPECT_EQ(next.error,
+              u"%1: An interrupted edit of this project has been taken back: it is as it was last "
+              "saved.\n"_s.arg(pump));
+    EXPECT_EQ(next.code, 0);
+    EXPECT_EQ(sandbox.read(pump), before);
+    EXPECT_EQ(sandbox.files(u"Pump"_s), QStringList{u"Pump.kdproj"_s});
+    EXPECT_EQ(sandbox.run({u"info"_s, pump}).error, QString());
+}
+
+TEST_F(EditVerb, whatCannotBeOpenedIsNotSaved)
+{
+    const QByteArray before = sandbox.read(pump);
+    EXPECT_THAT(edit("set Main.title.text " + QByteArray(5'000'000, '<') + '\n').error.toStdString(),
+                HasSubstr("longer than 16 MB"));
+    QByteArray nested = "group g0 Main.box1 Main.box2\n";
+    for (int i = 1; i < 140; ++i) {
+        nested += "add Rectangle Main r" + QByteArray::number(i) + "\ngroup g" + QByteArray::number(i)
+                  + " Main.g" + QByteArray::number(i - 1) + " Main.r" + QByteArray::number(i) + '\n';
+    }
+    EXPECT_THAT(edit(nested).error.toStdString(), HasSubstr("nested too deeply"));
+    EXPECT_EQ(sandbox.read(pump), before);
 }
 
 //! All files that the example has after the lines.

@@ -8,6 +8,7 @@
 #include "corvex/editing/commands/DeleteImage.h"
 #include "corvex/editing/commands/EditingDialogs.h"
 #include "corvex/editing/commands/RenameImage.h"
+#include "corvex/editing/commands/RenameProject.h"
 #include "corvex/editing/commands/ReplaceImage.h"
 #include "corvex/project/ImageResource.h"
 
@@ -144,6 +145,35 @@ TEST_F(ImageCommandTest, ReplacingGivesTheOldPictureBack)
     EXPECT_FALSE(ReplaceImage(object(u"pump.png"_s), folder.filePath(u"no.png"_s), u"pump.png"_s).isValid());
     EXPECT_FALSE(
         ReplaceImage(object(u"pump.png"_s), picture(u"new.jpg"_s, Qt::blue), u"pump.png"_s).isValid());
+}
+
+TEST_F(ImageCommandTest, WhatWasNotSavedDoesNotCount)
+{
+    add(project->imageResources(), "ImageResource", "well.png");
+    writePicture("well.png", Qt::green);
+    ASSERT_TRUE(project->saveFile());
+    const QString saved = project->fullFilePath();
+    push(new RenameImage(object(u"pump.png"_s), u"engine.png"_s));
+    push(new ReplaceImage(object(u"well.png"_s), picture(u"new.png"_s, Qt::blue), u"well.png"_s));
+    push(new RenameProject(project.get(), u"Wells"_s));
+    // Another one can look at it, and cannot write it.
+    Project &second = static_cast<Project &>(*make(u"Project"_s, u"Other"_s));
+    const std::unique_ptr<DesignerObject> owned(&second);
+    EXPECT_TRUE(second.loadFile(project->fullFilePath())) << qPrintable(second.fileError());
+    EXPECT_FALSE(second.saveFile());
+    EXPECT_TRUE(second.fileError().startsWith(u"Another program is working on the project"_s));
+    EXPECT_TRUE(project->saveFile());
+    EXPECT_EQ(files(), (QStringList{u"engine.png"_s, u"well.png"_s}));
+    EXPECT_EQ(shown(u"well.png"_s), QColor(Qt::blue));
+
+    push(new RenameProject(project.get(), u"Pumps"_s));
+    push(new DeleteImage(object(u"engine.png"_s)));
+    push(new RenameImage(object(u"well.png"_s), u"sea.png"_s));
+    project.reset();
+    EXPECT_FALSE(QFile::exists(saved));
+    EXPECT_TRUE(second.loadFile(folder.filePath(u"Wells/Wells.kdproj"_s)));
+    EXPECT_EQ(QDir(second.imagesPath()).entryList(QDir::Files),
+              (QStringList{u"engine.png"_s, u"well.png"_s}));
 }
 
 TEST_F(ImageCommandTest, PicturesFromMemory)

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/commands/FileStep.h"
 
-#include "corvex/common/FileHelper.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -16,7 +14,6 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-using Common::FileHelper;
 using Common::LocalizationHelper;
 
 bool isThere(const QString &path)
@@ -65,19 +62,30 @@ bool FileStep::isUsed(const QString &name) const
 
 void FileStep::removeUnused(const QString &name) const
 {
-    if (const QString path = pathOf(name); !path.isEmpty() && !isUsed(name)) {
-        QFile::remove(path);
+    QString error;
+    if (const QString path = pathOf(name); !path.isEmpty() && isThere(path) && !isUsed(name)) {
+        if (Common::FileTransaction *files = changes(error)) {
+            files->remove(inFolder(name));
+        }
     }
 }
 
-QString FileStep::freeName(const QString &name) const
+Common::FileTransaction *FileStep::changes(QString &error) const
 {
-    QString free;
-    int number = 1;
-    do {
-        free = u"%1.tmp%2"_s.arg(name, QString::number(number++));
-    } while (isThere(pathOf(free)));
-    return free;
+    return m_project->beginFileChanges(&error);
+}
+
+QString FileStep::inFolder(const QString &name) const
+{
+    return pathOf(name).sliced(m_project->folderPath().size() + 1);
+}
+
+void FileStep::discard(const QString &key) const
+{
+    // Without changes that wait it has gone with the last save.
+    if (Common::FileTransaction *files = m_project ? m_project->fileChanges() : nullptr) {
+        files->discard(key);
+    }
 }
 
 void FileStep::lookAgain(const QString &name) const
@@ -102,21 +110,22 @@ bool PlaceFileStep::readSource(QByteArray &bytes, QString &error) const
 
 bool PlaceFileStep::redo(QString &error)
 {
-    m_isDone = bringBack() || place(error);
+    Common::FileTransaction *files = changes(error);
+    m_isDone = files && (bringBack(*files) || place(*files, error));
     return m_isDone;
 }
 
 //! What was placed once is as good as the source, which may be gone by now.
-bool PlaceFileStep::bringBack()
+bool PlaceFileStep::bringBack(Common::FileTransaction &files)
 {
-    if (m_spareName.isEmpty() || isThere(path()) || !QFile::rename(pathOf(m_spareName), path())) {
+    if (m_key.isEmpty() || isThere(path()) || !files.bringBack(m_key, inFolder(name()))) {
         return false;
     }
-    m_spareName.clear();
+    m_key.clear();
     return true;
 }
 
-bool PlaceFileStep::place(QString &error)
+bool PlaceFileStep::place(Common::FileTransaction &files, QString &error)
 {
     QByteArray bytes;
     if (!readSource(bytes, error)) {
@@ -129,99 +138,90 @@ bool PlaceFileStep::place(QString &error)
         }
         return isSame;
     }
-    QDir().mkpath(project()->imagesPath());
-    m_isMade = FileHelper::writeFile(path(), bytes, &error);
+    m_isMade = files.place(inFolder(name()), bytes, &error);
     return m_isMade;
 }
 
 void PlaceFileStep::undo()
 {
     m_isDone = false;
-    if (!m_isMade) {
-        return;
-    }
-    const QString spare = freeName(name());
-    m_isMade = QFile::rename(path(), pathOf(spare));
-    if (m_isMade) {
-        m_spareName = spare;
-    }
+    QString error;
+    Common::FileTransaction *files = m_isMade ? changes(error) : nullptr;
+    m_key = files ? files->setAside(inFolder(name())) : QString();
+    m_isMade = !m_key.isEmpty();
 }
 
 void PlaceFileStep::cleanJunkFiles()
 {
-    if (!m_spareName.isEmpty()) {
-        QFile::remove(pathOf(m_spareName));
+    if (!m_key.isEmpty()) {
+        discard(m_key);
     } else if (m_isMade) {
         removeUnused(name());
     }
 }
 
-bool RenameFileStep::rename(const QString &from, const QString &to, QString *error)
+bool RenameFileStep::rename(const QString &from, const QString &to, QString &error)
 {
     if (!isThere(pathOf(from)) && !isThere(pathOf(to))) {
         return true; // somebody has taken the file away; the image does without, under either name
     }
-    const QString between = freeName(from);
-    const bool isFree = !isThere(pathOf(to)) || from.compare(to, Qt::CaseInsensitive) == 0;
-    QFile file(pathOf(from));
-    QString reason;
-    if (isFree && file.rename(pathOf(between))) {
-        if (!isThere(pathOf(to)) && file.rename(pathOf(to))) {
-            return true;
-        }
-        reason = file.errorString();
-        file.rename(pathOf(from));
-    } else {
-        reason = file.errorString();
+    if (isThere(pathOf(to)) && from.compare(to, Qt::CaseInsensitive) != 0) {
+        error = LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(pathOf(to));
+        return false;
     }
-    if (error) {
-        *error = isFree
-                     ? LocalizationHelper::coreString(u"The file \"%1\" cannot be renamed to \"%2\": %3"_s)
-                           .arg(pathOf(from), to, reason)
-                     : LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(pathOf(to));
-    }
-    return false;
+    Common::FileTransaction *files = changes(error);
+    return files && files->move(inFolder(from), inFolder(to), &error);
+}
+
+void RenameFileStep::undo()
+{
+    QString error;
+    rename(m_newName, name(), error);
 }
 
 ReplaceFileStep::~ReplaceFileStep()
 {
-    // Done and not saved, the spare file holds what the project's file still shows.
+    // Done and not saved, the file that is set aside holds what the project's file still shows.
     if (!m_isDone) {
         ReplaceFileStep::cleanJunkFiles();
     }
 }
 
-bool ReplaceFileStep::exchange()
+bool ReplaceFileStep::exchange(QString &error)
 {
-    const QString between = freeName(name());
-    const bool hasOld = isThere(path());
-    if ((hasOld && !QFile::rename(path(), pathOf(between)))) {
+    Common::FileTransaction *files = changes(error);
+    if (!files) {
         return false;
     }
-    const bool isMissing = m_spareName.isEmpty(); // there was no file before
-    if (!isMissing && !QFile::rename(pathOf(m_spareName), path())) {
+    const bool hasOld = isThere(path());
+    const QString old = hasOld ? files->setAside(inFolder(name())) : QString();
+    if (hasOld && old.isEmpty()) {
+        return false;
+    }
+    const bool hadNone = m_key.isEmpty(); // there was no file before
+    if (!hadNone && !files->bringBack(m_key, inFolder(name()))) {
         if (hasOld) {
-            QFile::rename(pathOf(between), path());
+            files->bringBack(old, inFolder(name()));
         }
         return false;
     }
-    m_spareName = hasOld ? between : QString();
+    m_key = old;
     lookAgain(name());
     return true;
 }
 
 bool ReplaceFileStep::redo(QString &error)
 {
-    if (m_spareName.isEmpty() || !isThere(pathOf(m_spareName))) {
+    if (m_key.isEmpty()) {
         QByteArray bytes;
-        const QString spare = freeName(name());
-        if (!readFile(m_source, bytes, error) || !FileHelper::writeFile(pathOf(spare), bytes, &error)) {
+        Common::FileTransaction *files = readFile(m_source, bytes, error) ? changes(error) : nullptr;
+        m_key = files ? files->keepAside(bytes, &error) : QString();
+        if (m_key.isEmpty()) {
             return false;
         }
-        m_spareName = spare;
     }
-    m_isDone = exchange();
-    if (!m_isDone) {
+    m_isDone = exchange(error);
+    if (!m_isDone && error.isEmpty()) {
         error = LocalizationHelper::coreString(u"The file \"%1\" cannot be replaced."_s).arg(path());
     }
     return m_isDone;
@@ -229,15 +229,14 @@ bool ReplaceFileStep::redo(QString &error)
 
 void ReplaceFileStep::undo()
 {
-    exchange();
+    QString error;
+    exchange(error);
     m_isDone = false;
 }
 
 void ReplaceFileStep::cleanJunkFiles()
 {
-    if (!m_spareName.isEmpty()) {
-        QFile::remove(pathOf(m_spareName));
-    }
+    discard(m_key);
 }
 
 } // namespace Halvane::Corvex::Designer

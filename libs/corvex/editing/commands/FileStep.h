@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/FileTransaction.h"
 #include "corvex/editing/commands/EditStep.h"
 
 #include <QPointer>
@@ -9,9 +10,9 @@ namespace Halvane::Corvex::Designer {
 
 class Project;
 
-/*! A step that works on a file in the folder of a project's images. Nothing that an undo would need is
-   deleted, and nothing that the file of the project may still refer to: files that are left over go when the
-   project has been saved, or with the step when it was undone and made them itself. */
+/*! A step that works on a file in the folder of a project's images. All such changes wait for the project to
+   be saved, see ProjectFolder: what an undo would need, and what the file of the project still refers to,
+   goes with the save and not before. */
 class FileStep : public EditStep
 {
 public:
@@ -27,8 +28,12 @@ protected:
     //! Whether an image of the project shows the file of that name.
     bool isUsed(const QString &name) const;
     void removeUnused(const QString &name) const;
-    //! A name beside \a name that no file has.
-    QString freeName(const QString &name) const;
+    //! Where files are changed, begun when there is no change yet; null, with an error, when that cannot be.
+    Common::FileTransaction *changes(QString &error) const;
+    //! The file of that name as the changes know it.
+    QString inFolder(const QString &name) const;
+    //! Drops a file that was set aside.
+    void discard(const QString &key) const;
     //! Tells the image of that name to look at its file again.
     void lookAgain(const QString &name) const;
 
@@ -59,12 +64,12 @@ public:
 
 private:
     bool readSource(QByteArray &bytes, QString &error) const;
-    bool bringBack();
-    bool place(QString &error);
+    bool bringBack(Common::FileTransaction &files);
+    bool place(Common::FileTransaction &files, QString &error);
 
     QString m_source;
     QByteArray m_bytes;
-    QString m_spareName;   //!< of the file while the step is undone
+    QString m_key;         //!< of the file that is set aside while the step is undone
     bool m_isMade = false; //!< by this step, so that it may be removed again
     bool m_isDone = false;
 };
@@ -89,11 +94,11 @@ public:
         , m_newName(newName)
     { }
 
-    bool redo(QString &error) override { return rename(name(), m_newName, &error); }
-    void undo() override { rename(m_newName, name(), nullptr); }
+    bool redo(QString &error) override { return rename(name(), m_newName, error); }
+    void undo() override;
 
 private:
-    bool rename(const QString &from, const QString &to, QString *error);
+    bool rename(const QString &from, const QString &to, QString &error);
 
     QString m_newName;
 };
@@ -113,10 +118,10 @@ public:
     void cleanJunkFiles() override;
 
 private:
-    bool exchange();
+    bool exchange(QString &error);
 
     QString m_source;
-    QString m_spareName; //!< of the file with the contents that are not shown; empty before the first redo
+    QString m_key; //!< of the file with the contents that are not shown; empty before the first redo
     bool m_isDone = false;
 };
 

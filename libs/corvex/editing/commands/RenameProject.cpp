@@ -26,6 +26,10 @@ public:
     bool isPossible() const override { return m_project; }
     bool redo(QString &error) override
     {
+        const bool hasFile = !m_project->fullFilePath().isEmpty();
+        if (hasFile && !m_project->beginFileChanges(&error)) {
+            return false;
+        }
         if (!rename(m_oldName, m_newName)) {
             error = m_project->fileError();
             return false;

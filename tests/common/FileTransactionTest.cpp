@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/FileHelper.h"
+#include "corvex/common/FileStamp.h"
+#include "corvex/common/FileTransaction.h"
+#include "corvex/common/FolderLock.h"
+#include "corvex/common/SafeFile.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Halvane::Corvex::Common;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Change = std::function<void(FileTransaction &)>;
+
+class FileTransactionTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        write(u"P/P.proj"_s, "old");
+        write(u"P/Images/pump.png"_s, "pump");
+        write(u"P/Images/tank.png"_s, "tank");
+    }
+    QString path(const QString &name) const { return m_top.filePath(name); }
+    void write(const QString &name, const QByteArray &bytes) const
+    {
+        QDir().mkpath(QFileInfo(path(name)).path());
+        ASSERT_TRUE(FileHelper::writeFile(path(name), bytes));
+    }
+    //! The contents of all files by their names.
+    QMap<QString, QByteArray> files() const
+    {
+        QMap<QString, QByteArray> found;
+        QDirIterator entries(m_top.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (entries.hasNext()) {
+            QFile file(entries.next());
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+            found.insert(QDir(m_top.path()).relativeFilePath(file.fileName()), file.readAll());
+        }
+        return found;
+    }
+    //! Makes the change in a process that ends in the middle of it.
+    void crash(const Change &change) const
+    {
+        const pid_t child = fork();
+        if (child == 0) {
+            const std::unique_ptr<FileTransaction> files = FileTransaction::begin(path(u"P"_s));
+            change(*files);
+            _exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        ASSERT_EQ(status, 0);
+    }
+
+    QTemporaryDir m_top;
+};
+
+const QString pump = u"Images/pump.png"_s;
+const QString motor = u"Images/motor.png"_s;
+
+void replacePump(FileTransaction &files)
+{
+    const QString key = files.keepAside("new");
+    EXPECT_FALSE(files.setAside(pump).isEmpty());
+    EXPECT_TRUE(files.bringBack(key, pump));
+}
+
+} // namespace
+
+TEST_F(FileTransactionTest, AllOfItCountsOrNothing)
+{
+    using Recovery = FileTransaction::Recovery;
+    const struct
+    {
+        Change change;
+        QMap<QString, QByteArray> files; //!< afterwards, beside those that stay; null for one that is gone
+    } cases[] = {
+        {[](auto &files) { EXPECT_TRUE(files.place(motor, "new")); }, {{u"P/"_s + motor, "new"}}},
+        {[](auto &files) { EXPECT_TRUE(files.place(u"More/x"_s, "new")); }, {{u"P/More/x"_s, "new"}}},
+        {[](auto &files) { EXPECT_TRUE(files.move(pump, motor)); },
+         {{u"P/"_s + pump, {}}, {u"P/"_s + motor, "pump"}}},
+        {replacePump, {{u"P/"_s + pump, "new"}}},
+        {[](auto &files) { EXPECT_TRUE(files.remove(pump)); }, {{u"P/"_s + pump, {}}}},
+        {[](auto &files) {
+             EXPECT_TRUE(files.move(pump, motor) && files.move(motor, u"Images/a"_s)
+                         && files.move(u"Images/tank.png"_s, pump) && files.place(motor, "new"));
+             files.deferRemovals(true);
+             EXPECT_TRUE(files.remove(motor));
+         },
+         {{u"P/Images/a"_s, "pump"}, {u"P/"_s + pump, "tank"}, {u"P/Images/tank.png"_s, {}}}},
+    };
+    for (const auto &[change, changed] : cases) {
+        const QMap<QString, QByteArray> before = files();
+        crash(change);
+        EXPECT_TRUE(FileTransaction::isOpen(path(u"P"_s)));
+        EXPECT_EQ(FileTransaction::recover(path(u"P"_s)), Recovery::TakenBack);
+        EXPECT_EQ(files(), before);
+        EXPECT_FALSE(QFileInfo::exists(path(u"P/More"_s)));
+        QMap<QString, QByteArray> expected = before;
+        expected.insert(changed);
+        expected.insert(u"P/P.proj"_s, "saved");
+        expected.removeIf([](const auto &file) { return file.value().isNull(); });
+        {
+            const std::unique_ptr<FileTransaction> transaction = FileTransaction::begin(path(u"P"_s));
+            change(*transaction);
+            EXPECT_TRUE(FileHelper::writeFile(transaction->draftPath(), "saved"));
+            EXPECT_TRUE(transaction->commit(u"P.proj"_s));
+        }
+        EXPECT_EQ(files(), expected);
+        EXPECT_EQ(FileTransaction::recover(path(u"P"_s)), Recovery::Nothing);
+        QDir(path(u"P"_s)).removeRecursively();
+        SetUp();
+    }
+}
+
+TEST_F(FileTransactionTest, AFolderGetsItsNameBack)
+{
+    const QMap<QString, QByteArray> before = files();
+    const auto change = [](FileTransaction &files) {
+        EXPECT_TRUE(files.move(u"P.proj"_s, u"Q.proj"_s) && files.renameFolder(u"X"_s)
+                    && files.renameFolder(u"Q"_s));
+    };
+    crash(change);
+    EXPECT_EQ(FileTransaction::renamedFrom(path(u"P"_s)), path(u"Q"_s));
+    EXPECT_EQ(FileTransaction::recover(path(u"Q"_s)), FileTransaction::Recovery::TakenBack);
+    EXPECT_EQ(files(), before);
+    // Unless a user gave it another one since.
+    crash(change);
+    ASSERT_TRUE(QDir().rename(path(u"Q"_s), path(u"Mine"_s)));
+    EXPECT_EQ(FileTransaction::renamedFrom(path(u"P"_s)), QString());
+    EXPECT_EQ(FileTransaction::recover(path(u"Mine"_s)), FileTransaction::Recovery::TakenBack);
+    EXPECT_EQ(files().keys(),
+              (QStringList{u"Mine/Images/pump.png"_s, u"Mine/Images/tank.png"_s, u"Mine/P.proj"_s}));
+}
+
+TEST_F(FileTransactionTest, WhatAUserDidSinceStays)
+{
+    crash([](FileTransaction &files) {
+        EXPECT_TRUE(files.move(pump, motor));
+        replacePump(files);
+    });
+    write(u"P/"_s + motor, "mine");
+    write(u"P/"_s + pump, "mine too");
+    EXPECT_EQ(FileTransaction::recover(path(u"P"_s)), FileTransaction::Recovery::TakenBack);
+    const QMap<QString, QByteArray> now = files();
+    EXPECT_EQ(now.value(u"P/"_s + motor), "mine");
+    EXPECT_EQ(now.value(u"P/"_s + pump), "pump");
+    EXPECT_EQ(now.value(u"P/"_s + pump + u".tmp1"_s), "mine too");
+}
+
+TEST_F(FileTransactionTest, WhoWorksInAFolderIsSeen)
+{
+    using Kind = FolderLock::Kind;
+    const QMap<QString, QByteArray> before = files();
+    {
+        const FolderLock reader(path(u"P"_s), Kind::Shared);
+        EXPECT_TRUE(reader.isReal());
+        FolderLock other(path(u"P"_s), Kind::Shared);
+        EXPECT_EQ(other.kind(), Kind::Shared);
+        EXPECT_FALSE(other.take(path(u"P"_s), Kind::Exclusive, 30));
+    }
+    FolderLock writer;
+    EXPECT_TRUE(writer.take(path(u"P"_s), Kind::Exclusive));
+    EXPECT_EQ(files(), before) << "a lock leaves nothing behind";
+    EXPECT_FALSE(FolderLock().take(path(u"None"_s), Kind::Shared));
+
+    const FileStamp stamp = FileStamp::of(path(u"P/P.proj"_s));
+    EXPECT_EQ(FileStamp::of(path(u"P/P.proj"_s)), stamp);
+    write(u"P/P.proj"_s, "old");
+    EXPECT_NE(FileStamp::of(path(u"P/P.proj"_s)), stamp) << "another file with the same contents";
+    QFile file(path(u"P/P.proj"_s));
+    const FileStamp again = FileStamp::of(file.fileName());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.write("own");
+    file.close();
+    EXPECT_NE(FileStamp::of(file.fileName()), again);
+}
+
+TEST_F(FileTransactionTest, DraftsOfKilledProgramsGo)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        auto *file = new SafeFile(path(u"P/other"_s));
+        file->openForWriting();
+        file->write("half");
+        file->flush();
+        _exit(0);
+    }
+    waitpid(child, nullptr, 0);
+    write(u"P/.corvex-draft-mine"_s, "mine");
+    EXPECT_EQ(files().size(), 5);
+    SafeFile live(path(u"P/live"_s));
+    ASSERT_TRUE(live.openForWriting());
+    SafeFile::removeAbandoned(path(u"P"_s));
+    EXPECT_EQ(files().size(), 5) << "the dead one is gone, the live one and the user's are there";
+    EXPECT_TRUE(live.commit());
+    EXPECT_TRUE(files().contains(u"P/live"_s));
+}
