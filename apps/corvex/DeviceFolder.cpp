@@ -4,14 +4,20 @@
 #include "corvex/common/FileHelper.h"
 #include "corvex/common/FileSync.h"
 #include "corvex/common/FolderLock.h"
+#include "corvex/common/TemporaryFolder.h"
+#include "corvex/common/zip/ZipHelper.h"
+#include "corvex/values/IdentifierInfo.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 
 #include <algorithm>
 #include <cerrno>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +37,32 @@ bool isBuilt(const QString &name)
     const QString extension = QFileInfo(name).suffix().toLower();
     return name == zippedProject || (name.startsWith("qml_"_L1) && extension == "qml"_L1)
            || extension == "kdrc"_L1 || Common::FileHelper::validImageExtensions().contains(extension);
+}
+
+//! The names of the images that a build shows, as the project that is zipped in it names them.
+QSet<QString> imagesOf(const QString &zip)
+{
+    QSet<QString> names;
+    const Common::TemporaryFolder folder(u"corvex-earlier"_s);
+    QFile file(folder.filePath(QFileInfo(zip).completeBaseName()));
+    if (!folder.isValid() || !Common::ZipHelper::unzip(zip, folder.path())
+        || !file.open(QIODevice::ReadOnly)) {
+        return names;
+    }
+    QXmlStreamReader reader(&file);
+    bool isImage = false;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        if (reader.name() == "ImageResource"_L1) {
+            isImage = true;
+        } else if (isImage && reader.attributes().value("name"_L1) == "id"_L1) {
+            names.insert(Designer::IdentifierInfo(reader.attributes().value("value"_L1), nullptr).name());
+            isImage = false;
+        }
+    }
+    return names;
 }
 
 bool copyFiles(const QDir &source, const QDir &target, QString *error)
@@ -143,14 +175,21 @@ QString DeviceFolder::foreignEntry(const QStringList &newFiles) const
     if (entries.isEmpty()) {
         return {};
     }
+    const QString zip = QDir(projectPath()).filePath(zippedProject);
+    std::optional<QSet<QString>> images; // of the earlier build, when they have to be known
     const QFileInfoList files = QDir(projectPath()).entryInfoList(everything);
     for (const QFileInfo &file : files) {
         const QString name = file.fileName();
-        if (!file.isFile() || file.isSymLink() || !(isBuilt(name) || newFiles.contains(name))) {
+        bool isOurs = file.isFile() && !file.isSymLink();
+        if (isOurs && !isBuilt(name) && !newFiles.contains(name)) {
+            images = images ? images : imagesOf(zip);
+            isOurs = images->contains(name);
+        }
+        if (!isOurs) {
             return u"%1/%2"_s.arg(projectFolder, name);
         }
     }
-    return QFileInfo(QDir(projectPath()).filePath(zippedProject)).isFile() ? QString() : projectFolder;
+    return QFileInfo(zip).isFile() ? QString() : projectFolder;
 }
 
 bool DeviceFolder::replace(const QString &source, QString *error) const

@@ -84,6 +84,15 @@ TEST_F(BuildVerb, holdsNothingButWhatTheProjectNames)
     sandbox.write(u"Pump/Images/old.png"_s, "mine");
     EXPECT_EQ(build(u"out"_s).code, 0);
     EXPECT_EQ(sandbox.files(u"out"_s), builtFiles);
+    // What the project does not name any more is a part of the earlier build all the same.
+    sandbox.write(u"Pump/Images/odd.dat"_s, "odd");
+    const QByteArray text = sandbox.read(pump);
+    sandbox.write(pump, QByteArray(text).replace("pump.png", "odd.dat"));
+    EXPECT_EQ(build(u"out"_s, {u"--force"_s}).code, 0);
+    EXPECT_TRUE(sandbox.files(u"out"_s).contains(u"project/odd.dat"_s));
+    sandbox.write(pump, text);
+    EXPECT_EQ(build(u"out"_s).code, 0);
+    EXPECT_EQ(sandbox.files(u"out"_s), builtFiles);
 }
 
 TEST_F(BuildVerb, leavesNoTraceElsewhere)
