@@ -213,7 +213,8 @@ bool DesignerObject::mayEnter(const SharedProperty &property, const DesignerObje
            || property->refuse("The objects are nested too deeply. Please take it out of some groups.");
 }
 
-//! Whether a file that holds all of it can be read again. The reader, which validates at its end, counts for itself.
+//! Whether a file that holds all of it can be read again. The reader, which validates at its end, counts for
+//! itself.
 bool DesignerObject::isShallow(const DesignerObject *item) const
 {
     if (disabledValidation()) {
