@@ -58,7 +58,8 @@ QSet<QString> imagesOf(const QString &zip)
         if (reader.name() == "ImageResource"_L1) {
             isImage = true;
         } else if (isImage && reader.attributes().value("name"_L1) == "id"_L1) {
-            names.insert(Designer::IdentifierInfo(reader.attributes().value("value"_L1), nullptr).name());
+            const QString text = reader.attributes().value("value"_L1).toString();
+            names.insert(Designer::IdentifierInfo(text).name());
             isImage = false;
         }
     }
