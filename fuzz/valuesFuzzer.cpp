@@ -31,7 +31,7 @@ void checkReal(const QString &text)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QString text = Fuzz::toText(data, size);
-    const auto check = [&text](const char *kind, auto read) {
+    const auto check = [&text](const char *kind, auto(*read)(QStringView, bool *)) {
         Fuzz::checkText(kind, text, read, [](const auto &value) { return Convert::toString(value); });
     };
     check("boolean", Convert::toBoolean);

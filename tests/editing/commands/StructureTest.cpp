@@ -87,8 +87,7 @@ TEST_F(StructureTest, AddingGivesActiveAndSelectedItems)
     unsorted->setSortEnabled(false);
     walk(unsorted, u"Add \"aa\" to \"%1\""_s.arg(project->getIdName()));
     EXPECT_EQ(project->variables()->listItemNames().last(), u"aa"_s);
-    walk(new AddVariable(make(u"NumberVariable"_s, u"ab"_s), project.get()),
-         u"Add Project Variable \"ab\""_s);
+    push(new AddVariable(make(u"NumberVariable"_s, u"ab"_s), project.get()));
     EXPECT_EQ(project->variables()->listItemNames().first(2), QStringList({u"aa"_s, u"ab"_s}));
     DesignerObject *screen = make(u"Screen"_s, u"Third"_s);
     auto *elements = new AddObject(screen->getProperty(u"elements"), u"Text"_s, u"title"_s, true);
