@@ -57,7 +57,8 @@ void CodeCheck::add(const DesignerProperty &property, const QString &qml)
 
 void CodeCheck::readPending()
 {
-    m_reader.read(m_numbers.size() - m_pending.size(), std::exchange(m_pending, {}));
+    const qsizetype first = m_numbers.size() - m_pending.size();
+    m_reader.read(first, std::exchange(m_pending, {}));
 }
 
 void CodeCheck::finish(const Project &)

@@ -259,7 +259,8 @@ TEST(CheckVerb, namesEveryProblemInOneLine)
         codes.append(problem[u"code"_s].toString());
     }
     EXPECT_EQ(codes.join(u' '),
-              u"file.kept file.dropped name.invalid image.file image.file name.format code.unreadable"_s);
+              u"file.kept file.dropped name.invalid image.file image.file name.format expression.invalid "
+              "code.unreadable"_s);
 
     const QJsonValue info = other.run({u"info"_s, pump, u"--json"_s}).json();
     EXPECT_EQ(info[u"missingPlugins"_s], QJsonValue(QJsonObject{{u"Gauge"_s, QJsonArray{u"Main.gauge1"_s}}}));
