@@ -401,7 +401,7 @@ warning expression.type Main.button.pressed
 warning expression.fieldbus Main.shown.xBinding
 warning expression.condition Main.shown.visibleBinding
 warning log.unfed history.)"_s);
-    EXPECT_EQ(sandbox.run({u"build"_s, pump, u"out"_s}).code, 1);
+    EXPECT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 1);
 
     // Warnings are printed, and fail neither the check nor the build.
     const Sandbox warned;
@@ -410,7 +410,7 @@ warning log.unfed history.)"_s);
     const ProgramRun mild = warned.run({u"check"_s, pump});
     EXPECT_EQ(mild.out, u"Main.frame: opacity: warning: opacity takes numbers from 10 to 100, not 300.\n"_s);
     EXPECT_EQ(mild.code, 0);
-    EXPECT_EQ(warned.run({u"build"_s, pump, u"out"_s}).code, 0);
+    EXPECT_EQ(warned.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
 
     // A model with fewer channels says which elements move.
     const Sandbox moved;
