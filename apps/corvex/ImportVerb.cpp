@@ -113,10 +113,9 @@ bool edit(Project &project, VariableImport &import, QStringList &problems)
     for (const auto &variable : import.additions()) {
         added.append(variable.get());
     }
-    auto *command = new ImportVariables(project.variables(), import);
-    project.undoStack()->push(command);
-    if (!command->isDone()) {
-        problems.append(command->errorString());
+    UndoStack *stack = project.undoStack();
+    if (!stack->push(new ImportVariables(project.variables(), import))) {
+        problems.append(stack->errorString());
         return false;
     }
     for (const DesignerObject *variable : added) {

@@ -3,7 +3,6 @@
 
 #include "corvex/common/FileHelper.h"
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/core/PropertyValidators.h"
 #include "corvex/editing/commands/AddImage.h"
 #include "corvex/editing/commands/AddObject.h"
 #include "corvex/editing/commands/AddScreen.h"
@@ -156,11 +155,9 @@ bool ProjectEditor::push(ModelCommand *command)
     for (const ValueChange &change : command->valueChanges()) {
         paths.insert(change.property.data(), pathOf(change.property));
     }
-    m_project.undoStack()->push(owned.release());
-    if (!command->isDone()) {
-        const QString reason = command->errorString();
-        m_project.undoStack()->undo();
-        return fail(reason.isEmpty() ? refused : reason);
+    UndoStack *stack = m_project.undoStack();
+    if (!stack->push(owned.release())) {
+        return fail(stack->errorString().isEmpty() ? refused : stack->errorString());
     }
     QList<Change> changes;
     for (const auto &[property, before, after] : command->valueChanges()) {
@@ -343,9 +340,6 @@ bool ProjectEditor::rename(const Words &words)
     }
     if (!kindCast<Element>(item)) {
         return fail(u"\"%1\" cannot be renamed."_s.arg(item->objectPath()));
-    }
-    if (const QString reason = PropertyValidators::nameError(item, name); !reason.isEmpty()) {
-        return fail(reason);
     }
     return push(new ChangeProperty(item->idProperty(), withName(item, name), false));
 }

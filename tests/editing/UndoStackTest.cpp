@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QSignalSpy>
 
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -44,7 +45,85 @@ public:
     int done = 0;
 };
 
+//! A command that fails when the test wants it.
+class Fallible : public Step
+{
+public:
+    using Step::Step;
+
+    void redo() override { fails ? fail() : Step::redo(); }
+    QString errorString() const override { return u"The disk is full."_s; }
+
+    bool fails = true;
+};
+
 } // namespace
+
+TEST(UndoStackTest, WhatCannotBeDoneIsDroppedWithWhatWasBuiltUponIt)
+{
+    UndoStack stack;
+    const QSignalSpy saved(&stack, &UndoStack::savedChanged);
+    EXPECT_FALSE(stack.push(new Fallible));
+    EXPECT_EQ(stack.errorString(), u"The disk is full."_s);
+    EXPECT_EQ(stack.count(), 0);
+    EXPECT_TRUE(stack.isSaved());
+    EXPECT_EQ(saved.size(), 0);
+
+    // A composite takes back what its other children did; one that was done before fails when it is redone.
+    auto *first = new Step;
+    auto *late = new UndoCommand;
+    new Step({}, false, late);
+    auto *fallible = new Fallible({}, false, late);
+    fallible->fails = false;
+    EXPECT_TRUE(stack.push(first) && stack.push(late) && stack.push(new Step));
+    stack.setIndex(0);
+    fallible->fails = true;
+    const QSignalSpy canRedo(&stack, &UndoStack::canRedoChanged);
+    stack.setIndex(3);
+    EXPECT_EQ(first->done, 1);
+    EXPECT_EQ(stack.count(), 1);
+    EXPECT_EQ(stack.index(), 1);
+    EXPECT_EQ(canRedo.size(), 1);
+}
+
+TEST(UndoStackTest, NoMoveAsksACommandThatIsGone)
+{
+    const std::unique_ptr<DesignerObject> screen(make("Screen"));
+    UndoStack stack;
+    const auto push = [&] {
+        auto *step = new Step(screen->idProperty(), false, nullptr);
+        step->active = screen.get();
+        EXPECT_TRUE(stack.push(step));
+    };
+    const std::function<void()> ways[] = {
+        [&] { stack.undo(); },
+        [&] { stack.clear(); },
+        [&] {
+            stack.beginMacro(u"cleared"_s);
+            push();
+            stack.clear();
+        },
+        [&] {
+            stack.beginMacro(u"outer"_s);
+            stack.beginMacro(u"inner"_s);
+            push();
+            stack.endMacro();
+            stack.endMacro();
+            EXPECT_EQ(stack.activeItem(), screen.get());
+            stack.undo();
+        },
+    };
+    for (const auto &loseIt : ways) {
+        push();
+        push();
+        loseIt();
+        stack.setIndex(0);
+        stack.beginMacro(u"empty"_s);
+        stack.endMacro();
+        EXPECT_EQ(stack.activeItem(), nullptr);
+        stack.startOver();
+    }
+}
 
 TEST(UndoStackTest, MovesTellTheSavedStateTheDirectionAndTheActiveItem)
 {

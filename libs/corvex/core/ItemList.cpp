@@ -9,7 +9,12 @@ namespace Halvane::Corvex::Designer {
 
 bool ItemList::contains(const DesignerObject *item) const
 {
-    return item && m_byName.contains(item->getIdName(), const_cast<DesignerObject *>(item));
+    return item && bears(item, item->getIdName());
+}
+
+bool ItemList::bears(const DesignerObject *item, const QString &name) const
+{
+    return m_byName.contains(name, const_cast<DesignerObject *>(item));
 }
 
 qsizetype ItemList::indexOf(const DesignerObject *item) const

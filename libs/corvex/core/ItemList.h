@@ -42,6 +42,8 @@ public:
     const QList<DesignerObject *> &items() const { return m_items; }
     qsizetype count() const { return m_items.size(); }
     bool contains(const DesignerObject *item) const;
+    //! Whether \a item is in the list under that name.
+    bool bears(const DesignerObject *item, const QString &name) const;
     qsizetype indexOf(const DesignerObject *item) const;
     ItemPlace placeOf(const DesignerObject *item) const;
     DesignerObject *find(const QString &name) const;

@@ -16,10 +16,11 @@ public:
     /*! The name of a project variable, a screen or an element: format, length, reserved words and everything
         that it must differ from, by the tables of project/ObjectNameRules.cpp. Tells the first failure. */
     static bool identifierElementValidator(const DesignerProperty *property, QString &error);
-    //! What is wrong with a name.
+    //! What is wrong with the name of a variable, a screen or an element.
     enum class NameFault { None, Format, Length, Taken, Reserved };
     static NameFault nameFault(const DesignerObject *object, const QString &name);
-    //! Why the variable, screen or element \a object could not be called \a name; empty when it could.
+    //! Why the validator of its identifier refuses \a name for \a object, whatever that is; empty when it
+    //! does not.
     static QString nameError(const DesignerObject *object, const QString &name);
     //! The link of a function element: it names a visual element of the element's screen.
     static bool visualElementValidator(const DesignerProperty *property, QString &error);

@@ -21,6 +21,7 @@ SharedProperty channelOf(const DesignerObject *element)
 void ElementIndex::insert(Element *element)
 {
     m_byName.insert(element->getIdName(), element);
+    count(element->getIdName(), 1);
     if (const SharedProperty channel = m_channelsKnown ? channelOf(element) : SharedProperty()) {
         m_byChannel.insert({element->className(), channel->valueString()}, element);
     }
@@ -28,7 +29,7 @@ void ElementIndex::insert(Element *element)
 
 void ElementIndex::remove(Element *element)
 {
-    m_byName.remove(element->getIdName(), element);
+    count(element->getIdName(), -int(m_byName.remove(element->getIdName(), element)));
     nameFreed(element->getIdName());
     forgetChannelOf(element);
 }
@@ -59,6 +60,8 @@ void ElementIndex::rename(Element *element, const QString &oldName)
 {
     if (m_byName.remove(oldName, element) > 0) {
         m_byName.insert(element->getIdName(), element);
+        count(oldName, -1);
+        count(element->getIdName(), 1);
         nameFreed(oldName);
     }
 }
@@ -70,7 +73,7 @@ void ElementIndex::nameFreed(const QString &name)
         const auto known = m_numbers.find(name.chopped(digits));
         bool isNumber = false;
         const int number = QStringView(name).last(digits).toInt(&isNumber);
-        if (known != m_numbers.end() && isNumber && number < known->next) {
+        if (known != m_numbers.end() && isNumber && number > 0 && number < known->next) {
             known->gaps.insert(number);
         }
     }
@@ -78,7 +81,27 @@ void ElementIndex::nameFreed(const QString &name)
 
 void ElementIndex::clear()
 {
+    countIn(nullptr);
     *this = {};
+}
+
+void ElementIndex::countIn(NameCounts *counts)
+{
+    const auto countAll = [this](int by) {
+        for (auto element = m_byName.keyBegin(); m_counts && element != m_byName.keyEnd(); ++element) {
+            count(*element, by);
+        }
+    };
+    countAll(-1);
+    m_counts = counts;
+    countAll(1);
+}
+
+void ElementIndex::count(const QString &name, int by)
+{
+    if (m_counts && ((*m_counts)[name] += by) <= 0) {
+        m_counts->remove(name);
+    }
 }
 
 QString ElementIndex::freeName(const QString &base, const std::function<bool(const QString &name)> &isTaken)

@@ -25,6 +25,10 @@ public:
     void remove(Element *element);
     void rename(Element *element, const QString &oldName);
     void clear();
+    //! How many elements bear each name, counted from here on for a whole project in \a counts, too; null to
+    //! count no longer there.
+    using NameCounts = QHash<QString, int>;
+    void countIn(NameCounts *counts);
 
     QList<Element *> named(const QString &name) const { return m_byName.values(name); }
     qsizetype count(const QString &name) const { return m_byName.count(name); }
@@ -43,8 +47,10 @@ private:
     const Channels &channels() const;
     void nameFreed(const QString &name);
     void forgetChannelOf(Element *element);
+    void count(const QString &name, int by);
 
     QMultiHash<QString, Element *> m_byName;
+    NameCounts *m_counts = nullptr; //!< of the project
     //! What is known of the numbers behind a base.
     struct Numbers
     {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The half of the value records that walks the model: their text half knows nothing of it.
+#include "corvex/core/ItemList.h"
 #include "corvex/project/Element.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
@@ -26,7 +27,7 @@ qsizetype siblingsNamed(const DesignerObject *object, const QString &name)
                              [object](const Element *element) { return element != object; });
     }
     const SharedProperty list = object->listProperty();
-    return list ? list->listItemCount(name) - (object->getIdName() == name ? 1 : 0) : 0;
+    return list ? list->listItemCount(name) - (list->itemList()->bears(object, name) ? 1 : 0) : 0;
 }
 
 bool isOneOf(const DesignerObject *object, const QStringList &classNames)

@@ -47,8 +47,7 @@ bool isNotReserved(const DesignerObject *, const QString &name)
 
 bool isNoOther(const SharedProperty &list, const DesignerObject *object, const QString &name)
 {
-    const bool isItself = object->getIdName() == name && list->itemList()->contains(object);
-    return list->listItemCount(name) == (isItself ? 1 : 0);
+    return list->listItemCount(name) == (list->itemList()->bears(object, name) ? 1 : 0);
 }
 
 bool isNoScreenOfProject(const DesignerObject *object, const QString &name)
@@ -71,6 +70,11 @@ bool isNoElementOfIt(const DesignerObject *object, const QString &name)
     return static_cast<const Screen *>(object)->elementIndex().count(name) == 0;
 }
 
+bool isNoElementOfProject(const DesignerObject *object, const QString &name)
+{
+    return !object->project() || !object->project()->hasElement(name);
+}
+
 bool isNoMathFunction(const DesignerObject *, const QString &name)
 {
     static const QSet<QString> functions(MathInfo::mathFunctions().begin(), MathInfo::mathFunctions().end());
@@ -89,6 +93,7 @@ struct NameRule
 constexpr char wrongFormat[] =
     "The name is in the wrong format. Only letters, numbers and underscore are allowed. "
     "The first character must be a letter.";
+constexpr char tooLong[] = "The name cannot have more than 255 characters.";
 constexpr char notUnique[] = "The name is not unique.";
 constexpr char reserved[] = "This name is reserved.";
 constexpr char sameAsScreen[] = "The name cannot be the same as the screen's name.";
@@ -97,10 +102,12 @@ constexpr char sameAsVariable[] = "The name cannot be the same as the project va
 // The rules of each kind in the order in which they are asked; the first that fails is told.
 constexpr NameRule variableRules[] = {
     {&hasGoodFormat, Format, wrongFormat},
+    {&isShortEnough<255>, Length, tooLong},
     {&isUniqueName, Taken, notUnique},
     {&isNotReserved, Reserved, reserved},
     {&isNoScreenOfProject, Taken, sameAsScreen},
     {&isNoVariableOfProject, Taken, sameAsVariable},
+    {&isNoElementOfProject, Taken, notUnique},
     {&isNoMathFunction, Reserved, "The name cannot be the same as the standard math functions."},
 };
 constexpr NameRule screenRules[] = {
@@ -113,7 +120,7 @@ constexpr NameRule screenRules[] = {
 };
 constexpr NameRule elementRules[] = {
     {&hasGoodFormat, Format, wrongFormat},
-    {&isShortEnough<255>, Length, "The name cannot have more than 255 characters."},
+    {&isShortEnough<255>, Length, tooLong},
     {&isUniqueName, Taken, notUnique},
     {&isNotReserved, Reserved, reserved},
     {&isNotItsScreen, Taken, sameAsScreen},
@@ -143,9 +150,11 @@ const NameRule *brokenRule(const DesignerObject *object, const QString &name)
 bool PropertyValidators::identifierElementValidator(const DesignerProperty *property, QString &error)
 {
     const DesignerObject *object = property->parentObject();
-    const QString reason = nameError(object, object->getIdName());
-    error.append(reason);
-    return reason.isEmpty();
+    const NameRule *broken = brokenRule(object, object->getIdName());
+    if (broken) {
+        error.append(Common::LocalizationHelper::coreString(QString::fromLatin1(broken->message)));
+    }
+    return !broken;
 }
 
 PropertyValidators::NameFault PropertyValidators::nameFault(const DesignerObject *object, const QString &name)
@@ -156,8 +165,14 @@ PropertyValidators::NameFault PropertyValidators::nameFault(const DesignerObject
 
 QString PropertyValidators::nameError(const DesignerObject *object, const QString &name)
 {
-    const NameRule *broken = brokenRule(object, name);
-    return broken ? Common::LocalizationHelper::coreString(QString::fromLatin1(broken->message)) : QString();
+    IdentifierInfo info = object->getIdInfo();
+    info.setName(name);
+    const QString text = info.toString();
+    // Blanks around it and what the form of an identifier is made of would give another name.
+    if (!name.isEmpty() && IdentifierInfo(text).name() != name) {
+        return Common::LocalizationHelper::coreString(QString::fromLatin1(wrongFormat));
+    }
+    return object->idProperty()->refusalOf(text);
 }
 
 } // namespace Halvane::Corvex::Designer

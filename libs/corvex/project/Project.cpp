@@ -276,6 +276,7 @@ UndoStack *Project::undoStack()
     if (!m_undoStack) {
         m_undoStack = new UndoStack(this);
         connect(m_undoStack, &UndoStack::indexChanged, m_autosave.get(), &ProjectAutosave::countEdit);
+        connect(m_undoStack, &UndoStack::moved, this, &Project::emitUserModified);
     }
     return m_undoStack;
 }
@@ -353,21 +354,26 @@ void Project::generateRuntimeFiles()
     m_runtimeGenerator.generate(this);
 }
 
+bool Project::hasElement(const QString &name) const
+{
+    if (!m_elementNames) {
+        m_elementNames = std::make_unique<ElementIndex::NameCounts>();
+        for (DesignerObject *screen : m_screens->itemList()->items()) {
+            static_cast<Screen *>(screen)->elementIndex().countIn(m_elementNames.get());
+        }
+    }
+    return m_elementNames->contains(name);
+}
+
 QString Project::generateUniqueName(const QString &stem) const
 {
-    const QList<DesignerObject *> &screens = m_screens->itemList()->items();
-    const auto isElement = [&screens](const QString &name) {
-        return std::any_of(screens.begin(), screens.end(), [&name](const DesignerObject *screen) {
-            return static_cast<const Screen *>(screen)->elementIndex().count(name) > 0;
-        });
-    };
     int &firstFree = m_firstFree[stem];
     firstFree = std::max(firstFree, 1);
     for (int number = firstFree;; ++number) {
         const QString name = u"%1%2"_s.arg(stem, QString::number(number));
         if (m_variables->hasListItem(name) || m_screens->hasListItem(name)) {
             firstFree += number == firstFree ? 1 : 0;
-        } else if (!isElement(name)) {
+        } else if (!hasElement(name)) {
             return name;
         }
     }

@@ -138,6 +138,10 @@ public:
     RuntimeGenerator &runtimeGenerator() { return m_runtimeGenerator; }
 
     // Names.
+    //! Whether an element of any screen bears that name.
+    bool hasElement(const QString &name) const;
+    //! Null as long as nobody has asked for an element of the whole project. For screens that come and go.
+    QHash<QString, int> *elementNameCounts() const { return m_elementNames.get(); }
     //! The first of stem1, stem2, ... that is no variable, screen or element of the project.
     QString generateUniqueName(const QString &stem) const;
     //! \a name, or the first of name1, name2, ... of which nothing lies in the folder.
@@ -148,7 +152,7 @@ public:
     void updateObjectAutoSaveVariablesList(const QString &objectName, const RuntimeAutoSettingList &list);
 
 signals:
-    //! The user has edited the project.
+    //! The user has edited the project: a command of its history was done or undone.
     void userModified();
 
 protected:
@@ -189,6 +193,7 @@ private:
     SharedProperty m_screens;
     SharedProperty m_defaultScreen;
     QHash<QString, RuntimeAutoSettingList> m_autoSaveVariables;
+    mutable std::unique_ptr<QHash<QString, int>> m_elementNames;
     //! By stem: below this number all are those of variables and screens.
     mutable QHash<QString, int> m_firstFree;
     UndoStack *m_undoStack = nullptr;

@@ -112,6 +112,7 @@ ObjectView *Screen::createGraphicsItem()
 
 void Screen::setProject(Project *newProject)
 {
+    m_index.countIn(newProject ? newProject->elementNameCounts() : nullptr);
     DesignerObject::setProject(newProject);
     onConfigurationSizeChanged();
 }

@@ -46,13 +46,9 @@ TEST_F(ChangePropertyTest, AQuietRefusalChangesNothingElse)
     // No reference may follow a name that the object did not get.
     ASSERT_TRUE(set(element("button1"), "visualElement", linkTo(u"rectangle1"_s)));
     const QString before = text();
-    auto *unstorable = new ChangeProperty(element("rectangle1")->idProperty(),
-                                          named(element("rectangle1"), u"a"_s + QChar(1)), false);
-    stack().push(unstorable);
-    EXPECT_FALSE(unstorable->isDone());
-    EXPECT_FALSE(unstorable->errorString().isEmpty());
-    EXPECT_EQ(text(), before);
-    stack().undo();
+    EXPECT_FALSE(stack().push(new ChangeProperty(element("rectangle1")->idProperty(),
+                                                 named(element("rectangle1"), u"a"_s + QChar(1)), false)));
+    EXPECT_FALSE(stack().errorString().isEmpty());
     EXPECT_EQ(text(), before);
 }
 
@@ -82,6 +78,51 @@ TEST_F(ChangePropertyTest, ANewNameIsFollowedAndListsStaySorted)
     EXPECT_TRUE(property(button, "visualElement")->isValid());
     stack().setIndex(2);
     EXPECT_EQ(text(), after);
+}
+
+TEST_F(ChangePropertyTest, NoNameIsGivenThatTheRulesRefuse)
+{
+    ASSERT_TRUE(set(element("button1"), "visualElement", linkTo(u"rectangle2"_s)));
+    const QString before = text();
+    const struct
+    {
+        DesignerObject *object;
+        QStringList names;
+    } cases[] = {
+        {element("rectangle1"),
+         {u"rectangle2"_s, u"1rect"_s, u"while"_s, u""_s, u"Main"_s, u"speed"_s, u"a; name: b"_s}},
+        {main, {u"Other"_s, u"rectangle1"_s, u"on"_s}},
+        {variable("speed"), {u"rectangle1"_s, u"on"_s, u"Main"_s, u"sqrt"_s}},
+        {object(u"pump.png"_s), {u"../zz"_s, u"pump"_s, u"aux.png"_s}},
+        {main->filters()->getListItem(u"filter1"_s), {u"rectangle1"_s}},
+        {project.get(), {u"a/b"_s, u""_s}},
+    };
+    for (const auto &[renamed, names] : cases) {
+        for (const QString &name : names) {
+            auto *command = new ChangeProperty(renamed->idProperty(), named(renamed, name), false);
+            EXPECT_FALSE(command->isValid()) << qPrintable(name);
+            EXPECT_FALSE(command->errorString().isEmpty()) << qPrintable(name);
+            EXPECT_FALSE(stack().push(command)) << qPrintable(name);
+        }
+    }
+    EXPECT_EQ(text(), before);
+    EXPECT_TRUE(element("rectangle1")->idProperty()->isValid()) << "a trial leaves no mark";
+
+    // In a composite a name may become free on the way.
+    auto *exchange = new UndoCommand;
+    const auto rename = [&](const char *from, const QString &to) {
+        new ChangeProperty(element(from)->idProperty(), named(element(from), to), false, exchange);
+    };
+    rename("rectangle1", u"spare"_s);
+    rename("rectangle2", u"rectangle1"_s);
+    EXPECT_TRUE(stack().push(exchange)) << qPrintable(stack().errorString());
+    EXPECT_EQ(value(element("button1"), "visualElement"), linkTo(u"rectangle1"_s));
+    stack().undo();
+    EXPECT_EQ(text(), before);
+    EXPECT_EQ(main->uniqueElementName(u"rectangle"_s), u"rectangle3"_s);
+    ASSERT_TRUE(element("rectangle1")->setIdName(u"rectangle0"_s));
+    ASSERT_TRUE(element("rectangle0")->setIdName(u"tank"_s));
+    EXPECT_EQ(main->uniqueElementName(u"rectangle"_s), u"rectangle1"_s) << "numbers begin at 1";
 }
 
 TEST_F(ChangePropertyTest, StatesFollowTheLinkedElement)

@@ -110,8 +110,7 @@ protected:
     Command *push(Command *command)
     {
         EXPECT_TRUE(command->isValid()) << qPrintable(command->errorString());
-        project->undoStack()->push(command);
-        EXPECT_TRUE(command->isDone()) << qPrintable(command->errorString());
+        EXPECT_TRUE(project->undoStack()->push(command)) << qPrintable(stack().errorString());
         return command;
     }
     UndoStack &stack() const { return *project->undoStack(); }

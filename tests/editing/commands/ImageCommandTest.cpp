@@ -64,15 +64,12 @@ TEST_F(ImageCommandTest, AddingCopiesTheFileAndSavingCleansUp)
     ASSERT_TRUE(project->saveFile());
     EXPECT_EQ(files(), QStringList{u"pump.png"_s});
 
-    auto *missing = new AddImage(make(u"ImageResource"_s, u"gone.png"_s), file, project.get());
-    stack().push(missing);
-    EXPECT_FALSE(missing->isDone());
-    EXPECT_FALSE(missing->errorString().isEmpty());
+    EXPECT_FALSE(stack().push(new AddImage(make(u"ImageResource"_s, u"gone.png"_s), file, project.get())));
+    EXPECT_FALSE(stack().errorString().isEmpty());
     auto *taken =
         new AddImage(make(u"ImageResource"_s, u"other.png"_s), picture(u"a.png"_s, Qt::green), project.get());
     writePicture("other.png", Qt::black);
-    stack().push(taken);
-    EXPECT_FALSE(taken->isDone());
+    EXPECT_FALSE(stack().push(taken));
     EXPECT_EQ(shown(u"other.png"_s), QColor(Qt::black));
 }
 
@@ -116,9 +113,7 @@ TEST_F(ImageCommandTest, RenamingTakesTheFileAlong)
                     .isValid());
     // Nothing is written over.
     writePicture("taken.png", Qt::black);
-    auto *onto = new RenameImage(object(u"pump.png"_s), u"taken.png"_s);
-    stack().push(onto);
-    EXPECT_FALSE(onto->isDone());
+    EXPECT_FALSE(stack().push(new RenameImage(object(u"pump.png"_s), u"taken.png"_s)));
     EXPECT_EQ(shown(u"taken.png"_s), QColor(Qt::black));
     EXPECT_EQ(source("image1"), u"pump.png"_s);
 }
@@ -271,8 +266,7 @@ TEST_F(ImageCommandTest, ElementsComeWithWhatTheyNeed)
     auto *failing = new AddElementsWithResources(main, {make(u"Text"_s, u"pasted3"_s)},
                                                  {image(u"far.png"_s, folder.filePath(u"far.png"_s))},
                                                  {make(u"NumberVariable"_s, u"flow"_s)}, true);
-    stack().push(failing);
-    EXPECT_FALSE(failing->isDone());
+    EXPECT_FALSE(stack().push(failing));
     EXPECT_EQ(text(), before);
     EXPECT_EQ(files(), (QStringList{u"new.png"_s, u"pump.png"_s}));
 }

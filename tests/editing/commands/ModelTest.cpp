@@ -50,6 +50,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -140,6 +141,18 @@ protected:
     }
 
     QString newName(const QString &stem) { return stem + QString::number(++lastNumber); }
+    //! Mostly a good name; the others are marked, or refused.
+    QString anyName(const QString &stem)
+    {
+        static const QStringList hostile{u""_s,     u"1rect"_s,  u"while"_s,      u"a.b"_s,   u"a | b"_s,
+                                         u"a, b"_s, u"<&\">"_s,  u"a; name: b"_s, u"qml_x"_s, u"../zz"_s,
+                                         u"%00"_s,  u"\u00E4"_s, u"Screen1"_s,    u"first1"_s};
+        if (random.chance(85)) {
+            return newName(stem);
+        }
+        const DesignerObject *other = random.oneOf(below(project.get()));
+        return random.chance(50) ? random.oneOf(hostile) : other->getIdName();
+    }
     static DesignerObject *make(const QString &className, const QString &name)
     {
         DesignerObject *object = DesignerFactory::instance()->createObject(className);
@@ -241,7 +254,7 @@ UndoCommand *ModelTest::groupCommand()
         case 2:
             return new MoveObject(elements, group->screen()->elements(), member, true);
         default:
-            return new AddObject(elements, u"Text"_s, newName(u"inGroup"_s), true);
+            return new AddObject(elements, u"Text"_s, anyName(u"inGroup"_s), true);
         }
     }
     Screen *screen = anyScreen();
@@ -251,7 +264,7 @@ UndoCommand *ModelTest::groupCommand()
             members.append(item);
         }
     }
-    return new GroupCommand(make(u"GroupElement"_s, newName(u"madeGroup"_s)), members);
+    return new GroupCommand(make(u"GroupElement"_s, anyName(u"madeGroup"_s)), members);
 }
 
 QString ModelTest::newPicture(QImage &picture)
@@ -333,7 +346,7 @@ UndoCommand *ModelTest::anyCommand()
     DesignerObject *variable = itemOf(project->variables());
     switch (random.below(18)) {
     case 0: {
-        return new AddObject(screen->elements(), random.oneOf(classesOf(u"Element"_s)), newName(u"added"_s),
+        return new AddObject(screen->elements(), random.oneOf(classesOf(u"Element"_s)), anyName(u"added"_s),
                              true);
     }
     case 1:
@@ -346,7 +359,7 @@ UndoCommand *ModelTest::anyCommand()
     case 3:
     case 4:
         return element
-                   ? new ChangeProperty(element->idProperty(), named(element, newName(u"renamed"_s)), true)
+                   ? new ChangeProperty(element->idProperty(), named(element, anyName(u"renamed"_s)), true)
                    : nullptr;
     case 5:
     case 14:
@@ -368,15 +381,15 @@ UndoCommand *ModelTest::anyCommand()
         }
         return random.chance(20) ? static_cast<UndoCommand *>(
                    new AddScreen(make(u"Screen"_s, newName(u"Screen"_s)), project.get(), random.below(3)))
-                                 : new RenameScreen(screen, newName(u"Renamed"_s));
+                                 : new RenameScreen(screen, anyName(u"Renamed"_s));
     case 10:
         return variable && random.chance(40)
                    ? static_cast<UndoCommand *>(new DeleteVariable(variable))
                    : new AddVariable(
-                       make(random.oneOf(classesOf(u"ProjectVariable"_s)), newName(u"variable"_s)),
+                       make(random.oneOf(classesOf(u"ProjectVariable"_s)), anyName(u"variable"_s)),
                        project.get());
     case 11:
-        return variable ? new RenameVariable(variable, newName(u"renamed"_s)) : nullptr;
+        return variable ? new RenameVariable(variable, anyName(u"renamed"_s)) : nullptr;
     case 12:
         return filterCommand(screen);
     case 13:
@@ -409,6 +422,9 @@ void ModelTest::checkOwners(const DesignerObject *owner)
 //! The index knows the same sites as a walk.
 void ModelTest::checkReferences(const DesignerObject *object)
 {
+    if (object->getIdName().isEmpty()) {
+        return;
+    }
     QSet<SharedProperty> walked;
     for (const ReferenceUse &use : ReferenceScanner::uses(ReferenceTarget::toItself(object))) {
         walked.insert(use.property);
@@ -424,18 +440,26 @@ void ModelTest::checkModel()
 {
     ASSERT_NO_FATAL_FAILURE(checkOwners(project.get()));
     const QList<DesignerObject *> all = below(project.get());
+    // What bears a bad name, or another's, is marked, and cannot be told apart where it is named.
+    static const QRegularExpression word(u"^\\w+$"_s);
+    QHash<QString, int> bearers;
+    for (const DesignerObject *object : all) {
+        ++bearers[object->getIdName()];
+    }
     for (const DesignerObject *object : all) {
         if (const auto *group = kindCast<GroupElement>(object)) {
             QStringList indexes = ListInfo(group->indexes()->valueString()).toList();
             QStringList members = group->elements()->listItemNames();
             indexes.sort();
             members.sort();
-            ASSERT_EQ(indexes, members) << qPrintable(group->objectPath());
+            ASSERT_TRUE(indexes == members || members.filter(word) != members)
+                << qPrintable(group->objectPath());
         }
         for (const SharedProperty &property : object->properties()) {
             if (property->isKindOfClass(LinkProperty::kindName())) {
                 const auto &link = static_cast<const LinkProperty &>(*property);
-                ASSERT_TRUE(!link.value().isValid() || link.connectLink())
+                ASSERT_TRUE(!link.value().isValid() || link.connectLink()
+                            || bearers.value(link.value().objectId()) > 1)
                     << qPrintable(object->objectPath() + u": "_s + property->valueString());
             }
         }
@@ -456,9 +480,7 @@ TEST_F(ModelTest, RandomEditsLeadBackToTheFirstByte)
             stack->setIndex(std::clamp(stack->index() + random.between(-4, 3), 0, stack->count()));
         } else if (std::unique_ptr<UndoCommand> command{anyCommand()}; command && command->isValid()) {
             what = command->text();
-            const auto *model = dynamic_cast<const ModelCommand *>(command.get());
-            stack->push(command.release());
-            done += model->isDone() ? 1 : 0;
+            done += stack->push(command.release()) ? 1 : 0;
         }
         SCOPED_TRACE(testing::Message()
                      << "seed " << seed << ", step " << step << ": " << what.toStdString());

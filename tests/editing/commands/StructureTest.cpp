@@ -32,6 +32,7 @@
 
 #include <QFileInfo>
 #include <QPointer>
+#include <QSignalSpy>
 
 #include <functional>
 
@@ -76,10 +77,8 @@ TEST_F(StructureTest, AddingGivesActiveAndSelectedItems)
     EXPECT_EQ(add->selectedItems(), QList<DesignerObject *>{element("text2")});
     EXPECT_FALSE(AddObject(main->elements(), u"Nothing"_s, {}, true).isValid());
     // A name that is there is refused by the list, and the command is not done.
-    auto *taken = new AddObject(main->elements(), u"Text"_s, u"text1"_s, true);
-    stack().push(taken);
-    EXPECT_FALSE(taken->isDone());
-    EXPECT_EQ(taken->errorString(), u"Item already exists."_s);
+    EXPECT_FALSE(stack().push(new AddObject(main->elements(), u"Text"_s, u"text1"_s, true)));
+    EXPECT_EQ(stack().errorString(), u"Item already exists."_s);
 
     walk(new AddVariable(make(u"NumberVariable"_s, u"depth"_s), project.get()),
          u"Add Project Variable \"depth\""_s);
@@ -96,6 +95,41 @@ TEST_F(StructureTest, AddingGivesActiveAndSelectedItems)
     EXPECT_EQ(project->screens()->getListItemIndex(u"Third"_s), 1);
     EXPECT_EQ(both->activeItem(), screen);
     EXPECT_EQ(both->selectedItems().value(0)->getIdName(), u"title"_s);
+}
+
+TEST_F(StructureTest, NamesThatAreOnlyMarkedAreMarkedAtOnce)
+{
+    GroupElement *group = makeGroup({u"rectangle1"_s, u"rectangle2"_s});
+    const QString notUnique = u"The name is not unique."_s;
+    DesignerObject *inGroup = make(u"Text"_s, u"text1"_s);
+    DesignerObject *variable = make(u"NumberVariable"_s, u"text1"_s);
+    DesignerObject *screen = make(u"Screen"_s, u"speed"_s);
+    DesignerObject *outer = make(u"GroupElement"_s, u"rectangle2"_s);
+    push(new AddObject(group->elements(), inGroup, true));
+    push(new AddVariable(variable, project.get()));
+    push(new AddScreen(screen, project.get(), 0));
+    push(new GroupCommand(outer, {group, element("image1")}));
+    EXPECT_EQ(inGroup->idProperty()->errorString(), notUnique);
+    EXPECT_EQ(variable->idProperty()->errorString(), notUnique);
+    EXPECT_EQ(screen->idProperty()->errorString(),
+              u"The name cannot be the same as the project variables."_s);
+    EXPECT_EQ(outer->idProperty()->errorString(), notUnique);
+}
+
+TEST_F(StructureTest, TheProjectTellsThatTheUserModifiedIt)
+{
+    const QSignalSpy modified(project.get(), &Project::userModified);
+    push(new DeleteObject(element("rectangle1"), true));
+    stack().beginMacro(u"both"_s);
+    push(new DeleteScreen(other));
+    stack().endMacro();
+    EXPECT_EQ(modified.size(), 2);
+    stack().setIndex(0);
+    stack().redo();
+    EXPECT_EQ(modified.size(), 4);
+    EXPECT_FALSE(stack().push(new AddObject(main->elements(), u"Text"_s, u"text1"_s, true)));
+    ASSERT_TRUE(project->saveFile());
+    EXPECT_EQ(modified.size(), 4);
 }
 
 TEST_F(StructureTest, DeletingDropsReferencesAndComesBackToItsPlace)

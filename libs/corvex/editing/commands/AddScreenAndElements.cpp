@@ -20,9 +20,8 @@ bool AddScreenAndElements::redoOwn(QString &error)
         return true;
     }
     m_elements->redo();
-    const auto *model = dynamic_cast<const ModelCommand *>(m_elements.get());
-    if (model && !model->isDone()) {
-        error = model->errorString();
+    if (m_elements->isObsolete()) {
+        error = m_elements->errorString();
         AddScreen::undoOwn();
         return false;
     }

@@ -2,6 +2,7 @@
 #include "corvex/editing/commands/ChangeProperty.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/PropertyValidators.h"
 #include "corvex/editing/commands/EditStep.h"
 #include "corvex/editing/commands/ReferenceChanges.h"
 #include "corvex/editing/commands/ReferenceForm.h"
@@ -165,15 +166,29 @@ bool ChangeProperty::notifyFileMissing() const
     return false;
 }
 
+//! Why the object cannot get the new name. Commands before this one in a composite may free the name yet, so
+//! that the rules are asked anew each time.
+QString ChangeProperty::nameError() const
+{
+    if (!owner() || property() != owner()->idProperty()) {
+        return {};
+    }
+    const QString name = IdentifierInfo(m_after).name();
+    return name == owner()->getIdName() ? QString() : PropertyValidators::nameError(owner(), name);
+}
+
 bool ChangeProperty::isValid() const
 {
-    return !m_isFileMissing && ModelCommand::isValid();
+    return !m_isFileMissing && ModelCommand::isValid() && nameError().isEmpty();
 }
 
 QString ChangeProperty::errorString() const
 {
-    return m_isFileMissing ? Common::LocalizationHelper::coreString(u"The file of the image is missing."_s)
-                           : ModelCommand::errorString();
+    if (m_isFileMissing) {
+        return Common::LocalizationHelper::coreString(u"The file of the image is missing."_s);
+    }
+    const QString error = nameError();
+    return error.isEmpty() ? ModelCommand::errorString() : error;
 }
 
 bool ChangeProperty::set(const QString &value)

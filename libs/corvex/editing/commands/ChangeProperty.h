@@ -9,7 +9,8 @@ namespace Halvane::Corvex::Designer {
     new linked element by the states that describe it, a switch of the device's configuration by the lists
     that it decides about.
 
-    A value that shows a picture whose file is missing cannot be set.
+    A value that shows a picture whose file is missing cannot be set, nor a name that the rules for names of
+   the object refuse.
 */
 class ChangeProperty : public ModelCommand
 {
@@ -33,6 +34,7 @@ private:
     void followLinkedElement();
     void followName();
     bool notifyFileMissing() const;
+    QString nameError() const;
     bool set(const QString &value);
 
     QString m_before;

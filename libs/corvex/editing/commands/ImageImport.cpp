@@ -68,17 +68,14 @@ ImageResource *makeResource(const QString &name)
 }
 
 //! False, and the user knows why, when the command cannot be done.
-bool push(std::unique_ptr<AddImagesAndElements> command, Project *project, QWidget *parentWidget)
+bool push(AddImagesAndElements *command, Project *project, QWidget *parentWidget)
 {
-    const AddImagesAndElements *pushed = command.get();
-    if (pushed->isValid()) {
-        project->undoStack()->push(command.release());
-        if (pushed->isDone()) {
-            return true;
-        }
+    UndoStack *stack = project->undoStack();
+    if (stack->push(command)) {
+        return true;
     }
     EditingDialogs::instance()->warn(parentWidget, LocalizationHelper::coreString(u"Add Images"_s),
-                                     pushed->errorString());
+                                     stack->errorString());
     return false;
 }
 
@@ -125,7 +122,7 @@ bool ImageResource::addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, c
     if (images.isEmpty() && elements.isEmpty()) {
         return false;
     }
-    return push(std::make_unique<AddImagesAndElements>(images, elements, screen), project, parentWidget);
+    return push(new AddImagesAndElements(images, elements, screen), project, parentWidget);
 }
 
 } // namespace Halvane::Corvex::Designer

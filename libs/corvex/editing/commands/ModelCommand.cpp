@@ -229,13 +229,7 @@ bool ModelCommand::isValid() const
 
 QString ModelCommand::errorString() const
 {
-    for (int i = 0; i < childCount() && (!m_plan || m_plan->error.isEmpty()); ++i) {
-        const auto *command = dynamic_cast<const ModelCommand *>(child(i));
-        if (const QString error = command ? command->errorString() : QString(); !error.isEmpty()) {
-            return error;
-        }
-    }
-    return m_plan ? m_plan->error : QString();
+    return m_plan && !m_plan->error.isEmpty() ? m_plan->error : UndoCommand::errorString();
 }
 
 DesignerObject *ModelCommand::activeItem() const
@@ -265,31 +259,24 @@ QList<DesignerObject *> ModelCommand::selectedItems()
 
 void ModelCommand::redo()
 {
+    if (m_isDone) {
+        return;
+    }
     QString error;
-    m_isDone = childCount() > 0 ? redoChildren(error) : isValid() && redoLeaf(error);
+    m_isDone =
+        childCount() > 0 ? !(m_plan && m_plan->isRefused) && redoChildren() : isValid() && redoLeaf(error);
     if (!error.isEmpty()) {
         plan().error = error;
     }
+    if (!m_isDone) {
+        fail();
+    }
 }
 
-bool ModelCommand::redoChildren(QString &error)
+UndoCommand::Start ModelCommand::start()
 {
-    if (m_plan && m_plan->isRefused) {
-        return false;
-    }
-    for (int i = 0; i < childCount(); ++i) {
-        auto *command = const_cast<QUndoCommand *>(child(i));
-        command->redo();
-        const auto *model = dynamic_cast<const ModelCommand *>(command);
-        if (model && !model->isDone()) {
-            error = model->errorString();
-            while (--i >= 0) {
-                const_cast<QUndoCommand *>(child(i))->undo();
-            }
-            return false;
-        }
-    }
-    return true;
+    redo();
+    return m_isDone ? Start::Done : Start::Failed;
 }
 
 bool ModelCommand::redoLeaf(QString &error)

@@ -16,8 +16,8 @@ class EditStep;
     elsewhere that follow from them. redo() and undo() replay the plan and look for nothing any more.
 
     When a step fails, the steps before it are taken back and nothing that follows from them is changed: the
-    command is not done, and errorString() may know why. A composite whose child is not done takes back what
-    its other children did. A change elsewhere that fails stops nothing.
+    command is not done, and errorString() may know why. A change elsewhere that fails stops nothing. To do a
+    command that is done, or to undo one that is not, changes nothing.
 */
 class ModelCommand : public UndoCommand
 {
@@ -26,6 +26,7 @@ public:
 
     void redo() override;
     void undo() override;
+    Start start() override;
     //! False also for a command that was given something impossible, with the reason in errorString().
     bool isValid() const override;
     DesignerObject *activeItem() const override;
@@ -34,8 +35,7 @@ public:
 
     //! Whether the command is done at the moment.
     bool isDone() const { return m_isDone; }
-    //! Why it cannot be done, for the user; empty when nobody knows.
-    virtual QString errorString() const;
+    QString errorString() const override;
     //! All values that the command and its children set, in order, those that follow from others included.
     //! The places of groups that an edit keeps in sight are among them once it has been done.
     QList<ValueChange> valueChanges() const;
@@ -99,7 +99,6 @@ private:
     void noteForGroups(const SharedProperty &property);
     void settleGroups();
     QList<DesignerObject *> ownSelection() const;
-    bool redoChildren(QString &error);
     bool redoLeaf(QString &error);
 
     std::unique_ptr<Plan> m_plan; //!< null for a lone command with nothing beside its own change

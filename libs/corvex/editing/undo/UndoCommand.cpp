@@ -2,6 +2,7 @@
 #include "corvex/editing/undo/UndoCommand.h"
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/editing/undo/UndoStack.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +17,12 @@ UndoCommand::UndoCommand(const SharedProperty &property, bool selected, UndoComm
     , m_isSelected(selected)
 { }
 
-UndoCommand::~UndoCommand() = default;
+UndoCommand::~UndoCommand()
+{
+    if (m_stack) {
+        m_stack->commandGone(this);
+    }
+}
 
 const UndoCommand *UndoCommand::childCommand(int index) const
 {
@@ -37,9 +43,63 @@ void UndoCommand::undo()
 
 void UndoCommand::redo()
 {
-    if (childCount() > 0) {
-        QUndoCommand::redo();
+    if (!redoChildren()) {
+        fail();
     }
+}
+
+UndoCommand::Start UndoCommand::start()
+{
+    for (int i = 0; i < childCount(); ++i) {
+        auto *command = const_cast<UndoCommand *>(childCommand(i));
+        const Start start = command ? command->start() : Start::Later;
+        if (start == Start::Failed) {
+            undoChildren(i);
+        }
+        if (start != Start::Done) {
+            return start;
+        }
+    }
+    return childCount() > 0 ? Start::Done : Start::Later;
+}
+
+bool UndoCommand::redoChildren()
+{
+    for (int i = 0; i < childCount(); ++i) {
+        // The children are ours; QUndoCommand shows them to be read only.
+        const_cast<QUndoCommand *>(child(i))->redo();
+        if (child(i)->isObsolete()) {
+            undoChildren(i);
+            return false;
+        }
+    }
+    return true;
+}
+
+void UndoCommand::undoChildren(int end)
+{
+    while (--end >= 0) {
+        const_cast<QUndoCommand *>(child(end))->undo();
+    }
+}
+
+void UndoCommand::fail()
+{
+    setObsolete(true);
+    if (m_stack) {
+        m_stack->commandFailed(this);
+    }
+}
+
+QString UndoCommand::errorString() const
+{
+    for (int i = 0; i < childCount(); ++i) {
+        const UndoCommand *command = childCommand(i);
+        if (const QString error = command ? command->errorString() : QString(); !error.isEmpty()) {
+            return error;
+        }
+    }
+    return {};
 }
 
 QList<DesignerObject *> UndoCommand::selectedItems()

@@ -9,12 +9,16 @@ namespace Halvane::Corvex::Designer {
 
 class Project;
 class Screen;
+class UndoStack;
 
 /*! One step of the history of a project.
 
     A command with children is a composite: it does nothing itself, and its answers are drawn from its
    children. A leaf answers from the property that it concerns, whose owner is the object that it concerns.
    Commands never merge.
+
+    A command that cannot be done leaves nothing changed and is obsolete, and a stack drops it. A composite
+   that has such a child takes back what its other children did, and is obsolete too.
 */
 class UndoCommand : public QUndoCommand
 {
@@ -23,6 +27,11 @@ class UndoCommand : public QUndoCommand
 public:
     //! Deletions that the tool's panels treat apart from all other commands.
     enum class Deletion { None, Screen, Image, Variable };
+    enum class Start {
+        Done,
+        Later, //!< the command does its work in redo()
+        Failed
+    };
 
     UndoCommand();
     //! With a \a parent the command is a child of it and belongs to it. \a selected: its object is to be
@@ -32,6 +41,9 @@ public:
 
     void undo() override;
     void redo() override;
+    /*! Does the command before a stack takes it over, so that one that fails costs no redo steps. The redo()
+       that follows does nothing then. A composite starts its children in turn. */
+    virtual Start start();
     // Slots of id() and mergeWith() are those of QUndoCommand.
     //! The objects to select on the canvas, each once.
     virtual QList<DesignerObject *> selectedItems();
@@ -47,6 +59,9 @@ public:
     //! Deletes files that were left for an undo and that nothing in the project needs: before the history
     //! goes, once the project has been saved. A composite passes it on.
     virtual void cleanJunkFiles();
+    //! Why the command could not be done, for the user; empty when nobody knows. A composite answers by its
+    //! first child that knows.
+    virtual QString errorString() const;
 
     const SharedProperty &property() const { return m_property; }
     UndoCommand *parentCommand() const { return m_parent; }
@@ -64,10 +79,19 @@ protected:
     DesignerObject *owner() const;
     //! Child \a index when it is one of ours.
     const UndoCommand *childCommand(int index) const;
+    //! Does the children in order. False, with nothing changed, when one of them cannot be done.
+    bool redoChildren();
+    //! For a redo() that could not be done and left nothing changed.
+    void fail();
 
 private:
+    friend class UndoStack;
+
+    void undoChildren(int end);
+
     SharedProperty m_property;
     UndoCommand *m_parent = nullptr;
+    UndoStack *m_stack = nullptr; //!< that the command was pushed on
     bool m_isSelected = false;
 };
 

@@ -17,16 +17,68 @@ UndoStack::~UndoStack()
     // QUndoStack tells of index 0 while it goes.
     disconnect(this, &QUndoStack::indexChanged, this, &UndoStack::onIndexChanged);
     deleteCandidates();
+    // The commands know this stack, and go before it is a mere QUndoStack.
+    clear();
 }
 
-void UndoStack::push(UndoCommand *command)
+bool UndoStack::push(UndoCommand *command)
 {
     DesignerObject *candidate = command->deletionCandidate();
+    m_errorString.clear();
+    m_hasFailed = command->start() == UndoCommand::Start::Failed;
+    if (m_hasFailed) {
+        m_errorString = command->errorString();
+        delete command;
+        return false;
+    }
     if (candidate && !m_deletionCandidates.contains(candidate)) {
         m_deletionCandidates.append(candidate);
     }
+    command->m_stack = this;
     m_lastPushed = command;
     QUndoStack::push(command);
+    return !m_hasFailed;
+}
+
+void UndoStack::redo()
+{
+    if (canRedo()) {
+        setIndex(index() + 1);
+    }
+}
+
+void UndoStack::setIndex(int index)
+{
+    m_hasFailed = false;
+    m_errorString.clear();
+    const int before = this->index();
+    QUndoStack::setIndex(index);
+    if (m_hasFailed && this->index() == before) {
+        // QUndoStack tells of moves alone.
+        emit canRedoChanged(canRedo());
+        emit redoTextChanged(redoText());
+    }
+}
+
+void UndoStack::commandFailed(const UndoCommand *command)
+{
+    m_hasFailed = true;
+    m_errorString = command->errorString();
+    int place = index();
+    while (place < count() && this->command(place) != command) {
+        ++place;
+    }
+    // QUndoStack deletes what is obsolete in place of doing it.
+    for (++place; place < count(); ++place) {
+        const_cast<QUndoCommand *>(this->command(place))->setObsolete(true);
+    }
+}
+
+void UndoStack::commandGone(const UndoCommand *command)
+{
+    if (m_lastPushed == command) {
+        m_lastPushed = nullptr;
+    }
 }
 
 void UndoStack::startOver()
@@ -34,7 +86,6 @@ void UndoStack::startOver()
     deleteCandidates();
     const bool wasSaved = isSaved();
     clear();
-    m_lastPushed = nullptr;
     m_previousIndex = 0;
     if (wasSaved) {
         emit savedChanged(true);
@@ -72,7 +123,8 @@ const UndoCommand *UndoStack::decidingCommand(int index) const
     if (index == 0) {
         return nullptr;
     }
-    return index == count() ? m_lastPushed : dynamic_cast<const UndoCommand *>(command(index - 1));
+    return index == count() && m_lastPushed ? m_lastPushed
+                                            : dynamic_cast<const UndoCommand *>(command(index - 1));
 }
 
 void UndoStack::onIndexChanged(int index)
@@ -96,6 +148,14 @@ void UndoStack::onIndexChanged(int index)
         emit savedChanged(true);
     } else if (m_previousIndex == 0) {
         emit savedChanged(false);
+    }
+    // A macro is one of Qt's own commands, and answers by its first child.
+    const QUndoCommand *last = command(isRedoToCurrentIndex() ? index - 1 : index);
+    while (last && !dynamic_cast<const UndoCommand *>(last)) {
+        last = last->childCount() > 0 ? last->child(0) : nullptr;
+    }
+    if (last) {
+        emit moved(static_cast<const UndoCommand *>(last));
     }
 }
 

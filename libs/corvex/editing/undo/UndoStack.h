@@ -20,13 +20,21 @@ class UndoStack : public QUndoStack
 {
     Q_OBJECT
     Q_MOC_INCLUDE("corvex/core/DesignerObject.h")
+    Q_MOC_INCLUDE("corvex/editing/undo/UndoCommand.h")
 
 public:
     explicit UndoStack(QObject *parent = nullptr);
     ~UndoStack() override;
 
-    //! Takes over the command and does it. A command that is not valid is not to be pushed.
-    void push(UndoCommand *command);
+    /*! Takes over the command and does it. False when it could not be done: then it is deleted, errorString()
+       may know why, and the history is as it was. A command that is not valid is not to be pushed. */
+    bool push(UndoCommand *command);
+    //! Why the last command could not be done, for the user; empty when nobody knows.
+    const QString &errorString() const { return m_errorString; }
+    /*! As QUndoStack does, but when a command cannot be done again, it and all that follow are dropped: they
+       were built upon it. */
+    void redo();
+    void setIndex(int index);
     //! Begins a new history: what could be undone is forgotten, and what is now counts as saved.
     void startOver();
     //! Has all commands delete the files that only an undo would need.
@@ -51,16 +59,24 @@ public:
 signals:
     void activeItemChanged(Halvane::Corvex::Designer::DesignerObject *item);
     void savedChanged(bool saved);
+    //! A command was done or undone; of several, the last. Nothing tells that the history began anew.
+    void moved(const Halvane::Corvex::Designer::UndoCommand *command);
 
 private:
+    friend class UndoCommand;
+
+    void commandFailed(const UndoCommand *command);
+    void commandGone(const UndoCommand *command);
     void onIndexChanged(int index);
     const UndoCommand *decidingCommand(int index) const;
 
     QList<QPointer<DesignerObject>> m_deletionCandidates;
-    const UndoCommand *m_lastPushed = nullptr;
+    const UndoCommand *m_lastPushed = nullptr; //!< null once it is deleted
+    QString m_errorString;
     QPointer<DesignerObject> m_activeItem;
     int m_previousIndex = 0;
     int m_currentIndex = 0;
+    bool m_hasFailed = false;
     bool m_isDeleteScreen = false;
     bool m_isDeleteImage = false;
     bool m_isDeleteVariable = false;
