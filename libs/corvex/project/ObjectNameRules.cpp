@@ -119,12 +119,9 @@ constexpr NameRule screenRules[] = {
     {&isNoVariableOfProject, Taken, sameAsVariable},
 };
 constexpr NameRule elementRules[] = {
-    {&hasGoodFormat, Format, wrongFormat},
-    {&isShortEnough<255>, Length, tooLong},
-    {&isUniqueName, Taken, notUnique},
-    {&isNotReserved, Reserved, reserved},
-    {&isNotItsScreen, Taken, sameAsScreen},
-    {&isNoVariableOfProject, Taken, sameAsVariable},
+    {&hasGoodFormat, Format, wrongFormat},  {&isShortEnough<255>, Length, tooLong},
+    {&isUniqueName, Taken, notUnique},      {&isNotReserved, Reserved, reserved},
+    {&isNotItsScreen, Taken, sameAsScreen}, {&isNoVariableOfProject, Taken, sameAsVariable},
 };
 
 using NameRules = std::span<const NameRule>;
