@@ -56,7 +56,7 @@ CanvasScene::CanvasScene(Screen *screen, QObject *parent)
     addItem(m_outline);
     addItem(m_bounding);
     m_bounding->setZValue(m_outline->zValue());
-    connect(this, &QGraphicsScene::selectionChanged, this, &CanvasScene::outlineLater);
+    connect(this, &QGraphicsScene::selectionChanged, this, &CanvasScene::onSelectionChanged);
 }
 
 CanvasScene::~CanvasScene()
@@ -70,9 +70,12 @@ Screen *CanvasScene::screen() const
     return kindCast<Screen>(m_screen.data());
 }
 
-QList<FramedItem *> CanvasScene::selectedItemsOnCanvas() const
+const QList<FramedItem *> &CanvasScene::selectedItemsOnCanvas() const
 {
-    QList<FramedItem *> items;
+    if (m_selected) {
+        return *m_selected;
+    }
+    QList<FramedItem *> &items = m_selected.emplace();
     for (const QGraphicsItem *graphic : selectedItems()) {
         FramedItem *item = FramedItem::of(graphic);
         if (item && !hasParent(graphic, std::mem_fn(&QGraphicsItem::isSelected))) {
@@ -84,7 +87,7 @@ QList<FramedItem *> CanvasScene::selectedItemsOnCanvas() const
 
 FramedItem *CanvasScene::singleSelectedItem() const
 {
-    const QList<FramedItem *> items = selectedItemsOnCanvas();
+    const QList<FramedItem *> &items = selectedItemsOnCanvas();
     return items.size() == 1 ? items.constFirst() : nullptr;
 }
 
@@ -244,7 +247,7 @@ void CanvasScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
 
 void CanvasScene::startMoving(const QPointF &point)
 {
-    const QList<FramedItem *> items = selectedItemsOnCanvas();
+    const QList<FramedItem *> &items = selectedItemsOnCanvas();
     if (!items.isEmpty()) {
         m_gesture = CanvasGesture::move(items, point);
         m_waitsForDrag = true;
@@ -334,10 +337,19 @@ void CanvasScene::keyPressEvent(QKeyEvent *event)
     }
 }
 
+void CanvasScene::onSelectionChanged()
+{
+    m_selected.reset();
+    outlineLater();
+}
+
 void CanvasScene::followHistory(const UndoStack &stack)
 {
     // A command may also replace the file of a picture, which no property tells.
     update();
+    if (m_gesture) {
+        return; // it is about what is selected
+    }
     const int done = stack.currentIndex() - (stack.isRedoToCurrentIndex() ? 1 : 0);
     // The stack owns its commands; QUndoStack shows them to be read only.
     auto *command = const_cast<UndoCommand *>(dynamic_cast<const UndoCommand *>(stack.command(done)));
@@ -360,13 +372,8 @@ void CanvasScene::outlineLater()
 void CanvasScene::outline()
 {
     m_isOutlineDue = false;
-    const QList<FramedItem *> items = selectedItemsOnCanvas();
-    m_outline->follow(items, !m_gesture || m_waitsForDrag);
-    QRectF around;
-    for (const FramedItem *item : items) {
-        around |= item->graphic()->mapRectToScene(item->frame());
-    }
-    m_bounding->setRect(around);
+    const QList<FramedItem *> &items = selectedItemsOnCanvas();
+    m_bounding->setRect(m_outline->follow(items, !m_gesture || m_waitsForDrag));
     m_bounding->setVisible(items.size() > 1);
 }
 

@@ -53,7 +53,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    QList<FramedItem *> selectedItemsOnCanvas() const;
+    const QList<FramedItem *> &selectedItemsOnCanvas() const;
     FramedItem *singleSelectedItem() const;
     FramedItem *innermostAt(const QPointF &point) const;
     FramedItem *clickedAt(const QPointF &point) const;
@@ -65,6 +65,7 @@ private:
     void startMoving(const QPointF &point);
     void endGesture();
     void selectTouched(const QRectF &area);
+    void onSelectionChanged();
     void outline();
     void followHistory(const UndoStack &stack);
 
@@ -74,6 +75,7 @@ private:
     CropArea *m_crop = nullptr;
     SelectionOutline *m_outline;
     GraphicsBounding *m_bounding;
+    mutable std::optional<QList<FramedItem *>> m_selected; //!< none when it is to be asked for again
     bool m_isOutlineDue = false;
 };
 

@@ -12,7 +12,10 @@ class FramedItem : public GraphicsItem
 
 public:
     //! The item of such a kind that shows an object; null when none does.
-    static FramedItem *of(const DesignerObject *object) { return framed(GraphicsItem::of(object)); }
+    static FramedItem *of(const DesignerObject *object)
+    {
+        return framed(object ? object->graphicsItem() : nullptr);
+    }
     //! The one that an item of a scene is the graphic of; null for any other item.
     static FramedItem *of(const QGraphicsItem *graphic) { return framed(GraphicsItem::of(graphic)); }
 
@@ -39,9 +42,9 @@ protected:
     virtual QSizeF proportions() const = 0;
 
 private:
-    static FramedItem *framed(GraphicsItem *item)
+    static FramedItem *framed(ObjectView *view)
     {
-        return item && item->isKindOfClass(kindName()) ? static_cast<FramedItem *>(item) : nullptr;
+        return view && view->isKindOfClass(kindName()) ? static_cast<FramedItem *>(view) : nullptr;
     }
     bool isInZone(const QPointF &zone, const QPointF &point) const;
 };

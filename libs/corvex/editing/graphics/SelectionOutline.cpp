@@ -22,7 +22,7 @@ SelectionOutline::SelectionOutline()
     setZValue(std::numeric_limits<double>::max());
 }
 
-void SelectionOutline::follow(const QList<FramedItem *> &items, bool hasHandles)
+QRectF SelectionOutline::follow(const QList<FramedItem *> &items, bool hasHandles)
 {
     prepareGeometryChange();
     QRectF bounds;
@@ -37,6 +37,7 @@ void SelectionOutline::follow(const QList<FramedItem *> &items, bool hasHandles)
     m_handled = hasHandles && items.size() == 1 ? items.constFirst()->dataObject() : nullptr;
     const double margin = m_handled ? reach : 1;
     m_bounds = items.isEmpty() ? QRectF() : bounds.adjusted(-margin, -margin, margin, margin);
+    return bounds;
 }
 
 void SelectionOutline::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)

@@ -19,7 +19,8 @@ public:
     SelectionOutline();
 
     //! Takes over the items, and their places as they are now. Without handles there are the frames alone.
-    void follow(const QList<FramedItem *> &items, bool hasHandles);
+    //! \return the rectangle around the frames
+    QRectF follow(const QList<FramedItem *> &items, bool hasHandles);
 
     QRectF boundingRect() const override { return m_bounds; }
     //! Nothing is ever hit.
