@@ -78,6 +78,9 @@ TEST_F(PreviewVerb, tellsWhatAScriptExpectedAndWhatWasThere)
     EXPECT_EQ(bad.out, u"bad:2: expected Main.title.text \"7\", but it is \"40\"\n"_s);
     EXPECT_EQ(bad.code, 1);
     EXPECT_EQ(preview(pump, {u"--script"_s, u"missing"_s}).code, 3);
+    sandbox.write(u"cut"_s, QByteArray("shot a\0b\n", 9));
+    EXPECT_EQ(preview(pump, {u"--script"_s, u"cut"_s, u"--shot"_s, u"out"_s}).out,
+              u"cut:1: The line holds a NUL.\n"_s);
 }
 
 TEST_F(PreviewVerb, looksAtTheScreensForCheck)

@@ -105,6 +105,9 @@ QString PreviewScript::runLine(const QString &line)
     if (line.isEmpty() || line.startsWith(u'#')) {
         return {};
     }
+    if (line.contains(QChar::Null)) {
+        return u"The line holds a NUL."_s;
+    }
     QStringView rest = line;
     const QString word = takeWord(rest);
     const auto entry = commands.constFind(word);
