@@ -13,6 +13,13 @@ namespace {
 //! Texts that are read in one go.
 constexpr qsizetype batchSize = 256;
 
+//! The property that holds what the user wrote: an expression takes the place of the value that it gives.
+const DesignerProperty &sourceOf(const DesignerProperty &property)
+{
+    const SharedProperty binding = property.parentObject()->getProperty(property.id() + u"Binding"_s);
+    return binding && !binding->valueString().isEmpty() ? *binding : property;
+}
+
 } // namespace
 
 bool CodeCheck::concerns(const DesignerProperty &property)
@@ -70,7 +77,7 @@ void CodeCheck::finish(const Project &)
     }
     for (const auto &[property, text] : std::as_const(m_uses)) {
         if (const auto error = errors.constFind(text); error != errors.cend()) {
-            report(*property, ProblemCode::CodeUnreadable, {*error});
+            report(sourceOf(*property), ProblemCode::CodeUnreadable, {*error});
         }
     }
 }

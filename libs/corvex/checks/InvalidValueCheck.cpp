@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/InvalidValueCheck.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/PropertyValidators.h"
+#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/variables/MappingVariable.h"
+#include "corvex/variables/ModbusMap.h"
 
 using namespace Qt::StringLiterals;
 
@@ -91,6 +95,21 @@ bool isEcho(const DesignerProperty &property)
            || (property.isList() && property.itemList()->invalidCount > 0 && property.listItemCount() > 1);
 }
 
+//! What the text of the validator leaves open.
+QString detail(const DesignerProperty &property, ProblemCode code)
+{
+    if (code == ProblemCode::NameFormat && property.parentObject()->getIdName().size() == 1) {
+        return Common::LocalizationHelper::coreString(u" A name has at least 2 characters."_s);
+    }
+    if (code == ProblemCode::FieldbusMap
+        && property.parentObject()->isKindOfClass(MappingVariable::kindName())) {
+        const auto *map = dynamic_cast<const GeneralDataListProperty *>(&property);
+        const QStringList repeated = map ? ModbusMap::repeatedAddresses(map->value()) : QStringList();
+        return repeated.isEmpty() ? QString() : u": "_s + repeated.join(u", "_s);
+    }
+    return {};
+}
+
 } // namespace
 
 void InvalidValueCheck::look(const DesignerObject &object)
@@ -106,7 +125,8 @@ void InvalidValueCheck::look(const DesignerObject &object)
         const ProblemCode code = property->failure() == Kind    ? ProblemCode::ValueInvalid
                                  : property->failure() == Range ? rangeCode(object)
                                                                 : refusalCode(*property);
-        report({code, object.objectPath(), property->id(), property->errorString()});
+        report(
+            {code, object.objectPath(), property->id(), property->errorString() + detail(*property, code)});
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "corvex/core/properties/ValidationError.h"
 
+#include <QMap>
 #include <QSet>
 
 #include <limits>
@@ -90,6 +91,21 @@ bool ModbusMap::read(const GeneralDataList &terms, QString &error)
     }
     m_entries = entries;
     return true;
+}
+
+QStringList ModbusMap::repeatedAddresses(const GeneralDataList &terms)
+{
+    QMap<int, int> counts;
+    for (qsizetype i = 0; i < terms.count(); i += 2) {
+        ++counts[terms.at(i).value().toInt()];
+    }
+    QStringList repeated;
+    for (const auto &[address, count] : counts.asKeyValueRange()) {
+        if (count > 1) {
+            repeated.append(addressText(address));
+        }
+    }
+    return repeated;
 }
 
 GeneralDataList ModbusMap::toTerms() const

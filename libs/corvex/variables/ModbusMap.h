@@ -43,6 +43,9 @@ public:
         has the address of another one. */
     bool read(const GeneralDataList &terms, QString &error);
     GeneralDataList toTerms() const;
+    //! The addresses that more than one entry of an expression has, in five digits, as they are written
+    //! everywhere.
+    static QStringList repeatedAddresses(const GeneralDataList &terms);
 
     RegisterKind kind() const { return m_kind; }
     const QList<Entry> &entries() const { return m_entries; }
