@@ -22,7 +22,7 @@ void report(const QString &folder, const Call &call)
             Terminal::oneLine(u"%1: %2 files"_s.arg(folder, QString::number(files.size()))));
         return;
     }
-    JsonWriter json(call.terminal());
+    JsonWriter &json = call.json();
     json.beginObject();
     json.member("folder"_L1, folder);
     json.member("files"_L1, files);

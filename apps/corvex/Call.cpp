@@ -56,7 +56,11 @@ bool Call::parse(const QStringList &commandLine)
     for (const QString &argument : commandLine) {
         shielded.append(shieldNumber(argument));
     }
-    if (!m_parser.parse(shielded)) {
+    const bool isGood = m_parser.parse(shielded);
+    if (isSet(u"json"_s)) {
+        m_terminal.useJson();
+    }
+    if (!isGood) {
         misused(m_parser.errorText() + u" Put \"--\" before an argument that begins with \"-\"."_s);
         return false;
     }
@@ -83,7 +87,12 @@ bool Call::hasRightCount() const
 
 bool Call::asJson() const
 {
-    return isSet(u"json"_s);
+    return m_terminal.usesJson();
+}
+
+JsonWriter &Call::json() const
+{
+    return m_terminal.json();
 }
 
 bool Call::asksForHelp() const

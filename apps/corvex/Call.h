@@ -10,6 +10,7 @@
 
 namespace Halvane::Corvex::Tool {
 
+class JsonWriter;
 class Terminal;
 struct Verb;
 
@@ -20,8 +21,7 @@ public:
     Call(const Verb &verb, Terminal &terminal);
     Q_DISABLE_COPY_MOVE(Call)
 
-    /*! Takes what stands behind the verb on the command line. Wrong usage is told to the user and gives
-        false. */
+    /*! Takes the words of the command line that follow the verb. False, with a message, for wrong usage. */
     bool parse(const QStringList &commandLine);
 
     const Verb &verb() const { return m_verb; }
@@ -32,6 +32,8 @@ public:
     bool isSet(const QString &option) const { return m_parser.isSet(option); }
     QString value(const QString &option) const { return m_parser.value(option); }
     bool asJson() const;
+    //! The result of the verb, when asJson().
+    JsonWriter &json() const;
     bool asksForHelp() const;
 
     // Each tells the user what is wrong and gives the exit code for it.

@@ -39,7 +39,8 @@ ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> 
                            hasErrors(problems) ? ExitCode::Problems : ExitCode::File);
     }
     PreviewProgram program(call, generator.buildFolder() + u"/classes"_s);
-    program.process().setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program.process().setProcessChannelMode(call.asJson() ? QProcess::SeparateChannels
+                                                          : QProcess::ForwardedErrorChannel);
     if (!program.start({generator.buildFolder(), u"--audit"_s, u"--trust"_s})
         || !program.process().waitForFinished(-1)) {
         return ExitCode::File;
@@ -49,27 +50,48 @@ ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> 
         problems.append(
             {ProblemCode::ScreenLook, entry[u"object"].toString(), QString(), entry[u"message"].toString()});
     }
-    const ExitCode code = program.exitCode();
+    const ExitCode code = program.finish();
     return code == ExitCode::Problems ? ExitCode::Done : code;
 }
 
-ExitCode run(const Call &call, const ProjectFile &file)
+ExitCode check(const Call &call, qsizetype argument, QList<ProblemsOfFile> &all)
 {
-    const ConfigurationContainer *models = Installation::loadModels(call);
+    ProjectFile file;
+    const ConfigurationContainer *models =
+        file.open(call, ProjectFile::Use::Read, argument) ? Installation::loadModels(call) : nullptr;
     if (!models) {
         return ExitCode::File;
     }
     call.terminal().showProgress(u"checking %1"_s.arg(file.path()));
     QList<Problem> problems = ProjectProblems::find(file.project(), *models);
     const ExitCode code = call.isSet(u"screens"_s) ? checkScreens(call, file, problems) : ExitCode::Done;
-    if (call.asJson()) {
-        ProblemReport::printJson(problems, call.terminal());
-    } else {
-        for (const Problem &problem : problems) {
-            call.terminal().print(ProblemReport::line(problem));
+    all.append({file.path(), problems});
+    return code == ExitCode::Done && hasErrors(problems) ? ExitCode::Problems : code;
+}
+
+void print(const ProblemsOfFile &one, const Call &call)
+{
+    const QString start = call.arguments().size() > 1 ? Terminal::oneLine(one.file) + u": "_s : QString();
+    for (const Problem &problem : one.problems) {
+        call.terminal().print(start + ProblemReport::line(problem));
+    }
+}
+
+ExitCode run(const Call &call)
+{
+    ExitCode worst = ExitCode::Done;
+    QList<ProblemsOfFile> all;
+    for (qsizetype i = 0; i < call.arguments().size(); ++i) {
+        const qsizetype before = all.size();
+        worst = std::max(worst, check(call, i, all));
+        if (!call.asJson() && all.size() > before) {
+            print(all.constLast(), call);
         }
     }
-    return code == ExitCode::Done && hasErrors(problems) ? ExitCode::Problems : code;
+    if (call.asJson()) {
+        ProblemReport::printJson(all, call.terminal());
+    }
+    return worst;
 }
 
 QList<QCommandLineOption> options()
@@ -81,7 +103,7 @@ QList<QCommandLineOption> options()
 
 const Verb checkVerb{
     .name = "check",
-    .arguments = "FILE",
+    .arguments = "FILE...",
     .summary = "print every problem of a project",
     .details =
         [] {
@@ -97,9 +119,10 @@ their variables; what hides others is a rectangle or a picture without transpare
 script of "corvex preview" looks at everything else.)"_s;
         },
     .example = "corvex check examples/PumpStation/PumpStation.kdproj",
+    .mostArguments = Verb::anyNumber,
     .opensProjects = true,
     .options = options,
-    .run = onProject<run>,
+    .run = run,
 };
 
 } // namespace Halvane::Corvex::Tool

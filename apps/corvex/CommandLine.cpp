@@ -16,37 +16,38 @@ namespace Halvane::Corvex::Tool {
 
 namespace {
 
-QString unknownVerb(const QString &name)
+ExitCode runWithoutVerb(QStringList arguments, Terminal &terminal)
 {
-    const QString nearest = Help::nearest(name, Help::verbNames());
-    return nearest.isEmpty()
-               ? u"There is no verb \"%1\". \"corvex help\" lists them all."_s.arg(name)
-               : u"There is no verb \"%1\"; did you mean \"%2\"? \"corvex help\" lists them all."_s.arg(
-                   name, nearest);
+    if (arguments.removeAll(u"--json"_s) > 0) {
+        terminal.useJson();
+    }
+    const QString name = arguments.value(0);
+    if (name == "--help"_L1 || name == "-h"_L1) {
+        Help::show(nullptr, terminal);
+        return ExitCode::Done;
+    }
+    if (name == "--version"_L1 || name == "-v"_L1) {
+        terminal.print(u"corvex %1"_s.arg(QCoreApplication::applicationVersion()));
+        return ExitCode::Done;
+    }
+    terminal.complain(name.isEmpty() ? u"A verb is missing. \"corvex help\" lists them all."_s
+                                     : Help::unknownVerb(name));
+    return ExitCode::Usage;
 }
 
 ExitCode run(const QStringList &arguments, Terminal &terminal)
 {
     const QString name = arguments.value(0);
-    if (name.isEmpty()) {
-        terminal.complain(u"A verb is missing. \"corvex help\" lists them all."_s);
-        return ExitCode::Usage;
-    }
-    if (name == "--help"_L1 || name == "-h"_L1) {
-        Help::printVerbs(terminal);
-        return ExitCode::Done;
-    }
     const Verb *verb = findVerb(name);
     if (!verb) {
-        terminal.complain(unknownVerb(name));
-        return ExitCode::Usage;
+        return runWithoutVerb(arguments, terminal);
     }
     Call call(*verb, terminal);
     if (!call.parse(arguments.mid(1))) {
         return ExitCode::Usage;
     }
     if (call.asksForHelp()) {
-        Help::printPage(*verb, terminal);
+        Help::show(verb, terminal);
         return ExitCode::Done;
     }
     return verb->run(call);

@@ -76,11 +76,16 @@ QString leafText(const QVariant &value)
     }
 }
 
+bool isMapping(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QVariantMap || value.typeId() == QMetaType::QVariantHash;
+}
+
 //! Hands each entry of a container to \a entry(key, value) and tells whether the value is one.
 template<class Entry>
 bool forEachEntry(const QVariant &value, Entry &&entry)
 {
-    if (value.typeId() == QMetaType::QVariantMap || value.typeId() == QMetaType::QVariantHash) {
+    if (isMapping(value)) {
         const QVariantMap map = value.toMap();
         for (auto item = map.cbegin(); item != map.cend(); ++item) {
             entry(item.key(), item.value());
@@ -137,7 +142,7 @@ void writeLeaf(const QVariant &value, JsonWriter &json)
 void writeJson(const QVariant &value, JsonWriter &json)
 {
     const bool isList = value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList;
-    const bool isMap = value.typeId() == QMetaType::QVariantMap || value.typeId() == QMetaType::QVariantHash;
+    const bool isMap = isMapping(value);
     if (!isList && !isMap) {
         writeLeaf(value, json);
         return;
@@ -155,8 +160,16 @@ void writeJson(const QVariant &value, JsonWriter &json)
 void print(const QVariant &value, const Call &call)
 {
     if (call.asJson()) {
-        JsonWriter json(call.terminal());
+        const bool isMap = isMapping(value);
+        JsonWriter &json = call.json();
+        if (!isMap) {
+            json.beginObject();
+            json.name("value"_L1);
+        }
         writeJson(value, json);
+        if (!isMap) {
+            json.endObject();
+        }
         return;
     }
     const bool isContainer = forEachEntry(

@@ -13,13 +13,11 @@ namespace Halvane::Corvex::Tool {
 
 namespace {
 
-void printJson(const QList<ProjectEditor::Edit> &edits, const QStringList &output, bool isSaved,
-               const Call &call)
+void printJson(const QList<ProjectEditor::Edit> &edits, bool isSaved, const Call &call)
 {
-    JsonWriter json(call.terminal());
+    JsonWriter &json = call.json();
     json.beginObject();
     json.member("saved"_L1, isSaved);
-    json.member("printed"_L1, output);
     json.name("edits"_L1);
     json.beginArray();
     for (const auto &[text, parts, changes] : edits) {
@@ -67,7 +65,7 @@ ExitCode EditReport::finish(ProjectEditor &editor, const ProjectFile &file, cons
         editor.undoAll();
     }
     if (call.asJson()) {
-        printJson(edits, editor.takeOutput(), !isTrial && code == ExitCode::Done, call);
+        printJson(edits, !isTrial && code == ExitCode::Done, call);
     } else if (isTrial) {
         print(edits, call);
     }

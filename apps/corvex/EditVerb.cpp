@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Call.h"
 #include "EditReport.h"
+#include "InputFile.h"
 #include "Interruption.h"
 #include "ProjectEditor.h"
 #include "ProjectFile.h"
 #include "Terminal.h"
 #include "Verb.h"
-
-#include <QFile>
-
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -17,54 +14,48 @@ namespace Halvane::Corvex::Tool {
 
 namespace {
 
-bool openScript(QFile &script, const Call &call)
+//! Does all lines, or none of them: then every line that is wrong is named.
+ExitCode edit(ProjectEditor &editor, InputFile &script, const Call &call)
 {
-    const QString path = call.argument(1);
-    if (path.isEmpty() || path == "-"_L1) {
-        return script.open(stdin, QIODevice::ReadOnly);
-    }
-    script.setFileName(path);
-    return script.open(QIODevice::ReadOnly);
-}
-
-//! Does all lines, or none of them.
-ExitCode edit(ProjectEditor &editor, QFile &script, const Call &call)
-{
-    const QString name = script.fileName().isEmpty() ? u"-"_s : script.fileName();
-    QByteArray line = script.readLine();
-    for (int number = 1; !line.isEmpty() && !Interruption::isWanted(); ++number, line = script.readLine()) {
+    constexpr int mostFailures = 100;
+    const QString stays = u"\"%1\" stays as it is."_s.arg(call.argument(0));
+    int failures = 0;
+    QByteArray line;
+    bool isRead = script.readLine(line);
+    for (int number = 1; isRead && !line.isEmpty() && !Interruption::isWanted() && failures < mostFailures;
+         ++number, isRead = script.readLine(line)) {
         QString error = u"The bytes are not UTF-8, the one encoding that is read."_s;
-        const bool isDone = line.isValidUtf8() && editor.run(QString::fromUtf8(line), error);
-        for (const QString &output : call.asJson() ? QStringList() : editor.takeOutput()) {
+        const auto result =
+            line.isValidUtf8() ? editor.run(QString::fromUtf8(line), error) : ProjectEditor::Result::Failed;
+        for (const QString &output : editor.takeOutput()) {
             call.terminal().print(output);
         }
-        if (!isDone) {
-            editor.undoAll();
-            constexpr qsizetype most = 500; // a reason may quote a line that is no line of a script
-            const QString reason = error.size() > most ? error.left(most) + u"..."_s : error;
+        if (result == ProjectEditor::Result::Failed) {
+            ++failures;
             call.terminal().printError(
-                Terminal::oneLine(u"%1:%2: %3"_s.arg(name, QString::number(number), reason)));
-            return call.failed(u"\"%1\" stays as it is."_s.arg(call.argument(0)), ExitCode::Problems);
+                Terminal::oneLine(u"%1:%2: %3"_s.arg(script.path(), QString::number(number), error)));
         }
     }
     if (Interruption::isWanted()) {
         editor.undoAll();
-        return call.failed(u"Interrupted: \"%1\" stays as it is."_s.arg(call.argument(0)),
-                           ExitCode::Problems);
+        return call.failed(u"Interrupted: %1"_s.arg(stays), ExitCode::Problems);
     }
-    if (script.error() != QFileDevice::NoError) {
+    if (!isRead) {
         editor.undoAll();
-        return call.failed(u"The script \"%1\" cannot be read: %2."_s.arg(name, script.errorString()));
+        return call.failed(u"%1 %2"_s.arg(script.errorString(), stays));
+    }
+    if (failures > 0) {
+        editor.undoAll();
+        return call.failed(stays, ExitCode::Problems);
     }
     return ExitCode::Done;
 }
 
 ExitCode run(const Call &call, const ProjectFile &file)
 {
-    QFile script;
-    if (!openScript(script, call)) {
-        return call.failed(
-            u"The script \"%1\" cannot be read: %2."_s.arg(call.argument(1), script.errorString()));
+    InputFile script(call.argument(1).isEmpty() ? u"-"_s : call.argument(1));
+    if (!script.open()) {
+        return call.failed(script.errorString());
     }
     const Interruption interruption; // files of images would be left in the middle of it
     ProjectEditor editor(file.project(), call);
@@ -101,7 +92,8 @@ from an edit, such as the references to what gets another name, is changed along
     model NAME                       another device model
     filter NAME PATH...              a filter that lists these elements
     undo [N], redo [N], print PATH
-Empty lines and lines that start with "#" do nothing.)"_s;
+Empty lines and lines that start with "#" do nothing. All wrong lines are named at once; what
+follows from one of them is not.)"_s;
         },
     .example = "echo 'rename startLevel pumpStart' | corvex edit --dry-run "
                "examples/PumpStation/PumpStation.kdproj",

@@ -9,6 +9,7 @@
 #include "Call.h"
 #include "JsonWriter.h"
 #include "ProjectFile.h"
+#include "Suggestion.h"
 #include "Terminal.h"
 #include "Verb.h"
 
@@ -50,7 +51,7 @@ constexpr std::array kinds{
     Kind{"variables", exportAs<VariableExport>},
 };
 
-void reportWritten(const QStringList &paths, const Exported &exported, const Call &call)
+void reportWritten(const QStringList &paths, const Call &call)
 {
     if (!call.asJson()) {
         for (const QString &path : paths) {
@@ -58,10 +59,9 @@ void reportWritten(const QStringList &paths, const Exported &exported, const Cal
         }
         return;
     }
-    JsonWriter json(call.terminal());
+    JsonWriter &json = call.json();
     json.beginObject();
     json.member("files"_L1, paths);
-    json.member("problems"_L1, exported.problems);
     json.endObject();
 }
 
@@ -85,7 +85,7 @@ bool writeAll(const Exported &exported, const QString &folder, const Call &call)
             return false;
         }
     }
-    reportWritten(paths, exported, call);
+    reportWritten(paths, call);
     return true;
 }
 
@@ -94,8 +94,11 @@ ExitCode run(const Call &call)
     const auto *kind = std::ranges::find_if(
         kinds, [&](const auto &entry) { return call.argument(0) == QLatin1StringView(entry.name); });
     if (kind == std::end(kinds)) {
-        return call.misused(
-            u"\"%1\" cannot be exported; there are modbus, bacnet, can, variables."_s.arg(call.argument(0)));
+        QStringList names;
+        for (const Kind &known : kinds) {
+            names.append(QString::fromLatin1(known.name));
+        }
+        return call.misused(Suggestion::unknown(u"export"_s, call.argument(0), names));
     }
     const QString folder = call.value(u"output"_s);
     if (call.asJson() && folder.isEmpty()) {

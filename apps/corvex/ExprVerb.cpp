@@ -4,6 +4,7 @@
 
 #include "Call.h"
 #include "JsonWriter.h"
+#include "Suggestion.h"
 #include "Terminal.h"
 #include "Verb.h"
 
@@ -46,13 +47,13 @@ const auto *findRow(const Table &table, const QString &name)
 }
 
 template<class Table>
-QString namesOf(const Table &table)
+QStringList namesOf(const Table &table)
 {
     QStringList names;
     for (const auto &row : table) {
         names.append(QString::fromLatin1(row.name));
     }
-    return names.join(", "_L1);
+    return names;
 }
 
 //! Why an expression that could be read gives no code.
@@ -68,6 +69,24 @@ QString obstacle(const GeneralDataList &expression, GeneralDataList::InfoType ki
         return u"its terms are not pairs of a target and a source"_s;
     }
     return u"its terms do not go together"_s;
+}
+
+//! The term whose code has the place of an error in it, the last one for an error at the end.
+qsizetype termAt(const GeneralDataList &expression, const ExpressionSyntax::Result &error,
+                 GeneralDataInfo::OutputType output, GeneralDataList::InfoType kind)
+{
+    constexpr qsizetype most = 1000; // the code of each beginning is made
+    GeneralDataList beginning;
+    for (qsizetype i = 0; i < std::min<qsizetype>(expression.count(), most); ++i) {
+        beginning.append(expression.at(i));
+        const QString code = beginning.toQmlString(output, kind);
+        const qsizetype lines = code.count(u'\n') + 1;
+        if (lines > error.line
+            || (lines == error.line && code.size() - code.lastIndexOf(u'\n') > error.column)) {
+            return i;
+        }
+    }
+    return expression.count() - 1;
 }
 
 struct Translation
@@ -97,33 +116,35 @@ Translation translate(const QString &text, GeneralDataList::InfoType kind, Gener
     const ExpressionSyntax::Result result =
         isStatement ? syntax.checkStatements(code) : syntax.checkExpression(code);
     if (!result.valid) {
-        return {code, u"The code is no complete JavaScript, line %1, column %2: %3"_s.arg(
-                          QString::number(result.line), QString::number(result.column), result.message)};
+        const qsizetype place = termAt(expression, result, output, kind);
+        return {code, u"The code is no complete JavaScript at term %1, \"%2\": %3"_s.arg(
+                          QString::number(place + 1), GeneralDataList({expression.at(place)}).toString(),
+                          result.message)};
     }
     return {code, {}};
 }
 
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption(u"output"_s, u"The type that the code is to have: %1."_s.arg(namesOf(outputs)),
-                               u"TYPE"_s, u"raw"_s)};
+    return {QCommandLineOption(
+        u"output"_s, u"The type that the code is to have: %1."_s.arg(namesOf(outputs).join(", "_L1)),
+        u"TYPE"_s, u"raw"_s)};
 }
 
 ExitCode run(const Call &call)
 {
     const auto *kind = findRow(kinds, call.argument(0));
     if (!kind) {
-        return call.misused(
-            u"There is no kind of expressions \"%1\"; there are %2."_s.arg(call.argument(0), namesOf(kinds)));
+        return call.misused(Suggestion::unknown(u"kind of expressions"_s, call.argument(0), namesOf(kinds)));
     }
     const QString outputName = call.value(u"output"_s);
     const auto *output = findRow(outputs, outputName);
     if (!output) {
-        return call.misused(u"There is no type \"%1\"; there are %2."_s.arg(outputName, namesOf(outputs)));
+        return call.misused(Suggestion::unknown(u"type"_s, outputName, namesOf(outputs)));
     }
     const auto [code, problem] = translate(call.argument(1), kind->type, output->type, call.argument(0));
     if (call.asJson()) {
-        JsonWriter json(call.terminal());
+        JsonWriter &json = call.json();
         json.beginObject();
         json.member("kind"_L1, call.argument(0));
         json.member("output"_L1, outputName);
@@ -146,7 +167,7 @@ const Verb exprVerb{
         [] {
             return uR"(Prints the JavaScript that the device gets for the expression TEXT, which is written as in
 project files. KIND is what the expression is for: %1. An expression that cannot
-be translated, or not into complete JavaScript, gives exit code 1.)"_s.arg(namesOf(kinds));
+be translated, or not into complete JavaScript, gives exit code 1.)"_s.arg(namesOf(kinds).join(", "_L1));
         },
     .example = "corvex expr math \"<0406speed><0101*><02042>\"",
     .fewestArguments = 2,

@@ -9,6 +9,8 @@
 #include "Terminal.h"
 #include "Verb.h"
 
+#include <QFile>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
@@ -28,12 +30,22 @@ ExitCode refuse(const Call &call, const ProjectFile &file, const QList<ReadNote>
                        ExitCode::Problems);
 }
 
+//! Version control may have changed all line ends, which says nothing of the project: those of the first line
+//! are taken for all.
+ObjectXmlWriter::LineEnd lineEndOf(const QString &path)
+{
+    constexpr qint64 longestDeclaration = 1024;
+    QFile file(path);
+    const bool isUnix = file.open(QIODevice::ReadOnly) && file.readLine(longestDeclaration).endsWith("?>\n");
+    return isUnix ? ObjectXmlWriter::LineEnd::Unix : ObjectXmlWriter::LineEnd::Windows;
+}
+
 //! The first line that differs is 0 when none does.
 void report(const Call &call, const ProjectFile &file, qint64 line, bool written)
 {
     const bool isCanonical = line == 0;
     if (call.asJson()) {
-        JsonWriter json(call.terminal());
+        JsonWriter &json = call.json();
         json.beginObject();
         json.member("file"_L1, file.path());
         json.member("canonical"_L1, isCanonical);
@@ -61,7 +73,7 @@ ExitCode format(const Call &call, const ProjectFile &file)
         return call.failed(rewritten.errorString());
     }
     project.changePropertyValue(project.designerVersion(), Project::buildVersion());
-    ObjectXmlWriter writer(&rewritten, ObjectXmlWriter::LineEnd::Windows);
+    ObjectXmlWriter writer(&rewritten, lineEndOf(project.fullFilePath()));
     const bool isWritten = writer.write(&project) && rewritten.finish();
     if (rewritten.hasFailed()) {
         return call.failed(rewritten.errorString());
@@ -98,7 +110,7 @@ ExitCode run(const Call &call)
 
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption(u"check"_s, u"Write nothing; tell whether saving would change a byte."_s),
+    return {QCommandLineOption(u"check"_s, u"Write nothing; say whether the file would change."_s),
             QCommandLineOption(u"force"_s, u"Write even though parts of the file are lost."_s)};
 }
 
@@ -111,9 +123,10 @@ const Verb fmtVerb{
     .details =
         [] {
             return uR"(Writes the file as the design tool would save it; a file that is so already is not touched.
-With --check nothing is written, and the exit code is 1 when saving would change a byte. A
+With --check nothing is written, and the exit code is 1 when there is something to write. A
 file with parts that this version does not know is not written without --force, since they
-would be lost; elements whose plug-in is missing are kept and lose nothing.)"_s;
+would be lost; elements whose plug-in is missing are kept and lose nothing. Lines that end with
+LF alone, as version control may have made them, stay so.)"_s;
         },
     .example = "corvex fmt --check examples/PumpStation/PumpStation.kdproj",
     .opensProjects = true,

@@ -3,10 +3,9 @@
 
 #include "Call.h"
 #include "JsonWriter.h"
+#include "Suggestion.h"
 #include "Terminal.h"
 #include "Verb.h"
-
-#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -30,21 +29,13 @@ QString usage(const Verb &verb)
     return u"corvex %1 %2"_s.arg(QLatin1StringView(verb.name), QLatin1StringView(verb.arguments)).trimmed();
 }
 
-//! How many letters must be put in, left out or changed to make one text of the other.
-qsizetype distance(QStringView a, QStringView b)
+QStringList verbNames()
 {
-    std::vector<qsizetype> row(size_t(b.size()) + 1);
-    std::iota(row.begin(), row.end(), 0);
-    for (qsizetype i = 0; i < a.size(); ++i) {
-        qsizetype diagonal = std::exchange(row[0], i + 1);
-        for (qsizetype j = 0; j < b.size(); ++j) {
-            const auto at = size_t(j) + 1;
-            const qsizetype changed = diagonal + (a.at(i) == b.at(j) ? 0 : 1);
-            diagonal = row[at];
-            row[at] = std::min({changed, row[at] + 1, row[at - 1] + 1});
-        }
+    QStringList names;
+    for (const Verb *verb : allVerbs()) {
+        names.append(QString::fromLatin1(verb->name));
     }
-    return row.back();
+    return names;
 }
 
 void writePage(const Verb &verb, JsonWriter &json)
@@ -64,18 +55,7 @@ void writePage(const Verb &verb, JsonWriter &json)
     json.endObject();
 }
 
-} // namespace
-
-QStringList Help::verbNames()
-{
-    QStringList names;
-    for (const Verb *verb : allVerbs()) {
-        names.append(QString::fromLatin1(verb->name));
-    }
-    return names;
-}
-
-void Help::printVerbs(Terminal &terminal)
+void printVerbs(Terminal &terminal)
 {
     terminal.print(u"corvex VERB [OPTIONS] ARGUMENTS: create, check, inspect and build projects"_s);
     terminal.print({});
@@ -95,7 +75,7 @@ void Help::printVerbs(Terminal &terminal)
     terminal.print(u"written."_s);
 }
 
-void Help::printPage(const Verb &verb, Terminal &terminal)
+void printPage(const Verb &verb, Terminal &terminal)
 {
     terminal.print(usage(verb));
     terminal.print({});
@@ -115,36 +95,39 @@ void Help::printPage(const Verb &verb, Terminal &terminal)
     terminal.print(u"  %1"_s.arg(QLatin1StringView(verb.example)));
 }
 
-void Help::printJson(const Verb *verb, Terminal &terminal)
+void printJson(const Verb *verb, Terminal &terminal)
 {
-    JsonWriter json(terminal);
+    JsonWriter &json = terminal.json();
     if (verb) {
         writePage(*verb, json);
         return;
     }
+    json.beginObject();
+    json.name("verbs"_L1);
     json.beginArray();
     for (const Verb *each : allVerbs()) {
         writePage(*each, json);
     }
     json.endArray();
+    json.endObject();
 }
 
-QString Help::nearest(const QString &text, const QStringList &names)
+} // namespace
+
+QString Help::unknownVerb(const QString &name)
 {
-    constexpr qsizetype mostSlips = 4;
-    qsizetype least = std::clamp<qsizetype>(text.size() / 2, 1, mostSlips) + 1;
-    QString found;
-    for (const QString &name : names) {
-        if (std::abs(text.size() - name.size()) >= least) {
-            continue; // it is as far away at least
-        }
-        const qsizetype between = distance(text.toLower(), name.toLower());
-        if (between < least) {
-            least = between;
-            found = name;
-        }
+    return Suggestion::unknown(u"verb"_s, name, verbNames(), u"\"corvex help\" lists them all."_s);
+}
+
+void Help::show(const Verb *verb, Terminal &terminal)
+{
+    if (terminal.usesJson()) {
+        printJson(verb, terminal);
+    } else if (verb) {
+        printPage(*verb, terminal);
+    } else {
+        printVerbs(terminal);
     }
-    return found;
 }
 
 } // namespace Halvane::Corvex::Tool

@@ -13,16 +13,9 @@ struct Verb;
 class Help
 {
 public:
-    static QStringList verbNames();
-    //! All verbs and what the exit codes mean.
-    static void printVerbs(Terminal &terminal);
-    //! Usage, options and an example of one verb.
-    static void printPage(const Verb &verb, Terminal &terminal);
-    //! The same as JSON; of all verbs for null.
-    static void printJson(const Verb *verb, Terminal &terminal);
-
-    //! Of \a names the one that \a text was probably meant to be; empty when none is near.
-    static QString nearest(const QString &text, const QStringList &names);
+    static QString unknownVerb(const QString &name);
+    //! Usage, options and an example of a verb; for null all verbs and what the exit codes mean.
+    static void show(const Verb *verb, Terminal &terminal);
 };
 
 } // namespace Halvane::Corvex::Tool

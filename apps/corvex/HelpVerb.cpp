@@ -15,16 +15,9 @@ ExitCode run(const Call &call)
     const QString name = call.argument(0);
     const Verb *verb = findVerb(name);
     if (!name.isEmpty() && !verb) {
-        return call.failed(u"There is no verb \"%1\". \"corvex help\" lists them all."_s.arg(name),
-                           ExitCode::Usage);
+        return call.failed(Help::unknownVerb(name), ExitCode::Usage);
     }
-    if (call.asJson()) {
-        Help::printJson(verb, call.terminal());
-    } else if (verb) {
-        Help::printPage(*verb, call.terminal());
-    } else {
-        Help::printVerbs(call.terminal());
-    }
+    Help::show(verb, call.terminal());
     return ExitCode::Done;
 }
 

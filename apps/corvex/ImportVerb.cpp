@@ -5,12 +5,14 @@
 #include "corvex/variables/exchange/VariableImport.h"
 
 #include "Call.h"
+#include "InputFile.h"
 #include "JsonWriter.h"
 #include "ProjectFile.h"
+#include "Suggestion.h"
 #include "Terminal.h"
 #include "Verb.h"
 
-#include <QFile>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -52,7 +54,7 @@ struct Report
 
 void printJson(const Report &report, bool isWritten, Terminal &terminal)
 {
-    JsonWriter json(terminal);
+    JsonWriter &json = terminal.json();
     json.beginObject();
     json.name("changed"_L1);
     json.beginArray();
@@ -97,17 +99,19 @@ void print(const Report &report, bool isWritten, const Call &call)
         QString::number(report.unchanged)));
 }
 
-bool complain(const QStringList &problems, const Call &call)
+//! All of them, in the order of their lines.
+void complain(QList<CsvText::Problem> problems, const Call &call)
 {
-    for (const QString &problem : problems) {
-        call.terminal().printError(Terminal::oneLine(u"%1: %2"_s.arg(call.argument(2), problem)));
+    std::ranges::stable_sort(problems, {}, &CsvText::Problem::line);
+    for (const CsvText::Problem &problem : std::as_const(problems)) {
+        const QString text = problem.line > 0 ? problem.toString() : problem.text;
+        call.terminal().printError(Terminal::oneLine(u"%1: %2"_s.arg(call.argument(2), text)));
     }
-    return !problems.isEmpty();
 }
 
 //! Does the edit. False when the project refuses it. What is wrong with the names of new variables shows only
 //! among the others.
-bool edit(Project &project, VariableImport &import, QStringList &problems)
+bool edit(Project &project, VariableImport &import, QList<CsvText::Problem> &problems)
 {
     QList<const DesignerObject *> added;
     for (const auto &variable : import.additions()) {
@@ -115,12 +119,14 @@ bool edit(Project &project, VariableImport &import, QStringList &problems)
     }
     UndoStack *stack = project.undoStack();
     if (!stack->push(new ImportVariables(project.variables(), import))) {
-        problems.append(stack->errorString());
+        problems.append({0, stack->errorString()});
         return false;
     }
     for (const DesignerObject *variable : added) {
         if (!variable->idProperty()->isValid()) {
-            problems.append(u"%1: %2"_s.arg(variable->getIdName(), variable->idProperty()->errorString()));
+            const QString name = variable->getIdName();
+            problems.append(
+                {import.lineOf(name), u"%1: %2"_s.arg(name, variable->idProperty()->errorString())});
         }
     }
     return true;
@@ -128,16 +134,16 @@ bool edit(Project &project, VariableImport &import, QStringList &problems)
 
 ExitCode take(ProjectFile &file, VariableImport &import, const Call &call)
 {
-    const bool isForced = call.isSet(u"force"_s);
     const bool isTrial = call.isSet(u"dry-run"_s);
     const Report report(import);
-    QStringList problems = import.invalidValues();
-    const bool isDone = (problems.isEmpty() || isForced) && edit(file.project(), import, problems);
+    QList<CsvText::Problem> problems = import.problems() + import.invalidValues();
+    const bool canBeForced = edit(file.project(), import, problems) && import.problems().isEmpty();
     complain(problems, call);
-    if (!isDone || (!problems.isEmpty() && !isForced)) {
-        return call.failed(
-            u"\"%1\" stays as it is. Mend the table, or take it over with --force."_s.arg(file.path()),
-            ExitCode::Problems);
+    if (!problems.isEmpty() && !(canBeForced && call.isSet(u"force"_s))) {
+        return call.failed(u"\"%1\" stays as it is. %2"_s.arg(
+                               file.path(), canBeForced ? u"Mend the table, or take it over with --force."_s
+                                                        : u"Mend the table."_s),
+                           ExitCode::Problems);
     }
     const bool isWritten = !isTrial && !report.isEmpty();
     const ExitCode code = isWritten ? file.save(call) : ExitCode::Done;
@@ -150,27 +156,35 @@ ExitCode take(ProjectFile &file, VariableImport &import, const Call &call)
 ExitCode run(const Call &call)
 {
     if (call.argument(0) != "variables"_L1) {
-        return call.misused(u"\"%1\" cannot be imported; there are variables."_s.arg(call.argument(0)));
+        return call.misused(Suggestion::unknown(u"import"_s, call.argument(0), {u"variables"_s}));
     }
-    QFile table(call.argument(2));
-    if (!table.open(QIODevice::ReadOnly)) {
-        return call.failed(
-            u"The table \"%1\" cannot be read: %2."_s.arg(call.argument(2), table.errorString()));
+    const QString separator = call.value(u"separator"_s);
+    if (call.isSet(u"separator"_s) && separator.size() != 1 && separator != "tab"_L1) {
+        return call.misused(u"\"%1\" is no separator. Give one character, or tab."_s.arg(separator));
+    }
+    QByteArray bytes;
+    InputFile table(call.argument(2));
+    if (!table.open() || !table.readAll(bytes)) {
+        return call.failed(table.errorString());
     }
     ProjectFile file;
     if (!file.open(call, ProjectFile::Use::Change, 1)) {
         return ExitCode::File;
     }
-    VariableImport import(table.readAll(), file.project());
-    if (complain(import.problems(), call)) {
-        return call.failed(u"\"%1\" stays as it is. Mend the table."_s.arg(file.path()), ExitCode::Problems);
-    }
+    const QChar character = separator == "tab"_L1 ? QChar(u'\t')
+                            : separator.isEmpty() ? QChar()
+                                                  : separator.at(0);
+    VariableImport import(bytes, file.project(), character);
     return take(file, import, call);
 }
 
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption({u"n"_s, u"dry-run"_s}, u"Write nothing; tell what would change."_s),
+    return {QCommandLineOption(u"separator"_s,
+                               u"What parts the columns: one character, or tab. Found by the first line "
+                               "unless given."_s,
+                               u"CHAR"_s),
+            QCommandLineOption({u"n"_s, u"dry-run"_s}, u"Write nothing; tell what would change."_s),
             QCommandLineOption(u"force"_s, u"Take values that are not valid, and write even though parts of "
                                            "the file are lost."_s)};
 }
@@ -189,7 +203,14 @@ const Verb importVerb{
                    "Columns may\n"
                    "be left out, all but \"name\"; an empty field is the default. Variables that the table "
                    "does not\n"
-                   "name stay as they are."_s;
+                   "name stay as they are. CSV may be \"-\" for standard input.\n"
+                   "\n"
+                   "Tables of spreadsheets are read in UTF-8 or UTF-16, with commas, semicolons or tabs. "
+                   "Where "
+                   "no\n"
+                   "comma parts the columns, numbers may have a decimal comma. A \"'\" in front of \"=\", "
+                   "\"+\", \"-\" or\n"
+                   "\"@\" is no part of a text: it keeps spreadsheets from running it."_s;
         },
     .example =
         "corvex import --dry-run variables examples/PumpStation/PumpStation.kdproj examples/variables.csv",

@@ -77,7 +77,7 @@ Info collect(const ProjectFile &file)
 
 void printJson(const Info &info, Terminal &terminal)
 {
-    JsonWriter json(terminal);
+    JsonWriter &json = terminal.json();
     json.beginObject();
     json.member("name"_L1, info.name);
     json.member("version"_L1, info.version);

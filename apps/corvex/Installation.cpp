@@ -2,10 +2,12 @@
 #include "Installation.h"
 
 #include "corvex/core/DesignerFactory.h"
+#include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/hardware/HardwareConfigurations.h"
 
 #include "Call.h"
+#include "Suggestion.h"
 #include "Terminal.h"
 
 #include <QCoreApplication>
@@ -108,6 +110,15 @@ ConfigurationContainer *Installation::loadModels(const Call &call)
         return nullptr;
     }
     return HardwareConfigurations::instance()->installed();
+}
+
+QString Installation::unknownModel(const QString &name, const ConfigurationContainer &models)
+{
+    QStringList names;
+    for (const Configuration *model : models.configurations()) {
+        names.append(model->getIdName());
+    }
+    return Suggestion::unknown(u"device model"_s, name, names, u"\"corvex new --list-models\" lists them."_s);
 }
 
 } // namespace Halvane::Corvex::Tool

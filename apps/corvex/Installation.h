@@ -3,6 +3,8 @@
 
 #include "ExitCode.h"
 
+#include <QString>
+
 namespace Halvane::Corvex::Designer {
 class ConfigurationContainer;
 }
@@ -22,6 +24,8 @@ public:
     //! The installed device models; null, once the user has been told, when there are none. Needs the
     //! factory.
     static Designer::ConfigurationContainer *loadModels(const Call &call);
+    //! What to say of a device model that is not among them.
+    static QString unknownModel(const QString &name, const Designer::ConfigurationContainer &models);
 };
 
 } // namespace Halvane::Corvex::Tool

@@ -18,8 +18,12 @@ JsonWriter::JsonWriter(Terminal &terminal)
     : m_terminal(terminal)
 { }
 
-JsonWriter::~JsonWriter()
+void JsonWriter::finish()
 {
+    if (m_hasEntries.isEmpty()) {
+        beginObject();
+    }
+    close('}');
     m_text.append('\n');
     flush(0);
 }
@@ -92,12 +96,23 @@ void JsonWriter::member(QLatin1StringView memberName, const QStringList &texts)
 
 void JsonWriter::begin(char bracket)
 {
+    if (std::exchange(m_isTopEnded, false)) {
+        return;
+    }
     startValue();
     m_text.append(bracket);
     m_hasEntries.append(false);
 }
 
 void JsonWriter::end(char bracket)
+{
+    m_isTopEnded = m_hasEntries.size() == 1;
+    if (!m_isTopEnded) {
+        close(bracket);
+    }
+}
+
+void JsonWriter::close(char bracket)
 {
     if (m_hasEntries.takeLast()) {
         startLine();

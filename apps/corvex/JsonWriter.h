@@ -11,15 +11,19 @@ namespace Halvane::Corvex::Tool {
 
 class Terminal;
 
-/*! Writes one JSON value as the result, members in the order in which they come, without building it in
-    memory. Calls are balanced and members stand in objects only; that is up to the caller. */
+/*! Writes one JSON object as the result, members in the order in which they come, without building it in
+    memory. Calls are balanced and members are in objects only; that is up to the caller.
+
+    Objects at the top are parts of one: members of the second follow those of the first. finish() closes
+    it. */
 class JsonWriter
 {
 public:
     explicit JsonWriter(Terminal &terminal);
-    //! Ends the value's last line.
-    ~JsonWriter();
     Q_DISABLE_COPY_MOVE(JsonWriter)
+
+    //! Closes the object at the top and its line.
+    void finish();
 
     void beginObject() { begin('{'); }
     void endObject() { end('}'); }
@@ -49,6 +53,7 @@ public:
 private:
     void begin(char bracket);
     void end(char bracket);
+    void close(char bracket);
     void startValue();
     void startLine();
     template<class Real>
@@ -58,8 +63,9 @@ private:
 
     Terminal &m_terminal;
     QByteArray m_text;
-    QList<bool> m_hasEntries; //!< for each open bracket
-    bool m_isNamed = false;   //!< a member's name stands before what comes next
+    QList<bool> m_hasEntries;  //!< for each open bracket
+    bool m_isTopEnded = false; //!< the object at the top may go on or be closed
+    bool m_isNamed = false;    //!< the name of a member was written, its value comes next
 };
 
 } // namespace Halvane::Corvex::Tool

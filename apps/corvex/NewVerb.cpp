@@ -7,7 +7,6 @@
 #include "corvex/values/ObjectLinkInfo.h"
 
 #include "Call.h"
-#include "Help.h"
 #include "Installation.h"
 #include "JsonWriter.h"
 #include "ProjectFile.h"
@@ -35,7 +34,9 @@ ExitCode listModels(const ConfigurationContainer &models, const Call &call)
         }
         return ExitCode::Done;
     }
-    JsonWriter json(call.terminal());
+    JsonWriter &json = call.json();
+    json.beginObject();
+    json.name("models"_L1);
     json.beginArray();
     for (const Configuration *model : models.configurations()) {
         json.beginObject();
@@ -45,22 +46,8 @@ ExitCode listModels(const ConfigurationContainer &models, const Call &call)
         json.endObject();
     }
     json.endArray();
+    json.endObject();
     return ExitCode::Done;
-}
-
-ExitCode unknownModel(const QString &name, const ConfigurationContainer &models, const Call &call)
-{
-    QStringList names;
-    for (const Configuration *model : models.configurations()) {
-        names.append(model->getIdName());
-    }
-    const QString nearest = Help::nearest(name, names);
-    return call.failed(
-        nearest.isEmpty()
-            ? u"There is no device model \"%1\". \"corvex new --list-models\" lists them."_s.arg(name)
-            : u"There is no device model \"%1\"; did you mean \"%2\"? \"corvex new --list-models\" lists them."_s
-                  .arg(name, nearest),
-        ExitCode::Usage);
 }
 
 //! The configuration, one screen, and the screen as the one that comes first.
@@ -105,7 +92,7 @@ ExitCode create(const QString &path, const Configuration &model, const Call &cal
         call.terminal().print(file);
         return ExitCode::Done;
     }
-    JsonWriter json(call.terminal());
+    JsonWriter &json = call.json();
     json.beginObject();
     json.member("file"_L1, file);
     json.member("model"_L1, model.getIdName());
@@ -139,7 +126,8 @@ ExitCode run(const Call &call)
     }
     const QString name = call.value(u"model"_s);
     const Configuration *model = models->configuration(name);
-    return model ? create(path, *model, call) : unknownModel(name, *models, call);
+    return model ? create(path, *model, call)
+                 : call.failed(Installation::unknownModel(name, *models), ExitCode::Usage);
 }
 
 QList<QCommandLineOption> options()

@@ -4,6 +4,7 @@
 #include "corvex/preview/Bounds.h"
 
 #include "Call.h"
+#include "Terminal.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -18,11 +19,16 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
 
+static QStringList linesOf(const QByteArray &text)
+{
+    return QString::fromUtf8(text).split(u'\n', Qt::SkipEmptyParts);
+}
+
 PreviewProgram::PreviewProgram(const Call &call, const QString &temporary)
     : m_call(call)
     , m_temporary(temporary)
 {
-    m_process.setProcessChannelMode(QProcess::ForwardedChannels);
+    m_process.setProcessChannelMode(call.asJson() ? QProcess::SeparateChannels : QProcess::ForwardedChannels);
     m_process.setInputChannelMode(QProcess::ForwardedInputChannel);
 #ifdef Q_OS_LINUX
     // A window without the tool that it belongs to would stay for good.
@@ -44,8 +50,14 @@ bool PreviewProgram::start(const QStringList &arguments)
     return false;
 }
 
-ExitCode PreviewProgram::exitCode() const
+ExitCode PreviewProgram::finish()
 {
+    for (const QString &line : linesOf(m_process.readAllStandardOutput())) {
+        m_call.terminal().print(line);
+    }
+    for (const QString &line : linesOf(m_process.readAllStandardError())) {
+        m_call.terminal().printError(line);
+    }
     const bool isOurs = m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() >= 0
                         && m_process.exitCode() <= int(ExitCode::File);
     return isOurs ? ExitCode(m_process.exitCode()) : m_call.failed(reasonOfEnd());

@@ -19,12 +19,12 @@ public:
     //! The program keeps its own files in the folder \a temporary.
     PreviewProgram(const Call &call, const QString &temporary);
 
-    //! False, once the user has been told, when it does not start. What it writes goes where the caller's
-    //! does.
+    //! False, with a message, when it does not start. What it writes goes where the caller's does; with JSON
+    //! it becomes part of the result.
     bool start(const QStringList &arguments);
     QProcess &process() { return m_process; }
-    //! Of the program when it has ended.
-    ExitCode exitCode() const;
+    //! Of the program when it has ended. Its messages, and what nobody has read of its output, are passed on.
+    ExitCode finish();
 
 private:
     QString reasonOfEnd() const;

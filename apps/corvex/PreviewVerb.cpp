@@ -97,7 +97,7 @@ ExitCode run(const Call &call)
     } else {
         follow(call, folder, program);
     }
-    return program.exitCode();
+    return program.finish();
 }
 
 QList<QCommandLineOption> options()

@@ -27,14 +27,16 @@ namespace {
 bool isAccepted(const QList<Problem> &problems, const ProjectFile &file, const Call &call,
                 ProjectBuild::WithProblems withProblems)
 {
-    for (const Problem &problem : problems) {
-        call.terminal().printError(ProblemReport::line(problem));
+    const bool isRefused = hasErrors(problems) && withProblems == ProjectBuild::WithProblems::Refuse;
+    if (isRefused && call.asJson()) {
+        ProblemReport::printJson({{file.path(), problems}}, call.terminal());
+    } else {
+        for (const Problem &problem : problems) {
+            call.terminal().printError(ProblemReport::line(problem));
+        }
     }
-    if (!hasErrors(problems) || withProblems == ProjectBuild::WithProblems::Build) {
+    if (!isRefused) {
         return true;
-    }
-    if (call.asJson()) {
-        ProblemReport::printJson(problems, call.terminal());
     }
     call.failed(u"\"%1\" has problems (%2) and is not built. Mend them, or build it all the same with "
                 "--force."_s.arg(file.path(), QString::number(problems.size())));

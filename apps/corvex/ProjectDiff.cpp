@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ProjectDiff.h"
 
+#include "corvex/common/FileHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ItemList.h"
+#include "corvex/project/ImageResource.h"
 #include "corvex/project/Screen.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -128,6 +132,10 @@ void ProjectDiff::add(Kind kind, const DesignerObject &object, const QString &be
 
 void ProjectDiff::compareObjects(const DesignerObject &before, const DesignerObject &after)
 {
+    const auto *image = kindCast<ImageResource>(&before);
+    if (const auto *other = image ? kindCast<ImageResource>(&after) : nullptr) {
+        compareContents(*image, *other);
+    }
     for (const SharedProperty &property : before.properties()) {
         const SharedProperty other = after.getProperty(property->id());
         if (!other) {
@@ -142,6 +150,22 @@ void ProjectDiff::compareObjects(const DesignerObject &before, const DesignerObj
             m_differences.append({Changed, pathOf(*property), before.className(), property->valueString(),
                                   other->valueString()});
         }
+    }
+}
+
+//! A file that is missing on one side has been no part of what is compared, as in a version of the past.
+void ProjectDiff::compareContents(const ImageResource &before, const ImageResource &after)
+{
+    const auto describe = [](const ImageResource &image) {
+        const QString digest = Common::FileHelper::md5(image.filePath());
+        return digest.isEmpty()
+                   ? QString()
+                   : u"%1 bytes, MD5 %2"_s.arg(QString::number(QFileInfo(image.filePath()).size()), digest);
+    };
+    const QString oldText = describe(before);
+    const QString newText = describe(after);
+    if (!oldText.isEmpty() && !newText.isEmpty() && oldText != newText) {
+        m_differences.append({Changed, pathOf(*before.imageFile()), before.className(), oldText, newText});
     }
 }
 

@@ -8,6 +8,7 @@
 namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class DesignerProperty;
+class ImageResource;
 } // namespace Halvane::Corvex::Designer
 
 namespace Halvane::Corvex::Tool {
@@ -52,6 +53,7 @@ private:
     void compareObjects(const Designer::DesignerObject &before, const Designer::DesignerObject &after);
     //! The objects of an object property, either of which may be null.
     void compareChildren(const Designer::DesignerObject *before, const Designer::DesignerObject *after);
+    void compareContents(const Designer::ImageResource &before, const Designer::ImageResource &after);
     void compareLists(const Designer::DesignerProperty &before, const Designer::DesignerProperty &after);
     void compareKept(const Designer::DesignerProperty &before, const Designer::DesignerProperty &after);
     void compareOrder(const QList<const Designer::DesignerObject *> &before,

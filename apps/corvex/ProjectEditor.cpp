@@ -22,6 +22,7 @@
 #include "corvex/editing/commands/SwapItems.h"
 #include "corvex/editing/commands/UngroupCommand.h"
 #include "corvex/editing/undo/UndoStack.h"
+#include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/hardware/HardwareConfigurations.h"
 #include "corvex/project/FilterElement.h"
 #include "corvex/project/ImageResource.h"
@@ -31,10 +32,11 @@
 #include "corvex/variables/ProjectVariable.h"
 
 #include "EditLine.h"
-#include "Help.h"
+#include "Explanation.h"
 #include "Installation.h"
 #include "LineCommand.h"
 #include "ProjectPath.h"
+#include "Suggestion.h"
 
 #include <QFileInfo>
 
@@ -82,59 +84,84 @@ struct ProjectEditor::Entry
     const char *usage;
     int fewest; //!< words behind the name
     int most;   //!< -1 for any number
+    int made;   //!< the word that names what the edit makes; -1 without one
     bool (ProjectEditor::*run)(const Words &words);
 };
 
 const QList<ProjectEditor::Entry> &ProjectEditor::entries()
 {
     static const QList<Entry> table{
-        {"set", "set PATH VALUE", 1, -1, &ProjectEditor::set},
-        {"add", "add CLASS TO [NAME]", 2, 3, &ProjectEditor::add},
-        {"delete", "delete PATH...", 1, -1, &ProjectEditor::remove},
-        {"rename", "rename PATH NAME", 2, 2, &ProjectEditor::rename},
-        {"group", "group NAME PATH...", 3, -1, &ProjectEditor::group},
-        {"ungroup", "ungroup PATH", 1, 1, &ProjectEditor::ungroup},
-        {"split", "split PATH MEMBER...", 2, -1, &ProjectEditor::splitGroup},
-        {"swap", "swap PATH PATH", 2, 2, &ProjectEditor::swap},
-        {"move", "move PATH TO", 2, 2, &ProjectEditor::move},
-        {"add-image", "add-image FILE...", 1, -1, &ProjectEditor::addImages},
-        {"replace-image", "replace-image PATH FILE [NAME]", 2, 3, &ProjectEditor::replaceImage},
-        {"model", "model NAME", 1, -1, &ProjectEditor::model},
-        {"filter", "filter NAME PATH...", 2, -1, &ProjectEditor::filter},
-        {"undo", "undo [N]", 0, 1, &ProjectEditor::undo},
-        {"redo", "redo [N]", 0, 1, &ProjectEditor::redo},
-        {"print", "print PATH", 1, 1, &ProjectEditor::print},
+        {"set", "set PATH VALUE", 1, -1, -1, &ProjectEditor::set},
+        {"add", "add CLASS TO [NAME]", 2, 3, 2, &ProjectEditor::add},
+        {"delete", "delete PATH...", 1, -1, -1, &ProjectEditor::remove},
+        {"rename", "rename PATH NAME", 2, 2, 1, &ProjectEditor::rename},
+        {"group", "group NAME PATH...", 3, -1, 0, &ProjectEditor::group},
+        {"ungroup", "ungroup PATH", 1, 1, -1, &ProjectEditor::ungroup},
+        {"split", "split PATH MEMBER...", 2, -1, -1, &ProjectEditor::splitGroup},
+        {"swap", "swap PATH PATH", 2, 2, -1, &ProjectEditor::swap},
+        {"move", "move PATH TO", 2, 2, -1, &ProjectEditor::move},
+        {"add-image", "add-image FILE...", 1, -1, 0, &ProjectEditor::addImages},
+        {"replace-image", "replace-image PATH FILE [NAME]", 2, 3, 2, &ProjectEditor::replaceImage},
+        {"model", "model NAME", 1, -1, -1, &ProjectEditor::model},
+        {"filter", "filter NAME PATH...", 2, -1, 0, &ProjectEditor::filter},
+        {"undo", "undo [N]", 0, 1, -1, &ProjectEditor::undo},
+        {"redo", "redo [N]", 0, 1, -1, &ProjectEditor::redo},
+        {"print", "print PATH", 1, 1, -1, &ProjectEditor::print},
     };
     return table;
 }
 
-bool ProjectEditor::run(const QString &line, QString &error)
+ProjectEditor::Result ProjectEditor::run(const QString &line, QString &error)
 {
     const QString trimmed = line.trimmed();
     if (trimmed.isEmpty() || trimmed.startsWith(u'#')) {
-        return true;
+        return Result::Done;
     }
     m_error.clear();
     EditLine taken;
     if (!taken.read(trimmed, error)) {
-        return false;
+        return judgeFailure(nullptr, {});
     }
     m_rest = taken.rest;
     Words &words = taken.words;
-    const auto entry = std::ranges::find_if(
-        entries(), [&](const Entry &known) { return words.first() == QLatin1StringView(known.name); });
+    const QString name = words.takeFirst();
+    const auto entry =
+        std::ranges::find(entries(), name, [](const Entry &known) { return QLatin1StringView(known.name); });
     if (entry == entries().cend()) {
-        error = u"There is no edit \"%1\". \"corvex help edit\" lists them."_s.arg(words.first());
-        return false;
+        QStringList names;
+        for (const Entry &known : entries()) {
+            names.append(QString::fromLatin1(known.name));
+        }
+        error = Suggestion::unknown(u"edit"_s, name, names, u"\"corvex help edit\" lists them."_s);
+        return judgeFailure(nullptr, {});
     }
-    words.removeFirst();
     if (words.size() < entry->fewest || (entry->most >= 0 && words.size() > entry->most)) {
         error = u"The form of this edit is: %1"_s.arg(QLatin1StringView(entry->usage));
-        return false;
+        return judgeFailure(&*entry, words);
     }
-    const bool isDone = (this->*entry->run)(words);
+    const bool isStep = entry->run == &ProjectEditor::undo || entry->run == &ProjectEditor::redo;
+    m_isLost = m_isLost || (m_hasFailed && isStep);
+    if (!m_isLost && (this->*entry->run)(words)) {
+        return Result::Done;
+    }
     error = m_error;
-    return isDone;
+    return judgeFailure(&*entry, words);
+}
+
+//! Whether a line that cannot be done is wrong itself; notes what others will miss for it.
+ProjectEditor::Result ProjectEditor::judgeFailure(const Entry *entry, const Words &words)
+{
+    const bool follows = m_isLost || std::ranges::any_of(words, [this](const QString &word) {
+                             return std::ranges::any_of(word.split(u'.'), [this](const QString &name) {
+                                 return m_unmade.contains(name);
+                             });
+                         });
+    const QString name = entry && entry->made >= 0 ? words.value(entry->made) : QString();
+    if (!name.isEmpty() && !ProjectPath::isName(m_project, name)) {
+        m_unmade.insert(name);
+    }
+    m_hasFailed = true;
+    return follows ? Result::Follows : Result::Failed;
 }
 
 bool ProjectEditor::fail(const QString &reason)
@@ -176,7 +203,7 @@ bool ProjectEditor::push(ModelCommand *command, const DesignerObject *made)
     if (!push(command) || made->idProperty()->isValid()) {
         return m_error.isEmpty();
     }
-    fail(made->idProperty()->errorString());
+    fail(Explanation::ofName(*made, made->getIdName(), made->idProperty()->errorString()));
     m_project.undoStack()->undo();
     m_edits.removeLast();
     return false;
@@ -188,16 +215,11 @@ void ProjectEditor::undoAll()
     m_project.createUndoStack();
 }
 
-bool ProjectEditor::failToFind(const QString &what, const QString &path)
-{
-    return fail(u"There is no %1 \"%2\". %3"_s.arg(what, path, ProjectPath::hint(&m_project, path)));
-}
-
 DesignerObject *ProjectEditor::object(const QString &path)
 {
     const ProjectPlace place = ProjectPath::find(&m_project, path);
     if (!place.object || place.property) {
-        failToFind(u"object"_s, path);
+        fail(ProjectPath::problem(&m_project, path, ProjectPath::Object));
         return nullptr;
     }
     return place.object;
@@ -218,7 +240,9 @@ bool ProjectEditor::objects(const Words &paths, QList<DesignerObject *> &found)
 SharedProperty ProjectEditor::listFor(const QString &path, const DesignerObject &item)
 {
     SharedProperty list = ProjectPath::listFor(&m_project, path, item);
-    if (!list) {
+    if (!list && !ProjectPath::find(&m_project, path).object) {
+        fail(ProjectPath::problem(&m_project, path, ProjectPath::Anything));
+    } else if (!list) {
         fail(u"\"%1\" has no list for an object of the class %2."_s.arg(path, item.className()));
     }
     return list;
@@ -228,7 +252,7 @@ bool ProjectEditor::set(const Words &words)
 {
     const ProjectPlace place = ProjectPath::find(&m_project, words.first());
     if (!place.property) {
-        return failToFind(u"property"_s, words.first());
+        return fail(ProjectPath::problem(&m_project, words.first(), ProjectPath::Property));
     }
     if (place.property->isList() || place.property->isObject()) {
         return fail(u"\"%1\" holds objects. Use add, delete and move."_s.arg(words.first()));
@@ -253,9 +277,9 @@ bool ProjectEditor::add(const Words &words)
 {
     const std::unique_ptr<DesignerObject> sample(make(words.first(), {}));
     if (!sample) {
-        const QString nearest = Help::nearest(words.first(), DesignerFactory::instance()->creatableNames());
-        return fail(u"There is no class \"%1\"%2 \"corvex help\" tells how plug-ins are found."_s.arg(
-            words.first(), nearest.isEmpty() ? u"."_s : u"; did you mean \"%1\"?"_s.arg(nearest)));
+        return fail(Suggestion::unknown(u"class"_s, words.first(),
+                                        DesignerFactory::instance()->creatableNames(),
+                                        u"Classes of other plug-ins are there with --plugins DIR."_s));
     }
     if (kindCast<ImageResource>(sample.get())) {
         return fail(u"Images are added by add-image, which takes their files along."_s);
@@ -270,6 +294,10 @@ bool ProjectEditor::add(const Words &words)
     }
     if (name.isEmpty()) {
         return push(new AddObject(list, words.first(), name, false));
+    }
+    if (list->hasListItem(name)) {
+        sample->setIdName(name);
+        return fail(Explanation::ofItem(*sample, list, u"This cannot be added."_s));
     }
     DesignerObject *item = make(words.first(), name);
     if (list == m_project.screens()) {
@@ -326,22 +354,32 @@ bool ProjectEditor::rename(const Words &words)
     if (item->getIdName() == name) {
         return true;
     }
-    if (item == &m_project) {
+    return rename(*item, name) || fail(Explanation::ofName(*item, name, m_error));
+}
+
+bool ProjectEditor::rename(DesignerObject &item, const QString &name)
+{
+    if (&item == &m_project) {
         return push(new RenameProject(&m_project, name));
     }
-    if (kindCast<Screen>(item)) {
-        return push(new RenameScreen(item, name));
+    if (kindCast<ImageResource>(&item)) {
+        return push(new RenameImage(&item, name));
     }
-    if (kindCast<ProjectVariable>(item)) {
-        return push(new RenameVariable(item, name));
+    const bool isScreen = kindCast<Screen>(&item);
+    const bool isVariable = kindCast<ProjectVariable>(&item);
+    if (!isScreen && !isVariable && !kindCast<Element>(&item)) {
+        return fail(u"\"%1\" cannot be renamed."_s.arg(item.objectPath()));
     }
-    if (kindCast<ImageResource>(item)) {
-        return push(new RenameImage(item, name));
+    if (const QString reason = PropertyValidators::nameError(&item, name); !reason.isEmpty()) {
+        return fail(reason);
     }
-    if (!kindCast<Element>(item)) {
-        return fail(u"\"%1\" cannot be renamed."_s.arg(item->objectPath()));
+    if (isScreen) {
+        return push(new RenameScreen(&item, name));
     }
-    return push(new ChangeProperty(item->idProperty(), withName(item, name), false));
+    if (isVariable) {
+        return push(new RenameVariable(&item, name));
+    }
+    return push(new ChangeProperty(item.idProperty(), withName(&item, name), false));
 }
 
 bool ProjectEditor::group(const Words &words)
@@ -349,6 +387,16 @@ bool ProjectEditor::group(const Words &words)
     QList<DesignerObject *> members;
     if (!objects(words.sliced(1), members)) {
         return false;
+    }
+    for (const DesignerObject *member : std::as_const(members)) {
+        if (!kindCast<Element>(member)) {
+            return fail(
+                u"\"%1\" is a %2. A group takes elements."_s.arg(member->objectPath(), member->className()));
+        }
+        if (member->listProperty() != members.constFirst()->listProperty()) {
+            return fail(u"\"%1\" and \"%2\" are not in the same place. A group takes elements of one screen, "
+                        "or of one group."_s.arg(members.constFirst()->objectPath(), member->objectPath()));
+        }
     }
     DesignerObject *made = make(u"GroupElement"_s, words.first());
     return push(new GroupCommand(made, members), made);
@@ -377,7 +425,11 @@ bool ProjectEditor::move(const Words &words)
 {
     DesignerObject *item = object(words.first());
     const SharedProperty list = item ? listFor(words.at(1), *item) : SharedProperty();
-    return list && push(new MoveObject(item->listProperty(), list, item, false));
+    if (!list) {
+        return false;
+    }
+    return push(new MoveObject(item->listProperty(), list, item, false))
+           || fail(Explanation::ofItem(*item, list, m_error));
 }
 
 bool ProjectEditor::addImages(const Words &words)
@@ -386,8 +438,8 @@ bool ProjectEditor::addImages(const Words &words)
     auto all = std::make_unique<LineCommand>();
     for (const QString &file : words) {
         const QFileInfo info(file);
-        if (!Common::FileHelper::isValidImage(file)) {
-            return fail(u"\"%1\" is no image, or not one of the kind that its extension tells."_s.arg(file));
+        if (const QString reason = Explanation::ofImageFile(file); !reason.isEmpty()) {
+            return fail(reason);
         }
         const QString digest = Common::FileHelper::md5(file);
         if (const QString known = names.withContents(digest, info.suffix().toLower()); !known.isEmpty()) {
@@ -415,6 +467,9 @@ bool ProjectEditor::replaceImage(const Words &words)
     if (!item) {
         return false;
     }
+    if (const QString reason = Explanation::ofImageFile(words.at(1)); !reason.isEmpty()) {
+        return fail(reason);
+    }
     const QString name = words.size() > 2 ? words.at(2) : item->getIdName();
     return push(new ReplaceImage(item, QFileInfo(words.at(1)).absoluteFilePath(), name));
 }
@@ -424,7 +479,12 @@ bool ProjectEditor::model(const Words &words)
     if (!HardwareConfigurations::instance() && !Installation::loadModels(m_call)) {
         return fail(u"No device model can be read."_s);
     }
-    auto *command = new ChangeConfiguration(&m_project, words.join(u' '));
+    const ConfigurationContainer &models = *HardwareConfigurations::instance()->installed();
+    const QString name = words.join(u' ');
+    if (!models.configuration(name)) {
+        return fail(Installation::unknownModel(name, models));
+    }
+    auto *command = new ChangeConfiguration(&m_project, name);
     const QList<ChangeConfiguration::Move> moves = command->moves();
     if (!push(command)) {
         return false;
@@ -491,7 +551,7 @@ bool ProjectEditor::print(const Words &words)
 {
     const ProjectPlace place = ProjectPath::find(&m_project, words.first());
     if (!place.object) {
-        return failToFind(u"object or property"_s, words.first());
+        return fail(ProjectPath::problem(&m_project, words.first(), ProjectPath::Anything));
     }
     if (!place.property) {
         m_output.append(u"%1 %2"_s.arg(place.object->className(), place.object->getIdName()));

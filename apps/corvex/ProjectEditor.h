@@ -3,6 +3,7 @@
 
 #include "corvex/core/DesignerProperty.h"
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -46,9 +47,14 @@ public:
         , m_call(call)
     { }
 
-    //! False, with the reason for the user, when the line cannot be done; the project is as before then. An
+    enum class Result {
+        Done,
+        Failed,
+        Follows, //!< it cannot be done, since an earlier line failed
+    };
+    //! When the line cannot be done the project is as before, and \a error has the reason for the user. An
     //! empty line and one that starts with "#" do nothing.
-    bool run(const QString &line, QString &error);
+    Result run(const QString &line, QString &error);
     const QList<Edit> &edits() const { return m_edits; }
     //! What "print" lines have shown since the last call.
     QStringList takeOutput() { return std::exchange(m_output, {}); }
@@ -60,11 +66,11 @@ private:
     struct Entry;
     static const QList<Entry> &entries();
 
+    Result judgeFailure(const Entry *entry, const Words &words);
     bool push(Designer::ModelCommand *command);
     //! For a command that brings \a made into the model, which is refused when its name is not valid there.
     bool push(Designer::ModelCommand *command, const Designer::DesignerObject *made);
     bool fail(const QString &reason);
-    bool failToFind(const QString &what, const QString &path);
     Designer::DesignerObject *object(const QString &path);
     bool objects(const Words &paths, QList<Designer::DesignerObject *> &found);
     Designer::SharedProperty listFor(const QString &path, const Designer::DesignerObject &item);
@@ -73,6 +79,7 @@ private:
     bool add(const Words &words);
     bool remove(const Words &words);
     bool rename(const Words &words);
+    bool rename(Designer::DesignerObject &item, const QString &name);
     bool group(const Words &words);
     bool ungroup(const Words &words);
     bool splitGroup(const Words &words);
@@ -92,7 +99,10 @@ private:
     QList<Edit> m_edits;
     QStringList m_output;
     QString m_error;
-    QString m_rest; //!< of the line behind its second word, as it stands
+    bool m_hasFailed = false;
+    bool m_isLost = false;  //!< where the history would be now depends on lines that failed
+    QSet<QString> m_unmade; //!< names that failed lines would have given
+    QString m_rest;         //!< of the line behind its second word, as it stands
 };
 
 } // namespace Halvane::Corvex::Tool

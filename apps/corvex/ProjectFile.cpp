@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ProjectFile.h"
 
+#include "corvex/common/FileHelper.h"
+#include "corvex/common/TemporaryFolder.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/ObjectXmlWriter.h"
 #include "corvex/project/Project.h"
 
 #include "Call.h"
+#include "InputFile.h"
 #include "Installation.h"
 #include "Terminal.h"
 
@@ -87,10 +90,37 @@ std::unique_ptr<Project> ProjectFile::create()
     return std::unique_ptr<Project>(static_cast<Project *>(object));
 }
 
+bool ProjectFile::takeStandardInput(QString &file, Use use, const Call &call)
+{
+    if (use == Use::Change) {
+        call.failed(u"A project from standard input has no file to be saved to. Name its file."_s);
+        return false;
+    }
+    constexpr qint64 largest = 1024 * 1024 * 1024;
+    InputFile input(m_path, largest);
+    QByteArray bytes;
+    if (!input.open() || !input.readAll(bytes)) {
+        call.failed(input.errorString());
+        return false;
+    }
+    m_input = std::make_unique<Common::TemporaryFolder>(u"corvex-input"_s);
+    file = m_input->filePath(u"input.kdproj"_s);
+    QString error;
+    if (!Common::FileHelper::writeFile(file, bytes, &error)) {
+        call.failed(error);
+        return false;
+    }
+    return true;
+}
+
 bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
 {
     m_path = call.argument(argument);
     if (Installation::loadFactory(call) != ExitCode::Done) {
+        return false;
+    }
+    QString file = m_path;
+    if (m_path == "-"_L1 && !takeStandardInput(file, use, call)) {
         return false;
     }
     m_project = create();
@@ -98,7 +128,7 @@ bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
     using Kind = Common::FolderLock::Kind;
     const bool isLocked =
         m_project
-        && m_project->lockFiles(m_path, use == Use::Change ? Kind::Exclusive : Kind::Shared, longestWait);
+        && m_project->lockFiles(file, use == Use::Change ? Kind::Exclusive : Kind::Shared, longestWait);
     if (isLocked && !m_project->recoveryNote().isEmpty()) {
         call.terminal().printError(Terminal::oneLine(u"%1: %2"_s.arg(m_path, m_project->recoveryNote())));
     }
@@ -108,13 +138,14 @@ bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
     }
     call.terminal().showProgress(u"reading %1"_s.arg(m_path));
     if (use == Use::Change) {
-        m_stamp = Common::FileStamp::of(m_path);
+        m_stamp = Common::FileStamp::of(file);
     }
-    if (m_project && m_project->loadFile(m_path)) {
+    if (m_project && m_project->loadFile(file)) {
         return true;
     }
-    const QString error = m_project ? m_project->fileError() : u"No project can be made."_s;
-    call.failed(u"%1 %2"_s.arg(sentence(error), advice(m_path)));
+    QString error = m_project ? m_project->fileError() : u"No project can be made."_s;
+    error.replace(file, m_path);
+    call.failed(u"%1 %2"_s.arg(sentence(error), advice(file)));
     return false;
 }
 

@@ -12,6 +12,10 @@
 
 #include <memory>
 
+namespace Halvane::Corvex::Common {
+class TemporaryFolder;
+}
+
 namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class Project;
@@ -40,7 +44,7 @@ public:
     static std::unique_ptr<Designer::Project> create();
 
     Designer::Project &project() const { return *m_project; }
-    //! As the user wrote it.
+    //! As the user wrote it; "-" for standard input, whose project can be looked at and not be saved.
     const QString &path() const { return m_path; }
 
     //! False, once the user has been told, when some program has written the file since it was opened for a
@@ -61,8 +65,11 @@ public:
     QList<Kept> kept() const;
 
 private:
+    bool takeStandardInput(QString &file, Use use, const Call &call);
+
     QString m_path;
-    Common::FileStamp m_stamp; //!< of the file as it was opened
+    Common::FileStamp m_stamp;                        //!< of the file as it was opened
+    std::unique_ptr<Common::TemporaryFolder> m_input; //!< with what came from standard input
     std::unique_ptr<Designer::Project> m_project;
 };
 

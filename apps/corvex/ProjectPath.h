@@ -36,11 +36,16 @@ public:
         closely; null without one. */
     static Designer::SharedProperty listFor(Designer::DesignerObject *project, const QString &path,
                                             const Designer::DesignerObject &item);
-    /*! What to do about a path that nothing is found by, for the end of a message: the path that may be
-       meant, or how to see those that there are. */
-    static QString hint(Designer::DesignerObject *project, const QString &path);
+    //! Whether anything in the project has the name: a screen, a variable, an image or an element.
+    static bool isName(const Designer::DesignerObject &project, const QString &name);
+    enum Wanted { Object, Property, Anything };
+    //! What to say of a path that does not lead to what is wanted: what is there, or may be meant.
+    static QString problem(Designer::DesignerObject *project, const QString &path, Wanted wanted);
     //! Tells the user that there is nothing of that path.
-    static ExitCode notFound(const QString &path, const Call &call);
+    static ExitCode notFound(Designer::DesignerObject &project, const QString &path, const Call &call);
+
+private:
+    static QString hint(Designer::DesignerObject *project, const QString &path);
 };
 
 } // namespace Halvane::Corvex::Tool

@@ -26,13 +26,13 @@ QString quoted(QString word)
 ExitCode run(const Call &call, const ProjectFile &file)
 {
     if (!ProjectPath::find(&file.project(), call.argument(1)).object) {
-        return ProjectPath::notFound(call.argument(1), call);
+        return ProjectPath::notFound(file.project(), call.argument(1), call);
     }
     const Interruption interruption;
     ProjectEditor editor(file.project(), call);
     QString error;
     const QString line = u"rename %1 %2"_s.arg(quoted(call.argument(1)), quoted(call.argument(2)));
-    if (!editor.run(line, error)) {
+    if (editor.run(line, error) != ProjectEditor::Result::Done) {
         return call.failed(error, ExitCode::Problems);
     }
     return EditReport::finish(editor, file, call);

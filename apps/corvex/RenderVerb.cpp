@@ -9,9 +9,10 @@
 #include "corvex/project/Screen.h"
 
 #include "Call.h"
-#include "Help.h"
 #include "JsonWriter.h"
 #include "ProjectFile.h"
+#include "ProjectPath.h"
+#include "Suggestion.h"
 #include "Terminal.h"
 #include "Verb.h"
 
@@ -27,20 +28,62 @@ using namespace Designer;
 
 namespace {
 
-ExitCode unknownName(const Call &call, const QString &what, const QString &name, const QStringList &names)
-{
-    const QString nearest = Help::nearest(name, names);
-    return call.failed(nearest.isEmpty()
-                           ? u"There is no %1 \"%2\"."_s.arg(what, name)
-                           : u"There is no %1 \"%2\"; did you mean \"%3\"?"_s.arg(what, name, nearest),
-                       ExitCode::Usage);
-}
-
 QString screenName(const Call &call, const Project &project)
 {
     return call.isSet(u"screen"_s)
                ? call.value(u"screen"_s)
                : static_cast<const LinkProperty &>(*project.defaultScreen()).value().objectId();
+}
+
+struct Subject
+{
+    Screen *screen = nullptr;
+    Element *element = nullptr; //!< that gets handles; null for none
+};
+
+//! The element of --handles, by its path or by its name on the screen of --screen.
+ExitCode findElement(Subject &subject, Project &project, const Call &call)
+{
+    const QString path = call.value(u"handles"_s);
+    Element *named = subject.screen ? subject.screen->getElement(path) : nullptr;
+    const ProjectPlace place = named ? ProjectPlace{named, {}} : ProjectPath::find(&project, path);
+    subject.element = place.property ? nullptr : kindCast<Element>(place.object);
+    if (!subject.element && place.object && !place.property) {
+        return call.misused(u"\"%1\" is a %2. Elements have handles."_s.arg(path, place.object->className()));
+    }
+    if (!subject.element) {
+        return call.failed(subject.screen && !path.contains(u'.') && !place.object
+                               ? Suggestion::unknown(
+                                   u"element"_s, path, subject.screen->getElementNames(),
+                                   u"\"corvex tree FILE %1\" shows them."_s.arg(subject.screen->getIdName()))
+                               : ProjectPath::problem(&project, path, ProjectPath::Object),
+                           ExitCode::Usage);
+    }
+    if (call.isSet(u"screen"_s) && subject.element->screen() != subject.screen) {
+        return call.misused(u"\"%1\" is on the screen \"%2\". Leave --screen out."_s.arg(
+            path, subject.element->screen()->getIdName()));
+    }
+    subject.screen = subject.element->screen();
+    return ExitCode::Done;
+}
+
+ExitCode find(Subject &subject, Project &project, const Call &call)
+{
+    const DesignerProperty &screens = *project.screens();
+    const QString name = screenName(call, project);
+    subject.screen = kindCast<Screen>(screens.getListItem(name));
+    if (!subject.screen && call.isSet(u"screen"_s)) {
+        return call.failed(Suggestion::unknown(u"screen"_s, name, screens.listItemNames()), ExitCode::Usage);
+    }
+    if (call.isSet(u"handles"_s)) {
+        return findElement(subject, project, call);
+    }
+    return subject.screen
+               ? ExitCode::Done
+               : call.failed(
+                   u"The project's default screen \"%1\" does not exist. Choose another with --screen."_s.arg(
+                       name),
+                   ExitCode::Problems);
 }
 
 bool save(const QImage &picture, const QString &path, QString &error)
@@ -57,7 +100,7 @@ void report(const QString &path, const Screen &screen, const QImage &picture, co
             path, QString::number(picture.width()), QString::number(picture.height()))));
         return;
     }
-    JsonWriter json(call.terminal());
+    JsonWriter &json = call.json();
     json.beginObject();
     json.member("file"_L1, path);
     json.member("screen"_L1, screen.getIdName());
@@ -77,26 +120,12 @@ ExitCode run(const Call &call, const ProjectFile &file)
     if (QFileInfo(path).canonicalFilePath() == QFileInfo(file.project().fullFilePath()).canonicalFilePath()) {
         return call.misused(u"\"%1\" is the project's own file. Choose another for the picture."_s.arg(path));
     }
-    const DesignerProperty &screens = *file.project().screens();
-    const QString name = screenName(call, file.project());
-    auto *screen = kindCast<Screen>(screens.getListItem(name));
-    if (!screen && !call.isSet(u"screen"_s)) {
-        return call.failed(
-            u"The project's default screen \"%1\" does not exist. Choose another with --screen."_s.arg(name),
-            ExitCode::Problems);
+    Subject subject;
+    if (const ExitCode code = find(subject, file.project(), call); code != ExitCode::Done) {
+        return code;
     }
-    if (!screen) {
-        return unknownName(call, u"screen"_s, name, screens.listItemNames());
-    }
-    Element *element = nullptr;
-    if (call.isSet(u"handles"_s)) {
-        const QString elementName = call.value(u"handles"_s);
-        element = screen->getElement(elementName);
-        if (!element) {
-            return unknownName(call, u"element"_s, elementName, screen->getElementNames());
-        }
-    }
-    call.terminal().showProgress(u"drawing %1"_s.arg(name));
+    const auto [screen, element] = subject;
+    call.terminal().showProgress(u"drawing %1"_s.arg(screen->getIdName()));
     CanvasScene scene(screen);
     scene.selectObjects({element});
     if (element && scene.selectedObjects().isEmpty()) {
@@ -107,7 +136,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     const QImage picture = scene.picture();
     if (picture.isNull()) {
         return call.failed(u"The screen \"%1\" has no area, or one too large for a picture. Mend the size in "
-                           "the project's configuration."_s.arg(name),
+                           "the project's configuration."_s.arg(screen->getIdName()),
                            ExitCode::Problems);
     }
     for (const DesignerObject *image : file.project().imageResources()->listItems()) {
@@ -131,7 +160,7 @@ QList<QCommandLineOption> options()
         QCommandLineOption({u"o"_s, u"output"_s}, u"The file for the picture."_s, u"PNG"_s),
         QCommandLineOption(u"screen"_s,
                            u"The screen to draw; the first that the device shows unless given."_s, u"NAME"_s),
-        QCommandLineOption(u"handles"_s, u"Draw the frame and the handles of an element too."_s, u"NAME"_s)};
+        QCommandLineOption(u"handles"_s, u"Draw the frame and the handles of an element too."_s, u"PATH"_s)};
 }
 
 } // namespace
@@ -144,7 +173,8 @@ const Verb renderVerb{
         [] {
             return uR"(Draws a screen of the project, with the values that it has in the design, into a picture in the
 format PNG that is as large as the screen. No display is needed. With --handles the picture also
-shows where the mouse would catch an element. An image whose file is missing, or is a drawing that
+shows where the mouse would catch an element, which has a path as in "corvex tree"; its name will
+do for one on the screen that is drawn. An image whose file is missing, or is a drawing that
 links to other files, is drawn as a crossed frame.)"_s;
         },
     .example = "corvex render examples/PumpStation/PumpStation.kdproj --screen Overview -o Overview.png",

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Terminal.h"
 
+#include "JsonWriter.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -19,9 +21,18 @@ Terminal::~Terminal()
     clearProgress();
 }
 
+void Terminal::useJson()
+{
+    m_json = std::make_unique<JsonWriter>(*this);
+}
+
 void Terminal::print(QStringView line)
 {
-    write(line.toUtf8().append('\n'));
+    if (m_json) {
+        m_output.append(line.toString());
+    } else {
+        write(line.toUtf8().append('\n'));
+    }
 }
 
 void Terminal::write(const QByteArray &utf8)
@@ -33,12 +44,35 @@ void Terminal::write(const QByteArray &utf8)
     }
 }
 
-void Terminal::complain(QStringView message)
+//! Messages quote what they are about, which may be as long as a file.
+static QString shortened(QStringView message)
 {
-    printError(u"corvex: %1"_s.arg(oneLine(message)));
+    constexpr qsizetype most = 2000;
+    constexpr qsizetype end = 500;
+    return message.size() <= most
+               ? message.toString()
+               : message.first(most - end).toString() + u" [...] "_s + message.last(end).toString();
 }
 
-void Terminal::printError(QStringView line)
+void Terminal::complain(QStringView text)
+{
+    const QString message = shortened(text);
+    if (m_json) {
+        m_errors.append(message);
+    }
+    writeError(u"corvex: %1"_s.arg(oneLine(message)));
+}
+
+void Terminal::printError(QStringView text)
+{
+    const QString line = shortened(text);
+    if (m_json) {
+        m_errors.append(line);
+    }
+    writeError(line);
+}
+
+void Terminal::writeError(QStringView line)
 {
     clearProgress();
     if (std::fflush(stdout) != 0 && m_error == 0) {
@@ -65,9 +99,24 @@ void Terminal::clearProgress()
     }
 }
 
+void Terminal::finishJson()
+{
+    m_json->beginObject();
+    if (!m_output.isEmpty()) {
+        m_json->member("output"_L1, m_output);
+    }
+    if (!m_errors.isEmpty()) {
+        m_json->member("errors"_L1, m_errors);
+    }
+    m_json->finish();
+}
+
 bool Terminal::finish()
 {
     clearProgress();
+    if (m_json) {
+        finishJson();
+    }
     if (std::fflush(stdout) != 0 && m_error == 0) {
         m_error = errno;
     }

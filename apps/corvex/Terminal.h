@@ -3,12 +3,20 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
+
+#include <memory>
 
 namespace Halvane::Corvex::Tool {
 
+class JsonWriter;
+
 /*! Where the program writes, in UTF-8 whatever the locale: results to standard output, everything else to
     standard error.
+
+    With useJson() standard output gets one JSON object, whatever happens: the members that the verb writes,
+    lines that it prints as "output", and all messages as "errors".
 
     A reader that closes the pipe early is no failure; what it did not want to read is dropped.
 */
@@ -19,20 +27,25 @@ public:
     ~Terminal();
     Q_DISABLE_COPY_MOVE(Terminal)
 
+    void useJson();
+    bool usesJson() const { return m_json != nullptr; }
+    //! The result of this run; only with useJson().
+    JsonWriter &json() { return *m_json; }
+
     //! A line of the result.
     void print(QStringView line);
     //! A part of the result as it stands.
     void write(const QByteArray &utf8);
     //! A message of the program: what is wrong, where, and what to do. It names files and objects, whose
     //! names may hold anything, and is kept on one line.
-    void complain(QStringView message);
-    //! A line to standard error as it stands.
-    void printError(QStringView line);
+    void complain(QStringView text);
+    //! A line to standard error as it is.
+    void printError(QStringView text);
     //! What the program is at, on the last line of a terminal; nothing elsewhere. The next message or result
     //! takes its place.
     void showProgress(QStringView activity);
 
-    //! Brings out all that is left. False, once the user has been told, when the result could not be written.
+    //! Writes all that is left. False, with a message, when the result could not be written.
     bool finish();
 
     //! The text on one line: line ends, tabs and other control characters in the manner of C ("\n").
@@ -40,7 +53,12 @@ public:
 
 private:
     void clearProgress();
+    void writeError(QStringView line);
+    void finishJson();
 
+    std::unique_ptr<JsonWriter> m_json;
+    QStringList m_output; //!< with JSON, as are the errors
+    QStringList m_errors;
     bool m_isInteractive;
     bool m_hasProgress = false;
     int m_error = 0; //!< errno of the first write that failed

@@ -139,7 +139,7 @@ private:
 void printObject(const DesignerObject &object, bool withValues, const Call &call)
 {
     if (call.asJson()) {
-        JsonWriter json(call.terminal());
+        JsonWriter &json = call.json();
         JsonPrinter printer(json);
         walk(object, printer);
         return;
@@ -154,11 +154,14 @@ void printObject(const DesignerObject &object, bool withValues, const Call &call
 void printList(const ItemList &list, const Call &call)
 {
     if (call.asJson()) {
-        JsonWriter json(call.terminal());
+        JsonWriter &json = call.json();
         JsonPrinter printer(json);
+        json.beginObject();
+        json.name("children"_L1);
         json.beginArray();
         walkItems(list, printer);
         json.endArray();
+        json.endObject();
         return;
     }
     TextPrinter printer(call.terminal());
@@ -171,7 +174,7 @@ void printValue(const DesignerProperty &property, const Call &call)
         call.terminal().print(property.valueString());
         return;
     }
-    JsonWriter json(call.terminal());
+    JsonWriter &json = call.json();
     json.beginObject();
     json.member("object"_L1, property.parentObject()->objectPath());
     json.member("property"_L1, property.id());
@@ -188,7 +191,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     }
     const auto [object, property] = ProjectPath::find(&file.project(), path);
     if (!object) {
-        return ProjectPath::notFound(path, call);
+        return ProjectPath::notFound(file.project(), path, call);
     }
     if (!property) {
         printObject(*object, true, call);

@@ -84,7 +84,7 @@ ExitCode printUses(const QList<Use> &uses, const Call &call)
         }
         return ExitCode::Done;
     }
-    JsonWriter json(call.terminal());
+    JsonWriter &json = call.json();
     json.beginObject();
     json.name("uses"_L1);
     json.beginArray();
@@ -107,7 +107,7 @@ ExitCode printUnused(const QStringList &paths, const Call &call)
         }
         return ExitCode::Done;
     }
-    JsonWriter json(call.terminal());
+    JsonWriter &json = call.json();
     json.beginObject();
     json.member("unused"_L1, paths);
     json.endObject();
@@ -126,7 +126,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     // A name without the way to it: of elements, and of what is no longer there.
     const QList<Use> uses = usesOf(ReferenceTarget(&file.project(), name));
     if (uses.isEmpty() && !hasElement(file.project(), name)) {
-        return ProjectPath::notFound(name, call);
+        return ProjectPath::notFound(file.project(), name, call);
     }
     return printUses(uses, call);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Call.h"
-#include "Help.h"
 #include "JsonWriter.h"
+#include "Suggestion.h"
 #include "Terminal.h"
 #include "ValueKinds.h"
 #include "Verb.h"
@@ -39,13 +39,12 @@ ExitCode run(const Call &call)
     const QString name = call.argument(0);
     const ValueKind *kind = findValueKind(name);
     if (!kind) {
-        return call.misused(
-            u"There is no kind of values \"%1\"; there are %2."_s.arg(name, kindNames().join(", "_L1)));
+        return call.misused(Suggestion::unknown(u"kind of values"_s, name, kindNames()));
     }
     const QString text = call.argument(1);
     const std::optional<QString> canonical = kind->canonical(text);
     if (call.asJson()) {
-        JsonWriter json(call.terminal());
+        JsonWriter &json = call.json();
         json.beginObject();
         json.member("kind"_L1, name);
         json.member("valid"_L1, canonical.has_value());

@@ -15,6 +15,8 @@ class Call;
 //! One thing that the program can do. Each verb has a source file of its own; Verbs.cpp lists them.
 struct Verb
 {
+    static constexpr int anyNumber = 1000000;
+
     const char *name;
     const char *arguments; //!< as the usage line shows them: "FILE [PATH]"
     const char *summary;   //!< a few words for the list of verbs

@@ -47,10 +47,14 @@ QVariant NumberVariable::typedValue(const QString &text)
     return ok ? number : QVariant();
 }
 
+bool NumberVariable::holdsNumber(const DesignerObject &variable)
+{
+    return variable.isKindOfClass(kindName()) || variable.isKindOfClass(LogVariable::kindName());
+}
+
 bool NumberVariable::lacksNumber(const ProjectVariable &variable)
 {
-    return (variable.isKindOfClass(kindName()) || variable.isKindOfClass(LogVariable::kindName()))
-           && !variable.toVariant().isValid();
+    return holdsNumber(variable) && !variable.toVariant().isValid();
 }
 
 bool NumberVariable::isWithinLimits(const QString &text, QString &error)

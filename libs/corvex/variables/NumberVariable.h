@@ -19,6 +19,8 @@ public:
     static VariableType typeOf(const QString &text);
     //! A float or an int of 32 bits; invalid when the text is no number.
     static QVariant typedValue(const QString &text);
+    //! Whether the value of the variable is a number; that of a log is, too.
+    static bool holdsNumber(const DesignerObject &variable);
     //! Whether a variable that is to hold a number, a log among them, has a text that is none: the model
     //! keeps it, and the device would start without a value.
     static bool lacksNumber(const ProjectVariable &variable);

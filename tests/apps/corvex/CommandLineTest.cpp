@@ -51,9 +51,9 @@ TEST(CommandLine, tellsItsVersionAndItsVerbs)
         EXPECT_EQ(corvex({verb, u"--help"_s}).out, page.out);
     }
     EXPECT_EQ(corvex({u"--help"_s}).out, list.out);
-    const QJsonArray pages = corvex({u"help"_s, u"--json"_s}).json().toArray();
+    const QJsonArray pages = corvex({u"help"_s, u"--json"_s}).json()[u"verbs"_s].toArray();
     EXPECT_EQ(pages.size(), verbs.size());
-    EXPECT_EQ(pages.at(7)[u"usage"_s].toString(), u"corvex check FILE"_s);
+    EXPECT_EQ(pages.at(7)[u"usage"_s].toString(), u"corvex check FILE..."_s);
 }
 
 TEST(CommandLine, refusesWrongUsage)
@@ -80,13 +80,13 @@ TEST(CommandLine, refusesWrongUsage)
          u"info\" "
          "tells more."_s},
         {{u"value"_s, u"number"_s, u"1"_s},
-         u"There is no kind of values \"number\"; there are bool, int, "_s},
+         u"There is no kind of values \"number\". There are bool, int, "_s},
         {{u"expr"_s, u"logic"_s, u"1"_s},
-         u"There is no kind of expressions \"logic\"; there are general, assign, bool, math, string. "
+         u"There is no kind of expressions \"logic\". There are general, assign, bool, math, string. "
          u"\"corvex "
          "help expr\" tells more."_s},
         {{u"expr"_s, u"bool"_s, u"0203t"_s, u"--output"_s, u"text"_s},
-         u"There is no type \"text\"; there are raw, string, boolean, integer, float, number, color. "
+         u"There is no type \"text\". There are raw, string, boolean, integer, float, number, color. "
          u"\"corvex "
          "help expr\" tells more."_s},
         {{u"expr"_s, u"bool"_s, u"0203t"_s, u"--output"_s}, u"Missing value after '--output'."_s},
@@ -106,6 +106,18 @@ TEST(CommandLine, looksAfterItsPipes)
     const ProgramRun full = shell(u"\"$CORVEX\" help >/dev/full"_s);
     EXPECT_EQ(full.code, 3);
     EXPECT_EQ(full.error, u"corvex: The result cannot be written: No space left on device.\n"_s);
+}
+
+TEST(CommandLine, readsProjectsFromStandardInput)
+{
+    const QString station = QStringLiteral(CORVEX_EXAMPLES "/PumpStation/PumpStation.kdproj");
+    EXPECT_EQ(shell(u"\"$CORVEX\" diff - '%1' <'%1'"_s.arg(station)).out, QString());
+    EXPECT_EQ(shell(u"\"$CORVEX\" tree - startLevel.value <'%1'"_s.arg(station)).out, u"70\n"_s);
+    const ProgramRun cut = shell(u"head -n 100 '%1' | \"$CORVEX\" info -"_s.arg(station));
+    EXPECT_TRUE(cut.error.startsWith(u"corvex: -:101:1: "_s)) << qPrintable(cut.error);
+    const ProgramRun renamed = shell(u"\"$CORVEX\" rename - startLevel beginLevel <'%1'"_s.arg(station));
+    EXPECT_EQ(renamed.code, 3);
+    EXPECT_TRUE(renamed.error.contains(u"Name its file."_s)) << qPrintable(renamed.error);
 }
 
 TEST(CommandLine, writesUtf8WhateverTheLocale)

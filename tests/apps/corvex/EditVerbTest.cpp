@@ -46,6 +46,7 @@ protected:
         sandbox.run({u"fmt"_s, pump});
         savePicture(Qt::red, sandbox.path(u"one.png"_s));
         savePicture(Qt::blue, sandbox.path(u"two.png"_s));
+        QFile::copy(sandbox.path(u"two.png"_s), sandbox.path(u"two.gif"_s));
     }
     ProgramRun edit(const QByteArray &script, const QStringList &options = {}) const
     {
@@ -120,14 +121,29 @@ TEST_F(EditVerb, oneBadLineAndNothingIsDone)
         {"set Main.title.position far", "position takes a text such as \"x: 0; y: 0;\", not \"far\"."},
         {"set Main.title.opacity much", "opacity takes a number from 10 to 100, not \"much\"."},
         {"set Main.title.visible maybe", "visible takes true or false, not \"maybe\"."},
+        {"set Main.box1 far", "\"Main.box1\" is an object, where a property is due, such as "
+                              "\"Main.box1.position\". \"corvex tree FILE Main.box1\" shows them all."},
+        {"set box1.opacity 1", "There is no property \"box1.opacity\". Did you mean \"Main.box1.opacity\"?"},
+        {"set Main.title.text.x 1",
+         "There is no property \"Main.title.text.x\". \"corvex tree FILE Main.title\" shows what there is."},
+        {"delete Main.title.text",
+         "\"Main.title.text\" is a property, where an object is due: \"Main.title\" is one."},
         {"set Main.size height: 1; width: 1;", "\"Main.size\" is not stored; it follows from other values."},
         {"set Main.title.text \xff", "The bytes are not UTF-8, the one encoding that is read."},
         {"set Main.photo.source filterType: ImageResource; objectId: x.png; scopeType: Project;",
          "The file of the image is missing."},
         {"set Main.title.id x", "Names are given by rename, which takes all references along."},
         {"rename Main.title", "The form of this edit is: rename PATH NAME"},
-        {"rename Main.title box1", "The name is not unique."},
-        {"add Nothing Main", "There is no class \"Nothing\". \"corvex help\" tells how plug-ins are found."},
+        {"rename Main.title box1", "The name is not unique. \"Main.box1\" is called so, a Rectangle."},
+        {"rename speed s",
+         "The name is in the wrong format. Only letters, numbers and underscore are allowed. "
+         "The first character must be a letter. It has at least 2 characters."},
+        {"add Nothing Main",
+         "There is no class \"Nothing\". Classes of other plug-ins are there with --plugins DIR."},
+        {"add Rectangle Main box1",
+         "This cannot be added. There is a \"box1\" in \"Main\". Give one of the two "
+         "another name first."},
+        {"move Main.box1 Main.box1", "\"Main.box1\" has no list for an object of the class Rectangle."},
         {"add Text Main new", "This name is reserved."},
         {"group new Main.box1 Main.box2", "This name is reserved."},
         {"add ImageResource Pump a.png", "Images are added by add-image, which takes their files along."},
@@ -136,8 +152,15 @@ TEST_F(EditVerb, oneBadLineAndNothingIsDone)
          "There is no object \"nowhere\". \"corvex tree FILE Pump\" shows what there is."},
         {"group one Main.title", "The form of this edit is: group NAME PATH..."},
         {"group one Main.title Main.title", "At least two elements are required."},
-        {"add-image script", "\"script\" is no image, or not one of the kind that its extension tells."},
-        {"model VTR 1", "The device model \"VTR 1\" is not available."},
+        {"group one Main.title speed", "\"speed\" is a NumberVariable. A group takes elements."},
+        {"add-image script",
+         "\"script\" is no image of a kind that the device shows: png, jpg, jpeg, bmp, gif, svg."},
+        {"add-image two.gif", "\"two.gif\" is an image of the kind png. Call it \"two.png\"."},
+        {"add-image missing.png", "There is no file \"missing.png\"."},
+        {"add-image Pump", "\"Pump\" is not a file. Name a picture in it."},
+        {"replace-image one.png missing.png", "There is no file \"missing.png\"."},
+        {"model VTR 50K", "There is no device model \"VTR 50K\"; did you mean \"VTR 50-K\"? \"corvex new "
+                          "--list-models\" lists them."},
         {"undo 9", "There are 2 edits to undo."},
         {"undo -2147483648", "There are 2 edits to undo."},
         {"print \"Main", "A quote is opened and not closed."},
@@ -153,6 +176,18 @@ TEST_F(EditVerb, oneBadLineAndNothingIsDone)
     }
     EXPECT_EQ(edit(QByteArray("set Main.title.text a\0b\n", 24)).code, 1);
     EXPECT_EQ(sandbox.run({u"edit"_s, pump, u"nowhere"_s}).code, 3);
+    EXPECT_EQ(sandbox.run({u"edit"_s, pump, u"/dev/zero"_s}).code, 3);
+
+    // All wrong lines are named, but none that is wrong only since another one is.
+    const ProgramRun all = edit("add Text Mian note\nset Main.note.text a\nset Main.titel.text b\nundo 1 2\n"
+                                "rename Main.title box1\nset Main.box1.opactiy 1\nundo\nset Main.x 1\n");
+    EXPECT_EQ(all.error.count(u'\n'), 6);
+    for (const QString &start :
+         {u"script:1: "_s, u"script:3: "_s, u"script:4: "_s, u"script:5: "_s, u"script:6: "_s}) {
+        EXPECT_TRUE(all.error.contains(start)) << qPrintable(all.error);
+    }
+    // A path that leads nowhere takes no time, however long it is.
+    EXPECT_LT(edit("set " + QByteArray(1'000'000, '.') + " 1\n").error.size(), 5000);
 }
 
 TEST_F(EditVerb, anInterruptedScriptIsTakenBack)
@@ -241,6 +276,25 @@ added GroupElement First.trio
     const ProgramRun models = sandbox.run({u"diff"_s, old, pump});
     EXPECT_EQ(models.out, u"changed VTR 50-S.id: name: VTR 50-S; -> name: VTR 50-K;\n"_s);
     EXPECT_EQ(models.code, 1);
+    // git's own arguments, and another content of an image of the same name.
+    const QStringList hash{u"0000000"_s, u"100644"_s};
+    const ProgramRun git =
+        sandbox.run(QStringList{u"diff"_s, u"--git"_s, pump, old} + hash + QStringList{pump} + hash);
+    EXPECT_EQ(git.out, u"%1:\n%2"_s.arg(pump, models.out));
+    EXPECT_EQ(git.code, 0);
+    EXPECT_EQ(
+        sandbox
+            .run(QStringList{u"diff"_s, u"--git"_s, pump, u"/dev/null"_s} + hash + QStringList{pump} + hash)
+            .out,
+        u"%1:\nadded Project Pump\n"_s.arg(pump));
+    EXPECT_EQ(edit("add-image one.png\n").error, QString());
+    QDir(sandbox.path(u"Old"_s)).mkdir(u"Images"_s);
+    sandbox.write(old, sandbox.read(pump));
+    EXPECT_EQ(sandbox.run({u"diff"_s, old, pump}).code, 0);
+    sandbox.write(u"Old/Images/one.png"_s, sandbox.read(u"two.png"_s));
+    const ProgramRun contents = sandbox.run({u"diff"_s, old, pump});
+    EXPECT_TRUE(contents.out.startsWith(u"changed one.png.imageFile: "_s)) << qPrintable(contents.out);
+    EXPECT_EQ(contents.code, 1);
     const QString station = u"Station/Station.kdproj"_s;
     EXPECT_EQ(sandbox.run({u"rename"_s, pump, u"Pump"_s, u"Station"_s}).error, QString());
     EXPECT_EQ(sandbox.run({u"fmt"_s, station, u"--check"_s}).code, 0);
@@ -282,7 +336,7 @@ TEST(EditVerbKept, whatNoPluginKnowsStaysInItsPlace)
     const ProgramRun diff = sandbox.run({u"diff"_s, old, pump, u"--json"_s});
     EXPECT_EQ(diff.code, 1);
     QStringList told;
-    for (const QJsonValue &difference : diff.json().toArray()) {
+    for (const QJsonValue &difference : diff.json()[u"differences"_s].toArray()) {
         told.append(difference[u"kind"_s].toString() + u' ' + difference[u"path"_s].toString());
     }
     EXPECT_EQ(told, (QStringList{u"added Main.group1.other"_s, u"removed Main.group1.inner"_s,

@@ -148,6 +148,10 @@ TEST(TreeVerb, showsObjectsAndValues)
         EXPECT_THAT(run.error.toStdString(),
                     HasSubstr(u"There is nothing called \"%1\" in \"%2\"."_s.arg(path, pump).toStdString()));
     }
+    for (const QString &verb : {u"tree"_s, u"uses"_s}) {
+        EXPECT_THAT(sandbox.run({verb, pump, u"Main.titel"_s}).error.toStdString(),
+                    HasSubstr("Did you mean \"Main.title\"?"));
+    }
     const ProgramRun title = sandbox.run({u"tree"_s, pump, u"Main.title"_s});
     EXPECT_THAT(title.out.toStdString(), HasSubstr("\n  text = Pump %1 \"A\"\\n2\n"));
 }
@@ -244,7 +248,8 @@ TEST(CheckVerb, namesEveryProblemInOneLine)
         u"allowed. "
         "The first character must be a letter."_s,
         u"Main.late: textBinding: Term 1 of the expression, \"0707alert(1)\", cannot be used in it."_s,
-        u"Main.turned: rotation: The generated code cannot be read by the device: It is nested more than "
+        u"Main.turned: rotationBinding: The generated code cannot be read by the device: It is nested more "
+        u"than "
         "1000 levels deep."_s,
     };
     EXPECT_EQ(bad.out, expected.join(u'\n') + u'\n');
@@ -261,6 +266,11 @@ TEST(CheckVerb, namesEveryProblemInOneLine)
     EXPECT_EQ(codes.join(u' '),
               u"file.kept file.dropped name.invalid image.file image.file name.format expression.invalid "
               "code.unreadable"_s);
+
+    const ProgramRun both = other.run({u"check"_s, pump, u"none"_s, pump});
+    EXPECT_EQ(both.code, 3);
+    EXPECT_EQ(both.out.count(u'\n'), 2 * bad.out.count(u'\n'));
+    EXPECT_TRUE(both.out.startsWith(pump + u": Main: "_s)) << qPrintable(both.out);
 
     const QJsonValue info = other.run({u"info"_s, pump, u"--json"_s}).json();
     EXPECT_EQ(info[u"missingPlugins"_s], QJsonValue(QJsonObject{{u"Gauge"_s, QJsonArray{u"Main.gauge1"_s}}}));
@@ -474,9 +484,6 @@ TEST(ProjectFile, isRefusedWithPlaceAndReason)
         EXPECT_EQ(run.out, QString());
         EXPECT_EQ(run.error.first(std::min(run.error.size(), error.size() + 8)), u"corvex: "_s + error);
     }
-    for (const QString &verb : {u"info"_s, u"tree"_s, u"fmt"_s}) {
-        EXPECT_EQ(sandbox.run({verb, u"cut"_s}).code, 3);
-    }
     EXPECT_EQ(sandbox.run({u"build"_s, u"cut"_s, u"-o"_s, u"out"_s}).code, 3);
     EXPECT_FALSE(QDir(sandbox.path(u"out"_s)).exists());
 }
@@ -502,6 +509,16 @@ TEST(FmtVerb, writesTheCanonicalFormAndNothingElse)
     EXPECT_EQ(again.code, 0);
     EXPECT_EQ(sandbox.run({u"fmt"_s, pump}).out, QString());
     EXPECT_EQ(sandbox.read(pump), canonical);
+
+    // Version control may have changed all line ends; some of them are another matter.
+    const QByteArray unixEnds = QByteArray(canonical).replace("\r\n", "\n");
+    sandbox.write(pump, unixEnds);
+    EXPECT_EQ(sandbox.run({u"fmt"_s, u"--check"_s, pump}).code, 0);
+    sandbox.write(pump, QByteArray(unixEnds).replace("name=\"id\"", "name=\"id\" "));
+    EXPECT_EQ(sandbox.run({u"fmt"_s, pump}).code, 0);
+    EXPECT_EQ(sandbox.read(pump), unixEnds);
+    sandbox.write(pump, QByteArray(canonical).replace("</List>\r\n", "</List>\n"));
+    EXPECT_EQ(sandbox.run({u"fmt"_s, u"--check"_s, pump}).code, 1);
 }
 
 TEST(FmtVerb, findsADifferenceWhereverItIs)

@@ -57,7 +57,7 @@ TEST_F(RenderVerb, drawsElementsWhereTheyWerePlaced)
         EXPECT_EQ(image.pixelColor(outside), QColor(Qt::white)) << outside.x() << ", " << outside.y();
     }
     const ProgramRun handles =
-        render({u"--screen"_s, u"Main"_s, u"--handles"_s, u"box"_s, u"-o"_s, u"handles.png"_s, u"--json"_s});
+        render({u"--handles"_s, u"Main.box"_s, u"-o"_s, u"handles.png"_s, u"--json"_s});
     EXPECT_EQ(handles.json()[u"screen"_s].toString(), u"Main"_s);
     EXPECT_EQ(picture(u"handles.png"_s).pixelColor(130, 90), QColor(Qt::white))
         << "a handle lies on the edge";
@@ -80,6 +80,8 @@ TEST_F(RenderVerb, tellsWhatIsWrong)
          u"\"press\" is hidden or of a kind"_s},
         {{u"-o"_s, u"Pump/../Pump/Pump.kdproj"_s}, 2, u"is the project's own file"_s},
         {{u"--screen"_s, u"Main"_s, u"-o"_s, u"none/x.png"_s}, 3, u"\"none/x.png\" cannot be written"_s},
+        {{u"-o"_s, QString(252, u'a') + u".png"_s}, 3, u"File name too long"_s},
+        {{u"--handles"_s, u"Main.bx"_s, u"-o"_s, u"x.png"_s}, 2, u"Did you mean \"Main.box\"?"_s},
     };
     for (const auto &[options, code, says] : cases) {
         const ProgramRun run = render(options);

@@ -5,6 +5,8 @@
 
 #include "CommandFixture.h"
 
+#include <QStringEncoder>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer::Test {
@@ -26,7 +28,7 @@ protected:
     bool import(const QByteArray &csv)
     {
         VariableImport plan(csv, *project);
-        EXPECT_EQ(plan.invalidValues(), QStringList());
+        EXPECT_TRUE(plan.invalidValues().isEmpty());
         if (!plan.problems().isEmpty()) {
             return false;
         }
@@ -34,6 +36,15 @@ protected:
         return true;
     }
 };
+
+QString textsOf(const QList<CsvText::Problem> &problems)
+{
+    QStringList texts;
+    for (const CsvText::Problem &problem : problems) {
+        texts.append(problem.toString());
+    }
+    return texts.join(u'\n');
+}
 
 } // namespace
 
@@ -86,6 +97,28 @@ TEST_F(ImportVariablesTest, TablesOfOthersMayBeShorter)
     EXPECT_TRUE(import("name,interval\nhistory,05000\n"));
 }
 
+TEST_F(ImportVariablesTest, TablesOfSpreadsheetsAreRead)
+{
+    const QString table = u"Name;VALUE;Class;;\r\nspeed;\"2,5\";;;\r\ndepth;-0,25;NumberVariable;;\r\n"
+                          "title;=1,5;StringVariable;;\r\n"_s;
+    const auto encoded = [&table](QStringEncoder::Encoding encoding) {
+        QStringEncoder encoder(encoding, QStringEncoder::Flag::WriteBom);
+        return QByteArray(encoder(table));
+    };
+    for (const QByteArray &csv : {encoded(QStringEncoder::Utf8), encoded(QStringEncoder::Utf16LE),
+                                  encoded(QStringEncoder::Utf16BE), table.toUtf8().replace(';', '\t')}) {
+        EXPECT_TRUE(import(csv));
+        const QString text = QString::fromUtf8(this->table());
+        EXPECT_TRUE(text.contains(u"\r\nspeed,NumberVariable,2.5,"_s)) << qPrintable(text);
+        EXPECT_TRUE(text.contains(u"\r\ndepth,NumberVariable,-0.25,"_s));
+        EXPECT_TRUE(text.contains(u"\r\ntitle,StringVariable,\"'=1,5\","_s));
+        project->undoStack()->undo();
+    }
+    // With commas between the columns a comma is none in a number, unless the separator is given.
+    EXPECT_EQ(VariableImport("name,value\nspeed,\"2,5\"\n", *project).invalidValues().size(), 1);
+    EXPECT_EQ(VariableImport("name|value\nspeed|2,5\n", *project, u'|').changes().value(0).after, u"2.5"_s);
+}
+
 TEST_F(ImportVariablesTest, TellsWhatItCannotTake)
 {
     const struct
@@ -97,7 +130,11 @@ TEST_F(ImportVariablesTest, TellsWhatItCannotTake)
         {"value\n1\n", "line 1: The first line has to name the columns, each once, \"name\" among them."},
         {"name,value,value\n",
          "line 1: The first line has to name the columns, each once, \"name\" among them."},
-        {"name\n\xff\n", "line 1: The table is not in UTF-8."},
+        {"name\n\xff\n", "line 2: The table is not in UTF-8, nor in UTF-16 with a mark at its start. Save it "
+                         "as \"CSV UTF-8\"."},
+        {"name\rspeed\r",
+         "line 1: The lines end with a carriage return alone. Save the table with the line ends of today's "
+         "systems."},
         {"name,value\nspeed\n", "line 2: There are 1 fields for 2 columns."},
         {"name\nspeed\nspeed\n", "line 3: \"speed\" is in line 2, too."},
         {"name,value\nnew,1\n", "line 2: \"new\" is not in the project; a class is needed to make it."},
@@ -114,16 +151,21 @@ TEST_F(ImportVariablesTest, TellsWhatItCannotTake)
     };
     const QByteArray before = table();
     for (const auto &[csv, problem] : cases) {
-        EXPECT_EQ(VariableImport(csv, *project).problems(), QStringList(QString::fromLatin1(problem))) << csv;
+        EXPECT_EQ(textsOf(VariableImport(csv, *project).problems()), QString::fromLatin1(problem)) << csv;
         EXPECT_FALSE(import(csv));
     }
     EXPECT_EQ(table(), before);
     for (const char *value : {"16777216.0", "many", "1e5"}) {
         const VariableImport invalid(QByteArray("name,value\nspeed,") + value + '\n', *project);
-        EXPECT_EQ(invalid.problems(), QStringList());
+        EXPECT_EQ(textsOf(invalid.problems()), QString());
         EXPECT_EQ(invalid.invalidValues().size(), 1) << value;
     }
-    EXPECT_EQ(VariableImport("name,value\nspeed,-Infinity\n", *project).invalidValues(), QStringList());
+    EXPECT_EQ(textsOf(VariableImport("name,value\nspeed,-Infinity\n", *project).invalidValues()), QString());
+    // All that is wrong, at once.
+    EXPECT_EQ(textsOf(VariableImport("name,value\nspeed,1,2\n\"on\"x,1\nnew,1\n", *project).problems()),
+              u"line 3: A field in quotes is not closed, or text follows its closing quote.\n"
+              "line 2: There are 3 fields for 2 columns.\n"
+              "line 4: \"new\" is not in the project; a class is needed to make it."_s);
 }
 
 } // namespace Halvane::Corvex::Designer::Test

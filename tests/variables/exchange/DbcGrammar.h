@@ -54,9 +54,11 @@ private:
         }
         m_message = m_captured.at(1);
         const int bits = 8 * m_captured.at(3).toInt();
-        bool good = isNew(QStringLiteral("BO_ ") + m_message) && isNew(m_captured.at(2));
+        const bool isKeyword = m_captured.at(2).endsWith(u'_') && m_captured.at(2).count(u'_') == 1;
+        bool good = isNew(QStringLiteral("BO_ ") + m_message) && isNew(m_captured.at(2))
+                    && (!isKeyword || fail("a word of the format as a name"));
         while (good && isNext("SG_ ")) {
-            const QString number = QStringLiteral(R"(-?\d+(?:\.\d+)?(?:[eE][+-]?\d+)?)");
+            const QString number = QStringLiteral(R"(-?\d+(?:\.\d+)?)");
             good = take(QStringLiteral(R"(SG_ ([A-Za-z_]\w*) ?: ?(\d+)\|(\d+)@([01])[+-] )"
                                        R"(\((%1),%1\) \[%1\|%1\] "[^"]*" \w+)")
                             .arg(number))

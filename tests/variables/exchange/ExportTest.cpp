@@ -73,19 +73,48 @@ QStringList lines(const QByteArray &bytes)
 
 TEST(CsvText, ReadsWhatItWritesAndWhatOthersWrite)
 {
-    const QStringList nasty{u"a,b"_s, u"say \"hi\""_s, u"two\r\nlines\nand one"_s, {}, u" x "_s,
-                            u"\""_s,  u"a\"b"_s};
-    QList<CsvText::Row> rows;
-    QString error;
-    ASSERT_TRUE(CsvText::read(CsvText::row(nasty) + u"\n\r\nlast,\"\""_s, rows, error)) << qPrintable(error);
+    const QStringList nasty{u"a,b"_s,  u"say \"hi\""_s, u"two\r\nlines\nand one"_s, {}, u" x "_s, u"\""_s,
+                            u"a\"b"_s, u"'til"_s};
+    QList<CsvText::Problem> problems;
+    const QList<CsvText::Row> rows = CsvText::read(CsvText::row(nasty) + u"\n\r\nlast,\"\""_s, problems);
+    ASSERT_TRUE(problems.isEmpty());
     ASSERT_EQ(rows.size(), 2);
     EXPECT_EQ(rows.at(0).fields, nasty);
     EXPECT_EQ(rows.at(1).fields, QStringList({u"last"_s, {}}));
     EXPECT_EQ(rows.at(1).line, 6);
     EXPECT_EQ(CsvText::row({u"a"_s, u"b;c"_s, u"d,e"_s}, u';'), u"a;\"b;c\";d,e\r\n"_s);
-    for (const QString &bad : {u"a\n\"open"_s, u"a\n\"closed\"x"_s, u"a\n\"x\" ,b"_s}) {
-        EXPECT_FALSE(CsvText::read(bad, rows, error)) << qPrintable(bad);
-        EXPECT_TRUE(error.startsWith(u"line 2: "_s)) << qPrintable(error);
+    for (const QString &bad : {u"a\n\"open"_s, u"a\n\"closed\"x,y\nb"_s, u"a\n\"x\" ,b"_s, u"a\nb\rc\r"_s}) {
+        problems.clear();
+        CsvText::read(bad, problems);
+        ASSERT_EQ(problems.size(), 1) << qPrintable(bad);
+        EXPECT_EQ(problems.first().line, 2) << qPrintable(bad);
+    }
+    for (const auto &[line, separator] :
+         {std::pair(u"a,b;c,d"_s, u','), std::pair(u"a;\",,,\";b\n,,,"_s, u';'), std::pair(u"a\tb"_s, u'\t'),
+          std::pair(u"a"_s, u',')}) {
+        EXPECT_EQ(CsvText::separatorOf(line), QChar(separator)) << qPrintable(line);
+    }
+}
+
+TEST(CsvText, MarksWhatASpreadsheetWouldRun)
+{
+    const struct
+    {
+        QString field;
+        QString written;
+    } cases[] = {
+        {u"=1+1"_s, u"'=1+1"_s}, {u"+cmd|' /C calc'!A0"_s, u"'+cmd|' /C calc'!A0"_s},
+        {u"-2+3"_s, u"'-2+3"_s}, {u"@SUM(A1)"_s, u"'@SUM(A1)"_s},
+        {u"\t=1"_s, u"'\t=1"_s}, {u"\r=1"_s, u"\"'\r=1\""_s},
+        {u"'=1"_s, u"''=1"_s},   {u"-Infinity"_s, u"'-Infinity"_s},
+        {u"-5"_s, u"-5"_s},      {u"+1.5e-3"_s, u"+1.5e-3"_s},
+        {u"'"_s, u"'"_s},        {u"a=1"_s, u"a=1"_s},
+    };
+    for (const auto &[field, written] : cases) {
+        const QString row = CsvText::row({field, u"x"_s});
+        EXPECT_EQ(row, written + u",x\r\n"_s);
+        QList<CsvText::Problem> problems;
+        EXPECT_EQ(CsvText::read(row, problems).value(0).fields.value(0), field);
     }
 }
 
@@ -101,15 +130,18 @@ TEST_F(ExportTest, ModbusRegisters)
         {{u"coilMap"_s, entry(7, {Info::VariableValue, Info::BooleanData, u"run"_s})},
          {u"inputRegMap"_s, entry(30010, {Info::ObjectValue, Info::FloatData, u"Main.gauge.level"_s})},
          {u"virtualStringMap"_s, entry(5000, {Info::VariableValue, Info::StringData, u"event"_s})},
+         {u"discreteInputMap"_s, entry(10002, variable(u"twice"_s)) + entry(10002, variable(u"twice"_s))},
          {u"holdingRegMap"_s, entry(30001, variable(u"wrong"_s))}});
     const Exported exported = ModbusExport::write(*project);
     EXPECT_EQ(exported.files.first().name, u"Plant_Modbus.csv"_s);
     EXPECT_EQ(lines(exported.files.first().bytes),
-              QStringList({u"map,register,address,wire address,access,source,type"_s,
-                           u"map,coil,00007,6,read/write,run,boolean"_s,
-                           u"map,input register,30010,9,read,Main.gauge.level,float"_s,
-                           u"map,virtual string,05000,5000,read/write,event,string"_s}));
-    EXPECT_EQ(exported.problems, QStringList(u"map.holdingRegMap: Data value at 30001 is undefined"_s));
+              QStringList({u"map,register,address,wire address,access,width,type,scale,source,source type"_s,
+                           u"map,coil,00007,6,read/write,1,bit,1,run,boolean"_s,
+                           u"map,input register,30010,9,read,16,int16,1,Main.gauge.level,float"_s,
+                           u"map,virtual string,05000,5000,read/write,,string,,event,string"_s}));
+    EXPECT_EQ(exported.problems,
+              QStringList({u"map.discreteInputMap: Duplicate Value is Not Allowed: 10002"_s,
+                           u"map.holdingRegMap: Data value at 30001 is undefined"_s}));
 }
 
 TEST_F(ExportTest, CanGroupsAsADatabase)
@@ -121,6 +153,8 @@ TEST_F(ExportTest, CanGroupsAsADatabase)
         {{u"parameterMap"_s, canMap(61444, {{190, u"1/\"min\"\n"_s, 4, 1, 16, 0, 0, 8031.875, 0.125}})}});
     add(u"CANVariable"_s, u"tank"_s,
         {{u"parameterMap"_s, canMap(65276, {{96, u"\u00b0C \u03a9"_s, 8, 8, 1, -0.5, -4e-7, 1e20, 1e-7}})}});
+    add(u"CANVariable"_s, u"BO_"_s,
+        {{u"parameterMap"_s, canMap(65270, {{98, {}, 1, 1, 8, 0, 0, 100, 0.4}})}});
     add(u"CANVariable"_s, u"empty"_s, {});
     const Exported exported = DbcExport::write(*project);
     const QByteArray bytes = exported.files.first().bytes;
@@ -134,8 +168,9 @@ TEST_F(ExportTest, CanGroupsAsADatabase)
                                " SG_ SPN899 : 0|4@1+ (1,0) [0|15] \"\" Vector__XXX\n"));
     EXPECT_THAT(dbc, HasSubstr("\nCM_ SG_ 2364539904 SPN899 \"engine\";\n"));
     EXPECT_THAT(dbc, HasSubstr("\nBA_ \"SPN\" SG_ 2364539904 SPN190_engine 190;\n"));
-    EXPECT_THAT(dbc, HasSubstr(" SG_ SPN96 : 63|1@1+ (1e-07,-0.5) [-4e-07|1e+20] \"\xb0"
-                               "C ?\" "));
+    EXPECT_THAT(dbc,
+                HasSubstr(" SG_ SPN96 : 63|1@1+ (0.0000001,-0.5) [-0.0000004|100000000000000000000] \"\xb0"
+                          "C ?\" "));
     EXPECT_EQ(
         exported.problems,
         QStringList(
@@ -145,7 +180,7 @@ TEST_F(ExportTest, CanGroupsAsADatabase)
     // The grammar tells good from bad.
     for (const auto &[good, bad] :
          {std::pair("8 Vector__XXX\n SG_ SPN96", "7 Vector__XXX\n SG_ SPN96"),
-          std::pair("SG_ SPN899 :", "SG_ SPN190 :"), std::pair("(1e-07,", "(0,"),
+          std::pair("SG_ SPN899 :", "SG_ SPN190 :"), std::pair("(0.0000001,", "(1e-7,"),
           std::pair("\"SPN\" INT", "\"SPM\" INT"), std::pair("\"rpm\"", "\"r\"pm\"")}) {
         EXPECT_NE(DbcGrammar::problemOf(QByteArray(bytes).replace(good, bad)), QString()) << bad;
     }
@@ -186,13 +221,13 @@ TEST_F(ExportTest, BACnetObjectsAsEde)
               QStringList({u"# Engineering-Data-Exchange - B.I.G.-EU"_s, u"PROJECT_NAME;Plant"_s,
                            u"VERSION_OF_REFERENCEFILE;1"_s, u"TIMESTAMP_OF_LAST_CHANGE;2026-03-01"_s,
                            u"AUTHOR_OF_LAST_CHANGE;corvex"_s, u"VERSION_OF_LAYOUT;2.3"_s}));
-    EXPECT_EQ(list.sliced(8), QStringList({u"panel;1234;panel;8;1234;;;;;;;;;;;"_s,
-                                           u"aLevel;1234;\"P;aLevel\";2;7;Level;62.5;0;100;Y;;;;;98;"_s,
-                                           u"bPump;1234;\"P;bPump\";3;1;;1;;;N;;;;1;;"_s,
-                                           u"cPump;1234;\"P;cPump\";3;2;;;;;N;;;;1;;"_s,
-                                           u"dMode;1234;\"P;dMode\";19;1;;;;;Y;;;;2;95;"_s}));
+    EXPECT_EQ(list.sliced(8), QStringList({u"panel;1234;panel;8;1234;;;;;;;;;;;;"_s,
+                                           u"aLevel;1234;\"P;aLevel\";2;7;Level;62.5;0;100;Y;;;;;98;;"_s,
+                                           u"bPump;1234;\"P;bPump\";3;1;;1;;;N;;;;1;;;"_s,
+                                           u"cPump;1234;\"P;cPump\";3;2;;;;;N;;;;1;;;"_s,
+                                           u"dMode;1234;\"P;dMode\";19;1;;;;;Y;;;;2;95;;"_s}));
     for (const QString &line : list.sliced(6, 2)) {
-        EXPECT_EQ(line.count(u';'), 15) << qPrintable(line);
+        EXPECT_EQ(line.count(u';'), 16) << qPrintable(line);
     }
     EXPECT_EQ(
         lines(exported.files.at(1).bytes).sliced(2),

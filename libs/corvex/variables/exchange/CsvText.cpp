@@ -1,11 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/variables/exchange/CsvText.h"
 
+#include <QRegularExpression>
+
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer::CsvText {
 
 namespace {
+
+constexpr QChar mark = u'\'';
+
+//! Whether a spreadsheet would run the field, or would once its marks are taken away.
+bool isRun(const QString &field)
+{
+    static const QRegularExpression dangerous(u"^'*[=+\\-@\t\r]"_s);
+    static const QRegularExpression number(u"^[+-]?[0-9]+(\\.[0-9]*)?([eE][+-]?[0-9]+)?$"_s);
+    return dangerous.match(field).hasMatch() && !number.match(field).hasMatch();
+}
+
+QString marked(const QString &field)
+{
+    return isRun(field) ? mark + field : field;
+}
+
+QString unmarked(const QString &field)
+{
+    return field.startsWith(mark) && isRun(field) ? field.sliced(1) : field;
+}
 
 QString quoted(const QString &field, QChar separator)
 {
@@ -18,23 +42,30 @@ QString quoted(const QString &field, QChar separator)
 class Reader
 {
 public:
-    explicit Reader(QStringView text)
+    Reader(QStringView text, QChar separator)
         : m_text(text)
+        , m_separator(separator)
     { }
 
     bool atEnd() const { return m_at == m_text.size(); }
     int line() const { return m_line; }
+    //! The first line that ends with "\r" alone; 0 without one.
+    int lineOfLoneReturn() const { return m_lineOfLoneReturn; }
 
-    //! False for a field that is not closed, or that goes on behind its closing quote.
+    //! False for a field that is not closed, or that goes on after its closing quote.
     bool readField(QString &field)
     {
         field.clear();
-        if (m_at < m_text.size() && m_text.at(m_at) == u'"') {
+        if (!atEnd() && m_text.at(m_at) == u'"') {
             ++m_at;
-            return readQuoted(field) && (atEnd() || atLineEnd() || m_text.at(m_at) == u',');
+            return readQuoted(field) && (atEnd() || atLineEnd() || m_text.at(m_at) == m_separator);
         }
-        while (!atEnd() && !atLineEnd() && m_text.at(m_at) != u',') {
-            field += m_text.at(m_at++);
+        while (!atEnd() && !atLineEnd() && m_text.at(m_at) != m_separator) {
+            const QChar character = m_text.at(m_at++);
+            if (character == u'\r' && m_lineOfLoneReturn == 0) {
+                m_lineOfLoneReturn = m_line;
+            }
+            field += character;
         }
         return true;
     }
@@ -42,15 +73,20 @@ public:
     //! Whether another field follows in this row; otherwise the row's line end is passed.
     bool readSeparator()
     {
-        if (!atEnd() && m_text.at(m_at) == u',') {
+        if (!atEnd() && m_text.at(m_at) == m_separator) {
             ++m_at;
             return true;
         }
-        if (!atEnd()) {
-            m_at += m_text.at(m_at) == u'\r' ? 2 : 1;
-            ++m_line;
-        }
+        passLineEnd();
         return false;
+    }
+
+    void passLine()
+    {
+        while (!atEnd() && !atLineEnd()) {
+            ++m_at;
+        }
+        passLineEnd();
     }
 
 private:
@@ -58,6 +94,14 @@ private:
     {
         return m_text.at(m_at) == u'\n'
                || (m_text.at(m_at) == u'\r' && m_at + 1 < m_text.size() && m_text.at(m_at + 1) == u'\n');
+    }
+
+    void passLineEnd()
+    {
+        if (!atEnd()) {
+            m_at += m_text.at(m_at) == u'\r' ? 2 : 1;
+            ++m_line;
+        }
     }
 
     bool readQuoted(QString &field)
@@ -77,8 +121,10 @@ private:
     }
 
     QStringView m_text;
+    QChar m_separator;
     qsizetype m_at = 0;
     int m_line = 1;
+    int m_lineOfLoneReturn = 0;
 };
 
 } // namespace
@@ -87,32 +133,62 @@ QString row(const QStringList &fields, QChar separator)
 {
     QStringList texts;
     for (const QString &field : fields) {
-        texts.append(quoted(field, separator));
+        texts.append(quoted(marked(field), separator));
     }
     return texts.join(separator) + u"\r\n"_s;
 }
 
-bool read(QStringView text, QList<Row> &rows, QString &error)
+QString Problem::toString() const
 {
-    rows.clear();
-    Reader reader(text);
+    return u"line %1: %2"_s.arg(QString::number(line), text);
+}
+
+QChar separatorOf(QStringView text)
+{
+    static constexpr std::array<char16_t, 3> candidates{u',', u';', u'\t'};
+    std::array<int, candidates.size()> counts{};
+    bool isQuoted = false;
+    for (const QChar character : text) {
+        if (character == u'\n' && !isQuoted) {
+            break;
+        }
+        isQuoted = isQuoted != (character == u'"');
+        const auto *candidate = std::ranges::find(candidates, character.unicode());
+        if (!isQuoted && candidate != candidates.end()) {
+            ++counts.at(size_t(candidate - candidates.begin()));
+        }
+    }
+    return candidates.at(size_t(std::ranges::max_element(counts) - counts.begin()));
+}
+
+QList<Row> read(QStringView text, QList<Problem> &problems, QChar separator)
+{
+    QList<Row> rows;
+    Reader reader(text, separator);
     while (!reader.atEnd()) {
         Row row;
         row.line = reader.line();
+        bool isGood = true;
         do {
             QString field;
-            if (!reader.readField(field)) {
-                error = u"line %1: A field in quotes is not closed, or text follows its closing quote."_s.arg(
-                    QString::number(row.line));
-                return false;
-            }
-            row.fields.append(field);
-        } while (reader.readSeparator());
-        if (row.fields != QStringList(QString())) {
+            isGood = reader.readField(field);
+            row.fields.append(unmarked(field));
+        } while (isGood && reader.readSeparator());
+        if (!isGood) {
+            problems.append(
+                {row.line, u"A field in quotes is not closed, or text follows its closing quote."_s});
+            reader.passLine();
+        } else if (row.fields != QStringList(QString())) {
             rows.append(row);
         }
     }
-    return true;
+    if (reader.lineOfLoneReturn() > 0) {
+        problems.append({reader.lineOfLoneReturn(),
+                         u"The lines end with a carriage return alone. Save the table with the line ends of "
+                         "today's systems."_s});
+        rows.clear();
+    }
+    return rows;
 }
 
 } // namespace Halvane::Corvex::Designer::CsvText

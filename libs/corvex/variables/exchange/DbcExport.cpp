@@ -14,12 +14,40 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
+//! Words of the format, which are no names in it.
+const QSet<QString> &keywords()
+{
+    static const QSet<QString> words{u"VERSION"_s,       u"NS_"_s,
+                                     u"NS_DESC_"_s,      u"BS_"_s,
+                                     u"BU_"_s,           u"BO_"_s,
+                                     u"SG_"_s,           u"EV_"_s,
+                                     u"CM_"_s,           u"VAL_"_s,
+                                     u"VAL_TABLE_"_s,    u"CAT_"_s,
+                                     u"CAT_DEF_"_s,      u"FILTER"_s,
+                                     u"BA_"_s,           u"BA_DEF_"_s,
+                                     u"BA_DEF_DEF_"_s,   u"BA_REL_"_s,
+                                     u"BA_DEF_REL_"_s,   u"BA_DEF_DEF_REL_"_s,
+                                     u"BA_SGTYPE_"_s,    u"BA_DEF_SGTYPE_"_s,
+                                     u"BO_TX_BU_"_s,     u"BU_SG_REL_"_s,
+                                     u"BU_EV_REL_"_s,    u"BU_BO_REL_"_s,
+                                     u"EV_DATA_"_s,      u"ENVVAR_DATA_"_s,
+                                     u"SGTYPE_"_s,       u"SGTYPE_VAL_"_s,
+                                     u"SIG_GROUP_"_s,    u"SIG_VALTYPE_"_s,
+                                     u"SIG_TYPE_REF_"_s, u"SIGTYPE_VALTYPE_"_s,
+                                     u"SG_MUL_VAL_"_s,   u"INT"_s,
+                                     u"HEX"_s,           u"FLOAT"_s,
+                                     u"STRING"_s,        u"ENUM"_s,
+                                     u"Vector__XXX"_s,   u"VECTOR__INDEPENDENT_SIG_MSG"_s};
+    return words;
+}
+
 //! Marks identifiers of 29 bits.
 constexpr quint32 extendedFrame = 0x80000000U;
 
 QString number(double value)
 {
-    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+    // Readers know no exponents.
+    return QString::number(value, 'f', QLocale::FloatingPointShortest);
 }
 
 //! Between quotes, where there is no way to write a quote.
@@ -92,7 +120,7 @@ private:
     QString uniqueName(const QString &variable)
     {
         QString name = identifier(variable);
-        while (m_names.contains(name)) {
+        while (m_names.contains(name) || keywords().contains(name)) {
             name += u'_';
         }
         m_names.insert(name);

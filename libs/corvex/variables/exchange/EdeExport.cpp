@@ -184,13 +184,12 @@ private:
                 known[HighLimit],
                 known[LowLimit],
                 referenceTo(known.stateTexts()),
-                unit,
-                {}});
+                unit});
     }
 
     void addRow(QStringList fields)
     {
-        constexpr qsizetype columns = 16;
+        constexpr qsizetype columns = 17;
         m_types.insert(fields.at(3));
         fields.resize(columns);
         m_rows += row(fields);
@@ -213,7 +212,7 @@ private:
     QByteArray objectList() const
     {
         QStringList kinds(5, u"mandatory"_s);
-        kinds.append(QStringList(11, u"optional"_s));
+        kinds.append(QStringList(12, u"optional"_s));
         kinds.first().prepend(u'#');
         return QString(row({u"# Engineering-Data-Exchange - B.I.G.-EU"_s})
                        + row({u"PROJECT_NAME"_s, m_project.getIdName()})
@@ -225,7 +224,7 @@ private:
                               u"object-instance"_s, u"description"_s, u"present-value-default"_s,
                               u"min-present-value"_s, u"max-present-value"_s, u"settable"_s,
                               u"supports COV"_s, u"hi-limit"_s, u"low-limit"_s, u"state-text-reference"_s,
-                              u"unit-code"_s, u"vendor-specific-address"_s})
+                              u"unit-code"_s, u"vendor-specific-address"_s, u"notification-class"_s})
                        + m_rows)
             .toUtf8();
     }

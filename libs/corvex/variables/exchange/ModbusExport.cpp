@@ -18,14 +18,17 @@ constexpr struct
     ModbusMap::RegisterKind kind;
     const char16_t *title;
     const char16_t *access;
-    int first; //!< the address that is 0 on the wire
+    const char16_t *width; //!< in bits on the wire; virtual ones are no part of the protocol
+    const char16_t *type;  //!< on the wire
+    int first;             //!< the address that is 0 on the wire
 } maps[] = {
-    {u"coilMap", ModbusMap::Coil, u"coil", u"read/write", 1},
-    {u"discreteInputMap", ModbusMap::DiscreteInput, u"discrete input", u"read", 10001},
-    {u"inputRegMap", ModbusMap::InputRegister, u"input register", u"read", 30001},
-    {u"holdingRegMap", ModbusMap::HoldingRegister, u"holding register", u"read/write", 40001},
-    {u"virtualRegMap", ModbusMap::VirtualRegister, u"virtual register", u"read/write", 0},
-    {u"virtualStringMap", ModbusMap::VirtualString, u"virtual string", u"read/write", 0},
+    {u"coilMap", ModbusMap::Coil, u"coil", u"read/write", u"1", u"bit", 1},
+    {u"discreteInputMap", ModbusMap::DiscreteInput, u"discrete input", u"read", u"1", u"bit", 10001},
+    {u"inputRegMap", ModbusMap::InputRegister, u"input register", u"read", u"16", u"int16", 30001},
+    {u"holdingRegMap", ModbusMap::HoldingRegister, u"holding register", u"read/write", u"16", u"int16",
+     40001},
+    {u"virtualRegMap", ModbusMap::VirtualRegister, u"virtual register", u"read/write", u"", u"number", 0},
+    {u"virtualStringMap", ModbusMap::VirtualString, u"virtual string", u"read/write", u"", u"string", 0},
 };
 
 QString typeName(GeneralDataInfo::DataType type)
@@ -52,23 +55,28 @@ QString typeName(GeneralDataInfo::DataType type)
 
 Exported ModbusExport::write(const DesignerObject &project)
 {
-    QString table = CsvText::row(
-        {u"map"_s, u"register"_s, u"address"_s, u"wire address"_s, u"access"_s, u"source"_s, u"type"_s});
+    QString table = CsvText::row({u"map"_s, u"register"_s, u"address"_s, u"wire address"_s, u"access"_s,
+                                  u"width"_s, u"type"_s, u"scale"_s, u"source"_s, u"source type"_s});
     Exported exported;
     for (const DesignerObject *variable :
          project.getListItemsInListPropertyOfType(u"variables"_s, u"MappingVariable"_s)) {
-        for (const auto &[id, kind, title, access, first] : maps) {
+        for (const auto &[id, kind, title, access, width, type, first] : maps) {
             ModbusMap map(kind);
             QString error;
             const SharedProperty terms = variable->getProperty(id);
-            if (!map.read(static_cast<const GeneralDataListProperty &>(*terms).value(), error)) {
-                exported.problems.append(u"%1.%2: %3"_s.arg(variable->getIdName(), terms->id(), error));
+            const GeneralDataList &list = static_cast<const GeneralDataListProperty &>(*terms).value();
+            if (!map.read(list, error)) {
+                const QStringList repeated = ModbusMap::repeatedAddresses(list);
+                exported.problems.append(
+                    u"%1.%2: %3%4"_s.arg(variable->getIdName(), terms->id(), error,
+                                         repeated.isEmpty() ? QString() : u": "_s + repeated.join(u", "_s)));
             }
             for (const auto &[address, source] : map.entries()) {
-                table += CsvText::row({variable->getIdName(), QString::fromUtf16(title),
-                                       QString::number(address).rightJustified(5, u'0'),
-                                       QString::number(address - first), QString::fromUtf16(access),
-                                       source.value(), typeName(source.dataType())});
+                table += CsvText::row(
+                    {variable->getIdName(), QString::fromUtf16(title),
+                     QString::number(address).rightJustified(5, u'0'), QString::number(address - first),
+                     QString::fromUtf16(access), QString::fromUtf16(width), QString::fromUtf16(type),
+                     *width ? u"1"_s : QString(), source.value(), typeName(source.dataType())});
             }
         }
     }

@@ -13,7 +13,7 @@ class ModbusExport
 public:
     /*! A table of all registers of \a project, a row each: the mapping variable, the kind of register, its
         address in the usual five digits and as it goes over the wire (from 0), whether a master may write it,
-        what it carries, and the type of that. */
+        its width in bits, type and scale on the wire, what it carries, and the type of that. */
     static Exported write(const DesignerObject &project);
 };
 

@@ -2,10 +2,10 @@
 #include "corvex/variables/exchange/VariableImport.h"
 
 #include "corvex/core/DesignerFactory.h"
+#include "corvex/core/properties/RealProperty.h"
 #include "corvex/variables/NumberVariable.h"
-#include "corvex/variables/exchange/CsvText.h"
 
-#include <QSet>
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 using namespace Qt::StringLiterals;
@@ -37,44 +37,74 @@ struct VariableImport::Record
     QString className; //!< empty when the table does not tell it
 };
 
-VariableImport::VariableImport(const QByteArray &csv, const DesignerObject &project)
+VariableImport::VariableImport(const QByteArray &csv, const DesignerObject &project, QChar separator)
     : m_project(project)
+    , m_separator(separator)
 {
-    QStringDecoder decoder(QStringDecoder::Utf8);
-    const QString text = decoder(csv);
-    QList<CsvText::Row> rows;
-    QString error;
-    if (decoder.hasError()) {
-        m_problems.append(u"line 1: The table is not in UTF-8."_s);
-    } else if (!CsvText::read(text, rows, error)) {
-        m_problems.append(error);
-    } else if (rows.isEmpty() || !readHeader(rows.constFirst().fields)) {
-        m_problems.append(
-            u"line 1: The first line has to name the columns, each once, \"name\" among them."_s);
-    } else {
+    const QString text = decode(csv);
+    if (m_separator.isNull()) {
+        m_separator = CsvText::separatorOf(text);
+    }
+    const QList<CsvText::Row> rows =
+        m_problems.isEmpty() ? CsvText::read(text, m_problems, m_separator) : QList<CsvText::Row>();
+    if (!rows.isEmpty() && readHeader(rows.constFirst().fields)) {
         for (const CsvText::Row &row : rows.sliced(1)) {
             readRecord({row.line, row.fields, row.fields.value(m_nameColumn),
                         m_classColumn < 0 ? QString() : row.fields.value(m_classColumn)});
         }
+    } else if (m_problems.isEmpty()) {
+        m_problems.append({1, u"The first line has to name the columns, each once, \"name\" among them."_s});
     }
 }
 
-bool VariableImport::readHeader(const QStringList &header)
+QString VariableImport::decode(const QByteArray &csv)
 {
+    QStringDecoder decoder(QStringDecoder::encodingForData(csv).value_or(QStringDecoder::Utf8));
+    const QString text = decoder(csv);
+    if (decoder.hasError() || text.contains(QChar::Null)) {
+        int line = 1;
+        for (const QByteArray &bytes : csv.split('\n')) {
+            if (!bytes.isValidUtf8() || bytes.contains('\0')) {
+                break;
+            }
+            ++line;
+        }
+        m_problems.append({line,
+                           u"The table is not in UTF-8, nor in UTF-16 with a mark at its start. Save it as "
+                           "\"CSV UTF-8\"."_s});
+    }
+    return text;
+}
+
+bool VariableImport::readHeader(QStringList header)
+{
+    for (QString &column : header) {
+        column = column.trimmed();
+    }
+    while (!header.isEmpty() && header.constLast().isEmpty()) {
+        header.removeLast();
+    }
+    QStringList lowered;
+    for (const QString &column : std::as_const(header)) {
+        lowered.append(column.toLower());
+    }
     m_columns = header;
-    m_nameColumn = header.indexOf(u"name"_s);
-    m_classColumn = header.indexOf(u"class"_s);
-    return m_nameColumn >= 0 && QSet<QString>(header.begin(), header.end()).size() == header.size();
+    m_nameColumn = lowered.indexOf(u"name"_s);
+    m_classColumn = lowered.indexOf(u"class"_s);
+    return m_nameColumn >= 0 && lowered.removeDuplicates() == 0;
 }
 
 bool VariableImport::fail(const Record &record, const QString &problem)
 {
-    m_problems.append(u"line %1: %2"_s.arg(QString::number(record.line), problem));
+    m_problems.append({record.line, problem});
     return false;
 }
 
-void VariableImport::readRecord(const Record &record)
+void VariableImport::readRecord(Record record)
 {
+    while (record.fields.size() > m_columns.size() && record.fields.constLast().isEmpty()) {
+        record.fields.removeLast();
+    }
     if (record.fields.size() != m_columns.size()) {
         fail(record, u"There are %1 fields for %2 columns."_s.arg(QString::number(record.fields.size()),
                                                                   QString::number(m_columns.size())));
@@ -108,20 +138,44 @@ bool VariableImport::isDefault(const DesignerObject &variable, const SharedPrope
     return initial && initial->valueString() == text;
 }
 
+//! The property that a column names, in whatever case; null when the class has none. Names are no column's.
+SharedProperty VariableImport::propertyOf(const DesignerObject &variable, qsizetype column) const
+{
+    const QString &id = m_columns.at(column);
+    const auto found = std::ranges::find_if(variable.properties(), [&id](const SharedProperty &property) {
+        return property->id().compare(id, Qt::CaseInsensitive) == 0;
+    });
+    return found == variable.properties().end() || *found == variable.idProperty() ? SharedProperty()
+                                                                                   : *found;
+}
+
+//! The field as the property has to read it.
+QString VariableImport::textOf(const DesignerObject &variable, const SharedProperty &property,
+                               const QString &field) const
+{
+    static const QRegularExpression commaNumber(u"^[+-]?[0-9]*,[0-9]+$"_s);
+    const bool isNumber = (property->id() == "value"_L1 && NumberVariable::holdsNumber(variable))
+                          || dynamic_cast<const RealProperty *>(property.data());
+    return m_separator != u',' && isNumber && commaNumber.match(field).hasMatch()
+               ? QString(field).replace(u',', u'.')
+               : field;
+}
+
 //! Sets what the field of a column says; a field that the class has no property for must be empty.
 bool VariableImport::set(const Record &record, DesignerObject &copy, qsizetype column)
 {
-    const QString &id = m_columns.at(column);
     const QString &field = record.fields.at(column);
-    const SharedProperty property = id == "id"_L1 ? nullptr : copy.getProperty(id);
+    const SharedProperty property = propertyOf(copy, column);
     if (!property) {
-        return field.isEmpty() || fail(record, u"%1 has no property \"%2\"."_s.arg(copy.className(), id));
+        return field.isEmpty()
+               || fail(record, u"%1 has no property \"%2\"."_s.arg(copy.className(), m_columns.at(column)));
     }
+    const QString id = property->id();
     const QString before = property->valueString();
     if (before == field) {
         return true;
     }
-    QString text = field;
+    QString text = textOf(copy, property, field);
     if (field.isEmpty()) {
         if (isDefault(copy, property, before)) {
             return true;
@@ -138,9 +192,10 @@ bool VariableImport::set(const Record &record, DesignerObject &copy, qsizetype c
     const bool isNumber =
         id != "value"_L1 || !NumberVariable::lacksNumber(static_cast<const ProjectVariable &>(copy));
     if (!property->isValid() || !isNumber) {
-        m_invalidValues.append(u"line %1: %2.%3: %4"_s.arg(QString::number(record.line), record.name, id,
-                                                           isNumber ? property->errorString()
-                                                                    : u"\"%1\" is no number."_s.arg(text)));
+        m_invalidValues.append(
+            {record.line,
+             u"%1.%2: %3"_s.arg(record.name, id,
+                                isNumber ? property->errorString() : u"\"%1\" is no number."_s.arg(text))});
     }
     return true;
 }
@@ -153,7 +208,7 @@ void VariableImport::change(const Record &record, DesignerObject &variable)
         if (column == m_nameColumn || column == m_classColumn) {
             continue;
         }
-        const SharedProperty property = variable.getProperty(m_columns.at(column));
+        const SharedProperty property = propertyOf(variable, column);
         if (property && property->valueString() == record.fields.at(column)) {
             continue;
         }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/variables/exchange/CsvText.h"
 
 #include <QHash>
 
@@ -11,9 +12,13 @@ namespace Halvane::Corvex::Designer {
 
 /*! What a table of variables, as VariableExport writes it, would change in a project.
 
-    Variables are found by their names. One that is not there yet is made, for which the table has to tell the
+    Variables are found by their names. One that is not there yet is made; for that the table has to name its
    class. Properties without a column, and variables without a row, stay as they are. An empty field is the
-   empty text where the property holds just that, else the default of the class.
+    empty text where the property holds just that, else the default of the class.
+
+    Tables of spreadsheets are read, too: in UTF-8, or in UTF-16 with a mark at the start; with ",", ";" or
+   tabs; with column names in any case, and with empty columns at the end. Where the separator is not ",", a
+   number may have a decimal comma.
 */
 class VariableImport
 {
@@ -24,9 +29,9 @@ public:
         QString after;
     };
 
-    //! Compares the table \a csv, in UTF-8, with the variables of \a project, which stays as it is. The table
-    //! can be taken over when there are no problems.
-    VariableImport(const QByteArray &csv, const DesignerObject &project);
+    //! Compares the table \a csv with the variables of \a project, which stays as it is. A null \a separator
+    //! is found by the first line. The table can be taken over when there are no problems.
+    VariableImport(const QByteArray &csv, const DesignerObject &project, QChar separator = {});
 
     const QList<Change> &changes() const { return m_changes; }
     const std::vector<std::unique_ptr<DesignerObject>> &additions() const { return m_additions; }
@@ -34,23 +39,30 @@ public:
     std::vector<std::unique_ptr<DesignerObject>> takeAdditions() { return std::move(m_additions); }
     //! How many variables of the table are in the project already, as the table has them.
     qsizetype unchangedCount() const { return m_unchangedCount; }
-    //! What cannot be taken over, each with its line: "line 3: ...".
-    const QStringList &problems() const { return m_problems; }
-    //! Values that the model can hold and that are not valid, in the same form.
-    const QStringList &invalidValues() const { return m_invalidValues; }
+    //! What cannot be taken over.
+    const QList<CsvText::Problem> &problems() const { return m_problems; }
+    //! Values that the model can hold and that are not valid.
+    const QList<CsvText::Problem> &invalidValues() const { return m_invalidValues; }
+    //! Where the table has the variable; 0 for another one.
+    int lineOf(const QString &name) const { return m_lines.value(name); }
 
 private:
     struct Record;
 
-    bool readHeader(const QStringList &header);
-    void readRecord(const Record &record);
+    QString decode(const QByteArray &csv);
+    bool readHeader(QStringList header);
+    void readRecord(Record record);
     void change(const Record &record, DesignerObject &variable);
     void add(const Record &record);
+    SharedProperty propertyOf(const DesignerObject &variable, qsizetype column) const;
     bool isDefault(const DesignerObject &variable, const SharedProperty &property, const QString &text);
+    QString textOf(const DesignerObject &variable, const SharedProperty &property,
+                   const QString &field) const;
     bool set(const Record &record, DesignerObject &copy, qsizetype column);
     bool fail(const Record &record, const QString &problem);
 
     const DesignerObject &m_project;
+    QChar m_separator;
     QStringList m_columns;
     qsizetype m_nameColumn = -1;
     qsizetype m_classColumn = -1;
@@ -59,8 +71,8 @@ private:
     QList<Change> m_changes;
     std::vector<std::unique_ptr<DesignerObject>> m_additions;
     qsizetype m_unchangedCount = 0;
-    QStringList m_problems;
-    QStringList m_invalidValues;
+    QList<CsvText::Problem> m_problems;
+    QList<CsvText::Problem> m_invalidValues;
 };
 
 } // namespace Halvane::Corvex::Designer
