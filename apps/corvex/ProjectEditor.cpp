@@ -370,9 +370,6 @@ bool ProjectEditor::rename(DesignerObject &item, const QString &name)
     if (!isScreen && !isVariable && !kindCast<Element>(&item)) {
         return fail(u"\"%1\" cannot be renamed."_s.arg(item.objectPath()));
     }
-    if (const QString reason = PropertyValidators::nameError(&item, name); !reason.isEmpty()) {
-        return fail(reason);
-    }
     if (isScreen) {
         return push(new RenameScreen(&item, name));
     }
