@@ -126,9 +126,11 @@ bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
     m_project = create();
     call.terminal().showProgress(u"waiting for others that work on %1"_s.arg(m_path));
     using Kind = Common::FolderLock::Kind;
+    // Nobody else knows the folder of a project from standard input.
     const bool isLocked =
         m_project
-        && m_project->lockFiles(file, use == Use::Change ? Kind::Exclusive : Kind::Shared, longestWait);
+        && (m_input
+            || m_project->lockFiles(file, use == Use::Change ? Kind::Exclusive : Kind::Shared, longestWait));
     if (isLocked && !m_project->recoveryNote().isEmpty()) {
         call.terminal().printError(Terminal::oneLine(u"%1: %2"_s.arg(m_path, m_project->recoveryNote())));
     }

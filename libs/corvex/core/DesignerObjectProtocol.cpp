@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The change protocol of DesignerObject: the only ways in which the model changes.
-#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObjectData.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/ModelObserver.h"
@@ -111,22 +110,11 @@ DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &pr
 
 bool DesignerObject::canBeStored(DesignerProperty &property, const QString &value)
 {
-    const qsizetype position = XmlText::indexOfUnstorable(value);
-    const bool mayBeLong = value.size() > XmlLimits::longestValue / XmlText::longestPerUnit;
-    if (mayBeLong && XmlText::attributeSize(value) > XmlLimits::longestValue) {
-        property.setErrorString(Common::LocalizationHelper::coreString(
-            u"The value is longer than 16 MB in a file. Please shorten it."_s));
-        return false;
+    const QString problem = XmlText::storageProblem(value);
+    if (!problem.isEmpty()) {
+        property.setErrorString(problem);
     }
-    if (position < 0) {
-        return true;
-    }
-    property.setErrorString(
-        Common::LocalizationHelper::coreString(
-            u"The character U+%1 at position %2 cannot be stored. Please remove it."_s)
-            .arg(QString::number(value.at(position).unicode(), 16).toUpper().rightJustified(4, u'0'),
-                 QString::number(position + 1)));
-    return false;
+    return problem.isEmpty();
 }
 
 void DesignerObject::revalidate(const SharedProperty &property)

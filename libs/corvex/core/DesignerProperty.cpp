@@ -5,6 +5,7 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/DesignerPropertyState.h"
 #include "corvex/core/EditorView.h"
+#include "corvex/core/XmlText.h"
 #include "corvex/core/properties/FormText.h"
 
 using namespace Qt::StringLiterals;
@@ -12,6 +13,9 @@ using namespace Qt::StringLiterals;
 namespace Halvane::Corvex::Designer {
 
 namespace {
+
+//! A message quotes no more of a text.
+constexpr qsizetype longestQuote = 80;
 
 const ItemList &noItems()
 {
@@ -277,6 +281,9 @@ bool DesignerProperty::canRead(const QString &text)
 
 QString DesignerProperty::refusalOf(const QString &text)
 {
+    if (const QString problem = XmlText::storageProblem(text); !problem.isEmpty()) {
+        return problem;
+    }
     bool isGood = false;
     const bool isRead = judgeText(text, isGood);
     const QString reason = errorString();
@@ -286,7 +293,8 @@ QString DesignerProperty::refusalOf(const QString &text)
     }
     const QString range = descriptor().range.toString();
     const QString form = range.isEmpty() ? formText() : u"%1 %2"_s.arg(formText(), range);
-    return Common::LocalizationHelper::coreString(u"%1 takes %2, not \"%3\"."_s).arg(id(), form, text);
+    return Common::LocalizationHelper::coreString(u"%1 takes %2, not \"%3\"."_s)
+        .arg(id(), form, text.size() > longestQuote ? text.first(longestQuote) + u'\u2026' : text);
 }
 
 QString DesignerProperty::formText() const

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/XmlText.h"
 
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/XmlLimits.h"
+
 #include <algorithm>
 #include <array>
+
+using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer::XmlText {
 
@@ -75,6 +80,24 @@ qsizetype indexOfUnstorable(QStringView text)
         }
     }
     return -1;
+}
+
+QString storageProblem(const QString &value)
+{
+    using Common::LocalizationHelper;
+    const bool mayBeLong = value.size() > XmlLimits::longestValue / longestPerUnit;
+    if (mayBeLong && attributeSize(value) > XmlLimits::longestValue) {
+        return LocalizationHelper::coreString(
+            u"The value is longer than 16 MB in a file. Please shorten it."_s);
+    }
+    const qsizetype position = indexOfUnstorable(value);
+    if (position < 0) {
+        return {};
+    }
+    return LocalizationHelper::coreString(
+               u"The character U+%1 at position %2 cannot be stored. Please remove it."_s)
+        .arg(QString::number(value.at(position).unicode(), 16).toUpper().rightJustified(4, u'0'),
+             QString::number(position + 1));
 }
 
 char *putAttribute(char *out, QStringView text)

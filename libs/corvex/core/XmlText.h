@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 #include <QStringView>
 
 namespace Halvane::Corvex::Designer::XmlText {
@@ -9,6 +10,9 @@ namespace Halvane::Corvex::Designer::XmlText {
 //! Where the first character stands that no XML file can hold (a control character, half a surrogate pair,
 //! U+FFFE, U+FFFF); -1 when all can be stored.
 qsizetype indexOfUnstorable(QStringView text);
+
+//! Why no file can hold \a value, for the user: a character of that kind, or its size. Empty when one can.
+QString storageProblem(const QString &value);
 
 //! How many bytes putAttribute() writes at most for a UTF-16 unit.
 constexpr qsizetype longestPerUnit = 6;

@@ -71,9 +71,9 @@ TEST(CommandLine, refusesWrongUsage)
         {{u"--versions"_s}, u"There is no verb \"--versions\". \"corvex help\" lists them all."_s},
         {{u"help"_s, u"me"_s}, u"There is no verb \"me\". \"corvex help\" lists them all."_s},
         {{u"info"_s}, u"\"info\" needs more arguments: corvex info FILE. \"corvex help info\" tells more."_s},
-        {{u"check"_s, u"a"_s, u"b c"_s},
+        {{u"info"_s, u"a"_s, u"b c"_s},
          u"\"b c\" is one argument too many. Put quotes around an argument with blanks. \"corvex help "
-         u"check\" "
+         u"info\" "
          "tells more."_s},
         {{u"info"_s, u"--colour"_s, u"x"_s},
          u"Unknown option 'colour'. Put \"--\" before an argument that begins with \"-\". \"corvex help "

@@ -73,7 +73,7 @@ TEST(JsonOutcome, isOneObjectForEveryVerbAndEveryEnd)
         {u"rename %1 Main.titel note"_s, 2, u"errors"_s},
         {u"rename none a b"_s, 3, u"errors"_s},
         {u"build %1 -o out"_s, 0, u"files"_s},
-        {u"build empty.kdproj -o elsewhere"_s, 1, u"problems"_s},
+        {u"build empty.kdproj -o ../elsewhere"_s, 1, u"problems"_s},
         {u"build %1"_s, 2, u"errors"_s},
         {u"build %1 -o good"_s, 3, u"errors"_s},
         {u"preview %1 --shot pictures"_s, 0, u"output"_s},
