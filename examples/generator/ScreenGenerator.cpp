@@ -2,7 +2,9 @@
 #include "ScreenGenerator.h"
 
 #include "corvex/core/DesignerFactory.h"
+#include "corvex/hardware/DeviceChannels.h"
 #include "corvex/project/Element.h"
+#include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/values/BorderInfo.h"
 #include "corvex/values/ListInfo.h"
@@ -171,11 +173,20 @@ void ScreenGenerator::addOneOf(const QList<Share> &shares)
 {
     const Share &share = draw(shares);
     const QString className = QString::fromLatin1(share.className);
-    if (&shares == &hardware && ++m_channels[className] > mostChannels) {
+    if (&shares == &hardware && ++m_channels[className] > channelCount(className)) {
         addVisual(m_screen, 1, deepestGroup);
         return;
     }
     (this->*share.fill)(addElement(m_screen, className));
+}
+
+//! How many elements of a class one screen can have, so that each has a channel of the model.
+qsizetype ScreenGenerator::channelCount(const QString &className) const
+{
+    if (const DeviceChannels *channels = DeviceChannels::of(className)) {
+        return channels->available(*m_builder.project().configurationObject()).size();
+    }
+    return className == "EthernetPort"_L1 ? 1 : mostChannels;
 }
 
 void ScreenGenerator::set(DesignerObject *element, const char *propertyId, const QString &value)

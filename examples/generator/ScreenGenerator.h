@@ -43,6 +43,7 @@ private:
     //! Adds one element, or a group with what is in it. \return how many elements came in.
     int addVisual(Designer::DesignerObject *owner, int room, int depth);
     int addGroup(Designer::DesignerObject *owner, int room, int depth);
+    qsizetype channelCount(const QString &className) const;
     void addOneOf(const QList<Share> &shares);
     const Share &draw(const QList<Share> &shares);
 
