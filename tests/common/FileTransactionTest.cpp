@@ -156,6 +156,37 @@ TEST_F(FileTransactionTest, WhatAUserDidSinceStays)
     EXPECT_EQ(now.value(u"P/"_s + pump + u".tmp1"_s), "mine too");
 }
 
+TEST_F(FileTransactionTest, AJournalOfAStrangerReachesNothingOutside)
+{
+    write(u"outside/victim"_s, "victim");
+    write(u"P/.corvex-edit/evil"_s, "evil");
+    write(u"P/.corvex-edit/draft"_s, "evil");
+    ASSERT_TRUE(QFile::link(path(u"outside"_s), path(u"P/way"_s)));
+    ASSERT_TRUE(QFile::link(path(u"outside/victim"_s), path(u"P/Link.proj"_s)));
+    const QByteArray digest = FileHelper::md5(path(u"outside/victim"_s)).toLatin1();
+    const QByteArray absolute = path(u"outside/victim"_s).toUtf8();
+    const QByteArray lines[] = {
+        R"({"file":"../outside/victim","old":"evil"})",
+        R"({"file":"Images/../../outside/victim","old":"evil"})",
+        R"({"file":"way/victim","old":"evil"})",
+        R"({"file":")" + absolute + R"(","old":"evil"})",
+        R"({"file":"../outside/victim","new":")" + digest + R"("})",
+        R"({"file":"Link.proj","removed":{}})",
+        R"({"file":"P.proj","removed":{"../outside/victim":")" + digest + R"("}})",
+        R"({"folder":"../outside/taken"}
+{"renamed":"P"})",
+        R"({"made":"../outside"})",
+    };
+    for (const QByteArray &line : lines) {
+        write(u"P/.corvex-edit/journal"_s, line + '\n');
+        EXPECT_NE(FileTransaction::recover(path(u"P"_s)), FileTransaction::Recovery::Finished) << line.data();
+        EXPECT_EQ(files().value(u"outside/victim"_s), "victim") << line.data();
+        EXPECT_EQ(files().value(u"P/P.proj"_s), "old") << line.data();
+        write(u"P/.corvex-edit/evil"_s, "evil");
+        write(u"P/.corvex-edit/draft"_s, "evil");
+    }
+}
+
 TEST_F(FileTransactionTest, WhoWorksInAFolderIsSeen)
 {
     using Kind = FolderLock::Kind;

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +20,12 @@ namespace {
 
 const QString privateFolder = u".corvex-edit"_s;
 const QString journalName = u"journal"_s;
+
+//! Whether it is the name of an entry of a folder, and no path.
+bool isSingleName(const QString &name)
+{
+    return !name.isEmpty() && name != "."_L1 && name != ".."_L1 && !name.contains(u'/');
+}
 
 } // namespace
 
@@ -52,8 +59,44 @@ void FileJournal::read()
         return;
     }
     for (QByteArray line = file.readLine(); line.endsWith('\n'); line = file.readLine()) {
-        take(QJsonDocument::fromJson(line).object());
+        if (const QJsonObject entry = QJsonDocument::fromJson(line).object(); staysInside(entry)) {
+            take(entry);
+        }
     }
+}
+
+bool FileJournal::staysInside(const QJsonObject &line) const
+{
+    for (const QLatin1StringView key : {"folder"_L1, "renamed"_L1, "old"_L1}) {
+        const QString name = line[key].toString();
+        if (line.contains(key) && !isSingleName(name) && (key != "old"_L1 || !name.isEmpty())) {
+            return false;
+        }
+    }
+    for (const QLatin1StringView key : {"file"_L1, "made"_L1}) {
+        if (line.contains(key) && !isInside(line[key].toString())) {
+            return false;
+        }
+    }
+    const QStringList removed = line["removed"_L1].toObject().keys();
+    // The committed file is written through a link.
+    const QFileInfo committed(pathOf(line["file"_L1].toString()));
+    const bool leadsOn = line.contains("removed"_L1) && committed.isSymLink();
+    return std::ranges::all_of(removed, [this](const QString &name) { return isInside(name); })
+           && (!leadsOn
+               || committed.canonicalFilePath().startsWith(QFileInfo(m_folder).canonicalFilePath() + u'/'));
+}
+
+//! Whether a path relative to the folder names something in it, also when folders on the way are links.
+bool FileJournal::isInside(const QString &name) const
+{
+    if (name.isEmpty() || QDir::cleanPath(name) != name || !QDir::isRelativePath(name)
+        || !isSingleName(name.section(u'/', 0, 0))) {
+        return false;
+    }
+    const QString top = QFileInfo(m_folder).canonicalFilePath();
+    const QString folder = QFileInfo(QFileInfo(pathOf(name)).path()).canonicalFilePath();
+    return folder.isEmpty() || folder == top || folder.startsWith(top + u'/');
 }
 
 void FileJournal::take(const QJsonObject &line)

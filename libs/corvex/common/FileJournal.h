@@ -28,7 +28,8 @@ public:
     static bool isThere(const QString &folder);
     //! Begins a new one, whose transaction is not committed.
     bool begin();
-    //! Reads what is there. What was cut off at the end never came about.
+    /*! Reads what is there. What was cut off at the end never came about. Lines that lead out of the folder
+       are not of this program, which writes none: a journal may have come with somebody else's project. */
     void read();
     //! Removes it with all that the transaction has kept.
     bool remove() const;
@@ -58,6 +59,8 @@ public:
 private:
     bool append(const QJsonObject &line);
     void take(const QJsonObject &line);
+    bool staysInside(const QJsonObject &line) const;
+    bool isInside(const QString &name) const;
 
     QString m_folder;
     QString m_folderName;
