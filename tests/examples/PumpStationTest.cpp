@@ -7,7 +7,6 @@
 
 #include "ExampleTest.h"
 #include "PumpStation.h"
-#include "support/QmlSyntax.h"
 
 #include <QFontMetricsF>
 
@@ -111,14 +110,6 @@ TEST_F(PumpStationTest, ItsTourExpectsEachBinding)
         }
     }
     EXPECT_GT(bindings, 20);
-}
-
-TEST_F(PumpStationTest, ItsScreensParse)
-{
-    const std::unique_ptr<Project> project = load(projectFile);
-    for (const DesignerObject *screen : project->screens()->listItems()) {
-        EXPECT_EQ(qmlSyntaxErrors(screen->toQml(0)), QString()) << qPrintable(screen->getIdName());
-    }
 }
 
 //! Everything is on the screen, and each text fits into its place and lies whole on what is behind it.

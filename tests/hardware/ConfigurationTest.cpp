@@ -13,7 +13,6 @@
 
 using namespace Qt::StringLiterals;
 using Halvane::Corvex::Common::ConfigurationInfo;
-using Halvane::Corvex::Common::EnumHelper;
 using Halvane::Corvex::Common::LocalizationHelper;
 
 namespace Halvane::Corvex::Designer {
@@ -138,38 +137,6 @@ TEST_F(ConfigurationTest, switchOfChipSelect)
     EXPECT_FALSE(ChannelList(configuration->SPIChipSelect()->valueString()).isAnyUsed());
 }
 
-TEST_F(ConfigurationTest, showsWhatIsThere)
-{
-    const auto configuration = make(u"VTR 1"_s);
-    EXPECT_FALSE(isVisible(configuration->digitalInputOutputs()));
-    const struct
-    {
-        const SharedProperty &property;
-        QString value;
-        bool visible;
-    } rows[] = {
-        {configuration->digitalInputOutputs(), u"UNUSED, INPUT"_s, true},
-        {configuration->digitalInputOutputs(), u"UNUSED, UNUSED"_s, false},
-        {configuration->pwmOutputs(), u"UNUSED"_s, false},
-        {configuration->pwmOutputs(), u"OUTPUT"_s, true},
-        {configuration->analogInputs(), u"UNUSED"_s, false},
-        {configuration->alarmOutputs(), u"UNUSED"_s, false},
-        {configuration->serialCOMPorts(), u"UNUSED"_s, false},
-        {configuration->serialCOMPorts(), u"COMTYPE"_s, true},
-        {configuration->compatibleModels(), u" | "_s, false},
-        {configuration->compatibleModels(), u"A|  | B |"_s, true},
-        {configuration->enablePassword(), u"true"_s, true},
-    };
-    for (const auto &row : rows) {
-        set(*configuration, row.property, row.value);
-        EXPECT_EQ(isVisible(row.property), row.visible) << qPrintable(row.property->id());
-    }
-    EXPECT_TRUE(isVisible(configuration->password()));
-    EXPECT_FALSE(isVisible(configuration->uploadPassword()));
-    EXPECT_EQ(configuration->allCompatibleModels(), (QStringList{u"VTR 1"_s, u"A"_s, u"B"_s}));
-    EXPECT_EQ(configuration->url()->id(), u"url"_s);
-}
-
 TEST_F(ConfigurationTest, aFileIsReadAsItStands)
 {
     // In conflict with itself: to be reported, not to be mended behind the user's back.
@@ -208,9 +175,6 @@ TEST_F(ConfigurationTest, recordCarriesEverything)
     EXPECT_EQ(info.displaySize(), QSize(480, 272));
     EXPECT_EQ(info.colorDepth(), 32);
     EXPECT_EQ(info.pwmFrequency(), (QMap<int, float>{{1, 1000.0F}, {2, 0.1F}, {3, 16777216.0F}, {4, 0.0F}}));
-    EXPECT_EQ(info.serialRS485Ports().value(4), EnumHelper::DIRECTION);
-    EXPECT_EQ(info.spiChipSelect().value(9), EnumHelper::CSPIN);
-    EXPECT_EQ(info.serialCOMPorts().value(2), EnumHelper::UNAVAILABLE);
     EXPECT_EQ(info.password(), u"a, b|%1"_s);
     EXPECT_TRUE(info.uploadPassword().isEmpty());
 

@@ -1,8 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/LinkProperty.h"
-#include "corvex/core/properties/PointProperty.h"
-#include "corvex/core/properties/SizeProperty.h"
 #include "corvex/project/FileNameRules.h"
 
 #include "ProjectFixture.h"
@@ -116,76 +112,6 @@ TEST_F(ImageResourceTest, APictureIsCopiedInAndNeverWritten)
     EXPECT_TRUE(image->loadFile(path(u"elsewhere/photo.png"_s)));
     EXPECT_EQ(image->fileName(), u"photo.png"_s);
     EXPECT_FALSE(image->loadFile(path(u"nowhere.png"_s)));
-}
-
-namespace {
-
-//! Stands in for the element that a plug-in brings.
-class ImageElement : public DesignerObject
-{
-    CORVEX_CLASS_NAMES(ImageElement, DesignerObject)
-
-protected:
-    ObjectView *createGraphicsItem() override { return nullptr; }
-    bool initializeProperties() override
-    {
-        static const PropertyTable table{
-            row<LinkProperty>("source", "Source", ObjectLinkInfo()),
-            row<SizeProperty>("size", "Size", QSizeF(1, 1)),
-            row<PointProperty>("position", "Position", QPointF()),
-        };
-        return DesignerObject::initializeProperties() && addProperties(table);
-    }
-};
-
-class ImageElementFactory : public IDesignerFactory
-{
-public:
-    DesignerObject *createObject(const QString &, QObject *) override { return new ImageElement; }
-    GraphicsItem *createGraphicsItem(const QString &, DesignerObject *) override { return nullptr; }
-    PropertyEditor *createEditor(const QString &, QWidget *) override { return nullptr; }
-    Template *createTemplate(const QString &, QObject *) override { return nullptr; }
-    Wizard *createWizard(const QString &) override { return nullptr; }
-    QStringList objectNames() const override { return {}; }
-    QMap<QString, QString> classBaseNames() const override { return {}; }
-    QMap<QString, QString> classDisplayNames() const override { return {}; }
-    QStringList creatableNames() const override { return {u"Image"_s}; }
-    QStringList graphicsItemNames() const override { return {}; }
-    QStringList editorNames() const override { return {}; }
-    QStringList templateNames() const override { return {}; }
-    QStringList wizardNames() const override { return {}; }
-};
-
-} // namespace
-
-TEST_F(ImageResourceTest, ElementsFindTheirPictureAndThePictureItsElements)
-{
-    EXPECT_FALSE(ImageResource::createImageElement(u"a.png"_s, {}, {})) << "no plug-in is there yet";
-    static ImageElementFactory factory;
-    DesignerFactory::instance()->registerFactory(&factory);
-    const auto project = makeProject();
-    auto *image = static_cast<ImageResource *>(
-        add(*project, project->imageResources(), u"ImageResource"_s, u"a.png"_s));
-    std::unique_ptr<DesignerObject> element(ImageResource::createImageElement(u"a.png"_s, {40, 20}, {3, 4}));
-    ASSERT_TRUE(element);
-    EXPECT_FALSE(element->parent());
-    EXPECT_EQ(element->getProperty(u"size")->valueString(), u"height: 20; width: 40;"_s);
-    EXPECT_EQ(element->getProperty(u"position")->valueString(), u"x: 3; y: 4;"_s);
-    EXPECT_FALSE(ImageResource::imageElement(element.get())) << "it is in no project";
-    element->setProject(project.get());
-    EXPECT_EQ(ImageResource::imageElement(element.get()), image);
-
-    QSignalSpy changed(image, &ImageResource::linkedElementsChanged);
-    image->linkElement(element.get());
-    image->linkElement(element.get());
-    EXPECT_EQ(image->linkedElements(), QList<DesignerObject *>{element.get()});
-    image->unlinkElement(element.get());
-    image->linkElement(element.get());
-    element.reset();
-    EXPECT_FALSE(image->isLinked()) << "an element that is deleted leaves";
-    EXPECT_EQ(changed.size(), 4);
-    // The next test starts without the plug-in.
-    SetUpTestSuite();
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -327,13 +327,6 @@ TEST_F(ProjectTest, TheConfigurationIsUpdatedFromTheInstalledModel)
     EXPECT_TRUE(project->updateConfiguration()) << qPrintable(project->fileError());
     EXPECT_EQ(project->screens()->getListItemAtIndex(0)->getProperty(u"size")->valueString(),
               u"height: 600; width: 1024;"_s);
-
-    project->configurationObject()->setIdName(u"%1 unheard of"_s);
-    EXPECT_FALSE(project->updateConfiguration());
-    EXPECT_EQ(project->fileError(), u"The device model \"%1 unheard of\" is not available."_s);
-    project->changePropertyObjectValue(project->configuration(), nullptr, true);
-    EXPECT_FALSE(project->updateConfiguration());
-    EXPECT_EQ(project->fileError(), u"No valid configuration can be found."_s);
 }
 
 TEST_F(ProjectTest, ScreensAndTheDefaultScreenAreChecked)

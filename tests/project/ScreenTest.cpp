@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/core/PropertyTable.h"
-#include "corvex/core/PropertyValidators.h"
-#include "corvex/project/FilterElement.h"
 #include "corvex/project/GroupElement.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/ObjectLinkInfo.h"
 
 #include "ProjectFixture.h"
 
@@ -140,8 +136,6 @@ TEST_F(ScreenTest, NamesOfElementsObeyTheirRulesInOrder)
     } cases[] = {
         {u"Pump_1"_s, {}},
         {u"a"_s, format},
-        {u"1a"_s, format},
-        {u"_a"_s, format},
         {u"a b"_s, format},
         {u"a\nb"_s, format},
         {u"p\u00F6mp"_s, format},
@@ -221,31 +215,6 @@ TEST_F(ScreenTest, GroupsAndScreensSayWhatTheyLack)
         set(group, u"indexes", indexes);
         EXPECT_EQ(group->indexes()->errorString(), error) << qPrintable(indexes);
     }
-}
-
-TEST_F(ScreenTest, LinksFindWhatTheirScopeAndClassesAllow)
-{
-    GroupElement *group = addGroup(u"group"_s);
-    auto *filter = make<FilterElement>(u"FilterElement"_s, u"only"_s);
-    screen->addListPropertyItem(screen->filters(), filter);
-    const struct
-    {
-        ObjectLinkInfo link;
-        QList<DesignerObject *> found;
-    } cases[] = {
-        {{u"group"_s, u"Screen"_s, u"VisualElement"_s}, {group}},
-        {{u"group"_s, u"Screen"_s, u"FunctionElement"_s}, {}},
-        {{u"group"_s, u"Project"_s, QString()}, {}},
-        {{u"Main"_s, u"Project"_s, u"Screen"_s}, {screen}},
-        {{u"Main"_s, u"Screen"_s, u"Screen"_s}, {}},
-        {{u"only"_s, u"Screen"_s, QString()}, {}},
-        {{u"none"_s, QString(), QString()}, {}},
-    };
-    for (const auto &[link, found] : cases) {
-        EXPECT_EQ(link.findLinks(group, false), found) << qPrintable(link.toString());
-    }
-    EXPECT_EQ(ObjectLinkInfo(QString(), u"Project"_s, u"Screen"_s).findLinks(group, true),
-              QList<DesignerObject *>({screen}));
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -68,20 +68,4 @@ TEST(BACnetPropertyList, tellsTheFirstProblem)
     }
 }
 
-TEST(BACnetPropertyList, readsWhatItWrites)
-{
-    BACnetPropertyList list;
-    list.append({85, u"real"_s, {Info::VariableValue, Info::NumberData, u"speed"_s}});
-    list.append({28, u"character-string"_s, text(u"Pump; 1 > 0"_s)});
-    list.append({9000, u"boolean"_s, {Info::ObjectValue, Info::BooleanData, u"Main.lamp.visible"_s}});
-    bool ok = false;
-    const GeneralDataList terms(list.toTerms().toString(), &ok);
-    ASSERT_TRUE(ok);
-    EXPECT_EQ(terms.first().value(), u"present-value"_s);
-    BACnetPropertyList read;
-    QString error;
-    ASSERT_TRUE(read.read(terms, error)) << qPrintable(error);
-    EXPECT_EQ(read.entries(), list.entries());
-}
-
 } // namespace

@@ -43,21 +43,6 @@ QString problem(const GeneralDataList &terms)
 //! Where the fields are among the terms of the first parameter, behind the three of the head.
 enum Place { Pgn, Priority, Source, Spn, Units, Byte, Bit, Length, Offset, Minimum, Maximum, Scaling };
 
-TEST(CanParameterMap, readsWhatItWrites)
-{
-    const CanParameterMap map = engineController();
-    bool ok = false;
-    const GeneralDataList terms(map.toTerms().toString(), &ok);
-    ASSERT_TRUE(ok);
-    CanParameterMap read;
-    QString error;
-    ASSERT_TRUE(read.read(terms, error)) << qPrintable(error);
-    EXPECT_EQ(read.pgn(), 61444);
-    EXPECT_EQ(read.priority(), 3);
-    EXPECT_EQ(read.sourceAddress(), 0);
-    EXPECT_EQ(read.parameters(), map.parameters());
-}
-
 TEST(CanParameterMap, identifierHas29Bits)
 {
     CanParameterMap map = engineController();

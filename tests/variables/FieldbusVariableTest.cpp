@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/BACDeviceInfo.h"
 #include "corvex/values/GeneralDataList.h"
 
 #include "variables/VariableSupport.h"
@@ -10,62 +9,6 @@ using namespace Halvane::Corvex::Designer;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-TEST(FieldbusVariables, startWithTheUsualValues)
-{
-    const struct
-    {
-        const char *className;
-        const char *id;
-        const char *value;
-        const char *editor;
-        QVariantMap parameters;
-    } cases[] = {
-        {"FtpVariable", "type", "FTP", "EnumEditor", {{u"enumName"_s, u"FtpType"_s}}},
-        {"FtpVariable", "host", "", "PropertyEditor", {}},
-        {"FtpVariable", "fileRemove", "true", "BooleanEditor", {}},
-        // The key is misspelt on purpose: editors know it so.
-        {"FtpVariable",
-         "fileCount",
-         "5",
-         "IntegerEditor",
-         {{u"minimum"_s, 1}, {u"maximum"_s, 10}, {u"singelStep"_s, 1}}},
-        {"LogVariable",
-         "maxDataPoints",
-         "10000",
-         "RepeatTimerEditor",
-         {{u"minimum"_s, 5}, {u"maximum"_s, 100000}}},
-        {"LogVariable",
-         "behavior",
-         "OverwriteOldest",
-         "EnumEditor",
-         {{u"enumName"_s, u"RollOverBehavior"_s}}},
-        {"LogVariable",
-         "interval",
-         "5000",
-         "IntegerEditor",
-         {{u"minimum"_s, 3000}, {u"maximum"_s, 2147483647}, {u"singleStep"_s, 100}, {u"suffix"_s, u" ms"_s}}},
-        {"BACnetDevice", "objIdentifier", "0", "IntegerEditor", {{u"minimum"_s, 0}, {u"maximum"_s, 4194302}}},
-        {"BACnetDevice", "portNumber", "47808", "IntegerEditor", {{u"minimum"_s, 0}, {u"maximum"_s, 65535}}},
-        {"BACnetDevice", "bacnetType", "BACnetIP", "EnumEditor", {{u"enumName"_s, u"BACnetType"_s}}},
-        {"BACnetDevice", "isLocal", "true", "BooleanEditor", {}},
-        {"BACnetObject", "objectID", "0,0", "BACObjIdEditor", {}},
-    };
-    for (const auto &[className, id, value, editor, parameters] : cases) {
-        SCOPED_TRACE(id);
-        const auto variable = makeVariable(QString::fromLatin1(className));
-        const SharedProperty property = variable->getProperty(QString::fromLatin1(id));
-        ASSERT_TRUE(property);
-        EXPECT_EQ(property->valueString(), QString::fromLatin1(value));
-        EXPECT_EQ(property->editor(), QString::fromLatin1(editor));
-        EXPECT_EQ(property->editorParameters(), parameters);
-    }
-    bool ok = false;
-    const QString reqProps = makeVariable(u"BACnetDevice"_s)->getProperty(u"reqProps")->valueString();
-    EXPECT_EQ(Halvane::Corvex::Common::BACDeviceInfo(reqProps, &ok),
-              Halvane::Corvex::Common::BACDeviceInfo());
-    EXPECT_TRUE(ok);
-}
 
 TEST(FieldbusVariables, tellWhatIsMissing)
 {
@@ -85,16 +28,6 @@ TEST(FieldbusVariables, tellWhatIsMissing)
     EXPECT_EQ(errorOf(u"BACnetObject"_s, u"objectID", u"1023,4194302"_s), QString());
     EXPECT_EQ(errorOf(u"LogVariable"_s, u"interval", u"2999"_s),
               u"interval takes numbers from 3000 to 2147483647, not 2999."_s);
-}
-
-TEST(LogVariable, readsItsValueAsANumber)
-{
-    const auto variable = makeVariable(u"LogVariable"_s);
-    EXPECT_EQ(variable->toVariant(), QVariant(0));
-    change(*variable, u"value", u"2.5"_s);
-    EXPECT_EQ(variable->toVariant(), QVariant(2.5F));
-    change(*variable, u"value", u"much"_s);
-    EXPECT_FALSE(variable->toVariant().isValid());
 }
 
 TEST(FtpVariable, asksForTheUserWhereTheServerDoes)

@@ -66,18 +66,4 @@ TEST(ModbusMap, tellsTheFirstProblem)
               u"Element not set for data value at: 00001"_s);
 }
 
-TEST(ModbusMap, readsWhatItWrites)
-{
-    ModbusMap map(ModbusMap::Coil);
-    map.append({9, {Info::ObjectValue, Info::BooleanData, u"Main.group1.lamp.visible"_s}});
-    map.append({1, variable(u"alarm"_s)});
-    bool ok = false;
-    const GeneralDataList terms(map.toTerms().toString(), &ok);
-    ASSERT_TRUE(ok);
-    ModbusMap read(ModbusMap::Coil);
-    QString error;
-    EXPECT_TRUE(read.read(terms, error)) << qPrintable(error);
-    EXPECT_EQ(read.entries(), map.entries());
-}
-
 } // namespace
