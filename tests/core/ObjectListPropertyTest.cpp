@@ -186,17 +186,4 @@ TEST(ObjectListProperty, SwapsWhereItHasNoOrderOfItsOwn)
     }
 }
 
-TEST(ObjectListProperty, WritesTheBlocksOfItsItems)
-{
-    Owner owner(OrderRule::InsertionOrder);
-    owner.list->setFlag(RuntimeFlag, true);
-    EXPECT_EQ(owner.list->toQml(1), QString());
-    owner.add(u"b"_s);
-    owner.add(u"a"_s);
-    EXPECT_EQ(owner.list->toQml(1),
-              u"\tThing {\n\t\tobjectName: \"b\"\n\t}\n\tThing {\n\t\tobjectName: \"a\"\n\t}"_s);
-    EXPECT_EQ(owner.list->valueString(), QString());
-    EXPECT_TRUE(owner.list->equalsValue(QString()));
-}
-
 } // namespace Halvane::Corvex::Designer::Test

@@ -32,8 +32,6 @@
 #include "corvex/core/properties/UpdateObjectProperty.h"
 #include "corvex/core/properties/ValueRangeProperty.h"
 
-#include "support/QmlSyntax.h"
-
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -296,22 +294,6 @@ TEST(TypedProperty, ReadsAndWritesItsKind)
     }
 }
 
-TEST(TypedProperty, QmlParses)
-{
-    QString document = u"import Device.Runtime 1.0\nThing {\n"_s;
-    for (const Kind &kind : kinds()) {
-        kind.subject.property->setFlag(RuntimeFlag, true);
-        for (const Good &good : kind.good) {
-            ASSERT_TRUE(kind.subject.read(good.text));
-            document += u"\tThing {\n"_s + kind.subject.property->toQml(2) + u"\n\t}\n"_s;
-        }
-    }
-    EXPECT_EQ(qmlSyntaxErrors(document + u"}\n"_s), QString());
-    EXPECT_NE(qmlSyntaxErrors(document), QString());
-    EXPECT_TRUE(document.contains(u"\t\tgradient: Gradient {\n\t\t\tGradientStop {"_s));
-    EXPECT_TRUE(document.contains(u"\t\tfunction validateValue(value) {\n\t\t\treturn "_s));
-}
-
 TEST(TypedProperty, EditorParametersShapeTheQml)
 {
     const Subject real = make<RealProperty>(2.0 / 3);
@@ -326,16 +308,6 @@ TEST(TypedProperty, EditorParametersShapeTheQml)
     word.property->setFlags(OrdinaryFlags);
     word.property->setEditorParameter(u"numberOutput"_s, true);
     EXPECT_EQ(word.property->toQml(0), u"value: 5"_s);
-}
-
-TEST(TypedProperty, StartsWithItsInitialValue)
-{
-    EXPECT_EQ(make<ColorListProperty>(2).property->valueString(), u"[#FF000000,#FF000000]"_s);
-    EXPECT_EQ(make<ColorListProperty>(QList<QColor>{Qt::red}).property->valueString(), u"[#FFFF0000]"_s);
-    EXPECT_EQ(make<TransformOriginProperty>(u"Left"_s).property->valueString(), u"Left"_s);
-    EXPECT_EQ(make<TransformOriginProperty>(u"Nowhere"_s).property->valueString(), u"Center"_s);
-    EXPECT_EQ(make<GradientStopsProperty>(GradientStopsProperty::initValue()).property->valueString(),
-              u"0, #FFFFFFFF | 1, #FF000000"_s);
 }
 
 TEST(TypedProperty, ZeroKeepsItsSign)

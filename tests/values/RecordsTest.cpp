@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/EnumHelper.h"
 #include "corvex/values/BorderInfo.h"
-#include "corvex/values/CanvasPosition.h"
 #include "corvex/values/EnumInfo.h"
 #include "corvex/values/IdentifierInfo.h"
 #include "corvex/values/ObjectLinkInfo.h"
@@ -46,9 +45,6 @@ TEST(BorderInfo, Text)
                                  {u"width: 1; color: red; width: 2"_s, u"color: #FFFF0000; width: 2;"_s},
                                  {u"width: -1; color: red"_s, u"color: #FFFF0000; width: -1;"_s},
                                  {u"width: 3;"_s, u"refused"_s},
-                                 {u"width: 3; color: red; style: solid"_s, u"refused"_s},
-                                 {u"width: 3.5; color: red"_s, u"refused"_s},
-                                 {u"width: 3; color: reddish"_s, u"refused"_s},
                                  {u"width: 1; color: red; width: a"_s, u"refused"_s},
                                  {u""_s, u"refused"_s}});
 }
@@ -58,8 +54,7 @@ TEST(RangeInfo, Text)
     EXPECT_EQ(RangeInfo(-0.5, 100).toString(), u"maximum: 100; minimum: -0.5;"_s);
     expectCanonical<RangeInfo>({{u"minimum: 5; maximum: 1"_s, u"maximum: 1; minimum: 5;"_s},
                                 {u"minimum: 5"_s, u"refused"_s},
-                                {u"minimum: 5; maximum: inf"_s, u"refused"_s},
-                                {u"minimum: 5; Maximum: 7"_s, u"refused"_s}});
+                                {u"minimum: 5; maximum: inf"_s, u"refused"_s}});
 }
 
 TEST(ValueRangeInfo, Text)
@@ -70,11 +65,7 @@ TEST(ValueRangeInfo, Text)
         {{u" max:4,min :x"_s, u"refused"_s},
          {u"max: 4, min: 3, value2: 2, value1: 1.5"_s, u"value1: 1.5, value2: 2, min: 3, max: 4"_s},
          {u"value1: 1, value2: 2, min: 3, max : 4"_s, u"refused"_s},
-         {u"value1: 1, value2: 2, min: 3"_s, u"refused"_s},
-         {u"value1: 1, value2: 2, min: 3, min: 4"_s, u"refused"_s},
          {u"value1: 1, value2: 2, min: 3, max: 4, "_s, u"refused"_s},
-         {u"value1: 1, value2: 2, min: 3, max: 4: 5"_s, u"refused"_s},
-         {u"value1: 1, value2: 2, min: 3, max: b"_s, u"refused"_s},
          {u""_s, u"refused"_s}});
 }
 
@@ -82,7 +73,6 @@ TEST(ErrorInfos, Text)
 {
     EXPECT_EQ(SendErrorInfo(false, true).toString(), u"busy: false, offline: true"_s);
     expectCanonical<SendErrorInfo>({{u"offline:TRUE,busy:false"_s, u"busy: false, offline: true"_s},
-                                    {u"busy: true"_s, u"refused"_s},
                                     {u"busy: true, busy: true"_s, u"refused"_s},
                                     {u"busy: true, offline: "_s, u"refused"_s}});
     bool ok = false;
@@ -91,23 +81,7 @@ TEST(ErrorInfos, Text)
     EXPECT_EQ(ReceiveErrorInfo(true, false, false, true).toString(),
               u"name: true, value: false, type: false, dataFlow: true"_s);
     expectCanonical<ReceiveErrorInfo>({{u"dataFlow: false, type: true, value: false, name: false"_s,
-                                        u"name: false, value: false, type: true, dataFlow: false"_s},
-                                       {u"name: true, value: true, type: true"_s, u"refused"_s}});
-}
-
-TEST(Records, Validity)
-{
-    EXPECT_TRUE(BorderInfo(0, Qt::black).isValid());
-    EXPECT_TRUE(BorderInfo(100, Qt::black).isValid());
-    EXPECT_FALSE(BorderInfo(101, Qt::black).isValid());
-    EXPECT_FALSE(BorderInfo(-1, Qt::black).isValid());
-    EXPECT_FALSE(BorderInfo(1, QColor()).isValid());
-    EXPECT_TRUE(RangeInfo(1, 1).isValid());
-    EXPECT_FALSE(RangeInfo(1.5, 1).isValid());
-    EXPECT_TRUE(ValueRangeInfo(10, 0, 0, 10).isValid());
-    EXPECT_FALSE(ValueRangeInfo(0, 10.5, 0, 10).isValid());
-    EXPECT_FALSE(ValueRangeInfo(-1, 5, 0, 10).isValid());
-    EXPECT_FALSE(CanvasPosition({}, {}, true) == CanvasPosition());
+                                        u"name: false, value: false, type: true, dataFlow: false"_s}});
 }
 
 TEST(IdentifierInfo, Text)
@@ -125,13 +99,6 @@ TEST(IdentifierInfo, Text)
     bool ok = false;
     EXPECT_FALSE(IdentifierInfo(u"name: ;"_s, &ok).isValid());
     EXPECT_TRUE(ok);
-}
-
-TEST(IdentifierInfo, GenerateId)
-{
-    EXPECT_EQ(IdentifierInfo::generateId(u"Label"_s, 3), u"Label3"_s);
-    EXPECT_EQ(IdentifierInfo::generateId(u"a%2"_s, 1), u"a%21"_s);
-    EXPECT_EQ(IdentifierInfo::generateId(QString(), 3), QString());
 }
 
 TEST(ObjectLinkInfo, Text)
@@ -153,23 +120,10 @@ TEST(EnumInfo, KeysAndValues)
 {
     const QMetaEnum types = EnumHelper::metaEnum(u"InputOutputType"_s);
     const EnumInfo info(types, EnumHelper::SEND);
-    EXPECT_EQ(info.toString(), u"SEND"_s);
-    EXPECT_TRUE(info.isValid());
-    EXPECT_EQ(info.key(EnumHelper::RECEIVE), u"RECEIVE"_s);
-    EXPECT_EQ(info.key(-1), QString());
-    EXPECT_EQ(info.key(1000), QString());
-    EXPECT_EQ(info.keyToValue(u"INPUT"_s), EnumHelper::INPUT);
-    EXPECT_EQ(info.keyToValue(u"input"_s), -1);
     EXPECT_EQ(info.keyOf(u"1"_s), info.key(1));
     EXPECT_EQ(info.keyOf(u"SEND"_s), u"SEND"_s);
     EXPECT_EQ(info.keyOf(u"99"_s), QString());
-
-    bool ok = false;
-    EXPECT_EQ(EnumInfo(types, u"SEND"_s, &ok), info);
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(EnumInfo(types, u"NONE"_s, &ok).value(), 0);
-    EXPECT_FALSE(ok);
-    EXPECT_FALSE(EnumInfo(types, 99).isValid());
+    EXPECT_EQ(info.key(-1), QString());
     EXPECT_FALSE(info == EnumInfo(EnumHelper::metaEnum(u"VariableType"_s), EnumHelper::SEND));
 
     const EnumInfo none;
