@@ -55,6 +55,17 @@ protected:
     QTemporaryDir m_folder;
 };
 
+TEST_F(HardwareConfigurationsTest, needsTheFolder)
+{
+    EXPECT_FALSE(HardwareConfigurations::createInstance(m_folder.filePath(u"missing"_s)));
+    EXPECT_FALSE(HardwareConfigurations::createInstance(m_folder.path()));
+    EXPECT_FALSE(HardwareConfigurations::instance());
+    put(u"VTR 1/config.xml"_s, model("VTR 1"));
+    EXPECT_TRUE(HardwareConfigurations::createInstance(m_folder.path()));
+    EXPECT_EQ(HardwareConfigurations::instance()->installed()->configurationsPath(),
+              m_folder.filePath(u"Configurations"_s));
+}
+
 TEST_F(HardwareConfigurationsTest, passesOverWhatIsNoModel)
 {
     put(u"VTR 10/config.xml"_s, model("VTR 10"));

@@ -69,13 +69,54 @@ TEST(GeneralDataList, listOperations)
     EXPECT_TRUE(terms.insert(4, Info::VariableValue, Info::NumberData, u"a"_s));
     EXPECT_FALSE(terms.insert(6, a));
     EXPECT_FALSE(terms.insert(-1, a));
+    EXPECT_EQ(terms.indexOf(a), 0);
+    EXPECT_EQ(terms.indexOf(a, 1), 4);
+    EXPECT_EQ(terms.lastIndexOf(a), 4);
+    EXPECT_EQ(terms.count(a), 2);
+    EXPECT_TRUE(terms.startsWith(a) && terms.endsWith(a) && terms.contains(d));
+    EXPECT_TRUE(terms.replace(4, Info::VariableValue, Info::NumberData, u"d"_s));
     EXPECT_FALSE(terms.replace(5, a));
+    EXPECT_EQ(terms.takeFirst(), a);
+    EXPECT_EQ(terms.takeLast(), d);
+    terms[0] = d;
+    EXPECT_EQ(terms, (List(QList<Info>{d, c, d})));
+    EXPECT_EQ(terms.value(3), Info());
     List none;
     none.removeFirst();
     none.removeLast();
     EXPECT_EQ(none.takeLast(), Info());
     EXPECT_EQ(none.first(), none.last());
     EXPECT_FALSE(none.startsWith(Info()) || none.endsWith(Info()));
+}
+
+TEST(GeneralDataList, checksTermsAsTheKindAsked)
+{
+    struct Case
+    {
+        const char16_t *text;
+        std::array<const char *, 3>
+            passes; // value types, data types, values; a digit for each kind that passes
+    };
+    const Case cases[]{
+        {u"", {"01234", "01234", "01234"}},
+        {u"<0406a><0101&&><0406b>", {"0234", "0234", "0234"}},
+        {u"<0406a><0101+><0502sin>", {"034", "034", "03"}},
+        {u"<0406a><0205PI>", {"01234", "01234", "3"}},
+        {u"<030Ba.b><020Ca>", {"01234", "", "01234"}},
+        {u"<070D00><0406a>", {"0", "", "01234"}},
+    };
+    for (const Case &c : cases) {
+        const List terms = list(QString::fromUtf16(c.text));
+        for (int kind = 0; kind < 7; ++kind) {
+            const auto type = List::InfoType(kind);
+            const auto passes = [&](size_t check) {
+                return QByteArray(c.passes[check]).contains(char('0' + kind));
+            };
+            EXPECT_EQ(terms.isValidValueType(type), passes(0)) << qPrintable(terms.toString()) << ' ' << kind;
+            EXPECT_EQ(terms.isValidDataType(type), passes(1)) << qPrintable(terms.toString()) << ' ' << kind;
+            EXPECT_EQ(terms.isValidValue(type), passes(2)) << qPrintable(terms.toString()) << ' ' << kind;
+        }
+    }
 }
 
 TEST(GeneralDataList, translatesExpressions)
