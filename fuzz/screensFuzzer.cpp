@@ -48,16 +48,16 @@ public:
         for (const QString &className : {u"NumberVariable"_s, u"LogVariable"_s, u"BooleanVariable"_s}) {
             auto *variable = make<DesignerObject>(className);
             variable->setIdName(next());
-            project->addListPropertyItem(project->variables(), variable);
+            add(*project, project->variables(), variable);
         }
         auto *screen = make<Screen>(u"Screen"_s);
         screen->setIdName(u"Main"_s);
-        project->addListPropertyItem(project->screens(), screen);
+        add(*project, project->screens(), screen);
         for (const QString &className : DesignerFactory::instance()->creatableNames()) {
             std::unique_ptr<DesignerObject> element(make<DesignerObject>(className));
             if (element->isKindOfClass(u"Element"_s)) {
                 element->setIdName(next());
-                screen->addListPropertyItem(screen->elements(), element.release());
+                add(*screen, screen->elements(), element.release());
             }
         }
         for (DesignerObject *element : screen->elements()->listItems()) {
@@ -73,6 +73,14 @@ private:
         DesignerObject *object = DesignerFactory::instance()->createObject(className);
         object->setParent(nullptr);
         return static_cast<Object *>(object);
+    }
+
+    //! A second item of a name is refused.
+    static void add(DesignerObject &owner, const SharedProperty &list, DesignerObject *item)
+    {
+        if (!owner.addListPropertyItem(list, item)) {
+            delete item;
+        }
     }
 
     QString next() { return m_pieces[m_next++ % m_pieces.size()]; }
