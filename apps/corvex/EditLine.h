@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Tool {
 struct EditLine
 {
     QStringList words;
-    QString rest; //!< what follows the second word, as it stands
+    QString rest; //!< what follows the second word, unchanged
 
     //! False, with the reason for the user, when a quote is not closed or the line holds a NUL.
     bool read(const QString &line, QString &error);

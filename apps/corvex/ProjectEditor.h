@@ -102,7 +102,7 @@ private:
     bool m_hasFailed = false;
     bool m_isLost = false;  //!< where the history would be now depends on lines that failed
     QSet<QString> m_unmade; //!< names that failed lines would have given
-    QString m_rest;         //!< of the line behind its second word, as it stands
+    QString m_rest;         //!< of the line after its second word, unchanged
 };
 
 } // namespace Halvane::Corvex::Tool

@@ -88,7 +88,7 @@ constexpr ProblemKind kinds[] = {
      "A Modbus register is bound to a value of another type.",
      "Bind a boolean to coils and discrete inputs, and a number to registers."},
     {ProblemCode::LogUnfed, Warning, "log.unfed", "No element on any screen feeds this log.",
-     "A log variable takes its values from an element that logs data, and there is none.",
+     "A log variable takes its values from an element that logs data. No element feeds this one.",
      "Add such an element to a screen and link the log, or delete the log."},
     {ProblemCode::ExpressionInvalid, Error, "expression.invalid", nullptr,
      "An expression cannot be translated for the device.",

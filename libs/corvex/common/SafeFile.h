@@ -43,7 +43,7 @@ private:
 
     QString m_path;
     QString m_target; //!< what is replaced: the path, links followed
-    QString m_draft;  //!< the file beside it; empty when there is none
+    QString m_draft;  //!< the file beside it; empty while none is open
     QString m_failure;
 };
 

@@ -213,7 +213,7 @@ void ObjectXmlWriter::writeElement(const QDomElement &element, int level)
     }
 }
 
-//! Blanks and line ends between elements would become part of a text, so there are none.
+//! Blanks and line ends between elements would become part of a text, so none are written.
 void ObjectXmlWriter::writeContent(const QDomElement &element)
 {
     m_buffer.append('>');

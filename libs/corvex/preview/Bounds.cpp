@@ -65,7 +65,7 @@ void Bounds::set(const QString &folder)
     limit(RLIMIT_FSIZE, longestWritten);
     limit(RLIMIT_CORE, 0);
     std::signal(SIGXFSZ, SIG_IGN);            // writing fails instead
-    std::set_terminate([] { std::abort(); }); // with the words of whoever has started the process
+    std::set_terminate([] { std::abort(); }); // the parent process reports the error
     renew();
 }
 

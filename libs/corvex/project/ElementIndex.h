@@ -37,7 +37,7 @@ public:
 
     //! The hardware elements of that class with that channel.
     QList<DesignerObject *> withChannel(const QString &className, const QString &channel) const;
-    //! One of the class of \a element with that channel, and not the element itself; null when there is none.
+    //! Another element of the class of \a element with that channel; null if no other uses it.
     const DesignerObject *otherWithChannel(const DesignerObject *element, const QString &channel) const;
     void changeChannel(DesignerObject *element, const QString &oldChannel);
 

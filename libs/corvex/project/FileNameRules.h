@@ -19,7 +19,7 @@ public:
     static QString imageNameError(const QString &name);
     //! The same for the contents of a file that is to be the image of that name.
     static QString imageFileError(const QString &path, const QString &name);
-    //! Whether the two names tell of one image format.
+    //! Whether the two names have the same image format.
     static bool haveSameFormat(const QString &name, const QString &otherName);
 };
 

@@ -167,7 +167,7 @@ bool ChangeProperty::notifyFileMissing() const
 }
 
 //! Why the object cannot get the new name. Commands before this one in a composite may free the name yet, so
-//! that the rules are asked anew each time.
+//! that the rules are checked each time.
 QString ChangeProperty::nameError() const
 {
     if (!owner() || property() != owner()->idProperty()) {

@@ -128,7 +128,7 @@ void CanvasScene::selectItems(const QList<QGraphicsItem *> &items)
     });
     bool isChanged = false;
     {
-        // The scene would tell of every single item.
+        // Otherwise the scene emits a signal for each item.
         const QSignalBlocker blocker(this);
         for (QGraphicsItem *item : selectedItems()) {
             if (!wanted.contains(item)) {

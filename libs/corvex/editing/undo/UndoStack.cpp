@@ -54,7 +54,7 @@ void UndoStack::setIndex(int index)
     const int before = this->index();
     QUndoStack::setIndex(index);
     if (m_hasFailed && this->index() == before) {
-        // QUndoStack tells of moves alone.
+        // QUndoStack emits these only when the index moves.
         emit canRedoChanged(canRedo());
         emit redoTextChanged(redoText());
     }

@@ -59,7 +59,7 @@ public:
 signals:
     void activeItemChanged(Halvane::Corvex::Designer::DesignerObject *item);
     void savedChanged(bool saved);
-    //! A command was done or undone; of several, the last. Nothing tells that the history began anew.
+    //! A command was done or undone; of several, the last. Not emitted when a new history begins.
     void moved(const Halvane::Corvex::Designer::UndoCommand *command);
 
 private:
