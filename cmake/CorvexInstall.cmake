@@ -14,7 +14,7 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/libs/corvex" DESTINATION "${CMAKE_INSTA
   FILES_MATCHING PATTERN "*.h" PATTERN "corvex/preview" EXCLUDE
   PATTERN "DesignerObjectData.h" EXCLUDE PATTERN "DesignerPropertyState.h" EXCLUDE
   PATTERN "FileJournal.h" EXCLUDE PATTERN "FileRecovery.h" EXCLUDE
-  PATTERN "ObjectBuilder.h" EXCLUDE PATTERN "XmlHandler.h" EXCLUDE PATTERN "XmlInput.h" EXCLUDE PATTERN "XmlToken*.h" EXCLUDE)
+  PATTERN "ObjectBuilder.h" EXCLUDE PATTERN "HoldingLists.h" EXCLUDE PATTERN "PropertyBlock.h" EXCLUDE PATTERN "TextPool.h" EXCLUDE PATTERN "XmlCharacters.h" EXCLUDE PATTERN "XmlHandler.h" EXCLUDE PATTERN "XmlInput.h" EXCLUDE PATTERN "XmlToken*.h" EXCLUDE)
 install(EXPORT DesignerCoreTargets NAMESPACE Corvex:: DESTINATION "${package_path}")
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/DesignerCoreConfig.cmake.in"

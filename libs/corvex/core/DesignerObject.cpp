@@ -15,6 +15,23 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
+namespace {
+
+//! What the properties of one object of a class need, as seen at those that were made before.
+struct ClassNeeds
+{
+    size_t bytes = 0;
+    qsizetype count = 0;
+};
+
+ClassNeeds &needsOf(const QMetaObject *type)
+{
+    static thread_local QHash<const QMetaObject *, ClassNeeds> needs;
+    return needs[type];
+}
+
+} // namespace
+
 DesignerObject::DesignerObject(QObject *parent)
     : QObject(parent)
     , d(std::make_unique<Data>())
@@ -37,7 +54,7 @@ DesignerObject::~DesignerObject()
     if (ModelObserver *observer = ownerObject() ? ModelObserver::of(d->project) : nullptr) {
         observer->leaving(this);
     }
-    for (DesignerProperty *list : std::as_const(d->lists)) {
+    for (DesignerProperty *list : d->lists.all()) {
         list->forgetItem(this);
     }
     if (const SharedProperty slot = objectProperty()) {
@@ -81,11 +98,18 @@ void DesignerObject::addProperty(const SharedProperty &property)
 bool DesignerObject::addProperties(const PropertyTable &table)
 {
     const std::vector<qsizetype> &places = table.placesAmong(d->properties);
-    d->properties.reserve(d->properties.size() + qsizetype(table.m_rows.size()));
+    ClassNeeds &needs = needsOf(metaObject());
+    d->properties.reserve(std::max(needs.count, d->properties.size() + qsizetype(table.m_rows.size())));
+    if (PropertyBlock::isUsed() && !(d->block && d->block->hasRoom(table.m_blockSize))) {
+        const size_t size = d->block ? table.m_blockSize : std::max(table.m_blockSize, needs.bytes);
+        needs.bytes = d->block ? needs.bytes + size : size;
+        d->block = PropertyBlock::create(size);
+    }
     for (std::size_t i = 0; i < places.size(); ++i) {
         const PropertyRow &row = table.m_rows[i];
         if (places[i] < 0) {
-            addProperty(row.make(this));
+            const SharedProperty property = PropertyBlock::make(d->block, row, this);
+            addProperty(property ? property : row.make(this));
             continue;
         }
         if (!table.describeAnew(row, *d->properties.at(places[i]))) {
@@ -93,6 +117,7 @@ bool DesignerObject::addProperties(const PropertyTable &table)
         }
         noteFlags(*d->properties.at(places[i]));
     }
+    needs.count = std::max(needs.count, d->properties.size());
     return true;
 }
 
@@ -246,21 +271,21 @@ void DesignerObject::setListProperty(const SharedProperty &property)
     d->listProperty = property;
 }
 
-const QList<DesignerProperty *> &DesignerObject::listProperties() const
+QList<DesignerProperty *> DesignerObject::listProperties() const
 {
-    return d->lists;
+    return d->lists.all();
 }
 
 void DesignerObject::addListDesignerProperty(DesignerProperty *property)
 {
-    if (property && !d->lists.contains(property)) {
-        d->lists.append(property);
+    if (property) {
+        d->lists.add(property);
     }
 }
 
 void DesignerObject::takeListDesignerProperty(DesignerProperty *property)
 {
-    d->lists.removeOne(property);
+    d->lists.remove(property);
 }
 
 DesignerObject *DesignerObject::ownerObject() const

@@ -137,7 +137,7 @@ public:
     SharedProperty listProperty() const;
     void setListProperty(const SharedProperty &property);
     //! Every list that holds this object as an item, the owning one among them.
-    const QList<DesignerProperty *> &listProperties() const;
+    QList<DesignerProperty *> listProperties() const;
     //! Records a list that holds this object; one that is recorded already is ignored.
     void addListDesignerProperty(DesignerProperty *property);
     void takeListDesignerProperty(DesignerProperty *property);

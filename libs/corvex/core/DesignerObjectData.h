@@ -3,20 +3,23 @@
 #pragma once
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/core/HoldingLists.h"
+#include "corvex/core/PropertyBlock.h"
 
 namespace Halvane::Corvex::Designer {
 
 struct DesignerObject::Data
 {
     QList<SharedProperty> properties;
+    QSharedPointer<PropertyBlock> block; //!< where the next property goes; null before the first one
     SharedProperty id;
     QWeakPointer<DesignerProperty> listProperty;
-    QList<DesignerProperty *> lists;
+    HoldingLists lists;
     Project *project = nullptr;
     Screen *screen = nullptr;
     ObjectView *view = nullptr;
-    QStringList validationErrors;
-    bool mayHaveChildren = false; //!< false when no property is a list or an object
+    std::unique_ptr<QStringList> validationErrors; //!< null for none
+    bool mayHaveChildren = false;                  //!< false when no property is a list or an object
     bool isValid = true;
     bool validationErrorSet = false;
     bool validationDisabled = false;

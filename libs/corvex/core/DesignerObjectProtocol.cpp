@@ -128,7 +128,7 @@ void DesignerObject::revalidate(const SharedProperty &property)
 void DesignerObject::takeNewName(const QString &oldName)
 {
     setObjectName(getIdName());
-    for (DesignerProperty *list : std::as_const(d->lists)) {
+    for (DesignerProperty *list : d->lists.all()) {
         list->items().rekey(oldName, this);
         list->updateListItems();
     }
@@ -140,7 +140,7 @@ void DesignerObject::announceNewName(const QString &oldName, const QString &newN
     if (oldName.isEmpty() || newName.isEmpty()) {
         return;
     }
-    const QList<DesignerProperty *> lists = d->lists;
+    const QList<DesignerProperty *> lists = d->lists.all();
     for (DesignerProperty *list : lists) {
         list->updateItemIdName(oldName, newName);
     }

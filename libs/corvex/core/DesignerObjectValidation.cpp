@@ -53,7 +53,7 @@ void DesignerObject::updateValidity()
                 error.isEmpty() ? Common::LocalizationHelper::coreString(u"Unknown Error"_s) : error));
         }
     }
-    d->validationErrors = errors;
+    d->validationErrors = errors.isEmpty() ? nullptr : std::make_unique<QStringList>(errors);
     setValid(errors.isEmpty());
     if (errors.isEmpty() == d->validationErrorSet) {
         d->validationErrorSet = !errors.isEmpty();
@@ -77,7 +77,7 @@ void DesignerObject::setValid(bool valid)
     }
     d->isValid = valid;
     // Whoever hears of it may take this object out of its list.
-    const QList<DesignerProperty *> lists = d->lists;
+    const QList<DesignerProperty *> lists = d->lists.all();
     for (DesignerProperty *list : lists) {
         list->items().invalidCount += valid ? -1 : 1;
         list->parentObject()->childValidityChanged(*list);
@@ -100,7 +100,8 @@ void DesignerObject::childValidityChanged(DesignerProperty &property)
 
 const QStringList &DesignerObject::validationErrors() const
 {
-    return d->validationErrors;
+    static const QStringList none;
+    return d->validationErrors ? *d->validationErrors : none;
 }
 
 void DesignerObject::setValidationError(bool set)

@@ -45,6 +45,7 @@ DesignerProperty::DesignerProperty(DesignerObject *parent, const QString &id, co
     , m_descriptor(new PropertyDescriptor)
 {
     m_descriptor->id = id;
+    m_descriptor->utf8Id = id.toUtf8();
     m_descriptor->name = name;
     m_descriptor->editor = u"PropertyEditor"_s;
 }
@@ -75,6 +76,7 @@ void DesignerProperty::describe(Field PropertyDescriptor::*field, const std::typ
 void DesignerProperty::setId(const QString &id)
 {
     describe(&PropertyDescriptor::id, id);
+    describe(&PropertyDescriptor::utf8Id, id.toUtf8());
 }
 
 void DesignerProperty::setName(const QString &name)

@@ -211,6 +211,9 @@ private:
     const PropertyDescriptor &descriptor() const { return *m_descriptor; }
     //! The text of the value as long as it is the one that the property started with; else null.
     QString initialText() const { return m_isInitial ? m_descriptor->initialText : QString(); }
+    bool hasId(QByteArrayView utf8) const { return m_descriptor->utf8Id == utf8; }
+    //! Whether the property holds the value that it started with, and that is \a utf8.
+    bool holdsInitial(QByteArrayView utf8) const { return m_isInitial && m_descriptor->utf8Initial == utf8; }
     bool takeText(const QString &text);
     bool judgeText(const QString &text, bool &valid);
     template<class Field>

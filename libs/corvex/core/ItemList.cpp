@@ -14,7 +14,7 @@ bool ItemList::contains(const DesignerObject *item) const
 
 bool ItemList::bears(const DesignerObject *item, const QString &name) const
 {
-    return m_byName.contains(name, const_cast<DesignerObject *>(item));
+    return m_isIndexed ? m_byName.contains(name, item) : item->getIdName() == name && indexOf(item) >= 0;
 }
 
 qsizetype ItemList::indexOf(const DesignerObject *item) const
@@ -24,18 +24,40 @@ qsizetype ItemList::indexOf(const DesignerObject *item) const
     return isFirst ? 0 : m_items.lastIndexOf(const_cast<DesignerObject *>(item));
 }
 
+QList<DesignerObject *> ItemList::named(const QString &name) const
+{
+    if (m_isIndexed) {
+        return m_byName.find(name);
+    }
+    QList<DesignerObject *> found;
+    std::copy_if(m_items.begin(), m_items.end(), std::back_inserter(found),
+                 [&name](const DesignerObject *item) { return item->getIdName() == name; });
+    return found;
+}
+
 DesignerObject *ItemList::find(const QString &name) const
 {
-    const auto [first, last] = m_byName.equal_range(name);
-    if (first == last) {
-        return nullptr;
+    const QList<DesignerObject *> found = named(name);
+    if (found.size() < 2) {
+        return found.value(0);
     }
-    if (std::next(first) == last) {
-        return *first;
+    return *std::min_element(found.begin(), found.end(),
+                             [this](const DesignerObject *left, const DesignerObject *right) {
+                                 return indexOf(left) < indexOf(right);
+                             });
+}
+
+void ItemList::enterIndex(DesignerObject *item)
+{
+    constexpr qsizetype shortList = 8;
+    if (m_isIndexed) {
+        m_byName.insert(item);
+    } else if (m_items.size() > shortList) {
+        m_isIndexed = true;
+        for (DesignerObject *each : std::as_const(m_items)) {
+            m_byName.insert(each);
+        }
     }
-    return *std::min_element(first, last, [this](const DesignerObject *left, const DesignerObject *right) {
-        return indexOf(left) < indexOf(right);
-    });
 }
 
 ItemPlace ItemList::placeOf(const DesignerObject *item) const
@@ -60,7 +82,7 @@ void ItemList::shiftKept(qsizetype first, qsizetype by)
 void ItemList::insert(ItemPlace place, DesignerObject *item)
 {
     m_items.insert(place.index, item);
-    m_byName.insert(item->getIdName(), item);
+    enterIndex(item);
     invalidCount += item->isValid() ? 0 : 1;
     newestIndex = place.index;
     m_hasNewestComeIn = true;
@@ -108,11 +130,13 @@ void ItemList::keep(const KeptItem &kept)
 
 void ItemList::rekey(const QString &oldName, DesignerObject *item)
 {
-    const QString name = item->getIdName();
-    if (name == oldName || m_byName.remove(oldName, item) == 0) {
+    const bool isRenamed = item->getIdName() != oldName && (!m_isIndexed || m_byName.remove(oldName, item));
+    if (!isRenamed) {
         return;
     }
-    m_byName.insert(name, item);
+    if (m_isIndexed) {
+        m_byName.insert(item);
+    }
     if (isOrdered && newestIndex < 0) {
         newestIndex = indexOf(item);
         m_hasNewestComeIn = false;

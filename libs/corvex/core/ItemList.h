@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/core/NameIndex.h"
+
 #include <QByteArray>
 #include <QList>
-#include <QMultiHash>
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
@@ -28,7 +29,8 @@ struct ItemPlace
     qsizetype keptBefore = -1; //!< how many kept items come before it; -1 for all that its index allows
 };
 
-/*! The children of a list property: in order, and found by identifier name in constant time.
+/*! The children of a list property: in order, and found by identifier name in constant time. Most lists of a
+    project are short; those are walked and have no index.
 
     The list owns nothing. It does not learn of a new name by itself: rekey() tells it. Two items may bear one
     name, since the model stores bad names and marks them; find() then answers the first in list order.
@@ -48,7 +50,7 @@ public:
     ItemPlace placeOf(const DesignerObject *item) const;
     DesignerObject *find(const QString &name) const;
     //! How many items bear that name.
-    qsizetype countOf(const QString &name) const { return m_byName.count(name); }
+    qsizetype countOf(const QString &name) const { return named(name).size(); }
 
     //! The index of the place must be one of the list, or the one behind the last.
     void insert(ItemPlace place, DesignerObject *item);
@@ -96,11 +98,14 @@ public:
 private:
     qsizetype keptUpTo(qsizetype index) const;
     void shiftKept(qsizetype first, qsizetype by);
+    void enterIndex(DesignerObject *item);
+    QList<DesignerObject *> named(const QString &name) const;
 
     QList<DesignerObject *> m_items;
-    QMultiHash<QString, DesignerObject *> m_byName;
-    QList<KeptItem> m_kept;         //!< in list order
+    NameIndex m_byName; //!< of a list that was short so far it holds nothing
+    bool m_isIndexed = false;
     bool m_hasNewestComeIn = false; //!< the newest item is new to the list, not just to its name
+    QList<KeptItem> m_kept;         //!< in list order
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -48,27 +48,27 @@ void KeptItemRecorder::writeText()
     }
 }
 
-void KeptItemRecorder::open(const char *name, const char **attributes)
+void KeptItemRecorder::open(QByteArrayView name, std::span<const XmlAttribute> attributes)
 {
     writeText();
     endOpenTag();
     startLine();
     m_item.xml.append('<').append(name);
     bool isId = false;
-    for (; *attributes; attributes += 2) {
-        m_item.xml.append(' ').append(attributes[0]).append("=\"");
-        XmlText::appendAttribute(m_item.xml, QByteArrayView(attributes[1]));
+    for (const XmlAttribute &attribute : attributes) {
+        m_item.xml.append(' ').append(attribute.name).append("=\"");
+        XmlText::appendAttribute(m_item.xml, attribute.value);
         m_item.xml.append('"');
-        isId = isId || (qstrcmp(attributes[0], "name") == 0 && qstrcmp(attributes[1], "id") == 0);
-        if (isId && m_depth == propertyDepth && qstrcmp(attributes[0], "value") == 0) {
-            m_item.name = IdentifierInfo(QString::fromUtf8(attributes[1]), nullptr).name();
+        isId = isId || (attribute.name == "name" && attribute.value == "id");
+        if (isId && m_depth == propertyDepth && attribute.name == "value") {
+            m_item.name = IdentifierInfo(QString::fromUtf8(attribute.value), nullptr).name();
         }
     }
     m_isTagOpen = true;
     ++m_depth;
 }
 
-void KeptItemRecorder::close(const char *name)
+void KeptItemRecorder::close(QByteArrayView name)
 {
     writeText();
     --m_depth;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/core/ItemList.h"
+#include "corvex/core/XmlTokens.h"
 
 namespace Halvane::Corvex::Designer {
 
@@ -11,9 +12,8 @@ class KeptItemRecorder
 {
 public:
     void start(const QString &className);
-    //! \a attributes are names and values in turn, closed by null.
-    void open(const char *name, const char **attributes);
-    void close(const char *name);
+    void open(QByteArrayView name, std::span<const XmlAttribute> attributes);
+    void close(QByteArrayView name);
     //! Text between elements; blanks around it are dropped.
     void addText(QByteArrayView utf8) { m_text.append(utf8); }
     KeptItem take() { return std::exchange(m_item, {}); }

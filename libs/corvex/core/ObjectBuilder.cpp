@@ -16,24 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
-namespace {
-
-//! Property ids are short and plain; comparing in place saves a conversion for each of a million properties.
-bool equals(QStringView text, const char *utf8)
-{
-    for (const QChar character : text) {
-        if (character.unicode() >= 0x80) {
-            return text == QString::fromUtf8(utf8);
-        }
-        if (character.unicode() != static_cast<unsigned char>(*utf8++)) {
-            return false;
-        }
-    }
-    return *utf8 == 0;
-}
-
-} // namespace
-
 void ObjectBuilder::setRoot(DesignerObject *root)
 {
     m_root = root;
@@ -102,7 +84,7 @@ void ObjectBuilder::skip(const QString &message)
     push(Context::Skipped, nullptr);
 }
 
-void ObjectBuilder::startElement(const char *name, const char **attributes)
+void ObjectBuilder::startElement(QByteArrayView name, std::span<const XmlAttribute> attributes)
 {
     if (m_frames.size() >= XmlLimits::deepestNesting) {
         m_input.fail(u"Elements are nested deeper than %1."_s.arg(XmlLimits::deepestNesting));
@@ -139,7 +121,7 @@ void ObjectBuilder::startElement(const char *name, const char **attributes)
     }
 }
 
-void ObjectBuilder::openRoot(const char *name)
+void ObjectBuilder::openRoot(QByteArrayView name)
 {
     const QString className = QString::fromUtf8(name);
     if (!m_createsRoot && className != m_root->className()) {
@@ -170,62 +152,100 @@ void ObjectBuilder::forgetKeptItems()
     }
 }
 
-void ObjectBuilder::openInObject(const Frame &frame, const char *name)
+void ObjectBuilder::openInObject(const Frame &frame, QByteArrayView name)
 {
-    if (qstrcmp(name, "Properties") == 0) {
+    if (name == "Properties") {
         push(Context::Properties, frame.object);
     } else {
         skip(u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
     }
 }
 
-void ObjectBuilder::openInProperties(Frame &frame, const char *name, const char **attributes)
+void ObjectBuilder::openInProperties(Frame &frame, QByteArrayView name,
+                                     std::span<const XmlAttribute> attributes)
 {
-    DesignerObject *object = frame.object;
-    if (qstrcmp(name, "Property") != 0) {
-        skip(u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
-        return;
-    }
-    const char *id = nullptr;
-    const char *value = nullptr;
-    for (; *attributes; attributes += 2) {
-        if (qstrcmp(attributes[0], "name") == 0) {
-            id = attributes[1];
-        } else if (qstrcmp(attributes[0], "value") == 0) {
-            value = attributes[1];
-        } else {
-            note(ReadNote::Dropped,
-                 u"The attribute \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(attributes[0])));
-        }
-    }
+    QByteArrayView value;
     bool isRepeated = false;
-    const qsizetype index = id ? expectProperty(frame, id, &isRepeated) : -1;
-    if (index < 0 || !object->properties().at(index)->hasFlag(StoredFlag)) {
-        skip(id ? u"The property \"%1\" is not known."_s.arg(XmlTokenizer::excerpt(id))
-                : u"A property has no name."_s);
+    DesignerObject *object = frame.object;
+    const SharedProperty *property = takeProperty(frame, name, attributes, &value, &isRepeated);
+    if (!property) {
+        push(Context::Skipped, nullptr);
         return;
     }
-    if (isRepeated) {
-        note(ReadNote::Dropped, u"The property \"%1\" is here a second time; the later one counts."_s.arg(
-                                    QString::fromUtf8(id)));
-    }
-    push(Context::Property, object, object->properties().at(index));
+    push(Context::Property, object, *property);
     m_frames.last().isRepeated = isRepeated;
-    if (value && *value) {
-        Frame &opened = m_frames.last();
-        opened.isAnswered = !opened.property->isList() && !opened.property->isObject();
-        applyValue(opened, value);
+    if (!value.isEmpty()) {
+        m_frames.last().isAnswered = !(*property)->isList() && !(*property)->isObject();
+        applyValue(object, *property, value);
     }
 }
 
+//! Nearly all of a file is properties with nothing in them.
+void ObjectBuilder::emptyElement(QByteArrayView name, std::span<const XmlAttribute> attributes)
+{
+    if (m_frames.isEmpty() || m_frames.constLast().context != Context::Properties) {
+        startElement(name, attributes);
+        endElement(name);
+        return;
+    }
+    Frame &frame = m_frames.last();
+    QByteArrayView value;
+    bool isRepeated = false;
+    const SharedProperty *property = takeProperty(frame, name, attributes, &value, &isRepeated);
+    if (!property) {
+        return;
+    }
+    if (value.isEmpty()) {
+        frame.object->readEmptyValue(*property);
+    } else {
+        applyValue(frame.object, *property, value);
+    }
+}
+
+//! The property that an element names, with what is to be its value; null, with a note, when there is none.
+const SharedProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView name,
+                                                  std::span<const XmlAttribute> attributes,
+                                                  QByteArrayView *value, bool *isRepeated)
+{
+    if (name != "Property") {
+        note(ReadNote::Dropped, u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
+        return nullptr;
+    }
+    QByteArrayView id;
+    for (const XmlAttribute &attribute : attributes) {
+        if (attribute.name == "name") {
+            id = attribute.value;
+        } else if (attribute.name == "value") {
+            *value = attribute.value;
+        } else {
+            note(ReadNote::Dropped,
+                 u"The attribute \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(attribute.name)));
+        }
+    }
+    const qsizetype index = id.isNull() ? -1 : expectProperty(frame, id, isRepeated);
+    const SharedProperty *property = index < 0 ? nullptr : &frame.object->properties().at(index);
+    if (!property || !(*property)->hasFlag(StoredFlag)) {
+        note(ReadNote::Dropped, id.isNull()
+                                    ? u"A property has no name."_s
+                                    : u"The property \"%1\" is not known."_s.arg(XmlTokenizer::excerpt(id)));
+        return nullptr;
+    }
+    if (*isRepeated) {
+        note(ReadNote::Dropped, u"The property \"%1\" is here a second time; the later one counts."_s.arg(
+                                    QString::fromUtf8(id)));
+    }
+    return property;
+}
+
 //! The index of the property among those of the object; -1 for one that it does not have.
-qsizetype ObjectBuilder::expectProperty(Frame &frame, const char *id, bool *isRepeated)
+qsizetype ObjectBuilder::expectProperty(Frame &frame, QByteArrayView id, bool *isRepeated)
 {
     const QList<SharedProperty> &properties = frame.object->properties();
     const qsizetype count = properties.size();
     for (qsizetype i = 0; i < count; ++i) {
-        const qsizetype index = (frame.nextProperty + i) % count;
-        if (equals(properties.at(index)->id(), id)) {
+        const qsizetype place = frame.nextProperty + i;
+        const qsizetype index = place < count ? place : place - count;
+        if (properties.at(index)->hasId(id)) {
             frame.nextProperty = index + 1;
             if (size_t(index) < frame.known.size()) {
                 *isRepeated = frame.known.test(size_t(index));
@@ -237,32 +257,32 @@ qsizetype ObjectBuilder::expectProperty(Frame &frame, const char *id, bool *isRe
     return -1;
 }
 
-void ObjectBuilder::applyValue(const Frame &frame, const char *value)
+void ObjectBuilder::applyValue(DesignerObject *object, const SharedProperty &property, QByteArrayView value)
 {
-    const SharedProperty &property = frame.property;
     if (property->isList() || property->isObject()) {
         note(ReadNote::Dropped, u"The property \"%1\" takes no value."_s.arg(property->id()));
         return;
     }
     // Most values of a file are those that their properties start with.
-    if (const QString initial = property->initialText(); !initial.isEmpty() && equals(initial, value)) {
+    if (property->holdsInitial(value)) {
         return;
     }
-    const QString text = QString::fromUtf8(value);
-    const DesignerObject::ValueChange change = frame.object->changeValue(property, text);
+    const QString text = m_texts.text(value);
+    const SharedProperty held = property; // A hook may add properties.
+    const DesignerObject::ValueChange change = object->changeValue(held, text);
     // "Equal" is also said of a text that does not parse; only a second parse tells the two apart.
     if (change == DesignerObject::ValueChange::Refused
-        || (change == DesignerObject::ValueChange::None && !property->convertToValue(text))) {
+        || (change == DesignerObject::ValueChange::None && !held->convertToValue(text))) {
         note(ReadNote::Dropped,
              u"The value \"%1\" of the property \"%2\" cannot be read; it stays \"%3\"."_s.arg(
-                 text.left(80), property->id(), property->valueString()));
+                 text.left(80), held->id(), held->valueString()));
     }
 }
 
-void ObjectBuilder::openInProperty(Frame &frame, const char *name)
+void ObjectBuilder::openInProperty(Frame &frame, QByteArrayView name)
 {
-    const bool opensList = qstrcmp(name, "List") == 0 && frame.property->isList();
-    const bool opensObject = qstrcmp(name, "Object") == 0 && frame.property->isObject();
+    const bool opensList = name == "List" && frame.property->isList();
+    const bool opensObject = name == "Object" && frame.property->isObject();
     if ((!opensList && !opensObject) || frame.isAnswered) {
         skip(u"The element \"%1\" is not known in the property \"%2\"."_s.arg(XmlTokenizer::excerpt(name),
                                                                               frame.property->id()));
@@ -306,7 +326,8 @@ DesignerObject *ObjectBuilder::makeObject(const QString &className)
     return object;
 }
 
-void ObjectBuilder::openItem(const Frame &frame, const char *name, const char **attributes)
+void ObjectBuilder::openItem(const Frame &frame, QByteArrayView name,
+                             std::span<const XmlAttribute> attributes)
 {
     const QString className = QString::fromUtf8(name);
     if (DesignerObject *item = makeObject(className)) {
@@ -321,7 +342,7 @@ void ObjectBuilder::openItem(const Frame &frame, const char *name, const char **
     push(Context::Kept, frame.object, frame.property);
 }
 
-void ObjectBuilder::openObjectValue(const char *name)
+void ObjectBuilder::openObjectValue(QByteArrayView name)
 {
     const QString className = QString::fromUtf8(name);
     if (DesignerObject *object = makeObject(className)) {
@@ -331,7 +352,7 @@ void ObjectBuilder::openObjectValue(const char *name)
     }
 }
 
-void ObjectBuilder::endElement(const char *name)
+void ObjectBuilder::endElement(QByteArrayView name)
 {
     if (m_frames.isEmpty()) {
         return;
@@ -415,7 +436,7 @@ void ObjectBuilder::enableValidation(DesignerObject *object)
     }
 }
 
-void ObjectBuilder::characters(QByteArrayView text, bool isBlank)
+void ObjectBuilder::characters(QByteArrayView text)
 {
     if (m_frames.isEmpty()) {
         return;
@@ -423,8 +444,7 @@ void ObjectBuilder::characters(QByteArrayView text, bool isBlank)
     const Frame &frame = m_frames.constLast();
     if (frame.context == Context::Kept) {
         m_recorder.addText(text);
-    } else if (frame.object && !isBlank) {
-        const QByteArrayView words = text.trimmed();
+    } else if (const QByteArrayView words = text.trimmed(); frame.object && !words.isEmpty()) {
         note(ReadNote::Dropped, u"Text between elements is not kept: \"%1\"."_s.arg(
                                     QString::fromUtf8(words.first(std::min<qsizetype>(words.size(), 80)))));
     }

@@ -5,6 +5,7 @@
 #include "corvex/core/DesignerProperty.h"
 #include "corvex/core/KeptItemRecorder.h"
 #include "corvex/core/ReadNote.h"
+#include "corvex/core/TextPool.h"
 #include "corvex/core/XmlHandler.h"
 #include "corvex/core/XmlInput.h"
 
@@ -48,9 +49,10 @@ private:
         bool isRepeated = false;     //!< a property that was there before
     };
 
-    void startElement(const char *name, const char **attributes) override;
-    void endElement(const char *name) override;
-    void characters(QByteArrayView text, bool isBlank) override;
+    void startElement(QByteArrayView name, std::span<const XmlAttribute> attributes) override;
+    void endElement(QByteArrayView name) override;
+    void emptyElement(QByteArrayView name, std::span<const XmlAttribute> attributes) override;
+    void characters(QByteArrayView text) override;
     void comment() override;
     void processingInstruction() override;
 
@@ -60,15 +62,18 @@ private:
     void push(Context context, DesignerObject *object, const SharedProperty &property = {});
     void skip(const QString &message);
 
-    void openRoot(const char *name);
+    void openRoot(QByteArrayView name);
     void forgetKeptItems();
-    void openInObject(const Frame &frame, const char *name);
-    void openInProperties(Frame &frame, const char *name, const char **attributes);
-    void openInProperty(Frame &frame, const char *name);
-    void openItem(const Frame &frame, const char *name, const char **attributes);
-    void openObjectValue(const char *name);
-    static qsizetype expectProperty(Frame &frame, const char *id, bool *isRepeated);
-    void applyValue(const Frame &frame, const char *value);
+    void openInObject(const Frame &frame, QByteArrayView name);
+    void openInProperties(Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
+    const SharedProperty *takeProperty(Frame &frame, QByteArrayView name,
+                                       std::span<const XmlAttribute> attributes, QByteArrayView *value,
+                                       bool *isRepeated);
+    void openInProperty(Frame &frame, QByteArrayView name);
+    void openItem(const Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
+    void openObjectValue(QByteArrayView name);
+    static qsizetype expectProperty(Frame &frame, QByteArrayView id, bool *isRepeated);
+    void applyValue(DesignerObject *object, const SharedProperty &property, QByteArrayView value);
     static void emptyList(DesignerObject *owner, const SharedProperty &list);
     static void finishList(const SharedProperty &list);
     DesignerObject *makeObject(const QString &className);
@@ -84,6 +89,7 @@ private:
     ReadNoteList m_notes;
     QList<Frame> m_frames;
     KeptItemRecorder m_recorder;
+    TextPool m_texts;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -26,6 +26,7 @@ using QmlCreator = QString (*)(const DesignerProperty *property, int indent);
 struct PropertyDescriptor : public QSharedData
 {
     QString id;
+    QByteArray utf8Id; //!< the id as files hold it
     QString name;
     QString editor;
     QVariantMap editorParameters;
@@ -33,6 +34,7 @@ struct PropertyDescriptor : public QSharedData
     QString description;
     QString
         initialText; //!< what a property prints as long as it holds the value of its row; null when unknown
+    QByteArray utf8Initial; //!< the same as files hold it
     QStringList objectFilters;
     ValueValidator valueValidator = nullptr;
     ItemValidator addValidator = nullptr;

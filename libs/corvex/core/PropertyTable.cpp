@@ -2,6 +2,7 @@
 #include "corvex/core/PropertyTable.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/PropertyBlock.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,15 +34,18 @@ private:
 
 PropertyRow PropertyRow::anew(const SharedProperty &described)
 {
-    return PropertyRow(QSharedPointer<Description>::create(*described), nullptr);
+    return PropertyRow(QSharedPointer<Description>::create(*described), nullptr, nullptr, 0);
 }
 
-PropertyRow::PropertyRow(const SharedProperty &prototype, Maker maker)
+PropertyRow::PropertyRow(const SharedProperty &prototype, Maker maker, Builder builder, size_t size)
     : m_prototype(prototype)
     , m_maker(maker)
+    , m_builder(builder)
+    , m_size(size)
 {
     if (maker && !prototype->isList() && !prototype->isObject()) {
         m_prototype->m_descriptor->initialText = prototype->convertToValueString();
+        m_prototype->m_descriptor->utf8Initial = m_prototype->m_descriptor->initialText.toUtf8();
     }
 }
 
@@ -140,6 +144,14 @@ PropertyRow &PropertyRow::overridesValue()
 {
     m_overridesValue = true;
     return *this;
+}
+
+PropertyTable::PropertyTable(std::initializer_list<PropertyRow> rows)
+    : m_rows(rows)
+{
+    for (const PropertyRow &row : m_rows) {
+        m_blockSize += PropertyBlock::sizeFor(row);
+    }
 }
 
 const std::vector<qsizetype> &PropertyTable::placesAmong(const QList<SharedProperty> &properties) const

@@ -4,6 +4,7 @@
 #include "corvex/core/DesignerProperty.h"
 
 #include <initializer_list>
+#include <new>
 #include <vector>
 
 namespace Halvane::Corvex::Designer {
@@ -49,15 +50,21 @@ private:
     template<class Property, class Value>
     friend PropertyRow row(const char *id, const char *title, const Value &initialValue);
     friend class PropertyTable;
+    friend class PropertyBlock;
 
     using Maker = SharedProperty (*)(DesignerObject *parent, const DesignerProperty &prototype);
+    //! Makes a property in the memory that it is given.
+    using Builder = DesignerProperty *(*)(void *place, DesignerObject *parent,
+                                          const DesignerProperty &prototype);
 
-    PropertyRow(const SharedProperty &prototype, Maker maker);
+    PropertyRow(const SharedProperty &prototype, Maker maker, Builder builder, size_t size);
     static QString text(const char *utf8);
     static QString title(const char *utf8);
 
     SharedProperty m_prototype;
     Maker m_maker;
+    Builder m_builder;
+    size_t m_size; //!< of a property in bytes
     bool m_overridesValue = false;
 };
 
@@ -78,16 +85,20 @@ PropertyRow row(const char *id, const char *title, const Value &initialValue)
         SharedProperty(new Property(nullptr, PropertyRow::text(id), PropertyRow::title(title), initialValue)),
         [](DesignerObject *parent, const DesignerProperty &prototype) -> SharedProperty {
             return QSharedPointer<Made>::create(parent, static_cast<const Property &>(prototype));
-        });
+        },
+        alignof(Made) > alignof(void *) ? PropertyRow::Builder(nullptr)
+                                        : [](void *place, DesignerObject *parent,
+                                             const DesignerProperty &prototype) -> DesignerProperty * {
+            return new (place) Made(parent, static_cast<const Property &>(prototype));
+        },
+        sizeof(Made));
 }
 
 //! The properties of one class, in the order in which its objects get them. Made once per class.
 class PropertyTable
 {
 public:
-    PropertyTable(std::initializer_list<PropertyRow> rows)
-        : m_rows(rows)
-    { }
+    PropertyTable(std::initializer_list<PropertyRow> rows);
 
 private:
     friend class DesignerObject;
@@ -98,6 +109,7 @@ private:
     bool describeAnew(const PropertyRow &row, DesignerProperty &property) const;
 
     std::vector<PropertyRow> m_rows;
+    size_t m_blockSize = 0; //!< of the properties that its rows make
     mutable std::vector<qsizetype> m_places;
     mutable qsizetype m_placedAmong = -1;
 };

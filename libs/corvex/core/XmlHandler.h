@@ -2,19 +2,20 @@
 // Private to the sources of ObjectXmlReader; not installed.
 #pragma once
 
-#include <QByteArrayView>
+#include "corvex/core/XmlTokens.h"
 
 namespace Halvane::Corvex::Designer {
 
-//! Hears what stands in a text, in its order. Texts are UTF-8 and valid during the call.
+//! Hears what a text consists of, in its order. Texts are UTF-8 and valid during the call.
 class XmlHandler
 {
 public:
-    //! \a attributes holds names and values by turns and ends with null.
-    virtual void startElement(const char *name, const char **attributes) = 0;
-    virtual void endElement(const char *name) = 0;
-    //! What lies between two tags may come in several pieces, each of which is blank or is not.
-    virtual void characters(QByteArrayView text, bool isBlank) = 0;
+    virtual void startElement(QByteArrayView name, std::span<const XmlAttribute> attributes) = 0;
+    virtual void endElement(QByteArrayView name) = 0;
+    //! An element without anything in it.
+    virtual void emptyElement(QByteArrayView name, std::span<const XmlAttribute> attributes) = 0;
+    //! Text between two tags that is not all blanks. It may come in several pieces.
+    virtual void characters(QByteArrayView text) = 0;
     virtual void comment() = 0;
     virtual void processingInstruction() = 0;
 

@@ -72,30 +72,35 @@ void XmlInput::parseBeside(XmlTokenizer &tokenizer)
 
 bool XmlInput::deliver(const XmlTokens &tokens)
 {
-    XmlTokens::Cursor token(tokens);
-    while (m_error.isEmpty() && token.next()) {
-        m_place = token.place();
-        tell(token);
+    for (const XmlTokens::Token &token : tokens.tokens) {
+        m_place = token.place;
+        tell(tokens, token);
+        if (!m_error.isEmpty()) {
+            return false;
+        }
     }
-    if (m_error.isEmpty() && tokens.isFailed()) {
-        m_error = tokens.error();
-        m_errorPlace = tokens.errorPlace();
+    if (tokens.isFailed()) {
+        m_error = tokens.error;
+        m_errorPlace = tokens.errorPlace;
     }
     return m_error.isEmpty();
 }
 
-void XmlInput::tell(XmlTokens::Cursor &token)
+void XmlInput::tell(const XmlTokens &tokens, const XmlTokens::Token &token)
 {
-    switch (token.kind()) {
+    const QByteArrayView text = XmlTokens::textOf(token);
+    switch (token.kind) {
     case XmlTokens::Start:
-        m_handler->startElement(token.text().data(), token.attributes());
+        m_handler->startElement(text, tokens.attributesOf(token));
+        break;
+    case XmlTokens::EmptyElement:
+        m_handler->emptyElement(text, tokens.attributesOf(token));
         break;
     case XmlTokens::End:
-        m_handler->endElement(token.text().data());
+        m_handler->endElement(text);
         break;
-    case XmlTokens::Blank:
     case XmlTokens::Text:
-        m_handler->characters(token.text(), token.kind() == XmlTokens::Blank);
+        m_handler->characters(text);
         break;
     case XmlTokens::Comment:
         m_handler->comment();

@@ -35,7 +35,7 @@ private:
     void parseHere(XmlTokenizer &tokenizer);
     void parseBeside(XmlTokenizer &tokenizer);
     bool deliver(const XmlTokens &tokens);
-    void tell(XmlTokens::Cursor &token);
+    void tell(const XmlTokens &tokens, const XmlTokens::Token &token);
 
     QIODevice *m_device;
     XmlHandler *m_handler;

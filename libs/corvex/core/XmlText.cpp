@@ -2,6 +2,7 @@
 #include "corvex/core/XmlText.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/XmlCharacters.h"
 #include "corvex/core/XmlLimits.h"
 
 #include <algorithm>
@@ -40,23 +41,6 @@ char *appendEscape(char *out, const char *escape)
     while (*escape) {
         *out++ = *escape++;
     }
-    return out;
-}
-
-char *appendUtf8(char *out, char32_t character)
-{
-    if (character < 0x800) {
-        *out++ = char(0xC0 | (character >> 6));
-    } else {
-        if (character < 0x10000) {
-            *out++ = char(0xE0 | (character >> 12));
-        } else {
-            *out++ = char(0xF0 | (character >> 18));
-            *out++ = char(0x80 | ((character >> 12) & 0x3F));
-        }
-        *out++ = char(0x80 | ((character >> 6) & 0x3F));
-    }
-    *out++ = char(0x80 | (character & 0x3F));
     return out;
 }
 
@@ -111,10 +95,10 @@ char *putAttribute(char *out, QStringView text)
                 *out++ = char(unit);
             }
         } else if (QChar::isHighSurrogate(unit) && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
-            out = appendUtf8(out, QChar::surrogateToUcs4(unit, text[++i].unicode()));
+            out = XmlCharacters::putUtf8(out, QChar::surrogateToUcs4(unit, text[++i].unicode()));
         } else {
             const bool isUnstorable = QChar::isSurrogate(unit) || unit >= 0xFFFE;
-            out = isUnstorable ? appendEscape(out, replacement) : appendUtf8(out, unit);
+            out = isUnstorable ? appendEscape(out, replacement) : XmlCharacters::putUtf8(out, unit);
         }
     }
     return out;

@@ -20,7 +20,7 @@ SharedProperty channelOf(const DesignerObject *element)
 
 void ElementIndex::insert(Element *element)
 {
-    m_byName.insert(element->getIdName(), element);
+    m_byName.insert(element);
     count(element->getIdName(), 1);
     if (const SharedProperty channel = m_channelsKnown ? channelOf(element) : SharedProperty()) {
         m_byChannel.insert({element->className(), channel->valueString()}, element);
@@ -29,7 +29,9 @@ void ElementIndex::insert(Element *element)
 
 void ElementIndex::remove(Element *element)
 {
-    count(element->getIdName(), -int(m_byName.remove(element->getIdName(), element)));
+    if (m_byName.remove(element->getIdName(), element)) {
+        count(element->getIdName(), -1);
+    }
     nameFreed(element->getIdName());
     forgetChannelOf(element);
 }
@@ -58,8 +60,8 @@ void ElementIndex::changeChannel(DesignerObject *element, const QString &oldChan
 
 void ElementIndex::rename(Element *element, const QString &oldName)
 {
-    if (m_byName.remove(oldName, element) > 0) {
-        m_byName.insert(element->getIdName(), element);
+    if (m_byName.remove(oldName, element)) {
+        m_byName.insert(element);
         count(oldName, -1);
         count(element->getIdName(), 1);
         nameFreed(oldName);
@@ -88,8 +90,8 @@ void ElementIndex::clear()
 void ElementIndex::countIn(NameCounts *counts)
 {
     const auto countAll = [this](int by) {
-        for (auto element = m_byName.keyBegin(); m_counts && element != m_byName.keyEnd(); ++element) {
-            count(*element, by);
+        for (const DesignerObject *element : m_counts ? m_byName.objects() : QList<DesignerObject *>()) {
+            count(element->getIdName(), by);
         }
     };
     countAll(-1);
@@ -145,7 +147,7 @@ const DesignerObject *ElementIndex::otherWithChannel(const DesignerObject *eleme
 const ElementIndex::Channels &ElementIndex::channels() const
 {
     if (!m_channelsKnown) {
-        for (Element *element : m_byName) {
+        for (DesignerObject *element : m_byName.objects()) {
             if (const SharedProperty property = channelOf(element)) {
                 m_byChannel.insert({element->className(), property->valueString()}, element);
             }

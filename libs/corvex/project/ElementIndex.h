@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/core/NameIndex.h"
+
 #include <QHash>
 #include <QList>
 #include <QMultiHash>
@@ -30,7 +32,7 @@ public:
     using NameCounts = QHash<QString, int>;
     void countIn(NameCounts *counts);
 
-    QList<Element *> named(const QString &name) const { return m_byName.values(name); }
+    QList<DesignerObject *> named(const QString &name) const { return m_byName.find(name); }
     qsizetype count(const QString &name) const { return m_byName.count(name); }
     //! The first of base1, base2, ... that no element bears and that is not taken otherwise.
     QString freeName(const QString &base, const std::function<bool(const QString &name)> &isTaken = {});
@@ -49,7 +51,7 @@ private:
     void forgetChannelOf(Element *element);
     void count(const QString &name, int by);
 
-    QMultiHash<QString, Element *> m_byName;
+    NameIndex m_byName;
     NameCounts *m_counts = nullptr; //!< of the project
     //! What is known of the numbers behind a base.
     struct Numbers

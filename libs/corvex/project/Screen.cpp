@@ -147,9 +147,9 @@ QStringList Screen::getElementNames() const
 
 Element *Screen::getElement(const QString &name) const
 {
-    for (Element *element : m_index.named(name)) {
+    for (DesignerObject *element : m_index.named(name)) {
         if (!element->isKindOfClass(u"FilterElement"_s)) {
-            return element;
+            return static_cast<Element *>(element);
         }
     }
     return name.contains(u'.') ? memberAt(name) : nullptr;

@@ -117,6 +117,7 @@ GeneralDataList::GeneralDataList(const QString &text, bool *ok)
     };
     if (rest.startsWith(u'<') && rest.endsWith(u'>') && rest.contains(border)) {
         rest = rest.sliced(1).chopped(1);
+        m_records.reserve(rest.count(border) + 1);
         qsizetype place = rest.indexOf(border);
         while (parsed && place >= 0) {
             parsed = appendParsed(rest.first(place));

@@ -15,6 +15,7 @@ UpdateObjectList::UpdateObjectList(const QString &text, bool *ok)
 {
     const QStringView items = QStringView(text).trimmed();
     bool parsed = !items.isEmpty();
+    m_records.reserve(items.count(u'|') + 1);
     for (QStringView item : qTokenize(items, u'|')) {
         item = item.trimmed();
         if (item.isEmpty() || item == NestedText::loneEmptyItem) {

@@ -6,6 +6,7 @@
 #include "corvex/core/properties/QmlForm.h"
 #include "corvex/core/properties/TextForm.h"
 
+#include <array>
 #include <optional>
 
 namespace Halvane::Corvex::Designer {
@@ -133,16 +134,20 @@ private:
     };
 
     /*! The value of \a text, until the next call for a property of this type. A change looks at its text
-        several times: to compare it, to try it and to take it over; only the first look parses. */
+        several times: to compare it, to try it and to take it over; and a file has the same few texts again
+       and again, which its reader makes one. Only the first look parses. */
     const std::optional<Value> &parse(const QString &text) const
     {
-        static thread_local Parsed last;
-        if (ReadsBesideCurrent<Value> || last.text.isEmpty() || last.text != text) {
-            last.value = parseAnew(text);
+        static thread_local std::array<Parsed, 32> memory;
+        const auto address = reinterpret_cast<quintptr>(text.constData());
+        Parsed &known = memory[((address >> 4) ^ (address >> 10)) % memory.size()];
+        const bool isKnown = known.text.constData() == text.constData() && known.text.size() == text.size();
+        if (ReadsBesideCurrent<Value> || text.isEmpty() || !isKnown) {
+            known.value = parseAnew(text);
             // A text without a capacity lies in memory of somebody else, where it may change.
-            last.text = text.capacity() > 0 ? text : QString();
+            known.text = text.capacity() > 0 ? text : QString();
         }
-        return last.value;
+        return known.value;
     }
 
     std::optional<Value> parseAnew(const QString &text) const
