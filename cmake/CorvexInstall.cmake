@@ -9,12 +9,14 @@ install(TARGETS CommonBase Zip Common DesignerCore EXPORT DesignerCoreTargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-# The preview is a program; its library stays here, as do the headers that only sources of core include.
+# The preview is a program; its library stays here, as do the headers that only sources of one room include.
+set(private_headers)
+foreach(header DesignerObjectData DesignerPropertyState FileJournal FileRecovery HoldingLists KeptItemRecorder
+    ObjectBuilder PropertyBlock TextPool XmlCharacters XmlHandler XmlInput "XmlToken*")
+  list(APPEND private_headers PATTERN "${header}.h" EXCLUDE)
+endforeach()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/libs/corvex" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
-  FILES_MATCHING PATTERN "*.h" PATTERN "corvex/preview" EXCLUDE
-  PATTERN "DesignerObjectData.h" EXCLUDE PATTERN "DesignerPropertyState.h" EXCLUDE
-  PATTERN "FileJournal.h" EXCLUDE PATTERN "FileRecovery.h" EXCLUDE
-  PATTERN "ObjectBuilder.h" EXCLUDE PATTERN "HoldingLists.h" EXCLUDE PATTERN "PropertyBlock.h" EXCLUDE PATTERN "TextPool.h" EXCLUDE PATTERN "XmlCharacters.h" EXCLUDE PATTERN "XmlHandler.h" EXCLUDE PATTERN "XmlInput.h" EXCLUDE PATTERN "XmlToken*.h" EXCLUDE)
+  FILES_MATCHING PATTERN "*.h" PATTERN "corvex/preview" EXCLUDE ${private_headers})
 install(EXPORT DesignerCoreTargets NAMESPACE Corvex:: DESTINATION "${package_path}")
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/DesignerCoreConfig.cmake.in"

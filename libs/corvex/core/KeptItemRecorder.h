@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Private to the sources of ObjectXmlReader; not installed.
 #pragma once
 
 #include "corvex/core/ItemList.h"
