@@ -12,7 +12,7 @@ install(TARGETS CommonBase Zip Common DesignerCore EXPORT DesignerCoreTargets
 # The preview is a program; its library stays here, as do the headers that only sources of one room include.
 set(private_headers)
 foreach(header DesignerObjectData DesignerPropertyState FileJournal FileRecovery HoldingLists KeptItemRecorder
-    ObjectBuilder PropertyBlock TextPool XmlCharacters XmlHandler XmlInput "XmlToken*")
+    ObjectBuilder PropertyBlock PropertyStore TextPool XmlCharacters XmlHandler XmlInput "XmlToken*")
   list(APPEND private_headers PATTERN "${header}.h" EXCLUDE)
 endforeach()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/libs/corvex" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"

@@ -42,7 +42,7 @@ CheckWalk::Plan CheckWalk::planFor(const DesignerObject &object) const
     Plan plan;
     std::ranges::copy_if(m_objectChecks, std::back_inserter(plan.objectChecks),
                          [&object](ObjectCheck *check) { return check->concerns(object); });
-    const QList<SharedProperty> &properties = object.properties();
+    const PropertyRange properties = object.properties();
     for (qsizetype place = 0; place < properties.size(); ++place) {
         for (PropertyCheck *check : m_propertyChecks) {
             if (check->concerns(*properties.at(place))) {

@@ -15,23 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
-namespace {
-
-//! What the properties of one object of a class need, as seen at those that were made before.
-struct ClassNeeds
-{
-    size_t bytes = 0;
-    qsizetype count = 0;
-};
-
-ClassNeeds &needsOf(const QMetaObject *type)
-{
-    static thread_local QHash<const QMetaObject *, ClassNeeds> needs;
-    return needs[type];
-}
-
-} // namespace
-
 DesignerObject::DesignerObject(QObject *parent)
     : QObject(parent)
     , d(std::make_unique<Data>())
@@ -42,7 +25,7 @@ void DesignerObject::deleteChildren()
     if (ObjectView *view = std::exchange(d->view, nullptr)) {
         view->objectGone();
     }
-    for (const SharedProperty &property : std::as_const(d->properties)) {
+    for (DesignerProperty *property : d->properties) {
         qDeleteAll(property->releaseChildren());
     }
 }
@@ -61,9 +44,7 @@ DesignerObject::~DesignerObject()
         slot->forgetObjectValue();
     }
     // Undo steps and editors may hold on to a property.
-    for (const SharedProperty &property : std::as_const(d->properties)) {
-        property->m_parent = nullptr;
-    }
+    d->properties.leaveParent();
 }
 
 bool DesignerObject::initialize()
@@ -79,7 +60,7 @@ bool DesignerObject::initializeProperties()
     if (!addProperties(table)) {
         return false;
     }
-    d->id = getProperty(u"id");
+    d->id = d->properties.at(0);
     static_cast<IdentifierProperty &>(*d->id).setInitialValue({baseName(), {}, {}});
     return true;
 }
@@ -95,29 +76,26 @@ void DesignerObject::addProperty(const SharedProperty &property)
     noteFlags(*property);
 }
 
+SharedProperty DesignerObject::makeProperty(const PropertyRow &row)
+{
+    return d->properties.make(row, this);
+}
+
 bool DesignerObject::addProperties(const PropertyTable &table)
 {
     const std::vector<qsizetype> &places = table.placesAmong(d->properties);
-    ClassNeeds &needs = needsOf(metaObject());
-    d->properties.reserve(std::max(needs.count, d->properties.size() + qsizetype(table.m_rows.size())));
-    if (PropertyBlock::isUsed() && !(d->block && d->block->hasRoom(table.m_blockSize))) {
-        const size_t size = d->block ? table.m_blockSize : std::max(table.m_blockSize, needs.bytes);
-        needs.bytes = d->block ? needs.bytes + size : size;
-        d->block = PropertyBlock::create(size);
-    }
     for (std::size_t i = 0; i < places.size(); ++i) {
         const PropertyRow &row = table.m_rows[i];
         if (places[i] < 0) {
-            const SharedProperty property = PropertyBlock::make(d->block, row, this);
-            addProperty(property ? property : row.make(this));
+            addProperty(makeProperty(row));
             continue;
         }
-        if (!table.describeAnew(row, *d->properties.at(places[i]))) {
+        DesignerProperty &described = *d->properties.at(places[i]);
+        if (!table.describeAnew(row, described)) {
             return false;
         }
-        noteFlags(*d->properties.at(places[i]));
+        noteFlags(described);
     }
-    needs.count = std::max(needs.count, d->properties.size());
     return true;
 }
 
@@ -152,7 +130,7 @@ QString DesignerObject::toQml(int indent) const
     QString text = QmlText::tabs(indent);
     text.reserve(usualSize);
     text += qmlName() + u" {\n"_s;
-    for (const SharedProperty &property : d->properties) {
+    for (const DesignerProperty *property : d->properties) {
         const QString line = property->toQml(indent + 1);
         if (!line.isEmpty()) {
             text.append(line).append(u'\n');
@@ -167,17 +145,17 @@ QString DesignerObject::toQml(int indent) const
 
 SharedProperty DesignerObject::getProperty(QStringView id) const
 {
-    for (const SharedProperty &property : d->properties) {
+    for (const DesignerProperty *property : d->properties) {
         if (property->id() == id) {
-            return property;
+            return d->properties.shared(property);
         }
     }
     return {};
 }
 
-const QList<SharedProperty> &DesignerObject::properties() const
+PropertyRange DesignerObject::properties() const
 {
-    return d->properties;
+    return PropertyRange(&d->properties);
 }
 
 QList<SharedProperty> DesignerObject::getDependencyProperties() const
@@ -185,9 +163,9 @@ QList<SharedProperty> DesignerObject::getDependencyProperties() const
     return {};
 }
 
-const SharedProperty &DesignerObject::idProperty() const
+SharedProperty DesignerObject::idProperty() const
 {
-    return d->id;
+    return d->properties.shared(d->id);
 }
 
 QString DesignerObject::getIdName() const
@@ -209,7 +187,7 @@ bool DesignerObject::setIdName(const QString &name)
 
 bool DesignerObject::setIdInfo(const IdentifierInfo &info)
 {
-    return d->id && changePropertyValue(d->id, info.toString());
+    return d->id && changePropertyValue(idProperty(), info.toString());
 }
 
 void DesignerObject::setIdFlag(PropertyFlag flag, bool on)
@@ -242,7 +220,7 @@ bool DesignerObject::isOrHasIdentifier(const QString &name) const
 QMap<SharedProperty, QString> DesignerObject::linkPropertiesWithId() const
 {
     QMap<SharedProperty, QString> links;
-    for (const SharedProperty &property : d->properties) {
+    for (const SharedProperty &property : properties()) {
         if (property->isKindOfClass(LinkProperty::kindName())) {
             links.insert(property, static_cast<const LinkProperty &>(*property).value().objectId());
         }
@@ -253,7 +231,7 @@ QMap<SharedProperty, QString> DesignerObject::linkPropertiesWithId() const
 QMap<SharedProperty, DesignerObject *> DesignerObject::linkPropertiesWithObjects() const
 {
     QMap<SharedProperty, DesignerObject *> links;
-    for (const SharedProperty &property : d->properties) {
+    for (const SharedProperty &property : properties()) {
         if (property->isKindOfClass(LinkProperty::kindName())) {
             links.insert(property, static_cast<const LinkProperty &>(*property).connectLink());
         }
@@ -297,9 +275,9 @@ SharedProperty DesignerObject::objectProperty() const
 {
     const DesignerObject *owner = d->lists.isEmpty() ? ownerObject() : nullptr;
     if (owner) {
-        for (const SharedProperty &property : std::as_const(owner->d->properties)) {
+        for (const DesignerProperty *property : owner->d->properties) {
             if (property->objectValue() == this) {
-                return property;
+                return owner->d->properties.shared(property);
             }
         }
     }
@@ -352,7 +330,7 @@ QList<DesignerObject *> DesignerObject::childObjects() const
     if (!d->mayHaveChildren) {
         return children;
     }
-    for (const SharedProperty &property : d->properties) {
+    for (const DesignerProperty *property : d->properties) {
         if (property->isList()) {
             children += property->itemList()->items();
         } else if (property->isObject() && property->objectValue()) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/core/DesignerProperty.h"
+#include "corvex/core/PropertyRange.h"
 #include "corvex/values/IdentifierInfo.h"
 
 #include <QMap>
@@ -16,6 +17,7 @@ namespace Halvane::Corvex::Designer {
 
 class ObjectView;
 class Project;
+class PropertyRow;
 class PropertyTable;
 class Screen;
 
@@ -70,7 +72,7 @@ public:
     SharedProperty getProperty(QStringView id) const;
     SharedProperty getProperty(const QString &id) const { return getProperty(QStringView(id)); }
     //! In the order in which they were made, which is the order of files and of QML.
-    const QList<SharedProperty> &properties() const;
+    PropertyRange properties() const;
     //! The properties whose value other objects refer to.
     QList<SharedProperty> dependencyProperties() const { return getDependencyProperties(); }
 
@@ -115,7 +117,7 @@ public:
                                                              const QString &className) const;
 
     // Identity.
-    const SharedProperty &idProperty() const;
+    SharedProperty idProperty() const;
     QString getIdName() const;
     bool setIdName(const QString &name);
     IdentifierInfo getIdInfo() const;
@@ -274,6 +276,7 @@ private:
     friend class ItemList;
     friend class ObjectBuilder;
     friend class ObjectXmlWriter;
+    friend class PropertyRow;
 
     enum class ValueChange {
         Done,
@@ -303,6 +306,8 @@ private:
     SharedProperty listOf(const QString &id) const;
     //! Keeps in mind that there may be children, so that the many objects without any are not searched.
     void noteFlags(const DesignerProperty &property);
+    //! A property that is still to be added.
+    SharedProperty makeProperty(const PropertyRow &row);
     //! The object property that owns this object; null when a list owns it and out of the model.
     SharedProperty objectProperty() const;
 

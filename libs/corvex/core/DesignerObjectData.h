@@ -4,15 +4,14 @@
 
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/HoldingLists.h"
-#include "corvex/core/PropertyBlock.h"
+#include "corvex/core/PropertyStore.h"
 
 namespace Halvane::Corvex::Designer {
 
 struct DesignerObject::Data
 {
-    QList<SharedProperty> properties;
-    QSharedPointer<PropertyBlock> block; //!< where the next property goes; null before the first one
-    SharedProperty id;
+    PropertyStore properties;
+    DesignerProperty *id = nullptr;
     QWeakPointer<DesignerProperty> listProperty;
     HoldingLists lists;
     Project *project = nullptr;

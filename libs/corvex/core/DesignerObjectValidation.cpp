@@ -35,7 +35,7 @@ void DesignerObject::validateWhatWasRead()
 void DesignerObject::judgeProperties()
 {
     d->isValidatingChildren = false;
-    for (const SharedProperty &property : std::as_const(d->properties)) {
+    for (DesignerProperty *property : d->properties) {
         property->validate();
     }
     updateValidity();
@@ -45,7 +45,7 @@ void DesignerObject::updateValidity()
 {
     QStringList errors;
     const bool isStale = std::exchange(d->hasRefusedValue, false);
-    for (const SharedProperty &property : std::as_const(d->properties)) {
+    for (DesignerProperty *property : d->properties) {
         if (!property->isValid() && (!isStale || !property->validate())) {
             const QString error = property->errorString();
             errors.append(u"%1: %2"_s.arg(

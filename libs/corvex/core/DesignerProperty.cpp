@@ -5,6 +5,7 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/DesignerPropertyState.h"
 #include "corvex/core/EditorView.h"
+#include "corvex/core/PropertyBlock.h"
 #include "corvex/core/XmlText.h"
 #include "corvex/core/properties/FormText.h"
 
@@ -41,26 +42,86 @@ void appendItems(const DesignerProperty &list, bool recursive, QList<DesignerObj
 } // namespace
 
 DesignerProperty::DesignerProperty(DesignerObject *parent, const QString &id, const QString &name)
-    : m_parent(parent)
-    , m_descriptor(new PropertyDescriptor)
+    : m_descriptor(new PropertyDescriptor)
 {
+    m_descriptor->ref.ref();
     m_descriptor->id = id;
     m_descriptor->utf8Id = id.toUtf8();
     m_descriptor->name = name;
     m_descriptor->editor = u"PropertyEditor"_s;
+    setParentObject(parent);
 }
 
 DesignerProperty::DesignerProperty(DesignerObject *parent, const DesignerProperty &prototype)
-    : m_parent(parent)
-    , m_descriptor(prototype.m_descriptor)
-{ }
+    : m_descriptor(const_cast<PropertyDescriptor *>(&prototype.descriptor()))
+{
+    m_descriptor->ref.ref();
+    setParentObject(parent);
+}
 
 DesignerProperty::~DesignerProperty()
 {
-    if (m_state && m_state->items) {
+    if (!m_hasState) {
+        QSharedDataPointer<PropertyDescriptor>(m_descriptor, QAdoptSharedDataTag());
+        return;
+    }
+    if (m_state->items) {
         for (DesignerObject *item : m_state->items->items()) {
             item->takeListDesignerProperty(this);
         }
+    }
+    delete m_state;
+}
+
+DesignerProperty::State &DesignerProperty::state()
+{
+    if (!m_hasState) {
+        auto state = std::make_unique<State>();
+        state->descriptor = QSharedDataPointer<PropertyDescriptor>(m_descriptor, QAdoptSharedDataTag());
+        m_state = state.release();
+        m_hasState = true;
+    }
+    return *m_state;
+}
+
+const PropertyDescriptor &DesignerProperty::descriptorOfState() const
+{
+    return *std::as_const(m_state->descriptor);
+}
+
+PropertyDescriptor &DesignerProperty::ownDescriptor()
+{
+    if (!m_hasState && m_descriptor->ref.loadRelaxed() > 1) {
+        QSharedDataPointer<PropertyDescriptor> own(m_descriptor, QAdoptSharedDataTag());
+        own.detach();
+        m_descriptor = own.take();
+    }
+    return m_hasState ? *m_state->descriptor : *m_descriptor;
+}
+
+void DesignerProperty::shareDescriptor(const DesignerProperty &other)
+{
+    QSharedDataPointer<PropertyDescriptor> shared(const_cast<PropertyDescriptor *>(&other.descriptor()));
+    if (m_hasState) {
+        m_state->descriptor.swap(shared);
+    } else {
+        QSharedDataPointer<PropertyDescriptor> own(m_descriptor, QAdoptSharedDataTag());
+        m_descriptor = shared.take();
+    }
+}
+
+DesignerObject *DesignerProperty::parentObject() const
+{
+    if (const PropertyBlock *block = PropertyBlock::of(*this)) {
+        return block->parent();
+    }
+    return m_hasState ? m_state->parent : nullptr;
+}
+
+void DesignerProperty::setParentObject(DesignerObject *parent)
+{
+    if (parent != parentObject()) {
+        state().parent = parent;
     }
 }
 
@@ -69,7 +130,7 @@ void DesignerProperty::describe(Field PropertyDescriptor::*field, const std::typ
 {
     // An equal value must not cost the instance a descriptor of its own.
     if (descriptor().*field != value) {
-        (*m_descriptor).*field = value;
+        ownDescriptor().*field = value;
     }
 }
 
@@ -116,7 +177,7 @@ void DesignerProperty::setEditorParameter(const QString &key, const QVariant &va
 
 EditorView *DesignerProperty::editorWidget() const
 {
-    return m_state ? m_state->editorWidget : nullptr;
+    return m_hasState ? m_state->editorWidget : nullptr;
 }
 
 void DesignerProperty::setEditorWidget(EditorView *widget)
@@ -129,8 +190,8 @@ void DesignerProperty::setEditorWidget(EditorView *widget)
 void DesignerProperty::setFlags(PropertyFlags flags)
 {
     describe(&PropertyDescriptor::flags, flags);
-    if (m_parent) {
-        m_parent->noteFlags(*this);
+    if (DesignerObject *parent = parentObject()) {
+        parent->noteFlags(*this);
     }
 }
 
@@ -183,7 +244,7 @@ void DesignerProperty::setObjectFilters(const QStringList &classNames)
 QList<SharedProperty> DesignerProperty::conflictProperties() const
 {
     QList<SharedProperty> properties;
-    if (m_state) {
+    if (m_hasState) {
         for (const QWeakPointer<DesignerProperty> &conflict : m_state->conflicts) {
             if (const SharedProperty property = conflict.toStrongRef()) {
                 properties.append(property);
@@ -200,20 +261,20 @@ void DesignerProperty::setConflictProperties(const QList<SharedProperty> &proper
 
 void DesignerProperty::resetConflictProperties()
 {
-    if (m_state) {
+    if (m_hasState) {
         m_state->conflicts.clear();
     }
 }
 
 QString DesignerProperty::errorString() const
 {
-    return m_state ? m_state->error : QString();
+    return m_hasState ? m_state->error : QString();
 }
 
 bool DesignerProperty::validate()
 {
     QString error;
-    m_failure = findFailure(error);
+    m_failure = quint8(findFailure(error));
     setErrorString(isValid() ? QString() : error);
     if (EditorView *editor = editorWidget()) {
         editor->setErrorString(errorString());
@@ -224,9 +285,10 @@ bool DesignerProperty::validate()
 //! The first step that fails. A step may disable validation, which skips those after it.
 DesignerProperty::Failure DesignerProperty::findFailure(QString &error) const
 {
-    const auto enabled = [this] { return !m_parent || !m_parent->disabledValidation(); };
+    const DesignerObject *parent = parentObject();
+    const auto enabled = [parent] { return !parent || !parent->disabledValidation(); };
     // The callback sees the model through the parent, which a property may outlive.
-    if (m_parent && enabled() && descriptor().valueValidator && !descriptor().valueValidator(this, error)) {
+    if (parent && enabled() && descriptor().valueValidator && !descriptor().valueValidator(this, error)) {
         return Failure::Validator;
     }
     if (!enabled()) {
@@ -314,7 +376,8 @@ bool DesignerProperty::takeText(const QString &text)
 
 bool DesignerProperty::judgeText(const QString &text, bool &valid)
 {
-    const bool wasInitial = std::exchange(m_isInitial, false);
+    const bool wasInitial = m_isInitial;
+    m_isInitial = false;
     const bool isRead = tryValue(text, valid);
     m_isInitial = wasInitial;
     return isRead;
@@ -340,7 +403,7 @@ QString DesignerProperty::convertToQml(int) const
 
 DesignerObject *DesignerProperty::objectValue() const
 {
-    return m_state ? m_state->objectValue : nullptr;
+    return m_hasState ? m_state->objectValue : nullptr;
 }
 
 bool DesignerProperty::validateObjectValue(QString &error) const
@@ -367,7 +430,7 @@ const ItemList *DesignerProperty::itemList() const
     if (!isList()) {
         return nullptr;
     }
-    return m_state && m_state->items ? m_state->items.get() : &noItems();
+    return m_hasState && m_state->items ? m_state->items.get() : &noItems();
 }
 
 ItemList &DesignerProperty::items()
@@ -476,7 +539,7 @@ QStringList DesignerProperty::getItemNamesOfType(const QString &className, bool 
 
 void DesignerProperty::sortList()
 {
-    if (m_state && m_state->items) {
+    if (m_hasState && m_state->items) {
         m_state->items->isOrdered = false;
         updateListItems();
     }
@@ -504,19 +567,11 @@ bool DesignerProperty::tryValue(const QString &text, bool &valid)
 
 void DesignerProperty::setErrorString(const QString &error)
 {
-    if (m_state) {
+    if (m_hasState) {
         m_state->error = error;
     } else if (!error.isEmpty()) {
         state().error = error;
     }
-}
-
-DesignerProperty::State &DesignerProperty::state()
-{
-    if (!m_state) {
-        m_state = std::make_unique<State>();
-    }
-    return *m_state;
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -5,10 +5,8 @@
 #include "corvex/core/PropertyDescriptor.h"
 
 #include <QList>
-#include <QSharedDataPointer>
 #include <QSharedPointer>
 
-#include <memory>
 #include <type_traits>
 
 namespace Halvane::Corvex::Designer {
@@ -40,17 +38,17 @@ public:
     bool initialize() override { return true; }
 
     //! The object that owns this property; null once it is gone. Not owned.
-    DesignerObject *parentObject() const { return m_parent; }
-    const QString &id() const { return m_descriptor->id; }
+    DesignerObject *parentObject() const;
+    const QString &id() const { return descriptor().id; }
     void setId(const QString &id);
     //! The title that the user reads, translated.
-    const QString &name() const { return m_descriptor->name; }
+    const QString &name() const { return descriptor().name; }
     void setName(const QString &name);
 
     //! The class name of the editor widget that edits the property.
-    const QString &editor() const { return m_descriptor->editor; }
-    const QVariantMap &editorParameters() const { return m_descriptor->editorParameters; }
-    QVariant editorParameter(const QString &key) const { return m_descriptor->editorParameters.value(key); }
+    const QString &editor() const { return descriptor().editor; }
+    const QVariantMap &editorParameters() const { return descriptor().editorParameters; }
+    QVariant editorParameter(const QString &key) const { return editorParameters().value(key); }
     void setEditor(const QString &editorName, const QVariantMap &parameters = {});
     void setEditorParameters(const QVariantMap &parameters);
     void setEditorParameter(const QString &key, const QVariant &value);
@@ -58,21 +56,21 @@ public:
     EditorView *editorWidget() const;
     void setEditorWidget(EditorView *widget);
 
-    PropertyFlags flags() const { return m_descriptor->flags; }
-    bool hasFlag(PropertyFlag flag) const { return m_descriptor->flags.testFlag(flag); }
+    PropertyFlags flags() const { return descriptor().flags; }
+    bool hasFlag(PropertyFlag flag) const { return flags().testFlag(flag); }
     void setFlags(PropertyFlags flags);
     void setFlag(PropertyFlag flag, bool on);
     bool isList() const { return hasFlag(ListFlag); }
     bool isObject() const { return hasFlag(ObjectFlag); }
 
     //! Orders the properties of an object in the property panel, smallest first; 99 unless set.
-    int rank() const { return m_descriptor->rank; }
+    int rank() const { return descriptor().rank; }
     void setRank(int rank);
-    const QString &description() const { return m_descriptor->description; }
+    const QString &description() const { return descriptor().description; }
     void setDescription(const QString &description);
 
     //! Whether a value that fails validation is stored all the same, and marked.
-    bool allowInvalidValue() const { return m_descriptor->allowInvalidValue; }
+    bool allowInvalidValue() const { return descriptor().allowInvalidValue; }
     void setAllowInvalidValue(bool allow);
     void setValueValidator(ValueValidator validator);
     void setAddValidator(ItemValidator validator);
@@ -80,7 +78,7 @@ public:
     void setQmlCreator(QmlCreator creator);
 
     //! The class names of which a child must be one (itself or by descent); all are welcome when empty.
-    const QStringList &objectFilters() const { return m_descriptor->objectFilters; }
+    const QStringList &objectFilters() const { return descriptor().objectFilters; }
     void setObjectFilters(const QStringList &classNames);
 
     //! Properties that cannot hold their values beside this one's.
@@ -97,8 +95,8 @@ public:
         Children,  //!< a child is invalid, and says why itself
     };
     //! The outcome of the last validation.
-    Failure failure() const { return m_failure; }
-    bool isValid() const { return m_failure == Failure::None; }
+    Failure failure() const { return Failure(m_failure); }
+    bool isValid() const { return failure() == Failure::None; }
     //! Why the last validation failed or the last list or object operation was refused; empty otherwise.
     QString errorString() const;
     /*! Runs the value validator, then the check of the property's kind, and keeps the outcome. For lists and
@@ -123,7 +121,7 @@ public:
     //! set.
     QString toQml(int indent) const;
     //! Whether toQml() writes literals alone, which are correct whatever the value is.
-    bool writesPlainQml() const { return !m_descriptor->qmlCreator && hasPlainForm(); }
+    bool writesPlainQml() const { return !descriptor().qmlCreator && hasPlainForm(); }
 
     //! The child of an object property, owned by parentObject().
     DesignerObject *objectValue() const;
@@ -204,16 +202,24 @@ protected:
 private:
     friend class DesignerObject;
     friend class ObjectBuilder;
+    friend class PropertyBlock;
+    friend class PropertyStore;
     friend class PropertyTable;
     friend class PropertyRow;
     struct State;
 
-    const PropertyDescriptor &descriptor() const { return *m_descriptor; }
+    const PropertyDescriptor &descriptor() const { return m_hasState ? descriptorOfState() : *m_descriptor; }
+    const PropertyDescriptor &descriptorOfState() const;
+    //! The descriptor for changes, of this property alone.
+    PropertyDescriptor &ownDescriptor();
+    void shareDescriptor(const DesignerProperty &other);
+    //! For a property that is not in a block.
+    void setParentObject(DesignerObject *parent);
     //! The text of the value as long as it is the one that the property started with; else null.
-    QString initialText() const { return m_isInitial ? m_descriptor->initialText : QString(); }
-    bool hasId(QByteArrayView utf8) const { return m_descriptor->utf8Id == utf8; }
+    QString initialText() const { return m_isInitial ? descriptor().initialText : QString(); }
+    bool hasId(QByteArrayView utf8) const { return descriptor().utf8Id == utf8; }
     //! Whether the property holds the value that it started with, and that is \a utf8.
-    bool holdsInitial(QByteArrayView utf8) const { return m_isInitial && m_descriptor->utf8Initial == utf8; }
+    bool holdsInitial(QByteArrayView utf8) const { return m_isInitial && descriptor().utf8Initial == utf8; }
     bool takeText(const QString &text);
     bool judgeText(const QString &text, bool &valid);
     template<class Field>
@@ -236,11 +242,16 @@ private:
     void setErrorString(const QString &error);
     State &state();
 
-    DesignerObject *m_parent;
-    QSharedDataPointer<PropertyDescriptor> m_descriptor;
-    std::unique_ptr<State> m_state; //!< what few properties have; null until it is needed
-    Failure m_failure = Failure::None;
-    bool m_isInitial = false; //!< holds the value of its row
+    // A project has a million of these. What few of them have is in the state, the descriptor too then; the
+    // parent is in the block, or in the state of a property without one.
+    union {
+        PropertyDescriptor *m_descriptor; //!< shared, and counted by hand
+        State *m_state;
+    };
+    quint16 m_blockDistance = 0; //!< from the begin of its block, in units of it; 0 outside of blocks
+    quint8 m_failure : 4 = 0;
+    bool m_isInitial : 1 = false; //!< holds the value of its row
+    bool m_hasState : 1 = false;
 };
 
 //! How properties are handed around; known to Qt's meta-type system under its full name.

@@ -85,7 +85,7 @@ void DesignerProperty::forgetObjectValue()
 QList<DesignerObject *> DesignerProperty::releaseChildren()
 {
     QList<DesignerObject *> children;
-    if (m_state && m_state->items) {
+    if (m_hasState && m_state->items) {
         children = m_state->items->items();
         for (DesignerObject *item : std::as_const(children)) {
             item->takeListDesignerProperty(this);
@@ -202,7 +202,7 @@ bool DesignerProperty::swapItems(DesignerObject *first, DesignerObject *second)
 
 bool DesignerProperty::setObjectValue(DesignerObject *object)
 {
-    if (!isObject() || !m_parent) {
+    if (!isObject() || !parentObject()) {
         return refuse("This is not a object type property, or the parent object is null.");
     }
     if (object && !acceptsClassOf(object)) {
@@ -220,7 +220,7 @@ void DesignerProperty::startWith(DesignerObject *child)
     if (child->ownerObject()) {
         refuse(itemExists);
     } else if (setObjectValue(child)) {
-        m_parent->enter(child);
+        parentObject()->enter(child);
     }
 }
 
@@ -230,7 +230,7 @@ void DesignerProperty::updateItemIdName(const QString &oldName, const QString &n
     if (item && item->getIdName() == newName) {
         items().rekey(oldName, item);
     }
-    m_parent->afterListPropertyChanged();
+    parentObject()->afterListPropertyChanged();
 }
 
 } // namespace Halvane::Corvex::Designer

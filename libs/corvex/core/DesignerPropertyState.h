@@ -5,10 +5,16 @@
 #include "corvex/core/DesignerProperty.h"
 #include "corvex/core/ItemList.h"
 
+#include <QSharedDataPointer>
+
+#include <memory>
+
 namespace Halvane::Corvex::Designer {
 
 struct DesignerProperty::State
 {
+    QSharedDataPointer<PropertyDescriptor> descriptor;
+    DesignerObject *parent = nullptr; //!< of a property that is not in a block
     QString error;
     std::unique_ptr<ItemList> items;
     DesignerObject *objectValue = nullptr;

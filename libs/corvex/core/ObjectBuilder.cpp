@@ -2,7 +2,7 @@
 #include "corvex/core/ObjectBuilder.h"
 
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/core/DesignerObject.h"
+#include "corvex/core/DesignerObjectData.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/ObjectXmlWriter.h"
 #include "corvex/core/XmlLimits.h"
@@ -167,16 +167,16 @@ void ObjectBuilder::openInProperties(Frame &frame, QByteArrayView name,
     QByteArrayView value;
     bool isRepeated = false;
     DesignerObject *object = frame.object;
-    const SharedProperty *property = takeProperty(frame, name, attributes, &value, &isRepeated);
+    DesignerProperty *property = takeProperty(frame, name, attributes, &value, &isRepeated);
     if (!property) {
         push(Context::Skipped, nullptr);
         return;
     }
-    push(Context::Property, object, *property);
+    push(Context::Property, object, shared(object, property));
     m_frames.last().isRepeated = isRepeated;
     if (!value.isEmpty()) {
-        m_frames.last().isAnswered = !(*property)->isList() && !(*property)->isObject();
-        applyValue(object, *property, value);
+        m_frames.last().isAnswered = !property->isList() && !property->isObject();
+        applyValue(object, property, value);
     }
 }
 
@@ -191,21 +191,21 @@ void ObjectBuilder::emptyElement(QByteArrayView name, std::span<const XmlAttribu
     Frame &frame = m_frames.last();
     QByteArrayView value;
     bool isRepeated = false;
-    const SharedProperty *property = takeProperty(frame, name, attributes, &value, &isRepeated);
+    DesignerProperty *property = takeProperty(frame, name, attributes, &value, &isRepeated);
     if (!property) {
         return;
     }
     if (value.isEmpty()) {
-        frame.object->readEmptyValue(*property);
+        frame.object->readEmptyValue(shared(frame.object, property));
     } else {
-        applyValue(frame.object, *property, value);
+        applyValue(frame.object, property, value);
     }
 }
 
 //! The property that an element names, with what is to be its value; null, with a note, when there is none.
-const SharedProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView name,
-                                                  std::span<const XmlAttribute> attributes,
-                                                  QByteArrayView *value, bool *isRepeated)
+DesignerProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView name,
+                                              std::span<const XmlAttribute> attributes, QByteArrayView *value,
+                                              bool *isRepeated)
 {
     if (name != "Property") {
         note(ReadNote::Dropped, u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
@@ -223,8 +223,8 @@ const SharedProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView n
         }
     }
     const qsizetype index = id.isNull() ? -1 : expectProperty(frame, id, isRepeated);
-    const SharedProperty *property = index < 0 ? nullptr : &frame.object->properties().at(index);
-    if (!property || !(*property)->hasFlag(StoredFlag)) {
+    DesignerProperty *property = index < 0 ? nullptr : frame.object->d->properties.at(index);
+    if (!property || !property->hasFlag(StoredFlag)) {
         note(ReadNote::Dropped, id.isNull()
                                     ? u"A property has no name."_s
                                     : u"The property \"%1\" is not known."_s.arg(XmlTokenizer::excerpt(id)));
@@ -240,8 +240,8 @@ const SharedProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView n
 //! The index of the property among those of the object; -1 for one that it does not have.
 qsizetype ObjectBuilder::expectProperty(Frame &frame, QByteArrayView id, bool *isRepeated)
 {
-    const QList<SharedProperty> &properties = frame.object->properties();
-    const qsizetype count = properties.size();
+    const PropertyStore &properties = frame.object->d->properties;
+    const qsizetype count = properties.count();
     for (qsizetype i = 0; i < count; ++i) {
         const qsizetype place = frame.nextProperty + i;
         const qsizetype index = place < count ? place : place - count;
@@ -257,7 +257,12 @@ qsizetype ObjectBuilder::expectProperty(Frame &frame, QByteArrayView id, bool *i
     return -1;
 }
 
-void ObjectBuilder::applyValue(DesignerObject *object, const SharedProperty &property, QByteArrayView value)
+SharedProperty ObjectBuilder::shared(DesignerObject *object, const DesignerProperty *property)
+{
+    return object->d->properties.shared(property);
+}
+
+void ObjectBuilder::applyValue(DesignerObject *object, DesignerProperty *property, QByteArrayView value)
 {
     if (property->isList() || property->isObject()) {
         note(ReadNote::Dropped, u"The property \"%1\" takes no value."_s.arg(property->id()));
@@ -268,7 +273,7 @@ void ObjectBuilder::applyValue(DesignerObject *object, const SharedProperty &pro
         return;
     }
     const QString text = m_texts.text(value);
-    const SharedProperty held = property; // A hook may add properties.
+    const SharedProperty held = shared(object, property);
     const DesignerObject::ValueChange change = object->changeValue(held, text);
     // "Equal" is also said of a text that does not parse; only a second parse tells the two apart.
     if (change == DesignerObject::ValueChange::Refused

@@ -66,14 +66,15 @@ private:
     void forgetKeptItems();
     void openInObject(const Frame &frame, QByteArrayView name);
     void openInProperties(Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
-    const SharedProperty *takeProperty(Frame &frame, QByteArrayView name,
-                                       std::span<const XmlAttribute> attributes, QByteArrayView *value,
-                                       bool *isRepeated);
+    DesignerProperty *takeProperty(Frame &frame, QByteArrayView name,
+                                   std::span<const XmlAttribute> attributes, QByteArrayView *value,
+                                   bool *isRepeated);
     void openInProperty(Frame &frame, QByteArrayView name);
     void openItem(const Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
     void openObjectValue(QByteArrayView name);
     static qsizetype expectProperty(Frame &frame, QByteArrayView id, bool *isRepeated);
-    void applyValue(DesignerObject *object, const SharedProperty &property, QByteArrayView value);
+    void applyValue(DesignerObject *object, DesignerProperty *property, QByteArrayView value);
+    static SharedProperty shared(DesignerObject *object, const DesignerProperty *property);
     static void emptyList(DesignerObject *owner, const SharedProperty &list);
     static void finishList(const SharedProperty &list);
     DesignerObject *makeObject(const QString &className);

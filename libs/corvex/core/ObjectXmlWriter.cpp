@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/ObjectXmlWriter.h"
 
-#include "corvex/core/DesignerObject.h"
+#include "corvex/core/DesignerObjectData.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/XmlLimits.h"
 
@@ -63,7 +63,7 @@ bool ObjectXmlWriter::isComplete(const DesignerObject *object, bool allPropertie
 
 bool ObjectXmlWriter::hasAllChildren(const DesignerObject *object, bool allProperties, QString *missing)
 {
-    for (const SharedProperty &property : object->properties()) {
+    for (const DesignerProperty *property : object->d->properties) {
         if (!(property->isList() || property->isObject()) || !isWritten(object, *property, allProperties)) {
             continue;
         }
@@ -178,7 +178,7 @@ void ObjectXmlWriter::writeOwnProperties(const DesignerObject *object, int level
     const QString name = object->className();
     openTag(name, level);
     openTag(u"Properties"_s, level + 1);
-    for (const SharedProperty &property : object->properties()) {
+    for (const DesignerProperty *property : object->d->properties) {
         if (isWritten(object, *property, m_allProperties)) {
             writeProperty(*property, level + 2);
         }

@@ -7,7 +7,8 @@
 namespace Halvane::Corvex::Designer {
 
 /*! Properties of one object in one piece of memory, under one count of users: a property that an undo step
-   holds on to keeps those beside it, too. */
+   holds on to keeps those beside it, too. Those that are in the list of the block are the object's first
+   ones, in its order. */
 class PropertyBlock
 {
     Q_DISABLE_COPY_MOVE(PropertyBlock)
@@ -25,47 +26,75 @@ public:
 #endif
     }
 
-    //! What a property of that row takes in a block; nothing where it cannot be in one.
+    //! What a property of that row takes in a block, in bytes; nothing where it cannot be in one.
     static size_t sizeFor(const PropertyRow &row)
     {
-        return row.m_builder ? alignedSize(row.m_size) + sizeof(Offset) : 0;
+        return row.m_builder ? units(row.m_size) * unit + sizeof(Distance) : 0;
     }
-    static QSharedPointer<PropertyBlock> create(size_t size);
-
-    bool hasRoom(size_t size) const
+    //! A block with room for so many bytes; \a parent owns the properties in it.
+    static QSharedPointer<PropertyBlock> create(size_t size, DesignerObject *parent);
+    //! The block that the property is in; null outside of blocks.
+    static const PropertyBlock *of(const DesignerProperty &property)
     {
-        return m_used + m_count * sizeof(Offset) + size <= m_size;
+        const auto *bytes = reinterpret_cast<const char *>(&property);
+        return property.m_blockDistance == 0
+                   ? nullptr
+                   : reinterpret_cast<const PropertyBlock *>(bytes - property.m_blockDistance * unit);
     }
-    //! Null when there is no room for it.
-    static SharedProperty make(const QSharedPointer<PropertyBlock> &block, const PropertyRow &row,
-                               DesignerObject *parent);
+
+    //! A property that is not in the list yet; null when there is no room for it.
+    static SharedProperty make(const QSharedPointer<PropertyBlock> &block, const PropertyRow &row);
+    //! The property must be in this block, and is the last one of the list from now on.
+    void list(const DesignerProperty &property);
+    qsizetype count() const
+    {
+        return m_count;
+    }
+    DesignerProperty *at(qsizetype index)
+    {
+        return reinterpret_cast<DesignerProperty *>(begin() + distances()[-1 - index] * unit);
+    }
+
+    DesignerObject *parent() const
+    {
+        return m_parent;
+    }
+    //! For an object that goes while somebody still holds on to a property.
+    void leaveParent()
+    {
+        m_parent = nullptr;
+    }
 
 private:
-    using Offset = quint16;
+    using Distance = quint16;
+    static constexpr size_t unit = alignof(void *);
 
-    explicit PropertyBlock(size_t size)
-        : m_size(quint32(size))
+    PropertyBlock(size_t size, DesignerObject *parent)
+        : m_parent(parent)
+        , m_end(Distance(size))
     { }
     ~PropertyBlock() = default;
     static void destroy(PropertyBlock *block);
-    static size_t alignedSize(size_t size)
+    static constexpr size_t units(size_t bytes)
     {
-        constexpr size_t alignment = alignof(void *);
-        return (size + alignment - 1) / alignment * alignment;
+        return (bytes + unit - 1) / unit;
     }
-    char *bytes()
+    char *begin()
     {
-        return reinterpret_cast<char *>(this) + alignedSize(sizeof *this);
+        return reinterpret_cast<char *>(this);
     }
-    //! Where the properties are, the first one last.
-    Offset *offsets()
+    //! Behind the distances of all properties, the first one last; those in the list come first.
+    Distance *distances()
     {
-        return reinterpret_cast<Offset *>(bytes() + m_size) - m_count;
+        return reinterpret_cast<Distance *>(begin() + m_end * unit);
     }
 
-    quint32 m_size;
-    quint32 m_used = 0;
-    quint32 m_count = 0;
+    DesignerObject *m_parent;
+    // In units from the begin of the block.
+    Distance m_used = units(sizeof(PropertyBlock));
+    Distance m_end;
+    quint16 m_made = 0;
+    quint16 m_count = 0; //!< how many are in the list
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -2,7 +2,8 @@
 #include "corvex/core/PropertyTable.h"
 
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/core/PropertyBlock.h"
+#include "corvex/core/DesignerObject.h"
+#include "corvex/core/PropertyStore.h"
 
 using namespace Qt::StringLiterals;
 
@@ -44,9 +45,15 @@ PropertyRow::PropertyRow(const SharedProperty &prototype, Maker maker, Builder b
     , m_size(size)
 {
     if (maker && !prototype->isList() && !prototype->isObject()) {
-        m_prototype->m_descriptor->initialText = prototype->convertToValueString();
-        m_prototype->m_descriptor->utf8Initial = m_prototype->m_descriptor->initialText.toUtf8();
+        PropertyDescriptor &descriptor = m_prototype->ownDescriptor();
+        descriptor.initialText = prototype->convertToValueString();
+        descriptor.utf8Initial = descriptor.initialText.toUtf8();
     }
+}
+
+SharedProperty PropertyRow::make(DesignerObject *parent) const
+{
+    return parent ? parent->makeProperty(*this) : makeAlone(nullptr);
 }
 
 QString PropertyRow::text(const char *utf8)
@@ -148,22 +155,20 @@ PropertyRow &PropertyRow::overridesValue()
 
 PropertyTable::PropertyTable(std::initializer_list<PropertyRow> rows)
     : m_rows(rows)
-{
-    for (const PropertyRow &row : m_rows) {
-        m_blockSize += PropertyBlock::sizeFor(row);
-    }
-}
+{ }
 
-const std::vector<qsizetype> &PropertyTable::placesAmong(const QList<SharedProperty> &properties) const
+const std::vector<qsizetype> &PropertyTable::placesAmong(const PropertyStore &properties) const
 {
-    if (m_placedAmong != properties.size()) {
-        m_placedAmong = properties.size();
+    const qsizetype count = properties.count();
+    if (m_placedAmong != count) {
+        m_placedAmong = count;
         m_places.clear();
         for (const PropertyRow &row : m_rows) {
-            const auto found =
-                std::find_if(properties.begin(), properties.end(),
-                             [&row](const SharedProperty &property) { return property->id() == row.id(); });
-            m_places.push_back(found == properties.end() ? -1 : found - properties.begin());
+            qsizetype place = 0;
+            while (place < count && properties.at(place)->id() != row.id()) {
+                ++place;
+            }
+            m_places.push_back(place < count ? place : -1);
         }
     }
     return m_places;
@@ -176,7 +181,7 @@ bool PropertyTable::describeAnew(const PropertyRow &row, DesignerProperty &prope
         return false;
     }
     const bool startsAlike = property.initialText() == row.m_prototype->descriptor().initialText;
-    property.m_descriptor = row.m_prototype->m_descriptor;
+    property.shareDescriptor(*row.m_prototype);
     const bool staysInitial = property.m_isInitial && startsAlike;
     const bool isTaken =
         !row.m_overridesValue || property.convertToValue(row.m_prototype->convertToValueString());

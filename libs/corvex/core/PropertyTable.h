@@ -9,6 +9,8 @@
 
 namespace Halvane::Corvex::Designer {
 
+class PropertyStore;
+
 /*! One row of a property table: what a class says about one of its properties.
 
     The row holds a prototype; every property made from it shares the prototype's descriptor. Texts are UTF-8;
@@ -22,8 +24,9 @@ public:
     static PropertyRow anew(const SharedProperty &described);
 
     const QString &id() const { return m_prototype->id(); }
-    //! A property as the row describes it, with its value.
-    SharedProperty make(DesignerObject *parent) const { return m_maker(parent, *m_prototype); }
+    //! A property as the row describes it, with its value, for the object \a parent to add; null stands for
+    //! none.
+    SharedProperty make(DesignerObject *parent) const;
 
     PropertyRow &rank(int rank);
     PropertyRow &flags(int flags);
@@ -51,15 +54,16 @@ private:
     friend PropertyRow row(const char *id, const char *title, const Value &initialValue);
     friend class PropertyTable;
     friend class PropertyBlock;
+    friend class PropertyStore;
 
     using Maker = SharedProperty (*)(DesignerObject *parent, const DesignerProperty &prototype);
     //! Makes a property in the memory that it is given.
-    using Builder = DesignerProperty *(*)(void *place, DesignerObject *parent,
-                                          const DesignerProperty &prototype);
+    using Builder = DesignerProperty *(*)(void *place, const DesignerProperty &prototype);
 
     PropertyRow(const SharedProperty &prototype, Maker maker, Builder builder, size_t size);
     static QString text(const char *utf8);
     static QString title(const char *utf8);
+    SharedProperty makeAlone(DesignerObject *parent) const { return m_maker(parent, *m_prototype); }
 
     SharedProperty m_prototype;
     Maker m_maker;
@@ -70,7 +74,7 @@ private:
 
 /*! A row for a property of the class \a Property, which starts with \a initialValue. Property has a protected
    or public constructor Property(DesignerObject *parent, const Property &prototype), as TypedProperty gives
-   it. */
+   it; the parent may be null there and known later. */
 template<class Property, class Value>
 PropertyRow row(const char *id, const char *title, const Value &initialValue)
 {
@@ -86,10 +90,10 @@ PropertyRow row(const char *id, const char *title, const Value &initialValue)
         [](DesignerObject *parent, const DesignerProperty &prototype) -> SharedProperty {
             return QSharedPointer<Made>::create(parent, static_cast<const Property &>(prototype));
         },
-        alignof(Made) > alignof(void *) ? PropertyRow::Builder(nullptr)
-                                        : [](void *place, DesignerObject *parent,
-                                             const DesignerProperty &prototype) -> DesignerProperty * {
-            return new (place) Made(parent, static_cast<const Property &>(prototype));
+        alignof(Made) > alignof(void *)
+            ? PropertyRow::Builder(nullptr)
+            : [](void *place, const DesignerProperty &prototype) -> DesignerProperty * {
+            return new (place) Made(nullptr, static_cast<const Property &>(prototype));
         },
         sizeof(Made));
 }
@@ -105,11 +109,10 @@ private:
 
     /*! For each row the index of the one among \a properties that it describes anew; -1 for a row that makes
         one. It is the same for all objects that use the table, and looked up once. */
-    const std::vector<qsizetype> &placesAmong(const QList<SharedProperty> &properties) const;
+    const std::vector<qsizetype> &placesAmong(const PropertyStore &properties) const;
     bool describeAnew(const PropertyRow &row, DesignerProperty &property) const;
 
     std::vector<PropertyRow> m_rows;
-    size_t m_blockSize = 0; //!< of the properties that its rows make
     mutable std::vector<qsizetype> m_places;
     mutable qsizetype m_placedAmong = -1;
 };

@@ -68,7 +68,7 @@ bool serialRS485Ports(const DesignerProperty *property, QString &error)
         ChannelList(configuration->digitalInputOutputs()->valueString()), error);
 }
 
-template<const SharedProperty &(Configuration::*enabled)() const>
+template<SharedProperty (Configuration::*enabled)() const>
 bool password(const DesignerProperty *property, QString &error)
 {
     const Configuration *configuration = configurationOf(property);
@@ -177,10 +177,9 @@ bool Configuration::initializeProperties()
     return FileObject::initializeProperties() && addProperties(table);
 }
 
-const SharedProperty &Configuration::at(Place place) const
+SharedProperty Configuration::at(Place place) const
 {
-    static const SharedProperty none;
-    return place < properties().size() ? properties().at(place) : none;
+    return properties().value(place);
 }
 
 bool Configuration::isOn(Place place) const

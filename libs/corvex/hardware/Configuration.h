@@ -30,27 +30,27 @@ public:
     QString createFileName() const override;
     QString createSubPath() const override;
 
-    const SharedProperty &displayBrightness() const { return at(DisplayBrightness); }
-    const SharedProperty &screenSize() const { return at(ScreenSize); }
-    const SharedProperty &colorDepth() const { return at(ColorDepth); }
-    const SharedProperty &analogInputs() const { return at(AnalogInputs); }
-    const SharedProperty &alarmOutputs() const { return at(AlarmOutputs); }
-    const SharedProperty &pwmFrequency() const { return at(PwmFrequency); }
-    const SharedProperty &pwmOutputs() const { return at(PwmOutputs); }
-    const SharedProperty &serialCOMPorts() const { return at(SerialCOMPorts); }
-    const SharedProperty &canbusPorts() const { return at(CanbusPorts); }
-    const SharedProperty &digitalInputOutputs() const { return at(DigitalInputOutputs); }
-    const SharedProperty &enableRS485() const { return at(EnableRS485); }
-    const SharedProperty &serialRS485Ports() const { return at(SerialRS485Ports); }
-    const SharedProperty &enableSPIChipSelect() const { return at(EnableSPIChipSelect); }
-    const SharedProperty &SPIChipSelect() const { return at(SpiChipSelect); }
-    const SharedProperty &enablePassword() const { return at(EnablePassword); }
-    const SharedProperty &password() const { return at(Password); }
-    const SharedProperty &enableUpload() const { return at(EnableUpload); }
-    const SharedProperty &uploadPassword() const { return at(UploadPassword); }
-    const SharedProperty &compatibleModels() const { return at(CompatibleModels); }
-    const SharedProperty &description() const { return at(Description); }
-    const SharedProperty &url() const { return at(Url); }
+    SharedProperty displayBrightness() const { return at(DisplayBrightness); }
+    SharedProperty screenSize() const { return at(ScreenSize); }
+    SharedProperty colorDepth() const { return at(ColorDepth); }
+    SharedProperty analogInputs() const { return at(AnalogInputs); }
+    SharedProperty alarmOutputs() const { return at(AlarmOutputs); }
+    SharedProperty pwmFrequency() const { return at(PwmFrequency); }
+    SharedProperty pwmOutputs() const { return at(PwmOutputs); }
+    SharedProperty serialCOMPorts() const { return at(SerialCOMPorts); }
+    SharedProperty canbusPorts() const { return at(CanbusPorts); }
+    SharedProperty digitalInputOutputs() const { return at(DigitalInputOutputs); }
+    SharedProperty enableRS485() const { return at(EnableRS485); }
+    SharedProperty serialRS485Ports() const { return at(SerialRS485Ports); }
+    SharedProperty enableSPIChipSelect() const { return at(EnableSPIChipSelect); }
+    SharedProperty SPIChipSelect() const { return at(SpiChipSelect); }
+    SharedProperty enablePassword() const { return at(EnablePassword); }
+    SharedProperty password() const { return at(Password); }
+    SharedProperty enableUpload() const { return at(EnableUpload); }
+    SharedProperty uploadPassword() const { return at(UploadPassword); }
+    SharedProperty compatibleModels() const { return at(CompatibleModels); }
+    SharedProperty description() const { return at(Description); }
+    SharedProperty url() const { return at(Url); }
 
     //! How many Ethernet ports an installed model has, from "Ports.strings" in its folder; nothing when that
     //! does not say. The configuration of a project does not know.
@@ -121,7 +121,7 @@ private:
     static const QList<Judgement> &judgements();
     static const QList<ChannelField> &channelFields();
 
-    const SharedProperty &at(Place place) const;
+    SharedProperty at(Place place) const;
     QString textOf(Place place) const { return at(place)->valueString(); }
     bool isOn(Place place) const;
     void write(Place place, const QString &value) { changePropertyValue(at(place), value); }

@@ -3,15 +3,40 @@
 
 #include "corvex/values/GroupText.h"
 
+#include <array>
+
 namespace Halvane::Corvex::Designer {
 
 using namespace Qt::StringLiterals;
 
 IdentifierInfo::IdentifierInfo(const QString &name, const QString &scopeType, const QString &filterType)
-    : m_scopeType(scopeType)
-    , m_name(name)
-    , m_filterType(filterType)
-{ }
+    : m_name(name)
+{
+    setKind(scopeType, filterType);
+}
+
+const IdentifierInfo::Kind &IdentifierInfo::kind() const
+{
+    static const Kind none;
+    return m_kind ? *m_kind : none;
+}
+
+void IdentifierInfo::setKind(const QString &scopeType, const QString &filterType)
+{
+    // Those that came last, which are nearly all that there are.
+    static thread_local std::array<QExplicitlySharedDataPointer<Kind>, 64> known;
+    if (scopeType.isEmpty() && filterType.isEmpty()) {
+        m_kind.reset();
+        return;
+    }
+    auto &kind = known[qHash(filterType, qHash(scopeType)) % known.size()];
+    if (!kind || kind->scopeType != scopeType || kind->filterType != filterType) {
+        kind = new Kind;
+        kind->scopeType = scopeType;
+        kind->filterType = filterType;
+    }
+    m_kind = kind;
+}
 
 IdentifierInfo::IdentifierInfo(const QString &text, bool *ok)
     : IdentifierInfo(fromText(text, IdentifierInfo(), ok))
@@ -23,33 +48,44 @@ IdentifierInfo IdentifierInfo::fromText(QStringView text, const IdentifierInfo &
         return value == known ? known : value.toString();
     };
     IdentifierInfo identifier;
+    QString scopeType;
+    QString filterType;
     bool hasName = false;
     const bool parsed = GroupText::forEachEntry(text, [&](QStringView key, QStringView value) {
         if (key == "name"_L1) {
             identifier.m_name = value.toString();
             hasName = true;
         } else if (key == "scopeType"_L1) {
-            identifier.m_scopeType = shared(value, like.m_scopeType);
+            scopeType = shared(value, like.scopeType());
         } else if (key == "filterType"_L1) {
-            identifier.m_filterType = shared(value, like.m_filterType);
+            filterType = shared(value, like.filterType());
         }
         return true;
     });
     if (ok)
         *ok = parsed && hasName;
-    return parsed && hasName ? identifier : IdentifierInfo();
+    if (!parsed || !hasName) {
+        return {};
+    }
+    const bool isLike = scopeType == like.scopeType() && filterType == like.filterType();
+    if (isLike) {
+        identifier.m_kind = like.m_kind;
+    } else {
+        identifier.setKind(scopeType, filterType);
+    }
+    return identifier;
 }
 
 QString IdentifierInfo::toString() const
 {
     QString text;
-    text.reserve(m_filterType.size() + m_name.size() + m_scopeType.size() + 36);
-    if (!m_filterType.isEmpty())
-        GroupText::appendEntry(text, u"filterType", m_filterType);
+    text.reserve(filterType().size() + m_name.size() + scopeType().size() + 36);
+    if (!filterType().isEmpty())
+        GroupText::appendEntry(text, u"filterType", filterType());
     if (!m_name.isEmpty())
         GroupText::appendEntry(text, u"name", m_name);
-    if (!m_scopeType.isEmpty())
-        GroupText::appendEntry(text, u"scopeType", m_scopeType);
+    if (!scopeType().isEmpty())
+        GroupText::appendEntry(text, u"scopeType", scopeType());
     return text;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QSharedData>
 #include <QString>
 #include <QStringView>
 
@@ -22,12 +23,12 @@ public:
     //! The same; a scope and a class that are those of \a like share its texts.
     static IdentifierInfo fromText(QStringView text, const IdentifierInfo &like, bool *ok);
 
-    const QString &scopeType() const { return m_scopeType; }
-    void setScopeType(const QString &scopeType) { m_scopeType = scopeType; }
+    const QString &scopeType() const { return kind().scopeType; }
+    void setScopeType(const QString &scopeType) { setKind(scopeType, filterType()); }
     const QString &name() const { return m_name; }
     void setName(const QString &name) { m_name = name; }
-    const QString &filterType() const { return m_filterType; }
-    void setFilterType(const QString &filterType) { m_filterType = filterType; }
+    const QString &filterType() const { return kind().filterType; }
+    void setFilterType(const QString &filterType) { setKind(scopeType(), filterType); }
 
     //! The fields that are not empty; the text of an identifier without a name is not one that can be read.
     QString toString() const;
@@ -44,12 +45,26 @@ public:
     //! has.
     static QString generateUniqueId(const DesignerObject *object, const QString &base, int number = 1);
 
-    friend bool operator==(const IdentifierInfo &, const IdentifierInfo &) = default;
+    friend bool operator==(const IdentifierInfo &left, const IdentifierInfo &right)
+    {
+        return left.m_name == right.m_name
+               && (left.m_kind == right.m_kind
+                   || (left.scopeType() == right.scopeType() && left.filterType() == right.filterType()));
+    }
 
 private:
-    QString m_scopeType;
+    //! What the identifiers of a class have in common. A project has thousands of each.
+    struct Kind : public QSharedData
+    {
+        QString scopeType;
+        QString filterType;
+    };
+
+    const Kind &kind() const;
+    void setKind(const QString &scopeType, const QString &filterType);
+
     QString m_name;
-    QString m_filterType;
+    QExplicitlySharedDataPointer<Kind> m_kind; //!< never changed; null for one without scope and class
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -221,7 +221,8 @@ UndoCommand *ModelTest::valueCommand()
     all.removeIf([object](const DesignerObject *other) {
         return other->className() != object->className() || other->screen() != object->screen();
     });
-    const SharedProperty property = random.oneOf(object->properties());
+    const QList<SharedProperty> properties = object->properties();
+    const SharedProperty property = random.oneOf(properties);
     if (property->isList() || property->isObject() || property->id() == "id"_L1
         || property->id() == "indexes"_L1) {
         return nullptr;

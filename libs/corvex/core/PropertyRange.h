@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/DesignerProperty.h"
+
+#include <cstddef>
+#include <iterator>
+#include <ranges>
+
+namespace Halvane::Corvex::Designer {
+
+class PropertyStore;
+
+/*! The properties of an object in the order in which they were made. They are handed out one by one; the
+   object itself holds no list of shared pointers. A range must not outlive its object. */
+class PropertyRange
+{
+public:
+    class const_iterator
+    {
+    public:
+        using iterator_concept = std::forward_iterator_tag;
+        using iterator_category = std::input_iterator_tag;
+        using value_type = SharedProperty;
+        using difference_type = std::ptrdiff_t;
+        using pointer = void;
+        using reference = SharedProperty;
+
+        const_iterator() = default;
+        SharedProperty operator*() const { return PropertyRange(m_store).at(m_index); }
+        const_iterator &operator++()
+        {
+            ++m_index;
+            return *this;
+        }
+        const_iterator operator++(int) { return {m_store, m_index++}; }
+        friend bool operator==(const const_iterator &, const const_iterator &) = default;
+
+    private:
+        friend class PropertyRange;
+        const_iterator(const PropertyStore *store, qsizetype index)
+            : m_store(store)
+            , m_index(index)
+        { }
+
+        const PropertyStore *m_store = nullptr;
+        qsizetype m_index = 0;
+    };
+
+    explicit PropertyRange(const PropertyStore *store)
+        : m_store(store)
+    { }
+
+    const_iterator begin() const { return {m_store, 0}; }
+    const_iterator end() const { return {m_store, size()}; }
+    qsizetype size() const;
+    //! The index must be one of the range.
+    SharedProperty at(qsizetype index) const;
+    //! Null where there is none.
+    SharedProperty value(qsizetype index) const
+    {
+        return index >= 0 && index < size() ? at(index) : SharedProperty();
+    }
+    operator QList<SharedProperty>() const { return {begin(), end()}; }
+
+private:
+    const PropertyStore *m_store;
+};
+
+} // namespace Halvane::Corvex::Designer
+
+//! An iterator points to the object, not to its range.
+template<>
+inline constexpr bool std::ranges::enable_borrowed_range<Halvane::Corvex::Designer::PropertyRange> = true;

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/PropertyStore.h"
+
+#include "corvex/core/DesignerObject.h"
+#include "corvex/core/PropertyRange.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! What the properties of one object of a class need in a block, as measured at one that has none.
+struct ClassNeeds
+{
+    size_t bytes = 0;
+    size_t sum = 0;                           //!< of the object that is being measured
+    const DesignerObject *measured = nullptr; //!< for comparison alone
+    bool areKnown = false;
+};
+
+ClassNeeds &needsOf(const DesignerObject &object)
+{
+    static thread_local QHash<QString, ClassNeeds> needs;
+    return needs[object.className()];
+}
+
+} // namespace
+
+SharedProperty PropertyStore::make(const PropertyRow &row, DesignerObject *parent)
+{
+    if (!PropertyBlock::isUsed()) {
+        return row.makeAlone(parent);
+    }
+    if (!m_block) {
+        ClassNeeds &needs = needsOf(*parent);
+        const bool isFirst = count() == 0;
+        if (isFirst && needs.areKnown) {
+            m_block = PropertyBlock::create(needs.bytes, parent);
+        } else if (isFirst) {
+            needs.measured = parent;
+            needs.sum = 0;
+            needs.areKnown = true;
+        }
+        if (!m_block && needs.measured == parent) {
+            needs.sum += PropertyBlock::sizeFor(row);
+            needs.bytes = std::max(needs.bytes, needs.sum);
+        }
+    }
+    if (SharedProperty property = PropertyBlock::make(m_block, row)) {
+        return property;
+    }
+    if (m_block && PropertyBlock::sizeFor(row) > 0) {
+        needsOf(*parent).areKnown = false; // The next object is measured anew.
+    }
+    return row.makeAlone(parent);
+}
+
+void PropertyStore::append(const SharedProperty &property)
+{
+    const bool isInBlock = m_block && PropertyBlock::of(*property) == m_block.data();
+    if (isInBlock && !m_others) {
+        m_block->list(*property);
+        return;
+    }
+    if (!m_others) {
+        m_others = std::make_unique<std::vector<SharedProperty>>();
+    }
+    m_others->push_back(property);
+}
+
+SharedProperty PropertyStore::shared(qsizetype index) const
+{
+    const qsizetype inBlock = listedInBlock();
+    return index < inBlock ? QtSharedPointer::copyAndSetPointer(m_block->at(index), m_block)
+                           : (*m_others)[size_t(index - inBlock)];
+}
+
+SharedProperty PropertyStore::shared(const DesignerProperty *property) const
+{
+    if (property && m_block && PropertyBlock::of(*property) == m_block.data()) {
+        return QtSharedPointer::copyAndSetPointer(const_cast<DesignerProperty *>(property), m_block);
+    }
+    for (qsizetype i = listedInBlock(); i < count(); ++i) {
+        if (at(i) == property) {
+            return shared(i);
+        }
+    }
+    return {};
+}
+
+void PropertyStore::leaveParent()
+{
+    if (m_block) {
+        m_block->leaveParent();
+    }
+    for (qsizetype i = listedInBlock(); i < count(); ++i) {
+        if (!PropertyBlock::of(*at(i))) {
+            at(i)->setParentObject(nullptr);
+        }
+    }
+}
+
+qsizetype PropertyRange::size() const
+{
+    return m_store->count();
+}
+
+SharedProperty PropertyRange::at(qsizetype index) const
+{
+    return m_store->shared(index);
+}
+
+} // namespace Halvane::Corvex::Designer
