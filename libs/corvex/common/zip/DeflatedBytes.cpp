@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/zip/DeflatedBytes.h"
 
+#include "corvex/common/Processors.h"
+
 #include <algorithm>
 #include <atomic>
-#include <future>
-#include <thread>
 #include <vector>
 #include <zlib.h>
 
@@ -18,6 +18,16 @@ constexpr qsizetype windowSize = 32 * 1024; // as far back as the format can ref
 constexpr qsizetype markSize = 16;          // room for what ends a piece
 constexpr int memoryLevel = 8;              // zlib's own choice
 
+/*! How hard the highest level looks for matches in a piece of many: at 256 places for each in place of 4,096.
+    That takes 42 % of the time and, of a large project, 3.5 % more bytes. */
+struct Search
+{
+    int good = 32;
+    int lazy = 258;
+    int nice = 258;
+    int places = 256;
+};
+
 const Bytef *bytesOf(QByteArrayView view)
 {
     return reinterpret_cast<const Bytef *>(view.data());
@@ -28,6 +38,7 @@ struct Piece
     QByteArrayView before; //!< the end of the piece before it, to which it may refer
     QByteArrayView bytes;
     bool isLast = false;
+    bool isOnly = false;
     QByteArray deflated = {}; //!< ends with a whole byte; empty when there was no memory
     uLong crc = 0;
 };
@@ -37,6 +48,10 @@ void deflatePiece(Piece &piece, int level)
     z_stream stream{};
     if (deflateInit2(&stream, level, Z_DEFLATED, -MAX_WBITS, memoryLevel, Z_DEFAULT_STRATEGY) != Z_OK) {
         return;
+    }
+    if (level == Z_BEST_COMPRESSION && !piece.isOnly) {
+        const auto [good, lazy, nice, places] = Search();
+        deflateTune(&stream, good, lazy, nice, places);
     }
     if (!piece.before.isEmpty()) {
         deflateSetDictionary(&stream, bytesOf(piece.before), uInt(piece.before.size()));
@@ -61,8 +76,8 @@ std::vector<Piece> piecesOf(QByteArrayView bytes)
     do {
         const qsizetype size = std::min(pieceSize, bytes.size() - from);
         const qsizetype known = std::min(from, windowSize);
-        pieces.push_back(
-            {bytes.sliced(from - known, known), bytes.sliced(from, size), from + size == bytes.size()});
+        pieces.push_back({bytes.sliced(from - known, known), bytes.sliced(from, size),
+                          from + size == bytes.size(), size == bytes.size()});
         from += size;
     } while (from < bytes.size());
     return pieces;
@@ -80,15 +95,7 @@ DeflatedBytes::DeflatedBytes(const QByteArray &bytes, int level)
             deflatePiece(pieces[i], level);
         }
     };
-    std::vector<std::future<void>> others(
-        std::min<size_t>(std::max(std::thread::hardware_concurrency(), 1U), pieces.size()) - 1);
-    for (std::future<void> &other : others) {
-        other = std::async(std::launch::async | std::launch::deferred, deflateSome);
-    }
-    deflateSome();
-    for (const std::future<void> &other : others) {
-        other.wait();
-    }
+    Processors::run(pieces.size(), deflateSome);
     for (const Piece &piece : pieces) {
         if (piece.deflated.isEmpty()) {
             m_deflated.clear();

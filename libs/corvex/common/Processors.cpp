@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/Processors.h"
+
+#include <algorithm>
+#include <future>
+#include <thread>
+#include <vector>
+
+namespace Halvane::Corvex::Common {
+
+std::size_t Processors::count()
+{
+    return std::max(std::thread::hardware_concurrency(), 1U);
+}
+
+void Processors::run(std::size_t most, const std::function<void()> &work)
+{
+    std::vector<std::future<void>> others(std::max<std::size_t>(std::min(count(), most), 1) - 1);
+    for (std::future<void> &other : others) {
+        // Without another thread the call waits for its turn in this one.
+        other = std::async(std::launch::async | std::launch::deferred, work);
+    }
+    work();
+    for (std::future<void> &other : others) {
+        other.get();
+    }
+}
+
+} // namespace Halvane::Corvex::Common
