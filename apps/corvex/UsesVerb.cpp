@@ -54,7 +54,7 @@ bool isUsed(const DesignerObject &object, const ReferenceIndex &index)
 {
     const ReferenceTarget target(&object);
     return std::ranges::any_of(index.candidates(target), [&](const SharedProperty &property) {
-        const QList<Mention> mentions = ReferenceForm::mentions(*property, property->valueString());
+        const QList<Mention> mentions = ReferenceForm::mentions(*property);
         return std::ranges::any_of(mentions, [&](const Mention &mention) {
             return target.isMeantBy(mention, property->parentObject());
         });

@@ -2,7 +2,10 @@
 #include "corvex/editing/commands/ReferenceForm.h"
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/core/properties/GeneralDataListProperty.h"
 #include "corvex/core/properties/LinkProperty.h"
+#include "corvex/core/properties/PropertyChangeListProperty.h"
+#include "corvex/core/properties/UpdateObjectListProperty.h"
 #include "corvex/values/GeneralDataList.h"
 #include "corvex/values/ListInfo.h"
 #include "corvex/values/ObjectLinkInfo.h"
@@ -22,50 +25,6 @@ namespace Halvane::Corvex::Designer {
 namespace {
 
 using Form = ReferenceForm::Form;
-
-//! A kind of property with a form, whoever has it unless owner and id are told.
-struct Site
-{
-    QLatin1StringView propertyClass;
-    Form form;
-    QLatin1StringView owner = {};
-    QLatin1StringView id = {};
-};
-
-constexpr std::array sites{
-    Site{"LinkProperty"_L1, Form::Link},
-    Site{"GeneralDataProperty"_L1, Form::Expression},
-    Site{"GeneralDataListProperty"_L1, Form::Expression},
-    Site{"UpdateObjectProperty"_L1, Form::States},
-    Site{"UpdateObjectListProperty"_L1, Form::States},
-    Site{"PropertyChangeProperty"_L1, Form::Changes},
-    Site{"PropertyChangeListProperty"_L1, Form::Changes},
-    Site{"ListValueProperty"_L1, Form::Names, "GroupElement"_L1, "indexes"_L1},
-    Site{"ListValueProperty"_L1, Form::Names, "FilterElement"_L1, "elements"_L1},
-    Site{"ListValueProperty"_L1, Form::Names, "BACnetService"_L1, "bacNetObjectList"_L1},
-    Site{"ListValueProperty"_L1, Form::Names, "BACnetService"_L1, "bacNetDevices"_L1},
-    Site{"ListValueProperty"_L1, Form::NamePairs, "ModbusCommands"_L1, "commands"_L1},
-    Site{"StringProperty"_L1, Form::CommaNames, "PropertyTrigger"_L1, "actionScheduler"_L1},
-    Site{"StringProperty"_L1, Form::Expressions, "LogicBuilder"_L1, "logicExpression"_L1},
-};
-
-//! The rows for the class of the property and its bases, looked up once for each class.
-const QList<const Site *> &sitesOf(const DesignerProperty &property)
-{
-    static QHash<QString, QList<const Site *>> known;
-    const auto found = known.constFind(property.className());
-    if (found != known.cend()) {
-        return *found;
-    }
-    const QStringList classNames = property.classNames();
-    QList<const Site *> rows;
-    for (const Site &site : sites) {
-        if (classNames.contains(site.propertyClass)) {
-            rows.append(&site);
-        }
-    }
-    return *known.insert(property.className(), rows);
-}
 
 //! Values that a state or an action gives to properties of elements, by the id alone, since the element may
 //! not be there.
@@ -128,9 +87,8 @@ bool show(Mention &mention, const MentionVisitor &visitor)
 }
 
 //! \a property may be null.
-bool visitLink(const LinkProperty *property, QString &text, const MentionVisitor &visitor)
+bool visitLink(const LinkProperty *property, ObjectLinkInfo &link, const MentionVisitor &visitor)
 {
-    ObjectLinkInfo link(text);
     if (!link.isValid()) {
         return false;
     }
@@ -139,16 +97,24 @@ bool visitLink(const LinkProperty *property, QString &text, const MentionVisitor
         return false;
     }
     link.setObjectId(mention.isDropped ? QString() : mention.path);
-    text = link.toString();
     return true;
 }
 
-bool visitExpression(QString &text, const MentionVisitor &visitor)
+bool visitLink(const LinkProperty *property, QString &text, const MentionVisitor &visitor)
 {
-    GeneralDataList terms(text);
+    ObjectLinkInfo link(text);
+    const bool isChanged = visitLink(property, link, visitor);
+    if (isChanged) {
+        text = link.toString();
+    }
+    return isChanged;
+}
+
+bool visitValue(GeneralDataList &terms, const MentionVisitor &visitor)
+{
     bool isChanged = false;
     for (qsizetype i = 0; i < terms.count(); ++i) {
-        const QString path = terms.at(i).objectName();
+        const QString path = std::as_const(terms)[i].objectName();
         if (path.isEmpty()) {
             continue;
         }
@@ -158,17 +124,14 @@ bool visitExpression(QString &text, const MentionVisitor &visitor)
             mention.isDropped ? terms[i].removeObject() : terms[i].replaceObject(mention.path);
         }
     }
-    if (isChanged) {
-        text = terms.toString();
-    }
     return isChanged;
 }
 
-bool visitStates(QString &text, const MentionVisitor &visitor)
+bool visitValue(UpdateObjectList &list, const MentionVisitor &visitor)
 {
     bool isChanged = false;
     UpdateObjectList updates;
-    for (UpdateObjectInfo update : UpdateObjectList(text)) {
+    for (UpdateObjectInfo update : list) {
         if (Mention mention{NamedKind::Element, update.name()}; update.isValid() && show(mention, visitor)) {
             isChanged = true;
             if (mention.isDropped) {
@@ -197,16 +160,16 @@ bool visitStates(QString &text, const MentionVisitor &visitor)
         updates.append(update);
     }
     if (isChanged) {
-        text = updates.toString();
+        list = updates;
     }
     return isChanged;
 }
 
-bool visitChanges(QString &text, const MentionVisitor &visitor)
+bool visitValue(PropertyList &list, const MentionVisitor &visitor)
 {
     bool isChanged = false;
     QList<PropertyChangeInfo> changes;
-    for (PropertyChangeInfo change : PropertyList(text)) {
+    for (PropertyChangeInfo change : list) {
         if (Mention mention{NamedKind::Element, change.elementName()}; show(mention, visitor)) {
             isChanged = true;
             if (mention.isDropped) {
@@ -222,9 +185,20 @@ bool visitChanges(QString &text, const MentionVisitor &visitor)
         changes.append(change);
     }
     if (isChanged) {
-        PropertyList list;
+        list.clear();
         list.append(changes);
-        text = list.toString();
+    }
+    return isChanged;
+}
+
+//! The same for the text of a value.
+template<class Value>
+bool visitAs(QString &text, const MentionVisitor &visitor)
+{
+    Value value(text);
+    const bool isChanged = visitValue(value, visitor);
+    if (isChanged) {
+        text = value.toString();
     }
     return isChanged;
 }
@@ -288,8 +262,8 @@ bool visitExpressions(QString &text, const MentionVisitor &visitor)
     bool isChanged = false;
     PairList pairs(text);
     for (qsizetype i = 0; i < pairs.count(); ++i) {
-        isChanged |= visitExpression(pairs[i].first, visitor);
-        isChanged |= visitExpression(pairs[i].second, visitor);
+        isChanged |= visitAs<GeneralDataList>(pairs[i].first, visitor);
+        isChanged |= visitAs<GeneralDataList>(pairs[i].second, visitor);
     }
     if (isChanged) {
         text = pairs.toString();
@@ -297,18 +271,90 @@ bool visitExpressions(QString &text, const MentionVisitor &visitor)
     return isChanged;
 }
 
-} // namespace
+bool showLink(const DesignerProperty &property, const MentionVisitor &visitor)
+{
+    const auto &link = static_cast<const LinkProperty &>(property);
+    ObjectLinkInfo copy = link.value();
+    return visitLink(&link, copy, visitor);
+}
 
-ReferenceForm::Form ReferenceForm::of(const DesignerProperty &property)
+template<class Property>
+bool showValue(const DesignerProperty &property, const MentionVisitor &visitor)
+{
+    auto copy = static_cast<const Property &>(property).value();
+    return visitValue(copy, visitor);
+}
+
+bool showText(const DesignerProperty &property, const MentionVisitor &visitor)
+{
+    QString text = property.valueString();
+    return ReferenceForm::visit(ReferenceForm::of(property), text, visitor);
+}
+
+//! A kind of property with a form, whoever has it unless owner and id are told.
+struct Site
+{
+    QLatin1StringView propertyClass;
+    Form form;
+    bool (*show)(const DesignerProperty &property, const MentionVisitor &visitor); //!< its value as it is
+    QLatin1StringView owner = {};
+    QLatin1StringView id = {};
+};
+
+constexpr std::array sites{
+    Site{"LinkProperty"_L1, Form::Link, &showLink},
+    Site{"GeneralDataProperty"_L1, Form::Expression, &showText},
+    Site{"GeneralDataListProperty"_L1, Form::Expression, &showValue<GeneralDataListProperty>},
+    Site{"UpdateObjectProperty"_L1, Form::States, &showText},
+    Site{"UpdateObjectListProperty"_L1, Form::States, &showValue<UpdateObjectListProperty>},
+    Site{"PropertyChangeProperty"_L1, Form::Changes, &showText},
+    Site{"PropertyChangeListProperty"_L1, Form::Changes, &showValue<PropertyChangeListProperty>},
+    Site{"ListValueProperty"_L1, Form::Names, &showText, "GroupElement"_L1, "indexes"_L1},
+    Site{"ListValueProperty"_L1, Form::Names, &showText, "FilterElement"_L1, "elements"_L1},
+    Site{"ListValueProperty"_L1, Form::Names, &showText, "BACnetService"_L1, "bacNetObjectList"_L1},
+    Site{"ListValueProperty"_L1, Form::Names, &showText, "BACnetService"_L1, "bacNetDevices"_L1},
+    Site{"ListValueProperty"_L1, Form::NamePairs, &showText, "ModbusCommands"_L1, "commands"_L1},
+    Site{"StringProperty"_L1, Form::CommaNames, &showText, "PropertyTrigger"_L1, "actionScheduler"_L1},
+    Site{"StringProperty"_L1, Form::Expressions, &showText, "LogicBuilder"_L1, "logicExpression"_L1},
+};
+
+//! The rows for the class of the property and its bases, looked up once for each class in each thread.
+const QList<const Site *> &sitesOf(const DesignerProperty &property)
+{
+    static thread_local QHash<QString, QList<const Site *>> known;
+    const auto found = known.constFind(property.className());
+    if (found != known.cend()) {
+        return *found;
+    }
+    const QStringList classNames = property.classNames();
+    QList<const Site *> rows;
+    for (const Site &site : sites) {
+        if (classNames.contains(site.propertyClass)) {
+            rows.append(&site);
+        }
+    }
+    return *known.insert(property.className(), rows);
+}
+
+//! Null for a property that names nothing.
+const Site *siteOf(const DesignerProperty &property)
 {
     for (const Site *site : sitesOf(property)) {
         if (site->id.isEmpty()
             || (property.id() == site->id && property.parentObject()
                 && property.parentObject()->isKindOfClass(site->owner))) {
-            return site->form;
+            return site;
         }
     }
-    return None;
+    return nullptr;
+}
+
+} // namespace
+
+ReferenceForm::Form ReferenceForm::of(const DesignerProperty &property)
+{
+    const Site *site = siteOf(property);
+    return site ? site->form : None;
 }
 
 bool ReferenceForm::visit(const DesignerProperty &property, QString &text, const MentionVisitor &visitor)
@@ -326,11 +372,11 @@ bool ReferenceForm::visit(Form form, QString &text, const MentionVisitor &visito
     case Link:
         return visitLink(nullptr, text, visitor);
     case Expression:
-        return visitExpression(text, visitor);
+        return visitAs<GeneralDataList>(text, visitor);
     case States:
-        return visitStates(text, visitor);
+        return visitAs<UpdateObjectList>(text, visitor);
     case Changes:
-        return visitChanges(text, visitor);
+        return visitAs<PropertyList>(text, visitor);
     case Names:
         return visitNameList(text, visitor);
     case NamePairs:
@@ -349,6 +395,15 @@ QList<Mention> ReferenceForm::mentions(const DesignerProperty &property, const Q
     QList<Mention> found;
     QString copy = text;
     visit(property, copy, [&found](const Mention &mention) { found.append(mention); });
+    return found;
+}
+
+QList<Mention> ReferenceForm::mentions(const DesignerProperty &property)
+{
+    QList<Mention> found;
+    if (const Site *site = siteOf(property)) {
+        site->show(property, [&found](const Mention &mention) { found.append(mention); });
+    }
     return found;
 }
 

@@ -36,6 +36,8 @@ public:
         one was changed. A text that does not parse has none. \return whether \a text is another one now. */
     static bool visit(const DesignerProperty &property, QString &text, const MentionVisitor &visitor);
     static QList<Mention> mentions(const DesignerProperty &property, const QString &text);
+    //! Those of the value that the property has, for which it is neither printed nor parsed.
+    static QList<Mention> mentions(const DesignerProperty &property);
     //! For a text of that form which no property holds. A link then says itself what it may name.
     static bool visit(Form form, QString &text, const MentionVisitor &visitor);
 };

@@ -31,7 +31,7 @@ QList<ReferenceUse> ReferenceScanner::uses(const ReferenceTarget &target)
         return found;
     }
     visitSites(target.project(), true, [&](const SharedProperty &property) {
-        for (const Mention &mention : ReferenceForm::mentions(*property, property->valueString())) {
+        for (const Mention &mention : ReferenceForm::mentions(*property)) {
             if (target.isMeantBy(mention, property->parentObject())) {
                 found.append({property, mention.path});
             }
