@@ -10,6 +10,9 @@
 #include "elements/Statements.h"
 #include "elements/Validators.h"
 
+#include <algorithm>
+#include <array>
+
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
@@ -22,23 +25,23 @@ constexpr auto suffix = "Binding"_L1;
 //! How the expression for each bound name is translated.
 struct Binding
 {
-    const char *name;
+    QLatin1StringView name;
     GeneralDataList::InfoType kind;
     GeneralDataInfo::OutputType output;
 };
 
 constexpr Binding bindings[] = {
-    {"text", GeneralDataList::StringExpression, GeneralDataInfo::StringOutput},
-    {"color", GeneralDataList::GeneralExpression, GeneralDataInfo::ColorOutput},
-    {"rotation", GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput},
-    {"visible", GeneralDataList::BoolExpression, GeneralDataInfo::RawOutput},
-    {"x", GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput},
-    {"y", GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput},
+    {"text"_L1, GeneralDataList::StringExpression, GeneralDataInfo::StringOutput},
+    {"color"_L1, GeneralDataList::GeneralExpression, GeneralDataInfo::ColorOutput},
+    {"rotation"_L1, GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput},
+    {"visible"_L1, GeneralDataList::BoolExpression, GeneralDataInfo::RawOutput},
+    {"x"_L1, GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput},
+    {"y"_L1, GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput},
 };
 
 /*! A color is one term, which is made a color. Whatever else an expression of colors did, it would do with
     colors: a condition would be one, too, and always hold. Only texts that name colors can be selected. */
-constexpr Binding colorSelection{"color", GeneralDataList::StringExpression, GeneralDataInfo::RawOutput};
+constexpr Binding colorSelection{"color"_L1, GeneralDataList::StringExpression, GeneralDataInfo::RawOutput};
 
 bool isSelection(const GeneralDataList &expression)
 {
@@ -48,33 +51,55 @@ bool isSelection(const GeneralDataList &expression)
 }
 
 //! Null when nothing of that name can be bound.
-const Binding *bindingOf(const GeneralDataList &expression, QStringView name)
+const Binding *bindingOf(QStringView name)
 {
     const auto binding =
-        std::find_if(std::begin(bindings), std::end(bindings),
-                     [&name](const Binding &entry) { return name == QLatin1StringView(entry.name); });
-    if (binding == std::end(bindings)) {
-        return nullptr;
-    }
-    const bool isColor = binding->output == GeneralDataInfo::ColorOutput;
-    return isColor && isSelection(expression) ? &colorSelection : binding;
+        std::ranges::find_if(bindings, [name](const Binding &entry) { return name == entry.name; });
+    return binding == std::end(bindings) ? nullptr : binding;
+}
+
+//! How that expression is translated.
+const Binding &formOf(const GeneralDataList &expression, const Binding &binding)
+{
+    const bool isColor = binding.output == GeneralDataInfo::ColorOutput;
+    return isColor && isSelection(expression) ? colorSelection : binding;
 }
 
 QString codeOf(const GeneralDataList &expression, const Binding &binding)
 {
-    const bool isTooLong = binding.output == GeneralDataInfo::ColorOutput && expression.count() > 1;
-    return isTooLong ? QString() : completeCode(expression, binding.output, binding.kind);
+    const auto &[name, kind, output] = formOf(expression, binding);
+    const bool isTooLong = output == GeneralDataInfo::ColorOutput && expression.count() > 1;
+    return isTooLong ? QString() : completeCode(expression, output, kind);
+}
+
+//! The expression beside the plain value of that name; null when \a owner has none.
+const GeneralDataList *expressionBeside(const DesignerObject *owner, const Binding &binding)
+{
+    const QList<SharedProperty> &properties = owner->properties();
+    const auto isIt = [&binding](const SharedProperty &property) {
+        const QString &id = property->id();
+        return id.size() == binding.name.size() + suffix.size() && id.endsWith(suffix)
+               && id.startsWith(binding.name);
+    };
+    // Elements of a class have it at one place, and each bound property of each element asks.
+    static thread_local std::array<qsizetype, std::size(bindings)> places{};
+    qsizetype &place = places[size_t(&binding - std::begin(bindings))];
+    if (place >= properties.size() || !isIt(properties.at(place))) {
+        const auto found = std::ranges::find_if(properties, isIt);
+        if (found == properties.end()) {
+            return nullptr;
+        }
+        place = found - properties.begin();
+    }
+    return &expressionOf(*properties.at(place));
 }
 
 //! The expression of \a owner beside the plain value called \a name, as JavaScript; empty when there is none.
-QString codeBeside(const DesignerObject *owner, const QString &name)
+QString codeBeside(const DesignerObject *owner, QStringView name)
 {
-    const SharedProperty property = owner->getProperty(QString(name + suffix));
-    if (!property || expressionOf(*property).isEmpty()) {
-        return {};
-    }
-    const Binding *binding = bindingOf(expressionOf(*property), name);
-    return binding ? codeOf(expressionOf(*property), *binding) : QString();
+    const Binding *binding = bindingOf(name);
+    const GeneralDataList *expression = binding ? expressionBeside(owner, *binding) : nullptr;
+    return expression && !expression->isEmpty() ? codeOf(*expression, *binding) : QString();
 }
 
 } // namespace
@@ -82,9 +107,10 @@ QString codeBeside(const DesignerObject *owner, const QString &name)
 bool bindingValidator(const DesignerProperty *property, QString &error)
 {
     const GeneralDataList &expression = expressionOf(*property);
-    const Binding *binding = bindingOf(expression, QStringView(property->id()).chopped(suffix.size()));
+    const Binding *binding = bindingOf(QStringView(property->id()).chopped(suffix.size()));
     if (!binding
-        || acceptExpression(expression, binding->kind, !codeOf(expression, *binding).isEmpty(), error)) {
+        || acceptExpression(expression, formOf(expression, *binding).kind,
+                            !codeOf(expression, *binding).isEmpty(), error)) {
         return true;
     }
     if (expression.count() > 1 && property->id() == "colorBinding"_L1) {
@@ -103,12 +129,17 @@ QString boundToQml(const DesignerProperty *property, int indent)
 
 QString boundPositionToQml(const DesignerProperty *property, int indent)
 {
-    QStringList lines = property->convertToQml(indent).split(u'\n');
+    const QString plain = property->convertToQml(indent);
+    const DesignerObject *owner = property->parentObject();
+    if (codeBeside(owner, u"x").isEmpty() && codeBeside(owner, u"y").isEmpty()) {
+        return plain;
+    }
+    QStringList lines = plain.split(u'\n');
     for (QString &line : lines) {
-        const QString name = QStringView(line).trimmed().left(1).toString();
-        const QString code = codeBeside(property->parentObject(), name);
+        const QStringView name = QStringView(line).trimmed().left(1);
+        const QString code = codeBeside(owner, name);
         if (!code.isEmpty()) {
-            line = QmlText::line(indent, name, code);
+            line = QmlText::line(indent, name.toString(), code);
         }
     }
     return lines.join(u'\n');

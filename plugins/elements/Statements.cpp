@@ -4,15 +4,19 @@
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/QmlText.h"
+#include "corvex/core/properties/PropertyChangeListProperty.h"
+#include "corvex/core/properties/UpdateObjectListProperty.h"
 #include "corvex/project/Element.h"
 #include "corvex/project/Screen.h"
 #include "corvex/values/GeneralDataList.h"
 #include "corvex/values/ObjectLinkInfo.h"
 #include "corvex/values/ObjectPath.h"
-#include "corvex/values/PropertyList.h"
-#include "corvex/values/UpdateObjectList.h"
 
 #include "elements/Rows.h"
+
+#include <QCache>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
@@ -21,15 +25,60 @@ namespace Halvane::Corvex::Elements {
 
 namespace {
 
-//! "qml_a.x = 1;" of the line "x: 1"; empty for a line of another form, such as one that opens a block.
-QString assignment(const QString &object, QStringView qmlLine)
+//! A part of an element with the code for its new value.
+struct Assigned
+{
+    QString property;
+    QString code;
+};
+
+//! Of the line "x: 1"; none of a line of another form, such as one that opens a block.
+std::optional<Assigned> readAssigned(QStringView qmlLine)
 {
     const QStringView line = qmlLine.trimmed();
     const qsizetype colon = line.indexOf(u": "_s);
     if (colon < 0 || !ObjectPath::isValid(line.first(colon)) || line.endsWith(u'{') || line.endsWith(u'}')) {
         return {};
     }
-    return u"%1.%2 = %3;"_s.arg(object, line.first(colon), line.sliced(colon + 2));
+    return Assigned{line.first(colon).toString(), line.sliced(colon + 2).toString()};
+}
+
+//! A new object of the class writes the values as any other of the class would.
+QList<Assigned> assignToNew(const QString &className, const QMap<QString, QString> &values)
+{
+    const std::unique_ptr<DesignerObject> model(DesignerFactory::instance()->createUnowned(className));
+    QList<Assigned> all;
+    for (const auto &[id, value] : values.asKeyValueRange()) {
+        const SharedProperty property = model ? model->getProperty(id) : SharedProperty();
+        if (!property || property == model->idProperty() || !property->canRead(value)
+            || !model->changePropertyValue(property, value)) {
+            continue;
+        }
+        const QString qml = property->toQml(0);
+        for (const QStringView line : QStringView(qml).split(u'\n')) {
+            if (const std::optional<Assigned> assigned = readAssigned(line)) {
+                all.append(*assigned);
+            }
+        }
+    }
+    return all;
+}
+
+//! The same, remembered: the buttons of a project give the same few values to elements of the same classes.
+QList<Assigned> assignedBy(const QString &className, const QMap<QString, QString> &values)
+{
+    constexpr qsizetype most = 2048;
+    static thread_local QCache<QStringList, QList<Assigned>> known(most);
+    QStringList key{className};
+    for (const auto &[id, value] : values.asKeyValueRange()) {
+        key << id << value;
+    }
+    if (const QList<Assigned> *all = known.object(key)) {
+        return *all;
+    }
+    const QList<Assigned> all = assignToNew(className, values);
+    known.insert(key, new QList<Assigned>(all));
+    return all;
 }
 
 QString handlerName(const DesignerProperty *property)
@@ -85,27 +134,9 @@ QStringList assignments(const DesignerObject *owner, const QString &name,
     if (object.isEmpty()) {
         return {};
     }
-    // A new object of the class writes the values as the element itself would.
-    const std::unique_ptr<DesignerObject> model(
-        DesignerFactory::instance()->createObject(element->className(), nullptr));
-    if (!model) {
-        return {};
-    }
-    model->setParent(nullptr);
     QStringList statements;
-    for (const auto &[id, value] : values.asKeyValueRange()) {
-        const SharedProperty property = model->getProperty(id);
-        if (!property || property == model->idProperty() || !property->canRead(value)
-            || !model->changePropertyValue(property, value)) {
-            continue;
-        }
-        const QString qml = property->toQml(0);
-        for (const QStringView line : QStringView(qml).split(u'\n')) {
-            const QString statement = assignment(object, line);
-            if (!statement.isEmpty()) {
-                statements.append(statement);
-            }
-        }
+    for (const Assigned &assigned : assignedBy(element->className(), values)) {
+        statements.append(u"%1.%2 = %3;"_s.arg(object, assigned.property, assigned.code));
     }
     return statements;
 }
@@ -123,7 +154,7 @@ QString handler(int indent, const QString &name, const QStringList &statements)
 QString stateToQml(const DesignerProperty *property, int indent)
 {
     QStringList statements;
-    for (const UpdateObjectInfo &update : UpdateObjectList(property->valueString())) {
+    for (const UpdateObjectInfo &update : static_cast<const UpdateObjectListProperty *>(property)->value()) {
         QMap<QString, QString> values;
         for (const PropertyInfo &info : update.propertyValues()) {
             values.insert(info.propName(), info.propValue());
@@ -136,7 +167,7 @@ QString stateToQml(const DesignerProperty *property, int indent)
 QString changesToQml(const DesignerProperty *property, int indent)
 {
     QStringList statements;
-    const PropertyList changes(property->valueString());
+    const PropertyList &changes = static_cast<const PropertyChangeListProperty *>(property)->value();
     for (const QString &element : changes.elements()) {
         QMap<QString, QString> values;
         for (const PropertyChangeInfo &change : changes.values(element)) {
