@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionSyntax.h"
+#include "corvex/checks/PlainQml.h"
 #include "corvex/values/GeneralDataList.h"
 #include "corvex/values/MathInfo.h"
 #include "corvex/values/StringInfo.h"
@@ -205,4 +206,38 @@ TEST(GeneratedCode, withPlainNamesIsCorrectToo)
         const QString text = pieces.join(u' ');
         EXPECT_TRUE(syntax.checkExpression(text).valid) << qPrintable(text);
     }
+}
+
+//! One text of a shape stands for all: what cannot be read never hides behind a shape that can.
+TEST(GeneratedCode, isWrongInItsShapeWhenItIsWrong)
+{
+    const QStringList alike{u"x: \"a\" + qml_b.x * 12"_s, u"x: \"\\n'/\\\"\" + qml_tank_7.x * 345"_s};
+    EXPECT_EQ(qmlShape(alike[0]), qmlShape(alike[1]));
+    for (const auto &[left, right] :
+         std::initializer_list<QPair<QString, QString>>{{u"x: 010"_s, u"x: 1"_s},
+                                                        {u"x: 0x1"_s, u"x: 1"_s},
+                                                        {u"x: 1e5"_s, u"x: 1"_s},
+                                                        {u"f: \"use strict\""_s, u"f: \"a\""_s},
+                                                        {u"x: \"\\x\""_s, u"x: \"a\""_s},
+                                                        {u"x: 'a'"_s, u"x: 'b'"_s},
+                                                        {u"x: 1 /*2*/"_s, u"x: 1 /*3*/"_s},
+                                                        {u"x: \"a"_s, u"x: \"b"_s}}) {
+        EXPECT_NE(qmlShape(left), qmlShape(right)) << qPrintable(left);
+    }
+    ExpressionSyntax syntax;
+    Author author(5);
+    const auto canRead = [&syntax](const QString &code) {
+        return syntax.checkDocument(u"Item {\nx: %1\n}"_s.arg(code)).valid;
+    };
+    int broken = 0;
+    for (int i = 0; i < 400; ++i) {
+        QString code =
+            author.write(List::MathExpression).toQmlString(Info::NumberOutput, List::MathExpression);
+        EXPECT_TRUE(canRead(qmlShape(code))) << qPrintable(code);
+        code.remove(author.below(int(code.size())), 1);
+        const bool isBroken = !canRead(code);
+        broken += isBroken ? 1 : 0;
+        EXPECT_FALSE(isBroken && canRead(qmlShape(code))) << qPrintable(code);
+    }
+    EXPECT_GT(broken, 50);
 }

@@ -3,6 +3,8 @@
 
 #include "corvex/checks/Problem.h"
 
+#include <utility>
+
 namespace Halvane::Corvex::Designer {
 
 class Project;
@@ -11,8 +13,9 @@ class Project;
 
     A check says what it looks at by its base: PropertyCheck, ObjectCheck or ProjectCheck. What it says of a
     property depends on that property and on what it refers to, and nothing else; likewise for an object. So
-    the part that an edit has changed can be checked again alone, and one walk through the project serves all
-    checks. A check of a list is one of the list property.
+    the part that an edit has changed can be checked again alone, one walk through the project serves all
+    checks, and several threads share the walk: each has checks of its own, which are joined at the end. A
+    check of a list is one of the list property.
 */
 class Check
 {
@@ -21,6 +24,9 @@ public:
     virtual ~Check() = default;
     Q_DISABLE_COPY_MOVE(Check)
 
+    //! Takes over what \a later has found, a check of the same class that has looked at what comes later in
+    //! the project.
+    virtual void join(Check &later) { m_problems += std::exchange(later.m_problems, {}); }
     //! Runs when the check has seen all that it looks at.
     virtual void finish(const Project &) { }
     const QList<Problem> &problems() const { return m_problems; }

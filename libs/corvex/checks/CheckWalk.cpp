@@ -5,32 +5,33 @@
 
 namespace Halvane::Corvex::Designer {
 
-void CheckWalk::add(ProjectCheck &check)
-{
-    m_order.append(&check);
-    m_projectChecks.append(&check);
-}
-
-void CheckWalk::add(ObjectCheck &check)
-{
-    m_order.append(&check);
-    m_objectChecks.append(&check);
-}
-
-void CheckWalk::add(PropertyCheck &check)
-{
-    m_order.append(&check);
-    m_propertyChecks.append(&check);
-}
-
-QList<Problem> CheckWalk::run(const Project &project)
+void CheckWalk::lookAt(const Project &project)
 {
     for (ProjectCheck *check : std::as_const(m_projectChecks)) {
         check->look(project);
     }
-    visit(project);
+    look(project);
+}
+
+void CheckWalk::visit(const DesignerObject &object)
+{
+    look(object);
+    for (const DesignerObject *child : object.childObjects()) {
+        visit(*child);
+    }
+}
+
+void CheckWalk::join(CheckWalk &later)
+{
+    for (size_t i = 0; i < m_checks.size(); ++i) {
+        m_checks[i]->join(*later.m_checks[i]);
+    }
+}
+
+QList<Problem> CheckWalk::finish(const Project &project)
+{
     QList<Problem> problems;
-    for (Check *check : std::as_const(m_order)) {
+    for (const std::unique_ptr<Check> &check : m_checks) {
         check->finish(project);
         problems += check->problems();
     }
@@ -53,24 +54,22 @@ CheckWalk::Plan CheckWalk::planFor(const DesignerObject &object) const
     return plan;
 }
 
-void CheckWalk::visit(const DesignerObject &object)
+void CheckWalk::look(const DesignerObject &object)
 {
     const QString className = object.className();
     auto known = m_plans.constFind(className);
     if (known == m_plans.cend()) {
         known = m_plans.insert(className, planFor(object));
     }
-    const Plan plan = *known;
+    const Plan &plan = *known;
     for (ObjectCheck *check : plan.objectChecks) {
         check->look(object);
     }
+    const QList<SharedProperty> &properties = object.properties();
     for (const auto &[place, check] : plan.sites) {
-        if (const SharedProperty property = object.properties().value(place)) {
-            check->look(*property);
+        if (place < properties.size()) {
+            check->look(*properties.at(place));
         }
-    }
-    for (const DesignerObject *child : object.childObjects()) {
-        visit(*child);
     }
 }
 

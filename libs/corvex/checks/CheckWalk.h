@@ -5,18 +5,39 @@
 
 #include <QHash>
 
+#include <concepts>
+#include <memory>
+#include <vector>
+
 namespace Halvane::Corvex::Designer {
 
-/*! Leads checks through a project, all in one walk. The checks must outlive it. */
+//! Leads checks through a part of a project, all in one walk.
 class CheckWalk
 {
 public:
-    void add(ProjectCheck &check);
-    void add(ObjectCheck &check);
-    void add(PropertyCheck &check);
+    template<class Kind, class... Arguments>
+    void add(Arguments &&...arguments)
+    {
+        auto made = std::make_unique<Kind>(std::forward<Arguments>(arguments)...);
+        if constexpr (std::derived_from<Kind, ProjectCheck>) {
+            m_projectChecks.append(made.get());
+        } else if constexpr (std::derived_from<Kind, ObjectCheck>) {
+            m_objectChecks.append(made.get());
+        } else {
+            m_propertyChecks.append(made.get());
+        }
+        m_checks.push_back(std::move(made));
+    }
 
-    //! All problems: those of the check that was added first come first, each in the order of the file.
-    QList<Problem> run(const Project &project);
+    //! Looks at the project, and not at the objects that it holds.
+    void lookAt(const Project &project);
+    //! Looks at an object and all that is below it.
+    void visit(const DesignerObject &object);
+
+    //! Takes over what \a later has found, which has the same checks and has walked what comes after.
+    void join(CheckWalk &later);
+    //! All problems: those of the check that was added first come first, each in the order of the walk.
+    QList<Problem> finish(const Project &project);
 
 private:
     //! What there is to do with the objects of one class.
@@ -33,9 +54,9 @@ private:
     };
 
     Plan planFor(const DesignerObject &object) const;
-    void visit(const DesignerObject &object);
+    void look(const DesignerObject &object);
 
-    QList<Check *> m_order;
+    std::vector<std::unique_ptr<Check>> m_checks;
     QList<ProjectCheck *> m_projectChecks;
     QList<ObjectCheck *> m_objectChecks;
     QList<PropertyCheck *> m_propertyChecks;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/CodeCheck.h"
 
+#include "corvex/checks/CodeReader.h"
 #include "corvex/checks/PlainQml.h"
 #include "corvex/core/DesignerObject.h"
 
@@ -9,9 +10,6 @@ using namespace Qt::StringLiterals;
 namespace Halvane::Corvex::Designer {
 
 namespace {
-
-//! Texts that are read in one go.
-constexpr qsizetype batchSize = 256;
 
 //! The property that holds what the user wrote: an expression takes the place of the value that it gives.
 const DesignerProperty &sourceOf(const DesignerProperty &property)
@@ -34,7 +32,7 @@ bool CodeCheck::concerns(const DesignerProperty &property)
     }
     // Its values are correct; that the language takes its name is to be seen once.
     if (property.isValid()) {
-        add(property, property.toQml(0));
+        m_uses.append({&property, numberOf(qmlShape(property.toQml(0)))});
     }
     return false;
 }
@@ -44,40 +42,55 @@ void CodeCheck::look(const DesignerProperty &property)
     // An invalid value has its own problem.
     const QString qml = property.isValid() ? property.toQml(0) : QString();
     if (!qml.isEmpty() && !isPlainQml(qml)) {
-        add(property, qml);
+        m_uses.append({&property, numberOf(qmlShape(qml))});
     }
 }
 
-void CodeCheck::add(const DesignerProperty &property, const QString &qml)
+qsizetype CodeCheck::numberOf(const QString &shape)
 {
-    const auto known = m_numbers.constFind(qml);
-    m_uses.append({&property, known == m_numbers.cend() ? m_numbers.size() : *known});
+    const auto known = m_numbers.constFind(shape);
     if (known != m_numbers.cend()) {
-        return;
+        return *known;
     }
-    m_numbers.insert(qml, m_numbers.size());
-    m_pending.append(qml);
-    if (m_pending.size() == batchSize) {
-        readPending();
-    }
+    m_shapes.append(shape);
+    return *m_numbers.insert(shape, m_shapes.size() - 1);
 }
 
-void CodeCheck::readPending()
+void CodeCheck::join(Check &later)
 {
-    const qsizetype first = m_numbers.size() - m_pending.size();
-    m_reader.read(first, std::exchange(m_pending, {}));
+    const auto &other = static_cast<const CodeCheck &>(later);
+    QList<qsizetype> numbers;
+    for (const QString &shape : other.m_shapes) {
+        numbers.append(numberOf(shape));
+    }
+    for (const auto &[property, shape] : other.m_uses) {
+        m_uses.append({property, numbers.at(shape)});
+    }
 }
 
 void CodeCheck::finish(const Project &)
 {
-    readPending();
-    const QHash<qsizetype, QString> errors = m_reader.errors();
-    if (errors.isEmpty()) {
+    const QHash<qsizetype, QString> wrongShapes = CodeReader::errors(m_shapes);
+    if (wrongShapes.isEmpty()) {
         return;
     }
-    for (const auto &[property, text] : std::as_const(m_uses)) {
-        if (const auto error = errors.constFind(text); error != errors.cend()) {
-            report(sourceOf(*property), ProblemCode::CodeUnreadable, {*error});
+    // Whether the texts of that shape are wrong, and why, they say themselves.
+    QHash<QString, QString> messages;
+    for (const auto &[property, shape] : std::as_const(m_uses)) {
+        if (wrongShapes.contains(shape)) {
+            messages.insert(property->toQml(0), QString());
+        }
+    }
+    const QStringList texts = messages.keys();
+    messages.clear();
+    for (const auto &[text, message] : CodeReader::errors(texts).asKeyValueRange()) {
+        messages.insert(texts.at(text), message);
+    }
+    for (const auto &[property, shape] : std::as_const(m_uses)) {
+        const auto message =
+            wrongShapes.contains(shape) ? messages.constFind(property->toQml(0)) : messages.cend();
+        if (message != messages.cend()) {
+            report(sourceOf(*property), ProblemCode::CodeUnreadable, {*message});
         }
     }
 }

@@ -2,6 +2,11 @@
 #include "corvex/checks/CodeReader.h"
 
 #include "corvex/checks/ExpressionSyntax.h"
+#include "corvex/common/Processors.h"
+
+#include <atomic>
+#include <mutex>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -9,64 +14,55 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
+//! Texts that are read in one go.
+constexpr qsizetype batchSize = 256;
+
 QString object(const QString &members)
 {
     return u"Item {\n"_s + members + u"\n}\n"_s;
 }
 
-} // namespace
-
-CodeReader::CodeReader()
-{
-    m_worker.moveToThread(&m_thread);
-}
-
-CodeReader::~CodeReader()
-{
-    errors();
-}
-
-void CodeReader::read(qsizetype first, const QStringList &texts)
-{
-    if (texts.isEmpty()) {
-        return;
-    }
-    m_thread.start();
-    QMetaObject::invokeMethod(&m_worker, [this, first, texts] { readInThread(first, texts); });
-}
-
 //! All at once; one by one only when something is wrong.
-void CodeReader::readInThread(qsizetype first, const QStringList &texts)
+void read(ExpressionSyntax &syntax, const QStringList &texts,
+          const std::function<void(qsizetype, QString)> &report)
 {
-    if (!m_syntax) {
-        m_syntax = std::make_unique<ExpressionSyntax>();
-    }
     QString all;
     for (const QString &text : texts) {
         all += object(text);
     }
-    if (m_syntax->checkDocument(object(all)).valid) {
+    if (syntax.checkDocument(object(all)).valid) {
         return;
     }
     for (qsizetype i = 0; i < texts.size(); ++i) {
-        const ExpressionSyntax::Result result = m_syntax->checkDocument(object(texts.at(i)));
+        const ExpressionSyntax::Result result = syntax.checkDocument(object(texts.at(i)));
         if (!result.valid) {
-            m_errors.insert(first + i, result.message);
+            report(i, result.message);
         }
     }
 }
 
-QHash<qsizetype, QString> CodeReader::errors()
+} // namespace
+
+QHash<qsizetype, QString> CodeReader::errors(const QStringList &texts)
 {
-    if (m_thread.isRunning()) {
-        // After everything that was given. The engine ends in the thread in which it began.
-        QMetaObject::invokeMethod(&m_worker, [this] {
-            m_syntax.reset();
-            m_thread.quit();
-        });
-        m_thread.wait();
-    }
-    return m_errors;
+    QHash<qsizetype, QString> errors;
+    std::mutex mutex;
+    std::atomic<qsizetype> next = 0;
+    const auto readSome = [&] {
+        std::optional<ExpressionSyntax> syntax; // its engine belongs to one thread
+        for (qsizetype first = next.fetch_add(batchSize); first < texts.size();
+             first = next.fetch_add(batchSize)) {
+            if (!syntax) {
+                syntax.emplace();
+            }
+            read(*syntax, texts.mid(first, batchSize), [&](qsizetype place, const QString &message) {
+                const std::lock_guard lock(mutex);
+                errors.insert(first + place, message);
+            });
+        }
+    };
+    Common::Processors::run(size_t(texts.size() / batchSize + 1), readSome);
+    return errors;
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -25,6 +25,11 @@ void LogCheck::look(const DesignerProperty &link)
     m_fed.insert(static_cast<const LinkProperty &>(link).value().objectId());
 }
 
+void LogCheck::join(Check &later)
+{
+    m_fed.unite(static_cast<LogCheck &>(later).m_fed);
+}
+
 void LogCheck::finish(const Project &project)
 {
     for (const DesignerObject *log : project.variables()->getItemsOfType(logClass)) {

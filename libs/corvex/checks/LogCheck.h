@@ -13,6 +13,7 @@ class LogCheck : public PropertyCheck
 public:
     bool concerns(const DesignerProperty &property) override;
     void look(const DesignerProperty &link) override;
+    void join(Check &later) override;
     void finish(const Project &project) override;
 
 private:

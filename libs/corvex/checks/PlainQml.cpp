@@ -9,6 +9,15 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
+constexpr auto referenceStart = "qml_"_L1;
+
+/*! What code consists of beside names, numbers and texts. Comments, regular expressions and other kinds of
+    quotes are not among it. */
+bool isOtherCharacter(QChar c)
+{
+    return QLatin1StringView(" \t\n!%&()*+,-.:;<=>?[]^{|}~").contains(c);
+}
+
 bool isDigit(QChar c)
 {
     return c >= u'0' && c <= u'9';
@@ -30,24 +39,27 @@ qsizetype nameLength(QStringView text)
     return std::find_if_not(text.begin(), text.end(), isNameCharacter) - text.begin();
 }
 
-//! A text between quotes with no more than the simplest escapes.
-bool isPlainText(QStringView value)
+//! How many characters a text between quotes takes, with no more than the simplest escapes; 0 for any other.
+qsizetype plainTextLength(QStringView value)
 {
-    if (value.size() < 2 || value.front() != u'"' || value.back() != u'"') {
-        return false;
-    }
-    const QStringView inner = value.sliced(1, value.size() - 2);
-    for (qsizetype i = 0; i < inner.size(); ++i) {
-        if (inner[i] == u'\\') {
-            ++i;
-            if (i == inner.size() || !u"\\\"'nrt"_s.contains(inner[i])) {
-                return false;
-            }
-        } else if (inner[i] == u'"' || inner[i] < u' ' || inner[i] >= QChar(0x7f)) {
-            return false;
+    for (qsizetype i = 1; i < value.size(); ++i) {
+        const QChar c = value[i];
+        if (c == u'"') {
+            return i + 1;
+        }
+        const bool isEscape = c == u'\\';
+        i += isEscape ? 1 : 0;
+        if (c < u' ' || c >= QChar(0x7f)
+            || (isEscape && (i == value.size() || !u"\\\"'nrt"_s.contains(value[i])))) {
+            return 0;
         }
     }
-    return true;
+    return 0;
+}
+
+bool isPlainText(QStringView value)
+{
+    return value.startsWith(u'"') && plainTextLength(value) == value.size();
 }
 
 bool isPlainNumber(QStringView value)
@@ -77,7 +89,7 @@ bool isEnumerator(QStringView value)
 //! "qml_pump1", a reference to an object. No word of the language begins so.
 bool isReference(QStringView value)
 {
-    return value.startsWith("qml_"_L1) && nameLength(value) == value.size();
+    return value.startsWith(referenceStart) && nameLength(value) == value.size();
 }
 
 bool isPlainValue(QStringView value)
@@ -103,6 +115,41 @@ bool isPlainQml(QStringView members)
         }
     }
     return true;
+}
+
+QString qmlShape(const QString &members)
+{
+    // Nothing becomes longer.
+    QString shape(members.size(), Qt::Uninitialized);
+    QChar *end = shape.data();
+    const auto append = [&end](auto text) { end = std::ranges::copy(text, end).out; };
+    for (QStringView rest(members); !rest.isEmpty();) {
+        const QChar first = rest.front();
+        qsizetype length = nameLength(rest);
+        if (length == 0 && first != u'"') {
+            if (!isOtherCharacter(first)) {
+                return members;
+            }
+            *end++ = first;
+            length = 1;
+        } else if (length == 0) {
+            length = plainTextLength(rest);
+            // Of "use strict" the words count.
+            if (length == 0 || rest.first(length) == "\"use strict\""_L1) {
+                return members;
+            }
+            append(QStringView(u"\"\""));
+        } else if (rest.startsWith(referenceStart)) {
+            append(QStringView(u"qml_"));
+        } else if (first >= u'1' && first <= u'9' && std::ranges::all_of(rest.first(length), isDigit)) {
+            *end++ = u'1';
+        } else {
+            append(rest.first(length));
+        }
+        rest = rest.sliced(length);
+    }
+    shape.truncate(end - shape.constData());
+    return shape;
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QStringView>
+#include <QString>
 
 namespace Halvane::Corvex::Designer {
 
@@ -9,5 +9,9 @@ namespace Halvane::Corvex::Designer {
     characters, a name of an enumeration or a reference. A member is a line, as DesignerProperty::toQml writes
     them. The names of the members are not looked at. */
 bool isPlainQml(QStringView members);
+
+/*! The members with one text, number or reference in the place of all plain ones. When the shape is correct,
+    all members of that shape are. */
+QString qmlShape(const QString &members);
 
 } // namespace Halvane::Corvex::Designer

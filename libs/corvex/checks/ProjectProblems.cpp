@@ -12,35 +12,94 @@
 #include "corvex/checks/ModbusCheck.h"
 #include "corvex/checks/NumberCheck.h"
 #include "corvex/checks/ReferenceCheck.h"
+#include "corvex/common/Processors.h"
 #include "corvex/project/Project.h"
+
+#include <atomic>
+#include <numeric>
 
 namespace Halvane::Corvex::Designer {
 
+namespace {
+
+//! Fewer objects are not worth a thread.
+constexpr qsizetype objectsOfPart = 500;
+//! More parts than processors, since some take longer than others.
+constexpr qsizetype partsOfProcessor = 4;
+
+//! A run of the objects that the project holds, in their order, with checks of its own.
+struct Part
+{
+    QList<DesignerObject *> objects;
+    CheckWalk walk;
+};
+
+CheckWalk newWalk(const Project &project, const ConfigurationContainer &models)
+{
+    CheckWalk walk;
+    walk.add<FileCheck>(models);
+    walk.add<InvalidValueCheck>();
+    walk.add<NumberCheck>();
+    walk.add<ReferenceCheck>(project);
+    walk.add<DeviceCheck>(project, models);
+    walk.add<FieldbusCheck>();
+    walk.add<ModbusCheck>();
+    walk.add<ExpressionCheck>(project);
+    walk.add<LogCheck>();
+    walk.add<CodeCheck>();
+    return walk;
+}
+
+//! How many objects there are about, of which none is far below.
+qsizetype weightOf(const DesignerObject &object)
+{
+    return 1 + object.childObjects().size();
+}
+
+//! At least one.
+std::vector<Part> partsOf(const Project &project, const ConfigurationContainer &models)
+{
+    const QList<DesignerObject *> objects = project.childObjects();
+    const qsizetype all =
+        std::accumulate(objects.begin(), objects.end(), qsizetype(0),
+                        [](qsizetype sum, const DesignerObject *object) { return sum + weightOf(*object); });
+    const qsizetype most = qsizetype(Common::Processors::count()) * partsOfProcessor;
+    const qsizetype weight = std::max(objectsOfPart, all / most + 1);
+    std::vector<Part> parts;
+    qsizetype room = 0;
+    for (DesignerObject *object : objects) {
+        if (room <= 0) {
+            parts.push_back({{}, newWalk(project, models)});
+            room = weight;
+        }
+        parts.back().objects.append(object);
+        room -= weightOf(*object);
+    }
+    if (parts.empty()) {
+        parts.push_back({{}, newWalk(project, models)});
+    }
+    return parts;
+}
+
+} // namespace
+
 QList<Problem> ProjectProblems::find(const Project &project, const ConfigurationContainer &models)
 {
-    FileCheck file(models);
-    InvalidValueCheck invalidValues;
-    NumberCheck numbers;
-    ReferenceCheck references(project);
-    DeviceCheck device(project, models);
-    FieldbusCheck fieldbuses;
-    ModbusCheck registers;
-    ExpressionCheck expressions(project);
-    LogCheck logs;
-    CodeCheck code;
-
-    CheckWalk walk;
-    walk.add(file);
-    walk.add(invalidValues);
-    walk.add(numbers);
-    walk.add(references);
-    walk.add(device);
-    walk.add(fieldbuses);
-    walk.add(registers);
-    walk.add(expressions);
-    walk.add(logs);
-    walk.add(code);
-    return walk.run(project);
+    std::vector<Part> parts = partsOf(project, models);
+    CheckWalk &first = parts.front().walk;
+    first.lookAt(project);
+    std::atomic<size_t> next = 0;
+    Common::Processors::run(parts.size(), [&parts, &next] {
+        for (size_t i = next++; i < parts.size(); i = next++) {
+            for (const DesignerObject *object : std::as_const(parts[i].objects)) {
+                parts[i].walk.visit(*object);
+            }
+        }
+    });
+    for (size_t i = 1; i < parts.size(); ++i) {
+        first.join(parts[i].walk);
+    }
+    return first.finish(project);
 }
 
 } // namespace Halvane::Corvex::Designer

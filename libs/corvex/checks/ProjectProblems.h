@@ -8,12 +8,13 @@ namespace Halvane::Corvex::Designer {
 class ConfigurationContainer;
 class Project;
 
-//! Looks for everything that can be wrong with a project, in one walk.
+//! Looks for everything that can be wrong with a project, in one walk, which all processors share.
 class ProjectProblems
 {
 public:
     /*! In the order of the checks: what was not taken over from the file, a model that is not among \a
-       models, invalid values, and so on; generated code comes last. The project must have been validated. */
+       models, invalid values, and so on; generated code comes last. The project must have been validated, and
+       nothing may change it meanwhile. What is found does not depend on the number of processors. */
     static QList<Problem> find(const Project &project, const ConfigurationContainer &models);
 };
 

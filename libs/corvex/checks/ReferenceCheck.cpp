@@ -3,12 +3,12 @@
 
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/properties/LinkProperty.h"
+#include "corvex/core/properties/PropertyChangeListProperty.h"
+#include "corvex/core/properties/UpdateObjectListProperty.h"
 #include "corvex/project/Element.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/values/ObjectPath.h"
-#include "corvex/values/PropertyList.h"
-#include "corvex/values/UpdateObjectList.h"
 
 #include <QSet>
 
@@ -17,6 +17,27 @@
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
+
+//! What a state or an action gives to a property of an element.
+struct ReferenceCheck::Setting
+{
+    QString element;
+    QString property;
+    QString value;
+};
+
+namespace {
+
+//! What the text is without a property that holds it as a list.
+template<class Property>
+auto listOf(const DesignerProperty &property)
+{
+    using List = std::remove_cvref_t<decltype(std::declval<Property>().value())>;
+    return property.isKindOfClass(Property::kindName()) ? static_cast<const Property &>(property).value()
+                                                        : List(property.valueString());
+}
+
+} // namespace
 
 ReferenceCheck::ReferenceCheck(const Project &project)
     : m_project(project)
@@ -41,22 +62,28 @@ void ReferenceCheck::look(const DesignerProperty &property)
         checkLink(static_cast<const LinkProperty &>(property));
         return;
     }
-    const QString text = property.valueString();
-    if (text.isEmpty()) {
-        return;
+    checkNames(property);
+    for (const Setting &setting : settingsOf(property, form)) {
+        checkSetting(property, setting);
     }
-    checkNames(property, text);
+}
+
+QList<ReferenceCheck::Setting> ReferenceCheck::settingsOf(const DesignerProperty &property,
+                                                          ReferenceForm::Form form)
+{
+    QList<Setting> settings;
     if (form == ReferenceForm::States) {
-        for (const UpdateObjectInfo &update : UpdateObjectList(text)) {
+        for (const UpdateObjectInfo &update : listOf<UpdateObjectListProperty>(property)) {
             for (const PropertyInfo &info : update.propertyValues()) {
-                checkValue(property, update.name(), info.propName(), info.propValue());
+                settings.append({update.name(), info.propName(), info.propValue()});
             }
         }
     } else if (form == ReferenceForm::Changes) {
-        for (const PropertyChangeInfo &change : PropertyList(text)) {
-            checkValue(property, change.elementName(), change.propertyName(), change.valueString());
+        for (const PropertyChangeInfo &change : listOf<PropertyChangeListProperty>(property)) {
+            settings.append({change.elementName(), change.propertyName(), change.valueString()});
         }
     }
+    return settings;
 }
 
 void ReferenceCheck::checkLink(const LinkProperty &link)
@@ -66,11 +93,11 @@ void ReferenceCheck::checkLink(const LinkProperty &link)
     }
 }
 
-void ReferenceCheck::checkNames(const DesignerProperty &property, const QString &text)
+void ReferenceCheck::checkNames(const DesignerProperty &property)
 {
     const Screen *screen = property.parentObject()->screen();
     QSet<QString> reported;
-    for (const Mention &mention : ReferenceForm::mentions(property, text)) {
+    for (const Mention &mention : ReferenceForm::mentions(property)) {
         if (isThere(mention, screen) || reported.contains(mention.path)) {
             continue;
         }
@@ -82,7 +109,7 @@ void ReferenceCheck::checkNames(const DesignerProperty &property, const QString 
     }
 }
 
-bool ReferenceCheck::isThere(const Mention &mention, const Screen *screen) const
+bool ReferenceCheck::isThere(const Mention &mention, const Screen *screen)
 {
     const auto isListed = [&mention](NamedKind kind, const SharedProperty &list) {
         return mention.kinds.testFlag(kind) && list->hasListItem(mention.path);
@@ -104,7 +131,7 @@ bool ReferenceCheck::isThere(const Mention &mention, const Screen *screen) const
 
 //! Whether the path leads to an element of \a screen, of the screen that the path starts with, or, in a
 //! property that belongs to no screen, of any.
-bool ReferenceCheck::isElement(const QString &path, const Screen *screen) const
+bool ReferenceCheck::isElement(const QString &path, const Screen *screen)
 {
     const auto hasElement = [](const DesignerObject *on, const QString &place) {
         return static_cast<const Screen *>(on)->hasElement(place);
@@ -116,14 +143,29 @@ bool ReferenceCheck::isElement(const QString &path, const Screen *screen) const
     if (const DesignerObject *named = m_project.screens()->getListItem(first); named && first != path) {
         return hasElement(named, path.sliced(first.size() + 1));
     }
-    return !screen && std::ranges::any_of(m_project.screens()->listItems(), [&](const DesignerObject *any) {
+    return !screen && std::ranges::any_of(screensWith(first), [&](const DesignerObject *any) {
         return hasElement(any, path);
     });
 }
 
-void ReferenceCheck::checkValue(const DesignerProperty &property, const QString &elementName,
-                                const QString &id, const QString &value)
+//! The screens with an element of that name. Who asks for one belongs to no screen and may be one of many.
+QList<const Screen *> ReferenceCheck::screensWith(const QString &element)
 {
+    if (!m_screens) {
+        m_screens.emplace();
+        for (const DesignerObject *screen : m_project.screens()->listItems()) {
+            for (const DesignerObject *item :
+                 static_cast<const Screen *>(screen)->elements()->listItems(true)) {
+                m_screens->insert(item->getIdName(), static_cast<const Screen *>(screen));
+            }
+        }
+    }
+    return m_screens->values(element);
+}
+
+void ReferenceCheck::checkSetting(const DesignerProperty &property, const Setting &setting)
+{
+    const auto &[elementName, id, value] = setting;
     const Screen *screen = property.parentObject()->screen();
     const Element *element = screen ? screen->getElement(elementName) : nullptr;
     const DesignerObject *model = element ? modelOf(element->className()) : nullptr;

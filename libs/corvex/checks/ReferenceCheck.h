@@ -4,10 +4,11 @@
 #include "corvex/checks/Check.h"
 #include "corvex/editing/commands/ReferenceForm.h"
 
-#include <QHash>
+#include <QMultiHash>
 
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace Halvane::Corvex::Designer {
 
@@ -27,16 +28,20 @@ public:
     void look(const DesignerProperty &property) override;
 
 private:
+    struct Setting;
+
+    static QList<Setting> settingsOf(const DesignerProperty &property, ReferenceForm::Form form);
     void checkLink(const LinkProperty &link);
-    void checkNames(const DesignerProperty &property, const QString &text);
-    void checkValue(const DesignerProperty &property, const QString &elementName, const QString &id,
-                    const QString &value);
-    bool isThere(const Mention &mention, const Screen *screen) const;
-    bool isElement(const QString &path, const Screen *screen) const;
+    void checkNames(const DesignerProperty &property);
+    void checkSetting(const DesignerProperty &property, const Setting &setting);
+    bool isThere(const Mention &mention, const Screen *screen);
+    bool isElement(const QString &path, const Screen *screen);
+    QList<const Screen *> screensWith(const QString &element);
     const DesignerObject *modelOf(const QString &className);
 
     const Project &m_project;
-    std::map<QString, std::unique_ptr<DesignerObject>> m_models; //!< by class
+    std::optional<QMultiHash<QString, const Screen *>> m_screens; //!< by element, found when first asked for
+    std::map<QString, std::unique_ptr<DesignerObject>> m_models;  //!< by class
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -339,6 +339,50 @@ TEST(CheckVerb, followsWhatPartsSayOfEachOther)
     EXPECT_EQ(bad.run({u"check"_s, pump}).out, expected.join(u'\n') + u'\n');
 }
 
+//! Threads look at parts of it: the order stays that of the file, and what one part feeds another knows.
+TEST(CheckVerb, joinsWhatTheThreadsFind)
+{
+    constexpr int screens = 12;
+    const QByteArray deep =
+        QByteArray("<0101(>").repeated(2000) + "<02041>" + QByteArray("<0101)>").repeated(2000);
+    QByteArray elements =
+        Sandbox::object("DataLogging", "feeder", Sandbox::value("variable", "objectId: logMain;"))
+        + Sandbox::object("Text", "deep", Sandbox::value("rotationBinding", deep))
+        + Sandbox::object("Text", "lost", Sandbox::value("textBinding", "0407gone"));
+    for (int i = 0; i < 60; ++i) {
+        elements += Sandbox::object("Text", "text" + QByteArray::number(i));
+    }
+    QByteArray variables = Sandbox::object("LogVariable", "unfed", {}, "Project");
+    for (int i = 0; i < 700; ++i) {
+        variables += Sandbox::object("NumberVariable", "number" + QByteArray::number(i), {}, "Project");
+    }
+    for (int i = 0; i < screens; ++i) {
+        variables += Sandbox::object("LogVariable", "logS" + QByteArray::number(i + 10), {}, "Project");
+    }
+    const Sandbox sandbox;
+    sandbox.makeProject(elements, variables);
+    QByteArray text = sandbox.read(pump);
+    const qsizetype begin = text.indexOf("<Screen>");
+    const qsizetype end = text.indexOf("</Screen>") + 9;
+    const QByteArray screen = text.sliced(begin, end - begin);
+    QByteArray all;
+    QStringList lost;
+    QStringList unreadable;
+    for (int i = 0; i < screens; ++i) {
+        const QByteArray name = "S" + QByteArray::number(i + 10);
+        all += QByteArray(screen).replace("Main", name);
+        const QString path = QString::fromLatin1(name);
+        lost.append(path + u".lost: textBinding: Cannot find \"gone\" in the project."_s);
+        unreadable.append(path
+                          + u".deep: rotationBinding: The generated code cannot be read by the device: "
+                            "It is nested more than 1000 levels deep."_s);
+    }
+    sandbox.write(pump, text.replace(begin, end - begin, all).replace("objectId: Main;", "objectId: S10;"));
+    const QStringList expected =
+        lost + QStringList{u"unfed: warning: No element on any screen feeds this log."_s} + unreadable;
+    EXPECT_EQ(sandbox.run({u"check"_s, pump}).out, expected.join(u'\n') + u'\n');
+}
+
 TEST(CheckVerb, knowsTheDeviceAndTheFieldbuses)
 {
     const auto channel = [](const char *className, const char *name, const char *number) {
