@@ -9,6 +9,8 @@
 #include "corvex/values/ObjectLinkInfo.h"
 #include "corvex/variables/MappingVariable.h"
 
+#include <mutex>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -55,7 +57,6 @@ int groupOf(const DesignerObject *item)
     return entry == std::end(qmlLists) ? otherGroup : int(entry - std::begin(qmlLists));
 }
 
-//! A serial port comes with the address map of its variable, which has to know for which screen.
 void announceScreen(const DesignerObject *port, const Screen &screen)
 {
     const SharedProperty mapping = port->getProperty(u"mapping");
@@ -67,6 +68,16 @@ void announceScreen(const DesignerObject *port, const Screen &screen)
     if (variable) {
         variable->setQmlActiveScreen(screen.getIdName());
     }
+}
+
+/*! A serial port comes with the address map of its variable, which has to know for which screen. It is that
+   of one screen at a time, and screens are written in several threads. */
+QString portToQml(const DesignerObject *port, const Screen &screen, int indent)
+{
+    static std::mutex mutex;
+    const std::lock_guard lock(mutex);
+    announceScreen(port, screen);
+    return port->toQml(indent);
 }
 
 int brightnessOf(const Screen &screen)
@@ -103,10 +114,9 @@ QStringList Screen::elementLists(int indent) const
     QStringList blocks[listCount + 2];
     for (const DesignerObject *item : elements()->listItems()) {
         const int group = groupOf(item);
-        if (group < listCount && qmlLists[group].isSerialPort) {
-            announceScreen(item, *this);
-        }
-        blocks[group].append(item->toQml(group < listCount ? indent + 1 : indent));
+        const bool isPort = group < listCount && qmlLists[group].isSerialPort;
+        const int itemIndent = group < listCount ? indent + 1 : indent;
+        blocks[group].append(isPort ? portToQml(item, *this, itemIndent) : item->toQml(itemIndent));
     }
     QStringList lists;
     for (int i = 0; i < listCount; ++i) {

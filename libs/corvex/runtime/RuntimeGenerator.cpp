@@ -4,6 +4,7 @@
 #include "corvex/common/FileHelper.h"
 #include "corvex/common/FolderLock.h"
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/Processors.h"
 #include "corvex/common/TemporaryFolder.h"
 #include "corvex/common/zip/ZipHelper.h"
 #include "corvex/core/DesignerObject.h"
@@ -17,9 +18,11 @@
 #include <QSet>
 #include <QUuid>
 
+#include <atomic>
 #include <future>
 #include <map>
 #include <memory>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -52,6 +55,13 @@ QByteArray withWindowsLineEnds(QByteArrayView text)
         result.append(text.sliced(from, to - from)).append("\r\n");
     }
     return result;
+}
+
+//! Why there is no second file of that screen's name.
+QString takenName(const QString &screen)
+{
+    return LocalizationHelper::coreString(u"Two screens would be written to \"%1\"."_s)
+        .arg(screen + u".qml"_s);
 }
 
 } // namespace
@@ -163,28 +173,44 @@ bool RuntimeGenerator::writeConfiguration(const DesignerObject *project)
 
 bool RuntimeGenerator::writeScreens(const DesignerObject *project)
 {
-    for (const DesignerObject *screen :
-         project->getListItemsInListPropertyOfType(u"screens"_s, u"Screen"_s)) {
-        const QString name = screen->getQmlIdName() + u".qml"_s;
+    const QList<DesignerObject *> screens =
+        project->getListItemsInListPropertyOfType(u"screens"_s, u"Screen"_s);
+    QSet<QString> names;
+    for (const DesignerObject *screen : screens) {
+        const QString name = screen->getQmlIdName();
         // The id stands for a name of letters, digits and "_", which leads nowhere else.
-        if (screen->getQmlIdName().isEmpty()) {
+        if (name.isEmpty()) {
             return fail(LocalizationHelper::coreString(u"The screen's name \"%1\" is no name for a file."_s)
                             .arg(screen->getIdName()));
         }
-        if (QFile::exists(filePath(name))) {
-            return fail(
-                LocalizationHelper::coreString(u"Two screens would be written to \"%1\"."_s).arg(name));
+        if (names.contains(name)) {
+            return fail(takenName(name));
         }
-        const QByteArray bytes = withWindowsLineEnds(screen->toQml(0).toUtf8());
-        QFile file(filePath(name));
-        const bool written =
-            file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
-        if (!written) {
-            return fail(LocalizationHelper::coreString(u"\"%1\" cannot be written: %2"_s)
-                            .arg(file.fileName(), Common::FileHelper::writeError(file)));
-        }
+        names.insert(name);
     }
-    return true;
+    std::vector<QString> errors(size_t(screens.size()));
+    std::atomic<size_t> next = 0;
+    Common::Processors::run(errors.size(), [&] {
+        for (size_t i = next++; i < errors.size(); i = next++) {
+            errors[i] = writeScreen(*screens.at(qsizetype(i)));
+        }
+    });
+    const auto error = std::ranges::find_if(errors, [](const QString &text) { return !text.isEmpty(); });
+    return error == errors.end() || fail(*error);
+}
+
+QString RuntimeGenerator::writeScreen(const DesignerObject &screen) const
+{
+    const QByteArray bytes = withWindowsLineEnds(screen.toQml(0).toUtf8());
+    QFile file(filePath(screen.getQmlIdName() + u".qml"_s));
+    // A file system may take names for one that differ in their case.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.exists()) {
+        return takenName(screen.getQmlIdName());
+    }
+    const bool isWritten = file.isOpen() && file.write(bytes) == bytes.size() && file.flush();
+    return isWritten ? QString()
+                     : LocalizationHelper::coreString(u"\"%1\" cannot be written: %2"_s)
+                           .arg(file.fileName(), Common::FileHelper::writeError(file));
 }
 
 bool RuntimeGenerator::copyResources()

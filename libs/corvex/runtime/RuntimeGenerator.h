@@ -45,7 +45,10 @@ private:
     QString packProject(const DesignerObject &project) const;
     QByteArray projectXml(const DesignerObject &project, QString *error) const;
     bool writeConfiguration(const DesignerObject *project);
+    //! All processors write, each one screen at a time.
     bool writeScreens(const DesignerObject *project);
+    //! The error, empty without one.
+    QString writeScreen(const DesignerObject &screen) const;
     bool copyResources();
     bool fail(const QString &error);
     QString filePath(const QString &fileName) const;
