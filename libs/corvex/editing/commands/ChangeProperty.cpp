@@ -123,16 +123,16 @@ void ChangeProperty::setupCommand()
 
 void ChangeProperty::followLinkedElement()
 {
-    const ObjectLinkInfo link(m_after);
     const Screen *screen = owner()->screen();
     for (const LinkedStates &row : linkedStates) {
-        if (property()->id() != row.link || !owner()->isKindOfClass(row.className) || !screen
-            || !screen->hasElement(link.objectId())) {
+        if (property()->id() != row.link || !owner()->isKindOfClass(row.className)) {
             continue;
         }
+        const QString linked = ObjectLinkInfo(m_after).objectId();
         for (const QLatin1StringView id : row.states) {
-            if (const SharedProperty state = owner()->getProperty(QString(id))) {
-                addChange(state, relinked(valueOf(state), link.objectId(), screen));
+            const SharedProperty state = owner()->getProperty(QString(id));
+            if (state && screen && screen->hasElement(linked)) {
+                addChange(state, relinked(valueOf(state), linked, screen));
             }
         }
     }
@@ -194,7 +194,7 @@ QString ChangeProperty::errorString() const
 bool ChangeProperty::set(const QString &value)
 {
     const bool isDone = ValueChange::set(property(), value);
-    if (const SharedProperty list = owner()->listProperty(); isDone && m_sortsList && list) {
+    if (const SharedProperty list = isDone && m_sortsList ? owner()->listProperty() : SharedProperty()) {
         SortListStep::sort(list);
     }
     return isDone;

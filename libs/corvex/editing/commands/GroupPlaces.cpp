@@ -41,8 +41,8 @@ bool GroupPlaces::concerns(const SharedProperty &property)
     }
     const DesignerObject *owner = property->parentObject();
     return property->isList() ? isGroup(owner)
-                              : (isGroup(owner) || GroupIndexes::groupOf(owner->listProperty()))
-                                    && (property->id() == "position"_L1 || property->id() == "size"_L1);
+                              : (property->id() == "position"_L1 || property->id() == "size"_L1)
+                                    && (isGroup(owner) || GroupIndexes::groupOf(owner->listProperty()));
 }
 
 bool GroupPlaces::note(const SharedProperty &property)

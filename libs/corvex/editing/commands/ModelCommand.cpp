@@ -10,6 +10,24 @@
 
 namespace Halvane::Corvex::Designer {
 
+namespace {
+
+void redoAll(const QList<ValueChange> &changes)
+{
+    for (const ValueChange &change : changes) {
+        change.redo();
+    }
+}
+
+void undoAll(const QList<ValueChange> &changes)
+{
+    for (const ValueChange &change : changes) {
+        change.undo();
+    }
+}
+
+} // namespace
+
 //! What the commands of one edit share.
 struct ModelCommand::Edit
 {
@@ -24,7 +42,6 @@ struct ModelCommand::Plan
     std::vector<std::unique_ptr<EditStep>> steps;
     std::vector<std::unique_ptr<HeldObject>> unused;
     QList<ValueChange> changes;
-    std::shared_ptr<Edit> edit;
     std::optional<QList<ValueChange>> settled;
     QPointer<DesignerObject> activeItem;
     QList<QPointer<DesignerObject>> selectedWhenDone;
@@ -56,8 +73,8 @@ ModelCommand::ModelCommand(const SharedProperty &property, bool selected, UndoCo
     : UndoCommand(property, selected, parent)
 {
     if (parent) {
-        plan().edit = wholeEdit();
-        plan().edit->hasSeveral = true;
+        m_edit = wholeEdit();
+        m_edit->hasSeveral = true;
     }
     noteForGroups(property);
 }
@@ -81,15 +98,15 @@ std::shared_ptr<ModelCommand::Edit> ModelCommand::wholeEdit() const
             // The command is the last child of its parent for now.
             model = dynamic_cast<const ModelCommand *>(parent->child(parent->childCount() - 2));
         }
-        if (model && model->m_plan && model->m_plan->edit) {
-            return model->m_plan->edit;
+        if (model && model->m_edit) {
+            return model->m_edit;
         }
         command = parent;
     }
     auto *root = const_cast<ModelCommand *>(dynamic_cast<const ModelCommand *>(command));
     auto edit = std::make_shared<Edit>();
     if (root && root != this) {
-        root->plan().edit = edit;
+        root->m_edit = edit;
     }
     return edit;
 }
@@ -99,31 +116,44 @@ void ModelCommand::noteForGroups(const SharedProperty &property)
     if (!GroupPlaces::concerns(property)) {
         return;
     }
-    if (!plan().edit) {
-        plan().edit = std::make_shared<Edit>();
+    if (!m_edit) {
+        m_edit = std::make_shared<Edit>();
     }
-    if (plan().edit->places.note(property)) {
-        plan().edit->lastInGroups = this;
+    if (m_edit->places.note(property)) {
+        m_edit->lastInGroups = this;
     }
 }
 
 void ModelCommand::settleGroups()
 {
-    if (!m_plan || !m_plan->edit || m_plan->edit->lastInGroups != this) {
+    if (!m_edit || m_edit->lastInGroups != this) {
         return;
     }
-    if (!m_plan->settled) {
-        m_plan->settled = m_plan->edit->places.settle();
-        return;
-    }
-    for (const ValueChange &change : std::as_const(*m_plan->settled)) {
-        change.redo();
+    if (!plan().settled) {
+        plan().settled = m_edit->places.settle();
+    } else {
+        redoAll(*m_plan->settled);
     }
 }
 
 QString ModelCommand::localized(const QString &english)
 {
     return Common::LocalizationHelper::coreString(english);
+}
+
+void ModelCommand::setTitle(const QString &english, const QString &name)
+{
+    // An edit of many elements changes the same property of each. Commands live on the GUI thread only.
+    static struct
+    {
+        QString form;
+        QString name;
+        QString text;
+    } last;
+    if (const QString form = localized(english); form != last.form || name != last.name) {
+        last = {form, name, form.arg(name)};
+    }
+    setText(last.text);
 }
 
 void ModelCommand::refuse(const QString &error, const QList<DesignerObject *> &unused)
@@ -207,13 +237,13 @@ QString ModelCommand::valueOf(const SharedProperty &property) const
 
 const PendingValues *ModelCommand::pending() const
 {
-    return m_plan && m_plan->edit && m_plan->edit->hasSeveral ? &m_plan->edit->pending : nullptr;
+    return m_edit && m_edit->hasSeveral ? &m_edit->pending : nullptr;
 }
 
 void ModelCommand::notePending(const SharedProperty &property, const QString &value)
 {
     if (pending()) {
-        m_plan->edit->pending.insert(property.data(), value);
+        m_edit->pending.insert(property.data(), value);
     }
 }
 
@@ -282,21 +312,14 @@ UndoCommand::Start ModelCommand::start()
 bool ModelCommand::redoLeaf(QString &error)
 {
     const bool changesComeFirst = m_plan && m_plan->changesComeFirst;
-    const auto makeChanges = [this] {
-        for (const ValueChange &change : m_plan ? m_plan->changes : QList<ValueChange>()) {
-            change.redo();
-        }
-    };
     if (changesComeFirst) {
-        makeChanges();
+        redoAll(m_plan->changes);
     }
     const bool done = redoOwn(error);
-    if (done && !changesComeFirst) {
-        makeChanges();
+    if (done && m_plan && !changesComeFirst) {
+        redoAll(m_plan->changes);
     } else if (!done && changesComeFirst) {
-        for (const ValueChange &change : m_plan->changes) {
-            change.undo();
-        }
+        undoAll(m_plan->changes);
     }
     if (done) {
         settleGroups();
@@ -311,13 +334,10 @@ void ModelCommand::undo()
     }
     if (childCount() > 0) {
         QUndoCommand::undo();
-    } else if (isValid() && undoOwn()) {
-        for (const ValueChange &change : m_plan ? m_plan->changes : QList<ValueChange>()) {
-            change.undo();
-        }
-        for (const ValueChange &change :
-             m_plan && m_plan->settled ? *m_plan->settled : QList<ValueChange>()) {
-            change.undo();
+    } else if (isValid() && undoOwn() && m_plan) {
+        undoAll(m_plan->changes);
+        if (m_plan->settled) {
+            undoAll(*m_plan->settled);
         }
     }
     m_isDone = false;

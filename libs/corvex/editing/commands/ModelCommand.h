@@ -55,6 +55,8 @@ protected:
             setText(title);
         }
     }
+    //! The same. Commands that follow each other with equal titles share one text.
+    void setTitle(const QString &english, const QString &name);
     //! Makes the command one that cannot be done. It owns \a unused all the same, unless they are in a model.
     void refuse(const QString &error, const QList<DesignerObject *> &unused = {});
     //! Objects that were given to the command and will not come into the model.
@@ -101,7 +103,8 @@ private:
     QList<DesignerObject *> ownSelection() const;
     bool redoLeaf(QString &error);
 
-    std::unique_ptr<Plan> m_plan; //!< null for a lone command with nothing beside its own change
+    std::unique_ptr<Plan> m_plan; //!< null for a command with nothing beside its own change
+    std::shared_ptr<Edit> m_edit; //!< null for a lone command that no group has to follow
     bool m_isDone = false;
 };
 
