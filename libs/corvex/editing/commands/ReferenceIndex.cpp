@@ -31,24 +31,25 @@ ReferenceIndex &ReferenceIndex::of(Project *project)
     return *index;
 }
 
-void ReferenceIndex::addKeys(const Mention &mention, const Screen *screen,
-                             QSet<QPair<const Screen *, QString>> &keys)
+QList<ReferenceIndex::Entry> ReferenceIndex::entriesOf(const Mention &mention, const Screen *screen,
+                                                       const SharedProperty &property)
 {
     if (!mention.kinds.testFlag(NamedKind::Element)) {
-        keys.insert({nullptr, mention.path});
-        return;
+        return {{nullptr, mention.path, property}};
     }
+    QList<Entry> entries;
     // A path may start with the name of another screen and go on there, so its names are known everywhere.
     const bool isKnownEverywhere = mention.kinds != NamedKind::Element || mention.path.contains(u'.');
     for (const QStringView segment : QStringView(mention.path).split(u'.')) {
-        keys.insert({screen, segment.toString()});
+        entries.append({screen, segment.toString(), property});
         if (isKnownEverywhere) {
-            keys.insert({nullptr, segment.toString()});
+            entries.append({nullptr, segment.toString(), property});
         }
     }
     if (mention.kinds.testAnyFlags(NamedKind::Image)) {
-        keys.insert({nullptr, mention.path});
+        entries.append({nullptr, mention.path, property});
     }
+    return entries;
 }
 
 void ReferenceIndex::update(const SharedProperty &property, const QString &text, bool add)
@@ -57,15 +58,13 @@ void ReferenceIndex::update(const SharedProperty &property, const QString &text,
         return;
     }
     const Screen *screen = property->parentObject()->screen();
-    QSet<QPair<const Screen *, QString>> keys;
     for (const Mention &mention : ReferenceForm::mentions(*property, text)) {
-        addKeys(mention, screen, keys);
-    }
-    for (const auto &[scope, name] : std::as_const(keys)) {
-        if (add) {
-            m_entries.insert({scope, name, property});
-        } else {
-            m_entries.erase({scope, name, property});
+        for (const Entry &entry : entriesOf(mention, screen, property)) {
+            if (add) {
+                m_entries.insert(entry);
+            } else {
+                m_entries.erase(entry);
+            }
         }
     }
 }

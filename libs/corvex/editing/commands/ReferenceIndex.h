@@ -42,8 +42,9 @@ private:
         bool operator<(const Entry &other) const;
     };
 
-    static void addKeys(const Mention &mention, const Screen *screen,
-                        QSet<QPair<const Screen *, QString>> &keys);
+    //! The entries under which a mention is found; some may be equal.
+    static QList<Entry> entriesOf(const Mention &mention, const Screen *screen,
+                                  const SharedProperty &property);
     void update(const SharedProperty &property, const QString &text, bool add);
     void find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const;
 
