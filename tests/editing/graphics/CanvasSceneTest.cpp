@@ -172,6 +172,14 @@ TEST_F(CanvasSceneTest, WhatChangesNothingLeavesNoCommand)
     EXPECT_EQ(placeOf(box), before);
     EXPECT_EQ(project->undoStack()->count(), 0);
 
+    box->getProperty(u"position")->setAllowInvalidValue(false);
+    box->getProperty(u"position")->setValueValidator([](const DesignerProperty *position, QString &) {
+        return position->valueString() == "x: 50; y: 50;"_L1;
+    });
+    drag({100, 80}, {130, 60});
+    EXPECT_EQ(itemOf(box)->handlePoint(QQuickItem::TopLeft), QPointF(50, 50)) << "the model has refused it";
+    EXPECT_EQ(project->undoStack()->count(), 0);
+
     press({100, 80});
     moveTo({300, 200});
     delete screen->takeListPropertyItem(screen->elements(), box);
@@ -462,12 +470,15 @@ TEST_F(CanvasSceneTest, MembersOfTurnedGroupsGoWhereTheMouseTakesThem)
 TEST_F(CanvasSceneTest, SeveralElementsAreSelectedAndMovedTogether)
 {
     DesignerObject *other = add(screen, "Text", "title", {300, 200, 50, 20});
+    set(add(screen, "Rectangle", "turned", {310, 80, 80, 80}), "rotation", u"45"_s);
     show();
     const QSignalSpy selection(scene.get(), &QGraphicsScene::selectionChanged);
     drag({20, 20}, {320, 210});
-    EXPECT_EQ(scene->selectedObjects().size(), 2) << "touched by the rectangle";
-    scene->selectObjects({box, other});
+    EXPECT_EQ(scene->selectedObjects().size(), 3) << "touched by the rectangle";
     EXPECT_EQ(selection.count(), 1) << "however many they are";
+    drag({270, 40}, {310, 80});
+    EXPECT_TRUE(scene->selectedObjects().isEmpty()) << "only the bounds of what is turned are there";
+    scene->selectObjects({box, other});
     drag({100, 80}, {120, 90});
     EXPECT_EQ(valueOf(box, "position"), u"x: 70; y: 60;"_s);
     EXPECT_EQ(valueOf(other, "position"), u"x: 320; y: 210;"_s);

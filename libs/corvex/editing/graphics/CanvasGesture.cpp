@@ -123,10 +123,10 @@ SharedProperty CanvasGesture::movedProperty(const DesignerObject &object) const
     return object.getProperty(m_kind == Kind::Turn ? u"rotation" : u"position");
 }
 
-std::unique_ptr<UndoCommand> CanvasGesture::command() const
+std::unique_ptr<UndoCommand> CanvasGesture::command()
 {
     auto whole = std::make_unique<UndoCommand>();
-    for (const Start &start : m_items) {
+    for (Start &start : m_items) {
         FramedItem *item = FramedItem::of(start.object);
         if (!item) {
             continue;
@@ -134,7 +134,7 @@ std::unique_ptr<UndoCommand> CanvasGesture::command() const
         if (m_kind == Kind::Resize) {
             item->updateResizedDataObjects(m_handle, whole.get());
         } else {
-            item->updateDataObject(movedProperty(*start.object), whole.get());
+            start.isInCommand = item->updateDataObject(movedProperty(*start.object), whole.get());
         }
     }
     if (whole->childCount() == 0) {
@@ -144,10 +144,10 @@ std::unique_ptr<UndoCommand> CanvasGesture::command() const
     return whole;
 }
 
-void CanvasGesture::release()
+void CanvasGesture::release(bool isDone)
 {
     for (const Start &start : std::as_const(m_items)) {
-        FramedItem *item = FramedItem::of(start.object);
+        FramedItem *item = isDone && start.isInCommand ? nullptr : FramedItem::of(start.object);
         if (item && m_kind == Kind::Resize) {
             item->setRatioForced(false);
             item->readDataObject();

@@ -31,9 +31,10 @@ public:
     //! keeps the proportions and turns in steps of 15 degrees.
     void moveTo(const QPointF &point, Qt::KeyboardModifiers modifiers);
     //! The one command for all that was changed; null when nothing was.
-    std::unique_ptr<UndoCommand> command() const;
-    //! Takes the items back to what the model says, and ends the gesture.
-    void release();
+    std::unique_ptr<UndoCommand> command();
+    //! Ends the gesture and takes the items back to what the model says. After the command was done, the
+    //! items that it was about follow the model already.
+    void release(bool isDone);
 
 private:
     enum class Kind { Move, Resize, Turn };
@@ -42,6 +43,7 @@ private:
         QPointer<DesignerObject> object;
         QPointF position; //!< of a moved item, where it was; of a resized one, from the mouse to the handle
         double angle;     //!< of a turned item, from the direction of the mouse to the rotation
+        bool isInCommand = false;
     };
 
     CanvasGesture(Kind kind, const QPointF &start)

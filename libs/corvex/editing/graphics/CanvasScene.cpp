@@ -16,6 +16,7 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QWidget>
 
 #include <functional>
@@ -290,18 +291,21 @@ void CanvasScene::endGesture()
 {
     Project *project = screen() ? screen()->project() : nullptr;
     std::unique_ptr<UndoCommand> command = project ? m_gesture->command() : nullptr;
-    if (command && command->isValid()) {
-        project->undoStack()->push(command.release());
-    }
+    const bool isDone = command && command->isValid() && project->undoStack()->push(command.release());
     // What the model has not taken over does not stay on the canvas either.
-    cancelGesture();
+    releaseGesture(isDone);
 }
 
 void CanvasScene::cancelGesture()
 {
     delete std::exchange(m_crop, nullptr);
+    releaseGesture(false);
+}
+
+void CanvasScene::releaseGesture(bool isDone)
+{
     if (m_gesture) {
-        m_gesture->release();
+        m_gesture->release(isDone);
         m_gesture.reset();
         m_waitsForDrag = false;
         outlineLater();
@@ -310,10 +314,18 @@ void CanvasScene::cancelGesture()
 
 void CanvasScene::selectTouched(const QRectF &area)
 {
+    QPainterPath path;
+    path.addRect(area);
+    // Most items lie in the area as a whole; to compare shapes takes longer.
+    const auto isTouched = [&](const QGraphicsItem &graphic) {
+        const QRectF bounds = graphic.sceneBoundingRect();
+        return (!bounds.isEmpty() && area.contains(bounds))
+               || graphic.collidesWithPath(graphic.mapFromScene(path), Qt::IntersectsItemShape);
+    };
     QList<QGraphicsItem *> touched = selectedItems();
-    for (QGraphicsItem *graphic : items(area)) {
+    for (QGraphicsItem *graphic : items(area, Qt::IntersectsItemBoundingRect)) {
         const GraphicsItem *item = GraphicsItem::of(graphic);
-        if (item && !graphic->parentItem() && item->dataObject() != m_screen) {
+        if (item && !graphic->parentItem() && item->dataObject() != m_screen && isTouched(*graphic)) {
             touched.append(graphic);
         }
     }

@@ -64,6 +64,7 @@ private:
     void selectItems(const QList<QGraphicsItem *> &items);
     void startMoving(const QPointF &point);
     void endGesture();
+    void releaseGesture(bool isDone);
     void selectTouched(const QRectF &area);
     void onSelectionChanged();
     void outline();

@@ -5,6 +5,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <array>
 #include <limits>
 
 namespace Halvane::Corvex::Designer {
@@ -27,12 +29,20 @@ QRectF SelectionOutline::follow(const QList<FramedItem *> &items, bool hasHandle
     prepareGeometryChange();
     QRectF bounds;
     m_frames.clear();
+    m_frames.reserve(4 * items.size());
     for (const FramedItem *item : items) {
-        const QPolygonF corners = item->graphic()->mapToScene(item->frame());
-        bounds |= corners.boundingRect();
-        for (qsizetype corner = 0; corner < corners.size(); ++corner) {
-            m_frames.append({corners.at(corner), corners.at((corner + 1) % corners.size())});
+        const QRectF frame = item->frame();
+        const auto at = [graphic = item->graphic()](const QPointF &corner) {
+            return graphic->mapToScene(corner);
+        };
+        const std::array corners{at(frame.topLeft()), at(frame.topRight()), at(frame.bottomRight()),
+                                 at(frame.bottomLeft())};
+        for (std::size_t corner = 0; corner < corners.size(); ++corner) {
+            m_frames.append({corners[corner], corners[(corner + 1) % corners.size()]});
         }
+        const auto [left, right] = std::ranges::minmax(corners, {}, &QPointF::x);
+        const auto [top, bottom] = std::ranges::minmax(corners, {}, &QPointF::y);
+        bounds |= QRectF(QPointF(left.x(), top.y()), QPointF(right.x(), bottom.y()));
     }
     m_handled = hasHandles && items.size() == 1 ? items.constFirst()->dataObject() : nullptr;
     const double margin = m_handled ? reach : 1;
