@@ -65,7 +65,7 @@ void CheckWalk::look(const DesignerObject &object)
     for (ObjectCheck *check : plan.objectChecks) {
         check->look(object);
     }
-    const QList<SharedProperty> &properties = object.properties();
+    const PropertyRange properties = object.properties();
     for (const auto &[place, check] : plan.sites) {
         if (place < properties.size()) {
             check->look(*properties.at(place));
