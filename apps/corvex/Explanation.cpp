@@ -49,7 +49,7 @@ QString Explanation::ofName(const DesignerObject &object, const QString &name, c
         return u"%1 It has at least 2 characters."_s.arg(reason);
     }
     const DesignerObject *other = bearer(object, name);
-    return other ? u"%1 \"%2\" is called so, a %3."_s.arg(reason, other->objectPath(), other->className())
+    return other ? u"%1 \"%2\" (%3) has this name."_s.arg(reason, other->objectPath(), other->className())
                  : reason;
 }
 

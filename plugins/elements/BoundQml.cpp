@@ -75,7 +75,7 @@ QString codeOf(const GeneralDataList &expression, const Binding &binding)
 //! The expression beside the plain value of that name; null when \a owner has none.
 const GeneralDataList *expressionBeside(const DesignerObject *owner, const Binding &binding)
 {
-    const QList<SharedProperty> &properties = owner->properties();
+    const PropertyRange properties = owner->properties();
     const auto isIt = [&binding](const SharedProperty &property) {
         const QString &id = property->id();
         return id.size() == binding.name.size() + suffix.size() && id.endsWith(suffix)
@@ -85,11 +85,10 @@ const GeneralDataList *expressionBeside(const DesignerObject *owner, const Bindi
     static thread_local std::array<qsizetype, std::size(bindings)> places{};
     qsizetype &place = places[size_t(&binding - std::begin(bindings))];
     if (place >= properties.size() || !isIt(properties.at(place))) {
-        const auto found = std::ranges::find_if(properties, isIt);
-        if (found == properties.end()) {
+        place = std::ranges::distance(properties.begin(), std::ranges::find_if(properties, isIt));
+        if (place == properties.size()) {
             return nullptr;
         }
-        place = found - properties.begin();
     }
     return &expressionOf(*properties.at(place));
 }

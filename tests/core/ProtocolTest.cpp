@@ -312,7 +312,7 @@ TEST_F(Protocol, APropertyOutlivesItsObject)
 {
     add(u"item"_s);
     owner->changePropertyObjectValue(owner->property("child"), Node::create(u"child"_s));
-    const QList<SharedProperty> properties = owner->properties();
+    const QList<SharedProperty> properties = owner->properties().toList();
     owner.reset();
     for (const SharedProperty &property : properties) {
         EXPECT_EQ(property->parentObject(), nullptr);

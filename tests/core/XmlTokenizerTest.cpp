@@ -114,14 +114,14 @@ TEST(XmlTokenizer, TellsThePlaceOfAnError)
         const char *word;
     } cases[] = {
         {"<a>\n <b\n c='1'\n c='2'/></a>", 4, 2, "duplicate"},
-        {"<a>\r\n\r <b></c></a>", 3, 7, "mismatched"},
+        {"<a>\r\n\r <b></c></a>", 3, 7, "does not match"},
         {"<a x='\xC3\xA4\xC3\xA4' y='<'/>", 1, 14, "invalid token"},
         {"<a>\xC3\xA4\xC3\xA4&b;</a>", 1, 6, "undefined entity"},
         {"<a>\n&#0;</a>", 2, 1, "character number"},
         {"<a>\n  <b c='1'", 2, 3, "cut off"},
         {"<a>\n\xC3\xA4\xFF</a>", 2, 2, "not UTF-8"},
-        {"<a/>\n <b/>", 2, 2, "junk"},
-        {"<a>" + QByteArray(300'000, '\n') + "<b>\n</a>", 300'002, 3, "mismatched"},
+        {"<a/>\n <b/>", 2, 2, "root element"},
+        {"<a>" + QByteArray(300'000, '\n') + "<b>\n</a>", 300'002, 3, "does not match"},
     };
     for (const auto &[xml, line, column, word] : cases) {
         QByteArray bytes = xml;

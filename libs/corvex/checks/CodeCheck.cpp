@@ -27,21 +27,22 @@ bool CodeCheck::concerns(const DesignerProperty &property)
     if (!isOnScreen || !property.hasFlag(RuntimeFlag) || property.isList() || property.isObject()) {
         return false;
     }
-    if (!property.writesPlainQml()) {
-        return true;
-    }
-    // Its values are correct; that the language takes its name is to be seen once.
-    if (property.isValid()) {
-        m_uses.append({&property, numberOf(qmlShape(property.toQml(0)))});
-    }
-    return false;
+    // Plain values are always correct. Whether the language takes the name is to be seen once.
+    return !property.writesPlainQml() || !m_plainNames.contains(property.id());
 }
 
 void CodeCheck::look(const DesignerProperty &property)
 {
     // An invalid value has its own problem.
-    const QString qml = property.isValid() ? property.toQml(0) : QString();
-    if (!qml.isEmpty() && !isPlainQml(qml)) {
+    const bool isPlain = property.writesPlainQml();
+    if (!property.isValid() || (isPlain && m_plainNames.contains(property.id()))) {
+        return;
+    }
+    if (isPlain) {
+        m_plainNames.insert(property.id());
+    }
+    const QString qml = property.toQml(0);
+    if (!qml.isEmpty() && (isPlain || !isPlainQml(qml))) {
         m_uses.append({&property, numberOf(qmlShape(qml))});
     }
 }
@@ -74,7 +75,7 @@ void CodeCheck::finish(const Project &)
     if (wrongShapes.isEmpty()) {
         return;
     }
-    // Whether the texts of that shape are wrong, and why, they say themselves.
+    // Not each text of a wrong shape has to be wrong. Each is read for its own message.
     QHash<QString, QString> messages;
     for (const auto &[property, shape] : std::as_const(m_uses)) {
         if (wrongShapes.contains(shape)) {

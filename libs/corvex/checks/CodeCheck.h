@@ -4,6 +4,7 @@
 #include "corvex/checks/Check.h"
 
 #include <QHash>
+#include <QSet>
 
 namespace Halvane::Corvex::Designer {
 
@@ -30,6 +31,7 @@ private:
     QHash<QString, qsizetype> m_numbers;
     QStringList m_shapes; //!< by their numbers
     QList<Use> m_uses;
+    QSet<QString> m_plainNames; //!< of properties with plain values, which were looked at once
 };
 
 } // namespace Halvane::Corvex::Designer

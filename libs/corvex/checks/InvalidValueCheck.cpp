@@ -77,8 +77,11 @@ ProblemCode refusalCode(const DesignerProperty &property)
             return row.code;
         }
     }
-    return property.isKindOfClass(u"LinkProperty"_s) ? ProblemCode::LinkTarget
-                                                     : ProblemCode::ExpressionInvalid;
+    if (property.isKindOfClass(u"LinkProperty"_s)) {
+        return ProblemCode::LinkTarget;
+    }
+    return property.isKindOfClass(GeneralDataListProperty::kindName()) ? ProblemCode::ExpressionInvalid
+                                                                       : ProblemCode::ValueInvalid;
 }
 
 //! What is drawn can be drawn with any number; everything else counts on its range.

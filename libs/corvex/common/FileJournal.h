@@ -11,7 +11,9 @@
 namespace Halvane::Corvex::Common {
 
 /*! What a transaction writes down before it touches a file, in the hidden folder that it has in the folder of
-    the files: one JSON object a line, on the disk before the next step is taken. */
+    the files: one JSON object a line, on the disk before the next step is taken. Beside it are "old-N", a
+   hard link to a file before its change, "N", a file that is out of sight, "draft", the new file of the
+   project, and "again", as long as a recovery works. */
 class FileJournal
 {
 public:

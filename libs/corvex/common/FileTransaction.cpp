@@ -204,6 +204,7 @@ bool FileTransaction::commit(const QString &file, QString *error)
 void FileTransaction::takeBack()
 {
     if (const std::unique_ptr<FileJournal> journal = std::move(m_journal)) {
+        // When that fails, the journal stays, and the next opening tries again.
         FileRecovery(*journal).takeBack();
     }
 }

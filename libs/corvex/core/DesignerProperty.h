@@ -141,6 +141,7 @@ public:
     QStringList listItemNames(bool recursive = false) const;
     //! The class names of the items, each once, in the order of their first appearance.
     QStringList getTypes(bool recursive = false) const;
+    //! Items of the class, or of one that is derived from it.
     QList<DesignerObject *> getItemsOfType(const QString &className, bool recursive = false) const;
     QStringList getItemNamesOfType(const QString &className, bool recursive = false) const;
     //! Puts the items into the order of the list's rule; nothing for a list without one.

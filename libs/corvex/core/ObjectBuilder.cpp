@@ -222,7 +222,7 @@ DesignerProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView name,
                  u"The attribute \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(attribute.name)));
         }
     }
-    const qsizetype index = id.isNull() ? -1 : expectProperty(frame, id, isRepeated);
+    const qsizetype index = id.isNull() ? -1 : findProperty(frame, id, isRepeated);
     DesignerProperty *property = index < 0 ? nullptr : frame.object->d->properties.at(index);
     if (!property || !property->hasFlag(StoredFlag)) {
         note(ReadNote::Dropped, id.isNull()
@@ -238,7 +238,7 @@ DesignerProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView name,
 }
 
 //! The index of the property among those of the object; -1 for one that it does not have.
-qsizetype ObjectBuilder::expectProperty(Frame &frame, QByteArrayView id, bool *isRepeated)
+qsizetype ObjectBuilder::findProperty(Frame &frame, QByteArrayView id, bool *isRepeated)
 {
     const PropertyStore &properties = frame.object->d->properties;
     const qsizetype count = properties.count();

@@ -44,7 +44,7 @@ private:
         SharedProperty property = {};
         qsizetype nextProperty =
             0; //!< where the next property is expected: files keep the order of the table
-        std::bitset<128> known = {}; //!< the properties that have been there, by their index
+        std::bitset<128> known = {}; //!< the first properties that have been there, by their index
         bool isAnswered = false;     //!< a property that got a value or children
         bool isRepeated = false;     //!< a property that was there before
     };
@@ -72,7 +72,7 @@ private:
     void openInProperty(Frame &frame, QByteArrayView name);
     void openItem(const Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
     void openObjectValue(QByteArrayView name);
-    static qsizetype expectProperty(Frame &frame, QByteArrayView id, bool *isRepeated);
+    static qsizetype findProperty(Frame &frame, QByteArrayView id, bool *isRepeated);
     void applyValue(DesignerObject *object, DesignerProperty *property, QByteArrayView value);
     static SharedProperty shared(DesignerObject *object, const DesignerProperty *property);
     static void emptyList(DesignerObject *owner, const SharedProperty &list);

@@ -29,7 +29,7 @@ SharedProperty PropertyBlock::make(const QSharedPointer<PropertyBlock> &block, c
     return QtSharedPointer::copyAndSetPointer(property, block);
 }
 
-void PropertyBlock::list(const DesignerProperty &property)
+void PropertyBlock::append(const DesignerProperty &property)
 {
     Distance *end = distances();
     Distance *place = std::find(end - m_made, end - m_count, property.m_blockDistance);

@@ -7,25 +7,13 @@
 namespace Halvane::Corvex::Designer {
 
 /*! Properties of one object in one piece of memory, under one count of users: a property that an undo step
-   holds on to keeps those beside it, too. Those that are in the list of the block are the object's first
-   ones, in its order. */
+   holds on to keeps those beside it, too. Those that were appended are the object's first ones, in
+   its order. */
 class PropertyBlock
 {
     Q_DISABLE_COPY_MOVE(PropertyBlock)
 
 public:
-    //! Whether properties come in blocks at all. The address sanitizer watches each one by itself.
-    static constexpr bool isUsed()
-    {
-#if defined(__SANITIZE_ADDRESS__)
-        return false;
-#elif defined(__has_feature)
-        return !__has_feature(address_sanitizer);
-#else
-        return true;
-#endif
-    }
-
     //! What a property of that row takes in a block, in bytes; nothing where it cannot be in one.
     static size_t sizeFor(const PropertyRow &row)
     {
@@ -42,28 +30,19 @@ public:
                    : reinterpret_cast<const PropertyBlock *>(bytes - property.m_blockDistance * unit);
     }
 
-    //! A property that is not in the list yet; null when there is no room for it.
+    //! A property to be appended later; null when there is no room for it.
     static SharedProperty make(const QSharedPointer<PropertyBlock> &block, const PropertyRow &row);
-    //! The property must be in this block, and is the last one of the list from now on.
-    void list(const DesignerProperty &property);
-    qsizetype count() const
-    {
-        return m_count;
-    }
+    //! The property must be in this block.
+    void append(const DesignerProperty &property);
+    qsizetype count() const { return m_count; }
     DesignerProperty *at(qsizetype index)
     {
         return reinterpret_cast<DesignerProperty *>(begin() + distances()[-1 - index] * unit);
     }
 
-    DesignerObject *parent() const
-    {
-        return m_parent;
-    }
+    DesignerObject *parent() const { return m_parent; }
     //! For an object that goes while somebody still holds on to a property.
-    void leaveParent()
-    {
-        m_parent = nullptr;
-    }
+    void leaveParent() { m_parent = nullptr; }
 
 private:
     using Distance = quint16;
@@ -75,26 +54,18 @@ private:
     { }
     ~PropertyBlock() = default;
     static void destroy(PropertyBlock *block);
-    static constexpr size_t units(size_t bytes)
-    {
-        return (bytes + unit - 1) / unit;
-    }
-    char *begin()
-    {
-        return reinterpret_cast<char *>(this);
-    }
-    //! Behind the distances of all properties, the first one last; those in the list come first.
-    Distance *distances()
-    {
-        return reinterpret_cast<Distance *>(begin() + m_end * unit);
-    }
+    static constexpr size_t units(size_t bytes) { return (bytes + unit - 1) / unit; }
+    char *begin() { return reinterpret_cast<char *>(this); }
+    //! Behind the distances of all properties: those that were appended, the first one last, and those that
+    //! were not before them.
+    Distance *distances() { return reinterpret_cast<Distance *>(begin() + m_end * unit); }
 
     DesignerObject *m_parent;
     // In units from the begin of the block.
     Distance m_used = units(sizeof(PropertyBlock));
     Distance m_end;
     quint16 m_made = 0;
-    quint16 m_count = 0; //!< how many are in the list
+    quint16 m_count = 0; //!< how many of them were appended
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -61,7 +61,7 @@ public:
     {
         return index >= 0 && index < size() ? at(index) : SharedProperty();
     }
-    operator QList<SharedProperty>() const { return {begin(), end()}; }
+    QList<SharedProperty> toList() const { return {begin(), end()}; }
 
 private:
     const PropertyStore *m_store;

@@ -12,6 +12,15 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
+//! The address sanitizer watches each property by itself.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool usesBlocks = false;
+#elif defined(__has_feature)
+constexpr bool usesBlocks = !__has_feature(address_sanitizer);
+#else
+constexpr bool usesBlocks = true;
+#endif
+
 //! What the properties of one object of a class need in a block, as measured at one that has none.
 struct ClassNeeds
 {
@@ -31,7 +40,7 @@ ClassNeeds &needsOf(const DesignerObject &object)
 
 SharedProperty PropertyStore::make(const PropertyRow &row, DesignerObject *parent)
 {
-    if (!PropertyBlock::isUsed()) {
+    if (!usesBlocks) {
         return row.makeAlone(parent);
     }
     if (!m_block) {
@@ -62,7 +71,7 @@ void PropertyStore::append(const SharedProperty &property)
 {
     const bool isInBlock = m_block && PropertyBlock::of(*property) == m_block.data();
     if (isInBlock && !m_others) {
-        m_block->list(*property);
+        m_block->append(*property);
         return;
     }
     if (!m_others) {
@@ -73,7 +82,7 @@ void PropertyStore::append(const SharedProperty &property)
 
 SharedProperty PropertyStore::shared(qsizetype index) const
 {
-    const qsizetype inBlock = listedInBlock();
+    const qsizetype inBlock = countInBlock();
     return index < inBlock ? QtSharedPointer::copyAndSetPointer(m_block->at(index), m_block)
                            : (*m_others)[size_t(index - inBlock)];
 }
@@ -83,7 +92,7 @@ SharedProperty PropertyStore::shared(const DesignerProperty *property) const
     if (property && m_block && PropertyBlock::of(*property) == m_block.data()) {
         return QtSharedPointer::copyAndSetPointer(const_cast<DesignerProperty *>(property), m_block);
     }
-    for (qsizetype i = listedInBlock(); i < count(); ++i) {
+    for (qsizetype i = countInBlock(); i < count(); ++i) {
         if (at(i) == property) {
             return shared(i);
         }
@@ -96,7 +105,7 @@ void PropertyStore::leaveParent()
     if (m_block) {
         m_block->leaveParent();
     }
-    for (qsizetype i = listedInBlock(); i < count(); ++i) {
+    for (qsizetype i = countInBlock(); i < count(); ++i) {
         if (!PropertyBlock::of(*at(i))) {
             at(i)->setParentObject(nullptr);
         }

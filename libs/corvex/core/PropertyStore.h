@@ -36,10 +36,10 @@ public:
 
     Iterator begin() const { return {*this, 0}; }
     Iterator end() const { return {*this, count()}; }
-    qsizetype count() const { return listedInBlock() + (m_others ? qsizetype(m_others->size()) : 0); }
+    qsizetype count() const { return countInBlock() + (m_others ? qsizetype(m_others->size()) : 0); }
     DesignerProperty *at(qsizetype index) const
     {
-        const qsizetype inBlock = listedInBlock();
+        const qsizetype inBlock = countInBlock();
         return index < inBlock ? m_block->at(index) : (*m_others)[size_t(index - inBlock)].data();
     }
     SharedProperty shared(qsizetype index) const;
@@ -54,7 +54,7 @@ public:
     void leaveParent();
 
 private:
-    qsizetype listedInBlock() const { return m_block ? m_block->count() : 0; }
+    qsizetype countInBlock() const { return m_block ? m_block->count() : 0; }
 
     QSharedPointer<PropertyBlock> m_block;
     std::unique_ptr<std::vector<SharedProperty>> m_others; //!< null for none

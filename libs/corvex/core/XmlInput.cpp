@@ -27,14 +27,14 @@ bool XmlInput::parse()
     }
     XmlTokenizer tokenizer(m_device);
     if (m_device->isSequential() || m_device->size() <= XmlTokenizer::chunkSize) {
-        parseHere(tokenizer);
+        parseInThisThread(tokenizer);
     } else {
-        parseBeside(tokenizer);
+        parseInTwoThreads(tokenizer);
     }
     return m_error.isEmpty();
 }
 
-void XmlInput::parseHere(XmlTokenizer &tokenizer)
+void XmlInput::parseInThisThread(XmlTokenizer &tokenizer)
 {
     XmlTokens tokens;
     bool hasMore = true;
@@ -44,7 +44,7 @@ void XmlInput::parseHere(XmlTokenizer &tokenizer)
     }
 }
 
-void XmlInput::parseBeside(XmlTokenizer &tokenizer)
+void XmlInput::parseInTwoThreads(XmlTokenizer &tokenizer)
 {
     XmlTokenQueue queue;
     const std::unique_ptr<QThread> reader(QThread::create([&tokenizer, &queue] {
@@ -55,9 +55,9 @@ void XmlInput::parseBeside(XmlTokenizer &tokenizer)
         }
     }));
     reader->start();
-    // A thread that is through with a small file by now does not run either.
+    // A thread that has finished already does not run either. If none could start, this one reads.
     if (!reader->isRunning() && !reader->isFinished()) {
-        parseHere(tokenizer);
+        parseInThisThread(tokenizer);
         return;
     }
     while (const XmlTokens *tokens = queue.beginWalking()) {

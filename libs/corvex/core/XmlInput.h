@@ -32,8 +32,8 @@ public:
     XmlPlace place() const { return m_place; }
 
 private:
-    void parseHere(XmlTokenizer &tokenizer);
-    void parseBeside(XmlTokenizer &tokenizer);
+    void parseInThisThread(XmlTokenizer &tokenizer);
+    void parseInTwoThreads(XmlTokenizer &tokenizer);
     bool deliver(const XmlTokens &tokens);
     void tell(const XmlTokens &tokens, const XmlTokens::Token &token);
 

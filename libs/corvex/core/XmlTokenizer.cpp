@@ -165,7 +165,8 @@ XmlTokenizer::Outcome XmlTokenizer::takeText()
     if (!isInside) {
         m_tokenPlace = placeInToken(m_next);
         m_token = m_next;
-        return m_hasRoot ? malformed("junk after document element"_L1, m_next) : fail(u"This is no XML."_s);
+        return m_hasRoot ? malformed("something follows the end of the root element"_L1, m_next)
+                         : fail(u"This is no XML."_s);
     }
     const XmlPlace firstWord = placeOfNext();
     // What came before a character that is not complete is a piece of its own.
@@ -205,7 +206,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeTextCharacter()
     }
     const QByteArrayView rest = between(m_next, std::min(m_next + 3, m_end));
     if (rest == "]]>") {
-        return malformed("not well-formed (invalid token)"_L1, m_next + 2);
+        return misplaced(m_next + 2);
     }
     if (QByteArrayView("]]>").startsWith(rest) && !m_isLast) {
         return Outcome::Incomplete;
@@ -246,7 +247,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeStartTag()
         return outcome;
     }
     if (m_nameStarts.empty() && m_hasRoot) {
-        return malformed("junk after document element"_L1, m_token);
+        return malformed("something follows the end of the root element"_L1, m_token);
     }
     m_hasRoot = true;
     m_hasText = false;
@@ -315,13 +316,13 @@ XmlTokenizer::Outcome XmlTokenizer::checkAttributes(quint32 first)
         }
         for (size_t j = 0; j < i && attributes.size() <= few; ++j) {
             if (attributes[i].name == attributes[j].name) {
-                return malformed("duplicate attribute"_L1, attributes[i].name.data());
+                return malformed("an attribute is here twice"_L1, attributes[i].name.data());
             }
         }
     }
     std::sort(sorted.begin(), sorted.end());
     if (const auto twice = std::adjacent_find(sorted.begin(), sorted.end()); twice != sorted.end()) {
-        return malformed("duplicate attribute"_L1, std::max(twice[0].data(), twice[1].data()));
+        return malformed("an attribute is here twice"_L1, std::max(twice[0].data(), twice[1].data()));
     }
     for (XmlAttribute &attribute : attributes) {
         attribute.value = decoded(attribute.value, Content::Value);
@@ -346,7 +347,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeEndTag()
     }
     const size_t start = m_nameStarts.back();
     if (name != QByteArrayView(m_names.data() + start, qsizetype(m_names.size() - start))) {
-        return malformed("mismatched tag"_L1, name.data());
+        return malformed("the end tag does not match the start tag"_L1, name.data());
     }
     ++m_next;
     m_names.resize(start);
@@ -405,6 +406,11 @@ XmlTokenizer::Outcome XmlTokenizer::malformed(QLatin1StringView what, const char
     return fail(u"This is no well-formed XML: %1."_s.arg(what));
 }
 
+XmlTokenizer::Outcome XmlTokenizer::misplaced(const char *character)
+{
+    return malformed("a character does not belong here"_L1, character);
+}
+
 XmlTokenizer::Outcome XmlTokenizer::unexpected()
 {
     if (m_next >= m_end) {
@@ -412,7 +418,7 @@ XmlTokenizer::Outcome XmlTokenizer::unexpected()
     }
     const char *at = m_next;
     const Outcome outcome = isAscii(*m_next) ? Outcome::Done : takeOther();
-    return outcome == Outcome::Done ? malformed("not well-formed (invalid token)"_L1, at) : outcome;
+    return outcome == Outcome::Done ? misplaced(at) : outcome;
 }
 
 QString XmlTokenizer::excerpt(QByteArrayView utf8)

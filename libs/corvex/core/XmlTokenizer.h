@@ -11,9 +11,8 @@ namespace Halvane::Corvex::Designer {
 /*! Takes XML from a device apart, chunk by chunk and in place: what it finds are pointers into the bytes that
     were read.
 
-    It is the guard at the door: what is not UTF-8, document types and entities, and values of more than 16 MB
-    are an error in the words of someone who opened a file. What is well-formed and what is not, it holds by
-    the letter of XML 1.0.
+    It refuses whatever is not UTF-8, document types and entities, values of more than 16 MB, and whatever XML
+    1.0 calls not well-formed. Its messages are for the person who opened the file.
 */
 class XmlTokenizer
 {
@@ -76,6 +75,7 @@ private:
     XmlPlace placeInToken(const char *at) const;
     Outcome fail(const QString &message);
     Outcome malformed(QLatin1StringView what, const char *at);
+    Outcome misplaced(const char *character);
     //! What is at m_next does not belong there; where the bytes end, more of them may tell.
     Outcome unexpected();
 

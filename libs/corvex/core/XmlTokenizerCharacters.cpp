@@ -38,7 +38,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeName(QByteArrayView *name)
             return outcome;
         }
         if (!isNameCharacter(characterAt(character), character == begin)) {
-            return malformed("not well-formed (invalid token)"_L1, character);
+            return misplaced(character);
         }
     }
     *name = between(begin, m_next);
@@ -61,7 +61,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeOther()
         return Outcome::Incomplete;
     }
     if (length == NoCharacter) {
-        return malformed("not well-formed (invalid token)"_L1, m_next);
+        return misplaced(m_next);
     }
     m_tokenPlace = placeInToken(m_next);
     return fail(u"The bytes here are not UTF-8, the one encoding that is read."_s);
@@ -87,9 +87,9 @@ XmlTokenizer::Outcome XmlTokenizer::takeReference()
     }
     const bool isWord =
         name.startsWith('#') ? character != noNumber : !name.isEmpty() && is(name.front(), NameStart);
-    return !isWord                ? malformed("not well-formed (invalid token)"_L1, begin + 1)
-           : name.startsWith('#') ? malformed("reference to invalid character number"_L1, begin)
-                                  : malformed("undefined entity"_L1, begin);
+    return !isWord                ? misplaced(begin + 1)
+           : name.startsWith('#') ? malformed("this is not the number of a character"_L1, begin)
+                                  : malformed("this entity is not defined"_L1, begin);
 }
 
 //! Behind the next \a end, with what comes before it, which has to consist of characters.

@@ -80,12 +80,11 @@ XmlTokenizer::Outcome XmlTokenizer::takeInstruction()
         return outcome;
     }
     if (name == "xml") {
-        return m_isDeclarationPossible
-                   ? takeDeclaration()
-                   : malformed("XML or text declaration not at start of entity"_L1, m_token);
+        return m_isDeclarationPossible ? takeDeclaration()
+                                       : malformed("the XML declaration must come first"_L1, m_token);
     }
     if (name.compare("xml", Qt::CaseInsensitive) == 0) {
-        return malformed("not well-formed (invalid token)"_L1, name.data());
+        return misplaced(name.data());
     }
     if (!is(*m_next, Blank) && *m_next != '?') {
         return unexpected();
@@ -97,7 +96,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeInstruction()
         return outcome;
     }
     if (!hasContent && !content.isEmpty()) {
-        return malformed("not well-formed (invalid token)"_L1, content.data());
+        return misplaced(content.data());
     }
     add(XmlTokens::Instruction, {});
     return Outcome::Done;
@@ -106,7 +105,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeInstruction()
 XmlTokenizer::Outcome XmlTokenizer::takeDeclaration()
 {
     static constexpr QByteArrayView names[] = {"version", "encoding", "standalone"};
-    constexpr auto what = "XML declaration not well-formed"_L1;
+    constexpr auto what = "the XML declaration is wrong"_L1;
     size_t expected = 0;
     while (*m_next != '?') {
         QByteArrayView name;
@@ -159,7 +158,7 @@ XmlTokenizer::Outcome XmlTokenizer::takePseudoAttribute(QByteArrayView *name, QB
     const bool isWord = !value->isEmpty() && std::all_of(value->begin(), value->end(), [](char c) {
         return is(c, NameCharacter);
     });
-    return isWord ? Outcome::Done : malformed("XML declaration not well-formed"_L1, value->data());
+    return isWord ? Outcome::Done : malformed("the XML declaration is wrong"_L1, value->data());
 }
 
 } // namespace Halvane::Corvex::Designer

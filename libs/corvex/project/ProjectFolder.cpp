@@ -53,7 +53,7 @@ bool ProjectFolder::lock(const QString &path, Kind kind, int milliseconds, QStri
     if (!m_lock.take(folder, isInterrupted ? Kind::Exclusive : kind, milliseconds)) {
         return failToLock(error, folder);
     }
-    if (isInterrupted && !end(folder, error)) {
+    if (isInterrupted && !endInterrupted(folder, error)) {
         m_lock.release();
         return false;
     }
@@ -72,12 +72,12 @@ bool ProjectFolder::recover(const QString &path, QString *error)
     if (m_lock.kind() != Kind::None || !FileTransaction::isOpen(folder)) {
         return true;
     }
-    const bool isEnded = !m_lock.take(folder, Kind::Exclusive) || end(folder, error);
+    const bool isEnded = !m_lock.take(folder, Kind::Exclusive) || endInterrupted(folder, error);
     m_lock.release();
     return isEnded;
 }
 
-bool ProjectFolder::end(const QString &folder, QString *error)
+bool ProjectFolder::endInterrupted(const QString &folder, QString *error)
 {
     m_note.clear();
     switch (FileTransaction::recover(folder)) {

@@ -52,7 +52,8 @@ public:
     void close();
 
 private:
-    bool end(const QString &folder, QString *error);
+    //! Finishes or takes back, by its journal, what a killed program left behind.
+    bool endInterrupted(const QString &folder, QString *error);
     bool lockToSave(const QString &folder, QString *error);
     void unlockSaved();
     bool commit(const QString &file, QString *error);

@@ -70,8 +70,8 @@ void announceScreen(const DesignerObject *port, const Screen &screen)
     }
 }
 
-/*! A serial port comes with the address map of its variable, which has to know for which screen. It is that
-   of one screen at a time, and screens are written in several threads. */
+/*! The code of a serial port contains the address map of its variable, which is told the screen before. So
+   only one of the threads that write screens may do this at a time. */
 QString portToQml(const DesignerObject *port, const Screen &screen, int indent)
 {
     static std::mutex mutex;

@@ -12,30 +12,30 @@ using namespace Qt::StringLiterals;
 IdentifierInfo::IdentifierInfo(const QString &name, const QString &scopeType, const QString &filterType)
     : m_name(name)
 {
-    setKind(scopeType, filterType);
+    setCommon(scopeType, filterType);
 }
 
-const IdentifierInfo::Kind &IdentifierInfo::kind() const
+const IdentifierInfo::ScopeAndClass &IdentifierInfo::common() const
 {
-    static const Kind none;
-    return m_kind ? *m_kind : none;
+    static const ScopeAndClass none;
+    return m_common ? *m_common : none;
 }
 
-void IdentifierInfo::setKind(const QString &scopeType, const QString &filterType)
+void IdentifierInfo::setCommon(const QString &scopeType, const QString &filterType)
 {
     // Those that came last, which are nearly all that there are.
-    static thread_local std::array<QExplicitlySharedDataPointer<Kind>, 64> known;
+    static thread_local std::array<QExplicitlySharedDataPointer<ScopeAndClass>, 64> known;
     if (scopeType.isEmpty() && filterType.isEmpty()) {
-        m_kind.reset();
+        m_common.reset();
         return;
     }
-    auto &kind = known[qHash(filterType, qHash(scopeType)) % known.size()];
-    if (!kind || kind->scopeType != scopeType || kind->filterType != filterType) {
-        kind = new Kind;
-        kind->scopeType = scopeType;
-        kind->filterType = filterType;
+    auto &entry = known[qHash(filterType, qHash(scopeType)) % known.size()];
+    if (!entry || entry->scopeType != scopeType || entry->filterType != filterType) {
+        entry = new ScopeAndClass;
+        entry->scopeType = scopeType;
+        entry->filterType = filterType;
     }
-    m_kind = kind;
+    m_common = entry;
 }
 
 IdentifierInfo::IdentifierInfo(const QString &text, bool *ok)
@@ -69,9 +69,9 @@ IdentifierInfo IdentifierInfo::fromText(QStringView text, const IdentifierInfo &
     }
     const bool isLike = scopeType == like.scopeType() && filterType == like.filterType();
     if (isLike) {
-        identifier.m_kind = like.m_kind;
+        identifier.m_common = like.m_common;
     } else {
-        identifier.setKind(scopeType, filterType);
+        identifier.setCommon(scopeType, filterType);
     }
     return identifier;
 }

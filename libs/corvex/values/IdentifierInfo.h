@@ -23,12 +23,12 @@ public:
     //! The same; a scope and a class that are those of \a like share its texts.
     static IdentifierInfo fromText(QStringView text, const IdentifierInfo &like, bool *ok);
 
-    const QString &scopeType() const { return kind().scopeType; }
-    void setScopeType(const QString &scopeType) { setKind(scopeType, filterType()); }
+    const QString &scopeType() const { return common().scopeType; }
+    void setScopeType(const QString &scopeType) { setCommon(scopeType, filterType()); }
     const QString &name() const { return m_name; }
     void setName(const QString &name) { m_name = name; }
-    const QString &filterType() const { return kind().filterType; }
-    void setFilterType(const QString &filterType) { setKind(scopeType(), filterType); }
+    const QString &filterType() const { return common().filterType; }
+    void setFilterType(const QString &filterType) { setCommon(scopeType(), filterType); }
 
     //! The fields that are not empty; the text of an identifier without a name is not one that can be read.
     QString toString() const;
@@ -48,23 +48,24 @@ public:
     friend bool operator==(const IdentifierInfo &left, const IdentifierInfo &right)
     {
         return left.m_name == right.m_name
-               && (left.m_kind == right.m_kind
+               && (left.m_common == right.m_common
                    || (left.scopeType() == right.scopeType() && left.filterType() == right.filterType()));
     }
 
 private:
     //! What the identifiers of a class have in common. A project has thousands of each.
-    struct Kind : public QSharedData
+    struct ScopeAndClass : public QSharedData
     {
         QString scopeType;
         QString filterType;
     };
 
-    const Kind &kind() const;
-    void setKind(const QString &scopeType, const QString &filterType);
+    const ScopeAndClass &common() const;
+    void setCommon(const QString &scopeType, const QString &filterType);
 
     QString m_name;
-    QExplicitlySharedDataPointer<Kind> m_kind; //!< never changed; null for one without scope and class
+    QExplicitlySharedDataPointer<ScopeAndClass>
+        m_common; //!< never changed; null for one without scope and class
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -134,7 +134,7 @@ TEST_F(EditVerb, oneBadLineAndNothingIsDone)
          "The file of the image is missing."},
         {"set Main.title.id x", "Names are given by rename, which takes all references along."},
         {"rename Main.title", "The form of this edit is: rename PATH NAME"},
-        {"rename Main.title box1", "The name is not unique. \"Main.box1\" is called so, a Rectangle."},
+        {"rename Main.title box1", "The name is not unique. \"Main.box1\" (Rectangle) has this name."},
         {"rename speed s",
          "The name is in the wrong format. Only letters, numbers and underscore are allowed. "
          "The first character must be a letter. It has at least 2 characters."},

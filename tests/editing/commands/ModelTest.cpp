@@ -221,7 +221,7 @@ UndoCommand *ModelTest::valueCommand()
     all.removeIf([object](const DesignerObject *other) {
         return other->className() != object->className() || other->screen() != object->screen();
     });
-    const QList<SharedProperty> properties = object->properties();
+    const QList<SharedProperty> properties = object->properties().toList();
     const SharedProperty property = random.oneOf(properties);
     if (property->isList() || property->isObject() || property->id() == "id"_L1
         || property->id() == "indexes"_L1) {
