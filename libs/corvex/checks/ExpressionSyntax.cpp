@@ -9,6 +9,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <mutex>
 
 namespace Halvane::Corvex::Designer {
 
@@ -64,10 +65,18 @@ ExpressionSyntax::Result judgeNestingOfLines(QStringView document)
     return {};
 }
 
+//! The first engine of a program makes what all have in common, and looks at no lock for it.
+std::unique_ptr<QQmlEngine> makeEngine()
+{
+    static std::mutex mutex;
+    const std::lock_guard lock(mutex);
+    return std::make_unique<QQmlEngine>();
+}
+
 } // namespace
 
 ExpressionSyntax::ExpressionSyntax()
-    : m_engine(std::make_unique<QQmlEngine>())
+    : m_engine(makeEngine())
 {
     m_engine->setOutputWarningsToStandardError(false);
 }
