@@ -33,8 +33,15 @@ class Step : public UndoCommand
 public:
     using UndoCommand::UndoCommand;
 
-    void undo() override { --done; }
-    void redo() override { ++done; }
+    void undo() override { count(-1); }
+    void redo() override { count(1); }
+    void count(int by)
+    {
+        done += by;
+        if (total) {
+            *total += by;
+        }
+    }
     DesignerObject *deletionCandidate() const override { return candidate; }
     DesignerObject *activeItem() const override { return active; }
     Deletion deletion() const override { return kind; }
@@ -43,6 +50,7 @@ public:
     DesignerObject *active = nullptr;
     Deletion kind = Deletion::None;
     int done = 0;
+    int *total = nullptr; //!< of commands that may be gone when it is looked at
 };
 
 //! A command that fails when the test wants it.
@@ -79,11 +87,36 @@ TEST(UndoStackTest, WhatCannotBeDoneIsDroppedWithWhatWasBuiltUponIt)
     stack.setIndex(0);
     fallible->fails = true;
     const QSignalSpy canRedo(&stack, &UndoStack::canRedoChanged);
-    stack.setIndex(3);
+    stack.setIndex(1);
+    stack.redo();
     EXPECT_EQ(first->done, 1);
     EXPECT_EQ(stack.count(), 1);
     EXPECT_EQ(stack.index(), 1);
-    EXPECT_EQ(canRedo.size(), 1);
+    EXPECT_FALSE(canRedo.constLast().constFirst().toBool());
+}
+
+TEST(UndoStackTest, AMacroThatFailsIsTakenBackAsAWhole)
+{
+    UndoStack stack;
+    auto *before = new Step;
+    auto *fallible = new Fallible;
+    fallible->fails = false;
+    auto *after = new Step;
+    int done = 0;
+    before->total = after->total = &done;
+    stack.push(new Step);
+    stack.beginMacro(u"m"_s);
+    EXPECT_TRUE(stack.push(before) && stack.push(fallible) && stack.push(after));
+    stack.endMacro();
+    stack.push(new Step);
+    stack.setIndex(1);
+    fallible->fails = true;
+    stack.redo();
+    EXPECT_EQ(done, 0);
+    EXPECT_EQ(stack.errorString(), u"The disk is full."_s);
+    EXPECT_EQ(stack.count(), 1);
+    EXPECT_EQ(stack.index(), 1);
+    EXPECT_FALSE(stack.canRedo());
 }
 
 TEST(UndoStackTest, NoMoveAsksACommandThatIsGone)

@@ -42,7 +42,8 @@ public:
     void undo() override;
     void redo() override;
     /*! Does the command before a stack takes it over, so that one that fails costs no redo steps. The redo()
-       that follows does nothing then. A composite starts its children in turn. */
+       that follows does nothing then. A composite starts its children in turn; a composite with a redo() of
+       its own overrides this, too. */
     virtual Start start();
     // Slots of id() and mergeWith() are those of QUndoCommand.
     //! The objects to select on the canvas, each once.

@@ -6,6 +6,19 @@
 
 namespace Halvane::Corvex::Designer {
 
+namespace {
+
+bool holds(const QUndoCommand *command, const QUndoCommand *sought)
+{
+    bool isHere = command == sought;
+    for (int i = 0; i < command->childCount() && !isHere; ++i) {
+        isHere = holds(command->child(i), sought);
+    }
+    return isHere;
+}
+
+} // namespace
+
 UndoStack::UndoStack(QObject *parent)
     : QUndoStack(parent)
 {
@@ -53,6 +66,16 @@ void UndoStack::setIndex(int index)
     m_errorString.clear();
     const int before = this->index();
     QUndoStack::setIndex(index);
+    if (QUndoCommand *macro = std::exchange(m_failedMacro, nullptr)) {
+        // One of its commands failed, and Qt has done all others.
+        macro->undo();
+        macro->setObsolete(true);
+        QUndoStack::undo();
+    }
+    while (m_hasFailed && canRedo()) {
+        // QUndoStack deletes what is obsolete in place of doing it.
+        QUndoStack::setIndex(this->index() + 1);
+    }
     if (m_hasFailed && this->index() == before) {
         // QUndoStack emits these only when the index moves.
         emit canRedoChanged(canRedo());
@@ -65,12 +88,16 @@ void UndoStack::commandFailed(const UndoCommand *command)
     m_hasFailed = true;
     m_errorString = command->errorString();
     int place = index();
-    while (place < count() && this->command(place) != command) {
+    while (place < count() && !holds(this->command(place), command)) {
         ++place;
     }
-    // QUndoStack deletes what is obsolete in place of doing it.
+    // The stack owns its commands; QUndoStack shows them to be read only.
+    const auto at = [this](int i) { return const_cast<QUndoCommand *>(this->command(i)); };
+    if (place < count() && at(place) != command) {
+        m_failedMacro = at(place);
+    }
     for (++place; place < count(); ++place) {
-        const_cast<QUndoCommand *>(this->command(place))->setObsolete(true);
+        at(place)->setObsolete(true);
     }
 }
 

@@ -32,7 +32,7 @@ public:
     //! Why the last command could not be done, for the user; empty when nobody knows.
     const QString &errorString() const { return m_errorString; }
     /*! As QUndoStack does, but when a command cannot be done again, it and all that follow are dropped: they
-       were built upon it. */
+       were built upon it. A macro that holds the command is taken back as a whole. */
     void redo();
     void setIndex(int index);
     //! Begins a new history: what could be undone is forgotten, and what is now counts as saved.
@@ -72,6 +72,7 @@ private:
 
     QList<QPointer<DesignerObject>> m_deletionCandidates;
     const UndoCommand *m_lastPushed = nullptr; //!< null once it is deleted
+    QUndoCommand *m_failedMacro = nullptr;     //!< while the index moves
     QString m_errorString;
     QPointer<DesignerObject> m_activeItem;
     int m_previousIndex = 0;
