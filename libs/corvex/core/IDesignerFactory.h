@@ -23,7 +23,8 @@ class IDesignerFactory
 public:
     virtual ~IDesignerFactory() = default;
 
-    //! A new object that is not initialised yet; null for a name that is not in creatableNames().
+    //! A new object that is not initialised yet; null for a name that is not in creatableNames(). Checks and
+    //! builds call it in several threads at once.
     virtual DesignerObject *createObject(const QString &className, QObject *parent) = 0;
     virtual GraphicsItem *createGraphicsItem(const QString &className, DesignerObject *object) = 0;
     virtual PropertyEditor *createEditor(const QString &editorName, QWidget *parent) = 0;

@@ -183,9 +183,12 @@ void ObjectBuilder::openInProperties(Frame &frame, QByteArrayView name,
 //! Nearly all of a file is properties with nothing in them.
 void ObjectBuilder::emptyElement(QByteArrayView name, std::span<const XmlAttribute> attributes)
 {
-    if (m_frames.isEmpty() || m_frames.constLast().context != Context::Properties) {
+    if (m_frames.isEmpty() || m_frames.constLast().context != Context::Properties
+        || m_frames.size() >= XmlLimits::deepestNesting) {
         startElement(name, attributes);
-        endElement(name);
+        if (m_input.errorString().isEmpty()) {
+            endElement(name);
+        }
         return;
     }
     Frame &frame = m_frames.last();

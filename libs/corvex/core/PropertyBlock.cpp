@@ -21,8 +21,9 @@ SharedProperty PropertyBlock::make(const QSharedPointer<PropertyBlock> &block, c
     if (!block || !row.m_builder || taken + sizeFor(row) > block->m_end * unit) {
         return {};
     }
+    // Not every class begins with its part that is a DesignerProperty.
     DesignerProperty *property = row.m_builder(block->begin() + block->m_used * unit, *row.m_prototype);
-    property->m_blockDistance = block->m_used;
+    property->m_blockDistance = Distance((reinterpret_cast<char *>(property) - block->begin()) / unit);
     block->m_used += Distance(units(row.m_size));
     ++block->m_made;
     block->distances()[-block->m_made] = property->m_blockDistance;

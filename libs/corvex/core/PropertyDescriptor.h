@@ -14,6 +14,8 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class DesignerProperty;
 
+// Checks and builds call these in several threads at once, each for other objects: they only read the
+// project.
 //! Judges the value that a property holds; writes the reason into \a error when it returns false.
 using ValueValidator = bool (*)(const DesignerProperty *property, QString &error);
 //! Judges an object that is about to enter or to leave a list property.

@@ -61,7 +61,17 @@ public:
     {
         return index >= 0 && index < size() ? at(index) : SharedProperty();
     }
+    SharedProperty operator[](qsizetype index) const { return at(index); }
+    SharedProperty first() const { return at(0); }
+    SharedProperty last() const { return at(size() - 1); }
+    qsizetype count() const { return size(); }
+    bool isEmpty() const { return size() == 0; }
+    bool contains(const SharedProperty &property) const { return indexOf(property) >= 0; }
+    //! -1 when it is not one of them.
+    qsizetype indexOf(const SharedProperty &property) const;
+    //! For those who keep them all: they live on when the object is gone.
     QList<SharedProperty> toList() const { return {begin(), end()}; }
+    operator QList<SharedProperty>() const { return toList(); }
 
 private:
     const PropertyStore *m_store;

@@ -117,6 +117,15 @@ qsizetype PropertyRange::size() const
     return m_store->count();
 }
 
+qsizetype PropertyRange::indexOf(const SharedProperty &property) const
+{
+    qsizetype index = m_store->count() - 1;
+    while (index >= 0 && m_store->at(index) != property.data()) {
+        --index;
+    }
+    return index;
+}
+
 SharedProperty PropertyRange::at(qsizetype index) const
 {
     return m_store->shared(index);

@@ -160,18 +160,18 @@ PropertyTable::PropertyTable(std::initializer_list<PropertyRow> rows)
 const std::vector<qsizetype> &PropertyTable::placesAmong(const PropertyStore &properties) const
 {
     const qsizetype count = properties.count();
-    if (m_placedAmong != count) {
-        m_placedAmong = count;
-        m_places.clear();
+    const std::lock_guard lock(m_mutex);
+    std::vector<qsizetype> &places = m_places[count];
+    if (places.size() < m_rows.size()) {
         for (const PropertyRow &row : m_rows) {
             qsizetype place = 0;
             while (place < count && properties.at(place)->id() != row.id()) {
                 ++place;
             }
-            m_places.push_back(place < count ? place : -1);
+            places.push_back(place < count ? place : -1);
         }
     }
-    return m_places;
+    return places;
 }
 
 bool PropertyTable::describeAnew(const PropertyRow &row, DesignerProperty &property) const

@@ -4,6 +4,8 @@
 #include "corvex/core/DesignerProperty.h"
 
 #include <initializer_list>
+#include <map>
+#include <mutex>
 #include <new>
 #include <vector>
 
@@ -113,8 +115,8 @@ private:
     bool describeAnew(const PropertyRow &row, DesignerProperty &property) const;
 
     std::vector<PropertyRow> m_rows;
-    mutable std::vector<qsizetype> m_places;
-    mutable qsizetype m_placedAmong = -1;
+    mutable std::mutex m_mutex;                                   //!< objects are made in several threads
+    mutable std::map<qsizetype, std::vector<qsizetype>> m_places; //!< by the number of properties before
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -40,7 +40,7 @@ bool ConfigurationContainer::initializeProperties()
     if (!DirectoryObject::initializeProperties() || !addProperties(table)) {
         return false;
     }
-    m_configurations = properties().at(properties().size() - 1);
+    m_configurations = properties().last();
     return true;
 }
 

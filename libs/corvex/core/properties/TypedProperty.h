@@ -144,8 +144,10 @@ private:
         const bool isKnown = known.text.constData() == text.constData() && known.text.size() == text.size();
         if (ReadsBesideCurrent<Value> || text.isEmpty() || !isKnown) {
             known.value = parseAnew(text);
-            // A text without a capacity lies in memory of somebody else, where it may change.
-            known.text = text.capacity() > 0 ? text : QString();
+            // A text without a capacity lies in memory of somebody else, where it may change. Long ones would
+            // stay in memory for nothing.
+            constexpr qsizetype longest = 512;
+            known.text = text.capacity() > 0 && text.size() <= longest ? text : QString();
         }
         return known.value;
     }
