@@ -20,7 +20,6 @@
 
 #include <atomic>
 #include <future>
-#include <map>
 #include <memory>
 #include <vector>
 
@@ -36,12 +35,32 @@ using Common::LocalizationHelper;
 constexpr int compressionLevel = 10;
 const QString packedName = u"Project.kdproj"_s;
 
-//! By these other processes see which build folders are in use, whatever became of their generators.
-std::map<QString, std::unique_ptr<Common::FolderLock>> &buildFolderLocks()
+/*! By these other processes see which build folders are in use, whatever became of their generators: those of
+   the last builds, since each lock keeps a file open. */
+class BuildFolderLocks
 {
-    static std::map<QString, std::unique_ptr<Common::FolderLock>> locks;
-    return locks;
-}
+public:
+    static BuildFolderLocks &instance()
+    {
+        static BuildFolderLocks locks;
+        return locks;
+    }
+    void add(const QString &folder, std::unique_ptr<Common::FolderLock> lock)
+    {
+        constexpr size_t most = 64;
+        if (m_locks.size() == most) {
+            m_locks.erase(m_locks.begin());
+        }
+        m_locks.emplace_back(folder, std::move(lock));
+    }
+    void remove(const QString &folder)
+    {
+        std::erase_if(m_locks, [&folder](const auto &entry) { return entry.first == folder; });
+    }
+
+private:
+    std::vector<std::pair<QString, std::unique_ptr<Common::FolderLock>>> m_locks;
+};
 
 QByteArray withWindowsLineEnds(QByteArrayView text)
 {
@@ -81,7 +100,7 @@ void RuntimeGenerator::removeBuildFolder()
 {
     if (!m_buildFolder.isEmpty()) {
         Common::FileHelper::removeDirectory(m_buildFolder);
-        buildFolderLocks().erase(m_buildFolder);
+        BuildFolderLocks::instance().remove(m_buildFolder);
         m_buildFolder.clear();
     }
 }
@@ -118,7 +137,7 @@ bool RuntimeGenerator::makeBuildFolder()
         Common::FileHelper::removeDirectory(folder);
         return fail(error);
     }
-    buildFolderLocks().emplace(folder, std::move(lock));
+    BuildFolderLocks::instance().add(folder, std::move(lock));
     m_buildFolder = folder;
     return true;
 }
