@@ -43,7 +43,7 @@ void CodeCheck::look(const DesignerProperty &property)
     }
     const QString qml = property.toQml(0);
     if (!qml.isEmpty() && (isPlain || !isPlainQml(qml))) {
-        m_uses.append({&property, numberOf(qmlShape(qml))});
+        m_uses.append({&property, numberOf(qmlShape(qml)), isPlain});
     }
 }
 
@@ -64,9 +64,12 @@ void CodeCheck::join(Check &later)
     for (const QString &shape : other.m_shapes) {
         numbers.append(numberOf(shape));
     }
-    for (const auto &[property, shape] : other.m_uses) {
-        m_uses.append({property, numbers.at(shape)});
+    for (const auto &[property, shape, isPlain] : other.m_uses) {
+        if (!isPlain || !m_plainNames.contains(property->id())) {
+            m_uses.append({property, numbers.at(shape), isPlain});
+        }
     }
+    m_plainNames += other.m_plainNames;
 }
 
 void CodeCheck::finish(const Project &)
@@ -77,7 +80,7 @@ void CodeCheck::finish(const Project &)
     }
     // Not each text of a wrong shape has to be wrong. Each is read for its own message.
     QHash<QString, QString> messages;
-    for (const auto &[property, shape] : std::as_const(m_uses)) {
+    for (const auto &[property, shape, isPlain] : std::as_const(m_uses)) {
         if (wrongShapes.contains(shape)) {
             messages.insert(property->toQml(0), QString());
         }
@@ -87,7 +90,7 @@ void CodeCheck::finish(const Project &)
     for (const auto &[text, message] : CodeReader::errors(texts).asKeyValueRange()) {
         messages.insert(texts.at(text), message);
     }
-    for (const auto &[property, shape] : std::as_const(m_uses)) {
+    for (const auto &[property, shape, isPlain] : std::as_const(m_uses)) {
         const auto message =
             wrongShapes.contains(shape) ? messages.constFind(property->toQml(0)) : messages.cend();
         if (message != messages.cend()) {

@@ -24,6 +24,7 @@ private:
     {
         const DesignerProperty *property;
         qsizetype shape;
+        bool isPlain; //!< looked at for its name alone
     };
 
     qsizetype numberOf(const QString &shape);

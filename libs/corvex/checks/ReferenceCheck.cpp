@@ -11,6 +11,7 @@
 #include "corvex/values/ObjectPath.h"
 
 #include <QSet>
+#include <QThread>
 
 #include <algorithm>
 
@@ -41,6 +42,7 @@ auto listOf(const DesignerProperty &property)
 
 ReferenceCheck::ReferenceCheck(const Project &project)
     : m_project(project)
+    , m_thread(QThread::currentThread())
 { }
 
 ReferenceCheck::~ReferenceCheck() = default;
@@ -187,6 +189,10 @@ const DesignerObject *ReferenceCheck::modelOf(const QString &className)
     std::unique_ptr<DesignerObject> &model = m_models[className];
     if (!model) {
         model.reset(DesignerFactory::instance()->createUnowned(className));
+        if (model) {
+            // It goes with the check, in the thread that made that, and not in the one that asks now.
+            model->moveToThread(m_thread);
+        }
     }
     return model.get();
 }

@@ -10,6 +10,8 @@
 #include <memory>
 #include <optional>
 
+class QThread;
+
 namespace Halvane::Corvex::Designer {
 
 class LinkProperty;
@@ -40,6 +42,7 @@ private:
     const DesignerObject *modelOf(const QString &className);
 
     const Project &m_project;
+    QThread *m_thread;
     std::optional<QMultiHash<QString, const Screen *>> m_screens; //!< by element, found when first asked for
     std::map<QString, std::unique_ptr<DesignerObject>> m_models;  //!< by class
 };
