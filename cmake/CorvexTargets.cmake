@@ -57,7 +57,6 @@ function(corvex_plugin name)
   file(RELATIVE_PATH up "/${CORVEX_PLUGIN_PATH}" "/${CMAKE_INSTALL_LIBDIR}")
   set_target_properties(${name} PROPERTIES
     LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${CORVEX_PLUGIN_PATH}"
-    BUILD_RPATH_USE_ORIGIN ON
     INSTALL_RPATH "$ORIGIN/${up}")
   install(TARGETS ${name} LIBRARY DESTINATION "${CORVEX_PLUGIN_PATH}")
 endfunction()

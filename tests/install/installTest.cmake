@@ -28,6 +28,15 @@ function(run what)
   set(output "${output}" PARENT_SCOPE)
 endfunction()
 
+# No program takes libraries from the current folder, which may be somebody else's.
+file(GLOB_RECURSE programs LIST_DIRECTORIES false "${build}/bin/*" "${build}/lib*/*.so*")
+foreach(program ${programs})
+  execute_process(COMMAND readelf -d "${program}" OUTPUT_VARIABLE output ERROR_QUIET)
+  if(output MATCHES "RUNPATH\\)[^[]*\\[(:|[^]]*::|[^]]*:\\])")
+    message(FATAL_ERROR "${program} looks for libraries in the current folder")
+  endif()
+endforeach()
+
 run("installing" "${CMAKE_COMMAND}" --install "${build}" --prefix "${work}/first")
 file(RENAME "${work}/first" "${prefix}")
 
