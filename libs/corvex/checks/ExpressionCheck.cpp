@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionCheck.h"
 
+#include "corvex/checks/FunctionCall.h"
 #include "corvex/checks/ValueType.h"
 #include "corvex/core/properties/GeneralDataListProperty.h"
 #include "corvex/editing/commands/ReferenceForm.h"
@@ -106,6 +107,26 @@ void ExpressionCheck::lookAtTerms(const DesignerProperty &property, const Genera
             report(property, ProblemCode::ExpressionFieldbus,
                    {term.value(), valueTypeName(ValueType::Fieldbus)});
         }
+    }
+    for (const FunctionCall &call : FunctionCall::of(terms)) {
+        lookAtCall(property, call);
+    }
+}
+
+void ExpressionCheck::lookAtCall(const DesignerProperty &property, const FunctionCall &call)
+{
+    if (!call.hasGoodCount()) {
+        report(property, ProblemCode::ExpressionArguments,
+               {call.name, call.wanted(), QString::number(call.argumentCount)});
+        return;
+    }
+    const bool isVariable = call.onlyFirst && call.onlyFirst->valueType() == GeneralDataInfo::VariableValue;
+    const DesignerObject *first =
+        isVariable ? m_project.variables()->getListItem(call.onlyFirst->value()) : nullptr;
+    // What is not there at all has a problem of its own.
+    const bool isMissing = isVariable && !first;
+    if (call.takesLog && !isMissing && !(first && first->isKindOfClass(u"LogVariable"_s))) {
+        report(property, ProblemCode::ExpressionLog, {call.name});
     }
 }
 

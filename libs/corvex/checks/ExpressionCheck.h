@@ -5,11 +5,12 @@
 
 namespace Halvane::Corvex::Designer {
 
+struct FunctionCall;
 class GeneralDataInfo;
 class GeneralDataList;
 
-//! Types of values in the expressions of screens: assignments, conditions, and names of variables that have
-//! no value.
+//! Types of values in the expressions of screens: assignments, conditions, what functions are called with,
+//! and names of variables that have no value.
 class ExpressionCheck : public PropertyCheck
 {
 public:
@@ -22,6 +23,7 @@ public:
 
 private:
     void lookAtTerms(const DesignerProperty &property, const GeneralDataList &terms);
+    void lookAtCall(const DesignerProperty &property, const FunctionCall &call);
     void lookAtAssignments(const DesignerProperty &property, const GeneralDataList &terms);
     void lookAtCondition(const DesignerProperty &property, const GeneralDataList &terms);
 

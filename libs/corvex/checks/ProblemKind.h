@@ -47,6 +47,8 @@ enum class ProblemCode {
     ExpressionType,
     ExpressionCondition,
     ExpressionFieldbus,
+    ExpressionArguments,
+    ExpressionLog,
     NumberUnreadable,
     ReferenceElement,
     ReferenceMissing,

@@ -418,7 +418,9 @@ TEST(CheckVerb, knowsTheDeviceAndTheFieldbuses)
                               box + Sandbox::value("pressed", "<0406speed><0407word><0406speed><0207MTI=>"))
             + Sandbox::object("Text", "shown",
                               Sandbox::value("visibleBinding", "0407word")
-                                  + Sandbox::value("xBinding", "0406map"))
+                                  + Sandbox::value("xBinding", "0406map")
+                                  + Sandbox::value("yBinding", "<0502getLogMax><0406speed><0101)>")
+                                  + Sandbox::value("rotationBinding", "<0502getValueAt><0101)>"))
             + Sandbox::object("Text", "compared",
                               Sandbox::value("visibleBinding", "<0101(><0407word><0101)><0101==><0207YQ==>")),
         variable("NumberVariable", "speed", "value", "1") + variable("StringVariable", "word", "value", "a")
@@ -453,6 +455,8 @@ warning can.overlap oil.parameterMap
 warning modbus.type map.coilMap
 warning expression.type Main.button.pressed
 warning expression.fieldbus Main.shown.xBinding
+warning expression.log Main.shown.yBinding
+warning expression.arguments Main.shown.rotationBinding
 warning expression.condition Main.shown.visibleBinding
 warning log.unfed history.)"_s);
     EXPECT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 1);
