@@ -11,6 +11,8 @@
 #include "corvex/core/properties/IdentifierProperty.h"
 #include "corvex/core/properties/LinkProperty.h"
 
+#include <QSet>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -25,8 +27,18 @@ void DesignerObject::deleteChildren()
     if (ObjectView *view = std::exchange(d->view, nullptr)) {
         view->objectGone();
     }
+    QSet<const QObject *> released;
     for (DesignerProperty *property : d->properties) {
-        qDeleteAll(property->releaseChildren());
+        for (const DesignerObject *child : property->releaseChildren()) {
+            released.insert(child);
+        }
+    }
+    // A QObject looks for each child that leaves it among all, and finds the one that came first at once.
+    const QObjectList all = released.isEmpty() ? QObjectList() : children();
+    for (QObject *child : all) {
+        if (released.contains(child)) {
+            delete child;
+        }
     }
 }
 
@@ -168,9 +180,10 @@ SharedProperty DesignerObject::idProperty() const
     return d->properties.shared(d->id);
 }
 
-QString DesignerObject::getIdName() const
+const QString &DesignerObject::getIdName() const
 {
-    return d->id ? static_cast<const IdentifierProperty &>(*d->id).value().name() : QString();
+    static const QString none;
+    return d->id ? static_cast<const IdentifierProperty &>(*d->id).value().name() : none;
 }
 
 IdentifierInfo DesignerObject::getIdInfo() const

@@ -118,7 +118,8 @@ public:
 
     // Identity.
     SharedProperty idProperty() const;
-    QString getIdName() const;
+    //! Valid until the object gets another name.
+    const QString &getIdName() const;
     bool setIdName(const QString &name);
     IdentifierInfo getIdInfo() const;
     bool setIdInfo(const IdentifierInfo &info);

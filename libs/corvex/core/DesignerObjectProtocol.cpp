@@ -78,7 +78,8 @@ DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &pr
         }
     }
     const QString oldValue = property->valueString();
-    const QString oldName = getIdName();
+    const bool isName = property == d->id;
+    const QString oldName = isName ? getIdName() : QString();
     if (!beforePropertyChanged(property.data(), newValue)) {
         if (isGuarded) {
             property->validate(); // The trial has judged the other value.
@@ -88,7 +89,6 @@ DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &pr
     if (!property->takeText(newValue)) {
         return ValueChange::Refused;
     }
-    const bool isName = property == d->id;
     const QString newName = isName ? getIdName() : QString();
     if (isName) {
         takeNewName(oldName);

@@ -66,6 +66,12 @@ QString PropertyRow::title(const char *utf8)
     return Common::LocalizationHelper::coreString(text(utf8));
 }
 
+SharedProperty PropertyRow::belongingTo(DesignerObject *parent, const SharedProperty &property)
+{
+    property->setParentObject(parent);
+    return property;
+}
+
 PropertyRow &PropertyRow::rank(int rank)
 {
     m_prototype->setRank(rank);
@@ -159,19 +165,27 @@ PropertyTable::PropertyTable(std::initializer_list<PropertyRow> rows)
 
 const std::vector<qsizetype> &PropertyTable::placesAmong(const PropertyStore &properties) const
 {
-    const qsizetype count = properties.count();
     const std::lock_guard lock(m_mutex);
-    std::vector<qsizetype> &places = m_places[count];
-    if (places.size() < m_rows.size()) {
-        for (const PropertyRow &row : m_rows) {
-            qsizetype place = 0;
-            while (place < count && properties.at(place)->id() != row.id()) {
-                ++place;
-            }
-            places.push_back(place < count ? place : -1);
+    const auto isSame = [&properties](const Places &known) {
+        bool same = known.ids.size() == properties.count();
+        for (qsizetype i = 0; i < known.ids.size() && same; ++i) {
+            const QString &id = properties.at(i)->id();
+            same = id.constData() == known.ids.at(i).constData() || id == known.ids.at(i);
         }
+        return same;
+    };
+    const auto found = std::ranges::find_if(m_places, isSame);
+    if (found != m_places.end()) {
+        return found->places;
     }
-    return places;
+    Places &places = m_places.emplace_back();
+    for (const DesignerProperty *property : properties) {
+        places.ids.append(property->id());
+    }
+    for (const PropertyRow &row : m_rows) {
+        places.places.push_back(places.ids.indexOf(row.id()));
+    }
+    return places.places;
 }
 
 bool PropertyTable::describeAnew(const PropertyRow &row, DesignerProperty &property) const

@@ -4,7 +4,7 @@
 #include "corvex/core/DesignerProperty.h"
 
 #include <initializer_list>
-#include <map>
+#include <list>
 #include <mutex>
 #include <new>
 #include <vector>
@@ -66,6 +66,7 @@ private:
     static QString text(const char *utf8);
     static QString title(const char *utf8);
     SharedProperty makeAlone(DesignerObject *parent) const { return m_maker(parent, *m_prototype); }
+    static SharedProperty belongingTo(DesignerObject *parent, const SharedProperty &property);
 
     SharedProperty m_prototype;
     Maker m_maker;
@@ -76,7 +77,7 @@ private:
 
 /*! A row for a property of the class \a Property, which starts with \a initialValue. Property has a protected
    or public constructor Property(DesignerObject *parent, const Property &prototype), as TypedProperty gives
-   it; the parent may be null there and known later. */
+   it. The parent is null there, and set afterwards. */
 template<class Property, class Value>
 PropertyRow row(const char *id, const char *title, const Value &initialValue)
 {
@@ -90,7 +91,8 @@ PropertyRow row(const char *id, const char *title, const Value &initialValue)
     return PropertyRow(
         SharedProperty(new Property(nullptr, PropertyRow::text(id), PropertyRow::title(title), initialValue)),
         [](DesignerObject *parent, const DesignerProperty &prototype) -> SharedProperty {
-            return QSharedPointer<Made>::create(parent, static_cast<const Property &>(prototype));
+            return PropertyRow::belongingTo(
+                parent, QSharedPointer<Made>::create(nullptr, static_cast<const Property &>(prototype)));
         },
         alignof(Made) > alignof(void *)
             ? PropertyRow::Builder(nullptr)
@@ -109,14 +111,20 @@ public:
 private:
     friend class DesignerObject;
 
-    /*! For each row the index of the one among \a properties that it describes anew; -1 for a row that makes
-        one. It is the same for all objects that use the table, and looked up once. */
+    //! Where rows find what they describe anew, for objects with these properties.
+    struct Places
+    {
+        QStringList ids;
+        std::vector<qsizetype> places; //!< for each row an index of ids; -1 for a row that makes a property
+    };
+
+    //! The same for all objects of a class, and looked up once.
     const std::vector<qsizetype> &placesAmong(const PropertyStore &properties) const;
     bool describeAnew(const PropertyRow &row, DesignerProperty &property) const;
 
     std::vector<PropertyRow> m_rows;
-    mutable std::mutex m_mutex;                                   //!< objects are made in several threads
-    mutable std::map<qsizetype, std::vector<qsizetype>> m_places; //!< by the number of properties before
+    mutable std::mutex m_mutex;         //!< objects are made in several threads
+    mutable std::list<Places> m_places; //!< never changed once they are there
 };
 
 } // namespace Halvane::Corvex::Designer
