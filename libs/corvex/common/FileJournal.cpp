@@ -3,6 +3,7 @@
 
 #include "corvex/common/FileHelper.h"
 #include "corvex/common/FileSync.h"
+#include "corvex/common/RegularFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,11 +55,15 @@ bool FileJournal::begin()
 
 void FileJournal::read()
 {
-    QFile file(privatePath(journalName));
-    if (!file.open(QIODevice::ReadOnly)) {
+    constexpr qint64 most = qint64(256) << 20;
+    QByteArray bytes;
+    QString error;
+    if (!RegularFile::read(privatePath(journalName), most, &bytes, &error, RegularFile::Links::Refuse)) {
         return;
     }
-    for (QByteArray line = file.readLine(); line.endsWith('\n'); line = file.readLine()) {
+    QList<QByteArray> lines = bytes.split('\n');
+    lines.removeLast(); // cut off, or empty
+    for (const QByteArray &line : std::as_const(lines)) {
         if (const QJsonObject entry = QJsonDocument::fromJson(line).object(); staysInside(entry)) {
             take(entry);
         }

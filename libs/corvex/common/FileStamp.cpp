@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QHash>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace Halvane::Corvex::Common {
@@ -12,9 +13,13 @@ FileStamp FileStamp::of(const QString &path)
 {
     constexpr qint64 blockSize = qint64(1) << 20;
     FileStamp stamp;
-    QFile file(path);
+    // Whoever opens a pipe would wait for its other end.
+    const int handle = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    QFile file;
     struct stat status = {};
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || fstat(file.handle(), &status) != 0) {
+    if (handle < 0
+        || !file.open(handle, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)
+        || fstat(handle, &status) != 0 || !S_ISREG(status.st_mode)) {
         return stamp;
     }
     stamp.m_device = status.st_dev;

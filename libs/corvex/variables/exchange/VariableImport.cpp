@@ -59,9 +59,13 @@ VariableImport::VariableImport(const QByteArray &csv, const DesignerObject &proj
 
 QString VariableImport::decode(const QByteArray &csv)
 {
-    QStringDecoder decoder(QStringDecoder::encodingForData(csv).value_or(QStringDecoder::Utf8));
+    const auto encoding = QStringDecoder::encodingForData(csv).value_or(QStringDecoder::Utf8);
+    QStringDecoder decoder(encoding);
     const QString text = decoder(csv);
-    if (decoder.hasError() || text.contains(QChar::Null)) {
+    if (encoding != QStringDecoder::Utf8 && csv.size() % 2 != 0) {
+        m_problems.append(
+            {int(text.count(u'\n')) + 1, u"The table ends within a character; it was cut off."_s});
+    } else if (decoder.hasError() || text.contains(QChar::Null)) {
         int line = 1;
         for (const QByteArray &bytes : csv.split('\n')) {
             if (!bytes.isValidUtf8() || bytes.contains('\0')) {
