@@ -62,7 +62,7 @@ DesignerProperty::DesignerProperty(DesignerObject *parent, const DesignerPropert
 DesignerProperty::~DesignerProperty()
 {
     if (!m_hasState) {
-        QSharedDataPointer<PropertyDescriptor>(m_descriptor, QAdoptSharedDataTag());
+        const QSharedDataPointer<PropertyDescriptor> released(m_descriptor, QAdoptSharedDataTag());
         return;
     }
     if (m_state->items) {
