@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/ObjectXmlWriter.h"
 
+#include "corvex/common/FileHelper.h"
 #include "corvex/core/DesignerObjectData.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/XmlLimits.h"
 
 #include <QDomDocument>
+#include <QFileDevice>
 #include <QIODevice>
 #include <QMap>
 #include <QSet>
@@ -152,7 +154,8 @@ void ObjectXmlWriter::flush()
 {
     const QByteArrayView bytes = m_buffer.bytes();
     if (m_error.isEmpty() && m_device->write(bytes.data(), bytes.size()) != bytes.size()) {
-        m_error = m_device->errorString();
+        const auto *file = qobject_cast<const QFileDevice *>(m_device);
+        m_error = file ? Common::FileHelper::writeError(*file) : m_device->errorString();
     }
     m_buffer.clear();
 }
