@@ -15,7 +15,7 @@ struct FunctionCall
     qsizetype most = 0;
     bool takesLog = false; //!< as its first argument
     qsizetype argumentCount = 0;
-    std::optional<GeneralDataInfo> onlyFirst; //!< the first argument, when that is a single term
+    std::optional<GeneralDataInfo> onlyFirst = {}; //!< the first argument, when that is a single term
 
     bool hasGoodCount() const { return argumentCount >= fewest && argumentCount <= most; }
     //! "2 arguments", "1 to 3 arguments". Translated.
