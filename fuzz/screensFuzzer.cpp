@@ -9,6 +9,7 @@
 #include "corvex/project/Screen.h"
 
 #include "FuzzSupport.h"
+#include "ScriptEngine.h"
 #include "support/CodeShape.h"
 
 #include <QGuiApplication>

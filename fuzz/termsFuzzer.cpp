@@ -7,6 +7,7 @@
 #include "corvex/values/StringInfo.h"
 
 #include "FuzzSupport.h"
+#include "ScriptEngine.h"
 #include "support/CodeShape.h"
 
 #include <QCoreApplication>
@@ -162,12 +163,6 @@ void checkBuilt(const std::uint8_t *data, std::size_t size)
 }
 
 } // namespace
-
-//! The leak checker does not see into the heap of the script engine.
-extern "C" const char *__asan_default_options()
-{
-    return "detect_leaks=0";
-}
 
 //! A term keeps its text, and the code of an operand is an expression.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)

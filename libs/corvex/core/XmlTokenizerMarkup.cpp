@@ -122,6 +122,9 @@ XmlTokenizer::Outcome XmlTokenizer::takeDeclaration()
         if (!isGood) {
             return malformed(what, name.data());
         }
+        if (known == 0 && value != "1.0") {
+            return fail(u"The text is XML %1; only XML 1.0 is read."_s.arg(excerpt(value)));
+        }
         if (known == 1 && !isUtf8(value)) {
             return fail(u"The text is declared as %1; only UTF-8 is read."_s.arg(excerpt(value)));
         }
