@@ -20,7 +20,8 @@ void checkReal(const QString &text)
     Fuzz::require(!Convert::toQmlString(value, 20).contains(u'e'), "real in generated code", text);
     for (const int decimals : {0, 2, 9}) {
         const double rounded = Convert::restrictDecimals(value, decimals);
-        Fuzz::require(std::abs(rounded - value) <= 0.5000001 * std::pow(10.0, -decimals),
+        Fuzz::require(std::abs(rounded - value)
+                          <= 0.5000001 * std::pow(10.0, -decimals) + std::abs(value) * 1e-15,
                       "rounded to decimals", text);
     }
 }
