@@ -54,8 +54,7 @@ void fill(DesignerObject &owner, const List &list, const QStringList &names)
 {
     const SharedProperty property = owner.getProperty(QString::fromLatin1(list.id));
     for (const QString &name : names) {
-        DesignerObject *item = DesignerFactory::instance()->createObject(u"NumberVariable"_s, &owner);
-        item->setParent(nullptr);
+        DesignerObject *item = DesignerFactory::instance()->createUnowned(u"NumberVariable"_s);
         item->setIdName(name);
         if (!owner.addListPropertyItem(property, item)) {
             qFatal("%s", qUtf8Printable(property->errorString()));
