@@ -105,6 +105,13 @@ void check(benchmark::State &state, const QString &size)
 BENCHMARK_CAPTURE(check, L, u"L"_s)->UseManualTime()->Iterations(1);
 BENCHMARK_CAPTURE(check, M, u"M"_s)->UseManualTime()->Iterations(2);
 
+//! Loads the project and shows one screen of it.
+void showScreen(benchmark::State &state)
+{
+    measureProcess(state, tool(u"corvex"_s), {u"tree"_s, projectFile(u"L"_s), u"Filling1"_s});
+}
+BENCHMARK(showScreen)->Name("open/L")->UseManualTime()->Iterations(1);
+
 void build(benchmark::State &state, const QString &file)
 {
     measureProcess(state, tool(u"corvex"_s),
