@@ -93,7 +93,7 @@ const GeneralDataList *expressionBeside(const DesignerObject *owner, const Bindi
     return &expressionOf(*properties.at(place));
 }
 
-//! The expression of \a owner beside the plain value called \a name, as JavaScript; empty when there is none.
+//! The JavaScript of the expression that replaces the plain value \a name of \a owner; empty without one.
 QString codeBeside(const DesignerObject *owner, QStringView name)
 {
     const Binding *binding = bindingOf(name);

@@ -205,7 +205,8 @@ void ObjectBuilder::emptyElement(QByteArrayView name, std::span<const XmlAttribu
     }
 }
 
-//! The property that an element names, with what is to be its value; null, with a note, when there is none.
+//! Finds the property that an element names, and its new value. Notes the reason and gives null if there is
+//! no such property.
 DesignerProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView name,
                                               std::span<const XmlAttribute> attributes, QByteArrayView *value,
                                               bool *isRepeated)

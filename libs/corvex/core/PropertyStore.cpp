@@ -62,7 +62,7 @@ SharedProperty PropertyStore::make(const PropertyRow &row, DesignerObject *paren
         return property;
     }
     if (m_block && PropertyBlock::sizeFor(row) > 0) {
-        needsOf(*parent).areKnown = false; // The next object is measured anew.
+        needsOf(*parent).areKnown = false; // Measure the next object again.
     }
     return row.makeAlone(parent);
 }

@@ -140,7 +140,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeDeclaration()
     return Outcome::Done;
 }
 
-//! An empty name where there is none.
+//! Gives an empty name at the end of the declaration.
 XmlTokenizer::Outcome XmlTokenizer::takePseudoAttribute(QByteArrayView *name, QByteArrayView *value)
 {
     if (!is(*m_next, Blank)) {

@@ -114,7 +114,7 @@ TEST_F(ImportVariablesTest, TablesOfSpreadsheetsAreRead)
         EXPECT_TRUE(text.contains(u"\r\ntitle,StringVariable,\"'=1,5\","_s));
         project->undoStack()->undo();
     }
-    // With commas between the columns a comma is none in a number, unless the separator is given.
+    // A comma that separates columns cannot be a decimal comma. Another separator allows it.
     EXPECT_EQ(VariableImport("name,value\nspeed,\"2,5\"\n", *project).invalidValues().size(), 1);
     EXPECT_EQ(VariableImport("name|value\nspeed|2,5\n", *project, u'|').changes().value(0).after, u"2.5"_s);
 }

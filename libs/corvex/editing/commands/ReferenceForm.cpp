@@ -291,7 +291,7 @@ bool showText(const DesignerProperty &property, const MentionVisitor &visitor)
     return ReferenceForm::visit(ReferenceForm::of(property), text, visitor);
 }
 
-//! A kind of property with a form, whoever has it unless owner and id are told.
+//! A class of properties with a form. An owner and an id restrict it to one property of one class.
 struct Site
 {
     QLatin1StringView propertyClass;
