@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/FunctionCall.h"
+#include "corvex/values/ExpressionVocabulary.h"
 
 #include <gtest/gtest.h>
 
@@ -37,5 +38,16 @@ TEST(FunctionCall, ArgumentsAreCountedByTheParenthesesAroundThem)
         }
         EXPECT_TRUE(ok) << expression.toStdString();
         EXPECT_EQ(calls.join(u", "_s), wanted) << expression.toStdString();
+    }
+}
+
+TEST(FunctionCall, KnowsEveryFunctionThatExpressionsMayCall)
+{
+    const QStringList words = ExpressionVocabulary::mathFunctions() + ExpressionVocabulary::stringFunctions();
+    for (const QString &word : words) {
+        const bool isComplete =
+            (ExpressionVocabulary::setsOf(word) & ExpressionVocabulary::CompleteFunctions) != 0;
+        EXPECT_EQ(FunctionCall::of(GeneralDataList(u"0502"_s + word)).size(), isComplete ? 0 : 1)
+            << word.toStdString();
     }
 }
