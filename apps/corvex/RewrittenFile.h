@@ -11,7 +11,7 @@
 namespace Halvane::Corvex::Tool {
 
 /*! Takes what a file is to hold, and compares it with what the file holds. At the first difference it begins
-    a new file: nothing is made twice, and no whole text is held in memory. */
+    a new file: nothing is made twice. */
 class RewrittenFile : public QIODevice
 {
 public:

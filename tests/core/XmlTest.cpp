@@ -10,6 +10,7 @@
 #include <QBuffer>
 #include <QDomDocument>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -257,6 +258,60 @@ TEST_F(Xml, ItemsOfUnknownClassesAndDuplicatesGoBackToTheirPlaces)
     delete loaded->takeListPropertyItem(loaded->property("nodes"),
                                         loaded->property("nodes")->getListItemAtIndex(0));
     EXPECT_TRUE(write(loaded.get()).contains("<Robot>")) << "what is kept outlives its neighbour";
+}
+
+TEST_F(Xml, ALongListIsWrittenInPartsAsOneText)
+{
+    //! Takes so many bytes, in one thread.
+    struct Device : QIODevice
+    {
+        explicit Device(qsizetype most)
+            : room(most)
+        {
+            open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+        }
+        qint64 readData(char *, qint64) override { return -1; }
+        qint64 writeData(const char *data, qint64 size) override
+        {
+            isElsewhere = isElsewhere || QThread::currentThread() != thread();
+            bytes.append(data, std::min(size, qint64(room - bytes.size())));
+            return bytes.size() < room ? size : -1;
+        }
+        qsizetype room;
+        QByteArray bytes;
+        bool isElsewhere = false;
+    };
+    const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
+    QByteArray expected;
+    for (int i = 0; i < 200; ++i) {
+        Node *item = Node::create(u"n%1"_s.arg(i));
+        item->set("text", QString(i * 40, u'<'));
+        item->addListPropertyItem(item->property("nodes"), Node::create(u"inner"_s));
+        owner->addListPropertyItem(owner->property("nodes"), item);
+        const QByteArray document = write(item).trimmed();
+        const QByteArray text = document.mid(document.indexOf("<Node>")).replace('\n', "\n    ");
+        expected += "    " + text + '\n';
+    }
+    Device all(1'000'000'000);
+    EXPECT_TRUE(ObjectXmlWriter(&all).write(owner.get()));
+    EXPECT_TRUE(all.bytes.contains("<List>\n" + expected + "   </List>"));
+    EXPECT_FALSE(all.isElsewhere);
+    Device full(all.bytes.size() / 2);
+    EXPECT_FALSE(ObjectXmlWriter(&full).write(owner.get()));
+    EXPECT_EQ(full.bytes, all.bytes.first(full.room));
+
+    // Of two items that no file can hold the first is named.
+    for (const char *name : {"name: n150;", "name: n90;"}) {
+        const qsizetype value =
+            all.bytes.indexOf("value=\"", all.bytes.indexOf("\"text\"", all.bytes.indexOf(name)));
+        all.bytes.insert(value + 7, QByteArray(5'000'000, '>'));
+    }
+    const std::unique_ptr<Node> hostile = read(all.bytes);
+    ASSERT_TRUE(hostile) << qPrintable(error);
+    Device refused(1'000'000'000);
+    ObjectXmlWriter writer(&refused);
+    EXPECT_FALSE(writer.write(hostile.get()));
+    EXPECT_TRUE(writer.errorString().contains(u"n90"_s)) << qPrintable(writer.errorString());
 }
 
 TEST_F(Xml, TextInsideAnUnknownItemStaysWhole)

@@ -2,6 +2,7 @@
 #include "corvex/core/ObjectXmlWriter.h"
 
 #include "corvex/common/FileHelper.h"
+#include "corvex/common/Processors.h"
 #include "corvex/core/DesignerObjectData.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/XmlLimits.h"
@@ -13,6 +14,9 @@
 #include <QSet>
 
 #include <algorithm>
+#include <atomic>
+#include <thread>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +26,9 @@ namespace {
 
 constexpr qsizetype bufferSize = 256 * 1024;
 constexpr int rootPropertyLevel = 2;
+// A list of at least so many items is worth threads, and so many parts keep them busy to the end.
+constexpr qsizetype sharedListSize = 64;
+constexpr qsizetype partsOfList = 64;
 const QString tooLong = u"The value is longer than 16 MB in a file. Please shorten it."_s;
 const QString tooDeep = u"The objects are nested too deeply. Please take it out of some groups."_s;
 
@@ -152,12 +159,16 @@ void ObjectXmlWriter::closeTag(const QString &name, int level)
 
 void ObjectXmlWriter::flush()
 {
-    const QByteArrayView bytes = m_buffer.bytes();
+    deliver(m_buffer.bytes());
+    m_buffer.clear();
+}
+
+void ObjectXmlWriter::deliver(QByteArrayView bytes)
+{
     if (m_error.isEmpty() && m_device->write(bytes.data(), bytes.size()) != bytes.size()) {
         const auto *file = qobject_cast<const QFileDevice *>(m_device);
         m_error = file ? Common::FileHelper::writeError(*file) : m_device->errorString();
     }
-    m_buffer.clear();
 }
 
 void ObjectXmlWriter::writeObject(const DesignerObject *object, int level)
@@ -167,7 +178,7 @@ void ObjectXmlWriter::writeObject(const DesignerObject *object, int level)
     } else {
         writeOwnProperties(object, level);
     }
-    if (m_buffer.bytes().size() > bufferSize) {
+    if (!isPart() && m_buffer.bytes().size() > bufferSize) {
         flush();
     }
 }
@@ -296,6 +307,10 @@ void ObjectXmlWriter::writeItems(const DesignerProperty &property, int level)
 {
     const ItemList &list = *property.itemList();
     const bool keeps = list.hasKeptItems();
+    if (!keeps && !isPart() && list.count() >= sharedListSize) {
+        writeInParts(list.items(), level);
+        return;
+    }
     // Of two items of one name the first counts, wherever lists put the other one when they were ordered.
     QHash<const DesignerObject *, QList<KeptItem>> waiting;
     QSet<const DesignerObject *> written;
@@ -317,6 +332,43 @@ void ObjectXmlWriter::writeItems(const DesignerProperty &property, int level)
                 writeKept(kept, level);
             }
         });
+}
+
+void ObjectXmlWriter::writeInParts(const QList<DesignerObject *> &items, int level)
+{
+    flush();
+    ObjectXmlWriter part(nullptr);
+    part.m_lineEnd = m_lineEnd;
+    part.m_allProperties = m_allProperties;
+    std::vector<ObjectXmlWriter> parts(partsOfList, part);
+    std::vector<std::atomic<bool>> isDone(parts.size());
+    std::atomic<size_t> next = 0;
+    const auto writePart = [&](size_t number) {
+        const qsizetype end = qsizetype(number + 1) * items.size() / partsOfList;
+        for (qsizetype i = qsizetype(number) * items.size() / partsOfList; i < end; ++i) {
+            parts[number].writeObject(items.at(i), level);
+        }
+        isDone[number] = true;
+    };
+    size_t delivered = 0;
+    const auto deliverDone = [&] {
+        for (; delivered < parts.size() && isDone[delivered]; ++delivered) {
+            ObjectXmlWriter &done = parts[delivered];
+            m_error = m_error.isEmpty() ? done.m_error : m_error;
+            deliver(done.m_buffer.bytes());
+            done.m_buffer = XmlBuffer();
+        }
+    };
+    // The device may belong to this thread; no other one touches it.
+    Common::Processors::run(parts.size(), [&, owner = std::this_thread::get_id()] {
+        for (size_t i = next++; i < parts.size(); i = next++) {
+            writePart(i);
+            if (std::this_thread::get_id() == owner) {
+                deliverDone();
+            }
+        }
+    });
+    deliverDone();
 }
 
 void ObjectXmlWriter::writeKept(const KeptItem &kept, int level)

@@ -4,6 +4,7 @@
 #include "corvex/core/XmlBuffer.h"
 
 #include <QHash>
+#include <QList>
 #include <QString>
 
 class QDomElement;
@@ -16,7 +17,10 @@ class DesignerProperty;
 struct KeptItem;
 
 /*! Writes an object and everything below it as XML in UTF-8: one element per line, one blank of indent per
-    level, `name` before `value`. The same object written twice is the same bytes. */
+    level, `name` before `value`. The same object written twice is the same bytes.
+
+    All processors write the items of a long list, so a class with an XML form of its own may be asked for it
+   in several threads at once. The device is used in the calling thread only. */
 class ObjectXmlWriter
 {
 public:
@@ -56,6 +60,7 @@ private:
     void writeStartTag(const QDomElement &element);
     void writeProperty(const DesignerProperty &property, int level);
     void writeItems(const DesignerProperty &list, int level);
+    void writeInParts(const QList<DesignerObject *> &items, int level);
     void writeKept(const KeptItem &kept, int level);
     void startLine(int level);
     void refuse(const QString &place, const QString &reason);
@@ -63,8 +68,10 @@ private:
     void openTag(const QString &name, int level, QByteArrayView ending = ">");
     void closeTag(const QString &name, int level);
     void flush();
+    void deliver(QByteArrayView bytes);
+    bool isPart() const { return !m_device; }
 
-    QIODevice *m_device;
+    QIODevice *m_device; //!< null for a part of a list, which stays in the buffer
     QByteArrayView m_lineEnd;
     XmlBuffer m_buffer;
     QHash<QString, QString> m_rootValues;
