@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Edits of a project with their undo, beside the least that an undo framework does.
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/editing/commands/AddObject.h"
-#include "corvex/editing/commands/ChangeProperty.h"
-#include "corvex/editing/commands/DeleteObjectsAndCheckFilters.h"
-#include "corvex/editing/commands/ReferenceIndex.h"
-#include "corvex/editing/commands/RenameVariable.h"
+#include "corvex/editing/commands/objects/AddObject.h"
+#include "corvex/editing/commands/objects/ChangeProperty.h"
+#include "corvex/editing/commands/objects/DeleteObjectsAndCheckFilters.h"
+#include "corvex/editing/commands/variables/RenameVariable.h"
+#include "corvex/editing/references/ReferenceIndex.h"
 #include "corvex/editing/undo/UndoStack.h"
-#include "corvex/project/Element.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
+#include "corvex/project/elements/Element.h"
 
 #include "support/Projects.h"
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What a project costs in memory: the growth of the heap, shared out over what was made.
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/BooleanProperty.h"
-#include "corvex/core/properties/GeneralDataListProperty.h"
-#include "corvex/core/properties/RealProperty.h"
-#include "corvex/core/properties/StringProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/project/Project.h"
 
 #include "support/Projects.h"

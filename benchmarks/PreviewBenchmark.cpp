@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The preview: its start, and what a variable that changes costs on a screen that is full of it.
-#include "corvex/common/FileHelper.h"
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/preview/PreviewSession.h"
 
 #include "support/Process.h"

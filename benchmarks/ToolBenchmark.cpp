@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The tools as their users run them: whole processes, beside other programs that do work of the same kind.
-#include "corvex/project/Element.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
+#include "corvex/project/elements/Element.h"
 
 #include "support/Counterparts.h"
 #include "support/Process.h"

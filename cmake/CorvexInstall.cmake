@@ -9,14 +9,9 @@ install(TARGETS CommonBase Zip Common DesignerCore EXPORT DesignerCoreTargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-# The preview is a program; its library stays here, as do the headers that only sources of one room include.
-set(private_headers)
-foreach(header DesignerObjectData DesignerPropertyState FileJournal FileRecovery HoldingLists KeptItemRecorder
-    ObjectBuilder PropertyBlock PropertyStore TextPool XmlCharacters XmlHandler XmlInput "XmlToken*")
-  list(APPEND private_headers PATTERN "${header}.h" EXCLUDE)
-endforeach()
+# The preview is a program; its library stays here, as do the folders private/ of all rooms.
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/libs/corvex" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
-  FILES_MATCHING PATTERN "*.h" PATTERN "corvex/preview" EXCLUDE ${private_headers})
+  FILES_MATCHING PATTERN "*.h" PATTERN "corvex/preview" EXCLUDE PATTERN "private" EXCLUDE)
 install(EXPORT DesignerCoreTargets NAMESPACE Corvex:: DESTINATION "${package_path}")
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/DesignerCoreConfig.cmake.in"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/values/GroupText.h"
-#include "corvex/values/ValueConversion.h"
+#include "corvex/values/text/GroupText.h"
+#include "corvex/values/text/ValueConversion.h"
 
 #include "FuzzSupport.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/values/ListInfo.h"
-#include "corvex/values/MapInfo.h"
-#include "corvex/values/PairList.h"
-#include "corvex/values/PropertyInfoList.h"
-#include "corvex/values/PropertyList.h"
-#include "corvex/values/UpdateObjectList.h"
+#include "corvex/values/expressions/UpdateObjectList.h"
+#include "corvex/values/records/ListInfo.h"
+#include "corvex/values/records/MapInfo.h"
+#include "corvex/values/runtime/PropertyInfoList.h"
+#include "corvex/values/runtime/PropertyList.h"
+#include "corvex/values/text/PairList.h"
 
 #include "FuzzSupport.h"
 

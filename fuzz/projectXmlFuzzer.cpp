@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionSyntax.h"
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/core/ObjectXmlReader.h"
-#include "corvex/core/ObjectXmlWriter.h"
+#include "corvex/core/xml/ObjectXmlReader.h"
+#include "corvex/core/xml/ObjectXmlWriter.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionSyntax.h"
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/core/properties/LinkProperty.h"
-#include "corvex/core/properties/PropertyChangeListProperty.h"
-#include "corvex/core/properties/UpdateObjectListProperty.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 

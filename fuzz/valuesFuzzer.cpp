@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/values/ValueConversion.h"
+#include "corvex/values/text/ValueConversion.h"
 
 #include "FuzzSupport.h"
 

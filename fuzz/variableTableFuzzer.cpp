@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/editing/commands/ImportVariables.h"
+#include "corvex/editing/commands/variables/ImportVariables.h"
 #include "corvex/project/Project.h"
 #include "corvex/runtime/RuntimeConfiguration.h"
 #include "corvex/variables/exchange/VariableExport.h"

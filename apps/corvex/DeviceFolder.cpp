@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "DeviceFolder.h"
 
-#include "corvex/common/FileHelper.h"
-#include "corvex/common/FileSync.h"
-#include "corvex/common/FolderLock.h"
-#include "corvex/common/TemporaryFolder.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/FolderLock.h"
+#include "corvex/common/files/TemporaryFolder.h"
+#include "corvex/common/files/private/FileSync.h"
 #include "corvex/common/zip/ZipHelper.h"
-#include "corvex/values/IdentifierInfo.h"
+#include "corvex/values/records/IdentifierInfo.h"
 
 #include <QDir>
 #include <QFile>

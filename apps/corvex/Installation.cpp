@@ -6,9 +6,9 @@
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/hardware/HardwareConfigurations.h"
 
-#include "Call.h"
-#include "Suggestion.h"
-#include "Terminal.h"
+#include "terminal/Call.h"
+#include "terminal/Suggestion.h"
+#include "terminal/Terminal.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "LineCommand.h"
 
-#include "corvex/editing/commands/DeleteFilter.h"
-#include "corvex/editing/commands/DeleteImage.h"
-#include "corvex/editing/commands/DeleteObjectsAndCheckFilters.h"
-#include "corvex/editing/commands/DeleteScreen.h"
-#include "corvex/editing/commands/DeleteVariable.h"
-#include "corvex/project/FilterElement.h"
+#include "corvex/editing/commands/images/DeleteImage.h"
+#include "corvex/editing/commands/objects/DeleteFilter.h"
+#include "corvex/editing/commands/objects/DeleteObjectsAndCheckFilters.h"
+#include "corvex/editing/commands/screens/DeleteScreen.h"
+#include "corvex/editing/commands/variables/DeleteVariable.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Screen.h"
+#include "corvex/project/elements/FilterElement.h"
 #include "corvex/variables/ProjectVariable.h"
 
 using namespace Qt::StringLiterals;

@@ -3,8 +3,8 @@
 
 #include "corvex/preview/Bounds.h"
 
-#include "Call.h"
-#include "Terminal.h"
+#include "terminal/Call.h"
+#include "terminal/Terminal.h"
 
 #include <QCoreApplication>
 #include <QDir>

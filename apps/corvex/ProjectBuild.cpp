@@ -5,12 +5,12 @@
 #include "corvex/project/Project.h"
 #include "corvex/runtime/RuntimeGenerator.h"
 
-#include "Call.h"
 #include "DeviceFolder.h"
 #include "Installation.h"
-#include "ProblemReport.h"
 #include "ProjectFile.h"
-#include "Terminal.h"
+#include "terminal/Call.h"
+#include "terminal/ProblemReport.h"
+#include "terminal/Terminal.h"
 
 #include <QDir>
 #include <QScopeGuard>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ExitCode.h"
+#include "terminal/ExitCode.h"
 
 #include <QString>
 

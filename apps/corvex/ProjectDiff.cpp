@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ProjectDiff.h"
 
-#include "corvex/common/FileHelper.h"
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/project/ImageResource.h"

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ProjectFile.h"
 
-#include "corvex/common/FileHelper.h"
-#include "corvex/common/TemporaryFolder.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/core/ObjectXmlWriter.h"
+#include "corvex/core/xml/ObjectXmlWriter.h"
 #include "corvex/project/Project.h"
 
-#include "Call.h"
 #include "InputFile.h"
 #include "Installation.h"
-#include "Terminal.h"
+#include "terminal/Call.h"
+#include "terminal/Terminal.h"
 
 #include <QDir>
 #include <QFileInfo>

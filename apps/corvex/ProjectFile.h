@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/common/FileStamp.h"
+#include "corvex/common/files/FileStamp.h"
 #include "corvex/core/ItemList.h"
-#include "corvex/core/ObjectXmlReader.h"
+#include "corvex/core/xml/ObjectXmlReader.h"
 
-#include "ExitCode.h"
+#include "terminal/ExitCode.h"
 
 #include <QList>
 #include <QString>

@@ -2,11 +2,11 @@
 #include "ProjectPath.h"
 
 #include "corvex/core/DesignerObject.h"
-#include "corvex/project/Element.h"
 #include "corvex/project/Screen.h"
+#include "corvex/project/elements/Element.h"
 
-#include "Call.h"
-#include "Suggestion.h"
+#include "terminal/Call.h"
+#include "terminal/Suggestion.h"
 
 #include <algorithm>
 

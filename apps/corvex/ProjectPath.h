@@ -3,7 +3,7 @@
 
 #include "corvex/core/DesignerProperty.h"
 
-#include "ExitCode.h"
+#include "terminal/ExitCode.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/common/SafeFile.h"
+#include "corvex/common/files/SafeFile.h"
 
 #include <QFile>
 #include <QIODevice>

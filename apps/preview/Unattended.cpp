@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Unattended.h"
 
-#include "corvex/common/FileHelper.h"
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/preview/Bounds.h"
 #include "corvex/preview/OutsideThread.h"
 #include "corvex/preview/ScreenAudit.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // corvex-preview FOLDER [--audit] [--shot DIR] [--script FILE] [--state FILE] [--temporary DIR] [--trust]:
 // runs a build on the desktop, in a window unless there is a picture to take or a script to follow.
-#include "corvex/common/TemporaryFolder.h"
+#include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/preview/Bounds.h"
 #include "corvex/preview/OutsideThread.h"
 #include "corvex/preview/StandIns.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ExpressionReader.h"
 
-#include "corvex/values/BoolInfo.h"
-#include "corvex/values/MathInfo.h"
+#include "corvex/values/expressions/MathInfo.h"
+#include "corvex/values/records/BoolInfo.h"
 
 #include <algorithm>
 

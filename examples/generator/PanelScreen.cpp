@@ -2,11 +2,11 @@
 #include "PanelScreen.h"
 
 #include "corvex/project/Screen.h"
-#include "corvex/values/BorderInfo.h"
-#include "corvex/values/PairList.h"
-#include "corvex/values/PropertyList.h"
-#include "corvex/values/UpdateObjectList.h"
-#include "corvex/values/ValueConversion.h"
+#include "corvex/values/expressions/UpdateObjectList.h"
+#include "corvex/values/records/BorderInfo.h"
+#include "corvex/values/runtime/PropertyList.h"
+#include "corvex/values/text/PairList.h"
+#include "corvex/values/text/ValueConversion.h"
 
 #include <QFont>
 

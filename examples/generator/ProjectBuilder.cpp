@@ -8,7 +8,7 @@
 #include "corvex/hardware/HardwareConfigurations.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/ListInfo.h"
+#include "corvex/values/records/ListInfo.h"
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;

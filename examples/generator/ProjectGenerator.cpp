@@ -3,7 +3,7 @@
 
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/ValueConversion.h"
+#include "corvex/values/text/ValueConversion.h"
 
 #include "ProjectBuilder.h"
 #include "RandomExpressions.h"

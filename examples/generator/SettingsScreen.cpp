@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/values/ListInfo.h"
-#include "corvex/values/RangeInfo.h"
+#include "corvex/values/records/ListInfo.h"
+#include "corvex/values/records/RangeInfo.h"
 
 #include "PanelScreen.h"
 #include "PumpStationScreens.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/hardware/HardwareConfigurations.h"
-#include "corvex/project/FileNameRules.h"
 #include "corvex/project/Project.h"
+#include "corvex/project/files/FileNameRules.h"
 
 #include "ProjectGenerator.h"
 #include "PumpStation.h"

@@ -4,7 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/QmlText.h"
-#include "corvex/values/GeneralDataList.h"
+#include "corvex/values/expressions/GeneralDataList.h"
 
 #include "elements/Rows.h"
 #include "elements/Statements.h"

@@ -2,10 +2,9 @@
 #include "elements/Rows.h"
 
 #include "corvex/core/PropertyValidators.h"
-#include "corvex/core/properties/GeneralDataListProperty.h"
-#include "corvex/core/properties/IntegerProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/core/properties/LinkProperty.h"
-#include "corvex/core/properties/UpdateObjectListProperty.h"
 
 #include "elements/BoundQml.h"
 #include "elements/Statements.h"

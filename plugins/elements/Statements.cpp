@@ -4,13 +4,12 @@
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/QmlText.h"
-#include "corvex/core/properties/PropertyChangeListProperty.h"
-#include "corvex/core/properties/UpdateObjectListProperty.h"
-#include "corvex/project/Element.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/GeneralDataList.h"
-#include "corvex/values/ObjectLinkInfo.h"
-#include "corvex/values/ObjectPath.h"
+#include "corvex/project/elements/Element.h"
+#include "corvex/values/expressions/GeneralDataList.h"
+#include "corvex/values/records/ObjectLinkInfo.h"
+#include "corvex/values/text/ObjectPath.h"
 
 #include "elements/Rows.h"
 

@@ -4,10 +4,10 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/properties/LinkProperty.h"
-#include "corvex/project/Element.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/GeneralDataList.h"
-#include "corvex/values/PairList.h"
+#include "corvex/project/elements/Element.h"
+#include "corvex/values/expressions/GeneralDataList.h"
+#include "corvex/values/text/PairList.h"
 
 #include "elements/Rows.h"
 #include "elements/Statements.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/values/GeneralDataList.h"
+#include "corvex/values/expressions/GeneralDataList.h"
 
 #include <QString>
 

@@ -86,9 +86,12 @@ function resolved(file, included,    path)
         ;
     if (path in known)
         return path
-    if (("plugins/" included) in known)
-        return "plugins/" included
-    return ("apps/" included) in known ? "apps/" included : ""
+    # Programs and plug-ins name their files from their own folder, or from the one above.
+    path = file
+    while (sub(/\/[^\/]*$/, "", path))
+        if ((path "/" included) in known)
+            return path "/" included
+    return ""
 }
 
 # Walks the includes of a file depth first; a file that is met again while it is on the path closes a ring.

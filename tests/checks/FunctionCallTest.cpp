@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/FunctionCall.h"
-#include "corvex/values/ExpressionVocabulary.h"
+#include "corvex/checks/private/FunctionCall.h"
+#include "corvex/values/expressions/ExpressionVocabulary.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionSyntax.h"
-#include "corvex/checks/PlainQml.h"
-#include "corvex/values/GeneralDataList.h"
-#include "corvex/values/MathInfo.h"
-#include "corvex/values/StringInfo.h"
+#include "corvex/checks/private/PlainQml.h"
+#include "corvex/values/expressions/GeneralDataList.h"
+#include "corvex/values/expressions/MathInfo.h"
+#include "corvex/values/records/StringInfo.h"
 
 #include <gtest/gtest.h>
 #include <random>

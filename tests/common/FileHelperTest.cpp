@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/FileHelper.h"
-#include "corvex/common/SafeFile.h"
-#include "corvex/common/TemporaryFolder.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/SafeFile.h"
+#include "corvex/common/files/TemporaryFolder.h"
 
 #include "support/FullDisk.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/FileHelper.h"
-#include "corvex/common/FileStamp.h"
-#include "corvex/common/FileTransaction.h"
-#include "corvex/common/FolderLock.h"
-#include "corvex/common/SafeFile.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/FileStamp.h"
+#include "corvex/common/files/FileTransaction.h"
+#include "corvex/common/files/FolderLock.h"
+#include "corvex/common/files/SafeFile.h"
 
 #include <QDir>
 #include <QDirIterator>

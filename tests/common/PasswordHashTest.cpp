@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/PasswordHash.h"
+#include "corvex/common/private/PasswordHash.h"
 
 #include <gtest/gtest.h>
 #include <sodium.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/FileHelper.h"
 #include "corvex/common/PictureFile.h"
-#include "corvex/common/RegularFile.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/RegularFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/IntegerProperty.h"
-#include "corvex/core/properties/StringProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
 
 #include "TestObjects.h"
 

@@ -3,12 +3,12 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/properties/BorderProperty.h"
-#include "corvex/core/properties/ColorProperty.h"
+#include "corvex/core/properties/ColorProperties.h"
 #include "corvex/core/properties/EnumProperty.h"
 #include "corvex/core/properties/GradientStopsProperty.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/core/properties/RangeProperty.h"
-#include "corvex/core/properties/SizeProperty.h"
+#include "corvex/core/properties/ShapeProperties.h"
 #include "corvex/core/properties/ValueRangeProperty.h"
 
 #include <gtest/gtest.h>

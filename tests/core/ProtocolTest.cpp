@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/EditorView.h"
 #include "corvex/core/ItemList.h"
-#include "corvex/core/properties/RealProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
 
 #include "TestObjects.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/ItemList.h"
-#include "corvex/core/ObjectXmlReader.h"
-#include "corvex/core/ObjectXmlWriter.h"
-#include "corvex/core/XmlBuffer.h"
-#include "corvex/core/XmlLimits.h"
+#include "corvex/core/xml/ObjectXmlReader.h"
+#include "corvex/core/xml/ObjectXmlWriter.h"
+#include "corvex/core/xml/XmlBuffer.h"
+#include "corvex/core/xml/XmlLimits.h"
 
 #include "TestObjects.h"
 

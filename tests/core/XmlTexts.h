@@ -2,7 +2,7 @@
 // XML, read by our tokenizer and by another reader into texts that can be compared.
 #pragma once
 
-#include "corvex/core/XmlTokenizer.h"
+#include "corvex/core/xml/private/XmlTokenizer.h"
 
 #include <QIODevice>
 #include <QXmlStreamReader>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ExampleTest.h"
 
-#include "corvex/core/properties/GeneralDataListProperty.h"
-#include "corvex/project/Element.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/PairList.h"
+#include "corvex/project/elements/Element.h"
+#include "corvex/values/text/PairList.h"
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;

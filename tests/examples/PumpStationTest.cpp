@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/core/properties/GeneralDataListProperty.h"
-#include "corvex/project/Element.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/project/Screen.h"
-#include "corvex/project/VisualElement.h"
-#include "corvex/values/ValueConversion.h"
+#include "corvex/project/elements/Element.h"
+#include "corvex/project/elements/VisualElement.h"
+#include "corvex/values/text/ValueConversion.h"
 
 #include "ExampleTest.h"
 #include "PumpStation.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TestBuild.h"
 
-#include "corvex/common/FileHelper.h"
 #include "corvex/common/TextHelper.h"
+#include "corvex/common/files/FileHelper.h"
 
 #include <QFile>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/FileHelper.h"
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/common/zip/ZipHelper.h"
 #include "corvex/editing/undo/UndoStack.h"
-#include "corvex/project/ProjectAutosave.h"
+#include "corvex/project/files/ProjectAutosave.h"
 
 #include "ProjectFixture.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/project/FileNameRules.h"
+#include "corvex/project/files/FileNameRules.h"
 
 #include "ProjectFixture.h"
 

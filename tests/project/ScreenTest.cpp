@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/project/GroupElement.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
+#include "corvex/project/elements/GroupElement.h"
 
 #include "ProjectFixture.h"
 

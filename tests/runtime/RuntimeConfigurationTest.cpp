@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/BACDeviceInfo.h"
-#include "corvex/common/FileHelper.h"
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/project/Project.h"
 #include "corvex/runtime/RuntimeConfiguration.h"
-#include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/values/records/ObjectLinkInfo.h"
 #include "corvex/variables/BACnetPropertyList.h"
 #include "corvex/variables/CanParameterMap.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/values/MathInfo.h"
-#include "corvex/values/StringInfo.h"
+#include "corvex/values/expressions/MathInfo.h"
+#include "corvex/values/records/StringInfo.h"
 
 #include <QRegularExpression>
 

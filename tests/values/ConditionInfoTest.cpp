@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/values/ConditionInfo.h"
+#include "corvex/values/expressions/ConditionInfo.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/values/AssignInfo.h"
-#include "corvex/values/BoolInfo.h"
-#include "corvex/values/MathInfo.h"
-#include "corvex/values/ModbusCommandInfo.h"
-#include "corvex/values/StringInfo.h"
+#include "corvex/values/expressions/AssignInfo.h"
+#include "corvex/values/expressions/MathInfo.h"
+#include "corvex/values/records/BoolInfo.h"
+#include "corvex/values/records/ModbusCommandInfo.h"
+#include "corvex/values/records/StringInfo.h"
 
 #include "support/CodeShape.h"
 

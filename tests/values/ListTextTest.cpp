@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Lists and maps of free texts, which read back whatever is put into them.
-#include "corvex/values/ListInfo.h"
-#include "corvex/values/MapInfo.h"
-#include "corvex/values/NestedText.h"
+#include "corvex/values/records/ListInfo.h"
+#include "corvex/values/records/MapInfo.h"
+#include "corvex/values/text/NestedText.h"
 
 #include "values/NastyText.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/values/PropertyList.h"
+#include "corvex/values/runtime/PropertyList.h"
 
 #include "values/NastyText.h"
 

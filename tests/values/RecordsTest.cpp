@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/EnumHelper.h"
-#include "corvex/values/BorderInfo.h"
-#include "corvex/values/EnumInfo.h"
-#include "corvex/values/IdentifierInfo.h"
-#include "corvex/values/ObjectLinkInfo.h"
-#include "corvex/values/RangeInfo.h"
-#include "corvex/values/ReceiveErrorInfo.h"
-#include "corvex/values/SendErrorInfo.h"
-#include "corvex/values/ValueRangeInfo.h"
+#include "corvex/values/records/BorderInfo.h"
+#include "corvex/values/records/EnumInfo.h"
+#include "corvex/values/records/FieldbusErrorInfo.h"
+#include "corvex/values/records/IdentifierInfo.h"
+#include "corvex/values/records/ObjectLinkInfo.h"
+#include "corvex/values/records/RangeInfo.h"
+#include "corvex/values/records/ValueRangeInfo.h"
 
 #include <gtest/gtest.h>
 

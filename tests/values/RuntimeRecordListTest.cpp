@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/values/RuntimeAutoSettingList.h"
-#include "corvex/values/RuntimePropertyList.h"
+#include "corvex/values/runtime/RuntimeLists.h"
 
 #include <gtest/gtest.h>
 

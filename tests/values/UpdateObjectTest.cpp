@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/values/UpdateObjectList.h"
+#include "corvex/values/expressions/UpdateObjectList.h"
 
 #include "values/NastyText.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/values/GeneralDataList.h"
+#include "corvex/values/expressions/GeneralDataList.h"
 
 #include "variables/VariableSupport.h"
 

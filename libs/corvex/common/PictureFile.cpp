@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/PictureFile.h"
 
-#include "corvex/common/RegularFile.h"
+#include "corvex/common/files/RegularFile.h"
 
 #include <QXmlStreamReader>
 

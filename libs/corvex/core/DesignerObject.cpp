@@ -2,12 +2,12 @@
 #include "corvex/core/DesignerObject.h"
 
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/core/DesignerObjectData.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/ModelObserver.h"
 #include "corvex/core/ObjectView.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/QmlText.h"
+#include "corvex/core/private/DesignerObjectData.h"
 #include "corvex/core/properties/IdentifierProperty.h"
 #include "corvex/core/properties/LinkProperty.h"
 

@@ -3,7 +3,7 @@
 
 #include "corvex/core/DesignerProperty.h"
 #include "corvex/core/PropertyRange.h"
-#include "corvex/values/IdentifierInfo.h"
+#include "corvex/values/records/IdentifierInfo.h"
 
 #include <QMap>
 #include <QObject>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The change protocol of DesignerObject: the only ways in which the model changes.
-#include "corvex/core/DesignerObjectData.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/ModelObserver.h"
 #include "corvex/core/ObjectView.h"
-#include "corvex/core/XmlLimits.h"
-#include "corvex/core/XmlText.h"
+#include "corvex/core/private/DesignerObjectData.h"
+#include "corvex/core/xml/XmlLimits.h"
+#include "corvex/core/xml/XmlText.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The text and file forms of DesignerObject, thin on top of ObjectXmlReader and ObjectXmlWriter.
-#include "corvex/common/SafeFile.h"
-#include "corvex/core/DesignerObjectData.h"
-#include "corvex/core/ObjectXmlReader.h"
-#include "corvex/core/ObjectXmlWriter.h"
+#include "corvex/common/files/SafeFile.h"
+#include "corvex/core/private/DesignerObjectData.h"
+#include "corvex/core/xml/ObjectXmlReader.h"
+#include "corvex/core/xml/ObjectXmlWriter.h"
 
 #include <QBuffer>
 #include <QDomDocument>

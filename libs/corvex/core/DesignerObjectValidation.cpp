@@ -2,8 +2,8 @@
 // How objects and their owners learn whether they are valid: each edit updates what lies on the way up, only
 // DesignerObject::validate() looks at everything below.
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/core/DesignerObjectData.h"
 #include "corvex/core/ItemList.h"
+#include "corvex/core/private/DesignerObjectData.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,11 +3,11 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
-#include "corvex/core/DesignerPropertyState.h"
 #include "corvex/core/EditorView.h"
-#include "corvex/core/PropertyBlock.h"
-#include "corvex/core/XmlText.h"
+#include "corvex/core/private/DesignerPropertyState.h"
+#include "corvex/core/private/PropertyBlock.h"
 #include "corvex/core/properties/FormText.h"
+#include "corvex/core/xml/XmlText.h"
 
 using namespace Qt::StringLiterals;
 

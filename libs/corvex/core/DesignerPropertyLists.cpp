@@ -2,7 +2,7 @@
 // The list and object operations of DesignerProperty: what each refuses, with which text, and what it does.
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
-#include "corvex/core/DesignerPropertyState.h"
+#include "corvex/core/private/DesignerPropertyState.h"
 
 using namespace Qt::StringLiterals;
 

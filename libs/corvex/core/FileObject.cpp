@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/FileObject.h"
 
-#include "corvex/common/FileHelper.h"
-#include "corvex/common/FileSync.h"
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/common/TemporaryFolder.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/TemporaryFolder.h"
+#include "corvex/common/files/private/FileSync.h"
 
 #include <QDir>
 #include <QFile>

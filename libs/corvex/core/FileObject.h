@@ -2,7 +2,7 @@
 #pragma once
 
 #include "corvex/core/DesignerObject.h"
-#include "corvex/core/ObjectXmlReader.h"
+#include "corvex/core/xml/ObjectXmlReader.h"
 
 namespace Halvane::Corvex::Designer {
 

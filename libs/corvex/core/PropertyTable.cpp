@@ -3,7 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
-#include "corvex/core/PropertyStore.h"
+#include "corvex/core/private/PropertyStore.h"
 
 using namespace Qt::StringLiterals;
 

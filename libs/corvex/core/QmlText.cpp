@@ -2,7 +2,7 @@
 #include "corvex/core/QmlText.h"
 
 #include "corvex/common/TextHelper.h"
-#include "corvex/values/ObjectPath.h"
+#include "corvex/values/text/ObjectPath.h"
 
 using namespace Qt::StringLiterals;
 

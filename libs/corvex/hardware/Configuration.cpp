@@ -4,11 +4,9 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/StringsFile.h"
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/BooleanProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/IdentifierProperty.h"
-#include "corvex/core/properties/IntegerProperty.h"
-#include "corvex/core/properties/SizeProperty.h"
-#include "corvex/core/properties/StringProperty.h"
+#include "corvex/core/properties/ShapeProperties.h"
 #include "corvex/hardware/ConfigurationRules.h"
 
 #include <QFileInfo>

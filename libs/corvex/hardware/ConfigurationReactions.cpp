@@ -4,7 +4,7 @@
 #include "corvex/hardware/ChannelList.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationRules.h"
-#include "corvex/values/ValueConversion.h"
+#include "corvex/values/text/ValueConversion.h"
 
 #include <algorithm>
 

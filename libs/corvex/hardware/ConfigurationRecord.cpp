@@ -3,7 +3,7 @@
 #include "corvex/common/ConfigurationInfo.h"
 #include "corvex/hardware/ChannelList.h"
 #include "corvex/hardware/Configuration.h"
-#include "corvex/values/ValueConversion.h"
+#include "corvex/values/text/ValueConversion.h"
 
 #include <charconv>
 #include <cmath>

@@ -2,7 +2,7 @@
 #include "corvex/hardware/ConfigurationRules.h"
 
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/values/ValueConversion.h"
+#include "corvex/values/text/ValueConversion.h"
 
 #include <QSizeF>
 

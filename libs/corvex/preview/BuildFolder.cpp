@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/preview/BuildFolder.h"
 
-#include "corvex/common/FileHelper.h"
-#include "corvex/common/RegularFile.h"
 #include "corvex/common/TextHelper.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/RegularFile.h"
 #include "corvex/preview/Bounds.h"
 
 #include <QCryptographicHash>

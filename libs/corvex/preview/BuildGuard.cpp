@@ -2,7 +2,7 @@
 #include "corvex/preview/BuildGuard.h"
 
 #include "corvex/common/PictureFile.h"
-#include "corvex/common/RegularFile.h"
+#include "corvex/common/files/RegularFile.h"
 #include "corvex/preview/Bounds.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/preview/StandIns.h"
 
-#include "corvex/common/TemporaryFolder.h"
+#include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/preview/BuildFolder.h"
 #include "corvex/preview/elements/Buttons.h"
 #include "corvex/preview/elements/Channels.h"

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/project/ImageResource.h"
 
-#include "corvex/common/FileHelper.h"
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/IdentifierProperty.h"
 #include "corvex/core/properties/LinkProperty.h"
-#include "corvex/core/properties/StringProperty.h"
-#include "corvex/project/FileNameRules.h"
 #include "corvex/project/Project.h"
-#include "corvex/values/ValueConversion.h"
+#include "corvex/project/files/FileNameRules.h"
+#include "corvex/values/text/ValueConversion.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The half of the value records that walks the model: their text half knows nothing of it.
 #include "corvex/core/ItemList.h"
-#include "corvex/project/Element.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/DependentInfo.h"
-#include "corvex/values/GeneralDataInfo.h"
-#include "corvex/values/IdentifierInfo.h"
-#include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/project/elements/Element.h"
+#include "corvex/values/expressions/GeneralDataInfo.h"
+#include "corvex/values/records/DependentInfo.h"
+#include "corvex/values/records/IdentifierInfo.h"
+#include "corvex/values/records/ObjectLinkInfo.h"
 #include "corvex/variables/ProjectVariable.h"
 
 using namespace Qt::StringLiterals;

@@ -7,7 +7,7 @@
 #include "corvex/core/PropertyValidators.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/MathInfo.h"
+#include "corvex/values/expressions/MathInfo.h"
 
 #include <algorithm>
 #include <span>

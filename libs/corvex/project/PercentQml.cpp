@@ -3,7 +3,7 @@
 
 #include "corvex/core/DesignerProperty.h"
 #include "corvex/core/QmlText.h"
-#include "corvex/values/ValueConversion.h"
+#include "corvex/values/text/ValueConversion.h"
 
 namespace Halvane::Corvex::Designer {
 

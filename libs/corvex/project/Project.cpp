@@ -7,19 +7,19 @@
 #include "corvex/core/ModelObserver.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/PropertyValidators.h"
+#include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/IdentifierProperty.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/core/properties/ObjectListProperty.h"
 #include "corvex/core/properties/ObjectProperty.h"
-#include "corvex/core/properties/StringProperty.h"
 #include "corvex/editing/undo/UndoCommand.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/hardware/HardwareConfigurations.h"
-#include "corvex/project/FileNameRules.h"
-#include "corvex/project/ProjectAutosave.h"
 #include "corvex/project/Screen.h"
+#include "corvex/project/files/FileNameRules.h"
+#include "corvex/project/files/ProjectAutosave.h"
 
 #include <QAction>
 #include <QFileInfo>

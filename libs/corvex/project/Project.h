@@ -2,9 +2,9 @@
 #pragma once
 
 #include "corvex/core/FileObject.h"
-#include "corvex/project/ProjectFolder.h"
+#include "corvex/project/files/ProjectFolder.h"
 #include "corvex/runtime/RuntimeGenerator.h"
-#include "corvex/values/RuntimeAutoSettingList.h"
+#include "corvex/values/runtime/RuntimeLists.h"
 
 #include <QHash>
 

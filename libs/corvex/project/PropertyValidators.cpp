@@ -3,10 +3,10 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/ItemList.h"
-#include "corvex/project/GroupElement.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/ListInfo.h"
-#include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/project/elements/GroupElement.h"
+#include "corvex/values/records/ListInfo.h"
+#include "corvex/values/records/ObjectLinkInfo.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/values/RuntimePropertyList.h"
+#include "corvex/values/runtime/RuntimeLists.h"
 
 namespace Halvane::Corvex::Designer {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "corvex/core/DesignerObject.h"
-#include "corvex/project/ElementIndex.h"
-#include "corvex/values/RuntimePropertyList.h"
+#include "corvex/project/elements/ElementIndex.h"
+#include "corvex/values/runtime/RuntimeLists.h"
 
 namespace Halvane::Corvex::Designer {
 

@@ -3,10 +3,10 @@
 #include "corvex/common/ConfigurationInfo.h"
 #include "corvex/core/QmlText.h"
 #include "corvex/hardware/Configuration.h"
-#include "corvex/project/Element.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/project/elements/Element.h"
+#include "corvex/values/records/ObjectLinkInfo.h"
 #include "corvex/variables/MappingVariable.h"
 
 #include <mutex>

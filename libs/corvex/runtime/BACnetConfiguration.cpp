@@ -2,8 +2,8 @@
 #include "corvex/runtime/BACnetConfiguration.h"
 
 #include "corvex/common/BACDeviceInfo.h"
-#include "corvex/core/properties/GeneralDataListProperty.h"
-#include "corvex/values/NestedText.h"
+#include "corvex/core/properties/ExpressionProperties.h"
+#include "corvex/values/text/NestedText.h"
 #include "corvex/variables/BACnetDevice.h"
 #include "corvex/variables/BACnetPropertyList.h"
 

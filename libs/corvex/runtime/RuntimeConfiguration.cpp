@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/runtime/RuntimeConfiguration.h"
 
-#include "corvex/common/FileHelper.h"
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/common/PasswordHash.h"
 #include "corvex/common/VariantStream.h"
-#include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/private/PasswordHash.h"
+#include "corvex/values/records/ObjectLinkInfo.h"
 #include "corvex/variables/AutoSettingVariable.h"
 #include "corvex/variables/BACnetDevice.h"
 #include "corvex/variables/CANVariable.h"

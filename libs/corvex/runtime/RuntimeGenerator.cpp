@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/runtime/RuntimeGenerator.h"
 
-#include "corvex/common/FileHelper.h"
-#include "corvex/common/FolderLock.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/Processors.h"
-#include "corvex/common/TemporaryFolder.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/FolderLock.h"
+#include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/common/zip/ZipHelper.h"
 #include "corvex/core/DesignerObject.h"
-#include "corvex/core/ObjectXmlWriter.h"
+#include "corvex/core/xml/ObjectXmlWriter.h"
 #include "corvex/runtime/RuntimeConfiguration.h"
 
 #include <QBuffer>

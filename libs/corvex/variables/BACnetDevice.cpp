@@ -3,10 +3,8 @@
 
 #include "corvex/common/BACDeviceInfo.h"
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/BooleanProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/EnumProperty.h"
-#include "corvex/core/properties/IntegerProperty.h"
-#include "corvex/core/properties/StringProperty.h"
 #include "corvex/core/properties/ValidationError.h"
 
 using namespace Qt::StringLiterals;

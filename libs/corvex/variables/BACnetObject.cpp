@@ -2,8 +2,8 @@
 #include "corvex/variables/BACnetObject.h"
 
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/GeneralDataListProperty.h"
-#include "corvex/core/properties/StringProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/core/properties/ValidationError.h"
 #include "corvex/variables/BACnetPropertyList.h"
 

@@ -2,7 +2,7 @@
 #include "corvex/variables/BooleanVariable.h"
 
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/BooleanProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
 
 using namespace Qt::StringLiterals;
 

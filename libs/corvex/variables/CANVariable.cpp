@@ -2,7 +2,7 @@
 #include "corvex/variables/CANVariable.h"
 
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/variables/CanParameterMap.h"
 
 namespace Halvane::Corvex::Designer {

@@ -3,7 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/properties/ValidationError.h"
-#include "corvex/values/ExpressionRules.h"
+#include "corvex/values/expressions/ExpressionRules.h"
 
 #include <QLocale>
 #include <QSet>

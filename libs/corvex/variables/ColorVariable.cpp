@@ -2,7 +2,7 @@
 #include "corvex/variables/ColorVariable.h"
 
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/ColorProperty.h"
+#include "corvex/core/properties/ColorProperties.h"
 
 namespace Halvane::Corvex::Designer {
 

@@ -2,7 +2,7 @@
 #include "corvex/variables/DeviceVariable.h"
 
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/MapProperty.h"
+#include "corvex/core/properties/CollectionProperties.h"
 
 namespace Halvane::Corvex::Designer {
 

@@ -2,10 +2,8 @@
 #include "corvex/variables/FtpVariable.h"
 
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/BooleanProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/EnumProperty.h"
-#include "corvex/core/properties/IntegerProperty.h"
-#include "corvex/core/properties/StringProperty.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,7 +2,7 @@
 #include "corvex/variables/MappingVariable.h"
 
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/variables/ModbusMap.h"
 
 namespace Halvane::Corvex::Designer {

@@ -3,7 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/StringProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
 #include "corvex/variables/LogVariable.h"
 
 #include <limits>

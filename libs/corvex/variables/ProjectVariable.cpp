@@ -4,10 +4,9 @@
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/PropertyValidators.h"
-#include "corvex/core/properties/BooleanProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/EnumProperty.h"
 #include "corvex/core/properties/IdentifierProperty.h"
-#include "corvex/core/properties/StringProperty.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,7 +2,7 @@
 #include "corvex/variables/StringVariable.h"
 
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/StringProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
 
 namespace Halvane::Corvex::Designer {
 

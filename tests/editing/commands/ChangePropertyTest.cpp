@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/editing/commands/ChangeProperty.h"
-#include "corvex/values/IdentifierInfo.h"
+#include "corvex/editing/commands/objects/ChangeProperty.h"
+#include "corvex/values/records/IdentifierInfo.h"
 
 #include "CommandFixture.h"
 

@@ -4,9 +4,9 @@
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/editing/commands/ModelCommand.h"
 #include "corvex/editing/undo/UndoStack.h"
-#include "corvex/project/Element.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
+#include "corvex/project/elements/Element.h"
 
 #include <QDir>
 #include <QFile>

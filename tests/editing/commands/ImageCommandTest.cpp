@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Commands that work on the files of pictures.
-#include "corvex/common/FileHelper.h"
-#include "corvex/editing/commands/AddElementsWithResources.h"
-#include "corvex/editing/commands/AddImage.h"
-#include "corvex/editing/commands/AddImageFromData.h"
-#include "corvex/editing/commands/AddImagesAndElements.h"
-#include "corvex/editing/commands/DeleteImage.h"
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/editing/commands/EditingDialogs.h"
-#include "corvex/editing/commands/RenameImage.h"
 #include "corvex/editing/commands/RenameProject.h"
-#include "corvex/editing/commands/ReplaceImage.h"
+#include "corvex/editing/commands/images/AddElementsWithResources.h"
+#include "corvex/editing/commands/images/AddImage.h"
+#include "corvex/editing/commands/images/AddImageFromData.h"
+#include "corvex/editing/commands/images/AddImagesAndElements.h"
+#include "corvex/editing/commands/images/DeleteImage.h"
+#include "corvex/editing/commands/images/RenameImage.h"
+#include "corvex/editing/commands/images/ReplaceImage.h"
 #include "corvex/project/ImageResource.h"
 
 #include "CommandFixture.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/editing/commands/ImportVariables.h"
+#include "corvex/editing/commands/variables/ImportVariables.h"
 #include "corvex/variables/exchange/VariableExport.h"
 #include "corvex/variables/exchange/VariableImport.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Every place and form in which something can be named: found, renamed, dropped, and back again.
-#include "corvex/editing/commands/ReferenceChanges.h"
-#include "corvex/editing/commands/ReferenceIndex.h"
-#include "corvex/editing/commands/ReferenceScanner.h"
+#include "corvex/editing/references/ReferenceChanges.h"
+#include "corvex/editing/references/ReferenceIndex.h"
+#include "corvex/editing/references/ReferenceScanner.h"
 
 #include "CommandFixture.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/IDesignerFactory.h"
 #include "corvex/core/PropertyTable.h"
-#include "corvex/core/properties/IntegerProperty.h"
-#include "corvex/project/FunctionElement.h"
+#include "corvex/core/properties/BasicProperties.h"
+#include "corvex/project/elements/FunctionElement.h"
 
 #include <QObject>
 #include <QtPlugin>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/core/properties/IntegerProperty.h"
-#include "corvex/project/Element.h"
+#include "corvex/core/properties/BasicProperties.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/BorderInfo.h"
-#include "corvex/values/GeneralDataList.h"
-#include "corvex/values/PropertyList.h"
+#include "corvex/project/elements/Element.h"
+#include "corvex/values/expressions/GeneralDataList.h"
+#include "corvex/values/records/BorderInfo.h"
+#include "corvex/values/runtime/PropertyList.h"
 
 #include <QGuiApplication>
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/FileHelper.h"
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/preview/PreviewSession.h"
-#include "corvex/project/GroupElement.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
-#include "corvex/values/PropertyList.h"
-#include "corvex/values/UpdateObjectList.h"
+#include "corvex/project/elements/GroupElement.h"
+#include "corvex/values/expressions/UpdateObjectList.h"
+#include "corvex/values/runtime/PropertyList.h"
 #include "corvex/variables/MappingVariable.h"
 
 #include "support/CodeShape.h"

@@ -2,8 +2,8 @@
 #include "corvex/common/zip/ZipHelper.h"
 
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/common/SafeFile.h"
-#include "corvex/common/zip/DeflatedBytes.h"
+#include "corvex/common/files/SafeFile.h"
+#include "corvex/common/zip/private/DeflatedBytes.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "corvex/core/properties/TypedProperty.h"
-#include "corvex/values/BorderInfo.h"
+#include "corvex/values/records/BorderInfo.h"
 
 namespace Halvane::Corvex::Designer {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "corvex/core/properties/TypedProperty.h"
-#include "corvex/values/EnumInfo.h"
+#include "corvex/values/records/EnumInfo.h"
 
 namespace Halvane::Corvex::Designer {
 

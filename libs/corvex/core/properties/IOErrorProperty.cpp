@@ -2,7 +2,7 @@
 #include "corvex/core/properties/IOErrorProperty.h"
 
 #include "corvex/core/properties/ValidationError.h"
-#include "corvex/values/CommaText.h"
+#include "corvex/values/text/CommaText.h"
 
 using namespace Qt::StringLiterals;
 

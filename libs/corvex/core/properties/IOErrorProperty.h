@@ -2,7 +2,7 @@
 #pragma once
 
 #include "corvex/core/properties/TypedProperty.h"
-#include "corvex/values/IOErrorInfo.h"
+#include "corvex/values/records/FieldbusErrorInfo.h"
 
 namespace Halvane::Corvex::Designer {
 

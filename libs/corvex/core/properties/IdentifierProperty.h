@@ -2,7 +2,7 @@
 #pragma once
 
 #include "corvex/core/properties/TypedProperty.h"
-#include "corvex/values/IdentifierInfo.h"
+#include "corvex/values/records/IdentifierInfo.h"
 
 namespace Halvane::Corvex::Designer {
 

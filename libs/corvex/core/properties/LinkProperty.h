@@ -3,7 +3,7 @@
 
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/properties/TypedProperty.h"
-#include "corvex/values/ObjectLinkInfo.h"
+#include "corvex/values/records/ObjectLinkInfo.h"
 
 namespace Halvane::Corvex::Designer {
 

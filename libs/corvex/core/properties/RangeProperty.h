@@ -2,7 +2,7 @@
 #pragma once
 
 #include "corvex/core/properties/TypedProperty.h"
-#include "corvex/values/RangeInfo.h"
+#include "corvex/values/records/RangeInfo.h"
 
 namespace Halvane::Corvex::Designer {
 

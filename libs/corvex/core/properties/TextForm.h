@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/values/ValueConversion.h"
+#include "corvex/values/text/ValueConversion.h"
 
 namespace Halvane::Corvex::Designer {
 

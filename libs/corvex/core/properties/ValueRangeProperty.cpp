@@ -4,7 +4,7 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/core/properties/ValidationError.h"
-#include "corvex/values/RangeInfo.h"
+#include "corvex/values/records/RangeInfo.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "corvex/core/properties/TypedProperty.h"
-#include "corvex/values/ValueRangeInfo.h"
+#include "corvex/values/records/ValueRangeInfo.h"
 
 #include <optional>
 

@@ -6,9 +6,9 @@
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/hardware/DeviceChannels.h"
 #include "corvex/hardware/HardwareConfigurations.h"
-#include "corvex/project/Element.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
+#include "corvex/project/elements/Element.h"
 
 #include <array>
 

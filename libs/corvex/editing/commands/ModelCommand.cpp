@@ -3,8 +3,8 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
-#include "corvex/editing/commands/EditStep.h"
-#include "corvex/editing/commands/GroupPlaces.h"
+#include "corvex/editing/commands/groups/GroupPlaces.h"
+#include "corvex/editing/commands/private/EditStep.h"
 
 #include <optional>
 

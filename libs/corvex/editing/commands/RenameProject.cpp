@@ -2,9 +2,9 @@
 #include "corvex/editing/commands/RenameProject.h"
 
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/editing/commands/EditStep.h"
-#include "corvex/project/FileNameRules.h"
+#include "corvex/editing/commands/private/EditStep.h"
 #include "corvex/project/Project.h"
+#include "corvex/project/files/FileNameRules.h"
 
 using namespace Qt::StringLiterals;
 

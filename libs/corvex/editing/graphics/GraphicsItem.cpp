@@ -3,10 +3,10 @@
 
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/properties/TransformOriginProperty.h"
-#include "corvex/editing/commands/ChangeProperty.h"
+#include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/editing/graphics/CanvasScene.h"
 #include "corvex/editing/graphics/FramePoint.h"
-#include "corvex/values/ValueConversion.h"
+#include "corvex/values/text/ValueConversion.h"
 
 #include <QGraphicsItem>
 #include <QGraphicsScene>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/graphics/GraphicsItemGroup.h"
 
-#include "corvex/editing/commands/ChangeProperty.h"
+#include "corvex/editing/commands/objects/ChangeProperty.h"
 
 #include <QScopedValueRollback>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/graphics/GraphicsRectangle.h"
 
-#include "corvex/values/ValueConversion.h"
+#include "corvex/values/text/ValueConversion.h"
 
 #include <QPainter>
 

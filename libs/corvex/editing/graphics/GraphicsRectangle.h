@@ -2,7 +2,7 @@
 #pragma once
 
 #include "corvex/editing/graphics/FramedItem.h"
-#include "corvex/values/BorderInfo.h"
+#include "corvex/values/records/BorderInfo.h"
 
 #include <QColor>
 #include <QGraphicsItem>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/preview/state/SavedState.h"
 
-#include "corvex/common/FileHelper.h"
-#include "corvex/common/RegularFile.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/RegularFile.h"
 #include "corvex/preview/Bounds.h"
 #include "corvex/preview/OutsideThread.h"
 

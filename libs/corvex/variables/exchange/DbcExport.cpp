@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/variables/exchange/DbcExport.h"
 
-#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/variables/CANVariable.h"
 #include "corvex/variables/CanParameterMap.h"
 

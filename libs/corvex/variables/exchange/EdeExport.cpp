@@ -3,7 +3,7 @@
 
 #include "corvex/common/BACDeviceInfo.h"
 #include "corvex/common/BACnetTables.h"
-#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/variables/BACnetDevice.h"
 #include "corvex/variables/BACnetObject.h"
 #include "corvex/variables/BACnetPropertyList.h"

@@ -2,7 +2,7 @@
 #include "corvex/variables/exchange/ModbusExport.h"
 
 #include "corvex/core/DesignerObject.h"
-#include "corvex/core/properties/GeneralDataListProperty.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/variables/ModbusMap.h"
 #include "corvex/variables/exchange/CsvText.h"
 

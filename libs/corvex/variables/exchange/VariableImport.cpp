@@ -2,7 +2,7 @@
 #include "corvex/variables/exchange/VariableImport.h"
 
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/core/properties/RealProperty.h"
+#include "corvex/core/properties/BasicProperties.h"
 #include "corvex/variables/NumberVariable.h"
 
 #include <QRegularExpression>

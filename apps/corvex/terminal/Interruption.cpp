@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/Interruption.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Halvane::Corvex::Tool {
+
+namespace {
+
+volatile std::sig_atomic_t isNoted = 0;
+volatile std::sig_atomic_t nothing = -1; //!< a file without contents
+
+void note(int)
+{
+    const int before = errno;
+    isNoted = 1;
+    // No signal wakes reading that begins from now on: it finds no more input.
+    if (nothing >= 0) {
+        dup2(nothing, STDIN_FILENO);
+    }
+    errno = before;
+}
+
+} // namespace
+
+Interruption::Interruption()
+{
+    nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    struct sigaction action = {};
+    action.sa_handler = note;
+    // Without SA_RESTART, so that reading ends.
+    for (std::size_t i = 0; i < signalNumbers.size(); ++i) {
+        sigaction(signalNumbers[i], &action, &m_before[i]);
+    }
+}
+
+Interruption::~Interruption()
+{
+    for (std::size_t i = 0; i < signalNumbers.size(); ++i) {
+        sigaction(signalNumbers[i], &m_before[i], nullptr);
+    }
+    if (nothing >= 0) {
+        close(nothing);
+        nothing = -1;
+    }
+}
+
+bool Interruption::isWanted()
+{
+    return isNoted;
+}
+
+} // namespace Halvane::Corvex::Tool

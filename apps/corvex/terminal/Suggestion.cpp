@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/Suggestion.h"
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+namespace {
+
+//! How many letters must be put in, left out or changed to make one text of the other.
+qsizetype distance(QStringView a, QStringView b)
+{
+    std::vector<qsizetype> row(size_t(b.size()) + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (qsizetype i = 0; i < a.size(); ++i) {
+        qsizetype diagonal = std::exchange(row[0], i + 1);
+        for (qsizetype j = 0; j < b.size(); ++j) {
+            const auto at = size_t(j) + 1;
+            const qsizetype changed = diagonal + (a.at(i) == b.at(j) ? 0 : 1);
+            diagonal = row[at];
+            row[at] = std::min({changed, row[at] + 1, row[at - 1] + 1});
+        }
+    }
+    return row.back();
+}
+
+} // namespace
+
+QString Suggestion::nearest(const QString &text, const QStringList &names)
+{
+    constexpr qsizetype mostSlips = 4;
+    qsizetype least = std::clamp<qsizetype>(text.size() / 2, 1, mostSlips) + 1;
+    QString found;
+    for (const QString &name : names) {
+        if (name == text || std::abs(text.size() - name.size()) >= least) {
+            continue;
+        }
+        const qsizetype between = distance(text.toLower(), name.toLower());
+        if (between < least) {
+            least = between;
+            found = name;
+        }
+    }
+    return found;
+}
+
+QString Suggestion::unknown(const QString &what, const QString &name, const QStringList &names,
+                            const QString &advice)
+{
+    const QString near = nearest(name, names);
+    return near.isEmpty() ? u"There is no %1 \"%2\". %3"_s.arg(what, name, advice)
+                          : u"There is no %1 \"%2\"; did you mean \"%3\"? %4"_s.arg(what, name, near, advice);
+}
+
+QString Suggestion::unknown(const QString &what, const QString &name, const QStringList &names)
+{
+    return unknown(what, name, names, u"There are %1."_s.arg(names.join(u", "_s)));
+}
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/Terminal.h"
+
+#include "terminal/JsonWriter.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+Terminal::Terminal()
+    : m_isInteractive(isatty(STDERR_FILENO) == 1)
+{ }
+
+Terminal::~Terminal()
+{
+    clearProgress();
+}
+
+void Terminal::useJson()
+{
+    m_json = std::make_unique<JsonWriter>(*this);
+}
+
+void Terminal::print(QStringView line)
+{
+    if (m_json) {
+        m_output.append(line.toString());
+    } else {
+        write(line.toUtf8().append('\n'));
+    }
+}
+
+void Terminal::write(const QByteArray &utf8)
+{
+    clearProgress();
+    if (m_error == 0
+        && std::fwrite(utf8.constData(), 1, size_t(utf8.size()), stdout) != size_t(utf8.size())) {
+        m_error = errno;
+    }
+}
+
+//! Messages quote what they are about, which may be as long as a file.
+static QString shortened(QStringView message)
+{
+    constexpr qsizetype most = 2000;
+    constexpr qsizetype end = 500;
+    return message.size() <= most
+               ? message.toString()
+               : message.first(most - end).toString() + u" [...] "_s + message.last(end).toString();
+}
+
+void Terminal::complain(QStringView text)
+{
+    const QString message = shortened(text);
+    if (m_json) {
+        m_errors.append(message);
+    }
+    writeError(u"corvex: %1"_s.arg(oneLine(message)));
+}
+
+void Terminal::printError(QStringView text)
+{
+    const QString line = shortened(text);
+    if (m_json) {
+        m_errors.append(line);
+    }
+    writeError(line);
+}
+
+void Terminal::writeError(QStringView line)
+{
+    clearProgress();
+    if (std::fflush(stdout) != 0 && m_error == 0) {
+        m_error = errno;
+    }
+    const QByteArray utf8 = line.toUtf8().append('\n');
+    std::fwrite(utf8.constData(), 1, size_t(utf8.size()), stderr);
+}
+
+void Terminal::showProgress(QStringView activity)
+{
+    if (m_isInteractive) {
+        clearProgress();
+        std::fprintf(stderr, "%s ...", oneLine(activity).toUtf8().constData());
+        std::fflush(stderr);
+        m_hasProgress = true;
+    }
+}
+
+void Terminal::clearProgress()
+{
+    if (std::exchange(m_hasProgress, false)) {
+        std::fputs("\r\033[K", stderr);
+    }
+}
+
+void Terminal::finishJson()
+{
+    m_json->beginObject();
+    if (!m_output.isEmpty()) {
+        m_json->member("output"_L1, m_output);
+    }
+    if (!m_errors.isEmpty()) {
+        m_json->member("errors"_L1, m_errors);
+    }
+    m_json->finish();
+}
+
+bool Terminal::finish()
+{
+    clearProgress();
+    if (m_json) {
+        finishJson();
+    }
+    if (std::fflush(stdout) != 0 && m_error == 0) {
+        m_error = errno;
+    }
+    if (m_error == 0 || m_error == EPIPE) {
+        return true;
+    }
+    complain(u"The result cannot be written: %1."_s.arg(QString::fromLocal8Bit(std::strerror(m_error))));
+    return false;
+}
+
+//! Characters that show what stands behind them in another order.
+static bool turnsText(QChar character)
+{
+    const auto in = [character](char16_t first, char16_t last) {
+        return character >= first && character <= last;
+    };
+    return in(0x202A, 0x202E) || in(0x2066, 0x2069);
+}
+
+QString Terminal::oneLine(QStringView text)
+{
+    static constexpr struct
+    {
+        char16_t character;
+        char letter;
+    } escapes[] = {{u'\n', 'n'}, {u'\r', 'r'}, {u'\t', 't'}, {u'\\', '\\'}};
+
+    QString line;
+    line.reserve(text.size());
+    for (const QChar character : text) {
+        const auto *escape = std::ranges::find(escapes, character.unicode(),
+                                               [](const auto &entry) { return entry.character; });
+        if (escape != std::end(escapes)) {
+            line += u'\\';
+            line += QLatin1Char(escape->letter);
+        } else if (character.category() == QChar::Other_Control || character == QChar::LineSeparator
+                   || character == QChar::ParagraphSeparator || turnsText(character)) {
+            line += u"\\u%1"_s.arg(character.unicode(), 4, 16, QLatin1Char('0'));
+        } else {
+            line += character;
+        }
+    }
+    return line;
+}
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "DeviceFolder.h"
+#include "ProjectBuild.h"
+#include "terminal/Call.h"
+#include "terminal/JsonWriter.h"
+#include "terminal/Terminal.h"
+#include "verbs/Verb.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+namespace {
+
+void report(const QString &folder, const Call &call)
+{
+    const QStringList files = QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    if (!call.asJson()) {
+        call.terminal().print(
+            Terminal::oneLine(u"%1: %2 files"_s.arg(folder, QString::number(files.size()))));
+        return;
+    }
+    JsonWriter &json = call.json();
+    json.beginObject();
+    json.member("folder"_L1, folder);
+    json.member("files"_L1, files);
+    json.endObject();
+}
+
+ExitCode run(const Call &call)
+{
+    const QString folder = call.value(u"output"_s);
+    if (folder.isEmpty()) {
+        return call.misused(u"The folder for the build is missing: corvex build FILE -o DIR."_s);
+    }
+    const ExitCode code = ProjectBuild::run(call, folder,
+                                            call.isSet(u"force"_s) ? ProjectBuild::WithProblems::Build
+                                                                   : ProjectBuild::WithProblems::Refuse);
+    if (code == ExitCode::Done) {
+        report(DeviceFolder(folder).projectPath(), call);
+    }
+    return code;
+}
+
+QList<QCommandLineOption> options()
+{
+    return {
+        QCommandLineOption({u"o"_s, u"output"_s}, u"The folder that the build is brought to."_s, u"DIR"_s),
+        QCommandLineOption(u"force"_s, u"Build a project with problems."_s)};
+}
+
+} // namespace
+
+const Verb buildVerb{
+    .name = "build",
+    .arguments = "FILE -o DIR",
+    .summary = "make the folder that goes to the device",
+    .details =
+        [] {
+            return uR"(Builds the project and brings the result to DIR, which then holds the folder "project" with
+one QML file for each screen, the images, the zipped project and what the device reads
+about variables and fieldbuses (config.kdrc, canConfig.kdrc, bacConfig.kdrc; "corvex
+config-dump" shows them). DIR is made when it is missing. Nothing of yours is replaced: DIR
+must be new, empty, or hold an earlier build and nothing else. A project with problems is not
+built without --force, and a build that fails leaves DIR as it was.)"_s;
+        },
+    .example = "corvex build examples/PumpStation/PumpStation.kdproj -o out/PumpStation",
+    .opensProjects = true,
+    .options = options,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool

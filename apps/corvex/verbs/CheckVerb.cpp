@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/checks/ProjectProblems.h"
+#include "corvex/project/Project.h"
+#include "corvex/runtime/RuntimeGenerator.h"
+
+#include "Installation.h"
+#include "PreviewProgram.h"
+#include "ProjectFile.h"
+#include "terminal/Call.h"
+#include "terminal/ProblemReport.h"
+#include "terminal/Terminal.h"
+#include "verbs/Verb.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+//! Runs a build of the project and adds what is wrong with its screens. Of a project that cannot be built
+//! the problems tell why, as a rule.
+ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> &problems)
+{
+    if (file.project().screens()->listItems().isEmpty()) {
+        return ExitCode::Done;
+    }
+    call.terminal().showProgress(u"looking at the screens of %1"_s.arg(file.path()));
+    RuntimeGenerator &generator = file.project().runtimeGenerator();
+    const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
+    file.project().generateRuntimeFiles();
+    if (generator.buildFolder().isEmpty()) {
+        return call.failed(generator.errorString(),
+                           hasErrors(problems) ? ExitCode::Problems : ExitCode::File);
+    }
+    PreviewProgram program(call, generator.buildFolder() + u"/classes"_s);
+    program.process().setProcessChannelMode(call.asJson() ? QProcess::SeparateChannels
+                                                          : QProcess::ForwardedErrorChannel);
+    if (!program.start({generator.buildFolder(), u"--audit"_s, u"--trust"_s})
+        || !program.process().waitForFinished(-1)) {
+        return ExitCode::File;
+    }
+    const QJsonArray entries = QJsonDocument::fromJson(program.process().readAllStandardOutput()).array();
+    for (const auto &entry : entries) {
+        problems.append(
+            {ProblemCode::ScreenLook, entry[u"object"].toString(), QString(), entry[u"message"].toString()});
+    }
+    const ExitCode code = program.finish();
+    return code == ExitCode::Problems ? ExitCode::Done : code;
+}
+
+ExitCode check(const Call &call, qsizetype argument, QList<ProblemsOfFile> &all)
+{
+    ProjectFile file;
+    const ConfigurationContainer *models =
+        file.open(call, ProjectFile::Use::Read, argument) ? Installation::loadModels(call) : nullptr;
+    if (!models) {
+        return ExitCode::File;
+    }
+    call.terminal().showProgress(u"checking %1"_s.arg(file.path()));
+    QList<Problem> problems = ProjectProblems::find(file.project(), *models);
+    const ExitCode code = call.isSet(u"screens"_s) ? checkScreens(call, file, problems) : ExitCode::Done;
+    all.append({file.path(), problems});
+    return code == ExitCode::Done && hasErrors(problems) ? ExitCode::Problems : code;
+}
+
+void print(const ProblemsOfFile &one, const Call &call)
+{
+    const QString start = call.arguments().size() > 1 ? Terminal::oneLine(one.file) + u": "_s : QString();
+    for (const Problem &problem : one.problems) {
+        call.terminal().print(start + ProblemReport::line(problem));
+    }
+}
+
+ExitCode run(const Call &call)
+{
+    ExitCode worst = ExitCode::Done;
+    QList<ProblemsOfFile> all;
+    for (qsizetype i = 0; i < call.arguments().size(); ++i) {
+        const qsizetype before = all.size();
+        worst = std::max(worst, check(call, i, all));
+        if (!call.asJson() && all.size() > before) {
+            print(all.constLast(), call);
+        }
+    }
+    if (call.asJson()) {
+        ProblemReport::printJson(all, call.terminal());
+    }
+    return worst;
+}
+
+QList<QCommandLineOption> options()
+{
+    return {QCommandLineOption(u"screens"_s, u"Run the screens, too, and look at them."_s)};
+}
+
+} // namespace
+
+const Verb checkVerb{
+    .name = "check",
+    .arguments = "FILE...",
+    .summary = "print every problem of a project",
+    .details =
+        [] {
+            return uR"(Loads the project, validates everything and prints one line for each problem: the path of the
+object, the property, and what is wrong. Among them are parts of the file that could not be
+read, with line and column, names that lead nowhere, and generated code that the device could
+not read. Without problems nothing is printed; with any the exit code is 1.
+
+With --screens, the screens are run as the device would run them: texts that do not fit,
+elements that are outside of the screen or wholly hidden by others, and all that goes wrong
+while they run are problems, too. They are looked at as they start, with the first values of
+their variables; what hides others is a rectangle or a picture without transparent parts. A
+script of "corvex preview" looks at everything else.)"_s;
+        },
+    .example = "corvex check examples/PumpStation/PumpStation.kdproj",
+    .mostArguments = Verb::anyNumber,
+    .opensProjects = true,
+    .options = options,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool

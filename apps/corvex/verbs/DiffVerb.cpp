@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/Project.h"
+
+#include "ProjectDiff.h"
+#include "ProjectFile.h"
+#include "terminal/Call.h"
+#include "terminal/JsonWriter.h"
+#include "terminal/Terminal.h"
+#include "verbs/Verb.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+namespace {
+
+using Designer::Project;
+using Difference = ProjectDiff::Difference;
+
+QString lineOf(const Difference &difference)
+{
+    switch (difference.kind) {
+    case ProjectDiff::Added:
+    case ProjectDiff::Removed:
+        return u"%1 %2 %3"_s.arg(ProjectDiff::nameOf(difference.kind), difference.className, difference.path);
+    default:
+        return u"%1 %2: %3 -> %4"_s.arg(ProjectDiff::nameOf(difference.kind), difference.path,
+                                        difference.before, difference.after);
+    }
+}
+
+void printJson(const QList<Difference> &differences, const Call &call)
+{
+    JsonWriter &json = call.json();
+    json.beginObject();
+    json.name("differences"_L1);
+    json.beginArray();
+    for (const Difference &difference : differences) {
+        json.beginObject();
+        json.member("kind"_L1, ProjectDiff::nameOf(difference.kind));
+        json.member("class"_L1, difference.className);
+        json.member("path"_L1, difference.path);
+        if (difference.kind != ProjectDiff::Added && difference.kind != ProjectDiff::Removed) {
+            json.member("old"_L1, difference.before);
+            json.member("new"_L1, difference.after);
+        }
+        json.endObject();
+    }
+    json.endArray();
+    json.endObject();
+}
+
+void print(const QList<Difference> &differences, const Call &call)
+{
+    if (call.asJson()) {
+        printJson(differences, call);
+        return;
+    }
+    for (const Difference &difference : differences) {
+        call.terminal().print(Terminal::oneLine(lineOf(difference)));
+    }
+}
+
+//! Version control names a project that is not there yet, or no more, /dev/null.
+bool isNothing(const Call &call, qsizetype argument)
+{
+    return call.argument(argument) == "/dev/null"_L1;
+}
+
+//! Prints how the projects of two arguments differ.
+ExitCode compare(const Call &call, qsizetype oldArgument, qsizetype newArgument, bool &differs)
+{
+    ProjectFile before;
+    ProjectFile after;
+    using Use = ProjectFile::Use;
+    const bool hasBefore = !isNothing(call, oldArgument);
+    const bool hasAfter = !isNothing(call, newArgument);
+    if ((hasBefore && !before.open(call, Use::Read, oldArgument))
+        || (hasAfter && !after.open(call, Use::Read, newArgument))) {
+        return ExitCode::File;
+    }
+    QList<Difference> differences;
+    if (hasBefore && hasAfter) {
+        differences = ProjectDiff(before.project(), after.project()).differences();
+    } else if (hasBefore || hasAfter) {
+        const Project &only = hasBefore ? before.project() : after.project();
+        differences.append({hasBefore ? ProjectDiff::Removed : ProjectDiff::Added,
+                            only.getIdName(),
+                            only.className(),
+                            {},
+                            {}});
+    }
+    differs = !differences.isEmpty();
+    print(differences, call);
+    return ExitCode::Done;
+}
+
+//! As git calls it: PATH OLD-FILE OLD-HEX OLD-MODE NEW-FILE NEW-HEX NEW-MODE, of what is not merged PATH
+//! alone. Any exit code but 0 ends git.
+ExitCode compareForGit(const Call &call)
+{
+    constexpr qsizetype oldFile = 1;
+    constexpr qsizetype newFile = 4;
+    const qsizetype count = call.arguments().size();
+    if (count == 1) {
+        call.terminal().print(Terminal::oneLine(u"%1: not merged"_s.arg(call.argument(0))));
+        return ExitCode::Done;
+    }
+    if (count <= newFile) {
+        return call.misused(u"With --git the arguments are those that git gives to a diff command."_s);
+    }
+    bool differs = false;
+    call.terminal().print(Terminal::oneLine(u"%1:"_s.arg(call.argument(0))));
+    return compare(call, oldFile, newFile, differs);
+}
+
+ExitCode run(const Call &call)
+{
+    if (call.isSet(u"git"_s)) {
+        return compareForGit(call);
+    }
+    if (call.arguments().size() != 2) {
+        return call.misused(u"Two projects are compared: corvex diff A B."_s);
+    }
+    bool differs = false;
+    const ExitCode code = compare(call, 0, 1, differs);
+    return code == ExitCode::Done && differs ? ExitCode::Problems : code;
+}
+
+QList<QCommandLineOption> options()
+{
+    return {QCommandLineOption(u"git"_s, u"Take the arguments that git gives, and exit with 0 for any two "
+                                         "projects that can be read."_s)};
+}
+
+} // namespace
+
+const Verb diffVerb{
+    .name = "diff",
+    .arguments = "A B",
+    .summary = "tell what became of one project in another",
+    .details =
+        [] {
+            return uR"(Compares two projects object by object: what is in one list under one name is the same object.
+Prints what was added, removed, renamed or moved and every value that changed, a line each; in
+JSON each has "kind", "class", "path" and, where there are two sides, "old" and "new". Images with
+the same name and other contents have changed, where both files are there. The exit code is 0 when
+the projects are equal and 1 when they are not.
+
+git shows its differences in this way with
+    git config diff.corvex.command "corvex diff --git"
+    echo "*.kdproj diff=corvex" >>.gitattributes)"_s;
+        },
+    .example = "corvex diff examples/PumpStation/PumpStation.kdproj examples/PumpStation/PumpStation.kdproj",
+    .mostArguments = 9,
+    .opensProjects = true,
+    .options = options,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool

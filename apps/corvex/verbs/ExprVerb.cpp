@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/checks/ExpressionSyntax.h"
+#include "corvex/values/expressions/GeneralDataList.h"
+
+#include "terminal/Call.h"
+#include "terminal/JsonWriter.h"
+#include "terminal/Suggestion.h"
+#include "terminal/Terminal.h"
+#include "verbs/Verb.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+constexpr struct
+{
+    const char *name;
+    GeneralDataList::InfoType type;
+} kinds[] = {
+    {"general", GeneralDataList::GeneralExpression}, {"assign", GeneralDataList::AssignExpression},
+    {"bool", GeneralDataList::BoolExpression},       {"math", GeneralDataList::MathExpression},
+    {"string", GeneralDataList::StringExpression},
+};
+
+constexpr struct
+{
+    const char *name;
+    GeneralDataInfo::OutputType type;
+} outputs[] = {
+    {"raw", GeneralDataInfo::RawOutput},         {"string", GeneralDataInfo::StringOutput},
+    {"boolean", GeneralDataInfo::BooleanOutput}, {"integer", GeneralDataInfo::IntegerOutput},
+    {"float", GeneralDataInfo::FloatOutput},     {"number", GeneralDataInfo::NumberOutput},
+    {"color", GeneralDataInfo::ColorOutput},
+};
+
+//! The row of a table with that name, null when there is none.
+template<class Table>
+const auto *findRow(const Table &table, const QString &name)
+{
+    const auto *row =
+        std::ranges::find(table, name, [](const auto &entry) { return QLatin1StringView(entry.name); });
+    return row == std::end(table) ? nullptr : row;
+}
+
+template<class Table>
+QStringList namesOf(const Table &table)
+{
+    QStringList names;
+    for (const auto &row : table) {
+        names.append(QString::fromLatin1(row.name));
+    }
+    return names;
+}
+
+//! Why an expression that could be read gives no code.
+QString obstacle(const GeneralDataList &expression, GeneralDataList::InfoType kind)
+{
+    for (qsizetype i = 0; i < expression.count(); ++i) {
+        const GeneralDataList term({expression.at(i)});
+        if (!term.isValidValueType(kind) || !term.isValidDataType(kind) || !term.isValidValue(kind)) {
+            return u"its term %1, \"%2\", cannot stand in one"_s.arg(QString::number(i + 1), term.toString());
+        }
+    }
+    if (kind == GeneralDataList::AssignExpression && expression.count() % 2 != 0) {
+        return u"its terms are not pairs of a target and a source"_s;
+    }
+    return u"its terms do not go together"_s;
+}
+
+//! The term whose code has the place of an error in it, the last one for an error at the end.
+qsizetype termAt(const GeneralDataList &expression, const ExpressionSyntax::Result &error,
+                 GeneralDataInfo::OutputType output, GeneralDataList::InfoType kind)
+{
+    constexpr qsizetype most = 1000; // the code of each beginning is made
+    GeneralDataList beginning;
+    for (qsizetype i = 0; i < std::min<qsizetype>(expression.count(), most); ++i) {
+        beginning.append(expression.at(i));
+        const QString code = beginning.toQmlString(output, kind);
+        const qsizetype lines = code.count(u'\n') + 1;
+        if (lines > error.line
+            || (lines == error.line && code.size() - code.lastIndexOf(u'\n') > error.column)) {
+            return i;
+        }
+    }
+    return expression.count() - 1;
+}
+
+struct Translation
+{
+    QString code;
+    QString problem; //!< for the user; empty when there is none
+};
+
+Translation translate(const QString &text, GeneralDataList::InfoType kind, GeneralDataInfo::OutputType output,
+                      const QString &kindName)
+{
+    bool ok = false;
+    const GeneralDataList expression(text, &ok);
+    if (!ok) {
+        return {{},
+                u"\"%1\" is no expression. Terms look like \"0406speed\", several like \"<0406speed><0101+>"
+                "<02041>\"."_s.arg(text)};
+    }
+    const QString code = expression.toQmlString(output, kind);
+    if (code.isEmpty() && !expression.isEmpty()) {
+        return {{},
+                u"\"%1\" is no expression of the kind \"%2\": %3."_s.arg(text, kindName,
+                                                                         obstacle(expression, kind))};
+    }
+    ExpressionSyntax syntax;
+    const bool isStatement = kind == GeneralDataList::AssignExpression || code.isEmpty();
+    const ExpressionSyntax::Result result =
+        isStatement ? syntax.checkStatements(code) : syntax.checkExpression(code);
+    if (!result.valid) {
+        const qsizetype place = termAt(expression, result, output, kind);
+        return {code, u"The code is no complete JavaScript at term %1, \"%2\": %3"_s.arg(
+                          QString::number(place + 1), GeneralDataList({expression.at(place)}).toString(),
+                          result.message)};
+    }
+    return {code, {}};
+}
+
+QList<QCommandLineOption> options()
+{
+    return {QCommandLineOption(
+        u"output"_s, u"The type that the code is to have: %1."_s.arg(namesOf(outputs).join(", "_L1)),
+        u"TYPE"_s, u"raw"_s)};
+}
+
+ExitCode run(const Call &call)
+{
+    const auto *kind = findRow(kinds, call.argument(0));
+    if (!kind) {
+        return call.misused(Suggestion::unknown(u"kind of expressions"_s, call.argument(0), namesOf(kinds)));
+    }
+    const QString outputName = call.value(u"output"_s);
+    const auto *output = findRow(outputs, outputName);
+    if (!output) {
+        return call.misused(Suggestion::unknown(u"type"_s, outputName, namesOf(outputs)));
+    }
+    const auto [code, problem] = translate(call.argument(1), kind->type, output->type, call.argument(0));
+    if (call.asJson()) {
+        JsonWriter &json = call.json();
+        json.beginObject();
+        json.member("kind"_L1, call.argument(0));
+        json.member("output"_L1, outputName);
+        json.member("valid"_L1, problem.isEmpty());
+        json.member("code"_L1, code);
+        json.endObject();
+    } else if (problem.isEmpty() || !code.isEmpty()) {
+        call.terminal().print(code);
+    }
+    return problem.isEmpty() ? ExitCode::Done : call.failed(problem, ExitCode::Problems);
+}
+
+} // namespace
+
+const Verb exprVerb{
+    .name = "expr",
+    .arguments = "KIND TEXT [--output TYPE]",
+    .summary = "translate an expression into JavaScript",
+    .details =
+        [] {
+            return uR"(Prints the JavaScript that the device gets for the expression TEXT, which is written as in
+project files. KIND is what the expression is for: %1. An expression that cannot
+be translated, or not into complete JavaScript, gives exit code 1.)"_s.arg(namesOf(kinds).join(", "_L1));
+        },
+    .example = "corvex expr math \"<0406speed><0101*><02042>\"",
+    .fewestArguments = 2,
+    .mostArguments = 2,
+    .options = options,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool

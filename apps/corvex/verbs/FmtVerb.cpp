@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/core/xml/ObjectXmlWriter.h"
+#include "corvex/project/Project.h"
+
+#include "ProjectFile.h"
+#include "RewrittenFile.h"
+#include "terminal/Call.h"
+#include "terminal/JsonWriter.h"
+#include "terminal/Terminal.h"
+#include "verbs/Verb.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+//! Tells, for each note, what would be lost.
+ExitCode refuse(const Call &call, const ProjectFile &file, const QList<ReadNote> &dropped)
+{
+    for (const ReadNote &note : dropped) {
+        call.terminal().printError(Terminal::oneLine(u"%1:%2"_s.arg(file.path(), note.toString())));
+    }
+    return call.failed(u"\"%1\" holds what this version does not know and would lose; it stays as it is. "
+                       "Mend these places, or write it all the same with --force."_s.arg(file.path()),
+                       ExitCode::Problems);
+}
+
+//! Version control may have changed all line ends, which says nothing of the project: those of the first line
+//! are taken for all.
+ObjectXmlWriter::LineEnd lineEndOf(const QString &path)
+{
+    constexpr qint64 longestDeclaration = 1024;
+    QFile file(path);
+    const bool isUnix = file.open(QIODevice::ReadOnly) && file.readLine(longestDeclaration).endsWith("?>\n");
+    return isUnix ? ObjectXmlWriter::LineEnd::Unix : ObjectXmlWriter::LineEnd::Windows;
+}
+
+//! The first line that differs is 0 when none does.
+void report(const Call &call, const ProjectFile &file, qint64 line, bool written)
+{
+    const bool isCanonical = line == 0;
+    if (call.asJson()) {
+        JsonWriter &json = call.json();
+        json.beginObject();
+        json.member("file"_L1, file.path());
+        json.member("canonical"_L1, isCanonical);
+        if (!isCanonical) {
+            json.member("line"_L1, line);
+        }
+        json.member("written"_L1, written);
+        json.endObject();
+    } else if (!isCanonical) {
+        const QString what = written ? u"written in the canonical form"_s : u"not in the canonical form"_s;
+        call.terminal().print(
+            Terminal::oneLine(u"%1:%2: %3"_s.arg(file.path(), QString::number(line), what)));
+    }
+}
+
+ExitCode format(const Call &call, const ProjectFile &file)
+{
+    const QList<ReadNote> dropped = file.dropped();
+    const bool onlyChecks = call.isSet(u"check"_s);
+    const bool loses = !dropped.isEmpty() && !call.isSet(u"force"_s);
+    Project &project = file.project();
+    using Mode = RewrittenFile::Mode;
+    RewrittenFile rewritten(project.fullFilePath(), onlyChecks || loses ? Mode::Compare : Mode::Rewrite);
+    if (!rewritten.openForWriting()) {
+        return call.failed(rewritten.errorString());
+    }
+    project.changePropertyValue(project.designerVersion(), Project::buildVersion());
+    ObjectXmlWriter writer(&rewritten, lineEndOf(project.fullFilePath()));
+    const bool isWritten = writer.write(&project) && rewritten.finish();
+    if (rewritten.hasFailed()) {
+        return call.failed(rewritten.errorString());
+    }
+    if (!isWritten) {
+        return call.failed(u"\"%1\" cannot be written: %2"_s.arg(file.path(), writer.errorString()),
+                           ExitCode::Problems);
+    }
+    const qint64 line = rewritten.differentLine();
+    if (line == 0 || onlyChecks) {
+        report(call, file, line, false);
+        return line == 0 ? ExitCode::Done : ExitCode::Problems;
+    }
+    if (loses) {
+        return refuse(call, file, dropped);
+    }
+    if (!file.isUnchanged(call)) {
+        return ExitCode::File;
+    }
+    if (!rewritten.commit()) {
+        return call.failed(rewritten.errorString());
+    }
+    report(call, file, line, true);
+    return ExitCode::Done;
+}
+
+ExitCode run(const Call &call)
+{
+    using Use = ProjectFile::Use;
+    ProjectFile file;
+    return file.open(call, call.isSet(u"check"_s) ? Use::Read : Use::Change) ? format(call, file)
+                                                                             : ExitCode::File;
+}
+
+QList<QCommandLineOption> options()
+{
+    return {QCommandLineOption(u"check"_s, u"Write nothing; say whether the file would change."_s),
+            QCommandLineOption(u"force"_s, u"Write even though parts of the file are lost."_s)};
+}
+
+} // namespace
+
+const Verb fmtVerb{
+    .name = "fmt",
+    .arguments = "FILE [--check]",
+    .summary = "write a project file in its canonical form",
+    .details =
+        [] {
+            return uR"(Writes the file as the design tool would save it; a file that is so already is not touched.
+With --check nothing is written, and the exit code is 1 when there is something to write. A
+file with parts that this version does not know is not written without --force, since they
+would be lost; elements whose plug-in is missing are kept and lose nothing. Lines that end with
+LF alone, as version control may have made them, stay so.)"_s;
+        },
+    .example = "corvex fmt --check examples/PumpStation/PumpStation.kdproj",
+    .opensProjects = true,
+    .options = options,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/variables/ImportVariables.h"
+#include "corvex/editing/undo/UndoStack.h"
+#include "corvex/project/Project.h"
+#include "corvex/variables/exchange/VariableImport.h"
+
+#include "InputFile.h"
+#include "ProjectFile.h"
+#include "terminal/Call.h"
+#include "terminal/JsonWriter.h"
+#include "terminal/Suggestion.h"
+#include "terminal/Terminal.h"
+#include "verbs/Verb.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+//! What the import did, or would do, told before it is done: new variables leave the import then.
+struct Report
+{
+    struct Value
+    {
+        QString object;
+        QString property;
+        QString before;
+        QString after;
+    };
+
+    explicit Report(const VariableImport &import)
+        : unchanged(import.unchangedCount())
+    {
+        for (const auto &[property, after] : import.changes()) {
+            changed.append(
+                {property->parentObject()->getIdName(), property->id(), property->valueString(), after});
+        }
+        for (const auto &variable : import.additions()) {
+            added.append({variable->getIdName(), variable->className()});
+        }
+    }
+
+    bool isEmpty() const { return changed.isEmpty() && added.isEmpty(); }
+
+    QList<Value> changed;
+    QList<std::pair<QString, QString>> added;
+    qsizetype unchanged;
+};
+
+void printJson(const Report &report, bool isWritten, Terminal &terminal)
+{
+    JsonWriter &json = terminal.json();
+    json.beginObject();
+    json.name("changed"_L1);
+    json.beginArray();
+    for (const auto &[object, property, before, after] : report.changed) {
+        json.beginObject();
+        json.member("object"_L1, object);
+        json.member("property"_L1, property);
+        json.member("before"_L1, before);
+        json.member("after"_L1, after);
+        json.endObject();
+    }
+    json.endArray();
+    json.name("added"_L1);
+    json.beginArray();
+    for (const auto &[name, className] : report.added) {
+        json.beginObject();
+        json.member("name"_L1, name);
+        json.member("class"_L1, className);
+        json.endObject();
+    }
+    json.endArray();
+    json.member("unchanged"_L1, qint64(report.unchanged));
+    json.member("written"_L1, isWritten);
+    json.endObject();
+}
+
+void print(const Report &report, bool isWritten, const Call &call)
+{
+    if (call.asJson()) {
+        printJson(report, isWritten, call.terminal());
+        return;
+    }
+    for (const auto &[object, property, before, after] : report.changed) {
+        call.terminal().print(
+            Terminal::oneLine(u"%1.%2: \"%3\" -> \"%4\""_s.arg(object, property, before, after)));
+    }
+    for (const auto &[name, className] : report.added) {
+        call.terminal().print(Terminal::oneLine(u"%1: new, a %2"_s.arg(name, className)));
+    }
+    call.terminal().print(u"%1 values changed, %2 variables added, %3 as they were"_s.arg(
+        QString::number(report.changed.size()), QString::number(report.added.size()),
+        QString::number(report.unchanged)));
+}
+
+//! All of them, in the order of their lines.
+void complain(QList<CsvText::Problem> problems, const Call &call)
+{
+    std::ranges::stable_sort(problems, {}, &CsvText::Problem::line);
+    for (const CsvText::Problem &problem : std::as_const(problems)) {
+        const QString text = problem.line > 0 ? problem.toString() : problem.text;
+        call.terminal().printError(Terminal::oneLine(u"%1: %2"_s.arg(call.argument(2), text)));
+    }
+}
+
+//! Does the edit. False when the project refuses it. What is wrong with the names of new variables shows only
+//! among the others.
+bool edit(Project &project, VariableImport &import, QList<CsvText::Problem> &problems)
+{
+    QList<const DesignerObject *> added;
+    for (const auto &variable : import.additions()) {
+        added.append(variable.get());
+    }
+    UndoStack *stack = project.undoStack();
+    if (!stack->push(new ImportVariables(project.variables(), import))) {
+        problems.append({0, stack->errorString()});
+        return false;
+    }
+    for (const DesignerObject *variable : added) {
+        if (!variable->idProperty()->isValid()) {
+            const QString name = variable->getIdName();
+            problems.append(
+                {import.lineOf(name), u"%1: %2"_s.arg(name, variable->idProperty()->errorString())});
+        }
+    }
+    return true;
+}
+
+ExitCode take(ProjectFile &file, VariableImport &import, const Call &call)
+{
+    const bool isTrial = call.isSet(u"dry-run"_s);
+    const Report report(import);
+    QList<CsvText::Problem> problems = import.problems() + import.invalidValues();
+    const bool canBeForced = edit(file.project(), import, problems) && import.problems().isEmpty();
+    complain(problems, call);
+    if (!problems.isEmpty() && !(canBeForced && call.isSet(u"force"_s))) {
+        return call.failed(u"\"%1\" stays as it is. %2"_s.arg(
+                               file.path(), canBeForced ? u"Mend the table, or take it over with --force."_s
+                                                        : u"Mend the table."_s),
+                           ExitCode::Problems);
+    }
+    const bool isWritten = !isTrial && !report.isEmpty();
+    const ExitCode code = isWritten ? file.save(call) : ExitCode::Done;
+    if (code == ExitCode::Done) {
+        print(report, isWritten, call);
+    }
+    return code;
+}
+
+ExitCode run(const Call &call)
+{
+    if (call.argument(0) != "variables"_L1) {
+        return call.misused(Suggestion::unknown(u"import"_s, call.argument(0), {u"variables"_s}));
+    }
+    const QString separator = call.value(u"separator"_s);
+    if (call.isSet(u"separator"_s) && separator.size() != 1 && separator != "tab"_L1) {
+        return call.misused(u"\"%1\" is no separator. Give one character, or tab."_s.arg(separator));
+    }
+    QByteArray bytes;
+    InputFile table(call.argument(2));
+    if (!table.open() || !table.readAll(bytes)) {
+        return call.failed(table.errorString());
+    }
+    ProjectFile file;
+    if (!file.open(call, ProjectFile::Use::Change, 1)) {
+        return ExitCode::File;
+    }
+    const QChar character = separator == "tab"_L1 ? QChar(u'\t')
+                            : separator.isEmpty() ? QChar()
+                                                  : separator.at(0);
+    VariableImport import(bytes, file.project(), character);
+    return take(file, import, call);
+}
+
+QList<QCommandLineOption> options()
+{
+    return {QCommandLineOption(u"separator"_s,
+                               u"What parts the columns: one character, or tab. Found by the first line "
+                               "unless given."_s,
+                               u"CHAR"_s),
+            QCommandLineOption({u"n"_s, u"dry-run"_s}, u"Write nothing; tell what would change."_s),
+            QCommandLineOption(u"force"_s, u"Take values that are not valid, and write even though parts of "
+                                           "the file are lost."_s)};
+}
+
+} // namespace
+
+const Verb importVerb{
+    .name = "import",
+    .arguments = "variables FILE CSV",
+    .summary = "take over a table of variables",
+    .details =
+        [] {
+            return u"Reads a table as \"corvex export variables\" prints it, changes the variables that it "
+                   "names\n"
+                   "and adds those that are new, all or nothing, and prints each value that it changed. "
+                   "Columns may\n"
+                   "be left out, all but \"name\"; an empty field is the default. Variables that the table "
+                   "does not\n"
+                   "name stay as they are. CSV may be \"-\" for standard input.\n"
+                   "\n"
+                   "Tables of spreadsheets are read in UTF-8 or UTF-16, with commas, semicolons or tabs. "
+                   "Where "
+                   "no\n"
+                   "comma parts the columns, numbers may have a decimal comma. A \"'\" in front of \"=\", "
+                   "\"+\", \"-\" or\n"
+                   "\"@\" is no part of a text: it keeps spreadsheets from running it."_s;
+        },
+    .example =
+        "corvex import --dry-run variables examples/PumpStation/PumpStation.kdproj examples/variables.csv",
+    .fewestArguments = 3,
+    .mostArguments = 3,
+    .opensProjects = true,
+    .options = options,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool

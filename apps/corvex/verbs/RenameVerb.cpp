@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/Project.h"
+
+#include "ProjectEditor.h"
+#include "ProjectFile.h"
+#include "ProjectPath.h"
+#include "terminal/Call.h"
+#include "terminal/EditReport.h"
+#include "terminal/Interruption.h"
+#include "verbs/Verb.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+QString quoted(QString word)
+{
+    word.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s);
+    return u'"' + word + u'"';
+}
+
+ExitCode run(const Call &call, const ProjectFile &file)
+{
+    if (!ProjectPath::find(&file.project(), call.argument(1)).object) {
+        return ProjectPath::notFound(file.project(), call.argument(1), call);
+    }
+    const Interruption interruption;
+    ProjectEditor editor(file.project(), call);
+    QString error;
+    const QString line = u"rename %1 %2"_s.arg(quoted(call.argument(1)), quoted(call.argument(2)));
+    if (editor.run(line, error) != ProjectEditor::Result::Done) {
+        return call.failed(error, ExitCode::Problems);
+    }
+    return EditReport::finish(editor, file, call);
+}
+
+QList<QCommandLineOption> options()
+{
+    return {QCommandLineOption(u"dry-run"_s, u"Save nothing; show every change that comes with the name."_s),
+            QCommandLineOption(u"force"_s, u"Write even though parts of the file are lost."_s)};
+}
+
+} // namespace
+
+const Verb renameVerb{
+    .name = "rename",
+    .arguments = "FILE OLD NEW",
+    .summary = "give something another name, wherever it is used",
+    .details =
+        [] {
+            return uR"(Gives the screen, element, variable, image or project with the path OLD the name NEW, and changes
+every link, expression, state and list that names it. The file of an image and the folder of a
+project get the new name too. A name that will not do is refused.)"_s;
+        },
+    .example = "corvex rename --dry-run examples/PumpStation/PumpStation.kdproj startLevel pumpStart",
+    .fewestArguments = 3,
+    .mostArguments = 3,
+    .opensProjects = true,
+    .options = options,
+    .run = onProject<run, ProjectFile::Use::Change>,
+};
+
+} // namespace Halvane::Corvex::Tool

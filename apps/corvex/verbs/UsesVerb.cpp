@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/references/ReferenceIndex.h"
+#include "corvex/editing/references/ReferenceScanner.h"
+#include "corvex/editing/references/ReferenceTarget.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+
+#include "ProjectFile.h"
+#include "ProjectPath.h"
+#include "terminal/Call.h"
+#include "terminal/JsonWriter.h"
+#include "terminal/Terminal.h"
+#include "verbs/Verb.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+using namespace Designer;
+
+namespace {
+
+//! A place that names something.
+struct Use
+{
+    QString property; //!< its path
+    QString text;     //!< the name as it stands there, with what it goes through: "Main.group1.pump1"
+};
+
+QList<Use> usesOf(const ReferenceTarget &target)
+{
+    QList<Use> uses;
+    QSet<QPair<QString, QString>> known;
+    for (const ReferenceUse &use : ReferenceScanner::uses(target)) {
+        const QString path = u"%1.%2"_s.arg(use.property->parentObject()->objectPath(), use.property->id());
+        const qsizetype before = known.size();
+        known.insert({path, use.path});
+        if (known.size() > before) {
+            uses.append({path, use.path});
+        }
+    }
+    return uses;
+}
+
+bool hasElement(const Project &project, const QString &name)
+{
+    const QList<DesignerObject *> screens = project.screens()->listItems();
+    return std::ranges::any_of(screens, [&name](const DesignerObject *screen) {
+        return static_cast<const Screen *>(screen)->hasElement(name);
+    });
+}
+
+bool isUsed(const DesignerObject &object, const ReferenceIndex &index)
+{
+    const ReferenceTarget target(&object);
+    return std::ranges::any_of(index.candidates(target), [&](const SharedProperty &property) {
+        const QList<Mention> mentions = ReferenceForm::mentions(*property);
+        return std::ranges::any_of(mentions, [&](const Mention &mention) {
+            return target.isMeantBy(mention, property->parentObject());
+        });
+    });
+}
+
+//! The paths of all screens, variables and images that nothing names.
+QStringList unusedIn(Project &project)
+{
+    const ReferenceIndex &index = ReferenceIndex::of(&project);
+    QStringList paths;
+    for (const SharedProperty &list : {project.screens(), project.variables(), project.imageResources()}) {
+        for (const DesignerObject *object : list->listItems()) {
+            if (!isUsed(*object, index)) {
+                paths.append(object->objectPath());
+            }
+        }
+    }
+    return paths;
+}
+
+ExitCode printUses(const QList<Use> &uses, const Call &call)
+{
+    if (!call.asJson()) {
+        for (const Use &use : uses) {
+            call.terminal().print(Terminal::oneLine(u"%1: %2"_s.arg(use.property, use.text)));
+        }
+        return ExitCode::Done;
+    }
+    JsonWriter &json = call.json();
+    json.beginObject();
+    json.name("uses"_L1);
+    json.beginArray();
+    for (const Use &use : uses) {
+        json.beginObject();
+        json.member("property"_L1, use.property);
+        json.member("text"_L1, use.text);
+        json.endObject();
+    }
+    json.endArray();
+    json.endObject();
+    return ExitCode::Done;
+}
+
+ExitCode printUnused(const QStringList &paths, const Call &call)
+{
+    if (!call.asJson()) {
+        for (const QString &path : paths) {
+            call.terminal().print(Terminal::oneLine(path));
+        }
+        return ExitCode::Done;
+    }
+    JsonWriter &json = call.json();
+    json.beginObject();
+    json.member("unused"_L1, paths);
+    json.endObject();
+    return ExitCode::Done;
+}
+
+ExitCode run(const Call &call, const ProjectFile &file)
+{
+    const QString name = call.argument(1);
+    if (name.isEmpty()) {
+        return printUnused(unusedIn(file.project()), call);
+    }
+    if (const DesignerObject *object = ProjectPath::find(&file.project(), name).object) {
+        return printUses(usesOf(ReferenceTarget(object)), call);
+    }
+    // A name without the way to it: of elements, and of what is no longer there.
+    const QList<Use> uses = usesOf(ReferenceTarget(&file.project(), name));
+    if (uses.isEmpty() && !hasElement(file.project(), name)) {
+        return ProjectPath::notFound(file.project(), name, call);
+    }
+    return printUses(uses, call);
+}
+
+} // namespace
+
+const Verb usesVerb{
+    .name = "uses",
+    .arguments = "FILE [NAME]",
+    .summary = "tell where something is used, or what is not used at all",
+    .details =
+        [] {
+            return uR"(Prints where the object NAME or an element in it is named: in links, expressions, states of
+buttons, address maps. A line each, with the property, as a path that "corvex tree" takes, and the
+name as it stands there. NAME is a path, or the name of elements on any screen. Without NAME it
+prints the screens, variables and images that nothing names.)"_s;
+        },
+    .example = "corvex uses examples/PumpStation/PumpStation.kdproj wellLevel",
+    .mostArguments = 2,
+    .opensProjects = true,
+    .run = onProject<run>,
+};
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "ValueKinds.h"
+#include "terminal/Call.h"
+#include "terminal/JsonWriter.h"
+#include "terminal/Suggestion.h"
+#include "terminal/Terminal.h"
+#include "verbs/Verb.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Tool {
+
+namespace {
+
+QStringList kindNames()
+{
+    QStringList names;
+    for (const ValueKind &kind : valueKinds()) {
+        names.append(QString::fromLatin1(kind.name));
+    }
+    return names;
+}
+
+QString details()
+{
+    QString text =
+        u"Reads TEXT as a value of the kind KIND and prints it as a project file would hold it. A text\n"
+        "that the kind does not accept is refused with exit code 1. The kinds, each with a text that\n"
+        "it accepts:\n"_s;
+    for (const ValueKind &kind : valueKinds()) {
+        text += u"\n  %1  %2"_s.arg(QString::fromLatin1(kind.name).leftJustified(18),
+                                    QLatin1StringView(kind.example));
+    }
+    return text;
+}
+
+ExitCode run(const Call &call)
+{
+    const QString name = call.argument(0);
+    const ValueKind *kind = findValueKind(name);
+    if (!kind) {
+        return call.misused(Suggestion::unknown(u"kind of values"_s, name, kindNames()));
+    }
+    const QString text = call.argument(1);
+    const std::optional<QString> canonical = kind->canonical(text);
+    if (call.asJson()) {
+        JsonWriter &json = call.json();
+        json.beginObject();
+        json.member("kind"_L1, name);
+        json.member("valid"_L1, canonical.has_value());
+        json.member("text"_L1, canonical.value_or(text));
+        json.endObject();
+    } else if (canonical) {
+        call.terminal().print(*canonical);
+    }
+    if (!canonical) {
+        return call.failed(u"\"%1\" is no value of the kind \"%2\", such as \"%3\"."_s.arg(
+                               text, name, QLatin1StringView(kind->example)),
+                           ExitCode::Problems);
+    }
+    return ExitCode::Done;
+}
+
+} // namespace
+
+const Verb valueVerb{
+    .name = "value",
+    .arguments = "KIND TEXT",
+    .summary = "check a value and print its canonical text",
+    .details = details,
+    .example = "corvex value color red",
+    .fewestArguments = 2,
+    .mostArguments = 2,
+    .run = run,
+};
+
+} // namespace Halvane::Corvex::Tool

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "verbs/Verb.h"
+
+namespace Halvane::Corvex::Tool {
+
+const QList<const Verb *> &allVerbs()
+{
+    static const QList<const Verb *> verbs{
+        &newVerb,    &infoVerb,   &treeVerb,       &usesVerb,  &diffVerb,    &editVerb,
+        &renameVerb, &checkVerb,  &fmtVerb,        &buildVerb, &previewVerb, &renderVerb,
+        &exportVerb, &importVerb, &configDumpVerb, &valueVerb, &exprVerb,    &helpVerb,
+    };
+    return verbs;
+}
+
+const Verb *findVerb(const QString &name)
+{
+    const auto found =
+        std::ranges::find(allVerbs(), name, [](const Verb *verb) { return QLatin1StringView(verb->name); });
+    return found == allVerbs().cend() ? nullptr : *found;
+}
+
+} // namespace Halvane::Corvex::Tool

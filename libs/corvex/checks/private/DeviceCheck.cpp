@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/checks/private/DeviceCheck.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/hardware/Configuration.h"
+#include "corvex/hardware/ConfigurationContainer.h"
+#include "corvex/hardware/DeviceChannels.h"
+#include "corvex/project/Project.h"
+
+#include <numeric>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+constexpr auto ethernetName = "Ethernet ports";
+
+QString translated(const char *text)
+{
+    return Common::LocalizationHelper::coreString(QString::fromUtf8(text));
+}
+
+//! "1, 2, 5"
+QString listed(const QList<int> &channels)
+{
+    QStringList numbers;
+    for (const int channel : channels) {
+        numbers.append(QString::number(channel));
+    }
+    return numbers.isEmpty() ? translated("none") : numbers.join(u", "_s);
+}
+
+bool isCanVariable(const DesignerObject &object)
+{
+    return object.isKindOfClass(u"CANVariable"_s);
+}
+
+bool usesEthernet(const DesignerObject &object)
+{
+    return object.isKindOfClass(u"EthernetPort"_s) || object.isKindOfClass(u"FtpVariable"_s)
+           || object.isKindOfClass(u"BACnetDevice"_s);
+}
+
+} // namespace
+
+DeviceCheck::DeviceCheck(const Project &project, const ConfigurationContainer &models)
+    : m_model(project.configurationObject())
+{
+    const Configuration *installed = m_model ? models.configuration(m_model->getIdName()) : nullptr;
+    m_ethernetPorts = installed ? installed->ethernetPorts() : std::nullopt;
+}
+
+bool DeviceCheck::concerns(const DesignerObject &object)
+{
+    return m_model
+           && (isCanVariable(object) || DeviceChannels::of(object.className())
+               || (m_ethernetPorts && usesEthernet(object)));
+}
+
+void DeviceCheck::look(const DesignerObject &object)
+{
+    const char *name = ethernetName;
+    QList<int> available(m_ethernetPorts.value_or(0));
+    std::iota(available.begin(), available.end(), 1);
+    if (!usesEthernet(object)) {
+        const DeviceChannels *channels =
+            DeviceChannels::of(isCanVariable(object) ? u"CANBusDevice"_s : object.className());
+        name = channels->name;
+        available = channels->available(*m_model);
+    }
+    if (const SharedProperty channel = object.getProperty(u"channel")) {
+        // A number that no model has is the property's own problem.
+        const int number = channel->valueString().toInt();
+        if (number >= 1 && !available.contains(number)) {
+            report(*channel, ProblemCode::ChannelMissing,
+                   {m_model->getIdName(), QString::number(number), translated(name), listed(available)});
+        }
+        return;
+    }
+    const SharedProperty network = object.getProperty(u"bacnetType");
+    if (available.isEmpty() && (!network || network->valueString() == "BACnetIP"_L1)) {
+        report(object, ProblemCode::ModelLacks, {m_model->getIdName(), translated(name)});
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

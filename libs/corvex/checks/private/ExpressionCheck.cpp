@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/checks/private/ExpressionCheck.h"
+
+#include "corvex/checks/private/FunctionCall.h"
+#include "corvex/checks/private/ValueType.h"
+#include "corvex/core/properties/ExpressionProperties.h"
+#include "corvex/editing/references/ReferenceForm.h"
+#include "corvex/project/Project.h"
+#include "corvex/values/text/PairList.h"
+#include "corvex/values/text/ValueConversion.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! What an expression is for is known by the editor that makes it.
+constexpr auto conditionEditor = "VerticalBooleanExpressionEditor"_L1;
+constexpr auto assignmentEditor = "PropertyChangesEditor"_L1;
+
+//! Whether a value of the one type can become one of the other. A text that is written out is looked at.
+bool canHold(ValueType target, ValueType type, const GeneralDataInfo &source)
+{
+    const bool isLiteral = source.valueType() == GeneralDataInfo::ConstantValue && type == ValueType::Text;
+    bool isReadable = false;
+    switch (target) {
+    case ValueType::Number:
+        if (isLiteral) {
+            std::ignore = source.value().toDouble(&isReadable);
+        }
+        return isReadable || (type != ValueType::Text && type != ValueType::Color);
+    case ValueType::Boolean:
+        isReadable = isLiteral && (source.value() == "true"_L1 || source.value() == "false"_L1);
+        return isReadable || (type != ValueType::Text && type != ValueType::Color);
+    case ValueType::Color:
+        if (isLiteral) {
+            ValueConversion::toColor(source.value(), &isReadable);
+        } else {
+            isReadable = type == ValueType::Text;
+        }
+        return isReadable || (type != ValueType::Number && type != ValueType::Boolean && !isLiteral);
+    default:
+        return true;
+    }
+}
+
+bool isOperator(const GeneralDataInfo &term)
+{
+    return term.valueType() == GeneralDataInfo::OperatorValue;
+}
+
+//! Whether nothing but parentheses lies between a term and the next "&&", "||" or the end, in one direction.
+template<class Iterator>
+bool isAlone(Iterator term, Iterator end, QLatin1StringView parenthesis)
+{
+    const auto next = std::find_if(term, end, [parenthesis](const GeneralDataInfo &other) {
+        return !isOperator(other) || other.value() != parenthesis;
+    });
+    return next == end || (isOperator(*next) && (next->value() == "&&"_L1 || next->value() == "||"_L1));
+}
+
+} // namespace
+
+bool ExpressionCheck::concerns(const DesignerProperty &property)
+{
+    const ReferenceForm::Form form = ReferenceForm::of(property);
+    const bool isExpression =
+        form == ReferenceForm::Expressions
+        || (form == ReferenceForm::Expression && property.isKindOfClass(u"GeneralDataListProperty"_s));
+    return isExpression && property.parentObject()->isKindOfClass(u"Element"_s);
+}
+
+void ExpressionCheck::look(const DesignerProperty &property)
+{
+    if (!property.isValid()) {
+        return;
+    }
+    if (property.isKindOfClass(u"GeneralDataListProperty"_s)) {
+        const GeneralDataList &terms = static_cast<const GeneralDataListProperty &>(property).value();
+        if (terms.isEmpty()) {
+            return;
+        }
+        lookAtTerms(property, terms);
+        if (property.editor() == assignmentEditor) {
+            lookAtAssignments(property, terms);
+        } else if (property.editor() == conditionEditor) {
+            lookAtCondition(property, terms);
+        }
+        return;
+    }
+    for (const TextPair &rule : PairList(property.valueString())) {
+        const GeneralDataList condition(rule.first);
+        const GeneralDataList assignments(rule.second);
+        lookAtTerms(property, condition);
+        lookAtTerms(property, assignments);
+        lookAtCondition(property, condition);
+        lookAtAssignments(property, assignments);
+    }
+}
+
+void ExpressionCheck::lookAtTerms(const DesignerProperty &property, const GeneralDataList &terms)
+{
+    for (const GeneralDataInfo &term : terms) {
+        if (term.valueType() == GeneralDataInfo::VariableValue
+            && valueTypeOf(term, m_project) == ValueType::Fieldbus) {
+            report(property, ProblemCode::ExpressionFieldbus,
+                   {term.value(), valueTypeName(ValueType::Fieldbus)});
+        }
+    }
+    for (const FunctionCall &call : FunctionCall::of(terms)) {
+        lookAtCall(property, call);
+    }
+}
+
+void ExpressionCheck::lookAtCall(const DesignerProperty &property, const FunctionCall &call)
+{
+    if (!call.hasGoodCount()) {
+        report(property, ProblemCode::ExpressionArguments,
+               {call.name, call.wanted(), QString::number(call.argumentCount)});
+        return;
+    }
+    const bool isVariable = call.onlyFirst && call.onlyFirst->valueType() == GeneralDataInfo::VariableValue;
+    const DesignerObject *first =
+        isVariable ? m_project.variables()->getListItem(call.onlyFirst->value()) : nullptr;
+    // What is not there at all has a problem of its own.
+    const bool isMissing = isVariable && !first;
+    if (call.takesLog && !isMissing && !(first && first->isKindOfClass(u"LogVariable"_s))) {
+        report(property, ProblemCode::ExpressionLog, {call.name});
+    }
+}
+
+//! Pairs of a target and a source.
+void ExpressionCheck::lookAtAssignments(const DesignerProperty &property, const GeneralDataList &terms)
+{
+    for (qsizetype i = 0; i + 1 < terms.count(); i += 2) {
+        const GeneralDataInfo &target = terms.at(i);
+        const GeneralDataInfo &source = terms.at(i + 1);
+        const ValueType wanted = valueTypeOf(target, m_project);
+        const ValueType given = valueTypeOf(source, m_project);
+        if (!canHold(wanted, given, source)) {
+            report(property, ProblemCode::ExpressionType,
+                   {target.value(), valueTypeName(wanted), source.value(), valueTypeName(given)});
+        }
+    }
+}
+
+void ExpressionCheck::lookAtCondition(const DesignerProperty &property, const GeneralDataList &terms)
+{
+    const QList<GeneralDataInfo> list = terms.toList();
+    for (auto term = list.cbegin(); term != list.cend(); ++term) {
+        const ValueType type = valueTypeOf(*term, m_project);
+        if ((type == ValueType::Text || type == ValueType::Color) && isAlone(term + 1, list.cend(), ")"_L1)
+            && isAlone(std::make_reverse_iterator(term), list.crend(), "("_L1)) {
+            report(property, ProblemCode::ExpressionCondition, {term->value(), valueTypeName(type)});
+        }
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/checks/private/NestingDepth.h"
+
+#include <QList>
+
+#include <algorithm>
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+bool isOperatorSign(QChar c)
+{
+    return QStringView(u"+-*/%&|^~<>=!?").contains(c);
+}
+
+//! The place of the quote that ends the text which begins at \a place.
+qsizetype endOfText(QStringView code, qsizetype place)
+{
+    const QChar quote = code[place];
+    for (++place; place < code.size() && code[place] != quote; ++place) {
+        place += code[place] == u'\\' ? 1 : 0;
+    }
+    return place;
+}
+
+//! What stands between two parentheses, or outside of all.
+struct Level
+{
+    bool isList = false;       //!< Its commas part what does not depend on each other.
+    qsizetype operators = 0;   //!< Since the last part began.
+    qsizetype deepest = 0;     //!< The depth of what the operators work on.
+    qsizetype deepestPart = 0; //!< Of the parts before.
+
+    qsizetype depth() const { return std::max(deepestPart, operators + deepest); }
+    void beginPart() { *this = {isList, 0, 0, depth()}; }
+};
+
+} // namespace
+
+qsizetype findTooDeepNesting(QStringView code)
+{
+    QList<Level> levels{Level()};
+    qsizetype members = 0; // of the path that the place is in: a.b.c
+    for (qsizetype i = 0; i < code.size(); ++i) {
+        const QChar c = code[i];
+        Level &level = levels.last();
+        members = c == u'.' ? members + 1 : (c.isLetterOrNumber() || c == u'_') ? members : 0;
+        if (c == u'"' || c == u'\'') {
+            i = endOfText(code, i);
+        } else if (c == u'(' || c == u'[' || c == u'{') {
+            levels.append(Level{c != u'('});
+        } else if ((c == u')' || c == u']' || c == u'}') && levels.size() > 1) {
+            const qsizetype inner = levels.takeLast().depth() + 1;
+            levels.last().deepest = std::max(levels.last().deepest, inner);
+        } else if (c == u';' || (c == u',' && level.isList)) {
+            level.beginPart();
+        } else if (c == u',' || (isOperatorSign(c) && (i == 0 || !isOperatorSign(code[i - 1])))) {
+            ++level.operators;
+        }
+        if (levels.size() > deepestNesting || members > deepestNesting
+            || levels.last().depth() > deepestNesting) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/checks/private/PlainQml.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+constexpr auto referenceStart = "qml_"_L1;
+
+/*! What code consists of beside names, numbers and texts. Comments, regular expressions and other kinds of
+    quotes are not among it. */
+bool isOtherCharacter(QChar c)
+{
+    return QLatin1StringView(" \t\n!%&()*+,-.:;<=>?[]^{|}~").contains(c);
+}
+
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+bool isUpper(QChar c)
+{
+    return c >= u'A' && c <= u'Z';
+}
+
+bool isNameCharacter(QChar c)
+{
+    return (c >= u'a' && c <= u'z') || isUpper(c) || isDigit(c) || c == u'_';
+}
+
+//! How many characters from the start on are those of a name.
+qsizetype nameLength(QStringView text)
+{
+    return std::find_if_not(text.begin(), text.end(), isNameCharacter) - text.begin();
+}
+
+//! How many characters a text between quotes takes, with no more than the simplest escapes; 0 for any other.
+qsizetype plainTextLength(QStringView value)
+{
+    for (qsizetype i = 1; i < value.size(); ++i) {
+        const QChar c = value[i];
+        if (c == u'"') {
+            return i + 1;
+        }
+        const bool isEscape = c == u'\\';
+        i += isEscape ? 1 : 0;
+        if (c < u' ' || c >= QChar(0x7f)
+            || (isEscape && (i == value.size() || !u"\\\"'nrt"_s.contains(value[i])))) {
+            return 0;
+        }
+    }
+    return 0;
+}
+
+bool isPlainText(QStringView value)
+{
+    return value.startsWith(u'"') && plainTextLength(value) == value.size();
+}
+
+bool isPlainNumber(QStringView value)
+{
+    const QStringView digits = value.startsWith(u'-') ? value.sliced(1) : value;
+    const qsizetype whole = std::find_if_not(digits.begin(), digits.end(), isDigit) - digits.begin();
+    // A zero in front makes another number of it, or none.
+    if (whole == 0 || (whole > 1 && digits.front() == u'0')) {
+        return false;
+    }
+    const QStringView rest = digits.sliced(whole);
+    return rest.isEmpty()
+           || (rest.size() > 1 && rest.front() == u'.' && std::all_of(rest.begin() + 1, rest.end(), isDigit));
+}
+
+//! As in "Item.Center".
+bool isEnumerator(QStringView value)
+{
+    const qsizetype type = nameLength(value);
+    if (type == 0 || !isUpper(value.front()) || type + 1 >= value.size() || value[type] != u'.') {
+        return false;
+    }
+    const QStringView name = value.sliced(type + 1);
+    return isUpper(name.front()) && nameLength(name) == name.size();
+}
+
+//! "qml_pump1", a reference to an object. No word of the language begins so.
+bool isReference(QStringView value)
+{
+    return value.startsWith(referenceStart) && nameLength(value) == value.size();
+}
+
+bool isPlainValue(QStringView value)
+{
+    return isReference(value) || value == "null"_L1 || isPlainText(value) || isPlainNumber(value)
+           || value == "true"_L1 || value == "false"_L1 || isEnumerator(value);
+}
+
+//! "x: 12"
+bool isPlainMember(QStringView line)
+{
+    const qsizetype colon = line.indexOf(u':');
+    return colon > 0 && isPlainValue(line.sliced(colon + 1).trimmed());
+}
+
+} // namespace
+
+bool isPlainQml(QStringView members)
+{
+    for (const QStringView line : members.tokenize(u'\n')) {
+        if (!isPlainMember(line)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+QString qmlShape(const QString &members)
+{
+    // Nothing becomes longer.
+    QString shape(members.size(), Qt::Uninitialized);
+    QChar *end = shape.data();
+    const auto append = [&end](auto text) { end = std::ranges::copy(text, end).out; };
+    for (QStringView rest(members); !rest.isEmpty();) {
+        const QChar first = rest.front();
+        qsizetype length = nameLength(rest);
+        if (length == 0 && first != u'"') {
+            if (!isOtherCharacter(first)) {
+                return members;
+            }
+            *end++ = first;
+            length = 1;
+        } else if (length == 0) {
+            length = plainTextLength(rest);
+            // Of "use strict" the words count.
+            if (length == 0 || rest.first(length) == "\"use strict\""_L1) {
+                return members;
+            }
+            append(QStringView(u"\"\""));
+        } else if (rest.startsWith(referenceStart)) {
+            append(QStringView(u"qml_"));
+        } else if (first >= u'1' && first <= u'9' && std::ranges::all_of(rest.first(length), isDigit)) {
+            *end++ = u'1';
+        } else {
+            append(rest.first(length));
+        }
+        rest = rest.sliced(length);
+    }
+    shape.truncate(end - shape.constData());
+    return shape;
+}
+
+} // namespace Halvane::Corvex::Designer

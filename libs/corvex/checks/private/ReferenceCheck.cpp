@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/checks/private/ReferenceCheck.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/properties/ExpressionProperties.h"
+#include "corvex/core/properties/LinkProperty.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/project/elements/Element.h"
+#include "corvex/values/text/ObjectPath.h"
+
+#include <QSet>
+#include <QThread>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+//! What a state or an action gives to a property of an element.
+struct ReferenceCheck::Setting
+{
+    QString element;
+    QString property;
+    QString value;
+};
+
+namespace {
+
+//! What the text is without a property that holds it as a list.
+template<class Property>
+auto listOf(const DesignerProperty &property)
+{
+    using List = std::remove_cvref_t<decltype(std::declval<Property>().value())>;
+    return property.isKindOfClass(Property::kindName()) ? static_cast<const Property &>(property).value()
+                                                        : List(property.valueString());
+}
+
+} // namespace
+
+ReferenceCheck::ReferenceCheck(const Project &project)
+    : m_project(project)
+    , m_thread(QThread::currentThread())
+{ }
+
+ReferenceCheck::~ReferenceCheck() = default;
+
+bool ReferenceCheck::concerns(const DesignerProperty &property)
+{
+    const ReferenceForm::Form form = ReferenceForm::of(property);
+    // The first halves of pairs may be names of the device's own.
+    return form != ReferenceForm::None && form != ReferenceForm::NamePairs;
+}
+
+void ReferenceCheck::look(const DesignerProperty &property)
+{
+    if (!property.isValid()) {
+        return;
+    }
+    const ReferenceForm::Form form = ReferenceForm::of(property);
+    if (form == ReferenceForm::Link) {
+        checkLink(static_cast<const LinkProperty &>(property));
+        return;
+    }
+    checkNames(property);
+    for (const Setting &setting : settingsOf(property, form)) {
+        checkSetting(property, setting);
+    }
+}
+
+QList<ReferenceCheck::Setting> ReferenceCheck::settingsOf(const DesignerProperty &property,
+                                                          ReferenceForm::Form form)
+{
+    QList<Setting> settings;
+    if (form == ReferenceForm::States) {
+        for (const UpdateObjectInfo &update : listOf<UpdateObjectListProperty>(property)) {
+            for (const PropertyInfo &info : update.propertyValues()) {
+                settings.append({update.name(), info.propName(), info.propValue()});
+            }
+        }
+    } else if (form == ReferenceForm::Changes) {
+        for (const PropertyChangeInfo &change : listOf<PropertyChangeListProperty>(property)) {
+            settings.append({change.elementName(), change.propertyName(), change.valueString()});
+        }
+    }
+    return settings;
+}
+
+void ReferenceCheck::checkLink(const LinkProperty &link)
+{
+    if (link.value().isValid() && !link.connectLink()) {
+        report(link, ProblemCode::ReferenceMissing, {link.value().objectId()});
+    }
+}
+
+void ReferenceCheck::checkNames(const DesignerProperty &property)
+{
+    const Screen *screen = property.parentObject()->screen();
+    QSet<QString> reported;
+    for (const Mention &mention : ReferenceForm::mentions(property)) {
+        if (isThere(mention, screen) || reported.contains(mention.path)) {
+            continue;
+        }
+        reported.insert(mention.path);
+        const bool isOnScreen = screen && mention.kinds.testFlag(NamedKind::Element)
+                                && !mention.kinds.testFlag(NamedKind::Variable);
+        report(property, isOnScreen ? ProblemCode::ReferenceElement : ProblemCode::ReferenceMissing,
+               {mention.path});
+    }
+}
+
+bool ReferenceCheck::isThere(const Mention &mention, const Screen *screen)
+{
+    const auto isListed = [&mention](NamedKind kind, const SharedProperty &list) {
+        return mention.kinds.testFlag(kind) && list->hasListItem(mention.path);
+    };
+    if (isListed(NamedKind::Variable, m_project.variables())
+        || isListed(NamedKind::Screen, m_project.screens())
+        || isListed(NamedKind::Image, m_project.imageResources())) {
+        return true;
+    }
+    if (!mention.kinds.testFlag(NamedKind::Element)) {
+        return false;
+    }
+    // The members of a log or a device follow the name of its variable.
+    const bool isOfVariable =
+        mention.kinds.testFlag(NamedKind::Variable)
+        && m_project.variables()->hasListItem(ObjectPath::firstSegment(mention.path).toString());
+    return isOfVariable || isElement(mention.path, screen);
+}
+
+//! Whether the path leads to an element of \a screen, of the screen that the path starts with, or, in a
+//! property that belongs to no screen, of any.
+bool ReferenceCheck::isElement(const QString &path, const Screen *screen)
+{
+    const auto hasElement = [](const DesignerObject *on, const QString &place) {
+        return static_cast<const Screen *>(on)->hasElement(place);
+    };
+    if (screen && hasElement(screen, path)) {
+        return true;
+    }
+    const QString first = ObjectPath::firstSegment(path).toString();
+    if (const DesignerObject *named = m_project.screens()->getListItem(first); named && first != path) {
+        return hasElement(named, path.sliced(first.size() + 1));
+    }
+    return !screen && std::ranges::any_of(screensWith(first), [&](const DesignerObject *any) {
+        return hasElement(any, path);
+    });
+}
+
+//! The screens with an element of that name. Who asks for one belongs to no screen and may be one of many.
+QList<const Screen *> ReferenceCheck::screensWith(const QString &element)
+{
+    if (!m_screens) {
+        m_screens.emplace();
+        for (const DesignerObject *screen : m_project.screens()->listItems()) {
+            for (const DesignerObject *item :
+                 static_cast<const Screen *>(screen)->elements()->listItems(true)) {
+                m_screens->insert(item->getIdName(), static_cast<const Screen *>(screen));
+            }
+        }
+    }
+    return m_screens->values(element);
+}
+
+void ReferenceCheck::checkSetting(const DesignerProperty &property, const Setting &setting)
+{
+    const auto &[elementName, id, value] = setting;
+    const Screen *screen = property.parentObject()->screen();
+    const Element *element = screen ? screen->getElement(elementName) : nullptr;
+    const DesignerObject *model = element ? modelOf(element->className()) : nullptr;
+    if (!model) {
+        return;
+    }
+    const SharedProperty target = model->getProperty(id);
+    // What an element is called cannot change while the screen runs.
+    if (!target || target == model->idProperty()) {
+        report(property, ProblemCode::StateProperty, {elementName, id});
+    } else if (!target->canRead(value)) {
+        report(property, ProblemCode::StateValue, {value, id, elementName});
+    }
+}
+
+//! An object of the class that is nowhere: what is tried out on it changes nothing.
+const DesignerObject *ReferenceCheck::modelOf(const QString &className)
+{
+    std::unique_ptr<DesignerObject> &model = m_models[className];
+    if (!model) {
+        model.reset(DesignerFactory::instance()->createUnowned(className));
+        if (model) {
+            // It goes with the check, in the thread that made that, and not in the one that asks now.
+            model->moveToThread(m_thread);
+        }
+    }
+    return model.get();
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/checks/Check.h"
+#include "corvex/editing/references/ReferenceForm.h"
+
+#include <QMultiHash>
+
+#include <map>
+#include <memory>
+#include <optional>
+
+class QThread;
+
+namespace Halvane::Corvex::Designer {
+
+class LinkProperty;
+class Screen;
+
+/*! Looks at what the parts of a project say of each other: names that lead nowhere, and new values for
+    properties that are not there or cannot hold them. The generated code is correct with any of them, and the
+    device does without what they mean. Properties that are invalid are left to their own messages. */
+class ReferenceCheck : public PropertyCheck
+{
+public:
+    explicit ReferenceCheck(const Project &project);
+    ~ReferenceCheck() override;
+
+    bool concerns(const DesignerProperty &property) override;
+    void look(const DesignerProperty &property) override;
+
+private:
+    struct Setting;
+
+    static QList<Setting> settingsOf(const DesignerProperty &property, ReferenceForm::Form form);
+    void checkLink(const LinkProperty &link);
+    void checkNames(const DesignerProperty &property);
+    void checkSetting(const DesignerProperty &property, const Setting &setting);
+    bool isThere(const Mention &mention, const Screen *screen);
+    bool isElement(const QString &path, const Screen *screen);
+    QList<const Screen *> screensWith(const QString &element);
+    const DesignerObject *modelOf(const QString &className);
+
+    const Project &m_project;
+    QThread *m_thread;
+    std::optional<QMultiHash<QString, const Screen *>> m_screens; //!< by element, found when first asked for
+    std::map<QString, std::unique_ptr<DesignerObject>> m_models;  //!< by class
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/files/FileTransaction.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/private/FileJournal.h"
+#include "corvex/common/files/private/FileRecovery.h"
+#include "corvex/common/files/private/FileSync.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Common {
+
+namespace {
+
+const QString draftName = u"draft"_s;
+
+bool fail(QString *error, const QString &english, const QString &path)
+{
+    if (error) {
+        *error =
+            LocalizationHelper::coreString(english).arg(QDir::toNativeSeparators(path), FileSync::reason());
+    }
+    return false;
+}
+
+bool isThere(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+} // namespace
+
+FileTransaction::FileTransaction(std::unique_ptr<FileJournal> journal)
+    : m_journal(std::move(journal))
+{ }
+
+FileTransaction::~FileTransaction()
+{
+    takeBack();
+}
+
+std::unique_ptr<FileTransaction> FileTransaction::begin(const QString &folder, QString *error)
+{
+    auto journal = std::make_unique<FileJournal>(QDir(folder).absolutePath());
+    if (recover(folder) == Recovery::Failed || !journal->begin()) {
+        fail(error, u"Nothing can be written to the folder \"%1\": %2"_s, folder);
+        return {};
+    }
+    return std::unique_ptr<FileTransaction>(new FileTransaction(std::move(journal)));
+}
+
+//! Before the first change of a file: its contents get a second name, which survives the change.
+bool FileTransaction::keep(const QString &name)
+{
+    if (m_journal->oldFiles().contains(name)) {
+        return true;
+    }
+    const QString path = m_journal->pathOf(name);
+    if (!isThere(path)) {
+        return m_journal->addOld(name, {});
+    }
+    const QString copy = u"old-"_s + newKey();
+    return FileSync::link(path, m_journal->privatePath(copy)) && FileSync::sync(m_journal->privatePath())
+           && m_journal->addOld(name, copy);
+}
+
+bool FileTransaction::makeFolderFor(const QString &name)
+{
+    const QString folder = name.section(u'/', 0, -2);
+    if (folder.isEmpty() || QFileInfo(m_journal->pathOf(folder)).isDir()) {
+        return true;
+    }
+    return m_journal->addFolder(folder) && QDir().mkdir(m_journal->pathOf(folder));
+}
+
+QString FileTransaction::newKey()
+{
+    return QString::number(++m_lastKey);
+}
+
+bool FileTransaction::place(const QString &name, const QByteArray &bytes, QString *error)
+{
+    const QString key = keepAside(bytes, error);
+    if (key.isEmpty()) {
+        return false;
+    }
+    if (!makeFolderFor(name) || !bringBack(key, name)) {
+        fail(error, u"The file \"%1\" cannot be written: %2"_s, m_journal->pathOf(name));
+        discard(key);
+        return false;
+    }
+    return true;
+}
+
+bool FileTransaction::move(const QString &from, const QString &to, QString *error)
+{
+    const QString key = keep(to) ? setAside(from) : QString();
+    if (!key.isEmpty() && bringBack(key, to)) {
+        return true;
+    }
+    fail(error, u"The file \"%1\" cannot be renamed: %2"_s, m_journal->pathOf(from));
+    if (!key.isEmpty()) {
+        bringBack(key, from);
+    }
+    return false;
+}
+
+QString FileTransaction::keepAside(const QByteArray &bytes, QString *error)
+{
+    const QString key = newKey();
+    return FileHelper::writeFile(m_journal->privatePath(key), bytes, error) ? key : QString();
+}
+
+QString FileTransaction::setAside(const QString &name)
+{
+    const QString key = newKey();
+    return keep(name) && FileSync::move(m_journal->pathOf(name), m_journal->privatePath(key)) ? key
+                                                                                              : QString();
+}
+
+bool FileTransaction::bringBack(const QString &key, const QString &name)
+{
+    const QString path = m_journal->privatePath(key);
+    return keep(name) && m_journal->addNew(name, FileHelper::md5(path))
+           && FileSync::move(path, m_journal->pathOf(name));
+}
+
+void FileTransaction::discard(const QString &key)
+{
+    // While removals wait, so does this: it goes with the transaction.
+    if (!key.isEmpty() && !m_defersRemovals) {
+        QFile::remove(m_journal->privatePath(key));
+    }
+}
+
+bool FileTransaction::remove(const QString &name)
+{
+    if (!isThere(m_journal->pathOf(name))) {
+        return true;
+    }
+    if (m_defersRemovals) {
+        m_removed.insert(name, FileHelper::md5(m_journal->pathOf(name)));
+        return true;
+    }
+    return keep(name) && QFile::remove(m_journal->pathOf(name));
+}
+
+void FileTransaction::deferRemovals(bool isDeferred)
+{
+    m_defersRemovals = isDeferred;
+    m_removed.clear();
+}
+
+bool FileTransaction::renameFolder(const QString &name, QString *error)
+{
+    const QFileInfo folder(m_journal->folder());
+    const QString target = folder.dir().filePath(name);
+    if (!m_journal->addRenaming(name) || !FileSync::move(folder.filePath(), target)) {
+        return fail(error, u"The folder \"%1\" cannot be renamed: %2"_s, folder.filePath());
+    }
+    m_journal->setFolder(target);
+    return true;
+}
+
+QString FileTransaction::draftPath() const
+{
+    return m_journal->privatePath(draftName);
+}
+
+//! All that was changed is on the disk before it counts.
+bool FileTransaction::syncFolders() const
+{
+    QSet<QString> folders{m_journal->privatePath(), m_journal->folder(),
+                          QFileInfo(m_journal->folder()).path()};
+    for (auto name = m_journal->oldFiles().keyBegin(); name != m_journal->oldFiles().keyEnd(); ++name) {
+        const QString folder = QFileInfo(m_journal->pathOf(*name)).path();
+        if (QFileInfo(folder).isDir()) {
+            folders.insert(folder);
+        }
+    }
+    return std::ranges::all_of(folders, FileSync::sync);
+}
+
+bool FileTransaction::commit(const QString &file, QString *error)
+{
+    if (!syncFolders() || !m_journal->addCommit(file, m_removed)) {
+        return fail(error, u"The folder \"%1\" cannot be written to: %2"_s, m_journal->folder());
+    }
+    const std::unique_ptr<FileJournal> journal = std::move(m_journal);
+    FileRecovery recovery(*journal);
+    return recovery.finish()
+           || fail(error, u"The file \"%1\" cannot be written: %2"_s, journal->pathOf(file));
+}
+
+void FileTransaction::takeBack()
+{
+    if (const std::unique_ptr<FileJournal> journal = std::move(m_journal)) {
+        // When that fails, the journal stays, and the next opening tries again.
+        FileRecovery(*journal).takeBack();
+    }
+}
+
+bool FileTransaction::isOpen(const QString &folder)
+{
+    return FileJournal::isThere(folder);
+}
+
+FileTransaction::Recovery FileTransaction::recover(const QString &folder)
+{
+    if (!isOpen(folder)) {
+        return Recovery::Nothing;
+    }
+    FileJournal journal(QDir(folder).absolutePath());
+    journal.read();
+    FileRecovery recovery(journal);
+    const bool isCommitted = journal.isCommitted();
+    const bool hasBegun = !journal.oldFiles().isEmpty() || !journal.newFolderNames().isEmpty();
+    if (!(isCommitted ? recovery.finish() : recovery.takeBack())) {
+        return Recovery::Failed;
+    }
+    return isCommitted ? Recovery::Finished : hasBegun ? Recovery::TakenBack : Recovery::Nothing;
+}
+
+QString FileTransaction::renamedFrom(const QString &folder)
+{
+    const QFileInfo wanted(QDir(folder).absolutePath());
+    const QFileInfoList siblings = wanted.dir().entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QFileInfo &sibling : siblings) {
+        if (isOpen(sibling.filePath())) {
+            FileJournal journal(sibling.filePath());
+            journal.read();
+            if (journal.folderName() == wanted.fileName()
+                && journal.newFolderNames().contains(sibling.fileName())) {
+                return sibling.filePath();
+            }
+        }
+    }
+    return {};
+}
+
+} // namespace Halvane::Corvex::Common

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/files/SafeFile.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/private/FileSync.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRandomGenerator>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Common {
+
+namespace {
+
+const QString draftPrefix = u".corvex-draft-"_s; // and eight digits
+
+bool isSame(int file, const QByteArray &path)
+{
+    struct stat opened = {};
+    struct stat named = {};
+    return fstat(file, &opened) == 0 && lstat(path.constData(), &named) == 0 && opened.st_ino == named.st_ino
+           && opened.st_dev == named.st_dev;
+}
+
+/*! Makes a file that nobody takes for abandoned: its writer holds a lock on it from its first moment. One
+   that was removed in the moment between is made again. -1 with errno when it cannot be made. */
+int openLocked(const QByteArray &path)
+{
+    constexpr mode_t readAndWrite = 0666; // less what the user's mask takes away
+    for (;;) {
+        const int file = open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, readAndWrite);
+        if (file < 0) {
+            return -1;
+        }
+        flock(file, LOCK_EX);
+        if (isSame(file, path)) {
+            return file;
+        }
+        close(file);
+    }
+}
+
+} // namespace
+
+SafeFile::SafeFile(const QString &path)
+    : m_path(path)
+{ }
+
+SafeFile::~SafeFile()
+{
+    cancelWriting();
+}
+
+bool SafeFile::openForWriting(QString *error)
+{
+    m_failure.clear();
+    const QFileInfo target(m_path);
+    m_target = target.isSymLink() && target.exists() ? target.canonicalFilePath() : m_path;
+    // What is moved over a device or a pipe would be in its place for every program.
+    if (target.exists() && !target.isFile()) {
+        m_failure = LocalizationHelper::coreString(u"This is no file."_s);
+    } else if (target.exists() && !target.isWritable()) {
+        m_failure = LocalizationHelper::coreString(u"It is protected."_s);
+    } else if (m_path.isEmpty()) {
+        m_failure = LocalizationHelper::coreString(u"It has no name."_s);
+    } else if (!makeDraft()) {
+        m_failure = FileSync::reason();
+    }
+    return m_failure.isEmpty() || fail(error);
+}
+
+bool SafeFile::makeDraft()
+{
+    const QString folder = QFileInfo(m_target).path();
+    removeAbandoned(folder);
+    int file = -1;
+    do {
+        const QString number = QString::number(QRandomGenerator::global()->generate(), 16);
+        m_draft = QDir(folder).filePath(draftPrefix + number.rightJustified(8, u'0'));
+        file = openLocked(QFile::encodeName(m_draft));
+    } while (file < 0 && errno == EEXIST);
+    struct stat old = {};
+    if (file >= 0 && stat(QFile::encodeName(m_target).constData(), &old) == 0) {
+        constexpr mode_t permissions = 07777;
+        fchmod(file, old.st_mode & permissions);
+    }
+    if (file < 0 || !open(file, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
+        m_draft.clear();
+        return false;
+    }
+    return true;
+}
+
+qint64 SafeFile::writeData(const char *data, qint64 size)
+{
+    const qint64 written = QFile::writeData(data, size);
+    if (written != size && m_failure.isEmpty())
+        m_failure = FileHelper::writeError(*this);
+    return written;
+}
+
+void SafeFile::cancelWriting()
+{
+    if (!m_draft.isEmpty()) {
+        QFile::remove(std::exchange(m_draft, {}));
+    }
+    QFile::close();
+}
+
+bool SafeFile::commit(QString *error)
+{
+    if (m_failure.isEmpty() && (m_draft.isEmpty() || !flush())) {
+        m_failure = FileHelper::writeError(*this);
+    }
+    if (m_failure.isEmpty() && !moveDraft()) {
+        m_failure = FileSync::reason();
+    }
+    cancelWriting();
+    return m_failure.isEmpty() || fail(error);
+}
+
+bool SafeFile::moveDraft()
+{
+    // The lock on the draft ends with the file, when it has its name.
+    if (fsync(handle()) != 0 && errno != EINVAL) {
+        return false;
+    }
+    if (!FileSync::replace(m_draft, m_target)) {
+        return false;
+    }
+    m_draft.clear();
+    return FileSync::sync(QFileInfo(m_target).path());
+}
+
+void SafeFile::removeAbandoned(const QString &folder)
+{
+    const QFileInfoList drafts = QDir(folder).entryInfoList({draftPrefix + u"????????"_s},
+                                                            QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo &draft : drafts) {
+        const QByteArray path = QFile::encodeName(draft.filePath());
+        const int file = ::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+        if (file < 0) {
+            continue;
+        }
+        if (flock(file, LOCK_EX | LOCK_NB) == 0 && isSame(file, path)) {
+            unlink(path.constData());
+        }
+        ::close(file);
+    }
+}
+
+bool SafeFile::fail(QString *error)
+{
+    if (error) {
+        *error = LocalizationHelper::coreString(u"The file \"%1\" cannot be written: %2"_s)
+                     .arg(QDir::toNativeSeparators(fileName()), m_failure);
+    }
+    return false;
+}
+
+} // namespace Halvane::Corvex::Common

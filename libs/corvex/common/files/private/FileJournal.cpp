@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/files/private/FileJournal.h"
+
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/RegularFile.h"
+#include "corvex/common/files/private/FileSync.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Common {
+
+namespace {
+
+const QString privateFolder = u".corvex-edit"_s;
+const QString journalName = u"journal"_s;
+
+//! Whether it is the name of an entry of a folder, and no path.
+bool isSingleName(const QString &name)
+{
+    return !name.isEmpty() && name != "."_L1 && name != ".."_L1 && !name.contains(u'/');
+}
+
+} // namespace
+
+FileJournal::FileJournal(const QString &folder)
+    : m_folder(folder)
+{ }
+
+QString FileJournal::privatePath(const QString &name) const
+{
+    const QString folder = pathOf(privateFolder);
+    return name.isEmpty() ? folder : u"%1/%2"_s.arg(folder, name);
+}
+
+bool FileJournal::isThere(const QString &folder)
+{
+    const QFileInfo info(FileJournal(folder).privatePath());
+    return info.isDir() && !info.isSymLink();
+}
+
+bool FileJournal::begin()
+{
+    m_folderName = QFileInfo(m_folder).fileName();
+    return QDir().mkdir(privatePath()) && append({{u"folder"_s, m_folderName}})
+           && FileSync::sync(privatePath()) && FileSync::sync(m_folder);
+}
+
+void FileJournal::read()
+{
+    constexpr qint64 most = qint64(256) << 20;
+    QByteArray bytes;
+    QString error;
+    if (!RegularFile::read(privatePath(journalName), most, &bytes, &error, RegularFile::Links::Refuse)) {
+        return;
+    }
+    QList<QByteArray> lines = bytes.split('\n');
+    lines.removeLast(); // cut off, or empty
+    for (const QByteArray &line : std::as_const(lines)) {
+        if (const QJsonObject entry = QJsonDocument::fromJson(line).object(); staysInside(entry)) {
+            take(entry);
+        }
+    }
+}
+
+bool FileJournal::staysInside(const QJsonObject &line) const
+{
+    for (const QLatin1StringView key : {"folder"_L1, "renamed"_L1, "old"_L1}) {
+        const QString name = line[key].toString();
+        if (line.contains(key) && !isSingleName(name) && (key != "old"_L1 || !name.isEmpty())) {
+            return false;
+        }
+    }
+    for (const QLatin1StringView key : {"file"_L1, "made"_L1}) {
+        if (line.contains(key) && !isInside(line[key].toString())) {
+            return false;
+        }
+    }
+    const QStringList removed = line["removed"_L1].toObject().keys();
+    // The committed file is written through a link.
+    const QFileInfo committed(pathOf(line["file"_L1].toString()));
+    const bool leadsOn = line.contains("removed"_L1) && committed.isSymLink();
+    return std::ranges::all_of(removed, [this](const QString &name) { return isInside(name); })
+           && (!leadsOn
+               || committed.canonicalFilePath().startsWith(QFileInfo(m_folder).canonicalFilePath() + u'/'));
+}
+
+//! Whether a path relative to the folder names something in it, also when folders on the way are links.
+bool FileJournal::isInside(const QString &name) const
+{
+    if (name.isEmpty() || QDir::cleanPath(name) != name || !QDir::isRelativePath(name)
+        || !isSingleName(name.section(u'/', 0, 0))) {
+        return false;
+    }
+    const QString top = QFileInfo(m_folder).canonicalFilePath();
+    const QString folder = QFileInfo(QFileInfo(pathOf(name)).path()).canonicalFilePath();
+    return folder.isEmpty() || folder == top || folder.startsWith(top + u'/');
+}
+
+void FileJournal::take(const QJsonObject &line)
+{
+    const QString name = line["file"_L1].toString();
+    if (line.contains("folder"_L1)) {
+        m_folderName = line["folder"_L1].toString();
+    } else if (line.contains("old"_L1)) {
+        m_oldFiles.insert(name, line["old"_L1].toString());
+    } else if (line.contains("new"_L1)) {
+        m_newFiles[name].append(line["new"_L1].toString());
+    } else if (line.contains("made"_L1)) {
+        m_madeFolders.append(line["made"_L1].toString());
+    } else if (line.contains("renamed"_L1)) {
+        m_newFolderNames.append(line["renamed"_L1].toString());
+    } else if (line.contains("removed"_L1)) {
+        m_file = name;
+        m_removed = line["removed"_L1].toObject().toVariantMap();
+    }
+}
+
+bool FileJournal::append(const QJsonObject &line)
+{
+    QFile file(privatePath(journalName));
+    if (!file.open(QIODevice::ReadWrite)) {
+        return false;
+    }
+    const qint64 size = file.size();
+    const QByteArray bytes = QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+    if (!file.seek(size) || file.write(bytes) != bytes.size() || !file.flush() || fsync(file.handle()) != 0) {
+        file.resize(size);
+        return false;
+    }
+    take(line);
+    return true;
+}
+
+bool FileJournal::addOld(const QString &name, const QString &copy)
+{
+    return append({{u"file"_s, name}, {u"old"_s, copy}});
+}
+
+bool FileJournal::addNew(const QString &name, const QString &digest)
+{
+    return append({{u"file"_s, name}, {u"new"_s, digest}});
+}
+
+bool FileJournal::addFolder(const QString &name)
+{
+    return append({{u"made"_s, name}});
+}
+
+bool FileJournal::addRenaming(const QString &name)
+{
+    return append({{u"renamed"_s, name}});
+}
+
+bool FileJournal::addCommit(const QString &file, const QVariantMap &removed)
+{
+    return append({{u"file"_s, file}, {u"removed"_s, QJsonObject::fromVariantMap(removed)}});
+}
+
+bool FileJournal::remove() const
+{
+    // Without the journal the rest means nothing any more.
+    QFile::remove(privatePath(journalName));
+    return FileSync::sync(privatePath()) && FileHelper::removeDirectory(privatePath())
+           && FileSync::sync(m_folder);
+}
+
+} // namespace Halvane::Corvex::Common

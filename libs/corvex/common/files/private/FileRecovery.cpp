@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/files/private/FileRecovery.h"
+
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/private/FileJournal.h"
+#include "corvex/common/files/private/FileSync.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Common {
+
+namespace {
+
+bool isThere(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+QString freePath(const QString &path)
+{
+    int number = 1;
+    while (isThere(u"%1.tmp%2"_s.arg(path, QString::number(number)))) {
+        ++number;
+    }
+    return u"%1.tmp%2"_s.arg(path, QString::number(number));
+}
+
+} // namespace
+
+//! Whether the file holds what the transaction put there, and not what somebody else did since.
+bool FileRecovery::isOurs(const QString &name) const
+{
+    return m_journal.newFiles().value(name).contains(FileHelper::md5(m_journal.pathOf(name)));
+}
+
+bool FileRecovery::bringDraft() const
+{
+    const QString draft = m_journal.privatePath(u"draft"_s);
+    if (!QFileInfo(draft).isFile()) {
+        return true; // it is there already
+    }
+    const QString path = m_journal.pathOf(m_journal.committedFile());
+    if (QFileInfo(path).isSymLink()) {
+        QFile file(draft);
+        return file.open(QIODevice::ReadOnly) && FileHelper::writeFile(path, file.readAll());
+    }
+    return FileSync::replace(draft, path) && FileSync::sync(m_journal.folder());
+}
+
+bool FileRecovery::finish()
+{
+    if (!bringDraft()) {
+        return false;
+    }
+    QSet<QString> folders;
+    const QVariantMap &removed = m_journal.removedFiles();
+    for (auto file = removed.cbegin(); file != removed.cend(); ++file) {
+        const QString path = m_journal.pathOf(file.key());
+        if (FileHelper::md5(path) == file.value().toString()) {
+            QFile::remove(path);
+            folders.insert(QFileInfo(path).path());
+        }
+    }
+    return std::ranges::all_of(folders, FileSync::sync) && m_journal.remove();
+}
+
+bool FileRecovery::takeBack()
+{
+    const QHash<QString, QString> &old = m_journal.oldFiles();
+    QSet<QString> folders;
+    for (auto file = old.cbegin(); file != old.cend(); ++file) {
+        // On a disk that does not tell cases apart this may be another name of a file that is restored below.
+        if (file.value().isEmpty() && isOurs(file.key()) && !QFile::remove(m_journal.pathOf(file.key()))) {
+            return false;
+        }
+        folders.insert(QFileInfo(m_journal.pathOf(file.key())).path());
+    }
+    for (auto file = old.cbegin(); file != old.cend(); ++file) {
+        if (!file.value().isEmpty() && !restore(file.key(), file.value())) {
+            return false;
+        }
+    }
+    for (const QString &folder : folders) {
+        if (QFileInfo(folder).isDir() && !FileSync::sync(folder)) {
+            return false;
+        }
+    }
+    for (const QString &folder : m_journal.madeFolders()) {
+        QDir().rmdir(m_journal.pathOf(folder)); // fails, as it should, when somebody else uses it by now
+    }
+    return renameBack() && m_journal.remove();
+}
+
+bool FileRecovery::restore(const QString &name, const QString &copy) const
+{
+    const QString path = m_journal.pathOf(name);
+    const QString kept = m_journal.privatePath(copy);
+    if (!isThere(kept)) {
+        return true; // the copy goes with the journal alone
+    }
+    const bool isForeign = isThere(path) && !isOurs(name) && FileHelper::md5(path) != FileHelper::md5(kept);
+    if (isForeign && !FileSync::move(path, freePath(path))) {
+        return false;
+    }
+    const QString again = m_journal.privatePath(u"again"_s);
+    QFile::remove(again);
+    return FileSync::link(kept, again) && FileSync::replace(again, path);
+}
+
+//! False also when the old name has been taken meanwhile.
+bool FileRecovery::renameBack()
+{
+    const QFileInfo folder(m_journal.folder());
+    const QString before = folder.dir().filePath(m_journal.folderName());
+    if (before == folder.filePath() || !m_journal.newFolderNames().contains(folder.fileName())) {
+        return true; // it has its old name, or one that a user gave it
+    }
+    if (!FileSync::move(folder.filePath(), before)) {
+        return false;
+    }
+    m_journal.setFolder(before);
+    return FileSync::sync(folder.path());
+}
+
+} // namespace Halvane::Corvex::Common

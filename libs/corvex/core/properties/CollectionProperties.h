@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/properties/TypedProperty.h"
+#include "corvex/values/records/ListInfo.h"
+#include "corvex/values/records/MapInfo.h"
+
+namespace Halvane::Corvex::Designer {
+
+class ListValueProperty : public TypedProperty<ListInfo>
+{
+    CORVEX_CLASS_NAMES(ListValueProperty, DesignerProperty)
+
+public:
+    using TypedProperty::TypedProperty;
+};
+
+class MapProperty : public TypedProperty<MapInfo>
+{
+    CORVEX_CLASS_NAMES(MapProperty, DesignerProperty)
+
+public:
+    using TypedProperty::TypedProperty;
+};
+
+} // namespace Halvane::Corvex::Designer

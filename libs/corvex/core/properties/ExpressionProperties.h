@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/properties/TypedProperty.h"
+#include "corvex/values/expressions/ConditionInfo.h"
+#include "corvex/values/expressions/GeneralDataInfo.h"
+#include "corvex/values/expressions/GeneralDataList.h"
+#include "corvex/values/expressions/PropertyChangeInfo.h"
+#include "corvex/values/expressions/UpdateObjectInfo.h"
+#include "corvex/values/expressions/UpdateObjectList.h"
+#include "corvex/values/runtime/PropertyList.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! One term of an expression. Those who use it compile it; it writes no QML of its own.
+class GeneralDataProperty : public TypedProperty<GeneralDataInfo>
+{
+    CORVEX_CLASS_NAMES(GeneralDataProperty, DesignerProperty)
+
+public:
+    using TypedProperty::TypedProperty;
+};
+
+//! An expression. Those who use it compile it; it writes no QML of its own.
+class GeneralDataListProperty : public TypedProperty<GeneralDataList>
+{
+    CORVEX_CLASS_NAMES(GeneralDataListProperty, DesignerProperty)
+
+public:
+    using TypedProperty::TypedProperty;
+};
+
+//! Two comparisons of a value; in QML the function that makes them.
+class ConditionProperty : public TypedProperty<ConditionInfo>
+{
+    CORVEX_CLASS_NAMES(ConditionProperty, DesignerProperty)
+
+public:
+    ConditionProperty(DesignerObject *parent, const QString &id, const QString &name,
+                      const ConditionInfo &initialValue)
+        : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "ConditionEditor")
+    { }
+
+protected:
+    using TypedProperty::TypedProperty;
+};
+
+class PropertyChangeProperty : public TypedProperty<PropertyChangeInfo>
+{
+    CORVEX_CLASS_NAMES(PropertyChangeProperty, DesignerProperty)
+
+public:
+    PropertyChangeProperty(DesignerObject *parent, const QString &id, const QString &name,
+                           const PropertyChangeInfo &initialValue)
+        : TypedProperty(parent, id, name, initialValue, StoredFlag)
+    { }
+
+protected:
+    using TypedProperty::TypedProperty;
+};
+
+class PropertyChangeListProperty : public TypedProperty<PropertyList>
+{
+    CORVEX_CLASS_NAMES(PropertyChangeListProperty, DesignerProperty)
+
+public:
+    PropertyChangeListProperty(DesignerObject *parent, const QString &id, const QString &name,
+                               const PropertyList &initialValue)
+        : TypedProperty(parent, id, name, initialValue, StoredFlag)
+    { }
+
+protected:
+    using TypedProperty::TypedProperty;
+};
+
+class UpdateObjectProperty : public TypedProperty<UpdateObjectInfo>
+{
+    CORVEX_CLASS_NAMES(UpdateObjectProperty, DesignerProperty)
+
+public:
+    using TypedProperty::TypedProperty;
+};
+
+class UpdateObjectListProperty : public TypedProperty<UpdateObjectList>
+{
+    CORVEX_CLASS_NAMES(UpdateObjectListProperty, DesignerProperty)
+
+public:
+    using TypedProperty::TypedProperty;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+// Private to the sources of ObjectXmlReader; not installed.
+#pragma once
+
+#include "corvex/core/DesignerProperty.h"
+#include "corvex/core/xml/ReadNote.h"
+#include "corvex/core/xml/private/KeptItemRecorder.h"
+#include "corvex/core/xml/private/TextPool.h"
+#include "corvex/core/xml/private/XmlHandler.h"
+#include "corvex/core/xml/private/XmlInput.h"
+
+#include <bitset>
+
+namespace Halvane::Corvex::Designer {
+
+class DesignerObject;
+
+/*! Makes objects of what stands in XML: one frame for each open element, and what a frame does with an
+   element in it goes by its context. */
+class ObjectBuilder final : public XmlHandler
+{
+public:
+    explicit ObjectBuilder(QIODevice *device)
+        : m_input(device, this)
+    { }
+
+    void setValidate(bool validate) { m_validates = validate; }
+    //! What is read goes into \a root, of the same class; when it is null, an object is made for it.
+    void setRoot(DesignerObject *root);
+    //! Reads everything. False when the text could not be read to its end.
+    bool build();
+    //! Null when none could be made; not validated, and maybe half read, after a failure.
+    DesignerObject *root() const { return m_root; }
+
+    const XmlInput &input() const { return m_input; }
+    const ReadNoteList &notes() const { return m_notes; }
+
+private:
+    enum class Context { Object, Properties, Property, List, ObjectValue, Kept, Skipped };
+    struct Frame
+    {
+        Context context;
+        DesignerObject *object; //!< the object that is being read, or whose property this is
+        SharedProperty property = {};
+        qsizetype nextProperty =
+            0; //!< where the next property is expected: files keep the order of the table
+        std::bitset<128> known = {}; //!< the first properties that have been there, by their index
+        bool isAnswered = false;     //!< a property that got a value or children
+        bool isRepeated = false;     //!< a property that was there before
+    };
+
+    void startElement(QByteArrayView name, std::span<const XmlAttribute> attributes) override;
+    void endElement(QByteArrayView name) override;
+    void emptyElement(QByteArrayView name, std::span<const XmlAttribute> attributes) override;
+    void characters(QByteArrayView text) override;
+    void comment() override;
+    void processingInstruction() override;
+
+    void dropUnfinished();
+    void note(ReadNote::Kind kind, const QString &message);
+    QString place() const;
+    void push(Context context, DesignerObject *object, const SharedProperty &property = {});
+    void skip(const QString &message);
+
+    void openRoot(QByteArrayView name);
+    void forgetKeptItems();
+    void openInObject(const Frame &frame, QByteArrayView name);
+    void openInProperties(Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
+    DesignerProperty *takeProperty(Frame &frame, QByteArrayView name,
+                                   std::span<const XmlAttribute> attributes, QByteArrayView *value,
+                                   bool *isRepeated);
+    void openInProperty(Frame &frame, QByteArrayView name);
+    void openItem(const Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
+    void openObjectValue(QByteArrayView name);
+    static qsizetype findProperty(Frame &frame, QByteArrayView id, bool *isRepeated);
+    void applyValue(DesignerObject *object, DesignerProperty *property, QByteArrayView value);
+    static SharedProperty shared(DesignerObject *object, const DesignerProperty *property);
+    static void emptyList(DesignerObject *owner, const SharedProperty &list);
+    static void finishList(const SharedProperty &list);
+    DesignerObject *makeObject(const QString &className);
+    void closeObject(const Frame &closed);
+    void addItem(const Frame &list, DesignerObject *item);
+    void setChild(const Frame &slot, DesignerObject *child);
+    void enableValidation(DesignerObject *object);
+
+    XmlInput m_input;
+    DesignerObject *m_root = nullptr;
+    bool m_createsRoot = false;
+    bool m_validates = true;
+    ReadNoteList m_notes;
+    QList<Frame> m_frames;
+    KeptItemRecorder m_recorder;
+    TextPool m_texts;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/objects/DeleteObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! Its file stays until the project has been saved.
+class DeleteImage : public DeleteObject
+{
+public:
+    explicit DeleteImage(DesignerObject *image, UndoCommand *parent = nullptr);
+
+    Deletion deletion() const override { return Deletion::Image; }
+};
+
+} // namespace Halvane::Corvex::Designer

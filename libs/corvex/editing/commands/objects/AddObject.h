@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/objects/SortingCommand.h"
+
+#include <QPointer>
+
+namespace Halvane::Corvex::Designer {
+
+//! Adds an object to a list.
+class AddObject : public SortingCommand
+{
+public:
+    AddObject(const SharedProperty &list, DesignerObject *object, bool selected,
+              UndoCommand *parent = nullptr);
+    //! A new object of that class; the name of its class and the first free number when \a name is empty.
+    AddObject(const SharedProperty &list, const QString &className, const QString &name, bool selected,
+              UndoCommand *parent = nullptr);
+
+    DesignerObject *object() const { return m_object; }
+
+private:
+    void setupCommand(const SharedProperty &list);
+    static DesignerObject *make(const SharedProperty &list, const QString &className, const QString &name);
+
+    QPointer<DesignerObject> m_object;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/objects/ChangeProperty.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/PropertyValidators.h"
+#include "corvex/editing/commands/private/EditStep.h"
+#include "corvex/editing/references/ReferenceChanges.h"
+#include "corvex/editing/references/ReferenceForm.h"
+#include "corvex/hardware/Configuration.h"
+#include "corvex/project/ImageResource.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/project/elements/Element.h"
+#include "corvex/values/expressions/UpdateObjectList.h"
+#include "corvex/values/records/IdentifierInfo.h"
+#include "corvex/values/records/ObjectLinkInfo.h"
+
+#include <QDebug>
+#include <QFileInfo>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! Which states describe the element that a link of a function element names.
+struct LinkedStates
+{
+    QLatin1StringView className;
+    QLatin1StringView link;
+    std::array<QLatin1StringView, 2> states;
+};
+
+constexpr std::array linkedStates{
+    LinkedStates{"Button"_L1, "visualElement"_L1, {"normalState"_L1, "pressedState"_L1}},
+    LinkedStates{"NumberSpinner"_L1, "incVisualElement"_L1, {"incNormalState"_L1, "incPressedState"_L1}},
+    LinkedStates{"NumberSpinner"_L1, "decVisualElement"_L1, {"decNormalState"_L1, "decPressedState"_L1}},
+};
+
+//! The properties whose pictures have to be there.
+struct Pictured
+{
+    QLatin1StringView className;
+    QLatin1StringView property;
+};
+
+constexpr std::array pictured{
+    Pictured{"Image"_L1, "source"_L1},
+    Pictured{"Button"_L1, "normalState"_L1},
+    Pictured{"Button"_L1, "pressedState"_L1},
+    Pictured{"NumberSpinner"_L1, "incNormalState"_L1},
+    Pictured{"NumberSpinner"_L1, "incPressedState"_L1},
+    Pictured{"CheckButton"_L1, "checkedState"_L1},
+    Pictured{"CheckButton"_L1, "uncheckedState"_L1},
+    Pictured{"Action"_L1, "propertyChanges"_L1},
+};
+
+//! All updates of elements of the screen are for \a newName from here on; the others describe nothing.
+QString relinked(const QString &states, const QString &newName, const Screen *screen)
+{
+    UpdateObjectList updates;
+    for (UpdateObjectInfo update : UpdateObjectList(states)) {
+        if (screen->hasElement(update.name().section(u'.', -1))) {
+            update.setName(newName);
+            updates.append(update);
+        }
+    }
+    return updates.toString();
+}
+
+//! A link that does not tell what it names may mean a variable, a screen or an element.
+bool isOtherThing(const Mention &mention, const DesignerObject *owner)
+{
+    const Project *project = owner->project();
+    return (mention.kinds.testFlag(NamedKind::Variable) && project->variables()->hasListItem(mention.path))
+           || (mention.kinds.testFlag(NamedKind::Screen) && project->screens()->hasListItem(mention.path))
+           || (mention.kinds.testFlag(NamedKind::Element) && owner->screen()
+               && owner->screen()->hasElement(mention.path));
+}
+
+bool isFileThere(const Project *project, const QString &image)
+{
+    const auto *resource = static_cast<const ImageResource *>(project->imageResources()->getListItem(image));
+    return resource ? QFileInfo(resource->filePath()).isFile()
+                    : QFileInfo(u"%1/%2"_s.arg(project->imagesPath(), image)).isFile();
+}
+
+} // namespace
+
+ChangeProperty::ChangeProperty(const SharedProperty &property, const QString &value, bool selected,
+                               UndoCommand *parent)
+    : ModelCommand(property, selected, parent)
+    , m_after(value)
+{
+    if (!owner()) {
+        return;
+    }
+    m_before = valueOf(property);
+    if (property->id() == "defaultScreen"_L1) {
+        setTitle(u"Change %1 Default Screen"_s, owner()->getIdName());
+    } else {
+        setTitle(u"Change %1"_s, property->name());
+    }
+    setupCommand();
+    notePending(property, m_after);
+    m_isFileMissing = notifyFileMissing();
+}
+
+void ChangeProperty::setupCommand()
+{
+    followLinkedElement();
+    if (property()->id() == "id"_L1) {
+        followName();
+    } else if (const auto *configuration = kindCast<Configuration>(owner())) {
+        for (const auto &[target, value] : configuration->followingChanges(*property(), m_after)) {
+            addChange(target, value);
+        }
+    }
+}
+
+void ChangeProperty::followLinkedElement()
+{
+    const Screen *screen = owner()->screen();
+    for (const LinkedStates &row : linkedStates) {
+        if (property()->id() != row.link || !owner()->isKindOfClass(row.className)) {
+            continue;
+        }
+        const QString linked = ObjectLinkInfo(m_after).objectId();
+        for (const QLatin1StringView id : row.states) {
+            const SharedProperty state = owner()->getProperty(QString(id));
+            if (state && screen && screen->hasElement(linked)) {
+                addChange(state, relinked(valueOf(state), linked, screen));
+            }
+        }
+    }
+}
+
+void ChangeProperty::followName()
+{
+    addChanges(ReferenceChanges::renamed(owner(), IdentifierInfo(m_after).name(), pending()));
+    m_sortsList =
+        owner()->listProperty()
+        && (owner()->isKindOfClass(u"HardwareElement"_s) || owner()->isKindOfClass(u"FunctionElement"_s));
+}
+
+bool ChangeProperty::notifyFileMissing() const
+{
+    const auto isShown = [this](const Pictured &row) {
+        return property()->id() == row.property && owner()->isKindOfClass(row.className);
+    };
+    const Project *project = owner()->project();
+    if (!project || std::none_of(pictured.begin(), pictured.end(), isShown)) {
+        return false;
+    }
+    for (const Mention &mention : ReferenceForm::mentions(*property(), m_after)) {
+        if (mention.kinds.testFlag(NamedKind::Image) && !isOtherThing(mention, owner())
+            && !isFileThere(project, mention.path)) {
+            qDebug().noquote() << u"%1: the file of the image \"%2\" is missing."_s.arg(owner()->objectPath(),
+                                                                                        mention.path);
+            return true;
+        }
+    }
+    return false;
+}
+
+//! Why the object cannot get the new name. Commands before this one in a composite may free the name yet, so
+//! that the rules are checked each time.
+QString ChangeProperty::nameError() const
+{
+    if (!owner() || property() != owner()->idProperty()) {
+        return {};
+    }
+    const QString name = IdentifierInfo(m_after).name();
+    return name == owner()->getIdName() ? QString() : PropertyValidators::nameError(owner(), name);
+}
+
+bool ChangeProperty::isValid() const
+{
+    return !m_isFileMissing && ModelCommand::isValid() && nameError().isEmpty();
+}
+
+QString ChangeProperty::errorString() const
+{
+    if (m_isFileMissing) {
+        return Common::LocalizationHelper::coreString(u"The file of the image is missing."_s);
+    }
+    const QString error = nameError();
+    return error.isEmpty() ? ModelCommand::errorString() : error;
+}
+
+bool ChangeProperty::set(const QString &value)
+{
+    const bool isDone = ValueChange::set(property(), value);
+    if (const SharedProperty list = isDone && m_sortsList ? owner()->listProperty() : SharedProperty()) {
+        SortListStep::sort(list);
+    }
+    return isDone;
+}
+
+bool ChangeProperty::redoOwn(QString &error)
+{
+    const bool isDone = set(m_after);
+    if (!isDone) {
+        error = property()->refusalOf(m_after);
+    }
+    return isDone;
+}
+
+bool ChangeProperty::undoOwn()
+{
+    return set(m_before);
+}
+
+void ChangeProperty::appendOwnChanges(QList<ValueChange> &changes) const
+{
+    if (owner()) {
+        changes.append({property(), m_before, m_after});
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

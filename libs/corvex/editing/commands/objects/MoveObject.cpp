@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/objects/MoveObject.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/groups/GroupIndexes.h"
+#include "corvex/editing/commands/private/EditStep.h"
+#include "corvex/editing/references/ReferenceChanges.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/project/elements/GroupElement.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+const Screen *screenOf(const SharedProperty &list)
+{
+    const auto *screen = kindCast<Screen>(list->parentObject());
+    return screen ? screen : list->parentObject()->screen();
+}
+
+//! Objects keep to their project: references and files would stay behind.
+const Project *projectOf(const SharedProperty &list)
+{
+    const auto *project = kindCast<Project>(list->parentObject());
+    return project ? project : list->parentObject()->project();
+}
+
+} // namespace
+
+MoveObject::MoveObject(const SharedProperty &from, const SharedProperty &to, DesignerObject *object,
+                       bool selected, UndoCommand *parent)
+    : ModelCommand(from, selected, parent)
+{
+    if (!from || !to || from == to || !to->parentObject() || !to->isList() || !object
+        || object->listProperty() != from || projectOf(from) != projectOf(to)) {
+        refuse(
+            Common::LocalizationHelper::coreString(u"There is nothing to move, or no list to move it to."_s));
+        return;
+    }
+    const QString name = object->getIdName();
+    setTitle(u"Move\"%1\" to \"%2\""_s, name, to->parentObject()->getIdName());
+    addStep<TakeItemStep>(from, object);
+    addStep<InsertItemStep>(to, object);
+    const GroupElement *oldGroup = GroupIndexes::groupOf(from);
+    if (screenOf(from) != screenOf(to)) {
+        // Drops it from the indexes of its group too.
+        addChanges(ReferenceChanges::removed({object}, pending()));
+    } else if (oldGroup) {
+        addChanges(ReferenceChanges::ungrouped(oldGroup, ReferenceTarget(object).names(), false, pending()));
+        addChange(oldGroup->indexes(), GroupIndexes::replaced(valueOf(oldGroup->indexes()), {name}, {}));
+    }
+    if (const GroupElement *group = GroupIndexes::groupOf(to)) {
+        addChange(group->indexes(), GroupIndexes::replaced(valueOf(group->indexes()), {}, {name}));
+    }
+    setSelection(selected ? QList<DesignerObject *>{object} : QList<DesignerObject *>());
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/objects/DeleteObject.h"
+
+namespace Halvane::Corvex::Designer {
+
+class DeleteScreen : public DeleteObject
+{
+public:
+    explicit DeleteScreen(DesignerObject *screen, UndoCommand *parent = nullptr);
+
+    Deletion deletion() const override { return Deletion::Screen; }
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/project/elements/Element.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! The base of what can be done at run time: changes of properties.
+class BasicAction : public Element
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(BasicAction, Element)
+
+protected:
+    using Element::Element;
+};
+
+} // namespace Halvane::Corvex::Designer

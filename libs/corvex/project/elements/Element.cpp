@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/elements/Element.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/PropertyValidators.h"
+#include "corvex/core/properties/IdentifierProperty.h"
+#include "corvex/project/RuntimeTable.h"
+#include "corvex/project/Screen.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+using Common::EnumHelper;
+
+namespace {
+
+//! The numbers that the device begins with, by their names at run time: "x" is a part of "position",
+//! "opacity" a fraction. What follows an expression begins with none.
+QHash<QString, QString> firstNumbers(const DesignerObject &element)
+{
+    QHash<QString, QString> numbers;
+    for (const SharedProperty &property : element.properties()) {
+        const QString qml = property->isList() ? QString() : property->toQml(0);
+        for (const QStringView line : QStringView(qml).split(u'\n')) {
+            const qsizetype colon = line.indexOf(u": "_s);
+            const QStringView value = colon < 0 ? QStringView() : line.sliced(colon + 2);
+            bool isNumber = false;
+            std::ignore = value.toDouble(&isNumber);
+            if (isNumber) {
+                numbers.insert(line.first(colon).toString(), value.toString());
+            }
+        }
+    }
+    return numbers;
+}
+
+} // namespace
+
+Element::Element(QObject *parent)
+    : DesignerObject(parent)
+{ }
+
+Element::~Element()
+{
+    if (screen()) {
+        screen()->elementIndex().remove(this);
+    }
+}
+
+QString Element::baseName() const
+{
+    return DesignerFactory::baseNameOf(this);
+}
+
+QString Element::displayName() const
+{
+    return DesignerFactory::displayNameOf(this);
+}
+
+bool Element::initializeProperties()
+{
+    static const PropertyTable table{
+        row<IdentifierProperty>("id", "Name", IdentifierInfo())
+            .rank(0)
+            .flags(15)
+            .allowInvalid()
+            .validator(&PropertyValidators::identifierElementValidator),
+    };
+    if (!DesignerObject::initializeProperties() || !addProperties(table)) {
+        return false;
+    }
+    registerIdentifier(u"Screen"_s);
+    return true;
+}
+
+ObjectView *Element::createGraphicsItem()
+{
+    return nullptr;
+}
+
+void Element::setScreen(Screen *newScreen)
+{
+    if (newScreen != screen()) {
+        if (screen()) {
+            screen()->elementIndex().remove(this);
+        }
+        if (newScreen) {
+            newScreen->elementIndex().insert(this);
+        }
+    }
+    DesignerObject::setScreen(newScreen);
+}
+
+void Element::nameTaken(const QString &oldName)
+{
+    if (screen()) {
+        screen()->elementIndex().rename(this, oldName);
+    }
+}
+
+RuntimePropertyList Element::runtimeProperties() const
+{
+    static constexpr RuntimeRow rows[] = {
+        {"addedToScene", "Added to Scene", EnumHelper::BooleanVariable, EnumHelper::ReadOnly,
+         "The element is added to the scene"},
+        {"completed", "Completed", EnumHelper::BooleanVariable, EnumHelper::ReadOnly,
+         "The setup of the element is finished"},
+        {"id", "Identifier", EnumHelper::StringVariable, EnumHelper::ReadOnly},
+    };
+    static const RuntimePropertyList list = toRuntimeProperties(rows);
+    return list;
+}
+
+RuntimeAutoSettingList Element::runtimeAutoSettingProperties() const
+{
+    QList<RuntimeAutoSettingProperty> settings;
+    const QHash<QString, QString> numbers = firstNumbers(*this);
+    for (const RuntimeProperty &runtime : runtimeProperties()) {
+        if (runtime.accessMode() == EnumHelper::ReadWrite) {
+            const SharedProperty property =
+                runtime.isNumber() ? SharedProperty() : getProperty(runtime.property());
+            settings.append(RuntimeAutoSettingProperty(
+                runtime.property(), runtime.displayName(), runtime.type(), runtime.accessMode(),
+                runtime.description(),
+                property ? property->valueString() : numbers.value(runtime.property())));
+        }
+    }
+    RuntimeAutoSettingList list;
+    list.append(settings);
+    return list;
+}
+
+} // namespace Halvane::Corvex::Designer

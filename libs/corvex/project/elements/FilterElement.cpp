@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/elements/FilterElement.h"
+
+#include "corvex/core/PropertyTable.h"
+#include "corvex/core/properties/CollectionProperties.h"
+
+namespace Halvane::Corvex::Designer {
+
+bool FilterElement::initializeProperties()
+{
+    static const PropertyTable table{
+        row<ListValueProperty>("elements", "Elements", ListInfo()).rank(1).flags(15).allowInvalid(),
+    };
+    return Element::initializeProperties() && addProperties(table);
+}
+
+QStringList FilterElement::elementNames() const
+{
+    return ListInfo(getProperty(u"elements")->valueString()).toList();
+}
+
+} // namespace Halvane::Corvex::Designer

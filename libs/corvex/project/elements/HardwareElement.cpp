@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/elements/HardwareElement.h"
+
+#include "corvex/project/Screen.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! Pasting thousands of elements with one channel must not validate them all for each.
+constexpr qsizetype mostSharers = 64;
+
+} // namespace
+
+void HardwareElement::setScreen(Screen *newScreen)
+{
+    const Screen *oldScreen = screen();
+    Element::setScreen(newScreen);
+    const SharedProperty channel = oldScreen != newScreen ? getProperty(u"channel") : SharedProperty();
+    if (channel && !disabledValidation()) {
+        validateOthersOn(oldScreen, channel->valueString());
+        validateOthersOn(newScreen, channel->valueString());
+    }
+}
+
+void HardwareElement::afterPropertyChanged(const DesignerProperty *property, const QString &previousValue)
+{
+    if (screen() && property->id() == "channel"_L1) {
+        screen()->elementIndex().changeChannel(this, previousValue);
+        validateOthersOn(screen(), previousValue);
+        validateOthersOn(screen(), property->valueString());
+    }
+    Element::afterPropertyChanged(property, previousValue);
+}
+
+void HardwareElement::validateOthersOn(const Screen *on, const QString &channel) const
+{
+    const auto others = on ? on->elementIndex().withChannel(className(), channel) : QList<DesignerObject *>();
+    // Beyond that number they have known of each other for long; a message may name one that has left.
+    if (others.size() > mostSharers) {
+        return;
+    }
+    for (DesignerObject *other : others) {
+        if (other != this) {
+            other->validate();
+        }
+    }
+}
+
+} // namespace Halvane::Corvex::Designer

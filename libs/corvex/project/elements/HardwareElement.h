@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/project/elements/Element.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! An input, an output or a port of the device. Elements that share a channel hear of each other's changes,
+//! so that each of them says what is wrong.
+class HardwareElement : public Element
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(HardwareElement, Element)
+
+public:
+    void setScreen(Screen *newScreen) override;
+
+protected:
+    using Element::Element;
+
+    void afterPropertyChanged(const DesignerProperty *property, const QString &previousValue) override;
+
+private:
+    void validateOthersOn(const Screen *on, const QString &channel) const;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/project/elements/Element.h"
+
+#include <QRectF>
+
+namespace Halvane::Corvex::Designer {
+
+//! An element that is drawn. Opacity and scale are per cent in the model and fractions at run time.
+class VisualElement : public Element
+{
+    Q_OBJECT
+    CORVEX_CLASS_NAMES(VisualElement, Element)
+
+public:
+    RuntimePropertyList runtimeProperties() const override;
+    //! What the element covers before rotation and scaling, in the coordinates of its screen or group;
+    //! without extent for an element without a size.
+    virtual QRectF boundingRect() const;
+
+protected:
+    using Element::Element;
+    //! A rectangle; those that look different say so.
+    ObjectView *createGraphicsItem() override;
+    bool initializeProperties() override;
+};
+
+} // namespace Halvane::Corvex::Designer

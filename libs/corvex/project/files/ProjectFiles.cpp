@@ -1,0 +1,312 @@
+// SPDX-License-Identifier: MIT
+// The files of Project: everything in its own folder, nothing beside it but the autosave file.
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/SafeFile.h"
+#include "corvex/common/files/TemporaryFolder.h"
+#include "corvex/common/files/private/FileSync.h"
+#include "corvex/core/ModelObserver.h"
+#include "corvex/editing/undo/UndoStack.h"
+#include "corvex/project/ImageResource.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/files/FileNameRules.h"
+#include "corvex/values/records/ObjectLinkInfo.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+const QString imagesFolder = u"Images"_s;
+const QString previewFile = u"Preview.png"_s;
+
+QString projectFileName(const QString &name)
+{
+    return u"%1.kdproj"_s.arg(name);
+}
+
+} // namespace
+
+QString Project::createFileName() const
+{
+    return projectFileName(getIdName());
+}
+
+QString Project::createSubPath() const
+{
+    return getIdName();
+}
+
+bool Project::createFile(const QString &path)
+{
+    if (const QString error = FileNameRules::projectNameError(getIdName()); !error.isEmpty()) {
+        return finish(error);
+    }
+    const QString oldVersion = m_version->valueString();
+    const QString oldDesignerVersion = m_designerVersion->valueString();
+    updateBuildVersion();
+    changePropertyValue(m_designerVersion, buildVersion());
+    if (!FileObject::createFile(path)) {
+        changePropertyValue(m_version, oldVersion);
+        changePropertyValue(m_designerVersion, oldDesignerVersion);
+        return false;
+    }
+    m_folder.close(); // another one from now on
+    createUndoStack();
+    return true;
+}
+
+bool Project::lockFiles(const QString &path, Common::FolderLock::Kind kind, int milliseconds)
+{
+    QString error;
+    m_folder.lock(path, kind, milliseconds, &error);
+    return finish(error);
+}
+
+Common::FileTransaction *Project::beginFileChanges(QString *error)
+{
+    return m_folder.begin(folderPath(), error);
+}
+
+bool Project::loadFile(const QString &path)
+{
+    QString error;
+    m_folder.takeBack();
+    if (!m_folder.recover(path, &error)) {
+        return finish(error);
+    }
+    if (QFileInfo(path).isFile()) {
+        Common::SafeFile::removeAbandoned(QFileInfo(path).absolutePath());
+        clearContents();
+    }
+    const bool done = FileObject::loadFile(path) && updateProjectProperties();
+    createUndoStack();
+    return done;
+}
+
+void Project::clearContents()
+{
+    setObserver(nullptr);
+    setDisableValidation(true);
+    for (const SharedProperty &list : {m_imageResources, m_variables, m_screens}) {
+        const QList<DesignerObject *> items = list->listItems();
+        for (auto item = items.crbegin(); item != items.crend(); ++item) {
+            delete takeListPropertyItem(list, *item);
+        }
+    }
+    changePropertyObjectValue(m_configuration, nullptr, true);
+    setIdName(baseName());
+    changePropertyValue(m_version, {});
+    changePropertyValue(m_designerVersion, {});
+    changePropertyValue(m_defaultScreen, ObjectLinkInfo({}, u"Project"_s, u"Screen"_s).toString());
+    m_autoSaveVariables.clear();
+    m_needsBuildVersion = false;
+    setDisableValidation(false);
+}
+
+bool Project::saveFile()
+{
+    const QString oldDesignerVersion = m_designerVersion->valueString();
+    changePropertyValue(m_designerVersion, buildVersion());
+    if (!FileObject::saveFile()) {
+        changePropertyValue(m_designerVersion, oldDesignerVersion);
+        return false;
+    }
+    createUndoStack();
+    return true;
+}
+
+bool Project::writeAgain(QString *error)
+{
+    const auto clean = [this] { undoStack()->cleanJunkFiles(); };
+    const auto write = [this](const QString &path, QString *reason) {
+        return saveToFile(this, path, reason);
+    };
+    return m_folder.save(folderPath(), fileName(), clean, write, error);
+}
+
+bool Project::renameEntries(const QString &fileName, const QString &subPath, QString *error)
+{
+    const bool waitsForSave = fileChanges();
+    Common::FileTransaction *changes = beginFileChanges(error);
+    const bool isRenamed =
+        changes && (fileName == this->fileName() || changes->move(this->fileName(), fileName, error))
+        && (subPath == this->subPath() || changes->renameFolder(subPath, error));
+    if (waitsForSave) {
+        return isRenamed;
+    }
+    if (!isRenamed) {
+        m_folder.takeBack();
+    }
+    return isRenamed && m_folder.keepChanges(fileName, error);
+}
+
+bool Project::deleteFile()
+{
+    if (QString error; !m_folder.keepChanges(fileName(), &error)) {
+        return finish(error);
+    }
+    const QDir folder(folderPath());
+    const QString ownFolder = subPath() == createSubPath() ? subPath() : QString();
+    const QDir parent(parentPath());
+    QStringList files;
+    for (const ImageResource *image : images()) {
+        files.append(image->filePath());
+    }
+    files.append(folder.filePath(previewFile));
+    if (!FileObject::deleteFile()) {
+        return false;
+    }
+    QStringList left;
+    for (const QString &file : std::as_const(files)) {
+        if (QFileInfo(file).isFile() && !QFile::remove(file)) {
+            left.append(file);
+        }
+    }
+    // Folders in which the user keeps more are not empty and stay.
+    folder.rmdir(imagesFolder);
+    if (!ownFolder.isEmpty()) {
+        parent.rmdir(ownFolder);
+    }
+    return finish(left.isEmpty()
+                      ? QString()
+                      : Common::LocalizationHelper::coreString(u"The file \"%1\" cannot be deleted."_s)
+                            .arg(left.join(R"(", ")"_L1)));
+}
+
+bool Project::createFileCopy(const QString &parentPath, const QString &name)
+{
+    const QString copyName = name.isEmpty() ? getIdName() : name;
+    if (const QString error = FileNameRules::projectNameError(copyName); !error.isEmpty()) {
+        return finish(error);
+    }
+    const QString folder = u"%1/%2"_s.arg(parentPath, copyName);
+    if (const QFileInfo info(folder); info.exists() || info.isSymLink()) {
+        return finish(
+            Common::LocalizationHelper::coreString(u"The folder \"%1\" exists already."_s).arg(folder));
+    }
+    // The copy grows in a folder beside its place and is moved there when it is complete.
+    const Common::TemporaryFolder workshop(parentPath, u".corvex-copy"_s);
+    const QString draft = workshop.filePath(copyName);
+    if (!workshop.isValid() || !QDir().mkdir(draft)) {
+        return finish(Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be made: %2"_s)
+                          .arg(folder, workshop.errorString()));
+    }
+    QString error;
+    if (copyName == getIdName() ? writeContents(draft, createFileName(), &error)
+                                : writeRenamed(draft, copyName, &error)) {
+        if (!Common::FileSync::syncAll(draft) || !Common::FileSync::move(draft, folder)
+            || !Common::FileSync::sync(parentPath)) {
+            error = Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be made: %2"_s)
+                        .arg(folder, Common::FileSync::reason());
+        }
+    }
+    return finish(error);
+}
+
+bool Project::writeRenamed(const QString &path, const QString &name, QString *error) const
+{
+    const std::unique_ptr<DesignerObject> copy(createCopy(this, false));
+    if (!copy) {
+        *error = Common::LocalizationHelper::coreString(u"The project \"%1\" cannot be copied."_s)
+                     .arg(getIdName());
+        return false;
+    }
+    copy->setIdName(name);
+    static_cast<Project &>(*copy).updateBuildVersion();
+    return saveToFile(copy.get(), u"%1/%2"_s.arg(path, projectFileName(name)), error)
+           && copyResources(path, error);
+}
+
+bool Project::writeContents(const QString &path, const QString &fileName, QString *error) const
+{
+    return saveToFile(this, u"%1/%2"_s.arg(path, fileName), error) && copyResources(path, error);
+}
+
+bool Project::copyResources(const QString &path, QString *error) const
+{
+    const QDir target(path);
+    for (const ImageResource *image : images()) {
+        const QString copy = target.filePath(u"%1/%2"_s.arg(imagesFolder, image->fileName()));
+        // Two resources that bear one name show one file.
+        if (!QFileInfo(image->filePath()).isFile() || QFileInfo::exists(copy)) {
+            continue;
+        }
+        target.mkdir(imagesFolder);
+        if (!Common::FileHelper::copyFile(image->filePath(), copy, error)) {
+            return false;
+        }
+    }
+    const QString preview = QDir(folderPath()).filePath(previewFile);
+    return folderPath().isEmpty() || !QFileInfo(preview).isFile()
+           || Common::FileHelper::copyFile(preview, target.filePath(previewFile), error);
+}
+
+QList<ImageResource *> Project::images() const
+{
+    QList<ImageResource *> found;
+    for (DesignerObject *item : m_imageResources->listItems()) {
+        found.append(static_cast<ImageResource *>(item));
+    }
+    return found;
+}
+
+void Project::afterFileFieldsChanged()
+{
+    for (ImageResource *image : images()) {
+        image->updateFileFields();
+    }
+}
+
+QString Project::imagesPath() const
+{
+    return fullFilePath().isEmpty() ? QString() : u"%1/%2"_s.arg(folderPath(), imagesFolder);
+}
+
+QString Project::autosavePath() const
+{
+    return fullFilePath().isEmpty() ? QString() : u"%1/%2.kdasv"_s.arg(parentPath(), fileName());
+}
+
+bool Project::getFileIdAndVersion(const QString &path, QString *id, QString *version)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    QXmlStreamReader reader(&file);
+    if (!reader.readNextStartElement() || reader.name() != "Project"_L1 || !reader.readNextStartElement()
+        || reader.name() != "Properties"_L1) {
+        return false;
+    }
+    QHash<QString, QString> found;
+    while (found.size() < 2 && reader.readNextStartElement()) {
+        const QXmlStreamAttributes attributes = reader.attributes();
+        const QString name = attributes.value("name"_L1).toString();
+        if (name == "id"_L1 || name == "version"_L1) {
+            found.insert(name, attributes.value("value"_L1).toString());
+        }
+        reader.skipCurrentElement();
+    }
+    if (reader.hasError() || !found.contains(u"id"_s)) {
+        return false;
+    }
+    *id = found.value(u"id"_s);
+    *version = found.value(u"version"_s);
+    return true;
+}
+
+QString Project::getFileVersion(const QString &path)
+{
+    QString id;
+    QString version;
+    return getFileIdAndVersion(path, &id, &version) ? version : QString();
+}
+
+} // namespace Halvane::Corvex::Designer

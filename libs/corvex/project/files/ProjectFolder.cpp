@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/files/ProjectFolder.h"
+
+#include "corvex/common/LocalizationHelper.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Common::FileTransaction;
+using Common::LocalizationHelper;
+
+//! A save in another program is over by then.
+constexpr int timeToSave = 2000; // milliseconds
+
+bool fail(QString *error, const QString &english, const QString &path)
+{
+    *error = LocalizationHelper::coreString(english).arg(QDir::toNativeSeparators(path));
+    return false;
+}
+
+bool failToLock(QString *error, const QString &folder)
+{
+    return fail(error,
+                u"Another program is working on the project in \"%1\". Try again when it has finished."_s,
+                folder);
+}
+
+//! The folder of the file, which an interrupted edit may have left under another name.
+QString folderOf(const QString &path)
+{
+    const QString folder = QFileInfo(path).absolutePath();
+    const QString renamed = QFileInfo(path).exists() ? QString() : FileTransaction::renamedFrom(folder);
+    return renamed.isEmpty() ? folder : renamed;
+}
+
+} // namespace
+
+bool ProjectFolder::lock(const QString &path, Kind kind, int milliseconds, QString *error)
+{
+    close();
+    const QString folder = folderOf(path);
+    if (!QFileInfo(folder).isDir()) {
+        return true; // the opening tells that there is no such file
+    }
+    // To end what was interrupted nobody else may be there.
+    const bool isInterrupted = FileTransaction::isOpen(folder);
+    if (!m_lock.take(folder, isInterrupted ? Kind::Exclusive : kind, milliseconds)) {
+        return failToLock(error, folder);
+    }
+    if (isInterrupted && !endInterrupted(folder, error)) {
+        m_lock.release();
+        return false;
+    }
+    // The folder has the name that the caller knows again, or is gone from there.
+    const QString present = QFileInfo(path).absolutePath();
+    if (isInterrupted && QFileInfo(present).isDir() && !m_lock.take(present, kind, milliseconds)) {
+        return failToLock(error, present);
+    }
+    m_isLockedForCaller = true;
+    return true;
+}
+
+bool ProjectFolder::recover(const QString &path, QString *error)
+{
+    const QString folder = folderOf(path);
+    if (m_lock.kind() != Kind::None || !FileTransaction::isOpen(folder)) {
+        return true;
+    }
+    const bool isEnded = !m_lock.take(folder, Kind::Exclusive) || endInterrupted(folder, error);
+    m_lock.release();
+    return isEnded;
+}
+
+bool ProjectFolder::endInterrupted(const QString &folder, QString *error)
+{
+    m_note.clear();
+    switch (FileTransaction::recover(folder)) {
+    case FileTransaction::Recovery::Nothing:
+        break;
+    case FileTransaction::Recovery::Finished:
+        m_note = LocalizationHelper::coreString(u"An interrupted save of this project has been finished."_s);
+        break;
+    case FileTransaction::Recovery::TakenBack:
+        m_note = LocalizationHelper::coreString(
+            u"An interrupted edit of this project has been taken back: it is as it was last saved."_s);
+        break;
+    case FileTransaction::Recovery::Failed:
+        return fail(
+            error,
+            u"An edit of the project in \"%1\" was interrupted and cannot be taken back: its files cannot "
+            "be written. Allow that, and open the project again."_s,
+            folder);
+    }
+    return true;
+}
+
+FileTransaction *ProjectFolder::begin(const QString &folder, QString *error)
+{
+    if (!m_changes) {
+        if (m_lock.kind() != Kind::Exclusive && !m_lock.take(folder, Kind::Exclusive)) {
+            failToLock(error, folder);
+            return nullptr;
+        }
+        m_changes = FileTransaction::begin(folder, error);
+        if (m_changes) {
+            m_changes->deferRemovals(m_isSaving);
+        } else if (!m_isSaving) {
+            unlockSaved();
+        }
+    }
+    return m_changes.get();
+}
+
+bool ProjectFolder::save(const QString &folder, const QString &file, const std::function<void()> &clean,
+                         const Write &write, QString *error)
+{
+    if (!lockToSave(folder, error)) {
+        return false;
+    }
+    const bool hadChanges = bool(m_changes);
+    m_isSaving = true;
+    if (m_changes) {
+        m_changes->deferRemovals(true);
+    }
+    clean();
+    m_isSaving = false;
+    const bool isSaved = m_changes ? write(m_changes->draftPath(), error) && commit(file, error)
+                                   : write(QDir(folder).filePath(file), error);
+    if (!isSaved && !hadChanges) {
+        m_changes.reset();
+    } else if (m_changes) {
+        m_changes->deferRemovals(false);
+    }
+    unlockSaved();
+    return isSaved;
+}
+
+bool ProjectFolder::lockToSave(const QString &folder, QString *error)
+{
+    return m_lock.kind() == Kind::Exclusive || m_lock.take(folder, Kind::Exclusive, timeToSave)
+           || failToLock(error, folder);
+}
+
+//! Between two saves nobody is kept out for nothing.
+void ProjectFolder::unlockSaved()
+{
+    if (!m_changes && !m_isLockedForCaller) {
+        m_lock.release();
+    }
+}
+
+bool ProjectFolder::commit(const QString &file, QString *error)
+{
+    const bool isCommitted = m_changes->commit(file, error);
+    if (m_changes->isOver()) {
+        m_changes.reset();
+    }
+    return isCommitted;
+}
+
+bool ProjectFolder::keepChanges(const QString &file, QString *error)
+{
+    const bool isKept = !m_changes || commit(file, error);
+    m_changes.reset();
+    unlockSaved();
+    return isKept;
+}
+
+void ProjectFolder::takeBack()
+{
+    m_changes.reset();
+    unlockSaved();
+}
+
+void ProjectFolder::close()
+{
+    m_changes.reset();
+    m_isLockedForCaller = false;
+    m_lock.release();
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/values/expressions/GeneralDataInfo.h"
+
+#include <QStringList>
+
+namespace Halvane::Corvex::Designer {
+
+//! A term of a mathematical expression. Its translation is a number whatever type is asked for.
+class MathInfo : public GeneralDataInfo
+{
+public:
+    using GeneralDataInfo::GeneralDataInfo;
+    MathInfo() = default;
+    MathInfo(const GeneralDataInfo &other)
+        : GeneralDataInfo(other)
+    { }
+
+    bool isValidValueType() const override;
+    bool isValidDataType() const override;
+    bool isValidValue() const override;
+    QString toQmlString(const OutputType &output) const override;
+
+    static const QStringList &mathOperators();
+    //! The names of the mathematical constants ("PI").
+    static const QStringList &mathValues();
+    static const QStringList &mathFunctions();
+    static const QStringList &booleanOperators();
+
+    /*!
+        The term with plain names, as a user reads it and as the expression builder checks it: "speed", not
+        the call that fetches it. A function stands with its opening parenthesis.
+    */
+    static QString parserString(const MathInfo &term);
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/values/runtime/PropertyInfoList.h"
+
+#include <QMap>
+#include <QString>
+#include <QStringView>
+
+namespace Halvane::Corvex::Designer {
+
+//! An update of one object: which one (by name, class, screen and the property of a parent that holds it) and
+//! the values that its properties get. Fields that are empty do not restrict the choice.
+class UpdateObjectInfo
+{
+public:
+    UpdateObjectInfo() = default;
+    //! A group of any of the keys that toString() writes and of no others; "index" is 0 or more.
+    explicit UpdateObjectInfo(const QString &text, bool *ok = nullptr);
+
+    const QString &name() const { return m_name; }
+    void setName(const QString &name) { m_name = name; }
+    const PropertyInfoList &propertyValues() const { return m_propertyValues; }
+    void setPropertyValues(const PropertyInfoList &values) { m_propertyValues = values; }
+    //! From values by property name; the list is in the order of the names.
+    void setPropValueMap(const QMap<QString, QString> &values);
+    const QString &parentProperty() const { return m_parentProperty; }
+    void setParentProperty(const QString &property) { m_parentProperty = property; }
+    const QString &parentObject() const { return m_parentObject; }
+    void setParentObject(const QString &object) { m_parentObject = object; }
+    const QString &className() const { return m_className; }
+    void setClassName(const QString &className) { m_className = className; }
+    const QString &screen() const { return m_screen; }
+    void setScreen(const QString &screen) { m_screen = screen; }
+    const QString &upgradeVersion() const { return m_upgradeVersion; }
+    void setUpgradeVersion(const QString &version) { m_upgradeVersion = version; }
+    //! The place in the parent's property; -1 for none, which is what every negative number becomes.
+    int index() const { return m_index; }
+    void setElementIndex(int index) { m_index = index < 0 ? -1 : index; }
+
+    //! The group of the fields that are set. Separators inside a field are escaped (see NestedText), so that
+    //! the text of the values stays one field. When nothing is set the text is empty and cannot be read
+    //! alone.
+    QString toString() const;
+    //! The object has a name.
+    bool isValid() const { return !m_name.isEmpty(); }
+
+    friend bool operator==(const UpdateObjectInfo &, const UpdateObjectInfo &) = default;
+
+private:
+    bool readEntry(QStringView key, QStringView value);
+
+    QString m_name;
+    PropertyInfoList m_propertyValues;
+    QString m_parentProperty;
+    QString m_parentObject;
+    QString m_className;
+    QString m_screen;
+    QString m_upgradeVersion;
+    int m_index = -1;
+};
+
+} // namespace Halvane::Corvex::Designer

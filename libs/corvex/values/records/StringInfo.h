@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/values/expressions/GeneralDataInfo.h"
+
+#include <QStringList>
+
+namespace Halvane::Corvex::Designer {
+
+//! A term of a text expression. Its translation is the same whatever type is asked for.
+class StringInfo : public GeneralDataInfo
+{
+public:
+    using GeneralDataInfo::GeneralDataInfo;
+    StringInfo() = default;
+    StringInfo(const GeneralDataInfo &other)
+        : GeneralDataInfo(other)
+    { }
+
+    bool isValidValueType() const override;
+    bool isValidDataType() const override;
+    bool isValidValue() const override;
+    QString toQmlString(const OutputType &output) const override;
+
+    static const QStringList &stringFunctions();
+    static const QStringList &stringOperators();
+    static const QStringList &booleanOperators();
+
+    //! The term with plain names, as MathInfo::parserString().
+    static QString parserString(const StringInfo &term);
+};
+
+} // namespace Halvane::Corvex::Designer

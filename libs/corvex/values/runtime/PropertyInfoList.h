@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/values/runtime/PropertyInfo.h"
+#include "corvex/values/text/RecordList.h"
+
+#include <QString>
+
+namespace Halvane::Corvex::Designer {
+
+//! Values of properties, in the order in which they are set.
+class PropertyInfoList : public RecordList<PropertyInfo>
+{
+public:
+    using RecordList::RecordList;
+    PropertyInfoList() = default;
+    //! Items joined with " | "; the list is empty when any of them is refused.
+    explicit PropertyInfoList(const QString &text, bool *ok = nullptr);
+
+    QString toString() const;
+    //! Every item has a name.
+    bool isValid() const;
+};
+
+} // namespace Halvane::Corvex::Designer

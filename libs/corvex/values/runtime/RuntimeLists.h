@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/values/runtime/RuntimeAutoSettingProperty.h"
+#include "corvex/values/runtime/RuntimeProperty.h"
+#include "corvex/values/runtime/RuntimeRecordList.h"
+
+namespace Halvane::Corvex::Designer {
+
+//! The properties of an element that the device can reach while it runs.
+using RuntimePropertyList = RuntimeRecordList<RuntimeProperty>;
+
+extern template class RuntimeRecordList<RuntimeProperty>;
+
+//! The properties of an element whose values an auto-setting variable saves and restores.
+using RuntimeAutoSettingList = RuntimeRecordList<RuntimeAutoSettingProperty>;
+
+extern template class RuntimeRecordList<RuntimeAutoSettingProperty>;
+
+} // namespace Halvane::Corvex::Designer

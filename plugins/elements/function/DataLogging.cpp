@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "elements/function/DataLogging.h"
+
+#include "corvex/core/QmlText.h"
+#include "corvex/core/properties/LinkProperty.h"
+#include "corvex/variables/LogVariable.h"
+
+#include "elements/Rows.h"
+#include "elements/Statements.h"
+#include "elements/Validators.h"
+
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Elements {
+
+namespace {
+
+/*! The name of the log, and how it samples: no configuration file says that, and the element is what does the
+    sampling. */
+QString logToQml(const DesignerProperty *property, int indent)
+{
+    QStringList lines{linkNameToQml(property, indent)};
+    if (const auto *log = static_cast<const LinkProperty *>(property)->connectLinkTo<LogVariable>()) {
+        for (const QString &id : {QStringLiteral("autoStart"), QStringLiteral("interval"),
+                                  QStringLiteral("maxDataPoints"), QStringLiteral("startDelay")}) {
+            lines.append(log->getProperty(id)->toQml(indent));
+        }
+        const QString behavior = log->getProperty(u"behavior")->valueString();
+        lines.append(QmlText::line(indent, QStringLiteral("behavior"), QmlText::quoted(behavior)));
+    }
+    return lines.join(u'\n');
+}
+
+} // namespace
+
+bool DataLogging::initializeProperties()
+{
+    static const PropertyTable table{
+        projectLinkRow("variable", "Log Variable", "LogVariable")
+            .rank(1)
+            .validator(&linkTargetValidator)
+            .qml(&logToQml),
+    };
+    return FunctionElement::initializeProperties() && addProperties(table);
+}
+
+} // namespace Halvane::Corvex::Elements

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "elements/function/PropertyTrigger.h"
+
+#include "corvex/core/QmlText.h"
+#include "corvex/core/properties/BasicProperties.h"
+
+#include "elements/Rows.h"
+#include "elements/Statements.h"
+#include "elements/Validators.h"
+
+using namespace Qt::StringLiterals;
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Elements {
+
+namespace {
+
+//! "actions: [qml_a, qml_b]"
+QString actionsToQml(const DesignerProperty *property, int indent)
+{
+    QStringList actions;
+    for (const QString &name : property->valueString().split(u", "_s, Qt::SkipEmptyParts)) {
+        if (const QString id = QmlText::reference(name); !id.isEmpty()) {
+            actions.append(id);
+        }
+    }
+    return QmlText::line(indent, u"actions"_s, QmlText::array(actions));
+}
+
+} // namespace
+
+bool PropertyTrigger::initializeProperties()
+{
+    static const PropertyTable table{
+        expressionRow("dataValues", "Data Values", "PropertyEditor")
+            .rank(1)
+            .flags(ordinary)
+            .validator(&termsValidator)
+            .qml(&termsToQml),
+        expressionRow("condition", "Condition", "VerticalBooleanExpressionEditor")
+            .rank(2)
+            .flags(ordinary)
+            .validator(&codeValidator<GeneralDataList::BoolExpression>)
+            .qml(&conditionToQml),
+        row<StringProperty>("actionScheduler", "Actions", QString())
+            .rank(3)
+            .flags(ordinary)
+            .validator(&actionsValidator)
+            .qml(&actionsToQml)
+            .allowInvalid(),
+    };
+    return FunctionElement::initializeProperties() && addProperties(table);
+}
+
+} // namespace Halvane::Corvex::Elements

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "elements/hardware/Communication.h"
+
+#include "corvex/core/properties/CollectionProperties.h"
+
+#include "elements/Rows.h"
+#include "elements/Statements.h"
+#include "elements/Validators.h"
+
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Elements {
+
+bool BACnetService::initializeProperties()
+{
+    static const PropertyTable table{
+        row<ListValueProperty>("bacNetObjectList", "BACnet Objects", ListInfo())
+            .rank(1)
+            .flags(ordinary)
+            .allowInvalid(),
+        row<ListValueProperty>("bacNetDevices", "BACnet Devices", ListInfo())
+            .rank(2)
+            .flags(ordinary)
+            .allowInvalid(),
+    };
+    return FunctionElement::initializeProperties() && addProperties(table);
+}
+
+bool ModbusCommands::initializeProperties()
+{
+    static const PropertyTable table{
+        row<ListValueProperty>("commands", "Commands", ListInfo()).rank(1).flags(ordinary).allowInvalid(),
+    };
+    return FunctionElement::initializeProperties() && addProperties(table);
+}
+
+bool SPICommunication::initializeProperties()
+{
+    static const PropertyTable table{
+        expressionRow("dataValues", "Data Values", "VerticalMathExpressionEditor")
+            .rank(1)
+            .flags(ordinary)
+            .validator(&termsValidator)
+            .qml(&termsToQml),
+    };
+    return FunctionElement::initializeProperties() && addProperties(table);
+}
+
+} // namespace Halvane::Corvex::Elements

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "elements/visual/Image.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/core/properties/BasicProperties.h"
+#include "corvex/core/properties/ShapeProperties.h"
+#include "corvex/project/ImageResource.h"
+#include "corvex/project/RuntimeTable.h"
+
+#include "elements/Rows.h"
+#include "elements/Statements.h"
+#include "elements/Validators.h"
+
+using namespace Qt::StringLiterals;
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Elements {
+
+bool Image::initializeProperties()
+{
+    static const PropertyTable table{
+        projectLinkRow("source", "Source", "ImageResource")
+            .rank(2)
+            .editor("ImageSourceEditor")
+            .validator(&linkTargetValidator)
+            .qml(&linkNameToQml),
+        row<SizeProperty>("size", "Size", QSizeF(100, 100)).rank(3).allowInvalid(),
+        row<BooleanProperty>("keepRatio", "Keep Proportions", true)
+            .rank(4)
+            .flags(notAtRuntime)
+            .editor("KeepRatioEditor"),
+    };
+    return StandardVisual::initializeProperties() && addProperties(table);
+}
+
+void Image::setProject(Project *newProject)
+{
+    StandardVisual::setProject(newProject);
+    showResource();
+}
+
+void Image::afterPropertyChanged(const DesignerProperty *property, const QString &previousValue)
+{
+    StandardVisual::afterPropertyChanged(property, previousValue);
+    if (property->id() == QLatin1StringView("source")) {
+        showResource();
+    }
+}
+
+//! Tells the picture that it names, and the one that it named before.
+void Image::showResource()
+{
+    ImageResource *resource = ImageResource::imageElement(this);
+    if (resource == m_resource) {
+        return;
+    }
+    if (m_resource) {
+        m_resource->unlinkElement(this);
+    }
+    m_resource = resource;
+    if (m_resource) {
+        m_resource->linkElement(this);
+    }
+}
+
+ObjectView *Image::createGraphicsItem()
+{
+    return DesignerFactory::createObjectView(u"GraphicsImage"_s, this);
+}
+
+RuntimePropertyList Image::runtimeProperties() const
+{
+    using Common::EnumHelper;
+    static constexpr RuntimeRow rows[] = {
+        {"source", "Source", EnumHelper::StringVariable, EnumHelper::ReadWrite},
+        {"width", "Width", EnumHelper::NumberVariable, EnumHelper::ReadWrite},
+        {"height", "Height", EnumHelper::NumberVariable, EnumHelper::ReadWrite},
+    };
+    static const RuntimePropertyList list = extended(StandardVisual::runtimeProperties(), rows);
+    return list;
+}
+
+} // namespace Halvane::Corvex::Elements

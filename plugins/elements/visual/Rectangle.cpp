@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "elements/visual/Rectangle.h"
+
+#include "corvex/core/properties/BasicProperties.h"
+#include "corvex/core/properties/BorderProperty.h"
+#include "corvex/core/properties/ColorProperties.h"
+#include "corvex/core/properties/ShapeProperties.h"
+#include "corvex/project/RuntimeTable.h"
+
+#include "elements/BoundQml.h"
+#include "elements/Rows.h"
+
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Elements {
+
+bool Rectangle::initializeProperties()
+{
+    static const PropertyTable table{
+        row<SizeProperty>("size", "Size", QSizeF(100, 60)).rank(2).allowInvalid(),
+        row<ColorProperty>("color", "Color", QColor(Qt::white)).rank(3).qml(&boundToQml),
+        bindingRow("colorBinding", "Color (Expression)", "PropertyEditor").rank(4),
+        row<BorderProperty>("border", "Border", BorderInfo(1, Qt::black)).rank(5).allowInvalid(),
+        row<IntegerProperty>("radius", "Corner Radius", 0)
+            .rank(6)
+            .flags(ordinary)
+            .parameter("minimum", 0)
+            .parameter("suffix", QStringLiteral(" px"))
+            .allowInvalid(),
+    };
+    return StandardVisual::initializeProperties() && addProperties(table);
+}
+
+RuntimePropertyList Rectangle::runtimeProperties() const
+{
+    using Common::EnumHelper;
+    static constexpr RuntimeRow rows[] = {
+        {"color", "Color", EnumHelper::ColorVariable, EnumHelper::ReadWrite},
+        {"radius", "Corner Radius", EnumHelper::IntegerVariable, EnumHelper::ReadWrite},
+        {"width", "Width", EnumHelper::NumberVariable, EnumHelper::ReadWrite},
+        {"height", "Height", EnumHelper::NumberVariable, EnumHelper::ReadWrite},
+    };
+    static const RuntimePropertyList list = extended(StandardVisual::runtimeProperties(), rows);
+    return list;
+}
+
+} // namespace Halvane::Corvex::Elements

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "elements/visual/StandardVisual.h"
+
+#include "elements/BoundQml.h"
+#include "elements/Rows.h"
+
+using namespace Halvane::Corvex::Designer;
+
+namespace Halvane::Corvex::Elements {
+
+bool StandardVisual::initializeProperties()
+{
+    if (!VisualElement::initializeProperties()) {
+        return false;
+    }
+    static const PropertyTable table{
+        PropertyRow::anew(getProperty(u"position")).qml(&boundPositionToQml),
+        PropertyRow::anew(getProperty(u"rotation")).qml(&boundToQml),
+        PropertyRow::anew(getProperty(u"visible")).qml(&boundToQml),
+        bindingRow("xBinding", "Position X (Expression)", "VerticalMathExpressionEditor").rank(60),
+        bindingRow("yBinding", "Position Y (Expression)", "VerticalMathExpressionEditor").rank(61),
+        bindingRow("rotationBinding", "Rotation (Expression)", "VerticalMathExpressionEditor").rank(62),
+        bindingRow("visibleBinding", "Visible (Expression)", "VerticalBooleanExpressionEditor").rank(63),
+    };
+    return addProperties(table);
+}
+
+} // namespace Halvane::Corvex::Elements
