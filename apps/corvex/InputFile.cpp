@@ -3,7 +3,10 @@
 
 #include <QFileInfo>
 
+#include <cerrno>
 #include <cstdio>
+#include <unistd.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -50,18 +53,28 @@ bool InputFile::readAll(QByteArray &bytes)
 
 bool InputFile::readLine(QByteArray &line)
 {
-    constexpr qint64 step = 64 * 1024;
-    line.clear();
-    do {
-        const QByteArray part = m_file.readLine(step);
-        line += part;
-        if (!isReadable(part.size())) {
+    // QFile asks a pipe for each byte of a line alone, or waits until it is full.
+    QByteArray part(64 * 1024, Qt::Uninitialized);
+    qsizetype end = m_ahead.indexOf('\n', m_lineStart);
+    while (end < 0) {
+        const qsizetype searched = m_ahead.size() - m_lineStart;
+        m_ahead.remove(0, std::exchange(m_lineStart, 0));
+        const ssize_t size = ::read(m_file.handle(), part.data(), size_t(part.size()));
+        if (size < 0 && errno != EINTR) {
+            m_error = u"\"%1\" cannot be read: %2."_s.arg(m_path, qt_error_string(errno));
             return false;
         }
-        if (part.isEmpty()) {
-            break;
+        if (size <= 0) {
+            break; // the end, or the wish that the program shall end
         }
-    } while (!line.endsWith('\n'));
+        if (!isReadable(size)) {
+            return false;
+        }
+        m_ahead.append(part.constData(), size);
+        end = m_ahead.indexOf('\n', searched);
+    }
+    line = end < 0 ? m_ahead : m_ahead.sliced(m_lineStart, end + 1 - m_lineStart);
+    m_lineStart = end < 0 ? m_ahead.size() : end + 1;
     return true;
 }
 

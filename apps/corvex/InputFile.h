@@ -21,7 +21,7 @@ public:
 
     //! False, with the reason in errorString(), when it cannot be read.
     bool open();
-    //! All that is left. False, with the reason, for a file that cannot be read or is too large.
+    //! The whole file. False, with the reason, for one that cannot be read or is too large.
     bool readAll(QByteArray &bytes);
     //! One line with its end; empty at the end of the file. False as above.
     bool readLine(QByteArray &line);
@@ -36,7 +36,9 @@ private:
     QString m_path;
     qint64 m_largest;
     QFile m_file;
-    qint64 m_size = 0; //!< that was read
+    qint64 m_size = 0;         //!< that was read
+    QByteArray m_ahead;        //!< that was read and is not yet a line of somebody's
+    qsizetype m_lineStart = 0; //!< of the next line, in m_ahead
     QString m_error;
 };
 

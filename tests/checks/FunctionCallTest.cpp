@@ -23,6 +23,7 @@ TEST(FunctionCall, ArgumentsAreCountedByTheParenthesesAroundThem)
          u"max 2 02041, pow 2 02042"_s},
         {u"<0502pow><0502sqrt><02044><0101)><0101)>"_s, u"pow 1!, sqrt 1 02044"_s},
         {u"<0502abs><0101(><02041><0101+><02042><0101)><0101)>"_s, u"abs 1"_s},
+        {u"<0502max><0101(><02041><0101)><0101,><02042><0101)>"_s, u"max 2"_s},
         {u"<0502sqrt><02041><0101,><02042><0101)>"_s, u"sqrt 2! 02041"_s},
         {u"0502random"_s, u""_s},
     };

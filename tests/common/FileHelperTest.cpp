@@ -121,6 +121,7 @@ TEST_F(FileHelperTest, WriteErrorsNameTheFile)
         QString error;
         EXPECT_FALSE(FileHelper::writeFile(name, "x", &error)) << name.toStdString();
         EXPECT_TRUE(error.contains(name) && !error.endsWith(u' ')) << error.toStdString();
+        EXPECT_EQ(FileHelper::md5(name), QString()) << name.toStdString();
     }
 }
 

@@ -203,6 +203,8 @@ TEST_F(Xml, WhatIsNotUnderstoodIsTold)
         {"<?remark a?>", ReadNote::Dropped, "instruction"},
         {"<Property name='nodes'><List><Node/></List><List/></Property>", ReadNote::Dropped, "\"List\""},
         {"<Property name='nodes'><List><Robot/></List></Property>", ReadNote::Kept, "\"Robot\""},
+        {"<Property name='percent' value='7'/></Properties><Properties><Property name='percent' value='8'/>",
+         ReadNote::Dropped, "second time"},
     };
     for (const Case &test : cases) {
         ASSERT_TRUE(read(node(QByteArray("  ") + test.properties))) << test.properties;
@@ -212,6 +214,21 @@ TEST_F(Xml, WhatIsNotUnderstoodIsTold)
             << qPrintable(notes.front().message);
         EXPECT_EQ(notes.front().line, 3) << test.properties;
     }
+}
+
+TEST_F(Xml, ASecondPartOfAnObjectAddsToTheFirst)
+{
+    const QByteArray list = "<Property name='nodes'><List>%1</List></Property>";
+    const auto item = [](const char *name) {
+        return QByteArray("<Node><Properties><Property name='id' value='name: ") + name
+               + "; baseName: node; scopeType: Project; classType: Node'/></Properties></Node>";
+    };
+    const std::unique_ptr<Node> loaded =
+        read(node(QByteArray(list).replace("%1", item("a")) + "</Properties><Properties>"
+                  + QByteArray(list).replace("%1", item("b"))));
+    ASSERT_TRUE(loaded);
+    EXPECT_EQ(loaded->property("nodes")->listItemCount(), 2);
+    EXPECT_EQ(notes.size(), 1);
 }
 
 TEST_F(Xml, OfAFileFullOfOdditiesTheFirstAreToldAndTheRestCounted)

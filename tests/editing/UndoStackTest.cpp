@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QUndoGroup>
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -98,6 +99,9 @@ TEST(UndoStackTest, WhatCannotBeDoneIsDroppedWithWhatWasBuiltUponIt)
 TEST(UndoStackTest, AMacroThatFailsIsTakenBackAsAWhole)
 {
     UndoStack stack;
+    QUndoGroup group; // It calls the redo of QUndoStack, which is not virtual.
+    group.addStack(&stack);
+    group.setActiveStack(&stack);
     auto *before = new Step;
     auto *fallible = new Fallible;
     fallible->fails = false;
@@ -117,6 +121,27 @@ TEST(UndoStackTest, AMacroThatFailsIsTakenBackAsAWhole)
     EXPECT_EQ(stack.count(), 1);
     EXPECT_EQ(stack.index(), 1);
     EXPECT_FALSE(stack.canRedo());
+
+    for (const bool startsOver : {false, true}) {
+        auto *again = new Fallible;
+        again->fails = false;
+        stack.beginMacro(u"m"_s);
+        EXPECT_TRUE(stack.push(again));
+        stack.endMacro();
+        stack.undo();
+        again->fails = true;
+        group.redo();
+        EXPECT_EQ(stack.index(), 1);
+        EXPECT_EQ(stack.count(), 1);
+        if (startsOver) {
+            stack.startOver();
+        }
+        EXPECT_TRUE(stack.push(new Step));
+        stack.undo();
+        stack.redo();
+        EXPECT_EQ(stack.index(), startsOver ? 1 : 2);
+        stack.setIndex(startsOver ? 0 : 1);
+    }
 }
 
 TEST(UndoStackTest, NoMoveAsksACommandThatIsGone)

@@ -89,6 +89,20 @@ TEST(GeneralDataList, listOperations)
     EXPECT_FALSE(none.startsWith(Info()) || none.endsWith(Info()));
 }
 
+//! The sanitizers see what outlives its list.
+TEST(GeneralDataList, takesTermsBeforeItHasAName)
+{
+    const GeneralDataInfo term(GeneralDataInfo::ConstantValue, GeneralDataInfo::IntegerData, u"7"_s);
+    const GeneralDataList &held = GeneralDataList() << term << term;
+    EXPECT_EQ(held.count(), 2);
+    for (const GeneralDataInfo &each : GeneralDataList() << term) {
+        EXPECT_EQ(each, term);
+    }
+    GeneralDataList list;
+    (list << term) << term;
+    EXPECT_EQ(list.count(), 2);
+}
+
 TEST(GeneralDataList, checksTermsAsTheKindAsked)
 {
     struct Case

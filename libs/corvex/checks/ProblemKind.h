@@ -54,6 +54,7 @@ enum class ProblemCode {
     ReferenceMissing,
     StateProperty,
     StateValue,
+    StateRange,
     CodeUnreadable,
     ScreenLook,
 };

@@ -62,11 +62,29 @@ QString addressText(int address)
     return QString::number(address).rightJustified(5, u'0');
 }
 
+QStringList repeatedIn(const GeneralDataList &terms)
+{
+    QMap<int, int> counts;
+    for (qsizetype i = 0; i < terms.count(); i += 2) {
+        bool isNumber = false;
+        const int address = terms.at(i).value().toInt(&isNumber);
+        counts[address] += isNumber ? 1 : 0;
+    }
+    QStringList repeated;
+    for (const auto &[address, count] : counts.asKeyValueRange()) {
+        if (count > 1) {
+            repeated.append(addressText(address));
+        }
+    }
+    return repeated;
+}
+
 } // namespace
 
 bool ModbusMap::read(const GeneralDataList &terms, QString &error)
 {
     m_entries.clear();
+    m_repeated.clear();
     if (terms.count() % 2 != 0) {
         return ValidationError::set(error, m_kind == VirtualString ? "incompeletd data" : "Incomplete data");
     }
@@ -84,6 +102,7 @@ bool ModbusMap::read(const GeneralDataList &terms, QString &error)
             return ValidationError::set(error, "Element not set for data value at: %1", addressText(address));
         }
         if (addresses.contains(address)) {
+            m_repeated = repeatedIn(terms);
             return ValidationError::set(error, "Duplicate Value is Not Allowed");
         }
         addresses.insert(address);
@@ -91,21 +110,6 @@ bool ModbusMap::read(const GeneralDataList &terms, QString &error)
     }
     m_entries = entries;
     return true;
-}
-
-QStringList ModbusMap::repeatedAddresses(const GeneralDataList &terms)
-{
-    QMap<int, int> counts;
-    for (qsizetype i = 0; i < terms.count(); i += 2) {
-        ++counts[terms.at(i).value().toInt()];
-    }
-    QStringList repeated;
-    for (const auto &[address, count] : counts.asKeyValueRange()) {
-        if (count > 1) {
-            repeated.append(addressText(address));
-        }
-    }
-    return repeated;
 }
 
 GeneralDataList ModbusMap::toTerms() const

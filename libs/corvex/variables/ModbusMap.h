@@ -42,10 +42,9 @@ public:
         problem in \a error and no entries, when one is cut short, has no address of the kind or no source, or
         has the address of another one. */
     bool read(const GeneralDataList &terms, QString &error);
+    //! When that was the problem, all addresses that several entries have, in five digits.
+    const QStringList &repeatedAddresses() const { return m_repeated; }
     GeneralDataList toTerms() const;
-    //! The addresses that more than one entry of an expression has, in five digits, as they are written
-    //! everywhere.
-    static QStringList repeatedAddresses(const GeneralDataList &terms);
 
     RegisterKind kind() const { return m_kind; }
     const QList<Entry> &entries() const { return m_entries; }
@@ -54,6 +53,7 @@ public:
 private:
     RegisterKind m_kind;
     QList<Entry> m_entries;
+    QStringList m_repeated;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -307,12 +307,16 @@ TEST(CheckVerb, followsWhatPartsSayOfEachOther)
     bad.makeProject(
         goodElements() + text("value", "textBinding", "<0502concat><0407gone><0101,><0407gone><0101)>")
             + text("element", "xBinding", "0304box1.box2.x") + text("screen", "xBinding", "0304Main.away.x")
-            + Sandbox::object("Button", "button",
-                              toBox
-                                  + Sandbox::value("pressedState",
-                                                   "name: away; | name: box1; propertyValues: propName%3A "
-                                                   "size%3B propValue%3A small%3B; | name: box1; "
-                                                   "propertyValues: propName%3A hue%3B propValue%3A red%3B;"))
+            + Sandbox::object(
+                "Button", "button",
+                toBox
+                    + Sandbox::value("pressedState",
+                                     "name: away; | name: box1; propertyValues: propName%3A "
+                                     "size%3B propValue%3A small%3B; | name: box1; "
+                                     "propertyValues: propName%3A hue%3B propValue%3A red%3B; | "
+                                     "name: box1; propertyValues: propName%3A opacity%3B "
+                                     "propValue%3A 0%3B; | name: box1; propertyValues: "
+                                     "propName%3A radius%3B propValue%3A -4%3B;"))
             + Sandbox::object("CheckButton", "check",
                               toBox + Sandbox::value("variable", link("BooleanVariable", "speed", "Project")))
             + Sandbox::object("Action", "action",
@@ -331,6 +335,8 @@ TEST(CheckVerb, followsWhatPartsSayOfEachOther)
         u"Main.button: pressedState: Cannot find element \"away\" in the screen."_s,
         u"Main.button: pressedState: \"small\" is no value for the property \"size\" of \"box1\"."_s,
         u"Main.button: pressedState: \"box1\" has no property \"hue\"."_s,
+        u"Main.button: pressedState: warning: \"-4\" is out of range for \"radius\" of \"box1\", which takes "
+        "numbers from 0 on."_s,
         u"Main.value: textBinding: Cannot find \"gone\" in the project."_s,
         u"Main.element: xBinding: Cannot find element \"box1.box2\" in the screen."_s,
         u"Main.screen: xBinding: Cannot find element \"Main.away\" in the screen."_s,
@@ -617,6 +623,12 @@ TEST(FmtVerb, losesNothingUnlessItIsTold)
     EXPECT_EQ(sandbox.read(pump), before);
     EXPECT_EQ(sandbox.run({u"fmt"_s, u"--force"_s, pump}).code, 0);
     EXPECT_THAT(sandbox.read(pump).toStdString(), testing::Not(HasSubstr("shadow")));
+
+    // Of two objects in one place the second would replace the first.
+    const QByteArray twice = sandbox.read(pump).replace("</Object>", "<Configuration/></Object>");
+    sandbox.write(pump, twice);
+    EXPECT_THAT(sandbox.run({u"fmt"_s, pump}).error.toStdString(), HasSubstr("holds one object"));
+    EXPECT_EQ(sandbox.read(pump), twice);
 }
 
 TEST(FmtVerb, leavesTheFileWholeWhenThereIsNoRoom)

@@ -131,7 +131,7 @@ TEST_F(ExportTest, ModbusRegisters)
          {u"inputRegMap"_s, entry(30010, {Info::ObjectValue, Info::FloatData, u"Main.gauge.level"_s})},
          {u"virtualStringMap"_s, entry(5000, {Info::VariableValue, Info::StringData, u"event"_s})},
          {u"discreteInputMap"_s, entry(10002, variable(u"twice"_s)) + entry(10002, variable(u"twice"_s))},
-         {u"holdingRegMap"_s, entry(30001, variable(u"wrong"_s))}});
+         {u"holdingRegMap"_s, entry(30001, variable(u"wrong"_s)) + entry(30001, variable(u"wrong"_s))}});
     const Exported exported = ModbusExport::write(*project);
     EXPECT_EQ(exported.files.first().name, u"Plant_Modbus.csv"_s);
     EXPECT_EQ(lines(exported.files.first().bytes),

@@ -84,23 +84,22 @@ QList<FunctionCall> FunctionCall::of(const GeneralDataList &expression)
     // What is open: a call, or a parenthesis around a part of an argument.
     struct Open
     {
-        qsizetype call;             //!< its index; -1 for a parenthesis
-        qsizetype termsOfFirst = 0; //!< of its first argument, those within other parentheses among them
+        qsizetype call;      //!< its index; -1 for a parenthesis
+        qsizetype firstTerm; //!< of what is within it
     };
     QList<FunctionCall> calls;
     QList<Open> open;
-    const auto countTerm = [&](const GeneralDataInfo &term) {
-        for (Open &outer : open) {
-            FunctionCall *call = outer.call < 0 ? nullptr : &calls[outer.call];
-            if (call && call->argumentCount == 0) {
-                call->argumentCount = 1;
-            }
-            if (call && call->argumentCount == 1) {
-                call->onlyFirst = ++outer.termsOfFirst == 1 ? std::optional(term) : std::nullopt;
-            }
+    // Of the innermost call: it ends before the term of that index.
+    const auto endArgument = [&](qsizetype end) {
+        const auto [index, first] = open.constLast();
+        FunctionCall *call = index < 0 ? nullptr : &calls[index];
+        if (call && call->argumentCount == 0 && end > first) {
+            call->argumentCount = 1;
+            call->onlyFirst = end == first + 1 ? std::optional(expression.at(first)) : std::nullopt;
         }
     };
-    for (const GeneralDataInfo &term : expression) {
+    for (qsizetype i = 0; i < expression.count(); ++i) {
+        const GeneralDataInfo &term = expression.at(i);
         const auto *function =
             term.valueType() == GeneralDataInfo::FunctionValue
                 ? std::ranges::find(functions, term.value(), [](const Function &row) { return row.name; })
@@ -109,18 +108,17 @@ QList<FunctionCall> FunctionCall::of(const GeneralDataList &expression)
         const bool closes = isOperator(term, ")"_L1) && !open.isEmpty();
         const bool separates = isOperator(term, ","_L1) && !open.isEmpty() && open.constLast().call >= 0;
         if (closes) {
+            endArgument(i);
             open.removeLast();
         } else if (separates) {
+            endArgument(i);
             ++calls[open.constLast().call].argumentCount;
-        }
-        if (!separates) {
-            countTerm(term);
         }
         if (isCall) {
             calls.append({term.value(), function->fewest, function->most, function->takesLog});
-            open.append(Open{calls.size() - 1});
+            open.append({calls.size() - 1, i + 1});
         } else if (isOperator(term, "("_L1)) {
-            open.append(Open{-1});
+            open.append({-1, i + 1});
         }
     }
     return calls;

@@ -106,8 +106,13 @@ QString detail(const DesignerProperty &property, ProblemCode code)
     }
     if (code == ProblemCode::FieldbusMap
         && property.parentObject()->isKindOfClass(MappingVariable::kindName())) {
-        const auto *map = dynamic_cast<const GeneralDataListProperty *>(&property);
-        const QStringList repeated = map ? ModbusMap::repeatedAddresses(map->value()) : QStringList();
+        ModbusMap map(ModbusMap::RegisterKind(property.editorParameter(u"RegType"_s).toInt()));
+        QString error;
+        const auto *terms = dynamic_cast<const GeneralDataListProperty *>(&property);
+        if (terms) {
+            map.read(terms->value(), error);
+        }
+        const QStringList &repeated = map.repeatedAddresses();
         return repeated.isEmpty() ? QString() : u": "_s + repeated.join(u", "_s);
     }
     return {};

@@ -13,6 +13,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +36,25 @@ auto listOf(const DesignerProperty &property)
     using List = std::remove_cvref_t<decltype(std::declval<Property>().value())>;
     return property.isKindOfClass(Property::kindName()) ? static_cast<const Property &>(property).value()
                                                         : List(property.valueString());
+}
+
+//! The numbers that a state or an action may give to a property. An element that is hardly to be seen is
+//! kept from designers only; to fade one out is what actions are for.
+NumberRange rangeOf(const DesignerProperty &property)
+{
+    NumberRange range = NumberRange::of(property.editorParameters());
+    if (property.id() == "opacity"_L1) {
+        range.minimum = 0;
+    }
+    return range;
+}
+
+//! Not a number for the text of anything else.
+double numberOf(const QString &text)
+{
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return isNumber ? number : std::numeric_limits<double>::quiet_NaN();
 }
 
 } // namespace
@@ -179,6 +199,8 @@ void ReferenceCheck::checkSetting(const DesignerProperty &property, const Settin
         report(property, ProblemCode::StateProperty, {elementName, id});
     } else if (!target->canRead(value)) {
         report(property, ProblemCode::StateValue, {value, id, elementName});
+    } else if (const NumberRange range = rangeOf(*target); !range.contains(numberOf(value))) {
+        report(property, ProblemCode::StateRange, {value, id, elementName, range.toString()});
     }
 }
 

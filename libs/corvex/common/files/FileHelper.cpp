@@ -168,7 +168,8 @@ QString FileHelper::md5(const QString &path)
 {
     QFile file(path);
     QCryptographicHash hash(QCryptographicHash::Md5);
-    if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file))
+    // A pipe or a device may have no end.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || !hash.addData(&file))
         return {};
     return QString::fromLatin1(hash.result().toHex());
 }

@@ -4,6 +4,8 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/editing/undo/UndoCommand.h"
 
+#include <QScopedValueRollback>
+
 namespace Halvane::Corvex::Designer {
 
 namespace {
@@ -36,6 +38,7 @@ UndoStack::~UndoStack()
 
 bool UndoStack::push(UndoCommand *command)
 {
+    m_failedMacro = nullptr; // It may be among the commands that this one replaces.
     DesignerObject *candidate = command->deletionCandidate();
     m_errorString.clear();
     m_hasFailed = command->start() == UndoCommand::Start::Failed;
@@ -65,13 +68,11 @@ void UndoStack::setIndex(int index)
     m_hasFailed = false;
     m_errorString.clear();
     const int before = this->index();
-    QUndoStack::setIndex(index);
-    if (QUndoCommand *macro = std::exchange(m_failedMacro, nullptr)) {
-        // One of its commands failed, and Qt has done all others.
-        macro->undo();
-        macro->setObsolete(true);
-        QUndoStack::undo();
+    {
+        const QScopedValueRollback<bool> isMoving(m_isMoving, true);
+        QUndoStack::setIndex(index);
     }
+    takeBackFailedMacro();
     while (m_hasFailed && canRedo()) {
         // QUndoStack deletes what is obsolete in place of doing it.
         QUndoStack::setIndex(this->index() + 1);
@@ -81,6 +82,18 @@ void UndoStack::setIndex(int index)
         emit canRedoChanged(canRedo());
         emit redoTextChanged(redoText());
     }
+}
+
+//! One of its commands failed, and Qt has done all others.
+bool UndoStack::takeBackFailedMacro()
+{
+    QUndoCommand *macro = std::exchange(m_failedMacro, nullptr);
+    if (macro) {
+        macro->undo();
+        macro->setObsolete(true);
+        QUndoStack::undo();
+    }
+    return macro;
 }
 
 void UndoStack::commandFailed(const UndoCommand *command)
@@ -112,6 +125,7 @@ void UndoStack::startOver()
 {
     deleteCandidates();
     const bool wasSaved = isSaved();
+    m_failedMacro = nullptr;
     clear();
     m_previousIndex = 0;
     if (wasSaved) {
@@ -156,6 +170,13 @@ const UndoCommand *UndoStack::decidingCommand(int index) const
 
 void UndoStack::onIndexChanged(int index)
 {
+    // Actions, groups and views of Qt call the redo of QUndoStack, which is not virtual.
+    if (!m_isMoving && takeBackFailedMacro()) {
+        // Those who listen have heard of the newer index before this one.
+        QMetaObject::invokeMethod(
+            this, [this] { emit indexChanged(this->index()); }, Qt::QueuedConnection);
+        return;
+    }
     if (index == m_currentIndex) {
         return;
     }

@@ -31,10 +31,6 @@ public:
     bool push(UndoCommand *command);
     //! Why the last command could not be done, for the user; empty when nobody knows.
     const QString &errorString() const { return m_errorString; }
-    /*! As QUndoStack does, but when a command cannot be done again, it and all that follow are dropped: they
-       were built upon it. A macro that holds the command is taken back as a whole. */
-    void redo();
-    void setIndex(int index);
     //! Begins a new history: what could be undone is forgotten, and what is now counts as saved.
     void startOver();
     //! Has all commands delete the files that only an undo would need.
@@ -56,6 +52,12 @@ public:
     //! Null also when the object is gone meanwhile.
     DesignerObject *activeItem() const;
 
+public slots:
+    /*! As QUndoStack does, but when a command cannot be done again, it and all that follow are dropped: they
+       were built upon it. A macro that holds the command is taken back as a whole. */
+    void redo();
+    void setIndex(int index);
+
 signals:
     void activeItemChanged(Halvane::Corvex::Designer::DesignerObject *item);
     void savedChanged(bool saved);
@@ -66,6 +68,7 @@ private:
     friend class UndoCommand;
 
     void commandFailed(const UndoCommand *command);
+    bool takeBackFailedMacro();
     void commandGone(const UndoCommand *command);
     void onIndexChanged(int index);
     const UndoCommand *decidingCommand(int index) const;
@@ -78,6 +81,7 @@ private:
     int m_previousIndex = 0;
     int m_currentIndex = 0;
     bool m_hasFailed = false;
+    bool m_isMoving = false;
     bool m_isDeleteScreen = false;
     bool m_isDeleteImage = false;
     bool m_isDeleteVariable = false;

@@ -3,6 +3,9 @@
 
 #include "corvex/project/elements/Element.h"
 
+#include <algorithm>
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -71,7 +74,8 @@ void ElementIndex::rename(Element *element, const QString &oldName)
 //! "pump12" may be number 12 of "pump" and number 2 of "pump1".
 void ElementIndex::nameFreed(const QString &name)
 {
-    for (qsizetype digits = 1; digits < name.size() && name.at(name.size() - digits).isDigit(); ++digits) {
+    const qsizetype most = std::min<qsizetype>(name.size() - 1, std::numeric_limits<int>::digits10);
+    for (qsizetype digits = 1; digits <= most && name.at(name.size() - digits).isDigit(); ++digits) {
         const auto known = m_numbers.find(name.chopped(digits));
         bool isNumber = false;
         const int number = QStringView(name).last(digits).toInt(&isNumber);

@@ -110,10 +110,10 @@ requires std::derived_from<
 {
     list.append(records);
 }
-List &&operator<<(List &&list, const Records &records)
+List operator<<(List &&list, const Records &records)
 {
     list.append(records);
-    return std::forward<List>(list);
+    return std::forward<List>(list); // a reference to a list that has a name, and by value what has none
 }
 
 } // namespace Halvane::Corvex::Designer

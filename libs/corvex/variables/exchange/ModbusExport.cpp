@@ -66,7 +66,7 @@ Exported ModbusExport::write(const DesignerObject &project)
             const SharedProperty terms = variable->getProperty(id);
             const GeneralDataList &list = static_cast<const GeneralDataListProperty &>(*terms).value();
             if (!map.read(list, error)) {
-                const QStringList repeated = ModbusMap::repeatedAddresses(list);
+                const QStringList &repeated = map.repeatedAddresses();
                 exported.problems.append(
                     u"%1.%2: %3%4"_s.arg(variable->getIdName(), terms->id(), error,
                                          repeated.isEmpty() ? QString() : u": "_s + repeated.join(u", "_s)));

@@ -44,7 +44,8 @@ bool FileRecovery::isOurs(const QString &name) const
 bool FileRecovery::bringDraft() const
 {
     const QString draft = m_journal.privatePath(u"draft"_s);
-    if (!QFileInfo(draft).isFile()) {
+    // A link would become the project's file, wherever it leads.
+    if (!QFileInfo(draft).isFile() || QFileInfo(draft).isSymLink()) {
         return true; // it is there already
     }
     const QString path = m_journal.pathOf(m_journal.committedFile());

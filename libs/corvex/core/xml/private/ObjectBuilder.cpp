@@ -109,7 +109,7 @@ void ObjectBuilder::startElement(QByteArrayView name, std::span<const XmlAttribu
         openItem(frame, name, attributes);
         break;
     case Context::ObjectValue:
-        openObjectValue(name);
+        openObjectValue(frame, name);
         break;
     case Context::Kept:
         m_recorder.open(name, attributes);
@@ -155,7 +155,9 @@ void ObjectBuilder::forgetKeptItems()
 void ObjectBuilder::openInObject(const Frame &frame, QByteArrayView name)
 {
     if (name == "Properties") {
-        push(Context::Properties, frame.object);
+        const Frame object = frame;
+        push(Context::Properties, object.object);
+        m_frames.last().known = object.known;
     } else {
         skip(u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
     }
@@ -351,9 +353,15 @@ void ObjectBuilder::openItem(const Frame &frame, QByteArrayView name,
     push(Context::Kept, frame.object, frame.property);
 }
 
-void ObjectBuilder::openObjectValue(QByteArrayView name)
+void ObjectBuilder::openObjectValue(Frame &frame, QByteArrayView name)
 {
     const QString className = QString::fromUtf8(name);
+    if (frame.isAnswered) {
+        skip(u"The property \"%1\" holds one object; the \"%2\" after it is left out."_s.arg(
+            frame.property->id(), XmlTokenizer::excerpt(name)));
+        return;
+    }
+    frame.isAnswered = true;
     if (DesignerObject *object = makeObject(className)) {
         push(Context::Object, object);
     } else {
@@ -386,6 +394,9 @@ void ObjectBuilder::endElement(QByteArrayView name)
         }
         break;
     case Context::Properties:
+        // What a second <Properties> repeats is repeated, too.
+        m_frames.last().known = closed.known;
+        break;
     case Context::ObjectValue:
     case Context::Skipped:
         break;

@@ -45,8 +45,9 @@ private:
         qsizetype nextProperty =
             0; //!< where the next property is expected: files keep the order of the table
         std::bitset<128> known = {}; //!< the first properties that have been there, by their index
-        bool isAnswered = false;     //!< a property that got a value or children
-        bool isRepeated = false;     //!< a property that was there before
+        bool isAnswered =
+            false; //!< a property that got a value or children, or an <Object> that got its object
+        bool isRepeated = false; //!< a property that was there before
     };
 
     void startElement(QByteArrayView name, std::span<const XmlAttribute> attributes) override;
@@ -71,7 +72,7 @@ private:
                                    bool *isRepeated);
     void openInProperty(Frame &frame, QByteArrayView name);
     void openItem(const Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
-    void openObjectValue(QByteArrayView name);
+    void openObjectValue(Frame &frame, QByteArrayView name);
     static qsizetype findProperty(Frame &frame, QByteArrayView id, bool *isRepeated);
     void applyValue(DesignerObject *object, DesignerProperty *property, QByteArrayView value);
     static SharedProperty shared(DesignerObject *object, const DesignerProperty *property);
