@@ -14,7 +14,9 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-set(CMAKE_WINDOWS_EXPORT_ALL_SYMBOLS ON)
+# A library offers what it marks (common/Export.h).
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 # The build tree has the layout of an installation, so that the tools find their plug-ins and data in
@@ -48,6 +50,11 @@ if(CORVEX_SANITIZE)
   set(corvex_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_compile_options(${corvex_sanitizers})
   add_link_options(${corvex_sanitizers})
+endif()
+
+if(NOT CORVEX_SANITIZE AND NOT CORVEX_BUILD_FUZZERS)
+  # What a library needs and no other offers is found when it is linked. The sanitizers' own names come later.
+  add_link_options(-Wl,-z,defs)
 endif()
 
 if(CORVEX_BUILD_FUZZERS)

@@ -2,9 +2,9 @@
 #include "DeviceFolder.h"
 
 #include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/FileSync.h"
 #include "corvex/common/files/FolderLock.h"
 #include "corvex/common/files/TemporaryFolder.h"
-#include "corvex/common/files/private/FileSync.h"
 #include "corvex/common/zip/ZipHelper.h"
 #include "corvex/values/records/IdentifierInfo.h"
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/checks/Problem.h"
+#include "corvex/common/Export.h"
 
 #include <utility>
 
@@ -17,7 +18,7 @@ class Project;
     checks, and several threads share the walk: each has checks of its own, which are joined at the end. A
     check of a list is one of the list property.
 */
-class Check
+class CORVEX_EXPORT Check
 {
 public:
     Check() = default;
@@ -44,7 +45,7 @@ private:
 };
 
 //! Looks at one property at a time.
-class PropertyCheck : public Check
+class CORVEX_EXPORT PropertyCheck : public Check
 {
 public:
     //! Whether the check looks at such properties. The answer holds for all objects of the owner's class.
@@ -53,7 +54,7 @@ public:
 };
 
 //! Looks at one object at a time, and perhaps at what is below it.
-class ObjectCheck : public Check
+class CORVEX_EXPORT ObjectCheck : public Check
 {
 public:
     //! Whether the check looks at such objects. The answer holds for all objects of the class.
@@ -62,7 +63,7 @@ public:
 };
 
 //! Looks at the project as a whole.
-class ProjectCheck : public Check
+class CORVEX_EXPORT ProjectCheck : public Check
 {
 public:
     virtual void look(const Project &project) = 0;

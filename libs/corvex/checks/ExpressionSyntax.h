@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 #include <memory>
@@ -14,7 +16,7 @@ namespace Halvane::Corvex::Designer {
    it holds. The engine is this object's own; make one checker for many checks, since an engine takes a
    millisecond to come up.
 */
-class ExpressionSyntax
+class CORVEX_EXPORT ExpressionSyntax
 {
 public:
     struct Result

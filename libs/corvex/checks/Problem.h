@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/checks/ProblemKind.h"
+#include "corvex/common/Export.h"
 
 #include <QList>
 #include <QString>
@@ -12,7 +13,7 @@ class DesignerObject;
 class DesignerProperty;
 
 //! One thing that keeps a project from running on the device as its author means it.
-struct Problem
+struct CORVEX_EXPORT Problem
 {
     ProblemCode code;
     QString object;   //!< its path
@@ -33,6 +34,6 @@ struct Problem
 };
 
 //! Whether one of the problems is an error, which a build refuses.
-bool hasErrors(const QList<Problem> &problems);
+CORVEX_EXPORT bool hasErrors(const QList<Problem> &problems);
 
 } // namespace Halvane::Corvex::Designer

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QLatin1StringView>
 
 #include <span>
@@ -65,7 +67,7 @@ enum class ProblemCode {
     placeholders for the names and values of one problem; it is null where the property that is invalid, the
     reader or a compiler gives the text.
 */
-struct ProblemKind
+struct CORVEX_EXPORT ProblemKind
 {
     ProblemCode code;
     Severity severity;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/checks/Problem.h"
+#include "corvex/common/Export.h"
 
 namespace Halvane::Corvex::Designer {
 
@@ -9,7 +10,7 @@ class ConfigurationContainer;
 class Project;
 
 //! Looks for everything that can be wrong with a project, in one walk, which all processors share.
-class ProjectProblems
+class CORVEX_EXPORT ProjectProblems
 {
 public:
     /*! In the order of the checks: what was not taken over from the file, a model that is not among \a

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 #include <QVariantMap>
 
@@ -10,7 +12,7 @@ namespace Halvane::Corvex::Common {
 
 //! The properties of a BACnet device object that a project may set. Empty texts and zeros leave the device's
 //! own.
-class BACDeviceInfo
+class CORVEX_COMMON_EXPORT BACDeviceInfo
 {
 public:
     BACDeviceInfo() = default;

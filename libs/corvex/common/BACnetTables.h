@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QList>
 #include <QString>
 
@@ -8,24 +10,24 @@
 //! gives them ("analog-input", "present-value").
 namespace Halvane::Corvex::Common::BACnetTables {
 
-struct Entry
+struct CORVEX_COMMON_EXPORT Entry
 {
     int number;
     QString name;
 };
 
 //! Clause 21, BACnetObjectType.
-const QList<Entry> &objectTypes();
+CORVEX_COMMON_EXPORT const QList<Entry> &objectTypes();
 //! Clause 21, BACnetPropertyIdentifier, without all, optional and required, which stand for several
 //! properties.
-const QList<Entry> &properties();
+CORVEX_COMMON_EXPORT const QList<Entry> &properties();
 //! Clause 20.2.1.4, the numbers of the application tags.
-const QList<Entry> &dataTypes();
+CORVEX_COMMON_EXPORT const QList<Entry> &dataTypes();
 
 //! Clause 21, BACnetEngineeringUnits, the first 190.
-const QList<Entry> &units();
+CORVEX_COMMON_EXPORT const QList<Entry> &units();
 
 //! The name as a user reads it: "present-value" as "Present Value", "cov-increment" as "COV Increment".
-QString displayText(const QString &name);
+CORVEX_COMMON_EXPORT QString displayText(const QString &name);
 
 } // namespace Halvane::Corvex::Common::BACnetTables

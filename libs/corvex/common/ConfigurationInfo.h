@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/EnumHelper.h"
+#include "corvex/common/Export.h"
 
 #include <QMap>
 #include <QSize>
@@ -11,7 +12,7 @@ namespace Halvane::Corvex::Common {
 
 //! What one model of display panel has and how it is set up: the form in which a device configuration is
 //! handed to the rest of the tools. A default record is empty and not valid.
-class ConfigurationInfo
+class CORVEX_COMMON_EXPORT ConfigurationInfo
 {
 public:
     //! Channels are numbered from 1.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QMap>
 #include <QMetaEnum>
 #include <QObject>
@@ -11,7 +13,7 @@ namespace Halvane::Corvex::Common {
 
 //! The enumerations that the library, its plug-ins and the device runtime share. Their numbers are stored in
 //! project files and in runtime files; they never change.
-class EnumHelper
+class CORVEX_COMMON_EXPORT EnumHelper
 {
     Q_GADGET
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Common {
@@ -8,7 +10,7 @@ namespace Halvane::Corvex::Common {
 class StringsFile;
 
 //! Translated texts. All functions may be called from any thread.
-class LocalizationHelper
+class CORVEX_COMMON_EXPORT LocalizationHelper
 {
 public:
     //! The name of the locale whose texts are shown ("de_DE"); that of the system until another is set.

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Common {
 
 //! What is asked of the file of a picture before anything draws it.
-class PictureFile
+class CORVEX_COMMON_EXPORT PictureFile
 {
 public:
     /*! Why the picture is not to be drawn, in a text for the user; empty when it may be, or is no picture. A

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <cstddef>
 #include <functional>
 
 namespace Halvane::Corvex::Common {
 
 //! Work that all processors share.
-class Processors
+class CORVEX_COMMON_EXPORT Processors
 {
 public:
     //! At least 1.

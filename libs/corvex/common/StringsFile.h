@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QHash>
 #include <QString>
 
@@ -9,7 +11,7 @@ namespace Halvane::Corvex::Common {
 //! A table of translated texts in the form of "Localizable.strings" files: entries "key" = "value"; with the
 //! escapes of C in the texts and with comments of both kinds of C between them. Encoded in UTF-8, or in
 //! UTF-16 with a byte order mark.
-class StringsFile
+class CORVEX_COMMON_EXPORT StringsFile
 {
 public:
     //! Both replace what the table held. On an error, which names the line, the table is left empty.

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 #include <QStringList>
 
 namespace Halvane::Corvex::Common {
 
 //! Text forms, names and orders that the library and its plug-ins share. Nothing here depends on a locale.
-class TextHelper
+class CORVEX_COMMON_EXPORT TextHelper
 {
 public:
     //! Base64 of the UTF-8 bytes of the text. A surrogate without its partner cannot be told in UTF-8 and is

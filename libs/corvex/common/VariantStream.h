@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QByteArray>
 #include <QDataStream>
 #include <QVariant>
@@ -9,11 +11,11 @@
 namespace Halvane::Corvex::Common::VariantStream {
 
 //! False for a value that the form cannot hold.
-bool write(const QVariant &value, QByteArray &bytes);
+CORVEX_COMMON_EXPORT bool write(const QVariant &value, QByteArray &bytes);
 
 /*! Writes a map entry by entry, as write() writes the whole, without holding it. Keys come in any order, each
     once, and each map gets as many entries as it was begun with. */
-class MapWriter
+class CORVEX_COMMON_EXPORT MapWriter
 {
 public:
     MapWriter(QByteArray *bytes, qsizetype count);
@@ -39,6 +41,6 @@ private:
 //! Reads a value made of the types of the form alone, compressed by qCompress or not, to the last byte.
 //! Counts and sizes in the bytes are believed only as far as there are bytes for them, and nothing is
 //! unpacked beyond mostBytes.
-QVariant read(const QByteArray &bytes, qint64 mostBytes, bool &ok);
+CORVEX_COMMON_EXPORT QVariant read(const QByteArray &bytes, qint64 mostBytes, bool &ok);
 
 } // namespace Halvane::Corvex::Common::VariantStream

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/IDesignerFactory.h"
 
 #include <QHash>
@@ -13,7 +14,7 @@ class ObjectView;
 
 /*! Creates everything that goes by a class name, through the factory that registered the name: the one of the
     library and those of the plug-ins. One per process, a child of the application object. */
-class DesignerFactory : public QObject
+class CORVEX_EXPORT DesignerFactory : public QObject
 {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
 #include "corvex/core/PropertyRange.h"
 #include "corvex/values/records/IdentifierInfo.h"
@@ -41,7 +42,7 @@ class Screen;
    out of the model it has none and belongs to whoever took it out. project() and screen() are null out of the
     model.
 */
-class DesignerObject
+class CORVEX_EXPORT DesignerObject
     : public QObject
     , public IDesignerObject
 {

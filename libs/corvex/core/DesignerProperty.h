@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/IDesignerObject.h"
 #include "corvex/core/PropertyDescriptor.h"
 
@@ -26,7 +27,7 @@ struct ItemPlace;
     What a class says about its property lies in a descriptor that all instances share; what is set here on
    one property is set for that property alone.
 */
-class DesignerProperty : public IDesignerObject
+class CORVEX_EXPORT DesignerProperty : public IDesignerObject
 {
     CORVEX_CLASS_NAMES(DesignerProperty, IDesignerObject)
     Q_DISABLE_COPY_MOVE(DesignerProperty)

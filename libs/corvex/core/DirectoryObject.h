@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerObject.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! An object that is a folder: "parentPath/directoryName".
-class DirectoryObject : public DesignerObject
+class CORVEX_EXPORT DirectoryObject : public DesignerObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(DirectoryObject, DesignerObject)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
@@ -8,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 //! What the model knows of the widget that edits a property: it tells it each verdict and never asks it
 //! anything. It neither owns it nor outlives the right to call it: an editor that goes resets itself on its
 //! property first.
-class EditorView
+class CORVEX_EXPORT EditorView
 {
 public:
     virtual ~EditorView() = default;

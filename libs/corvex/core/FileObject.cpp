@@ -3,8 +3,8 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/FileSync.h"
 #include "corvex/common/files/TemporaryFolder.h"
-#include "corvex/common/files/private/FileSync.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/xml/ObjectXmlReader.h"
 
@@ -12,7 +13,7 @@ namespace Halvane::Corvex::Designer {
     the file lies in the parent path itself). Sub-path and file name are single names, so that no operation
     reaches beyond the object's own folder. All of them tell by fileError() why they failed.
 */
-class FileObject : public DesignerObject
+class CORVEX_EXPORT FileObject : public DesignerObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(FileObject, DesignerObject)

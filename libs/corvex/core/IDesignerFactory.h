@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -18,7 +20,7 @@ class Wizard;
 
 /*! What a plug-in implements to bring object classes, editors and canvas items. Each of the lists of names
    says what the create operation beside it accepts. */
-class IDesignerFactory
+class CORVEX_EXPORT IDesignerFactory
 {
 public:
     virtual ~IDesignerFactory() = default;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -14,7 +16,7 @@ class DesignerObject;
 
 //! Root of everything in the model. Kinds are told apart by class-name strings and never by the language's
 //! own run-time types, so that they hold across plug-ins.
-class IDesignerObject
+class CORVEX_EXPORT IDesignerObject
 {
 public:
     virtual ~IDesignerObject() = default;

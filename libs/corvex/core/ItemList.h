@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/NameIndex.h"
 
 #include <QByteArray>
@@ -12,7 +13,7 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 
 //! An item of a stored list that could not be made into an object, kept to be written back as it was.
-struct KeptItem
+struct CORVEX_EXPORT KeptItem
 {
     QByteArray xml; //!< the element in UTF-8, its lines parted by "\n", indented from level 0
     QString className;
@@ -23,7 +24,7 @@ struct KeptItem
 };
 
 //! Where an item is among the items of a list and those that are kept.
-struct ItemPlace
+struct CORVEX_EXPORT ItemPlace
 {
     qsizetype index = -1;      //!< among the items; -1 when it is not in the list
     qsizetype keptBefore = -1; //!< how many kept items come before it; -1 for all that its index allows
@@ -38,7 +39,7 @@ struct ItemPlace
     What is kept has its own place between the items. It moves when an item comes or goes before it, and stays
    where it is when items change places among themselves.
 */
-class ItemList
+class CORVEX_EXPORT ItemList
 {
 public:
     const QList<DesignerObject *> &items() const { return m_items; }

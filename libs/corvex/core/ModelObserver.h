@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
 
 namespace Halvane::Corvex::Designer {
@@ -9,7 +10,7 @@ class Project;
 
 /*! Follows all changes of one project at a single place, so that an index of the whole model costs no
     connection for each object. It is told in the middle of a change and must not change the model itself. */
-class ModelObserver
+class CORVEX_EXPORT ModelObserver
 {
 public:
     virtual ~ModelObserver() = default;

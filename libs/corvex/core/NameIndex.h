@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QList>
 #include <QString>
 
@@ -12,7 +14,7 @@ class DesignerObject;
 
 /*! Finds objects by their names in constant time, several of one name among them. It owns nothing and keeps
    no names: an object that gets another name is removed under the old one and inserted again. */
-class NameIndex
+class CORVEX_EXPORT NameIndex
 {
 public:
     void insert(DesignerObject *object);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 #include <QVariantMap>
 
@@ -10,7 +12,7 @@ namespace Halvane::Corvex::Designer {
 
 //! The numbers that a property takes. Its row gives them as editor parameters: "minimum" and "maximum", or
 //! "above" for a limit that the number must exceed.
-struct NumberRange
+struct CORVEX_EXPORT NumberRange
 {
     double minimum = -std::numeric_limits<double>::infinity();
     double maximum = std::numeric_limits<double>::infinity();

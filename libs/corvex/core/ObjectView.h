@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/IDesignerObject.h"
 
 #include <QSharedPointer>
@@ -13,7 +14,7 @@ class DesignerProperty;
 //! What the model knows of the item that shows an object on the canvas. The model tells it of changes and
 //! never asks it anything; it neither owns it nor outlives the right to call it: a view that goes resets
 //! itself on its object first.
-class ObjectView : public IDesignerObject
+class CORVEX_EXPORT ObjectView : public IDesignerObject
 {
 public:
     virtual void updateGraphicsItem(const QSharedPointer<DesignerProperty> &property) = 0;

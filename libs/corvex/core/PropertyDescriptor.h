@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/NumberRange.h"
 #include "corvex/core/PropertyFlag.h"
 
@@ -25,7 +26,7 @@ using QmlCreator = QString (*)(const DesignerProperty *property, int indent);
 
 //! What all instances of a class share about one of their properties. A property copies it when it is changed
 //! on that one instance; a project of a million properties holds some hundred descriptors.
-struct PropertyDescriptor : public QSharedData
+struct CORVEX_EXPORT PropertyDescriptor : public QSharedData
 {
     QString id;
     QByteArray utf8Id; //!< the id as files hold it

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
 
 #include <cstddef>
@@ -13,7 +14,7 @@ class PropertyStore;
 
 /*! The properties of an object in the order in which they were made. They are handed out one by one; the
    object itself holds no list of shared pointers. A range must not outlive its object. */
-class PropertyRange
+class CORVEX_EXPORT PropertyRange
 {
 public:
     class const_iterator

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
 
 #include <initializer_list>
@@ -18,7 +19,7 @@ class PropertyStore;
     The row holds a prototype; every property made from it shares the prototype's descriptor. Texts are UTF-8;
     titles, descriptions and tooltips are translated here.
 */
-class PropertyRow
+class CORVEX_EXPORT PropertyRow
 {
 public:
     /*! A row that describes a property of the base anew: as \a described stands, with what is called on the
@@ -103,7 +104,7 @@ PropertyRow row(const char *id, const char *title, const Value &initialValue)
 }
 
 //! The properties of one class, in the order in which its objects get them. Made once per class.
-class PropertyTable
+class CORVEX_EXPORT PropertyTable
 {
 public:
     PropertyTable(std::initializer_list<PropertyRow> rows);

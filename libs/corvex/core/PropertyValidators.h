@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
@@ -10,7 +12,7 @@ class DesignerProperty;
 
 /*! The validators that need to see more of the model than the property that they judge. Tables of all floors
     name them; they are defined in the room of the project, where the model is known. */
-class PropertyValidators
+class CORVEX_EXPORT PropertyValidators
 {
 public:
     /*! The name of a project variable, a screen or an element: format, length, reserved words and everything

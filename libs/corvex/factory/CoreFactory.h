@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/IDesignerFactory.h"
 
 #include <QObject>
@@ -8,7 +9,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! The factory of the library's own classes, editors and canvas items.
-class CoreFactory
+class CORVEX_EXPORT CoreFactory
     : public QObject
     , public IDesignerFactory
 {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/EnumHelper.h"
+#include "corvex/common/Export.h"
 
 #include <QMap>
 #include <QStringList>
@@ -16,7 +17,7 @@ namespace Halvane::Corvex::Designer {
     EnumHelper::InputOutputType per channel. Channels are numbered from 1; an empty text has none. Words that
     are none of these are kept, for the validators to tell.
 */
-class ChannelList
+class CORVEX_EXPORT ChannelList
 {
 public:
     using Type = Common::EnumHelper::InputOutputType;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/FileObject.h"
 
 #include <optional>
@@ -18,7 +19,7 @@ namespace Halvane::Corvex::Designer {
     The installed configurations are read-only patterns. A project holds a copy of that of its model, in which
     the user sets up what each channel is used for.
 */
-class Configuration : public FileObject
+class CORVEX_EXPORT Configuration : public FileObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(Configuration, FileObject)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DirectoryObject.h"
 
 namespace Halvane::Corvex::Designer {
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 class Configuration;
 
 //! The folder "Configurations" and the device models in it.
-class ConfigurationContainer : public DirectoryObject
+class CORVEX_EXPORT ConfigurationContainer : public DirectoryObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(ConfigurationContainer, DirectoryObject)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/hardware/ChannelList.h"
 
 #include <QString>
@@ -10,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 class DesignerProperty;
 
 //! How the lines of the RS485 ports are in use, for the rules about the channels that share pins with them.
-struct RS485Lines
+struct CORVEX_EXPORT RS485Lines
 {
     bool isOn = false;
     //! On some models lines 1 to 3 are the pins of PWM channels 1 to 3, and line 4 that of digital channel 8.
@@ -27,7 +28,7 @@ struct RS485Lines
 
 /*! What the texts of a device configuration must be. Each rule tells in \a error why it refuses a text, and
     empties it otherwise. The rules take any text, those too that a property of its kind could not hold. */
-class ConfigurationRules
+class CORVEX_EXPORT ConfigurationRules
 {
 public:
     //! A whole number of per cent from 0 to 100.

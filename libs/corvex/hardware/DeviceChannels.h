@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/EnumHelper.h"
+#include "corvex/common/Export.h"
 
 #include <QLatin1StringView>
 
@@ -13,7 +14,7 @@ namespace Halvane::Corvex::Designer {
 class Configuration;
 
 //! Which channels of a device the elements of a class use.
-struct DeviceChannels
+struct CORVEX_EXPORT DeviceChannels
 {
     QLatin1StringView elementClass;
     QLatin1StringView list; //!< the property of the configuration that lists the channels

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QObject>
 
 #include <memory>
@@ -11,7 +13,7 @@ class ConfigurationContainer;
 
 //! The device models that are installed beside the tool, read once. One per process, a child of the
 //! application object.
-class HardwareConfigurations : public QObject
+class CORVEX_EXPORT HardwareConfigurations : public QObject
 {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/FileObject.h"
 
 #include <QDateTime>
@@ -15,7 +16,7 @@ namespace Halvane::Corvex::Designer {
 
 /*! A picture that belongs to a project. Its name is that of its file in the project's folder "Images",
     extension included; a name that would lead out of that folder has no file. */
-class ImageResource : public FileObject
+class CORVEX_EXPORT ImageResource : public FileObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(ImageResource, FileObject)

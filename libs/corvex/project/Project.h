@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/FileObject.h"
 #include "corvex/project/files/ProjectFolder.h"
 #include "corvex/runtime/RuntimeGenerator.h"
@@ -26,7 +27,7 @@ class UndoStack;
    when there is one, is D/P/Preview.png. project() of a project and of everything below it is the project
    itself.
 */
-class Project : public FileObject
+class CORVEX_EXPORT Project : public FileObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(Project, FileObject)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/runtime/RuntimeLists.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! One row of a class's table of runtime properties; texts are English and translated when the list is made.
-struct RuntimeRow
+struct CORVEX_EXPORT RuntimeRow
 {
     const char *property;
     const char *displayName;
@@ -15,7 +16,7 @@ struct RuntimeRow
     const char *description = "";
 };
 
-RuntimePropertyList toRuntimeProperties(const RuntimeRow *begin, const RuntimeRow *end);
+CORVEX_EXPORT RuntimePropertyList toRuntimeProperties(const RuntimeRow *begin, const RuntimeRow *end);
 
 template<size_t count>
 RuntimePropertyList toRuntimeProperties(const RuntimeRow (&rows)[count])

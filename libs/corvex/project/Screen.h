@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/project/elements/ElementIndex.h"
 #include "corvex/values/runtime/RuntimeLists.h"
@@ -14,7 +15,7 @@ class Element;
     The size is not stored. It follows the project's configuration, turned with the screen's own orientation;
    a screen out of a project has 500 x 300.
 */
-class Screen : public DesignerObject
+class CORVEX_EXPORT Screen : public DesignerObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(Screen, DesignerObject)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerObject.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! A list of objects that one update concerns.
-class UpdateObjects : public DesignerObject
+class CORVEX_EXPORT UpdateObjects : public DesignerObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(UpdateObjects, DesignerObject)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QVariantMap>
 
 namespace Halvane::Corvex::Designer {
@@ -20,7 +22,7 @@ class DesignerObject;
    ";", then ";objectID:TYPE,INSTANCE" and ";objName:NAME". SOURCE is the text form of an expression term;
    NestedText escapes what is in each piece.
 */
-class BACnetConfiguration
+class CORVEX_EXPORT BACnetConfiguration
 {
 public:
     void addDevice(const BACnetDevice &device);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QVariantMap>
 
 namespace Halvane::Corvex::Designer {
@@ -14,7 +16,7 @@ class CANVariable;
     and so on. KEY is "NAME,N", the name of the variable and the place of the parameter in its map, from 1.
     "canIdInfo" leads from the decimal CAN identifier of a message to the key of its group.
 */
-class CanConfiguration
+class CORVEX_EXPORT CanConfiguration
 {
 public:
     //! Variables of one group share its record, which keeps the priority of the first. A variable whose map

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/runtime/BACnetConfiguration.h"
 #include "corvex/runtime/CanConfiguration.h"
 
@@ -27,7 +28,7 @@ class ProjectVariable;
    variable stands for none. An auto-setting variable stands under "OBJECT TYPE.NAME". Mappings, logs and what
    is in the two other files are left out.
 */
-class RuntimeConfiguration
+class CORVEX_EXPORT RuntimeConfiguration
 {
 public:
     //! Collects from \a project, an object with lists "screens" and "variables". False, with a text for the

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -16,7 +18,7 @@ class DesignerObject;
     Each build gets a fresh folder of its own below the temporary location, which belongs to this process
    until its end: builds of later processes remove it then. A build that fails leaves none.
 */
-class RuntimeGenerator
+class CORVEX_EXPORT RuntimeGenerator
 {
 public:
     //! The folder whose files are copied beside the screens; none when empty.

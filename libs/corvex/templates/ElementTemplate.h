@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/templates/Template.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! Elements with the images and variables that they need.
-class ElementTemplate : public Template
+class CORVEX_EXPORT ElementTemplate : public Template
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(ElementTemplate, Template)

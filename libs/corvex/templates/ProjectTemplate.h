@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/templates/Template.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! A project to start from.
-class ProjectTemplate : public Template
+class CORVEX_EXPORT ProjectTemplate : public Template
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(ProjectTemplate, Template)

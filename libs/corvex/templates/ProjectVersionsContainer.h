@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/templates/NamedObject.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! The log of a project's versions.
-class ProjectVersionsContainer : public NamedObject
+class CORVEX_EXPORT ProjectVersionsContainer : public NamedObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(ProjectVersionsContainer, DesignerObject)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/templates/NamedObject.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! Something ready-made that a user starts from.
-class Template : public NamedObject
+class CORVEX_EXPORT Template : public NamedObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(Template, DesignerObject)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/templates/NamedObject.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! A tutorial.
-class Tutorial : public NamedObject
+class CORVEX_EXPORT Tutorial : public NamedObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(Tutorial, DesignerObject)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/templates/NamedObject.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! The tutorials that are installed.
-class TutorialContainer : public NamedObject
+class CORVEX_EXPORT TutorialContainer : public NamedObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(TutorialContainer, DesignerObject)

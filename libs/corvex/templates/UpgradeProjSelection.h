@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/templates/NamedObject.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! The projects that a user picked for an upgrade.
-class UpgradeProjSelection : public NamedObject
+class CORVEX_EXPORT UpgradeProjSelection : public NamedObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(UpgradeProjSelection, DesignerObject)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/ProjectVariable.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! Saves properties of an object on the device and restores them; its value is the list of what it saves.
-class AutoSettingVariable : public ProjectVariable
+class CORVEX_EXPORT AutoSettingVariable : public ProjectVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(AutoSettingVariable, ProjectVariable)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/DeviceVariable.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! A BACnet device: the panel itself or, when it is not local, another one that the panel speaks to.
-class BACnetDevice : public DeviceVariable
+class CORVEX_EXPORT BACnetDevice : public DeviceVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(BACnetDevice, ProjectVariable)

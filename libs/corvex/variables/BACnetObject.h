@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/DeviceVariable.h"
 
 #include <optional>
@@ -9,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 
 //! An object that the device exposes over BACnet; see BACnetPropertyList for what its list of properties
 //! holds.
-class BACnetObject : public DeviceVariable
+class CORVEX_EXPORT BACnetObject : public DeviceVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(BACnetObject, ProjectVariable)

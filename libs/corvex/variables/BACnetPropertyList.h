@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/GeneralDataList.h"
 
 #include <QList>
@@ -13,7 +14,7 @@ namespace Halvane::Corvex::Designer {
    string constants, then the source, which is a constant, a variable or an element term. The names are those
    of EnumHelper; a property that has none there goes by its number.
 */
-class BACnetPropertyList
+class CORVEX_EXPORT BACnetPropertyList
 {
 public:
     struct Entry

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/ProjectVariable.h"
 
 namespace Halvane::Corvex::Designer {
 
-class BooleanVariable : public ProjectVariable
+class CORVEX_EXPORT BooleanVariable : public ProjectVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(BooleanVariable, ProjectVariable)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/DeviceVariable.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! A J1939 parameter group; see CanParameterMap for what its map holds.
-class CANVariable : public DeviceVariable
+class CORVEX_EXPORT CANVariable : public DeviceVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(CANVariable, ProjectVariable)

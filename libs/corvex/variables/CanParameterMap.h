@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/GeneralDataList.h"
 
 #include <QList>
@@ -9,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 
 //! One suspect parameter (SPN) in the eight data bytes of a J1939 message, which is sent with the least
 //! significant byte first.
-struct CanParameter
+struct CORVEX_EXPORT CanParameter
 {
     int spn = 0;    //!< suspect parameter number, 0 to 524287
     QString units;  //!< of the scaled value; may be empty
@@ -30,7 +31,7 @@ struct CanParameter
    each parameter follow, in the order of the fields of CanParameter: SPN, units (a string constant), byte,
    bit and length (integers), offset, minimum, maximum and scaling (numbers).
 */
-class CanParameterMap
+class CORVEX_EXPORT CanParameterMap
 {
 public:
     CanParameterMap() = default;

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/ProjectVariable.h"
 
 namespace Halvane::Corvex::Designer {
 
-class ColorVariable : public ProjectVariable
+class CORVEX_EXPORT ColorVariable : public ProjectVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(ColorVariable, ProjectVariable)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/ProjectVariable.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! What the kinds share whose value is a map of names to values; no kind of its own.
-class DeviceVariable : public ProjectVariable
+class CORVEX_EXPORT DeviceVariable : public ProjectVariable
 {
     Q_OBJECT
 

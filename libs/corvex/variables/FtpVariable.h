@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/ProjectVariable.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! A server to which the device uploads its logs.
-class FtpVariable : public ProjectVariable
+class CORVEX_EXPORT FtpVariable : public ProjectVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(FtpVariable, ProjectVariable)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/NumberVariable.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! Numbers that the device samples at an interval and keeps.
-class LogVariable : public ProjectVariable
+class CORVEX_EXPORT LogVariable : public ProjectVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(LogVariable, ProjectVariable)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/DeviceVariable.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! The Modbus registers of the device; see ModbusMap for what each of the maps holds.
-class MappingVariable : public DeviceVariable
+class CORVEX_EXPORT MappingVariable : public DeviceVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(MappingVariable, ProjectVariable)

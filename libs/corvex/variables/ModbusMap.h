@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/GeneralDataList.h"
 
 #include <QList>
@@ -13,7 +14,7 @@ namespace Halvane::Corvex::Designer {
     In an expression an entry is two terms: the address, an integer constant, then the source, a variable or
    an element term.
 */
-class ModbusMap
+class CORVEX_EXPORT ModbusMap
 {
 public:
     //! The numbers by which editors know the kinds ("RegType").

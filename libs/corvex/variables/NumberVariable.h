@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/ProjectVariable.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! An integer or a floating number, which the decimal point alone decides: "1" is an integer, "1.0" is not.
-class NumberVariable : public ProjectVariable
+class CORVEX_EXPORT NumberVariable : public ProjectVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(NumberVariable, ProjectVariable)

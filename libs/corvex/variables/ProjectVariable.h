@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/EnumHelper.h"
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerObject.h"
 
 #include <QVariant>
@@ -15,7 +16,7 @@ class PropertyRow;
     The value is kept as the text that the user gave; type and typed value are always worked out from that
    text.
 */
-class ProjectVariable : public DesignerObject
+class CORVEX_EXPORT ProjectVariable : public DesignerObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(ProjectVariable, DesignerObject)

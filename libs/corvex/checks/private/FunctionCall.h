@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/GeneralDataList.h"
 
 #include <optional>
@@ -8,7 +9,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! A call of a function in an expression, with what the function takes.
-struct FunctionCall
+struct CORVEX_EXPORT FunctionCall
 {
     QString name;
     qsizetype fewest = 0; //!< arguments that the function takes

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QByteArray>
 #include <QFileDevice>
 #include <QString>
@@ -10,7 +12,7 @@
 namespace Halvane::Corvex::Common {
 
 //! Files and folders. Errors are texts for the user that name the file and the reason.
-class FileHelper
+class CORVEX_COMMON_EXPORT FileHelper
 {
 public:
     //! A folder for temporary files that belongs to this user alone; it exists.

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Common {
 
 /*! Which file a path led to and what it held. Times tell nothing: some file systems count whole seconds, and
    some programs put them back. */
-class FileStamp
+class CORVEX_COMMON_EXPORT FileStamp
 {
 public:
     //! Of no file.

@@ -3,9 +3,9 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/FileSync.h"
 #include "corvex/common/files/private/FileJournal.h"
 #include "corvex/common/files/private/FileRecovery.h"
-#include "corvex/common/files/private/FileSync.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 #include <QVariantMap>
 
@@ -19,7 +21,7 @@ class FileJournal;
 
     Names are paths relative to the folder, on which the caller has an exclusive lock all the time. Operations
    are false, with nothing changed, when they fail. */
-class FileTransaction
+class CORVEX_COMMON_EXPORT FileTransaction
 {
 public:
     //! Begins in \a folder; null, with a reason for the user, when nothing can be written there.

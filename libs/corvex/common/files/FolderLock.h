@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Common {
@@ -10,7 +12,7 @@ namespace Halvane::Corvex::Common {
     The lock is on the folder itself: it leaves no file behind, needs no right to write, follows the folder
    when that gets another name, and goes with the process, however that ends. Two locks of one process keep
    each other out, too. A file system that knows no locks gives every one. */
-class FolderLock
+class CORVEX_COMMON_EXPORT FolderLock
 {
 public:
     enum class Kind {

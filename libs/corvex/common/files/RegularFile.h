@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QByteArray>
 #include <QString>
 
 namespace Halvane::Corvex::Common {
 
 //! Reads files that anybody may have put there: never waits for a pipe, and reads no more than is asked for.
-class RegularFile
+class CORVEX_COMMON_EXPORT RegularFile
 {
 public:
     enum class Links { Follow, Refuse };

@@ -3,7 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/files/FileHelper.h"
-#include "corvex/common/files/private/FileSync.h"
+#include "corvex/common/files/FileSync.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QFile>
 
 namespace Halvane::Corvex::Common {
@@ -13,7 +15,7 @@ namespace Halvane::Corvex::Common {
    one: the file that it leads to is replaced. Permissions of the target are kept.
 
     What a program that was killed left in the folder goes with the next file that is written there. */
-class SafeFile : public QFile
+class CORVEX_COMMON_EXPORT SafeFile : public QFile
 {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/common/files/FolderLock.h"
 
 #include <QString>
@@ -9,7 +10,7 @@ namespace Halvane::Corvex::Common {
 
 /*! A folder for a while, which goes with the object. A program that is killed leaves its folder behind: the
    next one that makes a folder of that name in the same place, for the same user, removes it. */
-class TemporaryFolder
+class CORVEX_COMMON_EXPORT TemporaryFolder
 {
 public:
     //! "NAME-" and some letters, among the system's temporary files.

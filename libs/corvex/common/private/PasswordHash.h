@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 #include <QStringList>
 
 namespace Halvane::Corvex::Common {
 
 //! Passwords for a device that checks them and must not hold them.
-class PasswordHash
+class CORVEX_COMMON_EXPORT PasswordHash
 {
 public:
     /*! "$argon2id$v=19$m=65536,t=2,p=1$SALT$HASH", which crypto_pwhash_str_verify() of libsodium checks. The

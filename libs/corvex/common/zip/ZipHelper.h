@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -9,7 +11,7 @@ namespace Halvane::Corvex::Common {
 
 //! Zip archives. Equal input gives equal bytes: entries carry one fixed time and one fixed mode. An archive
 //! is written beside its place and moved there when it is complete.
-class ZipHelper
+class CORVEX_ZIP_EXPORT ZipHelper
 {
 public:
     //! Packs the files, each under its file name. The comment is the archive's. The level is 0 (stored) to 9;

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 
 namespace Halvane::Corvex::Designer {
 
-class BooleanProperty : public TypedProperty<bool>
+class CORVEX_EXPORT BooleanProperty : public TypedProperty<bool>
 {
     CORVEX_CLASS_NAMES(BooleanProperty, DesignerProperty)
 
@@ -18,7 +19,7 @@ protected:
     using TypedProperty::TypedProperty;
 };
 
-class IntegerProperty : public TypedProperty<int>
+class CORVEX_EXPORT IntegerProperty : public TypedProperty<int>
 {
     CORVEX_CLASS_NAMES(IntegerProperty, DesignerProperty)
 
@@ -32,7 +33,7 @@ protected:
 };
 
 //! Compared exactly; its text and its QML are rounded.
-class RealProperty : public TypedProperty<double>
+class CORVEX_EXPORT RealProperty : public TypedProperty<double>
 {
     CORVEX_CLASS_NAMES(RealProperty, DesignerProperty)
 
@@ -45,7 +46,7 @@ protected:
     using TypedProperty::TypedProperty;
 };
 
-class StringProperty : public TypedProperty<QString>
+class CORVEX_EXPORT StringProperty : public TypedProperty<QString>
 {
     CORVEX_CLASS_NAMES(StringProperty, DesignerProperty)
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/records/BorderInfo.h"
 
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 
 //! A border, 0 to 100 pixels wide. It is drawn inside: where the owner has a property "size", it can fill no
 //! more than half of the shorter side.
-class BorderProperty : public TypedProperty<BorderInfo>
+class CORVEX_EXPORT BorderProperty : public TypedProperty<BorderInfo>
 {
     CORVEX_CLASS_NAMES(BorderProperty, DesignerProperty)
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/records/ListInfo.h"
 #include "corvex/values/records/MapInfo.h"
 
 namespace Halvane::Corvex::Designer {
 
-class ListValueProperty : public TypedProperty<ListInfo>
+class CORVEX_EXPORT ListValueProperty : public TypedProperty<ListInfo>
 {
     CORVEX_CLASS_NAMES(ListValueProperty, DesignerProperty)
 
@@ -15,7 +16,7 @@ public:
     using TypedProperty::TypedProperty;
 };
 
-class MapProperty : public TypedProperty<MapInfo>
+class CORVEX_EXPORT MapProperty : public TypedProperty<MapInfo>
 {
     CORVEX_CLASS_NAMES(MapProperty, DesignerProperty)
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 
 namespace Halvane::Corvex::Designer {
 
-class ColorProperty : public TypedProperty<QColor>
+class CORVEX_EXPORT ColorProperty : public TypedProperty<QColor>
 {
     CORVEX_CLASS_NAMES(ColorProperty, DesignerProperty)
 
@@ -20,7 +21,7 @@ protected:
     using TypedProperty::TypedProperty;
 };
 
-class ColorListProperty : public TypedProperty<QList<QColor>>
+class CORVEX_EXPORT ColorListProperty : public TypedProperty<QList<QColor>>
 {
     CORVEX_CLASS_NAMES(ColorListProperty, DesignerProperty)
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/records/EnumInfo.h"
 
@@ -17,7 +18,7 @@ struct TextForm<EnumInfo>
 };
 
 //! A value of the enumeration that comes with the initial value. Its text is the value's key.
-class EnumProperty : public TypedProperty<EnumInfo>
+class CORVEX_EXPORT EnumProperty : public TypedProperty<EnumInfo>
 {
     CORVEX_CLASS_NAMES(EnumProperty, DesignerProperty)
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/expressions/ConditionInfo.h"
 #include "corvex/values/expressions/GeneralDataInfo.h"
@@ -13,7 +14,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! One term of an expression. Those who use it compile it; it writes no QML of its own.
-class GeneralDataProperty : public TypedProperty<GeneralDataInfo>
+class CORVEX_EXPORT GeneralDataProperty : public TypedProperty<GeneralDataInfo>
 {
     CORVEX_CLASS_NAMES(GeneralDataProperty, DesignerProperty)
 
@@ -22,7 +23,7 @@ public:
 };
 
 //! An expression. Those who use it compile it; it writes no QML of its own.
-class GeneralDataListProperty : public TypedProperty<GeneralDataList>
+class CORVEX_EXPORT GeneralDataListProperty : public TypedProperty<GeneralDataList>
 {
     CORVEX_CLASS_NAMES(GeneralDataListProperty, DesignerProperty)
 
@@ -31,7 +32,7 @@ public:
 };
 
 //! Two comparisons of a value; in QML the function that makes them.
-class ConditionProperty : public TypedProperty<ConditionInfo>
+class CORVEX_EXPORT ConditionProperty : public TypedProperty<ConditionInfo>
 {
     CORVEX_CLASS_NAMES(ConditionProperty, DesignerProperty)
 
@@ -45,7 +46,7 @@ protected:
     using TypedProperty::TypedProperty;
 };
 
-class PropertyChangeProperty : public TypedProperty<PropertyChangeInfo>
+class CORVEX_EXPORT PropertyChangeProperty : public TypedProperty<PropertyChangeInfo>
 {
     CORVEX_CLASS_NAMES(PropertyChangeProperty, DesignerProperty)
 
@@ -59,7 +60,7 @@ protected:
     using TypedProperty::TypedProperty;
 };
 
-class PropertyChangeListProperty : public TypedProperty<PropertyList>
+class CORVEX_EXPORT PropertyChangeListProperty : public TypedProperty<PropertyList>
 {
     CORVEX_CLASS_NAMES(PropertyChangeListProperty, DesignerProperty)
 
@@ -73,7 +74,7 @@ protected:
     using TypedProperty::TypedProperty;
 };
 
-class UpdateObjectProperty : public TypedProperty<UpdateObjectInfo>
+class CORVEX_EXPORT UpdateObjectProperty : public TypedProperty<UpdateObjectInfo>
 {
     CORVEX_CLASS_NAMES(UpdateObjectProperty, DesignerProperty)
 
@@ -81,7 +82,7 @@ public:
     using TypedProperty::TypedProperty;
 };
 
-class UpdateObjectListProperty : public TypedProperty<UpdateObjectList>
+class CORVEX_EXPORT UpdateObjectListProperty : public TypedProperty<UpdateObjectList>
 {
     CORVEX_CLASS_NAMES(UpdateObjectListProperty, DesignerProperty)
 

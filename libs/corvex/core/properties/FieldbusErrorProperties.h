@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/records/FieldbusErrorInfo.h"
 
 namespace Halvane::Corvex::Designer {
 
-class ReceiveErrorProperty : public TypedProperty<ReceiveErrorInfo>
+class CORVEX_EXPORT ReceiveErrorProperty : public TypedProperty<ReceiveErrorInfo>
 {
     CORVEX_CLASS_NAMES(ReceiveErrorProperty, DesignerProperty)
 
@@ -20,7 +21,7 @@ protected:
     using TypedProperty::TypedProperty;
 };
 
-class SendErrorProperty : public TypedProperty<SendErrorInfo>
+class CORVEX_EXPORT SendErrorProperty : public TypedProperty<SendErrorInfo>
 {
     CORVEX_CLASS_NAMES(SendErrorProperty, DesignerProperty)
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 
 namespace Halvane::Corvex::Designer {
 
-class FontProperty : public TypedProperty<QFont>
+class CORVEX_EXPORT FontProperty : public TypedProperty<QFont>
 {
     CORVEX_CLASS_NAMES(FontProperty, DesignerProperty)
 

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! The stops of a gradient: 2 to 101 of them, one at most for each hundredth, in at least two colours.
-class GradientStopsProperty : public TypedProperty<QGradientStops>
+class CORVEX_EXPORT GradientStopsProperty : public TypedProperty<QGradientStops>
 {
     CORVEX_CLASS_NAMES(GradientStopsProperty, DesignerProperty)
 

@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/records/FieldbusErrorInfo.h"
 
 namespace Halvane::Corvex::Designer {
 
 template<>
-struct TextForm<IOErrorInfo>
+struct CORVEX_EXPORT TextForm<IOErrorInfo>
 {
     static IOErrorInfo parse(const QString &text, bool *ok);
     static QString print(const IOErrorInfo &info);
 };
 
 //! Gives the record, which has no text of its own, its text: "id: true, io: false".
-class IOErrorProperty : public TypedProperty<IOErrorInfo>
+class CORVEX_EXPORT IOErrorProperty : public TypedProperty<IOErrorInfo>
 {
     CORVEX_CLASS_NAMES(IOErrorProperty, DesignerProperty)
 

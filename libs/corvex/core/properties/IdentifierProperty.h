@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/records/IdentifierInfo.h"
 
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 
 //! An object without a name is saved with its scope and its class, and read again.
 template<>
-struct EmptyForm<IdentifierInfo>
+struct CORVEX_EXPORT EmptyForm<IdentifierInfo>
 {
     static std::optional<IdentifierInfo> parse(const QString &text);
 };
@@ -28,7 +29,7 @@ struct TextForm<IdentifierInfo>
 };
 
 //! The property "id" of every object.
-class IdentifierProperty : public TypedProperty<IdentifierInfo>
+class CORVEX_EXPORT IdentifierProperty : public TypedProperty<IdentifierInfo>
 {
     CORVEX_CLASS_NAMES(IdentifierProperty, DesignerProperty)
 

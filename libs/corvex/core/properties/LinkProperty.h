@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/records/ObjectLinkInfo.h"
@@ -8,7 +9,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! A reference to another object by its identifier name.
-class LinkProperty : public TypedProperty<ObjectLinkInfo>
+class CORVEX_EXPORT LinkProperty : public TypedProperty<ObjectLinkInfo>
 {
     CORVEX_CLASS_NAMES(LinkProperty, DesignerProperty)
 

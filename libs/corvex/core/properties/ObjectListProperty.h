@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
 
 namespace Halvane::Corvex::Designer {
@@ -20,7 +21,7 @@ enum class OrderRule {
     An item that comes into an ordered list is put in its place by a binary search; a list that is being read
    is sorted once, when it is complete.
 */
-class ObjectListProperty : public DesignerProperty
+class CORVEX_EXPORT ObjectListProperty : public DesignerProperty
 {
     CORVEX_CLASS_NAMES(ObjectListProperty, DesignerProperty)
 

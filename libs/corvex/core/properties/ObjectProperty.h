@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! One child object. Its text is the child's XML; it writes no QML.
-class ObjectProperty : public DesignerProperty
+class CORVEX_EXPORT ObjectProperty : public DesignerProperty
 {
     CORVEX_CLASS_NAMES(ObjectProperty, DesignerProperty)
 

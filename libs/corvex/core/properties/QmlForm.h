@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QGradient>
 #include <QPolygonF>
 #include <QString>
@@ -40,7 +42,7 @@ struct QmlForm
 
 #define CORVEX_QML_FORM(Value)                                                                               \
     template<>                                                                                               \
-    struct QmlForm<Value>                                                                                    \
+    struct CORVEX_EXPORT QmlForm<Value>                                                                      \
     {                                                                                                        \
         static QString write(const DesignerProperty &property, const Value &value, int indent);              \
     };

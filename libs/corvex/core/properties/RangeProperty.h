@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/records/RangeInfo.h"
 
@@ -9,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 /*! Two numbers. How they have to lie is said by the editor parameter "rangeStyle": "MinMax" (the minimum is
     the smaller one), "MinMaxEqual" (they may be equal), "MaxMin" and "MaxMinEqual" (the other way round).
     With any other style, and without one, they only have to differ. */
-class RangeProperty : public TypedProperty<RangeInfo>
+class CORVEX_EXPORT RangeProperty : public TypedProperty<RangeInfo>
 {
     CORVEX_CLASS_NAMES(RangeProperty, DesignerProperty)
 

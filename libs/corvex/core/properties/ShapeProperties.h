@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 
 namespace Halvane::Corvex::Designer {
 
-class PointProperty : public TypedProperty<QPointF>
+class CORVEX_EXPORT PointProperty : public TypedProperty<QPointF>
 {
     CORVEX_CLASS_NAMES(PointProperty, DesignerProperty)
 
@@ -19,7 +20,7 @@ protected:
 };
 
 //! Valid unless a side is negative.
-class SizeProperty : public TypedProperty<QSizeF>
+class CORVEX_EXPORT SizeProperty : public TypedProperty<QSizeF>
 {
     CORVEX_CLASS_NAMES(SizeProperty, DesignerProperty)
 
@@ -34,7 +35,7 @@ protected:
     using TypedProperty::TypedProperty;
 };
 
-class PointListProperty : public TypedProperty<QPolygonF>
+class CORVEX_EXPORT PointListProperty : public TypedProperty<QPolygonF>
 {
     CORVEX_CLASS_NAMES(PointListProperty, DesignerProperty)
 
@@ -48,7 +49,7 @@ protected:
     using TypedProperty::TypedProperty;
 };
 
-class PolygonListProperty : public TypedProperty<QList<QPolygonF>>
+class CORVEX_EXPORT PolygonListProperty : public TypedProperty<QList<QPolygonF>>
 {
     CORVEX_CLASS_NAMES(PolygonListProperty, DesignerProperty)
 

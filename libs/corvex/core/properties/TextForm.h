@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/text/ValueConversion.h"
 
 namespace Halvane::Corvex::Designer {
@@ -64,7 +65,7 @@ CORVEX_TEXT_FORM(QGradientStops, toGradientStops)
 
 //! Equal texts give one font, whose description they share: a project has thousands of texts in a few fonts.
 template<>
-struct TextForm<QFont>
+struct CORVEX_EXPORT TextForm<QFont>
 {
     static QFont parse(const QString &text, bool *ok);
     static QString print(const QFont &value) { return ValueConversion::toString(value); }

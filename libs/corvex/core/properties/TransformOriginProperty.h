@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 
 #include <QQuickItem>
@@ -8,7 +9,7 @@
 namespace Halvane::Corvex::Designer {
 
 template<>
-struct TextForm<QQuickItem::TransformOrigin>
+struct CORVEX_EXPORT TextForm<QQuickItem::TransformOrigin>
 {
     static QQuickItem::TransformOrigin parse(const QString &text, bool *ok);
     static QString print(QQuickItem::TransformOrigin origin);
@@ -16,13 +17,13 @@ struct TextForm<QQuickItem::TransformOrigin>
 
 //! id: Item.TopLeft
 template<>
-struct QmlForm<QQuickItem::TransformOrigin>
+struct CORVEX_EXPORT QmlForm<QQuickItem::TransformOrigin>
 {
     static QString write(const DesignerProperty &property, QQuickItem::TransformOrigin origin, int indent);
 };
 
 //! The point about which an item turns and scales; its text is the name of the enumerator.
-class TransformOriginProperty : public TypedProperty<QQuickItem::TransformOrigin>
+class CORVEX_EXPORT TransformOriginProperty : public TypedProperty<QQuickItem::TransformOrigin>
 {
     CORVEX_CLASS_NAMES(TransformOriginProperty, DesignerProperty)
 

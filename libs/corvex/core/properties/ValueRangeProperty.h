@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/records/ValueRangeInfo.h"
 
@@ -13,7 +14,7 @@ namespace Halvane::Corvex::Designer {
     The element reads an analog input, named by its link "analogInput", which has a "voltageRange" (the text
     of a RangeInfo or of a ValueRangeInfo); the element may have a "voltageRange" itself instead.
 */
-class ValueRangeProperty : public TypedProperty<ValueRangeInfo>
+class CORVEX_EXPORT ValueRangeProperty : public TypedProperty<ValueRangeInfo>
 {
     CORVEX_CLASS_NAMES(ValueRangeProperty, DesignerProperty)
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/xml/ReadNote.h"
 
 #include <QList>
@@ -24,7 +25,7 @@ class ObjectBuilder;
     counts. Validation is switched off on
    everything that is read and runs once when the root is complete.
 */
-class ObjectXmlReader
+class CORVEX_EXPORT ObjectXmlReader
 {
 public:
     explicit ObjectXmlReader(QIODevice *device);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/xml/XmlBuffer.h"
 
 #include <QHash>
@@ -21,7 +22,7 @@ struct KeptItem;
 
     All processors write the items of a long list, so a class with an XML form of its own may be asked for it
    in several threads at once. The device is used in the calling thread only. */
-class ObjectXmlWriter
+class CORVEX_EXPORT ObjectXmlWriter
 {
 public:
     enum class LineEnd { Unix, Windows };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QList>
 #include <QString>
 
@@ -9,7 +11,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! Something in a file that the reader did not take over as it stands.
-struct ReadNote
+struct CORVEX_EXPORT ReadNote
 {
     enum Kind {
         Kept,    //!< written back as it was when the object is saved
@@ -27,7 +29,7 @@ struct ReadNote
 
 /*! The notes of one reading: 10,000 of each kind, so that a file that is nothing but oddities does not become
    gigabytes of notes. One more note tells where the others begin and how many they are. */
-class ReadNoteList
+class CORVEX_EXPORT ReadNoteList
 {
 public:
     //! Counts one more of that kind; false when it needs no note of its own.

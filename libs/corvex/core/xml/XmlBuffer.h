@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/xml/XmlText.h"
 
 #include <cstring>
@@ -9,7 +10,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! Bytes that many short pieces are put behind: a project's file has some ten of them for each property.
-class XmlBuffer
+class CORVEX_EXPORT XmlBuffer
 {
 public:
     void append(char byte)

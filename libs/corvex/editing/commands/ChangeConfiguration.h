@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
@@ -12,7 +13,7 @@ struct DeviceChannels;
 
 /*! Makes a project one for another device model: takes over what the hardware of the model fixes, and gives
     hardware elements whose channel the model does not have the first one that is free on their screen. */
-class ChangeConfiguration : public ModelCommand
+class CORVEX_EXPORT ChangeConfiguration : public ModelCommand
 {
 public:
     //! A hardware element whose channel the new model does not have.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -11,7 +13,7 @@ namespace Halvane::Corvex::Designer {
 
 /*! What commands and imports ask and tell the user. A tool with windows installs its own; without one nobody
    is asked, filters that are still needed stay, and warnings go to the log. */
-class EditingDialogs
+class CORVEX_EXPORT EditingDialogs
 {
 public:
     virtual ~EditingDialogs() = default;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QtGlobal>
 
 #include <memory>
@@ -15,7 +17,7 @@ class DesignerObject;
    belongs to them, and goes with the last command that holds it. An object that is back in the model by then
    stays there, and one that somebody else took out of the model belongs to that.
 */
-class HeldObject
+class CORVEX_EXPORT HeldObject
 {
     Q_DISABLE_COPY_MOVE(HeldObject)
 

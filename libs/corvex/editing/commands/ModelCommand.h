@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ValueChange.h"
 #include "corvex/editing/undo/UndoCommand.h"
 
@@ -19,7 +20,7 @@ class EditStep;
     command is not done, and errorString() may know why. A change elsewhere that fails stops nothing. To do a
     command that is done, or to undo one that is not, changes nothing.
 */
-class ModelCommand : public UndoCommand
+class CORVEX_EXPORT ModelCommand : public UndoCommand
 {
 public:
     ~ModelCommand() override;

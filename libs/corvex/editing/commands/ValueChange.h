@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
 
 #include <QHash>
@@ -8,7 +9,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! A value that one property gets instead of another.
-struct ValueChange
+struct CORVEX_EXPORT ValueChange
 {
     SharedProperty property;
     QString before;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
 
 #include <QList>
@@ -19,7 +20,7 @@ class UndoCommand;
 /*! What happens between pressing and releasing the mouse: items are moved, resized or turned on the canvas,
    and the model knows nothing of it until the end. Points are in the coordinates of the scene. Objects that
    go meanwhile are left out. */
-class CanvasGesture
+class CORVEX_EXPORT CanvasGesture
 {
 public:
     static CanvasGesture move(const QList<FramedItem *> &items, const QPointF &start);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/graphics/CanvasGesture.h"
 
 #include <QGraphicsScene>
@@ -23,7 +24,7 @@ class UndoStack;
    Releasing the mouse pushes one command onto the history of the screen's project; Escape gives the gesture
    up, as does everything in a screen without a project.
 */
-class CanvasScene : public QGraphicsScene
+class CORVEX_EXPORT CanvasScene : public QGraphicsScene
 {
     Q_OBJECT
 

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QGraphicsItem>
 
 namespace Halvane::Corvex::Designer {
 
 //! The rectangle that the mouse draws over the canvas.
-class CropArea : public QGraphicsItem
+class CORVEX_EXPORT CropArea : public QGraphicsItem
 {
 public:
     using QGraphicsItem::QGraphicsItem;

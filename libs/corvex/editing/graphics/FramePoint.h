@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QPointF>
 #include <QQuickItem>
 #include <QRectF>
@@ -16,7 +18,7 @@ namespace Halvane::Corvex::Designer {
     A handle moves the edges on its side: horizontal and vertical are -1 for the left and the upper edge, 1
    for the right and the lower edge, and 0 for none.
 */
-struct FramePoint
+struct CORVEX_EXPORT FramePoint
 {
     QQuickItem::TransformOrigin origin;
     int horizontal;

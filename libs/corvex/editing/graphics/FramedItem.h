@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/graphics/GraphicsItem.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! An item with eight handles on its frame and a grip above it to turn it by.
-class FramedItem : public GraphicsItem
+class CORVEX_EXPORT FramedItem : public GraphicsItem
 {
     CORVEX_CLASS_NAMES(FramedItem, GraphicsItem)
 

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QGraphicsRectItem>
 
 namespace Halvane::Corvex::Designer {
 
 //! The outline around several selected items.
-class GraphicsBounding : public QGraphicsRectItem
+class CORVEX_EXPORT GraphicsBounding : public QGraphicsRectItem
 {
 public:
     explicit GraphicsBounding(QGraphicsItem *parent = nullptr);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ObjectView.h"
 
@@ -23,7 +24,7 @@ class UndoCommand;
     The item goes with its object, and with the list or the scene that holds it. A copy is tied to the same
    two and belongs to nobody.
 */
-class GraphicsItem : public ObjectView
+class CORVEX_EXPORT GraphicsItem : public ObjectView
 {
     CORVEX_CLASS_NAMES(GraphicsItem, ObjectView)
 

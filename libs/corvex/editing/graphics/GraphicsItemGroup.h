@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/graphics/FramedItem.h"
 #include "corvex/editing/graphics/MemberBounds.h"
 
@@ -11,7 +12,7 @@ namespace Halvane::Corvex::Designer {
 /*! Holds the items of a group's members. Its frame is the rectangle around what the members cover, turned as
     they are. To resize it is to resize and move all members; it keeps its proportions when a member does, or
     when one is turned, since what is turned cannot be stretched in one direction of the group. */
-class GraphicsItemGroup
+class CORVEX_EXPORT GraphicsItemGroup
     : public QGraphicsItem
     , public FramedItem
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/graphics/FramedItem.h"
 #include "corvex/values/records/BorderInfo.h"
 
@@ -11,7 +12,7 @@ namespace Halvane::Corvex::Designer {
 
 /*! A rectangle with a colour, a border within its edges and round corners, as far as the object has such
     properties. An element that has neither colour nor border is outlined, so that it can be seen. */
-class GraphicsRectangle
+class CORVEX_EXPORT GraphicsRectangle
     : public QGraphicsItem
     , public FramedItem
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QHash>
 #include <QPointF>
 #include <QRectF>
@@ -13,7 +15,7 @@ class GraphicsItem;
 
 /*! What the members of a group cover together. A change of one member costs the logarithm of their number, so
     that a change of all of them costs no more than a look at each. */
-class MemberBounds
+class CORVEX_EXPORT MemberBounds
 {
 public:
     //! Enters the member, or takes over where it is now. Members without width and height cover nothing,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/graphics/GraphicsRectangle.h"
 
 namespace Halvane::Corvex::Designer {
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 /*! The rectangle of a screen, below all else. The items of the elements do not lie in it but beside it, in
    the same scene: a frame would otherwise visit all of them to paint a few. They still come and go with it.
  */
-class ScreenRectangle : public GraphicsRectangle
+class CORVEX_EXPORT ScreenRectangle : public GraphicsRectangle
 {
 public:
     explicit ScreenRectangle(DesignerObject *screen);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QGraphicsItem>
 #include <QLineF>
 #include <QList>
@@ -13,7 +15,7 @@ class FramedItem;
 
 /*! The frames of the selected items; a single one has its handles and its grip too. It lies above all items.
     It shows them as they were when it took them over, and needs none of them afterwards. */
-class SelectionOutline : public QGraphicsItem
+class CORVEX_EXPORT SelectionOutline : public QGraphicsItem
 {
 public:
     SelectionOutline();

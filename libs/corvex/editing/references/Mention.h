@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QFlags>
 #include <QString>
 
@@ -15,7 +17,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(NamedKinds)
 
 /*! One place in a value at which it names an object. What is handed one may give it another path, or drop it;
     the value is then rewritten around it. */
-struct Mention
+struct CORVEX_EXPORT Mention
 {
     NamedKinds kinds; //!< what the path may name, judged by the value alone
     QString path;     //!< a name, or names joined with "."; of a term all but the property

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ValueChange.h"
 #include "corvex/editing/references/Mention.h"
 #include "corvex/editing/references/ReferenceTarget.h"
@@ -13,7 +14,7 @@ class DesignerObject;
 
 //! What the rest of a project has to be changed to when something in it gets another name or goes. \a pending
 //! may be null.
-class ReferenceChanges
+class CORVEX_EXPORT ReferenceChanges
 {
 public:
     static QList<ValueChange> renamed(const DesignerObject *object, const QString &newName,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/references/Mention.h"
 
 #include <QList>
@@ -15,7 +16,7 @@ class DesignerProperty;
     its owner and id. Everything that looks for references, be it to follow a rename or to show the user where
     a name is used, goes through visit().
 */
-class ReferenceForm
+class CORVEX_EXPORT ReferenceForm
 {
 public:
     enum Form : quint8 {

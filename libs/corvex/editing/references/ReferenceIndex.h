@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/ModelObserver.h"
 #include "corvex/editing/references/ReferenceForm.h"
 
@@ -17,7 +18,7 @@ class Screen;
 
     Made by one walk when it is asked for first; from then on it follows the changes of the model.
 */
-class ReferenceIndex : public ModelObserver
+class CORVEX_EXPORT ReferenceIndex : public ModelObserver
 {
 public:
     //! That of the project, which owns it.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
 
 #include <functional>
@@ -10,14 +11,14 @@ namespace Halvane::Corvex::Designer {
 class ReferenceTarget;
 
 //! One place where an object is named.
-struct ReferenceUse
+struct CORVEX_EXPORT ReferenceUse
 {
     SharedProperty property;
     QString path; //!< as it stands there: "group1.pump1"
 };
 
 //! Walks the model and finds what names something.
-class ReferenceScanner
+class CORVEX_EXPORT ReferenceScanner
 {
 public:
     using SiteVisitor = std::function<void(const SharedProperty &property)>;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/references/Mention.h"
 
 #include <QSet>
@@ -16,7 +17,7 @@ class Screen;
     Names match whole segments of a path. An element is known on its own screen and in variables, which have
     no screen; a path that starts with the name of another screen means an element of that one.
 */
-class ReferenceTarget
+class CORVEX_EXPORT ReferenceTarget
 {
 public:
     ReferenceTarget() = default;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
 
 #include <QUndoCommand>
@@ -20,7 +21,7 @@ class UndoStack;
     A command that cannot be done leaves nothing changed and is obsolete, and a stack drops it. A composite
    that has such a child takes back what its other children did, and is obsolete too.
 */
-class UndoCommand : public QUndoCommand
+class CORVEX_EXPORT UndoCommand : public QUndoCommand
 {
     Q_DISABLE_COPY_MOVE(UndoCommand)
 

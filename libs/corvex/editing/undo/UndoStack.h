@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QList>
 #include <QPointer>
 #include <QUndoStack>
@@ -16,7 +18,7 @@ class UndoCommand;
    the history the stack knows which object to go to after the last move, and whether that move did or undid a
    deletion that panels treat apart.
 */
-class UndoStack : public QUndoStack
+class CORVEX_EXPORT UndoStack : public QUndoStack
 {
     Q_OBJECT
     Q_MOC_INCLUDE("corvex/core/DesignerObject.h")

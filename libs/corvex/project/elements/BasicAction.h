@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/project/elements/Element.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! The base of what can be done at run time: changes of properties.
-class BasicAction : public Element
+class CORVEX_EXPORT BasicAction : public Element
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(BasicAction, Element)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/values/runtime/RuntimeLists.h"
 
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 
 //! Whatever stands on a screen. Concrete classes come from plug-ins; their names come from the factory's
 //! tables.
-class Element : public DesignerObject
+class CORVEX_EXPORT Element : public DesignerObject
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(Element, DesignerObject)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/NameIndex.h"
 
 #include <QHash>
@@ -20,7 +21,7 @@ class Element;
 
     Elements enter and leave it as they enter and leave the screen, so that no name check walks the screen.
 */
-class ElementIndex
+class CORVEX_EXPORT ElementIndex
 {
 public:
     void insert(Element *element);

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/project/elements/Element.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! A named selection of the elements of a screen, by which the designer shows and hides them.
-class FilterElement : public Element
+class CORVEX_EXPORT FilterElement : public Element
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(FilterElement, Element)

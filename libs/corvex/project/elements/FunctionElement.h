@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/project/elements/Element.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! Behaviour bound to visual elements and hardware.
-class FunctionElement : public Element
+class CORVEX_EXPORT FunctionElement : public Element
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(FunctionElement, Element)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/project/elements/VisualElement.h"
 
 namespace Halvane::Corvex::Designer {
@@ -11,7 +12,7 @@ namespace Halvane::Corvex::Designer {
    not keep it in step by itself: the commands that change the members change it too, so that undo restores
    it.
 */
-class GroupElement : public VisualElement
+class CORVEX_EXPORT GroupElement : public VisualElement
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(GroupElement, VisualElement)

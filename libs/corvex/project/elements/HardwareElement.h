@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/project/elements/Element.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! An input, an output or a port of the device. Elements that share a channel hear of each other's changes,
 //! so that each of them says what is wrong.
-class HardwareElement : public Element
+class CORVEX_EXPORT HardwareElement : public Element
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(HardwareElement, Element)

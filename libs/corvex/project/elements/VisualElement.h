@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/project/elements/Element.h"
 
 #include <QRectF>
@@ -8,7 +9,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! An element that is drawn. Opacity and scale are per cent in the model and fractions at run time.
-class VisualElement : public Element
+class CORVEX_EXPORT VisualElement : public Element
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(VisualElement, Element)

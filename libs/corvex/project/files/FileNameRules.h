@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
 
 //! What projects and images can be called, being files that are carried from one system to another. Each
 //! function gives the reason, for the user, why a name will not do, or nothing for a good one.
-class FileNameRules
+class CORVEX_EXPORT FileNameRules
 {
 public:
     static constexpr qsizetype longestProjectName = 248;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QObject>
 
 #include <memory>
@@ -23,7 +25,7 @@ class ZipWorker;
    For that time the autosave file of before is called D/P.kdproj.kdasv.tmp; it goes when the new one is
    complete and comes back when that fails.
 */
-class ProjectAutosave : public QObject
+class CORVEX_EXPORT ProjectAutosave : public QObject
 {
     Q_OBJECT
 

@@ -2,9 +2,9 @@
 // The files of Project: everything in its own folder, nothing beside it but the autosave file.
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/FileSync.h"
 #include "corvex/common/files/SafeFile.h"
 #include "corvex/common/files/TemporaryFolder.h"
-#include "corvex/common/files/private/FileSync.h"
 #include "corvex/core/ModelObserver.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/ImageResource.h"

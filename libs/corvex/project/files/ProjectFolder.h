@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/common/files/FileTransaction.h"
 #include "corvex/common/files/FolderLock.h"
 
@@ -15,7 +16,7 @@ namespace Halvane::Corvex::Designer {
    them only when it has been saved. Until then all these changes are one transaction: saving commits it,
    everything else takes it back, and the next opening does so after a crash. Other programs are kept out
    meanwhile. */
-class ProjectFolder
+class CORVEX_EXPORT ProjectFolder
 {
 public:
     using Kind = Common::FolderLock::Kind;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QObject>
 
 namespace Halvane::Corvex::Designer {
 
 //! Packs a folder into an archive in the thread that it was moved to, and ends the thread.
-class ZipWorker : public QObject
+class CORVEX_EXPORT ZipWorker : public QObject
 {
     Q_OBJECT
 

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/GeneralDataInfo.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! A term of a list of assignments, target and source in turn.
-class AssignInfo : public GeneralDataInfo
+class CORVEX_EXPORT AssignInfo : public GeneralDataInfo
 {
 public:
     using GeneralDataInfo::GeneralDataInfo;

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 #include <QStringList>
 
 namespace Halvane::Corvex::Designer {
 
 //! Two comparisons of one value with a number, joined by AND or by OR.
-class ConditionInfo
+class CORVEX_EXPORT ConditionInfo
 {
 public:
     ConditionInfo() = default;

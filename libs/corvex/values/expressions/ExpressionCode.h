@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/ExpressionRules.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! The translation of terms into the JavaScript that runs on the device. Nothing is appended and false
 //! returned for what cannot be translated.
-class ExpressionCode
+class CORVEX_EXPORT ExpressionCode
 {
 public:
     using Kind = ExpressionRules::Kind;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/ExpressionRules.h"
 
 #include <QList>
@@ -8,7 +9,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! How the terms of an expression may follow each other.
-class ExpressionGrammar
+class CORVEX_EXPORT ExpressionGrammar
 {
 public:
     using Kind = ExpressionRules::Kind;

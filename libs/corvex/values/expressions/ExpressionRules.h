@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/GeneralDataInfo.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! What each kind of term allows. The kinds ask it about themselves, an expression about the kind that its
 //! terms are taken as.
-class ExpressionRules
+class CORVEX_EXPORT ExpressionRules
 {
 public:
     //! The first five have the numbers of the kinds of expressions.

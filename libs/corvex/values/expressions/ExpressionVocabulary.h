@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QStringList>
 
 namespace Halvane::Corvex::Designer {
 
 //! The words that expressions are made of, and the sets that each word belongs to.
-class ExpressionVocabulary
+class CORVEX_EXPORT ExpressionVocabulary
 {
 public:
     enum WordSet : quint8 {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/EnumHelper.h"
+#include "corvex/common/Export.h"
 
 #include <QString>
 #include <QVariant>
@@ -24,7 +25,7 @@ class Screen;
     The rules of this class are those of a term in a plain expression; the kinds (MathInfo, StringInfo,
     BoolInfo, AssignInfo, ModbusCommandInfo) add no data, only rules of their own.
 */
-class GeneralDataInfo
+class CORVEX_EXPORT GeneralDataInfo
 {
 public:
     //! Stored in project files. 6 is not in use.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/GeneralDataInfo.h"
 #include "corvex/values/text/RecordList.h"
 
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 
 //! An expression: terms in the order in which they are read. The terms are stored plain; the checks and the
 //! translation take each one as a term of the kind that they are asked for.
-class GeneralDataList : public RecordList<GeneralDataInfo>
+class CORVEX_EXPORT GeneralDataList : public RecordList<GeneralDataInfo>
 {
 public:
     using ValueType = GeneralDataInfo::ValueType;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
 
 //! One change of an action: a property of an element gets a value.
-class PropertyChangeInfo
+class CORVEX_EXPORT PropertyChangeInfo
 {
 public:
     PropertyChangeInfo() = default;

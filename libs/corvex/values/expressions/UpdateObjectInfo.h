@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/runtime/PropertyInfoList.h"
 
 #include <QMap>
@@ -11,7 +12,7 @@ namespace Halvane::Corvex::Designer {
 
 //! An update of one object: which one (by name, class, screen and the property of a parent that holds it) and
 //! the values that its properties get. Fields that are empty do not restrict the choice.
-class UpdateObjectInfo
+class CORVEX_EXPORT UpdateObjectInfo
 {
 public:
     UpdateObjectInfo() = default;

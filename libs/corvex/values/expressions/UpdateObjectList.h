@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/UpdateObjectInfo.h"
 #include "corvex/values/text/RecordList.h"
 
@@ -9,7 +10,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! Updates of objects, in the order in which they are made: what the state of a button does, for example.
-class UpdateObjectList : public RecordList<UpdateObjectInfo>
+class CORVEX_EXPORT UpdateObjectList : public RecordList<UpdateObjectInfo>
 {
 public:
     using RecordList::RecordList;

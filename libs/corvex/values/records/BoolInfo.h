@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/GeneralDataInfo.h"
 
 #include <QStringList>
@@ -8,7 +9,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! A term of a boolean expression.
-class BoolInfo : public GeneralDataInfo
+class CORVEX_EXPORT BoolInfo : public GeneralDataInfo
 {
 public:
     using GeneralDataInfo::GeneralDataInfo;

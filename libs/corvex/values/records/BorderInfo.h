@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QColor>
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
 
 //! The border of a shape: its width in pixels and its colour.
-class BorderInfo
+class CORVEX_EXPORT BorderInfo
 {
 public:
     BorderInfo() = default;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QPointF>
 
 namespace Halvane::Corvex::Designer {
 
 //! Where the pointer is on the canvas and where the canvas has its centre, in scene coordinates.
-class CanvasPosition
+class CORVEX_EXPORT CanvasPosition
 {
 public:
     CanvasPosition() = default;

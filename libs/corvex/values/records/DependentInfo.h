@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QList>
 #include <QSharedPointer>
 #include <QString>
@@ -12,7 +14,7 @@ class DesignerProperty;
 //! An object, by its identifier, and the properties that follow it.
 //!
 //! updateProperties() is defined where the model is known, in the room of the project.
-class DependentInfo
+class CORVEX_EXPORT DependentInfo
 {
 public:
     DependentInfo() = default;

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QMetaEnum>
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
 
 //! A value of an enumeration that the meta-object system knows. Its text form is the key of the value.
-class EnumInfo
+class CORVEX_EXPORT EnumInfo
 {
 public:
     EnumInfo() = default;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 #include <concepts>
@@ -9,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 
 //! The errors of an input or an output. Every combination is valid. The text form belongs to the property
 //! that holds the record.
-class IOErrorInfo
+class CORVEX_EXPORT IOErrorInfo
 {
 public:
     IOErrorInfo() = default;
@@ -33,7 +35,7 @@ private:
 };
 
 //! The errors that decoding a received message can meet. Every combination is valid.
-class ReceiveErrorInfo
+class CORVEX_EXPORT ReceiveErrorInfo
 {
 public:
     ReceiveErrorInfo() = default;
@@ -63,7 +65,7 @@ private:
 };
 
 //! The errors that sending to another device can meet. Every combination is valid.
-class SendErrorInfo
+class CORVEX_EXPORT SendErrorInfo
 {
 public:
     SendErrorInfo() = default;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QSharedData>
 #include <QString>
 #include <QStringView>
@@ -13,7 +15,7 @@ class DesignerObject;
 //! is stored as it is given; whether it is a good name is for the validators of the model to say.
 //!
 //! isUnique() and generateUniqueId() are defined where the model is known, in the room of the project.
-class IdentifierInfo
+class CORVEX_EXPORT IdentifierInfo
 {
 public:
     IdentifierInfo() = default;

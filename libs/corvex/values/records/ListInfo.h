@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/text/RecordList.h"
 
 #include <QString>
@@ -9,7 +10,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! A list of texts, such as names of objects or pairs "name|value".
-class ListInfo : public RecordList<QString>
+class CORVEX_EXPORT ListInfo : public RecordList<QString>
 {
 public:
     using RecordList::RecordList;

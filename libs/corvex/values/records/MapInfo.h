@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QList>
 #include <QMap>
 #include <QPair>
@@ -11,7 +13,7 @@ namespace Halvane::Corvex::Designer {
 
 //! Pairs of key and value in the order in which they were added. A key may occur more than once; where one
 //! value is asked for, the one added last is meant. Two maps are equal when their pairs are, in order.
-class MapInfo
+class CORVEX_EXPORT MapInfo
 {
 public:
     using Entry = QPair<QString, QString>;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/GeneralDataInfo.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! A device command as hexadecimal digits, two for each byte.
-class ModbusCommandInfo : public GeneralDataInfo
+class CORVEX_EXPORT ModbusCommandInfo : public GeneralDataInfo
 {
 public:
     using GeneralDataInfo::GeneralDataInfo;

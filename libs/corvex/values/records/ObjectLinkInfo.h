@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -12,7 +14,7 @@ class DesignerObject;
 //! A reference to an object by its identifier: the scope in which to look and the classes that will do.
 //!
 //! findLinks() is defined where the model is known, in the room of the project.
-class ObjectLinkInfo
+class CORVEX_EXPORT ObjectLinkInfo
 {
 public:
     ObjectLinkInfo() = default;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
 
 //! The limits between which a value may lie.
-class RangeInfo
+class CORVEX_EXPORT RangeInfo
 {
 public:
     RangeInfo() = default;

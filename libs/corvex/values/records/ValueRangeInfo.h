@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
 
 //! The two ends of a scale, such as the voltages between which a sensor works, and the limits that both must
 //! keep. The first end may be the greater one.
-class ValueRangeInfo
+class CORVEX_EXPORT ValueRangeInfo
 {
 public:
     ValueRangeInfo() = default;

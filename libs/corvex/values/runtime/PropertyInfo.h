@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
 
 //! The value of a property, by its name.
-class PropertyInfo
+class CORVEX_EXPORT PropertyInfo
 {
 public:
     PropertyInfo() = default;

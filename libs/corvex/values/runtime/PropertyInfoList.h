@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/runtime/PropertyInfo.h"
 #include "corvex/values/text/RecordList.h"
 
@@ -9,7 +10,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! Values of properties, in the order in which they are set.
-class PropertyInfoList : public RecordList<PropertyInfo>
+class CORVEX_EXPORT PropertyInfoList : public RecordList<PropertyInfo>
 {
 public:
     using RecordList::RecordList;

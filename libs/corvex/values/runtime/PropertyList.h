@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/expressions/PropertyChangeInfo.h"
 #include "corvex/values/text/KeyedRecords.h"
 
@@ -15,7 +16,7 @@ namespace Halvane::Corvex::Designer {
 //! Changes of properties, ordered by element name and then by property name; a pair of element and property
 //! occurs at most once. Where an operation takes a change to look for, the pair of its names is meant. What
 //! is not there gives a default-constructed change; at() and operator[] alone want an index inside the list.
-class PropertyList
+class CORVEX_EXPORT PropertyList
 {
     struct Pair
     {

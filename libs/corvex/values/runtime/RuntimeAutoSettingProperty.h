@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/runtime/RuntimeProperty.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! A runtime property whose value the device saves and restores, with the value it has before one was saved.
-class RuntimeAutoSettingProperty : public RuntimeProperty
+class CORVEX_EXPORT RuntimeAutoSettingProperty : public RuntimeProperty
 {
 public:
     RuntimeAutoSettingProperty() = default;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/EnumHelper.h"
+#include "corvex/common/Export.h"
 
 #include <QString>
 
@@ -9,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 
 //! A property of an element that the device can read or write while it runs. The property's name is the key
 //! of the record.
-class RuntimeProperty
+class CORVEX_EXPORT RuntimeProperty
 {
 public:
     using VariableType = Common::EnumHelper::VariableType;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QLatin1StringView>
 #include <QString>
 #include <QStringView>
@@ -23,7 +25,7 @@ inline QStringView withoutBlanks(QStringView text)
 }
 
 //! What lies between two semicolons, with the places of its first colons; -1 for one that is not there.
-struct Item
+struct CORVEX_EXPORT Item
 {
     QStringView text;
     qsizetype colons[3] = {-1, -1, -1};
@@ -90,7 +92,7 @@ bool forEachEntry(QStringView text, Entry &&entry)
 
 //! Appends "key: value;", behind a blank when it is not the first entry. Entries are written in the order of
 //! their keys.
-void appendEntry(QString &group, QStringView key, QStringView value);
+CORVEX_EXPORT void appendEntry(QString &group, QStringView key, QStringView value);
 
 //! What becomes of a text that has a key twice.
 enum class Repeated { LastCounts, Refused };

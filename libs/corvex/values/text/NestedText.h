@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -11,17 +13,17 @@
 namespace Halvane::Corvex::Designer::NestedText {
 
 //! For a value of a group, which cannot hold ":", ";" or "|", nor blanks at its ends.
-QString toField(const QString &text);
+CORVEX_EXPORT QString toField(const QString &text);
 //! For an item of a list joined with " | ": only a "|" that stands alone between blanks or ends divides
 //! items, so that pairs like "pump1|speed" stand plain.
-QString toItem(const QString &text);
-QString fromField(QStringView field);
+CORVEX_EXPORT QString toItem(const QString &text);
+CORVEX_EXPORT QString fromField(QStringView field);
 
 //! What a list writes for its only item when that item's text is empty, since the empty text is the empty
 //! list. It reads back as the empty text.
 inline constexpr QStringView loneEmptyItem = u"%00";
 
 //! Whether the character divides items, as toItem() says.
-bool isItemSeparator(QStringView text, qsizetype index);
+CORVEX_EXPORT bool isItemSeparator(QStringView text, qsizetype index);
 
 } // namespace Halvane::Corvex::Designer::NestedText

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Designer {
@@ -9,7 +11,7 @@ namespace Halvane::Corvex::Designer {
     Dotted paths of names ("group1.rect1"). A name matches whole segments, so that "rect1" is found in
     "group1.rect1" and not in "group1.rect10"; a name of several segments matches them in a row.
 */
-class ObjectPath
+class CORVEX_EXPORT ObjectPath
 {
 public:
     //! Whether generated code can hold the path as it stands: segments of letters, digits and "_", none

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/values/text/RecordList.h"
 
 #include <QString>
@@ -12,7 +13,7 @@ namespace Halvane::Corvex::Designer {
 
     The texts may be expressions: the "||" of an operator does not part them.
 */
-struct TextPair
+struct CORVEX_EXPORT TextPair
 {
     QString first;
     QString second;
@@ -25,7 +26,7 @@ struct TextPair
 };
 
 //! Pairs joined with ", ", such as the rules of a logic builder: what must hold, and what happens then.
-class PairList : public RecordList<TextPair>
+class CORVEX_EXPORT PairList : public RecordList<TextPair>
 {
 public:
     using RecordList::RecordList;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QBrush>
 #include <QColor>
 #include <QFont>
@@ -18,7 +20,7 @@ namespace Halvane::Corvex::Designer {
 //! The text forms of the basic kinds of values, as they stand in project files, undo commands and editors. No
 //! function depends on a locale. The readers take the text and an optional \a ok; of a text that they refuse
 //! they give the null value of their type (false, 0, an invalid colour, nothing) and set \a ok to false.
-class ValueConversion
+class CORVEX_EXPORT ValueConversion
 {
 public:
     //! "true" or "false" in any case. A text that is neither and not empty is told to the debug channel.

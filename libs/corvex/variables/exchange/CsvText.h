@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -13,16 +15,16 @@
 namespace Halvane::Corvex::Designer::CsvText {
 
 //! One row with its line end, "\r\n".
-QString row(const QStringList &fields, QChar separator = u',');
+CORVEX_EXPORT QString row(const QStringList &fields, QChar separator = u',');
 
-struct Row
+struct CORVEX_EXPORT Row
 {
     int line = 0; //!< where it begins, from 1
     QStringList fields;
 };
 
 //! What is wrong with a line of a table, for the user.
-struct Problem
+struct CORVEX_EXPORT Problem
 {
     int line = 0;
     QString text;
@@ -32,11 +34,11 @@ struct Problem
 };
 
 //! The one of ",", ";" and tab that the first line has most of outside of quotes; "," without any.
-QChar separatorOf(QStringView text);
+CORVEX_EXPORT QChar separatorOf(QStringView text);
 
 /*! The rows of a text; "\n" ends a row too, and empty lines between rows are passed over. Reports text that
     follows a closing quote, a quote that is not closed, and lines that end with "\r" alone; the lines in
    question are left out. A quote inside a field that does not begin with one is a character like others. */
-QList<Row> read(QStringView text, QList<Problem> &problems, QChar separator = u',');
+CORVEX_EXPORT QList<Row> read(QStringView text, QList<Problem> &problems, QChar separator = u',');
 
 } // namespace Halvane::Corvex::Designer::CsvText

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/exchange/Exported.h"
 
 namespace Halvane::Corvex::Designer {
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 
 //! The J1939 groups as a CAN database.
-class DbcExport
+class CORVEX_EXPORT DbcExport
 {
 public:
     /*! A message for each CAN identifier, named by the first variable that has it, with a signal for each

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/exchange/Exported.h"
 
 #include <QDate>
@@ -11,7 +12,7 @@ class DesignerObject;
 
 //! The BACnet objects as a set of EDE files, layout 2.3 of the B.I.G.-EU: the objects, and the texts for
 //! their types, states and units.
-class EdeExport
+class CORVEX_EXPORT EdeExport
 {
 public:
     /*! The panel, which is the first local device, and its objects; what their properties say where it is

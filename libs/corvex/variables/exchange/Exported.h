@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -9,7 +11,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! What a project hands to other programs.
-struct Exported
+struct CORVEX_EXPORT Exported
 {
     struct File
     {

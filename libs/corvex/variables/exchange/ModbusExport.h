@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/exchange/Exported.h"
 
 namespace Halvane::Corvex::Designer {
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 
 //! The register list that an integrator asks for.
-class ModbusExport
+class CORVEX_EXPORT ModbusExport
 {
 public:
     /*! A table of all registers of \a project, a row each: the mapping variable, the kind of register, its

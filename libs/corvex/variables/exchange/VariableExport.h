@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/variables/exchange/Exported.h"
 
 namespace Halvane::Corvex::Designer {
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 
 //! All variables as one table.
-class VariableExport
+class CORVEX_EXPORT VariableExport
 {
 public:
     /*! A row for each variable, in the order of the project: "name", "class", then a column for each property

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/variables/exchange/CsvText.h"
 
@@ -20,7 +21,7 @@ namespace Halvane::Corvex::Designer {
    tabs; with column names in any case, and with empty columns at the end. Where the separator is not ",", a
    number may have a decimal comma.
 */
-class VariableImport
+class CORVEX_EXPORT VariableImport
 {
 public:
     struct Change

@@ -2,8 +2,8 @@
 #include "corvex/common/files/private/FileRecovery.h"
 
 #include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/FileSync.h"
 #include "corvex/common/files/private/FileJournal.h"
-#include "corvex/common/files/private/FileSync.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,6 +2,7 @@
 // Private to the sources of ObjectXmlReader; not installed.
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/xml/private/XmlTokens.h"
 
 class QIODevice;
@@ -14,7 +15,7 @@ namespace Halvane::Corvex::Designer {
     It refuses whatever is not UTF-8, document types and entities, values of more than 16 MB, and whatever XML
     1.0 calls not well-formed. Its messages are for the person who opened the file.
 */
-class XmlTokenizer
+class CORVEX_EXPORT XmlTokenizer
 {
 public:
     //! How many bytes are read at once.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 #include <QRectF>
@@ -11,7 +12,7 @@ class GroupElement;
 
 /*! Puts elements of one list into a new group, which takes the place of the topmost of them. What refers to
    them stays as it is. */
-class GroupCommand : public ModelCommand
+class CORVEX_EXPORT GroupCommand : public ModelCommand
 {
 public:
     //! \a elements is the list of a screen or of another group; \a group is in no model.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
 
 #include <QStringList>
@@ -10,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 class GroupElement;
 
 //! The order in which a group numbers its members, which follows them only when commands say so.
-class GroupIndexes
+class CORVEX_EXPORT GroupIndexes
 {
 public:
     //! The group whose members \a list holds; null for any other list.

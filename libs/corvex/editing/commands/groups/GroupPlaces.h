@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ValueChange.h"
 
 #include <QPointer>
@@ -22,7 +23,7 @@ class GroupElement;
    has one of these, however many commands it is made of: the groups are looked at before its first command,
    and settled once after the last that concerns them.
 */
-class GroupPlaces
+class CORVEX_EXPORT GroupPlaces
 {
 public:
     //! Whether a change of that value, or of what that list holds, can matter at all.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
@@ -10,7 +11,7 @@ struct ElementPlacement;
 
 //! Takes some members out of a group and puts them in front of it, where they are seen as before. References
 //! to them lose the name of the group.
-class SplitGroup : public ModelCommand
+class CORVEX_EXPORT SplitGroup : public ModelCommand
 {
 public:
     SplitGroup(DesignerObject *group, const QList<DesignerObject *> &members, UndoCommand *parent = nullptr);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
@@ -10,7 +11,7 @@ class Screen;
 /*! Adds elements, pasted or from a template, with the pictures and the variables that they need. Pictures are
     copied from their original locations. A variable or a picture that the project has already, under the same
     name and with the same contents, is used instead. */
-class AddElementsWithResources : public ModelCommand
+class CORVEX_EXPORT AddElementsWithResources : public ModelCommand
 {
 public:
     AddElementsWithResources(Screen *screen, const QList<DesignerObject *> &elements,

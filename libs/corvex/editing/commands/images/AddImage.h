@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/objects/SortingCommand.h"
 
 namespace Halvane::Corvex::Designer {
@@ -9,7 +10,7 @@ class Project;
 
 /*! Adds a picture: its file is copied into the project's folder of images under the name of the resource, and
     elements show it. The project must have a file. */
-class AddImage : public SortingCommand
+class CORVEX_EXPORT AddImage : public SortingCommand
 {
 public:
     //! The elements \a users get the picture as their "source".

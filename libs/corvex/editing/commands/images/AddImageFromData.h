@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 class QImage;
@@ -16,7 +17,7 @@ class Screen;
 
     A picture that the project has already is not added again, as errorString() tells; on a screen the element
     shows the one that is there. */
-class AddImageFromData : public ModelCommand
+class CORVEX_EXPORT AddImageFromData : public ModelCommand
 {
 public:
     AddImageFromData(const QImage &image, Project *project, UndoCommand *parent = nullptr);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 #include <QMap>
@@ -11,7 +12,7 @@ class ImageResource;
 class Screen;
 
 //! Adds pictures and the elements that show them.
-class AddImagesAndElements : public ModelCommand
+class CORVEX_EXPORT AddImagesAndElements : public ModelCommand
 {
 public:
     //! \a images with the file of each.

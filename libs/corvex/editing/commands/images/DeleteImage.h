@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/objects/DeleteObject.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! Its file stays until the project has been saved.
-class DeleteImage : public DeleteObject
+class CORVEX_EXPORT DeleteImage : public DeleteObject
 {
 public:
     explicit DeleteImage(DesignerObject *image, UndoCommand *parent = nullptr);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QHash>
 #include <QPair>
 #include <QSet>
@@ -11,7 +13,7 @@ namespace Halvane::Corvex::Designer {
 class Project;
 
 //! The names and contents of the images that a project has, for those that are to be added.
-class ImageNames
+class CORVEX_EXPORT ImageNames
 {
 public:
     explicit ImageNames(const Project *project);

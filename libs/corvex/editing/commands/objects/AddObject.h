@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/objects/SortingCommand.h"
 
 #include <QPointer>
@@ -8,7 +9,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! Adds an object to a list.
-class AddObject : public SortingCommand
+class CORVEX_EXPORT AddObject : public SortingCommand
 {
 public:
     AddObject(const SharedProperty &list, DesignerObject *object, bool selected,

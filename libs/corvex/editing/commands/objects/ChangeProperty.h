@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
@@ -12,7 +13,7 @@ namespace Halvane::Corvex::Designer {
     A value that shows a picture whose file is missing cannot be set, nor a name that the rules for names of
    the object refuse.
 */
-class ChangeProperty : public ModelCommand
+class CORVEX_EXPORT ChangeProperty : public ModelCommand
 {
 public:
     ChangeProperty(const SharedProperty &property, const QString &value, bool selected,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 class VisualElement;
 
 //! Gives a property of several elements the value that one of them has.
-class ChangeVisualElements : public ModelCommand
+class CORVEX_EXPORT ChangeVisualElements : public ModelCommand
 {
 public:
     //! Elements without a property of the id of \a property are left out.

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! Removes a filter from a screen; the elements that it lists stay.
-class DeleteFilter : public ModelCommand
+class CORVEX_EXPORT DeleteFilter : public ModelCommand
 {
 public:
     DeleteFilter(const SharedProperty &filters, DesignerObject *filter, bool selected,

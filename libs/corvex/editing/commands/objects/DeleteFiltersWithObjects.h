@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 class Screen;
 
 //! Deletes filters of a screen and, with \a withObjects, the elements that they list.
-class DeleteFiltersWithObjects : public ModelCommand
+class CORVEX_EXPORT DeleteFiltersWithObjects : public ModelCommand
 {
 public:
     DeleteFiltersWithObjects(const QList<DesignerObject *> &filters, Screen *screen, bool withObjects,

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
 
 /*! Takes an object out of the model, and its names, with those of everything below it, out of all that refers
     to it. It has no text of its own. */
-class DeleteObject : public ModelCommand
+class CORVEX_EXPORT DeleteObject : public ModelCommand
 {
 public:
     DeleteObject(DesignerObject *object, bool selected, UndoCommand *parent = nullptr);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
@@ -9,7 +10,7 @@ class Screen;
 
 /*! Deletes elements of a screen, and the filters that list nothing but them. Filters that list others too go
     when the user says so, see EditingDialogs, and lose the deleted names otherwise. */
-class DeleteObjectsAndCheckFilters : public ModelCommand
+class CORVEX_EXPORT DeleteObjectsAndCheckFilters : public ModelCommand
 {
 public:
     DeleteObjectsAndCheckFilters(const QList<DesignerObject *> &objects, Screen *screen,

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! Gives a screen or a variable another name, which all that refers to it follows. The base of the commands
 //! for each of them.
-class RenameObject : public ModelCommand
+class CORVEX_EXPORT RenameObject : public ModelCommand
 {
 public:
     void redo() override;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! A command that adds to the list of its property, in the order of the list unless that is switched off.
-class SortingCommand : public ModelCommand
+class CORVEX_EXPORT SortingCommand : public ModelCommand
 {
 public:
     //! Whether the list is sorted when the object has been added. Otherwise the object comes last, and the

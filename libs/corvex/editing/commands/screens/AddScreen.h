@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
 
 class Project;
 
-class AddScreen : public ModelCommand
+class CORVEX_EXPORT AddScreen : public ModelCommand
 {
 public:
     //! \a index -1 is the end.

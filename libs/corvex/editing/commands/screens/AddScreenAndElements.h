@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/screens/AddScreen.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! Adds a screen and does what another command does to it, in one step.
-class AddScreenAndElements : public AddScreen
+class CORVEX_EXPORT AddScreenAndElements : public AddScreen
 {
 public:
     //! Takes over \a elements, which must not have a parent.

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/objects/DeleteObject.h"
 
 namespace Halvane::Corvex::Designer {
 
-class DeleteScreen : public DeleteObject
+class CORVEX_EXPORT DeleteScreen : public DeleteObject
 {
 public:
     explicit DeleteScreen(DesignerObject *screen, UndoCommand *parent = nullptr);

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/objects/DeleteObject.h"
 
 namespace Halvane::Corvex::Designer {
 
-class DeleteVariable : public DeleteObject
+class CORVEX_EXPORT DeleteVariable : public DeleteObject
 {
 public:
     explicit DeleteVariable(DesignerObject *variable, UndoCommand *parent = nullptr);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
 namespace Halvane::Corvex::Designer {
@@ -8,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 class VariableImport;
 
 //! Takes over a table of variables, in one step of the history: values, and variables that are new.
-class ImportVariables : public ModelCommand
+class CORVEX_EXPORT ImportVariables : public ModelCommand
 {
 public:
     //! Takes the additions of \a import, which was made for the project whose list \a variables is.

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/editing/commands/objects/RenameObject.h"
 
 namespace Halvane::Corvex::Designer {
 
-class RenameVariable : public RenameObject
+class CORVEX_EXPORT RenameVariable : public RenameObject
 {
 public:
     RenameVariable(DesignerObject *variable, const QString &newName, UndoCommand *parent = nullptr);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 
 namespace Halvane::Corvex::Common::FileSync {
@@ -10,20 +12,20 @@ namespace Halvane::Corvex::Common::FileSync {
 
 //! Brings the contents of a file, or the names in a folder, to the disk. A file system that cannot is as
 //! good.
-bool sync(const QString &path);
+CORVEX_COMMON_EXPORT bool sync(const QString &path);
 //! The same of all files and folders below the folder, and of itself.
-bool syncAll(const QString &folder);
+CORVEX_COMMON_EXPORT bool syncAll(const QString &folder);
 
 //! Gives a file or folder another name on the same disk, which nothing may have.
-bool move(const QString &from, const QString &to);
+CORVEX_COMMON_EXPORT bool move(const QString &from, const QString &to);
 //! The same, in place of the file that has it.
-bool replace(const QString &from, const QString &to);
+CORVEX_COMMON_EXPORT bool replace(const QString &from, const QString &to);
 //! Exchanges two files or folders in one step; errno is ENOTSUP where the file system cannot.
-bool exchange(const QString &first, const QString &second);
+CORVEX_COMMON_EXPORT bool exchange(const QString &first, const QString &second);
 //! Gives a file a second name, or makes a copy that is on the disk where files have only one.
-bool link(const QString &from, const QString &to);
+CORVEX_COMMON_EXPORT bool link(const QString &from, const QString &to);
 
 //! The reason that errno tells.
-QString reason();
+CORVEX_COMMON_EXPORT QString reason();
 
 } // namespace Halvane::Corvex::Common::FileSync

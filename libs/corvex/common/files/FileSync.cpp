@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/common/files/private/FileSync.h"
+#include "corvex/common/files/FileSync.h"
 
 #include "corvex/common/files/FileHelper.h"
 
