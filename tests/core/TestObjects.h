@@ -4,6 +4,7 @@
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/PropertyTable.h"
+#include "corvex/core/TableFactory.h"
 #include "corvex/core/properties/ObjectListProperty.h"
 #include "corvex/core/properties/ObjectProperty.h"
 #include "corvex/core/properties/TypedProperty.h"
@@ -147,32 +148,16 @@ protected:
     }
 };
 
-//! A plug-in with the class Node, and with a class that cannot be initialised.
-class NodeFactory : public IDesignerFactory
+//! A plug-in with the class Node.
+class NodeFactory : public TableFactory
 {
 public:
-    DesignerObject *createObject(const QString &className, QObject *parent) override
-    {
-        return className == QLatin1String("Node") ? new Node(parent) : nullptr;
-    }
-    GraphicsItem *createGraphicsItem(const QString &, DesignerObject *) override { return nullptr; }
-    PropertyEditor *createEditor(const QString &, QWidget *) override { return nullptr; }
-    Template *createTemplate(const QString &, QObject *) override { return nullptr; }
-    Wizard *createWizard(const QString &) override { return nullptr; }
-    QStringList objectNames() const override { return {QStringLiteral("Node")}; }
-    QMap<QString, QString> classBaseNames() const override
-    {
-        return {{QStringLiteral("Node"), QStringLiteral("node")}};
-    }
-    QMap<QString, QString> classDisplayNames() const override
-    {
-        return {{QStringLiteral("Node"), QStringLiteral("A Node")}};
-    }
-    QStringList creatableNames() const override { return {QStringLiteral("Node")}; }
-    QStringList graphicsItemNames() const override { return {}; }
-    QStringList editorNames() const override { return {}; }
-    QStringList templateNames() const override { return {}; }
-    QStringList wizardNames() const override { return {}; }
+    NodeFactory()
+        : TableFactory(classes)
+    { }
+
+private:
+    static constexpr ClassRow classes[] = {{"Node", &makeObject<Node>, "node", "A Node"}};
 };
 
 //! Makes the process-wide factory anew, with the class Node beside the library's own.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/factory/CoreFactory.h"
 
-#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/editing/graphics/GraphicsItemGroup.h"
 #include "corvex/editing/graphics/GraphicsRectangle.h"
@@ -40,90 +39,53 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-/*! The classes that bear names, the abstract bases among them: concrete elements come from plug-ins. Names
-   that look misspelt ("functionElememnt", "autoSaveVariable") are the stems of identifiers in saved projects.
- */
-constexpr struct
-{
-    const char *className;
-    const char *baseName;
-    const char *displayName;
-} namedClasses[] = {
-    {"AutoSettingVariable", "autoSaveVariable", "Autosave Save Variable"},
-    {"BACnetDevice", "bacNetDevice", "BACnet Device"},
-    {"BACnetObject", "bacNetObject", "BACnet Object"},
-    {"BooleanVariable", "boolVariable", "Boolean Variable"},
-    {"CANVariable", "canVariable", "CAN Variable"},
-    {"ColorVariable", "colorVariable", "Color Variable"},
-    {"Element", "element", "Element"},
-    {"ElementTemplate", "ElementTemplate", "Element Template"},
-    {"FilterElement", "filterElement", "Filter Element"},
-    {"FunctionElement", "functionElememnt", "Function Element"},
-    {"GroupElement", "group", "Group Element"},
-    {"HardwareElement", "hardwareElement", "Hardware Element"},
-    {"ImageResource", "imageResource", "Image Resource"},
-    {"LogVariable", "logVariable", "Log Variable"},
-    {"MappingVariable", "mappingVariable", "Modbus Map Variable"},
-    {"NumberVariable", "numberVariable", "Number Variable"},
-    {"FtpVariable", "ftpVariable", "FTP Variable"},
-    {"Project", "Project", "Project"},
-    {"ProjectTemplate", "ProjectTemplate", "Project Template"},
-    {"ProjectVariable", "variable", "Project Variable"},
-    {"Screen", "screen", "Screen"},
-    {"StringVariable", "stringVariable", "String Variable"},
-    {"Template", "Template", "Template"},
-    {"VisualElement", "visualElement", "Visual Element"},
+/*! The classes of the library. Those without names are not offered to users; the abstract ones have names,
+   and plug-ins bring the classes that derive from them. Names that look misspelt ("functionElememnt",
+    "autoSaveVariable") are the stems of identifiers in saved projects. */
+constexpr ClassRow classes[] = {
+    {"AutoSettingVariable", &makeObject<AutoSettingVariable>, "autoSaveVariable", "Autosave Save Variable"},
+    {"BACnetDevice", &makeObject<BACnetDevice>, "bacNetDevice", "BACnet Device"},
+    {"BACnetObject", &makeObject<BACnetObject>, "bacNetObject", "BACnet Object"},
+    {"BooleanVariable", &makeObject<BooleanVariable>, "boolVariable", "Boolean Variable"},
+    {"CANVariable", &makeObject<CANVariable>, "canVariable", "CAN Variable"},
+    {"ColorVariable", &makeObject<ColorVariable>, "colorVariable", "Color Variable"},
+    {"Element", nullptr, "element", "Element"},
+    {"ElementTemplate", &makeObject<ElementTemplate>, "ElementTemplate", "Element Template"},
+    {"FilterElement", &makeObject<FilterElement>, "filterElement", "Filter Element"},
+    {"FunctionElement", nullptr, "functionElememnt", "Function Element"},
+    {"GroupElement", &makeObject<GroupElement>, "group", "Group Element"},
+    {"HardwareElement", nullptr, "hardwareElement", "Hardware Element"},
+    {"ImageResource", &makeObject<ImageResource>, "imageResource", "Image Resource"},
+    {"LogVariable", &makeObject<LogVariable>, "logVariable", "Log Variable"},
+    {"MappingVariable", &makeObject<MappingVariable>, "mappingVariable", "Modbus Map Variable"},
+    {"NumberVariable", &makeObject<NumberVariable>, "numberVariable", "Number Variable"},
+    {"FtpVariable", &makeObject<FtpVariable>, "ftpVariable", "FTP Variable"},
+    {"Project", &makeObject<Project>, "Project", "Project"},
+    {"ProjectTemplate", &makeObject<ProjectTemplate>, "ProjectTemplate", "Project Template"},
+    {"ProjectVariable", nullptr, "variable", "Project Variable"},
+    {"Screen", &makeObject<Screen>, "screen", "Screen"},
+    {"StringVariable", &makeObject<StringVariable>, "stringVariable", "String Variable"},
+    {"Template", nullptr, "Template", "Template"},
+    {"VisualElement", nullptr, "visualElement", "Visual Element"},
+    {"Configuration", &makeObject<Configuration>},
+    {"ConfigurationContainer", &makeObject<ConfigurationContainer>},
+    {"ProjectVersion", &makeObject<ProjectVersion>},
+    {"ProjectVersionsContainer", &makeObject<ProjectVersionsContainer>},
+    {"TemplateContainer", &makeObject<TemplateContainer>},
+    {"Tutorial", &makeObject<Tutorial>},
+    {"TutorialContainer", &makeObject<TutorialContainer>},
+    {"UpdateObjects", &makeObject<UpdateObjects>},
+    {"UpgradeProjSelection", &makeObject<UpgradeProjSelection>},
 };
 
-using Maker = DesignerObject *(*)(QObject *parent);
-
-//! Opens the protected constructor of a model class to the factory.
-template<class Object>
-DesignerObject *make(QObject *parent)
-{
-    struct Made : public Object
-    {
-        explicit Made(QObject *owner)
-            : Object(owner)
-        { }
-    };
-    return new Made(parent);
-}
-
-//! How the objects that createObject() accepts are made.
-const QHash<QString, Maker> &makers()
-{
-    static const QHash<QString, Maker> table{
-        {u"AutoSettingVariable"_s, &make<AutoSettingVariable>},
-        {u"BACnetDevice"_s, &make<BACnetDevice>},
-        {u"BACnetObject"_s, &make<BACnetObject>},
-        {u"BooleanVariable"_s, &make<BooleanVariable>},
-        {u"CANVariable"_s, &make<CANVariable>},
-        {u"ColorVariable"_s, &make<ColorVariable>},
-        {u"Configuration"_s, &make<Configuration>},
-        {u"ConfigurationContainer"_s, &make<ConfigurationContainer>},
-        {u"ElementTemplate"_s, &make<ElementTemplate>},
-        {u"FilterElement"_s, &make<FilterElement>},
-        {u"FtpVariable"_s, &make<FtpVariable>},
-        {u"GroupElement"_s, &make<GroupElement>},
-        {u"ImageResource"_s, &make<ImageResource>},
-        {u"LogVariable"_s, &make<LogVariable>},
-        {u"MappingVariable"_s, &make<MappingVariable>},
-        {u"NumberVariable"_s, &make<NumberVariable>},
-        {u"Project"_s, &make<Project>},
-        {u"ProjectTemplate"_s, &make<ProjectTemplate>},
-        {u"ProjectVersion"_s, &make<ProjectVersion>},
-        {u"ProjectVersionsContainer"_s, &make<ProjectVersionsContainer>},
-        {u"Screen"_s, &make<Screen>},
-        {u"StringVariable"_s, &make<StringVariable>},
-        {u"TemplateContainer"_s, &make<TemplateContainer>},
-        {u"Tutorial"_s, &make<Tutorial>},
-        {u"TutorialContainer"_s, &make<TutorialContainer>},
-        {u"UpdateObjects"_s, &make<UpdateObjects>},
-        {u"UpgradeProjSelection"_s, &make<UpgradeProjSelection>},
-    };
-    return table;
-}
+constexpr ItemRow items[] = {
+    {"GraphicsItemGroup", &makeItem<GraphicsItemGroup>},
+    {"GraphicsRectangle",
+     [](DesignerObject *object) -> GraphicsItem * {
+         return object->isKindOfClass(Screen::kindName()) ? new ScreenRectangle(object)
+                                                          : new GraphicsRectangle(object);
+     }},
+};
 
 constexpr const char *editors[] = {
     "PropertyEditor",
@@ -186,39 +148,12 @@ constexpr const char *editors[] = {
 };
 static_assert(std::size(editors) == 57);
 
-//! A name of \a className in the user's language; the two kinds of names may be translated apart.
-QString translated(const char *kind, const char *className, const QString &otherwise)
-{
-    const QString key = QLatin1StringView(kind) + QLatin1StringView(className);
-    const QString translation = Common::LocalizationHelper::coreString(key);
-    return translation == key ? otherwise : translation;
-}
-
 } // namespace
 
 CoreFactory::CoreFactory(QObject *parent)
     : QObject(parent)
+    , TableFactory(classes, items)
 { }
-
-DesignerObject *CoreFactory::createObject(const QString &className, QObject *parent)
-{
-    const Maker make = makers().value(className);
-    return make ? make(parent) : nullptr;
-}
-
-GraphicsItem *CoreFactory::createGraphicsItem(const QString &className, DesignerObject *object)
-{
-    if (className == GraphicsRectangle::kindName()) {
-        return object->isKindOfClass(Screen::kindName()) ? new ScreenRectangle(object)
-                                                         : new GraphicsRectangle(object);
-    }
-    return className == GraphicsItemGroup::kindName() ? new GraphicsItemGroup(object) : nullptr;
-}
-
-PropertyEditor *CoreFactory::createEditor(const QString &, QWidget *)
-{
-    return nullptr;
-}
 
 Template *CoreFactory::createTemplate(const QString &className, QObject *parent)
 {
@@ -227,50 +162,6 @@ Template *CoreFactory::createTemplate(const QString &className, QObject *parent)
     }
     std::unique_ptr<DesignerObject> object(createObject(className, parent));
     return object->initialize() ? static_cast<Template *>(object.release()) : nullptr;
-}
-
-Wizard *CoreFactory::createWizard(const QString &)
-{
-    return nullptr;
-}
-
-QStringList CoreFactory::objectNames() const
-{
-    QStringList names;
-    for (const auto &entry : namedClasses) {
-        names.append(QString::fromLatin1(entry.className));
-    }
-    return names;
-}
-
-QMap<QString, QString> CoreFactory::classBaseNames() const
-{
-    QMap<QString, QString> names;
-    for (const auto &[className, baseName, displayName] : namedClasses) {
-        names.insert(QString::fromLatin1(className),
-                     translated("BASENAME:", className, QString::fromLatin1(baseName)));
-    }
-    return names;
-}
-
-QMap<QString, QString> CoreFactory::classDisplayNames() const
-{
-    QMap<QString, QString> names;
-    for (const auto &[className, baseName, displayName] : namedClasses) {
-        const QString title = Common::LocalizationHelper::coreString(QString::fromLatin1(displayName));
-        names.insert(QString::fromLatin1(className), translated("DISPLAYNAME:", className, title));
-    }
-    return names;
-}
-
-QStringList CoreFactory::creatableNames() const
-{
-    return makers().keys();
-}
-
-QStringList CoreFactory::graphicsItemNames() const
-{
-    return {GraphicsItemGroup::kindName(), GraphicsRectangle::kindName()};
 }
 
 QStringList CoreFactory::editorNames() const

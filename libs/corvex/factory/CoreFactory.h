@@ -2,7 +2,7 @@
 #pragma once
 
 #include "corvex/common/Export.h"
-#include "corvex/core/IDesignerFactory.h"
+#include "corvex/core/TableFactory.h"
 
 #include <QObject>
 
@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 //! The factory of the library's own classes, editors and canvas items.
 class CORVEX_EXPORT CoreFactory
     : public QObject
-    , public IDesignerFactory
+    , public TableFactory
 {
     Q_OBJECT
     Q_INTERFACES(Halvane::Corvex::Designer::IDesignerFactory)
@@ -19,17 +19,8 @@ class CORVEX_EXPORT CoreFactory
 public:
     explicit CoreFactory(QObject *parent = nullptr);
 
-    DesignerObject *createObject(const QString &className, QObject *parent) override;
-    GraphicsItem *createGraphicsItem(const QString &className, DesignerObject *object) override;
-    PropertyEditor *createEditor(const QString &editorName, QWidget *parent) override;
     Template *createTemplate(const QString &className, QObject *parent) override;
-    Wizard *createWizard(const QString &wizardName) override;
 
-    QStringList objectNames() const override;
-    QMap<QString, QString> classBaseNames() const override;
-    QMap<QString, QString> classDisplayNames() const override;
-    QStringList creatableNames() const override;
-    QStringList graphicsItemNames() const override;
     QStringList editorNames() const override;
     QStringList templateNames() const override;
     QStringList wizardNames() const override;
