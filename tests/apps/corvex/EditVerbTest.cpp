@@ -343,6 +343,23 @@ TEST(EditVerbKept, whatNoPluginKnowsStaysInItsPlace)
                                  u"changed Main.dial"_s}));
 }
 
+TEST_F(EditVerb, theProjectKeepsItsPermissions)
+{
+    constexpr QFileDevice::Permissions own =
+        QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadUser | QFileDevice::WriteUser;
+    const std::pair<QStringList, QString> edits[] = {
+        {{u"edit"_s, pump, u"script"_s}, pump},
+        {{u"rename"_s, pump, u"one.png"_s, u"uno.png"_s}, pump},
+        {{u"rename"_s, pump, u"Pump"_s, u"Pumpe"_s}, u"Pumpe/Pumpe.kdproj"_s},
+    };
+    QFile::setPermissions(sandbox.path(pump), own);
+    sandbox.write(u"script"_s, "add-image one.png\n");
+    for (const auto &[call, file] : edits) {
+        EXPECT_EQ(sandbox.run(call).code, 0) << qPrintable(call.join(u' '));
+        EXPECT_EQ(QFile::permissions(sandbox.path(file)), own) << qPrintable(call.join(u' '));
+    }
+}
+
 TEST_F(EditVerb, ofTwoAtOnceBothCount)
 {
     sandbox.run({u"edit"_s, pump, u"-"_s});

@@ -13,6 +13,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -190,9 +191,35 @@ bool FileTransaction::syncFolders() const
     return std::ranges::all_of(folders, FileSync::sync);
 }
 
+bool FileTransaction::mayReplace(const QString &file, QString *error) const
+{
+    const QFileInfo target(m_journal->pathOf(file));
+    if (!target.exists() || target.isWritable()) {
+        return true;
+    }
+    if (error) {
+        *error = LocalizationHelper::coreString(u"The file \"%1\" cannot be written: %2"_s)
+                     .arg(QDir::toNativeSeparators(target.filePath()),
+                          LocalizationHelper::coreString(u"It is protected."_s));
+    }
+    return false;
+}
+
+//! The draft was made as a new file, which others may be able to read.
+bool FileTransaction::givePermissions(const QString &file) const
+{
+    const QByteArray draft = QFile::encodeName(draftPath());
+    struct stat old = {};
+    if (stat(QFile::encodeName(m_journal->pathOf(file)).constData(), &old) != 0 || !isThere(draftPath())) {
+        return true;
+    }
+    constexpr mode_t permissions = 07777;
+    return chmod(draft.constData(), old.st_mode & permissions) == 0 && FileSync::sync(draftPath());
+}
+
 bool FileTransaction::commit(const QString &file, QString *error)
 {
-    if (!syncFolders() || !m_journal->addCommit(file, m_removed)) {
+    if (!givePermissions(file) || !syncFolders() || !m_journal->addCommit(file, m_removed)) {
         return fail(error, u"The folder \"%1\" cannot be written to: %2"_s, m_journal->folder());
     }
     const std::unique_ptr<FileJournal> journal = std::move(m_journal);

@@ -49,8 +49,10 @@ public:
     //! Where the caller writes the file that commit() puts in its place; on the disk before it is called.
     QString draftPath() const;
     void deferRemovals(bool isDeferred);
-    /*! Puts the draft in the place of \a file, and what was deferred away. False with everything as before,
-       and open to be taken back, unless isOver(). */
+    //! False, with the reason, when \a file is protected against changes.
+    bool mayReplace(const QString &file, QString *error = nullptr) const;
+    /*! Puts the draft in the place of \a file, whose permissions it gets, and what was deferred away. False
+       with everything as before, and open to be taken back, unless isOver(). */
     bool commit(const QString &file, QString *error = nullptr);
     //! Whether it was committed or taken back.
     bool isOver() const { return !m_journal; }
@@ -73,6 +75,7 @@ private:
     explicit FileTransaction(std::unique_ptr<FileJournal> journal);
     bool keep(const QString &name);
     bool makeFolderFor(const QString &name);
+    bool givePermissions(const QString &file) const;
     bool syncFolders() const;
     QString newKey();
 

@@ -130,7 +130,8 @@ bool ProjectFolder::save(const QString &folder, const QString &file, const std::
     }
     clean();
     m_isSaving = false;
-    const bool isSaved = m_changes ? write(m_changes->draftPath(), error) && commit(file, error)
+    const bool isSaved = m_changes ? m_changes->mayReplace(file, error)
+                                         && write(m_changes->draftPath(), error) && commit(file, error)
                                    : write(QDir(folder).filePath(file), error);
     if (!isSaved && !hadChanges) {
         m_changes.reset();
