@@ -5,6 +5,7 @@
 #include "corvex/editing/commands/EditingDialogs.h"
 #include "corvex/editing/commands/objects/DeleteFilter.h"
 #include "corvex/editing/commands/objects/DeleteObject.h"
+#include "corvex/editing/commands/private/ObjectSelection.h"
 #include "corvex/editing/references/ReferenceTarget.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/FilterElement.h"
@@ -14,27 +15,6 @@ using namespace Qt::StringLiterals;
 namespace Halvane::Corvex::Designer {
 
 namespace {
-
-QList<DesignerObject *> outermost(const QList<DesignerObject *> &objects)
-{
-    QSet<const DesignerObject *> all;
-    for (const DesignerObject *object : objects) {
-        all.insert(object);
-    }
-    QList<DesignerObject *> found;
-    QSet<const DesignerObject *> known;
-    for (DesignerObject *object : objects) {
-        const DesignerObject *owner = object ? object->ownerObject() : nullptr;
-        while (owner && !all.contains(owner)) {
-            owner = owner->ownerObject();
-        }
-        if (object && !owner && object->listProperty() && !known.contains(object)) {
-            known.insert(object);
-            found.append(object);
-        }
-    }
-    return found;
-}
 
 //! The names that a filter lists besides those that go.
 QStringList othersIn(const FilterElement *filter, const QSet<QString> &going, bool *isConcerned)
@@ -89,7 +69,7 @@ QList<DesignerObject *> filtersToDelete(const Screen *screen, const QList<Design
 QList<DesignerObject *> DeleteObjectsAndCheckFilters::addDeletions(const QList<DesignerObject *> &objects,
                                                                    UndoCommand *parent)
 {
-    QList<DesignerObject *> roots = outermost(objects);
+    QList<DesignerObject *> roots = ObjectSelection::outermost(objects);
     for (DesignerObject *object : std::as_const(roots)) {
         const bool isFirst = object == roots.constFirst();
         auto *deletion = new DeleteObject(object, isFirst ? roots : QList<DesignerObject *>(), true, parent);

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/Commands.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/CompositeCommand.h"
+#include "corvex/editing/commands/objects/DeleteObjectsAndCheckFilters.h"
+#include "corvex/editing/commands/private/DuplicateObjects.h"
+#include "corvex/editing/commands/private/EditedKind.h"
+#include "corvex/project/Screen.h"
+#include "corvex/project/elements/Element.h"
+
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Common::LocalizationHelper;
+
+PlannedCommand refused(const QString &english, const QString &name)
+{
+    return {nullptr, LocalizationHelper::coreString(english).arg(name)};
+}
+
+PlannedCommand planned(std::unique_ptr<ModelCommand> command)
+{
+    if (command->isValid()) {
+        return {std::move(command), {}};
+    }
+    const QString reason = command->errorString();
+    return {nullptr,
+            reason.isEmpty() ? LocalizationHelper::coreString(u"This cannot be done here."_s) : reason};
+}
+
+} // namespace
+
+PlannedCommand Commands::deletionOf(DesignerObject *object)
+{
+    const EditedKind *kind = EditedKind::of(object);
+    if (!kind || !kind->deletion) {
+        return refused(u"\"%1\" cannot be deleted."_s, object ? object->objectPath() : QString());
+    }
+    return planned(std::unique_ptr<ModelCommand>(kind->deletion(object, nullptr)));
+}
+
+PlannedCommand Commands::deletionOf(const QList<DesignerObject *> &objects)
+{
+    if (objects.size() == 1) {
+        return deletionOf(objects.first());
+    }
+    auto all = std::make_unique<CompositeCommand>();
+    QSet<DesignerObject *> known;
+    QList<Screen *> screens;
+    QHash<Screen *, QList<DesignerObject *>> elements; // and filters: together they decide what else goes
+    for (DesignerObject *object : objects) {
+        if (known.contains(object)) {
+            continue;
+        }
+        known.insert(object);
+        const EditedKind *kind = EditedKind::of(object);
+        if (kindCast<Element>(object)) {
+            if (!elements.contains(object->screen())) {
+                screens.append(object->screen());
+            }
+            elements[object->screen()].append(object);
+        } else if (kind && kind->deletion) {
+            kind->deletion(object, all.get());
+        } else {
+            return refused(u"\"%1\" cannot be deleted."_s, object ? object->objectPath() : QString());
+        }
+    }
+    for (Screen *screen : std::as_const(screens)) {
+        new DeleteObjectsAndCheckFilters(elements.value(screen), screen, all.get());
+    }
+    all->describe();
+    return planned(std::move(all));
+}
+
+PlannedCommand Commands::renameOf(DesignerObject *object, const QString &name)
+{
+    const EditedKind *kind = EditedKind::of(object);
+    if (!kind || !kind->renaming) {
+        return refused(u"\"%1\" cannot be renamed."_s, object ? object->objectPath() : QString());
+    }
+    if (object->getIdName() == name) {
+        return refused(u"\"%1\" is its name already."_s, name);
+    }
+    return planned(std::unique_ptr<ModelCommand>(kind->renaming(object, name)));
+}
+
+PlannedCommand Commands::duplicationOf(const QList<DesignerObject *> &objects)
+{
+    for (const DesignerObject *object : objects) {
+        const EditedKind *kind = EditedKind::of(object);
+        if (!kind || !kind->addition || !object->listProperty() || !object->project()) {
+            return refused(u"\"%1\" cannot be duplicated."_s, object ? object->objectPath() : QString());
+        }
+    }
+    return planned(std::make_unique<DuplicateObjects>(objects));
+}
+
+} // namespace Halvane::Corvex::Designer
