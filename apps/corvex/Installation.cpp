@@ -2,12 +2,13 @@
 #include "Installation.h"
 
 #include "corvex/core/DesignerFactory.h"
+#include "corvex/editing/words/Suggestion.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/hardware/HardwareConfigurations.h"
 
+#include "terminal/Advice.h"
 #include "terminal/Call.h"
-#include "terminal/Suggestion.h"
 #include "terminal/Terminal.h"
 
 #include <QCoreApplication>
@@ -118,7 +119,7 @@ QString Installation::unknownModel(const QString &name, const ConfigurationConta
     for (const Configuration *model : models.configurations()) {
         names.append(model->getIdName());
     }
-    return Suggestion::unknown(u"device model"_s, name, names, u"\"corvex new --list-models\" lists them."_s);
+    return Advice::complete({Suggestion::unknown(u"device model"_s, name, names, {}), EditRefusal::Models});
 }
 
 } // namespace Halvane::Corvex::Tool

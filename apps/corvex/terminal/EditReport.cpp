@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/EditReport.h"
 
-#include "ProjectEditor.h"
+#include "corvex/editing/words/EditScript.h"
+
 #include "ProjectFile.h"
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
@@ -11,9 +12,11 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
 
+using Designer::EditScript;
+
 namespace {
 
-void printJson(const QList<ProjectEditor::Edit> &edits, bool isSaved, const Call &call)
+void printJson(const QList<EditScript::Edit> &edits, bool isSaved, const Call &call)
 {
     JsonWriter &json = call.json();
     json.beginObject();
@@ -26,7 +29,7 @@ void printJson(const QList<ProjectEditor::Edit> &edits, bool isSaved, const Call
         json.member("parts"_L1, parts);
         json.name("changes"_L1);
         json.beginArray();
-        for (const ProjectEditor::Change &change : changes) {
+        for (const EditScript::Change &change : changes) {
             json.beginObject();
             json.member("property"_L1, change.property);
             json.member("old"_L1, change.before);
@@ -40,7 +43,7 @@ void printJson(const QList<ProjectEditor::Edit> &edits, bool isSaved, const Call
     json.endObject();
 }
 
-void print(const QList<ProjectEditor::Edit> &edits, const Call &call)
+void print(const QList<EditScript::Edit> &edits, const Call &call)
 {
     for (const auto &[text, parts, changes] : edits) {
         call.terminal().print(Terminal::oneLine(text));
@@ -56,13 +59,13 @@ void print(const QList<ProjectEditor::Edit> &edits, const Call &call)
 
 } // namespace
 
-ExitCode EditReport::finish(ProjectEditor &editor, const ProjectFile &file, const Call &call)
+ExitCode EditReport::finish(EditScript &script, const ProjectFile &file, const Call &call)
 {
-    const QList<ProjectEditor::Edit> edits = editor.edits();
+    const QList<EditScript::Edit> edits = script.edits();
     const bool isTrial = call.isSet(u"dry-run"_s);
     const ExitCode code = isTrial || edits.isEmpty() ? ExitCode::Done : file.save(call);
     if (isTrial || code != ExitCode::Done) {
-        editor.undoAll();
+        script.undoAll();
     }
     if (call.asJson()) {
         printJson(edits, !isTrial && code == ExitCode::Done, call);

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/Help.h"
 
+#include "corvex/editing/words/Suggestion.h"
+
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
-#include "terminal/Suggestion.h"
 #include "terminal/Terminal.h"
 #include "verbs/Verb.h"
 
@@ -116,7 +117,7 @@ void printJson(const Verb *verb, Terminal &terminal)
 
 QString Help::unknownVerb(const QString &name)
 {
-    return Suggestion::unknown(u"verb"_s, name, verbNames(), u"\"corvex help\" lists them all."_s);
+    return Designer::Suggestion::unknown(u"verb"_s, name, verbNames(), u"\"corvex help\" lists them all."_s);
 }
 
 void Help::show(const Verb *verb, Terminal &terminal)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/editing/words/ProjectDiff.h"
 #include "corvex/project/Project.h"
 
-#include "ProjectDiff.h"
 #include "ProjectFile.h"
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
@@ -15,6 +15,7 @@ namespace Halvane::Corvex::Tool {
 namespace {
 
 using Designer::Project;
+using Designer::ProjectDiff;
 using Difference = ProjectDiff::Difference;
 
 QString lineOf(const Difference &difference)

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/editing/words/EditScript.h"
+#include "corvex/project/Project.h"
+
 #include "InputFile.h"
-#include "ProjectEditor.h"
+#include "Installation.h"
 #include "ProjectFile.h"
+#include "terminal/Advice.h"
 #include "terminal/Call.h"
 #include "terminal/EditReport.h"
 #include "terminal/Interruption.h"
@@ -12,40 +16,43 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Tool {
 
+using Designer::EditScript;
+
 namespace {
 
 //! Does all lines, or none of them: then every line that is wrong is named.
-ExitCode edit(ProjectEditor &editor, InputFile &script, const Call &call)
+ExitCode edit(EditScript &script, InputFile &lines, const Call &call)
 {
     constexpr int mostFailures = 100;
     const QString stays = u"\"%1\" stays as it is."_s.arg(call.argument(0));
     int failures = 0;
     QByteArray line;
-    bool isRead = script.readLine(line);
+    bool isRead = lines.readLine(line);
     for (int number = 1; isRead && !line.isEmpty() && !Interruption::isWanted() && failures < mostFailures;
-         ++number, isRead = script.readLine(line)) {
-        QString error = u"The bytes are not UTF-8, the one encoding that is read."_s;
-        const auto result =
-            line.isValidUtf8() ? editor.run(QString::fromUtf8(line), error) : ProjectEditor::Result::Failed;
-        for (const QString &output : editor.takeOutput()) {
+         ++number, isRead = lines.readLine(line)) {
+        const bool isUtf8 = line.isValidUtf8();
+        const auto result = isUtf8 ? script.run(QString::fromUtf8(line)) : EditScript::Result::Failed;
+        for (const QString &output : script.takeOutput()) {
             call.terminal().print(output);
         }
-        if (result == ProjectEditor::Result::Failed) {
+        if (result == EditScript::Result::Failed) {
+            const QString error = isUtf8 ? Advice::complete(script.refusal())
+                                         : u"The bytes are not UTF-8, the one encoding that is read."_s;
             ++failures;
             call.terminal().printError(
-                Terminal::oneLine(u"%1:%2: %3"_s.arg(script.path(), QString::number(number), error)));
+                Terminal::oneLine(u"%1:%2: %3"_s.arg(lines.path(), QString::number(number), error)));
         }
     }
     if (Interruption::isWanted()) {
-        editor.undoAll();
+        script.undoAll();
         return call.failed(u"Interrupted: %1"_s.arg(stays), ExitCode::Problems);
     }
     if (!isRead) {
-        editor.undoAll();
-        return call.failed(u"%1 %2"_s.arg(script.errorString(), stays));
+        script.undoAll();
+        return call.failed(u"%1 %2"_s.arg(lines.errorString(), stays));
     }
     if (failures > 0) {
-        editor.undoAll();
+        script.undoAll();
         return call.failed(stays, ExitCode::Problems);
     }
     return ExitCode::Done;
@@ -53,14 +60,14 @@ ExitCode edit(ProjectEditor &editor, InputFile &script, const Call &call)
 
 ExitCode run(const Call &call, const ProjectFile &file)
 {
-    InputFile script(call.argument(1).isEmpty() ? u"-"_s : call.argument(1));
-    if (!script.open()) {
-        return call.failed(script.errorString());
+    InputFile lines(call.argument(1).isEmpty() ? u"-"_s : call.argument(1));
+    if (!lines.open()) {
+        return call.failed(lines.errorString());
     }
     const Interruption interruption; // files of images would be left in the middle of it
-    ProjectEditor editor(file.project(), call);
-    const ExitCode code = edit(editor, script, call);
-    return code == ExitCode::Done ? EditReport::finish(editor, file, call) : code;
+    EditScript script(file.project(), [&call] { return Installation::loadModels(call) != nullptr; });
+    const ExitCode code = edit(script, lines, call);
+    return code == ExitCode::Done ? EditReport::finish(script, file, call) : code;
 }
 
 QList<QCommandLineOption> options()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/files/FileHelper.h"
+#include "corvex/editing/words/Suggestion.h"
 #include "corvex/project/Project.h"
 #include "corvex/variables/exchange/DbcExport.h"
 #include "corvex/variables/exchange/EdeExport.h"
@@ -9,7 +10,6 @@
 #include "ProjectFile.h"
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
-#include "terminal/Suggestion.h"
 #include "terminal/Terminal.h"
 #include "verbs/Verb.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionSyntax.h"
+#include "corvex/editing/words/Suggestion.h"
 #include "corvex/values/expressions/GeneralDataList.h"
 
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
-#include "terminal/Suggestion.h"
 #include "terminal/Terminal.h"
 #include "verbs/Verb.h"
 

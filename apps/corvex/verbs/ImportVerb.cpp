@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/commands/variables/ImportVariables.h"
 #include "corvex/editing/undo/UndoStack.h"
+#include "corvex/editing/words/Suggestion.h"
 #include "corvex/project/Project.h"
 #include "corvex/variables/exchange/VariableImport.h"
 
@@ -8,7 +9,6 @@
 #include "ProjectFile.h"
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
-#include "terminal/Suggestion.h"
 #include "terminal/Terminal.h"
 #include "verbs/Verb.h"
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/editing/words/EditScript.h"
+#include "corvex/editing/words/ProjectPath.h"
 #include "corvex/project/Project.h"
 
-#include "ProjectEditor.h"
 #include "ProjectFile.h"
-#include "ProjectPath.h"
+#include "terminal/Advice.h"
 #include "terminal/Call.h"
 #include "terminal/EditReport.h"
 #include "terminal/Interruption.h"
@@ -25,17 +26,16 @@ QString quoted(QString word)
 
 ExitCode run(const Call &call, const ProjectFile &file)
 {
-    if (!ProjectPath::find(&file.project(), call.argument(1)).object) {
-        return ProjectPath::notFound(file.project(), call.argument(1), call);
+    if (!ProjectPath::find(file.project(), call.argument(1)).object) {
+        return Advice::notFound(file.project(), call.argument(1), call);
     }
     const Interruption interruption;
-    ProjectEditor editor(file.project(), call);
-    QString error;
+    EditScript script(file.project());
     const QString line = u"rename %1 %2"_s.arg(quoted(call.argument(1)), quoted(call.argument(2)));
-    if (editor.run(line, error) != ProjectEditor::Result::Done) {
-        return call.failed(error, ExitCode::Problems);
+    if (script.run(line) != EditScript::Result::Done) {
+        return call.failed(Advice::complete(script.refusal()), ExitCode::Problems);
     }
-    return EditReport::finish(editor, file, call);
+    return EditReport::finish(script, file, call);
 }
 
 QList<QCommandLineOption> options()

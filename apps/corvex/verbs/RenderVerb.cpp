@@ -3,16 +3,17 @@
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/editing/graphics/CanvasScene.h"
+#include "corvex/editing/words/ProjectPath.h"
+#include "corvex/editing/words/Suggestion.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
 
 #include "ProjectFile.h"
-#include "ProjectPath.h"
+#include "terminal/Advice.h"
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
-#include "terminal/Suggestion.h"
 #include "terminal/Terminal.h"
 #include "verbs/Verb.h"
 
@@ -46,7 +47,7 @@ ExitCode findElement(Subject &subject, Project &project, const Call &call)
 {
     const QString path = call.value(u"handles"_s);
     Element *named = subject.screen ? subject.screen->getElement(path) : nullptr;
-    const ProjectPlace place = named ? ProjectPlace{named, {}} : ProjectPath::find(&project, path);
+    const ProjectPlace place = named ? ProjectPlace{named, {}} : ProjectPath::find(project, path);
     subject.element = place.property ? nullptr : kindCast<Element>(place.object);
     if (!subject.element && place.object && !place.property) {
         return call.misused(u"\"%1\" is a %2. Elements have handles."_s.arg(path, place.object->className()));
@@ -56,7 +57,7 @@ ExitCode findElement(Subject &subject, Project &project, const Call &call)
                                ? Suggestion::unknown(
                                    u"element"_s, path, subject.screen->getElementNames(),
                                    u"\"corvex tree FILE %1\" shows them."_s.arg(subject.screen->getIdName()))
-                               : ProjectPath::problem(&project, path, ProjectPath::Object),
+                               : Advice::complete(ProjectPath::refusal(project, path, ProjectPath::Object)),
                            ExitCode::Usage);
     }
     if (call.isSet(u"screen"_s) && subject.element->screen() != subject.screen) {

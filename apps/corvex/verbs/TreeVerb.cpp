@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ItemList.h"
+#include "corvex/editing/words/ProjectPath.h"
 #include "corvex/project/Project.h"
 
 #include "ProjectFile.h"
-#include "ProjectPath.h"
+#include "terminal/Advice.h"
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
 #include "terminal/Terminal.h"
@@ -189,9 +190,9 @@ ExitCode run(const Call &call, const ProjectFile &file)
         printObject(file.project(), false, call);
         return ExitCode::Done;
     }
-    const auto [object, property] = ProjectPath::find(&file.project(), path);
+    const auto [object, property] = ProjectPath::find(file.project(), path);
     if (!object) {
-        return ProjectPath::notFound(file.project(), path, call);
+        return Advice::notFound(file.project(), path, call);
     }
     if (!property) {
         printObject(*object, true, call);

@@ -2,11 +2,12 @@
 #include "corvex/editing/references/ReferenceIndex.h"
 #include "corvex/editing/references/ReferenceScanner.h"
 #include "corvex/editing/references/ReferenceTarget.h"
+#include "corvex/editing/words/ProjectPath.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 
 #include "ProjectFile.h"
-#include "ProjectPath.h"
+#include "terminal/Advice.h"
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
 #include "terminal/Terminal.h"
@@ -120,13 +121,13 @@ ExitCode run(const Call &call, const ProjectFile &file)
     if (name.isEmpty()) {
         return printUnused(unusedIn(file.project()), call);
     }
-    if (const DesignerObject *object = ProjectPath::find(&file.project(), name).object) {
+    if (const DesignerObject *object = ProjectPath::find(file.project(), name).object) {
         return printUses(usesOf(ReferenceTarget(object)), call);
     }
     // A name without the way to it: of elements, and of what is no longer there.
     const QList<Use> uses = usesOf(ReferenceTarget(&file.project(), name));
     if (uses.isEmpty() && !hasElement(file.project(), name)) {
-        return ProjectPath::notFound(file.project(), name, call);
+        return Advice::notFound(file.project(), name, call);
     }
     return printUses(uses, call);
 }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/editing/words/Suggestion.h"
+
 #include "ValueKinds.h"
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
-#include "terminal/Suggestion.h"
 #include "terminal/Terminal.h"
 #include "verbs/Verb.h"
 
@@ -39,7 +40,7 @@ ExitCode run(const Call &call)
     const QString name = call.argument(0);
     const ValueKind *kind = findValueKind(name);
     if (!kind) {
-        return call.misused(Suggestion::unknown(u"kind of values"_s, name, kindNames()));
+        return call.misused(Designer::Suggestion::unknown(u"kind of values"_s, name, kindNames()));
     }
     const QString text = call.argument(1);
     const std::optional<QString> canonical = kind->canonical(text);

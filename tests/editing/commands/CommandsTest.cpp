@@ -109,6 +109,13 @@ TEST_F(KindCommands, whatCannotBeDoneHasAReason)
     EXPECT_EQ(reasonOf(Commands::duplicationOf({find("speed"), model})),
               u"\"VTR 50-K\" cannot be duplicated."_s);
     EXPECT_EQ(reasonOf(Commands::duplicationOf({})), u"There is nothing to duplicate."_s);
+    QString withUnknown = DesignerObject::toString(find("group1"));
+    withUnknown.replace(u"<Text>"_s, u"<Gauge>"_s).replace(u"</Text>"_s, u"</Gauge>"_s);
+    DesignerObject *group = DesignerObject::createFromString(withUnknown);
+    ASSERT_TRUE(group && group->setIdName(u"group9"_s));
+    ASSERT_TRUE(other->addListPropertyItem(other->elements(), group));
+    EXPECT_EQ(reasonOf(Commands::duplicationOf({group})),
+              u"\"Other.group9\" cannot be duplicated: no plug-in knows \"text1\" in it, a Gauge."_s);
     QFile::remove(project->imagesPath() + u"/pump.png"_s);
     EXPECT_NE(reasonOf(Commands::duplicationOf({find("pump.png")})), QString());
 }

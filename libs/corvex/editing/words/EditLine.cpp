@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "EditLine.h"
+#include "corvex/editing/words/EditLine.h"
+
+#include "corvex/common/LocalizationHelper.h"
 
 using namespace Qt::StringLiterals;
 
-namespace Halvane::Corvex::Tool {
+namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
 
 bool EditLine::read(const QString &line, QString &error)
 {
@@ -13,7 +17,7 @@ bool EditLine::read(const QString &line, QString &error)
     words.clear();
     rest.clear();
     if (line.contains(QChar::Null)) {
-        error = u"The line holds a NUL."_s;
+        error = LocalizationHelper::coreString(u"The line holds a NUL."_s);
         return false;
     }
     for (qsizetype i = 0; i < line.size(); ++i) {
@@ -38,7 +42,7 @@ bool EditLine::read(const QString &line, QString &error)
         }
     }
     if (isQuoted) {
-        error = u"A quote is opened and not closed."_s;
+        error = LocalizationHelper::coreString(u"A quote is opened and not closed."_s);
         return false;
     }
     if (isInWord) {
@@ -47,4 +51,4 @@ bool EditLine::read(const QString &line, QString &error)
     return true;
 }
 
-} // namespace Halvane::Corvex::Tool
+} // namespace Halvane::Corvex::Designer

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/Explanation.h"
+#include "corvex/editing/words/private/Explanation.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/project/ImageResource.h"
@@ -12,9 +13,9 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Halvane::Corvex::Tool {
+namespace Halvane::Corvex::Designer {
 
-using namespace Designer;
+using Common::LocalizationHelper;
 
 namespace {
 
@@ -46,10 +47,11 @@ QString Explanation::ofName(const DesignerObject &object, const QString &name, c
         return reason;
     }
     if (!kindCast<ImageResource>(&object) && name.size() < 2) {
-        return u"%1 It has at least 2 characters."_s.arg(reason);
+        return LocalizationHelper::coreString(u"%1 It has at least 2 characters."_s).arg(reason);
     }
     const DesignerObject *other = bearer(object, name);
-    return other ? u"%1 \"%2\" (%3) has this name."_s.arg(reason, other->objectPath(), other->className())
+    return other ? LocalizationHelper::coreString(u"%1 \"%2\" (%3) has this name."_s)
+                       .arg(reason, other->objectPath(), other->className())
                  : reason;
 }
 
@@ -58,20 +60,22 @@ QString Explanation::ofItem(const DesignerObject &item, const SharedProperty &li
     const DesignerObject *owner = list->parentObject();
     const QString place = owner ? owner->objectPath() : list->id();
     if (owner == &item || place.startsWith(item.objectPath() + u'.')) {
-        return u"%1 \"%2\" cannot be put into itself."_s.arg(reason, item.getIdName());
+        return LocalizationHelper::coreString(u"%1 \"%2\" cannot be put into itself."_s)
+            .arg(reason, item.getIdName());
     }
     if (list->hasListItem(item.getIdName())) {
-        return u"%1 There is a \"%2\" in \"%3\". Give one of the two another name first."_s.arg(
-            reason, item.getIdName(), place);
+        return LocalizationHelper::coreString(
+                   u"%1 There is a \"%2\" in \"%3\". Give one of the two another name first."_s)
+            .arg(reason, item.getIdName(), place);
     }
     const bool isOfKind = list->objectFilters().isEmpty()
                           || std::ranges::any_of(list->objectFilters(), [&item](const QString &className) {
                                  return item.isKindOfClass(className);
                              });
     return isOfKind ? reason
-                    : u"%1 \"%2\" takes %3, and \"%4\" is a %5."_s.arg(reason, place,
-                                                                       list->objectFilters().join(u" or "_s),
-                                                                       item.getIdName(), item.className());
+                    : LocalizationHelper::coreString(u"%1 \"%2\" takes %3, and \"%4\" is a %5."_s)
+                          .arg(reason, place, list->objectFilters().join(u" or "_s), item.getIdName(),
+                               item.className());
 }
 
 QString Explanation::ofImageFile(const QString &path)
@@ -82,23 +86,25 @@ QString Explanation::ofImageFile(const QString &path)
         return {};
     }
     if (!info.exists()) {
-        return u"There is no file \"%1\"."_s.arg(path);
+        return LocalizationHelper::coreString(u"There is no file \"%1\"."_s).arg(path);
     }
     if (!info.isFile()) {
-        return u"\"%1\" is not a file. Name a picture in it."_s.arg(path);
+        return LocalizationHelper::coreString(u"\"%1\" is not a file. Name a picture in it."_s).arg(path);
     }
     if (!info.isReadable()) {
-        return u"\"%1\" cannot be read. Ask its owner to let you read it."_s.arg(path);
+        return LocalizationHelper::coreString(u"\"%1\" cannot be read. Ask its owner to let you read it."_s)
+            .arg(path);
     }
     if (format.isEmpty()) {
-        return u"\"%1\" is no image of a kind that the device shows: %2."_s.arg(
-            path, Common::FileHelper::validImageExtensions().join(u", "_s));
+        return LocalizationHelper::coreString(u"\"%1\" is no image of a kind that the device shows: %2."_s)
+            .arg(path, Common::FileHelper::validImageExtensions().join(u", "_s));
     }
     const QString extension = info.suffix().toLower();
     return format == extension || (format == "jpg"_L1 && extension == "jpeg"_L1)
-               ? u"\"%1\" is damaged or cut off. Take it from a copy."_s.arg(path)
-               : u"\"%1\" is an image of the kind %2. Call it \"%3.%2\"."_s.arg(path, format,
-                                                                                info.completeBaseName());
+               ? LocalizationHelper::coreString(u"\"%1\" is damaged or cut off. Take it from a copy."_s)
+                     .arg(path)
+               : LocalizationHelper::coreString(u"\"%1\" is an image of the kind %2. Call it \"%3.%2\"."_s)
+                     .arg(path, format, info.completeBaseName());
 }
 
-} // namespace Halvane::Corvex::Tool
+} // namespace Halvane::Corvex::Designer

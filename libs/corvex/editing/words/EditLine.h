@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 #include <QStringList>
 
-namespace Halvane::Corvex::Tool {
+namespace Halvane::Corvex::Designer {
 
-/*! A line of an edit script in its words, which are parted by blanks and tabs. A word in double quotes may
+/*! A line of an edit script in its words, separated by blanks and tabs. A word in double quotes may
     hold them, too, and \", \\, \n and \t. */
-struct EditLine
+struct CORVEX_EXPORT EditLine
 {
     QStringList words;
     QString rest; //!< what follows the second word, unchanged
@@ -17,4 +19,4 @@ struct EditLine
     bool read(const QString &line, QString &error);
 };
 
-} // namespace Halvane::Corvex::Tool
+} // namespace Halvane::Corvex::Designer

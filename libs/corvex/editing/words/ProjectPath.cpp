@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "ProjectPath.h"
+#include "corvex/editing/words/ProjectPath.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
+#include "corvex/editing/words/Suggestion.h"
+#include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
-
-#include "terminal/Call.h"
-#include "terminal/Suggestion.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
-namespace Halvane::Corvex::Tool {
+namespace Halvane::Corvex::Designer {
 
-using namespace Designer;
+using Common::LocalizationHelper;
 
 namespace {
 
@@ -61,7 +61,7 @@ ProjectPlace findBelow(DesignerObject &owner, const QString &path, qsizetype fro
     return {property ? &owner : nullptr, property};
 }
 
-ProjectPlace findFrom(DesignerObject &project, const QString &path, Walk &walk)
+ProjectPlace findFrom(Project &project, const QString &path, Walk &walk)
 {
     const ProjectPlace place = findBelow(project, path, 0, walk);
     const QString name = project.getIdName();
@@ -100,10 +100,10 @@ QStringList namesBelow(const DesignerObject &owner)
 }
 
 //! An element with the very name, else with one like it; null without one.
-const DesignerObject *nearestElement(const DesignerObject &project, const QString &name)
+const DesignerObject *nearestElement(const Project &project, const QString &name)
 {
     QStringList names;
-    const QList<DesignerObject *> screens = project.getProperty(u"screens")->listItems();
+    const QList<DesignerObject *> screens = project.screens()->listItems();
     for (const DesignerObject *screen : screens) {
         names += static_cast<const Screen *>(screen)->getElementNames();
     }
@@ -118,13 +118,13 @@ const DesignerObject *nearestElement(const DesignerObject &project, const QStrin
 
 } // namespace
 
-ProjectPlace ProjectPath::find(DesignerObject *project, const QString &path)
+ProjectPlace ProjectPath::find(Project &project, const QString &path)
 {
-    Walk walk{project};
-    return findFrom(*project, path, walk);
+    Walk walk{&project};
+    return findFrom(project, path, walk);
 }
 
-SharedProperty ProjectPath::listFor(DesignerObject *project, const QString &path, const DesignerObject &item)
+SharedProperty ProjectPath::listFor(Project &project, const QString &path, const DesignerObject &item)
 {
     const ProjectPlace place = find(project, path);
     if (!place.object || place.property) {
@@ -137,56 +137,55 @@ SharedProperty ProjectPath::listFor(DesignerObject *project, const QString &path
     return closeness(*list, item) >= 0 ? *list : SharedProperty();
 }
 
-bool ProjectPath::isName(const DesignerObject &project, const QString &name)
+bool ProjectPath::isName(const Project &project, const QString &name)
 {
     return childNamed(project, name)
-           || std::ranges::any_of(project.getProperty(u"screens")->listItems(),
-                                  [&name](const DesignerObject *screen) {
-                                      return static_cast<const Screen *>(screen)->hasElement(name);
-                                  });
+           || std::ranges::any_of(project.screens()->listItems(), [&name](const DesignerObject *screen) {
+                  return static_cast<const Screen *>(screen)->hasElement(name);
+              });
 }
 
-QString ProjectPath::hint(DesignerObject *project, const QString &path)
+EditRefusal ProjectPath::suggestion(Project &project, const QString &path)
 {
-    Walk walk{project};
-    findFrom(*project, path, walk);
+    Walk walk{&project};
+    findFrom(project, path, walk);
     const auto [owner, known] = walk;
     const qsizetype end = path.indexOf(u'.', known);
     const QString name = path.mid(known, end < 0 ? -1 : end - known);
     const QString rest = end < 0 ? QString() : path.sliced(end);
+    QString meant;
     if (!owner->getProperty(name)) {
-        if (const QString nearest = Suggestion::nearest(name, namesBelow(*owner)); !nearest.isEmpty()) {
-            return u"Did you mean \"%1\"?"_s.arg(path.first(known) + nearest + rest);
-        }
-        const DesignerObject *element = owner == project ? nearestElement(*project, name) : nullptr;
-        if (element) {
-            return u"Did you mean \"%1\"?"_s.arg(element->objectPath() + rest);
-        }
+        const QString nearest = Suggestion::nearest(name, namesBelow(*owner));
+        const DesignerObject *element =
+            nearest.isEmpty() && owner == &project ? nearestElement(project, name) : nullptr;
+        meant = !nearest.isEmpty() ? path.first(known) + nearest + rest
+                : element          ? element->objectPath() + rest
+                                   : QString();
     }
-    return u"\"corvex tree FILE %1\" shows what there is."_s.arg(owner == project ? project->getIdName()
-                                                                                  : owner->objectPath());
+    if (!meant.isEmpty()) {
+        return {LocalizationHelper::coreString(u"Did you mean \"%1\"?"_s).arg(meant)};
+    }
+    return {{}, EditRefusal::Contents, owner->objectPath()};
 }
 
-QString ProjectPath::problem(DesignerObject *project, const QString &path, Wanted wanted)
+EditRefusal ProjectPath::refusal(Project &project, const QString &path, Wanted wanted)
 {
     const auto [object, property] = find(project, path);
     if (object && property && wanted == Object) {
-        return u"\"%1\" is a property, where an object is due: \"%2\" is one."_s.arg(
-            path, object == project ? project->getIdName() : object->objectPath());
+        const QString english = u"\"%1\" is a property, where an object is due: \"%2\" is one."_s;
+        return {LocalizationHelper::coreString(english).arg(path, object->objectPath())};
     }
     if (object && !property && wanted == Property) {
-        return u"\"%1\" is an object, where a property is due, such as \"%1.%2\". \"corvex tree FILE %1\" "
-               "shows them all."_s.arg(path, object->properties().at(1)->id());
+        const QString english = u"\"%1\" is an object, where a property is due, such as \"%1.%2\"."_s;
+        return {LocalizationHelper::coreString(english).arg(path, object->properties().at(1)->id()),
+                EditRefusal::Properties, path};
     }
-    static const QString names[] = {u"object"_s, u"property"_s, u"object or property"_s};
-    return u"There is no %1 \"%2\". %3"_s.arg(names[wanted], path, hint(project, path));
+    static const QString missing[] = {u"There is no object \"%1\"."_s, u"There is no property \"%1\"."_s,
+                                      u"There is no object or property \"%1\"."_s};
+    EditRefusal refusal = suggestion(project, path);
+    const QString message = LocalizationHelper::coreString(missing[wanted]).arg(path);
+    refusal.message = refusal.message.isEmpty() ? message : u"%1 %2"_s.arg(message, refusal.message);
+    return refusal;
 }
 
-ExitCode ProjectPath::notFound(DesignerObject &project, const QString &path, const Call &call)
-{
-    return call.failed(
-        u"There is nothing called \"%1\" in \"%2\". %3"_s.arg(path, call.argument(0), hint(&project, path)),
-        ExitCode::Usage);
-}
-
-} // namespace Halvane::Corvex::Tool
+} // namespace Halvane::Corvex::Designer

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ProjectDiff.h"
+#include "corvex/editing/words/private/ProjectComparison.h"
 
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerObject.h"
@@ -10,13 +10,10 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
-namespace Halvane::Corvex::Tool {
-
-using namespace Designer;
+namespace Halvane::Corvex::Designer {
 
 namespace {
 
@@ -102,35 +99,30 @@ QList<bool> ascending(const QList<qsizetype> &numbers)
 
 } // namespace
 
-ProjectDiff::ProjectDiff(const DesignerObject &before, const DesignerObject &after)
+ProjectComparison::ProjectComparison(const DesignerObject &before, const DesignerObject &after)
 {
     compareObjects(before, after);
     // What is in an object that was moved may itself have been renamed, or moved out of it.
     while (matchRenamed() || matchAlike() || matchMoved(Within::Screen) || matchMoved(Within::Project)) { }
     for (const Loose &gone : std::as_const(m_gone)) {
         if (!gone.isNested) {
-            add(Removed, *gone.object);
+            add(ProjectDiff::Removed, *gone.object);
         }
     }
     for (const Loose &added : std::as_const(m_new)) {
         if (!added.isNested) {
-            add(Added, *added.object);
+            add(ProjectDiff::Added, *added.object);
         }
     }
 }
 
-QString ProjectDiff::nameOf(Kind kind)
-{
-    static const std::array names{u"added"_s, u"removed"_s, u"renamed"_s, u"moved"_s, u"changed"_s};
-    return names[kind];
-}
-
-void ProjectDiff::add(Kind kind, const DesignerObject &object, const QString &before, const QString &after)
+void ProjectComparison::add(ProjectDiff::Kind kind, const DesignerObject &object, const QString &before,
+                            const QString &after)
 {
     m_differences.append({kind, object.objectPath(), object.className(), before, after});
 }
 
-void ProjectDiff::compareObjects(const DesignerObject &before, const DesignerObject &after)
+void ProjectComparison::compareObjects(const DesignerObject &before, const DesignerObject &after)
 {
     const auto *image = kindCast<ImageResource>(&before);
     if (const auto *other = image ? kindCast<ImageResource>(&after) : nullptr) {
@@ -147,14 +139,14 @@ void ProjectDiff::compareObjects(const DesignerObject &before, const DesignerObj
             compareChildren(property->objectValue(), other->objectValue());
         } else if (property->hasFlag(StoredFlag) && property->valueString() != other->valueString()
                    && (property != before.idProperty() || !before.listProperty())) {
-            m_differences.append({Changed, pathOf(*property), before.className(), property->valueString(),
-                                  other->valueString()});
+            m_differences.append({ProjectDiff::Changed, pathOf(*property), before.className(),
+                                  property->valueString(), other->valueString()});
         }
     }
 }
 
 //! A file that is missing on one side has been no part of what is compared, as in a version of the past.
-void ProjectDiff::compareContents(const ImageResource &before, const ImageResource &after)
+void ProjectComparison::compareContents(const ImageResource &before, const ImageResource &after)
 {
     const auto describe = [](const ImageResource &image) {
         const QString digest = Common::FileHelper::md5(image.filePath());
@@ -165,11 +157,12 @@ void ProjectDiff::compareContents(const ImageResource &before, const ImageResour
     const QString oldText = describe(before);
     const QString newText = describe(after);
     if (!oldText.isEmpty() && !newText.isEmpty() && oldText != newText) {
-        m_differences.append({Changed, pathOf(*before.imageFile()), before.className(), oldText, newText});
+        m_differences.append(
+            {ProjectDiff::Changed, pathOf(*before.imageFile()), before.className(), oldText, newText});
     }
 }
 
-void ProjectDiff::compareChildren(const DesignerObject *before, const DesignerObject *after)
+void ProjectComparison::compareChildren(const DesignerObject *before, const DesignerObject *after)
 {
     const bool isSame = before && after && before->className() == after->className();
     if (isSame) {
@@ -177,14 +170,14 @@ void ProjectDiff::compareChildren(const DesignerObject *before, const DesignerOb
         return;
     }
     if (before) {
-        add(Removed, *before);
+        add(ProjectDiff::Removed, *before);
     }
     if (after) {
-        add(Added, *after);
+        add(ProjectDiff::Added, *after);
     }
 }
 
-void ProjectDiff::compareLists(const DesignerProperty &before, const DesignerProperty &after)
+void ProjectComparison::compareLists(const DesignerProperty &before, const DesignerProperty &after)
 {
     QList<const DesignerObject *> keptBefore;
     QList<const DesignerObject *> keptAfter;
@@ -209,7 +202,7 @@ void ProjectDiff::compareLists(const DesignerProperty &before, const DesignerPro
     compareKept(before, after);
 }
 
-void ProjectDiff::compareKept(const DesignerProperty &before, const DesignerProperty &after)
+void ProjectComparison::compareKept(const DesignerProperty &before, const DesignerProperty &after)
 {
     const QList<KeptItem> oldItems = before.itemList()->keptItems();
     const QList<KeptItem> newItems = after.itemList()->keptItems();
@@ -225,7 +218,7 @@ void ProjectDiff::compareKept(const DesignerProperty &before, const DesignerProp
             gone[{item.className, item.name}].append(item.xml);
         }
     }
-    const auto tell = [this, &before](Kind kind, const KeptItem &item, const QByteArray &oldText,
+    const auto note = [this, &before](ProjectDiff::Kind kind, const KeptItem &item, const QByteArray &oldText,
                                       const QByteArray &newText) {
         const DesignerObject *owner = before.parentObject();
         const QString path = owner->ownerObject() ? owner->objectPath() + u'.' : QString();
@@ -237,22 +230,22 @@ void ProjectDiff::compareKept(const DesignerProperty &before, const DesignerProp
             --count;
             QList<QByteArray> &others = gone[{item.className, item.name}];
             if (others.isEmpty()) {
-                tell(Added, item, {}, {});
+                note(ProjectDiff::Added, item, {}, {});
             } else {
-                tell(Changed, item, others.takeFirst(), item.xml);
+                note(ProjectDiff::Changed, item, others.takeFirst(), item.xml);
             }
         }
     }
     for (const KeptItem &item : oldItems) {
         if (gone[{item.className, item.name}].removeOne(item.xml)) {
-            tell(Removed, item, {}, {});
+            note(ProjectDiff::Removed, item, {}, {});
         }
     }
 }
 
 //! Tells of the fewest objects that had to be moved for the new order.
-void ProjectDiff::compareOrder(const QList<const DesignerObject *> &before,
-                               const QList<const DesignerObject *> &after)
+void ProjectComparison::compareOrder(const QList<const DesignerObject *> &before,
+                                     const QList<const DesignerObject *> &after)
 {
     QHash<QString, qsizetype> places;
     for (qsizetype i = 0; i < before.size(); ++i) {
@@ -265,15 +258,16 @@ void ProjectDiff::compareOrder(const QList<const DesignerObject *> &before,
     const QList<bool> isKept = ascending(order);
     for (qsizetype i = 0; i < order.size(); ++i) {
         if (!isKept.at(i)) {
-            add(Moved, *after.at(i), u"place %1"_s.arg(order.at(i) + 1), u"place %1"_s.arg(i + 1));
+            add(ProjectDiff::Moved, *after.at(i), u"place %1"_s.arg(order.at(i) + 1),
+                u"place %1"_s.arg(i + 1));
         }
     }
 }
 
 /*! With all that the object holds, which may have come from elsewhere or gone there. \a list is that of the
    old project also for what is new in it: the owner may have another name now. */
-void ProjectDiff::addLoose(QList<Loose> &to, const DesignerObject *object, const DesignerProperty &list,
-                           bool isNested)
+void ProjectComparison::addLoose(QList<Loose> &to, const DesignerObject *object, const DesignerProperty &list,
+                                 bool isNested)
 {
     to.append({object,
                pathOf(list),
@@ -289,7 +283,7 @@ void ProjectDiff::addLoose(QList<Loose> &to, const DesignerObject *object, const
 }
 
 //! All that is in an object, each with what it must have in common with that in another.
-QList<QStringList> ProjectDiff::memberKeys(const Loose &loose)
+QList<QStringList> ProjectComparison::memberKeys(const Loose &loose)
 {
     QList<QStringList> keys;
     QList<Loose> members;
@@ -301,7 +295,7 @@ QList<QStringList> ProjectDiff::memberKeys(const Loose &loose)
 }
 
 //! What has found its other side, and all in it, is no longer loose.
-bool ProjectDiff::settle(const QSet<const DesignerObject *> &matched)
+bool ProjectComparison::settle(const QSet<const DesignerObject *> &matched)
 {
     const auto isSettled = [&matched](const Loose &loose) { return isWithin(loose.object, matched); };
     m_gone.removeIf(isSettled);
@@ -309,7 +303,7 @@ bool ProjectDiff::settle(const QSet<const DesignerObject *> &matched)
     return !matched.isEmpty();
 }
 
-bool ProjectDiff::matchMoved(Within within)
+bool ProjectComparison::matchMoved(Within within)
 {
     const auto keyOf = [within](const Loose &loose) {
         return within == Within::Screen ? loose.key : loose.key.sliced(0, 2);
@@ -329,7 +323,7 @@ bool ProjectDiff::matchMoved(Within within)
         if (other) {
             matched += {loose.object, other->object};
             pairs.emplaceBack(loose.object, other->object);
-            add(Moved, *loose.object, pathOf(*loose.object->listProperty()),
+            add(ProjectDiff::Moved, *loose.object, pathOf(*loose.object->listProperty()),
                 pathOf(*other->object->listProperty()));
         }
     }
@@ -340,7 +334,7 @@ bool ProjectDiff::matchMoved(Within within)
     return !pairs.isEmpty();
 }
 
-bool ProjectDiff::matchRenamed()
+bool ProjectComparison::matchRenamed()
 {
     QSet<QStringList> oldNames;
     QSet<QStringList> newNames;
@@ -361,14 +355,14 @@ bool ProjectDiff::matchRenamed()
         }
         if (const DesignerObject *other = byContents.take({loose.place, contentsOf(loose.object)})) {
             matched += {loose.object, other};
-            add(Renamed, *loose.object, loose.object->getIdName(), other->getIdName());
+            add(ProjectDiff::Renamed, *loose.object, loose.object->getIdName(), other->getIdName());
         }
     }
     return settle(matched);
 }
 
 //! Screens and groups that have another name and have changed, too: most of what is in them is the same.
-bool ProjectDiff::matchAlike()
+bool ProjectComparison::matchAlike()
 {
     Holders byMember;
     for (const Loose &added : std::as_const(m_new)) {
@@ -386,7 +380,7 @@ bool ProjectDiff::matchAlike()
         if (other) {
             matched += {gone.object, other};
             pairs.emplaceBack(gone.object, other);
-            add(Renamed, *gone.object, gone.object->getIdName(), other->getIdName());
+            add(ProjectDiff::Renamed, *gone.object, gone.object->getIdName(), other->getIdName());
         }
     }
     settle(matched);
@@ -396,4 +390,4 @@ bool ProjectDiff::matchAlike()
     return !pairs.isEmpty();
 }
 
-} // namespace Halvane::Corvex::Tool
+} // namespace Halvane::Corvex::Designer

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/Suggestion.h"
+#include "corvex/editing/words/Suggestion.h"
+
+#include "corvex/common/LocalizationHelper.h"
 
 #include <algorithm>
 #include <numeric>
@@ -7,7 +9,9 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Halvane::Corvex::Tool {
+namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
 
 namespace {
 
@@ -52,13 +56,17 @@ QString Suggestion::unknown(const QString &what, const QString &name, const QStr
                             const QString &advice)
 {
     const QString near = nearest(name, names);
-    return near.isEmpty() ? u"There is no %1 \"%2\". %3"_s.arg(what, name, advice)
-                          : u"There is no %1 \"%2\"; did you mean \"%3\"? %4"_s.arg(what, name, near, advice);
+    const QString message =
+        near.isEmpty() ? LocalizationHelper::coreString(u"There is no %1 \"%2\"."_s).arg(what, name)
+                       : LocalizationHelper::coreString(u"There is no %1 \"%2\"; did you mean \"%3\"?"_s)
+                             .arg(what, name, near);
+    return advice.isEmpty() ? message : u"%1 %2"_s.arg(message, advice);
 }
 
 QString Suggestion::unknown(const QString &what, const QString &name, const QStringList &names)
 {
-    return unknown(what, name, names, u"There are %1."_s.arg(names.join(u", "_s)));
+    return unknown(what, name, names,
+                   LocalizationHelper::coreString(u"There are %1."_s).arg(names.join(u", "_s)));
 }
 
-} // namespace Halvane::Corvex::Tool
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/words/EditScript.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/undo/UndoStack.h"
+#include "corvex/editing/words/ProjectPath.h"
+#include "corvex/editing/words/private/EditPlanner.h"
+#include "corvex/editing/words/private/Explanation.h"
+#include "corvex/project/Project.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+QString pathOf(const SharedProperty &property)
+{
+    const DesignerObject *owner = property->parentObject();
+    return owner ? u"%1.%2"_s.arg(owner->objectPath(), property->id()) : property->id();
+}
+
+//! The texts of all commands below \a command that are no composites themselves.
+QStringList partsOf(const QUndoCommand &command)
+{
+    QStringList parts;
+    for (int i = 0; i < command.childCount(); ++i) {
+        const QUndoCommand &child = *command.child(i);
+        if (child.childCount() == 0 && !child.text().isEmpty()) {
+            parts.append(child.text());
+        }
+        parts += partsOf(child);
+    }
+    return parts;
+}
+
+} // namespace
+
+EditScript::EditScript(Project &project, std::function<bool()> loadModels)
+    : m_project(project)
+    , m_planner(std::make_unique<EditPlanner>(project, std::move(loadModels)))
+{ }
+
+EditScript::~EditScript() = default;
+
+EditPlan EditScript::plan(const QString &line) const
+{
+    return m_planner->plan(EditPlanner::read(line));
+}
+
+EditScript::Result EditScript::run(const QString &line)
+{
+    m_refusal = {};
+    const EditCall call = EditPlanner::read(line);
+    const bool isReadable = call.refusal.message.isEmpty();
+    m_isLost = m_isLost || (m_hasFailed && isReadable && call.movesHistory());
+    if (!isReadable) {
+        m_refusal = call.refusal;
+    } else if (!call.form) {
+        return Result::Done;
+    } else if (!m_isLost) {
+        EditPlan plan = m_planner->plan(call);
+        if (perform(plan)) {
+            return Result::Done;
+        }
+    }
+    return noteFailure(call);
+}
+
+bool EditScript::perform(EditPlan &plan)
+{
+    m_output += plan.output;
+    if (plan.isRefused()) {
+        m_refusal = plan.refusal;
+        return false;
+    }
+    if (const std::optional<int> steps = plan.historySteps) {
+        UndoStack *stack = m_project.undoStack();
+        stack->setIndex(stack->index() + *steps);
+        m_edits.append({plan.historyText, {}, {}});
+    }
+    return !plan.command || push(plan);
+}
+
+bool EditScript::push(EditPlan &plan)
+{
+    ModelCommand *command = plan.command.release();
+    // What leaves the project is known by where it was.
+    QHash<const DesignerProperty *, QString> paths;
+    for (const ValueChange &change : command->valueChanges()) {
+        paths.insert(change.property.data(), pathOf(change.property));
+    }
+    UndoStack *stack = m_project.undoStack();
+    if (!stack->push(command)) {
+        m_refusal.message = plan.explained(stack->errorString());
+        return false;
+    }
+    if (plan.added && !plan.added->idProperty()->isValid()) {
+        m_refusal.message = Explanation::ofName(*plan.added, plan.added->getIdName(),
+                                                plan.added->idProperty()->errorString());
+        stack->undo();
+        return false;
+    }
+    QList<Change> changes;
+    for (const auto &[property, before, after] : command->valueChanges()) {
+        const DesignerObject *owner = property->parentObject();
+        const bool isThere = owner && owner->project();
+        changes.append({isThere ? pathOf(property) : paths.value(property.data()), before, after});
+    }
+    std::ranges::stable_sort(changes, {}, &Change::property);
+    m_edits.append({command->text(), partsOf(*command), changes});
+    return true;
+}
+
+//! Whether a line that cannot be done is wrong itself. Notes what later lines will miss.
+EditScript::Result EditScript::noteFailure(const EditCall &call)
+{
+    const bool follows = m_isLost || std::ranges::any_of(call.words, [this](const QString &word) {
+                             return std::ranges::any_of(word.split(u'.'), [this](const QString &name) {
+                                 return m_unmade.contains(name);
+                             });
+                         });
+    const QString name = call.givenName();
+    if (!name.isEmpty() && !ProjectPath::isName(m_project, name)) {
+        m_unmade.insert(name);
+    }
+    m_hasFailed = true;
+    return follows ? Result::Follows : Result::Failed;
+}
+
+void EditScript::undoAll()
+{
+    m_project.undoStack()->setIndex(0);
+    m_project.createUndoStack();
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/core/DesignerProperty.h"
+#include "corvex/editing/words/EditPlan.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace Halvane::Corvex::Designer {
+
+class EditPlanner;
+class Project;
+struct EditCall;
+struct PlannedCommand;
+
+//! A row of the table of all edits: what an edit is called and how it is planned.
+struct EditForm
+{
+    const char *name;
+    const char *usage;
+    int fewest; //!< words after the name
+    int most;   //!< -1 for any number
+    int given;  //!< the word that names what the edit adds or renames; -1 without one
+    void (EditPlanner::*plan)(const EditCall &call, EditPlan &plan) const;
+};
+
+//! A line of a script with the edit that it calls for.
+struct EditCall
+{
+    const EditForm *form = nullptr; //!< null for a line without an edit
+    QStringList words;              //!< after the name of the edit
+    QString rest;                   //!< of the line after the first of the words, unchanged
+    EditRefusal refusal;            //!< why the line cannot be understood
+
+    bool movesHistory() const;
+    QString givenName() const { return form && form->given >= 0 ? words.value(form->given) : QString(); }
+};
+
+//! Plans the edits of a script.
+class EditPlanner
+{
+public:
+    EditPlanner(Project &project, std::function<bool()> loadModels)
+        : m_project(project)
+        , m_loadModels(std::move(loadModels))
+    { }
+
+    static EditCall read(const QString &line);
+    EditPlan plan(const EditCall &call) const;
+
+private:
+    friend struct EditCall;
+
+    static const QList<EditForm> &forms();
+
+    DesignerObject *object(const QString &path, EditPlan &plan) const;
+    bool objects(const QStringList &paths, QList<DesignerObject *> &found, EditPlan &plan) const;
+    SharedProperty listFor(const QString &path, const DesignerObject &item, EditPlan &plan) const;
+    static void take(std::unique_ptr<ModelCommand> command, EditPlan &plan);
+    static void take(PlannedCommand command, EditPlan &plan);
+
+    // The edits.
+    void set(const EditCall &call, EditPlan &plan) const;
+    void add(const EditCall &call, EditPlan &plan) const;
+    void remove(const EditCall &call, EditPlan &plan) const;
+    void rename(const EditCall &call, EditPlan &plan) const;
+    void group(const EditCall &call, EditPlan &plan) const;
+    void ungroup(const EditCall &call, EditPlan &plan) const;
+    void splitGroup(const EditCall &call, EditPlan &plan) const;
+    void swap(const EditCall &call, EditPlan &plan) const;
+    void move(const EditCall &call, EditPlan &plan) const;
+    void addImages(const EditCall &call, EditPlan &plan) const;
+    void replaceImage(const EditCall &call, EditPlan &plan) const;
+    void model(const EditCall &call, EditPlan &plan) const;
+    void filter(const EditCall &call, EditPlan &plan) const;
+    void undo(const EditCall &call, EditPlan &plan) const;
+    void redo(const EditCall &call, EditPlan &plan) const;
+    void print(const EditCall &call, EditPlan &plan) const;
+    void step(const EditCall &call, EditPlan &plan, int direction) const;
+
+    Project &m_project;
+    std::function<bool()> m_loadModels;
+};
+
+} // namespace Halvane::Corvex::Designer
