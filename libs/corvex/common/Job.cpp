@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/common/Job.h"
+
+#include "corvex/common/LocalizationHelper.h"
+
+#include <QPointer>
+#include <QThread>
+
+namespace Halvane::Corvex::Common {
+
+Job::Job(QObject *parent)
+    : QObject(parent)
+{
+    connect(&m_timer, &QTimer::timeout, this, &Job::onTimeout);
+}
+
+Job::~Job()
+{
+    cancel();
+    wait();
+}
+
+void Job::wait()
+{
+    if (m_thread) {
+        m_thread->wait();
+    }
+}
+
+void Job::startInThread(Work work)
+{
+    Q_ASSERT(!m_isRunning && m_outcome == Outcome::None);
+    m_isRunning = true;
+    m_thread.reset(QThread::create([this, work = std::move(work)] { m_isDone = work(m_progress, m_error); }));
+    connect(m_thread.get(), &QThread::finished, this, &Job::conclude);
+    m_sinceReport.start();
+    m_timer.start(reportInterval);
+    m_thread->start();
+    if (!m_thread->isRunning() && !m_thread->isFinished()) {
+        m_error = LocalizationHelper::coreString(
+            QStringLiteral("The system has no thread left for this. Try again later."));
+        QMetaObject::invokeMethod(this, &Job::conclude, Qt::QueuedConnection);
+    }
+}
+
+void Job::startInSlices(Piece piece)
+{
+    Q_ASSERT(!m_isRunning && m_outcome == Outcome::None);
+    m_isRunning = true;
+    m_piece = std::move(piece);
+    m_sinceReport.start();
+    m_timer.start(0);
+}
+
+void Job::onTimeout()
+{
+    if (m_piece && !runSlice()) {
+        conclude();
+    } else if (m_sinceReport.hasExpired(reportInterval - 1)) {
+        report();
+    }
+}
+
+//! False when nothing more is to be done.
+bool Job::runSlice()
+{
+    QElapsedTimer timer;
+    timer.start();
+    Next next = Next::More;
+    while (next == Next::More && !m_progress.isCancelled() && !timer.hasExpired(longestSlice - 1)) {
+        next = m_piece(m_progress, m_error);
+    }
+    m_isDone = next == Next::Done;
+    return next == Next::More && !m_progress.isCancelled();
+}
+
+void Job::report()
+{
+    m_sinceReport.start();
+    if (const Progress::State state = m_progress.state(); !(state == m_reported)) {
+        m_reported = state;
+        emit progressed(state);
+    }
+}
+
+void Job::conclude()
+{
+    m_timer.stop();
+    wait();
+    m_thread.reset();
+    m_piece = {};
+    m_isRunning = false;
+    m_outcome = m_progress.isCancelled() ? Outcome::Cancelled : m_isDone ? Outcome::Done : Outcome::Failed;
+    // A slot may delete this job.
+    const QPointer<Job> self(this);
+    report();
+    if (self) {
+        emit finished();
+    }
+}
+
+} // namespace Halvane::Corvex::Common
