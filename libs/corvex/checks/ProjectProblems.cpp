@@ -12,7 +12,9 @@
 #include "corvex/checks/private/ModbusCheck.h"
 #include "corvex/checks/private/NumberCheck.h"
 #include "corvex/checks/private/ReferenceCheck.h"
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/Processors.h"
+#include "corvex/common/Progress.h"
 #include "corvex/project/Project.h"
 
 #include <atomic>
@@ -83,19 +85,35 @@ std::vector<Part> partsOf(const Project &project, const ConfigurationContainer &
 
 } // namespace
 
-QList<Problem> ProjectProblems::find(const Project &project, const ConfigurationContainer &models)
+QList<Problem> ProjectProblems::find(const Project &project, const ConfigurationContainer &models,
+                                     Common::Progress *progress)
 {
     std::vector<Part> parts = partsOf(project, models);
+    const auto isCancelled = [progress] { return progress && progress->isCancelled(); };
+    if (progress) {
+        progress->begin(
+            Common::LocalizationHelper::coreString(QStringLiteral("Checking %1")).arg(project.getIdName()),
+            project.childObjects().size());
+    }
     CheckWalk &first = parts.front().walk;
     first.lookAt(project);
     std::atomic<size_t> next = 0;
-    Common::Processors::run(parts.size(), [&parts, &next] {
+    Common::Processors::run(parts.size(), [&parts, &next, progress, isCancelled] {
         for (size_t i = next++; i < parts.size(); i = next++) {
             for (const DesignerObject *object : std::as_const(parts[i].objects)) {
+                if (isCancelled()) {
+                    return;
+                }
                 parts[i].walk.visit(*object);
+                if (progress) {
+                    progress->advance();
+                }
             }
         }
     });
+    if (isCancelled()) {
+        return {};
+    }
     for (size_t i = 1; i < parts.size(); ++i) {
         first.join(parts[i].walk);
     }

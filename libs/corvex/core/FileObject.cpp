@@ -2,6 +2,7 @@
 #include "corvex/core/FileObject.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/Progress.h"
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/common/files/FileSync.h"
 #include "corvex/common/files/TemporaryFolder.h"
@@ -177,6 +178,10 @@ bool FileObject::readFile(const QString &path)
         return finish(message(u"The file \"%1\" cannot be read: %2"_s, path, file.errorString()));
     }
     ObjectXmlReader reader(&file);
+    if (m_progress) {
+        m_progress->begin(message(u"Reading %1"_s, QFileInfo(path).fileName()), file.size());
+        reader.setProgress(m_progress);
+    }
     const bool done = reader.read(this);
     m_readNotes = reader.notes();
     return finish(done ? QString()

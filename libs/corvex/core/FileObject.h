@@ -5,6 +5,10 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/xml/ObjectXmlReader.h"
 
+namespace Halvane::Corvex::Common {
+class Progress;
+} // namespace Halvane::Corvex::Common
+
 namespace Halvane::Corvex::Designer {
 
 /*! An object that is a file: one XML file, which may lie in a folder of its own.
@@ -30,6 +34,9 @@ public:
     /*! Reads the file \a path into this object. After a failure the object is half read and knows no file, so
        that it cannot be saved over a good one. */
     virtual bool loadFile(const QString &path);
+    //! Follows the reading of files, in bytes, and may cancel it, which counts as a failure; null for nobody.
+    //! Not owned.
+    void setProgress(Common::Progress *progress) { m_progress = progress; }
     //! Writes the file again; false when it is no longer there.
     virtual bool saveFile();
     /*! Gives the folder and the file that bear \a oldName as theirs \a newName, whatever the object itself is
@@ -88,6 +95,7 @@ private:
     QString m_fullFilePath;
     QString m_fileError;
     QList<ReadNote> m_readNotes;
+    Common::Progress *m_progress = nullptr;
 };
 
 } // namespace Halvane::Corvex::Designer

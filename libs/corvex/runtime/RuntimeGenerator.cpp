@@ -3,6 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/Processors.h"
+#include "corvex/common/Progress.h"
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/common/files/FolderLock.h"
 #include "corvex/common/files/TemporaryFolder.h"
@@ -21,6 +22,7 @@
 #include <atomic>
 #include <future>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -48,6 +50,7 @@ public:
     void add(const QString &folder, std::unique_ptr<Common::FolderLock> lock)
     {
         constexpr size_t most = 64;
+        const std::lock_guard guard(m_mutex);
         if (m_locks.size() == most) {
             m_locks.erase(m_locks.begin());
         }
@@ -55,10 +58,12 @@ public:
     }
     void remove(const QString &folder)
     {
+        const std::lock_guard guard(m_mutex);
         std::erase_if(m_locks, [&folder](const auto &entry) { return entry.first == folder; });
     }
 
 private:
+    std::mutex m_mutex;
     std::vector<std::pair<QString, std::unique_ptr<Common::FolderLock>>> m_locks;
 };
 
@@ -89,7 +94,10 @@ bool RuntimeGenerator::generate(const DesignerObject *project)
 {
     m_error.clear();
     m_buildFolder.clear();
-    const bool done = makeBuildFolder() && writeProject(project) && copyResources();
+    bool done = makeBuildFolder() && writeProject(project) && copyResources();
+    if (isCancelled()) {
+        done = fail(LocalizationHelper::coreString(u"The build was cancelled."_s));
+    }
     if (!done) {
         removeBuildFolder();
     }
@@ -99,9 +107,26 @@ bool RuntimeGenerator::generate(const DesignerObject *project)
 void RuntimeGenerator::removeBuildFolder()
 {
     if (!m_buildFolder.isEmpty()) {
-        Common::FileHelper::removeDirectory(m_buildFolder);
-        BuildFolderLocks::instance().remove(m_buildFolder);
+        removeBuild(m_buildFolder);
         m_buildFolder.clear();
+    }
+}
+
+void RuntimeGenerator::removeBuild(const QString &buildFolder)
+{
+    Common::FileHelper::removeDirectory(buildFolder);
+    BuildFolderLocks::instance().remove(buildFolder);
+}
+
+bool RuntimeGenerator::isCancelled() const
+{
+    return m_progress && m_progress->isCancelled();
+}
+
+void RuntimeGenerator::advance() const
+{
+    if (m_progress) {
+        m_progress->advance();
     }
 }
 
@@ -144,6 +169,12 @@ bool RuntimeGenerator::makeBuildFolder()
 
 bool RuntimeGenerator::writeProject(const DesignerObject *project)
 {
+    if (m_progress) {
+        constexpr qsizetype packerSteps = 2;
+        const SharedProperty screens = project->getProperty(u"screens");
+        m_progress->begin(LocalizationHelper::coreString(u"Building %1"_s).arg(project->getIdName()),
+                          packerSteps + (screens ? screens->listItemCount() : 0));
+    }
     // Packing takes as long as writing all screens does. The packer reads the values of the model, which
     // nothing changes meanwhile. Without a second thread it works when it is asked for its result.
     std::future<QString> packing = std::async(std::launch::async | std::launch::deferred,
@@ -157,10 +188,12 @@ QString RuntimeGenerator::packProject(const DesignerObject &project) const
 {
     QString error;
     const QByteArray xml = projectXml(project, &error);
-    if (error.isEmpty()) {
+    advance();
+    if (error.isEmpty() && !isCancelled()) {
         Common::ZipHelper::zipWithBytes(xml, packedName, filePath(packedName + u".zip"_s), {},
                                         compressionLevel, &error);
     }
+    advance();
     return error;
 }
 
@@ -210,8 +243,9 @@ bool RuntimeGenerator::writeScreens(const DesignerObject *project)
     std::vector<QString> errors(size_t(screens.size()));
     std::atomic<size_t> next = 0;
     Common::Processors::run(errors.size(), [&] {
-        for (size_t i = next++; i < errors.size(); i = next++) {
+        for (size_t i = next++; i < errors.size() && !isCancelled(); i = next++) {
             errors[i] = writeScreen(*screens.at(qsizetype(i)));
+            advance();
         }
     });
     const auto error = std::ranges::find_if(errors, [](const QString &text) { return !text.isEmpty(); });
@@ -247,6 +281,9 @@ bool RuntimeGenerator::copyResources()
     }
     for (const QString &name : std::as_const(names)) {
         const QString path = resources.absoluteFilePath(name);
+        if (isCancelled()) {
+            return false; // generate() tells
+        }
         // A build is handed on, and a project from elsewhere may have a link to any file of this machine.
         if (!QFileInfo(path).canonicalFilePath().startsWith(projectFolder)) {
             return fail(

@@ -8,6 +8,10 @@
 
 #include <optional>
 
+namespace Halvane::Corvex::Common {
+class Progress;
+} // namespace Halvane::Corvex::Common
+
 namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
@@ -30,6 +34,9 @@ public:
     //! What the zipped project has as its version in place of its own; nothing when empty.
     void setBuildTag(const QString &tag) { m_buildTag = tag; }
 
+    //! Follows a build and may cancel it, which counts as a failure; null for nobody. Not owned.
+    void setProgress(Common::Progress *progress) { m_progress = progress; }
+
     //! Builds \a project, an object with a list "screens". Ends with the first step that fails.
     bool generate(const DesignerObject *project);
 
@@ -39,6 +46,8 @@ public:
     const QString &errorString() const { return m_error; }
     //! Deletes what the last build made, for a caller that has taken the files from there.
     void removeBuildFolder();
+    //! The same for one that was made before.
+    static void removeBuild(const QString &buildFolder);
 
 private:
     bool makeBuildFolder();
@@ -53,11 +62,14 @@ private:
     QString writeScreen(const DesignerObject &screen) const;
     bool copyResources();
     bool fail(const QString &error);
+    bool isCancelled() const;
+    void advance() const;
     QString filePath(const QString &fileName) const;
 
     QString m_resourceFolder;
     std::optional<QStringList> m_resourceNames;
     QString m_buildTag;
+    Common::Progress *m_progress = nullptr;
     QString m_buildFolder;
     QString m_error;
 };

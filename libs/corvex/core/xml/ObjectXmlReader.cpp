@@ -17,6 +17,11 @@ void ObjectXmlReader::setValidate(bool validate)
     d->setValidate(validate);
 }
 
+void ObjectXmlReader::setProgress(Common::Progress *progress)
+{
+    d->setProgress(progress);
+}
+
 bool ObjectXmlReader::read(DesignerObject *object)
 {
     d->setRoot(object);

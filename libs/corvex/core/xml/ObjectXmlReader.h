@@ -11,6 +11,10 @@
 
 class QIODevice;
 
+namespace Halvane::Corvex::Common {
+class Progress;
+} // namespace Halvane::Corvex::Common
+
 namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
@@ -33,6 +37,9 @@ public:
 
     //! Whether the root is validated when it is complete; it is unless switched off.
     void setValidate(bool validate);
+    //! Advances by the bytes that were read; reading that is cancelled ends with an error. Null for nobody.
+    //! Not owned.
+    void setProgress(Common::Progress *progress);
     /*! Reads into an object of the root's class. Lists that the file holds are emptied first; what the file
        does not mention stays as it was. After a failure the object is half read. */
     bool read(DesignerObject *object);

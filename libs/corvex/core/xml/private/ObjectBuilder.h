@@ -25,6 +25,7 @@ public:
     { }
 
     void setValidate(bool validate) { m_validates = validate; }
+    void setProgress(Common::Progress *progress) { m_input.setProgress(progress); }
     //! What is read goes into \a root, of the same class; when it is null, an object is made for it.
     void setRoot(DesignerObject *root);
     //! Reads everything. False when the text could not be read to its end.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/xml/private/XmlInput.h"
 
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/Progress.h"
 #include "corvex/core/xml/private/XmlHandler.h"
 #include "corvex/core/xml/private/XmlTokenQueue.h"
 #include "corvex/core/xml/private/XmlTokenizer.h"
@@ -76,6 +78,13 @@ bool XmlInput::deliver(const XmlTokens &tokens)
         m_place = token.place;
         tell(tokens, token);
         if (!m_error.isEmpty()) {
+            return false;
+        }
+    }
+    if (m_progress) {
+        m_progress->advance(qint64(tokens.bytes.size()));
+        if (m_progress->isCancelled()) {
+            fail(Common::LocalizationHelper::coreString(u"The reading was cancelled."_s));
             return false;
         }
     }

@@ -6,6 +6,10 @@
 
 class QIODevice;
 
+namespace Halvane::Corvex::Common {
+class Progress;
+} // namespace Halvane::Corvex::Common
+
 namespace Halvane::Corvex::Designer {
 
 class XmlHandler;
@@ -20,6 +24,8 @@ class XmlInput
 public:
     XmlInput(QIODevice *device, XmlHandler *handler);
 
+    //! Advances by the bytes that the handler has heard; null for nobody.
+    void setProgress(Common::Progress *progress) { m_progress = progress; }
     //! False when an error ended it, the handler's own among them.
     bool parse();
     //! Ends the parsing here; no more is heard of the text. For calls from the handler.
@@ -39,6 +45,7 @@ private:
 
     QIODevice *m_device;
     XmlHandler *m_handler;
+    Common::Progress *m_progress = nullptr;
     XmlPlace m_place;
     QString m_error;
     XmlPlace m_errorPlace;
