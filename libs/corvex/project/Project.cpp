@@ -12,6 +12,7 @@
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/core/properties/ObjectListProperty.h"
 #include "corvex/core/properties/ObjectProperty.h"
+#include "corvex/editing/undo/HistoryKeeper.h"
 #include "corvex/editing/undo/UndoCommand.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/hardware/Configuration.h"
@@ -59,7 +60,7 @@ Project::~Project()
     m_autosave.reset();
     m_observer.reset();
     // Undo steps own what they took out of the model, and refer to what they left in it.
-    delete std::exchange(m_undoStack, nullptr);
+    m_undoStack.reset();
     m_folder.close();
     deleteChildren();
 }
@@ -273,16 +274,55 @@ bool Project::upgradeToCurrentVersion()
 
 UndoStack *Project::undoStack()
 {
+    return sharedUndoStack().get();
+}
+
+std::shared_ptr<UndoStack> Project::sharedUndoStack()
+{
     if (!m_undoStack) {
-        m_undoStack = new UndoStack(this);
-        connect(m_undoStack, &UndoStack::indexChanged, m_autosave.get(), &ProjectAutosave::countEdit);
-        connect(m_undoStack, &UndoStack::moved, this, &Project::emitUserModified);
+        m_undoStack = std::make_shared<UndoStack>();
+        followUndoStack();
     }
     return m_undoStack;
 }
 
+void Project::setUndoStack(std::shared_ptr<UndoStack> stack)
+{
+    if (m_undoStack) {
+        disconnect(m_undoStack.get(), nullptr, this, nullptr);
+        disconnect(m_undoStack.get(), nullptr, m_autosave.get(), nullptr);
+        for (const QAction *action : {m_undoAction, m_redoAction}) {
+            if (action) {
+                disconnect(m_undoStack.get(), nullptr, action, nullptr);
+            }
+        }
+    }
+    m_undoStack = std::move(stack);
+    followUndoStack();
+    m_autosave->countEdit();
+    emit undoStackChanged();
+}
+
+void Project::followUndoStack()
+{
+    const UndoStack *stack = m_undoStack.get();
+    connect(stack, &UndoStack::indexChanged, m_autosave.get(), &ProjectAutosave::countEdit);
+    connect(stack, &UndoStack::moved, this, &Project::emitUserModified);
+    const auto enable = [stack](QAction *action, bool isPossible, auto signal) {
+        if (action) {
+            action->setEnabled(isPossible);
+            connect(stack, signal, action, &QAction::setEnabled);
+        }
+    };
+    enable(m_undoAction, stack->canUndo(), &UndoStack::canUndoChanged);
+    enable(m_redoAction, stack->canRedo(), &UndoStack::canRedoChanged);
+}
+
 void Project::createUndoStack()
 {
+    if (m_historyKeeper) {
+        m_historyKeeper->historyForgotten();
+    }
     undoStack()->startOver();
     m_autosave->startOver();
 }
@@ -323,8 +363,8 @@ QAction *Project::createUndoAction()
         m_undoAction =
             new QAction(QIcon(u":/images/undo"_s), Common::LocalizationHelper::coreString(u"Undo"_s), this);
         m_undoAction->setEnabled(undoStack()->canUndo());
-        connect(m_undoStack, &UndoStack::canUndoChanged, m_undoAction, &QAction::setEnabled);
-        connect(m_undoAction, &QAction::triggered, m_undoStack, &UndoStack::undo);
+        connect(m_undoStack.get(), &UndoStack::canUndoChanged, m_undoAction, &QAction::setEnabled);
+        connect(m_undoAction, &QAction::triggered, this, [this] { undoStack()->undo(); });
     }
     return m_undoAction;
 }
@@ -335,8 +375,8 @@ QAction *Project::createRedoAction()
         m_redoAction =
             new QAction(QIcon(u":/images/redo"_s), Common::LocalizationHelper::coreString(u"Redo"_s), this);
         m_redoAction->setEnabled(undoStack()->canRedo());
-        connect(m_undoStack, &UndoStack::canRedoChanged, m_redoAction, &QAction::setEnabled);
-        connect(m_redoAction, &QAction::triggered, m_undoStack, &UndoStack::redo);
+        connect(m_undoStack.get(), &UndoStack::canRedoChanged, m_redoAction, &QAction::setEnabled);
+        connect(m_redoAction, &QAction::triggered, this, [this] { undoStack()->redo(); });
     }
     return m_redoAction;
 }
@@ -348,10 +388,22 @@ void Project::startAutoSaveTimer()
 
 void Project::generateRuntimeFiles()
 {
-    m_runtimeGenerator.setResourceFolder(imagesPath());
-    const bool needsTag = m_version->valueString().isEmpty() && !getIdName().isEmpty();
-    m_runtimeGenerator.setBuildTag(needsTag ? newBuildTag() : QString());
+    prepare(m_runtimeGenerator);
     m_runtimeGenerator.generate(this);
+}
+
+RuntimeGenerator Project::newRuntimeGenerator() const
+{
+    RuntimeGenerator generator;
+    prepare(generator);
+    return generator;
+}
+
+void Project::prepare(RuntimeGenerator &generator) const
+{
+    generator.setResourceFolder(imagesPath());
+    const bool needsTag = m_version->valueString().isEmpty() && !getIdName().isEmpty();
+    generator.setBuildTag(needsTag ? newBuildTag() : QString());
 }
 
 bool Project::hasElement(const QString &name) const

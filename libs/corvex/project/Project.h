@@ -14,6 +14,7 @@ class QAction;
 namespace Halvane::Corvex::Designer {
 
 class Configuration;
+class HistoryKeeper;
 class ImageResource;
 class ModelObserver;
 class ProjectAutosave;
@@ -111,8 +112,15 @@ public:
     bool upgradeToCurrentVersion();
 
     // Undo.
-    //! The history of edits, owned by the project.
+    //! The history of edits, owned by the project. It is another one after undoStackChanged().
     UndoStack *undoStack();
+    //! Puts another history in its place, whose commands lead on from the project as it is.
+    void setUndoStack(std::shared_ptr<UndoStack> stack);
+    //! The history, for those who put it back later.
+    std::shared_ptr<UndoStack> sharedUndoStack();
+    /*! Who keeps the histories that end with a save; null for nobody, who then are forgotten. Not owned: a
+       keeper leaves before it is destroyed. */
+    void setHistoryKeeper(HistoryKeeper *keeper) { m_historyKeeper = keeper; }
     //! Begins a new history: all that could be undone is forgotten.
     void createUndoStack();
     //! Tells userModified() when the command acts in this project.
@@ -137,6 +145,8 @@ public:
     //! Makes the folder that goes to the device; runtimeGenerator() tells where it is, or why there is none.
     void generateRuntimeFiles();
     RuntimeGenerator &runtimeGenerator() { return m_runtimeGenerator; }
+    //! Another one for a build of this project as it is now.
+    RuntimeGenerator newRuntimeGenerator() const;
 
     // Names.
     //! Whether an element of any screen bears that name.
@@ -155,6 +165,7 @@ public:
 signals:
     //! The user has edited the project: a command of its history was done or undone.
     void userModified();
+    void undoStackChanged();
 
 protected:
     explicit Project(QObject *parent = nullptr);
@@ -178,6 +189,8 @@ protected:
 
 private:
     QString newBuildTag() const;
+    void followUndoStack();
+    void prepare(RuntimeGenerator &generator) const;
     void onConfigurationPropertyChanged(const SharedProperty &property);
     void updateScreenSizes();
     void validateDefaultScreen();
@@ -197,7 +210,8 @@ private:
     mutable std::unique_ptr<QHash<QString, int>> m_elementNames;
     //! By stem: below this number all are those of variables and screens.
     mutable QHash<QString, int> m_firstFree;
-    UndoStack *m_undoStack = nullptr;
+    std::shared_ptr<UndoStack> m_undoStack;
+    HistoryKeeper *m_historyKeeper = nullptr;
     QAction *m_undoAction = nullptr;
     QAction *m_redoAction = nullptr;
     std::unique_ptr<ProjectAutosave> m_autosave;

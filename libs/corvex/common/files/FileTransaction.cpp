@@ -143,6 +143,11 @@ void FileTransaction::discard(const QString &key)
     }
 }
 
+QString FileTransaction::asidePath(const QString &key) const
+{
+    return m_journal->privatePath(key);
+}
+
 bool FileTransaction::remove(const QString &name)
 {
     if (!isThere(m_journal->pathOf(name))) {

@@ -45,6 +45,8 @@ public:
     QString keepAside(const QByteArray &bytes, QString *error = nullptr);
     bool bringBack(const QString &key, const QString &name);
     void discard(const QString &key);
+    //! Where the file of a key is meanwhile.
+    QString asidePath(const QString &key) const;
 
     //! Where the caller writes the file that commit() puts in its place; on the disk before it is called.
     QString draftPath() const;

@@ -394,4 +394,20 @@ void ModelCommand::cleanJunkFiles()
     }
 }
 
+bool ModelCommand::keepFiles(Common::FileStore &store, QString &error)
+{
+    return UndoCommand::keepFiles(store, error)
+           && (!m_plan || std::ranges::all_of(m_plan->steps, [&](const std::unique_ptr<EditStep> &step) {
+                  return step->keepFiles(store, error);
+              }));
+}
+
+bool ModelCommand::changesFiles() const
+{
+    return UndoCommand::changesFiles()
+           || (m_plan && std::ranges::any_of(m_plan->steps, [](const std::unique_ptr<EditStep> &step) {
+                   return step->changesFiles();
+               }));
+}
+
 } // namespace Halvane::Corvex::Designer

@@ -33,6 +33,8 @@ public:
     DesignerObject *activeItem() const override;
     QList<DesignerObject *> selectedItems() override;
     void cleanJunkFiles() override;
+    bool keepFiles(Common::FileStore &store, QString &error) override;
+    bool changesFiles() const override;
 
     //! Whether the command is done at the moment.
     bool isDone() const { return m_isDone; }

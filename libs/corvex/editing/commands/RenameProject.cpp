@@ -24,6 +24,7 @@ public:
     { }
 
     bool isPossible() const override { return m_project; }
+    bool changesFiles() const override { return m_project && !m_project->fullFilePath().isEmpty(); }
     bool redo(QString &error) override
     {
         const bool hasFile = !m_project->fullFilePath().isEmpty();

@@ -51,8 +51,8 @@ CanvasScene::CanvasScene(Screen *screen, QObject *parent)
         }
     }
     if (screen && screen->project()) {
-        const UndoStack *stack = screen->project()->undoStack();
-        connect(stack, &UndoStack::indexChanged, this, [this, stack] { followHistory(*stack); });
+        connect(screen->project(), &Project::undoStackChanged, this, &CanvasScene::connectHistory);
+        connectHistory();
     }
     addItem(m_outline);
     addItem(m_bounding);
@@ -353,6 +353,15 @@ void CanvasScene::onSelectionChanged()
 {
     m_selected.reset();
     outlineLater();
+}
+
+void CanvasScene::connectHistory()
+{
+    if (m_history) {
+        disconnect(m_history, nullptr, this, nullptr);
+    }
+    m_history = screen()->project()->undoStack();
+    connect(m_history, &UndoStack::indexChanged, this, [this] { followHistory(*m_history); });
 }
 
 void CanvasScene::followHistory(const UndoStack &stack)

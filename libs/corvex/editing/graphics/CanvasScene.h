@@ -69,9 +69,11 @@ private:
     void selectTouched(const QRectF &area);
     void onSelectionChanged();
     void outline();
+    void connectHistory();
     void followHistory(const UndoStack &stack);
 
     QPointer<DesignerObject> m_screen;
+    QPointer<UndoStack> m_history;
     std::optional<CanvasGesture> m_gesture;
     bool m_waitsForDrag = false; //!< the mouse has not moved far enough yet to mean it
     CropArea *m_crop = nullptr;

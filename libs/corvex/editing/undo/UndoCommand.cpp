@@ -163,6 +163,31 @@ void UndoCommand::cleanJunkFiles()
     }
 }
 
+bool UndoCommand::keepFiles(Common::FileStore &store, QString &error)
+{
+    bool isKept = true;
+    for (int i = 0; i < childCount() && isKept; ++i) {
+        auto *command = const_cast<UndoCommand *>(childCommand(i));
+        isKept = !command || command->keepFiles(store, error);
+    }
+    return isKept;
+}
+
+bool UndoCommand::changesFiles() const
+{
+    bool changes = false;
+    for (int i = 0; i < childCount() && !changes; ++i) {
+        const UndoCommand *command = childCommand(i);
+        changes = command && command->changesFiles();
+    }
+    return changes;
+}
+
+SharedProperty UndoCommand::soleProperty() const
+{
+    return {};
+}
+
 Screen *UndoCommand::screen() const
 {
     for (int i = 0; i < childCount(); ++i) {

@@ -6,6 +6,10 @@
 
 #include <QUndoCommand>
 
+namespace Halvane::Corvex::Common {
+class FileStore;
+} // namespace Halvane::Corvex::Common
+
 namespace Halvane::Corvex::Designer {
 
 class Project;
@@ -61,6 +65,15 @@ public:
     //! Deletes files that were left for an undo and that nothing in the project needs: before the history
     //! goes, once the project has been saved. A composite passes it on.
     virtual void cleanJunkFiles();
+    /*! The project is about to be saved and the command stays in the history: it copies what it would need to
+       be undone or redone, and the save would delete, into \a store. False, with a text for the user, when
+       that fails. A composite passes it on. */
+    virtual bool keepFiles(Common::FileStore &store, QString &error);
+    //! Whether the command changes files beside the model.
+    virtual bool changesFiles() const;
+    //! The property whose value is all that the command has changed; null for any other command. Of two such
+    //! commands in a row the later one alone decides what the value is.
+    virtual SharedProperty soleProperty() const;
     //! Why the command could not be done, for the user; empty when nobody knows. A composite answers by its
     //! first child that knows.
     virtual QString errorString() const;

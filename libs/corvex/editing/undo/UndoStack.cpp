@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/undo/UndoStack.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/editing/undo/UndoCommand.h"
+#include "corvex/editing/undo/private/Gesture.h"
 
 #include <QScopedValueRollback>
 
@@ -19,6 +21,26 @@ bool holds(const QUndoCommand *command, const QUndoCommand *sought)
     return isHere;
 }
 
+//! All commands of a step, which may be a macro.
+bool keepFilesOf(QUndoCommand *step, Common::FileStore &store, QString &error)
+{
+    if (auto *command = dynamic_cast<UndoCommand *>(step)) {
+        return !command->changesFiles() || command->keepFiles(store, error);
+    }
+    bool isKept = true;
+    for (int i = 0; i < step->childCount() && isKept; ++i) {
+        isKept = keepFilesOf(const_cast<QUndoCommand *>(step->child(i)), store, error);
+    }
+    return isKept;
+}
+
+//! What cannot be done, so that pushing it leaves nothing.
+class NoCommand : public QUndoCommand
+{
+public:
+    NoCommand() { setObsolete(true); }
+};
+
 } // namespace
 
 UndoStack::UndoStack(QObject *parent)
@@ -32,28 +54,127 @@ UndoStack::~UndoStack()
     // QUndoStack tells of index 0 while it goes.
     disconnect(this, &QUndoStack::indexChanged, this, &UndoStack::onIndexChanged);
     deleteCandidates();
+    m_gesture.reset();
     // The commands know this stack, and go before it is a mere QUndoStack.
     clear();
 }
 
 bool UndoStack::push(UndoCommand *command)
 {
+    m_errorString.clear();
+    if (m_gate && !m_gate(m_errorString)) {
+        delete command;
+        return false;
+    }
+    if (m_gesture) {
+        return collect(std::unique_ptr<UndoCommand>(command));
+    }
     m_failedMacro = nullptr; // It may be among the commands that this one replaces.
     DesignerObject *candidate = command->deletionCandidate();
-    m_errorString.clear();
     m_hasFailed = command->start() == UndoCommand::Start::Failed;
     if (m_hasFailed) {
         m_errorString = command->errorString();
         delete command;
         return false;
     }
+    addCandidate(candidate);
+    command->m_stack = this;
+    m_lastPushed = command;
+    emit aboutToPush();
+    QUndoStack::push(command);
+    return !m_hasFailed;
+}
+
+void UndoStack::addCandidate(DesignerObject *candidate)
+{
     if (candidate && !m_deletionCandidates.contains(candidate)) {
         m_deletionCandidates.append(candidate);
     }
-    command->m_stack = this;
-    m_lastPushed = command;
-    QUndoStack::push(command);
-    return !m_hasFailed;
+}
+
+bool UndoStack::collect(std::unique_ptr<UndoCommand> command)
+{
+    const QPointer<DesignerObject> candidate = command->deletionCandidate();
+    const UndoCommand::Start start = command->start();
+    if (start == UndoCommand::Start::Later) {
+        command->redo();
+    }
+    if (start == UndoCommand::Start::Failed || command->isObsolete()) {
+        m_errorString = command->errorString();
+        return false;
+    }
+    addCandidate(candidate);
+    m_gesture->add(std::move(command));
+    return true;
+}
+
+//! Whether it may move, or begin a gesture.
+bool UndoStack::isOpen()
+{
+    m_errorString.clear();
+    if (m_gesture) {
+        m_errorString = Common::LocalizationHelper::coreString(
+                            QStringLiteral("\"%1\" is not finished yet. Finish or cancel it first."))
+                            .arg(m_gesture->text());
+    }
+    return !m_gesture && (!m_gate || m_gate(m_errorString));
+}
+
+bool UndoStack::beginGesture(const QString &text)
+{
+    if (!isOpen()) {
+        return false;
+    }
+    m_gesture = std::make_unique<Gesture>(text);
+    return true;
+}
+
+bool UndoStack::hasChangedInGesture() const
+{
+    return m_gesture && !m_gesture->isEmpty();
+}
+
+bool UndoStack::commitGesture()
+{
+    const std::unique_ptr<Gesture> gesture = std::move(m_gesture);
+    if (std::unique_ptr<UndoCommand> command = gesture ? gesture->takeCommand() : nullptr) {
+        push(command.release());
+    }
+    return gesture != nullptr;
+}
+
+bool UndoStack::rollBackGesture()
+{
+    const std::unique_ptr<Gesture> gesture = std::move(m_gesture);
+    if (gesture) {
+        gesture->rollBack();
+    }
+    return gesture != nullptr;
+}
+
+void UndoStack::dropRedo()
+{
+    if (canRedo()) {
+        QUndoStack::push(new NoCommand);
+        emit canRedoChanged(false);
+        emit redoTextChanged(redoText());
+    }
+}
+
+void UndoStack::setStartSaved(bool isSaved)
+{
+    const bool wasSaved = this->isSaved();
+    m_isStartSaved = isSaved;
+    if (wasSaved != this->isSaved()) {
+        emit savedChanged(!wasSaved);
+    }
+}
+
+void UndoStack::undo()
+{
+    if (isOpen()) {
+        QUndoStack::undo();
+    }
 }
 
 void UndoStack::redo()
@@ -65,8 +186,10 @@ void UndoStack::redo()
 
 void UndoStack::setIndex(int index)
 {
+    if (!isOpen()) {
+        return;
+    }
     m_hasFailed = false;
-    m_errorString.clear();
     const int before = this->index();
     {
         const QScopedValueRollback<bool> isMoving(m_isMoving, true);
@@ -126,6 +249,8 @@ void UndoStack::startOver()
     deleteCandidates();
     const bool wasSaved = isSaved();
     m_failedMacro = nullptr;
+    m_gesture.reset();
+    m_isStartSaved = true;
     clear();
     m_previousIndex = 0;
     if (wasSaved) {
@@ -157,6 +282,15 @@ void UndoStack::cleanJunkFiles()
             known->cleanJunkFiles();
         }
     }
+}
+
+bool UndoStack::keepFiles(Common::FileStore &store, QString &error)
+{
+    bool isKept = true;
+    for (int i = 0; i < count() && isKept; ++i) {
+        isKept = keepFilesOf(const_cast<QUndoCommand *>(command(i)), store, error);
+    }
+    return isKept;
 }
 
 const UndoCommand *UndoStack::decidingCommand(int index) const
@@ -192,9 +326,9 @@ void UndoStack::onIndexChanged(int index)
     if (!m_isActiveItemSignalBlocked) {
         emit activeItemChanged(m_activeItem);
     }
-    if (index == 0) {
+    if (m_isStartSaved && index == 0) {
         emit savedChanged(true);
-    } else if (m_previousIndex == 0) {
+    } else if (m_isStartSaved && m_previousIndex == 0) {
         emit savedChanged(false);
     }
     // A macro is one of Qt's own commands, and answers by its first child.

@@ -7,9 +7,17 @@
 #include <QPointer>
 #include <QUndoStack>
 
+#include <functional>
+#include <memory>
+
+namespace Halvane::Corvex::Common {
+class FileStore;
+} // namespace Halvane::Corvex::Common
+
 namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
+class Gesture;
 class UndoCommand;
 
 /*! The history of a project's edits, without a limit.
@@ -37,6 +45,29 @@ public:
     void startOver();
     //! Has all commands delete the files that only an undo would need.
     void cleanJunkFiles();
+    //! Has all commands keep them elsewhere instead, see UndoCommand::keepFiles().
+    bool keepFiles(Common::FileStore &store, QString &error);
+    //! Asked before each push and each move. When it is false nothing happens, and the text says why.
+    using Gate = std::function<bool(QString &reason)>;
+    void setGate(Gate gate) { m_gate = std::move(gate); }
+    //! Whether the history can move now, and a gesture can begin; errorString() says why not.
+    bool isOpen();
+    //! Forgets what could be redone.
+    void dropRedo();
+    //! Whether index 0 is saved: a history before the last save begins with something else.
+    void setStartSaved(bool isSaved);
+
+    /*! What is pushed from here on is done at once and becomes one step of that name with commitGesture().
+       Until then the history stays as it is and cannot move. False, with an error, while another gesture goes
+       on. */
+    bool beginGesture(const QString &text);
+    bool hasGesture() const { return m_gesture != nullptr; }
+    //! Whether the gesture that goes on has changed anything.
+    bool hasChangedInGesture() const;
+    //! False when there is no gesture. One that changed nothing leaves no step.
+    bool commitGesture();
+    //! Model and history are as they were before the gesture. False when there is none.
+    bool rollBackGesture();
     //! Deletes the objects that commands named for it, except those that are back in the model.
     void deleteCandidates();
     //! While blocked, moves are followed without a word.
@@ -44,7 +75,7 @@ public:
 
     int previousIndex() const { return m_previousIndex; }
     int currentIndex() const { return m_currentIndex; }
-    bool isSaved() const { return m_currentIndex == 0; }
+    bool isSaved() const { return m_currentIndex == 0 && m_isStartSaved; }
     //! Whether the last move went back, or forth.
     bool isUndoToCurrentIndex() const { return m_previousIndex > m_currentIndex; }
     bool isRedoToCurrentIndex() const { return m_previousIndex < m_currentIndex; }
@@ -56,7 +87,9 @@ public:
 
 public slots:
     /*! As QUndoStack does, but when a command cannot be done again, it and all that follow are dropped: they
-       were built upon it. A macro that holds the command is taken back as a whole. */
+       were built upon it. A macro that holds the command is taken back as a whole. Nothing moves while a
+       gesture goes on, and errorString() says so. */
+    void undo();
     void redo();
     void setIndex(int index);
 
@@ -65,10 +98,14 @@ signals:
     void savedChanged(bool saved);
     //! A command was done or undone; of several, the last. Not emitted when a new history begins.
     void moved(const Halvane::Corvex::Designer::UndoCommand *command);
+    //! A command is about to be taken over: what could be redone goes.
+    void aboutToPush();
 
 private:
     friend class UndoCommand;
 
+    bool collect(std::unique_ptr<UndoCommand> command);
+    void addCandidate(DesignerObject *candidate);
     void commandFailed(const UndoCommand *command);
     bool takeBackFailedMacro();
     void commandGone(const UndoCommand *command);
@@ -83,6 +120,9 @@ private:
     int m_previousIndex = 0;
     int m_currentIndex = 0;
     bool m_hasFailed = false;
+    std::unique_ptr<Gesture> m_gesture;
+    Gate m_gate;
+    bool m_isStartSaved = true;
     bool m_isMoving = false;
     bool m_isDeleteScreen = false;
     bool m_isDeleteImage = false;

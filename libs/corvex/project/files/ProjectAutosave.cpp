@@ -77,7 +77,7 @@ void ProjectAutosave::startOver()
 bool ProjectAutosave::run()
 {
     const QString archive = m_project->autosavePath();
-    if (m_isRunning || archive.isEmpty() || checkStackIsSame()) {
+    if (m_isRunning || m_isPaused || archive.isEmpty() || checkStackIsSame()) {
         return false;
     }
     m_isRunning = true;

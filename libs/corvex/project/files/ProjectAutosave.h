@@ -49,6 +49,8 @@ public:
        begun; what became of it is told by finished(), which also tells why one could not begin. */
     bool run();
     bool isRunning() const { return m_isRunning; }
+    //! Nothing is saved while it is paused: the file of before is still needed.
+    void setPaused(bool isPaused) { m_isPaused = isPaused; }
     //! Whether the undo history stands where it stood when the project was autosaved, loaded or saved last,
     //! and has not been elsewhere in between.
     bool checkStackIsSame() const;
@@ -86,6 +88,7 @@ private:
     HistoryState m_saved;
     HistoryState m_beingSaved;
     bool m_isRunning = false;
+    bool m_isPaused = false;
     QString m_archive;
     std::unique_ptr<Common::TemporaryFolder> m_staging;
     std::unique_ptr<ZipWorker> m_worker;

@@ -6,10 +6,12 @@
 #include "corvex/common/files/SafeFile.h"
 #include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/core/ModelObserver.h"
+#include "corvex/editing/undo/HistoryKeeper.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/files/FileNameRules.h"
+#include "corvex/project/files/ProjectAutosave.h"
 #include "corvex/values/records/ObjectLinkInfo.h"
 
 #include <QDir>
@@ -118,13 +120,24 @@ bool Project::saveFile()
         changePropertyValue(m_designerVersion, oldDesignerVersion);
         return false;
     }
-    createUndoStack();
+    if (m_historyKeeper) {
+        setUndoStack(m_historyKeeper->historyAfterSave());
+        m_autosave->startOver();
+    } else {
+        createUndoStack();
+    }
     return true;
 }
 
 bool Project::writeAgain(QString *error)
 {
-    const auto clean = [this] { undoStack()->cleanJunkFiles(); };
+    const auto clean = [this] {
+        if (m_historyKeeper) {
+            m_historyKeeper->aboutToSave();
+        } else {
+            undoStack()->cleanJunkFiles();
+        }
+    };
     const auto write = [this](const QString &path, QString *reason) {
         return saveToFile(this, path, reason);
     };

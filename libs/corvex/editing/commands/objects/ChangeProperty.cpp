@@ -221,4 +221,10 @@ void ChangeProperty::appendOwnChanges(QList<ValueChange> &changes) const
     }
 }
 
+SharedProperty ChangeProperty::soleProperty() const
+{
+    return isDone() && property()->id() != "id"_L1 && valueChanges().size() == 1 ? property()
+                                                                                 : SharedProperty();
+}
+
 } // namespace Halvane::Corvex::Designer

@@ -21,6 +21,7 @@ public:
 
     bool isValid() const override;
     QString errorString() const override;
+    SharedProperty soleProperty() const override;
 
     const QString &oldValue() const { return m_before; }
     const QString &newValue() const { return m_after; }

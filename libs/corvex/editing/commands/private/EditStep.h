@@ -7,6 +7,10 @@
 
 #include <QPointer>
 
+namespace Halvane::Corvex::Common {
+class FileStore;
+} // namespace Halvane::Corvex::Common
+
 namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
@@ -29,6 +33,9 @@ public:
     virtual SharedProperty property() const { return {}; }
     //! Deletes files that were left for an undo and that no image of the project needs.
     virtual void cleanJunkFiles() { }
+    //! See UndoCommand.
+    virtual bool changesFiles() const { return false; }
+    virtual bool keepFiles(Common::FileStore &, QString &) { return true; }
 };
 
 class SetValueStep : public EditStep

@@ -95,6 +95,12 @@ void FileStep::lookAgain(const QString &name) const
     }
 }
 
+FileStep::Stored FileStep::store(const QString &key, Common::FileStore &files, QString &error) const
+{
+    const Common::FileTransaction *changes = m_project ? m_project->fileChanges() : nullptr;
+    return changes ? files.keep(changes->asidePath(key), &error) : nullptr;
+}
+
 PlaceFileStep::~PlaceFileStep()
 {
     if (!m_isDone) {
@@ -104,6 +110,9 @@ PlaceFileStep::~PlaceFileStep()
 
 bool PlaceFileStep::readSource(QByteArray &bytes, QString &error) const
 {
+    if (m_stored) {
+        return m_stored->read(&bytes, &error);
+    }
     bytes = m_bytes;
     return m_source.isEmpty() || readFile(m_source, bytes, error);
 }
@@ -139,7 +148,56 @@ bool PlaceFileStep::place(Common::FileTransaction &files, QString &error)
         return isSame;
     }
     m_isMade = files.place(inFolder(name()), bytes, &error);
+    if (m_isMade) {
+        m_stored.reset();
+    }
     return m_isMade;
+}
+
+bool PlaceFileStep::keepFiles(Common::FileStore &store, QString &error)
+{
+    if (m_key.isEmpty()) {
+        return true;
+    }
+    m_stored = FileStep::store(m_key, store, error);
+    if (m_stored) {
+        m_key.clear();
+        m_isMade = false;
+    }
+    return m_stored != nullptr;
+}
+
+bool LeaveFileStep::redo(QString &)
+{
+    m_isDone = true;
+    return true;
+}
+
+void LeaveFileStep::undo()
+{
+    m_isDone = false;
+    QByteArray bytes;
+    QString error;
+    if (!m_stored || isThere(path()) || !m_stored->read(&bytes, &error)) {
+        return;
+    }
+    Common::FileTransaction *files = changes(error);
+    if (files && files->place(inFolder(name()), bytes, &error)) {
+        m_stored.reset();
+        lookAgain(name());
+    }
+}
+
+bool LeaveFileStep::keepFiles(Common::FileStore &store, QString &error)
+{
+    if (!m_isDone || isUsed(name()) || !isThere(path())) {
+        return true;
+    }
+    m_stored = store.keep(path(), &error);
+    if (m_stored) {
+        removeUnused(name());
+    }
+    return m_stored != nullptr;
 }
 
 void PlaceFileStep::undo()
@@ -193,6 +251,14 @@ bool ReplaceFileStep::exchange(QString &error)
     if (!files) {
         return false;
     }
+    if (m_stored) {
+        QByteArray bytes;
+        m_key = m_stored->read(&bytes, &error) ? files->keepAside(bytes, &error) : QString();
+        if (m_key.isEmpty()) {
+            return false;
+        }
+        m_stored.reset();
+    }
     const bool hasOld = isThere(path());
     const QString old = hasOld ? files->setAside(inFolder(name())) : QString();
     if (hasOld && old.isEmpty()) {
@@ -212,7 +278,7 @@ bool ReplaceFileStep::exchange(QString &error)
 
 bool ReplaceFileStep::redo(QString &error)
 {
-    if (m_key.isEmpty()) {
+    if (m_key.isEmpty() && !m_stored) {
         QByteArray bytes;
         Common::FileTransaction *files = readFile(m_source, bytes, error) ? changes(error) : nullptr;
         m_key = files ? files->keepAside(bytes, &error) : QString();
@@ -232,6 +298,18 @@ void ReplaceFileStep::undo()
     QString error;
     exchange(error);
     m_isDone = false;
+}
+
+bool ReplaceFileStep::keepFiles(Common::FileStore &store, QString &error)
+{
+    if (m_key.isEmpty()) {
+        return true;
+    }
+    m_stored = FileStep::store(m_key, store, error);
+    if (m_stored) {
+        m_key.clear();
+    }
+    return m_stored != nullptr;
 }
 
 void ReplaceFileStep::cleanJunkFiles()

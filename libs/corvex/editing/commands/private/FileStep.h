@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/files/FileStore.h"
 #include "corvex/common/files/FileTransaction.h"
 #include "corvex/editing/commands/private/EditStep.h"
 
@@ -19,9 +20,13 @@ public:
     FileStep(Project *project, const QString &name);
 
     bool isPossible() const override { return m_project; }
+    bool changesFiles() const override { return m_project; }
 
 protected:
     Project *project() const { return m_project; }
+    using Stored = std::unique_ptr<Common::StoredFile>;
+    //! Copies a file that was set aside, since it goes with the save. Null, with an error, when that fails.
+    Stored store(const QString &key, Common::FileStore &files, QString &error) const;
     const QString &name() const { return m_name; }
     QString path() const { return pathOf(m_name); }
     QString pathOf(const QString &name) const;
@@ -61,6 +66,7 @@ public:
     bool redo(QString &error) override;
     void undo() override;
     void cleanJunkFiles() override;
+    bool keepFiles(Common::FileStore &store, QString &error) override;
 
 private:
     bool readSource(QByteArray &bytes, QString &error) const;
@@ -70,6 +76,7 @@ private:
     QString m_source;
     QByteArray m_bytes;
     QString m_key;         //!< of the file that is set aside while the step is undone
+    Stored m_stored;       //!< the same, when the project has been saved since
     bool m_isMade = false; //!< by this step, so that it may be removed again
     bool m_isDone = false;
 };
@@ -80,9 +87,14 @@ class LeaveFileStep : public FileStep
 public:
     using FileStep::FileStep;
 
-    bool redo(QString &) override { return true; }
-    void undo() override { }
+    bool redo(QString &error) override;
+    void undo() override;
     void cleanJunkFiles() override { removeUnused(name()); }
+    bool keepFiles(Common::FileStore &store, QString &error) override;
+
+private:
+    Stored m_stored; //!< the file, once it went with a save
+    bool m_isDone = false;
 };
 
 //! Renames a file, by way of a third name, so that names that differ in the case of letters alone will do.
@@ -116,12 +128,14 @@ public:
     bool redo(QString &error) override;
     void undo() override;
     void cleanJunkFiles() override;
+    bool keepFiles(Common::FileStore &store, QString &error) override;
 
 private:
     bool exchange(QString &error);
 
     QString m_source;
-    QString m_key; //!< of the file with the contents that are not shown; empty before the first redo
+    QString m_key;   //!< of the file with the contents that are not shown; empty before the first redo
+    Stored m_stored; //!< the same, when the project has been saved since
     bool m_isDone = false;
 };
 

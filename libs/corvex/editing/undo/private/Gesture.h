@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/undo/UndoCommand.h"
+
+#include <QHash>
+
+#include <list>
+
+namespace Halvane::Corvex::Designer {
+
+/*! The commands of one gesture, done one by one while it goes on, and undone and redone as one step after
+   that.
+
+    A gesture may set one value hundreds of times. Of commands that do nothing else, only the first and the
+   last for each property are kept: the one knows the value before, the other the value after. */
+class Gesture
+{
+public:
+    using Commands = std::list<std::unique_ptr<UndoCommand>>;
+
+    explicit Gesture(const QString &text)
+        : m_text(text)
+    { }
+
+    //! Takes over a command that was done.
+    void add(std::unique_ptr<UndoCommand> command);
+    const QString &text() const { return m_text; }
+    bool isEmpty() const { return m_commands.empty(); }
+    //! Undoes all commands.
+    void rollBack();
+    //! All commands as one, which is done; null when there are none.
+    std::unique_ptr<UndoCommand> takeCommand();
+
+private:
+    struct Run
+    {
+        Commands::iterator last;
+        bool hasEarlier = false; //!< than the last
+    };
+
+    QString m_text;
+    Commands m_commands;
+    QHash<const DesignerProperty *, Run>
+        m_runs; //!< since the last command that did more than to set one value
+};
+
+} // namespace Halvane::Corvex::Designer
