@@ -3,9 +3,11 @@
 // must hold together; from the last one the history must lead back to the first byte and forth to the last.
 //
 // CORVEX_MODEL_STEPS and CORVEX_MODEL_SEED make longer and other runs; scripts/soak sets them.
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/properties/LinkProperty.h"
+#include "corvex/document/ProjectHistory.h"
 #include "corvex/editing/commands/ChangeConfiguration.h"
 #include "corvex/editing/commands/RenameProject.h"
 #include "corvex/editing/commands/groups/GroupCommand.h"
@@ -500,6 +502,98 @@ TEST_F(ModelTest, SoDoThoseWithHostileNames)
 {
     hasHostileNames = true;
     edit();
+}
+
+//! The row of all states that a history leads through, kept beside it as texts.
+class HistoryTest : public ModelTest
+{
+protected:
+    //! The project, and what the files of its images hold.
+    QString state() const
+    {
+        QString all = text();
+        for (const QString &name : project->imageResources()->listItemNames()) {
+            all +=
+                u"\n%1: %2"_s.arg(name, Common::FileHelper::md5(QDir(project->imagesPath()).filePath(name)));
+        }
+        return all;
+    }
+    void push(ProjectHistory &history)
+    {
+        std::unique_ptr<UndoCommand> command{anyCommand()};
+        if (command && command->isValid() && project->undoStack()->push(command.release())) {
+            note(history);
+        }
+    }
+    //! A step was pushed.
+    void note(const ProjectHistory &history)
+    {
+        states.resize(position + 1);
+        states.append(state());
+        saved = saved > position ? -1 : saved;
+        position = history.position();
+    }
+    void gesture(ProjectHistory &history)
+    {
+        UndoStack *stack = project->undoStack();
+        ASSERT_TRUE(stack->beginGesture(u"Gesture"_s));
+        for (int i = random.below(8); i > 0; --i) {
+            if (std::unique_ptr<UndoCommand> command{anyCommand()}; command && command->isValid()) {
+                stack->push(command.release());
+            }
+        }
+        const bool hasChanged = stack->hasChangedInGesture();
+        if (random.chance(40)) {
+            ASSERT_TRUE(stack->rollBackGesture());
+        } else if (stack->commitGesture() && hasChanged) {
+            note(history);
+        }
+    }
+    void save(const ProjectHistory &history)
+    {
+        ASSERT_TRUE(project->saveFile()) << qPrintable(project->fileError());
+        saved = history.position();
+    }
+    void check(const ProjectHistory &history) const
+    {
+        ASSERT_EQ(history.position(), position);
+        ASSERT_EQ(history.count(), states.size() - 1);
+        ASSERT_EQ(history.savedPosition(), saved);
+        ASSERT_EQ(project->undoStack()->isSaved(), position == saved);
+        ASSERT_EQ(history.canUndo(), position > 0);
+        ASSERT_EQ(history.canRedo(), position < states.size() - 1);
+        ASSERT_EQ(difference(state(), states.at(position)), QString());
+    }
+
+    QStringList states;
+    int position = 0;
+    int saved = 0;
+};
+
+TEST_F(HistoryTest, UndoAndRedoLeadAcrossSaves)
+{
+    ProjectHistory history(*project);
+    states = {state()};
+    const int steps = setting("CORVEX_MODEL_STEPS", 1000) / 2;
+    for (int step = 0; step < steps; ++step) {
+        SCOPED_TRACE(testing::Message() << "seed " << seed << ", step " << step);
+        const int kind = random.below(100);
+        if (kind < 25) {
+            position = std::clamp(position + random.between(-9, 8), 0, int(states.size()) - 1);
+            ASSERT_TRUE(history.goTo(position)) << qPrintable(history.errorString());
+        } else if (kind < 37) {
+            ASSERT_NO_FATAL_FAILURE(save(history));
+        } else if (kind < 50) {
+            ASSERT_NO_FATAL_FAILURE(gesture(history));
+        } else {
+            push(history);
+        }
+        ASSERT_NO_FATAL_FAILURE(check(history));
+    }
+    for (position = int(states.size()) - 1; position >= 0; position -= 7) {
+        ASSERT_TRUE(history.goTo(position)) << qPrintable(history.errorString());
+        ASSERT_NO_FATAL_FAILURE(check(history));
+    }
 }
 
 } // namespace Halvane::Corvex::Designer::Test

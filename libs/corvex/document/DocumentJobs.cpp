@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+// The jobs of ProjectDocument, and what it takes to run beside them.
+#include "corvex/checks/ProjectProblems.h"
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/document/ProjectDocument.h"
+#include "corvex/editing/undo/UndoStack.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/files/ProjectAutosave.h"
+
+#include <QFileInfo>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Common::LocalizationHelper;
+using Common::Progress;
+
+//! An edit that a person types may take long; a script does not.
+constexpr int longestWait = 30'000; // milliseconds
+constexpr int pauseOfWaiting = 100; // milliseconds
+
+bool lock(Project &project, const QString &path, ProjectDocument::Access access, Progress &progress)
+{
+    using Kind = Common::FolderLock::Kind;
+    progress.begin(LocalizationHelper::coreString(u"Waiting for others that work on %1"_s)
+                       .arg(QFileInfo(path).fileName()));
+    bool isLocked = false;
+    for (int waited = 0; !isLocked && !progress.isCancelled() && waited < longestWait;
+         waited += pauseOfWaiting) {
+        isLocked = project.lockFiles(
+            path, access == ProjectDocument::Access::Alone ? Kind::Exclusive : Kind::Shared, pauseOfWaiting);
+    }
+    return isLocked;
+}
+
+//! In the thread that has the project so far.
+void handOver(Project &project, QThread *thread)
+{
+    project.moveToThread(thread);
+    project.undoStack()->moveToThread(thread);
+    project.autosave().moveToThread(thread);
+}
+
+} // namespace
+
+std::unique_ptr<ProjectDocument::LoadJob> ProjectDocument::load(const QString &path, Access access)
+{
+    auto job = std::make_unique<LoadJob>();
+    job->startInThread([path, access, thread = QThread::currentThread()](
+                           Progress &progress, QString &error) -> std::optional<std::unique_ptr<Project>> {
+        const DesignerFactory *factory = DesignerFactory::instance();
+        std::unique_ptr<Project> project(
+            factory ? static_cast<Project *>(factory->createUnowned(Project::kindName())) : nullptr);
+        if (!project) {
+            error = LocalizationHelper::coreString(u"No project can be made."_s);
+            return {};
+        }
+        project->setProgress(&progress);
+        if (!lock(*project, path, access, progress) || !project->loadFile(path)) {
+            error = project->fileError();
+            return {};
+        }
+        project->setProgress(nullptr);
+        if (access == Access::Shared) {
+            project->closeFiles();
+        }
+        handOver(*project, thread);
+        return project;
+    });
+    return job;
+}
+
+//! Whether the project may be changed, which ends what an edit ends.
+bool ProjectDocument::isFree(QString &reason)
+{
+    m_readers.removeIf([](const Reader &reader) { return !reader.job || !reader.job->isRunning(); });
+    for (const Reader &reader : std::as_const(m_readers)) {
+        if (reader.onEdit == OnEdit::RefuseEdit) {
+            reason = LocalizationHelper::coreString(
+                u"The project is being built. Wait for the end, or cancel the build."_s);
+            return false;
+        }
+    }
+    for (const Reader &reader : std::as_const(m_readers)) {
+        reader.job->cancel();
+        reader.job->wait();
+    }
+    return true;
+}
+
+//! A gesture is not interrupted to look at what it has done so far.
+bool ProjectDocument::mayRead()
+{
+    return result(
+        !m_project->undoStack()->hasGesture(),
+        LocalizationHelper::coreString(u"An edit is not finished yet. Finish or cancel it first."_s));
+}
+
+void ProjectDocument::addReader(Common::Job *job, OnEdit onEdit)
+{
+    m_readers.append({job, onEdit});
+}
+
+std::unique_ptr<ProjectDocument::CheckJob> ProjectDocument::check(const ConfigurationContainer &models)
+{
+    if (!mayRead()) {
+        return nullptr;
+    }
+    auto job = std::make_unique<CheckJob>();
+    addReader(job.get(), OnEdit::CancelJob);
+    job->startInThread([project = m_project.get(), &models](Progress &progress, QString &) {
+        return std::optional(ProjectProblems::find(*project, models, &progress));
+    });
+    return job;
+}
+
+std::unique_ptr<ProjectDocument::BuildJob> ProjectDocument::build()
+{
+    if (!mayRead()) {
+        return nullptr;
+    }
+    auto job = std::make_unique<BuildJob>();
+    addReader(job.get(), OnEdit::RefuseEdit);
+    job->startInThread([generator = m_project->newRuntimeGenerator(), project = m_project.get()](
+                           Progress &progress, QString &error) mutable -> std::optional<BuildFolder> {
+        generator.setProgress(&progress);
+        // What else lies beside the images is the user's own and not for the device.
+        generator.setResourceNames(project->imageResources()->listItemNames());
+        if (!generator.generate(project)) {
+            error = generator.errorString();
+            return {};
+        }
+        return BuildFolder(new QString(generator.buildFolder()), [](const QString *folder) {
+            RuntimeGenerator::removeBuild(*folder);
+            delete folder;
+        });
+    });
+    return job;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+// What ProjectDocument does about the autosave file that a crash has left.
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileTransaction.h"
+#include "corvex/common/files/TemporaryFolder.h"
+#include "corvex/common/zip/ZipHelper.h"
+#include "corvex/document/ProjectDocument.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/files/ProjectAutosave.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
+
+QString ProjectDocument::recoveryNote() const
+{
+    return m_project->recoveryNote();
+}
+
+bool ProjectDocument::discardRecovery()
+{
+    if (!m_hasRecovery) {
+        return result(false, LocalizationHelper::coreString(u"There is no autosave file of this project."_s));
+    }
+    removeAutosave();
+    return result(true, {});
+}
+
+bool ProjectDocument::recover()
+{
+    QString error;
+    if (!m_hasRecovery) {
+        return result(false, LocalizationHelper::coreString(u"There is no autosave file of this project."_s));
+    }
+    if (!isFree(error)) {
+        return result(false, error);
+    }
+    const Common::TemporaryFolder folder(u"corvex-recovery"_s);
+    if (!folder.isValid()) {
+        return result(false, folder.errorString());
+    }
+    if (!Common::ZipHelper::unzip(m_project->autosavePath(), folder.path(), &error)) {
+        return result(false, error);
+    }
+    const QString path = m_project->fullFilePath();
+    const QString parent = m_project->parentPath();
+    const QString sub = m_project->subPath();
+    const QString file = m_project->fileName();
+    select({});
+    if (!m_project->loadFile(folder.filePath(file))) {
+        error = m_project->fileError();
+        m_project->loadFile(path);
+        return result(false, error);
+    }
+    m_project->setFileFields(parent, sub, file);
+    if (!takeRecoveredImages(folder.path())) {
+        error = m_error;
+        m_project->loadFile(path);
+        return result(false, error);
+    }
+    m_project->setFileFields(parent, sub, file); // the images look at their files again
+    m_project->undoStack()->setStartSaved(false);
+    m_isComplete = true;
+    m_hasRecovery = false;
+    m_project->autosave().setPaused(false);
+    onHistoryChanged();
+    return result(true, {});
+}
+
+//! Brings the images of the archive into the folder of the project, until the next save as a change that can
+//! be taken back.
+bool ProjectDocument::takeRecoveredImages(const QString &folder)
+{
+    const QDir images(QDir(folder).filePath(QFileInfo(m_project->imagesPath()).fileName()));
+    for (const QString &name : images.entryList(QDir::Files)) {
+        QFile recovered(images.filePath(name));
+        QFile present(QDir(m_project->imagesPath()).filePath(name));
+        QString error;
+        const QByteArray bytes = recovered.open(QIODevice::ReadOnly) ? recovered.readAll() : QByteArray();
+        if (recovered.error() != QFileDevice::NoError) {
+            return result(false, recovered.errorString());
+        }
+        if (present.open(QIODevice::ReadOnly) && present.readAll() == bytes) {
+            continue;
+        }
+        const QString inFolder = QDir(m_project->folderPath()).relativeFilePath(present.fileName());
+        Common::FileTransaction *files = m_project->beginFileChanges(&error);
+        if (!files || (present.exists() && files->setAside(inFolder).isEmpty())
+            || !files->place(inFolder, bytes, &error)) {
+            return result(false, error);
+        }
+    }
+    return true;
+}
+
+} // namespace Halvane::Corvex::Designer

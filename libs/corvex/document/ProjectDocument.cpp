@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/document/ProjectDocument.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileTransaction.h"
+#include "corvex/document/private/FileWatch.h"
+#include "corvex/editing/undo/UndoCommand.h"
+#include "corvex/project/Project.h"
+#include "corvex/project/files/ProjectAutosave.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Common::LocalizationHelper;
+
+bool losesParts(const Project &project)
+{
+    return std::ranges::any_of(project.readNotes(),
+                               [](const ReadNote &note) { return note.kind == ReadNote::Dropped; });
+}
+
+} // namespace
+
+ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *parent)
+    : QObject(parent)
+    , m_project(std::move(project))
+    , m_history(std::make_unique<ProjectHistory>(*m_project))
+    , m_watch(std::make_unique<FileWatch>())
+    , m_isComplete(!losesParts(*m_project))
+{
+    m_history->setGate([this](QString &reason) { return isFree(reason); });
+    connect(m_history.get(), &ProjectHistory::changed, this, &ProjectDocument::onHistoryChanged);
+    connect(m_history.get(), &ProjectHistory::moved, this, [this](const UndoCommand *command) {
+        // A command does not change when it is asked what to select.
+        if (const auto items = const_cast<UndoCommand *>(command)->selectedItems(); !items.isEmpty()) {
+            select(items);
+        }
+    });
+    connect(m_watch.get(), &FileWatch::changed, this, &ProjectDocument::changedByOthers);
+    connect(&m_project->autosave(), &ProjectAutosave::finished, this, [this] {
+        if (!isModified()) {
+            removeAutosave(); // the project was saved meanwhile
+        }
+    });
+    m_watch->watch(m_project->fullFilePath());
+    m_watch->accept();
+    m_wasModified = isModified();
+    const QFileInfo autosaved(m_project->autosavePath());
+    m_hasRecovery =
+        autosaved.isFile() && autosaved.lastModified() >= QFileInfo(m_project->fullFilePath()).lastModified();
+    m_project->autosave().setPaused(m_hasRecovery);
+}
+
+ProjectDocument::~ProjectDocument()
+{
+    for (const Reader &reader : std::as_const(m_readers)) {
+        if (reader.job) {
+            reader.job->cancel();
+            reader.job->wait();
+        }
+    }
+    m_history.reset();
+    const QString archive = m_project->autosavePath();
+    m_project.reset(); // ends a run of the autosave
+    if (!m_hasRecovery && !archive.isEmpty()) {
+        QFile::remove(archive);
+    }
+}
+
+bool ProjectDocument::result(bool isDone, const QString &error)
+{
+    m_error = isDone ? QString() : error;
+    return isDone;
+}
+
+bool ProjectDocument::push(UndoCommand *command)
+{
+    if (!command->isValid()) {
+        const std::unique_ptr<UndoCommand> refused(command);
+        return result(false, refused->errorString());
+    }
+    UndoStack *stack = m_project->undoStack();
+    const bool isDone = stack->push(command);
+    updateModified();
+    return result(isDone, stack->errorString());
+}
+
+bool ProjectDocument::undo()
+{
+    return result(m_history->undo(), m_history->errorString());
+}
+
+bool ProjectDocument::redo()
+{
+    return result(m_history->redo(), m_history->errorString());
+}
+
+bool ProjectDocument::beginGesture(const QString &text)
+{
+    UndoStack *stack = m_project->undoStack();
+    const bool isBegun = stack->beginGesture(text);
+    return result(isBegun, stack->errorString());
+}
+
+bool ProjectDocument::commitGesture()
+{
+    UndoStack *stack = m_project->undoStack();
+    const bool isDone = stack->commitGesture();
+    updateModified();
+    return result(isDone, LocalizationHelper::coreString(u"There is no gesture to finish."_s));
+}
+
+bool ProjectDocument::rollBackGesture()
+{
+    UndoStack *stack = m_project->undoStack();
+    const bool isDone = stack->rollBackGesture();
+    dropFromSelection();
+    updateModified();
+    return result(isDone, LocalizationHelper::coreString(u"There is no gesture to cancel."_s));
+}
+
+bool ProjectDocument::isModified() const
+{
+    const UndoStack *stack = m_project->undoStack();
+    return !stack->isSaved() || stack->hasChangedInGesture();
+}
+
+void ProjectDocument::updateModified()
+{
+    if (const bool isNow = isModified(); isNow != m_wasModified) {
+        m_wasModified = isNow;
+        emit modifiedChanged(isNow);
+    }
+}
+
+void ProjectDocument::onHistoryChanged()
+{
+    // Another name of the project moves its folder.
+    if (m_watch->path() != m_project->fullFilePath()) {
+        m_watch->watch(m_project->fullFilePath());
+    }
+    dropFromSelection();
+    updateModified();
+}
+
+//! Whether a save replaces nothing that the user does not know of.
+bool ProjectDocument::canOverwrite()
+{
+    const QString file = QDir::toNativeSeparators(m_project->fullFilePath());
+    if (m_watch->isChanged()) {
+        return result(false, LocalizationHelper::coreString(
+                                 u"\"%1\" has been written by another program since it was opened. Open it "
+                                 "again, or save over it."_s)
+                                 .arg(file));
+    }
+    return result(m_isComplete,
+                  LocalizationHelper::coreString(
+                      u"\"%1\" holds parts that this version does not know and would lose. Save "
+                      "over it if nobody needs them."_s)
+                      .arg(file));
+}
+
+bool ProjectDocument::save(Overwrite overwrite)
+{
+    UndoStack *stack = m_project->undoStack();
+    if (!stack->isOpen()) {
+        return result(false, stack->errorString());
+    }
+    if (overwrite == Overwrite::Never && !canOverwrite()) {
+        return false;
+    }
+    if (!m_project->saveFile()) {
+        return result(false, m_project->fileError());
+    }
+    m_isComplete = true;
+    m_watch->watch(m_project->fullFilePath());
+    m_watch->accept();
+    removeAutosave();
+    updateModified();
+    return result(true, {});
+}
+
+bool ProjectDocument::reload()
+{
+    QString reason;
+    if (!isFree(reason)) {
+        return result(false, reason);
+    }
+    select({});
+    const bool isLoaded = m_project->loadFile(m_project->fullFilePath());
+    m_isComplete = !losesParts(*m_project);
+    m_watch->accept();
+    onHistoryChanged();
+    return result(isLoaded, m_project->fileError());
+}
+
+QList<DesignerObject *> ProjectDocument::selection() const
+{
+    QList<DesignerObject *> objects;
+    for (const QPointer<DesignerObject> &object : m_selection) {
+        if (object && object->project() == m_project.get()) {
+            objects.append(object);
+        }
+    }
+    return objects;
+}
+
+void ProjectDocument::select(const QList<DesignerObject *> &objects)
+{
+    QList<QPointer<DesignerObject>> selected;
+    for (DesignerObject *object : objects) {
+        if (object && object->project() == m_project.get() && !selected.contains(object)) {
+            selected.append(object);
+        }
+    }
+    if (selected != m_selection) {
+        m_selection = std::move(selected);
+        emit selectionChanged();
+    }
+}
+
+//! What an edit has taken out of the project is not selected any more.
+void ProjectDocument::dropFromSelection()
+{
+    select(selection());
+}
+
+void ProjectDocument::removeAutosave()
+{
+    m_hasRecovery = false;
+    m_project->autosave().setPaused(false);
+    QFile::remove(m_project->autosavePath());
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/document/ProjectDocument.h"
+#include "corvex/editing/commands/objects/ChangeProperty.h"
+#include "corvex/editing/commands/variables/AddVariable.h"
+#include "corvex/editing/commands/variables/DeleteVariable.h"
+#include "corvex/editing/undo/UndoStack.h"
+#include "corvex/hardware/ConfigurationContainer.h"
+#include "corvex/project/files/ProjectAutosave.h"
+
+#include "project/ProjectFixture.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+using Common::Job;
+
+class ProjectDocumentTest : public Test::ProjectFixture
+{
+protected:
+    void SetUp() override
+    {
+        std::unique_ptr<Project> made = makeProject();
+        ASSERT_TRUE(made->createFile(path()));
+        add(*made, made->variables(), u"StringVariable"_s, u"level"_s);
+        ASSERT_TRUE(made->saveFile());
+        file = made->fullFilePath();
+        open(std::move(made));
+    }
+
+    void open(std::unique_ptr<Project> made)
+    {
+        document = std::make_unique<ProjectDocument>(std::move(made));
+        changedByOthers = std::make_unique<QSignalSpy>(document.get(), &ProjectDocument::changedByOthers);
+    }
+    void openAgain()
+    {
+        std::unique_ptr<Project> loaded = makeEmptyProject();
+        ASSERT_TRUE(loaded->loadFile(file));
+        open(std::move(loaded));
+    }
+    SharedProperty level() const
+    {
+        return document->project().variables()->getListItem(u"level"_s)->getProperty(u"value");
+    }
+    bool describe(const QString &text) { return document->push(new ChangeProperty(level(), text, true)); }
+    bool addVariable(const QString &name)
+    {
+        return document->push(new AddVariable(make(u"StringVariable"_s, name), &document->project()));
+    }
+    QString text() const { return DesignerObject::toString(&document->project()); }
+    static Job::Outcome outcomeOf(Job &job)
+    {
+        QSignalSpy finished(&job, &Job::finished);
+        EXPECT_TRUE(!job.isRunning() || finished.wait());
+        return job.outcome();
+    }
+
+    QString file;
+    std::unique_ptr<ProjectDocument> document;
+    std::unique_ptr<QSignalSpy> changedByOthers;
+};
+
+TEST_F(ProjectDocumentTest, AGestureIsOneStepOrNone)
+{
+    ProjectHistory &history = document->history();
+    const QSignalSpy modified(document.get(), &ProjectDocument::modifiedChanged);
+    const QString first = text();
+    EXPECT_FALSE(document->commitGesture());
+    ASSERT_TRUE(document->beginGesture(u"Drag"_s));
+    EXPECT_FALSE(document->beginGesture(u"Turn"_s));
+    EXPECT_EQ(document->errorString(), u"\"Drag\" is not finished yet. Finish or cancel it first."_s);
+    for (int i = 0; i < 100; ++i) {
+        ASSERT_TRUE(describe(QString::number(i)));
+    }
+    EXPECT_TRUE(document->isModified());
+    for (const bool isRefused : {document->undo(), document->redo(), document->save()}) {
+        EXPECT_FALSE(isRefused);
+    }
+    ASSERT_TRUE(addVariable(u"a"_s) && describe(u"last"_s));
+    ASSERT_TRUE(document->commitGesture());
+    EXPECT_EQ(history.count(), 1);
+    EXPECT_EQ(history.undoText(), u"Drag"_s);
+    const QString last = text();
+    ASSERT_TRUE(document->undo());
+    EXPECT_EQ(text(), first);
+    ASSERT_TRUE(document->redo());
+    EXPECT_EQ(text(), last);
+    ASSERT_TRUE(document->undo());
+
+    // Rolled back, it leaves even what could be redone.
+    ASSERT_TRUE(document->beginGesture(u"Wheel"_s));
+    ASSERT_TRUE(describe(u"x"_s) && addVariable(u"level2"_s) && describe(u"y"_s));
+    document->select({document->project().variables()->getListItem(u"level2"_s)});
+    ASSERT_TRUE(document->rollBackGesture());
+    EXPECT_EQ(text(), first);
+    EXPECT_EQ(document->selection(), QList<DesignerObject *>());
+    EXPECT_EQ(history.redoText(), u"Drag"_s);
+    EXPECT_FALSE(document->isModified());
+    ASSERT_TRUE(document->beginGesture(u"Nothing"_s));
+    ASSERT_TRUE(document->commitGesture());
+    EXPECT_EQ(history.redoText(), u"Drag"_s);
+    EXPECT_EQ(modified.size(), 6);
+}
+
+TEST_F(ProjectDocumentTest, OldHistoriesGoAndLoadingForgetsAll)
+{
+    ProjectHistory &history = document->history();
+    history.setMostEarlierSteps(5);
+    for (int save = 0; save < 4; ++save) {
+        for (int i = 0; i < 4; ++i) {
+            ASSERT_TRUE(describe(u"%1.%2"_s.arg(QString::number(save), QString::number(i))));
+        }
+        ASSERT_TRUE(document->save());
+    }
+    EXPECT_EQ(history.count(), 8) << "the last history, and no more than five steps before it";
+    ASSERT_TRUE(history.goTo(0));
+    EXPECT_EQ(level()->valueString(), u"1.3"_s);
+    EXPECT_FALSE(document->undo());
+    EXPECT_EQ(history.savedPosition(), 8);
+    ASSERT_TRUE(describe(u"other"_s));
+    EXPECT_EQ(history.savedPosition(), -1) << "nothing leads to the saved state any more";
+    EXPECT_FALSE(document->project().undoStack()->isSaved());
+    ASSERT_TRUE(document->reload());
+    EXPECT_EQ(history.count(), 0);
+    EXPECT_EQ(level()->valueString(), u"3.3"_s);
+    EXPECT_FALSE(document->isModified());
+}
+
+TEST_F(ProjectDocumentTest, OthersWhoWriteTheFileAreNoticedOnce)
+{
+    ASSERT_TRUE(describe(u"a"_s) && document->save());
+    QTest::qWait(400);
+    EXPECT_EQ(changedByOthers->size(), 0) << "our own save";
+    const QByteArray ours = read(file);
+    for (const QByteArray &theirs : {ours + '\n', ours + "\n\n"}) {
+        QFile::remove(file); // as version control does
+        write(file, theirs);
+        EXPECT_TRUE(changedByOthers->wait());
+        QTest::qWait(300);
+    }
+    EXPECT_EQ(changedByOthers->size(), 2);
+    ASSERT_TRUE(describe(u"b"_s));
+    EXPECT_FALSE(document->save());
+    EXPECT_EQ(read(file), ours + "\n\n");
+    EXPECT_TRUE(document->isModified());
+    ASSERT_TRUE(document->save(ProjectDocument::Overwrite::Always));
+    EXPECT_FALSE(document->isModified());
+    EXPECT_TRUE(document->save());
+}
+
+TEST_F(ProjectDocumentTest, WhatACrashLeftWaitsForAnAnswer)
+{
+    const QString archive = document->project().autosavePath();
+    const auto autosave = [this] {
+        QSignalSpy finished(&document->project().autosave(), &ProjectAutosave::finished);
+        return document->project().autosave().run() && finished.wait();
+    };
+    ASSERT_TRUE(describe(u"unsaved"_s));
+    addImage(document->project(), u"a.png"_s);
+    ASSERT_TRUE(autosave());
+    const QString unsaved = text();
+    write(path(u"copy"_s), read(archive));
+    document.reset();
+    EXPECT_FALSE(QFile::exists(archive)) << "its user has left the edits";
+    QFile::remove(path(u"Pumps/Images/a.png"_s));
+    write(archive, read(path(u"copy"_s)));
+
+    openAgain();
+    ASSERT_TRUE(document->hasRecovery());
+    ASSERT_TRUE(describe(u"new"_s));
+    EXPECT_FALSE(document->project().autosave().run()) << "it would replace what is to be recovered";
+    document.reset();
+    EXPECT_TRUE(QFile::exists(archive)) << "nobody has answered";
+    openAgain();
+    const QByteArray saved = read(file);
+    ASSERT_TRUE(document->recover()) << qPrintable(document->errorString());
+    EXPECT_EQ(text(), unsaved);
+    EXPECT_EQ(document->project().fullFilePath(), file);
+    EXPECT_TRUE(document->project().imageResources()->getListItem(u"a.png"_s)->isValid());
+    EXPECT_TRUE(document->isModified());
+    EXPECT_EQ(read(file), saved);
+    ASSERT_TRUE(document->save());
+    EXPECT_FALSE(QFile::exists(archive));
+    EXPECT_TRUE(QFile::exists(path(u"Pumps/Images/a.png"_s)));
+
+    write(archive, "no archive");
+    openAgain();
+    const QString before = text();
+    EXPECT_FALSE(document->recover());
+    EXPECT_EQ(text(), before);
+    EXPECT_TRUE(document->discardRecovery());
+    EXPECT_FALSE(QFile::exists(archive));
+}
+
+TEST_F(ProjectDocumentTest, ProjectsAreLoadedInAnotherThread)
+{
+    const QString expected = text();
+    document.reset();
+    auto job = ProjectDocument::load(file);
+    ASSERT_EQ(outcomeOf(*job), Job::Outcome::Done);
+    EXPECT_EQ(job->progress().percent(), 100);
+    std::unique_ptr<Project> loaded = job->takeResult().value();
+    EXPECT_EQ(loaded->variables()->getListItemAtIndex(0)->thread(), QThread::currentThread());
+    EXPECT_EQ(loaded->undoStack()->thread(), QThread::currentThread());
+    open(std::move(loaded));
+    EXPECT_EQ(text(), expected);
+    ASSERT_TRUE(describe(u"later"_s) && document->save());
+
+    for (const bool isDeleted : {false, true}) {
+        auto cancelled = ProjectDocument::load(file, ProjectDocument::Access::Alone);
+        cancelled->cancel();
+        if (!isDeleted) {
+            EXPECT_EQ(outcomeOf(*cancelled), Job::Outcome::Cancelled);
+        }
+        cancelled.reset();
+        EXPECT_TRUE(Common::FolderLock(path(u"Pumps"_s), Common::FolderLock::Kind::Exclusive).isReal());
+    }
+    auto missing = ProjectDocument::load(path(u"none.kdproj"_s));
+    EXPECT_EQ(outcomeOf(*missing), Job::Outcome::Failed);
+    EXPECT_FALSE(missing->errorString().isEmpty());
+}
+
+TEST_F(ProjectDocumentTest, NobodyEditsWhatAJobReads)
+{
+    qputenv("TMPDIR", path(u"temporary"_s).toLocal8Bit());
+    QDir().mkdir(path(u"temporary"_s));
+    const std::unique_ptr<ConfigurationContainer> models(
+        make<ConfigurationContainer>(u"ConfigurationContainer"_s, u"models"_s));
+    auto check = document->check(*models);
+    EXPECT_TRUE(describe(u"edit"_s)) << "an edit does not wait for a check";
+    EXPECT_EQ(outcomeOf(*check), Job::Outcome::Cancelled);
+    check = document->check(*models);
+    ASSERT_EQ(outcomeOf(*check), Job::Outcome::Done);
+    EXPECT_FALSE(check->takeResult()->isEmpty()) << "the model is unknown";
+
+    auto build = document->build();
+    const QString before = text();
+    EXPECT_FALSE(describe(u"edit of a build"_s));
+    EXPECT_FALSE(document->undo());
+    EXPECT_FALSE(document->errorString().isEmpty());
+    EXPECT_EQ(text(), before);
+    ASSERT_EQ(outcomeOf(*build), Job::Outcome::Done) << qPrintable(build->errorString());
+    std::optional<ProjectDocument::BuildFolder> built = build->takeResult();
+    const QString place = **built;
+    EXPECT_TRUE(QFile::exists(place + u"/project/Project.kdproj.zip"_s));
+    built.reset();
+    EXPECT_FALSE(QFile::exists(place));
+    EXPECT_TRUE(describe(u"after the build"_s));
+
+    const QStringList files = filesIn(path(u"temporary"_s));
+    for (const bool isDeleted : {false, true}) {
+        build = document->build();
+        build->cancel();
+        if (!isDeleted) {
+            EXPECT_EQ(outcomeOf(*build), Job::Outcome::Cancelled);
+        }
+        build.reset();
+        EXPECT_EQ(filesIn(path(u"temporary"_s)), files);
+    }
+    ASSERT_TRUE(document->beginGesture(u"Drag"_s));
+    EXPECT_FALSE(document->build());
+    qunsetenv("TMPDIR");
+}
+
+} // namespace Halvane::Corvex::Designer
