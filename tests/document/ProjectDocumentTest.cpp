@@ -77,6 +77,7 @@ TEST_F(ProjectDocumentTest, AGestureIsOneStepOrNone)
         ASSERT_TRUE(describe(QString::number(i)));
     }
     EXPECT_TRUE(document->isModified());
+    EXPECT_FALSE(history.canUndo() || history.canRedo());
     for (const bool isRefused : {document->undo(), document->redo(), document->save()}) {
         EXPECT_FALSE(isRefused);
     }
@@ -182,6 +183,7 @@ TEST_F(ProjectDocumentTest, WhatACrashLeftWaitsForAnAnswer)
     EXPECT_EQ(document->project().fullFilePath(), file);
     EXPECT_TRUE(document->project().imageResources()->getListItem(u"a.png"_s)->isValid());
     EXPECT_TRUE(document->isModified());
+    EXPECT_EQ(document->history().savedPosition(), -1);
     EXPECT_EQ(read(file), saved);
     ASSERT_TRUE(document->save());
     EXPECT_FALSE(QFile::exists(archive));

@@ -65,7 +65,7 @@ bool ProjectDocument::recover()
         return result(false, error);
     }
     m_project->setFileFields(parent, sub, file); // the images look at their files again
-    m_project->undoStack()->setStartSaved(false);
+    m_history->setUnsaved();
     m_isComplete = true;
     m_hasRecovery = false;
     m_project->autosave().setPaused(false);

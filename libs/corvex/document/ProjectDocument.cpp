@@ -105,26 +105,17 @@ bool ProjectDocument::redo()
 
 bool ProjectDocument::beginGesture(const QString &text)
 {
-    UndoStack *stack = m_project->undoStack();
-    const bool isBegun = stack->beginGesture(text);
-    return result(isBegun, stack->errorString());
+    return result(m_history->beginGesture(text), m_history->errorString());
 }
 
 bool ProjectDocument::commitGesture()
 {
-    UndoStack *stack = m_project->undoStack();
-    const bool isDone = stack->commitGesture();
-    updateModified();
-    return result(isDone, LocalizationHelper::coreString(u"There is no gesture to finish."_s));
+    return result(m_history->commitGesture(), m_history->errorString());
 }
 
 bool ProjectDocument::rollBackGesture()
 {
-    UndoStack *stack = m_project->undoStack();
-    const bool isDone = stack->rollBackGesture();
-    dropFromSelection();
-    updateModified();
-    return result(isDone, LocalizationHelper::coreString(u"There is no gesture to cancel."_s));
+    return result(m_history->rollBackGesture(), m_history->errorString());
 }
 
 bool ProjectDocument::isModified() const

@@ -63,6 +63,36 @@ void ProjectHistory::setGate(UndoStack::Gate gate)
     current().stack->setGate(m_gate);
 }
 
+void ProjectHistory::setUnsaved()
+{
+    m_saved.reset();
+    current().stack->setStartSaved(false);
+    emit changed();
+}
+
+bool ProjectHistory::beginGesture(const QString &text)
+{
+    if (!current().stack->beginGesture(text)) {
+        return refuse(stack().errorString());
+    }
+    emit changed();
+    return true;
+}
+
+bool ProjectHistory::commitGesture()
+{
+    const bool isDone = current().stack->commitGesture();
+    emit changed();
+    return isDone || refuse(LocalizationHelper::coreString(u"There is no gesture to finish."_s));
+}
+
+bool ProjectHistory::rollBackGesture()
+{
+    const bool isDone = current().stack->rollBackGesture();
+    emit changed();
+    return isDone || refuse(LocalizationHelper::coreString(u"There is no gesture to cancel."_s));
+}
+
 int ProjectHistory::sizeBefore(size_t part) const
 {
     int size = 0;

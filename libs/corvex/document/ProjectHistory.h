@@ -56,6 +56,12 @@ public:
 
     //! In place of mostEarlierSteps, for those who have less memory.
     void setMostEarlierSteps(int steps) { m_mostEarlierSteps = steps; }
+    //! No position is what the file of the project holds: the project comes from somewhere else.
+    void setUnsaved();
+    // What goes into one step, see UndoStack. Nothing can be undone or redone meanwhile.
+    bool beginGesture(const QString &text);
+    bool commitGesture();
+    bool rollBackGesture();
     //! Asked before each change, see UndoStack; whichever stack it is made through.
     void setGate(UndoStack::Gate gate);
 

@@ -574,7 +574,7 @@ TEST_F(HistoryTest, UndoAndRedoLeadAcrossSaves)
 {
     ProjectHistory history(*project);
     states = {state()};
-    const int steps = setting("CORVEX_MODEL_STEPS", 1000) / 2;
+    const int steps = setting("CORVEX_MODEL_STEPS", 1000) / 4;
     for (int step = 0; step < steps; ++step) {
         SCOPED_TRACE(testing::Message() << "seed " << seed << ", step " << step);
         const int kind = random.below(100);
