@@ -58,16 +58,18 @@ ExitCode ProjectBuild::run(const Call &call, const QString &folder, WithProblems
         return call.failed(u"\"%1\" lies in the project's own folder, in which a build changes nothing. "
                            "Choose a folder outside."_s.arg(folder));
     }
-    call.terminal().showProgress(u"building %1"_s.arg(file.path()));
     RuntimeGenerator &generator = file.project().runtimeGenerator();
     const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
-    const QList<Problem> problems = ProjectProblems::find(file.project(), *models);
+    const QList<Problem> problems = ProjectProblems::find(
+        file.project(), *models, call.terminal().showProgress(u"Checking %1"_s.arg(file.path())));
     if (!isAccepted(problems, file, call, withProblems)) {
         return ExitCode::Problems;
     }
     // What else lies beside the images is the user's own and not for the device.
     generator.setResourceNames(file.project().imageResources()->listItemNames());
+    generator.setProgress(call.terminal().showProgress(u"Building %1"_s.arg(file.path())));
     file.project().generateRuntimeFiles();
+    call.terminal().endProgress();
     if (generator.buildFolder().isEmpty()) {
         return call.failed(generator.errorString(),
                            hasErrors(problems) ? ExitCode::Problems : ExitCode::File);

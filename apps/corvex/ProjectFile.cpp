@@ -124,7 +124,7 @@ bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
         return false;
     }
     m_project = create();
-    call.terminal().showProgress(u"waiting for others that work on %1"_s.arg(m_path));
+    call.terminal().showProgress(u"Waiting for others that work on %1"_s.arg(m_path));
     using Kind = Common::FolderLock::Kind;
     // Nobody else knows the folder of a project from standard input.
     const bool isLocked =
@@ -138,11 +138,15 @@ bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
         call.failed(m_project->fileError());
         return false;
     }
-    call.terminal().showProgress(u"reading %1"_s.arg(m_path));
+    if (m_project) {
+        m_project->setProgress(call.terminal().showProgress(u"Reading %1"_s.arg(m_path)));
+    }
     if (use == Use::Change) {
         m_stamp = Common::FileStamp::of(file);
     }
-    if (m_project && m_project->loadFile(file)) {
+    const bool isLoaded = m_project && m_project->loadFile(file);
+    call.terminal().endProgress();
+    if (isLoaded) {
         return true;
     }
     QString error = m_project ? m_project->fileError() : u"No project can be made."_s;

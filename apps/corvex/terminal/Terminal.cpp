@@ -13,17 +13,15 @@ using namespace Qt::StringLiterals;
 namespace Halvane::Corvex::Tool {
 
 Terminal::Terminal()
-    : m_isInteractive(isatty(STDERR_FILENO) == 1)
+    : m_progress(isatty(STDERR_FILENO) == 1 ? std::make_unique<ProgressLine>() : nullptr)
 { }
 
-Terminal::~Terminal()
-{
-    clearProgress();
-}
+Terminal::~Terminal() = default;
 
 void Terminal::useJson()
 {
     m_json = std::make_unique<JsonWriter>(*this);
+    m_progress.reset();
 }
 
 void Terminal::print(QStringView line)
@@ -37,7 +35,7 @@ void Terminal::print(QStringView line)
 
 void Terminal::write(const QByteArray &utf8)
 {
-    clearProgress();
+    endProgress();
     if (m_error == 0
         && std::fwrite(utf8.constData(), 1, size_t(utf8.size()), stdout) != size_t(utf8.size())) {
         m_error = errno;
@@ -74,7 +72,7 @@ void Terminal::printError(QStringView text)
 
 void Terminal::writeError(QStringView line)
 {
-    clearProgress();
+    endProgress();
     if (std::fflush(stdout) != 0 && m_error == 0) {
         m_error = errno;
     }
@@ -82,20 +80,15 @@ void Terminal::writeError(QStringView line)
     std::fwrite(utf8.constData(), 1, size_t(utf8.size()), stderr);
 }
 
-void Terminal::showProgress(QStringView activity)
+Common::Progress *Terminal::showProgress(const QString &activity)
 {
-    if (m_isInteractive) {
-        clearProgress();
-        std::fprintf(stderr, "%s ...", oneLine(activity).toUtf8().constData());
-        std::fflush(stderr);
-        m_hasProgress = true;
-    }
+    return m_progress ? &m_progress->begin(activity) : nullptr;
 }
 
-void Terminal::clearProgress()
+void Terminal::endProgress()
 {
-    if (std::exchange(m_hasProgress, false)) {
-        std::fputs("\r\033[K", stderr);
+    if (m_progress) {
+        m_progress->end();
     }
 }
 
@@ -113,7 +106,7 @@ void Terminal::finishJson()
 
 bool Terminal::finish()
 {
-    clearProgress();
+    endProgress();
     if (m_json) {
         finishJson();
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "terminal/ProgressLine.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -41,9 +43,11 @@ public:
     void complain(QStringView text);
     //! A line to standard error as it is.
     void printError(QStringView text);
-    //! What the program is at, on the last line of a terminal; nothing elsewhere. The next message or result
-    //! takes its place.
-    void showProgress(QStringView activity);
+    /*! What the program is doing, on the last line of a terminal once it has been busy for a second; nothing
+       elsewhere, and with JSON. The next message or result takes its place. The work may tell how far it is.
+     */
+    Common::Progress *showProgress(const QString &activity);
+    void endProgress();
 
     //! Writes all that is left. False, with a message, when the result could not be written.
     bool finish();
@@ -52,16 +56,14 @@ public:
     static QString oneLine(QStringView text);
 
 private:
-    void clearProgress();
     void writeError(QStringView line);
     void finishJson();
 
     std::unique_ptr<JsonWriter> m_json;
     QStringList m_output; //!< with JSON, as are the errors
     QStringList m_errors;
-    bool m_isInteractive;
-    bool m_hasProgress = false;
-    int m_error = 0; //!< errno of the first write that failed
+    std::unique_ptr<ProgressLine> m_progress; //!< null without a terminal
+    int m_error = 0;                          //!< errno of the first write that failed
 };
 
 } // namespace Halvane::Corvex::Tool

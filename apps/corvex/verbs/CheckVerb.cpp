@@ -30,15 +30,17 @@ ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> 
     if (file.project().screens()->listItems().isEmpty()) {
         return ExitCode::Done;
     }
-    call.terminal().showProgress(u"looking at the screens of %1"_s.arg(file.path()));
     RuntimeGenerator &generator = file.project().runtimeGenerator();
     const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
+    generator.setProgress(call.terminal().showProgress(u"Building %1"_s.arg(file.path())));
     file.project().generateRuntimeFiles();
+    call.terminal().endProgress();
     if (generator.buildFolder().isEmpty()) {
         return call.failed(generator.errorString(),
                            hasErrors(problems) ? ExitCode::Problems : ExitCode::File);
     }
     PreviewProgram program(call, generator.buildFolder() + u"/classes"_s);
+    call.terminal().showProgress(u"Looking at the screens of %1"_s.arg(file.path()));
     program.process().setProcessChannelMode(call.asJson() ? QProcess::SeparateChannels
                                                           : QProcess::ForwardedErrorChannel);
     if (!program.start({generator.buildFolder(), u"--audit"_s, u"--trust"_s})
@@ -62,8 +64,8 @@ ExitCode check(const Call &call, qsizetype argument, QList<ProblemsOfFile> &all)
     if (!models) {
         return ExitCode::File;
     }
-    call.terminal().showProgress(u"checking %1"_s.arg(file.path()));
-    QList<Problem> problems = ProjectProblems::find(file.project(), *models);
+    QList<Problem> problems = ProjectProblems::find(
+        file.project(), *models, call.terminal().showProgress(u"Checking %1"_s.arg(file.path())));
     const ExitCode code = call.isSet(u"screens"_s) ? checkScreens(call, file, problems) : ExitCode::Done;
     all.append({file.path(), problems});
     return code == ExitCode::Done && hasErrors(problems) ? ExitCode::Problems : code;

@@ -126,7 +126,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
         return code;
     }
     const auto [screen, element] = subject;
-    call.terminal().showProgress(u"drawing %1"_s.arg(screen->getIdName()));
+    call.terminal().showProgress(u"Drawing %1"_s.arg(screen->getIdName()));
     CanvasScene scene(screen);
     scene.selectObjects({element});
     if (element && scene.selectedObjects().isEmpty()) {
