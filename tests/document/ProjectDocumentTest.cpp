@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/document/ProjectDocument.h"
+#include "corvex/editing/commands/images/DeleteImage.h"
 #include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/editing/commands/variables/AddVariable.h"
-#include "corvex/editing/commands/variables/DeleteVariable.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/files/ProjectAutosave.h"
@@ -38,6 +38,7 @@ protected:
     }
     void openAgain()
     {
+        document.reset();
         std::unique_ptr<Project> loaded = makeEmptyProject();
         ASSERT_TRUE(loaded->loadFile(file));
         open(std::move(loaded));
@@ -131,6 +132,36 @@ TEST_F(ProjectDocumentTest, OldHistoriesGoAndLoadingForgetsAll)
     EXPECT_FALSE(document->isModified());
 }
 
+TEST_F(ProjectDocumentTest, ASaveThatCannotKeepFilesForgetsTheHistoryAndSaves)
+{
+    addImage(document->project(), u"a.png"_s);
+    ASSERT_TRUE(document->save());
+    const QString image = path(u"Pumps/Images/a.png"_s);
+    const auto deleteImage = [this] {
+        return document->push(new DeleteImage(document->project().imageResources()->getListItem(u"a.png"_s)));
+    };
+    ASSERT_TRUE(deleteImage() && document->save());
+    EXPECT_FALSE(QFile::exists(image));
+    ASSERT_TRUE(document->undo());
+    EXPECT_TRUE(QFile::exists(image));
+    ASSERT_TRUE(document->redo());
+
+    ASSERT_TRUE(document->undo() && document->save() && deleteImage());
+    openAgain(); // whose store has no folder yet
+    EXPECT_TRUE(QFile::exists(image)) << "that was not saved";
+    ASSERT_TRUE(deleteImage());
+    QSignalSpy forgotten(&document->history(), &ProjectHistory::forgotten);
+    qputenv("TMPDIR", file.toLocal8Bit()); // no folder
+    EXPECT_TRUE(document->save());
+    qunsetenv("TMPDIR");
+    EXPECT_FALSE(QFile::exists(image));
+    EXPECT_EQ(document->history().count(), 0);
+    EXPECT_FALSE(document->isModified());
+    ASSERT_TRUE(forgotten.wait());
+    EXPECT_FALSE(forgotten.constFirst().constFirst().toString().isEmpty());
+    EXPECT_TRUE(describe(u"goes on"_s) && document->undo());
+}
+
 TEST_F(ProjectDocumentTest, OthersWhoWriteTheFileAreNoticedOnce)
 {
     ASSERT_TRUE(describe(u"a"_s) && document->save());
@@ -189,6 +220,7 @@ TEST_F(ProjectDocumentTest, WhatACrashLeftWaitsForAnAnswer)
     EXPECT_FALSE(QFile::exists(archive));
     EXPECT_TRUE(QFile::exists(path(u"Pumps/Images/a.png"_s)));
 
+    document.reset();
     write(archive, "no archive");
     openAgain();
     const QString before = text();

@@ -44,6 +44,7 @@
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/GroupElement.h"
 #include "corvex/project/elements/VisualElement.h"
+#include "corvex/project/files/ProjectAutosave.h"
 #include "corvex/values/records/ListInfo.h"
 
 #include "ProjectGenerator.h"
@@ -583,6 +584,8 @@ TEST_F(HistoryTest, UndoAndRedoLeadAcrossSaves)
             ASSERT_TRUE(history.goTo(position)) << qPrintable(history.errorString());
         } else if (kind < 37) {
             ASSERT_NO_FATAL_FAILURE(save(history));
+        } else if (kind < 39) {
+            project->autosave().run();
         } else if (kind < 50) {
             ASSERT_NO_FATAL_FAILURE(gesture(history));
         } else {
