@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Edits of a project with their undo, beside the least that an undo framework does.
 #include "corvex/core/DesignerFactory.h"
+#include "corvex/core/ModelObservers.h"
 #include "corvex/editing/commands/objects/AddObject.h"
 #include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/editing/commands/objects/DeleteObjectsAndCheckFilters.h"
@@ -17,6 +18,7 @@
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Benchmarks;
@@ -100,6 +102,39 @@ void editProject(benchmark::State &state)
     }
 }
 BENCHMARK(editProject)->Name("edit/ChangeProperty")->Unit(benchmark::kMillisecond)->Iterations(1);
+
+//! Looks at each value, as an index or a view model does first.
+class Watcher : public ModelObserver
+{
+public:
+    void valueChanged(const SharedProperty &property, const QString &previousValue) override
+    {
+        m_count += property->id() == "text"_L1 && previousValue.isEmpty() ? 1 : 0;
+    }
+
+private:
+    int m_count = 0;
+};
+
+void editObserved(benchmark::State &state, int observerCount)
+{
+    const std::unique_ptr<Project> project = loadProject(projectFile(u"S"_s));
+    Screen *screen = addScreen(*project);
+    DesignerObject *edited = add(screen, screen->elements(), u"Text"_s, u"edited"_s);
+    const SharedProperty text = edited->getProperty(u"text");
+    std::vector<Watcher> watchers(std::size_t(observerCount));
+    for (Watcher &watcher : watchers) {
+        project->observers().add(&watcher);
+    }
+    for (auto _ : state) {
+        for (int i = 0; i < editCount; ++i) {
+            edited->changePropertyValue(text, valueOf(i));
+        }
+    }
+}
+BENCHMARK_CAPTURE(editObserved, none, 0)->Name("observe/none")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(editObserved, one, 1)->Name("observe/one")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(editObserved, five, 5)->Name("observe/five")->Unit(benchmark::kMillisecond);
 
 void weighCommand(benchmark::State &state)
 {

@@ -64,6 +64,40 @@ TEST_F(Protocol, ARefusedValueLeavesOnlyItsReason)
     EXPECT_TRUE(owner->isValid()) << "a refusal must not be taken for the state of the object";
 }
 
+TEST_F(Protocol, AChangeSaysWhatBecameOfIt)
+{
+    using enum DesignerObject::Change;
+    const std::unique_ptr<Node> other(Node::create(u"other"_s));
+    owner->veto = u"before percent 13"_s;
+    const struct
+    {
+        SharedProperty property;
+        QString text;
+        DesignerObject::Change change;
+        bool isAccepted; //!< by changePropertyValue(), which keeps quiet about some refusals
+    } cases[] = {
+        {owner->property("percent"), u"7"_s, Done, true},
+        {owner->property("percent"), u"050"_s, Unchanged, true},
+        {owner->property("percent"), u"x"_s, Unreadable, true},
+        {owner->property("percent"), u"101"_s, Invalid, true},
+        {owner->property("percent"), u"13"_s, Vetoed, false},
+        {owner->property("loose"), u"101"_s, Done, true},
+        {owner->property("text"), u"a\u0001b"_s, Unreadable, false},
+        {owner->property("nodes"), u"1"_s, Unreadable, false},
+        {other->property("percent"), u"1"_s, Unreadable, false},
+        {{}, u"1"_s, Unchanged, true},
+    };
+    for (const auto &[property, text, change, isAccepted] : cases) {
+        const QString before = property ? property->valueString() : QString();
+        EXPECT_EQ(owner->changeValue(property, text), change) << qPrintable(text);
+        EXPECT_EQ(property && property->valueString() != before, change == Done) << qPrintable(text);
+        owner->set("percent", u"50"_s);
+        owner->set("loose", u"50"_s);
+        EXPECT_EQ(owner->changePropertyValue(property, text), isAccepted) << qPrintable(text);
+        owner->set("percent", u"50"_s);
+    }
+}
+
 TEST_F(Protocol, AnEditorHearsEachVerdictAndWhetherItIsShown)
 {
     struct Editor : public EditorView

@@ -3,7 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/ItemList.h"
-#include "corvex/core/ModelObserver.h"
+#include "corvex/core/ModelObservers.h"
 #include "corvex/core/ObjectView.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/QmlText.h"
@@ -22,8 +22,26 @@ DesignerObject::DesignerObject(QObject *parent)
     , d(std::make_unique<Data>())
 { }
 
+//! Reports that an object is deleted in its place in the model.
+void DesignerObject::announceDeletion()
+{
+    ModelObservers *observers = ownerObject() ? activeObservers() : nullptr;
+    if (!observers) {
+        return;
+    }
+    SharedProperty list = listProperty();
+    if (!list) {
+        list = objectProperty();
+    }
+    const qsizetype index = !list ? -1 : list->isList() ? list->getListItemIndex(this) : 0;
+    if (index >= 0) {
+        observers->beginExchange({list, index, this, nullptr});
+    }
+}
+
 void DesignerObject::deleteChildren()
 {
+    announceDeletion();
     if (ObjectView *view = std::exchange(d->view, nullptr)) {
         view->objectGone();
     }
@@ -45,15 +63,14 @@ void DesignerObject::deleteChildren()
 DesignerObject::~DesignerObject()
 {
     deleteChildren();
-    // What has no owner is the project itself, which is gone by now but for this part of it.
-    if (ModelObserver *observer = ownerObject() ? ModelObserver::of(d->project) : nullptr) {
-        observer->leaving(this);
-    }
     for (DesignerProperty *list : d->lists.all()) {
         list->forgetItem(this);
     }
     if (const SharedProperty slot = objectProperty()) {
         slot->forgetObjectValue();
+    }
+    if (d->observers) {
+        d->observers->endExchange(this);
     }
     // Undo steps and editors may hold on to a property.
     d->properties.leaveParent();
@@ -103,7 +120,7 @@ bool DesignerObject::addProperties(const PropertyTable &table)
             continue;
         }
         DesignerProperty &described = *d->properties.at(places[i]);
-        if (!table.describeAnew(row, described)) {
+        if (!table.redescribe(row, described)) {
             return false;
         }
         noteFlags(described);
@@ -307,10 +324,32 @@ Screen *DesignerObject::screen() const
     return d->screen;
 }
 
+void DesignerObject::setObservers(ModelObservers *observers)
+{
+    d->observers = observers;
+}
+
+ModelObservers *DesignerObject::activeObservers() const
+{
+    ModelObservers *observers = d->observers;
+    return observers && observers->isActive() && !observers->isOnItsWay(this) ? observers : nullptr;
+}
+
+void DesignerObject::assertMayChange() const
+{
+    Q_ASSERT_X(!d->observers || !d->observers->isCalling(), "ModelObserver",
+               "An observer must not change the model.");
+}
+
 void DesignerObject::setProject(Project *project)
 {
     if (project != d->project) {
         d->project = project;
+        if (!project) {
+            d->observers = nullptr;
+        } else if (const DesignerObject *owner = ownerObject()) {
+            d->observers = owner->d->observers;
+        }
         emit projectChanged(project);
     }
     for (DesignerObject *child : childObjects()) {

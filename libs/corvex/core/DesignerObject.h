@@ -16,6 +16,7 @@ class QIODevice;
 
 namespace Halvane::Corvex::Designer {
 
+class ModelObservers;
 class ObjectView;
 class Project;
 class PropertyRow;
@@ -27,20 +28,21 @@ class Screen;
     Every change of the model goes through changePropertyValue(), changePropertyObjectValue() and the list
     operations. Their order is the same for all:
 
-    1. the request is checked; a bad one is refused with false (or null) and a text in the property's
-       errorString(), and nothing has been touched;
-    2. the before-hook is asked and may veto (false);
-    3. the property changes, the canvas item follows, the property is validated;
-    4. the after-hook runs;
-    5. the signal is emitted.
+    1. The request is checked. A bad one returns false (or null), sets the property's errorString() and
+       changes nothing.
+    2. The before-hook runs. It may veto the change by returning false.
+    3. The property changes. Observers of the project hear of it (ModelObserver), the canvas item follows, the
+       property is validated.
+    4. The after-hook runs.
+    5. The signal is emitted.
 
     After-hooks and signals of a change of value or object carry what the property held \e before.
-    Hooks and slots may change the model further; they must not delete the object that is being changed, nor
-    an item that is coming or going.
+    Hooks and slots may change the model further. They must not delete the object that is being changed, nor
+    an item that is being inserted or removed.
 
-    Ownership: in the model an object's QObject parent is the object whose list or object property holds it;
-   out of the model it has none and belongs to whoever took it out. project() and screen() are null out of the
-    model.
+    Ownership: in the model, the QObject parent of an object is the object whose list or object property holds
+    it. Outside of the model an object has no parent, project() or screen(), and belongs to the code that took
+    it out.
 */
 class CORVEX_EXPORT DesignerObject
     : public QObject
@@ -51,7 +53,7 @@ class CORVEX_EXPORT DesignerObject
     Q_DISABLE_COPY_MOVE(DesignerObject)
 
 public:
-    //! Deletes its children first, while its own properties still stand.
+    //! Deletes its children first, while its own properties still exist.
     ~DesignerObject() override;
 
     //! Makes the properties; called once by the factory. False when the object cannot be used.
@@ -63,7 +65,7 @@ public:
     virtual QString displayName() const;
     //! The name of the QML type; the class name.
     virtual QString qmlName() const;
-    //! The object's block of QML, indented by \a indent tabs, lines parted by "\n", none behind the last.
+    //! The object's block of QML, indented by \a indent tabs. Lines are separated by "\n"; the last has none.
     virtual QString toQml(int indent) const;
     //! Statements to run once the screen is loaded; empty in the base.
     virtual QString onCompletedQml(int indent) const;
@@ -77,29 +79,41 @@ public:
     //! The properties whose value other objects refer to.
     QList<SharedProperty> dependencyProperties() const { return getDependencyProperties(); }
 
+    //! What became of a request to change a value.
+    enum class Change : quint8 {
+        Done,       //!< the property holds the new value
+        Unchanged,  //!< it held this value before
+        Unreadable, //!< the text is not a value of the property, or a file cannot hold it
+        Invalid,    //!< validation refused the value; errorString() of the property tells why
+        Vetoed,     //!< the before-hook of the object refused it
+    };
+
     // Changes. Each may be called with a property of this object only.
-    /*! Sets a value from its text. True also when nothing had to change, and when validation refused the
-       value: then the old value stays, no hook runs, no signal is emitted, and the property tells the reason.
-       False when the text does not parse, holds a character that no file can hold, or a hook vetoes. */
+    /*! Sets a value from its text. Returns true even if nothing had to change, or if validation refused the
+        value: then the old value stays, no hook runs, no signal is emitted, and the property's errorString()
+        gives the reason. Returns false if the text does not parse, contains a character that a file cannot
+        hold, or a hook vetoes. changeValue() tells these cases apart. */
     bool changePropertyValue(const SharedProperty &property, const QString &newValue);
-    /*! Makes \a object, which may be null, the child of an object property. The previous child is deleted
-       with \a deletePrevious and belongs to the caller otherwise. */
+    /*! Does what changePropertyValue() does and reports what became of it. A property that is a list, holds
+       an object or belongs to another object counts as Unreadable; without a property nothing changes. */
+    Change changeValue(const SharedProperty &property, const QString &newValue);
+    /*! Makes \a object, which may be null, the child of an object property. The previous child is deleted if
+        \a deletePrevious is set; otherwise the caller owns it. */
     bool changePropertyObjectValue(const SharedProperty &property, DesignerObject *object,
                                    bool deletePrevious = false);
     bool addListPropertyItem(const SharedProperty &property, DesignerObject *item);
-    //! An index beyond the ends counts as the nearest end.
+    //! An index outside of the list means the nearest end. A list with an order of its own sorts the item in.
     bool insertListPropertyItemAt(const SharedProperty &property, DesignerObject *item, qsizetype index);
-    //! The same for a place that counts what the list keeps, so that an item comes back to exactly where it
-    //! was.
+    //! The same for a place that also counts kept items, so that an item returns to exactly where it was.
     bool insertListPropertyItemAt(const SharedProperty &property, DesignerObject *item,
                                   const ItemPlace &place);
     bool insertListPropertyItemBefore(const SharedProperty &property, DesignerObject *reference,
                                       DesignerObject *item);
     bool insertListPropertyItemAfter(const SharedProperty &property, DesignerObject *reference,
                                      DesignerObject *item);
-    //! The item, which the caller owns from here on; null after a refusal.
+    //! Returns the item, which the caller now owns; null if it is refused.
     DesignerObject *takeListPropertyItem(const SharedProperty &property, DesignerObject *item);
-    //! The old item belongs to the caller afterwards.
+    //! The caller owns the old item afterwards.
     bool replaceListPropertyItem(const SharedProperty &property, DesignerObject *oldItem,
                                  DesignerObject *newItem);
     bool replaceListPropertyItemAt(const SharedProperty &property, qsizetype index, DesignerObject *newItem);
@@ -168,36 +182,36 @@ public:
     void resetGraphicsItem();
 
     // Validation.
-    /*! Validates everything below, then every property of its own, and collects "title: reason" for each that
-        fails. Emits validationError() when errors appear and resetValidationError() when they are gone. */
+    /*! Validates all objects below, then each of its own properties, and collects "title: reason" for each
+        that fails. Emits validationError() when errors appear and resetValidationError() when they are gone.
+     */
     bool validate();
     bool isValid() const;
     void setValid(bool valid);
     const QStringList &validationErrors() const;
     void setValidationError(bool set);
     bool validationErrorSet() const;
-    //! Switches validation off on this object, as long as it is being read.
+    //! Switches validation off for this object, for example while it is being read.
     void setDisableValidation(bool disable);
     bool disabledValidation() const;
     void emitValidationError() { emit validationError(); }
     void emitResetValidationError() { emit resetValidationError(); }
 
     // Files and copies; see ObjectXmlReader and ObjectXmlWriter for streams.
-    /*! What files and copies hold of the object; null when a child is missing that must be there. Most
-       objects are written past it, as the base would; a class with a form of its own (hasOwnXmlDocument()) is
-       asked. */
+    /*! The form of the object in files and copies; null if a required child is missing. Only a class that
+        overrides it (hasOwnXmlDocument()) is asked; all others are written directly. */
     virtual QDomDocument convertToXmlDocument(bool withHeader, bool allProperties) const;
     QString convertToString(bool withHeader, bool allProperties) const;
-    //! What would be saved; the text of a ProjectVariable has no XML declaration. Empty when it cannot be
-    //! written.
+    //! The text that would be saved; empty if it cannot be written. That of a ProjectVariable has no XML
+    //! declaration.
     static QString toString(const DesignerObject *object);
-    /*! An object without a parent, owned by the caller; null, with a warning that names line and column, when
-        the text is none. With \a validate the object is validated when it is complete. */
+    /*! An object without a parent, owned by the caller. Null if the text does not describe an object; a
+        warning then names line and column. With \a validate the complete object is validated. */
     static DesignerObject *createFromString(const QString &text, bool validate = true);
     static DesignerObject *createCopy(const DesignerObject *object, bool validate = true);
     static DesignerObject *createFromFile(const QString &path, bool validate = true);
     static bool loadFromFile(DesignerObject *object, const QString &path, bool validate = true);
-    //! Writes beside the file and moves over it in one step; the old file stays whole after a failure.
+    //! Writes a new file beside it and replaces the old one in one step, which stays intact after a failure.
     static bool saveToFile(const DesignerObject *object, const QString &path, QString *error = nullptr);
 
     static QString getTabs(int count) { return QString(count, u'\t'); }
@@ -205,7 +219,7 @@ public:
 signals:
     void propertyValueChanged(const QSharedPointer<Halvane::Corvex::Designer::DesignerProperty> &property,
                               const QString &previousValue);
-    //! \a deleted tells whether \a previousObject is about to be deleted.
+    //! \a deleted is true if \a previousObject is about to be deleted.
     void
     propertyObjectValueChanged(const QSharedPointer<Halvane::Corvex::Designer::DesignerProperty> &property,
                                Halvane::Corvex::Designer::DesignerObject *previousObject, bool deleted);
@@ -228,7 +242,7 @@ signals:
 protected:
     explicit DesignerObject(QObject *parent = nullptr);
 
-    //! Makes the item that shows this object; null for a kind that has none. The canvas owns it.
+    //! Creates the item that shows this object; null for a kind without one. The canvas owns it.
     virtual ObjectView *createGraphicsItem() = 0;
     //! Runs after an item of one of its lists was renamed, swapped or replaced.
     virtual void afterListPropertyChanged();
@@ -248,10 +262,10 @@ protected:
     virtual QList<SharedProperty> getDependencyProperties() const;
 
     // Files.
-    //! Whether a file shall hold the property; StoredFlag in the base.
+    //! Whether files contain the property. In the base, StoredFlag decides.
     virtual bool storesProperty(const DesignerProperty &property) const;
-    /*! What a stored property without text and without children means. In the base it is the empty text for
-       the id "text" and nothing for all others, which keep their default. */
+    /*! Handles a stored property without text and without children. In the base, the id "text" gets the empty
+        text, and all others keep their default. */
     virtual void readEmptyValue(const SharedProperty &property);
     //! Runs when all properties have been read, before validation.
     virtual void finishReading();
@@ -259,18 +273,21 @@ protected:
     /*! Gives a new object its identifier: the base name, known in \a scopeType ("Project", "Screen"), of the
         object's class. For initializeProperties(). */
     void registerIdentifier(const QString &scopeType);
-    //! Runs as soon as the object bears another name, before afterPropertyChanged(); the place to keep
-    //! indexes.
-    virtual void nameTaken(const QString &oldName);
-    //! For the destructor of a class whose children need it whole: deletes them before it goes.
+    //! Runs as soon as the object has its new name, before observers and afterPropertyChanged(). The place to
+    //! update indexes.
+    virtual void nameChanged(const QString &oldName);
+    //! For the root of a model, before setProject(): objects below it take over what their owner has. Not
+    //! owned.
+    void setObservers(ModelObservers *observers);
+    //! For the destructor of a class whose children use it: deletes them while it is complete.
     void deleteChildren();
 
     //! Adds a property that is not in a table.
     void addProperty(const SharedProperty &property);
-    /*! Adds one property for each row. A row with the id of a property that is there already describes that
-        property anew instead, and gives it the row's value when the row says so. */
+    /*! Adds one property for each row. A row with the id of an existing property redescribes that one
+       instead, and sets its value only if the row overrides it. */
     bool addProperties(const PropertyTable &table);
-    //! Brings the summary of this object up to date from what its properties say, and tells its owner.
+    //! Updates isValid() and validationErrors() from the outcomes of the properties, and notifies the owner.
     void updateValidity();
 
 private:
@@ -280,33 +297,38 @@ private:
     friend class ObjectXmlWriter;
     friend class PropertyRow;
 
-    enum class ValueChange {
-        Done,
-        None, //!< equal, not parsable, or quietly refused by validation
-        Refused
-    };
-    ValueChange changeValue(const SharedProperty &property, const QString &newValue);
+    //! Changes a value by a text that a file can hold.
+    Change changeStorableValue(const SharedProperty &property, const QString &newValue);
+    //! The same; a text that cannot be read and counts as equal to all values is Unchanged.
+    Change storeValue(const SharedProperty &property, const QString &newValue);
     static bool canBeStored(DesignerProperty &property, const QString &value);
-    void takeNewName(const QString &oldName);
+    bool isOwnValue(const SharedProperty &property) const;
+    void updateName(const QString &oldName);
     void announceNewName(const QString &oldName, const QString &newName);
+    //! The observers that hear of changes of this object; null if there are none.
+    ModelObservers *activeObservers() const;
+    //! Asserts that no observer is being called.
+    void assertMayChange() const;
+    void announceDeletion();
     void revalidate(const SharedProperty &property);
     //! Switches validation on for this object and everything below it, and validates, in one walk.
     void validateWhatWasRead();
-    void judgeProperties();
+    void validateOwnProperties();
     void childValidityChanged(DesignerProperty &property);
 
     bool mayEnter(const SharedProperty &property, const DesignerObject *item) const;
     bool isShallow(const DesignerObject *item) const;
     //! How many objects there are below it, one in the other, at most.
     qsizetype height() const;
-    void enter(DesignerObject *item);
-    void leave(const SharedProperty &property, DesignerObject *item);
-    void showChild(const SharedProperty &property, DesignerObject *item);
-    void settle(const SharedProperty &property, DesignerObject *item);
+    void enterModel(DesignerObject *item);
+    void leaveModel(const SharedProperty &property, DesignerObject *item);
+    void addToView(const SharedProperty &property, DesignerObject *item);
+    //! Completes an insertion or a replacement: the item is in the list.
+    void acceptItem(const SharedProperty &property, DesignerObject *item);
     template<class Insert>
     bool addItem(const SharedProperty &property, DesignerObject *item, Insert insert);
     SharedProperty listOf(const QString &id) const;
-    //! Keeps in mind that there may be children, so that the many objects without any are not searched.
+    //! Remembers that there may be children, so that the many objects without any are not searched.
     void noteFlags(const DesignerProperty &property);
     //! A property that is still to be added.
     SharedProperty makeProperty(const PropertyRow &row);
@@ -317,7 +339,7 @@ private:
     std::unique_ptr<Data> d;
 };
 
-//! \a object as a \a Kind when its class names say that it is one, else null.
+//! \a object as a \a Kind if its class names include that kind, else null.
 template<class Kind>
 Kind *kindCast(DesignerObject *object)
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The change protocol of DesignerObject: the only ways in which the model changes.
 #include "corvex/core/ItemList.h"
-#include "corvex/core/ModelObserver.h"
+#include "corvex/core/ModelObservers.h"
 #include "corvex/core/ObjectView.h"
 #include "corvex/core/private/DesignerObjectData.h"
 #include "corvex/core/xml/XmlLimits.h"
@@ -41,60 +41,86 @@ void DesignerObject::afterListItemRemoved(const DesignerProperty *, const Design
 
 void DesignerObject::afterListPropertyChanged() { }
 
-void DesignerObject::nameTaken(const QString &) { }
+void DesignerObject::nameChanged(const QString &) { }
+
+bool DesignerObject::isOwnValue(const SharedProperty &property) const
+{
+    return property->parentObject() == this && !property->isList() && !property->isObject();
+}
 
 bool DesignerObject::changePropertyValue(const SharedProperty &property, const QString &newValue)
 {
-    const bool isValue =
-        property && property->parentObject() == this && !property->isList() && !property->isObject();
-    return (!isValue || canBeStored(*property, newValue))
-           && changeValue(property, newValue) != ValueChange::Refused;
+    if (property && isOwnValue(property) && !canBeStored(*property, newValue)) {
+        return false;
+    }
+    const Change change = storeValue(property, newValue);
+    return change != Change::Unreadable && change != Change::Vetoed;
 }
 
-DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &property,
-                                                        const QString &newValue)
+DesignerObject::Change DesignerObject::changeValue(const SharedProperty &property, const QString &newValue)
 {
-    if (!property) {
-        return ValueChange::None;
+    if (property && isOwnValue(property) && !canBeStored(*property, newValue)) {
+        return Change::Unreadable;
     }
-    if (property->parentObject() != this || property->isList() || property->isObject()) {
-        return ValueChange::Refused;
+    return changeStorableValue(property, newValue);
+}
+
+DesignerObject::Change DesignerObject::changeStorableValue(const SharedProperty &property,
+                                                           const QString &newValue)
+{
+    const Change change = storeValue(property, newValue);
+    const bool isUnreadable = change == Change::Unchanged && property && property->valueString() != newValue
+                              && !property->canRead(newValue);
+    return isUnreadable ? Change::Unreadable : change;
+}
+
+DesignerObject::Change DesignerObject::storeValue(const SharedProperty &property, const QString &newValue)
+{
+    assertMayChange();
+    if (!property) {
+        return Change::Unchanged;
+    }
+    if (!isOwnValue(property)) {
+        return Change::Unreadable;
     }
     const bool isGuarded = !disabledValidation() && !property->allowInvalidValue();
     if (isGuarded) {
         property->validate();
     }
     if (property->equalsValue(newValue)) {
-        return ValueChange::None;
+        return Change::Unchanged;
     }
     if (isGuarded) {
-        bool valid = true;
-        if (!property->judgeText(newValue, valid)) {
-            return ValueChange::Refused;
+        DesignerProperty::Outcome outcome;
+        if (!property->validateText(newValue, outcome)) {
+            return Change::Unreadable;
         }
-        if (!valid) {
+        if (outcome.failure != DesignerProperty::Failure::None) {
+            property->setOutcome(outcome);
             d->hasRefusedValue = true;
-            return ValueChange::None;
+            return Change::Invalid;
         }
     }
     const QString oldValue = property->valueString();
     const bool isName = property == d->id;
     const QString oldName = isName ? getIdName() : QString();
     if (!beforePropertyChanged(property.data(), newValue)) {
-        if (isGuarded) {
-            property->validate(); // The trial has judged the other value.
-        }
-        return ValueChange::Refused;
+        return Change::Vetoed;
     }
     if (!property->takeText(newValue)) {
-        return ValueChange::Refused;
+        return Change::Unreadable;
     }
     const QString newName = isName ? getIdName() : QString();
     if (isName) {
-        takeNewName(oldName);
+        updateName(oldName);
     }
-    if (ModelObserver *observer = ModelObserver::of(d->project)) {
-        observer->valueChanged(property, oldValue);
+    if (ModelObservers *observers = activeObservers()) {
+        observers->call(&ModelObserver::valueChanged, property, oldValue);
+    }
+    if (isName) {
+        for (DesignerProperty *list : d->lists.all()) {
+            list->updateListItems();
+        }
     }
     if (d->view) {
         d->view->updateGraphicsItem(property);
@@ -105,7 +131,7 @@ DesignerObject::ValueChange DesignerObject::changeValue(const SharedProperty &pr
         announceNewName(oldName, newName);
     }
     emit propertyValueChanged(property, oldValue);
-    return ValueChange::Done;
+    return Change::Done;
 }
 
 bool DesignerObject::canBeStored(DesignerProperty &property, const QString &value)
@@ -125,14 +151,13 @@ void DesignerObject::revalidate(const SharedProperty &property)
     }
 }
 
-void DesignerObject::takeNewName(const QString &oldName)
+void DesignerObject::updateName(const QString &oldName)
 {
     setObjectName(getIdName());
     for (DesignerProperty *list : d->lists.all()) {
         list->items().rekey(oldName, this);
-        list->updateListItems();
     }
-    nameTaken(oldName);
+    nameChanged(oldName);
 }
 
 void DesignerObject::announceNewName(const QString &oldName, const QString &newName)
@@ -153,6 +178,7 @@ bool DesignerObject::changePropertyObjectValue(const SharedProperty &property, D
     if (!property || property->parentObject() != this) {
         return false;
     }
+    assertMayChange();
     DesignerObject *previous = property->objectValue();
     if (property->isObject() && object == previous) {
         return true;
@@ -162,17 +188,22 @@ bool DesignerObject::changePropertyObjectValue(const SharedProperty &property, D
             || !beforeObjectPropertyChanged(property.data(), object))) {
         return false;
     }
-    if (!property->setObjectValue(object)) {
+    if (!property->canHold(object)) {
         return false;
     }
+    property->announceExchange(0, previous, object);
+    property->setObjectValue(object);
     if (previous) {
-        leave(property, previous);
+        leaveModel(property, previous);
     }
     if (object) {
-        enter(object);
+        enterModel(object);
+    }
+    if (d->observers) {
+        d->observers->endExchange(object ? object : previous);
     }
     if (object && d->view) {
-        showChild(property, object);
+        addToView(property, object);
     }
     if (object && !disabledValidation()) {
         object->validate();
@@ -224,7 +255,7 @@ qsizetype DesignerObject::height() const
     return highest;
 }
 
-void DesignerObject::enter(DesignerObject *item)
+void DesignerObject::enterModel(DesignerObject *item)
 {
     item->setParent(this);
     if (d->screen) {
@@ -233,18 +264,12 @@ void DesignerObject::enter(DesignerObject *item)
     if (d->project) {
         item->setProject(d->project);
     }
-    if (ModelObserver *observer = ModelObserver::of(d->project)) {
-        observer->entered(item);
-    }
 }
 
-void DesignerObject::leave(const SharedProperty &property, DesignerObject *item)
+void DesignerObject::leaveModel(const SharedProperty &property, DesignerObject *item)
 {
     if (d->view && item->graphicsItem()) {
         d->view->removeGraphicsItemChild(property, item);
-    }
-    if (ModelObserver *observer = ModelObserver::of(d->project)) {
-        observer->leaving(item);
     }
     item->setListProperty({});
     item->setParent(nullptr);
@@ -252,7 +277,7 @@ void DesignerObject::leave(const SharedProperty &property, DesignerObject *item)
     item->setProject(nullptr);
 }
 
-void DesignerObject::showChild(const SharedProperty &property, DesignerObject *item)
+void DesignerObject::addToView(const SharedProperty &property, DesignerObject *item)
 {
     item->setGraphicsItem();
     if (item->graphicsItem()) {
@@ -260,12 +285,16 @@ void DesignerObject::showChild(const SharedProperty &property, DesignerObject *i
     }
 }
 
-void DesignerObject::settle(const SharedProperty &property, DesignerObject *item)
+void DesignerObject::acceptItem(const SharedProperty &property, DesignerObject *item)
 {
     item->setListProperty(property);
-    enter(item);
+    enterModel(item);
+    if (d->observers) {
+        d->observers->endExchange(item);
+    }
+    property->updateListItems();
     if (d->view) {
-        showChild(property, item);
+        addToView(property, item);
     }
     if (!disabledValidation()) {
         item->validate();
@@ -278,6 +307,7 @@ bool DesignerObject::addItem(const SharedProperty &property, DesignerObject *ite
     if (!property || property->parentObject() != this) {
         return false;
     }
+    assertMayChange();
     if (item && property->isList()) {
         if (!mayEnter(property, item)) {
             return false;
@@ -292,7 +322,7 @@ bool DesignerObject::addItem(const SharedProperty &property, DesignerObject *ite
     if (!insert()) {
         return false;
     }
-    settle(property, item);
+    acceptItem(property, item);
     revalidate(property);
     afterListItemAdded(property.data(), item);
     emit propertyListItemAdded(property, item);
@@ -333,13 +363,18 @@ DesignerObject *DesignerObject::takeListPropertyItem(const SharedProperty &prope
     if (!property || property->parentObject() != this) {
         return nullptr;
     }
+    assertMayChange();
     if (property->getListItemIndex(item) >= 0 && !beforeListItemRemoved(property.data(), item)) {
         return nullptr;
     }
     if (!property->takeListItem(item)) {
         return nullptr;
     }
-    leave(property, item);
+    leaveModel(property, item);
+    if (d->observers) {
+        d->observers->endExchange(item);
+    }
+    property->updateListItems();
     revalidate(property);
     afterListItemRemoved(property.data(), item);
     emit propertyListItemRemoved(property, item);
@@ -358,6 +393,7 @@ bool DesignerObject::replaceListPropertyItemAt(const SharedProperty &property, q
     if (!property || property->parentObject() != this) {
         return false;
     }
+    assertMayChange();
     DesignerObject *oldItem = property->getListItemAtIndex(index);
     if (oldItem && newItem) {
         if (!mayEnter(property, newItem)) {
@@ -375,8 +411,8 @@ bool DesignerObject::replaceListPropertyItemAt(const SharedProperty &property, q
     if (!property->replaceItemAt(index, newItem)) {
         return false;
     }
-    leave(property, oldItem);
-    settle(property, newItem);
+    leaveModel(property, oldItem);
+    acceptItem(property, newItem);
     revalidate(property);
     afterListItemRemoved(property.data(), oldItem);
     afterListItemAdded(property.data(), newItem);
@@ -388,7 +424,11 @@ bool DesignerObject::replaceListPropertyItemAt(const SharedProperty &property, q
 bool DesignerObject::swapListPropertyItems(const SharedProperty &property, DesignerObject *first,
                                            DesignerObject *second)
 {
-    if (!property || property->parentObject() != this || !property->swapItems(first, second)) {
+    if (!property || property->parentObject() != this) {
+        return false;
+    }
+    assertMayChange();
+    if (!property->swapItems(first, second)) {
         return false;
     }
     if (d->view) {

@@ -3,6 +3,7 @@
 // DesignerObject::validate() looks at everything below.
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/ItemList.h"
+#include "corvex/core/ModelObservers.h"
 #include "corvex/core/private/DesignerObjectData.h"
 
 using namespace Qt::StringLiterals;
@@ -18,7 +19,7 @@ bool DesignerObject::validate()
     for (DesignerObject *child : childObjects()) {
         child->validate();
     }
-    judgeProperties();
+    validateOwnProperties();
     return d->isValid;
 }
 
@@ -29,10 +30,10 @@ void DesignerObject::validateWhatWasRead()
     for (DesignerObject *child : childObjects()) {
         child->validateWhatWasRead();
     }
-    judgeProperties();
+    validateOwnProperties();
 }
 
-void DesignerObject::judgeProperties()
+void DesignerObject::validateOwnProperties()
 {
     d->isValidatingChildren = false;
     for (DesignerProperty *property : d->properties) {
@@ -76,7 +77,10 @@ void DesignerObject::setValid(bool valid)
         return;
     }
     d->isValid = valid;
-    // Whoever hears of it may take this object out of its list.
+    if (ModelObservers *observers = activeObservers()) {
+        observers->reportObjectValidity(this);
+    }
+    // A slot of the owner's signals may take this object out of its list.
     const QList<DesignerProperty *> lists = d->lists.all();
     for (DesignerProperty *list : lists) {
         list->items().invalidCount += valid ? -1 : 1;

@@ -126,40 +126,54 @@ void DesignerProperty::setParentObject(DesignerObject *parent)
 }
 
 template<class Field>
-void DesignerProperty::describe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value)
+bool DesignerProperty::describe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value)
 {
     // An equal value must not cost the instance a descriptor of its own.
-    if (descriptor().*field != value) {
+    const bool isChanged = descriptor().*field != value;
+    if (isChanged) {
         ownDescriptor().*field = value;
+    }
+    return isChanged;
+}
+
+template<class Field>
+void DesignerProperty::redescribe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value)
+{
+    if (describe(field, value)) {
+        announceDescriptor();
     }
 }
 
 void DesignerProperty::setId(const QString &id)
 {
-    describe(&PropertyDescriptor::id, id);
     describe(&PropertyDescriptor::utf8Id, id.toUtf8());
+    redescribe(&PropertyDescriptor::id, id);
 }
 
 void DesignerProperty::setName(const QString &name)
 {
-    describe(&PropertyDescriptor::name, name);
+    redescribe(&PropertyDescriptor::name, name);
 }
 
 void DesignerProperty::setEditor(const QString &editorName, const QVariantMap &parameters)
 {
-    describe(&PropertyDescriptor::editor, editorName);
-    setParameters(parameters);
+    const bool isAnother = describe(&PropertyDescriptor::editor, editorName);
+    if (setParameters(parameters) || isAnother) {
+        announceDescriptor();
+    }
 }
 
 void DesignerProperty::setEditorParameters(const QVariantMap &parameters)
 {
-    setParameters(parameters);
+    if (setParameters(parameters)) {
+        announceDescriptor();
+    }
 }
 
-void DesignerProperty::setParameters(const QVariantMap &parameters)
+bool DesignerProperty::setParameters(const QVariantMap &parameters)
 {
-    describe(&PropertyDescriptor::editorParameters, parameters);
     describe(&PropertyDescriptor::range, NumberRange::of(parameters));
+    return describe(&PropertyDescriptor::editorParameters, parameters);
 }
 
 void DesignerProperty::setEditorParameter(const QString &key, const QVariant &value)
@@ -169,7 +183,7 @@ void DesignerProperty::setEditorParameter(const QString &key, const QVariant &va
     }
     QVariantMap parameters = editorParameters();
     parameters.insert(key, value);
-    setParameters(parameters);
+    setEditorParameters(parameters);
     if (EditorView *editor = editorWidget(); editor && key == "visible"_L1) {
         editor->setShown(value.toBool());
     }
@@ -189,9 +203,12 @@ void DesignerProperty::setEditorWidget(EditorView *widget)
 
 void DesignerProperty::setFlags(PropertyFlags flags)
 {
-    describe(&PropertyDescriptor::flags, flags);
+    const bool isChanged = describe(&PropertyDescriptor::flags, flags);
     if (DesignerObject *parent = parentObject()) {
         parent->noteFlags(*this);
+    }
+    if (isChanged) {
+        announceDescriptor();
     }
 }
 
@@ -203,42 +220,42 @@ void DesignerProperty::setFlag(PropertyFlag flag, bool on)
 
 void DesignerProperty::setRank(int rank)
 {
-    describe(&PropertyDescriptor::rank, rank);
+    redescribe(&PropertyDescriptor::rank, rank);
 }
 
 void DesignerProperty::setDescription(const QString &description)
 {
-    describe(&PropertyDescriptor::description, description);
+    redescribe(&PropertyDescriptor::description, description);
 }
 
 void DesignerProperty::setAllowInvalidValue(bool allow)
 {
-    describe(&PropertyDescriptor::allowInvalidValue, allow);
+    redescribe(&PropertyDescriptor::allowInvalidValue, allow);
 }
 
 void DesignerProperty::setValueValidator(ValueValidator validator)
 {
-    describe(&PropertyDescriptor::valueValidator, validator);
+    redescribe(&PropertyDescriptor::valueValidator, validator);
 }
 
 void DesignerProperty::setAddValidator(ItemValidator validator)
 {
-    describe(&PropertyDescriptor::addValidator, validator);
+    redescribe(&PropertyDescriptor::addValidator, validator);
 }
 
 void DesignerProperty::setRemoveValidator(ItemValidator validator)
 {
-    describe(&PropertyDescriptor::removeValidator, validator);
+    redescribe(&PropertyDescriptor::removeValidator, validator);
 }
 
 void DesignerProperty::setQmlCreator(QmlCreator creator)
 {
-    describe(&PropertyDescriptor::qmlCreator, creator);
+    redescribe(&PropertyDescriptor::qmlCreator, creator);
 }
 
 void DesignerProperty::setObjectFilters(const QStringList &classNames)
 {
-    describe(&PropertyDescriptor::objectFilters, classNames);
+    redescribe(&PropertyDescriptor::objectFilters, classNames);
 }
 
 QList<SharedProperty> DesignerProperty::conflictProperties() const
@@ -273,13 +290,31 @@ QString DesignerProperty::errorString() const
 
 bool DesignerProperty::validate()
 {
-    QString error;
-    m_failure = quint8(findFailure(error));
-    setErrorString(isValid() ? QString() : error);
+    setOutcome(findOutcome());
+    return isValid();
+}
+
+DesignerProperty::Outcome DesignerProperty::findOutcome() const
+{
+    Outcome outcome;
+    outcome.failure = findFailure(outcome.reason);
+    if (outcome.failure == Failure::None) {
+        outcome.reason.clear();
+    }
+    return outcome;
+}
+
+void DesignerProperty::setOutcome(const Outcome &outcome)
+{
+    const bool isChanged = outcome.failure != failure() || (!isValid() && outcome.reason != errorString());
+    m_failure = quint8(outcome.failure);
+    setErrorString(outcome.reason);
     if (EditorView *editor = editorWidget()) {
         editor->setErrorString(errorString());
     }
-    return isValid();
+    if (isChanged) {
+        announceValidity();
+    }
 }
 
 //! The first step that fails. A step may disable validation, which skips those after it.
@@ -337,10 +372,8 @@ bool DesignerProperty::equalsValue(const QString &text) const
 
 bool DesignerProperty::canRead(const QString &text)
 {
-    bool isGood = false;
-    const bool isRead = judgeText(text, isGood);
-    validate(); // The trial has judged the other value.
-    return isRead;
+    Outcome outcome;
+    return validateText(text, outcome);
 }
 
 QString DesignerProperty::refusalOf(const QString &text)
@@ -348,12 +381,11 @@ QString DesignerProperty::refusalOf(const QString &text)
     if (const QString problem = XmlText::storageProblem(text); !problem.isEmpty()) {
         return problem;
     }
-    bool isGood = false;
-    const bool isRead = judgeText(text, isGood);
-    const QString reason = errorString();
-    validate(); // The trial has judged the other value.
+    Outcome outcome;
+    const bool isRead = validateText(text, outcome);
+    validate(); // A change that was refused may have left its reason.
     if (isRead) {
-        return isGood ? QString() : reason;
+        return outcome.reason;
     }
     const QString range = descriptor().range.toString();
     const QString form = range.isEmpty() ? formText() : u"%1 %2"_s.arg(formText(), range);
@@ -374,11 +406,11 @@ bool DesignerProperty::takeText(const QString &text)
     return isTaken;
 }
 
-bool DesignerProperty::judgeText(const QString &text, bool &valid)
+bool DesignerProperty::validateText(const QString &text, Outcome &outcome)
 {
     const bool wasInitial = m_isInitial;
     m_isInitial = false;
-    const bool isRead = tryValue(text, valid);
+    const bool isRead = tryValue(text, outcome);
     m_isInitial = wasInitial;
     return isRead;
 }
@@ -540,6 +572,9 @@ QStringList DesignerProperty::getItemNamesOfType(const QString &className, bool 
 void DesignerProperty::sortList()
 {
     if (m_hasState && m_state->items) {
+        if (const DesignerObject *parent = parentObject()) {
+            parent->assertMayChange();
+        }
         m_state->items->isOrdered = false;
         updateListItems();
     }
@@ -554,13 +589,13 @@ void DesignerProperty::setOrderingPaused(bool paused)
 
 void DesignerProperty::updateListItems() { }
 
-bool DesignerProperty::tryValue(const QString &text, bool &valid)
+bool DesignerProperty::tryValue(const QString &text, Outcome &outcome)
 {
     const QString held = convertToValueString();
     if (!convertToValue(text)) {
         return false;
     }
-    valid = validate();
+    outcome = findOutcome();
     convertToValue(held);
     return true;
 }

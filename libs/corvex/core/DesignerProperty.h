@@ -20,12 +20,11 @@ struct ItemPlace;
 /*! One named, typed value of a DesignerObject.
 
     A property is an ordinary value, one child object (ObjectFlag) or an ordered list of child objects
-    (ListFlag). Whatever its kind, its value crosses every boundary as text. Reading is open to everyone;
-   changes go through the operations of the object that owns the property, which ask the hooks and emit the
-   signals.
+    (ListFlag). Values of all kinds cross boundaries as text. Any code may read a property; changes go through
+    the operations of the object that owns it, which run the hooks and emit the signals.
 
-    What a class says about its property lies in a descriptor that all instances share; what is set here on
-   one property is set for that property alone.
+    All instances of a class share the descriptor of a property. A setter of this class changes the descriptor
+    of one property alone.
 */
 class CORVEX_EXPORT DesignerProperty : public IDesignerObject
 {
@@ -53,7 +52,7 @@ public:
     void setEditor(const QString &editorName, const QVariantMap &parameters = {});
     void setEditorParameters(const QVariantMap &parameters);
     void setEditorParameter(const QString &key, const QVariant &value);
-    //! The editor that shows the property at the moment; validate() tells it the outcome. Not owned.
+    //! The editor that shows the property now; validate() passes the outcome to it. Not owned.
     EditorView *editorWidget() const;
     void setEditorWidget(EditorView *widget);
 
@@ -70,7 +69,7 @@ public:
     const QString &description() const { return descriptor().description; }
     void setDescription(const QString &description);
 
-    //! Whether a value that fails validation is stored all the same, and marked.
+    //! Whether a value that fails validation is stored anyway, and marked.
     bool allowInvalidValue() const { return descriptor().allowInvalidValue; }
     void setAllowInvalidValue(bool allow);
     void setValueValidator(ValueValidator validator);
@@ -78,11 +77,11 @@ public:
     void setRemoveValidator(ItemValidator validator);
     void setQmlCreator(QmlCreator creator);
 
-    //! The class names of which a child must be one (itself or by descent); all are welcome when empty.
+    //! A child must be of one of these classes or derived from one; empty accepts all.
     const QStringList &objectFilters() const { return descriptor().objectFilters; }
     void setObjectFilters(const QStringList &classNames);
 
-    //! Properties that cannot hold their values beside this one's.
+    //! Properties whose values exclude the value of this one.
     QList<QSharedPointer<DesignerProperty>> conflictProperties() const;
     void setConflictProperties(const QList<QSharedPointer<DesignerProperty>> &properties);
     void resetConflictProperties();
@@ -100,28 +99,27 @@ public:
     bool isValid() const { return failure() == Failure::None; }
     //! Why the last validation failed or the last list or object operation was refused; empty otherwise.
     QString errorString() const;
-    /*! Runs the value validator, then the check of the property's kind, and keeps the outcome. For lists and
-        objects the children's own outcomes count as they stand; DesignerObject::validate() brings them up to
-        date first. While validation is disabled on the owner every step is skipped.
+    /*! Runs the value validator, then the check of the property's kind, and keeps the outcome. Lists and
+        objects use the last outcomes of their children; DesignerObject::validate() updates those first. All
+        steps are skipped while validation is disabled on the owner.
     */
     bool validate();
 
     /*! The value as text: empty for a list, the XML of the child (empty without one) for an object, else the
         canonical form of the value. */
     QString valueString() const;
-    //! Whether \a text stands for the value that is held; a text that does not parse counts as equal.
+    //! Whether \a text means the present value; a text that does not parse counts as equal.
     bool equalsValue(const QString &text) const;
-    //! Whether \a text stands for a value at all. The value and the outcome of its validation stay.
+    //! Whether \a text can be read as a value. The present value and the outcome of its validation stay.
     bool canRead(const QString &text);
-    //! Why the property does not take \a text, for the user; empty when it does. The value stays.
+    //! Why the property would refuse \a text, for the user; empty if it accepts it. The value stays.
     QString refusalOf(const QString &text);
     bool equalsObjectValue(const DesignerObject *object) const { return objectValue() == object; }
     bool equalsListItems(const QList<DesignerObject *> &items) const;
 
-    //! The property's QML, its lines parted by "\n" and none behind the last; empty unless RuntimeFlag is
-    //! set.
+    //! The property's QML, its lines separated by "\n"; empty unless RuntimeFlag is set.
     QString toQml(int indent) const;
-    //! Whether toQml() writes literals alone, which are correct whatever the value is.
+    //! Whether toQml() writes only literals, which are correct for all values.
     bool writesPlainQml() const { return !descriptor().qmlCreator && hasPlainForm(); }
 
     //! The child of an object property, owned by parentObject().
@@ -145,45 +143,61 @@ public:
     //! Items of the class, or of one that is derived from it.
     QList<DesignerObject *> getItemsOfType(const QString &className, bool recursive = false) const;
     QStringList getItemNamesOfType(const QString &className, bool recursive = false) const;
-    //! Puts the items into the order of the list's rule; nothing for a list without one.
+    //! Sorts the items by the list's rule; does nothing for a list without one.
     void sortList();
-    //! While it is paused, items stay where they are put; the first change after that orders them all.
+    //! While paused, items stay where they are put; the first change after that sorts them all.
     void setOrderingPaused(bool paused);
 
-    // What each kind of property does with its value, past the protocol: none of these asks a hook or emits a
-    // signal.
-    //! Parses \a text into the typed value; false, and the value as it was, when it does not parse.
+    // What each kind of property does with its value, outside of the change protocol: none of these runs a
+    // hook or emits a signal.
+    //! Parses \a text into the typed value. Returns false and keeps the value if it does not parse.
     virtual bool convertToValue(const QString &text) = 0;
     //! The canonical text of the typed value.
     virtual QString convertToValueString() const = 0;
-    //! The QML of the value itself, whatever the flags and the QML creator say.
+    //! The QML of the value itself, regardless of flags and QML creator.
     virtual QString convertToQml(int indent) const;
     virtual bool valueIsEqual(const QString &text) const = 0;
-    //! Judges the value without keeping the outcome.
+    //! Validates the value without keeping the outcome.
     virtual bool validateValue(QString &error) const = 0;
     virtual bool validateObjectValue(QString &error) const;
     virtual bool validateListItems(QString &error) const;
-    //! Runs after the list has changed; the place to keep it in order.
+    //! Runs after the list has changed and observers know. The place to sort it, by moveItem() and
+    //! reorderItems().
     virtual void updateListItems();
 
-    //! The list's children with what is kept beside them; null for other properties.
+    //! The list's children and kept items; null for other properties.
     const ItemList *itemList() const;
 
 protected:
-    /*! A property as \a prototype describes it, without its children, for the object \a parent. This is how
-        the rows of a property table make properties that share one descriptor. */
+    /*! A property of \a parent that shares the descriptor and starts with the value of \a prototype, without
+        its children. The rows of a property table create properties in this way. */
     DesignerProperty(DesignerObject *parent, const DesignerProperty &prototype);
 
-    //! The value of a property that holds a number; else not a number.
+    //! The value of a numeric property, otherwise NaN.
     virtual double number() const;
     virtual bool hasPlainForm() const { return false; }
-    //! What texts the property reads, as in "a whole number". Translated.
+    //! The texts that the property reads, as in "a whole number". Translated.
     virtual QString formText() const;
-    //! Validates \a text in the place of the value, which is the same afterwards to the last digit; false
-    //! when it does not parse.
-    virtual bool tryValue(const QString &text, bool &valid);
+    //! What a validation finds.
+    struct Outcome
+    {
+        Failure failure = Failure::None;
+        QString reason; //!< empty without a failure
+    };
+    //! Validates the property and keeps nothing.
+    Outcome findOutcome() const;
+    //! Validates \a text in place of the value, which is the same afterwards to the last digit; false if it
+    //! does not parse.
+    virtual bool tryValue(const QString &text, Outcome &outcome);
     ItemList &items();
-    //! Whether the property holds the value of its row. Whoever sets the typed value switches it off.
+    //! Where the order of the list puts an item that comes in at \a index, which is the answer of a list
+    //! without an order.
+    virtual qsizetype placeInOrder(qsizetype index, const DesignerObject &item) const;
+    //! For updateListItems(): moves an item so that observers know; \a to is its index afterwards.
+    void moveItem(qsizetype from, qsizetype to);
+    //! The same for many: \a order holds all items.
+    void reorderItems(const QList<DesignerObject *> &order);
+    //! Whether the property holds the value of its row. Code that sets the typed value resets it.
     void setInitial(bool isInitial) { m_isInitial = isInitial; }
 
     // The changes of lists and objects, which DesignerObject calls under its protocol.
@@ -195,10 +209,10 @@ protected:
     bool replaceItem(DesignerObject *oldItem, DesignerObject *newItem);
     bool replaceItemAt(qsizetype index, DesignerObject *newItem);
     bool swapItems(DesignerObject *first, DesignerObject *second);
-    //! Takes over \a object, which may be null, and gives the previous child free.
+    //! Takes over \a object, which may be null, and releases the previous child.
     bool setObjectValue(DesignerObject *object);
     void updateItemIdName(const QString &oldName, const QString &newName);
-    //! Makes \a child, which has no owner, the child of an object property that is being made.
+    //! Makes \a child, which has no owner, the child of an object property that is being created.
     void startWith(DesignerObject *child);
 
 private:
@@ -217,34 +231,46 @@ private:
     void shareDescriptor(const DesignerProperty &other);
     //! For a property that is not in a block.
     void setParentObject(DesignerObject *parent);
-    //! The text of the value as long as it is the one that the property started with; else null.
+    //! The text of the value while it is still the initial one; otherwise null.
     QString initialText() const { return m_isInitial ? descriptor().initialText : QString(); }
     bool hasId(QByteArrayView utf8) const { return descriptor().utf8Id == utf8; }
     //! Whether the property holds the value that it started with, and that is \a utf8.
     bool holdsInitial(QByteArrayView utf8) const { return m_isInitial && descriptor().utf8Initial == utf8; }
     bool takeText(const QString &text);
-    bool judgeText(const QString &text, bool &valid);
+    bool validateText(const QString &text, Outcome &outcome);
+    void setOutcome(const Outcome &outcome);
+    //! Whether the descriptor is another one afterwards.
     template<class Field>
-    void describe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value);
+    bool describe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value);
+    template<class Field>
+    void redescribe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value);
+
+    // What observers hear.
+    template<class Tell>
+    void announce(Tell tell);
+    void announceExchange(qsizetype index, DesignerObject *oldObject, DesignerObject *newObject);
+    void announceValidity();
+    void announceDescriptor();
 
     Failure findFailure(QString &error) const;
     bool isInRange(QString &error) const;
-    void setParameters(const QVariantMap &parameters);
+    bool setParameters(const QVariantMap &parameters);
     bool refuse(const char *message);
     bool acceptsClassOf(const DesignerObject *object) const;
     bool canAdd(const DesignerObject *item, const char *duplicateMessage);
     bool canRemove(const DesignerObject *item);
+    bool canHold(const DesignerObject *object);
 
-    // For a child that is being deleted: it leaves without a word.
+    // For a child that is being deleted.
     void forgetItem(DesignerObject *item);
     void forgetObjectValue();
-    //! Lets go of all children at once, for an owner that deletes them.
+    //! Releases all children at once, for an owner that deletes them.
     QList<DesignerObject *> releaseChildren();
     void putItem(ItemPlace place, DesignerObject *item);
     void setErrorString(const QString &error);
     State &state();
 
-    // A project has a million of these. What few of them have is in the state, the descriptor too then; the
+    // A project has a million of these. Rare data is in the state, which then holds the descriptor, too. The
     // parent is in the block, or in the state of a property without one.
     union {
         PropertyDescriptor *m_descriptor; //!< shared, and counted by hand

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The list and object operations of DesignerProperty: what each refuses, with which text, and what it does.
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/core/DesignerObject.h"
+#include "corvex/core/ModelObservers.h"
+#include "corvex/core/private/DesignerObjectData.h"
 #include "corvex/core/private/DesignerPropertyState.h"
 
 using namespace Qt::StringLiterals;
@@ -63,10 +64,78 @@ bool DesignerProperty::canRemove(const DesignerObject *item)
 
 void DesignerProperty::putItem(ItemPlace place, DesignerObject *item)
 {
-    place.index = std::clamp<qsizetype>(place.index, 0, items().count());
-    items().insert(place, item);
+    ItemList &list = items();
+    place.index = std::clamp<qsizetype>(place.index, 0, list.count());
+    const bool isInOrder = list.isOrdered && !list.isOrderingPaused;
+    const qsizetype index = isInOrder ? placeInOrder(place.index, *item) : place.index;
+    announceExchange(index, nullptr, item);
+    list.insert(place, item);
+    if (index != place.index) {
+        list.move(place.index, index);
+    }
+    if (isInOrder) {
+        list.forgetNewest();
+    }
     item->addListDesignerProperty(this);
-    updateListItems();
+}
+
+qsizetype DesignerProperty::placeInOrder(qsizetype index, const DesignerObject &) const
+{
+    return index;
+}
+
+template<class Tell>
+void DesignerProperty::announce(Tell tell)
+{
+    const DesignerObject *parent = parentObject();
+    ModelObservers *observers = parent ? parent->activeObservers() : nullptr;
+    if (const SharedProperty self = observers ? parent->d->properties.shared(this) : SharedProperty()) {
+        tell(*observers, self);
+    }
+}
+
+void DesignerProperty::announceExchange(qsizetype index, DesignerObject *oldObject, DesignerObject *newObject)
+{
+    announce([&](ModelObservers &observers, const SharedProperty &self) {
+        observers.beginExchange({self, index, oldObject, newObject});
+    });
+}
+
+void DesignerProperty::announceValidity()
+{
+    announce([](ModelObservers &observers, const SharedProperty &self) { observers.reportValidity(self); });
+}
+
+void DesignerProperty::announceDescriptor()
+{
+    announce([](ModelObservers &observers, const SharedProperty &self) {
+        observers.call(&ModelObserver::descriptorChanged, self);
+    });
+}
+
+void DesignerProperty::moveItem(qsizetype from, qsizetype to)
+{
+    if (from == to) {
+        return;
+    }
+    announce([&](ModelObservers &observers, const SharedProperty &self) {
+        observers.call(&ModelObserver::aboutToMove, self, from, to);
+    });
+    items().move(from, to);
+    announce([&](ModelObservers &observers, const SharedProperty &self) {
+        observers.call(&ModelObserver::moved, self, from, to);
+    });
+}
+
+void DesignerProperty::reorderItems(const QList<DesignerObject *> &order)
+{
+    announce([](ModelObservers &observers, const SharedProperty &self) {
+        observers.call(&ModelObserver::aboutToReorder, self);
+    });
+    items().reorder(order);
+    announce([](ModelObservers &observers, const SharedProperty &self) {
+        observers.call(&ModelObserver::reordered, self);
+    });
 }
 
 void DesignerProperty::forgetItem(DesignerObject *item)
@@ -148,9 +217,9 @@ DesignerObject *DesignerProperty::takeListItem(DesignerObject *item)
     if (!canRemove(item)) {
         return nullptr;
     }
+    announceExchange(index, item, nullptr);
     items().removeAt(index);
     item->takeListDesignerProperty(this);
-    updateListItems();
     return item;
 }
 
@@ -174,10 +243,10 @@ bool DesignerProperty::replaceItemAt(qsizetype index, DesignerObject *newItem)
     if (!canAdd(newItem, itemExists) || !canRemove(oldItem)) {
         return false;
     }
+    announceExchange(index, oldItem, newItem);
     items().replaceAt(index, newItem);
     oldItem->takeListDesignerProperty(this);
     newItem->addListDesignerProperty(this);
-    updateListItems();
     return true;
 }
 
@@ -194,19 +263,27 @@ bool DesignerProperty::swapItems(DesignerObject *first, DesignerObject *second)
     if (first == second) {
         return refuse("Same objects.");
     }
-    items().swap(firstIndex, secondIndex);
+    items().forgetNewest();
+    const auto [low, high] = std::minmax(firstIndex, secondIndex);
+    moveItem(low, high);
+    moveItem(high - 1, low);
     items().isOrdered = false;
     updateListItems();
     return true;
 }
 
-bool DesignerProperty::setObjectValue(DesignerObject *object)
+bool DesignerProperty::canHold(const DesignerObject *object)
 {
     if (!isObject() || !parentObject()) {
         return refuse("This is not a object type property, or the parent object is null.");
     }
-    if (object && !acceptsClassOf(object)) {
-        return refuse(typeNotSupported);
+    return !object || acceptsClassOf(object) || refuse(typeNotSupported);
+}
+
+bool DesignerProperty::setObjectValue(DesignerObject *object)
+{
+    if (!canHold(object)) {
+        return false;
     }
     state().objectValue = object;
     return true;
@@ -220,7 +297,7 @@ void DesignerProperty::startWith(DesignerObject *child)
     if (child->ownerObject()) {
         refuse(itemExists);
     } else if (setObjectValue(child)) {
-        parentObject()->enter(child);
+        parentObject()->enterModel(child);
     }
 }
 

@@ -7,9 +7,9 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What the model knows of the widget that edits a property: it tells it each verdict and never asks it
-//! anything. It neither owns it nor outlives the right to call it: an editor that goes resets itself on its
-//! property first.
+//! The interface of the widget that edits a property. The model reports the outcome of each validation to it
+//! and never asks it anything. Not owned: an editor must call setEditorWidget(nullptr) on its property before
+//! it is destroyed.
 class CORVEX_EXPORT EditorView
 {
 public:

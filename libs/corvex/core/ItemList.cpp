@@ -107,12 +107,7 @@ void ItemList::replaceAt(qsizetype index, DesignerObject *item)
     insert(place, item);
 }
 
-void ItemList::swap(qsizetype first, qsizetype second)
-{
-    m_items.swapItemsAt(first, second);
-}
-
-void ItemList::moveNewest(qsizetype from, qsizetype to)
+void ItemList::move(qsizetype from, qsizetype to)
 {
     m_items.move(from, to);
     // A new item goes to its place past what is kept, as if it had come in there.
@@ -120,6 +115,12 @@ void ItemList::moveNewest(qsizetype from, qsizetype to)
         shiftKept(keptUpTo(from), -1);
         shiftKept(keptUpTo(to), 1);
     }
+}
+
+void ItemList::forgetNewest()
+{
+    newestIndex = -1;
+    m_hasNewestComeIn = false;
 }
 
 void ItemList::keep(const KeptItem &kept)

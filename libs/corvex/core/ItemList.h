@@ -18,7 +18,7 @@ struct CORVEX_EXPORT KeptItem
     QByteArray xml; //!< the element in UTF-8, its lines parted by "\n", indented from level 0
     QString className;
     QString name; //!< its identifier name, empty when none could be made out
-    //! Kept because an item before it has the same name, which counts.
+    //! Kept because an earlier item has the same name.
     bool isNamesake = false;
     qsizetype itemsBefore = 0; //!< how many items of the list come before it
 };
@@ -31,13 +31,13 @@ struct CORVEX_EXPORT ItemPlace
 };
 
 /*! The children of a list property: in order, and found by identifier name in constant time. Most lists of a
-    project are short; those are walked and have no index.
+    project are short; those are searched without an index.
 
-    The list owns nothing. It does not learn of a new name by itself: rekey() tells it. Two items may bear one
-    name, since the model stores bad names and marks them; find() then answers the first in list order.
+    The list owns nothing. Call rekey() when an item was renamed. Two items may have the same name, since the
+    model stores bad names and marks them; find() then returns the first in list order.
 
-    What is kept has its own place between the items. It moves when an item comes or goes before it, and stays
-   where it is when items change places among themselves.
+    Kept items have places of their own between the items. They move when an item is inserted or removed
+    before them, and stay when items change places among themselves.
 */
 class CORVEX_EXPORT ItemList
 {
@@ -53,16 +53,18 @@ public:
     //! How many items bear that name.
     qsizetype countOf(const QString &name) const { return named(name).size(); }
 
-    //! The index of the place must be one of the list, or the one behind the last.
+    //! The index of the place is at most the number of items.
     void insert(ItemPlace place, DesignerObject *item);
     void removeAt(qsizetype index);
     void replaceAt(qsizetype index, DesignerObject *item);
-    void swap(qsizetype first, qsizetype second);
-    //! Puts the item that came in or got its name last in order; \a to is its index afterwards.
-    void moveNewest(qsizetype from, qsizetype to);
+    //! Moves an item; \a to is its index afterwards. Kept items make way for the newest item if it was just
+    //! inserted, and stay otherwise.
+    void move(qsizetype from, qsizetype to);
+    //! For a list whose newest item is in its place.
+    void forgetNewest();
     //! Takes over \a order, which holds the same items.
     void reorder(const QList<DesignerObject *> &order) { m_items = order; }
-    //! Moves \a item from its old name to the one it bears now; harmless when that was done before.
+    //! Moves \a item from its old name to its present one; harmless if that was done before.
     void rekey(const QString &oldName, DesignerObject *item);
 
     bool hasKeptItems() const { return !m_kept.isEmpty(); }
@@ -71,7 +73,7 @@ public:
     //! Keeps \a kept at the end of the list.
     void keep(const KeptItem &kept);
     void dropKeptItems() { m_kept.clear(); }
-    //! Shows items and kept items in the order in which they are stored.
+    //! Visits items and kept items in the order in which they are stored.
     template<class OnItem, class OnKept>
     void walk(const OnItem &onItem, const OnKept &onKept) const
     {
@@ -88,12 +90,12 @@ public:
 
     //! The number of items whose object is invalid, as counted by the objects themselves.
     qsizetype invalidCount = 0;
-    //! Items stay where they are put, as long as a stored list is being read or somebody wants it so.
+    //! Items stay where they are put, for example while a stored list is being read.
     bool isOrderingPaused = false;
     //! False when more than one item may be out of order.
     bool isOrdered = true;
-    //! The index of the item that came in or got its name last, the only one out of order when isOrdered; -1
-    //! when there is none.
+    //! The index of the item that was inserted or renamed last. It is the only one out of order if isOrdered;
+    //! -1 if there is none.
     qsizetype newestIndex = -1;
 
 private:
@@ -105,7 +107,7 @@ private:
     QList<DesignerObject *> m_items;
     NameIndex m_byName; //!< of a list that was short so far it holds nothing
     bool m_isIndexed = false;
-    bool m_hasNewestComeIn = false; //!< the newest item is new to the list, not just to its name
+    bool m_hasNewestComeIn = false; //!< the newest item was inserted, not renamed
     QList<KeptItem> m_kept;         //!< in list order
 };
 

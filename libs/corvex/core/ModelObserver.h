@@ -6,29 +6,89 @@
 
 namespace Halvane::Corvex::Designer {
 
-class Project;
+class ModelObservers;
 
-/*! Follows all changes of one project at a single place, so that an index of the whole model costs no
-    connection for each object. It is told in the middle of a change and must not change the model itself. */
+/*! Follows all changes of one project in a single place. An index or a view of the whole model needs no
+    connection for each object.
+
+    Add an observer to Project::observers(). The project does not own it: it leaves when it is destroyed, and
+    is released when the project is destroyed. All operations do nothing in the base.
+
+    - Operations named "aboutTo..." run before the model changes. Their counterparts run right after
+      the change, before the after-hook and the signal of the object. Both get the same arguments.
+    - A "list" is the list property or the object property that holds the child; the index of the child of an
+      object property is 0.
+    - An object comes and goes with everything below it. What changes inside it on the way is not reported, so
+      read it in inserted() or replaced(), and forget it in aboutToRemove() or aboutToReplace().
+    - Validity that changes while an object comes or goes is reported when that is over and indexes are good
+      again.
+    - Nothing is reported while a project is loaded: between projectAboutToLoad() and projectLoaded().
+
+    An observer must not change the model, and debug builds assert that. It may add and remove observers,
+    itself included; one that is added hears from the next operation on.
+*/
 class CORVEX_EXPORT ModelObserver
 {
+    Q_DISABLE_COPY_MOVE(ModelObserver)
+
 public:
-    virtual ~ModelObserver() = default;
+    virtual ~ModelObserver();
 
-    //! Right after the value was stored, before the hooks of the object.
-    virtual void valueChanged(const SharedProperty &property, const QString &previousValue) = 0;
-    //! The object is in the project, with everything below it.
-    virtual void entered(DesignerObject *object) = 0;
-    //! The object goes, with everything below it, and still knows its project and its screen. An object that
-    //! is being deleted is a bare DesignerObject by then, whose children have gone before.
-    virtual void leaving(DesignerObject *object) = 0;
+    //! A renamed object is found by its new name already; a list that it is in may report moved() next.
+    virtual void valueChanged(const SharedProperty & /*property*/, const QString & /*previousValue*/) { }
 
-    //! Null when nobody follows \a project, or it is null. Defined in the room of the project.
-    static ModelObserver *of(const Project *project);
+    //! \a index is where the object will be, in a list that sorts itself, too.
+    virtual void aboutToInsert(const SharedProperty & /*list*/, qsizetype /*index*/,
+                               DesignerObject * /*object*/)
+    { }
+    virtual void inserted(const SharedProperty & /*list*/, qsizetype /*index*/, DesignerObject * /*object*/)
+    { }
+    //! The object is still in its place and knows its project and screen. If it is being deleted, it may be a
+    //! bare DesignerObject by now, but its properties and children are all there.
+    virtual void aboutToRemove(const SharedProperty & /*list*/, qsizetype /*index*/,
+                               DesignerObject * /*object*/)
+    { }
+    //! If the object is being deleted, only its address is still of use.
+    virtual void removed(const SharedProperty & /*list*/, qsizetype /*index*/, DesignerObject * /*object*/) {
+    }
+    //! Both indexes are those of the moved object: \a from before the move, \a to after it.
+    virtual void aboutToMove(const SharedProperty & /*list*/, qsizetype /*from*/, qsizetype /*to*/) { }
+    virtual void moved(const SharedProperty & /*list*/, qsizetype /*from*/, qsizetype /*to*/) { }
+    //! A list that sorts itself may report moved() next.
+    virtual void aboutToReplace(const SharedProperty & /*list*/, qsizetype /*index*/,
+                                DesignerObject * /*oldObject*/, DesignerObject * /*newObject*/)
+    { }
+    virtual void replaced(const SharedProperty & /*list*/, qsizetype /*index*/,
+                          DesignerObject * /*oldObject*/, DesignerObject * /*newObject*/)
+    { }
+    //! More than one item changes its place. Keep listItems(), which costs nothing, to find the old places.
+    virtual void aboutToReorder(const SharedProperty & /*list*/) { }
+    virtual void reordered(const SharedProperty & /*list*/) { }
+
+    //! The failure() of the property, or the reason for it, may be another one.
+    virtual void validityChanged(const SharedProperty & /*property*/) { }
+    //! The isValid() of the object may have changed; follows what its properties report.
+    virtual void objectValidityChanged(DesignerObject * /*object*/) { }
+    //! Title, flags, editor, editor parameters ("visible" is one of them), rank or description of this one
+    //! property.
+    virtual void descriptorChanged(const SharedProperty & /*property*/) { }
+
+    //! All objects of the project are about to be deleted. Forget them now.
+    virtual void projectAboutToLoad() { }
+    //! The project holds what the file holds, or a part of it after an error. Read all of it.
+    virtual void projectLoaded() { }
+    //! The file of the project was written.
+    virtual void projectSaved() { }
+    //! The last operation. The observer is released afterwards; it may delete itself.
+    virtual void projectAboutToBeDestroyed() { }
 
 protected:
     ModelObserver() = default;
-    Q_DISABLE_COPY_MOVE(ModelObserver)
+
+private:
+    friend class ModelObservers;
+
+    ModelObservers *m_observers = nullptr;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -11,9 +11,8 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class DesignerProperty;
 
-//! What the model knows of the item that shows an object on the canvas. The model tells it of changes and
-//! never asks it anything; it neither owns it nor outlives the right to call it: a view that goes resets
-//! itself on its object first.
+//! The interface of the canvas item that shows an object. The model reports changes to it and never asks it
+//! anything. Not owned: a view must call resetGraphicsItem() on its object before it is destroyed.
 class CORVEX_EXPORT ObjectView : public IDesignerObject
 {
 public:

@@ -188,10 +188,10 @@ const std::vector<qsizetype> &PropertyTable::placesAmong(const PropertyStore &pr
     return places.places;
 }
 
-bool PropertyTable::describeAnew(const PropertyRow &row, DesignerProperty &property) const
+bool PropertyTable::redescribe(const PropertyRow &row, DesignerProperty &property) const
 {
     if (row.m_prototype->className() != property.className()) {
-        qWarning("Property \"%s\" cannot be described anew as another kind.", qUtf8Printable(property.id()));
+        qWarning("Property \"%s\" cannot be redescribed as another kind.", qUtf8Printable(property.id()));
         return false;
     }
     const bool startsAlike = property.initialText() == row.m_prototype->descriptor().initialText;

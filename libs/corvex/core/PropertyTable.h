@@ -121,7 +121,7 @@ private:
 
     //! The same for all objects of a class, and looked up once.
     const std::vector<qsizetype> &placesAmong(const PropertyStore &properties) const;
-    bool describeAnew(const PropertyRow &row, DesignerProperty &property) const;
+    bool redescribe(const PropertyRow &row, DesignerProperty &property) const;
 
     std::vector<PropertyRow> m_rows;
     mutable std::mutex m_mutex;         //!< objects are made in several threads

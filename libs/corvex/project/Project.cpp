@@ -4,7 +4,6 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/TextHelper.h"
 #include "corvex/core/ItemList.h"
-#include "corvex/core/ModelObserver.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/PropertyValidators.h"
 #include "corvex/core/properties/BasicProperties.h"
@@ -57,12 +56,13 @@ Project::Project(QObject *parent)
 
 Project::~Project()
 {
+    m_observers.release();
     m_autosave.reset();
-    m_observer.reset();
     // Undo steps own what they took out of the model, and refer to what they left in it.
     m_undoStack.reset();
     m_folder.close();
     deleteChildren();
+    setObservers(nullptr);
 }
 
 bool Project::initialize()
@@ -70,6 +70,7 @@ bool Project::initialize()
     if (!FileObject::initialize()) {
         return false;
     }
+    setObservers(&m_observers);
     setProject(this);
     return true;
 }
@@ -325,16 +326,6 @@ void Project::createUndoStack()
     }
     undoStack()->startOver();
     m_autosave->startOver();
-}
-
-void Project::setObserver(std::unique_ptr<ModelObserver> observer)
-{
-    m_observer = std::move(observer);
-}
-
-ModelObserver *ModelObserver::of(const Project *project)
-{
-    return project ? project->observer() : nullptr;
 }
 
 void Project::emitUserModified(const UndoCommand *command)

@@ -3,6 +3,7 @@
 
 #include "corvex/common/Export.h"
 #include "corvex/core/FileObject.h"
+#include "corvex/core/ModelObservers.h"
 #include "corvex/project/files/ProjectFolder.h"
 #include "corvex/runtime/RuntimeGenerator.h"
 #include "corvex/values/runtime/RuntimeLists.h"
@@ -16,7 +17,6 @@ namespace Halvane::Corvex::Designer {
 class Configuration;
 class HistoryKeeper;
 class ImageResource;
-class ModelObserver;
 class ProjectAutosave;
 class UndoCommand;
 class UndoStack;
@@ -132,9 +132,8 @@ public:
     QAction *createUndoAction();
     QAction *createRedoAction();
 
-    //! What follows all changes of the project; loading another file into it ends that.
-    ModelObserver *observer() const { return m_observer.get(); }
-    void setObserver(std::unique_ptr<ModelObserver> observer);
+    //! Those that follow all changes of the project.
+    ModelObservers &observers() { return m_observers; }
 
     // Autosave.
     ProjectAutosave &autosave() { return *m_autosave; }
@@ -215,7 +214,7 @@ private:
     QAction *m_undoAction = nullptr;
     QAction *m_redoAction = nullptr;
     std::unique_ptr<ProjectAutosave> m_autosave;
-    std::unique_ptr<ModelObserver> m_observer;
+    ModelObservers m_observers;
     RuntimeGenerator m_runtimeGenerator;
     ProjectFolder m_folder;
     bool m_needsBuildVersion = false;

@@ -47,6 +47,7 @@
 #include "corvex/project/files/ProjectAutosave.h"
 #include "corvex/values/records/ListInfo.h"
 
+#include "ModelMirror.h"
 #include "ProjectGenerator.h"
 #include "Random.h"
 
@@ -468,6 +469,7 @@ void ModelTest::edit()
 {
     const int steps = setting("CORVEX_MODEL_STEPS", 1000);
     UndoStack *stack = project->undoStack();
+    const ModelMirror mirror(*project);
     ASSERT_NO_FATAL_FAILURE(checkModel());
     const QString first = text();
     int done = 0;
@@ -490,7 +492,11 @@ void ModelTest::edit()
             stack->setIndex(index);
             ASSERT_EQ(difference(text(), last), QString());
         }
+        if (step % 20 == 0) {
+            ASSERT_EQ(mirror.difference(), QString());
+        }
     }
+    EXPECT_EQ(mirror.difference(), QString());
     EXPECT_GT(done, steps / 3);
 }
 

@@ -15,6 +15,7 @@ struct DesignerObject::Data
     QWeakPointer<DesignerProperty> listProperty;
     HoldingLists lists;
     Project *project = nullptr;
+    ModelObservers *observers = nullptr; //!< of the project; null out of projects
     Screen *screen = nullptr;
     ObjectView *view = nullptr;
     std::unique_ptr<QStringList> validationErrors; //!< null for none

@@ -4,49 +4,65 @@
 
 #include <QList>
 
-#include <memory>
-
 namespace Halvane::Corvex::Designer {
 
 class DesignerProperty;
 
-//! The lists that hold an object: one for nearly every object, which takes no memory of its own.
+//! The lists that hold an object, in the size of a pointer: one list is kept as its address. The address of a
+//! QList of several, which few objects have, is marked by its lowest bit.
 class HoldingLists
 {
+    Q_DISABLE_COPY_MOVE(HoldingLists)
+
 public:
-    bool isEmpty() const { return !m_first; }
+    HoldingLists() = default;
+    ~HoldingLists() { delete several(); }
+
+    bool isEmpty() const { return m_address == 0; }
     QList<DesignerProperty *> all() const
     {
-        QList<DesignerProperty *> lists;
-        if (m_first) {
-            lists.append(m_first);
+        if (const auto *lists = several()) {
+            return *lists;
         }
-        return m_others ? lists + *m_others : lists;
+        return isEmpty() ? QList<DesignerProperty *>()
+                         : QList{reinterpret_cast<DesignerProperty *>(m_address)};
     }
     //! One that is here already is ignored.
     void add(DesignerProperty *list)
     {
-        if (!m_first) {
-            m_first = list;
-        } else if (list != m_first && !(m_others && m_others->contains(list))) {
-            if (!m_others) {
-                m_others = std::make_unique<QList<DesignerProperty *>>();
-            }
-            m_others->append(list);
+        if (isEmpty()) {
+            m_address = reinterpret_cast<quintptr>(list);
+        } else if (QList<DesignerProperty *> lists = all(); !lists.contains(list)) {
+            lists.append(list);
+            set(lists);
         }
     }
     void remove(DesignerProperty *list)
     {
-        if (list == m_first) {
-            m_first = m_others && !m_others->isEmpty() ? m_others->takeFirst() : nullptr;
-        } else if (m_others) {
-            m_others->removeOne(list);
+        if (m_address == reinterpret_cast<quintptr>(list)) {
+            m_address = 0;
+        } else if (QList<DesignerProperty *> lists = all(); lists.removeOne(list)) {
+            set(lists);
         }
     }
 
 private:
-    DesignerProperty *m_first = nullptr;
-    std::unique_ptr<QList<DesignerProperty *>> m_others;
+    static constexpr quintptr severalMark = 1;
+
+    QList<DesignerProperty *> *several() const
+    {
+        return m_address & severalMark
+                   ? reinterpret_cast<QList<DesignerProperty *> *>(m_address & ~severalMark)
+                   : nullptr;
+    }
+    void set(const QList<DesignerProperty *> &lists)
+    {
+        delete several();
+        m_address = lists.size() > 1 ? reinterpret_cast<quintptr>(new QList(lists)) | severalMark
+                                     : reinterpret_cast<quintptr>(lists.value(0));
+    }
+
+    quintptr m_address = 0;
 };
 
 } // namespace Halvane::Corvex::Designer

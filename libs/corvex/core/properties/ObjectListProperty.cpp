@@ -131,24 +131,38 @@ void ObjectListProperty::updateListItems()
     }
 }
 
+qsizetype ObjectListProperty::placeInOrder(qsizetype index, const DesignerObject &item) const
+{
+    return m_rule == OrderRule::InsertionOrder ? index : placeAround(item, index, index);
+}
+
 void ObjectListProperty::placeNewest(qsizetype index)
 {
-    ItemList &list = items();
-    const SortKey key = keyOf(list.items().at(index), m_rule);
+    moveItem(index, placeAround(*items().items().at(index), index, index + 1));
+}
+
+//! The index of an item among all others, which are those before \a end and those from \a begin on. It is
+//! \a end if the order allows it.
+qsizetype ObjectListProperty::placeAround(const DesignerObject &item, qsizetype end, qsizetype begin) const
+{
+    const SortKey key = keyOf(&item, m_rule);
     const auto isBefore = [this](const DesignerObject *other, const SortKey &own) {
         return isLess(keyOf(other, m_rule), own, m_rule);
     };
     const auto isBehind = [this](const SortKey &own, const DesignerObject *other) {
         return isLess(own, keyOf(other, m_rule), m_rule);
     };
-    const auto begin = list.items().cbegin();
-    const auto item = begin + index;
-    const auto end = list.items().cend();
-    if (index > 0 && isBehind(key, *(item - 1))) {
-        list.moveNewest(index, std::upper_bound(begin, item, key, isBehind) - begin);
-    } else if (item + 1 != end && isBefore(*(item + 1), key)) {
-        list.moveNewest(index, std::lower_bound(item + 1, end, key, isBefore) - begin - 1);
+    const QList<DesignerObject *> &list = itemList()->items();
+    const auto first = list.cbegin();
+    const auto before = first + end;
+    const auto after = first + begin;
+    if (end > 0 && isBehind(key, *(before - 1))) {
+        return std::upper_bound(first, before, key, isBehind) - first;
     }
+    if (after != list.cend() && isBefore(*after, key)) {
+        return end + (std::lower_bound(after, list.cend(), key, isBefore) - after);
+    }
+    return end;
 }
 
 void ObjectListProperty::sortAll()
@@ -168,7 +182,7 @@ void ObjectListProperty::sortAll()
     std::stable_sort(keyed.begin(), keyed.end(), isBefore);
     QList<DesignerObject *> order(qsizetype(keyed.size()));
     std::transform(keyed.begin(), keyed.end(), order.begin(), [](const auto &entry) { return entry.second; });
-    items().reorder(order);
+    reorderItems(order);
 }
 
 } // namespace Halvane::Corvex::Designer

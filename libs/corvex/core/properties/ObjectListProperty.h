@@ -42,7 +42,10 @@ public:
 protected:
     ObjectListProperty(DesignerObject *parent, const ObjectListProperty &prototype);
 
+    qsizetype placeInOrder(qsizetype index, const DesignerObject &item) const override;
+
 private:
+    qsizetype placeAround(const DesignerObject &item, qsizetype end, qsizetype begin) const;
     void placeNewest(qsizetype index);
     void sortAll();
 

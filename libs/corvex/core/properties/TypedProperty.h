@@ -108,14 +108,14 @@ protected:
     }
 
     // Not by way of the text, which is rounded, and which an invalid value may not have at all.
-    bool tryValue(const QString &text, bool &valid) override
+    bool tryValue(const QString &text, Outcome &outcome) override
     {
         std::optional<Value> value = parse(text);
         if (!value) {
             return false;
         }
         std::swap(m_value, *value);
-        valid = validate();
+        outcome = findOutcome();
         m_value = *std::move(value);
         return true;
     }

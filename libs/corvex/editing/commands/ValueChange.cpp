@@ -8,11 +8,11 @@ namespace Halvane::Corvex::Designer {
 bool ValueChange::set(const SharedProperty &property, const QString &value)
 {
     DesignerObject *owner = property ? property->parentObject() : nullptr;
-    if (!owner || !owner->changePropertyValue(property, value)) {
+    if (!owner) {
         return false;
     }
-    // It may hold the value in another spelling. A text that is no value counts as equal to any.
-    return property->valueString() == value || (property->equalsValue(value) && property->canRead(value));
+    const DesignerObject::Change change = owner->changeValue(property, value);
+    return change == DesignerObject::Change::Done || change == DesignerObject::Change::Unchanged;
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -15,7 +15,7 @@ struct CORVEX_EXPORT ValueChange
     QString before;
     QString after;
 
-    //! False when the property does not hold the value afterwards: the model may refuse it without a word.
+    //! False if the model refused the value.
     bool redo() const { return set(property, after); }
     bool undo() const { return set(property, before); }
 

@@ -16,17 +16,15 @@ bool ReferenceIndex::Entry::operator<(const Entry &other) const
     return order < 0 || (order == 0 && std::less<>()(property.data(), other.property.data()));
 }
 
-ReferenceIndex::ReferenceIndex(Project *project)
-{
-    entered(project);
-}
-
 ReferenceIndex &ReferenceIndex::of(Project *project)
 {
-    auto *index = dynamic_cast<ReferenceIndex *>(project->observer());
+    auto *index = project->observers().find<ReferenceIndex>();
     if (!index) {
-        index = new ReferenceIndex(project);
-        project->setObserver(std::unique_ptr<ModelObserver>(index));
+        index = new ReferenceIndex;
+        project->observers().add(index);
+    }
+    if (!std::exchange(index->m_isBuilt, true)) {
+        index->updateAll(project, true);
     }
     return *index;
 }
@@ -69,26 +67,56 @@ void ReferenceIndex::update(const SharedProperty &property, const QString &text,
     }
 }
 
+void ReferenceIndex::updateAll(const DesignerObject *object, bool add)
+{
+    ReferenceScanner::visitSites(object, true, [this, add](const SharedProperty &property) {
+        update(property, property->valueString(), add);
+    });
+}
+
 void ReferenceIndex::valueChanged(const SharedProperty &property, const QString &previousValue)
 {
-    if (ReferenceForm::of(*property)) {
+    if (m_isBuilt && ReferenceForm::of(*property)) {
         update(property, previousValue, false);
         update(property, property->valueString(), true);
     }
 }
 
-void ReferenceIndex::entered(DesignerObject *object)
+void ReferenceIndex::inserted(const SharedProperty &, qsizetype, DesignerObject *object)
 {
-    ReferenceScanner::visitSites(object, true, [this](const SharedProperty &property) {
-        update(property, property->valueString(), true);
-    });
+    if (m_isBuilt) {
+        updateAll(object, true);
+    }
 }
 
-void ReferenceIndex::leaving(DesignerObject *object)
+void ReferenceIndex::aboutToRemove(const SharedProperty &, qsizetype, DesignerObject *object)
 {
-    ReferenceScanner::visitSites(object, true, [this](const SharedProperty &property) {
-        update(property, property->valueString(), false);
-    });
+    if (m_isBuilt) {
+        updateAll(object, false);
+    }
+}
+
+void ReferenceIndex::aboutToReplace(const SharedProperty &list, qsizetype index, DesignerObject *oldObject,
+                                    DesignerObject *)
+{
+    aboutToRemove(list, index, oldObject);
+}
+
+void ReferenceIndex::replaced(const SharedProperty &list, qsizetype index, DesignerObject *,
+                              DesignerObject *newObject)
+{
+    inserted(list, index, newObject);
+}
+
+void ReferenceIndex::projectAboutToLoad()
+{
+    m_entries.clear();
+    m_isBuilt = false;
+}
+
+void ReferenceIndex::projectAboutToBeDestroyed()
+{
+    delete this;
 }
 
 void ReferenceIndex::find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const

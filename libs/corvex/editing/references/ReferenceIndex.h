@@ -11,28 +11,36 @@
 
 namespace Halvane::Corvex::Designer {
 
+class Project;
 class ReferenceTarget;
 class Screen;
 
 /*! Which properties of a project name what, so that a rename does not walk the project.
 
-    Made by one walk when it is asked for first; from then on it follows the changes of the model.
+    It is built by one walk when it is asked for first, and after the project was loaded. From then on it
+    follows the changes of the model.
 */
 class CORVEX_EXPORT ReferenceIndex : public ModelObserver
 {
 public:
-    //! That of the project, which owns it.
+    //! The index of the project. It deletes itself with the project.
     static ReferenceIndex &of(Project *project);
 
     //! The properties that may name the target, each once; whether one does is for its value to tell.
     QList<SharedProperty> candidates(const ReferenceTarget &target) const;
 
     void valueChanged(const SharedProperty &property, const QString &previousValue) override;
-    void entered(DesignerObject *object) override;
-    void leaving(DesignerObject *object) override;
+    void inserted(const SharedProperty &list, qsizetype index, DesignerObject *object) override;
+    void aboutToRemove(const SharedProperty &list, qsizetype index, DesignerObject *object) override;
+    void aboutToReplace(const SharedProperty &list, qsizetype index, DesignerObject *oldObject,
+                        DesignerObject *newObject) override;
+    void replaced(const SharedProperty &list, qsizetype index, DesignerObject *oldObject,
+                  DesignerObject *newObject) override;
+    void projectAboutToLoad() override;
+    void projectAboutToBeDestroyed() override;
 
 private:
-    explicit ReferenceIndex(Project *project);
+    ReferenceIndex() = default;
 
     struct Entry
     {
@@ -47,9 +55,12 @@ private:
     static QList<Entry> entriesOf(const Mention &mention, const Screen *screen,
                                   const SharedProperty &property);
     void update(const SharedProperty &property, const QString &text, bool add);
+    //! For all properties of the object and of what is below it.
+    void updateAll(const DesignerObject *object, bool add);
     void find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const;
 
     std::set<Entry> m_entries;
+    bool m_isBuilt = false;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -93,7 +93,7 @@ void Element::setScreen(Screen *newScreen)
     DesignerObject::setScreen(newScreen);
 }
 
-void Element::nameTaken(const QString &oldName)
+void Element::nameChanged(const QString &oldName)
 {
     if (screen()) {
         screen()->elementIndex().rename(this, oldName);

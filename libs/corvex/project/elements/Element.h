@@ -32,7 +32,7 @@ protected:
 
     ObjectView *createGraphicsItem() override;
     bool initializeProperties() override;
-    void nameTaken(const QString &oldName) override;
+    void nameChanged(const QString &oldName) override;
 };
 
 } // namespace Halvane::Corvex::Designer

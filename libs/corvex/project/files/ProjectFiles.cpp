@@ -5,7 +5,6 @@
 #include "corvex/common/files/FileSync.h"
 #include "corvex/common/files/SafeFile.h"
 #include "corvex/common/files/TemporaryFolder.h"
-#include "corvex/core/ModelObserver.h"
 #include "corvex/editing/undo/HistoryKeeper.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/ImageResource.h"
@@ -60,6 +59,7 @@ bool Project::createFile(const QString &path)
         return false;
     }
     m_folder.close(); // another one from now on
+    m_observers.call(&ModelObserver::projectSaved);
     createUndoStack();
     return true;
 }
@@ -83,18 +83,22 @@ bool Project::loadFile(const QString &path)
     if (!m_folder.recover(path, &error)) {
         return finish(error);
     }
-    if (QFileInfo(path).isFile()) {
+    const bool isFile = QFileInfo(path).isFile();
+    if (isFile) {
+        m_observers.beginLoad();
         Common::SafeFile::removeAbandoned(QFileInfo(path).absolutePath());
         clearContents();
     }
     const bool done = FileObject::loadFile(path) && updateProjectProperties();
+    if (isFile) {
+        m_observers.endLoad();
+    }
     createUndoStack();
     return done;
 }
 
 void Project::clearContents()
 {
-    setObserver(nullptr);
     setDisableValidation(true);
     for (const SharedProperty &list : {m_imageResources, m_variables, m_screens}) {
         const QList<DesignerObject *> items = list->listItems();
@@ -120,6 +124,7 @@ bool Project::saveFile()
         changePropertyValue(m_designerVersion, oldDesignerVersion);
         return false;
     }
+    m_observers.call(&ModelObserver::projectSaved);
     if (m_historyKeeper) {
         setUndoStack(m_historyKeeper->historyAfterSave());
         m_autosave->startOver();

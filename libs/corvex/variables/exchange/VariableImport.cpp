@@ -186,11 +186,8 @@ bool VariableImport::set(const Record &record, DesignerObject &copy, qsizetype c
         }
         text = m_defaults.value(copy.className())->getProperty(id)->valueString();
     }
-    const bool wasSet = copy.changePropertyValue(property, text);
-    // A text that cannot be read changes nothing; one in another spelling of the same value does not, either.
-    const bool isRead =
-        property->valueString() != before || (property->canRead(text) && property->equalsValue(text));
-    if (!wasSet || !isRead) {
+    const DesignerObject::Change change = copy.changeValue(property, text);
+    if (change != DesignerObject::Change::Done && change != DesignerObject::Change::Unchanged) {
         return fail(record, u"%1.%2: \"%3\" is no value for it."_s.arg(record.name, id, text));
     }
     const bool isNumber =

@@ -280,10 +280,8 @@ void ObjectBuilder::applyValue(DesignerObject *object, DesignerProperty *propert
     }
     const QString text = m_texts.text(value);
     const SharedProperty held = shared(object, property);
-    const DesignerObject::ValueChange change = object->changeValue(held, text);
-    // "Equal" is also said of a text that does not parse; only a second parse tells the two apart.
-    if (change == DesignerObject::ValueChange::Refused
-        || (change == DesignerObject::ValueChange::None && !held->convertToValue(text))) {
+    const DesignerObject::Change change = object->changeStorableValue(held, text);
+    if (change == DesignerObject::Change::Unreadable || change == DesignerObject::Change::Vetoed) {
         note(ReadNote::Dropped,
              u"The value \"%1\" of the property \"%2\" cannot be read; it stays \"%3\"."_s.arg(
                  text.left(80), held->id(), held->valueString()));
