@@ -122,7 +122,7 @@ void editObserved(benchmark::State &state, int observerCount)
     Screen *screen = addScreen(*project);
     DesignerObject *edited = add(screen, screen->elements(), u"Text"_s, u"edited"_s);
     const SharedProperty text = edited->getProperty(u"text");
-    std::vector<Watcher> watchers(std::size_t(observerCount));
+    std::vector<Watcher> watchers(static_cast<std::size_t>(observerCount));
     for (Watcher &watcher : watchers) {
         project->observers().add(&watcher);
     }

@@ -41,7 +41,7 @@ Place within(Place place, Place end)
 }
 
 //! An error where the code is nested deeper than any compiler has to follow it.
-ExpressionSyntax::Result judgeNesting(QStringView code, int linesBefore = 0)
+ExpressionSyntax::Result checkNesting(QStringView code, int linesBefore = 0)
 {
     const qsizetype place = findTooDeepNesting(code);
     if (place < 0)
@@ -52,12 +52,12 @@ ExpressionSyntax::Result judgeNesting(QStringView code, int linesBefore = 0)
 }
 
 //! Looks into the lines that are long enough to go that deep; an expression stands on one.
-ExpressionSyntax::Result judgeNestingOfLines(QStringView document)
+ExpressionSyntax::Result checkNestingOfLines(QStringView document)
 {
     int number = 0;
     for (const QStringView line : document.tokenize(u'\n')) {
         if (const auto result =
-                line.size() > deepestNesting ? judgeNesting(line, number) : ExpressionSyntax::Result();
+                line.size() > deepestNesting ? checkNesting(line, number) : ExpressionSyntax::Result();
             !result.valid)
             return result;
         ++number;
@@ -98,7 +98,7 @@ ExpressionSyntax::Result ExpressionSyntax::checkStatements(const QString &code)
 ExpressionSyntax::Result ExpressionSyntax::checkDocument(const QString &qml)
 {
     // Without its imports a document that can be read has one error, an unknown type: reading comes first.
-    if (const Result nesting = judgeNestingOfLines(qml); !nesting.valid)
+    if (const Result nesting = checkNestingOfLines(qml); !nesting.valid)
         return nesting;
     static const QRegularExpression imports(u"^import [^\n]*"_s, QRegularExpression::MultilineOption);
     QQmlComponent component(m_engine.get());
@@ -127,7 +127,7 @@ bool ExpressionSyntax::isOfUnknownType(const QString &error)
 // end between quotes.
 ExpressionSyntax::Result ExpressionSyntax::compile(const QString &code, bool inParentheses)
 {
-    if (const Result nesting = judgeNesting(code); !nesting.valid)
+    if (const Result nesting = checkNesting(code); !nesting.valid)
         return nesting;
     const QString block = inParentheses ? u"(\n%1\n)"_s.arg(code) : code;
     const int linesBefore = inParentheses ? 2 : 1;

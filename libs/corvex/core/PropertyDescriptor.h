@@ -17,9 +17,9 @@ class DesignerProperty;
 
 // Checks and builds call these in several threads at once, each for other objects: they only read the
 // project.
-//! Judges the value that a property holds; writes the reason into \a error when it returns false.
+//! Validates the value of a property; writes the reason into \a error when it returns false.
 using ValueValidator = bool (*)(const DesignerProperty *property, QString &error);
-//! Judges an object that is about to enter or to leave a list property.
+//! Decides whether an object may enter or leave a list property.
 using ItemValidator = bool (*)(const DesignerProperty *property, const DesignerObject *item, QString &error);
 //! Writes a property's QML in place of DesignerProperty::convertToQml().
 using QmlCreator = QString (*)(const DesignerProperty *property, int indent);

@@ -33,7 +33,7 @@ private:
 
 } // namespace
 
-PropertyRow PropertyRow::anew(const SharedProperty &described)
+PropertyRow PropertyRow::redescribe(const SharedProperty &described)
 {
     return PropertyRow(QSharedPointer<Description>::create(*described), nullptr, nullptr, 0);
 }

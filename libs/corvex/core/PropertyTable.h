@@ -22,13 +22,13 @@ class PropertyStore;
 class CORVEX_EXPORT PropertyRow
 {
 public:
-    /*! A row that describes a property of the base anew: as \a described stands, with what is called on the
-       row. The value stays. */
-    static PropertyRow anew(const SharedProperty &described);
+    /*! A row that redescribes a property of the base: it starts as \a described is, and what is called on the
+        row changes it. The value stays. */
+    static PropertyRow redescribe(const SharedProperty &described);
 
     const QString &id() const { return m_prototype->id(); }
-    //! A property as the row describes it, with its value, for the object \a parent to add; null stands for
-    //! none.
+    //! A property with the description and the value of the row, for the object \a parent to add, which may
+    //! be null.
     SharedProperty make(DesignerObject *parent) const;
 
     PropertyRow &rank(int rank);
@@ -112,7 +112,7 @@ public:
 private:
     friend class DesignerObject;
 
-    //! Where rows find what they describe anew, for objects with these properties.
+    //! Where rows find the properties that they redescribe, for objects with these properties.
     struct Places
     {
         QStringList ids;

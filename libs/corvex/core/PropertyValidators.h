@@ -10,8 +10,8 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class DesignerProperty;
 
-/*! The validators that need to see more of the model than the property that they judge. Tables of all floors
-    name them; they are defined in the room of the project, where the model is known. */
+/*! The validators that need to see more of the model than the property that they validate. Tables of all
+   floors name them; they are defined in the room of the project, where the model is known. */
 class CORVEX_EXPORT PropertyValidators
 {
 public:

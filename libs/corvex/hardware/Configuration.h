@@ -115,11 +115,11 @@ private:
     };
     struct Reaction;
     struct Visibility;
-    struct Judgement;
+    struct Revalidation;
     struct ChannelField;
     static const QList<Reaction> &reactions();
     static const QList<Visibility> &visibilities();
-    static const QList<Judgement> &judgements();
+    static const QList<Revalidation> &revalidations();
     static const QList<ChannelField> &channelFields();
 
     SharedProperty at(Place place) const;
@@ -130,7 +130,7 @@ private:
     bool isShown(const Visibility &visibility) const;
     //! Of what \a changed decides about; of everything when it is null.
     void updateVisibility(const DesignerProperty *changed);
-    void judgeAgain(const DesignerProperty &changed);
+    void revalidateAfter(const DesignerProperty &changed);
     void localize();
 
     bool m_isLoaded = false;

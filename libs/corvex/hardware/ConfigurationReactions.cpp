@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What an edit of a device configuration brings with it: other values, what the property panel shows, and
-// what has to be judged again.
+// what has to be validated again.
 #include "corvex/hardware/ChannelList.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationRules.h"
@@ -107,15 +107,15 @@ const QList<Configuration::Visibility> &Configuration::visibilities()
 }
 
 //! The properties whose rules look at another one.
-struct Configuration::Judgement
+struct Configuration::Revalidation
 {
     Place changed;
-    Place judged;
+    Place validated;
 };
 
-const QList<Configuration::Judgement> &Configuration::judgements()
+const QList<Configuration::Revalidation> &Configuration::revalidations()
 {
-    static const QList<Judgement> table{
+    static const QList<Revalidation> table{
         {Name, PwmOutputs},
         {Name, DigitalInputOutputs},
         {Name, SerialRS485Ports},
@@ -158,7 +158,7 @@ void Configuration::afterPropertyChanged(const DesignerProperty *property, const
         for (const auto &[target, value] : followingChanges(*property, property->valueString())) {
             changePropertyValue(target, value);
         }
-        judgeAgain(*property);
+        revalidateAfter(*property);
     }
     updateVisibility(property);
 }
@@ -189,16 +189,16 @@ void Configuration::updateVisibility(const DesignerProperty *changed)
     }
 }
 
-void Configuration::judgeAgain(const DesignerProperty &changed)
+void Configuration::revalidateAfter(const DesignerProperty &changed)
 {
-    bool isJudged = false;
-    for (const Judgement &judgement : judgements()) {
-        if (at(judgement.changed) == &changed) {
-            at(judgement.judged)->validate();
-            isJudged = true;
+    bool isValidated = false;
+    for (const Revalidation &revalidation : revalidations()) {
+        if (at(revalidation.changed) == &changed) {
+            at(revalidation.validated)->validate();
+            isValidated = true;
         }
     }
-    if (isJudged) {
+    if (isValidated) {
         updateValidity();
     }
 }

@@ -14,9 +14,9 @@ bool StandardVisual::initializeProperties()
         return false;
     }
     static const PropertyTable table{
-        PropertyRow::anew(getProperty(u"position")).qml(&boundPositionToQml),
-        PropertyRow::anew(getProperty(u"rotation")).qml(&boundToQml),
-        PropertyRow::anew(getProperty(u"visible")).qml(&boundToQml),
+        PropertyRow::redescribe(getProperty(u"position")).qml(&boundPositionToQml),
+        PropertyRow::redescribe(getProperty(u"rotation")).qml(&boundToQml),
+        PropertyRow::redescribe(getProperty(u"visible")).qml(&boundToQml),
         bindingRow("xBinding", "Position X (Expression)", "VerticalMathExpressionEditor").rank(60),
         bindingRow("yBinding", "Position Y (Expression)", "VerticalMathExpressionEditor").rank(61),
         bindingRow("rotationBinding", "Rotation (Expression)", "VerticalMathExpressionEditor").rank(62),

@@ -93,18 +93,18 @@ bool ObjectXmlWriter::hasAllChildren(const DesignerObject *object, bool allPrope
 bool ObjectXmlWriter::write(const DesignerObject *object)
 {
     QString missing;
-    return judge(isComplete(object, m_allProperties, &missing), missing)
+    return noteMissing(isComplete(object, m_allProperties, &missing), missing)
            && writeDocument(object, &ObjectXmlWriter::writeObject);
 }
 
 bool ObjectXmlWriter::writeProperties(const DesignerObject *object)
 {
     QString missing;
-    return judge(hasAllChildren(object, m_allProperties, &missing), missing)
+    return noteMissing(hasAllChildren(object, m_allProperties, &missing), missing)
            && writeDocument(object, &ObjectXmlWriter::writeOwnProperties);
 }
 
-bool ObjectXmlWriter::judge(bool isComplete, const QString &missing)
+bool ObjectXmlWriter::noteMissing(bool isComplete, const QString &missing)
 {
     m_error = isComplete ? QString() : u"\"%1\" holds no object; nothing is written."_s.arg(missing);
     return isComplete;

@@ -51,7 +51,7 @@ public:
 private:
     static bool isWritten(const DesignerObject *object, const DesignerProperty &property, bool allProperties);
     static bool hasAllChildren(const DesignerObject *object, bool allProperties, QString *missing);
-    bool judge(bool isComplete, const QString &missing);
+    bool noteMissing(bool isComplete, const QString &missing);
     bool writeDocument(const DesignerObject *object,
                        void (ObjectXmlWriter::*form)(const DesignerObject *, int));
     void writeObject(const DesignerObject *object, int level);

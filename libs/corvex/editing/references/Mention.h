@@ -19,7 +19,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(NamedKinds)
     the value is then rewritten around it. */
 struct CORVEX_EXPORT Mention
 {
-    NamedKinds kinds; //!< what the path may name, judged by the value alone
+    NamedKinds kinds; //!< what the path may name, by the value alone
     QString path;     //!< a name, or names joined with "."; of a term all but the property
     bool isDropped = false;
 };
