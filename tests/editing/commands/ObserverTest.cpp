@@ -79,7 +79,7 @@ void ObserverTest::editList(const List &target)
     DesignerObject *owner = list->parentObject();
     const int count = int(list->listItemCount());
     DesignerObject *item = count > 0 ? list->getListItemAtIndex(random.below(count)) : nullptr;
-    DesignerObject *other = count > 0 ? list->getListItemAtIndex(random.below(count)) : nullptr;
+    DesignerObject *partner = count > 0 ? list->getListItemAtIndex(random.below(count)) : nullptr;
     // The first screen and its lists are used by others.
     const bool isSpare = item && (list != project->screens() || item != list->getListItemAtIndex(0));
     switch (random.below(9)) {
@@ -91,7 +91,7 @@ void ObserverTest::editList(const List &target)
         EXPECT_TRUE(owner->insertListPropertyItemAt(list, newItem(target), random.below(count + 1)));
         break;
     case 3:
-        owner->swapListPropertyItems(list, item, other);
+        owner->swapListPropertyItems(list, item, partner);
         break;
     case 4:
         if (isSpare && owner->takeListPropertyItem(list, item)) {
