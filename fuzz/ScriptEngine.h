@@ -3,7 +3,7 @@
 #pragma once
 
 //! The leak checker does not see into the heap of the script engine.
-extern "C" const char *__asan_default_options()
+extern "C" Q_DECL_EXPORT const char *__asan_default_options()
 {
     return "detect_leaks=0";
 }

@@ -6,11 +6,11 @@
 
 #ifdef __SANITIZE_ADDRESS__
 //! Read by LeakSanitizer: Qt's QML engine keeps what its loader thread was about when the engine is deleted.
-extern "C" const char *__lsan_default_suppressions()
+extern "C" Q_DECL_EXPORT const char *__lsan_default_suppressions()
 {
     return "leak:libQt6Qml.so\n";
 }
-extern "C" const char *__lsan_default_options()
+extern "C" Q_DECL_EXPORT const char *__lsan_default_options()
 {
     return "print_suppressions=0";
 }

@@ -112,7 +112,7 @@ const Verb checkVerb{
             return uR"(Loads the project, validates everything and prints one line for each problem: the path of the
 object, the property, and what is wrong. Among them are parts of the file that could not be
 read, with line and column, names that lead nowhere, and generated code that the device could
-not read. Without problems nothing is printed; with any the exit code is 1.
+not read. Without problems nothing is printed; with errors the exit code is 1.
 
 With --screens, the screens are run as the device would run them: texts that do not fit,
 elements that are outside of the screen or wholly hidden by others, and all that goes wrong
