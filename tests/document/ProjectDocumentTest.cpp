@@ -184,6 +184,15 @@ TEST_F(ProjectDocumentTest, OthersWhoWriteTheFileAreNoticedOnce)
     EXPECT_TRUE(document->save());
 }
 
+TEST_F(ProjectDocumentTest, ItClosesWhileItsAutosaveRuns)
+{
+    const QString archive = document->project().autosavePath();
+    ASSERT_TRUE(describe(u"unsaved"_s));
+    ASSERT_TRUE(document->project().autosave().run());
+    document.reset();
+    EXPECT_FALSE(QFile::exists(archive));
+}
+
 TEST_F(ProjectDocumentTest, WhatACrashLeftWaitsForAnAnswer)
 {
     const QString archive = document->project().autosavePath();

@@ -68,6 +68,7 @@ ProjectDocument::~ProjectDocument()
         }
     }
     m_history.reset();
+    m_project->autosave().disconnect(this); // It finishes while the project is destroyed.
     const QString archive = m_project->autosavePath();
     m_project.reset(); // ends a run of the autosave
     if (!m_hasRecovery && !archive.isEmpty()) {
