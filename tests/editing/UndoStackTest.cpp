@@ -96,6 +96,20 @@ TEST(UndoStackTest, WhatCannotBeDoneIsDroppedWithWhatWasBuiltUponIt)
     EXPECT_FALSE(canRedo.constLast().constFirst().toBool());
 }
 
+TEST(UndoStackTest, AGestureCommitsWhatIsAlreadyDone)
+{
+    UndoStack stack;
+    ASSERT_TRUE(stack.beginGesture(u"Drag"_s));
+    auto *step = new Step;
+    ASSERT_TRUE(stack.push(step));
+    stack.setGate([](QString &reason) { return reason = u"A build runs."_s, false; });
+    EXPECT_FALSE(stack.push(new Step));
+    EXPECT_EQ(stack.errorString(), u"A build runs."_s);
+    EXPECT_TRUE(stack.commitGesture());
+    EXPECT_EQ(stack.count(), 1);
+    EXPECT_EQ(step->done, 1);
+}
+
 TEST(UndoStackTest, AMacroThatFailsIsTakenBackAsAWhole)
 {
     UndoStack stack;

@@ -66,9 +66,11 @@ bool UndoStack::push(UndoCommand *command)
         delete command;
         return false;
     }
-    if (m_gesture) {
-        return collect(std::unique_ptr<UndoCommand>(command));
-    }
+    return m_gesture ? collect(std::unique_ptr<UndoCommand>(command)) : append(command);
+}
+
+bool UndoStack::append(UndoCommand *command)
+{
     m_failedMacro = nullptr; // It may be among the commands that this one replaces.
     DesignerObject *candidate = command->deletionCandidate();
     m_hasFailed = command->start() == UndoCommand::Start::Failed;
@@ -138,7 +140,7 @@ bool UndoStack::commitGesture()
 {
     const std::unique_ptr<Gesture> gesture = std::move(m_gesture);
     if (std::unique_ptr<UndoCommand> command = gesture ? gesture->takeCommand() : nullptr) {
-        push(command.release());
+        append(command.release()); // It is done, so the gate is not asked.
     }
     return gesture != nullptr;
 }
@@ -211,12 +213,13 @@ void UndoStack::setIndex(int index)
 bool UndoStack::takeBackFailedMacro()
 {
     QUndoCommand *macro = std::exchange(m_failedMacro, nullptr);
-    if (macro) {
-        macro->undo();
-        macro->setObsolete(true);
-        QUndoStack::undo();
+    if (!macro) {
+        return false;
     }
-    return macro;
+    macro->undo();
+    macro->setObsolete(true);
+    QUndoStack::undo();
+    return true;
 }
 
 void UndoStack::commandFailed(const UndoCommand *command)

@@ -47,7 +47,8 @@ public:
     void cleanJunkFiles();
     //! Has all commands keep them elsewhere instead, see UndoCommand::keepFiles().
     bool keepFiles(Common::FileStore &store, QString &error);
-    //! Asked before each push and each move. When it is false nothing happens, and the text says why.
+    //! Asked before each push and each move. When it is false nothing happens, and the text says why. The
+    //! undo() and redo() of QUndoStack, which the actions that it creates call, do not ask.
     using Gate = std::function<bool(QString &reason)>;
     void setGate(Gate gate) { m_gate = std::move(gate); }
     //! Whether the history can move now, and a gesture can begin; errorString() says why not.
@@ -66,7 +67,7 @@ public:
     bool hasChangedInGesture() const;
     //! False when there is no gesture. One that changed nothing leaves no step.
     bool commitGesture();
-    //! Model and history are as they were before the gesture. False when there is none.
+    //! Restores model and history to the start of the gesture. False without a gesture.
     bool rollBackGesture();
     //! Deletes the objects that commands named for it, except those that are back in the model.
     void deleteCandidates();
@@ -105,6 +106,7 @@ private:
     friend class UndoCommand;
 
     bool collect(std::unique_ptr<UndoCommand> command);
+    bool append(UndoCommand *command);
     void addCandidate(DesignerObject *candidate);
     void commandFailed(const UndoCommand *command);
     bool takeBackFailedMacro();
