@@ -6,9 +6,12 @@
 #include "corvex/editing/commands/groups/GroupIndexes.h"
 #include "corvex/editing/commands/private/EditStep.h"
 #include "corvex/editing/commands/private/ElementPlacement.h"
+#include "corvex/editing/commands/private/ObjectSelection.h"
 #include "corvex/project/elements/GroupElement.h"
 #include "corvex/values/records/ListInfo.h"
 #include "corvex/values/text/ValueConversion.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -21,17 +24,13 @@ SharedProperty listOf(const QList<DesignerObject *> &members)
     return members.isEmpty() || !members.first() ? SharedProperty() : members.first()->listProperty();
 }
 
-//! The members that stand in the list, in its order, each once.
+//! The members in the order of the list, each once. Nothing if one of them is not in the list.
 QList<DesignerObject *> inOrder(const QList<DesignerObject *> &members, const SharedProperty &list)
 {
-    const QSet<DesignerObject *> wanted(members.cbegin(), members.cend());
-    QList<DesignerObject *> found;
-    for (DesignerObject *item : list ? list->listItems() : QList<DesignerObject *>()) {
-        if (wanted.contains(item)) {
-            found.append(item);
-        }
-    }
-    return found.size() == wanted.size() ? found : QList<DesignerObject *>();
+    const bool areThere = list && std::ranges::all_of(members, [&list](const DesignerObject *member) {
+                              return member && member->listProperty() == list;
+                          });
+    return areThere ? ObjectSelection::inListOrder(members) : QList<DesignerObject *>();
 }
 
 } // namespace
