@@ -13,7 +13,7 @@ inline QString withoutTexts(QString code)
     return code.replace(text, QStringLiteral("\"\""));
 }
 
-//! The first call in a generated document that no table makes; empty if there is none.
+//! The first call in a generated document that no table makes, or an empty text.
 inline QString foreignCall(const QString &document)
 {
     static const QRegularExpression call(

@@ -305,7 +305,7 @@ private:
     bool isOwnValue(const SharedProperty &property) const;
     void updateName(const QString &oldName);
     void announceNewName(const QString &oldName, const QString &newName);
-    //! The observers that hear of changes of this object; null if there are none.
+    //! The observers to call for changes of this object. Null if nobody observes it.
     ModelObservers *activeObservers() const;
     //! Asserts that no observer is being called.
     void assertMayChange() const;

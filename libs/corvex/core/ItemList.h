@@ -95,7 +95,7 @@ public:
     //! False when more than one item may be out of order.
     bool isOrdered = true;
     //! The index of the item that was inserted or renamed last. It is the only one out of order if isOrdered;
-    //! -1 if there is none.
+    //! -1 if the list has no such item.
     qsizetype newestIndex = -1;
 
 private:

@@ -26,7 +26,7 @@ public:
     //! An observer follows one project at a time and leaves the one before.
     void add(ModelObserver *observer);
     void remove(ModelObserver *observer);
-    //! The first observer of the class \a Kind; null if there is none.
+    //! The first observer of the class \a Kind, or null.
     template<class Kind>
     Kind *find() const
     {

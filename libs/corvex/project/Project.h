@@ -78,7 +78,7 @@ public:
     /*! Where commands change files: all of it counts with the next saveFile(), and nobody else can write the
         project until then. Null, with an error, when that cannot be. */
     Common::FileTransaction *beginFileChanges(QString *error);
-    //! The changes that wait for the next save; null when there are none.
+    //! The changes that wait for the next save, or null.
     Common::FileTransaction *fileChanges() const { return m_folder.changes(); }
     //! Deletes the project's file, its images and its preview, and their folders once they are empty.
     bool deleteFile() override;

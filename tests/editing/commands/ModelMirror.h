@@ -27,7 +27,7 @@ public:
         project.observers().add(this);
     }
 
-    //! The first difference between the copy and the project; empty if there is none.
+    //! The first difference between the copy and the project. Empty if they are equal.
     QString difference() const
     {
         return m_root ? difference(*m_root, m_project) : QStringLiteral("There is no copy.");

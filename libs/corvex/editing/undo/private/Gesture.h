@@ -29,7 +29,7 @@ public:
     bool isEmpty() const { return m_commands.empty(); }
     //! Undoes all commands.
     void rollBack();
-    //! All commands as one, which is done; null when there are none.
+    //! All commands as one, which is already done. Null for an empty gesture.
     std::unique_ptr<UndoCommand> takeCommand();
 
 private:
