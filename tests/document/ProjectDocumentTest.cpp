@@ -184,6 +184,41 @@ TEST_F(ProjectDocumentTest, OthersWhoWriteTheFileAreNoticedOnce)
     EXPECT_TRUE(document->save());
 }
 
+TEST_F(ProjectDocumentTest, AFileThatCannotBeReadAgainChangesNothing)
+{
+    ASSERT_TRUE(describe(u"unsaved"_s));
+    const QString before = text();
+    const QByteArray good = read(file);
+    for (const QByteArray &broken : {QByteArray("<<<<<<< HEAD\n") + good, good.first(900), QByteArray()}) {
+        write(file, broken);
+        if (broken.isEmpty()) {
+            QFile::remove(file);
+        }
+        EXPECT_FALSE(document->reload());
+        EXPECT_FALSE(document->errorString().isEmpty());
+        EXPECT_EQ(text(), before);
+        EXPECT_TRUE(document->isModified() && document->undo() && document->redo());
+        EXPECT_EQ(document->project().fullFilePath(), file);
+    }
+    EXPECT_FALSE(document->save());
+    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_TRUE(document->save(ProjectDocument::Overwrite::Always)) << qPrintable(document->errorString());
+    EXPECT_TRUE(document->reload());
+    EXPECT_EQ(text(), before);
+}
+
+TEST_F(ProjectDocumentTest, ADocumentLeavesTheAutosaveOfAnother)
+{
+    const auto other = ProjectDocument::load(file);
+    ASSERT_EQ(outcomeOf(*other), Job::Outcome::Done);
+    auto second = std::make_unique<ProjectDocument>(std::move(*other->takeResult()));
+    ASSERT_TRUE(describe(u"unsaved"_s));
+    QSignalSpy finished(&document->project().autosave(), &ProjectAutosave::finished);
+    ASSERT_TRUE(document->project().autosave().run() && finished.wait());
+    second.reset();
+    EXPECT_TRUE(QFile::exists(document->project().autosavePath()));
+}
+
 TEST_F(ProjectDocumentTest, ItClosesWhileItsAutosaveRuns)
 {
     const QString archive = document->project().autosavePath();
@@ -210,13 +245,17 @@ TEST_F(ProjectDocumentTest, WhatACrashLeftWaitsForAnAnswer)
     QFile::remove(path(u"Pumps/Images/a.png"_s));
     write(archive, read(path(u"copy"_s)));
 
+    QFile::rename(archive, archive + u".tmp"_s); // killed while the next archive was packed
     openAgain();
     ASSERT_TRUE(document->hasRecovery());
-    ASSERT_TRUE(describe(u"new"_s));
+    ASSERT_TRUE(describe(u"new"_s) && document->save());
     EXPECT_FALSE(document->project().autosave().run()) << "it would replace what is to be recovered";
     document.reset();
     EXPECT_TRUE(QFile::exists(archive)) << "nobody has answered";
+    write(file, read(file)); // it is newer than the archive then
     openAgain();
+    ASSERT_TRUE(document->hasRecovery());
+    EXPECT_LE(document->recoveryTime(), QFileInfo(file).lastModified());
     const QByteArray saved = read(file);
     ASSERT_TRUE(document->recover()) << qPrintable(document->errorString());
     EXPECT_EQ(text(), unsaved);

@@ -24,6 +24,18 @@ using Common::Progress;
 constexpr int longestWait = 30'000; // milliseconds
 constexpr int pauseOfWaiting = 100; // milliseconds
 
+//! Null, with an error, without a factory.
+std::unique_ptr<Project> newProject(QString &error)
+{
+    const DesignerFactory *factory = DesignerFactory::instance();
+    std::unique_ptr<Project> project(
+        factory ? static_cast<Project *>(factory->createUnowned(Project::kindName())) : nullptr);
+    if (!project) {
+        error = LocalizationHelper::coreString(u"No project can be made."_s);
+    }
+    return project;
+}
+
 bool lock(Project &project, const QString &path, ProjectDocument::Access access, Progress &progress)
 {
     using Kind = Common::FolderLock::Kind;
@@ -53,11 +65,8 @@ std::unique_ptr<ProjectDocument::LoadJob> ProjectDocument::load(const QString &p
     auto job = std::make_unique<LoadJob>();
     job->startInThread([path, access, thread = QThread::currentThread()](
                            Progress &progress, QString &error) -> std::optional<std::unique_ptr<Project>> {
-        const DesignerFactory *factory = DesignerFactory::instance();
-        std::unique_ptr<Project> project(
-            factory ? static_cast<Project *>(factory->createUnowned(Project::kindName())) : nullptr);
+        std::unique_ptr<Project> project = newProject(error);
         if (!project) {
-            error = LocalizationHelper::coreString(u"No project can be made."_s);
             return {};
         }
         project->setProgress(&progress);
@@ -73,6 +82,17 @@ std::unique_ptr<ProjectDocument::LoadJob> ProjectDocument::load(const QString &p
         return project;
     });
     return job;
+}
+
+//! Whether a project can be read from the file. A failure leaves a project half read, so this one is read
+//! first.
+bool ProjectDocument::canLoad(const QString &path)
+{
+    QString error;
+    const std::unique_ptr<Project> trial = newProject(error);
+    // The override would end an edit that the folder waits for.
+    const bool isRead = trial && trial->FileObject::loadFile(path);
+    return result(isRead, trial ? trial->fileError() : error);
 }
 
 //! Whether the project may be changed, which ends what an edit ends.

@@ -23,12 +23,21 @@ QString ProjectDocument::recoveryNote() const
     return m_project->recoveryNote();
 }
 
+QDateTime ProjectDocument::recoveryTime() const
+{
+    return m_hasRecovery ? QFileInfo(m_project->autosavePath()).lastModified() : QDateTime();
+}
+
 bool ProjectDocument::discardRecovery()
 {
     if (!m_hasRecovery) {
         return result(false, LocalizationHelper::coreString(u"There is no autosave file of this project."_s));
     }
-    removeAutosave();
+    QFile archive(m_project->autosavePath());
+    if (!archive.remove() && archive.exists()) {
+        return result(false, archive.errorString());
+    }
+    setRecovery(false);
     return result(true, {});
 }
 
@@ -52,6 +61,9 @@ bool ProjectDocument::recover()
     const QString parent = m_project->parentPath();
     const QString sub = m_project->subPath();
     const QString file = m_project->fileName();
+    if (!canLoad(folder.filePath(file))) {
+        return false;
+    }
     select({});
     if (!m_project->loadFile(folder.filePath(file))) {
         error = m_project->fileError();
@@ -67,8 +79,8 @@ bool ProjectDocument::recover()
     m_project->setFileFields(parent, sub, file); // the images look at their files again
     m_history->setUnsaved();
     m_isComplete = true;
-    m_hasRecovery = false;
-    m_project->autosave().setPaused(false);
+    setRecovery(false);
+    m_ownsAutosave = true;
     onHistoryChanged();
     return result(true, {});
 }

@@ -2,6 +2,7 @@
 #include "corvex/document/ProjectDocument.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/common/files/FileTransaction.h"
 #include "corvex/document/private/FileWatch.h"
 #include "corvex/editing/undo/UndoCommand.h"
@@ -9,7 +10,6 @@
 #include "corvex/project/files/ProjectAutosave.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -45,7 +45,8 @@ ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *pare
         }
     });
     connect(m_watch.get(), &FileWatch::changed, this, &ProjectDocument::changedByOthers);
-    connect(&m_project->autosave(), &ProjectAutosave::finished, this, [this] {
+    connect(&m_project->autosave(), &ProjectAutosave::finished, this, [this](const QString &error) {
+        m_ownsAutosave = m_ownsAutosave || error.isEmpty();
         if (!isModified()) {
             removeAutosave(); // the project was saved meanwhile
         }
@@ -53,10 +54,7 @@ ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *pare
     m_watch->watch(m_project->fullFilePath());
     m_watch->accept();
     m_wasModified = isModified();
-    const QFileInfo autosaved(m_project->autosavePath());
-    m_hasRecovery =
-        autosaved.isFile() && autosaved.lastModified() >= QFileInfo(m_project->fullFilePath()).lastModified();
-    m_project->autosave().setPaused(m_hasRecovery);
+    setRecovery(m_project->autosave().findArchive());
 }
 
 ProjectDocument::~ProjectDocument()
@@ -68,10 +66,12 @@ ProjectDocument::~ProjectDocument()
         }
     }
     m_history.reset();
-    m_project->autosave().disconnect(this); // It finishes while the project is destroyed.
+    ProjectAutosave &autosave = m_project->autosave();
+    autosave.disconnect(this); // It finishes while the project is destroyed.
+    const bool ownsAutosave = m_ownsAutosave || autosave.isRunning();
     const QString archive = m_project->autosavePath();
-    m_project.reset(); // ends a run of the autosave
-    if (!m_hasRecovery && !archive.isEmpty()) {
+    m_project.reset(); // waits for a run of the autosave
+    if (ownsAutosave) {
         QFile::remove(archive);
     }
 }
@@ -148,16 +148,31 @@ bool ProjectDocument::canOverwrite()
 {
     const QString file = QDir::toNativeSeparators(m_project->fullFilePath());
     if (m_watch->isChanged()) {
-        return result(false, LocalizationHelper::coreString(
-                                 u"\"%1\" has been written by another program since it was opened. Open it "
-                                 "again, or save over it."_s)
-                                 .arg(file));
+        const QString text =
+            QFileInfo::exists(file)
+                ? u"\"%1\" has been written by another program since it was opened. Open it again, or save "
+                  "over it."_s
+                : u"\"%1\" has been deleted by another program. Save over it to write it again."_s;
+        return result(false, LocalizationHelper::coreString(text).arg(file));
     }
     return result(m_isComplete,
                   LocalizationHelper::coreString(
                       u"\"%1\" holds parts that this version does not know and would lose. Save "
                       "over it if nobody needs them."_s)
                       .arg(file));
+}
+
+//! Project::saveFile() only replaces a file.
+bool ProjectDocument::writeMissingFile()
+{
+    const QString file = m_project->fullFilePath();
+    QString error;
+    if (file.isEmpty() || QFileInfo::exists(file)) {
+        return true;
+    }
+    return result(Common::FileHelper::makeFolder(m_project->folderPath(), &error)
+                      && DesignerObject::saveToFile(m_project.get(), file, &error),
+                  error);
 }
 
 bool ProjectDocument::save(Overwrite overwrite)
@@ -167,6 +182,9 @@ bool ProjectDocument::save(Overwrite overwrite)
         return result(false, stack->errorString());
     }
     if (overwrite == Overwrite::Never && !canOverwrite()) {
+        return false;
+    }
+    if (overwrite == Overwrite::Always && !writeMissingFile()) {
         return false;
     }
     if (!m_project->saveFile()) {
@@ -186,8 +204,12 @@ bool ProjectDocument::reload()
     if (!isFree(reason)) {
         return result(false, reason);
     }
+    const QString path = m_project->fullFilePath();
+    if (!canLoad(path)) {
+        return false;
+    }
     select({});
-    const bool isLoaded = m_project->loadFile(m_project->fullFilePath());
+    const bool isLoaded = m_project->loadFile(path);
     m_isComplete = !losesParts(*m_project);
     m_watch->accept();
     onHistoryChanged();
@@ -225,11 +247,17 @@ void ProjectDocument::dropFromSelection()
     select(selection());
 }
 
+void ProjectDocument::setRecovery(bool hasRecovery)
+{
+    m_hasRecovery = hasRecovery;
+    m_project->autosave().setPaused(hasRecovery);
+}
+
 void ProjectDocument::removeAutosave()
 {
-    m_hasRecovery = false;
-    m_project->autosave().setPaused(false);
-    QFile::remove(m_project->autosavePath());
+    if (std::exchange(m_ownsAutosave, false)) {
+        QFile::remove(m_project->autosavePath());
+    }
 }
 
 } // namespace Halvane::Corvex::Designer

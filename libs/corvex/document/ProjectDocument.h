@@ -5,6 +5,7 @@
 #include "corvex/common/Job.h"
 #include "corvex/document/ProjectHistory.h"
 
+#include <QDateTime>
 #include <QPointer>
 
 namespace Halvane::Corvex::Designer {
@@ -33,7 +34,7 @@ public:
 
     //! For a project that has a file.
     explicit ProjectDocument(std::unique_ptr<Project> project, QObject *parent = nullptr);
-    //! Edits that were not saved are gone, and so is the autosave file, unless an answer about it is due.
+    //! Discards edits that were not saved, and the autosave file that this document has written or recovered.
     ~ProjectDocument() override;
 
     Project &project() const { return *m_project; }
@@ -57,15 +58,17 @@ public:
     bool isModified() const;
     enum class Overwrite {
         Never, //!< a file that others have written, and parts of it that this version does not know
-        Always
+        Always //!< a file that was deleted is written again
     };
     bool save(Overwrite overwrite = Overwrite::Never);
-    //! Reads the file again; edits and their history are gone.
+    //! Reads the file again and discards edits and their history. A file that cannot be read changes nothing.
     bool reload();
 
-    // What a crash has left: an autosave file that is newer than the project. There is no autosave until the
-    // user has decided.
+    // What a crash has left: an autosave file. It may be older than the project's file, as version control
+    // writes files, too. There is no autosave until the user has decided; a save does not decide.
     bool hasRecovery() const { return m_hasRecovery; }
+    //! When the autosave file was written, for the question to the user.
+    QDateTime recoveryTime() const;
     //! Takes over what the autosave file holds. The project is modified then, and its own file as it was.
     bool recover();
     //! Deletes the autosave file.
@@ -102,10 +105,13 @@ private:
     void addReader(Common::Job *job, OnEdit onEdit);
     bool result(bool isDone, const QString &error);
     bool canOverwrite();
+    bool canLoad(const QString &path);
+    bool writeMissingFile();
     void onHistoryChanged();
     void updateModified();
     void dropFromSelection();
     bool takeRecoveredImages(const QString &folder);
+    void setRecovery(bool hasRecovery);
     void removeAutosave();
 
     struct Reader
@@ -120,6 +126,7 @@ private:
     QList<QPointer<DesignerObject>> m_selection;
     QString m_error;
     bool m_hasRecovery = false;
+    bool m_ownsAutosave = false; //!< the autosave file is that of this document
     bool m_wasModified = false;
     bool m_isComplete = true; //!< nothing that the file holds is lost by a save
 };

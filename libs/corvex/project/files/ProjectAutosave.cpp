@@ -96,6 +96,16 @@ bool ProjectAutosave::run()
     return true;
 }
 
+bool ProjectAutosave::findArchive()
+{
+    const QString archive = m_project->autosavePath();
+    const bool isLost = !m_isRunning && !archive.isEmpty() && !QFile::exists(archive);
+    if (isLost && QFile::exists(asideName(archive))) {
+        QFile::rename(asideName(archive), archive);
+    }
+    return QFile::exists(archive);
+}
+
 //! After a crash there may be nothing but the file that was set aside; it is the one to keep then.
 QString ProjectAutosave::moveAside()
 {

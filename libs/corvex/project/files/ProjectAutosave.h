@@ -45,6 +45,10 @@ public:
     //! In milliseconds, 0 without a timer.
     int interval() const { return m_interval; }
 
+    /*! Whether there is an autosave file. After a crash this may be the file that was set aside, which gets
+        its name back. */
+    bool findArchive();
+
     /*! What the timer does: begins a run, unless nothing has changed or a run is under way. Whether one has
        begun; what became of it is told by finished(), which also tells why one could not begin. */
     bool run();
