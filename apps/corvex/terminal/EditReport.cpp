@@ -62,6 +62,9 @@ void print(const QList<EditScript::Edit> &edits, const Call &call)
 ExitCode EditReport::finish(EditScript &script, const ProjectFile &file, const Call &call)
 {
     const QList<EditScript::Edit> edits = script.edits();
+    for (const QString &output : script.takeOutput()) {
+        call.terminal().print(output);
+    }
     const bool isTrial = call.isSet(u"dry-run"_s);
     const ExitCode code = isTrial || edits.isEmpty() ? ExitCode::Done : file.save(call);
     if (isTrial || code != ExitCode::Done) {

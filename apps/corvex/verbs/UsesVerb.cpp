@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/editing/references/KeptMentions.h"
 #include "corvex/editing/references/ReferenceIndex.h"
 #include "corvex/editing/references/ReferenceScanner.h"
 #include "corvex/editing/references/ReferenceTarget.h"
@@ -28,7 +29,8 @@ struct Use
     QString text;     //!< the name as it stands there, with what it goes through: "Main.group1.pump1"
 };
 
-QList<Use> usesOf(const ReferenceTarget &target)
+//! \a name is that of the target.
+QList<Use> usesOf(const ReferenceTarget &target, const QString &name)
 {
     QList<Use> uses;
     QSet<QPair<QString, QString>> known;
@@ -38,6 +40,11 @@ QList<Use> usesOf(const ReferenceTarget &target)
         known.insert({path, use.path});
         if (known.size() > before) {
             uses.append({path, use.path});
+        }
+    }
+    if (target.isValid()) {
+        for (const QString &path : KeptMentions(*target.project()).of(name, target.screen())) {
+            uses.append({path, name});
         }
     }
     return uses;
@@ -66,10 +73,11 @@ bool isUsed(const DesignerObject &object, const ReferenceIndex &index)
 QStringList unusedIn(Project &project)
 {
     const ReferenceIndex &index = ReferenceIndex::of(&project);
+    const KeptMentions kept(project);
     QStringList paths;
     for (const SharedProperty &list : {project.screens(), project.variables(), project.imageResources()}) {
         for (const DesignerObject *object : list->listItems()) {
-            if (!isUsed(*object, index)) {
+            if (!isUsed(*object, index) && kept.of(object->getIdName()).isEmpty()) {
                 paths.append(object->objectPath());
             }
         }
@@ -122,10 +130,10 @@ ExitCode run(const Call &call, const ProjectFile &file)
         return printUnused(unusedIn(file.project()), call);
     }
     if (const DesignerObject *object = ProjectPath::find(file.project(), name).object) {
-        return printUses(usesOf(ReferenceTarget(object)), call);
+        return printUses(usesOf(ReferenceTarget(object), object->getIdName()), call);
     }
     // A name without the way to it: of elements, and of what is no longer there.
-    const QList<Use> uses = usesOf(ReferenceTarget(&file.project(), name));
+    const QList<Use> uses = usesOf(ReferenceTarget(&file.project(), name), name);
     if (uses.isEmpty() && !hasElement(file.project(), name)) {
         return Advice::notFound(file.project(), name, call);
     }
@@ -142,7 +150,7 @@ const Verb usesVerb{
         [] {
             return uR"(Prints where the object NAME or an element in it is named: in links, expressions, states of
 buttons, address maps. A line each, with the property, as a path that "corvex tree" takes, and the
-name as it stands there. NAME is a path, or the name of elements on any screen. Without NAME it
+name as it stands there. Of elements whose plug-in is missing it prints the path. NAME is a path, or the name of elements on any screen. Without NAME it
 prints the screens, variables and images that nothing names.)"_s;
         },
     .example = "corvex uses examples/PumpStation/PumpStation.kdproj wellLevel",

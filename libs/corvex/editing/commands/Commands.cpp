@@ -6,6 +6,7 @@
 #include "corvex/editing/commands/objects/DeleteObjectsAndCheckFilters.h"
 #include "corvex/editing/commands/private/DuplicateObjects.h"
 #include "corvex/editing/commands/private/EditedKind.h"
+#include "corvex/editing/references/KeptMentions.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
 
@@ -21,17 +22,41 @@ using Common::LocalizationHelper;
 
 PlannedCommand refused(const QString &english, const QString &name)
 {
-    return {nullptr, LocalizationHelper::coreString(english).arg(name)};
+    return {nullptr, LocalizationHelper::coreString(english).arg(name), {}};
 }
 
 PlannedCommand planned(std::unique_ptr<ModelCommand> command)
 {
     if (command->isValid()) {
-        return {std::move(command), {}};
+        return {std::move(command), {}, {}};
     }
     const QString reason = command->errorString();
     return {nullptr,
-            reason.isEmpty() ? LocalizationHelper::coreString(u"This cannot be done here."_s) : reason};
+            reason.isEmpty() ? LocalizationHelper::coreString(u"This cannot be done here."_s) : reason,
+            {}};
+}
+
+//! For a command that changes all references to the objects. \a outcome says what happens to those that it
+//! cannot change.
+PlannedCommand noted(PlannedCommand planned, const QList<DesignerObject *> &objects, const QString &outcome)
+{
+    if (planned && objects.first()->project()) {
+        const KeptMentions mentions(*objects.first()->project(), {objects.cbegin(), objects.cend()});
+        for (const DesignerObject *object : objects) {
+            const QString name = object->getIdName();
+            for (const QString &path :
+                 mentions.of(name, kindCast<Element>(object) ? object->screen() : nullptr)) {
+                planned.notes.append(LocalizationHelper::coreString(outcome).arg(path, name));
+            }
+        }
+    }
+    return planned;
+}
+
+PlannedCommand notedDeletion(std::unique_ptr<ModelCommand> command, const QList<DesignerObject *> &objects)
+{
+    return noted(planned(std::move(command)), objects,
+                 u"\"%1\" still mentions \"%2\", since its plug-in is missing."_s);
 }
 
 } // namespace
@@ -42,7 +67,7 @@ PlannedCommand Commands::deletionOf(DesignerObject *object)
     if (!kind || !kind->deletion) {
         return refused(u"\"%1\" cannot be deleted."_s, object ? object->objectPath() : QString());
     }
-    return planned(std::unique_ptr<ModelCommand>(kind->deletion(object, nullptr)));
+    return notedDeletion(std::unique_ptr<ModelCommand>(kind->deletion(object, nullptr)), {object});
 }
 
 PlannedCommand Commands::deletionOf(const QList<DesignerObject *> &objects)
@@ -75,7 +100,7 @@ PlannedCommand Commands::deletionOf(const QList<DesignerObject *> &objects)
         new DeleteObjectsAndCheckFilters(elements.value(screen), screen, all.get());
     }
     all->describe();
-    return planned(std::move(all));
+    return notedDeletion(std::move(all), objects);
 }
 
 PlannedCommand Commands::renameOf(DesignerObject *object, const QString &name)
@@ -87,7 +112,9 @@ PlannedCommand Commands::renameOf(DesignerObject *object, const QString &name)
     if (object->getIdName() == name) {
         return refused(u"\"%1\" is its name already."_s, name);
     }
-    return planned(std::unique_ptr<ModelCommand>(kind->renaming(object, name)));
+    return noted(planned(std::unique_ptr<ModelCommand>(kind->renaming(object, name))), {object},
+                 u"\"%1\" still mentions \"%2\", since its plug-in is missing. Correct it in the file, or "
+                 "install the plug-in and rename again."_s);
 }
 
 PlannedCommand Commands::duplicationOf(const QList<DesignerObject *> &objects)

@@ -4,6 +4,8 @@
 #include "corvex/common/Export.h"
 #include "corvex/editing/commands/ModelCommand.h"
 
+#include <QStringList>
+
 #include <memory>
 
 namespace Halvane::Corvex::Designer {
@@ -13,6 +15,7 @@ struct PlannedCommand
 {
     std::unique_ptr<ModelCommand> command; //!< null when the edit cannot be made
     QString reason;                        //!< for the user; empty when there is a command
+    QStringList notes;                     //!< what the user has to know about the edit
 
     explicit operator bool() const { return command != nullptr; }
 };

@@ -158,6 +158,7 @@ void EditPlanner::take(std::unique_ptr<ModelCommand> command, EditPlan &plan)
 void EditPlanner::take(PlannedCommand planned, EditPlan &plan)
 {
     plan.command = std::move(planned.command);
+    plan.output += planned.notes;
     if (!plan.command) {
         plan.refusal.message = plan.explained(planned.reason);
     }

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/common/Export.h"
+
+#include <QList>
+#include <QSet>
+#include <QStringList>
+
+namespace Halvane::Corvex::Designer {
+
+class DesignerObject;
+class Project;
+class Screen;
+
+/*! Finds names in the values of elements whose plug-ins are missing.
+
+    A project keeps such elements as the text of its file. Only the plug-in knows what their values mean, so
+   no command changes them when something else gets another name or is deleted. The user has to know that. */
+class CORVEX_EXPORT KeptMentions
+{
+public:
+    //! Reads what the project keeps, except in the objects \a leftOut. Walks the project only if it was
+    //! loaded with such elements.
+    explicit KeptMentions(const Project &project, const QSet<const DesignerObject *> &leftOut = {});
+
+    //! The paths of the elements that have the name as a word in a value, such as "Overview.gauge1", in the
+    //! order of the file: those of one screen, or all.
+    QStringList of(const QString &name, const Screen *screen = nullptr) const;
+
+private:
+    struct Kept
+    {
+        QString path;
+        const Screen *screen;
+        QString text;
+    };
+
+    void read(const DesignerObject &object, const QSet<const DesignerObject *> &leftOut);
+
+    QList<Kept> m_kept;
+};
+
+} // namespace Halvane::Corvex::Designer
