@@ -10,6 +10,7 @@
 #include "corvex/editing/commands/images/DeleteImage.h"
 #include "corvex/editing/commands/images/RenameImage.h"
 #include "corvex/editing/commands/images/ReplaceImage.h"
+#include "corvex/editing/commands/screens/AddScreenAndElements.h"
 #include "corvex/project/ImageResource.h"
 
 #include "CommandFixture.h"
@@ -269,6 +270,23 @@ TEST_F(ImageCommandTest, ElementsComeWithWhatTheyNeed)
     EXPECT_FALSE(stack().push(failing));
     EXPECT_EQ(text(), before);
     EXPECT_EQ(files(), (QStringList{u"new.png"_s, u"pump.png"_s}));
+
+    // A new screen brings them, too.
+    const auto screenWith = [&](const QString &name, const QString &file) {
+        auto *screen = static_cast<Screen *>(make(u"Screen"_s, name));
+        screen->setProject(project.get());
+        return new AddScreenAndElements(screen, project.get(), -1,
+                                        new AddElementsWithResources(screen, {make(u"Text"_s, u"title"_s)},
+                                                                     {image(u"sea.png"_s, file)}, {}, true));
+    };
+    AddScreenAndElements *added = screenWith(u"Third"_s, picture(u"sea.png"_s, Qt::cyan));
+    EXPECT_TRUE(added->isValid() && added->changesFiles());
+    push(added);
+    EXPECT_TRUE(files().contains(u"sea.png"_s));
+    stack().undo();
+    EXPECT_EQ(text(), before);
+    EXPECT_FALSE(stack().push(screenWith(u"Fourth"_s, u"none.png"_s)));
+    EXPECT_EQ(text(), before);
 }
 
 } // namespace Halvane::Corvex::Designer::Test

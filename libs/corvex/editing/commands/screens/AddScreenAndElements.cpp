@@ -41,6 +41,35 @@ QList<DesignerObject *> AddScreenAndElements::selectedItems()
     return m_elements ? m_elements->selectedItems() : QList<DesignerObject *>();
 }
 
+void AddScreenAndElements::appendOwnChanges(QList<ValueChange> &changes) const
+{
+    AddScreen::appendOwnChanges(changes);
+    if (const auto *elements = dynamic_cast<const ModelCommand *>(m_elements.get())) {
+        changes += elements->valueChanges();
+    }
+}
+
+bool AddScreenAndElements::isValid() const
+{
+    return AddScreen::isValid() && (!m_elements || m_elements->isValid());
+}
+
+QString AddScreenAndElements::errorString() const
+{
+    const QString error = AddScreen::errorString();
+    return error.isEmpty() && m_elements ? m_elements->errorString() : error;
+}
+
+bool AddScreenAndElements::keepFiles(Common::FileStore &store, QString &error)
+{
+    return AddScreen::keepFiles(store, error) && (!m_elements || m_elements->keepFiles(store, error));
+}
+
+bool AddScreenAndElements::changesFiles() const
+{
+    return AddScreen::changesFiles() || (m_elements && m_elements->changesFiles());
+}
+
 void AddScreenAndElements::cleanJunkFiles()
 {
     AddScreen::cleanJunkFiles();

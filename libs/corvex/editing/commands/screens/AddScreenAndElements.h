@@ -10,16 +10,23 @@ namespace Halvane::Corvex::Designer {
 class CORVEX_EXPORT AddScreenAndElements : public AddScreen
 {
 public:
-    //! Takes over \a elements, which must not have a parent.
+    /*! Takes over \a elements, which must not have a parent. It is planned before the screen is in the
+       project. So call screen->setProject(project) before you make a command that brings images or variables.
+     */
     AddScreenAndElements(DesignerObject *screen, Project *project, qsizetype index, UndoCommand *elements,
                          UndoCommand *parent = nullptr);
 
+    bool isValid() const override;
+    QString errorString() const override;
     QList<DesignerObject *> selectedItems() override;
     void cleanJunkFiles() override;
+    bool keepFiles(Common::FileStore &store, QString &error) override;
+    bool changesFiles() const override;
 
 protected:
     bool redoOwn(QString &error) override;
     bool undoOwn() override;
+    void appendOwnChanges(QList<ValueChange> &changes) const override;
 
 private:
     std::unique_ptr<UndoCommand> m_elements;
