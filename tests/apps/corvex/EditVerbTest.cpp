@@ -295,10 +295,20 @@ added GroupElement First.trio
     const ProgramRun contents = sandbox.run({u"diff"_s, old, pump});
     EXPECT_TRUE(contents.out.startsWith(u"changed one.png.imageFile: "_s)) << qPrintable(contents.out);
     EXPECT_EQ(contents.code, 1);
+    EXPECT_EQ(edit("rename one.png other.png\n").error, QString());
+    EXPECT_TRUE(sandbox.run({u"diff"_s, old, pump})
+                    .out.startsWith(u"renamed one.png: one.png -> other.png\nchanged one.png.imageFile: "_s));
     const QString station = u"Station/Station.kdproj"_s;
     EXPECT_EQ(sandbox.run({u"rename"_s, pump, u"Pump"_s, u"Station"_s}).error, QString());
     EXPECT_EQ(sandbox.run({u"fmt"_s, station, u"--check"_s}).code, 0);
     EXPECT_FALSE(QFile::exists(sandbox.path(u"Pump"_s)));
+
+    // A copy has the name of its original inside.
+    QDir(sandbox.path({})).mkdir(u"Copy"_s);
+    sandbox.write(u"Copy/Copy.kdproj"_s, sandbox.read(station));
+    EXPECT_EQ(sandbox.run({u"rename"_s, u"Copy/Copy.kdproj"_s, u"Station"_s, u"Tank"_s}).error, QString());
+    EXPECT_TRUE(sandbox.read(u"Tank/Tank.kdproj"_s).contains("name: Tank;"));
+    EXPECT_FALSE(QFile::exists(sandbox.path(u"Copy"_s)));
 }
 
 TEST(EditVerbKept, whatNoPluginKnowsStaysInItsPlace)
@@ -306,12 +316,13 @@ TEST(EditVerbKept, whatNoPluginKnowsStaysInItsPlace)
     const Sandbox sandbox;
     const QByteArray inner = Sandbox::object("Rectangle", "box1") + Sandbox::object("Gauge", "inner")
                              + Sandbox::object("Rectangle", "box2");
-    sandbox.makeProject(
-        Sandbox::object("Text", "one") + Sandbox::object("Text", "two")
-        + Sandbox::object("Gauge", "dial", Sandbox::value("range", "far")) + Sandbox::object("Text", "three")
-        + Sandbox::object("GroupElement", "group1",
-                          Sandbox::value("indexes", "box1 | box2") + "<Property name=\"elements\">\n<List>\n"
-                              + inner + "</List>\n</Property>\n"));
+    sandbox.makeProject(Sandbox::object("Text", "one") + Sandbox::object("Text", "two")
+                        + Sandbox::object("Gauge", "dial", Sandbox::value("range", "&lt;0403one&gt; far"))
+                        + Sandbox::object("Text", "three")
+                        + Sandbox::object("GroupElement", "group1",
+                                          Sandbox::value("indexes", "box1 | box2")
+                                              + "<Property name=\"elements\">\n<List>\n" + inner
+                                              + "</List>\n</Property>\n"));
     sandbox.run({u"fmt"_s, pump});
     const QByteArray before = sandbox.read(pump);
     ASSERT_TRUE(before.contains("dial") && before.contains("inner"));
@@ -325,6 +336,10 @@ TEST(EditVerbKept, whatNoPluginKnowsStaysInItsPlace)
         EXPECT_EQ(edit(script + "\nundo\n").error, QString());
         EXPECT_EQ(sandbox.read(pump), before) << script.constData();
     }
+    const QString mention = u"\"Main.dial\" still mentions \"one\", since its plug-in is missing."_s;
+    EXPECT_TRUE(edit("rename Main.one first\nundo\n").out.startsWith(mention));
+    EXPECT_TRUE(edit("delete Main.two Main.one\nundo\n").out.startsWith(mention));
+    EXPECT_EQ(sandbox.run({u"uses"_s, pump, u"Main.one"_s}).out, u"Main.dial: one\n"_s);
     EXPECT_EQ(edit("ungroup Main.group1\n").code, 1);
     EXPECT_EQ(sandbox.read(pump), before);
 

@@ -56,6 +56,15 @@ QByteArray Sandbox::object(const QByteArray &className, const QByteArray &name, 
            + properties + "</Properties>\n</" + className + ">\n";
 }
 
+QByteArray Sandbox::goodElements()
+{
+    return object("Text", "title", value("text", "Pump %1 \"A\"\n2"))
+           + object("GroupElement", "group1",
+                    value("indexes", "box1 | box2") + "<Property name=\"elements\">\n<List>\n"
+                        + object("Rectangle", "box1", value("position", "x: 10; y: 20.5;"))
+                        + object("Rectangle", "box2") + "</List>\n</Property>\n");
+}
+
 void Sandbox::makeProject(const QByteArray &elements, const QByteArray &variables,
                           const QByteArray &images) const
 {

@@ -31,6 +31,8 @@ public:
     static QByteArray object(const QByteArray &className, const QByteArray &name,
                              const QByteArray &properties = {}, const QByteArray &scope = "Screen");
     static QByteArray value(const QByteArray &property, const QByteArray &text);
+    //! A text and a group with two rectangles in it.
+    static QByteArray goodElements();
 
     //! The file Pump/Pump.kdproj with these elements on its screen "Main", and with these variables and
     //! images.

@@ -6,19 +6,22 @@
 #include "corvex/project/Project.h"
 #include "corvex/project/files/FileNameRules.h"
 
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The folder and the file; a project without a file has nothing to rename but itself.
+//! Renames the folder and the file, also if they have another name than the project, as copies have.
 class RenameProjectStep : public EditStep
 {
 public:
     RenameProjectStep(Project *project, const QString &newName)
         : m_project(project)
         , m_oldName(project->getIdName())
+        , m_oldFileName(QFileInfo(project->fileName()).completeBaseName())
         , m_newName(newName)
         , m_oldVersion(project->version()->valueString())
     { }
@@ -31,7 +34,7 @@ public:
         if (hasFile && !m_project->beginFileChanges(&error)) {
             return false;
         }
-        if (!rename(m_oldName, m_newName)) {
+        if (!renameFile(m_oldFileName, m_newName) || !m_project->setIdName(m_newName)) {
             error = m_project->fileError();
             return false;
         }
@@ -42,19 +45,21 @@ public:
     }
     void undo() override
     {
-        rename(m_newName, m_oldName);
+        if (renameFile(m_newName, m_oldFileName)) {
+            m_project->setIdName(m_oldName);
+        }
         m_project->changePropertyValue(m_project->version(), m_oldVersion);
     }
 
 private:
-    bool rename(const QString &from, const QString &to)
+    bool renameFile(const QString &from, const QString &to)
     {
-        return (m_project->fullFilePath().isEmpty() || m_project->renameFile(from, to))
-               && m_project->setIdName(to);
+        return m_project->fullFilePath().isEmpty() || from == to || m_project->renameFile(from, to);
     }
 
     QPointer<Project> m_project;
     QString m_oldName;
+    QString m_oldFileName;
     QString m_newName;
     QString m_oldVersion;
 };

@@ -356,6 +356,9 @@ bool ProjectComparison::matchRenamed()
         if (const DesignerObject *other = byContents.take({loose.place, contentsOf(loose.object)})) {
             matched += {loose.object, other};
             add(ProjectDiff::Renamed, *loose.object, loose.object->getIdName(), other->getIdName());
+            if (const auto *image = kindCast<ImageResource>(loose.object)) {
+                compareContents(*image, *kindCast<ImageResource>(other));
+            }
         }
     }
     return settle(matched);
