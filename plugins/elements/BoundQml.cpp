@@ -3,7 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
-#include "corvex/core/QmlText.h"
+#include "corvex/core/QmlBinding.h"
 #include "corvex/values/expressions/GeneralDataList.h"
 
 #include "elements/Rows.h"
@@ -72,8 +72,8 @@ QString codeOf(const GeneralDataList &expression, const Binding &binding)
     return isTooLong ? QString() : completeCode(expression, output, kind);
 }
 
-//! The expression beside the plain value of that name; null when \a owner has none.
-const GeneralDataList *expressionBeside(const DesignerObject *owner, const Binding &binding)
+//! The property beside the plain value of that name that holds its expression; null when \a owner has none.
+const DesignerProperty *propertyBeside(const DesignerObject *owner, const Binding &binding)
 {
     const PropertyRange properties = owner->properties();
     const auto isIt = [&binding](const SharedProperty &property) {
@@ -90,15 +90,21 @@ const GeneralDataList *expressionBeside(const DesignerObject *owner, const Bindi
             return nullptr;
         }
     }
-    return &expressionOf(*properties.at(place));
+    return properties.at(place).data();
 }
 
-//! The JavaScript of the expression that replaces the plain value \a name of \a owner; empty without one.
-QString codeBeside(const DesignerObject *owner, QStringView name)
+//! Puts the code of the expression beside the plain value of \a owner, if it has one, in its place.
+void replaceByExpression(QmlBinding &binding, const DesignerObject *owner)
 {
-    const Binding *binding = bindingOf(name);
-    const GeneralDataList *expression = binding ? expressionBeside(owner, *binding) : nullptr;
-    return expression && !expression->isEmpty() ? codeOf(*expression, *binding) : QString();
+    const Binding *form = bindingOf(binding.name);
+    const DesignerProperty *source = form ? propertyBeside(owner, *form) : nullptr;
+    if (!source || expressionOf(*source).isEmpty()) {
+        return;
+    }
+    if (const QString code = codeOf(expressionOf(*source), *form); !code.isEmpty()) {
+        binding.code = code;
+        binding.source = source;
+    }
 }
 
 } // namespace
@@ -120,28 +126,13 @@ bool bindingValidator(const DesignerProperty *property, QString &error)
     return false;
 }
 
-QString boundToQml(const DesignerProperty *property, int indent)
+QmlBindings boundToQml(const DesignerProperty *property)
 {
-    const QString code = codeBeside(property->parentObject(), property->id());
-    return code.isEmpty() ? property->convertToQml(indent) : QmlText::line(indent, property->id(), code);
-}
-
-QString boundPositionToQml(const DesignerProperty *property, int indent)
-{
-    const QString plain = property->convertToQml(indent);
-    const DesignerObject *owner = property->parentObject();
-    if (codeBeside(owner, u"x").isEmpty() && codeBeside(owner, u"y").isEmpty()) {
-        return plain;
+    QmlBindings bindings = property->convertToBindings();
+    for (QmlBinding &binding : bindings) {
+        replaceByExpression(binding, property->parentObject());
     }
-    QStringList lines = plain.split(u'\n');
-    for (QString &line : lines) {
-        const QStringView name = QStringView(line).trimmed().left(1);
-        const QString code = codeBeside(owner, name);
-        if (!code.isEmpty()) {
-            line = QmlText::line(indent, name.toString(), code);
-        }
-    }
-    return lines.join(u'\n');
+    return bindings;
 }
 
 } // namespace Halvane::Corvex::Elements

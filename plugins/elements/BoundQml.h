@@ -5,7 +5,8 @@
 
 namespace Halvane::Corvex::Designer {
 class DesignerProperty;
-}
+class QmlBindings;
+} // namespace Halvane::Corvex::Designer
 
 /*! The QML of properties that an expression may stand in for.
 
@@ -17,10 +18,8 @@ namespace Halvane::Corvex::Elements {
 //! An expression beside a plain value: empty, or one that can be written in the value's place.
 bool bindingValidator(const Designer::DesignerProperty *property, QString &error);
 
-//! The QML creator of "text", "color", "rotation" and "visible".
-QString boundToQml(const Designer::DesignerProperty *property, int indent);
-
-//! The QML creator of "position", whose two lines are bound one by one by "xBinding" and "yBinding".
-QString boundPositionToQml(const Designer::DesignerProperty *property, int indent);
+//! The bindings of the plain value, each replaced by the expression beside it: "text" by "textBinding", the
+//! "x" of "position" by "xBinding".
+Designer::QmlBindings boundToQml(const Designer::DesignerProperty *property);
 
 } // namespace Halvane::Corvex::Elements

@@ -15,8 +15,6 @@
 
 #include <QCache>
 
-#include <optional>
-
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
@@ -24,39 +22,20 @@ namespace Halvane::Corvex::Elements {
 
 namespace {
 
-//! A part of an element with the code for its new value.
-struct Assigned
-{
-    QString property;
-    QString code;
-};
-
-//! Of the line "x: 1"; none of a line of another form, such as one that opens a block.
-std::optional<Assigned> readAssigned(QStringView qmlLine)
-{
-    const QStringView line = qmlLine.trimmed();
-    const qsizetype colon = line.indexOf(u": "_s);
-    if (colon < 0 || !ObjectPath::isValid(line.first(colon)) || line.endsWith(u'{') || line.endsWith(u'}')) {
-        return {};
-    }
-    return Assigned{line.first(colon).toString(), line.sliced(colon + 2).toString()};
-}
-
 //! A new object of the class writes the values as any other of the class would.
-QList<Assigned> assignToNew(const QString &className, const QMap<QString, QString> &values)
+QmlBindings assignToNew(const QString &className, const QMap<QString, QString> &values)
 {
     const std::unique_ptr<DesignerObject> model(DesignerFactory::instance()->createUnowned(className));
-    QList<Assigned> all;
+    QmlBindings all;
     for (const auto &[id, value] : values.asKeyValueRange()) {
         const SharedProperty property = model ? model->getProperty(id) : SharedProperty();
         if (!property || property == model->idProperty() || !property->canRead(value)
             || !model->changePropertyValue(property, value)) {
             continue;
         }
-        const QString qml = property->toQml(0);
-        for (const QStringView line : QStringView(qml).split(u'\n')) {
-            if (const std::optional<Assigned> assigned = readAssigned(line)) {
-                all.append(*assigned);
+        for (const QmlBinding &binding : property->qmlBindings()) {
+            if (ObjectPath::isValid(binding.name) && !binding.isBlock()) {
+                all.add(binding.name, binding.code);
             }
         }
     }
@@ -64,32 +43,38 @@ QList<Assigned> assignToNew(const QString &className, const QMap<QString, QStrin
 }
 
 //! The same, remembered: the buttons of a project give the same few values to elements of the same classes.
-QList<Assigned> assignedBy(const QString &className, const QMap<QString, QString> &values)
+//! Valid until the next call in this thread.
+const QmlBindings &assignedBy(const QString &className, const QMap<QString, QString> &values)
 {
     constexpr qsizetype most = 2048;
-    static thread_local QCache<QStringList, QList<Assigned>> known(most);
+    static thread_local QCache<QStringList, QmlBindings> known(most);
     QStringList key{className};
     for (const auto &[id, value] : values.asKeyValueRange()) {
         key << id << value;
     }
-    if (const QList<Assigned> *all = known.object(key)) {
+    if (const QmlBindings *all = known.object(key)) {
         return *all;
     }
-    const QList<Assigned> all = assignToNew(className, values);
-    known.insert(key, new QList<Assigned>(all));
-    return all;
+    auto *all = new QmlBindings(assignToNew(className, values));
+    known.insert(key, all);
+    return *all;
 }
 
-QString handlerName(const DesignerProperty *property)
+//! The handler that is named after the property; none without statements.
+QmlBindings handler(const DesignerProperty *property, const QStringList &statements)
 {
-    return u"on"_s + property->id().at(0).toUpper() + property->id().mid(1);
+    if (statements.isEmpty()) {
+        return {};
+    }
+    const QString name = u"on"_s + property->id().at(0).toUpper() + property->id().mid(1);
+    return {name, QmlText::block(statements)};
 }
 
-QString expressionToQml(const DesignerProperty *property, int indent, GeneralDataInfo::OutputType output,
-                        GeneralDataList::InfoType kind)
+QmlBindings expressionToQml(const DesignerProperty *property, GeneralDataInfo::OutputType output,
+                            GeneralDataList::InfoType kind)
 {
     const QString code = completeCode(expressionOf(*property), output, kind);
-    return code.isEmpty() ? QString() : QmlText::line(indent, property->id(), code);
+    return code.isEmpty() ? QmlBindings() : QmlBindings(property->id(), code);
 }
 
 } // namespace
@@ -134,23 +119,13 @@ QStringList assignments(const DesignerObject *owner, const QString &name,
         return {};
     }
     QStringList statements;
-    for (const Assigned &assigned : assignedBy(element->className(), values)) {
-        statements.append(u"%1.%2 = %3;"_s.arg(object, assigned.property, assigned.code));
+    for (const QmlBinding &assigned : assignedBy(element->className(), values)) {
+        statements.append(u"%1.%2 = %3;"_s.arg(object, assigned.name, assigned.code));
     }
     return statements;
 }
 
-QString handler(int indent, const QString &name, const QStringList &statements)
-{
-    if (statements.isEmpty()) {
-        return {};
-    }
-    const QString lineStart = u'\n' + QmlText::tabs(indent + 1);
-    return QmlText::tabs(indent) + name + u": {"_s + lineStart + statements.join(lineStart) + u'\n'
-           + QmlText::tabs(indent) + u'}';
-}
-
-QString stateToQml(const DesignerProperty *property, int indent)
+QmlBindings stateToQml(const DesignerProperty *property)
 {
     QStringList statements;
     for (const UpdateObjectInfo &update : static_cast<const UpdateObjectListProperty *>(property)->value()) {
@@ -160,10 +135,10 @@ QString stateToQml(const DesignerProperty *property, int indent)
         }
         statements += assignments(property->parentObject(), update.name(), values);
     }
-    return handler(indent, handlerName(property), statements);
+    return handler(property, statements);
 }
 
-QString changesToQml(const DesignerProperty *property, int indent)
+QmlBindings changesToQml(const DesignerProperty *property)
 {
     QStringList statements;
     const PropertyList &changes = static_cast<const PropertyChangeListProperty *>(property)->value();
@@ -174,25 +149,25 @@ QString changesToQml(const DesignerProperty *property, int indent)
         }
         statements += assignments(property->parentObject(), element, values);
     }
-    return handler(indent, handlerName(property), statements);
+    return handler(property, statements);
 }
 
-QString assignmentsToQml(const DesignerProperty *property, int indent)
+QmlBindings assignmentsToQml(const DesignerProperty *property)
 {
-    return handler(indent, handlerName(property), assignments(expressionOf(*property)));
+    return handler(property, assignments(expressionOf(*property)));
 }
 
-QString mathToQml(const DesignerProperty *property, int indent)
+QmlBindings mathToQml(const DesignerProperty *property)
 {
-    return expressionToQml(property, indent, GeneralDataInfo::NumberOutput, GeneralDataList::MathExpression);
+    return expressionToQml(property, GeneralDataInfo::NumberOutput, GeneralDataList::MathExpression);
 }
 
-QString conditionToQml(const DesignerProperty *property, int indent)
+QmlBindings conditionToQml(const DesignerProperty *property)
 {
-    return expressionToQml(property, indent, GeneralDataInfo::RawOutput, GeneralDataList::BoolExpression);
+    return expressionToQml(property, GeneralDataInfo::RawOutput, GeneralDataList::BoolExpression);
 }
 
-QString termsToQml(const DesignerProperty *property, int indent)
+QmlBindings termsToQml(const DesignerProperty *property)
 {
     QStringList codes;
     for (const GeneralDataInfo &term : expressionOf(*property)) {
@@ -201,20 +176,18 @@ QString termsToQml(const DesignerProperty *property, int indent)
             codes.append(code);
         }
     }
-    return QmlText::line(indent, property->id(), QmlText::array(codes));
+    return {property->id(), QmlText::array(codes)};
 }
 
-QString linkNameToQml(const DesignerProperty *property, int indent)
+QmlBindings linkNameToQml(const DesignerProperty *property)
 {
-    return QmlText::line(indent, property->id(),
-                         QmlText::quoted(ObjectLinkInfo(property->valueString()).objectId()));
+    return {property->id(), QmlText::quoted(ObjectLinkInfo(property->valueString()).objectId())};
 }
 
-QString screenLinkToQml(const DesignerProperty *property, int indent)
+QmlBindings screenLinkToQml(const DesignerProperty *property)
 {
     const QString name = ObjectLinkInfo(property->valueString()).objectId();
-    return QmlText::line(indent, property->id(),
-                         QmlText::quoted(name.isEmpty() ? QString() : QmlText::reference(name)));
+    return {property->id(), QmlText::quoted(name.isEmpty() ? QString() : QmlText::reference(name))};
 }
 
 } // namespace Halvane::Corvex::Elements

@@ -10,6 +10,7 @@
 namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class DesignerProperty;
+class QmlBindings;
 } // namespace Halvane::Corvex::Designer
 
 //! JavaScript that elements run when something happens to them.
@@ -31,27 +32,24 @@ QStringList assignments(const Designer::GeneralDataList &expression);
 QStringList assignments(const Designer::DesignerObject *owner, const QString &name,
                         const QMap<QString, QString> &values);
 
-//! "name: {" and the statements in a block of their own; empty without statements.
-QString handler(int indent, const QString &name, const QStringList &statements);
-
 // QML creators. The handler's name is the property's id behind "on": onPressedState for "pressedState".
 //! For a list of updates of objects.
-QString stateToQml(const Designer::DesignerProperty *property, int indent);
+Designer::QmlBindings stateToQml(const Designer::DesignerProperty *property);
 //! For a list of changes of properties.
-QString changesToQml(const Designer::DesignerProperty *property, int indent);
+Designer::QmlBindings changesToQml(const Designer::DesignerProperty *property);
 //! For an expression of kind assign.
-QString assignmentsToQml(const Designer::DesignerProperty *property, int indent);
+Designer::QmlBindings assignmentsToQml(const Designer::DesignerProperty *property);
 
 // QML creators for expressions that the runtime follows: "id: code".
-QString mathToQml(const Designer::DesignerProperty *property, int indent);
-QString conditionToQml(const Designer::DesignerProperty *property, int indent);
+Designer::QmlBindings mathToQml(const Designer::DesignerProperty *property);
+Designer::QmlBindings conditionToQml(const Designer::DesignerProperty *property);
 //! The terms one by one: "id: [code, code]".
-QString termsToQml(const Designer::DesignerProperty *property, int indent);
+Designer::QmlBindings termsToQml(const Designer::DesignerProperty *property);
 
 // QML creators for links to what is no object of the screen's document.
 //! "id: \"name\"", the identifier name of the target, empty without one.
-QString linkNameToQml(const Designer::DesignerProperty *property, int indent);
+Designer::QmlBindings linkNameToQml(const Designer::DesignerProperty *property);
 //! "id: \"qml_name\"", the document of a screen.
-QString screenLinkToQml(const Designer::DesignerProperty *property, int indent);
+Designer::QmlBindings screenLinkToQml(const Designer::DesignerProperty *property);
 
 } // namespace Halvane::Corvex::Elements

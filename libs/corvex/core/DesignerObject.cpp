@@ -159,17 +159,50 @@ QString DesignerObject::toQml(int indent) const
     QString text = QmlText::tabs(indent);
     text.reserve(usualSize);
     text += qmlName() + u" {\n"_s;
+    appendMembers(text, indent + 1);
+    return text.append(QmlText::tabs(indent)).append(u'}');
+}
+
+QmlBindings DesignerObject::qmlBindings() const
+{
+    QmlBindings bindings;
     for (const DesignerProperty *property : d->properties) {
-        const QString line = property->toQml(indent + 1);
-        if (!line.isEmpty()) {
-            text.append(line).append(u'\n');
+        if (!property->isList()) {
+            bindings.add(property->qmlBindings());
         }
         if (property == d->id) {
-            text.append(QmlText::line(indent + 1, u"objectName"_s, QmlText::quoted(getIdName())))
-                .append(u'\n');
+            bindings.add(nameBinding());
         }
     }
-    return text.append(QmlText::tabs(indent)).append(u'}');
+    return bindings;
+}
+
+void DesignerObject::appendMembers(QString &text, int indent, const DesignerProperty *omitted) const
+{
+    const auto append = [&text, indent](const QmlBindings &bindings) {
+        for (const QmlBinding &binding : bindings) {
+            QmlText::append(text, binding, indent);
+            text.append(u'\n');
+        }
+    };
+    for (const DesignerProperty *property : d->properties) {
+        if (property == omitted) {
+            continue;
+        }
+        if (!property->isList()) {
+            append(property->qmlBindings());
+        } else if (const QString blocks = property->toQml(indent); !blocks.isEmpty()) {
+            text.append(blocks).append(u'\n');
+        }
+        if (property == d->id) {
+            append(nameBinding());
+        }
+    }
+}
+
+QmlBindings DesignerObject::nameBinding() const
+{
+    return {u"objectName"_s, QmlText::quoted(getIdName())};
 }
 
 SharedProperty DesignerObject::getProperty(QStringView id) const

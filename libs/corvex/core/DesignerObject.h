@@ -67,6 +67,9 @@ public:
     virtual QString qmlName() const;
     //! The object's block of QML, indented by \a indent tabs. Lines are separated by "\n"; the last has none.
     virtual QString toQml(int indent) const;
+    //! The bindings in that block: those of the properties in their order, and beside the identifier the name
+    //! for the runtime ("objectName"), which has no source. Child objects are not among them.
+    QmlBindings qmlBindings() const;
     //! Statements to run once the screen is loaded; empty in the base.
     virtual QString onCompletedQml(int indent) const;
 
@@ -282,6 +285,10 @@ protected:
     //! For the destructor of a class whose children use it: deletes them while it is complete.
     void deleteChildren();
 
+    /*! Appends to \a text what toQml() writes between the braces, indented by \a indent tabs, each line with
+        its "\n". The property \a omitted, which may be null, is left out. */
+    void appendMembers(QString &text, int indent, const DesignerProperty *omitted = nullptr) const;
+
     //! Adds a property that is not in a table.
     void addProperty(const SharedProperty &property);
     /*! Adds one property for each row. A row with the id of an existing property redescribes that one
@@ -297,6 +304,7 @@ private:
     friend class ObjectXmlWriter;
     friend class PropertyRow;
 
+    QmlBindings nameBinding() const;
     //! Changes a value by a text that a file can hold.
     Change changeStorableValue(const SharedProperty &property, const QString &newValue);
     //! The same; a text that cannot be read and counts as equal to all values is Unchanged.

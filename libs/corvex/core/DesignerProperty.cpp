@@ -3,6 +3,7 @@
 
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/EditorView.h"
+#include "corvex/core/QmlText.h"
 #include "corvex/core/private/DesignerPropertyState.h"
 #include "corvex/core/private/PropertyBlock.h"
 
@@ -242,9 +243,22 @@ void DesignerProperty::setRemoveValidator(ItemValidator validator)
     redescribe(&PropertyDescriptor::removeValidator, validator);
 }
 
+void DesignerProperty::setBindingsCreator(BindingsCreator creator)
+{
+    setCreators(creator, nullptr);
+}
+
 void DesignerProperty::setQmlCreator(QmlCreator creator)
 {
-    redescribe(&PropertyDescriptor::qmlCreator, creator);
+    setCreators(nullptr, creator);
+}
+
+void DesignerProperty::setCreators(BindingsCreator bindingsCreator, QmlCreator qmlCreator)
+{
+    const bool isAnother = describe(&PropertyDescriptor::bindingsCreator, bindingsCreator);
+    if (describe(&PropertyDescriptor::qmlCreator, qmlCreator) || isAnother) {
+        announceDescriptor();
+    }
 }
 
 void DesignerProperty::setObjectFilters(const QStringList &classNames)
@@ -312,12 +326,35 @@ QString DesignerProperty::toQml(int indent) const
     if (!hasFlag(RuntimeFlag)) {
         return {};
     }
+    if (descriptor().bindingsCreator) {
+        return QmlText::print(descriptor().bindingsCreator(this), indent);
+    }
     return descriptor().qmlCreator ? descriptor().qmlCreator(this, indent) : convertToQml(indent);
+}
+
+QmlBindings DesignerProperty::qmlBindings() const
+{
+    if (!hasFlag(RuntimeFlag)) {
+        return {};
+    }
+    const PropertyDescriptor &described = descriptor();
+    QmlBindings bindings = described.bindingsCreator ? described.bindingsCreator(this)
+                           : described.qmlCreator    ? QmlBindings::ofText(described.qmlCreator(this, 0))
+                                                     : convertToBindings();
+    for (QmlBinding &binding : bindings) {
+        binding.source = binding.source ? binding.source : this;
+    }
+    return bindings;
 }
 
 QString DesignerProperty::convertToQml(int) const
 {
     return {};
+}
+
+QmlBindings DesignerProperty::convertToBindings() const
+{
+    return QmlBindings::ofText(convertToQml(0));
 }
 
 DesignerObject *DesignerProperty::objectValue() const

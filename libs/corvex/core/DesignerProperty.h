@@ -16,6 +16,7 @@ class DesignerObject;
 class EditorView;
 class ItemList;
 struct ItemPlace;
+class QmlBindings;
 
 /*! One named, typed value of a DesignerObject.
 
@@ -75,6 +76,8 @@ public:
     void setValueValidator(ValueValidator validator);
     void setAddValidator(ItemValidator validator);
     void setRemoveValidator(ItemValidator validator);
+    //! Each of these two replaces what the other one has set.
+    void setBindingsCreator(BindingsCreator creator);
     void setQmlCreator(QmlCreator creator);
 
     //! A child must be of one of these classes or derived from one; empty accepts all.
@@ -119,8 +122,13 @@ public:
 
     //! The property's QML, its lines separated by "\n"; empty unless RuntimeFlag is set.
     QString toQml(int indent) const;
+    //! The same as data. A list is one member without a name.
+    QmlBindings qmlBindings() const;
     //! Whether toQml() writes only literals, which are correct for all values.
-    bool writesPlainQml() const { return !descriptor().qmlCreator && hasPlainForm(); }
+    bool writesPlainQml() const
+    {
+        return !descriptor().bindingsCreator && !descriptor().qmlCreator && hasPlainForm();
+    }
 
     //! The child of an object property, owned by parentObject().
     DesignerObject *objectValue() const;
@@ -154,7 +162,8 @@ public:
     virtual bool convertToValue(const QString &text) = 0;
     //! The canonical text of the typed value.
     virtual QString convertToValueString() const = 0;
-    //! The QML of the value itself, regardless of flags and QML creator.
+    //! The QML of the value itself, regardless of flags and QML creator. Classes whose QML consists of
+    //! bindings override convertToBindings() too, and print it here.
     virtual QString convertToQml(int indent) const;
     virtual bool valueIsEqual(const QString &text) const = 0;
     //! Validates the value without keeping the outcome.
@@ -164,6 +173,8 @@ public:
     //! Runs after the list has changed and observers know. The place to sort it, by moveItem() and
     //! reorderItems().
     virtual void updateListItems();
+    //! The bindings of the value itself; convertToQml() as one member in a class that has only that.
+    virtual QmlBindings convertToBindings() const;
 
     //! The list's children and kept items; null for other properties.
     const ItemList *itemList() const;
@@ -255,6 +266,7 @@ private:
     Failure findFailure(QString &error) const;
     bool isInRange(QString &error) const;
     bool setParameters(const QVariantMap &parameters);
+    void setCreators(BindingsCreator bindingsCreator, QmlCreator qmlCreator);
     bool refuse(const char *message);
     bool acceptsClassOf(const DesignerObject *object) const;
     bool canAdd(const DesignerObject *item, const char *duplicateMessage);

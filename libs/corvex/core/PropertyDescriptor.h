@@ -14,6 +14,7 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 class DesignerProperty;
+class QmlBindings;
 
 // Checks and builds call these in several threads at once, each for other objects: they only read the
 // project.
@@ -21,7 +22,10 @@ class DesignerProperty;
 using ValueValidator = bool (*)(const DesignerProperty *property, QString &error);
 //! Decides whether an object may enter or leave a list property.
 using ItemValidator = bool (*)(const DesignerProperty *property, const DesignerObject *item, QString &error);
-//! Writes a property's QML in place of DesignerProperty::convertToQml().
+//! Makes a property's bindings in place of DesignerProperty::convertToBindings().
+using BindingsCreator = QmlBindings (*)(const DesignerProperty *property);
+//! Writes a property's QML as text, lines with their tabs. Nothing can tell its bindings apart, so states and
+//! actions cannot set such a property. Prefer a BindingsCreator.
 using QmlCreator = QString (*)(const DesignerProperty *property, int indent);
 
 //! What all instances of a class share about one of their properties. A property copies it when it is changed
@@ -42,7 +46,8 @@ struct CORVEX_EXPORT PropertyDescriptor : public QSharedData
     ValueValidator valueValidator = nullptr;
     ItemValidator addValidator = nullptr;
     ItemValidator removeValidator = nullptr;
-    QmlCreator qmlCreator = nullptr;
+    BindingsCreator bindingsCreator = nullptr;
+    QmlCreator qmlCreator = nullptr; //!< at most one of the two creators is set
     PropertyFlags flags;
     int rank = 99;
     bool allowInvalidValue = false;

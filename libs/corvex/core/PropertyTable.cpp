@@ -147,9 +147,9 @@ PropertyRow &PropertyRow::removeValidator(ItemValidator check)
     return *this;
 }
 
-PropertyRow &PropertyRow::qml(QmlCreator creator)
+PropertyRow &PropertyRow::qml(BindingsCreator creator)
 {
-    m_prototype->setQmlCreator(creator);
+    m_prototype->setBindingsCreator(creator);
     return *this;
 }
 

@@ -48,7 +48,7 @@ public:
     PropertyRow &validator(ValueValidator validator);
     PropertyRow &addValidator(ItemValidator validator);
     PropertyRow &removeValidator(ItemValidator validator);
-    PropertyRow &qml(QmlCreator creator);
+    PropertyRow &qml(BindingsCreator creator);
     //! Where the row describes a property of the base anew, it gives it this row's value too.
     PropertyRow &overridesValue();
 

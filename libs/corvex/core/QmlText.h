@@ -2,16 +2,21 @@
 #pragma once
 
 #include "corvex/common/Export.h"
+#include "corvex/core/QmlBinding.h"
 
 #include <QString>
 #include <QStringList>
 
-//! The few forms that all generated QML is made of: one tab per level, lines parted by "\n".
+//! The few forms that all generated QML is made of: one tab per level, lines separated by "\n".
 namespace Halvane::Corvex::Designer::QmlText {
 
 CORVEX_EXPORT QString tabs(int indent);
-//! "id: value" on a line of its own, without a line end.
-CORVEX_EXPORT QString line(int indent, const QString &id, const QString &value);
+//! Appends "name: code", indented by \a indent tabs, without a line end after it.
+CORVEX_EXPORT void append(QString &text, const QmlBinding &binding, int indent);
+//! The bindings one below the other, without a line end after the last.
+CORVEX_EXPORT QString print(const QmlBindings &bindings, int indent);
+//! The code of a block: "{", the lines with a tab more, "}".
+CORVEX_EXPORT QString block(const QStringList &lines);
 //! The text between double quotes, made safe.
 CORVEX_EXPORT QString quoted(const QString &text);
 /*! The QML id of the object with that identifier name. Empty when the name holds anything but letters, digits

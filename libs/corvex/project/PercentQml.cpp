@@ -2,17 +2,17 @@
 #include "corvex/project/PercentQml.h"
 
 #include "corvex/core/DesignerProperty.h"
-#include "corvex/core/QmlText.h"
+#include "corvex/core/QmlBinding.h"
 #include "corvex/values/text/ValueConversion.h"
 
 namespace Halvane::Corvex::Designer {
 
-QString percentToQml(const DesignerProperty *property, int indent)
+QmlBindings percentToQml(const DesignerProperty *property)
 {
     // Three decimals in the model are five in the fraction.
     constexpr int decimals = 5;
     const double percent = ValueConversion::toReal(property->valueString());
-    return QmlText::line(indent, property->id(), ValueConversion::toQmlString(percent / 100, decimals));
+    return {property->id(), ValueConversion::toQmlString(percent / 100, decimals)};
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -3,13 +3,12 @@
 
 #include "corvex/common/Export.h"
 
-#include <QString>
-
 namespace Halvane::Corvex::Designer {
 
 class DesignerProperty;
+class QmlBindings;
 
 //! QML of a real property that is per cent in the model and a fraction at run time: "opacity: 0.5".
-CORVEX_EXPORT QString percentToQml(const DesignerProperty *property, int indent);
+CORVEX_EXPORT QmlBindings percentToQml(const DesignerProperty *property);
 
 } // namespace Halvane::Corvex::Designer

@@ -65,7 +65,6 @@ protected:
 
 private:
     Element *memberAt(QStringView path) const;
-    QStringList propertyLines(int indent) const;
     QStringList elementLists(int indent) const;
 
     ElementIndex m_index;

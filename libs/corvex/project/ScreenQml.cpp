@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The QML document of a screen.
 #include "corvex/common/ConfigurationInfo.h"
-#include "corvex/core/QmlText.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
@@ -91,24 +90,6 @@ int brightnessOf(const Screen &screen)
 
 } // namespace
 
-QStringList Screen::propertyLines(int indent) const
-{
-    QStringList lines;
-    for (const SharedProperty &property : properties()) {
-        if (property->id() == "elements"_L1) {
-            continue;
-        }
-        const QString line = property->toQml(indent);
-        if (!line.isEmpty()) {
-            lines.append(line);
-        }
-        if (property == idProperty()) {
-            lines.append(QmlText::line(indent, u"objectName"_s, QmlText::quoted(getIdName())));
-        }
-    }
-    return lines;
-}
-
 QStringList Screen::elementLists(int indent) const
 {
     QStringList blocks[listCount + 2];
@@ -131,9 +112,9 @@ QStringList Screen::elementLists(int indent) const
 QString Screen::toQml(int indent) const
 {
     const QString tabs = getTabs(indent);
-    QStringList parts{u"import QtQuick 1.1"_s, u"import RuntimeObjects 2.0"_s, tabs + qmlName() + u" {"_s};
-    parts += propertyLines(indent + 1);
-    parts.append(u"%1\tbrightness : %2\n"_s.arg(tabs, QString::number(brightnessOf(*this))));
+    QString text = u"import QtQuick 1.1\nimport RuntimeObjects 2.0\n"_s + tabs + qmlName() + u" {\n"_s;
+    appendMembers(text, indent + 1, elements().data());
+    QStringList parts{u"%1\tbrightness : %2\n"_s.arg(tabs, QString::number(brightnessOf(*this)))};
     parts += elementLists(indent + 1);
     const QString completed = onCompletedQml(indent);
     if (!completed.isEmpty()) {
@@ -141,7 +122,7 @@ QString Screen::toQml(int indent) const
         parts.append(completed);
         parts.append(tabs + u"\t}"_s);
     }
-    return parts.join(u'\n') + u"\n%1}\n"_s.arg(tabs);
+    return text + parts.join(u'\n') + u"\n%1}\n"_s.arg(tabs);
 }
 
 QString Screen::onCompletedQml(int indent) const

@@ -17,18 +17,20 @@ namespace {
 
 /*! The name of the log, and how it samples: no configuration file says that, and the element is what does the
     sampling. */
-QString logToQml(const DesignerProperty *property, int indent)
+QmlBindings logToQml(const DesignerProperty *property)
 {
-    QStringList lines{linkNameToQml(property, indent)};
+    QmlBindings bindings = linkNameToQml(property);
     if (const auto *log = static_cast<const LinkProperty *>(property)->connectLinkTo<LogVariable>()) {
         for (const QString &id : {QStringLiteral("autoStart"), QStringLiteral("interval"),
                                   QStringLiteral("maxDataPoints"), QStringLiteral("startDelay")}) {
-            lines.append(log->getProperty(id)->toQml(indent));
+            for (const QmlBinding &binding : log->getProperty(id)->qmlBindings()) {
+                bindings.add(binding.name, binding.code); // what names the log is the source
+            }
         }
-        const QString behavior = log->getProperty(u"behavior")->valueString();
-        lines.append(QmlText::line(indent, QStringLiteral("behavior"), QmlText::quoted(behavior)));
+        bindings.add(QStringLiteral("behavior"),
+                     QmlText::quoted(log->getProperty(u"behavior")->valueString()));
     }
-    return lines.join(u'\n');
+    return bindings;
 }
 
 } // namespace

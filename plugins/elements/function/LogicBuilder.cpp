@@ -19,7 +19,7 @@ namespace {
 
 /*! The conditions as an array that the runtime follows, and a handler that makes the assignments of those
    that hold. A rule without a condition always holds; one without assignments is left out. */
-QString logicToQml(const DesignerProperty *property, int indent)
+QmlBindings logicToQml(const DesignerProperty *property)
 {
     QStringList conditions;
     QStringList rules;
@@ -42,8 +42,9 @@ QString logicToQml(const DesignerProperty *property, int indent)
     if (conditions.isEmpty()) {
         return {};
     }
-    return QmlText::line(indent, u"conditions"_s, QmlText::array(conditions)) + u'\n'
-           + handler(indent, u"onEvaluate"_s, rules);
+    QmlBindings bindings(u"conditions"_s, QmlText::array(conditions));
+    bindings.add(u"onEvaluate"_s, QmlText::block(rules));
+    return bindings;
 }
 
 } // namespace

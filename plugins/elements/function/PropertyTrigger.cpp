@@ -16,7 +16,7 @@ namespace Halvane::Corvex::Elements {
 namespace {
 
 //! "actions: [qml_a, qml_b]"
-QString actionsToQml(const DesignerProperty *property, int indent)
+QmlBindings actionsToQml(const DesignerProperty *property)
 {
     QStringList actions;
     for (const QString &name : property->valueString().split(u", "_s, Qt::SkipEmptyParts)) {
@@ -24,7 +24,7 @@ QString actionsToQml(const DesignerProperty *property, int indent)
             actions.append(id);
         }
     }
-    return QmlText::line(indent, u"actions"_s, QmlText::array(actions));
+    return {u"actions"_s, QmlText::array(actions)};
 }
 
 } // namespace

@@ -14,7 +14,7 @@ bool StandardVisual::initializeProperties()
         return false;
     }
     static const PropertyTable table{
-        PropertyRow::redescribe(getProperty(u"position")).qml(&boundPositionToQml),
+        PropertyRow::redescribe(getProperty(u"position")).qml(&boundToQml),
         PropertyRow::redescribe(getProperty(u"rotation")).qml(&boundToQml),
         PropertyRow::redescribe(getProperty(u"visible")).qml(&boundToQml),
         bindingRow("xBinding", "Position X (Expression)", "VerticalMathExpressionEditor").rank(60),

@@ -2,7 +2,6 @@
 #include "elements/visual/Text.h"
 
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/core/QmlText.h"
 #include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/ColorProperties.h"
 #include "corvex/core/properties/EnumProperty.h"
@@ -21,9 +20,9 @@ namespace Halvane::Corvex::Elements {
 namespace {
 
 //! "horizontalAlignment: Text.AlignLeft"
-QString alignmentToQml(const DesignerProperty *property, int indent)
+QmlBindings alignmentToQml(const DesignerProperty *property)
 {
-    return QmlText::line(indent, property->id(), u"Text."_s + property->valueString());
+    return {property->id(), u"Text."_s + property->valueString()};
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
+#include "corvex/core/QmlBinding.h"
 #include "corvex/preview/PreviewSession.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
@@ -154,6 +155,14 @@ TEST_F(Elements, ExpressionsStandInForPlainValues)
     set(text, "opacity", u"12.345"_s);
     EXPECT_EQ(line(text, "opacity"), u"opacity: 0.12345"_s);
     EXPECT_EQ(line(text, "textBinding"), QString());
+    QStringList sources;
+    for (const QmlBinding &binding : text->qmlBindings()) {
+        if (binding.source && binding.name != binding.source->id() && !binding.name.contains(u'.')) {
+            sources.append(binding.name + u'<' + binding.source->id());
+        }
+    }
+    EXPECT_EQ(sources.join(u' '), u"x<xBinding y<position visible<visibleBinding text<textBinding "
+                                  "color<colorBinding width<size height<size"_s);
 }
 
 TEST_F(Elements, StatesAndActionsBecomeAssignmentsToWhatIsThere)

@@ -31,16 +31,16 @@ DesignerObject *LinkProperty::namesake() const
     return value().isValid() ? ofAnyClass.findLinks(parentObject(), false).value(0) : nullptr;
 }
 
-QString LinkProperty::convertToQml(int indent) const
+QmlBindings LinkProperty::convertToBindings() const
 {
     // QML knows a member of a group by its own name, which ends the path that the link holds.
     const DesignerObject *target = value().objectId().contains(u'.') ? connectLink() : nullptr;
     if (!target) {
-        return TypedProperty::convertToQml(indent);
+        return TypedProperty::convertToBindings();
     }
     ObjectLinkInfo direct = value();
     direct.setObjectId(target->getIdName());
-    return QmlForm<ObjectLinkInfo>::write(*this, direct, indent);
+    return QmlForm<ObjectLinkInfo>::bindings(*this, direct);
 }
 
 bool LinkProperty::validateValue(QString &error) const

@@ -39,7 +39,7 @@ public:
 protected:
     using TypedProperty::TypedProperty;
 
-    QString convertToQml(int indent) const override;
+    QmlBindings convertToBindings() const override;
     //! Whether the object of that name, if there is one, is of a class that the property asks for.
     bool validateValue(QString &error) const override;
 };

@@ -62,30 +62,29 @@ QString quoted(const QColor &color)
     return ValueConversion::addQuotes(ValueConversion::toString(color));
 }
 
-QString line(const DesignerProperty &property, int indent, const QString &value)
+//! Most values are one binding, named like the property.
+QmlBindings one(const DesignerProperty &property, QString code)
 {
-    return QmlText::line(indent, property.id(), value);
+    return {property.id(), std::move(code)};
 }
 
-struct NamedValue
+struct NamedCode
 {
     QString name;
-    QString value;
+    QString code;
 };
 
-//! A line for each value, "prefix" before its name.
-QString lines(int indent, const QString &prefix, std::initializer_list<NamedValue> values)
+//! A binding for each code that is not empty, "prefix" before its name.
+QmlBindings parts(const QString &prefix, std::initializer_list<NamedCode> all)
 {
-    constexpr qsizetype usualLine = 32;
-    QString text;
-    text.reserve(qsizetype(values.size()) * usualLine);
-    for (const auto &[name, value] : values) {
-        if (!value.isEmpty()) {
-            text.append(text.isEmpty() ? QLatin1StringView() : "\n"_L1);
-            text.append(QmlText::tabs(indent)).append(prefix).append(name).append(": "_L1).append(value);
+    QmlBindings bindings;
+    bindings.reserve(qsizetype(all.size()));
+    for (const auto &[name, code] : all) {
+        if (!code.isEmpty()) {
+            bindings.add(prefix + name, code);
         }
     }
-    return text;
+    return bindings;
 }
 
 struct Flag
@@ -94,7 +93,7 @@ struct Flag
     const char *name;
 };
 
-QString flags(const DesignerProperty &property, int indent, std::initializer_list<Flag> all)
+QmlBindings flags(const DesignerProperty &property, std::initializer_list<Flag> all)
 {
     QStringList names;
     for (const auto &[isSet, name] : all) {
@@ -102,51 +101,50 @@ QString flags(const DesignerProperty &property, int indent, std::initializer_lis
             names.append(QmlText::quoted(QString::fromLatin1(name)));
         }
     }
-    return line(property, indent, QmlText::array(names));
+    return one(property, QmlText::array(names));
 }
 
 } // namespace
 
-QString QmlForm<bool>::write(const DesignerProperty &property, const bool &value, int indent)
+QmlBindings QmlForm<bool>::bindings(const DesignerProperty &property, const bool &value)
 {
-    return line(property, indent, ValueConversion::toString(value));
+    return one(property, ValueConversion::toString(value));
 }
 
-QString QmlForm<int>::write(const DesignerProperty &property, const int &value, int indent)
+QmlBindings QmlForm<int>::bindings(const DesignerProperty &property, const int &value)
 {
-    return line(property, indent, ValueConversion::toString(value));
+    return one(property, ValueConversion::toString(value));
 }
 
-QString QmlForm<double>::write(const DesignerProperty &property, const double &value, int indent)
+QmlBindings QmlForm<double>::bindings(const DesignerProperty &property, const double &value)
 {
-    return line(property, indent, Writer(property).real(value));
+    return one(property, Writer(property).real(value));
 }
 
-QString QmlForm<QString>::write(const DesignerProperty &property, const QString &value, int indent)
+QmlBindings QmlForm<QString>::bindings(const DesignerProperty &property, const QString &value)
 {
-    return line(property, indent, QmlText::quoted(value));
+    return one(property, QmlText::quoted(value));
 }
 
-QString QmlForm<QColor>::write(const DesignerProperty &property, const QColor &color, int indent)
+QmlBindings QmlForm<QColor>::bindings(const DesignerProperty &property, const QColor &color)
 {
-    return line(property, indent, quoted(color));
+    return one(property, quoted(color));
 }
 
-QString QmlForm<QList<QColor>>::write(const DesignerProperty &property, const QList<QColor> &colors,
-                                      int indent)
+QmlBindings QmlForm<QList<QColor>>::bindings(const DesignerProperty &property, const QList<QColor> &colors)
 {
     QStringList values;
     for (const QColor &color : colors) {
         values.append(quoted(color));
     }
-    return line(property, indent, QmlText::array(values));
+    return one(property, QmlText::array(values));
 }
 
-QString QmlForm<QFont>::write(const DesignerProperty &property, const QFont &font, int indent)
+QmlBindings QmlForm<QFont>::bindings(const DesignerProperty &property, const QFont &font)
 {
     const Writer writer(property);
     const auto size = [](int number) { return number > 0 ? QString::number(number) : QString(); };
-    return lines(indent, property.id() + u'.',
+    return parts(property.id() + u'.',
                  {{u"family"_s, QmlText::quoted(font.family())},
                   {u"pointSize"_s, font.pixelSize() > 0 ? QString() : size(font.pointSize())},
                   {u"pixelSize"_s, size(font.pixelSize())},
@@ -159,65 +157,61 @@ QString QmlForm<QFont>::write(const DesignerProperty &property, const QFont &fon
                   {u"wordSpacing"_s, writer.real(font.wordSpacing())}});
 }
 
-QString QmlForm<QSizeF>::write(const DesignerProperty &property, const QSizeF &size, int indent)
+QmlBindings QmlForm<QSizeF>::bindings(const DesignerProperty &property, const QSizeF &size)
 {
     const Writer writer(property);
     if (property.id() != "size"_L1) {
-        return line(property, indent, writer.value(size));
+        return one(property, writer.value(size));
     }
-    return lines(indent, QString(),
+    return parts(QString(),
                  {{u"width"_s, writer.real(size.width())}, {u"height"_s, writer.real(size.height())}});
 }
 
-QString QmlForm<QPointF>::write(const DesignerProperty &property, const QPointF &point, int indent)
+QmlBindings QmlForm<QPointF>::bindings(const DesignerProperty &property, const QPointF &point)
 {
     const Writer writer(property);
     if (property.id() != "position"_L1) {
-        return line(property, indent, writer.value(point));
+        return one(property, writer.value(point));
     }
-    return lines(indent, QString(), {{u"x"_s, writer.real(point.x())}, {u"y"_s, writer.real(point.y())}});
+    return parts(QString(), {{u"x"_s, writer.real(point.x())}, {u"y"_s, writer.real(point.y())}});
 }
 
-QString QmlForm<QPolygonF>::write(const DesignerProperty &property, const QPolygonF &polygon, int indent)
+QmlBindings QmlForm<QPolygonF>::bindings(const DesignerProperty &property, const QPolygonF &polygon)
 {
-    return line(property, indent, Writer(property).array(polygon));
+    return one(property, Writer(property).array(polygon));
 }
 
-QString QmlForm<QList<QPolygonF>>::write(const DesignerProperty &property, const QList<QPolygonF> &polygons,
-                                         int indent)
+QmlBindings QmlForm<QList<QPolygonF>>::bindings(const DesignerProperty &property,
+                                                const QList<QPolygonF> &polygons)
 {
-    return line(property, indent, Writer(property).array(polygons));
+    return one(property, Writer(property).array(polygons));
 }
 
-QString QmlForm<QGradientStops>::write(const DesignerProperty &property, const QGradientStops &stops,
-                                       int indent)
+QmlBindings QmlForm<QGradientStops>::bindings(const DesignerProperty &property, const QGradientStops &stops)
 {
-    QString text = line(property, indent, u"Gradient {\n"_s);
+    QStringList lines;
     for (const QGradientStop &stop : stops) {
         // The stored form cuts positions; what is built must not depend on whether it was saved before.
         const QStringList fields = ValueConversion::toString(QGradientStops{stop}).split(u", "_s);
-        text += QmlText::tabs(indent + 1) + u"GradientStop { position: "_s + fields.constFirst()
-                + u"; color: "_s + ValueConversion::addQuotes(fields.constLast()) + u" }\n"_s;
+        lines.append(u"GradientStop { position: "_s + fields.constFirst() + u"; color: "_s
+                     + ValueConversion::addQuotes(fields.constLast()) + u" }"_s);
     }
-    return text + QmlText::tabs(indent) + u'}';
+    return one(property, u"Gradient "_s + QmlText::block(lines));
 }
 
-QString QmlForm<BorderInfo>::write(const DesignerProperty &property, const BorderInfo &border, int indent)
+QmlBindings QmlForm<BorderInfo>::bindings(const DesignerProperty &property, const BorderInfo &border)
 {
-    return lines(
-        indent, property.id() + u'.',
-        {{u"width"_s, ValueConversion::toString(border.width())}, {u"color"_s, quoted(border.color())}});
+    return parts(property.id() + u'.', {{u"width"_s, ValueConversion::toString(border.width())},
+                                        {u"color"_s, quoted(border.color())}});
 }
 
-QString QmlForm<RangeInfo>::write(const DesignerProperty &property, const RangeInfo &range, int indent)
+QmlBindings QmlForm<RangeInfo>::bindings(const DesignerProperty &property, const RangeInfo &range)
 {
     const Writer writer(property);
-    return line(property, indent,
-                QmlText::array({writer.real(range.minimum()), writer.real(range.maximum())}));
+    return one(property, QmlText::array({writer.real(range.minimum()), writer.real(range.maximum())}));
 }
 
-QString QmlForm<ValueRangeInfo>::write(const DesignerProperty &property, const ValueRangeInfo &range,
-                                       int indent)
+QmlBindings QmlForm<ValueRangeInfo>::bindings(const DesignerProperty &property, const ValueRangeInfo &range)
 {
     // A factor of three decimals would be off by volts.
     constexpr int factorDecimals = 9;
@@ -225,22 +219,22 @@ QString QmlForm<ValueRangeInfo>::write(const DesignerProperty &property, const V
     const QString values = QmlText::array({writer.real(range.value1()), writer.real(range.value2())});
     const auto scaling = ValueRangeProperty::scaling(range, property.parentObject());
     if (!scaling) {
-        return line(property, indent, values);
+        return one(property, values);
     }
-    return lines(indent, property.id(),
+    return parts(property.id(),
                  {{QString(), values},
                   {u"Factor"_s, ValueConversion::toQmlString(scaling->factor, factorDecimals)},
                   {u"Offset"_s, ValueConversion::toQmlString(scaling->offset, factorDecimals)}});
 }
 
-QString QmlForm<EnumInfo>::write(const DesignerProperty &property, const EnumInfo &info, int indent)
+QmlBindings QmlForm<EnumInfo>::bindings(const DesignerProperty &property, const EnumInfo &info)
 {
     const bool asNumber = property.editorParameter(u"numberOutput"_s).toBool();
-    return line(property, indent,
-                asNumber ? ValueConversion::toString(info.value()) : QmlText::quoted(info.valueString()));
+    return one(property,
+               asNumber ? ValueConversion::toString(info.value()) : QmlText::quoted(info.valueString()));
 }
 
-QString QmlForm<ConditionInfo>::write(const DesignerProperty &property, const ConditionInfo &info, int indent)
+QmlBindings QmlForm<ConditionInfo>::bindings(const DesignerProperty &property, const ConditionInfo &info)
 {
     const Writer writer(property);
     QStringList comparisons;
@@ -254,60 +248,57 @@ QString QmlForm<ConditionInfo>::write(const DesignerProperty &property, const Co
     add(info.condition2(), info.value2());
     const QString result =
         comparisons.isEmpty() ? u"true"_s : comparisons.join(info.isOr() ? u" || "_s : u" && "_s);
-    return QmlText::tabs(indent) + u"function validateValue(value) {\n"_s + QmlText::tabs(indent + 1)
-           + u"return "_s + result + u";\n"_s + QmlText::tabs(indent) + u'}';
+    return QmlBindings::ofText(u"function validateValue(value) "_s
+                               + QmlText::block({u"return "_s + result + u';'}));
 }
 
-QString QmlForm<IdentifierInfo>::write(const DesignerProperty &property, const IdentifierInfo &info,
-                                       int indent)
+QmlBindings QmlForm<IdentifierInfo>::bindings(const DesignerProperty &property, const IdentifierInfo &info)
 {
     const QString id = QmlText::reference(info.name());
-    return id.isEmpty() ? QString() : line(property, indent, id);
+    return id.isEmpty() ? QmlBindings() : one(property, id);
 }
 
-QString QmlForm<ObjectLinkInfo>::write(const DesignerProperty &property, const ObjectLinkInfo &link,
-                                       int indent)
+QmlBindings QmlForm<ObjectLinkInfo>::bindings(const DesignerProperty &property, const ObjectLinkInfo &link)
 {
     const QString target = link.isValid() ? QmlText::reference(link.objectId()) : QString();
-    return line(property, indent, target.isEmpty() ? u"null"_s : target);
+    return one(property, target.isEmpty() ? u"null"_s : target);
 }
 
-QString QmlForm<MapInfo>::write(const DesignerProperty &property, const MapInfo &map, int indent)
+QmlBindings QmlForm<MapInfo>::bindings(const DesignerProperty &property, const MapInfo &map)
 {
     QStringList entries;
     for (const auto &[key, value] : map) {
         entries.append(QmlText::array({QmlText::quoted(key), QmlText::quoted(value)}));
     }
-    return line(property, indent, QmlText::array(entries));
+    return one(property, QmlText::array(entries));
 }
 
-QString QmlForm<ListInfo>::write(const DesignerProperty &property, const ListInfo &list, int indent)
+QmlBindings QmlForm<ListInfo>::bindings(const DesignerProperty &property, const ListInfo &list)
 {
     QStringList items;
     for (const QString &item : list) {
         items.append(QmlText::quoted(item));
     }
-    return line(property, indent, QmlText::array(items));
+    return one(property, QmlText::array(items));
 }
 
-QString QmlForm<IOErrorInfo>::write(const DesignerProperty &property, const IOErrorInfo &info, int indent)
+QmlBindings QmlForm<IOErrorInfo>::bindings(const DesignerProperty &property, const IOErrorInfo &info)
 {
-    return flags(property, indent, {{info.idError(), "IdError"}, {info.ioError(), "IOError"}});
+    return flags(property, {{info.idError(), "IdError"}, {info.ioError(), "IOError"}});
 }
 
-QString QmlForm<SendErrorInfo>::write(const DesignerProperty &property, const SendErrorInfo &info, int indent)
+QmlBindings QmlForm<SendErrorInfo>::bindings(const DesignerProperty &property, const SendErrorInfo &info)
 {
-    return flags(property, indent, {{info.isBusy(), "TargetBusy"}, {info.isOffline(), "TargetOffline"}});
+    return flags(property, {{info.isBusy(), "TargetBusy"}, {info.isOffline(), "TargetOffline"}});
 }
 
-QString QmlForm<ReceiveErrorInfo>::write(const DesignerProperty &property, const ReceiveErrorInfo &info,
-                                         int indent)
+QmlBindings QmlForm<ReceiveErrorInfo>::bindings(const DesignerProperty &property,
+                                                const ReceiveErrorInfo &info)
 {
-    return flags(property, indent,
-                 {{info.nameError(), "NameDecodeError"},
-                  {info.typeError(), "TypeDecodeError"},
-                  {info.valueError(), "ValueDecodeError"},
-                  {info.dataFlowError(), "DescrDecodeError"}});
+    return flags(property, {{info.nameError(), "NameDecodeError"},
+                            {info.typeError(), "TypeDecodeError"},
+                            {info.valueError(), "ValueDecodeError"},
+                            {info.dataFlowError(), "DescrDecodeError"}});
 }
 
 } // namespace Halvane::Corvex::Designer

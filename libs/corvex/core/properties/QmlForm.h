@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/Export.h"
+#include "corvex/core/QmlBinding.h"
 
 #include <QGradient>
 #include <QPolygonF>
@@ -28,23 +29,22 @@ class ReceiveErrorInfo;
 class SendErrorInfo;
 class ValueRangeInfo;
 
-/*! What a property writes into QML, by the type of its value: lines indented by \a indent tabs and parted by
-    "\n", with the property's id as the name of what they bind. A type without a form of its own writes
-    nothing.
+/*! What a property writes into QML, by the type of its value: bindings, most of them with the property's id
+   as their name. A type without a form of its own writes nothing.
 
     Numbers that are not whole have as many decimals as the editor parameter "decimals" says, 3 without it.
 */
 template<class Value>
 struct QmlForm
 {
-    static QString write(const DesignerProperty &, const Value &, int) { return {}; }
+    static QmlBindings bindings(const DesignerProperty &, const Value &) { return {}; }
 };
 
 #define CORVEX_QML_FORM(Value)                                                                               \
     template<>                                                                                               \
     struct CORVEX_EXPORT QmlForm<Value>                                                                      \
     {                                                                                                        \
-        static QString write(const DesignerProperty &property, const Value &value, int indent);              \
+        static QmlBindings bindings(const DesignerProperty &property, const Value &value);                   \
     };
 CORVEX_QML_FORM(bool)             // id: true
 CORVEX_QML_FORM(int)              // id: 3
@@ -57,14 +57,14 @@ CORVEX_QML_FORM(QSizeF)           // id: Qt.size(40, 20); the lines width and he
 CORVEX_QML_FORM(QPointF)          // id: Qt.point(1, 2); the lines x and y when the id is "position"
 CORVEX_QML_FORM(QPolygonF)        // id: [Qt.point(0, 0), Qt.point(1, 2)]
 CORVEX_QML_FORM(QList<QPolygonF>) // id: [[Qt.point(0, 0)], []]
-CORVEX_QML_FORM(QGradientStops)   // id: Gradient { with a line for each stop
+CORVEX_QML_FORM(QGradientStops)   // id: Gradient { with a line for each stop }
 CORVEX_QML_FORM(BorderInfo)       // id.width: 2 and id.color: "#FFFF0000"
 CORVEX_QML_FORM(RangeInfo)        // id: [0, 100]
 // id: [2, 8], the two values. Where the owner knows its voltages (see ValueRangeProperty) there are two lines
 // more, idFactor and idOffset, the scaling; 0 and 0 when the values are too close for one.
 CORVEX_QML_FORM(ValueRangeInfo)
 CORVEX_QML_FORM(EnumInfo)       // id: "Key", or the number when the editor parameter "numberOutput" is set
-CORVEX_QML_FORM(ConditionInfo)  // the function validateValue(value), whatever the id is
+CORVEX_QML_FORM(ConditionInfo)  // a member without a name: the function validateValue(value)
 CORVEX_QML_FORM(IdentifierInfo) // id: qml_name
 CORVEX_QML_FORM(ObjectLinkInfo) // id: qml_name, or null
 CORVEX_QML_FORM(MapInfo)        // id: [["key", "value"], ["key", "value"]]

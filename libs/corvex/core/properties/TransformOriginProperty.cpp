@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/properties/TransformOriginProperty.h"
 
-#include "corvex/core/QmlText.h"
-
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -30,10 +28,10 @@ QString TextForm<QQuickItem::TransformOrigin>::print(QQuickItem::TransformOrigin
     return TransformOriginProperty::enumToString(origin);
 }
 
-QString QmlForm<QQuickItem::TransformOrigin>::write(const DesignerProperty &property,
-                                                    QQuickItem::TransformOrigin origin, int indent)
+QmlBindings QmlForm<QQuickItem::TransformOrigin>::bindings(const DesignerProperty &property,
+                                                           QQuickItem::TransformOrigin origin)
 {
-    return QmlText::line(indent, property.id(), u"Item."_s + TransformOriginProperty::enumToString(origin));
+    return {property.id(), u"Item."_s + TransformOriginProperty::enumToString(origin)};
 }
 
 QQuickItem::TransformOrigin TransformOriginProperty::stringToEnum(const QString &name, bool *ok)

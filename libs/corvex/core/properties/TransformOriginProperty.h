@@ -19,7 +19,7 @@ struct CORVEX_EXPORT TextForm<QQuickItem::TransformOrigin>
 template<>
 struct CORVEX_EXPORT QmlForm<QQuickItem::TransformOrigin>
 {
-    static QString write(const DesignerProperty &property, QQuickItem::TransformOrigin origin, int indent);
+    static QmlBindings bindings(const DesignerProperty &property, QQuickItem::TransformOrigin origin);
 };
 
 //! The point about which an item turns and scales; its text is the name of the enumerator.

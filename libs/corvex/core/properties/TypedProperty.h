@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/core/DesignerProperty.h"
+#include "corvex/core/QmlText.h"
 #include "corvex/core/properties/FormText.h"
 #include "corvex/core/properties/QmlForm.h"
 #include "corvex/core/properties/TextForm.h"
@@ -54,7 +55,10 @@ public:
 
     QString convertToValueString() const override { return TextForm<Value>::print(m_value); }
 
-    QString convertToQml(int indent) const override { return QmlForm<Value>::write(*this, m_value, indent); }
+    // Final: what is overridden is convertToBindings(), which objects, states and checks read.
+    QString convertToQml(int indent) const final { return QmlText::print(convertToBindings(), indent); }
+
+    QmlBindings convertToBindings() const override { return QmlForm<Value>::bindings(*this, m_value); }
 
     bool valueIsEqual(const QString &text) const override
     {

@@ -4,6 +4,7 @@
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/PropertyValidators.h"
+#include "corvex/core/QmlBinding.h"
 #include "corvex/core/properties/IdentifierProperty.h"
 #include "corvex/project/RuntimeTable.h"
 #include "corvex/project/Screen.h"
@@ -21,16 +22,11 @@ namespace {
 QHash<QString, QString> firstNumbers(const DesignerObject &element)
 {
     QHash<QString, QString> numbers;
-    for (const SharedProperty &property : element.properties()) {
-        const QString qml = property->isList() ? QString() : property->toQml(0);
-        for (const QStringView line : QStringView(qml).split(u'\n')) {
-            const qsizetype colon = line.indexOf(u": "_s);
-            const QStringView value = colon < 0 ? QStringView() : line.sliced(colon + 2);
-            bool isNumber = false;
-            std::ignore = value.toDouble(&isNumber);
-            if (isNumber) {
-                numbers.insert(line.first(colon).toString(), value.toString());
-            }
+    for (const QmlBinding &binding : element.qmlBindings()) {
+        bool isNumber = false;
+        std::ignore = binding.code.toDouble(&isNumber);
+        if (isNumber) {
+            numbers.insert(binding.name, binding.code);
         }
     }
     return numbers;
