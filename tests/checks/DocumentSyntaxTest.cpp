@@ -44,12 +44,11 @@ TEST(DocumentSyntax, WhatIsWrongIsFoundOnItsLine)
 TEST(PlainQml, IsWhatCannotBeWrong)
 {
     for (const QString &plain :
-         {u"x: -2.5\ny: 0"_s, u"a: \"\\n\""_s, u"at: Item.Left"_s, u"b: qml_pump1"_s, u"c: null"_s}) {
-        EXPECT_TRUE(isPlainQml(plain)) << qPrintable(plain);
+         {u"-2.5"_s, u"0"_s, u"\"\\n\""_s, u"Item.Left"_s, u"qml_pump1"_s, u"null"_s}) {
+        EXPECT_TRUE(isPlainCode(plain)) << qPrintable(plain);
     }
-    for (const QString &other :
-         {u"x: 1\ny: a"_s, u"a: \"\\\""_s, u"x: 01"_s, u"b: qml_a.b"_s, u"onA: {"_s, u""_s}) {
-        EXPECT_FALSE(isPlainQml(other)) << qPrintable(other);
+    for (const QString &other : {u"a"_s, u"\"\\\""_s, u"01"_s, u"qml_a.b"_s, u"{"_s, u"1\ny: 0"_s, u""_s}) {
+        EXPECT_FALSE(isPlainCode(other)) << qPrintable(other);
     }
 }
 

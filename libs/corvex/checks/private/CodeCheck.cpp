@@ -4,6 +4,7 @@
 #include "corvex/checks/private/CodeReader.h"
 #include "corvex/checks/private/PlainQml.h"
 #include "corvex/core/DesignerObject.h"
+#include "corvex/core/QmlText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,14 +12,24 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The property that holds what the user wrote: an expression takes the place of the value that it gives.
-const DesignerProperty &sourceOf(const DesignerProperty &property)
+QString textOf(const QmlBinding &binding)
 {
-    const SharedProperty binding = property.parentObject()->getProperty(property.id() + u"Binding"_s);
-    return binding && !binding->valueString().isEmpty() ? *binding : property;
+    QString text;
+    QmlText::append(text, binding, 0);
+    return text;
 }
 
 } // namespace
+
+qsizetype CodeCheck::TextNumbers::of(const QString &text)
+{
+    const auto known = m_numbers.constFind(text);
+    if (known != m_numbers.cend()) {
+        return *known;
+    }
+    m_texts.append(text);
+    return *m_numbers.insert(text, m_texts.size() - 1);
+}
 
 bool CodeCheck::concerns(const DesignerProperty &property)
 {
@@ -41,32 +52,25 @@ void CodeCheck::look(const DesignerProperty &property)
     if (isPlain) {
         m_plainNames.insert(property.id());
     }
-    const QString qml = property.toQml(0);
-    if (!qml.isEmpty() && (isPlain || !isPlainQml(qml))) {
-        m_uses.append({&property, numberOf(qmlShape(qml)), isPlain});
+    int place = 0;
+    for (const QmlBinding &binding : property.qmlBindings()) {
+        if (isPlain || binding.name.isEmpty() || !isPlainCode(binding.code)) {
+            m_uses.append({&property, m_shapes.of(qmlShape(textOf(binding))), place, isPlain});
+        }
+        ++place;
     }
-}
-
-qsizetype CodeCheck::numberOf(const QString &shape)
-{
-    const auto known = m_numbers.constFind(shape);
-    if (known != m_numbers.cend()) {
-        return *known;
-    }
-    m_shapes.append(shape);
-    return *m_numbers.insert(shape, m_shapes.size() - 1);
 }
 
 void CodeCheck::join(Check &later)
 {
     const auto &other = static_cast<const CodeCheck &>(later);
     QList<qsizetype> numbers;
-    for (const QString &shape : other.m_shapes) {
-        numbers.append(numberOf(shape));
+    for (const QString &shape : other.m_shapes.texts()) {
+        numbers.append(m_shapes.of(shape));
     }
-    for (const auto &[property, shape, isPlain] : other.m_uses) {
+    for (const auto &[property, shape, place, isPlain] : other.m_uses) {
         if (!isPlain || !m_plainNames.contains(property->id())) {
-            m_uses.append({property, numbers.at(shape), isPlain});
+            m_uses.append({property, numbers.at(shape), place, isPlain});
         }
     }
     m_plainNames += other.m_plainNames;
@@ -74,27 +78,27 @@ void CodeCheck::join(Check &later)
 
 void CodeCheck::finish(const Project &)
 {
-    const QHash<qsizetype, QString> wrongShapes = CodeReader::errors(m_shapes);
-    if (wrongShapes.isEmpty()) {
-        return;
-    }
     // Not each text of a wrong shape has to be wrong. Each is read for its own message.
-    QHash<QString, QString> messages;
-    for (const auto &[property, shape, isPlain] : std::as_const(m_uses)) {
+    struct Suspect
+    {
+        const DesignerProperty *source;
+        qsizetype text;
+    };
+    QList<Suspect> suspects;
+    TextNumbers texts;
+    const QHash<qsizetype, QString> wrongShapes = CodeReader::errors(m_shapes.texts());
+    for (const auto &[property, shape, place, isPlain] : std::as_const(m_uses)) {
         if (wrongShapes.contains(shape)) {
-            messages.insert(property->toQml(0), QString());
+            const QmlBindings bindings = property->qmlBindings();
+            suspects.append({bindings.at(place).source, texts.of(textOf(bindings.at(place)))});
         }
     }
-    const QStringList texts = messages.keys();
-    messages.clear();
-    for (const auto &[text, message] : CodeReader::errors(texts).asKeyValueRange()) {
-        messages.insert(texts.at(text), message);
-    }
-    for (const auto &[property, shape, isPlain] : std::as_const(m_uses)) {
-        const auto message =
-            wrongShapes.contains(shape) ? messages.constFind(property->toQml(0)) : messages.cend();
-        if (message != messages.cend()) {
-            report(sourceOf(*property), ProblemCode::CodeUnreadable, {*message});
+    const QHash<qsizetype, QString> messages = CodeReader::errors(texts.texts());
+    const DesignerProperty *reported = nullptr; // the bindings of a property follow each other
+    for (const auto &[source, text] : std::as_const(suspects)) {
+        if (source != reported && messages.contains(text)) {
+            report(*source, ProblemCode::CodeUnreadable, {messages.value(text)});
+            reported = source;
         }
     }
 }

@@ -8,8 +8,9 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Reads the code that properties of screens and elements generate, as the device will do. Of texts that are
-    alike one is read, and a text that cannot be wrong not at all. */
+/*! Reads the bindings that properties of screens and elements generate, as the device will do. Of texts that
+   are alike one is read, and a text that cannot be wrong not at all. A problem is reported at the source of
+   the binding: the property that holds what the user wrote. */
 class CodeCheck : public PropertyCheck
 {
 public:
@@ -19,18 +20,28 @@ public:
     void finish(const Project &project) override;
 
 private:
-    //! A property with the number of the shape of its text.
+    //! A binding with the number of the shape of its text.
     struct Use
     {
         const DesignerProperty *property;
         qsizetype shape;
+        int place;    //!< of the binding among those of the property
         bool isPlain; //!< looked at for its name alone
     };
 
-    qsizetype numberOf(const QString &shape);
+    //! Texts without repetition, numbered from 0 in the order in which they came.
+    class TextNumbers
+    {
+    public:
+        qsizetype of(const QString &text);
+        const QStringList &texts() const { return m_texts; }
 
-    QHash<QString, qsizetype> m_numbers;
-    QStringList m_shapes; //!< by their numbers
+    private:
+        QHash<QString, qsizetype> m_numbers;
+        QStringList m_texts;
+    };
+
+    TextNumbers m_shapes;
     QList<Use> m_uses;
     QSet<QString> m_plainNames; //!< of properties with plain values, which were looked at once
 };

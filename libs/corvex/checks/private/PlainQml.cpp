@@ -92,43 +92,26 @@ bool isReference(QStringView value)
     return value.startsWith(referenceStart) && nameLength(value) == value.size();
 }
 
-bool isPlainValue(QStringView value)
-{
-    return isReference(value) || value == "null"_L1 || isPlainText(value) || isPlainNumber(value)
-           || value == "true"_L1 || value == "false"_L1 || isEnumerator(value);
-}
-
-//! "x: 12"
-bool isPlainMember(QStringView line)
-{
-    const qsizetype colon = line.indexOf(u':');
-    return colon > 0 && isPlainValue(line.sliced(colon + 1).trimmed());
-}
-
 } // namespace
 
-bool isPlainQml(QStringView members)
+bool isPlainCode(QStringView code)
 {
-    for (const QStringView line : members.tokenize(u'\n')) {
-        if (!isPlainMember(line)) {
-            return false;
-        }
-    }
-    return true;
+    return isReference(code) || code == "null"_L1 || isPlainText(code) || isPlainNumber(code)
+           || code == "true"_L1 || code == "false"_L1 || isEnumerator(code);
 }
 
-QString qmlShape(const QString &members)
+QString qmlShape(const QString &qml)
 {
     // Nothing becomes longer.
-    QString shape(members.size(), Qt::Uninitialized);
+    QString shape(qml.size(), Qt::Uninitialized);
     QChar *end = shape.data();
     const auto append = [&end](auto text) { end = std::ranges::copy(text, end).out; };
-    for (QStringView rest(members); !rest.isEmpty();) {
+    for (QStringView rest(qml); !rest.isEmpty();) {
         const QChar first = rest.front();
         qsizetype length = nameLength(rest);
         if (length == 0 && first != u'"') {
             if (!isOtherCharacter(first)) {
-                return members;
+                return qml;
             }
             *end++ = first;
             length = 1;
@@ -136,7 +119,7 @@ QString qmlShape(const QString &members)
             length = plainTextLength(rest);
             // Of "use strict" the words count.
             if (length == 0 || rest.first(length) == "\"use strict\""_L1) {
-                return members;
+                return qml;
             }
             append(QStringView(u"\"\""));
         } else if (rest.startsWith(referenceStart)) {
