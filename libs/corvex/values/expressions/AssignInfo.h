@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A term of a list of assignments, target and source in turn.
+//! A term of a list of assignments, which alternates between targets and sources.
 class CORVEX_EXPORT AssignInfo : public GeneralDataInfo
 {
 public:

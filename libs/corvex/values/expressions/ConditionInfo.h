@@ -15,7 +15,7 @@ public:
     ConditionInfo() = default;
     ConditionInfo(const QString &condition1, double value1, const QString &condition2, double value2,
                   bool isOr);
-    //! Reads what toString() writes: the five keys, each with a value of its type.
+    //! Reads the form that toString() writes: all five keys, each with a value of its type.
     explicit ConditionInfo(const QString &text, bool *ok = nullptr);
 
     const QString &condition1() const { return m_condition1; }
@@ -32,9 +32,9 @@ public:
 
     QString toString() const;
 
-    //! The names of the comparisons, "None" for none.
+    //! The names of the comparisons, including "None".
     static const QStringList &validConditions();
-    //! The JavaScript operator of a comparison; empty for "None" and for any other name.
+    //! The JavaScript operator of a comparison; empty for "None" and for unknown names.
     static QString conditionToOperator(const QString &name);
 
     friend bool operator==(const ConditionInfo &a, const ConditionInfo &b)

@@ -18,28 +18,28 @@ using Words = ExpressionVocabulary;
 
 namespace {
 
-//! What a template's %1 is filled with.
+//! What replaces %1 in a template.
 enum class Argument : quint32 {
-    Value,       //!< The value as it stands.
-    Quoted,      //!< The value, made safe between double quotes.
-    Variable,    //!< The call that fetches the variable of that name.
+    Value,       //!< The value unchanged.
+    Quoted,      //!< The value, escaped for double quotes.
+    Variable,    //!< The call that reads the variable with that name.
     Numeral,     //!< The number without leading zeros, which would make it octal.
     Rounded,     //!< The number rounded to an integer, halves upwards.
     ZeroOrOne,   //!< 1 for "true".
     NumberTruth, //!< false for zero and NaN.
-    TextTruth,   //!< false for the word in either case.
+    TextTruth,   //!< false for "false" in either case.
     DigitsTruth, //!< false for "0".
 };
 
-//! The widths leave no holes between the fields.
+//! The widths avoid padding between the members.
 struct Row
 {
-    quint16 outputs; //!< A bit for each output type.
+    quint16 outputs; //!< One bit for each output type.
     Info::ValueType valueType;
-    quint32 dataTypes; //!< A bit for each data type.
+    quint32 dataTypes; //!< One bit for each data type.
     const char *text;
     Argument argument = Argument::Value;
-    quint32 words = 0; //!< When set, the value belongs to one of these sets of the vocabulary.
+    quint32 words = 0; //!< If set, the value must belong to one of these sets of the vocabulary.
 };
 
 constexpr quint16 toRaw = 1U << Info::RawOutput;
@@ -62,7 +62,7 @@ constexpr quint32 hexes = 1U << Info::HexData;
 constexpr quint32 logs = 1U << Info::LogData;
 constexpr quint32 anyData = 0xffff;
 
-// The first row that fits a term is used.
+// The first matching row is used.
 // clang-format off
 constexpr auto generalRows = std::to_array<Row>({
     {toRaw,     Info::ConstantValue, strings | colors, R"("%1")", Argument::Quoted},
@@ -182,7 +182,7 @@ void appendNumeral(QString &code, QStringView digits)
     code += digits;
 }
 
-//! Halves go upwards, as everywhere in the model; Math.round() on the device does the same.
+//! Rounds halves up, as everywhere in the model and as Math.round() on the device does.
 QString rounded(const QString &text)
 {
     return ValueConversion::toQmlString(ValueConversion::restrictDecimals(ExpressionRules::toNumber(text), 0),
@@ -242,7 +242,7 @@ bool isElementItself(const Info &target, const Info &source)
            && source.valueType() == Info::ObjectValue && source.value().endsWith(".id"_L1);
 }
 
-//! Whether the runtime has to convert the source to the type of the target property.
+//! Whether the runtime must convert the source to the type of the target property.
 bool needsConversion(const Info &target, const Info &source)
 {
     constexpr quint32 strict = colors | strings | integers;

@@ -6,25 +6,25 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The translation of terms into the JavaScript that runs on the device. Nothing is appended and false
-//! returned for what cannot be translated.
+//! Translates terms into the JavaScript that runs on the device. Functions return false and append nothing if
+//! a term cannot be translated.
 class CORVEX_EXPORT ExpressionCode
 {
 public:
     using Kind = ExpressionRules::Kind;
 
-    //! For a term that is known to be allowed.
+    //! The term must have been checked.
     static bool appendAllowed(QString &code, Kind kind, const GeneralDataInfo &term,
                               GeneralDataInfo::OutputType output);
     static bool appendTerm(QString &code, Kind kind, const GeneralDataInfo &term,
                            GeneralDataInfo::OutputType output);
-    //! The term before a "?": it must be boolean and stands without conversion.
+    //! The term before a "?", which must be boolean and is not converted.
     static bool appendSelector(QString &code, Kind kind, const GeneralDataInfo &term);
-    //! One statement that gives the value of \a source to \a target.
+    //! A statement that assigns the value of \a source to \a target.
     static bool appendAssignment(QString &code, const GeneralDataInfo &target, const GeneralDataInfo &source,
                                  GeneralDataInfo::OutputType output);
 
-    //! The term with plain names, for the mathematical and the text kind alike.
+    //! The term with plain names; the same for mathematical and text expressions.
     static QString parserString(const GeneralDataInfo &term);
 };
 

@@ -12,20 +12,20 @@ using Words = ExpressionVocabulary;
 
 namespace {
 
-//! Whether functions are called; elsewhere they are mere words.
+//! Whether functions are called; in other kinds they are plain words.
 bool hasCalls(ExpressionRules::Kind kind)
 {
     return kind == ExpressionRules::Kind::Math || kind == ExpressionRules::Kind::String;
 }
 
-//! Whether the parenthesis belongs to the function, and what follows are arguments.
+//! Whether the function's term includes the opening parenthesis, so that its arguments follow.
 bool opensCall(ExpressionRules::Kind kind, const Info &function)
 {
     const bool isWholeCall = (Words::setsOf(function.value()) & Words::CompleteFunctions) != 0;
     return hasCalls(kind) && !isWholeCall;
 }
 
-//! Reads the terms one by one.
+//! Reads an expression term by term.
 class Reader
 {
 public:
@@ -33,7 +33,7 @@ public:
         : m_kind(kind)
     { }
 
-    //! Whether the term can follow those before it.
+    //! Returns whether the term may follow the previous ones.
     bool take(const Info &term)
     {
         const bool isCallEmpty = std::exchange(m_isCallEmpty, false);
@@ -95,7 +95,7 @@ private:
     bool takeBinary() { return !std::exchange(m_needsOperand, true); }
     bool isOpen(Opening opening) const { return !m_open.isEmpty() && m_open.last() == opening; }
 
-    //! Closes what was opened last.
+    //! Closes the innermost open bracket.
     bool close()
     {
         if (m_open.isEmpty())
@@ -108,7 +108,7 @@ private:
     QList<Opening> m_open;
     ExpressionRules::Kind m_kind;
     bool m_needsOperand = true;
-    bool m_isCallEmpty = false; //!< The term before opened a call.
+    bool m_isCallEmpty = false; //!< The previous term opened a call.
 };
 
 } // namespace

@@ -8,18 +8,18 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! How the terms of an expression may follow each other.
+//! The order of terms in an expression.
 class CORVEX_EXPORT ExpressionGrammar
 {
 public:
     using Kind = ExpressionRules::Kind;
     using Terms = QList<GeneralDataInfo>;
 
-    //! Whether an operand may end with the term, so that an operator is due.
+    //! Whether the term can end an operand, so that an operator must follow.
     static bool endsOperand(Kind kind, const GeneralDataInfo &term);
 
-    //! The index of the first term that cannot follow those before it, the number of terms when the
-    //! expression ends too early, -1 when it is complete.
+    //! The index of the first term that cannot follow the previous ones; the number of terms if the
+    //! expression is incomplete; -1 if it is complete.
     static qsizetype firstMisplaced(Kind kind, const Terms &terms);
 
     static bool isOperator(const GeneralDataInfo &term, QChar sign)

@@ -17,7 +17,7 @@ using Words = ExpressionVocabulary;
 
 namespace {
 
-//! A set of types by number.
+//! A set of types, one bit per number.
 using TypeSet = quint16;
 
 constexpr TypeSet only(int type)
@@ -37,9 +37,9 @@ constexpr int valueTypeCount = 8;
 
 struct KindRule
 {
-    //! What a term can be in the kind at all.
+    //! The value types that terms of this kind can have.
     TypeSet valueTypes;
-    //! The data types that go with each value type.
+    //! The data types allowed with each value type.
     std::array<TypeSet, valueTypeCount> dataTypes;
     //! The sets of words of the vocabulary.
     quint8 operators;
@@ -98,7 +98,7 @@ bool isNumber(QStringView text)
 {
     if (text == "NaN"_L1 || text == "Infinity"_L1 || text == "-Infinity"_L1)
         return true;
-    // The conversion alone would take blanks around the number, "inf" and "nan".
+    // The conversion alone would accept surrounding blanks, "inf" and "nan".
     const bool simple = std::all_of(text.begin(), text.end(), [](QChar c) {
         return (c >= u'0' && c <= u'9') || c == u'.' || c == u'-' || c == u'+' || c == u'e' || c == u'E';
     });
@@ -107,7 +107,7 @@ bool isNumber(QStringView text)
     return simple && fits;
 }
 
-//! A constant reference stands in code as it is, without the prefix that lets paths begin as they like.
+//! Constant references appear in code unchanged, without the prefix that allows paths any first character.
 bool isReference(QStringView path)
 {
     const QStringView first = ObjectPath::firstSegment(path);
@@ -198,7 +198,7 @@ bool ExpressionRules::allowsValue(Kind kind, const Info &term)
     case Info::ObjectValue:
         return ObjectPath::isValid(value);
     case Info::VariableValue:
-        // The text form of an expression takes "><" as the border of two terms.
+        // In the text form of an expression "><" separates terms.
         return !value.isEmpty() && !value.contains("><"_L1);
     }
     return false;

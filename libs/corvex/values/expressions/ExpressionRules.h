@@ -6,27 +6,30 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What each kind of term allows. The kinds ask it about themselves, an expression about the kind that its
-//! terms are taken as.
+//! Which terms are allowed in each kind of expression. The term classes use it for themselves, and an
+//! expression uses it for the kind it is checked as.
 class CORVEX_EXPORT ExpressionRules
 {
 public:
-    //! The first five have the numbers of the kinds of expressions.
+    //! The first five numbers are those of the kinds of expressions.
     enum class Kind : quint8 { General, Assign, Bool, Math, String, ModbusCommand };
 
     static bool allowsValueType(Kind kind, const GeneralDataInfo &term);
     static bool allowsDataType(Kind kind, const GeneralDataInfo &term);
     static bool allowsValue(Kind kind, const GeneralDataInfo &term);
-    //! All three. A term without a value or without a data type passes where the kind knows such terms.
+    //! Checks value type, data type and value. Accepts a term without a value or a data type if the kind
+    //! knows such terms.
     static bool allowsUntyped(Kind kind, const GeneralDataInfo &term);
-    //! All three, and both types are set.
+    //! The same, but both types must be set.
     static bool allows(Kind kind, const GeneralDataInfo &term);
 
-    //! Whether \a value is a constant of that type. Empty for NoData, exactly "true" or "false", 64 bits of
-    //! integer, #AARRGGBB; a double as the C locale writes it, "NaN", "Infinity" or "-Infinity"; any text; a
-    //! path for references; any number of hexadecimal digits, an even one for commands.
+    /*! Whether \a value is a constant of that type. NoData must be empty. Booleans are exactly "true" or
+        "false", integers have 64 bits, colours are #AARRGGBB. A double is in the form of the C locale, "NaN",
+        "Infinity" or "-Infinity". Texts may be anything, references are paths. Hexadecimal data may have any
+        number of digits, commands an even one.
+    */
     static bool isConstant(GeneralDataInfo::DataType type, const QString &value);
-    //! The number that a float or number constant stands for.
+    //! The value of a float or number constant.
     static double toNumber(const QString &value);
     static bool isHexadecimal(QStringView digits);
 };

@@ -7,7 +7,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The words that expressions are made of, and the sets that each word belongs to.
+//! The words used in expressions, and the sets that each word belongs to.
 class CORVEX_EXPORT ExpressionVocabulary
 {
 public:
@@ -17,15 +17,15 @@ public:
         MathFunctions = 0x04,
         StringFunctions = 0x08,
         MathValues = 0x10,
-        //! Functions that are called with nothing, so that their term is the whole call.
+        //! Functions without arguments; their term is the whole call.
         CompleteFunctions = 0x20,
-        //! Mathematical functions that the device supplies, not the script language.
+        //! Mathematical functions that the device provides, not the script language.
         DeviceFunctions = 0x40,
-        //! Text functions that are called on an empty text.
+        //! Text functions that are called as methods of an empty text.
         MethodFunctions = 0x80,
     };
 
-    //! The sets that \a word belongs to, or-ed, in constant time.
+    //! The sets that \a word belongs to, combined with "or", in constant time.
     static quint8 setsOf(const QString &word);
 
     static const QStringList &mathOperators();

@@ -23,11 +23,11 @@ constexpr int headSize = 4;
 
 struct Pairing
 {
-    EnumHelper::VariableType counterpart; //!< The variables whose values go with the data type.
-    EnumHelper::VariableType written;     //!< The number in generated code.
+    EnumHelper::VariableType counterpart; //!< The type of the variables that match the data type.
+    EnumHelper::VariableType written;     //!< The type number in generated code.
 };
 
-//! By data type.
+//! Indexed by data type.
 constexpr std::array<Pairing, GeneralDataInfo::CommandData + 1> pairings{{
     {EnumHelper::NoVariable, EnumHelper::NoVariable},
     {EnumHelper::NoVariable, EnumHelper::NoVariable},
@@ -52,7 +52,7 @@ void appendTwoDigits(QString &text, quint8 number)
     text += digits[number & 0xf];
 }
 
-//! -1 when the two characters are no hexadecimal digits.
+//! -1 if the two characters are not hexadecimal digits.
 int twoDigits(QStringView text)
 {
     return ExpressionRules::isHexadecimal(text) ? int(text.toUInt(nullptr, 16)) : -1;
@@ -195,7 +195,7 @@ bool GeneralDataInfo::isValid(bool allowEmpty) const
 QString GeneralDataInfo::toQmlString(const OutputType &output) const
 {
     QString code;
-    // Kinds without a translation of their own have rules of their own.
+    // A kind without a translation of its own still has its own rules.
     if (isValidValueType() && isValidDataType() && isValidValue())
         ExpressionCode::appendAllowed(code, Kind::General, *this, output);
     return code;

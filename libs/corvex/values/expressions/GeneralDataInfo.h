@@ -14,21 +14,20 @@ class Project;
 class ProjectVariable;
 class Screen;
 
-/*!
-    One term of an expression: an operator, a function, a constant, a property of an element, a variable or a
+/*! One term of an expression: an operator, a function, a constant, a property of an element, a variable or a
     device command.
 
-    What value() holds follows from the value type: the text of the operator, the name of the function,
-    the text of the constant, a path "element.property" (through groups "group.element.property", across
-    screens "screen.element.property"), the name of the variable, the digits of the command.
+    The meaning of value() depends on the value type: the text of the operator, the name of the function, the
+    text of the constant, a path "element.property" (through groups "group.element.property", across screens
+    "screen.element.property"), the name of the variable, or the digits of the command.
 
-    The rules of this class are those of a term in a plain expression; the kinds (MathInfo, StringInfo,
-    BoolInfo, AssignInfo, ModbusCommandInfo) add no data, only rules of their own.
+    The rules of this class are those of a plain expression. The other kinds (MathInfo, StringInfo, BoolInfo,
+    AssignInfo, ModbusCommandInfo) add rules but no data.
 */
 class CORVEX_EXPORT GeneralDataInfo
 {
 public:
-    //! Stored in project files. 6 is not in use.
+    //! Stored in project files. 6 is unused.
     enum ValueType : quint8 {
         NoValue = 0,
         OperatorValue = 1,
@@ -57,7 +56,7 @@ public:
         CommandData = 13,
     };
 
-    //! The type that generated code must have.
+    //! The type of the generated code.
     enum OutputType : quint8 {
         RawOutput = 0,
         StringOutput = 1,
@@ -69,31 +68,31 @@ public:
         NoOutput = 7,
     };
 
-    //! Whose name a look-up or a rename is about. Elements are named by element terms, variables by variable
-    //! terms. Element terms of log and device data can name either.
+    //! Which names a search or a renaming refers to. Element terms contain names of elements, variable terms
+    //! names of variables, and element terms of log and device data names of either.
     enum NameKind : quint8 { ElementName = 1, VariableName = 2, AnyName = ElementName | VariableName };
 
     GeneralDataInfo() = default;
     GeneralDataInfo(ValueType valueType, DataType dataType, const QString &value);
-    //! Reads what toString() writes; the term is empty when the text is refused.
+    //! Reads the form that toString() writes. An invalid text gives an empty term.
     explicit GeneralDataInfo(const QString &text, bool *ok = nullptr);
     GeneralDataInfo(const GeneralDataInfo &) = default;
     GeneralDataInfo(GeneralDataInfo &&) noexcept = default;
     GeneralDataInfo &operator=(const GeneralDataInfo &) = default;
     GeneralDataInfo &operator=(GeneralDataInfo &&) noexcept = default;
 
-    //! Whether the kind of term knows this value type.
+    //! Whether this kind of term supports the value type.
     virtual bool isValidValueType() const;
-    //! Whether the kind of term allows this data type beside this value type.
+    //! Whether this kind of term supports the data type together with the value type.
     virtual bool isValidDataType() const;
-    //! Whether the value can stand in a term of these types; names are not looked up.
+    //! Whether the value is allowed with these types. Names are not looked up.
     virtual bool isValidValue() const;
-    //! The term as JavaScript of the type \a output; empty when it cannot be translated.
+    //! The term as JavaScript of the type \a output; empty if it cannot be translated.
     virtual QString toQmlString(const OutputType &output) const;
 
     virtual ~GeneralDataInfo() = default;
 
-    //! Without \a allowEmpty a term that lacks its value type or its data type is invalid.
+    //! Without \a allowEmpty, a term without a value type or a data type is invalid.
     bool isValid(bool allowEmpty) const;
 
     ValueType valueType() const { return m_valueType; }
@@ -103,57 +102,49 @@ public:
     const QString &value() const { return m_value; }
     void setValue(const QString &value) { m_value = value; }
 
-    /*!
-        Two hexadecimal digits for the value type, two for the data type, then the value, which is encoded in
-        constants. An integer or colour constant that is none gives a text that the constructor refuses.
-    */
+    //! Two hexadecimal digits for the value type, two for the data type, then the value, which is encoded in
+    //! constants. An invalid integer or colour constant gives a text that the constructor refuses.
     QString toString() const;
-    /*!
-        The value of a constant as bool, qlonglong, double, QColor or text, that of any other term as text.
-        Invalid for an empty term and for a constant whose value is none of its data type.
-    */
+    //! The value of a constant as bool, qlonglong, double, QColor or text; the value of any other term as
+    //! text. Invalid for an empty term and for a constant that does not match its data type.
     QVariant toVariant() const;
 
-    //! What an element term says before its last ".", and the name of a variable; else empty.
+    //! The part of an element term before the last ".", or the name of a variable; otherwise empty.
     QString objectName() const;
 
-    /*!
-        Whether the term names the element or variable \a name. Names are whole segments of the path, the last
-        one (the property) excepted: "group1.rect1.color" names group1 and rect1, neither rect nor color.
+    /*! Whether the term contains the element or variable \a name. Only whole segments of the path match,
+        except the last one, which is the property: "group1.rect1.color" contains group1 and rect1, but
+        neither rect nor color.
         \a name may be a path itself ("group1.rect1").
     */
     bool containsObject(const QString &name, NameKind kind = AnyName) const;
-    //! Whether the path of an element term starts with the screen \a name.
+    //! Whether the path of an element term begins with the screen \a name.
     bool containsScreenObject(const QString &name) const;
 
-    /*!
-        Puts \a name in the place of objectName(), whatever that was.
-        \return false, with nothing changed, when the term names nothing or \a name is empty.
-    */
+    //! Replaces objectName() by \a name.
+    //! \return false, with nothing changed, if the term contains no name or \a name is empty.
     bool replaceObject(const QString &name);
-    //! Puts \a newName wherever containsObject() finds \a oldName. \return whether it was found.
+    //! Replaces \a oldName by \a newName wherever containsObject() finds it. \return whether it was found.
     bool replaceObject(const QString &oldName, const QString &newName, NameKind kind = AnyName);
-    //! Puts \a name in the place of the first segment of an element term's path, whatever that was.
+    //! Replaces the first segment of an element term's path by \a name.
     bool replaceScreenObject(const QString &name);
     bool replaceScreenObject(const QString &oldName, const QString &newName);
-    /*!
-        Forgets which element or variable the term names and keeps its types: the term stays in its place, is
-        invalid until another name is set, and no code is generated from its expression.
-        \return false when the term names nothing.
-    */
+    //! Removes the name of the element or variable but keeps the types. The term keeps its place, is invalid
+    //! until it gets another name, and its expression generates no code.
+    //! \return false if the term contains no name.
     bool removeObject();
 
-    // These two walk the model. They are compiled in the room of the project, on a higher floor.
+    // These two walk the model. They are compiled in the room "project", on a higher layer.
 
-    //! The variable that the term names, null when there is none in \a project.
+    //! The variable that the term names; null if \a project has none.
     ProjectVariable *toVariable(Project *project) const;
-    //! The element that the term names, null when there is none on \a screen.
+    //! The element that the term names; null if \a screen has none.
     DesignerObject *toProcess(Screen *screen) const;
 
-    //! Whether values of the two types can stand for each other. A type without a counterpart goes with
-    //! NoVariable.
+    //! Whether values of the two types are compatible. A data type without a matching variable type is
+    //! compatible with NoVariable.
     static bool isSameDataType(Common::EnumHelper::VariableType variableType, DataType dataType);
-    //! The number written into generated assignments; NoVariable for log, device and reference data too.
+    //! The type number in generated assignments; NoVariable for log, device and reference data.
     static Common::EnumHelper::VariableType variableType(DataType dataType);
 
     friend bool operator==(const GeneralDataInfo &a, const GeneralDataInfo &b)

@@ -29,7 +29,7 @@ bool allTerms(const QList<GeneralDataInfo> &terms, GeneralDataList::InfoType inf
            });
 }
 
-//! What a converted condition gives is not the truth of what it was: "false" as a text is true.
+//! A condition may not be converted: the text "false", for example, would count as true.
 bool canSelect(Kind kind, GeneralDataInfo::OutputType output)
 {
     const bool isConverted =
@@ -37,9 +37,9 @@ bool canSelect(Kind kind, GeneralDataInfo::OutputType output)
     return kind == Kind::Math || kind == Kind::String || !isConverted;
 }
 
-/*! Whether the code of a term means something else behind that of the terms before: what begins with a
-    parenthesis calls the operand before it, and a division sign without one begins a regular expression,
-   which may end inside of a text constant and lets the rest of the text run. */
+//! Whether the code of a term changes its meaning after the previous terms. A parenthesis after an operand
+//! would call the operand. A division sign without an operand would begin a regular expression, which could
+//! end inside a text constant and run the rest of the text as code.
 bool isMisread(QStringView code, bool followsOperand)
 {
     return followsOperand ? code.startsWith(u'(') : code == u'/';
@@ -93,7 +93,7 @@ QString aboutTerm(const char *message, const QList<GeneralDataInfo> &terms, qsiz
                                    text.size() > longest ? text.first(longest) + u'\u2026' : text);
 }
 
-//! Calls \a change on every term and counts how often it says that it did change it.
+//! Calls \a change for every term and counts how often it returns true.
 template<typename Change>
 int changeTerms(QList<GeneralDataInfo> &terms, Change change)
 {
@@ -232,7 +232,7 @@ bool GeneralDataList::containsScreenObject(const QString &name) const
     return std::any_of(begin(), end(), [&](const auto &term) { return term.containsScreenObject(name); });
 }
 
-// A list that does not hold the name is not detached from its copies.
+// Do not detach a shared list that does not contain the name.
 
 int GeneralDataList::replaceObject(const QString &oldName, const QString &newName, NameKind kind)
 {

@@ -7,8 +7,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! An expression: terms in the order in which they are read. The terms are stored plain; the checks and the
-//! translation take each one as a term of the kind that they are asked for.
+//! An expression: a list of terms in reading order. The terms are stored without a kind; checks and
+//! translations take the kind as an argument.
 class CORVEX_EXPORT GeneralDataList : public RecordList<GeneralDataInfo>
 {
 public:
@@ -17,7 +17,7 @@ public:
     using OutputType = GeneralDataInfo::OutputType;
     using NameKind = GeneralDataInfo::NameKind;
 
-    //! What a list is checked and translated as. Any other number is answered with false and with no code.
+    //! The kind that a list is checked and translated as. Any other number gives false and no code.
     enum InfoType : int {
         GeneralExpression = 0,
         AssignExpression = 1,
@@ -28,11 +28,11 @@ public:
 
     using RecordList::RecordList;
     GeneralDataList() = default;
-    //! Reads what toString() writes, in linear time; the list is empty when any term is refused. An empty
-    //! text is the empty list.
+    //! Reads the form that toString() writes, in linear time. The list is empty if any term is invalid. An
+    //! empty text is an empty list.
     explicit GeneralDataList(const QString &text, bool *ok = nullptr);
 
-    //! "" for no term, the text of a single term, "<a><b><c>" for more.
+    //! "" for an empty list, the text of a single term, "<a><b><c>" for several.
     QString toString() const;
 
     using RecordList::append;
@@ -44,25 +44,22 @@ public:
     using RecordList::replace;
     bool replace(qsizetype index, ValueType valueType, DataType dataType, const QString &value);
 
-    // Every term, taken as the kind that the info type names, passes the check of that name. An empty list
-    // does.
+    // Whether every term passes the check of that name, as a term of this kind. True for an empty list.
     bool isValidValueType(InfoType infoType) const;
     bool isValidDataType(InfoType infoType) const;
     bool isValidValue(InfoType infoType) const;
 
-    /*!
-        The whole list as JavaScript: one expression, or for AssignExpression one statement a line. Empty
-        when any term cannot be translated to \a output, when the terms in a row would be read as something
-        else, and when a condition before "?" would have to become a text or a colour.
-    */
+    //! The whole list as JavaScript: one expression or, for AssignExpression, one statement per line. Empty
+    //! if a term cannot be translated to \a output, if the sequence of terms would be parsed differently, or
+    //! if a condition before "?" would need a conversion to a text or a colour.
     QString toQmlString(const OutputType &output, const InfoType &infoType) const;
-    //! Whether the terms follow each other as those of one complete expression, or of assignments.
+    //! Whether the terms form one complete expression, or complete assignments.
     bool isComplete(InfoType infoType) const;
-    //! Why the list is no expression of that kind, for the user: the first term that cannot be used, else
-    //! the first that cannot stand where it does. Empty when there is nothing of that.
+    //! Why the list is not a valid expression of that kind, for the user: names the first term that is not
+    //! allowed or, failing that, the first one in a wrong place. Empty if the list is valid.
     QString obstacle(InfoType infoType) const;
 
-    // The operations of GeneralDataInfo on every term; the numbers returned are those of the terms changed.
+    // The functions of GeneralDataInfo, applied to every term. Returned numbers count the changed terms.
     bool containsObject(const QString &name, NameKind kind = GeneralDataInfo::AnyName) const;
     bool containsScreenObject(const QString &name) const;
     int replaceObject(const QString &oldName, const QString &newName,

@@ -8,7 +8,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A term of a mathematical expression. Its translation is a number whatever type is asked for.
+//! A term of a mathematical expression. Its translation is always a number, whatever type is requested.
 class CORVEX_EXPORT MathInfo : public GeneralDataInfo
 {
 public:
@@ -29,10 +29,8 @@ public:
     static const QStringList &mathFunctions();
     static const QStringList &booleanOperators();
 
-    /*!
-        The term with plain names, as a user reads it and as the expression builder checks it: "speed", not
-        the call that fetches it. A function stands with its opening parenthesis.
-    */
+    //! The term with plain names, as users read it and as the expression builder checks it: "speed" instead
+    //! of the call that reads it. A function includes its opening parenthesis.
     static QString parserString(const MathInfo &term);
 };
 

@@ -7,13 +7,13 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! One change of an action: a property of an element gets a value.
+//! A change by an action: sets a property of an element to a value.
 class CORVEX_EXPORT PropertyChangeInfo
 {
 public:
     PropertyChangeInfo() = default;
     PropertyChangeInfo(const QString &elementName, const QString &propertyName, const QString &valueString);
-    //! "elementName: label1; propertyName: text; valueString: SGVsbG8=;", the value in Base64.
+    //! "elementName: label1; propertyName: text; valueString: SGVsbG8=;", with the value in Base64.
     explicit PropertyChangeInfo(const QString &text, bool *ok = nullptr);
 
     const QString &elementName() const { return m_elementName; }
@@ -24,7 +24,7 @@ public:
     void setValueString(const QString &valueString) { m_valueString = valueString; }
 
     QString toString() const;
-    //! Element and property have names.
+    //! Element and property are named.
     bool isValid() const { return !m_elementName.isEmpty() && !m_propertyName.isEmpty(); }
 
     friend bool operator==(const PropertyChangeInfo &, const PropertyChangeInfo &) = default;

@@ -10,20 +10,20 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! An update of one object: which one (by name, class, screen and the property of a parent that holds it) and
-//! the values that its properties get. Fields that are empty do not restrict the choice.
+//! An update of one object: selects it by name, class, screen and the parent's property that contains it, and
+//! lists the new values of its properties. Empty fields do not restrict the selection.
 class CORVEX_EXPORT UpdateObjectInfo
 {
 public:
     UpdateObjectInfo() = default;
-    //! A group of any of the keys that toString() writes and of no others; "index" is 0 or more.
+    //! Reads a group with any of the keys that toString() writes and no others; "index" must not be negative.
     explicit UpdateObjectInfo(const QString &text, bool *ok = nullptr);
 
     const QString &name() const { return m_name; }
     void setName(const QString &name) { m_name = name; }
     const PropertyInfoList &propertyValues() const { return m_propertyValues; }
     void setPropertyValues(const PropertyInfoList &values) { m_propertyValues = values; }
-    //! From values by property name; the list is in the order of the names.
+    //! Takes values by property name. The list is ordered by name.
     void setPropValueMap(const QMap<QString, QString> &values);
     const QString &parentProperty() const { return m_parentProperty; }
     void setParentProperty(const QString &property) { m_parentProperty = property; }
@@ -35,13 +35,12 @@ public:
     void setScreen(const QString &screen) { m_screen = screen; }
     const QString &upgradeVersion() const { return m_upgradeVersion; }
     void setUpgradeVersion(const QString &version) { m_upgradeVersion = version; }
-    //! The place in the parent's property; -1 for none, which is what every negative number becomes.
+    //! The position in the parent's property; -1 for none. Negative numbers become -1.
     int index() const { return m_index; }
     void setElementIndex(int index) { m_index = index < 0 ? -1 : index; }
 
-    //! The group of the fields that are set. Separators inside a field are escaped (see NestedText), so that
-    //! the text of the values stays one field. When nothing is set the text is empty and cannot be read
-    //! alone.
+    //! The group of all fields that are set. Separators inside a field are escaped (see NestedText), so that
+    //! the values remain a single field. If nothing is set, the text is empty and cannot be read on its own.
     QString toString() const;
     //! The object has a name.
     bool isValid() const { return !m_name.isEmpty(); }

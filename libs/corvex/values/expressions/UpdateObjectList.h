@@ -9,14 +9,14 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Updates of objects, in the order in which they are made: what the state of a button does, for example.
+//! Updates of objects, in order of execution, such as those of a button's state.
 class CORVEX_EXPORT UpdateObjectList : public RecordList<UpdateObjectInfo>
 {
 public:
     using RecordList::RecordList;
     UpdateObjectList() = default;
-    //! Items joined with " | "; the list is empty when any of them is refused. Beside others an empty item
-    //! stands for an update with nothing set.
+    //! Items joined with " | ". The list is empty if any item is invalid. Between other items, an empty item
+    //! is an update that sets nothing.
     explicit UpdateObjectList(const QString &text, bool *ok = nullptr);
 
     QString toString() const;

@@ -23,7 +23,7 @@ public:
     void setColor(const QColor &color) { m_color = color; }
 
     QString toString() const;
-    //! The width is 0 to 100 and the colour is one.
+    //! The width is 0 to 100 and the colour is valid.
     bool isValid() const;
 
     friend bool operator==(const BorderInfo &, const BorderInfo &) = default;

@@ -7,7 +7,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Where the pointer is on the canvas and where the canvas has its centre, in scene coordinates.
+//! The positions of the pointer and of the canvas centre, in scene coordinates.
 class CORVEX_EXPORT CanvasPosition
 {
 public:

@@ -11,9 +11,9 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerProperty;
 
-//! An object, by its identifier, and the properties that follow it.
+//! An object, by its identifier, and the properties that depend on it.
 //!
-//! updateProperties() is defined where the model is known, in the room of the project.
+//! updateProperties() is defined in the room "project", where the model is known.
 class CORVEX_EXPORT DependentInfo
 {
 public:
@@ -31,7 +31,7 @@ public:
         m_properties = properties;
     }
 
-    //! Takes over the name of the identifier \a text and forgets the properties whose objects have left the
+    //! Takes the name from the identifier \a text and drops the properties whose objects have left the
     //! project.
     void updateProperties(const QString &text);
 

@@ -8,13 +8,13 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A value of an enumeration that the meta-object system knows. Its text form is the key of the value.
+//! A value of an enumeration in the meta-object system. Its text form is the key of the value.
 class CORVEX_EXPORT EnumInfo
 {
 public:
     EnumInfo() = default;
     EnumInfo(const QMetaEnum &enumerator, int value);
-    //! The value that a key of the enumeration names; an unknown key leaves 0.
+    //! The value with that key; an unknown key gives 0.
     EnumInfo(const QMetaEnum &enumerator, const QString &key, bool *ok);
 
     const QMetaEnum &enumerator() const { return m_enumerator; }
@@ -26,15 +26,15 @@ public:
     bool isValid() const { return valueIsValid(m_value); }
     bool valueIsValid(int value) const;
     bool keyIsValid(const QString &key) const;
-    //! -1 and false of a key that the enumeration does not have.
+    //! -1, with ok false, for an unknown key.
     int keyToValue(const QString &key, bool *ok = nullptr) const;
     QString valueToKey(int value) const;
-    //! The key at a place of the enumeration, in the order of its declaration.
+    //! The key with that index, in order of declaration.
     QString key(int index) const;
-    //! The key that a text means, which is a key or the number of a value; empty when it means none.
+    //! The key for a text that is a key or the number of a value; empty if it is neither.
     QString keyOf(const QString &text) const;
 
-    //! The key of the value, empty when the value is not one of the enumeration.
+    //! The key of the value; empty if the enumeration does not contain the value.
     QString valueString() const { return valueToKey(m_value); }
     QString toString() const { return valueString(); }
 

@@ -9,8 +9,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The errors of an input or an output. Every combination is valid. The text form belongs to the property
-//! that holds the record.
+//! The errors of an input or an output. Every combination is valid. The property that holds the record
+//! defines the text form.
 class CORVEX_EXPORT IOErrorInfo
 {
 public:
@@ -34,7 +34,7 @@ private:
     bool m_idError = false;
 };
 
-//! The errors that decoding a received message can meet. Every combination is valid.
+//! The errors that can occur when a received message is decoded. Every combination is valid.
 class CORVEX_EXPORT ReceiveErrorInfo
 {
 public:
@@ -64,12 +64,13 @@ private:
     bool m_dataFlowError = false;
 };
 
-//! The errors that sending to another device can meet. Every combination is valid.
+//! The errors that can occur when data is sent to another device. Every combination is valid.
 class CORVEX_EXPORT SendErrorInfo
 {
 public:
     SendErrorInfo() = default;
-    //! Takes nothing but bool: a literal and an ok pointer would convert, too, and miss the reader of texts.
+    //! Restricted to bool. Otherwise a string literal would convert to bool and bypass the constructor that
+    //! reads texts.
     template<std::same_as<bool> Flag>
     SendErrorInfo(Flag isBusy, Flag isOffline)
         : m_isBusy(isBusy)

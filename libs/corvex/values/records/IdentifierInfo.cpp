@@ -23,7 +23,7 @@ const IdentifierInfo::ScopeAndClass &IdentifierInfo::common() const
 
 void IdentifierInfo::setCommon(const QString &scopeType, const QString &filterType)
 {
-    // Those that came last, which are nearly all that there are.
+    // A cache of the entries used last; it nearly always hits.
     static thread_local std::array<QExplicitlySharedDataPointer<ScopeAndClass>, 64> known;
     if (scopeType.isEmpty() && filterType.isEmpty()) {
         m_common.reset();

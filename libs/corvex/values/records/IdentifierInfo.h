@@ -11,18 +11,19 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! The name of an object, with the scope in which it is known ("Project", "Screen") and its class. The name
-//! is stored as it is given; whether it is a good name is for the validators of the model to say.
-//!
-//! isUnique() and generateUniqueId() are defined where the model is known, in the room of the project.
+/*! The name of an object, its class, and the scope in which the name is known ("Project", "Screen"). Any name
+    can be stored; the validators of the model check it.
+
+    isUnique() and generateUniqueId() are defined in the room "project", where the model is known.
+*/
 class CORVEX_EXPORT IdentifierInfo
 {
 public:
     IdentifierInfo() = default;
     IdentifierInfo(const QString &name, const QString &scopeType, const QString &filterType);
-    //! "filterType: NumberVariable; name: speed; scopeType: Project;". Asks for the name alone.
+    //! "filterType: NumberVariable; name: speed; scopeType: Project;". Only the name is required.
     explicit IdentifierInfo(const QString &text, bool *ok = nullptr);
-    //! The same; a scope and a class that are those of \a like share its texts.
+    //! The same. Shares the texts of the scope and the class with \a like if they are equal.
     static IdentifierInfo fromText(QStringView text, const IdentifierInfo &like, bool *ok);
 
     const QString &scopeType() const { return common().scopeType; }
@@ -32,19 +33,20 @@ public:
     const QString &filterType() const { return common().filterType; }
     void setFilterType(const QString &filterType) { setCommon(scopeType(), filterType); }
 
-    //! The fields that are not empty; the text of an identifier without a name is not one that can be read.
+    //! All fields that are not empty. The text of an identifier without a name cannot be read back.
     QString toString() const;
     //! The name is not empty.
     bool isValid() const { return !m_name.isEmpty(); }
 
-    //! Whether no sibling of \a object has this name: variables among variables, screens among screens,
-    //! images among images, elements among all elements of their screen.
+    //! Whether no sibling of \a object has this name. The siblings of a variable are all variables, those of
+    //! a screen all screens, those of an image all images, and those of an element all elements of its
+    //! screen.
     bool isUnique(const DesignerObject *object) const;
 
-    //! "Label3" of "Label" and 3; nothing of an empty base.
+    //! "Label3" for "Label" and 3; empty for an empty base.
     static QString generateId(const QString &base, int number);
-    //! The first of generateId(base, number), generateId(base, number + 1), ... that no sibling of \a object
-    //! has.
+    //! The first of generateId(base, number), generateId(base, number + 1), ... that is free among the
+    //! siblings of \a object.
     static QString generateUniqueId(const DesignerObject *object, const QString &base, int number = 1);
 
     friend bool operator==(const IdentifierInfo &left, const IdentifierInfo &right)
@@ -55,7 +57,7 @@ public:
     }
 
 private:
-    //! What the identifiers of a class have in common. A project has thousands of each.
+    //! Shared between identifiers of the same class, of which a project has thousands.
     struct ScopeAndClass : public QSharedData
     {
         QString scopeType;
@@ -66,8 +68,7 @@ private:
     void setCommon(const QString &scopeType, const QString &filterType);
 
     QString m_name;
-    QExplicitlySharedDataPointer<ScopeAndClass>
-        m_common; //!< never changed; null for one without scope and class
+    QExplicitlySharedDataPointer<ScopeAndClass> m_common; //!< immutable; null without scope and class
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -9,23 +9,23 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A list of texts, such as names of objects or pairs "name|value".
+//! A list of texts, such as object names or pairs "name|value".
 class CORVEX_EXPORT ListInfo : public RecordList<QString>
 {
 public:
     using RecordList::RecordList;
     ListInfo() = default;
-    //! "pump1 | pump2". A "|" without a blank or an end on both its sides belongs to the item.
+    //! "pump1 | pump2". A "|" separates items only if it has a blank or the end of the text on both sides.
     explicit ListInfo(const QString &text, bool *ok = nullptr);
 
-    //! Whether the item was there.
+    //! Returns whether the item was in the list.
     bool removeOne(const QString &item) { return m_records.removeOne(item); }
-    //! Keeps the first of each and tells how many were removed.
+    //! Keeps the first occurrence of each item. Returns the number of removed items.
     qsizetype removeDuplicates() { return m_records.removeDuplicates(); }
     void sort(Qt::CaseSensitivity sensitivity = Qt::CaseSensitive) { m_records.sort(sensitivity); }
     QString join(const QString &separator) const { return m_records.join(separator); }
 
-    //! An item that would not read back is escaped (see NestedText).
+    //! Items that could not be read back are escaped (see NestedText).
     QString toString() const;
 };
 

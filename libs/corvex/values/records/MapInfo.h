@@ -11,8 +11,9 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Pairs of key and value in the order in which they were added. A key may occur more than once; where one
-//! value is asked for, the one added last is meant. Two maps are equal when their pairs are, in order.
+//! Pairs of key and value, in the order in which they were added. A key may occur more than once; functions
+//! for a single value use the last one added. Two maps are equal if they have the same pairs in the same
+//! order.
 class CORVEX_EXPORT MapInfo
 {
 public:
@@ -20,24 +21,24 @@ public:
     using const_iterator = QList<Entry>::const_iterator;
 
     MapInfo() = default;
-    //! "key: 1; value: On; | key: 0; value: Off;". Refuses the empty text, as the other records do.
+    //! "key: 1; value: On; | key: 0; value: Off;". Like other records, refuses an empty text.
     explicit MapInfo(const QString &text, bool *ok = nullptr);
 
-    //! Adds a pair at the end, also when the key is there already.
+    //! Appends a pair, even if the key exists already.
     void insert(const QString &key, const QString &value) { m_entries.append({key, value}); }
-    //! Removes all pairs of the key and tells how many there were.
+    //! Removes all pairs with the key. Returns their number.
     qsizetype remove(const QString &key);
-    //! Removes the pair of the key that was added last and gives its value.
+    //! Removes the last pair added with the key. Returns its value.
     QString take(const QString &key);
     void clear() { m_entries.clear(); }
 
-    //! The first key that has the value.
+    //! The first key with that value.
     QString key(const QString &value, const QString &defaultKey = {}) const;
     QString value(const QString &key, const QString &defaultValue = {}) const;
-    //! All values of the key, in order.
+    //! All values with that key, in order.
     QStringList values(const QString &key) const;
     QString operator[](const QString &key) const { return value(key); }
-    //! Adds the key with an empty value when it is not there.
+    //! Appends the key with an empty value if it does not exist.
     QString &operator[](const QString &key);
     bool contains(const QString &key) const { return lastIndexOf(key) >= 0; }
 
@@ -54,7 +55,7 @@ public:
     MapInfo &operator<<(const QMap<QString, QString> &map);
     MapInfo &operator<<(const MapInfo &map);
     MapInfo &operator<<(const Entry &entry);
-    //! Keys and values taken pairwise, as long as both last.
+    //! Appends pairs of keys and values, up to the length of the shorter list.
     MapInfo &operator<<(const QPair<QStringList, QStringList> &keysAndValues);
 
     //! Separators inside keys and values are escaped (see NestedText).

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A device command as hexadecimal digits, two for each byte.
+//! A device command in hexadecimal digits, two per byte.
 class CORVEX_EXPORT ModbusCommandInfo : public GeneralDataInfo
 {
 public:

@@ -7,7 +7,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The limits between which a value may lie.
+//! The lower and upper limit of a value.
 class CORVEX_EXPORT RangeInfo
 {
 public:

@@ -8,7 +8,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A term of a text expression. Its translation is the same whatever type is asked for.
+//! A term of a text expression. Its translation is the same for every type.
 class CORVEX_EXPORT StringInfo : public GeneralDataInfo
 {
 public:
@@ -27,7 +27,7 @@ public:
     static const QStringList &stringOperators();
     static const QStringList &booleanOperators();
 
-    //! The term with plain names, as MathInfo::parserString().
+    //! The term with plain names, like MathInfo::parserString().
     static QString parserString(const StringInfo &term);
 };
 

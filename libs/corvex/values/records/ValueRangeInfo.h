@@ -7,13 +7,13 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The two ends of a scale, such as the voltages between which a sensor works, and the limits that both must
-//! keep. The first end may be the greater one.
+//! The two ends of a scale, such as the voltage range of a sensor, and the limits for both. The first end may
+//! be the greater one.
 class CORVEX_EXPORT ValueRangeInfo
 {
 public:
     ValueRangeInfo() = default;
-    //! The limits are the values themselves.
+    //! The values themselves become the limits.
     ValueRangeInfo(double value1, double value2);
     ValueRangeInfo(double value1, double value2, double minValue, double maxValue);
     //! "value1: 0, value2: 50, min: 0, max: 100"

@@ -13,7 +13,7 @@ class CORVEX_EXPORT PropertyInfo
 public:
     PropertyInfo() = default;
     PropertyInfo(const QString &propName, const QString &propValue);
-    //! "propName: text; propValue: Hello;". Separators inside either are escaped (see NestedText).
+    //! "propName: text; propValue: Hello;". Separators inside either text are escaped (see NestedText).
     explicit PropertyInfo(const QString &text, bool *ok = nullptr);
 
     const QString &propName() const { return m_propName; }

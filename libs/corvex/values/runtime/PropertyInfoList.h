@@ -9,13 +9,13 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Values of properties, in the order in which they are set.
+//! Values of properties, in the order of assignment.
 class CORVEX_EXPORT PropertyInfoList : public RecordList<PropertyInfo>
 {
 public:
     using RecordList::RecordList;
     PropertyInfoList() = default;
-    //! Items joined with " | "; the list is empty when any of them is refused.
+    //! Items joined with " | ". The list is empty if any item is invalid.
     explicit PropertyInfoList(const QString &text, bool *ok = nullptr);
 
     QString toString() const;

@@ -13,9 +13,9 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Changes of properties, ordered by element name and then by property name; a pair of element and property
-//! occurs at most once. Where an operation takes a change to look for, the pair of its names is meant. What
-//! is not there gives a default-constructed change; at() and operator[] alone want an index inside the list.
+//! Changes of properties, ordered by element name and then by property name. Each pair of element and
+//! property occurs at most once. Searches for a change compare only this pair. If nothing is found, the
+//! result is a default-constructed change; only at() and operator[] require a valid index.
 class CORVEX_EXPORT PropertyList
 {
     struct Pair
@@ -43,26 +43,26 @@ public:
     using Map = QMap<QString, QMap<QString, PropertyChangeInfo>>;
 
     PropertyList() = default;
-    //! Changes joined with " | ", taken in as append() does; the list is empty when one cannot be read.
+    //! Changes joined with " | ", added as by append(). The list is empty if any change is invalid.
     explicit PropertyList(const QString &text, bool *ok = nullptr);
 
-    //! Ignores a change without both names and one whose pair is in the list already.
+    //! Ignores a change that lacks a name, or whose pair is already in the list.
     void append(const PropertyChangeInfo &change) { m_changes.add(change); }
-    //! The same for each change of a list, sorted in once.
+    //! The same for several changes, which are sorted once.
     void append(const QList<PropertyChangeInfo> &changes) { m_changes.add(changes); }
     void append(const PropertyList &list) { m_changes.add(list.toList()); }
     PropertyList &operator<<(const PropertyChangeInfo &change);
     PropertyList &operator<<(const QList<PropertyChangeInfo> &changes);
     PropertyList &operator<<(const PropertyList &list) { return *this << list.toList(); }
 
-    // Each puts changes, which may have other names, in the place of what is there. False, with nothing
-    // changed, when nothing is there, when a new change lacks a name, and when its pair is that of another
-    // change, be it new or one that stays.
+    // These functions replace existing changes by others, which may have other names. They return false and
+    // change nothing if there is nothing to replace, if a new change lacks a name, or if its pair equals that
+    // of another new or remaining change.
     bool replace(const QString &element, const QList<PropertyChangeInfo> &changes);
     bool replace(const QString &element, const QString &property, const PropertyChangeInfo &change);
     bool replace(qsizetype index, const PropertyChangeInfo &change);
 
-    //! How many were removed: 0 or 1.
+    //! Returns the number of removed changes: 0 or 1.
     int remove(const QString &element, const QString &property);
     bool remove(const PropertyChangeInfo &change);
     QList<PropertyChangeInfo> take(const QString &element);
@@ -73,11 +73,11 @@ public:
 
     bool contains(const QString &element, const QString &property) const;
     bool contains(const PropertyChangeInfo &change) const { return indexOf(change) >= 0; }
-    //! -1 when the pair is not in the list.
+    //! -1 if the pair is not in the list.
     qsizetype indexOf(const QString &element, const QString &property) const;
     qsizetype indexOf(const PropertyChangeInfo &change) const;
     PropertyChangeInfo value(const QString &element, const QString &property) const;
-    //! The changes of an element, by property name.
+    //! The changes of an element, ordered by property name.
     QList<PropertyChangeInfo> values(const QString &element) const;
     QStringList elements() const;
     qsizetype count(const QString &element) const;
@@ -91,7 +91,7 @@ public:
     const_iterator begin() const { return m_changes.begin(); }
     const_iterator end() const { return m_changes.end(); }
     QList<PropertyChangeInfo> toList() const { return m_changes.list(); }
-    //! By element name and, within an element, by property name.
+    //! Ordered by element name and then by property name.
     Map toMap() const;
 
     QString toString() const;

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A runtime property whose value the device saves and restores, with the value it has before one was saved.
+//! A runtime property whose value the device saves and restores, and its value until one has been saved.
 class CORVEX_EXPORT RuntimeAutoSettingProperty : public RuntimeProperty
 {
 public:
@@ -14,7 +14,7 @@ public:
     RuntimeAutoSettingProperty(const QString &property, const QString &displayName, VariableType type,
                                VariableAccessMode accessMode, const QString &description,
                                const QString &defaultValue);
-    //! Shown under its own name, without a description.
+    //! Displayed under its own name, without a description.
     RuntimeAutoSettingProperty(const QString &property, VariableType type, VariableAccessMode accessMode,
                                const QString &defaultValue);
 
@@ -22,7 +22,7 @@ public:
     void setDefaultValue(const QString &defaultValue) { m_defaultValue = defaultValue; }
 
     VariableType propertyType() const { return type(); }
-    //! It has a name and a type.
+    //! It has both a name and a type.
     bool isValid() const;
     //! It has no default value.
     bool isUndefined() const { return m_defaultValue.isEmpty(); }

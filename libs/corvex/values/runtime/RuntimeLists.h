@@ -8,7 +8,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The properties of an element that the device can reach while it runs.
+//! The properties of an element that the device can access at run time.
 using RuntimePropertyList = RuntimeRecordList<RuntimeProperty>;
 
 extern template class CORVEX_EXPORT RuntimeRecordList<RuntimeProperty>;

@@ -8,8 +8,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A property of an element that the device can read or write while it runs. The property's name is the key
-//! of the record.
+//! A property of an element that the device can read or write at run time. The name of the property is the
+//! key of the record.
 class CORVEX_EXPORT RuntimeProperty
 {
 public:
@@ -19,7 +19,7 @@ public:
     RuntimeProperty() = default;
     RuntimeProperty(const QString &property, const QString &displayName, VariableType type,
                     VariableAccessMode accessMode, const QString &description);
-    //! Shown under its own name, without a description.
+    //! Displayed under its own name, without a description.
     RuntimeProperty(const QString &property, VariableType type, VariableAccessMode accessMode);
 
     const QString &property() const { return m_property; }
@@ -33,9 +33,9 @@ public:
     const QString &description() const { return m_description; }
     void setDescription(const QString &description) { m_description = description; }
 
-    //! The type is an integer, a floating number, or a number of either kind.
+    //! The type is integer, float, or number (either of them).
     bool isNumber() const;
-    //! The same property, type and access mode; what is shown to the user does not matter.
+    //! The same property, type and access mode. Display texts are ignored.
     bool isSimilar(const RuntimeProperty &other) const;
 
     friend bool operator==(const RuntimeProperty &, const RuntimeProperty &) = default;

@@ -11,8 +11,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Runtime properties in ascending order of their names, each name at most once. What is not there gives a
-//! default-constructed record; at() and operator[] alone want an index inside the list.
+//! Runtime properties in ascending order of their names, each name at most once. If nothing is found, the
+//! result is a default-constructed record; only at() and operator[] require a valid index.
 template<class RuntimeRecord>
 class RuntimeRecordList
 {
@@ -31,28 +31,28 @@ public:
 
     RuntimeRecordList() = default;
 
-    //! Ignores a record without a name and one whose name is in the list already.
+    //! Ignores a record without a name, or whose name is already in the list.
     void append(const Record &record) { m_records.add(record); }
-    //! The same for each record of a list, sorted in once.
+    //! The same for several records, which are sorted once.
     void append(const QList<Record> &records) { m_records.add(records); }
     void append(const RuntimeRecordList &list) { m_records.add(list.toList()); }
     RuntimeRecordList &operator<<(const Record &record);
     RuntimeRecordList &operator<<(const QList<Record> &records);
     RuntimeRecordList &operator<<(const RuntimeRecordList &list) { return *this << list.toList(); }
 
-    //! Puts a record, which may have another name, in the place of the one called \a name. False, with
-    //! nothing changed, when there is none, when the new name is empty and when another record has it.
+    //! Replaces the record \a name by another, which may have another name. Returns false and changes nothing
+    //! if there is no such record, or if the new name is empty or belongs to another record.
     bool replace(const QString &name, const Record &record)
     {
         return m_records.replaceAt(indexOf(name), record);
     }
-    //! The same by index, for every record but the last, which can only be replaced by its name.
+    //! The same by index, except for the last record, which can only be replaced by name.
     bool replace(qsizetype index, const Record &record)
     {
         return index < size() - 1 && m_records.replaceAt(index, record);
     }
 
-    //! How many were removed: 0 or 1.
+    //! Returns the number of removed records: 0 or 1.
     int remove(const QString &name);
     int remove(const Record &record) { return remove(record.property()); }
     Record take(const QString &name) { return take(indexOf(name)); }
@@ -61,7 +61,7 @@ public:
 
     bool contains(const QString &name) const { return indexOf(name) >= 0; }
     bool contains(const Record &record) const { return contains(record.property()); }
-    //! -1 when the name is not in the list.
+    //! -1 if the name is not in the list.
     qsizetype indexOf(const QString &name) const { return m_records.indexOf(name); }
     qsizetype indexOf(const Record &record) const { return indexOf(record.property()); }
     Record property(const QString &name) const { return m_records.value(indexOf(name)); }
@@ -77,10 +77,10 @@ public:
     QStringList names() const;
     QList<Record> toList() const { return m_records.list(); }
     QMap<QString, Record> toMap() const;
-    //! Ordered by display name. Of records that are shown under one name only the last stays.
+    //! Ordered by display name. If several records share a display name, only the last one is kept.
     QList<Record> toSortedList() const;
 
-    //! As many records, each similar to the other list's at the same place.
+    //! The lists have the same length, and records at the same position are similar.
     bool isSimilar(const RuntimeRecordList &other) const;
 
     friend bool operator==(const RuntimeRecordList &, const RuntimeRecordList &) = default;

@@ -7,12 +7,12 @@
 
 #include <array>
 
-//! The comma form, "busy: true, offline: false": the form of records with a fixed set of fields, all of them
-//! present, in any order when read.
+//! The comma form, "busy: true, offline: false", of records with a fixed set of fields. All fields are
+//! required; they are read in any order.
 namespace Halvane::Corvex::Designer::CommaText {
 
-//! Reads a text that consists of exactly the fields \a keys, each once, into \a values. \a read is the
-//! reader of one value. What the values hold after a failure is open.
+//! Reads a text that consists of exactly the fields \a keys, each once, into \a values. \a read reads one
+//! value. After a failure the values are unspecified.
 template<class Value, size_t Count>
 bool readFields(QStringView text, const std::array<QLatin1StringView, Count> &keys,
                 std::array<Value, Count> &values, Value (*read)(QStringView, bool *))

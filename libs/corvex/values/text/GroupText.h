@@ -9,10 +9,10 @@
 
 #include <algorithm>
 
-//! The group form, "color: #FF000000; width: 2;": the form of most values that have several fields.
+//! The group form, "color: #FF000000; width: 2;", of most values with several fields.
 namespace Halvane::Corvex::Designer::GroupText {
 
-//! \a text without the blanks at its ends. The texts of this form are short: this is a few steps in place.
+//! \a text without surrounding blanks. Fast for short texts, which is what this form has.
 inline QStringView withoutBlanks(QStringView text)
 {
     const QChar *first = text.begin();
@@ -24,13 +24,13 @@ inline QStringView withoutBlanks(QStringView text)
     return {first, last};
 }
 
-//! What lies between two semicolons, with the places of its first colons; -1 for one that is not there.
+//! The text between two semicolons, with the positions of its first colons; -1 for a missing one.
 struct CORVEX_EXPORT Item
 {
     QStringView text;
     qsizetype colons[3] = {-1, -1, -1};
 
-    //! Takes the first item off \a rest.
+    //! Removes the first item from \a rest and returns it.
     static Item takeFrom(QStringView &rest)
     {
         qsizetype start = 0;
@@ -49,12 +49,14 @@ struct CORVEX_EXPORT Item
     }
 };
 
-//! Calls entry(key, value) for each entry, in the order of the text; the views are valid during the call. An
-//! entry that returns false ends the reading. False when the text is blank, holds nothing but semicolons, has
-//! an item that is not "key: value", or when an entry was refused.
-//!
-//! An item "valueString: a: b" swallows all that follows: its first two fields behind the key and each later
-//! item, joined with "; " and closed with ";", are one value, told last, under the key "valueString".
+/*! Calls entry(key, value) for each entry, in the order of the text. The views are valid during the call.
+    Reading stops when \a entry returns false. Returns false if the text is blank or has only semicolons, if
+    an item is not "key: value", or if an entry was refused.
+
+    An item "valueString: a: b" takes everything that follows it: its first two fields after the key and all
+    later items, joined with "; " and closed with ";", form one value. It is reported last, under the key
+    "valueString".
+*/
 template<class Entry>
 bool forEachEntry(QStringView text, Entry &&entry)
 {
@@ -90,16 +92,16 @@ bool forEachEntry(QStringView text, Entry &&entry)
     return entry(QStringView(u"valueString"), QStringView(valueString));
 }
 
-//! Appends "key: value;", behind a blank when it is not the first entry. Entries are written in the order of
+//! Appends "key: value;", with a blank before it unless it is the first entry. Append entries in the order of
 //! their keys.
 CORVEX_EXPORT void appendEntry(QString &group, QStringView key, QStringView value);
 
-//! What becomes of a text that has a key twice.
+//! How a repeated key is treated.
 enum class Repeated { LastCounts, Refused };
 
-//! Reads a text that consists of exactly the entries \a first and \a second, in any order, by handing each
-//! value to \a read(isSecond, value), which tells whether it could be read. Of a key that is repeated the
-//! last value counts, unless \a once refuses it.
+//! Reads a text that consists of exactly the entries \a first and \a second, in any order. Passes each value
+//! to \a read(isSecond, value), which returns whether it is valid. If a key is repeated, the last value
+//! counts, unless \a once refuses repeated keys.
 template<class Read>
 bool readTwo(QStringView text, QLatin1StringView first, QLatin1StringView second, Repeated repeated,
              Read &&read)

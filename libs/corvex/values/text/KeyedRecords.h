@@ -8,10 +8,11 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Records in ascending order of a key, each key at most once: a map that is a list. A key is found by
-//! halving. The records lie in blocks of limited size, so that one that comes in moves a few others and not
-//! all of them. \a Traits names the types Record and Key, gives the key(record) and says whether a key
-//! isComplete(); a record whose key is not is never taken in.
+/*! A sorted map that is accessed like a list: records in ascending order of a key, each key at most once.
+    Lookup is a binary search. The records are stored in blocks of limited size, so that an insertion moves
+    only a few of them. \a Traits defines the types Record and Key, the function key(record), and isComplete()
+    for a key; a record with an incomplete key is never added.
+*/
 template<class Traits>
 class KeyedRecords
 {
@@ -25,25 +26,25 @@ public:
     QList<Record> list() const;
     qsizetype size() const { return m_size; }
     void clear() { *this = {}; }
-    //! The index is inside the list.
+    //! The index must be valid.
     const Record &at(qsizetype index) const;
-    //! A default-constructed record when there is none at \a index.
+    //! A default-constructed record if \a index is invalid.
     Record value(qsizetype index) const { return index < 0 || index >= m_size ? Record() : at(index); }
 
-    //! The first record whose key is not below the given one, and its index.
+    //! The first record whose key is not less than the given one, and its index.
     const_iterator from(Key key) const;
     qsizetype placeOf(Key key) const;
-    //! -1 when there is none.
+    //! -1 if there is none.
     qsizetype indexOf(Key key) const;
 
-    // A record whose key is there already is ignored, also within a list.
+    // Ignores a record whose key exists already, including duplicates within a list.
     void add(const Record &record);
     void add(const QList<Record> &records);
 
-    //! Puts the record, under its own key, in the place of the one at \a index. False, with nothing changed,
-    //! when there is none, when the key is not complete and when another record has it.
+    //! Replaces the record at \a index. Returns false and changes nothing if there is none, if the new key is
+    //! incomplete, or if another record has it.
     bool replaceAt(qsizetype index, const Record &record);
-    //! Gives a default-constructed record when there is none at \a index.
+    //! Returns a default-constructed record if \a index is invalid.
     Record takeAt(qsizetype index);
 
     friend bool operator==(const KeyedRecords &a, const KeyedRecords &b)
@@ -55,7 +56,7 @@ private:
     using Block = QList<Record>;
     struct Place
     {
-        qsizetype block; //!< one behind the last block for a list without records only
+        qsizetype block; //!< equal to the number of blocks only if the list is empty
         qsizetype offset;
     };
     static constexpr qsizetype fullBlock = 256;
@@ -68,7 +69,7 @@ private:
     bool holds(const Place &place, Key key) const;
     void setList(const QList<Record> &records);
 
-    QList<Block> m_blocks; //!< none is empty
+    QList<Block> m_blocks; //!< no block is empty
     qsizetype m_size = 0;
 };
 
@@ -235,7 +236,7 @@ bool KeyedRecords<Traits>::replaceAt(qsizetype index, const Record &record)
     const qsizetype other = indexOf(key);
     if (index < 0 || index >= size() || !Traits::isComplete(key) || (other >= 0 && other != index))
         return false;
-    const Record replacement = record; // It may be the one that leaves.
+    const Record replacement = record; // It may be a reference to the record that is removed.
     takeAt(index);
     add(replacement);
     return true;

@@ -11,18 +11,18 @@ namespace {
 struct Escape
 {
     QChar character;
-    //! Of the escape in the text, 0 when there is none.
+    //! The length of the escape in the text; 0 if there is none.
     qsizetype length = 0;
 };
 
-//! The byte that "%XX" at \a index spells, -1 when nothing of that kind stands there.
+//! The byte of the "%XX" at \a index; -1 if there is none.
 int escapedByte(QStringView text, qsizetype index)
 {
     if (index + 3 > text.size() || text[index] != u'%')
         return -1;
     int byte = 0;
     for (const QChar c : text.sliced(index + 1, 2)) {
-        const char16_t digit = c.unicode() | 0x20; // lower case of a letter
+        const char16_t digit = c.unicode() | 0x20; // converts letters to lower case
         const bool isDecimal = c >= u'0' && c <= u'9';
         if (!isDecimal && (digit < u'a' || digit > u'f'))
             return -1;
@@ -36,7 +36,7 @@ bool isEscapable(QChar c)
     return c == u':' || c == u';' || c == u'|' || c == u'%' || c.isNull() || c.isSpace();
 }
 
-//! The escape that starts at \a index.
+//! The escape that begins at \a index.
 Escape escapeAt(QStringView text, qsizetype index)
 {
     const int lead = escapedByte(text, index);
@@ -72,7 +72,7 @@ void appendEscaped(QString &text, QChar character)
         appendByte(uchar(byte));
 }
 
-//! The blanks that no XML can hold, not even as a reference.
+//! Blanks that XML cannot store, not even as a character reference.
 bool isUnstorable(QChar c)
 {
     return c == u'\v' || c == u'\f';

@@ -5,7 +5,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The place of the first run of whole segments that is \a name, -1 when there is none.
+//! The position of the first sequence of whole segments equal to \a name; -1 if there is none.
 qsizetype indexOfSegments(QStringView path, QStringView name, qsizetype from = 0)
 {
     if (name.isEmpty())

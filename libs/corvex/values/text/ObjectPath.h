@@ -7,24 +7,22 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*!
-    Dotted paths of names ("group1.rect1"). A name matches whole segments, so that "rect1" is found in
-    "group1.rect1" and not in "group1.rect10"; a name of several segments matches them in a row.
-*/
+//! Dotted paths of names ("group1.rect1"). Names match whole segments: "rect1" is found in "group1.rect1" but
+//! not in "group1.rect10". A name with several segments matches consecutive segments.
 class CORVEX_EXPORT ObjectPath
 {
 public:
-    //! Whether generated code can hold the path as it stands: segments of letters, digits and "_", none
-    //! empty, none after the first beginning with a digit.
+    //! Whether generated code can contain the path unchanged: all segments are letters, digits and "_", none
+    //! is empty, and only the first may begin with a digit.
     static bool isValid(QStringView path);
-    //! Whether it is a valid path of one segment.
+    //! Whether the name is a valid path with one segment.
     static bool isSegment(QStringView name) { return isValid(name) && !name.contains(u'.'); }
-    //! What stands before the first ".", the whole path when there is none.
+    //! The part before the first "."; the whole path if there is none.
     static QStringView firstSegment(QStringView path);
-    //! What stands behind the last ".", the whole path when there is none.
+    //! The part after the last "."; the whole path if there is none.
     static QStringView lastSegment(QStringView path);
     static bool contains(QStringView path, QStringView name);
-    //! Puts \a newName wherever \a path contains \a oldName. \return whether it does.
+    //! Replaces every \a oldName in \a path by \a newName. \return whether there was one.
     static bool replace(QString &path, QStringView oldName, QStringView newName);
 };
 

@@ -9,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The first "|" that is not half of an operator "||"; -1 when there is none.
+//! The first "|" that is not part of an operator "||"; -1 if there is none.
 qsizetype indexOfSeparator(QStringView text)
 {
     for (qsizetype i = text.indexOf(u'|'); i >= 0; i = text.indexOf(u'|', i + 1)) {

@@ -9,23 +9,22 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Two texts that belong together, either of which may be missing: "first|second", "first|" or "|second".
-
-    The texts may be expressions: the "||" of an operator does not part them.
-*/
+//! A pair of texts, either of which may be missing: "first|second", "first|" or "|second".
+//!
+//! The texts may be expressions: the operator "||" does not separate them.
 struct CORVEX_EXPORT TextPair
 {
     QString first;
     QString second;
 
-    //! The whole text is the first when there is nothing that parts it.
+    //! Without a separator the whole text is the first one.
     static TextPair fromString(QStringView text);
     QString toString() const;
 
     friend bool operator==(const TextPair &, const TextPair &) = default;
 };
 
-//! Pairs joined with ", ", such as the rules of a logic builder: what must hold, and what happens then.
+//! Pairs joined with ", ", such as the conditions and effects of a logic builder.
 class CORVEX_EXPORT PairList : public RecordList<TextPair>
 {
 public:

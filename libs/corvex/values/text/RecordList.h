@@ -9,9 +9,9 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What all ordered lists of records can do. What an operation cannot reach (an index outside the list, the
-//! first of an empty list) gives a default-constructed record and changes nothing; at() and operator[] alone
-//! want an index inside the list.
+//! The base of all ordered lists of records. An operation outside of the list, such as a wrong index or the
+//! first item of an empty list, returns a default-constructed record and changes nothing; only at() and
+//! operator[] require a valid index.
 template<class Record>
 class RecordList
 {
@@ -28,7 +28,7 @@ public:
     void append(const QList<Record> &records) { m_records.append(QList<Record>(records)); }
     void append(const RecordList &list) { append(list.m_records); }
     void prepend(const Record &record) { m_records.prepend(record); }
-    //! False when \a index is not in 0 to count().
+    //! Returns false if \a index is not in 0 to count().
     bool insert(qsizetype index, const Record &record);
     bool replace(qsizetype index, const Record &record);
     Record takeAt(qsizetype index);
@@ -100,8 +100,7 @@ Record RecordList<Record>::takeAt(qsizetype index)
     return index < 0 || index >= size() ? Record() : m_records.takeAt(index);
 }
 
-//! Appends a record, a list or a plain list of records, to a list that has a name or to one that has none
-//! yet.
+//! Appends a record or a list of records to a named or a temporary list.
 template<class List, class Records>
 requires std::derived_from<
     std::remove_cvref_t<List>,
@@ -113,7 +112,7 @@ requires std::derived_from<
 List operator<<(List &&list, const Records &records)
 {
     list.append(records);
-    return std::forward<List>(list); // a reference to a list that has a name, and by value what has none
+    return std::forward<List>(list); // a reference to a named list, or a temporary list by value
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -17,32 +17,32 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The text forms of the basic kinds of values, as they stand in project files, undo commands and editors. No
-//! function depends on a locale. The readers take the text and an optional \a ok; of a text that they refuse
-//! they give the null value of their type (false, 0, an invalid colour, nothing) and set \a ok to false.
+//! The text forms of the basic value types in project files, undo commands and editors. No function depends
+//! on the locale. The readers take the text and an optional \a ok. For an invalid text they return the null
+//! value of their type (false, 0, an invalid colour, nothing) and set \a ok to false.
 class CORVEX_EXPORT ValueConversion
 {
 public:
-    //! "true" or "false" in any case. A text that is neither and not empty is told to the debug channel.
+    //! "true" or "false" in any case. Any other text, except an empty one, is reported to the debug channel.
     static bool toBoolean(QStringView text, bool *ok = nullptr);
     static QString toString(bool value);
 
     static int toInt(QStringView text, bool *ok = nullptr);
     static QString toString(int value);
 
-    //! A finite number: "nan", "inf" and numbers beyond the range of a double are refused, so that none of
-    //! them gets into a model.
+    //! A finite number. Refuses "nan", "inf" and numbers beyond the range of a double, so that they never
+    //! reach the model.
     static double toReal(QStringView text, bool *ok = nullptr);
-    //! The real form: three decimals at most, trailing zeros cut, never an exponent; 1e308 has 309 digits.
-    //! What rounds to zero from below is "-0", and reads back as what prints "-0". Not a number and the
-    //! infinities give "nan", "inf" and "-inf".
+    //! The real form: at most three decimals, no trailing zeros, never an exponent; 1e308 has 309 digits. A
+    //! negative number that rounds to zero gives "-0", which is also written as "-0" when it is read back.
+    //! Not-a-number and the infinities give "nan", "inf" and "-inf".
     static QString toString(double value);
-    //! The real form with another number of decimals (0 to 100) for generated code, where the values that are
-    //! no numbers have the names of JavaScript: NaN, Infinity and -Infinity.
+    //! The real form with another number of decimals (0 to 100), for generated code. The special values have
+    //! their JavaScript names: NaN, Infinity and -Infinity.
     static QString toQmlString(double value, int decimals);
 
-    // Each coordinate rounded to a number of decimals; halves go up, so that -2.5 becomes -2. A negative
-    // number of decimals leaves the value as it is, and so do values too large to have that many.
+    // Rounds each coordinate to a number of decimals. Halves round up, so that -2.5 becomes -2. The value is
+    // unchanged if the number of decimals is negative, or if the value is too large to have that many.
     static double restrictDecimals(double value, int decimals);
     static QPointF restrictDecimals(const QPointF &point, int decimals);
     static QSizeF restrictDecimals(const QSizeF &size, int decimals);
@@ -50,25 +50,25 @@ public:
     static QPolygonF restrictDecimals(const QPolygonF &polygon, int decimals);
     static QList<QPolygonF> restrictDecimals(const QList<QPolygonF> &polygons, int decimals);
 
-    //! More than seven characters are #AARRGGBB, whatever the first character is; seven and fewer, and
-    //! "transparent", are a name that the toolkit knows, #RGB or #RRGGBB, and opaque.
+    //! A text of more than seven characters is read as #AARRGGBB, whatever its first character. Shorter
+    //! texts, and "transparent", are a colour name of the toolkit, #RGB or #RRGGBB, and opaque.
     static QColor toColor(QStringView text, bool *ok = nullptr);
     //! #AARRGGBB in upper case.
     static QString toString(const QColor &color);
 
-    //! "[#FFFF0000,#FF00FF00]". Each part is read as it stands; an invalid colour stays in the list, and \a
-    //! ok tells of the last part only.
+    //! "[#FFFF0000,#FF00FF00]". Each part is read unchanged. An invalid colour stays in the list; \a ok only
+    //! refers to the last part.
     static QList<QColor> toColorList(QStringView text, bool *ok = nullptr);
-    //! An empty list is "]".
+    //! An empty list gives "]".
     static QString toString(const QList<QColor> &colors);
 
-    //! The group form (see GroupText). Of a key that is repeated the last value counts.
+    //! Reads the group form (see GroupText). If a key is repeated, the last value counts.
     static QMap<QString, QString> toGroupProperties(QStringView text, bool *ok = nullptr);
     static QString toString(const QMap<QString, QString> &group);
 
-    //! Asks for every key that toString() writes; pointSize and pixelSize may be absent, and the font then
-    //! has the application's size. A letter spacing other than zero is read as pixels. Spacings are rounded
-    //! to 64ths, which is what a font can hold.
+    //! Requires every key that toString() writes except pointSize and pixelSize; if both are absent, the font
+    //! has the application's size. A letter spacing other than zero is in pixels. Spacings are rounded to
+    //! 64ths, the precision of a font.
     static QFont toFont(QStringView text, bool *ok = nullptr);
     static QString toString(const QFont &font);
 
@@ -78,21 +78,21 @@ public:
     //! "height: 20; width: 40;"
     static QSizeF toSize(QStringView text, bool *ok = nullptr);
     static QString toString(const QSizeF &size);
-    //! Points joined with " | "; an empty polygon is the empty text, which is refused when it is read alone.
+    //! Points joined with " | ". An empty polygon gives the empty text, which cannot be read on its own.
     static QPolygonF toPolygon(QStringView text, bool *ok = nullptr);
     static QString toString(const QPolygonF &polygon);
     //! "[x: 0; y: 0; | x: 10; y: 0;], []": each polygon in brackets.
     static QList<QPolygonF> toPolygonList(QStringView text, bool *ok = nullptr);
     static QString toString(const QList<QPolygonF> &polygons);
 
-    //! "0, #FFFF0000 | 0.5, #FF00FF00". Positions are cut to two decimals when they are written.
+    //! "0, #FFFF0000 | 0.5, #FF00FF00". Positions are truncated to two decimals when they are written.
     static QGradientStops toGradientStops(QStringView text, bool *ok = nullptr);
     static QString toString(const QGradientStops &stops);
 
-    //! The text between two double quotes; nothing inside is escaped.
+    //! The text between double quotes. Nothing inside is escaped.
     static QString addQuotes(QStringView text);
 
-    // The same of a QString, and so of a plain literal.
+    // Overloads for QString, which also take string literals.
     static bool toBoolean(const QString &text, bool *ok = nullptr)
     {
         return toBoolean(QStringView(text), ok);
@@ -125,11 +125,11 @@ public:
     }
     static QString addQuotes(const QString &text) { return addQuotes(QStringView(text)); }
 
-    //! A pointer, and with it a plain literal, would be taken for a boolean.
+    //! Prevents a pointer, such as a plain literal, from converting to bool.
     template<class T>
     static QString toString(const T *) = delete;
 
-    // The forms appended to a text that is being put together.
+    // Append the forms to a text under construction.
     static void appendReal(QString &text, double value);
     static void appendColor(QString &text, const QColor &color);
     static void appendPoint(QString &text, const QPointF &point);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The forms of fonts and of what is made of points and colours; ValueConversion.cpp has those of the basic
-// kinds.
+// The forms of fonts, and of shapes made of points and colours. ValueConversion.cpp contains the basic types.
 #include "corvex/common/TextHelper.h"
 #include "corvex/values/text/GroupText.h"
 #include "corvex/values/text/ValueConversion.h"
@@ -18,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-//! One key of a font's text: which it is, whether it may be absent, and how its value is given to the font.
+//! One key of a font's text: its name, whether it may be absent, and how its value is applied to the font.
 struct FontField
 {
     QLatin1StringView key;
@@ -52,8 +51,8 @@ bool readFamily(QFont &font, QStringView value)
     return ok;
 }
 
-//! The spacing as a font can hold it: in 64ths, of which there are as many as an int has. The font itself
-//! cuts what lies between two of them, so that what it prints would shrink each time it is read.
+//! Rounds a spacing to what a font can hold: 64ths, as many as an int can count. The font itself truncates,
+//! so that the value would shrink with each reading.
 bool readSpacing(QStringView value, qreal &spacing)
 {
     constexpr qreal fractions = 64;
@@ -95,7 +94,7 @@ constexpr std::array fontFields{
     FontField{"wordSpacing"_L1, false, readWordSpacing},
 };
 
-//! Reads the entry that \a key names, which must be the first of that name.
+//! Reads the entry \a key. Refuses a repeated key.
 bool readFontEntry(QFont &font, unsigned &seen, QStringView key, QStringView value)
 {
     for (size_t i = 0; i < fontFields.size(); ++i) {
@@ -108,7 +107,7 @@ bool readFontEntry(QFont &font, unsigned &seen, QStringView key, QStringView val
     return false;
 }
 
-//! Reads "a: 1; b: 2;" with both keys once.
+//! Reads "a: 1; b: 2;", each key once.
 bool readRealPair(QStringView text, QLatin1StringView a, QLatin1StringView b, qreal &first, qreal &second)
 {
     return GroupText::readTwo(text, a, b, GroupText::Repeated::Refused,
@@ -119,7 +118,7 @@ bool readRealPair(QStringView text, QLatin1StringView a, QLatin1StringView b, qr
                               });
 }
 
-//! Hands each part of a text in parts to \a read, trimmed, until one is refused.
+//! Passes each part of a list, trimmed, to \a read until one is refused.
 template<class Read>
 bool forEachPart(QStringView text, char16_t separator, Read &&read)
 {
@@ -142,8 +141,8 @@ bool readStop(QStringView text, QGradientStop &stop)
     return positionOk && colorOk;
 }
 
-//! The position cut to two decimals. A hundredth is rarely a double (0.29 * 100 is a hair below 29), so that
-//! what is as good as one is not cut.
+//! Truncates the position to two decimals. A hundredth is rarely exact in a double (0.29 * 100 is slightly
+//! below 29), so values very close to the next hundredth count as reaching it.
 double cutToHundredths(double position)
 {
     const double scaled = position * 100;
