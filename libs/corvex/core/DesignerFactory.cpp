@@ -33,7 +33,7 @@ QStringList sortedKeys(const QHash<QString, IDesignerFactory *> &registry)
     return keys;
 }
 
-//! The kinds of objects with the colour of their icons, the most special first.
+//! The icon colours of the kinds of objects, most derived kinds first.
 struct KindColor
 {
     const char *className;
@@ -61,8 +61,8 @@ QPixmap drawIcon(const QString &className, QRgb color)
     return icon;
 }
 
-/*! What \a call answers, which runs the code of a plug-in. Nothing here throws, but others may: an exception
-    ends the call and not the program. It is null then, and \a failure says why. */
+//! The result of \a call, which runs code of a plug-in. Library code does not throw, but a plug-in may: then
+//! the result is null, \a failure gives the reason, and the program continues.
 template<class Call>
 auto guarded(const Call &call, QString &failure) -> decltype(call())
 {
@@ -76,7 +76,7 @@ auto guarded(const Call &call, QString &failure) -> decltype(call())
     return {};
 }
 
-//! What \a call makes, after a warning when it makes nothing.
+//! The object that \a call creates; warns if it creates none.
 template<class Call>
 auto make(const char *kind, const QString &name, const Call &call) -> decltype(call())
 {
@@ -107,7 +107,7 @@ DesignerFactory *DesignerFactory::instance()
     return theInstance();
 }
 
-//! All names of a factory, asked for once: what it answers later does not count.
+//! All names of a factory. They are read once; later changes are ignored.
 struct DesignerFactory::Names
 {
     explicit Names(const IDesignerFactory &factory)
@@ -224,7 +224,7 @@ void DesignerFactory::pluginFailed(const QString &message)
 void DesignerFactory::loadPlugin(const QString &file)
 {
     QPluginLoader loader(file);
-    // They are read from the file; to load a library is to run code of it.
+    // Read from the file, because loading a library runs its code.
     const QJsonObject metaData = loader.metaData();
     const QString interface = metaData.value("IID"_L1).toString();
     if (!metaData.isEmpty() && interface != QLatin1StringView(qobject_interface_iid<IDesignerFactory *>())) {
@@ -237,7 +237,7 @@ void DesignerFactory::loadPlugin(const QString &file)
     QObject *plugin = guarded([&loader] { return loader.instance(); }, failure);
     const QString className = metaData.value("className"_L1).toString();
     if (!failure.isEmpty()) {
-        // What the constructor had begun may still need the library, which stays loaded.
+        // Objects created by the constructor may still need the library, so keep it loaded.
         pluginFailed(u"Failed to load plugin %1 from %2"_s.arg(className, file));
         qWarning("%s", qUtf8Printable(failure));
         return;

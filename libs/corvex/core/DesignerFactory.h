@@ -12,8 +12,9 @@ namespace Halvane::Corvex::Designer {
 
 class ObjectView;
 
-/*! Creates everything that goes by a class name, through the factory that registered the name: the one of the
-    library and those of the plug-ins. One per process, a child of the application object. */
+//! Creates objects, editors and canvas items by class name, through the factory that registered the name:
+//! that of the library or that of a plug-in. There is one instance per process, a child of the application
+//! object.
 class CORVEX_EXPORT DesignerFactory : public QObject
 {
     Q_OBJECT
@@ -21,37 +22,37 @@ class CORVEX_EXPORT DesignerFactory : public QObject
 public:
     ~DesignerFactory() override;
 
-    /*! Makes the one instance and loads the plug-ins from "Plugins/DesignerObjects" below \a path. False when
-       the path does not exist, there is no application object, or the library's own factory is refused. */
+    //! Creates the instance and loads the plug-ins in "Plugins/DesignerObjects" below \a path. Returns false
+    //! if the path does not exist, there is no application object, or the library's own factory is refused.
     static bool createInstance(const QString &path);
     //! Null before createInstance().
     static DesignerFactory *instance();
 
-    /*! Takes over the names of \a factory, which is not owned. Refused, with a warning, when its three tables
-       of names differ in length, a name is taken, or the factory throws an exception. */
+    //! Registers the names of \a factory, which is not owned. Refuses, with a warning, if its three tables of
+    //! names differ in length, a name is taken, or the factory throws an exception.
     bool registerFactory(IDesignerFactory *factory);
-    //! Loads every plug-in of a folder; a file that fails is warned about and passed over. Nothing runs of
-    //! plug-ins for another interface.
+    //! Loads every plug-in in a folder; skips files that fail, with a warning. No code of plug-ins for
+    //! another interface is run.
     void loadPlugins(const QString &folder);
-    //! What loadPlugins() had to pass over, one line each.
+    //! The plug-ins that loadPlugins() skipped, one line each.
     const QStringList &pluginErrors() const { return m_pluginErrors; }
 
     bool canCreateObject(const QString &className) const { return m_objects.contains(className); }
-    /*! A new, initialised object; null with a warning when that fails. Without \a parent the application
-       object is the parent, until the object enters a model. */
+    //! A new, initialised object; null, after a warning, on failure. Without \a parent the application object
+    //! is the parent until the object enters a model.
     DesignerObject *createObject(const QString &className, QObject *parent = nullptr) const;
-    //! The same without any parent, for a model that is being read; the caller owns it.
+    //! The same without any parent, for a model that is being read. The caller owns the object.
     DesignerObject *createUnowned(const QString &className) const;
-    //! A canvas item that is not initialised yet; null when the name is none or there is no object.
+    //! A canvas item that is not initialised yet; null if the name is unknown or there is no object.
     GraphicsItem *createGraphicsItem(const QString &className, DesignerObject *object) const;
-    /*! A canvas item for an object, initialised, as the object itself sees it; null without a factory too.
-        What DesignerObject::createGraphicsItem() answers. */
+    //! An initialised canvas item for an object; null also without a factory. The default of
+    //! DesignerObject::createGraphicsItem().
     static ObjectView *createObjectView(const QString &className, DesignerObject *object);
     PropertyEditor *createEditor(const QString &editorName, QWidget *parent = nullptr) const;
     Template *createTemplate(const QString &className, QObject *parent = nullptr) const;
     Wizard *createWizard(const QString &wizardName) const;
 
-    //! The classes with a base and a display name, sorted; likewise the other lists.
+    //! The classes with a base and a display name, sorted. The other lists are sorted, too.
     QStringList objectNames() const;
     QStringList creatableNames() const;
     QStringList graphicsItemNames() const;
@@ -71,8 +72,7 @@ public:
         return m_classesByDisplay.value(displayName);
     }
 
-    // The names that the tables have for an object's class; the class name itself without a factory or an
-    // entry.
+    // The names of an object's class in the tables; the class name itself without a factory or an entry.
     static QString baseNameOf(const DesignerObject *object);
     static QString displayNameOf(const DesignerObject *object);
 

@@ -22,7 +22,7 @@ DesignerObject::DesignerObject(QObject *parent)
     , d(std::make_unique<Data>())
 { }
 
-//! Reports that an object is deleted in its place in the model.
+//! Reports that an object is deleted while it is in the model.
 void DesignerObject::announceDeletion()
 {
     ModelObservers *observers = ownerObject() ? activeObservers() : nullptr;
@@ -51,7 +51,7 @@ void DesignerObject::deleteChildren()
             released.insert(child);
         }
     }
-    // A QObject looks for each child that leaves it among all, and finds the one that came first at once.
+    // QObject searches its list for each removed child, and finds the first child immediately.
     const QObjectList all = released.isEmpty() ? QObjectList() : children();
     for (QObject *child : all) {
         if (released.contains(child)) {
@@ -72,7 +72,7 @@ DesignerObject::~DesignerObject()
     if (d->observers) {
         d->observers->endExchange(this);
     }
-    // Undo steps and editors may hold on to a property.
+    // Undo steps and editors may still use a property.
     d->properties.leaveParent();
 }
 

@@ -56,7 +56,7 @@ public:
     //! Deletes its children first, while its own properties still exist.
     ~DesignerObject() override;
 
-    //! Makes the properties; called once by the factory. False when the object cannot be used.
+    //! Creates the properties; called once by the factory. Returns false if the object cannot be used.
     bool initialize() override;
 
     //! The stem of the names of new instances.
@@ -77,12 +77,12 @@ public:
     //! The property with that id or null.
     SharedProperty getProperty(QStringView id) const;
     SharedProperty getProperty(const QString &id) const { return getProperty(QStringView(id)); }
-    //! In the order in which they were made, which is the order of files and of QML.
+    //! In order of creation, which is the order in files and QML.
     PropertyRange properties() const;
     //! The properties whose value other objects refer to.
     QList<SharedProperty> dependencyProperties() const { return getDependencyProperties(); }
 
-    //! What became of a request to change a value.
+    //! The outcome of a request to change a value.
     enum class Change : quint8 {
         Done,       //!< the property holds the new value
         Unchanged,  //!< it held this value before
@@ -91,23 +91,25 @@ public:
         Vetoed,     //!< the before-hook of the object refused it
     };
 
-    // Changes. Each may be called with a property of this object only.
+    // Changes. The property must belong to this object.
     /*! Sets a value from its text. Returns true even if nothing had to change, or if validation refused the
         value: then the old value stays, no hook runs, no signal is emitted, and the property's errorString()
         gives the reason. Returns false if the text does not parse, contains a character that a file cannot
-        hold, or a hook vetoes. changeValue() tells these cases apart. */
+        hold, or a hook vetoes. changeValue() tells these cases apart.
+    */
     bool changePropertyValue(const SharedProperty &property, const QString &newValue);
-    /*! Does what changePropertyValue() does and reports what became of it. A property that is a list, holds
-       an object or belongs to another object counts as Unreadable; without a property nothing changes. */
+    //! Like changePropertyValue(), but returns the outcome. For a property that is a list, contains an object
+    //! or belongs to another object this is Unreadable; without a property nothing changes.
     Change changeValue(const SharedProperty &property, const QString &newValue);
-    /*! Makes \a object, which may be null, the child of an object property. The previous child is deleted if
-        \a deletePrevious is set; otherwise the caller owns it. */
+    //! Makes \a object, which may be null, the child of an object property. The previous child is deleted if
+    //! \a deletePrevious is set; otherwise the caller owns it.
     bool changePropertyObjectValue(const SharedProperty &property, DesignerObject *object,
                                    bool deletePrevious = false);
     bool addListPropertyItem(const SharedProperty &property, DesignerObject *item);
-    //! An index outside of the list means the nearest end. A list with an order of its own sorts the item in.
+    //! An index outside of the list means the nearest end. A sorted list inserts the item in order.
     bool insertListPropertyItemAt(const SharedProperty &property, DesignerObject *item, qsizetype index);
-    //! The same for a place that also counts kept items, so that an item returns to exactly where it was.
+    //! The same with a place that also counts kept items, so that an item can return to exactly its old
+    //! place.
     bool insertListPropertyItemAt(const SharedProperty &property, DesignerObject *item,
                                   const ItemPlace &place);
     bool insertListPropertyItemBefore(const SharedProperty &property, DesignerObject *reference,
@@ -136,17 +138,17 @@ public:
 
     // Identity.
     SharedProperty idProperty() const;
-    //! Valid until the object gets another name.
+    //! Valid until the object is renamed.
     const QString &getIdName() const;
     bool setIdName(const QString &name);
     IdentifierInfo getIdInfo() const;
     bool setIdInfo(const IdentifierInfo &info);
     void setIdFlag(PropertyFlag flag, bool on);
-    //! "qml_" and the name: the id that QML knows the object by. Empty for a name that is no identifier.
+    //! "qml_" and the name: the id of the object in QML. Empty if the name is not an identifier.
     QString getQmlIdName() const;
-    //! Whether no other object where this one lives bears the name of \a other.
+    //! Whether no other object in the same scope has the name of \a other.
     bool isUnique(const DesignerObject *other) const;
-    //! Whether the name is this object's or that of an object below it.
+    //! Whether the name belongs to this object or to an object below it.
     bool isOrHasIdentifier(const QString &name) const;
 
     // Links.
@@ -154,10 +156,10 @@ public:
     QMap<SharedProperty, DesignerObject *> linkPropertiesWithObjects() const;
 
     // Place in the model.
-    //! The list that owns this object, null out of the model and for the child of an object property.
+    //! The list that owns this object; null outside of the model and for the child of an object property.
     SharedProperty listProperty() const;
     void setListProperty(const SharedProperty &property);
-    //! Every list that holds this object as an item, the owning one among them.
+    //! Every list that contains this object, including the owning one.
     QList<DesignerProperty *> listProperties() const;
     //! Records a list that holds this object; one that is recorded already is ignored.
     void addListDesignerProperty(DesignerProperty *property);
@@ -166,28 +168,26 @@ public:
     DesignerObject *ownerObject() const;
     Project *project() const;
     Screen *screen() const;
-    //! Reaches this object and everything below it.
+    //! Applies to this object and everything below it.
     virtual void setProject(Project *project);
     virtual void setScreen(Screen *screen);
-    //! The nearest ancestor, or the object itself, that is an "Element" or a "Screen"; null when there is
-    //! none.
+    //! The object itself or its nearest ancestor that is an "Element" or a "Screen"; null if there is none.
     static DesignerObject *rootElement(DesignerObject *object);
     //! All children of its lists and object properties, in the order of the properties.
     QList<DesignerObject *> childObjects() const;
-    /*! Names the object for a person: the names on the way down from the project, joined with "." and without
-        the project's own ("Main.pump1"); the class name stands in for an object without a name. */
+    //! The path of the object for users: the names from the project down to the object, joined with "." and
+    //! without the project's own ("Main.pump1"). An object without a name appears as its class name.
     QString objectPath() const;
 
     // The canvas.
     ObjectView *graphicsItem() const;
-    //! Makes the item that shows this object, when its kind has one and there is none yet.
+    //! Creates the item that shows this object, unless it has one or its kind has none.
     void setGraphicsItem();
     void resetGraphicsItem();
 
     // Validation.
-    /*! Validates all objects below, then each of its own properties, and collects "title: reason" for each
-        that fails. Emits validationError() when errors appear and resetValidationError() when they are gone.
-     */
+    //! Validates all objects below, then all own properties, and collects "title: reason" for each failure.
+    //! Emits validationError() when errors appear and resetValidationError() when they are gone.
     bool validate();
     bool isValid() const;
     void setValid(bool valid);
@@ -201,20 +201,21 @@ public:
     void emitResetValidationError() { emit resetValidationError(); }
 
     // Files and copies; see ObjectXmlReader and ObjectXmlWriter for streams.
-    /*! The form of the object in files and copies; null if a required child is missing. Only a class that
-        overrides it (hasOwnXmlDocument()) is asked; all others are written directly. */
+    //! The form of the object in files and copies; null if a required child is missing. Only called if a
+    //! class overrides it (hasOwnXmlDocument()); all other objects are written directly.
     virtual QDomDocument convertToXmlDocument(bool withHeader, bool allProperties) const;
     QString convertToString(bool withHeader, bool allProperties) const;
     //! The text that would be saved; empty if it cannot be written. That of a ProjectVariable has no XML
     //! declaration.
     static QString toString(const DesignerObject *object);
-    /*! An object without a parent, owned by the caller. Null if the text does not describe an object; a
-        warning then names line and column. With \a validate the complete object is validated. */
+    //! An object without a parent, owned by the caller. Null if the text does not describe an object; a
+    //! warning then names line and column. With \a validate the complete object is validated.
     static DesignerObject *createFromString(const QString &text, bool validate = true);
     static DesignerObject *createCopy(const DesignerObject *object, bool validate = true);
     static DesignerObject *createFromFile(const QString &path, bool validate = true);
     static bool loadFromFile(DesignerObject *object, const QString &path, bool validate = true);
-    //! Writes a new file beside it and replaces the old one in one step, which stays intact after a failure.
+    //! Writes a new file beside the old one and replaces it in one step. After a failure the old file is
+    //! intact.
     static bool saveToFile(const DesignerObject *object, const QString &path, QString *error = nullptr);
 
     static QString getTabs(int count) { return QString(count, u'\t'); }
@@ -267,22 +268,22 @@ protected:
     // Files.
     //! Whether files contain the property. In the base, StoredFlag decides.
     virtual bool storesProperty(const DesignerProperty &property) const;
-    /*! Handles a stored property without text and without children. In the base, the id "text" gets the empty
-        text, and all others keep their default. */
+    //! Handles a stored property without text and without children. By default, the id "text" gets the empty
+    //! text, and all others keep their default.
     virtual void readEmptyValue(const SharedProperty &property);
-    //! Runs when all properties have been read, before validation.
+    //! Called when all properties have been read, before validation.
     virtual void finishReading();
 
-    /*! Gives a new object its identifier: the base name, known in \a scopeType ("Project", "Screen"), of the
-        object's class. For initializeProperties(). */
+    //! Gives a new object its identifier: the base name, the scope \a scopeType ("Project", "Screen") and the
+    //! object's class. For initializeProperties().
     void registerIdentifier(const QString &scopeType);
-    //! Runs as soon as the object has its new name, before observers and afterPropertyChanged(). The place to
-    //! update indexes.
+    //! Called as soon as the object has its new name, before observers and afterPropertyChanged(). The place
+    //! to update indexes.
     virtual void nameChanged(const QString &oldName);
-    //! For the root of a model, before setProject(): objects below it take over what their owner has. Not
-    //! owned.
+    //! For the root of a model, before setProject(): objects below it inherit the observers. Not owned.
     void setObservers(ModelObservers *observers);
-    //! For the destructor of a class whose children use it: deletes them while it is complete.
+    //! Deletes the children while this object is complete. For the destructor of a class whose children use
+    //! it.
     void deleteChildren();
 
     /*! Appends to \a text what toQml() writes between the braces, indented by \a indent tabs, each line with
@@ -291,10 +292,11 @@ protected:
 
     //! Adds a property that is not in a table.
     void addProperty(const SharedProperty &property);
-    /*! Adds one property for each row. A row with the id of an existing property redescribes that one
-       instead, and sets its value only if the row overrides it. */
+    //! Adds one property for each row. A row with the id of an existing property redescribes that one
+    //! instead, and sets its value only if the row overrides it.
     bool addProperties(const PropertyTable &table);
-    //! Updates isValid() and validationErrors() from the outcomes of the properties, and notifies the owner.
+    //! Updates isValid() and validationErrors() from the validation results of the properties, and notifies
+    //! the owner.
     void updateValidity();
 
 private:
@@ -307,7 +309,7 @@ private:
     QmlBindings nameBinding() const;
     //! Changes a value by a text that a file can hold.
     Change changeStorableValue(const SharedProperty &property, const QString &newValue);
-    //! The same; a text that cannot be read and counts as equal to all values is Unchanged.
+    //! The same. A text that cannot be read, and therefore counts as equal to every value, is Unchanged.
     Change storeValue(const SharedProperty &property, const QString &newValue);
     static bool canBeStored(DesignerProperty &property, const QString &value);
     bool isOwnValue(const SharedProperty &property) const;
@@ -319,35 +321,35 @@ private:
     void assertMayChange() const;
     void announceDeletion();
     void revalidate(const SharedProperty &property);
-    //! Switches validation on for this object and everything below it, and validates, in one walk.
+    //! Enables validation for this object and everything below it, and validates, in one pass.
     void validateWhatWasRead();
     void validateOwnProperties();
     void childValidityChanged(DesignerProperty &property);
 
     bool mayEnter(const SharedProperty &property, const DesignerObject *item) const;
     bool isShallow(const DesignerObject *item) const;
-    //! How many objects there are below it, one in the other, at most.
+    //! The depth of the tree below it.
     qsizetype height() const;
     void enterModel(DesignerObject *item);
     void leaveModel(const SharedProperty &property, DesignerObject *item);
     void addToView(const SharedProperty &property, DesignerObject *item);
-    //! Completes an insertion or a replacement: the item is in the list.
+    //! Completes an insertion or a replacement after the item was added to the list.
     void acceptItem(const SharedProperty &property, DesignerObject *item);
     template<class Insert>
     bool addItem(const SharedProperty &property, DesignerObject *item, Insert insert);
     SharedProperty listOf(const QString &id) const;
-    //! Remembers that there may be children, so that the many objects without any are not searched.
+    //! Records that there may be children, so that the many objects without any are not searched.
     void noteFlags(const DesignerProperty &property);
-    //! A property that is still to be added.
+    //! Creates a property that must then be added.
     SharedProperty makeProperty(const PropertyRow &row);
-    //! The object property that owns this object; null when a list owns it and out of the model.
+    //! The object property that owns this object; null if a list owns it, and outside of the model.
     SharedProperty objectProperty() const;
 
     struct Data;
     std::unique_ptr<Data> d;
 };
 
-//! \a object as a \a Kind if its class names include that kind, else null.
+//! \a object as a \a Kind if its class names include that kind; otherwise null.
 template<class Kind>
 Kind *kindCast(DesignerObject *object)
 {

@@ -219,7 +219,7 @@ bool DesignerObject::changePropertyObjectValue(const SharedProperty &property, D
 
 bool DesignerObject::mayEnter(const SharedProperty &property, const DesignerObject *item) const
 {
-    // What has an owner is taken from it first, and nothing enters itself.
+    // An object with an owner must be taken from it first, and an object cannot contain itself.
     for (const DesignerObject *object = this; object; object = object->ownerObject()) {
         if (object == item) {
             return property->refuse("The type is not supported.");
@@ -232,8 +232,7 @@ bool DesignerObject::mayEnter(const SharedProperty &property, const DesignerObje
            || property->refuse("The objects are nested too deeply. Please take it out of some groups.");
 }
 
-//! Whether a file that holds all of it can be read again. The reader, which validates at its end, counts for
-//! itself.
+//! Whether a file with the whole tree could be read again. The reader counts for itself.
 bool DesignerObject::isShallow(const DesignerObject *item) const
 {
     if (disabledValidation()) {

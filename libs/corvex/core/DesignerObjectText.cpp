@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The text and file forms of DesignerObject, thin on top of ObjectXmlReader and ObjectXmlWriter.
+// The text and file forms of DesignerObject, based on ObjectXmlReader and ObjectXmlWriter.
 #include "corvex/common/files/SafeFile.h"
 #include "corvex/core/private/DesignerObjectData.h"
 #include "corvex/core/xml/ObjectXmlReader.h"
@@ -137,7 +137,7 @@ bool DesignerObject::saveToFile(const DesignerObject *object, const QString &pat
         problem = u"\"%1\" holds no object; nothing is written."_s.arg(problem);
     } else if (Common::SafeFile file(path); file.openForWriting(&problem)) {
         ObjectXmlWriter writer(&file, ObjectXmlWriter::LineEnd::Windows);
-        // A file that did not take all knows best why.
+        // A failed file has the better error message.
         const bool isRefused = !writer.write(object) && file.error() == QFileDevice::NoError;
         done = !isRefused && file.commit(&problem);
         if (isRefused) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// How objects and their owners learn whether they are valid: each edit updates what lies on the way up, only
-// DesignerObject::validate() looks at everything below.
+// How objects and their owners know whether they are valid: each edit updates only the owners of an object;
+// only DesignerObject::validate() checks everything below.
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/ModelObservers.h"
@@ -80,7 +80,7 @@ void DesignerObject::setValid(bool valid)
     if (ModelObservers *observers = activeObservers()) {
         observers->reportObjectValidity(this);
     }
-    // A slot of the owner's signals may take this object out of its list.
+    // A slot connected to the owner may remove this object from its list.
     const QList<DesignerProperty *> lists = d->lists.all();
     for (DesignerProperty *list : lists) {
         list->items().invalidCount += valid ? -1 : 1;

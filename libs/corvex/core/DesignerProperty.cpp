@@ -123,7 +123,7 @@ void DesignerProperty::setParentObject(DesignerObject *parent)
 template<class Field>
 bool DesignerProperty::describe(Field PropertyDescriptor::*field, const std::type_identity_t<Field> &value)
 {
-    // An equal value must not cost the instance a descriptor of its own.
+    // Setting an equal value must not create a separate descriptor for this instance.
     const bool isChanged = descriptor().*field != value;
     if (isChanged) {
         ownDescriptor().*field = value;

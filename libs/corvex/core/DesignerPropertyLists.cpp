@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The list and object operations of DesignerProperty: what each refuses, with which text, and what it does.
+// The list and object operations of DesignerProperty, with their refusals and messages.
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/ModelObservers.h"
 #include "corvex/core/private/DesignerObjectData.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How a property finds out whether its value is valid, or whether a text would be.
+// Checks whether the value of a property, or a text for it, is valid.
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/EditorView.h"
@@ -13,7 +13,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! A message quotes no more of a text.
+//! A message quotes at most this much of a text.
 constexpr qsizetype longestQuote = 80;
 
 } // namespace
@@ -52,12 +52,12 @@ void DesignerProperty::setOutcome(const Outcome &outcome)
     }
 }
 
-//! The first step that fails. A step may disable validation, which skips those after it.
+//! The first step that fails. A step may disable validation, which skips the following ones.
 DesignerProperty::Failure DesignerProperty::findFailure(QString &error) const
 {
     const DesignerObject *parent = parentObject();
     const auto enabled = [parent] { return !parent || !parent->disabledValidation(); };
-    // The callback sees the model through the parent, which a property may outlive.
+    // The callback accesses the model through the parent, which may be deleted before the property.
     if (parent && enabled() && descriptor().valueValidator && !descriptor().valueValidator(this, error)) {
         return Failure::Validator;
     }
@@ -73,7 +73,7 @@ DesignerProperty::Failure DesignerProperty::findFailure(QString &error) const
 
 bool DesignerProperty::isInRange(QString &error) const
 {
-    // The value of a row is one that the row allows.
+    // The value of a row is always in the range of the row.
     if (m_isInitial || descriptor().range.contains(number())) {
         return true;
     }
@@ -100,7 +100,7 @@ QString DesignerProperty::refusalOf(const QString &text)
     }
     Outcome outcome;
     const bool isRead = validateText(text, outcome);
-    validate(); // A change that was refused may have left its reason.
+    validate(); // A refused change may have left its reason; restore that of the value.
     if (isRead) {
         return outcome.reason;
     }

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! An object that is a folder: "parentPath/directoryName".
+//! An object that represents a folder: "parentPath/directoryName".
 class CORVEX_EXPORT DirectoryObject : public DesignerObject
 {
     Q_OBJECT
@@ -16,14 +16,14 @@ public:
     QString baseName() const override;
     QString displayName() const override;
 
-    //! Makes the folder in the existing folder \a path, unless it is there, and takes it as its own.
+    //! Creates the folder in the existing folder \a path, unless it exists, and uses it.
     virtual bool createDirectory(const QString &path);
-    //! Takes the folder in \a path, or \a path itself when that bears the folder's name. It must exist.
+    //! Uses the folder in \a path, or \a path itself if it has the folder's name. It must exist.
     virtual bool loadDirectory(const QString &path);
-    //! The name of the folder, a single name.
+    //! The name of the folder, without a path.
     virtual QString createDirectoryName() const = 0;
 
-    //! Absolute; empty without a folder, like the names below.
+    //! Absolute; like the names below, empty without a folder.
     const QString &parentPath() const { return m_parentPath; }
     const QString &directoryName() const { return m_directoryName; }
     QString fullPath() const;

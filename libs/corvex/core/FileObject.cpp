@@ -17,14 +17,14 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! A translated text with its one or two placeholders filled.
+//! A translated text with one or two placeholders filled.
 QString message(const QString &english, const QString &first, const QString &second = {})
 {
     const QString text = Common::LocalizationHelper::coreString(english);
     return second.isNull() ? text.arg(first) : text.arg(first, second);
 }
 
-//! Whether the name stays in its folder on every system.
+//! Whether the name is a plain file name on every system.
 bool isSingleName(const QString &name)
 {
     return name != "."_L1 && name != ".."_L1 && !name.contains(u'/') && !name.contains(u'\\')
@@ -34,7 +34,7 @@ bool isSingleName(const QString &name)
 bool isThere(const QString &path)
 {
     const QFileInfo info(path);
-    // A link that leads nowhere does not "exist" and still takes the name.
+    // A broken link does not "exist" but still occupies the name.
     return info.exists() || info.isSymLink();
 }
 
@@ -126,7 +126,7 @@ bool FileObject::createFile(const QString &path)
     return finish({});
 }
 
-//! The folder comes to its place with the file in it.
+//! Creates the folder together with its file in one step.
 bool FileObject::createWithFolder(const QString &parent, const QString &sub, QString *error)
 {
     const Common::TemporaryFolder workshop(parent, u".corvex-new"_s);
@@ -156,7 +156,7 @@ bool FileObject::loadFile(const QString &path)
         return finish(info.exists() ? message(u"\"%1\" is not a file."_s, path)
                                     : message(u"The file \"%1\" does not exist."_s, path));
     }
-    // The object is validated as soon as it is read, and what lies beside its file is looked up then.
+    // The object is validated as soon as it is read, and validation looks up files beside its own.
     const QFileInfo folder(info.absolutePath());
     if (createSubPath().isEmpty() || folder.fileName().isEmpty()) {
         setFileFields(folder.filePath(), {}, info.fileName());
@@ -250,7 +250,7 @@ bool FileObject::deleteFile()
         return finish(message(u"The file \"%1\" cannot be deleted."_s, m_fullFilePath));
     }
     if (!m_subPath.isEmpty() && m_subPath == createSubPath()) {
-        QDir(m_parentPath).rmdir(m_subPath); // fails, as it should, when the user keeps more in it
+        QDir(m_parentPath).rmdir(m_subPath); // fails if the user has other files in it, which is fine
     }
     resetFileFields();
     return finish({});

@@ -11,11 +11,11 @@ class Progress;
 
 namespace Halvane::Corvex::Designer {
 
-/*! An object that is a file: one XML file, which may lie in a folder of its own.
+/*! An object that is stored in an XML file, optionally in a folder of its own.
 
-    The parent path is the folder that the user chose, the sub-path the object's own folder in it (empty when
-    the file lies in the parent path itself). Sub-path and file name are single names, so that no operation
-    reaches beyond the object's own folder. All of them tell by fileError() why they failed.
+    The parent path is the folder that the user chose. The sub-path is the object's own folder in it, or empty
+    if the file is in the parent path itself. Sub-path and file name are single names, so no operation reaches
+    beyond the object's own folder. After a failure, fileError() gives the reason.
 */
 class CORVEX_EXPORT FileObject : public DesignerObject
 {
@@ -26,47 +26,47 @@ public:
     QString baseName() const override;
     QString displayName() const override;
 
-    //! Whether the file that this object would make in the folder \a path is there.
+    //! Whether the file that this object would create in the folder \a path exists.
     virtual bool fileExists(const QString &path) const;
-    /*! Makes the file, and the object's own folder, in the existing folder \a path. Refuses to write over a
-       file that is there. */
+    //! Creates the file, and the object's own folder, in the existing folder \a path. Does not overwrite an
+    //! existing file.
     virtual bool createFile(const QString &path);
-    /*! Reads the file \a path into this object. After a failure the object is half read and knows no file, so
-       that it cannot be saved over a good one. */
+    //! Reads the file \a path into this object. After a failure the object is incomplete and has no file, so
+    //! that it cannot be saved over a good one.
     virtual bool loadFile(const QString &path);
-    //! Follows the reading of files, in bytes, and may cancel it, which counts as a failure; null for nobody.
+    //! Reports the progress of reading, in bytes, and can cancel it, which counts as a failure. May be null.
     //! Not owned.
     void setProgress(Common::Progress *progress) { m_progress = progress; }
-    //! Writes the file again; false when it is no longer there.
+    //! Writes the file again. Returns false if it no longer exists.
     virtual bool saveFile();
-    /*! Gives the folder and the file that bear \a oldName as theirs \a newName, whatever the object itself is
-       called at the moment. Nothing that is there is replaced. */
+    //! Renames the folder and the file from \a oldName to \a newName, whatever the object's present name is.
+    //! Does not replace existing files.
     virtual bool renameFile(const QString &oldName, const QString &newName);
-    //! Deletes the file, and the object's own folder once nothing else is in it.
+    //! Deletes the file, and the object's own folder if nothing else is in it.
     virtual bool deleteFile();
-    //! The file name that the object wants.
+    //! The name for the file.
     virtual QString createFileName() const = 0;
-    //! The name of the folder that the object wants for itself; empty when it wants none.
+    //! The name for the object's own folder; empty if it needs none.
     virtual QString createSubPath() const;
-    //! Forgets the file, which stays.
+    //! Forgets the file without deleting it.
     virtual void resetFileFields();
 
     const QString &parentPath() const { return m_parentPath; }
     const QString &subPath() const { return m_subPath; }
     const QString &fileName() const { return m_fileName; }
-    //! As createFullFilePath() made it when the fields were set.
+    //! The path from createFullFilePath() at the time when the fields were set.
     const QString &fullFilePath() const { return m_fullFilePath; }
-    //! The folder in which the file lies; empty without a file.
+    //! The folder that contains the file; empty without a file.
     QString folderPath() const;
     void setFileFields(const QString &parentPath, const QString &subPath, const QString &fileName);
-    /*! "parentPath/subPath/fileName", or "parentPath/fileName" without a sub-path. Empty when the parent path
-       is no folder, there is no file name, or one of the names would lead elsewhere ("..", "a/b"). */
+    //! "parentPath/subPath/fileName", or "parentPath/fileName" without a sub-path. Empty if the parent path
+    //! is not a folder, the file name is empty, or a name would lead elsewhere ("..", "a/b").
     static QString createFullFilePath(const QString &parentPath, const QString &subPath,
                                       const QString &fileName);
 
-    //! Why the last file operation failed, for the user; empty after one that did not.
+    //! Why the last file operation failed, for the user; empty if it succeeded.
     const QString &fileError() const { return m_fileError; }
-    //! What the last loadFile() did not take over as it stands.
+    //! The notes of the last loadFile() about parts that were not read as they are.
     const QList<ReadNote> &readNotes() const { return m_readNotes; }
 
 protected:
@@ -74,15 +74,15 @@ protected:
         : DesignerObject(parent)
     { }
 
-    //! Runs when the file fields were set or reset; while a file is being read, before its first byte.
+    //! Called when the file fields were set or reset; during loading, before the first byte is read.
     virtual void afterFileFieldsChanged();
 
-    //! Writes the file that is there. An error is for fileError(), here and below.
+    //! Writes the existing file. Here and below, an error is passed to fileError().
     virtual bool writeAgain(QString *error);
-    //! Gives the file, and the object's own folder, other names, which nothing has. Both or none.
+    //! Renames the file and the object's own folder; the new names must not exist. Renames both or neither.
     virtual bool renameEntries(const QString &fileName, const QString &subPath, QString *error);
 
-    //! Keeps the text for fileError(); false when there is one.
+    //! Stores the text for fileError(). Returns whether it is empty.
     bool finish(const QString &error);
 
 private:

@@ -18,22 +18,22 @@ class PropertyEditor;
 class Template;
 class Wizard;
 
-/*! What a plug-in implements to bring object classes, editors and canvas items. Each of the lists of names
-   says what the create operation beside it accepts. */
+//! The interface of a plug-in with object classes, editors and canvas items. Each list of names contains what
+//! the create operation next to it accepts.
 class CORVEX_EXPORT IDesignerFactory
 {
 public:
     virtual ~IDesignerFactory() = default;
 
-    //! A new object that is not initialised yet; null for a name that is not in creatableNames(). Checks and
-    //! builds call it in several threads at once.
+    //! A new object that is not initialised yet; null if the name is not in creatableNames(). Checks and
+    //! builds call it from several threads at once.
     virtual DesignerObject *createObject(const QString &className, QObject *parent) = 0;
     virtual GraphicsItem *createGraphicsItem(const QString &className, DesignerObject *object) = 0;
     virtual PropertyEditor *createEditor(const QString &editorName, QWidget *parent) = 0;
     virtual Template *createTemplate(const QString &className, QObject *parent) = 0;
     virtual Wizard *createWizard(const QString &wizardName) = 0;
 
-    //! The classes that have a base name and a display name, abstract ones among them.
+    //! The classes that have a base name and a display name, including abstract ones.
     virtual QStringList objectNames() const = 0;
     virtual QMap<QString, QString> classBaseNames() const = 0;
     virtual QMap<QString, QString> classDisplayNames() const = 0;

@@ -14,8 +14,8 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! Root of everything in the model. Kinds are told apart by class-name strings and never by the language's
-//! own run-time types, so that they hold across plug-ins.
+//! The root of all classes in the model. Classes are identified by class-name strings, never by C++ run-time
+//! types, so that this works across plug-ins.
 class CORVEX_EXPORT IDesignerObject
 {
 public:
@@ -27,8 +27,8 @@ public:
     virtual bool initialize() = 0;
 
     bool isKindOfClass(const QString &name) const { return classNames().contains(name); }
-    //! Whether the class writes its XML by a convertToXmlDocument() of its own. CORVEX_CLASS_NAMES knows; a
-    //! class without it may have one.
+    //! Whether the class overrides convertToXmlDocument(). CORVEX_CLASS_NAMES implements this; a class
+    //! without the macro may have an override although this returns false.
     virtual bool hasOwnXmlDocument() const { return false; }
 
 protected:
@@ -38,7 +38,7 @@ protected:
 };
 
 //! Whether Class or a class between it and DesignerObject overrides convertToXmlDocument(): the name then
-//! means a member of another class. Where it cannot be seen it is taken for overridden.
+//! means a member of another class. If this cannot be determined, assumes an override.
 template<class Class>
 constexpr bool overridesXmlDocument()
 {
@@ -54,9 +54,9 @@ constexpr bool overridesXmlDocument()
 
 } // namespace Halvane::Corvex::Designer
 
-//! Declares className() and classNames() of a concrete class, and kindName() for kindCast(); \a Base is the
-//! class whose chain it extends. The chain is built once for all instances. A class that declares them by
-//! hand is written by its convertToXmlDocument(), which takes longer.
+//! Declares className(), classNames() and, for kindCast(), kindName() of a concrete class that derives from
+//! \a Base. The list is built once for all instances. A class that declares these functions by hand is
+//! written by its convertToXmlDocument(), which is slower.
 #define CORVEX_CLASS_NAMES(Class, Base)                                                                      \
 public:                                                                                                      \
     static QString kindName()                                                                                \

@@ -19,7 +19,7 @@ bool ItemList::bears(const DesignerObject *item, const QString &name) const
 
 qsizetype ItemList::indexOf(const DesignerObject *item) const
 {
-    // Lists grow at their end, and are emptied from either.
+    // Lists grow at their end and are emptied from either end.
     const bool isFirst = !m_items.isEmpty() && m_items.constFirst() == item;
     return isFirst ? 0 : m_items.lastIndexOf(const_cast<DesignerObject *>(item));
 }
@@ -66,7 +66,7 @@ ItemPlace ItemList::placeOf(const DesignerObject *item) const
     return {index, keptUpTo(index)};
 }
 
-//! How many kept items come before the item of that index.
+//! The number of kept items before the item with that index.
 qsizetype ItemList::keptUpTo(qsizetype index) const
 {
     return std::ranges::upper_bound(m_kept, index, {}, &KeptItem::itemsBefore) - m_kept.cbegin();
@@ -110,7 +110,7 @@ void ItemList::replaceAt(qsizetype index, DesignerObject *item)
 void ItemList::move(qsizetype from, qsizetype to)
 {
     m_items.move(from, to);
-    // A new item goes to its place past what is kept, as if it had come in there.
+    // Insert a new item past the kept items, as if it had been inserted there.
     if (m_hasNewestComeIn) {
         shiftKept(keptUpTo(from), -1);
         shiftKept(keptUpTo(to), 1);

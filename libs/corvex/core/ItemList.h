@@ -12,32 +12,32 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! An item of a stored list that could not be made into an object, kept to be written back as it was.
+//! A stored list item that could not be read as an object, kept unchanged to be written back.
 struct CORVEX_EXPORT KeptItem
 {
-    QByteArray xml; //!< the element in UTF-8, its lines parted by "\n", indented from level 0
+    QByteArray xml; //!< the element in UTF-8, its lines separated by "\n", indented from level 0
     QString className;
-    QString name; //!< its identifier name, empty when none could be made out
+    QString name; //!< its identifier name; empty if unknown
     //! Kept because an earlier item has the same name.
     bool isNamesake = false;
-    qsizetype itemsBefore = 0; //!< how many items of the list come before it
+    qsizetype itemsBefore = 0; //!< the number of list items before it
 };
 
-//! Where an item is among the items of a list and those that are kept.
+//! A position among the items and kept items of a list.
 struct CORVEX_EXPORT ItemPlace
 {
-    qsizetype index = -1;      //!< among the items; -1 when it is not in the list
-    qsizetype keptBefore = -1; //!< how many kept items come before it; -1 for all that its index allows
+    qsizetype index = -1;      //!< among the items; -1 if it is not in the list
+    qsizetype keptBefore = -1; //!< the number of kept items before it; -1 for the maximum at this index
 };
 
-/*! The children of a list property: in order, and found by identifier name in constant time. Most lists of a
-    project are short; those are searched without an index.
+/*! The children of a list property, in order, with lookup by identifier name in constant time. Most lists of
+    a project are short; those are searched without an index.
 
-    The list owns nothing. Call rekey() when an item was renamed. Two items may have the same name, since the
-    model stores bad names and marks them; find() then returns the first in list order.
+    The list owns nothing. Call rekey() after an item was renamed. Two items may have the same name, because
+    the model stores bad names and marks them; find() then returns the first in list order.
 
-    Kept items have places of their own between the items. They move when an item is inserted or removed
-    before them, and stay when items change places among themselves.
+    Kept items have positions of their own between the items. These shift when an item is inserted or removed
+    before them, and do not change when items swap places.
 */
 class CORVEX_EXPORT ItemList
 {
@@ -50,27 +50,27 @@ public:
     qsizetype indexOf(const DesignerObject *item) const;
     ItemPlace placeOf(const DesignerObject *item) const;
     DesignerObject *find(const QString &name) const;
-    //! How many items bear that name.
+    //! The number of items with that name.
     qsizetype countOf(const QString &name) const { return named(name).size(); }
 
-    //! The index of the place is at most the number of items.
+    //! The index must not exceed the number of items.
     void insert(ItemPlace place, DesignerObject *item);
     void removeAt(qsizetype index);
     void replaceAt(qsizetype index, DesignerObject *item);
-    //! Moves an item; \a to is its index afterwards. Kept items make way for the newest item if it was just
-    //! inserted, and stay otherwise.
+    //! Moves an item; \a to is its index afterwards. Kept items shift if the item is the newest one and was
+    //! just inserted; otherwise they stay.
     void move(qsizetype from, qsizetype to);
-    //! For a list whose newest item is in its place.
+    //! Call it when the newest item is in its final position.
     void forgetNewest();
-    //! Takes over \a order, which holds the same items.
+    //! Replaces the order; \a order contains the same items.
     void reorder(const QList<DesignerObject *> &order) { m_items = order; }
-    //! Moves \a item from its old name to its present one; harmless if that was done before.
+    //! Re-indexes \a item from its old name to its present one; harmless if repeated.
     void rekey(const QString &oldName, DesignerObject *item);
 
     bool hasKeptItems() const { return !m_kept.isEmpty(); }
-    //! All that is kept, in list order.
+    //! All kept items, in list order.
     const QList<KeptItem> &keptItems() const { return m_kept; }
-    //! Keeps \a kept at the end of the list.
+    //! Adds \a kept at the end of the list.
     void keep(const KeptItem &kept);
     void dropKeptItems() { m_kept.clear(); }
     //! Visits items and kept items in the order in which they are stored.
@@ -88,14 +88,14 @@ public:
         }
     }
 
-    //! The number of items whose object is invalid, as counted by the objects themselves.
+    //! The number of invalid items, updated by the objects themselves.
     qsizetype invalidCount = 0;
-    //! Items stay where they are put, for example while a stored list is being read.
+    //! If set, items are not sorted, for example while a stored list is being read.
     bool isOrderingPaused = false;
-    //! False when more than one item may be out of order.
+    //! False if more than one item may be out of order.
     bool isOrdered = true;
-    //! The index of the item that was inserted or renamed last. It is the only one out of order if isOrdered;
-    //! -1 if the list has no such item.
+    //! The index of the item that was inserted or renamed last; -1 if there is none. If isOrdered, it is the
+    //! only item that may be out of order.
     qsizetype newestIndex = -1;
 
 private:
@@ -105,7 +105,7 @@ private:
     QList<DesignerObject *> named(const QString &name) const;
 
     QList<DesignerObject *> m_items;
-    NameIndex m_byName; //!< of a list that was short so far it holds nothing
+    NameIndex m_byName; //!< empty as long as the list is short
     bool m_isIndexed = false;
     bool m_hasNewestComeIn = false; //!< the newest item was inserted, not renamed
     QList<KeptItem> m_kept;         //!< in list order

@@ -37,35 +37,35 @@ public:
     //! A renamed object is found by its new name already; a list that it is in may report moved() next.
     virtual void valueChanged(const SharedProperty & /*property*/, const QString & /*previousValue*/) { }
 
-    //! \a index is where the object will be, in a list that sorts itself, too.
+    //! \a index is the final index of the object, also in a sorted list.
     virtual void aboutToInsert(const SharedProperty & /*list*/, qsizetype /*index*/,
                                DesignerObject * /*object*/)
     { }
     virtual void inserted(const SharedProperty & /*list*/, qsizetype /*index*/, DesignerObject * /*object*/)
     { }
-    //! The object is still in its place and knows its project and screen. If it is being deleted, it may be a
-    //! bare DesignerObject by now, but its properties and children are all there.
+    //! The object is still in its place and knows its project and screen. If it is being deleted, it may
+    //! already be reduced to a DesignerObject, but its properties and children still exist.
     virtual void aboutToRemove(const SharedProperty & /*list*/, qsizetype /*index*/,
                                DesignerObject * /*object*/)
     { }
-    //! If the object is being deleted, only its address is still of use.
+    //! If the object is being deleted, only its address may be used.
     virtual void removed(const SharedProperty & /*list*/, qsizetype /*index*/, DesignerObject * /*object*/) {
     }
     //! Both indexes are those of the moved object: \a from before the move, \a to after it.
     virtual void aboutToMove(const SharedProperty & /*list*/, qsizetype /*from*/, qsizetype /*to*/) { }
     virtual void moved(const SharedProperty & /*list*/, qsizetype /*from*/, qsizetype /*to*/) { }
-    //! A list that sorts itself may report moved() next.
+    //! A sorted list may report moved() next.
     virtual void aboutToReplace(const SharedProperty & /*list*/, qsizetype /*index*/,
                                 DesignerObject * /*oldObject*/, DesignerObject * /*newObject*/)
     { }
     virtual void replaced(const SharedProperty & /*list*/, qsizetype /*index*/,
                           DesignerObject * /*oldObject*/, DesignerObject * /*newObject*/)
     { }
-    //! More than one item changes its place. Keep listItems(), which costs nothing, to find the old places.
+    //! Several items will change their places. Keep listItems(), which is cheap, to find the old places.
     virtual void aboutToReorder(const SharedProperty & /*list*/) { }
     virtual void reordered(const SharedProperty & /*list*/) { }
 
-    //! The failure() of the property, or the reason for it, may be another one.
+    //! The failure() of the property, or the reason for it, may have changed.
     virtual void validityChanged(const SharedProperty & /*property*/) { }
     //! The isValid() of the object may have changed; follows what its properties report.
     virtual void objectValidityChanged(DesignerObject * /*object*/) { }
@@ -75,7 +75,7 @@ public:
 
     //! All objects of the project are about to be deleted. Forget them now.
     virtual void projectAboutToLoad() { }
-    //! The project holds what the file holds, or a part of it after an error. Read all of it.
+    //! The project has the contents of the file, or a part of them after an error. Read everything again.
     virtual void projectLoaded() { }
     //! The file of the project was written.
     virtual void projectSaved() { }

@@ -12,9 +12,8 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-/*! The observers of one project, in the order in which they were added. The project owns this registry, and
-    its objects reach it without knowing the project. It owns none of the observers.
-*/
+//! The observers of one project, in the order of their addition. The project owns this registry; its objects
+//! access it without knowing the project. The observers are not owned.
 class CORVEX_EXPORT ModelObservers
 {
     Q_DISABLE_COPY_MOVE(ModelObservers)
@@ -23,7 +22,7 @@ public:
     ModelObservers() = default;
     ~ModelObservers();
 
-    //! An observer follows one project at a time and leaves the one before.
+    //! An observer follows one project at a time; this removes it from the previous one.
     void add(ModelObserver *observer);
     void remove(ModelObserver *observer);
     //! The first observer of the class \a Kind, or null.
@@ -43,7 +42,7 @@ private:
     friend class DesignerProperty;
     friend class Project;
 
-    //! A child that is coming to a place, leaving it, or both.
+    //! A child that is being inserted, removed or replaced.
     struct Exchange
     {
         SharedProperty list;
@@ -52,22 +51,22 @@ private:
         DesignerObject *newObject; //!< null for a removal
     };
 
-    //! Whether anybody hears of changes.
+    //! Whether changes are reported to anybody.
     bool isActive() const { return !m_observers.empty() && !m_isLoading; }
     //! Whether an observer is being called, so that the model must not change.
     bool isCalling() const { return m_callDepth > 0; }
-    //! Whether the object is in an exchange, or below an object that is.
+    //! Whether the object is part of an exchange, or below an object that is.
     bool isOnItsWay(const DesignerObject *object) const;
 
     void reportDeferred();
     template<class... Parameters, class... Arguments>
     void call(void (ModelObserver::*operation)(Parameters...), const Arguments &...arguments);
-    //! Reports what is about to happen.
+    //! Reports that a change is about to happen.
     void beginExchange(const Exchange &exchange);
-    //! Reports that it has happened, if \a object is the old or the new one of an exchange that has begun.
+    //! Reports that the change has happened, if \a object is the old or the new object of a running exchange.
     void endExchange(const DesignerObject *object);
-    //! Report that the failure of a property, or that isValid() of an object, has changed; after the exchange
-    //! if there is one, in the middle of which indexes are of no use.
+    //! Report that the failure of a property, or isValid() of an object, has changed. During an exchange,
+    //! when indexes are invalid, this is postponed until its end.
     void reportValidity(const SharedProperty &property);
     void reportObjectValidity(DesignerObject *object);
     void beginLoad();
@@ -76,8 +75,8 @@ private:
     void release();
     void dropGaps();
 
-    std::vector<ModelObserver *> m_observers; //!< null where one left while observers were called
-    std::vector<Exchange> m_exchanges;        //!< a hook may begin another one
+    std::vector<ModelObserver *> m_observers; //!< null for observers removed during a call
+    std::vector<Exchange> m_exchanges;        //!< nested, if a hook begins another one
     std::vector<SharedProperty> m_deferred;   //!< whose validity changed during an exchange
     std::vector<QPointer<DesignerObject>> m_deferredObjects;
     int m_callDepth = 0;
@@ -89,7 +88,7 @@ void ModelObservers::call(void (ModelObserver::*operation)(Parameters...), const
 {
     Q_ASSERT_X(!isCalling(), "ModelObserver", "An observer must not change the model.");
     ++m_callDepth;
-    // Those that are added meanwhile hear from the next operation on.
+    // Observers added during the call are notified from the next change on.
     const std::size_t count = m_observers.size();
     for (std::size_t i = 0; i < count; ++i) {
         if (ModelObserver *observer = m_observers[i]) {

@@ -53,7 +53,7 @@ bool NameIndex::remove(const QString &name, const DesignerObject *object)
     if (!m_objects[free]) {
         return false;
     }
-    // Those after it move up, as far as they may, so that no search ends at the place that is free now.
+    // Move later entries up where possible, so that no search ends at the free place.
     for (size_t place = next(free); m_objects[place]; place = next(place)) {
         const size_t home = m_hashes[place] & (m_objects.size() - 1);
         const bool mayMove = free <= place ? home <= free || home > place : home <= free && home > place;

@@ -12,36 +12,37 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-/*! Finds objects by their names in constant time, several of one name among them. It owns nothing and keeps
-   no names: an object that gets another name is removed under the old one and inserted again. */
+//! Finds objects by name in constant time; several objects may have the same name. Owns nothing and stores no
+//! names: a renamed object must be removed under its old name and inserted again.
 class CORVEX_EXPORT NameIndex
 {
 public:
     void insert(DesignerObject *object);
-    //! \a name is the one that the object had when it came in; false when it is not here under that name.
+    //! \a name is the name at the time of insertion. Returns false if the object is not indexed under that
+    //! name.
     bool remove(const QString &name, const DesignerObject *object);
     void clear() { *this = {}; }
 
     bool contains(const QString &name) const { return count(name) > 0; }
-    //! Whether \a object is here under that name.
+    //! Whether \a object is indexed under that name.
     bool contains(const QString &name, const DesignerObject *object) const;
     qsizetype count(const QString &name) const;
-    //! In no order.
+    //! In no particular order.
     QList<DesignerObject *> find(const QString &name) const;
-    //! All of them, in no order.
+    //! All objects, in no particular order.
     QList<DesignerObject *> objects() const;
 
 private:
     static quint32 hashOf(const QString &name) { return quint32(qHash(name)); }
     size_t next(size_t place) const { return (place + 1) & (m_objects.size() - 1); }
-    //! Calls \a found with the place of each object that bears the name, until it returns true.
+    //! Calls \a found with the place of each object that has the name, until it returns true.
     template<class Found>
     void forEach(const QString &name, Found found) const;
     void put(DesignerObject *object, quint32 hash);
     void grow();
 
-    std::vector<DesignerObject *> m_objects; //!< a power of two of places, null where nothing is
-    std::vector<quint32> m_hashes;           //!< of the names, at the same places
+    std::vector<DesignerObject *> m_objects; //!< the size is a power of two; null for a free place
+    std::vector<quint32> m_hashes;           //!< of the names, by place
     size_t m_count = 0;
 };
 

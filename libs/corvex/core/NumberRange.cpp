@@ -13,7 +13,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Without an exponent as far as the limits of properties go.
+//! Without an exponent for all limits that properties use.
 QString numberText(double number)
 {
     constexpr int digits = 15;

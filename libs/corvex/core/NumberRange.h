@@ -10,22 +10,22 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The numbers that a property takes. Its row gives them as editor parameters: "minimum" and "maximum", or
-//! "above" for a limit that the number must exceed.
+//! The range of numbers that a property accepts. Its row sets it as editor parameters: "minimum" and
+//! "maximum", or "above" for a limit that the number must exceed.
 struct CORVEX_EXPORT NumberRange
 {
     double minimum = -std::numeric_limits<double>::infinity();
     double maximum = std::numeric_limits<double>::infinity();
-    bool isAbove = false; //!< the minimum itself is too small
+    bool isAbove = false; //!< the minimum itself is excluded
 
     static NumberRange of(const QVariantMap &editorParameters);
 
-    //! Not a number is in every range.
+    //! Every range contains NaN.
     bool contains(double number) const
     {
         return !(number < minimum || number > maximum || (isAbove && number == minimum));
     }
-    //! "from 10 to 100", "from 1 on"; empty when the range has no limits. Translated.
+    //! "from 10 to 100", "from 1 on"; empty if the range has no limits. Translated.
     QString toString() const;
 
     friend bool operator==(const NumberRange &, const NumberRange &) = default;

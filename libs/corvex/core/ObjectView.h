@@ -11,8 +11,8 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class DesignerProperty;
 
-//! The interface of the canvas item that shows an object. The model reports changes to it and never asks it
-//! anything. Not owned: a view must call resetGraphicsItem() on its object before it is destroyed.
+//! The interface of the canvas item that shows an object. The model reports changes to it and never calls it
+//! otherwise. Not owned: a view must call resetGraphicsItem() on its object before it is destroyed.
 class CORVEX_EXPORT ObjectView : public IDesignerObject
 {
 public:
@@ -23,7 +23,7 @@ public:
                                          DesignerObject *child) = 0;
     //! Children of a list have changed places.
     virtual void orderGraphicsItemChildren(const QSharedPointer<DesignerProperty> &property) = 0;
-    //! The object is being deleted, and what shows it goes with it.
+    //! The object is being deleted; delete what shows it.
     virtual void objectGone() = 0;
 };
 

@@ -16,9 +16,9 @@ class DesignerObject;
 class DesignerProperty;
 class QmlBindings;
 
-// Checks and builds call these in several threads at once, each for other objects: they only read the
-// project.
-//! Validates the value of a property; writes the reason into \a error when it returns false.
+// Checks and builds call these from several threads at once, each for different objects. They must only read
+// the project.
+//! Validates the value of a property. Returns false with the reason in \a error.
 using ValueValidator = bool (*)(const DesignerProperty *property, QString &error);
 //! Decides whether an object may enter or leave a list property.
 using ItemValidator = bool (*)(const DesignerProperty *property, const DesignerObject *item, QString &error);
@@ -28,20 +28,19 @@ using BindingsCreator = QmlBindings (*)(const DesignerProperty *property);
 //! actions cannot set such a property. Prefer a BindingsCreator.
 using QmlCreator = QString (*)(const DesignerProperty *property, int indent);
 
-//! What all instances of a class share about one of their properties. A property copies it when it is changed
-//! on that one instance; a project of a million properties holds some hundred descriptors.
+//! The data about a property that all instances of a class share. A property copies it when it is changed for
+//! that instance only. A project with a million properties has some hundred descriptors.
 struct CORVEX_EXPORT PropertyDescriptor : public QSharedData
 {
     QString id;
-    QByteArray utf8Id; //!< the id as files hold it
+    QByteArray utf8Id; //!< the id in files
     QString name;
     QString editor;
     QVariantMap editorParameters;
-    NumberRange range; //!< what the editor parameters say of numbers
+    NumberRange range; //!< the range from the editor parameters
     QString description;
-    QString
-        initialText; //!< what a property prints as long as it holds the value of its row; null when unknown
-    QByteArray utf8Initial; //!< the same as files hold it
+    QString initialText;    //!< the text of the property while it has the value of its row; null if unknown
+    QByteArray utf8Initial; //!< the same as written in files
     QStringList objectFilters;
     ValueValidator valueValidator = nullptr;
     ItemValidator addValidator = nullptr;

@@ -12,8 +12,8 @@ namespace Halvane::Corvex::Designer {
 
 class PropertyStore;
 
-/*! The properties of an object in the order in which they were made. They are handed out one by one; the
-   object itself holds no list of shared pointers. A range must not outlive its object. */
+//! The properties of an object in order of creation. Shared pointers are created on access; the object itself
+//! has no list of them. A range must not outlive its object.
 class CORVEX_EXPORT PropertyRange
 {
 public:
@@ -55,9 +55,9 @@ public:
     const_iterator begin() const { return {m_store, 0}; }
     const_iterator end() const { return {m_store, size()}; }
     qsizetype size() const;
-    //! The index must be one of the range.
+    //! The index must be in the range.
     SharedProperty at(qsizetype index) const;
-    //! Null where there is none.
+    //! Null for an index out of range.
     SharedProperty value(qsizetype index) const
     {
         return index >= 0 && index < size() ? at(index) : SharedProperty();
@@ -68,9 +68,9 @@ public:
     qsizetype count() const { return size(); }
     bool isEmpty() const { return size() == 0; }
     bool contains(const SharedProperty &property) const { return indexOf(property) >= 0; }
-    //! -1 when it is not one of them.
+    //! -1 if the range does not contain it.
     qsizetype indexOf(const SharedProperty &property) const;
-    //! For those who keep them all: they live on when the object is gone.
+    //! The properties in the list remain valid after the object is deleted.
     QList<SharedProperty> toList() const { return {begin(), end()}; }
     operator QList<SharedProperty>() const { return toList(); }
 
@@ -80,6 +80,6 @@ private:
 
 } // namespace Halvane::Corvex::Designer
 
-//! An iterator points to the object, not to its range.
+//! Iterators refer to the object, not to the range.
 template<>
 inline constexpr bool std::ranges::enable_borrowed_range<Halvane::Corvex::Designer::PropertyRange> = true;

@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! A description without a value, for rows that leave the value alone.
+//! A descriptor without a value, for rows that do not set the value.
 class Description : public DesignerProperty
 {
 public:

@@ -14,33 +14,32 @@ namespace Halvane::Corvex::Designer {
 
 class PropertyStore;
 
-/*! One row of a property table: what a class says about one of its properties.
+/*! One row of a property table: the definition of a property by its class.
 
-    The row holds a prototype; every property made from it shares the prototype's descriptor. Texts are UTF-8;
-    titles, descriptions and tooltips are translated here.
+    The row contains a prototype; every property created from it shares the prototype's descriptor. Texts are
+    UTF-8; titles, descriptions and tooltips are translated here.
 */
 class CORVEX_EXPORT PropertyRow
 {
 public:
-    /*! A row that redescribes a property of the base: it starts as \a described is, and what is called on the
-        row changes it. The value stays. */
+    //! A row that redescribes a property of the base class. It starts as a copy of \a described, and the
+    //! functions called on the row change it. The value is kept.
     static PropertyRow redescribe(const SharedProperty &described);
 
     const QString &id() const { return m_prototype->id(); }
-    //! A property with the description and the value of the row, for the object \a parent to add, which may
-    //! be null.
+    //! A property with the descriptor and the value of the row. \a parent, which may be null, must add it.
     SharedProperty make(DesignerObject *parent) const;
 
     PropertyRow &rank(int rank);
     PropertyRow &flags(int flags);
-    //! For editors that the property's class does not set by itself.
+    //! For editors that the property's class does not set itself.
     PropertyRow &editor(const char *editorName);
     PropertyRow &parameter(const char *key, const QVariant &value);
     PropertyRow &tooltip(const char *text);
     PropertyRow &description(const char *text);
-    //! For a text with placeholders, translated and filled by the caller.
+    //! For a text with placeholders that the caller has translated and filled.
     PropertyRow &description(const QString &text);
-    //! Keeps values that fail validation, marked.
+    //! Keeps invalid values and marks them.
     PropertyRow &allowInvalid();
     //! Not shown in the property panel until the object shows it.
     PropertyRow &hidden() { return parameter("visible", false); }
@@ -60,7 +59,7 @@ private:
     friend class PropertyStore;
 
     using Maker = SharedProperty (*)(DesignerObject *parent, const DesignerProperty &prototype);
-    //! Makes a property in the memory that it is given.
+    //! Constructs a property in the given memory.
     using Builder = DesignerProperty *(*)(void *place, const DesignerProperty &prototype);
 
     PropertyRow(const SharedProperty &prototype, Maker maker, Builder builder, size_t size);
@@ -72,17 +71,17 @@ private:
     SharedProperty m_prototype;
     Maker m_maker;
     Builder m_builder;
-    size_t m_size; //!< of a property in bytes
+    size_t m_size; //!< the size of a property in bytes
     bool m_overridesValue = false;
 };
 
-/*! A row for a property of the class \a Property, which starts with \a initialValue. Property has a protected
-   or public constructor Property(DesignerObject *parent, const Property &prototype), as TypedProperty gives
-   it. The parent is null there, and set afterwards. */
+//! A row for a property of the class \a Property with \a initialValue. Property has a protected or public
+//! constructor Property(DesignerObject *parent, const Property &prototype), as in TypedProperty. The parent
+//! is null in the constructor and set afterwards.
 template<class Property, class Value>
 PropertyRow row(const char *id, const char *title, const Value &initialValue)
 {
-    // Opens the constructor from a prototype, which is nobody else's business, to the row.
+    // Gives the row access to the constructor from a prototype.
     struct Made : public Property
     {
         Made(DesignerObject *parent, const Property &prototype)
@@ -103,7 +102,7 @@ PropertyRow row(const char *id, const char *title, const Value &initialValue)
         sizeof(Made));
 }
 
-//! The properties of one class, in the order in which its objects get them. Made once per class.
+//! The properties of one class, in their order in the objects. Created once per class.
 class CORVEX_EXPORT PropertyTable
 {
 public:
@@ -112,20 +111,20 @@ public:
 private:
     friend class DesignerObject;
 
-    //! Where rows find the properties that they redescribe, for objects with these properties.
+    //! For objects with these properties: where the rows find the properties that they redescribe.
     struct Places
     {
         QStringList ids;
-        std::vector<qsizetype> places; //!< for each row an index of ids; -1 for a row that makes a property
+        std::vector<qsizetype> places; //!< for each row an index of ids; -1 for a row that creates a property
     };
 
-    //! The same for all objects of a class, and looked up once.
+    //! The same for all objects of a class, and cached.
     const std::vector<qsizetype> &placesAmong(const PropertyStore &properties) const;
     bool redescribe(const PropertyRow &row, DesignerProperty &property) const;
 
     std::vector<PropertyRow> m_rows;
-    mutable std::mutex m_mutex;         //!< objects are made in several threads
-    mutable std::list<Places> m_places; //!< never changed once they are there
+    mutable std::mutex m_mutex;         //!< objects are created in several threads
+    mutable std::list<Places> m_places; //!< entries never change
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -19,8 +19,8 @@ CORVEX_EXPORT QString print(const QmlBindings &bindings, int indent);
 CORVEX_EXPORT QString block(const QStringList &lines);
 //! The text between double quotes, made safe.
 CORVEX_EXPORT QString quoted(const QString &text);
-/*! The QML id of the object with that identifier name. Empty when the name holds anything but letters, digits
-    and "_": nothing is generated that refers to such an object. */
+//! The QML id of the object with that identifier name. Empty if the name contains anything but letters,
+//! digits and "_"; such objects are never referred to in generated code.
 CORVEX_EXPORT QString reference(const QString &name);
 //! "[a, b]"
 CORVEX_EXPORT QString array(const QStringList &values);

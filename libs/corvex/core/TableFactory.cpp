@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! A name of \a className in the user's language; the two kinds of names have keys of their own.
+//! A name of \a className in the user's language. The two kinds of names have different keys.
 QString translated(QLatin1StringView kind, const char *className, const QString &otherwise)
 {
     const QString key = kind + QLatin1StringView(className);

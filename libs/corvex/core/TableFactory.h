@@ -9,7 +9,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! One class that a factory brings. Texts are UTF-8; the display name is translated.
+//! A class that a factory creates. Texts are UTF-8; the display name is translated.
 struct ClassRow
 {
     using Make = DesignerObject *(*)(QObject *parent);
@@ -17,17 +17,17 @@ struct ClassRow
     const char *className;
     Make make;                      //!< null for an abstract class, which only has names; see makeObject
     const char *baseName = nullptr; //!< the stem of the names of new objects; null for a class without names
-    const char *displayName = nullptr; //!< what the user calls it
+    const char *displayName = nullptr; //!< the name of the class for users
 };
 
-//! One class of canvas items that a factory brings.
+//! A class of canvas items that a factory creates.
 struct ItemRow
 {
     const char *className;
     GraphicsItem *(*make)(DesignerObject *object);
 };
 
-//! Makes an object of a class whose constructor is protected, for the row of the class.
+//! Creates an object of a class with a protected constructor, for the row of the class.
 template<class Class>
 DesignerObject *makeObject(QObject *parent)
 {
@@ -46,11 +46,12 @@ GraphicsItem *makeItem(DesignerObject *object)
     return new Item(object);
 }
 
-/*! A factory that is described by tables. A plug-in derives its root object from QObject and from this class,
-   and hands over its tables; it overrides more only when it brings editors, templates or wizards.
+/*! A factory defined by tables. The root object of a plug-in derives from QObject and from this class, and
+    passes its tables to the constructor. It only overrides more if it has editors, templates or wizards.
 
-    A display name or base name is translated under the keys "DISPLAYNAME:Class" and "BASENAME:Class" when a
-    translation has them. */
+    Display names and base names are translated under the keys "DISPLAYNAME:Class" and "BASENAME:Class", if a
+    translation contains them.
+*/
 class CORVEX_EXPORT TableFactory : public IDesignerFactory
 {
 public:

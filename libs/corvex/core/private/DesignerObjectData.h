@@ -15,16 +15,17 @@ struct DesignerObject::Data
     QWeakPointer<DesignerProperty> listProperty;
     HoldingLists lists;
     Project *project = nullptr;
-    ModelObservers *observers = nullptr; //!< of the project; null out of projects
+    ModelObservers *observers = nullptr; //!< of the project; null outside of projects
     Screen *screen = nullptr;
     ObjectView *view = nullptr;
-    std::unique_ptr<QStringList> validationErrors; //!< null for none
-    bool mayHaveChildren = false;                  //!< false when no property is a list or an object
+    std::unique_ptr<QStringList> validationErrors; //!< null if there are none
+    bool mayHaveChildren = false;                  //!< false if no property is a list or an object
     bool isValid = true;
     bool validationErrorSet = false;
     bool validationDisabled = false;
     bool isValidatingChildren = false;
-    bool hasRefusedValue = false; //!< some property tells why it refused a value, not how it is itself
+    bool hasRefusedValue = false; //!< the error of some property concerns a refused value, not its present
+                                  //!< one
 };
 
 } // namespace Halvane::Corvex::Designer

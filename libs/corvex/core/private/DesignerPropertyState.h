@@ -14,12 +14,12 @@ namespace Halvane::Corvex::Designer {
 struct DesignerProperty::State
 {
     QSharedDataPointer<PropertyDescriptor> descriptor;
-    DesignerObject *parent = nullptr; //!< of a property that is not in a block
+    DesignerObject *parent = nullptr; //!< of a property outside of a block
     QString error;
     std::unique_ptr<ItemList> items;
     DesignerObject *objectValue = nullptr;
     EditorView *editorWidget = nullptr;
-    // Two properties may be in conflict with each other: pointers that own would never be released.
+    // Weak, because two properties may conflict with each other and would never be released.
     QList<QWeakPointer<DesignerProperty>> conflicts;
 };
 

@@ -8,8 +8,8 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerProperty;
 
-//! The lists that hold an object, in the size of a pointer: one list is kept as its address. The address of a
-//! QList of several, which few objects have, is marked by its lowest bit.
+//! The lists that contain an object, in the size of a pointer. A single list is stored as its address.
+//! Several lists, which are rare, are stored as the address of a QList, marked by its lowest bit.
 class HoldingLists
 {
     Q_DISABLE_COPY_MOVE(HoldingLists)
@@ -27,7 +27,7 @@ public:
         return isEmpty() ? QList<DesignerProperty *>()
                          : QList{reinterpret_cast<DesignerProperty *>(m_address)};
     }
-    //! One that is here already is ignored.
+    //! Ignores a list that is already included.
     void add(DesignerProperty *list)
     {
         if (isEmpty()) {

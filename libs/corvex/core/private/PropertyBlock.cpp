@@ -21,7 +21,7 @@ SharedProperty PropertyBlock::make(const QSharedPointer<PropertyBlock> &block, c
     if (!block || !row.m_builder || taken + sizeFor(row) > block->m_end * unit) {
         return {};
     }
-    // Not every class begins with its part that is a DesignerProperty.
+    // DesignerProperty is not the first base of every class.
     DesignerProperty *property = row.m_builder(block->begin() + block->m_used * unit, *row.m_prototype);
     property->m_blockDistance = Distance((reinterpret_cast<char *>(property) - block->begin()) / unit);
     block->m_used += Distance(units(row.m_size));

@@ -6,22 +6,22 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Properties of one object in one piece of memory, under one count of users: a property that an undo step
-   holds on to keeps those beside it, too. Those that were appended are the object's first ones, in
-   its order. */
+//! Several properties of one object in one piece of memory with a common reference count: an undo step that
+//! holds one property keeps the others, too. The appended properties are the first ones of the object, in its
+//! order.
 class PropertyBlock
 {
     Q_DISABLE_COPY_MOVE(PropertyBlock)
 
 public:
-    //! What a property of that row takes in a block, in bytes; nothing where it cannot be in one.
+    //! The bytes that a property of that row needs in a block; nothing if it cannot be in one.
     static size_t sizeFor(const PropertyRow &row)
     {
         return row.m_builder ? units(row.m_size) * unit + sizeof(Distance) : 0;
     }
-    //! A block with room for so many bytes; \a parent owns the properties in it.
+    //! A block with the given size in bytes; \a parent owns the properties in it.
     static QSharedPointer<PropertyBlock> create(size_t size, DesignerObject *parent);
-    //! The block that the property is in; null outside of blocks.
+    //! The block that contains the property; null outside of blocks.
     static const PropertyBlock *of(const DesignerProperty &property)
     {
         const auto *bytes = reinterpret_cast<const char *>(&property);
@@ -30,7 +30,7 @@ public:
                    : reinterpret_cast<const PropertyBlock *>(bytes - property.m_blockDistance * unit);
     }
 
-    //! A property to be appended later; null when there is no room for it.
+    //! A property to be appended later; null if there is no space for it.
     static SharedProperty make(const QSharedPointer<PropertyBlock> &block, const PropertyRow &row);
     //! The property must be in this block.
     void append(const DesignerProperty &property);
@@ -41,7 +41,7 @@ public:
     }
 
     DesignerObject *parent() const { return m_parent; }
-    //! For an object that goes while somebody still holds on to a property.
+    //! Called when the object is deleted while a property is still in use.
     void leaveParent() { m_parent = nullptr; }
 
 private:
@@ -56,16 +56,16 @@ private:
     static void destroy(PropertyBlock *block);
     static constexpr size_t units(size_t bytes) { return (bytes + unit - 1) / unit; }
     char *begin() { return reinterpret_cast<char *>(this); }
-    //! Behind the distances of all properties: those that were appended, the first one last, and those that
-    //! were not before them.
+    //! The distances of all properties, at the end of the block: first those not appended, then the appended
+    //! ones in reverse order.
     Distance *distances() { return reinterpret_cast<Distance *>(begin() + m_end * unit); }
 
     DesignerObject *m_parent;
-    // In units from the begin of the block.
+    // In units from the start of the block.
     Distance m_used = units(sizeof(PropertyBlock));
     Distance m_end;
     quint16 m_made = 0;
-    quint16 m_count = 0; //!< how many of them were appended
+    quint16 m_count = 0; //!< the number of appended properties
 };
 
 } // namespace Halvane::Corvex::Designer

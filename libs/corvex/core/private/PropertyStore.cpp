@@ -12,7 +12,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The address sanitizer watches each property by itself.
+//! Separate allocations let the address sanitizer check each property.
 #if defined(__SANITIZE_ADDRESS__)
 constexpr bool usesBlocks = false;
 #elif defined(__has_feature)
@@ -21,12 +21,12 @@ constexpr bool usesBlocks = !__has_feature(address_sanitizer);
 constexpr bool usesBlocks = true;
 #endif
 
-//! What the properties of one object of a class need in a block, as measured at one that has none.
+//! The block size for an object of a class, measured on an object without a block.
 struct ClassNeeds
 {
     size_t bytes = 0;
-    size_t sum = 0;                           //!< of the object that is being measured
-    const DesignerObject *measured = nullptr; //!< for comparison alone
+    size_t sum = 0;                           //!< of the object being measured
+    const DesignerObject *measured = nullptr; //!< only compared, never dereferenced
     bool areKnown = false;
 };
 

@@ -9,8 +9,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Where an object keeps its properties, in order: as many as there are in one block, and those after them by
-   themselves. */
+//! Stores the properties of an object in order: as many as possible in one block, the others separately.
 class PropertyStore
 {
 public:
@@ -43,21 +42,21 @@ public:
         return index < inBlock ? m_block->at(index) : (*m_others)[size_t(index - inBlock)].data();
     }
     SharedProperty shared(qsizetype index) const;
-    //! The pointer that others share; null when the property is not one of these.
+    //! The shared pointer to a property; null if the store does not contain it.
     SharedProperty shared(const DesignerProperty *property) const;
 
-    /*! A property of the object \a parent, which this store belongs to, to be appended. It is in the block as
-        long as there is room: each class keeps in mind what its objects needed so far. */
+    //! Creates a property for the object \a parent, which owns this store, to be appended. It is in the block
+    //! as long as there is space; each class remembers what its objects have needed so far.
     SharedProperty make(const PropertyRow &row, DesignerObject *parent);
     void append(const SharedProperty &property);
-    //! For an object that goes while somebody still holds on to a property.
+    //! Called when the object is deleted while a property is still in use.
     void leaveParent();
 
 private:
     qsizetype countInBlock() const { return m_block ? m_block->count() : 0; }
 
     QSharedPointer<PropertyBlock> m_block;
-    std::unique_ptr<std::vector<SharedProperty>> m_others; //!< null for none
+    std::unique_ptr<std::vector<SharedProperty>> m_others; //!< null if there are none
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -32,7 +32,7 @@ protected:
     using TypedProperty::TypedProperty;
 };
 
-//! Compared exactly; its text and its QML are rounded.
+//! Compared exactly, although its text and its QML are rounded.
 class CORVEX_EXPORT RealProperty : public TypedProperty<double>
 {
     CORVEX_CLASS_NAMES(RealProperty, DesignerProperty)

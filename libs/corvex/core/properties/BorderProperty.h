@@ -7,8 +7,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A border, 0 to 100 pixels wide. It is drawn inside: where the owner has a property "size", it can fill no
-//! more than half of the shorter side.
+//! A border, 0 to 100 pixels wide. It is drawn inside, so in an object with a property "size" it covers at
+//! most half of the shorter side.
 class CORVEX_EXPORT BorderProperty : public TypedProperty<BorderInfo>
 {
     CORVEX_CLASS_NAMES(BorderProperty, DesignerProperty)

@@ -30,7 +30,7 @@ public:
                       const QList<QColor> &initialValue)
         : TypedProperty(parent, id, name, initialValue, OrdinaryFlags)
     { }
-    //! Starts with that many colours, all of them black.
+    //! Starts with that many black colours.
     ColorListProperty(DesignerObject *parent, const QString &id, const QString &name, int count)
         : ColorListProperty(parent, id, name, QList<QColor>(count, QColor(Qt::black)))
     { }

@@ -13,7 +13,7 @@ bool EnumProperty::validateValue(QString &error) const
     return value().isValid() || ValidationError::set(error, "The enumeration value is invalid.");
 }
 
-//! The keys.
+//! Lists the keys.
 QString EnumProperty::formText() const
 {
     QStringList keys;

@@ -17,7 +17,7 @@ struct TextForm<EnumInfo>
     static QString print(const EnumInfo &value) { return value.valueString(); }
 };
 
-//! A value of the enumeration that comes with the initial value. Its text is the value's key.
+//! A value of an enumeration, which is that of the initial value. Its text is the key of the value.
 class CORVEX_EXPORT EnumProperty : public TypedProperty<EnumInfo>
 {
     CORVEX_CLASS_NAMES(EnumProperty, DesignerProperty)

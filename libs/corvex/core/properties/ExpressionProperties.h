@@ -13,7 +13,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! One term of an expression. Those who use it compile it; it writes no QML of its own.
+//! One term of an expression. Its users compile it; it writes no QML itself.
 class CORVEX_EXPORT GeneralDataProperty : public TypedProperty<GeneralDataInfo>
 {
     CORVEX_CLASS_NAMES(GeneralDataProperty, DesignerProperty)
@@ -22,7 +22,7 @@ public:
     using TypedProperty::TypedProperty;
 };
 
-//! An expression. Those who use it compile it; it writes no QML of its own.
+//! An expression. Its users compile it; it writes no QML itself.
 class CORVEX_EXPORT GeneralDataListProperty : public TypedProperty<GeneralDataList>
 {
     CORVEX_CLASS_NAMES(GeneralDataListProperty, DesignerProperty)
@@ -31,7 +31,7 @@ public:
     using TypedProperty::TypedProperty;
 };
 
-//! Two comparisons of a value; in QML the function that makes them.
+//! Two comparisons of a value; in QML the function that evaluates them.
 class CORVEX_EXPORT ConditionProperty : public TypedProperty<ConditionInfo>
 {
     CORVEX_CLASS_NAMES(ConditionProperty, DesignerProperty)

@@ -14,7 +14,7 @@ namespace {
 constexpr int minimumStops = 2;
 constexpr int maximumStops = 101;
 
-//! Positions are stored in hundredths: two that share one would be the same stop once they are saved.
+//! Positions are stored in hundredths: two stops in the same hundredth would be the same stop after saving.
 bool hasDuplicatePositions(const QGradientStops &stops)
 {
     QStringList positions;

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The stops of a gradient: 2 to 101 of them, one at most for each hundredth, in at least two colours.
+//! The stops of a gradient: 2 to 101, at most one for each hundredth, in at least two colours.
 class CORVEX_EXPORT GradientStopsProperty : public TypedProperty<QGradientStops>
 {
     CORVEX_CLASS_NAMES(GradientStopsProperty, DesignerProperty)

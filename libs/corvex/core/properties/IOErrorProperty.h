@@ -14,7 +14,7 @@ struct CORVEX_EXPORT TextForm<IOErrorInfo>
     static QString print(const IOErrorInfo &info);
 };
 
-//! Gives the record, which has no text of its own, its text: "id: true, io: false".
+//! Defines the text form of the record, which has none itself: "id: true, io: false".
 class CORVEX_EXPORT IOErrorProperty : public TypedProperty<IOErrorInfo>
 {
     CORVEX_CLASS_NAMES(IOErrorProperty, DesignerProperty)

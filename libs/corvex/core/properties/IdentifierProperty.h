@@ -7,21 +7,21 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! An object without a name is saved with its scope and its class, and read again.
+//! An identifier without a name is saved with its scope and its class, and can be read back.
 template<>
 struct CORVEX_EXPORT EmptyForm<IdentifierInfo>
 {
     static std::optional<IdentifierInfo> parse(const QString &text);
 };
 
-//! A project has thousands of identifiers of few scopes and classes, whose texts they share.
+//! A project has thousands of identifiers, but only a few scopes and classes, whose texts are shared.
 template<>
 struct TextForm<IdentifierInfo>
 {
     static IdentifierInfo parseLike(const QString &text, const IdentifierInfo &current, bool *ok)
     {
         const IdentifierInfo info = IdentifierInfo::fromText(text, current, ok);
-        // "name: ;" would be saved as nothing, and nothing is read as the name of a new object.
+        // "name: ;" would be saved as an empty text, and an empty text is read as the name of a new object.
         *ok = *ok && info != IdentifierInfo();
         return info;
     }
@@ -39,7 +39,7 @@ public:
         : TypedProperty(parent, id, name, initialValue, StoredFlag, "IdentifierEditor")
     { }
 
-    //! For an object that is being made; later names go through the object.
+    //! For an object under construction; later names are set through the object.
     void setInitialValue(const IdentifierInfo &info) { setValue(info); }
 
 protected:

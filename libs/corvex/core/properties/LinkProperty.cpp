@@ -33,7 +33,7 @@ DesignerObject *LinkProperty::namesake() const
 
 QmlBindings LinkProperty::convertToBindings() const
 {
-    // QML knows a member of a group by its own name, which ends the path that the link holds.
+    // In QML a member of a group has its own name as id, which is the last part of the path in the link.
     const DesignerObject *target = value().objectId().contains(u'.') ? connectLink() : nullptr;
     if (!target) {
         return TypedProperty::convertToBindings();

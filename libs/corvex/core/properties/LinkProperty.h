@@ -20,20 +20,19 @@ public:
                         "LinkEditor")
     { }
 
-    /*! The link with the scope and the classes that the property asks for in its editor parameters
-        "scopeType" and "filterType". What they do not say, the stored link says itself. */
+    //! The link with the scope and the classes from the editor parameters "scopeType" and "filterType"; where
+    //! these are missing, the stored link defines them itself.
     ObjectLinkInfo checked(const ObjectLinkInfo &link) const;
 
-    //! The object that the checked link names, as seen from the owner of the property; null when there is
-    //! none.
+    //! The object that the checked link names, seen from the owner of the property; null if there is none.
     DesignerObject *connectLink() const;
-    //! The same as an object of that class; null when it is of another one.
+    //! The same as an object of that class; null if it is of another one.
     template<class Object>
     Object *connectLinkTo() const
     {
         return kindCast<Object>(connectLink());
     }
-    //! The object of that name in the scope of the link, whatever its class.
+    //! The object with that name in the scope of the link, of any class.
     DesignerObject *namesake() const;
 
 protected:

@@ -13,11 +13,11 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! What an item is compared by, worked out once for each sort.
+//! The sort key of an item, computed once for each sort.
 struct SortKey
 {
     int group = 0;
-    QString name; //!< empty in a group that keeps its own order
+    QString name; //!< empty in a group that is not sorted
 };
 
 struct KindGroup
@@ -26,7 +26,7 @@ struct KindGroup
     bool keepsOwnOrder;
 };
 
-//! The groups of OrderRule::KindOrder in the order in which they are laid out.
+//! The groups of OrderRule::KindOrder, in their order.
 constexpr std::array kindGroups{
     KindGroup{"ProjectVariable"_L1, false}, KindGroup{"HardwareElement"_L1, false},
     KindGroup{"FunctionElement"_L1, false}, KindGroup{"FilterElement"_L1, false},
@@ -86,7 +86,7 @@ ObjectListProperty::ObjectListProperty(DesignerObject *parent, const ObjectListP
 
 bool ObjectListProperty::convertToValue(const QString &)
 {
-    return false; // The children change through the parent object alone.
+    return false; // Children only change through the parent object.
 }
 
 QString ObjectListProperty::convertToValueString() const
@@ -141,7 +141,8 @@ void ObjectListProperty::placeNewest(qsizetype index)
     moveItem(index, placeAround(*items().items().at(index), index, index + 1));
 }
 
-//! The index of an item among all others, which are those before \a end and those from \a begin on. It is
+//! The sorted index of an item among all others, which are those before \a end and those from \a begin on. It
+//! is
 //! \a end if the order allows it.
 qsizetype ObjectListProperty::placeAround(const DesignerObject &item, qsizetype end, qsizetype begin) const
 {
@@ -175,7 +176,7 @@ void ObjectListProperty::sortAll()
     const auto isBefore = [this](const auto &left, const auto &right) {
         return isLess(left.first, right.first, m_rule);
     };
-    // What was saved in order needs no more than this look.
+    // Most lists were saved in order and are not sorted again.
     if (std::is_sorted(keyed.begin(), keyed.end(), isBefore)) {
         return;
     }

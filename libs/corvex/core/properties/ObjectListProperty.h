@@ -6,20 +6,20 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! In which order a list keeps its items.
+//! The order of the items in a list.
 enum class OrderRule {
     InsertionOrder = 0,
-    PlainOrder = 1,    //!< by name, code unit by code unit
-    NaturalOrder = 2,  //!< by name as people sort: "pump2" before "pump10"
-    FileNameOrder = 3, //!< by name as file managers sort, the extension last
+    PlainOrder = 1,    //!< by name, by code units
+    NaturalOrder = 2,  //!< by name in natural order: "pump2" before "pump10"
+    FileNameOrder = 3, //!< by name like file managers, comparing the extension last
     KindOrder = 4, //!< variables, hardware, function and filter elements, each by NaturalOrder, then visual
                    //!< elements and then all others, these two in their own order
 };
 
 /*! An ordered list of child objects.
 
-    An item that comes into an ordered list is put in its place by a binary search; a list that is being read
-   is sorted once, when it is complete.
+    An item inserted into a sorted list is placed by a binary search. A list that is being read is sorted
+    once, when it is complete.
 */
 class CORVEX_EXPORT ObjectListProperty : public DesignerProperty
 {
@@ -35,7 +35,7 @@ public:
     QString convertToValueString() const override;
     bool valueIsEqual(const QString &text) const override;
     bool validateValue(QString &error) const override;
-    //! The blocks of the children.
+    //! The QML blocks of the children.
     QString convertToQml(int indent) const override;
     void updateListItems() override;
 

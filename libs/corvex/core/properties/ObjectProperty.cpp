@@ -18,7 +18,7 @@ ObjectProperty::ObjectProperty(DesignerObject *parent, const QString &id, const 
 
 bool ObjectProperty::convertToValue(const QString &)
 {
-    return false; // The child changes through the parent object alone.
+    return false; // The child only changes through the parent object.
 }
 
 QString ObjectProperty::convertToValueString() const

@@ -12,8 +12,8 @@ class CORVEX_EXPORT ObjectProperty : public DesignerProperty
     CORVEX_CLASS_NAMES(ObjectProperty, DesignerProperty)
 
 public:
-    //! \a initialValue, which has no owner yet, becomes the child of \a parent; later ones are set through
-    //! the parent object.
+    //! \a initialValue, which must not have an owner, becomes the child of \a parent. Later children are set
+    //! through the parent object.
     ObjectProperty(DesignerObject *parent, const QString &id, const QString &name,
                    DesignerObject *initialValue = nullptr);
 

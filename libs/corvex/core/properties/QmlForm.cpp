@@ -22,7 +22,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The editor parameters of a property that decide how its value is written.
+//! The editor parameters of a property that affect how its value is written.
 class Writer
 {
 public:
@@ -191,7 +191,8 @@ QmlBindings QmlForm<QGradientStops>::bindings(const DesignerProperty &property, 
 {
     QStringList lines;
     for (const QGradientStop &stop : stops) {
-        // The stored form cuts positions; what is built must not depend on whether it was saved before.
+        // The stored form truncates positions. The build must not depend on whether the project was saved
+        // before.
         const QStringList fields = ValueConversion::toString(QGradientStops{stop}).split(u", "_s);
         lines.append(u"GradientStop { position: "_s + fields.constFirst() + u"; color: "_s
                      + ValueConversion::addQuotes(fields.constLast()) + u" }"_s);
@@ -213,7 +214,7 @@ QmlBindings QmlForm<RangeInfo>::bindings(const DesignerProperty &property, const
 
 QmlBindings QmlForm<ValueRangeInfo>::bindings(const DesignerProperty &property, const ValueRangeInfo &range)
 {
-    // A factor of three decimals would be off by volts.
+    // A factor with three decimals would be wrong by volts.
     constexpr int factorDecimals = 9;
     const Writer writer(property);
     const QString values = QmlText::array({writer.real(range.value1()), writer.real(range.value2())});

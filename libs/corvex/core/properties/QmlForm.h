@@ -32,7 +32,7 @@ class ValueRangeInfo;
 /*! What a property writes into QML, by the type of its value: bindings, most of them with the property's id
    as their name. A type without a form of its own writes nothing.
 
-    Numbers that are not whole have as many decimals as the editor parameter "decimals" says, 3 without it.
+    Numbers that are not whole have as many decimals as the editor parameter "decimals" says, 3 by default.
 */
 template<class Value>
 struct QmlForm
@@ -52,16 +52,16 @@ CORVEX_QML_FORM(double)           // id: 0.5
 CORVEX_QML_FORM(QString)          // id: "text"
 CORVEX_QML_FORM(QColor)           // id: "#FFFF0000"
 CORVEX_QML_FORM(QList<QColor>)    // id: ["#FFFF0000", "#FF00FF00"]
-CORVEX_QML_FORM(QFont)            // id.family: "Arial", and a line for each of the other sides of a font
-CORVEX_QML_FORM(QSizeF)           // id: Qt.size(40, 20); the lines width and height when the id is "size"
-CORVEX_QML_FORM(QPointF)          // id: Qt.point(1, 2); the lines x and y when the id is "position"
+CORVEX_QML_FORM(QFont)            // id.family: "Arial", and one line for each other attribute of a font
+CORVEX_QML_FORM(QSizeF)           // id: Qt.size(40, 20); for the id "size" the lines width and height
+CORVEX_QML_FORM(QPointF)          // id: Qt.point(1, 2); for the id "position" the lines x and y
 CORVEX_QML_FORM(QPolygonF)        // id: [Qt.point(0, 0), Qt.point(1, 2)]
 CORVEX_QML_FORM(QList<QPolygonF>) // id: [[Qt.point(0, 0)], []]
 CORVEX_QML_FORM(QGradientStops)   // id: Gradient { with a line for each stop }
 CORVEX_QML_FORM(BorderInfo)       // id.width: 2 and id.color: "#FFFF0000"
 CORVEX_QML_FORM(RangeInfo)        // id: [0, 100]
-// id: [2, 8], the two values. Where the owner knows its voltages (see ValueRangeProperty) there are two lines
-// more, idFactor and idOffset, the scaling; 0 and 0 when the values are too close for one.
+// id: [2, 8], the two values. If the owner knows its voltages (see ValueRangeProperty), two more lines give
+// the scaling, idFactor and idOffset; both are 0 if the values are too close together.
 CORVEX_QML_FORM(ValueRangeInfo)
 CORVEX_QML_FORM(EnumInfo)       // id: "Key", or the number when the editor parameter "numberOutput" is set
 CORVEX_QML_FORM(ConditionInfo)  // a member without a name: the function validateValue(value)
@@ -69,13 +69,13 @@ CORVEX_QML_FORM(IdentifierInfo) // id: qml_name
 CORVEX_QML_FORM(ObjectLinkInfo) // id: qml_name, or null
 CORVEX_QML_FORM(MapInfo)        // id: [["key", "value"], ["key", "value"]]
 CORVEX_QML_FORM(ListInfo)       // id: ["item", "item"]
-CORVEX_QML_FORM(IOErrorInfo)    // id: ["IdError", "IOError"], those that are set
-CORVEX_QML_FORM(SendErrorInfo)  // the same of TargetBusy, TargetOffline
-// The same of NameDecodeError, TypeDecodeError, ValueDecodeError, DescrDecodeError.
+CORVEX_QML_FORM(IOErrorInfo)    // id: ["IdError", "IOError"], only those that are set
+CORVEX_QML_FORM(SendErrorInfo)  // the same for TargetBusy, TargetOffline
+// The same for NameDecodeError, TypeDecodeError, ValueDecodeError, DescrDecodeError.
 CORVEX_QML_FORM(ReceiveErrorInfo)
 #undef CORVEX_QML_FORM
 
-//! Of types that write numbers, truths and quoted texts alone.
+//! For types that only write numbers, booleans and quoted texts.
 template<class Value>
 inline constexpr bool WritesPlainQml = false;
 template<>
@@ -98,7 +98,7 @@ template<>
 inline constexpr bool WritesPlainQml<RangeInfo> = true;
 template<>
 inline constexpr bool WritesPlainQml<EnumInfo> = true;
-//! A name that the language does not take is refused before it is written.
+//! Names that are not valid in QML are refused before they are written.
 template<>
 inline constexpr bool WritesPlainQml<IdentifierInfo> = true;
 

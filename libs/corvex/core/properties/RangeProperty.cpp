@@ -19,7 +19,7 @@ struct Rule
     const char *sentence;
 };
 
-//! The last one is for ranges that name none of the other styles.
+//! The last rule is for ranges without one of these styles.
 constexpr std::array rules{
     Rule{"MinMax"_L1, [](double minimum, double maximum) { return minimum < maximum; },
          "The minimum value must be less than the maximum value."},

@@ -7,9 +7,9 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Two numbers. How they have to lie is said by the editor parameter "rangeStyle": "MinMax" (the minimum is
-    the smaller one), "MinMaxEqual" (they may be equal), "MaxMin" and "MaxMinEqual" (the other way round).
-    With any other style, and without one, they only have to differ. */
+//! Two numbers. The editor parameter "rangeStyle" defines their order: "MinMax" (the minimum must be
+//! smaller), "MinMaxEqual" (they may be equal), "MaxMin" and "MaxMinEqual" (the other way round). With any
+//! other style, or none, they must only differ.
 class CORVEX_EXPORT RangeProperty : public TypedProperty<RangeInfo>
 {
     CORVEX_CLASS_NAMES(RangeProperty, DesignerProperty)

@@ -6,8 +6,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! How a value type is written and read. A record has a constructor from its text and toString(); the basic
-   kinds are specialised below. */
+//! How a value type is written and read. Records have a constructor from a text and toString(); the basic
+//! types are specialised below.
 template<class Value>
 struct TextForm
 {
@@ -15,16 +15,15 @@ struct TextForm
     static QString print(const Value &value) { return value.toString(); }
 };
 
-/*! Of a kind whose texts mean nothing by themselves: the key of an enumeration is read as one of the
-    enumeration that the value at hand belongs to. Its form is parse(text, current, ok), and it takes no text
-    as empty. */
+//! For types whose texts depend on the present value: the key of an enumeration, for example, is read as a
+//! key of the enumeration of that value. The form has parse(text, current, ok); no text counts as empty.
 template<class Value>
 concept ReadsBesideCurrent = requires(const QString &text, const Value &current, bool *ok)
 {
     TextForm<Value>::parse(text, current, ok);
 };
 
-//! Of a kind whose values share what they have in common with the value at hand: parseLike(text, current,
+//! For types whose values share common data with the present value. The form has parseLike(text, current,
 //! ok).
 template<class Value>
 concept SharesTexts = requires(const QString &text, const Value &current, bool *ok)
@@ -43,7 +42,7 @@ struct TextForm<QString>
     static QString print(const QString &value) { return value; }
 };
 
-//! The basic kinds, by their function of ValueConversion.
+//! The basic types, by their function in ValueConversion.
 #define CORVEX_TEXT_FORM(Value, function)                                                                    \
     template<>                                                                                               \
     struct TextForm<Value>                                                                                   \
@@ -63,7 +62,7 @@ CORVEX_TEXT_FORM(QList<QPolygonF>, toPolygonList)
 CORVEX_TEXT_FORM(QGradientStops, toGradientStops)
 #undef CORVEX_TEXT_FORM
 
-//! Equal texts give one font, whose description they share: a project has thousands of texts in a few fonts.
+//! Equal texts give one shared font: a project has thousands of texts in a few fonts.
 template<>
 struct CORVEX_EXPORT TextForm<QFont>
 {

@@ -9,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! By the numbers of the enumeration. Its meta-object, which has them too, is in a library that is not
+//! Indexed by the numbers of the enumeration. Its meta-object also has the names, but its library is not
 //! linked.
 constexpr std::array names{"TopLeft"_L1, "Top"_L1,        "TopRight"_L1, "Left"_L1,       "Center"_L1,
                            "Right"_L1,   "BottomLeft"_L1, "Bottom"_L1,   "BottomRight"_L1};

@@ -22,7 +22,7 @@ struct CORVEX_EXPORT QmlForm<QQuickItem::TransformOrigin>
     static QmlBindings bindings(const DesignerProperty &property, QQuickItem::TransformOrigin origin);
 };
 
-//! The point about which an item turns and scales; its text is the name of the enumerator.
+//! The point about which an item turns and scales. Its text is the name of the enumerator.
 class CORVEX_EXPORT TransformOriginProperty : public TypedProperty<QQuickItem::TransformOrigin>
 {
     CORVEX_CLASS_NAMES(TransformOriginProperty, DesignerProperty)
@@ -37,9 +37,9 @@ public:
         : TransformOriginProperty(parent, id, name, stringToEnum(originName))
     { }
 
-    //! Center, with ok false, for a name that is none.
+    //! Center, with ok false, for an unknown name.
     static QQuickItem::TransformOrigin stringToEnum(const QString &name, bool *ok = nullptr);
-    //! Empty for a number that is no origin.
+    //! Empty for an invalid number.
     static QString enumToString(QQuickItem::TransformOrigin origin);
 
 protected:

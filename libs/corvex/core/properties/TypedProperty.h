@@ -12,24 +12,24 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The value of a text that the form of its kind refuses and prints all the same.
+//! The value of a text that a form prints for an empty value but does not read itself.
 template<class Value>
 struct EmptyForm
 {
     static std::optional<Value> parse(const QString &text)
     {
-        // The texts of all empty values are this short; longer ones need no second look.
+        // The texts of all empty values are this short; longer ones need no check.
         const bool isEmpty = text.size() <= 1 && text == TextForm<Value>::print(Value());
         return isEmpty ? std::optional(Value()) : std::nullopt;
     }
 };
 
-/*! What all properties that hold a value of the C++ type \a Value have in common: the value, its text by
-    TextForm<Value> and its QML by QmlForm<Value>.
+/*! The base of all properties with a value of the C++ type \a Value: the value, its text by TextForm<Value>
+    and its QML by QmlForm<Value>.
 
-    A text that no form can read counts as equal to every value, so that setting it changes nothing. The text
-   that an empty value prints ("" or "]") reads as the empty value where the form itself refuses it: undo can
-   always go back to empty.
+    A text that cannot be read counts as equal to every value, so that setting it changes nothing. The text of
+    an empty value ("" or "]") is read as the empty value even if the form itself refuses it, so that an undo
+    can always return to empty.
 */
 template<class Value>
 class TypedProperty : public DesignerProperty
@@ -63,7 +63,7 @@ public:
     bool valueIsEqual(const QString &text) const override
     {
         const std::optional<Value> &parsed = parse(text);
-        // Values that compare as equal may have two texts: 0 and -0.
+        // Values that compare as equal may have different texts: 0 and -0.
         return !parsed
                || (*parsed == m_value && TextForm<Value>::print(*parsed) == TextForm<Value>::print(m_value));
     }
@@ -111,7 +111,7 @@ protected:
         }
     }
 
-    // Not by way of the text, which is rounded, and which an invalid value may not have at all.
+    // Does not use the text, which is rounded, and which an invalid value may not even have.
     bool tryValue(const QString &text, Outcome &outcome) override
     {
         std::optional<Value> value = parse(text);
@@ -137,9 +137,9 @@ private:
         std::optional<Value> value;
     };
 
-    /*! The value of \a text, until the next call for a property of this type. A change looks at its text
-        several times: to compare it, to try it and to take it over; and a file has the same few texts again
-       and again, which its reader makes one. Only the first look parses. */
+    //! The parsed \a text, valid until the next call for a property of this type. A change looks at its text
+    //! several times: to compare it, to validate it and to store it. A file contains the same few texts again
+    //! and again, and its reader shares them. Only the first look parses.
     const std::optional<Value> &parse(const QString &text) const
     {
         static thread_local std::array<Parsed, 32> memory;
@@ -148,8 +148,8 @@ private:
         const bool isKnown = known.text.constData() == text.constData() && known.text.size() == text.size();
         if (ReadsBesideCurrent<Value> || text.isEmpty() || !isKnown) {
             known.value = parseAnew(text);
-            // A text without a capacity lies in memory of somebody else, where it may change. Long ones would
-            // stay in memory for nothing.
+            // A text without a capacity refers to foreign memory, which may change. Long texts would waste
+            // memory.
             constexpr qsizetype longest = 512;
             known.text = text.capacity() > 0 && text.size() <= longest ? text : QString();
         }

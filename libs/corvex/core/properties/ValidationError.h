@@ -5,18 +5,18 @@
 
 #include <QString>
 
-//! How the value checks of the property classes write their sentences, and those that several of them use.
-//! What looks beyond a property writes its own: PropertyValidators.
+//! Writes the messages of the property classes' value checks, and contains those that several of them use.
+//! Checks that look beyond a property have their own messages: PropertyValidators.
 namespace Halvane::Corvex::Designer::ValidationError {
 
 inline constexpr auto *invalidColor = "The color is invalid. Please choose a valid color.";
 inline constexpr auto *minimumAboveMaximum = "The minimum value cannot be greater than the maximum value.";
 
-//! Writes the translation of \a sentence into \a error and returns false, which a check can return in turn.
+//! Writes the translated \a sentence into \a error and returns false, so that a check can return the result.
 CORVEX_EXPORT bool set(QString &error, const char *sentence);
-//! The same of a sentence with a number in the place of %1.
+//! The same for a sentence with a number for %1.
 CORVEX_EXPORT bool set(QString &error, const char *sentence, int number);
-//! The same of a sentence with a text in the place of %1.
+//! The same for a sentence with a text for %1.
 CORVEX_EXPORT bool set(QString &error, const char *sentence, const QString &text);
 
 } // namespace Halvane::Corvex::Designer::ValidationError

@@ -17,7 +17,7 @@ namespace {
 
 constexpr double resolution = 0.001;
 
-//! The element that knows the voltages that \a owner works on: its analog input or itself.
+//! The element that knows the voltages of \a owner: its analog input or \a owner itself.
 const DesignerObject *inputOf(const DesignerObject *owner)
 {
     const SharedProperty link = owner->getProperty(u"analogInput");
@@ -29,7 +29,7 @@ const DesignerObject *inputOf(const DesignerObject *owner)
     return owner;
 }
 
-//! The voltages from the lowest to the highest; none when they are unknown or one and the same.
+//! The voltages from the lowest to the highest; nothing if they are unknown or equal.
 std::optional<RangeInfo> voltageRange(const DesignerObject *owner)
 {
     const SharedProperty property = owner ? inputOf(owner)->getProperty(u"voltageRange") : SharedProperty();

@@ -9,17 +9,17 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! The voltages between which an element works, from value1 to value2 within limits.
+/*! The voltage range of an element, from value1 to value2 within limits.
 
-    The element reads an analog input, named by its link "analogInput", which has a "voltageRange" (the text
-    of a RangeInfo or of a ValueRangeInfo); the element may have a "voltageRange" itself instead.
+    The element reads an analog input, which its link "analogInput" names and which has a "voltageRange" (the
+    text of a RangeInfo or a ValueRangeInfo). Alternatively the element itself has a "voltageRange".
 */
 class CORVEX_EXPORT ValueRangeProperty : public TypedProperty<ValueRangeInfo>
 {
     CORVEX_CLASS_NAMES(ValueRangeProperty, DesignerProperty)
 
 public:
-    //! Turns volts into 0 at the first value and 1 at the second: volts * factor + offset.
+    //! Maps volts to 0 at the first value and 1 at the second: volts * factor + offset.
     struct Scaling
     {
         double factor = 0;
@@ -31,9 +31,9 @@ public:
         : TypedProperty(parent, id, name, initialValue, OrdinaryFlags, "ValueRangeEditor")
     { }
 
-    /*! The scaling between the two values of \a range, both taken as far as the input of \a owner reaches.
-        Its factor is 0 when they are less than a thousandth of the voltage range apart, which no input can
-        tell. None when \a owner knows no voltage range. */
+    //! The scaling between the two values of \a range, limited to the voltages of the input of \a owner. Its
+    //! factor is 0 if they differ by less than a thousandth of the voltage range, which no input can resolve.
+    //! Nothing if \a owner knows no voltage range.
     static std::optional<Scaling> scaling(const ValueRangeInfo &range, const DesignerObject *owner);
 
     bool validateValue(QString &error) const override;

@@ -20,14 +20,13 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class ObjectBuilder;
 
-/*! Reads an object and everything below it from XML in UTF-8, in one walk and without a tree of the document.
+/*! Reads an object and everything below it from XML in UTF-8, in one pass and without a document tree.
 
-    The bytes are not trusted: document types and entities of their own, other encodings, elements nested
-   deeper than 512 and values of more than 16 MB end the reading with an error. Properties that the object
-   does not know keep nothing but a note; a list item whose class no factory knows is kept by the list with a
-   note, to be written back. Of a property that is there twice each is taken in turn, so that the later value
-    counts. Validation is switched off on
-   everything that is read and runs once when the root is complete.
+    The bytes are not trusted. Document types, custom entities, other encodings, elements nested deeper than
+    512 and values larger than 16 MB stop the reading with an error. Unknown properties are dropped with a
+    note. A list item of an unknown class is kept by the list, with a note, to be written back. If a property
+    occurs twice, both are applied in order, so that the later value counts. Validation is disabled on
+    everything during the reading and runs once when the root is complete.
 */
 class CORVEX_EXPORT ObjectXmlReader
 {
@@ -35,20 +34,19 @@ public:
     explicit ObjectXmlReader(QIODevice *device);
     ~ObjectXmlReader();
 
-    //! Whether the root is validated when it is complete; it is unless switched off.
+    //! Whether the root is validated when it is complete; true by default.
     void setValidate(bool validate);
-    //! Advances by the bytes that were read; reading that is cancelled ends with an error. Null for nobody.
-    //! Not owned.
+    //! Reports the bytes read, and can cancel the reading, which is an error. May be null. Not owned.
     void setProgress(Common::Progress *progress);
-    /*! Reads into an object of the root's class. Lists that the file holds are emptied first; what the file
-       does not mention stays as it was. After a failure the object is half read. */
+    //! Reads into an object of the root's class. Lists in the file replace the present ones; anything that
+    //! the file does not mention is unchanged. After a failure the object is incomplete.
     bool read(DesignerObject *object);
-    //! Makes the object that the root names through the factory. The caller owns it; null after a failure.
+    //! Creates the object that the root element names. The caller owns it; null after a failure.
     DesignerObject *create();
 
-    //! Everything that was not taken over as it stands.
+    //! Everything that was not read as it is.
     const QList<ReadNote> &notes() const;
-    //! What ended the reading, and where (from 1; 0 when no place can be told).
+    //! The error that stopped the reading, and its place (counted from 1; 0 if unknown).
     QString errorString() const;
     qint64 errorLine() const;
     qint64 errorColumn() const;

@@ -26,13 +26,13 @@ namespace {
 
 constexpr qsizetype bufferSize = 256 * 1024;
 constexpr int rootPropertyLevel = 2;
-// A list of at least so many items is worth threads, and so many parts keep them busy to the end.
+// From this size on a list is worth threads, and is divided into this many parts to keep them busy.
 constexpr qsizetype sharedListSize = 64;
 constexpr qsizetype partsOfList = 64;
 const QString tooLong = u"The value is longer than 16 MB in a file. Please shorten it."_s;
 const QString tooDeep = u"The objects are nested too deeply. Please take it out of some groups."_s;
 
-//! Whether there is text beside the elements in it.
+//! Whether the element contains text besides elements.
 bool hasWords(const QDomElement &element)
 {
     bool found = false;
@@ -227,7 +227,7 @@ void ObjectXmlWriter::writeElement(const QDomElement &element, int level)
     }
 }
 
-//! Blanks and line ends between elements would become part of a text, so none are written.
+//! Whitespace between elements would become part of a text, so write none.
 void ObjectXmlWriter::writeContent(const QDomElement &element)
 {
     m_buffer.append('>');
@@ -311,7 +311,7 @@ void ObjectXmlWriter::writeItems(const DesignerProperty &property, int level)
         writeInParts(list.items(), level);
         return;
     }
-    // Of two items of one name the first counts, wherever lists put the other one when they were ordered.
+    // Of two items with the same name, the first one counts, wherever sorting moved the other.
     QHash<const DesignerObject *, QList<KeptItem>> waiting;
     QSet<const DesignerObject *> written;
     list.walk(
@@ -359,7 +359,7 @@ void ObjectXmlWriter::writeInParts(const QList<DesignerObject *> &items, int lev
             done.m_buffer = XmlBuffer();
         }
     };
-    // The device may belong to this thread; no other one touches it.
+    // The device may belong to this thread; no other thread may touch it.
     Common::Processors::run(parts.size(), [&, owner = std::this_thread::get_id()] {
         for (size_t i = next++; i < parts.size(); i = next++) {
             writePart(i);

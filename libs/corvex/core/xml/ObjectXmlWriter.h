@@ -18,10 +18,11 @@ class DesignerProperty;
 struct KeptItem;
 
 /*! Writes an object and everything below it as XML in UTF-8: one element per line, one blank of indent per
-    level, `name` before `value`. The same object written twice is the same bytes.
+    level, `name` before `value`. Writing the same object again gives the same bytes.
 
-    All processors write the items of a long list, so a class with an XML form of its own may be asked for it
-   in several threads at once. The device is used in the calling thread only. */
+    All processors write the items of a long list, so an overridden convertToXmlDocument() may be called from
+    several threads at once. The device is only used in the calling thread.
+*/
 class CORVEX_EXPORT ObjectXmlWriter
 {
 public:
@@ -29,23 +30,23 @@ public:
 
     explicit ObjectXmlWriter(QIODevice *device, LineEnd lineEnd = LineEnd::Unix);
 
-    //! Whether the XML declaration comes first; it does unless switched off.
+    //! Whether to write the XML declaration; true by default.
     void setHeader(bool header) { m_header = header; }
-    //! Whether properties are written that files leave out; they are not unless switched on.
+    //! Whether to write properties that files omit; false by default.
     void setAllProperties(bool all) { m_allProperties = all; }
-    //! What is written as the value of the property \a id of the object itself, in place of its own.
+    //! Writes \a value for the property \a id of the root object, instead of its own value.
     void setRootValue(const QString &id, const QString &value) { m_rootValues.insert(id, value); }
 
-    /*! False when the device does not take every byte, or, before anything is written, when isComplete() does
-       not hold. Also false, in the middle of it, for what the reader would not take: see XmlLimits. */
+    //! Returns false if the device does not accept every byte, if isComplete() is false, in which case
+    //! nothing is written, or if the reader would not accept the result: see XmlLimits.
     bool write(const DesignerObject *object);
-    //! The same from the properties of the object, where its class has an XML form of its own; the objects
-    //! below it keep theirs.
+    //! The same from the properties of the object, even if its class has an XML form of its own; the objects
+    //! below it use theirs.
     bool writeProperties(const DesignerObject *object);
     QString errorString() const { return m_error; }
 
-    //! Whether every object property holds its object, and every class with a form of its own gives one. \a
-    //! missing names the place that does not.
+    //! Whether every object property has its object, and every class with a form of its own returns one. \a
+    //! missing names the place without one.
     static bool isComplete(const DesignerObject *object, bool allProperties, QString *missing = nullptr);
 
 private:
@@ -72,7 +73,7 @@ private:
     void deliver(QByteArrayView bytes);
     bool isPart() const { return !m_device; }
 
-    QIODevice *m_device; //!< null for a part of a list, which stays in the buffer
+    QIODevice *m_device; //!< null for a part of a list, which remains in the buffer
     QByteArrayView m_lineEnd;
     XmlBuffer m_buffer;
     QHash<QString, QString> m_rootValues;

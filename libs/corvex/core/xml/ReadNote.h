@@ -10,12 +10,12 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Something in a file that the reader did not take over as it stands.
+//! A part of a file that was not read as it is.
 struct CORVEX_EXPORT ReadNote
 {
     enum Kind {
-        Kept,    //!< written back as it was when the object is saved
-        Dropped, //!< gone once the object is saved
+        Kept,    //!< written back unchanged when the object is saved
+        Dropped, //!< lost when the object is saved
     };
     Kind kind;
     qint64 line;
@@ -27,16 +27,16 @@ struct CORVEX_EXPORT ReadNote
     QString toString() const;
 };
 
-/*! The notes of one reading: 10,000 of each kind, so that a file that is nothing but oddities does not become
-   gigabytes of notes. One more note tells where the others begin and how many they are. */
+//! The notes of one reading, limited to 10,000 of each kind, so that a bad file does not produce gigabytes of
+//! notes. One more note gives the place of the next one and the number of the rest.
 class CORVEX_EXPORT ReadNoteList
 {
 public:
-    //! Counts one more of that kind; false when it needs no note of its own.
+    //! Counts a note of that kind. Returns false if it does not need to be added.
     bool count(ReadNote::Kind kind);
-    //! A note that count() asked for.
+    //! Adds a note for which count() returned true.
     void append(const ReadNote &note);
-    //! Adds what there is to say about notes that were only counted.
+    //! Adds the summary of the notes that were only counted.
     void finish();
 
     const QList<ReadNote> &list() const { return m_notes; }
@@ -45,7 +45,7 @@ private:
     struct Rest
     {
         qsizetype count = 0; //!< of all notes of the kind
-        ReadNote first = {}; //!< the first that is not in the list
+        ReadNote first = {}; //!< the first one that was not added
     };
     QList<ReadNote> m_notes;
     std::array<Rest, 2> m_rests;

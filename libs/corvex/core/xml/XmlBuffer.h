@@ -9,7 +9,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Bytes that many short pieces are put behind: a project's file has some ten of them for each property.
+//! A byte buffer for many short pieces: a project file has about ten for each property.
 class CORVEX_EXPORT XmlBuffer
 {
 public:
@@ -34,7 +34,7 @@ public:
         std::memset(room(size_t(count)), ' ', size_t(count));
         m_size += size_t(count);
     }
-    //! As XmlText::putAttribute does.
+    //! Like XmlText::putAttribute().
     void appendEscaped(QStringView text)
     {
         char *out = room(size_t(text.size() * XmlText::longestPerUnit));
@@ -46,7 +46,7 @@ public:
     void clear() { m_size = 0; }
 
 private:
-    //! Where at least so many bytes have room.
+    //! Returns a place with space for at least so many bytes.
     char *room(size_t size)
     {
         if (m_bytes.size() - m_size < size) {
@@ -55,7 +55,7 @@ private:
         return m_bytes.data() + m_size;
     }
 
-    std::vector<char> m_bytes = std::vector<char>(1024); //!< its size is the room that there is
+    std::vector<char> m_bytes = std::vector<char>(1024); //!< its size is the capacity of the buffer
     size_t m_size = 0;
 };
 

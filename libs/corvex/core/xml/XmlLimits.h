@@ -3,20 +3,21 @@
 
 #include <QtGlobal>
 
-//! What the reader of XML takes at most. Whatever sets or writes values keeps to the same numbers, so that
-//! all that is saved can be opened again.
+//! The limits of the XML reader. All code that sets or writes values keeps to them, so that every saved file
+//! can be opened again.
 namespace Halvane::Corvex::Designer::XmlLimits {
 
-//! Elements that are open at once.
+//! Open elements at the same time.
 constexpr qsizetype deepestNesting = 512;
-//! Elements from an object to one that it holds: its properties, the property, the list, the child.
+//! Elements from an object to a child: its properties, the property, the list, the child.
 constexpr qsizetype levelsPerObject = 4;
-//! How many owners an object may have above it: below each object there is room for its properties and lists.
+//! The maximum number of owners above an object: below each object there must be room for its properties and
+//! lists.
 constexpr qsizetype mostOwners = deepestNesting / levelsPerObject - 1;
 
 //! Bytes of one value in its escaped form.
 constexpr qsizetype longestValue = qsizetype(16) * 1024 * 1024;
-//! The same of a tag with all of its attributes.
+//! Bytes of a tag with all of its attributes.
 constexpr qsizetype longestTag = longestValue + 64 * 1024;
 
 } // namespace Halvane::Corvex::Designer::XmlLimits

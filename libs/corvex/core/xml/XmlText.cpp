@@ -14,10 +14,10 @@ namespace Halvane::Corvex::Designer::XmlText {
 
 namespace {
 
-//! What no XML can hold is written as this, so that one bad character never costs the whole file.
+//! Replaces characters that XML cannot store, so that a bad character never makes the whole file unreadable.
 constexpr char replacement[] = "\xEF\xBF\xBD";
 
-//! What stands for an ASCII character inside an attribute; null for itself.
+//! The escape of an ASCII character in an attribute; null if it needs none.
 constexpr std::array<const char *, 128> makeEscapes()
 {
     std::array<const char *, 128> escapes{};
@@ -110,7 +110,7 @@ qsizetype attributeSize(QStringView text)
     qsizetype size = 0;
     while (!text.isEmpty()) {
         qsizetype count = std::min<qsizetype>(text.size(), 256);
-        // Both halves of a character stay together.
+        // Do not separate the two halves of a character.
         if (count < text.size() && text[count - 1].isHighSurrogate()) {
             --count;
         }

@@ -9,25 +9,25 @@
 
 namespace Halvane::Corvex::Designer::XmlText {
 
-//! Where the first character stands that no XML file can hold (a control character, half a surrogate pair,
-//! U+FFFE, U+FFFF); -1 when all can be stored.
+//! The position of the first character that XML cannot store (a control character, half a surrogate pair,
+//! U+FFFE, U+FFFF); -1 if there is none.
 CORVEX_EXPORT qsizetype indexOfUnstorable(QStringView text);
 
-//! Why no file can hold \a value, for the user: a character of that kind, or its size. Empty when one can.
+//! Why a file cannot store \a value, for the user: such a character, or its size. Empty if it can.
 CORVEX_EXPORT QString storageProblem(const QString &value);
 
-//! How many bytes putAttribute() writes at most for a UTF-16 unit.
+//! The maximum number of bytes that putAttribute() writes for a UTF-16 unit.
 constexpr qsizetype longestPerUnit = 6;
 
-/*! Writes \a text to \a out in UTF-8 as the inside of an attribute between double quotes: markup characters
-   as entities, line ends and tabs as character references, so that they survive the parser's normalisation.
-   What no XML file can hold becomes U+FFFD. Returns where it ended. */
+//! Writes \a text in UTF-8 to \a out, escaped for an attribute in double quotes: markup characters as
+//! entities, line ends and tabs as character references, so that the parser's normalisation preserves them.
+//! Characters that XML cannot store become U+FFFD. Returns the end.
 CORVEX_EXPORT char *putAttribute(char *out, QStringView text);
 
-//! How many bytes that takes.
+//! The number of bytes that putAttribute() writes.
 CORVEX_EXPORT qsizetype attributeSize(QStringView text);
 
-//! Appends the same for bytes that are UTF-8 already.
+//! Appends the same for bytes that are already UTF-8.
 CORVEX_EXPORT void appendAttribute(QByteArray &bytes, QByteArrayView utf8);
 
 } // namespace Halvane::Corvex::Designer::XmlText

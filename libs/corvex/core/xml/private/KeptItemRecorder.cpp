@@ -8,7 +8,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Where the properties of an item stand below the item itself.
+//! The depth of an item's properties below the item.
 constexpr int propertyDepth = 2;
 
 } // namespace

@@ -7,15 +7,15 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Writes down an element that the reader cannot make into an object, in the form of ObjectXmlWriter: what
-   that writer wrote comes out as the same bytes. */
+//! Records an element that the reader cannot turn into an object, in the format of ObjectXmlWriter. An
+//! element written by that writer gives the same bytes.
 class KeptItemRecorder
 {
 public:
     void start(const QString &className);
     void open(QByteArrayView name, std::span<const XmlAttribute> attributes);
     void close(QByteArrayView name);
-    //! Text between elements; blanks around it are dropped.
+    //! Adds text between elements, trimmed.
     void addText(QByteArrayView utf8) { m_text.append(utf8); }
     KeptItem take() { return std::exchange(m_item, {}); }
 
@@ -27,7 +27,7 @@ private:
     KeptItem m_item;
     QByteArray m_text;
     int m_depth = 0;
-    bool m_isTagOpen = false; //!< the last start tag may yet become an empty element
+    bool m_isTagOpen = false; //!< the last start tag may still become an empty element
 };
 
 } // namespace Halvane::Corvex::Designer

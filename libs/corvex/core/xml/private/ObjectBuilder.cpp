@@ -46,7 +46,7 @@ void ObjectBuilder::dropUnfinished()
         }
     }
     for (const Frame &frame : std::as_const(m_frames)) {
-        // What was cut off in the middle has no owner yet.
+        // After an interrupted reading the object has no owner yet.
         if (frame.context == Context::Object && frame.object != m_root && !frame.object->ownerObject()) {
             delete frame.object;
         }
@@ -61,7 +61,7 @@ void ObjectBuilder::note(ReadNote::Kind kind, const QString &message)
     }
 }
 
-//! The path of the object that is being read, which has no owner yet that could tell it.
+//! The path of the object being read, which cannot determine it without an owner.
 QString ObjectBuilder::place() const
 {
     QStringList names;
@@ -141,7 +141,7 @@ void ObjectBuilder::openRoot(QByteArrayView name)
     push(Context::Object, m_root);
 }
 
-//! What is kept in a list without items stood beside those of another text: a file leaves empty lists out.
+//! Kept items of a list without items belonged to another text: a file omits empty lists.
 void ObjectBuilder::forgetKeptItems()
 {
     for (const SharedProperty &property : m_root->properties()) {
@@ -182,7 +182,7 @@ void ObjectBuilder::openInProperties(Frame &frame, QByteArrayView name,
     }
 }
 
-//! Nearly all of a file is properties with nothing in them.
+//! Most elements of a file are properties without contents.
 void ObjectBuilder::emptyElement(QByteArrayView name, std::span<const XmlAttribute> attributes)
 {
     if (m_frames.isEmpty() || m_frames.constLast().context != Context::Properties
@@ -207,8 +207,8 @@ void ObjectBuilder::emptyElement(QByteArrayView name, std::span<const XmlAttribu
     }
 }
 
-//! Finds the property that an element names, and its new value. Notes the reason and gives null if there is
-//! no such property.
+//! Finds the property that an element names, and its new value. Null, after a note with the reason, if there
+//! is no such property.
 DesignerProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView name,
                                               std::span<const XmlAttribute> attributes, QByteArrayView *value,
                                               bool *isRepeated)
@@ -243,7 +243,7 @@ DesignerProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView name,
     return property;
 }
 
-//! The index of the property among those of the object; -1 for one that it does not have.
+//! The index of the property in the object; -1 if the object does not have it.
 qsizetype ObjectBuilder::findProperty(Frame &frame, QByteArrayView id, bool *isRepeated)
 {
     const PropertyStore &properties = frame.object->d->properties;
@@ -274,7 +274,7 @@ void ObjectBuilder::applyValue(DesignerObject *object, DesignerProperty *propert
         note(ReadNote::Dropped, u"The property \"%1\" takes no value."_s.arg(property->id()));
         return;
     }
-    // Most values of a file are those that their properties start with.
+    // Most values in a file are initial values.
     if (property->holdsInitial(value)) {
         return;
     }
@@ -392,7 +392,7 @@ void ObjectBuilder::endElement(QByteArrayView name)
         }
         break;
     case Context::Properties:
-        // What a second <Properties> repeats is repeated, too.
+        // Properties repeated in a second <Properties> count as repeated, too.
         m_frames.last().known = closed.known;
         break;
     case Context::ObjectValue:

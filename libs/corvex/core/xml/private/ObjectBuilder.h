@@ -15,8 +15,8 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-/*! Makes objects of what stands in XML: one frame for each open element, and what a frame does with an
-   element in it goes by its context. */
+//! Creates objects from XML. There is a frame for each open element, whose context determines how the
+//! elements in it are handled.
 class ObjectBuilder final : public XmlHandler
 {
 public:
@@ -26,11 +26,11 @@ public:
 
     void setValidate(bool validate) { m_validates = validate; }
     void setProgress(Common::Progress *progress) { m_input.setProgress(progress); }
-    //! What is read goes into \a root, of the same class; when it is null, an object is made for it.
+    //! Reads into \a root, which must be of the same class; if it is null, creates an object.
     void setRoot(DesignerObject *root);
-    //! Reads everything. False when the text could not be read to its end.
+    //! Reads everything. Returns false if the text could not be read to its end.
     bool build();
-    //! Null when none could be made; not validated, and maybe half read, after a failure.
+    //! Null if none could be created. After a failure the object is not validated and may be incomplete.
     DesignerObject *root() const { return m_root; }
 
     const XmlInput &input() const { return m_input; }
@@ -41,14 +41,13 @@ private:
     struct Frame
     {
         Context context;
-        DesignerObject *object; //!< the object that is being read, or whose property this is
+        DesignerObject *object; //!< the object being read, or the owner of the property
         SharedProperty property = {};
         qsizetype nextProperty =
-            0; //!< where the next property is expected: files keep the order of the table
-        std::bitset<128> known = {}; //!< the first properties that have been there, by their index
-        bool isAnswered =
-            false; //!< a property that got a value or children, or an <Object> that got its object
-        bool isRepeated = false; //!< a property that was there before
+            0; //!< the expected index of the next property: files keep the order of the table
+        std::bitset<128> known = {}; //!< the first properties that have occurred, by index
+        bool isAnswered = false;     //!< a property with a value or children, or an <Object> with its object
+        bool isRepeated = false;     //!< the property occurred before
     };
 
     void startElement(QByteArrayView name, std::span<const XmlAttribute> attributes) override;

@@ -7,7 +7,7 @@ namespace Halvane::Corvex::Designer {
 
 QString TextPool::text(QByteArrayView utf8)
 {
-    // Long texts are rarely the same, and not worth the look.
+    // Long texts are rarely equal, so skip the lookup.
     constexpr qsizetype longest = 512;
     if (utf8.size() > longest) {
         return QString::fromUtf8(utf8);

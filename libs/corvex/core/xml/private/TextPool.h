@@ -9,16 +9,16 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Makes texts of UTF-8. A text that comes again and again, as most values of a file do, is one QString that
-   all of its users share. */
+//! Converts UTF-8 to texts. A text that occurs repeatedly, like most values in a file, is a single shared
+//! QString.
 class TextPool
 {
 public:
     QString text(QByteArrayView utf8);
 
 private:
-    QHash<QByteArray, QString> m_texts; //!< those that came twice at least
-    std::array<quint32, 1024> m_seen{}; //!< hashes of texts that came once, each at its last digits
+    QHash<QByteArray, QString> m_texts; //!< the texts that occurred at least twice
+    std::array<quint32, 1024> m_seen{}; //!< hashes of texts that occurred once, indexed by their low bits
 };
 
 } // namespace Halvane::Corvex::Designer

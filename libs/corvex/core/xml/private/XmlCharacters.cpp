@@ -39,7 +39,7 @@ int XmlCharacters::lengthOf(const char *next, const char *end)
 {
     const unsigned lead = byteAt(next);
     const int length = lead < 0xC2 || lead > 0xF4 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-    // Forms that are longer than need be, halves of pairs, and what lies beyond Unicode.
+    // Exclude overlong forms, surrogates and code points beyond Unicode.
     const unsigned lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
     const unsigned highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
     for (int i = 1; i < length; ++i) {

@@ -6,16 +6,16 @@
 
 #include <array>
 
-//! The characters of XML 1.0 (fifth edition), one by one and as bytes of UTF-8.
+//! The characters of XML 1.0 (fifth edition), as code points and as UTF-8 bytes.
 namespace Halvane::Corvex::Designer::XmlCharacters {
 
-//! What a byte below 0x80 may be part of. The zero byte is nothing, and ends every run.
+//! The possible uses of a byte below 0x80. The zero byte has none and ends every run.
 enum Class : quint8 {
     Blank = 1,
     NameStart = 2,
     NameCharacter = 4,
     PlainText = 8,   //!< neither markup nor a blank
-    PlainValue = 16, //!< stands for itself inside a quoted value, and is no quote
+    PlainValue = 16, //!< needs no escape in a quoted value, and is not a quote
 };
 
 constexpr std::array<quint8, 256> makeClasses()
@@ -49,23 +49,23 @@ inline bool isAscii(char byte)
     return static_cast<unsigned char>(byte) < 0x80;
 }
 
-//! What is there in place of a character of several bytes.
+//! Results instead of the length of a character with several bytes.
 enum Fault : int { NotUtf8 = 0, NoCharacter = -1, CutOff = -2 };
-//! How many bytes the character at \a next has, which is not ASCII; a Fault where none is that XML allows.
+//! The number of bytes of the non-ASCII character at \a next; a Fault if XML allows none there.
 int lengthOf(const char *next, const char *end);
-//! The character whose bytes lengthOf() has found good.
+//! The character that lengthOf() has accepted.
 char32_t characterAt(const char *next);
 bool isNameCharacter(char32_t character, bool isFirst);
 
 inline constexpr char32_t noNumber = char32_t(-1);
 //! Whether a reference may name the character.
 bool isCharacter(char32_t character);
-//! What "#65" or "#x41" names; noNumber for no number.
+//! The character for "#65" or "#x41"; noNumber if it is not a number.
 char32_t numberedCharacter(QByteArrayView reference);
-//! What "lt", "gt", "amp", "apos" or "quot" names, 0 for any other name.
+//! The character for "lt", "gt", "amp", "apos" or "quot"; 0 for any other name.
 char32_t namedCharacter(QByteArrayView name);
 
-//! Writes the character in UTF-8; returns where it ended.
+//! Writes the character in UTF-8 and returns the end.
 char *putUtf8(char *out, char32_t character);
 
 } // namespace Halvane::Corvex::Designer::XmlCharacters

@@ -6,15 +6,15 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Hears what a text consists of, in its order. Texts are UTF-8 and valid during the call.
+//! Receives the parts of an XML text in order. Texts are UTF-8 and valid during the call.
 class XmlHandler
 {
 public:
     virtual void startElement(QByteArrayView name, std::span<const XmlAttribute> attributes) = 0;
     virtual void endElement(QByteArrayView name) = 0;
-    //! An element without anything in it.
+    //! An element without contents.
     virtual void emptyElement(QByteArrayView name, std::span<const XmlAttribute> attributes) = 0;
-    //! Text between two tags that is not all blanks. It may come in several pieces.
+    //! Text between two tags that is not only whitespace. It may come in several pieces.
     virtual void characters(QByteArrayView text) = 0;
     virtual void comment() = 0;
     virtual void processingInstruction() = 0;

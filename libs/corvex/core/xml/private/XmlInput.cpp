@@ -57,7 +57,7 @@ void XmlInput::parseInTwoThreads(XmlTokenizer &tokenizer)
         }
     }));
     reader->start();
-    // A thread that has finished already does not run either. If none could start, this one reads.
+    // A finished thread is not running either. If no thread could be started, this one reads.
     if (!reader->isRunning() && !reader->isFinished()) {
         parseInThisThread(tokenizer);
         return;

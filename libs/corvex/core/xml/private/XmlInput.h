@@ -15,26 +15,25 @@ namespace Halvane::Corvex::Designer {
 class XmlHandler;
 class XmlTokenizer;
 
-/*! Takes XML from a device to a handler. What is larger than a chunk of the tokenizer is taken apart in a
-    thread of its own while the handler hears what stood before it; the handler is always called in the thread
-    of the caller. Nobody else may touch the device meanwhile.
-*/
+//! Passes XML from a device to a handler. Texts larger than a chunk of the tokenizer are parsed in a separate
+//! thread, parallel to the handler, which is always called in the thread of the caller. Nothing else may use
+//! the device meanwhile.
 class XmlInput
 {
 public:
     XmlInput(QIODevice *device, XmlHandler *handler);
 
-    //! Advances by the bytes that the handler has heard; null for nobody.
+    //! Reports the bytes that the handler has received; may be null.
     void setProgress(Common::Progress *progress) { m_progress = progress; }
-    //! False when an error ended it, the handler's own among them.
+    //! Returns false after an error, including errors of the handler.
     bool parse();
-    //! Ends the parsing here; no more is heard of the text. For calls from the handler.
+    //! Stops the parsing with an error. Called by the handler.
     void fail(const QString &message);
 
     const QString &errorString() const { return m_error; }
-    //! Where the error is; no place when none can be told.
+    //! The place of the error, or no place if it is unknown.
     XmlPlace errorPlace() const { return m_errorPlace; }
-    //! Where the token is that the handler is hearing of.
+    //! The place of the token that the handler is receiving.
     XmlPlace place() const { return m_place; }
 
 private:

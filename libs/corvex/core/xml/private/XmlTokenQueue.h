@@ -10,19 +10,19 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! A few stretches of tokens that go round between the thread that fills them and the one that walks them:
-   the one waits when all are full, the other when all are empty. */
+//! A ring of token blocks between the thread that fills them and the thread that reads them. The first waits
+//! while all are full, the second while all are empty.
 class XmlTokenQueue
 {
 public:
-    //! The next one to fill; null when nobody wants any more.
+    //! The next block to fill; null if no more are wanted.
     XmlTokens *beginFilling();
     void endFilling(bool isLast);
 
-    //! The next one to walk; null behind the last one.
+    //! The next block to read; null after the last one.
     const XmlTokens *beginWalking();
     void endWalking();
-    //! Nothing is wanted any more.
+    //! Stops both sides.
     void close();
 
 private:
@@ -31,8 +31,8 @@ private:
     std::array<XmlTokens, size> m_tokens;
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    size_t m_filled = 0; //!< how many have been filled so far
-    size_t m_walked = 0; //!< how many of them have been walked
+    size_t m_filled = 0; //!< the number of blocks filled so far
+    size_t m_walked = 0; //!< the number of blocks read so far
     bool m_isLastFilled = false;
     bool m_isClosed = false;
 };

@@ -17,7 +17,8 @@ namespace {
 
 using namespace XmlCharacters;
 
-//! Two bytes that no text in UTF-8 begins with and each in UTF-16 does, with a byte order mark or without.
+//! Whether the first two bytes cannot begin a UTF-8 text but begin UTF-16 texts, with or without a byte order
+//! mark.
 bool beginsAsUtf16(QByteArrayView bytes)
 {
     return bytes.startsWith("\xFE\xFF") || bytes.startsWith("\xFF\xFE")
@@ -73,7 +74,7 @@ bool XmlTokenizer::read(XmlTokens *tokens)
     return false;
 }
 
-//! The first bytes tell the encoding, so they come together.
+//! Reads at least enough bytes to detect the encoding at the start.
 qint64 XmlTokenizer::readBytes(char *bytes, qint64 wanted)
 {
     constexpr qint64 few = 4;
@@ -85,7 +86,7 @@ qint64 XmlTokenizer::readBytes(char *bytes, qint64 wanted)
     return size;
 }
 
-//! Reads as much again as there is, so that a long token is not looked at more often than it doubles.
+//! Doubles the available bytes, so that a long token is scanned only a few times.
 bool XmlTokenizer::fill(XmlTokens *tokens)
 {
     const auto held = qsizetype(tokens->bytes.size());
@@ -115,7 +116,7 @@ bool XmlTokenizer::fill(XmlTokens *tokens)
         return false;
     }
     m_isLast = size == 0;
-    // Whether it is half of a line end, the next chunk tells.
+    // The next chunk shows whether it is the first half of a line end.
     m_isReturnHeld = !m_isLast && m_end > m_next && m_end[-1] == '\r';
     if (m_isReturnHeld) {
         --m_end;
@@ -169,7 +170,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeText()
                          : fail(u"This is no XML."_s);
     }
     const XmlPlace firstWord = placeOfNext();
-    // What came before a character that is not complete is a piece of its own.
+    // The text before an incomplete character is a piece of its own.
     Outcome outcome = Outcome::Done;
     const char *last = m_next;
     while (outcome == Outcome::Done && m_next < m_end && *m_next != '<') {

@@ -9,39 +9,39 @@ class QIODevice;
 
 namespace Halvane::Corvex::Designer {
 
-/*! Takes XML from a device apart, chunk by chunk and in place: what it finds are pointers into the bytes that
+/*! Splits XML from a device into tokens, chunk by chunk and in place: the tokens point into the bytes that
     were read.
 
-    It refuses whatever is not UTF-8, document types and entities, values of more than 16 MB, and whatever XML
-    1.0 calls not well-formed. Its messages are for the person who opened the file.
+    Refuses anything that is not UTF-8, document types and entities, values larger than 16 MB, and everything
+    that is not well-formed XML 1.0. Its messages are for the user who opened the file.
 */
 class CORVEX_EXPORT XmlTokenizer
 {
 public:
-    //! How many bytes are read at once.
+    //! The number of bytes to read at once.
     static constexpr qsizetype chunkSize = 256 * 1024;
 
     explicit XmlTokenizer(QIODevice *device)
         : m_device(device)
     { }
 
-    //! Puts what the next chunk holds into \a tokens; false when nothing follows, after an error too.
+    //! Fills \a tokens from the next chunk. Returns false at the end and after an error.
     bool read(XmlTokens *tokens);
 
-    //! As much of a text from a file as a message bears.
+    //! A text from a file, shortened for a message.
     static QString excerpt(QByteArrayView utf8);
 
 private:
-    //! What became of one token.
+    //! The result of reading one token.
     enum class Outcome { Done, Incomplete, Failed };
     enum class Content { Text, CharacterData, Value };
-    //! Where the tokenizer is in the lines of the text.
+    //! The position in the lines of the text.
     struct Position
     {
         quint32 line = 1;
         quint32 columnBefore = 0;        //!< columns of the line before lineStart
-        const char *lineStart = nullptr; //!< in the bytes at hand
-        quint32 hidden = 0;              //!< bytes since lineStart that are no column of their own
+        const char *lineStart = nullptr; //!< in the present bytes
+        quint32 hidden = 0;              //!< bytes since lineStart that do not count as columns
     };
 
     bool fill(XmlTokens *tokens);
@@ -60,7 +60,7 @@ private:
     Outcome takeDeclaration();
     Outcome takePseudoAttribute(QByteArrayView *name, QByteArrayView *value);
     Outcome takeName(QByteArrayView *name);
-    //! One character that is not ASCII, or none that XML allows.
+    //! Takes one non-ASCII character.
     Outcome takeOther();
     Outcome takeReference();
     Outcome takeUntil(QByteArrayView end, QByteArrayView *content);
@@ -77,22 +77,22 @@ private:
     Outcome fail(const QString &message);
     Outcome malformed(QLatin1StringView what, const char *at);
     Outcome misplaced(const char *character);
-    //! What is at m_next does not belong there; where the bytes end, more of them may tell.
+    //! Handles an unexpected character at m_next; at the end of the bytes, asks for more.
     Outcome unexpected();
 
     QIODevice *m_device;
     XmlTokens *m_tokens = nullptr;
-    std::vector<char> m_rest; //!< the begin of a token whose end was not in the chunk
+    std::vector<char> m_rest; //!< the start of a token that was not complete in the chunk
     const char *m_token = nullptr;
     XmlPlace m_tokenPlace{1, 1};
     const char *m_next = nullptr;
     const char *m_end = nullptr; //!< a zero byte follows
     Position m_position;
     std::vector<char> m_names;        //!< of the open elements, one after the other
-    std::vector<size_t> m_nameStarts; //!< where each of them begins
-    bool m_isBegun = false;           //!< something was read
-    bool m_isLast = false;            //!< nothing follows the bytes at hand
-    bool m_isReturnHeld = false;      //!< a carriage return follows them
+    std::vector<size_t> m_nameStarts; //!< the start of each name
+    bool m_isBegun = false;           //!< something has been read
+    bool m_isLast = false;            //!< the present bytes are the last ones
+    bool m_isReturnHeld = false;      //!< a carriage return follows the present bytes
     bool m_isDeclarationPossible = true;
     bool m_hasRoot = false;
     bool m_hasText = false; //!< since the last tag

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What elements consist of: names, references, blanks and what else is a character.
+// The parts of elements: names, references, whitespace and other characters.
 #include "corvex/core/xml/private/XmlCharacters.h"
 #include "corvex/core/xml/private/XmlTokenizer.h"
 
@@ -42,7 +42,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeName(QByteArrayView *name)
         }
     }
     *name = between(begin, m_next);
-    // At the end of the bytes the name may go on.
+    // At the end of the bytes the name may continue.
     return m_next == m_end ? Outcome::Incomplete : Outcome::Done;
 }
 
@@ -92,7 +92,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeReference()
                                   : malformed("this entity is not defined"_L1, begin);
 }
 
-//! Behind the next \a end, with what comes before it, which has to consist of characters.
+//! Moves past the next \a end. The contents before it must be valid characters.
 XmlTokenizer::Outcome XmlTokenizer::takeUntil(QByteArrayView end, QByteArrayView *content)
 {
     const char *begin = m_next;
@@ -112,7 +112,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeUntil(QByteArrayView end, QByteArrayView
     return Outcome::Done;
 }
 
-//! One blank, which may be the end of a line.
+//! Takes one whitespace character, which may be a line end.
 void XmlTokenizer::takeBlank()
 {
     const char blank = *m_next++;
@@ -131,7 +131,7 @@ void XmlTokenizer::skipBlanks()
     }
 }
 
-//! In place, where what is written never overtakes what is read.
+//! Decodes in place; the output is never longer than the input.
 QByteArrayView XmlTokenizer::decoded(QByteArrayView raw, Content content)
 {
     const auto isSpecial = [content](char c) {

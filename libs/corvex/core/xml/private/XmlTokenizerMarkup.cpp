@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a text has beside elements: comments, character data, instructions and the declaration at its start.
+// The other parts of an XML text: comments, character data, instructions and the declaration at its start.
 #include "corvex/core/xml/private/XmlCharacters.h"
 #include "corvex/core/xml/private/XmlTokenizer.h"
 
@@ -21,7 +21,7 @@ bool isUtf8(QByteArrayView encoding)
 
 } // namespace
 
-//! Comments, character data and document types.
+//! Takes comments, character data and document types.
 XmlTokenizer::Outcome XmlTokenizer::takeMarkup()
 {
     const QByteArrayView rest = between(m_next, m_end);
@@ -140,7 +140,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeDeclaration()
     return Outcome::Done;
 }
 
-//! Gives an empty name at the end of the declaration.
+//! Returns an empty name at the end of the declaration.
 XmlTokenizer::Outcome XmlTokenizer::takePseudoAttribute(QByteArrayView *name, QByteArrayView *value)
 {
     if (!is(*m_next, Blank)) {

@@ -10,7 +10,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A place in a text, from 1; 0 where none can be told. A column is a character, not a byte.
+//! A place in a text, counted from 1; 0 if unknown. Columns count characters, not bytes.
 struct XmlPlace
 {
     quint32 line = 0;
@@ -23,17 +23,16 @@ struct XmlAttribute
     QByteArrayView value;
 };
 
-/*! A stretch of XML, taken apart: the tokens in their order, and the bytes that they point into, in which
-    references have been replaced by what they stand for. It is filled by one thread and walked by another. A
-    stretch that could not be read to its end has an error after its tokens.
-*/
+//! A parsed block of XML: its tokens in order, and the bytes that they point to, in which references have
+//! been decoded. One thread fills it and another reads it. If the block could not be read to its end, an
+//! error follows the tokens.
 struct XmlTokens
 {
     enum Kind : quint8 {
         Start,
-        EmptyElement, //!< a start tag that is its own end tag
+        EmptyElement, //!< a tag that is both start and end tag
         End,
-        Text, //!< not reported where there is nothing but blanks between two tags
+        Text, //!< not reported if there is only whitespace between two tags
         Comment,
         Instruction
     };
