@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The canvas with 2,000 rectangles: one frame while the mouse drags one of them, in which the mouse moves and
-// the view paints what changed; and all of them selected and moved.
+// The canvas with 2,000 rectangles: one frame of dragging one of them, in which the mouse moves and the view
+// repaints what changed; and selecting and moving all of them.
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/editing/graphics/CanvasScene.h"
 #include "corvex/editing/undo/UndoStack.h"
@@ -26,7 +26,7 @@ constexpr int itemCount = 2000;
 constexpr QSize viewSize(1000, 800);
 constexpr int dragged = itemCount / 2;
 
-//! Spread over the view, each overlapping some others.
+//! Distributed over the view, each overlapping some others.
 QRectF place(int item)
 {
     const int column = item % 50;
@@ -54,7 +54,7 @@ void measureDragging(benchmark::State &state, QGraphicsScene &scene)
     QApplication::processEvents();
     int step = 0;
     for (auto _ : state) {
-        // To and fro, over the items around.
+        // Back and forth over the neighbouring items.
         point.rx() += ++step / 50 % 2 == 0 ? 2 : -2;
         send(view, QEvent::MouseMove, point);
         QApplication::processEvents();
@@ -104,7 +104,7 @@ void dragOnBareScene(benchmark::State &state)
 }
 BENCHMARK(dragOnBareScene)->Name("drag/QGraphicsScene");
 
-//! With the mouse, as a user does it: a rectangle around all, a drag, an undo.
+//! With the mouse, like a user: a selection rectangle around everything, a drag, an undo.
 void moveAllOnCanvas(benchmark::State &state)
 {
     const std::unique_ptr<Project> project = makeProject();
@@ -126,7 +126,7 @@ void moveAllOnCanvas(benchmark::State &state)
         QApplication::processEvents();
         state.PauseTiming();
         if (scene.selectedObjects().size() != itemCount || project->undoStack()->count() != 1) {
-            state.SkipWithError("not all were selected and moved");
+            state.SkipWithError("not all elements were selected and moved");
         }
         project->createUndoStack();
         scene.clearSelection();

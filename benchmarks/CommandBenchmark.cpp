@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Edits of a project with their undo, beside the least that an undo framework does.
+// Edits of a project with their undo, compared with the minimum that an undo framework needs.
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/ModelObservers.h"
 #include "corvex/editing/commands/objects/AddObject.h"
@@ -103,7 +103,7 @@ void editProject(benchmark::State &state)
 }
 BENCHMARK(editProject)->Name("edit/ChangeProperty")->Unit(benchmark::kMillisecond)->Iterations(1);
 
-//! Looks at each value, as an index or a view model does first.
+//! Reads each value, as an index or a view model would do first.
 class Watcher : public ModelObserver
 {
 public:
@@ -144,7 +144,7 @@ void weighCommand(benchmark::State &state)
         add(screen, screen->elements(), u"Text"_s, u"edited"_s)->getProperty(u"text");
     qint64 bytes = 0;
     for (auto _ : state) {
-        // Texts that are there already, so that what is weighed is all but them.
+        // Existing texts, so that their memory is not counted.
         const QString values[] = {valueOf(1), valueOf(2)};
         const auto before = mallinfo2().uordblks;
         for (int i = 0; i < editCount; ++i) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// 50,000 items that enter one list: one by one through the change protocol, and all at once from a file.
+// 50,000 items inserted into one list: one by one with the change protocol, and all at once from a file.
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/properties/ObjectListProperty.h"
 #include "corvex/project/Project.h"
@@ -44,7 +44,7 @@ constexpr List plain{"UpdateObjects", "objects"};
 
 std::unique_ptr<DesignerObject> makeOwner(const List &list)
 {
-    makeProject(); // for the factory
+    makeProject(); // creates the factory
     DesignerObject *owner = DesignerFactory::instance()->createObject(QString::fromLatin1(list.owner));
     owner->setParent(nullptr);
     return std::unique_ptr<DesignerObject>(owner);
@@ -74,7 +74,7 @@ void add(benchmark::State &state, const List &list, Names order)
     }
 }
 
-//! A project writes no file without a configuration.
+//! A project without a configuration cannot be saved.
 void complete(DesignerObject &owner)
 {
     const SharedProperty slot = owner.getProperty(u"configuration");

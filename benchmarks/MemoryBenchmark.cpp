@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a project costs in memory: the growth of the heap, shared out over what was made.
+// The memory of a project: the growth of the heap, divided by the number of objects created.
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/ExpressionProperties.h"
@@ -43,12 +43,12 @@ void count(const DesignerObject &object, Sums &sums)
     }
 }
 
-//! All that a loaded project holds, objects and lists included, by its properties.
+//! The total memory of a loaded project, including objects and lists, per property.
 void loadedProject(benchmark::State &state)
 {
     const QString file = projectFile(u"L"_s);
     for (auto _ : state) {
-        makeProject(); // for what is made once and stays
+        makeProject(); // creates everything that exists only once
         const double before = heapBytes();
         const std::unique_ptr<Project> project = loadProject(file);
         const double grown = heapBytes() - before;
@@ -63,7 +63,7 @@ void loadedProject(benchmark::State &state)
 }
 BENCHMARK(loadedProject)->Name("memory/L")->Unit(benchmark::kMillisecond)->Iterations(1);
 
-//! An object with any number of properties that one row describes.
+//! An object with any number of properties from the same row.
 class Holder : public DesignerObject
 {
 public:
@@ -74,8 +74,8 @@ public:
         initialize();
     }
 
-    //! A class for each number of properties: objects of one class take as much memory as the largest of
-    //! them.
+    //! One class for each number of properties, because objects of one class all take as much memory as the
+    //! largest of them.
     QString className() const override { return u"Holder%1%2"_s.arg(m_row.id()).arg(m_propertyCount); }
     QStringList classNames() const override { return DesignerObject::classNames() << className(); }
 
@@ -109,11 +109,12 @@ double bytesOfHolders(const PropertyRow &row, int propertyCount)
     return (heapBytes() - before) / holderCount;
 }
 
-//! One more property of an object: all of it, the place in the object's list and the empty value included.
+//! One more property of an object: its total memory, including its place in the object's list and the empty
+//! value.
 void property(benchmark::State &state, const PropertyRow &row)
 {
-    // With the identifier they fill their list: the one of a class, whose length is known before, has no
-    // places to spare either.
+    // Together with the identifier they fill their list exactly, like the list of a class whose size is
+    // known.
     constexpr int few = 126;
     constexpr int many = 1022;
     for (auto _ : state) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The preview: its start, and what a variable that changes costs on a screen that is full of it.
+// The preview: its start, and the cost of changing a variable on a screen that shows it everywhere.
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/preview/PreviewSession.h"
 
@@ -23,7 +23,7 @@ void startEmpty(benchmark::State &state)
     measureProcess(state, QStringLiteral(CORVEX_BENCHMARK_FOLDER "/emptyWindow"), {});
 }
 
-//! Built by the tool, as the preview finds it.
+//! Built with the tool, like the input of the preview.
 QString pumpStation()
 {
     static const QTemporaryDir folder;
@@ -45,7 +45,7 @@ BENCHMARK(startPumpStation)->Name("preview/PumpStation")->UseManualTime()->Itera
 
 constexpr int labelCount = 1000;
 
-//! A column of texts, all with \a text for theirs.
+//! A column of texts, all showing \a text.
 QByteArray labels(const QByteArray &text)
 {
     QByteArray qml;

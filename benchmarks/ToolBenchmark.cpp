@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The tools as their users run them: whole processes, beside other programs that do work of the same kind.
+// The tools from the user's view: whole processes, compared with other programs that do similar work.
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
@@ -27,8 +27,8 @@ BENCHMARK_CAPTURE(start, QCoreApplication, QStringLiteral(CORVEX_BENCHMARK_FOLDE
     ->UseManualTime()
     ->Iterations(50);
 
-//! A file that differs from its canonical form in nothing but its very end, so that it is compared from the
-//! first byte to the last before it is written.
+//! A file that differs from its canonical form only at the very end, so that it is compared completely before
+//! it is written.
 QString fileToRewrite(const QString &size)
 {
     const QString path = QStringLiteral(CORVEX_BENCHMARK_FOLDER "/projects/Rewritten/Rewritten.kdproj");
@@ -50,7 +50,7 @@ void rewriteProject(benchmark::State &state, const QString &size)
 BENCHMARK_CAPTURE(rewriteProject, corvex, u"L"_s)->Name("rewrite/corvex")->UseManualTime()->Iterations(1);
 BENCHMARK_CAPTURE(rewriteProject, M, u"M"_s)->Name("rewrite/M")->UseManualTime()->Iterations(2);
 
-//! A line for each tenth a new name and for the others a new place, going round all that is seen.
+//! Every tenth line renames an element and the others move one, cycling through all elements.
 QString scriptOfEdits()
 {
     constexpr int lineCount = 10'000;

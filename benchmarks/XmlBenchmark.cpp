@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Loading and saving inside one process, beside the same bytes going through Qt's reader and writer.
+// Loading and saving within one process, compared with passing the same bytes through Qt's reader and writer.
 #include "corvex/project/Project.h"
 
 #include "support/Projects.h"
@@ -30,7 +30,7 @@ void load(benchmark::State &state, const char *size)
 BENCHMARK_CAPTURE(load, L, "L")->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK_CAPTURE(load, M, "M")->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond)->Iterations(4);
 
-//! Every token is read, nothing is looked at.
+//! Reads every token and evaluates nothing.
 void readTokens(benchmark::State &state)
 {
     const QString path = projectFile(u"L"_s);
@@ -66,7 +66,7 @@ void save(benchmark::State &state, const char *size)
 BENCHMARK_CAPTURE(save, L, "L")->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK_CAPTURE(save, M, "M")->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond)->Iterations(4);
 
-//! One tag of the file: a start tag with what it holds, or an end tag.
+//! One tag of the file: a start tag with its attributes, or an end tag.
 struct Tag
 {
     bool isStart;
@@ -95,7 +95,7 @@ std::vector<Tag> tagsOf(const QString &path)
     return tags;
 }
 
-//! Writes the file of the project from tags whose texts lie ready.
+//! Writes the file of the project from prepared tags.
 void writeTags(benchmark::State &state)
 {
     const QString path = projectFile(u"L"_s);

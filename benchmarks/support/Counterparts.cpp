@@ -22,7 +22,7 @@ void open(QFile &file)
     }
 }
 
-//! The properties of a label, "%1" for a number that differs.
+//! The properties of a label; %1 is a running number.
 constexpr const char *labelProperties[] = {
     R"(<property name="geometry"><rect><x>%1</x><y>20</y><width>120</width><height>24</height></rect></property>)",
     R"(<property name="font"><font><family>DejaVu Sans</family><pointsize>12</pointsize></font></property>)",

@@ -5,9 +5,11 @@
 
 namespace Halvane::Corvex::Benchmarks {
 
-//! A map of the editor tiled with as many objects and custom properties, in the build tree. Its path.
+//! Writes a map of the editor tiled with as many objects and custom properties into the build tree. Returns
+//! its path.
 QString makeMap(const Counts &counts);
-//! A form of Qt's designer with \a widgets labels of 20 properties each, in the build tree. Its path.
+//! Writes a form of Qt's designer with \a widgets labels of 20 properties each into the build tree. Returns
+//! its path.
 QString makeForm(int widgets);
 
 } // namespace Halvane::Corvex::Benchmarks

@@ -9,15 +9,15 @@
 
 namespace Halvane::Corvex::Benchmarks {
 
-/*! Runs a command once for each iteration of a benchmark that was declared with UseManualTime(): the time is
-    the command's own. The counter "cpu" is the processor time that it used, in seconds, and "peak_bytes" the
-    most memory that it held. \a prepare runs before each command and is not measured. When the program is not
-    installed, the benchmark is skipped with the message "not installed: NAME"; when it ends with another
-    status than 0, with a message that tells the status. */
+/*! Runs a command once for each iteration of a benchmark that was declared with UseManualTime(), and measures
+    its time. The counter "cpu" is its processor time in seconds, and "peak_bytes" its peak memory. \a prepare
+    runs before each command and is not measured. If the program is not installed, the benchmark is skipped
+    with the message "not installed: NAME"; if it fails, with a message that contains its exit status.
+*/
 void measureProcess(benchmark::State &state, const QString &program, const QStringList &arguments,
                     const std::function<void()> &prepare = {});
 
-//! The path of one of the tools of this build ("corvex").
+//! The path of a tool in this build ("corvex").
 QString tool(const QString &name);
 
 } // namespace Halvane::Corvex::Benchmarks

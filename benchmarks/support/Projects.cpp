@@ -65,7 +65,7 @@ void fillText(Examples::ProjectBuilder &builder, DesignerObject *text, int index
     }
 }
 
-//! The generator has no words for a project of nothing but texts.
+//! The generator cannot create a project that only contains texts.
 void makeVisualProject(const QString &name)
 {
     prepareFactory();

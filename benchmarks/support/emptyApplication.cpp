@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What any program that is built on Qt pays for its start.
+// The cost of starting any Qt program.
 #include <QCoreApplication>
 
 int main(int argc, char **argv)

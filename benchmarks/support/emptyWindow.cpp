@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What any program with a Qt Quick window pays until its first frame is drawn.
+// The cost of any program with a Qt Quick window until its first frame is drawn.
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// firstScreen FOLDER: the window of the preview, until it has drawn the first screen of a build.
+// firstScreen FOLDER: opens the window of the preview and ends when the first screen of a build is drawn.
 #include "corvex/preview/window/PreviewWindow.h"
 
 #include <QApplication>

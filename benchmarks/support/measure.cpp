@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// measure COMMAND ARGUMENT...: runs a command with its output thrown away and prints its exit status, the
-// seconds that it took, the seconds of processor time that it used, and the most memory, in bytes, that it
-// held. A program of its own and a small one: a process inherits the peak of the one that starts it.
+// measure COMMAND ARGUMENT...: runs a command, discards its output, and prints its exit status, its duration
+// and its processor time in seconds, and its peak memory in bytes. A small program of its own, because a
+// process inherits the peak memory of its parent.
 #include <chrono>
 #include <cstdio>
 #include <fcntl.h>
