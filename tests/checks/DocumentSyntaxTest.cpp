@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(DocumentSyntax, WhatIsWrongIsFoundOnItsLine)
+TEST(DocumentSyntax, ErrorsAreFoundOnTheirLine)
 {
     struct
     {
@@ -41,7 +41,7 @@ TEST(DocumentSyntax, WhatIsWrongIsFoundOnItsLine)
     }
 }
 
-TEST(PlainQml, IsWhatCannotBeWrong)
+TEST(PlainQml, AcceptsOnlyLiteralsAndIds)
 {
     for (const QString &plain :
          {u"-2.5"_s, u"0"_s, u"\"\\n\""_s, u"Item.Left"_s, u"qml_pump1"_s, u"null"_s}) {

@@ -6,7 +6,7 @@
 using namespace Halvane::Corvex::Designer;
 using namespace Qt::StringLiterals;
 
-TEST(ExpressionSyntax, findsThePlaceOfAnError)
+TEST(ExpressionSyntax, FindsThePlaceOfAnError)
 {
     struct Case
     {
@@ -44,7 +44,7 @@ TEST(ExpressionSyntax, findsThePlaceOfAnError)
     }
 }
 
-TEST(ExpressionSyntax, runsNothingAndKeepsNothing)
+TEST(ExpressionSyntax, RunsNothingAndKeepsNothing)
 {
     ExpressionSyntax syntax;
     EXPECT_TRUE(syntax.checkStatements(u"while (true) {}"_s).valid);
@@ -56,7 +56,7 @@ TEST(ExpressionSyntax, runsNothingAndKeepsNothing)
     }
 }
 
-TEST(ExpressionSyntax, survivesDeepAndLongText)
+TEST(ExpressionSyntax, SurvivesDeepAndLongText)
 {
     ExpressionSyntax syntax;
     const auto times = [](int count, const QString &text) { return text.repeated(count); };

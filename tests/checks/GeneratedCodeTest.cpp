@@ -167,7 +167,7 @@ private:
 
 } // namespace
 
-TEST(GeneratedCode, ofValidExpressionsIsCorrectInEveryKindAndType)
+TEST(GeneratedCode, IsCorrectForValidExpressionsOfEveryKindAndType)
 {
     constexpr int expressionsOfEach = 400;
     ExpressionSyntax syntax;
@@ -191,7 +191,7 @@ TEST(GeneratedCode, ofValidExpressionsIsCorrectInEveryKindAndType)
     }
 }
 
-TEST(GeneratedCode, withPlainNamesIsCorrectToo)
+TEST(GeneratedCode, IsCorrectWithPlainNames)
 {
     ExpressionSyntax syntax;
     Author author(11);
@@ -209,7 +209,7 @@ TEST(GeneratedCode, withPlainNamesIsCorrectToo)
 }
 
 //! One text of a shape stands for all: what cannot be read never hides behind a shape that can.
-TEST(GeneratedCode, isWrongInItsShapeWhenItIsWrong)
+TEST(GeneratedCode, TheShapeOfWrongCodeIsWrong)
 {
     const QStringList alike{u"x: \"a\" + qml_b.x * 12"_s, u"x: \"\\n'/\\\"\" + qml_tank_7.x * 345"_s};
     EXPECT_EQ(qmlShape(alike[0]), qmlShape(alike[1]));

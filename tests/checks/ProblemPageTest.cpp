@@ -10,7 +10,7 @@ using namespace Halvane::Corvex::Designer;
 using namespace Qt::StringLiterals;
 
 //! docs/problems.md is made from the table: CORVEX_WRITE=1 makes this test write it.
-TEST(ProblemPage, listsEveryKindOfProblem)
+TEST(ProblemPage, ListsEveryKindOfProblem)
 {
     QString page =
         u"# Problems\n\nWhat `corvex check` can find. An error keeps a project from being built; a "

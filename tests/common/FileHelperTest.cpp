@@ -92,7 +92,7 @@ TEST_F(FileHelperTest, FullDiskLeavesTheOldFile)
     EXPECT_EQ(names(), QStringList(u"a"_s));
 }
 
-TEST_F(FileHelperTest, CopiesAreWholeOrNotThere)
+TEST_F(FileHelperTest, CopiesAreCompleteOrDoNotExist)
 {
     put(path(u"a"_s), QByteArray(100'000, 'x'));
     put(path(u"taken"_s), "mine");
@@ -155,14 +155,14 @@ TEST_F(FileHelperTest, RemoveDirectoryRefuses)
     qputenv("HOME", home);
 }
 
-TEST_F(FileHelperTest, TemporaryLocationIsOurs)
+TEST_F(FileHelperTest, TemporaryLocationBelongsToTheUser)
 {
     const QFileInfo info(FileHelper::getStandardTemporatyLocation());
     EXPECT_TRUE(info.isDir() && info.isWritable());
     EXPECT_TRUE(info.absoluteFilePath().startsWith(QDir::tempPath()));
 }
 
-TEST_F(FileHelperTest, TemporaryFoldersOfKilledProgramsGo)
+TEST_F(FileHelperTest, TemporaryFoldersOfKilledProgramsAreRemoved)
 {
     const auto count = [] { return QDir::temp().entryList({u"corvex-kept-test-*"_s}, QDir::Dirs).size(); };
     EXPECT_TRUE(QDir::temp().mkpath(u"corvex-kept-test-killed/deep"_s));

@@ -78,7 +78,7 @@ void replacePump(FileTransaction &files)
 
 } // namespace
 
-TEST_F(FileTransactionTest, AllOfItCountsOrNothing)
+TEST_F(FileTransactionTest, ChangesTakeEffectTogetherOrNotAtAll)
 {
     using Recovery = FileTransaction::Recovery;
     const struct
@@ -124,7 +124,7 @@ TEST_F(FileTransactionTest, AllOfItCountsOrNothing)
     }
 }
 
-TEST_F(FileTransactionTest, AFolderGetsItsNameBack)
+TEST_F(FileTransactionTest, ARenamedFolderGetsItsOldName)
 {
     const QMap<QString, QByteArray> before = files();
     const auto change = [](FileTransaction &files) {
@@ -144,7 +144,7 @@ TEST_F(FileTransactionTest, AFolderGetsItsNameBack)
               (QStringList{u"Mine/Images/pump.png"_s, u"Mine/Images/tank.png"_s, u"Mine/P.proj"_s}));
 }
 
-TEST_F(FileTransactionTest, WhatAUserDidSinceStays)
+TEST_F(FileTransactionTest, LaterChangesByTheUserAreKept)
 {
     crash([](FileTransaction &files) { EXPECT_TRUE(files.move(pump, motor) && files.place(pump, "new")); });
     write(u"P/"_s + motor, "mine");
@@ -156,7 +156,7 @@ TEST_F(FileTransactionTest, WhatAUserDidSinceStays)
     EXPECT_EQ(now.value(u"P/"_s + pump + u".tmp1"_s), "mine too");
 }
 
-TEST_F(FileTransactionTest, AJournalOfAStrangerReachesNothingOutside)
+TEST_F(FileTransactionTest, AForeignJournalCannotReachOutsideOfTheFolder)
 {
     write(u"outside/victim"_s, "victim");
     write(u"P/.corvex-edit/evil"_s, "evil");
@@ -187,7 +187,7 @@ TEST_F(FileTransactionTest, AJournalOfAStrangerReachesNothingOutside)
     }
 }
 
-TEST_F(FileTransactionTest, WhoWorksInAFolderIsSeen)
+TEST_F(FileTransactionTest, RunningTransactionsAreDetected)
 {
     using Kind = FolderLock::Kind;
     const QMap<QString, QByteArray> before = files();
@@ -215,7 +215,7 @@ TEST_F(FileTransactionTest, WhoWorksInAFolderIsSeen)
     EXPECT_NE(FileStamp::of(file.fileName()), again);
 }
 
-TEST_F(FileTransactionTest, DraftsOfKilledProgramsGo)
+TEST_F(FileTransactionTest, DraftsOfKilledProgramsAreRemoved)
 {
     const pid_t child = fork();
     if (child == 0) {

@@ -44,7 +44,7 @@ void waitFor(Job &job)
 
 } // namespace
 
-TEST(JobTest, ProgressOfAThreadArrivesInThatOfTheReceiver)
+TEST(JobTest, ProgressArrivesInTheThreadOfTheReceiver)
 {
     ResultJob<int> job;
     QObject receiver;
@@ -74,7 +74,7 @@ TEST(JobTest, ProgressOfAThreadArrivesInThatOfTheReceiver)
     EXPECT_EQ(states.constLast().percent(), 100);
 }
 
-TEST(JobTest, WorkThatFailsOrIsCancelledLeavesNothing)
+TEST(JobTest, FailedOrCancelledWorkHasNoResult)
 {
     int pieces = 0;
     for (const bool isCancelled : {false, true}) {
@@ -150,7 +150,7 @@ TEST(JobTest, AJobThatIsDeletedCancelsAndWaits)
     }
 }
 
-TEST(JobTest, SlicesLeaveRoomForEvents)
+TEST(JobTest, EventsAreProcessedBetweenSlices)
 {
     int pieces = 0;
     for (const Job::Next end : {Job::Next::Done, Job::Next::Failed, Job::Next::More}) {

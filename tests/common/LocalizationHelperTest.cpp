@@ -44,7 +44,7 @@ TEST(StringsFile, Encodings)
     }
 }
 
-TEST(StringsFile, ErrorsNameTheLineAndLeaveNothing)
+TEST(StringsFile, ErrorsNameTheLineAndLeaveTheTableEmpty)
 {
     const struct
     {

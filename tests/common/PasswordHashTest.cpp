@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(PasswordHash, IsWhatTheDeviceChecks)
+TEST(PasswordHash, IsAcceptedByTheDevice)
 {
     const auto accepts = [](const QString &hash, const QByteArray &password) {
         return crypto_pwhash_str_verify(hash.toLatin1().constData(), password.constData(),

@@ -12,7 +12,7 @@
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Common;
 
-TEST(PictureFile, letsDrawingsShowWhatTheyHold)
+TEST(PictureFile, AcceptsOnlySelfContainedDrawings)
 {
     // A PNG of one dot, and a drawing that links further, as they stand in a drawing.
     const QByteArray dot =
@@ -49,7 +49,7 @@ TEST(PictureFile, letsDrawingsShowWhatTheyHold)
     }
 }
 
-TEST(RegularFile, readsNoPipesNoLinksAndNothingLarge)
+TEST(RegularFile, RefusesPipesLinksAndLargeFiles)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"file"_s);

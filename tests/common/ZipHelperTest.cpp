@@ -56,7 +56,7 @@ constexpr quint32 fileMode = 0100644;
 
 } // namespace
 
-TEST_F(ZipHelperTest, FilesGoUnderTheirNames)
+TEST_F(ZipHelperTest, FilesAreStoredUnderTheirNames)
 {
     put(u"in/one.txt"_s, "1");
     put(u"in/deep/zwei ü.txt"_s, QByteArray(10000, 'z'));
@@ -101,7 +101,7 @@ TEST_F(ZipHelperTest, FailuresLeaveTheOldArchive)
     EXPECT_EQ(get(u"z.zip"_s), "old");
 }
 
-TEST_F(ZipHelperTest, EqualFoldersGiveEqualBytesAndComeBack)
+TEST_F(ZipHelperTest, EqualFoldersGiveEqualBytesAndUnpackUnchanged)
 {
     const QByteArray zone = qgetenv("TZ");
     int turn = 0;

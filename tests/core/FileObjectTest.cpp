@@ -96,7 +96,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-TEST_F(FileObjectTest, fullPathStaysInTheParentFolder)
+TEST_F(FileObjectTest, TheFullPathStaysInTheParentFolder)
 {
     const struct
     {
@@ -121,7 +121,7 @@ TEST_F(FileObjectTest, fullPathStaysInTheParentFolder)
     }
 }
 
-TEST_F(FileObjectTest, makesLoadsAndSavesItsFile)
+TEST_F(FileObjectTest, CreatesLoadsAndSavesItsFile)
 {
     Recipe recipe(u"Soup"_s);
     EXPECT_FALSE(recipe.saveFile());
@@ -150,7 +150,7 @@ TEST_F(FileObjectTest, makesLoadsAndSavesItsFile)
     EXPECT_TRUE(again.fullFilePath().isEmpty());
 }
 
-TEST_F(FileObjectTest, refusesToMakeWhatCannotBeWhole)
+TEST_F(FileObjectTest, RefusesToCreateAnIncompleteFile)
 {
     Recipe halfDone(u"Stew"_s, false);
     EXPECT_FALSE(halfDone.createFile(path()));
@@ -169,7 +169,7 @@ TEST_F(FileObjectTest, refusesToMakeWhatCannotBeWhole)
     EXPECT_EQ(content(u"Stew/Stew.recipe"_s), before);
 }
 
-TEST_F(FileObjectTest, aFailedLoadForgetsTheFile)
+TEST_F(FileObjectTest, AFailedLoadForgetsTheFile)
 {
     put(u"broken.recipe"_s, "<Recipe><Properties>");
     put(u"other.recipe"_s, "<Shelf/>");
@@ -185,7 +185,7 @@ TEST_F(FileObjectTest, aFailedLoadForgetsTheFile)
     EXPECT_EQ(content(u"Soup/Soup.recipe"_s), before);
 }
 
-TEST_F(FileObjectTest, renamesItsFolderAndFile)
+TEST_F(FileObjectTest, RenamesItsFolderAndFile)
 {
     Recipe recipe(u"Soup"_s);
     ASSERT_TRUE(recipe.createFile(path()));
@@ -202,7 +202,7 @@ TEST_F(FileObjectTest, renamesItsFolderAndFile)
     EXPECT_EQ(recipe.fullFilePath(), path(u"Broth/Broth.recipe"_s));
 }
 
-TEST_F(FileObjectTest, deletesNoMoreThanItsOwn)
+TEST_F(FileObjectTest, DeletesOnlyItsOwnFiles)
 {
     Recipe recipe(u"Soup"_s);
     ASSERT_TRUE(recipe.createFile(path()));
@@ -225,7 +225,7 @@ TEST_F(FileObjectTest, deletesNoMoreThanItsOwn)
     EXPECT_EQ(all(), QStringList{u"Documents"_s});
 }
 
-TEST_F(FileObjectTest, directoryIsMadeOnceAndFoundBothWays)
+TEST_F(FileObjectTest, ADirectoryIsCreatedOnceAndFoundBothWays)
 {
     Shelf shelf;
     EXPECT_FALSE(shelf.loadDirectory(path()));

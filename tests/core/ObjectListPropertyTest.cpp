@@ -76,7 +76,7 @@ constexpr OrderRule allRules[] = {OrderRule::InsertionOrder, OrderRule::PlainOrd
 
 } // namespace
 
-TEST(ObjectListProperty, EachRuleHasItsOrder)
+TEST(ObjectListProperty, EachRuleHasItsOwnOrder)
 {
     const struct
     {
@@ -98,7 +98,7 @@ TEST(ObjectListProperty, EachRuleHasItsOrder)
     }
 }
 
-TEST(ObjectListProperty, KindsAreLaidOutOneAfterAnother)
+TEST(ObjectListProperty, KindsFollowEachOther)
 {
     Owner owner(OrderRule::KindOrder);
     const std::pair<const char *, const char *> items[] = {
@@ -113,7 +113,7 @@ TEST(ObjectListProperty, KindsAreLaidOutOneAfterAnother)
     EXPECT_EQ(owner.names(), u"x1 x2 h1 f9 f10 g1 v2 v1 o2 o1"_s);
 }
 
-TEST(ObjectListProperty, StaysInOrderWhateverComes)
+TEST(ObjectListProperty, StaysSortedAfterAnyInsertion)
 {
     const QStringList classes{u"ProjectVariable"_s, u"VisualElement"_s, u"FilterElement"_s, u"Other"_s};
     for (const OrderRule rule : allRules) {
@@ -145,7 +145,7 @@ TEST(ObjectListProperty, StaysInOrderWhateverComes)
     }
 }
 
-TEST(ObjectListProperty, FindsPlacesBySearchAndSortsALoadedListOnce)
+TEST(ObjectListProperty, InsertsByBinarySearchAndSortsALoadedListOnce)
 {
     constexpr int count = 1000;
     Owner grown(OrderRule::KindOrder);
@@ -174,7 +174,7 @@ TEST(ObjectListProperty, FindsPlacesBySearchAndSortsALoadedListOnce)
     EXPECT_EQ(loaded.names(), grown.names());
 }
 
-TEST(ObjectListProperty, SwapsWhereItHasNoOrderOfItsOwn)
+TEST(ObjectListProperty, SwapsItemsThatAreNotSorted)
 {
     for (const OrderRule rule : {OrderRule::InsertionOrder, OrderRule::NaturalOrder}) {
         Owner owner(rule);

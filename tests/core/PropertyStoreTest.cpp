@@ -65,7 +65,7 @@ private:
 
 } // namespace
 
-TEST(PropertyStore, ObjectsOfOneClassMayDifferAndEachPropertyKnowsItsOwn)
+TEST(PropertyStore, ObjectsOfAClassMayDifferAndPropertiesKnowTheirOwner)
 {
     QList<SharedProperty> kept;
     for (const char *id : {"first", "other", "first", "other", "other"}) {

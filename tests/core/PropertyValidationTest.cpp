@@ -156,7 +156,7 @@ TEST(PropertyValidation, RangeStyles)
     }
 }
 
-TEST(PropertyValidation, ValueRangeMustBeSeenByTheInput)
+TEST(PropertyValidation, TheInputMustResolveTheValueRange)
 {
     const QString tooClose =
         u"According to the actual available voltage range from value and to value are almost same."_s;

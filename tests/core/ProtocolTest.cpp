@@ -32,7 +32,7 @@ protected:
 
 } // namespace
 
-TEST_F(Protocol, AChangeAsksStoresTellsAndSignalsInThisOrder)
+TEST_F(Protocol, AChangeCallsHooksStoresNotifiesAndSignalsInThisOrder)
 {
     EXPECT_TRUE(owner->set("percent", u"7"_s));
     EXPECT_EQ(owner->log,
@@ -64,7 +64,7 @@ TEST_F(Protocol, ARefusedValueLeavesOnlyItsReason)
     EXPECT_TRUE(owner->isValid()) << "a refusal must not be taken for the state of the object";
 }
 
-TEST_F(Protocol, AChangeSaysWhatBecameOfIt)
+TEST_F(Protocol, AChangeReturnsItsOutcome)
 {
     using enum DesignerObject::Change;
     const std::unique_ptr<Node> other(Node::create(u"other"_s));
@@ -98,7 +98,7 @@ TEST_F(Protocol, AChangeSaysWhatBecameOfIt)
     }
 }
 
-TEST_F(Protocol, AnEditorHearsEachVerdictAndWhetherItIsShown)
+TEST_F(Protocol, AnEditorGetsEachOutcomeAndItsVisibility)
 {
     struct Editor : public EditorView
     {
@@ -116,7 +116,7 @@ TEST_F(Protocol, AnEditorHearsEachVerdictAndWhetherItIsShown)
     EXPECT_FALSE(editor.isShown);
 }
 
-TEST_F(Protocol, ATrialLeavesTheValueAsItIs)
+TEST_F(Protocol, TryingAValueDoesNotChangeIt)
 {
     const auto refuse = [](const DesignerProperty *property, QString &) {
         return static_cast<const RealProperty *>(property)->value() < 100;
@@ -136,7 +136,7 @@ TEST_F(Protocol, ATrialLeavesTheValueAsItIs)
     EXPECT_FALSE(broken->isValid()) << "after a veto the value that is held counts";
 }
 
-TEST_F(Protocol, AnInvalidValueThatIsAllowedIsStoredAndMarked)
+TEST_F(Protocol, AnAllowedInvalidValueIsStoredAndMarked)
 {
     EXPECT_TRUE(owner->set("loose", u"101"_s));
     EXPECT_EQ(owner->value("loose"), u"101"_s);
@@ -149,7 +149,7 @@ TEST_F(Protocol, AnInvalidValueThatIsAllowedIsStoredAndMarked)
     EXPECT_EQ(owner->log.value(1), u"valid"_s);
 }
 
-TEST_F(Protocol, OnlyTextThatAFileCanHoldIsTaken)
+TEST_F(Protocol, OnlyTextThatAFileCanStoreIsAccepted)
 {
     for (const QString &text : {u"a\u0001b"_s, QString(QChar(0xD800)), u"\uFFFE"_s}) {
         EXPECT_FALSE(owner->set("text", text));
@@ -159,7 +159,7 @@ TEST_F(Protocol, OnlyTextThatAFileCanHoldIsTaken)
     EXPECT_TRUE(owner->set("text", u"tab\t line\r\n emoji \U0001F600"_s));
 }
 
-TEST_F(Protocol, PropertiesOfOthersListsAndObjectsTakeNoValue)
+TEST_F(Protocol, ForeignPropertiesListsAndObjectsAcceptNoValue)
 {
     const std::unique_ptr<Node> other(Node::create(u"other"_s));
     EXPECT_TRUE(owner->changePropertyValue({}, u"1"_s));
@@ -168,7 +168,7 @@ TEST_F(Protocol, PropertiesOfOthersListsAndObjectsTakeNoValue)
     EXPECT_FALSE(owner->set("child", u"1"_s));
 }
 
-TEST_F(Protocol, ItemsGetTheirPlaceAndLoseItAgain)
+TEST_F(Protocol, ItemsAreInsertedAndRemoved)
 {
     Node *item = Node::create(u"a"_s);
     EXPECT_TRUE(owner->addListPropertyItem(owner->property("nodes"), item));
@@ -188,7 +188,7 @@ TEST_F(Protocol, ItemsGetTheirPlaceAndLoseItAgain)
     delete item;
 }
 
-TEST_F(Protocol, RefusalsNameTheirReasonAndTouchNothing)
+TEST_F(Protocol, RefusalsGiveTheirReasonAndChangeNothing)
 {
     Node *first = add(u"first"_s);
     Node *second = add(u"second"_s);
@@ -242,7 +242,7 @@ TEST_F(Protocol, RefusalsNameTheirReasonAndTouchNothing)
     EXPECT_FALSE(owner->log.join(u' ').contains(u"after"_s));
 }
 
-TEST_F(Protocol, ReplaceAndSwapKeepPlacesAndHandOverTheOldItem)
+TEST_F(Protocol, ReplaceAndSwapKeepPlacesAndReturnTheOldItem)
 {
     Node *first = add(u"first"_s);
     add(u"second"_s);
@@ -269,7 +269,7 @@ TEST_F(Protocol, ReplaceAndSwapKeepPlacesAndHandOverTheOldItem)
     EXPECT_EQ(fourth->parent(), nullptr);
 }
 
-TEST_F(Protocol, ANewNameIsFoundAtOnceAndToldAfterwards)
+TEST_F(Protocol, ANewNameIsFoundAtOnceAndReportedAfterwards)
 {
     Node *item = add(u"old"_s);
     item->log.clear();
@@ -291,7 +291,7 @@ TEST_F(Protocol, ANewNameIsFoundAtOnceAndToldAfterwards)
     EXPECT_EQ(owner->property("nodes")->getListItem(u"new"_s), twin);
 }
 
-TEST_F(Protocol, ValidityTravelsUpWithEachEditAndDownWithAFullValidation)
+TEST_F(Protocol, EditsUpdateValidityUpwardsAndFullValidationDownwards)
 {
     Node *item = add(u"item"_s);
     Node *inner = Node::create(u"inner"_s);
@@ -329,7 +329,7 @@ TEST_F(Protocol, AChildObjectIsOwnedReplacedAndDeletedOnRequest)
     EXPECT_TRUE(owner->isValid());
 }
 
-TEST_F(Protocol, WhatHoldsAnObjectForgetsItWhenItIsDeleted)
+TEST_F(Protocol, ADeletedObjectIsRemovedFromItsOwner)
 {
     Node *item = add(u"item"_s);
     item->set("loose", u"200"_s);
@@ -359,7 +359,7 @@ TEST_F(Protocol, APropertyOutlivesItsObject)
     }
 }
 
-TEST_F(Protocol, AChildIsTakenFromItsOwnerBeforeAnotherGetsIt)
+TEST_F(Protocol, AChildIsTakenFromItsOldOwnerFirst)
 {
     const std::unique_ptr<Node> other(Node::create(u"other"_s));
     Node *child = Node::create(u"child"_s);

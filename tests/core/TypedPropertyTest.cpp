@@ -247,7 +247,7 @@ QList<Kind> kinds()
 
 } // namespace
 
-TEST(TypedProperty, ReadsAndWritesItsKind)
+TEST(TypedProperty, ReadsAndWritesItsType)
 {
     for (const Kind &kind : kinds()) {
         SCOPED_TRACE(kind.description);
@@ -308,7 +308,7 @@ TEST(TypedProperty, ZeroKeepsItsSign)
     }
 }
 
-TEST(TypedProperty, EqualFontsAreHeldOnce)
+TEST(TypedProperty, EqualFontsAreShared)
 {
     const auto fontOf = [](const Subject &subject) {
         return static_cast<const FontProperty &>(*subject.property).value();

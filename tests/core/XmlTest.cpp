@@ -57,7 +57,7 @@ protected:
 
 } // namespace
 
-TEST_F(Xml, TheFormIsFixed)
+TEST_F(Xml, TheFormatIsFixed)
 {
     const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
     owner->set("text", u"a<b>\"&\t\r\n\U0001F600"_s);
@@ -121,7 +121,7 @@ class LoudByMacro : public Loud
 
 } // namespace
 
-TEST_F(Xml, AFormOfAClassOfItsOwnIsWhatIsSavedAndCopied)
+TEST_F(Xml, TheOwnFormOfAClassIsSavedAndCopied)
 {
     const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
     EXPECT_FALSE(owner->hasOwnXmlDocument());
@@ -143,7 +143,7 @@ TEST_F(Xml, AFormOfAClassOfItsOwnIsWhatIsSavedAndCopied)
     EXPECT_TRUE(owner->convertToXmlDocument(false, false).isNull());
 }
 
-TEST_F(Xml, WhatWasSavedReadsBackEqual)
+TEST_F(Xml, SavedObjectsReadBackEqual)
 {
     const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
     owner->set("text", u" \"<&>%1\t\r\n]]> \u2028\U0001F600 "_s);
@@ -171,7 +171,7 @@ TEST_F(Xml, WhatWasSavedReadsBackEqual)
     EXPECT_FALSE(problem.isEmpty());
 }
 
-TEST_F(Xml, AnEmptyValueMeansEmptyForTextAlone)
+TEST_F(Xml, AnEmptyValueMeansEmptyOnlyForTexts)
 {
     const std::unique_ptr<Node> read1 =
         read(node("<Property name='text' value=''/><Property name='note' value=''/>"));
@@ -181,7 +181,7 @@ TEST_F(Xml, AnEmptyValueMeansEmptyForTextAlone)
     EXPECT_EQ(read(node(""))->value("text"), u"abc"_s);
 }
 
-TEST_F(Xml, WhatIsNotUnderstoodIsTold)
+TEST_F(Xml, UnknownPartsAreReported)
 {
     struct Case
     {
@@ -231,7 +231,7 @@ TEST_F(Xml, ASecondPartOfAnObjectAddsToTheFirst)
     EXPECT_EQ(notes.size(), 1);
 }
 
-TEST_F(Xml, OfAFileFullOfOdditiesTheFirstAreToldAndTheRestCounted)
+TEST_F(Xml, TheNumberOfNotesIsLimitedAndTheRestCounted)
 {
     ASSERT_TRUE(read(node(QByteArray("<Other/>\n").repeated(20'000))));
     EXPECT_EQ(notes.size(), 10'001);
@@ -239,7 +239,7 @@ TEST_F(Xml, OfAFileFullOfOdditiesTheFirstAreToldAndTheRestCounted)
     EXPECT_TRUE(notes.back().message.contains(u"9999 more"_s)) << qPrintable(notes.back().message);
 }
 
-TEST_F(Xml, ItemsOfUnknownClassesAndDuplicatesGoBackToTheirPlaces)
+TEST_F(Xml, ItemsOfUnknownClassesAndDuplicatesKeepTheirPlaces)
 {
     const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
     for (const QString &name : {u"a"_s, u"b"_s, u"c"_s}) {
@@ -277,7 +277,7 @@ TEST_F(Xml, ItemsOfUnknownClassesAndDuplicatesGoBackToTheirPlaces)
     EXPECT_TRUE(write(loaded.get()).contains("<Robot>")) << "what is kept outlives its neighbour";
 }
 
-TEST_F(Xml, ALongListIsWrittenInPartsAsOneText)
+TEST_F(Xml, AListWrittenInPartsGivesTheSameText)
 {
     //! Takes so many bytes, in one thread.
     struct Device : QIODevice
@@ -331,7 +331,7 @@ TEST_F(Xml, ALongListIsWrittenInPartsAsOneText)
     EXPECT_TRUE(writer.errorString().contains(u"n90"_s)) << qPrintable(writer.errorString());
 }
 
-TEST_F(Xml, TextInsideAnUnknownItemStaysWhole)
+TEST_F(Xml, TextInsideAnUnknownItemIsKept)
 {
     const std::unique_ptr<Node> loaded =
         read(node("<Property name='nodes'><List><Robot>a &amp;  b\n c</Robot></List></Property>"));
@@ -353,7 +353,7 @@ TEST_F(Xml, AnObjectIsUsableAfterAFailedReading)
     EXPECT_EQ(target->property("sorted")->listItemNames(), QStringList({u"a"_s, u"b"_s}));
 }
 
-TEST_F(Xml, WhatNoFileCanHoldNeverSpoilsAFile)
+TEST_F(Xml, CharactersThatCannotBeStoredNeverSpoilAFile)
 {
     const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
     EXPECT_FALSE(owner->set("text", u"a\u0001b"_s));
@@ -362,7 +362,7 @@ TEST_F(Xml, WhatNoFileCanHoldNeverSpoilsAFile)
     EXPECT_EQ(bytes.bytes(), QByteArray("a") + QByteArray("\xEF\xBF\xBD").repeated(4) + "&#x9;");
 }
 
-TEST_F(Xml, WhatCanBeSavedCanBeRead)
+TEST_F(Xml, EverySavedFileCanBeRead)
 {
     const std::unique_ptr<Node> owner(Node::create(u"owner"_s));
     const QString longest(XmlLimits::longestValue / 4, u'<');
@@ -490,7 +490,7 @@ TEST_F(Xml, ReadingIntoAnObjectReplacesItsLists)
     EXPECT_FALSE(DesignerObject::loadFromFile(target.get(), folder.path()));
 }
 
-TEST_F(Xml, ReadingBeginsWhereTheDeviceStands)
+TEST_F(Xml, ReadingBeginsAtThePositionOfTheDevice)
 {
     constexpr qint64 before = 20 * 1024 * 1024;
     QBuffer buffer;

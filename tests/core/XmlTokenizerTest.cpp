@@ -104,7 +104,7 @@ TEST(XmlTokenizer, AgreesWithAnotherReaderOnEverything)
     EXPECT_GT(goodCount, 300);
 }
 
-TEST(XmlTokenizer, TellsThePlaceOfAnError)
+TEST(XmlTokenizer, ReportsThePlaceOfAnError)
 {
     const struct
     {

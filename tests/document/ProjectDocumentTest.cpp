@@ -108,7 +108,7 @@ TEST_F(ProjectDocumentTest, AGestureIsOneStepOrNone)
     EXPECT_EQ(modified.size(), 6);
 }
 
-TEST_F(ProjectDocumentTest, OldHistoriesGoAndLoadingForgetsAll)
+TEST_F(ProjectDocumentTest, OldHistoriesAreDroppedAndLoadingDropsAll)
 {
     ProjectHistory &history = document->history();
     history.setMostEarlierSteps(5);
@@ -132,7 +132,7 @@ TEST_F(ProjectDocumentTest, OldHistoriesGoAndLoadingForgetsAll)
     EXPECT_FALSE(document->isModified());
 }
 
-TEST_F(ProjectDocumentTest, ASaveThatCannotKeepFilesForgetsTheHistoryAndSaves)
+TEST_F(ProjectDocumentTest, ASaveThatCannotKeepFilesDropsTheHistory)
 {
     addImage(document->project(), u"a.png"_s);
     ASSERT_TRUE(document->save());
@@ -162,7 +162,7 @@ TEST_F(ProjectDocumentTest, ASaveThatCannotKeepFilesForgetsTheHistoryAndSaves)
     EXPECT_TRUE(describe(u"goes on"_s) && document->undo());
 }
 
-TEST_F(ProjectDocumentTest, OthersWhoWriteTheFileAreNoticedOnce)
+TEST_F(ProjectDocumentTest, ChangesByOtherProgramsAreReportedOnce)
 {
     ASSERT_TRUE(describe(u"a"_s) && document->save());
     QTest::qWait(400);
@@ -228,7 +228,7 @@ TEST_F(ProjectDocumentTest, ItClosesWhileItsAutosaveRuns)
     EXPECT_FALSE(QFile::exists(archive));
 }
 
-TEST_F(ProjectDocumentTest, WhatACrashLeftWaitsForAnAnswer)
+TEST_F(ProjectDocumentTest, RecoveryAfterACrashWaitsForAnAnswer)
 {
     const QString archive = document->project().autosavePath();
     const auto autosave = [this] {
@@ -306,7 +306,7 @@ TEST_F(ProjectDocumentTest, ProjectsAreLoadedInAnotherThread)
     EXPECT_FALSE(missing->errorString().isEmpty());
 }
 
-TEST_F(ProjectDocumentTest, NobodyEditsWhatAJobReads)
+TEST_F(ProjectDocumentTest, AProjectCannotBeEditedWhileAJobReadsIt)
 {
     qputenv("TMPDIR", path(u"temporary"_s).toLocal8Bit());
     QDir().mkdir(path(u"temporary"_s));

@@ -68,7 +68,7 @@ public:
 
 } // namespace
 
-TEST(UndoStackTest, WhatCannotBeDoneIsDroppedWithWhatWasBuiltUponIt)
+TEST(UndoStackTest, AFailedCommandIsDroppedWithAllThatDependOnIt)
 {
     UndoStack stack;
     const QSignalSpy saved(&stack, &UndoStack::savedChanged);
@@ -96,7 +96,7 @@ TEST(UndoStackTest, WhatCannotBeDoneIsDroppedWithWhatWasBuiltUponIt)
     EXPECT_FALSE(canRedo.constLast().constFirst().toBool());
 }
 
-TEST(UndoStackTest, AGestureCommitsWhatIsAlreadyDone)
+TEST(UndoStackTest, AGestureCommitsCommandsThatAreDone)
 {
     UndoStack stack;
     ASSERT_TRUE(stack.beginGesture(u"Drag"_s));
@@ -110,7 +110,7 @@ TEST(UndoStackTest, AGestureCommitsWhatIsAlreadyDone)
     EXPECT_EQ(step->done, 1);
 }
 
-TEST(UndoStackTest, AMacroThatFailsIsTakenBackAsAWhole)
+TEST(UndoStackTest, AFailedMacroIsUndoneAsAWhole)
 {
     UndoStack stack;
     QUndoGroup group; // It calls the redo of QUndoStack, which is not virtual.
@@ -158,7 +158,7 @@ TEST(UndoStackTest, AMacroThatFailsIsTakenBackAsAWhole)
     }
 }
 
-TEST(UndoStackTest, NoMoveAsksACommandThatIsGone)
+TEST(UndoStackTest, NoMoveUsesADeletedCommand)
 {
     const std::unique_ptr<DesignerObject> screen(make("Screen"));
     UndoStack stack;
@@ -197,7 +197,7 @@ TEST(UndoStackTest, NoMoveAsksACommandThatIsGone)
     }
 }
 
-TEST(UndoStackTest, MovesTellTheSavedStateTheDirectionAndTheActiveItem)
+TEST(UndoStackTest, MovesReportSavedStateDirectionAndActiveItem)
 {
     const std::unique_ptr<DesignerObject> first(make("Screen"));
     const std::unique_ptr<DesignerObject> second(make("Screen"));
@@ -247,7 +247,7 @@ TEST(UndoStackTest, MovesTellTheSavedStateTheDirectionAndTheActiveItem)
     EXPECT_TRUE(stack.isDeleteImage());
 }
 
-TEST(UndoStackTest, CandidatesDieOnceAndOnlyOutOfTheModel)
+TEST(UndoStackTest, CandidatesAreDeletedOnceAndOnlyOutsideOfTheModel)
 {
     QPointer<DesignerObject> lost(make("Screen"));
     QPointer<DesignerObject> back(make("Screen"));
@@ -269,7 +269,7 @@ TEST(UndoStackTest, CandidatesDieOnceAndOnlyOutOfTheModel)
     EXPECT_TRUE(back);
 }
 
-TEST(UndoStackTest, LeavesAnswerFromTheirPropertyCompositesFromTheirChildren)
+TEST(UndoStackTest, LeavesAnswerFromTheirPropertyAndCompositesFromTheirChildren)
 {
     const std::unique_ptr<DesignerObject> screen(make("Screen"));
     const std::unique_ptr<DesignerObject> image(make("ImageResource"));

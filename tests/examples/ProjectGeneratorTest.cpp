@@ -43,7 +43,7 @@ qsizetype elementCount(const Project &project)
 
 } // namespace
 
-TEST_F(ProjectGeneratorTest, MakesAValidProjectThatSurvivesItsFile)
+TEST_F(ProjectGeneratorTest, CreatesAValidProjectThatReloadsUnchanged)
 {
     const std::unique_ptr<Project> project = generate(*ProjectSize::named(u"S"_s), 7);
     giveFile(*project);
@@ -58,7 +58,7 @@ TEST_F(ProjectGeneratorTest, MakesAValidProjectThatSurvivesItsFile)
     EXPECT_TRUE(saved(*loaded) == bytesOf(project->fullFilePath()));
 }
 
-TEST_F(ProjectGeneratorTest, DependsOnItsArgumentsAlone)
+TEST_F(ProjectGeneratorTest, DependsOnlyOnItsArguments)
 {
     constexpr ProjectSize size{5, 40, 200};
     const QByteArray bytes = saved(*generate(size, 7));
@@ -66,7 +66,7 @@ TEST_F(ProjectGeneratorTest, DependsOnItsArgumentsAlone)
     EXPECT_FALSE(saved(*generate(size, 8)) == bytes);
 }
 
-TEST_F(ProjectGeneratorTest, MakesExactlyAsMuchAsIsAskedFor)
+TEST_F(ProjectGeneratorTest, CreatesExactlyTheRequestedCounts)
 {
     constexpr ProjectSize sizes[] = {{1, 8, 1}, {1, 9, 400}, {3, 30, 10}, {7, 8, 7}, {30, 1'000, 1'000}};
     for (const ProjectSize &size : sizes) {
@@ -79,7 +79,7 @@ TEST_F(ProjectGeneratorTest, MakesExactlyAsMuchAsIsAskedFor)
     }
 }
 
-TEST_F(ProjectGeneratorTest, TellsWhichCountsCannotBeMet)
+TEST_F(ProjectGeneratorTest, ReportsImpossibleCounts)
 {
     EXPECT_EQ((ProjectSize{1, 8, 1}.problem()), QString());
     EXPECT_EQ((ProjectSize{0, 8, 1}.problem()), u"A project has at least one screen."_s);

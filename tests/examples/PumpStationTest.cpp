@@ -37,7 +37,7 @@ TEST_F(PumpStationTest, LoadsCleanAndSavesTheSameBytes)
     EXPECT_TRUE(saved(*project) == bytesOf(projectFile));
 }
 
-TEST_F(PumpStationTest, IsWhatTheGeneratorDraws)
+TEST_F(PumpStationTest, EqualsTheOutputOfItsGenerator)
 {
     PumpStation station;
     const std::unique_ptr<Project> project = station.build();
@@ -54,7 +54,7 @@ TEST_F(PumpStationTest, IsWhatTheGeneratorDraws)
     EXPECT_EQ(faults(*project), QStringList());
 }
 
-TEST_F(PumpStationTest, HoldsAllThatThereIsToShow)
+TEST_F(PumpStationTest, UsesAllCommonClasses)
 {
     const std::unique_ptr<Project> project = load(projectFile);
     QSet<QString> classes;
@@ -87,7 +87,7 @@ TEST_F(PumpStationTest, HoldsAllThatThereIsToShow)
 }
 
 //! What an expression gives is looked at by the tour, which runs with the tests of the command line.
-TEST_F(PumpStationTest, ItsTourExpectsEachBinding)
+TEST_F(PumpStationTest, TheTourChecksEveryBinding)
 {
     static const QMap<QString, QString> targets{{u"textBinding"_s, u"text"_s},
                                                 {u"colorBinding"_s, u"color"_s},
@@ -113,7 +113,7 @@ TEST_F(PumpStationTest, ItsTourExpectsEachBinding)
 }
 
 //! Everything is on the screen, and each text fits into its place and lies whole on what is behind it.
-TEST_F(PumpStationTest, CanBeRead)
+TEST_F(PumpStationTest, TextsFitAndAreReadable)
 {
     const std::unique_ptr<Project> project = load(projectFile);
     for (const DesignerObject *item : project->screens()->listItems()) {

@@ -62,7 +62,7 @@ private:
 
 } // namespace
 
-TEST(DesignerFactoryTest, AnInstanceNeedsAPathAndKnowsTheLibrarysClasses)
+TEST(DesignerFactoryTest, AnInstanceNeedsAPathAndHasTheLibrarysClasses)
 {
     EXPECT_FALSE(DesignerFactory::createInstance(u"/no/such/path"_s));
     ASSERT_TRUE(DesignerFactory::createInstance(QCoreApplication::applicationDirPath()));
@@ -156,7 +156,7 @@ TEST(DesignerFactoryTest, PluginsThatCannotBeUsedAreRefusedByName)
     EXPECT_FALSE(qEnvironmentVariableIsSet("CORVEX_TEST_FOREIGN_CODE")) << "nothing of it has run";
 }
 
-TEST(DesignerFactoryTest, AnExceptionOfAFactoryEndsTheCallAlone)
+TEST(DesignerFactoryTest, AnExceptionInAFactoryOnlyEndsTheCall)
 {
     struct : OneClassFactory
     {

@@ -10,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-TEST(ChannelListTest, readsAndWritesItsText)
+TEST(ChannelListTest, ReadsAndWritesItsText)
 {
     const struct
     {
@@ -35,7 +35,7 @@ TEST(ChannelListTest, readsAndWritesItsText)
     EXPECT_EQ(ChannelList(sparse).toString(), u"UNUSED, SEND, UNUSED, UNUSED"_s);
 }
 
-TEST(ConfigurationRulesTest, textsAlone)
+TEST(ConfigurationRulesTest, SingleTexts)
 {
     auto *const screen = &ConfigurationRules::screenSize;
     auto *const brightness = &ConfigurationRules::displayBrightness;
@@ -79,7 +79,7 @@ TEST(ConfigurationRulesTest, textsAlone)
     }
 }
 
-TEST(ConfigurationRulesTest, channelsBesideRS485)
+TEST(ConfigurationRulesTest, ChannelsWithRS485)
 {
     const auto conflict = [](const char *what) {
         return u"RS485 serial communication and %1 both cannot be used at the same time, they are shared."_s
@@ -129,7 +129,7 @@ TEST(ConfigurationRulesTest, channelsBesideRS485)
     }
 }
 
-TEST(ConfigurationRulesTest, linesOfRS485)
+TEST(ConfigurationRulesTest, LinesOfRS485)
 {
     const QString free7 = u"UNUSED,UNUSED,UNUSED,UNUSED,UNUSED,UNUSED,UNUSED,"_s;
     const struct

@@ -53,7 +53,7 @@ protected:
     }
 };
 
-TEST_F(ConfigurationTest, keepsInvalidValuesMarked)
+TEST_F(ConfigurationTest, KeepsInvalidValuesMarked)
 {
     const auto configuration = makeBusy(u"VTR 1"_s);
     EXPECT_TRUE(configuration->validate());
@@ -73,7 +73,7 @@ TEST_F(ConfigurationTest, keepsInvalidValuesMarked)
     EXPECT_EQ(configuration->validationErrors().size(), 2);
 }
 
-TEST_F(ConfigurationTest, switchOfRS485TakesAndFreesItsPins)
+TEST_F(ConfigurationTest, TheSwitchOfRS485OccupiesAndFreesItsPins)
 {
     const QString eight = u"INPUT, INPUT, INPUT, INPUT, OUTPUT, OUTPUT, OUTPUT, "_s;
     const struct
@@ -108,7 +108,7 @@ TEST_F(ConfigurationTest, switchOfRS485TakesAndFreesItsPins)
     }
 }
 
-TEST_F(ConfigurationTest, sharedPinsAreJudgedAgainWithWhatTheyDependOn)
+TEST_F(ConfigurationTest, SharedPinsAreValidatedAgainAfterRelatedChanges)
 {
     const auto configuration = makeBusy(u"VTR 50-K"_s);
     set(*configuration, configuration->enableRS485(), u"true"_s);
@@ -122,7 +122,7 @@ TEST_F(ConfigurationTest, sharedPinsAreJudgedAgainWithWhatTheyDependOn)
     EXPECT_TRUE(configuration->isValid()) << "the pins of that model are not shared";
 }
 
-TEST_F(ConfigurationTest, switchOfChipSelect)
+TEST_F(ConfigurationTest, TheSwitchOfChipSelect)
 {
     const auto configuration = makeBusy(u"VTR 1"_s);
     EXPECT_FALSE(isVisible(configuration->SPIChipSelect()));
@@ -137,7 +137,7 @@ TEST_F(ConfigurationTest, switchOfChipSelect)
     EXPECT_FALSE(ChannelList(configuration->SPIChipSelect()->valueString()).isAnyUsed());
 }
 
-TEST_F(ConfigurationTest, aFileIsReadAsItStands)
+TEST_F(ConfigurationTest, AFileIsReadUnchanged)
 {
     // In conflict with itself: to be reported, not to be mended behind the user's back.
     const auto configuration = makeBusy(u"VTR 50-K"_s);
@@ -155,7 +155,7 @@ TEST_F(ConfigurationTest, aFileIsReadAsItStands)
     EXPECT_FALSE(isVisible(copy->getProperty(u"alarmOutputs"))) << "the model has none";
 }
 
-TEST_F(ConfigurationTest, recordCarriesEverything)
+TEST_F(ConfigurationTest, TheRecordContainsEverything)
 {
     const auto configuration = makeBusy(u"VTR 50-K"_s);
     set(*configuration, configuration->enableRS485(), u"true"_s);
@@ -192,7 +192,7 @@ TEST_F(ConfigurationTest, recordCarriesEverything)
     EXPECT_EQ(other->toConfigurationInfo().displaySize(), QSize(480, 1000000000));
 }
 
-TEST_F(ConfigurationTest, newerModelLeavesTheUsersChannels)
+TEST_F(ConfigurationTest, ANewerModelKeepsTheUsersChannels)
 {
     const auto project = makeBusy(u"VTR 1"_s);
     set(*project, project->enableRS485(), u"true"_s);
@@ -209,7 +209,7 @@ TEST_F(ConfigurationTest, newerModelLeavesTheUsersChannels)
     EXPECT_EQ(project->serialRS485Ports()->valueString(), u"RECEIVE, SEND, UNUSED, UNUSED"_s);
 }
 
-TEST_F(ConfigurationTest, showsDescriptionInTheUsersLanguage)
+TEST_F(ConfigurationTest, ShowsTheDescriptionInTheUsersLanguage)
 {
     const QTemporaryDir folder;
     const QString before = LocalizationHelper::currentLocale();

@@ -55,7 +55,7 @@ protected:
     QTemporaryDir m_folder;
 };
 
-TEST_F(HardwareConfigurationsTest, needsTheFolder)
+TEST_F(HardwareConfigurationsTest, RequiresTheFolder)
 {
     EXPECT_FALSE(HardwareConfigurations::createInstance(m_folder.filePath(u"missing"_s)));
     EXPECT_FALSE(HardwareConfigurations::createInstance(m_folder.path()));
@@ -66,7 +66,7 @@ TEST_F(HardwareConfigurationsTest, needsTheFolder)
               m_folder.filePath(u"Configurations"_s));
 }
 
-TEST_F(HardwareConfigurationsTest, passesOverWhatIsNoModel)
+TEST_F(HardwareConfigurationsTest, SkipsFilesThatAreNotModels)
 {
     put(u"VTR 10/config.xml"_s, model("VTR 10"));
     put(u"makers/halvane/VTR 2/config.xml"_s, model("VTR 2"));
@@ -90,7 +90,7 @@ TEST_F(HardwareConfigurationsTest, passesOverWhatIsNoModel)
     EXPECT_EQ(installedModels().size(), 2) << "loading again replaces what was loaded";
 }
 
-TEST_F(HardwareConfigurationsTest, findsAModelForAProject)
+TEST_F(HardwareConfigurationsTest, FindsAModelForAProject)
 {
     const auto listing = [](const QByteArray &models) {
         return "<Property name=\"compatibleModels\" value=\"" + models + "\"/>";
@@ -123,7 +123,7 @@ TEST_F(HardwareConfigurationsTest, findsAModelForAProject)
     EXPECT_EQ(error, u"No valid configuration can be found."_s);
 }
 
-TEST_F(HardwareConfigurationsTest, modelsThatComeWithTheTool)
+TEST_F(HardwareConfigurationsTest, TheInstalledModels)
 {
     ASSERT_TRUE(HardwareConfigurations::createInstance(QStringLiteral(CORVEX_DATA)));
     const QList<Configuration *> models = HardwareConfigurations::instance()->installed()->configurations();

@@ -63,7 +63,7 @@ protected:
 
 } // namespace
 
-TEST_F(BuildGuardTest, letsNothingInButTheFilesOfTheBuild)
+TEST_F(BuildGuardTest, AllowsOnlyTheFilesOfTheBuild)
 {
     // In place of %1 stands an address, in place of %2 that of its folder. XMLHttpRequest takes no file at
     // all.
@@ -101,7 +101,7 @@ TEST_F(BuildGuardTest, letsNothingInButTheFilesOfTheBuild)
     }
 }
 
-TEST_F(BuildGuardTest, letsNothingInForAFolderThatIsGone)
+TEST_F(BuildGuardTest, AllowsNothingForAMissingFolder)
 {
     BuildGuard guard;
     const QUrl file = QUrl::fromLocalFile(outside.path(u"beside.png"_s));
@@ -111,7 +111,7 @@ TEST_F(BuildGuardTest, letsNothingInForAFolderThatIsGone)
     EXPECT_EQ(guard.intercept(file, QQmlAbstractUrlInterceptor::UrlString), file);
 }
 
-TEST_F(BuildGuardTest, hasNoModulesButThoseOfScreens)
+TEST_F(BuildGuardTest, AllowsOnlyTheModulesOfScreens)
 {
     build.write(u"worker.js"_s, "Qt.include('" + fileUrl(outside.path(u"beside.js"_s)) + "')");
     // Some come with the libraries of Qt, some as plug-ins, where they are installed.
@@ -133,7 +133,7 @@ TEST_F(BuildGuardTest, hasNoModulesButThoseOfScreens)
     }
 }
 
-TEST_F(BuildGuardTest, readsWhatIsInTheBuild)
+TEST_F(BuildGuardTest, ReadsFilesOfTheBuild)
 {
     const QString far = outside.path(u"beside.png"_s);
     ASSERT_TRUE(QFile::link(far, build.path(u"link.png"_s)));
@@ -159,7 +159,7 @@ TEST_F(BuildGuardTest, readsWhatIsInTheBuild)
             u"Main: \"%1\" is not shown: the preview starts no other program."_s.arg(address(u"own.png"_s))));
 }
 
-TEST_F(BuildGuardTest, readsNoFileFurtherAndOpensNoWindow)
+TEST_F(BuildGuardTest, BlocksLinkedFilesAndWindows)
 {
     const QByteArray far = outside.path(u"beside.png"_s).toUtf8();
     build.write(u"drawing.svg"_s,

@@ -22,7 +22,7 @@ auto startingWith(const char *text)
 
 } // namespace
 
-TEST(PreviewSession, followsEachVariableByItself)
+TEST(PreviewSession, UpdatesOnlyTheUsersOfAVariable)
 {
     TestBuild build;
     build.addVariable(u"speed"_s, EnumHelper::FloatVariable, 12.3F);
@@ -57,7 +57,7 @@ TEST(PreviewSession, followsEachVariableByItself)
     EXPECT_EQ(panel.session.screenItem()->property("seen").toList().size(), 2);
 }
 
-TEST(PreviewSession, offersTheFunctionsOfTheDevice)
+TEST(PreviewSession, OffersTheFunctionsOfTheDevice)
 {
     TestBuild build;
     build.addVariable(u"number"_s, EnumHelper::IntegerVariable, 3);
@@ -103,7 +103,7 @@ TEST(PreviewSession, offersTheFunctionsOfTheDevice)
     EXPECT_EQ(panel.problems(), QStringList());
 }
 
-TEST(PreviewSession, tellsWhichElementGoesWrong)
+TEST(PreviewSession, ReportsTheElementWithAProblem)
 {
     TestBuild build;
     build.addVariable(u"number"_s, EnumHelper::IntegerVariable, 3);
@@ -170,7 +170,7 @@ TEST(PreviewSession, tellsWhichElementGoesWrong)
     }
 }
 
-TEST(PreviewSession, opensWhatIsLeftOfABuild)
+TEST(PreviewSession, OpensAnIncompleteBuild)
 {
     TestBuild build;
     EXPECT_FALSE(TestPanel(build).isOpen);
@@ -191,7 +191,7 @@ TEST(PreviewSession, opensWhatIsLeftOfABuild)
                 ElementsAre(startingWith("config.kdrc: The build was made by version 4.10.0, ")));
 }
 
-TEST(PreviewSession, survivesDocumentsThatAreNotGenerated)
+TEST(PreviewSession, SurvivesDocumentsThatAreNotGenerated)
 {
     static constexpr std::pair<const char *, const char *> documents[] = {
         {"", "Main: File is empty"},
@@ -215,7 +215,7 @@ TEST(PreviewSession, survivesDocumentsThatAreNotGenerated)
     }
 }
 
-TEST(PreviewSession, keepsWhatOutlivesTheDevice)
+TEST(PreviewSession, KeepsTheSavedValues)
 {
     TestBuild build;
     build.addVariable(u"kept"_s, EnumHelper::IntegerVariable, 1, true);
@@ -230,7 +230,7 @@ TEST(PreviewSession, keepsWhatOutlivesTheDevice)
     EXPECT_THAT(panel.run("expect kept 5; expect lost 1; expect box.color blue; expect box.x 7"), IsEmpty());
 }
 
-TEST(PreviewSession, writesNoFileButItsOwn)
+TEST(PreviewSession, WritesOnlyItsOwnFile)
 {
     TestBuild build;
     build.addVariable(u"kept"_s, EnumHelper::IntegerVariable, 1, true);
@@ -261,7 +261,7 @@ TEST(PreviewSession, writesNoFileButItsOwn)
     EXPECT_FALSE(QFile::exists(build.path(u"elsewhere"_s)));
 }
 
-TEST(PreviewSession, looksAtItsScreens)
+TEST(PreviewSession, InspectsItsScreens)
 {
     TestBuild build;
     build.writeConfiguration();

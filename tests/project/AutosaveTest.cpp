@@ -79,7 +79,7 @@ TEST_F(AutosaveTest, TheTimerRunsFromFiveToOneHundredAndTwentyMinutes)
     QSettings(u"Halvane"_s, u"Corvex Nova"_s).clear();
 }
 
-TEST_F(AutosaveTest, AnEditIsSavedOnceBesideTheProjectsFolder)
+TEST_F(AutosaveTest, AnEditIsSavedOnceNextToTheProjectsFolder)
 {
     const QStringList files = filesIn(path(u"Pumps"_s));
     write(path(u"Pumps/Preview.png"_s), "picture");
@@ -109,7 +109,7 @@ TEST_F(AutosaveTest, AnEditIsSavedOnceBesideTheProjectsFolder)
     EXPECT_FALSE(QFileInfo::exists(aside));
 }
 
-TEST_F(AutosaveTest, AnEditIsNoticedWhereTheIndexIsTheSame)
+TEST_F(AutosaveTest, AnEditIsNoticedEvenIfTheIndexIsTheSame)
 {
     edit();
     EXPECT_EQ(run(), QString());
@@ -130,7 +130,7 @@ TEST_F(AutosaveTest, AnEditIsNoticedWhereTheIndexIsTheSame)
     EXPECT_EQ(run(), QString()) << "an edit during a run is for the next one";
 }
 
-TEST_F(AutosaveTest, AFailedRunBringsTheOldFileBack)
+TEST_F(AutosaveTest, AFailedRunRestoresTheOldFile)
 {
     edit();
     EXPECT_EQ(run(), QString());
@@ -156,7 +156,7 @@ TEST_F(AutosaveTest, AFailedRunBringsTheOldFileBack)
     EXPECT_FALSE(QFileInfo::exists(aside));
 }
 
-TEST_F(AutosaveTest, AProjectThatGoesWaitsForItsArchive)
+TEST_F(AutosaveTest, ADeletedProjectWaitsForItsArchive)
 {
     edit();
     ASSERT_TRUE(project->autosave().run());

@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 
 using ImageResourceTest = Test::ProjectFixture;
 
-TEST_F(ImageResourceTest, NamesAreJudgedWithTheseWords)
+TEST_F(ImageResourceTest, NamesAreRefusedWithTheseMessages)
 {
     constexpr auto extension = "The name is in the wrong format. Please ensure you include the image's file "
                                "extension: png, jpg, jpeg, bmp, gif, svg"_L1;
@@ -51,7 +51,7 @@ TEST_F(ImageResourceTest, NamesAreJudgedWithTheseWords)
     EXPECT_EQ(second->idProperty()->errorString(), extension);
 }
 
-TEST_F(ImageResourceTest, TheBytesAreOfTheKindThatTheNameTells)
+TEST_F(ImageResourceTest, TheContentsMatchTheExtension)
 {
     const auto project = makeProject();
     ASSERT_TRUE(project->createFile(path()));
@@ -69,7 +69,7 @@ TEST_F(ImageResourceTest, TheBytesAreOfTheKindThatTheNameTells)
     EXPECT_FALSE(read(project->fullFilePath()).contains("imageFile"));
 }
 
-TEST_F(ImageResourceTest, NoNameLeadsOutOfTheImagesFolder)
+TEST_F(ImageResourceTest, NamesCannotLeaveTheImagesFolder)
 {
     const auto project = makeProject();
     ASSERT_TRUE(project->createFile(path()));
@@ -85,7 +85,7 @@ TEST_F(ImageResourceTest, NoNameLeadsOutOfTheImagesFolder)
     EXPECT_TRUE(QFileInfo::exists(path(u"outside.png"_s)));
 }
 
-TEST_F(ImageResourceTest, APictureIsCopiedInAndNeverWritten)
+TEST_F(ImageResourceTest, AnImageIsCopiedAndItsSourceNeverWritten)
 {
     const auto project = makeProject();
     ASSERT_TRUE(project->createFile(path()));

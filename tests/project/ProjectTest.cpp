@@ -17,7 +17,7 @@ namespace Halvane::Corvex::Designer {
 
 using ProjectTest = Test::ProjectFixture;
 
-TEST_F(ProjectTest, WhatIsCreatedAndSavedIsReadBackAsTheSameBytes)
+TEST_F(ProjectTest, ASavedProjectReloadsAndSavesTheSameBytes)
 {
     const auto project = makeProject(u"Pumps %1 {2}"_s);
     EXPECT_FALSE(project->saveFile()) << "there is no file yet";
@@ -48,7 +48,7 @@ TEST_F(ProjectTest, WhatIsCreatedAndSavedIsReadBackAsTheSameBytes)
               QStringList({u"Pumps %1 {2}/Images/b.png"_s, u"Pumps %1 {2}/Pumps %1 {2}.kdproj"_s}));
 }
 
-TEST_F(ProjectTest, OnlyNamesThatEverySystemTakesBecomeFiles)
+TEST_F(ProjectTest, OnlyNamesValidOnEverySystemBecomeFiles)
 {
     const QString longest(248, u'p');
     for (const QString &name : {u"%1"_s, u"a.b {c}"_s, u"P\u00fcmpe"_s, u"aux_1"_s, longest}) {
@@ -77,7 +77,7 @@ TEST_F(ProjectTest, OnlyNamesThatEverySystemTakesBecomeFiles)
     EXPECT_TRUE(incomplete->version()->valueString().isEmpty());
 }
 
-TEST_F(ProjectTest, LoadingReplacesEverythingThatWasThere)
+TEST_F(ProjectTest, LoadingReplacesAllContents)
 {
     const auto source = makeProject();
     ASSERT_TRUE(source->createFile(path()));
@@ -102,7 +102,7 @@ TEST_F(ProjectTest, LoadingReplacesEverythingThatWasThere)
     EXPECT_EQ(read(file).count("as it stands"), 1);
 }
 
-TEST_F(ProjectTest, AFileThatCannotBeReadIsToldAndNeverWritten)
+TEST_F(ProjectTest, AnUnreadableFileIsReportedAndNeverWritten)
 {
     const auto source = makeProject();
     ASSERT_TRUE(source->createFile(path()));
@@ -133,7 +133,7 @@ TEST_F(ProjectTest, AFileThatCannotBeReadIsToldAndNeverWritten)
     EXPECT_EQ(project->getIdName(), u"Kept"_s) << "nothing was read";
 }
 
-TEST_F(ProjectTest, WhatNoPlugInKnowsIsWrittenBack)
+TEST_F(ProjectTest, ObjectsOfUnknownClassesAreWrittenBack)
 {
     const auto source = makeProject();
     add(*source, source->variables(), u"NumberVariable"_s, u"speed"_s);
@@ -158,7 +158,7 @@ TEST_F(ProjectTest, WhatNoPlugInKnowsIsWrittenBack)
     EXPECT_EQ(read(other->fullFilePath()), otherBytes) << "what one file kept gets into no other";
 }
 
-TEST_F(ProjectTest, AFullDiskLeavesTheOldFileWhole)
+TEST_F(ProjectTest, AFullDiskLeavesTheOldFileUnchanged)
 {
     const auto project = makeProject();
     ASSERT_TRUE(project->createFile(path()));
@@ -181,7 +181,7 @@ TEST_F(ProjectTest, AFullDiskLeavesTheOldFileWhole)
     EXPECT_TRUE(project->saveFile());
 }
 
-TEST_F(ProjectTest, TwoProcessesThatSaveAtOnceLeaveAWholeFile)
+TEST_F(ProjectTest, TwoConcurrentSavesLeaveACompleteFile)
 {
     const auto project = makeProject();
     for (int i = 0; i < 200; ++i) {
@@ -235,7 +235,7 @@ TEST_F(ProjectTest, ACopyHasEverythingAndReplacesNothing)
     EXPECT_EQ(filesIn(path(u"copies"_s)).size(), 6);
 }
 
-TEST_F(ProjectTest, RenamedAndDeletedFilesAreTheProjectsOwn)
+TEST_F(ProjectTest, OnlyTheProjectsOwnFilesAreRenamedAndDeleted)
 {
     const auto project = makeProject();
     ASSERT_TRUE(project->createFile(path()));
@@ -252,7 +252,7 @@ TEST_F(ProjectTest, RenamedAndDeletedFilesAreTheProjectsOwn)
     EXPECT_FALSE(project->deleteFile());
 }
 
-TEST_F(ProjectTest, NameAndVersionAreFoundWithoutReadingOn)
+TEST_F(ProjectTest, NameAndVersionAreFoundWithoutReadingTheRest)
 {
     const auto project = makeProject();
     ASSERT_TRUE(project->createFile(path()));
@@ -345,7 +345,7 @@ TEST_F(ProjectTest, ScreensAndTheDefaultScreenAreChecked)
     EXPECT_EQ(project->screens()->errorString(), u"At least one screen is required."_s);
 }
 
-TEST_F(ProjectTest, UniqueNamesLookEverywhere)
+TEST_F(ProjectTest, UniqueNamesAreUniqueEverywhere)
 {
     const auto project = makeProject();
     DesignerObject *first = add(*project, project->screens(), u"Screen"_s, u"x1"_s);

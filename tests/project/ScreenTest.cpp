@@ -56,7 +56,7 @@ public:
 
 } // namespace
 
-TEST_F(ScreenTest, WhatStartsWithAScreenStandsAtItsEnd)
+TEST_F(ScreenTest, StartHandlersAreAtTheEndOfAScreen)
 {
     EXPECT_FALSE(screen->toQml(0).contains(u"onCompleted"_s));
     GroupElement *group = addGroup(u"group"_s);
@@ -82,7 +82,7 @@ TEST_F(ScreenTest, TheSizeFollowsTheConfigurationAndTheOrientation)
     EXPECT_FALSE(DesignerObject::toString(screen).contains(u"\"size\""_s));
 }
 
-TEST_F(ScreenTest, ElementsAreFoundThroughGroupsAsTheyComeAndGo)
+TEST_F(ScreenTest, ElementsInGroupsAreFoundAfterInsertionAndRemoval)
 {
     GroupElement *outer = addGroup(u"outer"_s);
     GroupElement *inner = addGroup(u"inner"_s, outer);
@@ -106,7 +106,7 @@ TEST_F(ScreenTest, ElementsAreFoundThroughGroupsAsTheyComeAndGo)
     EXPECT_EQ(late->project(), nullptr);
 }
 
-TEST_F(ScreenTest, FreeNamesCountFromOneAndUseWhatWasFreed)
+TEST_F(ScreenTest, FreeNamesCountFromOneAndReuseNumbers)
 {
     EXPECT_EQ(screen->uniqueElementName(u"pump"_s), u"pump1"_s);
     GroupElement *first = addGroup(u"pump1"_s);
@@ -121,7 +121,7 @@ TEST_F(ScreenTest, FreeNamesCountFromOneAndUseWhatWasFreed)
     EXPECT_EQ(screen->uniqueElementName(u"pump"_s), u"pump1"_s);
 }
 
-TEST_F(ScreenTest, NamesOfElementsObeyTheirRulesInOrder)
+TEST_F(ScreenTest, NamesOfElementsAreCheckedInOrderOfTheRules)
 {
     addGroup(u"twin"_s);
     project->addListPropertyItem(project->variables(), make<DesignerObject>(u"NumberVariable"_s, u"speed"_s));
@@ -155,7 +155,7 @@ TEST_F(ScreenTest, NamesOfElementsObeyTheirRulesInOrder)
     }
 }
 
-TEST_F(ScreenTest, NamesOfScreensAndVariablesObeyTheirRules)
+TEST_F(ScreenTest, NamesOfScreensAndVariablesAreChecked)
 {
     auto *other = make<Screen>(u"Screen"_s, u"Other"_s);
     project->addListPropertyItem(project->screens(), other);
@@ -190,7 +190,7 @@ TEST_F(ScreenTest, NamesOfScreensAndVariablesObeyTheirRules)
     }
 }
 
-TEST_F(ScreenTest, GroupsAndScreensSayWhatTheyLack)
+TEST_F(ScreenTest, GroupsAndScreensReportMissingParts)
 {
     screen->validate();
     EXPECT_EQ(screen->elements()->errorString(), u"At least one element is required."_s);

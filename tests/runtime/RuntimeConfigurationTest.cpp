@@ -84,7 +84,7 @@ QString engineController(const QList<CanParameter> &parameters, int priority = 3
 
 } // namespace
 
-TEST_F(RuntimeConfigurationTest, VariablesStandUnderTheirNames)
+TEST_F(RuntimeConfigurationTest, VariablesAreStoredUnderTheirNames)
 {
     addVariable(u"NumberVariable"_s, u"speed"_s, {{u"value"_s, u"1450"_s}, {u"persistent"_s, u"true"_s}});
     addVariable(u"NumberVariable"_s, u"level"_s, {{u"value"_s, u"62.5"_s}});
@@ -132,7 +132,7 @@ TEST_F(RuntimeConfigurationTest, TheDeviceStartsWithTheDefaultScreen)
                            u"retreivePassword"_s, u"uploadPassword"_s, u"variables"_s, u"version"_s}));
 }
 
-TEST_F(RuntimeConfigurationTest, PasswordsAreHashedWhereTheyAreAskedFor)
+TEST_F(RuntimeConfigurationTest, RequiredPasswordsAreHashed)
 {
     const auto password = [this](const QString &key) {
         return collected().configMap().value(key).toString();
@@ -245,7 +245,7 @@ TEST_F(RuntimeConfigurationTest, BACnetDevicesAndObjects)
     EXPECT_EQ(configuration.bacnetMap().value(u"bacObjMap"_s), QVariant(objects));
 }
 
-TEST_F(RuntimeConfigurationTest, WritesThreeFilesOrTellsWhyNot)
+TEST_F(RuntimeConfigurationTest, WritesThreeFilesOrReportsWhyNot)
 {
     addVariable(u"NumberVariable"_s, u"level"_s, {{u"value"_s, u"62.5"_s}});
     addVariable(u"StringVariable"_s, u"level10"_s, {{u"value"_s, u"x"_s}});

@@ -69,7 +69,7 @@ protected:
 
 } // namespace
 
-TEST_F(RuntimeGeneratorTest, ABuildHoldsScreensProjectAndResources)
+TEST_F(RuntimeGeneratorTest, ABuildContainsScreensProjectAndResources)
 {
     write(u"pump.png"_s, "png");
     generator.setResourceFolder(resources.path());
@@ -88,7 +88,7 @@ TEST_F(RuntimeGeneratorTest, ABuildHoldsScreensProjectAndResources)
     EXPECT_EQ(DesignerObject::toString(project.get()), before) << "the project keeps its name";
 }
 
-TEST_F(RuntimeGeneratorTest, TheZippedProjectIsWhatIsSavedUnderAnotherName)
+TEST_F(RuntimeGeneratorTest, TheZippedProjectEqualsASaveUnderAnotherName)
 {
     project->generateRuntimeFiles();
     const QString folder = project->runtimeGenerator().buildFolder() + u"/project"_s;
@@ -101,7 +101,7 @@ TEST_F(RuntimeGeneratorTest, TheZippedProjectIsWhatIsSavedUnderAnotherName)
     project->runtimeGenerator().removeBuildFolder();
 }
 
-TEST_F(RuntimeGeneratorTest, TwoBuildsAreTheSameBytesInTwoFolders)
+TEST_F(RuntimeGeneratorTest, TwoBuildsHaveTheSameBytesInDifferentFolders)
 {
     ASSERT_TRUE(generator.generate(project.get()));
     const QString first = generator.buildFolder();
@@ -119,7 +119,7 @@ TEST_F(RuntimeGeneratorTest, TwoBuildsAreTheSameBytesInTwoFolders)
     QDir(first).removeRecursively();
 }
 
-TEST_F(RuntimeGeneratorTest, ALinkStaysInTheProject)
+TEST_F(RuntimeGeneratorTest, LinksOutOfTheProjectAreRefused)
 {
     const QString images = resources.filePath(u"Images"_s);
     ASSERT_TRUE(QDir().mkpath(images));
@@ -135,7 +135,7 @@ TEST_F(RuntimeGeneratorTest, ALinkStaysInTheProject)
         << qPrintable(generator.errorString());
 }
 
-TEST_F(RuntimeGeneratorTest, AFailedBuildLeavesNothingBehind)
+TEST_F(RuntimeGeneratorTest, AFailedBuildLeavesNoFiles)
 {
     const auto fails = [this] {
         const bool built = generator.generate(project.get());

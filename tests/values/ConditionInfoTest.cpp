@@ -6,7 +6,7 @@
 using namespace Halvane::Corvex::Designer;
 using namespace Qt::StringLiterals;
 
-TEST(ConditionInfo, textForm)
+TEST(ConditionInfo, TextForm)
 {
     const QString text = u"condition1: GT; condition2: LE; operator: OR; value1: 1.5; value2: -3;"_s;
     const ConditionInfo condition(u"GT"_s, 1.5, u"LE"_s, -3, true);
@@ -32,7 +32,7 @@ TEST(ConditionInfo, textForm)
     }
 }
 
-TEST(ConditionInfo, operators)
+TEST(ConditionInfo, Operators)
 {
     QStringList operators;
     for (const QString &name : ConditionInfo::validConditions())

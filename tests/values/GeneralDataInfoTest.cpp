@@ -34,7 +34,7 @@ Info variable(Info::DataType type, const QString &name)
 
 } // namespace
 
-TEST(GeneralDataInfo, textForm)
+TEST(GeneralDataInfo, TextForm)
 {
     struct Case
     {
@@ -73,7 +73,7 @@ TEST(GeneralDataInfo, textForm)
     EXPECT_EQ(Info(u"0204-00"_s).value(), u"0");
 }
 
-TEST(GeneralDataInfo, refusedTexts)
+TEST(GeneralDataInfo, RefusedTexts)
 {
     const QString texts = u"|020|0800|020E|+203x| 203x|0x03x|0203|0203true|0204|0204-|0204--1|0204+1|"
                           "02040x1|0204 1|020412G|0207!|0207QQ|02081234567|0208#80FF0000|0208123456789|"
@@ -117,7 +117,7 @@ void writesNothingForeign(Info &term)
 
 } // namespace
 
-TEST(GeneralDataInfo, typesOfEachKind)
+TEST(GeneralDataInfo, TypesOfEachKind)
 {
     struct Kind
     {
@@ -172,7 +172,7 @@ TEST(GeneralDataInfo, typesOfEachKind)
     }
 }
 
-TEST(GeneralDataInfo, valuesOfConstants)
+TEST(GeneralDataInfo, ValuesOfConstants)
 {
     struct Case
     {
@@ -212,7 +212,7 @@ TEST(GeneralDataInfo, valuesOfConstants)
     EXPECT_FALSE(MathInfo(constant(Info::NumberData, u"PI"_s)).isValid(false));
 }
 
-TEST(GeneralDataInfo, valuesOfWordsAndNames)
+TEST(GeneralDataInfo, ValuesOfWordsAndNames)
 {
     struct Case
     {
@@ -251,7 +251,7 @@ TEST(GeneralDataInfo, valuesOfWordsAndNames)
     EXPECT_FALSE(ModbusCommandInfo(Info::CommandValue, Info::CommandData, u""_s).isValid(true));
 }
 
-TEST(GeneralDataInfo, translatesToEachOutput)
+TEST(GeneralDataInfo, TranslatesToEachOutput)
 {
     struct Case
     {
@@ -332,7 +332,7 @@ TEST(GeneralDataInfo, translatesToEachOutput)
     EXPECT_EQ(constant(Info::FloatData, u"-Infinity"_s).toQmlString(Info::IntegerOutput), u"-Infinity");
 }
 
-TEST(GeneralDataInfo, translatesMathematicsAndText)
+TEST(GeneralDataInfo, TranslatesMathematicsAndText)
 {
     struct Case
     {
@@ -384,7 +384,7 @@ TEST(GeneralDataInfo, translatesMathematicsAndText)
     EXPECT_EQ(StringInfo::parserString(variable(Info::StringData, u"speed"_s)), u"speed");
 }
 
-TEST(GeneralDataInfo, renamesWholeNames)
+TEST(GeneralDataInfo, RenamesWholeNames)
 {
     struct Case
     {
@@ -425,7 +425,7 @@ TEST(GeneralDataInfo, renamesWholeNames)
     }
 }
 
-TEST(GeneralDataInfo, exchangesWhatATermNames)
+TEST(GeneralDataInfo, ReplacesTheNameInATerm)
 {
     Info term = element(Info::ColorData, u"Main.group1.rect1.color"_s);
     EXPECT_EQ(term.objectName(), u"Main.group1.rect1");
@@ -444,7 +444,7 @@ TEST(GeneralDataInfo, exchangesWhatATermNames)
     EXPECT_EQ(Info(term.toString()), term);
 }
 
-TEST(GeneralDataInfo, valuesAsVariants)
+TEST(GeneralDataInfo, ValuesAsVariants)
 {
     EXPECT_EQ(constant(Info::BooleanData, u"true"_s).toVariant(), QVariant(true));
     EXPECT_EQ(constant(Info::IntegerData, u"-5"_s).toVariant(), QVariant(qlonglong(-5)));

@@ -21,7 +21,7 @@ List list(const QString &text)
 
 } // namespace
 
-TEST(GeneralDataList, textForm)
+TEST(GeneralDataList, TextForm)
 {
     const QStringList texts{u""_s,
                             u"0406speed"_s,
@@ -43,7 +43,7 @@ TEST(GeneralDataList, textForm)
     }
 }
 
-TEST(GeneralDataList, readsLongTexts)
+TEST(GeneralDataList, ReadsLongTexts)
 {
     const qsizetype count = 1'000'000;
     const QString terms = u"<0406speed>"_s.repeated(count);
@@ -59,7 +59,7 @@ TEST(GeneralDataList, readsLongTexts)
     EXPECT_EQ(path.replaceObject(u"rect"_s, u"rect1"_s), 1);
 }
 
-TEST(GeneralDataList, listOperations)
+TEST(GeneralDataList, ListOperations)
 {
     const Info a(u"0406a"_s), b(u"0406b"_s), c(u"0406c"_s), d(u"0406d"_s);
     List terms;
@@ -90,7 +90,7 @@ TEST(GeneralDataList, listOperations)
 }
 
 //! The sanitizers see what outlives its list.
-TEST(GeneralDataList, takesTermsBeforeItHasAName)
+TEST(GeneralDataList, AppendsToTemporaryLists)
 {
     const GeneralDataInfo term(GeneralDataInfo::ConstantValue, GeneralDataInfo::IntegerData, u"7"_s);
     const GeneralDataList &held = GeneralDataList() << term << term;
@@ -103,7 +103,7 @@ TEST(GeneralDataList, takesTermsBeforeItHasAName)
     EXPECT_EQ(list.count(), 2);
 }
 
-TEST(GeneralDataList, checksTermsAsTheKindAsked)
+TEST(GeneralDataList, ChecksTermsAsTheGivenKind)
 {
     struct Case
     {
@@ -133,7 +133,7 @@ TEST(GeneralDataList, checksTermsAsTheKindAsked)
     }
 }
 
-TEST(GeneralDataList, translatesExpressions)
+TEST(GeneralDataList, TranslatesExpressions)
 {
     struct Case
     {
@@ -189,7 +189,7 @@ TEST(GeneralDataList, translatesExpressions)
     }
 }
 
-TEST(GeneralDataList, translatesAssignments)
+TEST(GeneralDataList, TranslatesAssignments)
 {
     struct Case
     {
@@ -231,7 +231,7 @@ TEST(GeneralDataList, translatesAssignments)
     }
 }
 
-TEST(GeneralDataList, knowsWhatIsIncomplete)
+TEST(GeneralDataList, DetectsIncompleteExpressions)
 {
     const struct
     {
@@ -269,7 +269,7 @@ TEST(GeneralDataList, knowsWhatIsIncomplete)
     }
 }
 
-TEST(GeneralDataList, renamesInAllTerms)
+TEST(GeneralDataList, RenamesInAllTerms)
 {
     const QString text =
         u"<0308rect1.color><0406rect1><0308Main.rect1.color><0308rect10.color><0207cmVjdDE=>"_s;

@@ -10,7 +10,7 @@
 
 using namespace Halvane::Corvex::Designer;
 
-TEST(NestedText, EscapesOnlyWhatMustBe)
+TEST(NestedText, EscapesOnlyWhatIsNecessary)
 {
     const struct
     {
@@ -63,7 +63,7 @@ TEST(ListInfo, Text)
     EXPECT_EQ(ListInfo().toString(), QString());
 }
 
-TEST(ListInfo, AnEmptyListTakesEveryCall)
+TEST(ListInfo, AnEmptyListAcceptsEveryCall)
 {
     ListInfo list;
     EXPECT_FALSE(list.insert(1, u"x"_s));

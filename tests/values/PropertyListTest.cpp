@@ -101,7 +101,7 @@ TEST(PropertyList, TakeAndClear)
     EXPECT_EQ(pairs(list), u"a.x"_s);
 }
 
-TEST(PropertyList, ThousandsInRandomOrderAreAMap)
+TEST(PropertyList, ThousandsInRandomOrderBehaveLikeAMap)
 {
     NastyText random(7);
     QMap<QString, QString> expected;

@@ -101,7 +101,7 @@ TEST(ValueConversion, RealTextForCode)
 }
 
 //! The fast ways of printing and reading agree with the toolkit's to the last bit.
-TEST(ValueConversion, RealsAreThoseOfTheToolkit)
+TEST(ValueConversion, RealsEqualThoseOfTheToolkit)
 {
     std::mt19937_64 random(7);
     for (int i = 0; i < 20000; ++i) {

@@ -24,7 +24,7 @@ QString problem(const QList<Info> &terms)
     return error;
 }
 
-TEST(BACnetPropertyList, tellsTheFirstProblem)
+TEST(BACnetPropertyList, ReportsTheFirstProblem)
 {
     const Info value = text(u"present-value"_s);
     const Info real = text(u"real"_s);

@@ -43,7 +43,7 @@ QString problem(const GeneralDataList &terms)
 //! Where the fields are among the terms of the first parameter, behind the three of the head.
 enum Place { Pgn, Priority, Source, Spn, Units, Byte, Bit, Length, Offset, Minimum, Maximum, Scaling };
 
-TEST(CanParameterMap, identifierHas29Bits)
+TEST(CanParameterMap, IdentifierHas29Bits)
 {
     CanParameterMap map = engineController();
     EXPECT_EQ(map.identifier(), 217056256U);
@@ -53,7 +53,7 @@ TEST(CanParameterMap, identifierHas29Bits)
     EXPECT_EQ(map.identifier(), 0x1FFFFFFDU);
 }
 
-TEST(CanParameterMap, needsCompleteEntries)
+TEST(CanParameterMap, NeedsCompleteEntries)
 {
     const GeneralDataList whole = engineController().toTerms();
     EXPECT_EQ(problem({}), u"At least one SPN required"_s);
@@ -69,7 +69,7 @@ TEST(CanParameterMap, needsCompleteEntries)
     }
 }
 
-TEST(CanParameterMap, tellsValuesOutOfRange)
+TEST(CanParameterMap, ReportsValuesOutOfRange)
 {
     const Info variable(Info::VariableValue, Info::NumberData, u"speed"_s);
     const struct

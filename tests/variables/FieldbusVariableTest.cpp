@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(FieldbusVariables, tellWhatIsMissing)
+TEST(FieldbusVariables, ReportMissingValues)
 {
     const auto text = [](const QString &value) {
         return GeneralDataInfo(GeneralDataInfo::ConstantValue, GeneralDataInfo::StringData, value).toString();
@@ -30,7 +30,7 @@ TEST(FieldbusVariables, tellWhatIsMissing)
               u"interval takes numbers from 3000 to 2147483647, not 2999."_s);
 }
 
-TEST(FtpVariable, asksForTheUserWhereTheServerDoes)
+TEST(FtpVariable, RequiresAUserIfTheServerDoes)
 {
     const auto variable = makeVariable(u"FtpVariable"_s);
     EXPECT_FALSE(variable->toVariant().isValid());
@@ -47,7 +47,7 @@ TEST(FtpVariable, asksForTheUserWhereTheServerDoes)
     EXPECT_FALSE(isShown(*makeVariable(u"FtpVariable"_s), u"user"));
 }
 
-TEST(BACnetDevice, showsWhatItsSwitchesAskFor)
+TEST(BACnetDevice, ShowsTheFieldsOfItsSwitches)
 {
     const QStringList dependents{u"isFixed"_s,  u"macAddress"_s, u"ethernetIP"_s,
                                  u"reqProps"_s, u"pwdEnabled"_s, u"password"_s};
@@ -86,7 +86,7 @@ TEST(BACnetDevice, showsWhatItsSwitchesAskFor)
     }
 }
 
-TEST(BACnetDevice, wantsAPasswordOnceItIsSwitchedOn)
+TEST(BACnetDevice, RequiresAPasswordOnceItIsEnabled)
 {
     const auto device = makeVariable(u"BACnetDevice"_s);
     EXPECT_TRUE(device->validate());

@@ -29,7 +29,7 @@ QString problem(ModbusMap::RegisterKind kind, const QList<Info> &terms)
     return error;
 }
 
-TEST(ModbusMap, tellsTheFirstProblem)
+TEST(ModbusMap, ReportsTheFirstProblem)
 {
     const Info speed = variable(u"speed"_s);
     const Info noSource(Info::VariableValue, Info::NumberData, {});

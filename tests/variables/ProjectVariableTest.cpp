@@ -19,7 +19,7 @@ using Type = ProjectVariable::VariableType;
 
 namespace {
 
-TEST(ProjectVariable, marksBadNamesAndKeepsThem)
+TEST(ProjectVariable, MarksBadNamesAndKeepsThem)
 {
     const auto variable = makeVariable(u"NumberVariable"_s);
     EXPECT_TRUE(variable->setIdName(u"1st"_s));
@@ -27,7 +27,7 @@ TEST(ProjectVariable, marksBadNamesAndKeepsThem)
     EXPECT_FALSE(variable->idProperty()->isValid());
 }
 
-TEST(ProjectVariable, aCopyIsWhatWouldBeSaved)
+TEST(ProjectVariable, ACopyEqualsTheSavedForm)
 {
     const auto variable = makeVariable(u"StringVariable"_s);
     change(*variable, u"value", u"a < b\n\"c\""_s);
@@ -39,7 +39,7 @@ TEST(ProjectVariable, aCopyIsWhatWouldBeSaved)
     }
 }
 
-TEST(ProjectVariable, persistenceThatTheKindDecidesNeverChanges)
+TEST(ProjectVariable, FixedPersistenceNeverChanges)
 {
     const auto variable = makeVariable(u"AutoSettingVariable"_s);
     EXPECT_FALSE(change(*variable, u"persistent", u"true"_s));
@@ -50,7 +50,7 @@ TEST(ProjectVariable, persistenceThatTheKindDecidesNeverChanges)
     EXPECT_EQ(read->getProperty(u"persistent")->valueString(), u"false"_s);
 }
 
-TEST(NumberVariable, theDecimalPointDecides)
+TEST(NumberVariable, TheDecimalPointDecides)
 {
     constexpr float infinity = std::numeric_limits<float>::infinity();
     const QVariant none;
@@ -87,7 +87,7 @@ TEST(NumberVariable, theDecimalPointDecides)
     EXPECT_TRUE(std::isnan(notANumber.toFloat()));
 }
 
-TEST(NumberVariable, tellsNumbersThatTheDeviceCannotHold)
+TEST(NumberVariable, ReportsNumbersThatTheDeviceDoesNotSupport)
 {
     const QString floating = u"The floating number value is not within limit -16777215 to 16777215"_s;
     const QString integer = u"The integer value is not within limit 2147483647 to -2147483647"_s;
@@ -112,7 +112,7 @@ TEST(NumberVariable, tellsNumbersThatTheDeviceCannotHold)
     }
 }
 
-TEST(ProjectVariable, typedValuesOfTheOtherKinds)
+TEST(ProjectVariable, TypedValuesOfTheOtherKinds)
 {
     EXPECT_EQ(BooleanVariable::typedValue(u"true"), QVariant(true));
     EXPECT_EQ(BooleanVariable::typedValue(u"false"), QVariant(false));
@@ -130,7 +130,7 @@ TEST(ProjectVariable, typedValuesOfTheOtherKinds)
     }
 }
 
-TEST(MappingVariable, checksEachMapForItsOwnRegisters)
+TEST(MappingVariable, ChecksEachMapForItsOwnRegisters)
 {
     const struct
     {

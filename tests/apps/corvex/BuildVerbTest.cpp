@@ -56,7 +56,7 @@ protected:
 
 } // namespace
 
-TEST_F(BuildVerb, bringsTheBuildToItsFolder)
+TEST_F(BuildVerb, PutsTheBuildIntoItsFolder)
 {
     const ProgramRun first = build(u"out/new/%1 ä"_s);
     EXPECT_EQ(first.out, u"out/new/%1 ä/project: 6 files\n"_s);
@@ -78,7 +78,7 @@ TEST_F(BuildVerb, bringsTheBuildToItsFolder)
         QStringList{u"project"_s});
 }
 
-TEST_F(BuildVerb, holdsNothingButWhatTheProjectNames)
+TEST_F(BuildVerb, ContainsOnlyResourcesOfTheProject)
 {
     sandbox.write(u"Pump/Images/notes.txt"_s, "mine");
     sandbox.write(u"Pump/Images/old.png"_s, "mine");
@@ -95,7 +95,7 @@ TEST_F(BuildVerb, holdsNothingButWhatTheProjectNames)
     EXPECT_EQ(sandbox.files(u"out"_s), builtFiles);
 }
 
-TEST_F(BuildVerb, leavesNoTraceElsewhere)
+TEST_F(BuildVerb, LeavesNoTraceElsewhere)
 {
     const QDir builds(u"/tmp/corvex-%1/Halvane/CorvexNova/Designer"_s.arg(QString::number(getuid())));
     const QStringList before = builds.entryList();
@@ -107,7 +107,7 @@ TEST_F(BuildVerb, leavesNoTraceElsewhere)
     EXPECT_EQ(builds.entryList(), before);
 }
 
-TEST_F(BuildVerb, replacesNothingButEarlierBuilds)
+TEST_F(BuildVerb, ReplacesNothingButEarlierBuilds)
 {
     ASSERT_EQ(build(u"built"_s).code, 0);
     sandbox.write(u"built/project/notes.txt"_s, "mine");
@@ -151,7 +151,7 @@ TEST_F(BuildVerb, replacesNothingButEarlierBuilds)
     EXPECT_EQ(sandbox.files(u"."_s), before);
 }
 
-TEST_F(BuildVerb, clearsAwayWhatABrokenOffBuildLeft)
+TEST_F(BuildVerb, RemovesTheRemainsOfAnInterruptedBuild)
 {
     ASSERT_EQ(build(u"out"_s).code, 0);
     sandbox.write(u"out/.corvex-build-a1/project/qml_Main.qml"_s, "half");
@@ -163,7 +163,7 @@ TEST_F(BuildVerb, clearsAwayWhatABrokenOffBuildLeft)
     EXPECT_EQ(sandbox.files(u"out"_s), builtFiles);
 }
 
-TEST_F(BuildVerb, oneAtATimeGoesToAFolder)
+TEST_F(BuildVerb, OnlyOneBuildAtATimeWritesToAFolder)
 {
     ASSERT_EQ(build(u"out"_s).code, 0);
     const int folder = open(qPrintable(sandbox.path(u"out"_s)), O_RDONLY | O_DIRECTORY);
@@ -176,7 +176,7 @@ TEST_F(BuildVerb, oneAtATimeGoesToAFolder)
     EXPECT_EQ(sandbox.files(u"out"_s), builtFiles);
 }
 
-TEST_F(BuildVerb, refusesProblemsUnlessItIsForced)
+TEST_F(BuildVerb, RefusesProblemsUnlessForced)
 {
     spoil();
     const QString problem = u"Main: elements: At least one element is required.\n"_s;
@@ -195,7 +195,7 @@ TEST_F(BuildVerb, refusesProblemsUnlessItIsForced)
     EXPECT_EQ(sandbox.files(u"out"_s), builtFiles);
 }
 
-TEST_F(BuildVerb, crossesFileSystems)
+TEST_F(BuildVerb, CrossesFileSystems)
 {
     const QFileInfo other(u"/dev/shm"_s);
     if (!other.isWritable()) {

@@ -16,7 +16,7 @@ const QString pump = u"Pump/Pump.kdproj"_s;
 
 } // namespace
 
-TEST(CheckVerb, namesEveryProblemInOneLine)
+TEST(CheckVerb, PrintsEveryProblemOnOneLine)
 {
     const Sandbox sandbox;
     sandbox.makeProject(Sandbox::goodElements());
@@ -83,7 +83,7 @@ TEST(CheckVerb, namesEveryProblemInOneLine)
     EXPECT_EQ(info[u"notes"_s].toArray().size(), 2);
 }
 
-TEST(CheckVerb, followsWhatPartsSayOfEachOther)
+TEST(CheckVerb, ChecksReferencesBetweenParts)
 {
     const auto text = [](const char *name, const char *property, const char *value) {
         return Sandbox::object("Text", name, Sandbox::value(property, value));
@@ -151,7 +151,7 @@ TEST(CheckVerb, followsWhatPartsSayOfEachOther)
 }
 
 //! Threads look at parts of it: the order stays that of the file, and what one part feeds another knows.
-TEST(CheckVerb, joinsWhatTheThreadsFind)
+TEST(CheckVerb, CombinesTheResultsOfTheThreads)
 {
     constexpr int screens = 12;
     const QByteArray deep =
@@ -194,7 +194,7 @@ TEST(CheckVerb, joinsWhatTheThreadsFind)
     EXPECT_EQ(sandbox.run({u"check"_s, pump}).out, expected.join(u'\n') + u'\n');
 }
 
-TEST(CheckVerb, knowsTheDeviceAndTheFieldbuses)
+TEST(CheckVerb, ChecksTheDeviceAndTheFieldbuses)
 {
     const auto channel = [](const char *className, const char *name, const char *number) {
         return Sandbox::object(className, name, Sandbox::value("channel", number));
@@ -292,7 +292,7 @@ warning log.unfed history.)"_s);
               "Main.fan: moved from channel 4 to 1\n"_s);
 }
 
-TEST(CheckVerb, wantsTheModelToBeInstalled)
+TEST(CheckVerb, RequiresAnInstalledModel)
 {
     const Sandbox sandbox;
     sandbox.makeProject(Sandbox::goodElements());

@@ -32,7 +32,7 @@ ProgramRun shell(const QString &line, const QStringList &variables = {})
 
 } // namespace
 
-TEST(CommandLine, tellsItsVersionAndItsVerbs)
+TEST(CommandLine, PrintsItsVersionAndItsVerbs)
 {
     const ProgramRun version = corvex({u"--version"_s});
     EXPECT_EQ(version.out, u"corvex " CORVEX_VERSION "\n"_s);
@@ -56,7 +56,7 @@ TEST(CommandLine, tellsItsVersionAndItsVerbs)
     EXPECT_EQ(pages.at(7)[u"usage"_s].toString(), u"corvex check FILE..."_s);
 }
 
-TEST(CommandLine, refusesWrongUsage)
+TEST(CommandLine, RefusesWrongUsage)
 {
     struct Case
     {
@@ -99,7 +99,7 @@ TEST(CommandLine, refusesWrongUsage)
     }
 }
 
-TEST(CommandLine, looksAfterItsPipes)
+TEST(CommandLine, HandlesClosedAndFullPipes)
 {
     // Nobody reads any more by the time that there is something to read.
     EXPECT_EQ(shell(u"set -o pipefail; { sleep 0.2; \"$CORVEX\" help; } | true"_s).code, 0);
@@ -108,7 +108,7 @@ TEST(CommandLine, looksAfterItsPipes)
     EXPECT_EQ(full.error, u"corvex: The result cannot be written: No space left on device.\n"_s);
 }
 
-TEST(CommandLine, readsProjectsFromStandardInput)
+TEST(CommandLine, ReadsProjectsFromStandardInput)
 {
     const QString station = QStringLiteral(CORVEX_EXAMPLES "/PumpStation/PumpStation.kdproj");
     EXPECT_EQ(shell(u"\"$CORVEX\" diff - '%1' <'%1'"_s.arg(station)).out, QString());
@@ -120,7 +120,7 @@ TEST(CommandLine, readsProjectsFromStandardInput)
     EXPECT_TRUE(renamed.error.contains(u"Name its file."_s)) << qPrintable(renamed.error);
 }
 
-TEST(CommandLine, writesUtf8WhateverTheLocale)
+TEST(CommandLine, WritesUtf8WhateverTheLocale)
 {
     const ProgramRun run = shell(u"\"$CORVEX\" value string 'ä€😀'"_s, {u"LC_ALL=C"_s});
     EXPECT_EQ(run.out, u"ä€😀\n"_s);

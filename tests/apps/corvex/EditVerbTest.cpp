@@ -60,7 +60,7 @@ protected:
 
 } // namespace
 
-TEST_F(EditVerb, everyEditIsDoneAndTakenBackToTheFirstByte)
+TEST_F(EditVerb, EveryEditIsDoneAndUndoRestoresEveryByte)
 {
     const QByteArray before = sandbox.read(pump);
     const QByteArray script = R"(# all that there is
@@ -105,7 +105,7 @@ delete Main.title Main.box3 boxes Other rate two.png
     EXPECT_EQ(sandbox.files(u"Pump"_s), QStringList{u"Pump.kdproj"_s});
 }
 
-TEST_F(EditVerb, oneBadLineAndNothingIsDone)
+TEST_F(EditVerb, OneBadLinePreventsAllEdits)
 {
     const QByteArray before = sandbox.read(pump);
     const struct
@@ -190,7 +190,7 @@ TEST_F(EditVerb, oneBadLineAndNothingIsDone)
     EXPECT_LT(edit("set " + QByteArray(1'000'000, '.') + " 1\n").error.size(), 5000);
 }
 
-TEST_F(EditVerb, anInterruptedScriptIsTakenBack)
+TEST_F(EditVerb, AnInterruptedScriptIsUndone)
 {
     const QByteArray before = sandbox.read(pump);
     QProcess program;
@@ -212,7 +212,7 @@ TEST_F(EditVerb, anInterruptedScriptIsTakenBack)
     EXPECT_EQ(sandbox.files(u"Pump"_s), QStringList{u"Pump.kdproj"_s});
 }
 
-TEST_F(EditVerb, aTrialShowsWhatFollows)
+TEST_F(EditVerb, ADryRunShowsWhatFollows)
 {
     const QByteArray before = sandbox.read(pump);
     const ProgramRun run = edit("rename Main.box1 tank\n", {u"--dry-run"_s});
@@ -235,7 +235,7 @@ Delete Project Variable "speed", Delete Elements and Filters
     EXPECT_EQ(tree(u"Main.title.text"_s), u"new"_s);
 }
 
-TEST_F(EditVerb, renameAndDiff)
+TEST_F(EditVerb, RenameAndDiff)
 {
     const QString old = u"Old/Old.kdproj"_s;
     QDir(sandbox.path({})).mkdir(u"Old"_s);
@@ -311,7 +311,7 @@ added GroupElement First.trio
     EXPECT_FALSE(QFile::exists(sandbox.path(u"Copy"_s)));
 }
 
-TEST(EditVerbKept, whatNoPluginKnowsStaysInItsPlace)
+TEST(EditVerbKept, ItemsOfUnknownClassesKeepTheirPlaces)
 {
     const Sandbox sandbox;
     const QByteArray inner = Sandbox::object("Rectangle", "box1") + Sandbox::object("Gauge", "inner")
@@ -358,7 +358,7 @@ TEST(EditVerbKept, whatNoPluginKnowsStaysInItsPlace)
                                  u"changed Main.dial"_s}));
 }
 
-TEST_F(EditVerb, theProjectKeepsItsPermissions)
+TEST_F(EditVerb, TheProjectKeepsItsPermissions)
 {
     constexpr QFileDevice::Permissions own =
         QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadUser | QFileDevice::WriteUser;
@@ -375,7 +375,7 @@ TEST_F(EditVerb, theProjectKeepsItsPermissions)
     }
 }
 
-TEST_F(EditVerb, ofTwoAtOnceBothCount)
+TEST_F(EditVerb, TwoConcurrentEditsAreBothSaved)
 {
     sandbox.run({u"edit"_s, pump, u"-"_s});
     for (int round = 1; round <= 3; ++round) {
@@ -414,7 +414,7 @@ TEST_F(EditVerb, ofTwoAtOnceBothCount)
     EXPECT_EQ(sandbox.files(u"Pump"_s).size(), 7) << "nothing is left over";
 }
 
-TEST_F(EditVerb, anEditThatWasKilledIsTakenBackByTheNextOpening)
+TEST_F(EditVerb, AKilledEditIsUndoneWhenTheProjectIsOpened)
 {
     const QByteArray before = sandbox.read(pump);
     QProcess program;
@@ -437,7 +437,7 @@ TEST_F(EditVerb, anEditThatWasKilledIsTakenBackByTheNextOpening)
     EXPECT_EQ(sandbox.run({u"info"_s, pump}).error, QString());
 }
 
-TEST_F(EditVerb, whatCannotBeOpenedIsNotSaved)
+TEST_F(EditVerb, AProjectThatCouldNotBeOpenedAgainIsNotSaved)
 {
     const QByteArray before = sandbox.read(pump);
     EXPECT_THAT(edit("set Main.title.text " + QByteArray(5'000'000, '<') + '\n').error.toStdString(),
@@ -477,7 +477,7 @@ struct EditedExample
     QMap<QString, QByteArray> files;
 };
 
-TEST(EditScript, aHundredEditsLeadBackToTheFirstByteAndForthToTheLast)
+TEST(EditScript, UndoAndRedoOfAHundredEditsRestoreEveryByte)
 {
     QFile script(QStringLiteral(CORVEX_EDITS));
     ASSERT_TRUE(script.open(QIODevice::ReadOnly));

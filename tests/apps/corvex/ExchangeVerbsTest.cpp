@@ -37,7 +37,7 @@ protected:
 
 } // namespace
 
-TEST_F(ExchangeVerbs, configDumpShowsWhatABuildHolds)
+TEST_F(ExchangeVerbs, ConfigDumpShowsTheContentsOfABuild)
 {
     ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s, u"--force"_s}).code, 0);
     const ProgramRun text = sandbox.run({u"config-dump"_s, config});
@@ -65,7 +65,7 @@ TEST_F(ExchangeVerbs, configDumpShowsWhatABuildHolds)
     EXPECT_EQ(variables[u"who"_s][u"value"_s], QJsonValue(u"a \"b\"\nc"_s));
 }
 
-TEST_F(ExchangeVerbs, configDumpTellsWhatItCannotRead)
+TEST_F(ExchangeVerbs, ConfigDumpReportsUnreadableFiles)
 {
     ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s, u"--force"_s}).code, 0);
     const QByteArray bytes = sandbox.read(config);
@@ -80,7 +80,7 @@ TEST_F(ExchangeVerbs, configDumpTellsWhatItCannotRead)
     EXPECT_EQ(sandbox.run({u"config-dump"_s, u"out"_s}).code, 3);
 }
 
-TEST_F(ExchangeVerbs, exportPrintsOrWritesFiles)
+TEST_F(ExchangeVerbs, ExportPrintsOrWritesFiles)
 {
     const QString table = u"map,register,address,wire address,access,width,type,scale,source,source type\r\n"
                           "map,holding register,40001,0,read/write,16,int16,1,level,number\r\n"_s;
@@ -105,7 +105,7 @@ TEST_F(ExchangeVerbs, exportPrintsOrWritesFiles)
     EXPECT_FALSE(sandbox.files(u"new"_s).contains(u"Pump_Modbus.csv"_s));
 }
 
-TEST_F(ExchangeVerbs, importTakesATableOrNothing)
+TEST_F(ExchangeVerbs, ImportAppliesAllOfATableOrNothing)
 {
     const auto import = [this](const QByteArray &table, const QStringList &options = {}) {
         sandbox.write(u"t.csv"_s, table);

@@ -18,7 +18,7 @@ const QString pump = u"Pump/Pump.kdproj"_s;
 
 } // namespace
 
-TEST(ProjectFile, isRefusedWithPlaceAndReason)
+TEST(ProjectFile, IsRefusedWithPlaceAndReason)
 {
     const Sandbox sandbox;
     sandbox.makeProject(Sandbox::goodElements());
@@ -63,7 +63,7 @@ TEST(ProjectFile, isRefusedWithPlaceAndReason)
     EXPECT_FALSE(QDir(sandbox.path(u"out"_s)).exists());
 }
 
-TEST(FmtVerb, writesTheCanonicalFormAndNothingElse)
+TEST(FmtVerb, WritesTheCanonicalFormAndNothingElse)
 {
     const Sandbox sandbox;
     sandbox.makeProject(Sandbox::goodElements()
@@ -97,7 +97,7 @@ TEST(FmtVerb, writesTheCanonicalFormAndNothingElse)
     EXPECT_EQ(sandbox.run({u"fmt"_s, u"--check"_s, pump}).code, 1);
 }
 
-TEST(FmtVerb, findsADifferenceWhereverItIs)
+TEST(FmtVerb, FindsADifferenceWhereverItIs)
 {
     const Sandbox sandbox;
     QByteArray elements = Sandbox::goodElements();
@@ -128,7 +128,7 @@ TEST(FmtVerb, findsADifferenceWhereverItIs)
     }
 }
 
-TEST(FmtVerb, losesNothingUnlessItIsTold)
+TEST(FmtVerb, LosesNothingUnlessForced)
 {
     const Sandbox sandbox;
     sandbox.makeProject(Sandbox::object("Text", "title", Sandbox::value("shadow", "2")));
@@ -153,7 +153,7 @@ TEST(FmtVerb, losesNothingUnlessItIsTold)
     EXPECT_EQ(sandbox.read(pump), twice);
 }
 
-TEST(FmtVerb, leavesTheFileWholeWhenThereIsNoRoom)
+TEST(FmtVerb, LeavesTheFileUnchangedOnAFullDisk)
 {
     const Sandbox sandbox;
     sandbox.makeProject(Sandbox::goodElements());

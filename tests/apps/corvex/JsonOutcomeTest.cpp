@@ -11,7 +11,7 @@ using namespace Halvane::Corvex::Test;
 using namespace Qt::StringLiterals;
 
 // What every verb prints with --json, however it ends: one object.
-TEST(JsonOutcome, isOneObjectForEveryVerbAndEveryEnd)
+TEST(JsonOutcome, IsOneObjectForEveryVerbAndEveryOutcome)
 {
     const Sandbox sandbox;
     const QString pump = u"Pump/Pump.kdproj"_s;

@@ -49,7 +49,7 @@ bool hasLandlock()
 
 } // namespace
 
-TEST_F(PreviewVerb, takesPicturesOfAProjectAndOfABuild)
+TEST_F(PreviewVerb, TakesPicturesOfAProjectAndOfABuild)
 {
     const ProgramRun project = preview(pump, {u"--shot"_s, u"new/pictures"_s});
     EXPECT_EQ(project.out, u"new/pictures/Main.png\n"_s);
@@ -65,7 +65,7 @@ TEST_F(PreviewVerb, takesPicturesOfAProjectAndOfABuild)
     EXPECT_EQ(preview(pump, {u"--shot"_s, u"out/project/config.kdrc"_s}).code, 3);
 }
 
-TEST_F(PreviewVerb, tellsWhatAScriptExpectedAndWhatWasThere)
+TEST_F(PreviewVerb, ReportsExpectedAndActualValues)
 {
     sandbox.write(u"good"_s,
                   "expect Main.title.text 7\nset speed 40\nexpect Main.title.text \"40\"\nshot fast\n");
@@ -83,7 +83,7 @@ TEST_F(PreviewVerb, tellsWhatAScriptExpectedAndWhatWasThere)
               u"cut:1: The line holds a NUL.\n"_s);
 }
 
-TEST_F(PreviewVerb, looksAtTheScreensForCheck)
+TEST_F(PreviewVerb, InspectsTheScreensForCheck)
 {
     EXPECT_EQ(sandbox.run({u"check"_s, pump, u"--screens"_s}).code, 0);
     sandbox.write(pump, sandbox.read(pump).replace("0406speed", "0406none"));
@@ -100,7 +100,7 @@ TEST_F(PreviewVerb, looksAtTheScreensForCheck)
     EXPECT_EQ(none.code, 1);
 }
 
-TEST_F(PreviewVerb, leavesTheRestOfTheMachineAlone)
+TEST_F(PreviewVerb, CannotReachTheRestOfTheMachine)
 {
     ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
     sandbox.write(u"out/project/qmldir"_s, "module Sent\nplugin machinecode\n");
@@ -139,7 +139,7 @@ TEST_F(PreviewVerb, leavesTheRestOfTheMachineAlone)
     EXPECT_NE(QImage(sandbox.path(u"pictures/Main.png"_s)).pixelColor(4, 4), QColor(Qt::red));
 }
 
-TEST_F(PreviewVerb, endsWhereABuildTakesTooMuch)
+TEST_F(PreviewVerb, StopsABuildThatUsesTooMuch)
 {
     ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
 #ifdef __SANITIZE_ADDRESS__
@@ -166,7 +166,7 @@ TEST_F(PreviewVerb, endsWhereABuildTakesTooMuch)
     }
 }
 
-TEST_F(PreviewVerb, keepsItsStateInNoFileOfOthers)
+TEST_F(PreviewVerb, NeverOverwritesAForeignFileWithItsState)
 {
     const QByteArray project = sandbox.read(pump);
     sandbox.write(u"script"_s, "set speed 8\n");
@@ -179,7 +179,7 @@ TEST_F(PreviewVerb, keepsItsStateInNoFileOfOthers)
 }
 
 #ifdef SYS_landlock_create_ruleset
-TEST_F(PreviewVerb, trustsNoBuildWhereNothingConfinesIt)
+TEST_F(PreviewVerb, RefusesABuildThatCannotBeConfined)
 {
     ASSERT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
     sandbox.deny(SYS_landlock_create_ruleset);
@@ -196,7 +196,7 @@ TEST_F(PreviewVerb, trustsNoBuildWhereNothingConfinesIt)
 }
 #endif
 
-TEST_F(PreviewVerb, walksThroughThePumpStation)
+TEST_F(PreviewVerb, RunsTheTourOfThePumpStation)
 {
     const QString folder = QStringLiteral(CORVEX_EXAMPLES "/PumpStation/");
     const ProgramRun tour = preview(folder + u"PumpStation.kdproj"_s,

@@ -40,7 +40,7 @@ QByteArray seen(const QStringList &arguments, const QString &locked, int millise
 
 } // namespace
 
-TEST(ProgressLineTest, LongWorkShowsALineThatGoes)
+TEST(ProgressLineTest, LongWorkShowsALineAndClearsIt)
 {
     const Sandbox sandbox;
     sandbox.makeProject({});

@@ -16,7 +16,7 @@ const QString pump = u"Pump/Pump.kdproj"_s;
 
 } // namespace
 
-TEST(NewVerb, makesAProjectThatTheOtherVerbsOpen)
+TEST(NewVerb, CreatesAProjectThatTheOtherVerbsOpen)
 {
     const Sandbox sandbox;
     const ProgramRun made = sandbox.run({u"new"_s, u"Kessel 1 ä"_s, u"--model"_s, u"VTR 50-K"_s});
@@ -41,7 +41,7 @@ TEST(NewVerb, makesAProjectThatTheOtherVerbsOpen)
     EXPECT_EQ(checked.code, 1);
 }
 
-TEST(NewVerb, touchesNothingThatIsThere)
+TEST(NewVerb, NeverChangesExistingFiles)
 {
     const Sandbox sandbox;
     sandbox.write(u"Taken/Taken.kdproj"_s, "mine");
@@ -85,7 +85,7 @@ TEST(NewVerb, touchesNothingThatIsThere)
                 testing::Contains(u"VTR 50-K"_s));
 }
 
-TEST(TreeVerb, showsObjectsAndValues)
+TEST(TreeVerb, ShowsObjectsAndValues)
 {
     const Sandbox sandbox;
     sandbox.makeProject(Sandbox::goodElements() + Sandbox::object("Gauge", "gauge1"),
@@ -139,7 +139,7 @@ TEST(TreeVerb, showsObjectsAndValues)
     EXPECT_THAT(title.out.toStdString(), HasSubstr("\n  text = Pump %1 \"A\"\\n2\n"));
 }
 
-TEST(UsesVerb, tellsWhereAThingIsUsed)
+TEST(UsesVerb, ShowsWhereAThingIsUsed)
 {
     const Sandbox sandbox;
     const auto variable = [](const char *name) {
@@ -178,7 +178,7 @@ TEST(UsesVerb, tellsWhereAThingIsUsed)
     EXPECT_EQ(sandbox.run({u"uses"_s, pump, u"Main.gone"_s}).code, 2);
 }
 
-TEST(TreeVerb, printsJson)
+TEST(TreeVerb, PrintsJson)
 {
     const Sandbox sandbox;
     sandbox.makeProject(Sandbox::goodElements());

@@ -43,7 +43,7 @@ protected:
 
 } // namespace
 
-TEST_F(RenderVerb, drawsElementsWhereTheyWerePlaced)
+TEST_F(RenderVerb, DrawsElementsInTheirPlaces)
 {
     const ProgramRun run = render({u"--screen"_s, u"Main"_s, u"-o"_s, u"main.png"_s});
     EXPECT_EQ(run.error, QString());
@@ -64,7 +64,7 @@ TEST_F(RenderVerb, drawsElementsWhereTheyWerePlaced)
     EXPECT_EQ(picture(u"handles.png"_s).pixelColor(130, 60), QColor(Qt::red));
 }
 
-TEST_F(RenderVerb, tellsWhatIsWrong)
+TEST_F(RenderVerb, ReportsErrors)
 {
     const struct
     {
@@ -91,7 +91,7 @@ TEST_F(RenderVerb, tellsWhatIsWrong)
     }
 }
 
-TEST_F(RenderVerb, drawsNothingThatADrawingLinksTo)
+TEST_F(RenderVerb, DoesNotDrawLinkedFiles)
 {
     QImage secret(8, 8, QImage::Format_RGB32);
     secret.fill(Qt::blue);

@@ -11,7 +11,7 @@ using namespace Halvane::Corvex::Test;
 using namespace Halvane::Corvex::Tool;
 using namespace Qt::StringLiterals;
 
-TEST(ValueVerb, knowsTheCanonicalTextOfEachKind)
+TEST(ValueVerb, KnowsTheCanonicalTextOfEachKind)
 {
     struct Case
     {
@@ -67,7 +67,7 @@ TEST(ValueVerb, knowsTheCanonicalTextOfEachKind)
     }
 }
 
-TEST(ValueVerb, acceptsTheExampleOfEachKind)
+TEST(ValueVerb, AcceptsTheExampleOfEachKind)
 {
     for (const ValueKind &kind : valueKinds()) {
         const QString example = QString::fromLatin1(kind.example);
@@ -75,7 +75,7 @@ TEST(ValueVerb, acceptsTheExampleOfEachKind)
     }
 }
 
-TEST(ValueVerb, printsOnlyWhatItAccepts)
+TEST(ValueVerb, PrintsOnlyWhatItAccepts)
 {
     const ProgramRun good = corvex({u"value"_s, u"int"_s, u"-26"_s});
     EXPECT_EQ(good.out, u"-26\n"_s);
@@ -88,13 +88,13 @@ TEST(ValueVerb, printsOnlyWhatItAccepts)
     EXPECT_EQ(bad.code, 1);
 }
 
-TEST(ValueVerb, printsJson)
+TEST(ValueVerb, PrintsJson)
 {
     const QJsonObject good{{u"kind"_s, u"string"_s}, {u"valid"_s, true}, {u"text"_s, u"\"\\\t\u0001\nä😀"_s}};
     EXPECT_EQ(corvex({u"value"_s, u"--json"_s, u"string"_s, u"\"\\\t\u0001\nä😀"_s}).json(), QJsonValue(good));
 }
 
-TEST(ExprVerb, printsTheCodeOrTheObstacle)
+TEST(ExprVerb, PrintsTheCodeOrTheReasonAgainstIt)
 {
     struct Case
     {

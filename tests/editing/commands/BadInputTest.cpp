@@ -72,7 +72,7 @@ protected:
     }
 };
 
-TEST_F(BadInputTest, ObjectsOfNobodyAndOfOthers)
+TEST_F(BadInputTest, ObjectsWithoutAnOwnerOrOfAnotherProject)
 {
     const std::unique_ptr<Project> foreign(static_cast<Project *>(make(u"Project"_s, u"Foreign"_s)));
     auto *screen = static_cast<Screen *>(add(foreign->screens(), "Screen", "Main"));
@@ -188,7 +188,7 @@ TEST_F(BadInputTest, ObjectsOfNobodyAndOfOthers)
     EXPECT_EQ(DesignerObject::toString(foreign.get()), theirs);
 }
 
-TEST_F(BadInputTest, FilesThatComeAndGo)
+TEST_F(BadInputTest, FilesThatAppearAndDisappear)
 {
     const QString file = picture(u"new.png"_s);
     const QString images = project->imagesPath() + u'/';
@@ -224,7 +224,7 @@ TEST_F(BadInputTest, FilesThatComeAndGo)
     EXPECT_TRUE(files().contains(u"pump.png"_s));
 }
 
-TEST_F(BadInputTest, ADiskThatTakesNoMore)
+TEST_F(BadInputTest, AFullDisk)
 {
     const QString file = picture(u"new.png"_s);
     const rlimit none{0, RLIM_INFINITY};

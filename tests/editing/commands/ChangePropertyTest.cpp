@@ -52,7 +52,7 @@ TEST_F(ChangePropertyTest, AQuietRefusalChangesNothingElse)
     EXPECT_EQ(text(), before);
 }
 
-TEST_F(ChangePropertyTest, ANewNameIsFollowedAndListsStaySorted)
+TEST_F(ChangePropertyTest, ReferencesFollowANewNameAndListsStaySorted)
 {
     DesignerObject *button = element("button1");
     ASSERT_TRUE(set(button, "visualElement", linkTo(u"rectangle1"_s)));
@@ -80,7 +80,7 @@ TEST_F(ChangePropertyTest, ANewNameIsFollowedAndListsStaySorted)
     EXPECT_EQ(text(), after);
 }
 
-TEST_F(ChangePropertyTest, NoNameIsGivenThatTheRulesRefuse)
+TEST_F(ChangePropertyTest, ANameThatTheRulesRefuseIsNotSet)
 {
     ASSERT_TRUE(set(element("button1"), "visualElement", linkTo(u"rectangle2"_s)));
     const QString before = text();
@@ -138,7 +138,7 @@ TEST_F(ChangePropertyTest, StatesFollowTheLinkedElement)
     EXPECT_EQ(value(spinner, "incNormalState"), u"name: rectangle1; | name: nowhere;"_s);
 }
 
-TEST_F(ChangePropertyTest, APictureWhoseFileIsMissingIsNotShown)
+TEST_F(ChangePropertyTest, AnImageWithAMissingFileIsNotShown)
 {
     const SharedProperty source = property(element("image1"), "source");
     const QString link = u"filterType: ImageResource; objectId: %1; scopeType: Project;"_s;

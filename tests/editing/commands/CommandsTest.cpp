@@ -61,7 +61,7 @@ protected:
 
 } // namespace
 
-TEST_F(KindCommands, eachKindIsRenamedAndDeleted)
+TEST_F(KindCommands, EachKindIsRenamedAndDeleted)
 {
     const struct
     {
@@ -92,7 +92,7 @@ TEST_F(KindCommands, eachKindIsRenamedAndDeleted)
          u"Delete Project Variable \"on\", Delete Elements and Filters"_s);
 }
 
-TEST_F(KindCommands, whatCannotBeDoneHasAReason)
+TEST_F(KindCommands, RefusalsHaveAReason)
 {
     const auto reasonOf = [](const PlannedCommand &planned) {
         EXPECT_FALSE(planned);
@@ -120,7 +120,7 @@ TEST_F(KindCommands, whatCannotBeDoneHasAReason)
     EXPECT_NE(reasonOf(Commands::duplicationOf({find("pump.png")})), QString());
 }
 
-TEST_F(KindCommands, eachKindIsDuplicatedUnderAFreeName)
+TEST_F(KindCommands, EachKindIsDuplicatedUnderAFreeName)
 {
     const struct
     {
@@ -159,7 +159,7 @@ TEST_F(KindCommands, eachKindIsDuplicatedUnderAFreeName)
     EXPECT_TRUE(find("text3"));
 }
 
-TEST_F(KindCommands, duplicatesReferToEachOther)
+TEST_F(KindCommands, DuplicatesReferToEachOther)
 {
     // In another order than that of the screen, one of them inside another one.
     duplicate({"image1", "filter1", "group1", "rectangle1", "rectangle2", "button1", "speed"},

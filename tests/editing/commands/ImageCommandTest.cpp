@@ -89,7 +89,7 @@ TEST_F(ImageCommandTest, DeletingLeavesTheFileUntilTheProjectIsSaved)
     EXPECT_EQ(files(), QStringList());
 }
 
-TEST_F(ImageCommandTest, RenamingTakesTheFileAlong)
+TEST_F(ImageCommandTest, RenamingAlsoRenamesTheFile)
 {
     showPump();
     push(new RenameImage(object(u"pump.png"_s), u"Pump.png"_s));
@@ -119,7 +119,7 @@ TEST_F(ImageCommandTest, RenamingTakesTheFileAlong)
     EXPECT_EQ(source("image1"), u"pump.png"_s);
 }
 
-TEST_F(ImageCommandTest, ReplacingGivesTheOldPictureBack)
+TEST_F(ImageCommandTest, UndoOfAReplacementRestoresTheOldImage)
 {
     showPump();
     const QString file = picture(u"new.png"_s, Qt::blue);
@@ -143,7 +143,7 @@ TEST_F(ImageCommandTest, ReplacingGivesTheOldPictureBack)
         ReplaceImage(object(u"pump.png"_s), picture(u"new.jpg"_s, Qt::blue), u"pump.png"_s).isValid());
 }
 
-TEST_F(ImageCommandTest, WhatWasNotSavedDoesNotCount)
+TEST_F(ImageCommandTest, UnsavedChangesDoNotCount)
 {
     add(project->imageResources(), "ImageResource", "well.png");
     writePicture("well.png", Qt::green);
@@ -242,7 +242,7 @@ TEST_F(ImageCommandTest, DroppedFiles)
     EXPECT_EQ(files(), QStringList{u"pump.png"_s});
 }
 
-TEST_F(ImageCommandTest, ElementsComeWithWhatTheyNeed)
+TEST_F(ImageCommandTest, ElementsBringImagesAndVariables)
 {
     const auto image = [&](const QString &name, const QString &file) {
         DesignerObject *resource = make(u"ImageResource"_s, name);

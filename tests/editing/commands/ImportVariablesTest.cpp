@@ -48,7 +48,7 @@ QString textsOf(const QList<CsvText::Problem> &problems)
 
 } // namespace
 
-TEST_F(ImportVariablesTest, ATableBringsEverythingBackInOneStep)
+TEST_F(ImportVariablesTest, ATableRestoresEverythingInOneStep)
 {
     add(project->variables(), "StringVariable", "title");
     add(project->variables(), "CANVariable", "engine");
@@ -77,7 +77,7 @@ TEST_F(ImportVariablesTest, ATableBringsEverythingBackInOneStep)
     EXPECT_EQ(table(), before);
 }
 
-TEST_F(ImportVariablesTest, TablesOfOthersMayBeShorter)
+TEST_F(ImportVariablesTest, TablesMayOmitColumnsAndRows)
 {
     set(u"history"_s, u"interval"_s, u"4000"_s);
     set(u"speed"_s, u"value"_s, u"5"_s);
@@ -97,7 +97,7 @@ TEST_F(ImportVariablesTest, TablesOfOthersMayBeShorter)
     EXPECT_TRUE(import("name,interval\nhistory,05000\n"));
 }
 
-TEST_F(ImportVariablesTest, TablesOfSpreadsheetsAreRead)
+TEST_F(ImportVariablesTest, TablesFromSpreadsheetsAreRead)
 {
     const QString table = u"Name;VALUE;Class;;\r\nspeed;\"2,5\";;;\r\ndepth;-0,25;NumberVariable;;\r\n"
                           "title;=1,5;StringVariable;;\r\n"_s;
@@ -119,7 +119,7 @@ TEST_F(ImportVariablesTest, TablesOfSpreadsheetsAreRead)
     EXPECT_EQ(VariableImport("name|value\nspeed|2,5\n", *project, u'|').changes().value(0).after, u"2.5"_s);
 }
 
-TEST_F(ImportVariablesTest, TellsWhatItCannotTake)
+TEST_F(ImportVariablesTest, ReportsWhatItCannotImport)
 {
     const struct
     {

@@ -500,12 +500,12 @@ void ModelTest::edit()
     EXPECT_GT(done, steps / 3);
 }
 
-TEST_F(ModelTest, RandomEditsLeadBackToTheFirstByte)
+TEST_F(ModelTest, UndoingRandomEditsRestoresEveryByte)
 {
     edit();
 }
 
-TEST_F(ModelTest, SoDoThoseWithHostileNames)
+TEST_F(ModelTest, UndoingEditsWithHostileNamesRestoresEveryByte)
 {
     hasHostileNames = true;
     edit();
@@ -577,7 +577,7 @@ protected:
     int saved = 0;
 };
 
-TEST_F(HistoryTest, UndoAndRedoLeadAcrossSaves)
+TEST_F(HistoryTest, UndoAndRedoCrossSaves)
 {
     ProjectHistory history(*project);
     states = {state()};

@@ -189,7 +189,7 @@ void ObserverTest::editProject()
     }
 }
 
-TEST_F(ObserverTest, ACopyThatFollowsByIndexesIsTheProject)
+TEST_F(ObserverTest, ACopyUpdatedByIndexesEqualsTheProject)
 {
     ModelMirror mirror(*project);
     ASSERT_EQ(mirror.difference(), QString());
@@ -244,7 +244,7 @@ TEST_F(ObserverTest, ANewItemIsReportedOnceAtItsFinalPlace)
     EXPECT_EQ(log.text, u"about to insert 2;inserted 2;"_s);
 }
 
-TEST_F(ObserverTest, ObserversComeAndGoWhileTheyAreCalled)
+TEST_F(ObserverTest, ObserversCanBeAddedAndRemovedDuringCalls)
 {
     auto change = [this, step = 0]() mutable {
         EXPECT_TRUE(set(element("text1"), "text", QString::number(++step)));

@@ -167,7 +167,7 @@ TEST_F(ReferenceTest, AllFormsAreFoundRenamedAndDropped)
     }
 }
 
-TEST_F(ReferenceTest, AnElementCalledLikeAnotherScreenIsMeantOnItsOwn)
+TEST_F(ReferenceTest, AnElementTakesPrecedenceOverAScreenWithItsName)
 {
     DesignerObject *namesake = add(main->elements(), "Rectangle", "Other");
     DesignerObject *elsewhere = addTo(other, "Rectangle");
@@ -188,7 +188,7 @@ TEST_F(ReferenceTest, AnElementCalledLikeAnotherScreenIsMeantOnItsOwn)
     EXPECT_EQ(referrers(other), QStringList{elsewhere->objectPath()});
 }
 
-TEST_F(ReferenceTest, TheIndexFollowsObjectsThatComeAndGo)
+TEST_F(ReferenceTest, TheIndexFollowsInsertedAndRemovedObjects)
 {
     ReferenceIndex::of(project.get());
     DesignerObject *late = make(QStringLiteral("Rectangle"), QStringLiteral("late1"));

@@ -70,7 +70,7 @@ protected:
     }
 };
 
-TEST_F(StructureTest, AddingGivesActiveAndSelectedItems)
+TEST_F(StructureTest, AddingSetsActiveAndSelectedItems)
 {
     auto *add = walk(new AddObject(main->elements(), u"Text"_s, {}, true), u"Add \"text2\" to \"Main\""_s);
     EXPECT_EQ(stack().activeItem(), element("text2"));
@@ -97,7 +97,7 @@ TEST_F(StructureTest, AddingGivesActiveAndSelectedItems)
     EXPECT_EQ(both->selectedItems().value(0)->getIdName(), u"title"_s);
 }
 
-TEST_F(StructureTest, NamesThatAreOnlyMarkedAreMarkedAtOnce)
+TEST_F(StructureTest, InvalidNamesAreMarkedAtOnce)
 {
     GroupElement *group = makeGroup({u"rectangle1"_s, u"rectangle2"_s});
     const QString notUnique = u"The name is not unique."_s;
@@ -116,7 +116,7 @@ TEST_F(StructureTest, NamesThatAreOnlyMarkedAreMarkedAtOnce)
     EXPECT_EQ(outer->idProperty()->errorString(), notUnique);
 }
 
-TEST_F(StructureTest, TheProjectTellsThatTheUserModifiedIt)
+TEST_F(StructureTest, TheProjectReportsModificationsByTheUser)
 {
     const QSignalSpy modified(project.get(), &Project::userModified);
     push(new DeleteObject(element("rectangle1"), true));
@@ -132,7 +132,7 @@ TEST_F(StructureTest, TheProjectTellsThatTheUserModifiedIt)
     EXPECT_EQ(modified.size(), 4);
 }
 
-TEST_F(StructureTest, DeletingDropsReferencesAndComesBackToItsPlace)
+TEST_F(StructureTest, DeletingDropsReferencesAndUndoRestoresThePlace)
 {
     ASSERT_TRUE(set(main->filters()->getListItem(u"filter1"_s), "elements", u"rectangle1 | text1"_s));
     ASSERT_TRUE(set(element("text1"), "xBinding", u"0306rectangle1.x"_s));
@@ -151,7 +151,7 @@ TEST_F(StructureTest, DeletingDropsReferencesAndComesBackToItsPlace)
     EXPECT_FALSE(DeleteObject(nullptr, true).isValid());
 }
 
-TEST_F(StructureTest, CommandsShareWhatTheyTookOutOfTheModel)
+TEST_F(StructureTest, CommandsShareRemovedObjects)
 {
     // Each gives away what an older command holds and is dropped from the history; the older one is undone.
     const QPointer<DesignerObject> screen = other;
@@ -258,7 +258,7 @@ TEST_F(StructureTest, GroupsKeepPlacesAndIndexes)
     EXPECT_FALSE(SplitGroup(one, QStringList{u"rectangle2"_s}).isValid());
 }
 
-TEST_F(StructureTest, AnUngroupedElementIsSeenWhereItWas)
+TEST_F(StructureTest, AnUngroupedElementStaysInPlaceOnTheScreen)
 {
     DesignerObject *one = element("rectangle1");
     DesignerObject *two = element("rectangle2");
@@ -281,7 +281,7 @@ TEST_F(StructureTest, AnUngroupedElementIsSeenWhereItWas)
               QRect(0, 10, 10, 20));
 }
 
-TEST_F(StructureTest, DeletingSeveralAsksAboutCommonFilters)
+TEST_F(StructureTest, DeletingSeveralElementsConsidersCommonFilters)
 {
     struct : EditingDialogs
     {

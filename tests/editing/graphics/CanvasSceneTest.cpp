@@ -154,7 +154,7 @@ TEST_F(CanvasSceneTest, EachGestureIsOneCommand)
     }
 }
 
-TEST_F(CanvasSceneTest, WhatChangesNothingLeavesNoCommand)
+TEST_F(CanvasSceneTest, AGestureWithoutAChangeLeavesNoCommand)
 {
     show();
     const QString before = placeOf(box);
@@ -189,7 +189,7 @@ TEST_F(CanvasSceneTest, WhatChangesNothingLeavesNoCommand)
     EXPECT_TRUE(scene->selectedObjects().isEmpty());
 }
 
-TEST_F(CanvasSceneTest, HandlesAreFoundInAMagnifiedViewOfATurnedElement)
+TEST_F(CanvasSceneTest, HandlesAreFoundInAMagnifiedViewOfARotatedElement)
 {
     set(box, "rotation", u"90"_s);
     show(2);
@@ -275,7 +275,7 @@ TEST_F(CanvasSceneTest, GroupingAndDeletingLeaveEverythingElseInItsPlace)
     EXPECT_EQ(look(), before);
 }
 
-TEST_F(CanvasSceneTest, WhatElseATurnedGroupHoldsStaysInItsPlace)
+TEST_F(CanvasSceneTest, OtherMembersOfARotatedGroupStayInPlace)
 {
     // A group that reaches less or further turns about another point.
     DesignerObject *outer = add(screen, "GroupElement", "outer", {150, 100, 0, 0});
@@ -384,7 +384,7 @@ TEST_F(CanvasSceneTest, WhatElseATurnedGroupHoldsStaysInItsPlace)
     EXPECT_TRUE(areEqual(cornersOf(other), otherPlace));
 }
 
-TEST_F(CanvasSceneTest, TheHistorySelectsWhatAnEditIsAbout)
+TEST_F(CanvasSceneTest, TheHistorySelectsTheEditedElements)
 {
     DesignerObject *other = add(screen, "Rectangle", "other", {200, 100, 80, 20});
     DesignerObject *third = add(screen, "Rectangle", "third", {10, 200, 20, 20});
@@ -432,7 +432,7 @@ TEST_F(CanvasSceneTest, TheHistorySelectsWhatAnEditIsAbout)
     }
 }
 
-TEST_F(CanvasSceneTest, MembersOfTurnedGroupsGoWhereTheMouseTakesThem)
+TEST_F(CanvasSceneTest, MembersOfRotatedGroupsFollowTheMouse)
 {
     // A group that grows with a member turns about another point; nothing is seen to move by that.
     DesignerObject *outer = add(screen, "GroupElement", "outer", {150, 100, 0, 0});

@@ -83,7 +83,7 @@ TEST(ResizeRules, TheEdgesOppositeTheHandleStay)
     }
 }
 
-TEST(ResizeRules, CursorsFollowTheWayThatAHandleMovesOnTheScreen)
+TEST(ResizeRules, CursorsShowTheDirectionOfAHandleOnTheScreen)
 {
     constexpr struct
     {
@@ -169,7 +169,7 @@ TEST_F(GraphicsItemTest, ItemsFollowTheirElements)
     EXPECT_EQ(item->minSize(), 12) << "room for the border on both sides";
 }
 
-TEST_F(GraphicsItemTest, ItemsGoWithTheirElementsAndComeBackWhereTheyWere)
+TEST_F(GraphicsItemTest, ItemsAreRemovedWithTheirElementsAndComeBackInPlace)
 {
     DesignerObject *low = add(screen, "Rectangle", "low", {0, 0, 10, 10});
     DesignerObject *middle = add(screen, "GroupElement", "middle", {});
@@ -230,7 +230,7 @@ TEST_F(GraphicsItemTest, AScreenOutlivesItsSceneAndIsShownAgain)
     EXPECT_EQ(stacking(), (QStringList{u"Main"_s, u"box"_s}));
 }
 
-TEST_F(GraphicsItemTest, ResizingATurnedItemKeepsTheOppositeCornerInItsPlace)
+TEST_F(GraphicsItemTest, ResizingARotatedItemKeepsTheOppositeCornerInPlace)
 {
     constexpr struct
     {

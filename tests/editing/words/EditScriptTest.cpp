@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 class EditScriptTest : public CommandFixture
 { };
 
-TEST_F(EditScriptTest, aPlanChangesNothingUntilItsCommandIsPushed)
+TEST_F(EditScriptTest, APlanChangesNothingUntilItsCommandIsPushed)
 {
     int asked = 0;
     EditScript script(*project, [&asked] {

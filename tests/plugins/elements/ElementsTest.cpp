@@ -138,7 +138,7 @@ TEST_F(Elements, TheDocumentOfAScreenHasItsPartsInOrderAndParses)
     EXPECT_FALSE(qml.contains(u'\r'));
 }
 
-TEST_F(Elements, ExpressionsStandInForPlainValues)
+TEST_F(Elements, ExpressionsReplacePlainValues)
 {
     DesignerObject *text = add("Text", u"label"_s);
     set(text, "text", u"say \"hi\"\n"_s);
@@ -165,7 +165,7 @@ TEST_F(Elements, ExpressionsStandInForPlainValues)
                                   "color<colorBinding width<size height<size"_s);
 }
 
-TEST_F(Elements, StatesAndActionsBecomeAssignmentsToWhatIsThere)
+TEST_F(Elements, StatesAndActionsBecomeAssignmentsToExistingElements)
 {
     add("Rectangle", u"box"_s);
     DesignerObject *button = add("Button", u"button"_s);
@@ -202,7 +202,7 @@ TEST_F(Elements, StatesAndActionsBecomeAssignmentsToWhatIsThere)
     EXPECT_EQ(line(action, "propertyChanges"), u"onPropertyChanges: {\n\tqml_box.visible = false;\n}"_s);
 }
 
-TEST_F(Elements, LogicKeepsItsRulesApart)
+TEST_F(Elements, RulesOfLogicAreIndependent)
 {
     DesignerObject *logic = add("LogicBuilder", u"logic"_s);
     const QString condition = u"<0403on><0101||><0403ready>"_s;
@@ -225,7 +225,7 @@ TEST_F(Elements, LogicKeepsItsRulesApart)
               u"The condition of rule 1 is incomplete."_s);
 }
 
-TEST_F(Elements, AutoSettingsBeginWithWhatTheDeviceHas)
+TEST_F(Elements, AutoSettingsBeginWithTheSettingsOfTheDevice)
 {
     DesignerObject *box = add("Rectangle", u"box"_s);
     set(box, "position", u"x: 10; y: 20.5;"_s);
@@ -242,7 +242,7 @@ TEST_F(Elements, AutoSettingsBeginWithWhatTheDeviceHas)
     }
 }
 
-TEST_F(Elements, AnExpressionThatGivesNoCodeIsTold)
+TEST_F(Elements, AnExpressionWithoutCodeIsReported)
 {
     const QString incomplete = u"The expression is incomplete."_s;
     const QString hot = u"<0403hot><0101?><0208FFC62828><0101:><0208FFC3CDD6>"_s;
@@ -329,7 +329,7 @@ TEST_F(Elements, NoNameBecomesCode)
     EXPECT_EQ(line(loader, "screen"), u"screen: \"\""_s);
 }
 
-TEST_F(Elements, PicturesKnowTheImagesThatShowThem)
+TEST_F(Elements, ResourcesKnowTheImagesThatShowThem)
 {
     auto *logo = static_cast<ImageResource *>(make(u"ImageResource"_s, u"logo.png"_s));
     auto *pump = static_cast<ImageResource *>(make(u"ImageResource"_s, u"pump.png"_s));
@@ -351,7 +351,7 @@ TEST_F(Elements, PicturesKnowTheImagesThatShowThem)
     EXPECT_FALSE(logo->isLinked());
 }
 
-TEST_F(Elements, LinksAndChannelsAreJudged)
+TEST_F(Elements, LinksAndChannelsAreValidated)
 {
     add("Rectangle", u"box"_s);
     add("PwmOutput", u"pwm"_s);
@@ -398,7 +398,7 @@ TEST_F(Elements, LinksAndChannelsAreJudged)
     EXPECT_EQ(line(loader, "screen"), u"screen: \"qml_Other\""_s);
 }
 
-TEST_F(Elements, ALinkIsHeldAgainstWhatItsPropertyNeeds)
+TEST_F(Elements, ALinkMustMeetTheRequirementsOfItsProperty)
 {
     const QString number = u"NumberVariable"_s;
     project->addListPropertyItem(project->variables(), make(number, u"speed"_s));

@@ -28,7 +28,7 @@ QModelIndex cellOf(const QTableView *table, const QString &text, int column)
 
 } // namespace
 
-TEST(PreviewWindow, showsAndMovesThePanel)
+TEST(PreviewWindow, ShowsAndMovesThePanel)
 {
     TestBuild build;
     build.addVariable(u"speed"_s, EnumHelper::IntegerVariable, 7);

@@ -71,7 +71,7 @@ QStringList lines(const QByteArray &bytes)
 
 } // namespace
 
-TEST(CsvText, ReadsWhatItWritesAndWhatOthersWrite)
+TEST(CsvText, ReadsItsOwnAndForeignTables)
 {
     const QStringList nasty{u"a,b"_s,  u"say \"hi\""_s, u"two\r\nlines\nand one"_s, {}, u" x "_s, u"\""_s,
                             u"a\"b"_s, u"'til"_s};
@@ -96,7 +96,7 @@ TEST(CsvText, ReadsWhatItWritesAndWhatOthersWrite)
     }
 }
 
-TEST(CsvText, MarksWhatASpreadsheetWouldRun)
+TEST(CsvText, MarksFormulas)
 {
     const struct
     {
