@@ -67,7 +67,7 @@ TEST(ExpressionSyntax, SurvivesDeepAndLongText)
         return syntax.checkDocument(u"import QtQuick 1.1\nItem {\n\tx: %1\n\ty: 1\n}\n"_s.arg(code));
     };
     EXPECT_TRUE(inDocument(u"[1%1]"_s.arg(times(depth, u", a && f(2)"_s))).valid);
-    // What compilers follow to some depth only: each is taken at 900 levels, and told at 5,000.
+    // Nested forms with a depth limit: 900 levels are accepted, 5,000 are reported.
     const auto expressions = [&times](int count) {
         return QStringList{QString(count, u'(') + u'1' + QString(count, u')'),
                            u'1' + times(count, u" + a"_s),

@@ -9,8 +9,8 @@ using namespace Halvane::Corvex::Designer;
 
 TEST(FunctionCall, ArgumentsAreCountedByTheParenthesesAroundThem)
 {
-    //! The calls, each with its number of arguments, "!" for one that the function does not take, and the
-    //! first argument when that is a single term.
+    //! The calls, each with its number of arguments, "!" for an unsupported number, and the first argument if
+    //! it is a single term.
     const struct
     {
         QString expression;

@@ -15,7 +15,7 @@ using List = GeneralDataList;
 
 namespace {
 
-//! Writes expressions that are valid in their kind and grammatical, with values that are awkward to quote.
+//! Writes expressions that are valid and grammatical for their kind, with values that are hard to quote.
 class Author
 {
 public:
@@ -208,7 +208,7 @@ TEST(GeneratedCode, IsCorrectWithPlainNames)
     }
 }
 
-//! One text of a shape stands for all: what cannot be read never hides behind a shape that can.
+//! Texts of the same shape are equivalent: invalid code never has the shape of valid code.
 TEST(GeneratedCode, TheShapeOfWrongCodeIsWrong)
 {
     const QStringList alike{u"x: \"a\" + qml_b.x * 12"_s, u"x: \"\\n'/\\\"\" + qml_tank_7.x * 345"_s};

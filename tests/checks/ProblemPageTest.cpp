@@ -9,7 +9,7 @@
 using namespace Halvane::Corvex::Designer;
 using namespace Qt::StringLiterals;
 
-//! docs/problems.md is made from the table: CORVEX_WRITE=1 makes this test write it.
+//! docs/problems.md is generated from the table: with CORVEX_WRITE=1 this test writes it.
 TEST(ProblemPage, ListsEveryKindOfProblem)
 {
     QString page =

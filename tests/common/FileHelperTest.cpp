@@ -75,8 +75,8 @@ TEST_F(FileHelperTest, WriteFollowsLinks)
 TEST_F(FileHelperTest, FullDiskLeavesTheOldFile)
 {
     put(path(u"a"_s), "old");
-    // Blocks below, at and above what a device buffers, and a failure that comes at the first or a later
-    // write.
+    // Blocks smaller than, equal to and larger than the buffer of a device, so that the first or a later
+    // write fails.
     for (const qsizetype block : {100, 16384, 100000}) {
         QString error;
         const FullDisk disk(50000);
@@ -114,7 +114,7 @@ TEST_F(FileHelperTest, CopiesAreCompleteOrDoNotExist)
 
 TEST_F(FileHelperTest, WriteErrorsNameTheFile)
 {
-    // A pipe stands for devices, which a test had better not put at risk.
+    // A pipe instead of a device, which a test should not endanger.
     ASSERT_EQ(mkfifo(path(u"pipe"_s).toUtf8().constData(), 0600), 0);
     const QString bad[] = {path(u"missing/a"_s), path(u"pipe"_s), m_folder.path(), QString()};
     for (const QString &name : bad) {
@@ -181,7 +181,7 @@ TEST_F(FileHelperTest, VariantBytes)
 {
     const QVariantMap map{{u"n"_s, -2}, {u"f"_s, 1.5F}};
     ASSERT_TRUE(FileHelper::variantToFile(map, path(u"v"_s), false));
-    // The float has the number of its type and stands as a double.
+    // The type number is that of a float, but the value is stored as a double.
     EXPECT_EQ(contentOf(path(u"v"_s)).toHex(), QByteArray("0000000800"
                                                           "00000002"
                                                           "00000002"
@@ -239,11 +239,11 @@ TEST_F(FileHelperTest, VariantRefusesOtherBytes)
         "",
         good + '\0',
         nested,
-        QByteArray::fromHex("0000000900ffffffff"),           // a list of 4 thousand million values
-        QByteArray::fromHex("0000000b00ffffffff"),           // as many texts
-        QByteArray::fromHex("0000000a00fffffffe"),           // a text of as many bytes
-        QByteArray::fromHex("0000004600"),                   // an image, which this form does not hold
-        QByteArray::fromHex("0000007f00000000044162634400"), // a type by its name
+        QByteArray::fromHex("0000000900ffffffff"),           // a list of 4 billion values
+        QByteArray::fromHex("0000000b00ffffffff"),           // the same number of texts
+        QByteArray::fromHex("0000000a00fffffffe"),           // a text with as many bytes
+        QByteArray::fromHex("0000004600"),                   // an image, which is not supported
+        QByteArray::fromHex("0000007f00000000044162634400"), // a type given by name
         qCompress(qCompress(good)),
         qCompress(QByteArray(80 << 20, 'x')),
         qCompress(good).chopped(1),

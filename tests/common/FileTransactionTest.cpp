@@ -37,7 +37,7 @@ protected:
         QDir().mkpath(QFileInfo(path(name)).path());
         ASSERT_TRUE(FileHelper::writeFile(path(name), bytes));
     }
-    //! The contents of all files by their names.
+    //! The contents of all files by name.
     QMap<QString, QByteArray> files() const
     {
         QMap<QString, QByteArray> found;
@@ -49,7 +49,7 @@ protected:
         }
         return found;
     }
-    //! Makes the change in a process that ends in the middle of it.
+    //! Makes the change in a process that is killed in the middle.
     void crash(const Change &change) const
     {
         const pid_t child = fork();
@@ -84,7 +84,8 @@ TEST_F(FileTransactionTest, ChangesTakeEffectTogetherOrNotAtAll)
     const struct
     {
         Change change;
-        QMap<QString, QByteArray> files; //!< afterwards, beside those that stay; null for one that is gone
+        QMap<QString, QByteArray> files; //!< the files afterwards, besides those that stay; null for a
+                                         //!< removed file
     } cases[] = {
         {[](auto &files) { EXPECT_TRUE(files.place(motor, "new")); }, {{u"P/"_s + motor, "new"}}},
         {[](auto &files) { EXPECT_TRUE(files.place(u"More/x"_s, "new")); }, {{u"P/More/x"_s, "new"}}},
@@ -135,7 +136,7 @@ TEST_F(FileTransactionTest, ARenamedFolderGetsItsOldName)
     EXPECT_EQ(FileTransaction::renamedFrom(path(u"P"_s)), path(u"Q"_s));
     EXPECT_EQ(FileTransaction::recover(path(u"Q"_s)), FileTransaction::Recovery::TakenBack);
     EXPECT_EQ(files(), before);
-    // Unless a user gave it another one since.
+    // Unless the user has renamed it since.
     crash(change);
     ASSERT_TRUE(QDir().rename(path(u"Q"_s), path(u"Mine"_s)));
     EXPECT_EQ(FileTransaction::renamedFrom(path(u"P"_s)), QString());

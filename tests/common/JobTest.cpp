@@ -13,7 +13,7 @@ namespace Halvane::Corvex::Common {
 
 namespace {
 
-//! Something that must not be left behind.
+//! An object that must be destroyed.
 struct Piece
 {
     explicit Piece(int *count)
@@ -84,7 +84,7 @@ TEST(JobTest, FailedOrCancelledWorkHasNoResult)
                 error = u"The disk is full."_s;
                 return {};
             }
-            // It has what it was to make when it hears that nobody wants it.
+            // The work has its result when it notices the cancellation.
             waitUntilCancelled(progress);
             return Piece(&pieces);
         });
@@ -115,7 +115,7 @@ TEST(JobTest, AJobThatIsDeletedCancelsAndWaits)
     EXPECT_EQ(finished.size(), 0);
     EXPECT_EQ(pieces, 0);
 
-    // In its own slot; and a receiver that goes in the middle hears nothing more.
+    // In its own slot. A receiver that is deleted in the middle gets no more signals.
     for (const bool isSliced : {false, true}) {
         auto *own = new Job;
         auto receiver = std::make_unique<QObject>();

@@ -14,7 +14,7 @@ using namespace Halvane::Corvex::Common;
 
 TEST(PictureFile, AcceptsOnlySelfContainedDrawings)
 {
-    // A PNG of one dot, and a drawing that links further, as they stand in a drawing.
+    // A PNG with one pixel, and a drawing with an external link, both as embedded in a drawing.
     const QByteArray dot =
         "data:image/png;base64,iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAQAAAC1HAwCAAAAC0lEQVR42mNk";
     const QByteArray nested =

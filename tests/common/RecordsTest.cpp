@@ -18,7 +18,7 @@ TEST(EnumHelper, EveryVariableTypeHasAText)
 
 TEST(EnumHelper, BACnetTables)
 {
-    // Numbers on both sides of each gap of the standard.
+    // Numbers on both sides of each gap in the standard.
     const QString properties =
         u"0=acked-transitions 7=alarm-values 9=all-writes-successful 17=notification-class "
         "19=controlled-variable-reference 28=description 62=max-apdu-length-accepted 77=object-name "
@@ -41,7 +41,7 @@ TEST(EnumHelper, BACnetTables)
     EXPECT_EQ(EnumHelper::getBACnetObjIDToNames().value(56), u"network-port"_s);
     EXPECT_EQ(EnumHelper::getBACnetObjIDToNames().size(), 63);
     EXPECT_EQ(EnumHelper::getBACnetPropIDToNames().size(), 477);
-    // No name stands twice: the tables by name hold as many entries as those by number.
+    // Names are unique: the tables by name have as many entries as those by number.
     EXPECT_EQ(EnumHelper::getBACnetPropertyTypeNames().size(), EnumHelper::getBACnetPropIDToNames().size());
     EXPECT_EQ(EnumHelper::getBacnetObjectTypeNames().size(), EnumHelper::getBACnetObjIDToNames().size());
 }

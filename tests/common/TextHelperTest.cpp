@@ -8,7 +8,7 @@ using Halvane::Corvex::Common::TextHelper;
 
 namespace {
 
-//! Sorted in every order of the input, a list must come out the same.
+//! The sorted list must not depend on the order of the input.
 template<typename Sort>
 void expectSorted(const QStringList &expected, Sort sort)
 {
@@ -37,8 +37,7 @@ TEST(TextHelper, Base64KeepsEveryText)
 
 TEST(TextHelper, Base64RefusesWhatItDoesNotWrite)
 {
-    // Padding missing, blanks, other letters, spare bits set, bytes that are no UTF-8, letters beyond
-    // Latin-1.
+    // Missing padding, blanks, other letters, spare bits, bytes that are not UTF-8, letters beyond Latin-1.
     const QString bad[] = {u"SGVsbG8"_s, u"SGVs bG8="_s, u"SGVsbG8-"_s,   u"SGVsbG9="_s,
                            u"/w=="_s,    u"===="_s,      u"SGVsbG8=\n"_s, u"\u0153GVs"_s};
     for (const QString &text : bad) {

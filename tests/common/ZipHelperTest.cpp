@@ -35,7 +35,7 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
     }
 
-    //! Changes the only entry, which is called "aaaa", in the archive z.
+    //! Changes the only entry of the archive z, which has the name "aaaa".
     void forge(const QByteArray &name, quint32 mode, quint32 size) const
     {
         put(u"aaaa"_s, QByteArray(100000, 'x'));
@@ -115,7 +115,7 @@ TEST_F(ZipHelperTest, EqualFoldersGiveEqualBytesAndUnpackUnchanged)
         QFile::setPermissions(path(root + u"/b.txt"_s),
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         QFile::link(u"/etc/passwd"_s, path(root + u"/link"_s));
-        // The path of the folder leaves no trace in the names, however it is written.
+        // The path of the folder never appears in the names, however it is written.
         const QString given = turn == 0 ? path(root) : QDir::current().relativeFilePath(path(root)) + u"/."_s;
         ASSERT_TRUE(ZipHelper::zipDirectory(given, path(root + u"/out.zip"_s)));
         ++turn;

@@ -18,7 +18,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! A recipe lies as "NAME.recipe" in a folder of its name, and cannot be stored without its part.
+//! A recipe is a file "NAME.recipe" in a folder with its name. It cannot be stored without its part.
 class Recipe : public FileObject
 {
     CORVEX_CLASS_NAMES(Recipe, FileObject)
@@ -78,7 +78,7 @@ protected:
         QFile file(path(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     }
-    //! Everything in the folder, one path each.
+    //! The paths of everything in the folder.
     QStringList all() const
     {
         QStringList names;
@@ -142,7 +142,7 @@ TEST_F(FileObjectTest, CreatesLoadsAndSavesItsFile)
     EXPECT_EQ(other.getProperty(u"next")->valueString(), recipe.getProperty(u"next")->valueString());
     EXPECT_EQ(other.fullFilePath(), path(u"Soup/Soup.recipe"_s));
     EXPECT_EQ(other.parentPath(), path());
-    // What lies beside the file can be found while the object is read and validated.
+    // Files next to the object's file can be found while the object is read and validated.
     EXPECT_EQ(other.events, (QStringList{u"file "_s + path(u"Soup/Soup.recipe"_s), u"read"_s}));
 
     Recipe again(u"Soup"_s);
@@ -197,7 +197,7 @@ TEST_F(FileObjectTest, RenamesItsFolderAndFile)
     EXPECT_EQ(all(), (QStringList{u"Broth"_s, u"Broth/Broth.recipe"_s, u"Taken"_s}));
     EXPECT_EQ(recipe.fullFilePath(), path(u"Broth/Broth.recipe"_s));
 
-    // A file under another name than the object's keeps it.
+    // A file whose name differs from the object's keeps its name.
     ASSERT_TRUE(recipe.renameFile(u"Soup"_s, u"Tea"_s));
     EXPECT_EQ(recipe.fullFilePath(), path(u"Broth/Broth.recipe"_s));
 }
@@ -215,7 +215,7 @@ TEST_F(FileObjectTest, DeletesOnlyItsOwnFiles)
     EXPECT_TRUE(recipe.deleteFile());
     EXPECT_EQ(all(), QStringList());
 
-    // Opened from a folder that is not the object's own: that one stays.
+    // The object was opened from a folder that is not its own, so the folder is kept.
     ASSERT_TRUE(QDir(path()).mkdir(u"Documents"_s));
     recipe.inOwnFolder = false;
     ASSERT_TRUE(recipe.createFile(path(u"Documents"_s)));

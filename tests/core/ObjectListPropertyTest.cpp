@@ -17,7 +17,7 @@ namespace Halvane::Corvex::Designer::Test {
 
 namespace {
 
-//! An object of any class, which counts how often a list has asked for it.
+//! An object of any class that counts the queries of its list.
 class Item : public DesignerObject
 {
 public:
@@ -44,7 +44,7 @@ private:
     QString m_className;
 };
 
-//! A list as it is while a file is read.
+//! A list in the state during the reading of a file.
 class OpenList : public ObjectListProperty
 {
 public:
@@ -131,7 +131,7 @@ TEST(ObjectListProperty, StaysSortedAfterAnyInsertion)
         sortedOnce.list->sortList();
         EXPECT_EQ(owner.names(), sortedOnce.names()) << int(rule);
 
-        // An index is only a wish in a list with an order, and what gets a new name moves to its new place.
+        // In a sorted list an index is only a suggestion, and a renamed item moves to its new place.
         for (int i = 0; i < 100; ++i) {
             auto *item = new Item(u"n%1"_s.arg(i), classes[random() % 4]);
             ASSERT_TRUE(owner.insertListPropertyItemAt(owner.list, item, qsizetype(random() % 300)));

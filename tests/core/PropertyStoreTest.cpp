@@ -19,7 +19,7 @@ struct Marker
     int mark = 5;
 };
 
-//! A property whose memory does not begin with its DesignerProperty.
+//! A property in which DesignerProperty is not the first base.
 class Marked
     : public Marker
     , public StringProperty

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-//! Keeps what is invalid, so that every value can be set and judged.
+//! Keeps invalid values, so that every value can be set and validated.
 class Device : public DesignerObject
 {
     CORVEX_CLASS_NAMES(Device, DesignerObject)
@@ -27,7 +27,7 @@ class Device : public DesignerObject
 public:
     Device() { initialize(); }
 
-    //! The error of a property after it was given that text.
+    //! The error of a property after it was set to that text.
     QString errorOf(const char *id, const QString &text)
     {
         const SharedProperty property = getProperty(QString::fromLatin1(id));
@@ -72,7 +72,7 @@ protected:
     }
 };
 
-//! So many stops, in colours that take turns.
+//! The given number of stops, in alternating colours.
 QString stops(int count)
 {
     QStringList texts;

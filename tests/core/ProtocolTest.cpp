@@ -74,7 +74,7 @@ TEST_F(Protocol, AChangeReturnsItsOutcome)
         SharedProperty property;
         QString text;
         DesignerObject::Change change;
-        bool isAccepted; //!< by changePropertyValue(), which keeps quiet about some refusals
+        bool isAccepted; //!< by changePropertyValue(), which does not report some refusals
     } cases[] = {
         {owner->property("percent"), u"7"_s, Done, true},
         {owner->property("percent"), u"050"_s, Unchanged, true},
@@ -255,7 +255,7 @@ TEST_F(Protocol, ReplaceAndSwapKeepPlacesAndReturnTheOldItem)
                                              owner->property("nodes")->getListItemAtIndex(1)));
     EXPECT_EQ(owner->property("nodes")->listItemNames(), QStringList({u"second"_s, u"first"_s}));
     delete first;
-    // What may not leave is not replaced either.
+    // An item that may not be removed may not be replaced either.
     const std::unique_ptr<Node> fourth(Node::create(u"fourth"_s));
     owner->property("nodes")->setRemoveValidator(
         [](const DesignerProperty *, const DesignerObject *, QString &error) {
@@ -282,7 +282,8 @@ TEST_F(Protocol, ANewNameIsFoundAtOnceAndReportedAfterwards)
     EXPECT_EQ(item->objectName(), u"new"_s);
     EXPECT_EQ(item->log.value(2), u"renamed old to new"_s);
 
-    // The model stores a bad name and marks it: both bearers can still be told apart and taken.
+    // The model stores a bad name and marks it. Both items with the name can still be distinguished and
+    // removed.
     Node *twin = add(u"twin"_s);
     EXPECT_TRUE(twin->setIdName(u"new"_s));
     EXPECT_EQ(owner->property("nodes")->listItemCount(u"new"_s), 2);

@@ -50,8 +50,8 @@ protected:
     using TypedProperty::TypedProperty;
 };
 
-/*! An object with a property of every kind that writes down what the protocol does with it, in order. What a
-    hook is to veto is named in `veto`. */
+//! An object with a property of every kind that records the calls of the protocol in order. Hooks veto the
+//! changes named in `veto`.
 class Node : public DesignerObject
 {
     Q_OBJECT
@@ -160,7 +160,7 @@ private:
     static constexpr ClassRow classes[] = {{"Node", &makeObject<Node>, "node", "A Node"}};
 };
 
-//! Makes the process-wide factory anew, with the class Node beside the library's own.
+//! Creates the process-wide factory again, with the class Node in addition to the library's own.
 inline void makeFactory()
 {
     static NodeFactory nodes;

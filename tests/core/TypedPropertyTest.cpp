@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-//! A property with its reading, which otherwise belongs to the object that owns it.
+//! A property with public access to its reading, which otherwise only its owner may call.
 struct Subject
 {
     SharedProperty property;
@@ -41,7 +41,7 @@ Subject make(const Value &initialValue, const QString &id = u"value"_s)
         using Property::convertToValue;
         using Property::Property;
     };
-    // Nothing but the value may make an instance larger: a project holds a million of them.
+    // Only the value may make an instance larger: a project has a million of them.
     using Held = std::remove_cvref_t<decltype(std::declval<Property>().value())>;
     static_assert(sizeof(Property) <= sizeof(DesignerProperty) + std::max(sizeof(Held), sizeof(void *)));
     const auto property = QSharedPointer<Open>::create(nullptr, id, id, initialValue);
@@ -59,15 +59,15 @@ EnumInfo channelWord(int value)
 struct Good
 {
     QString text;
-    QString canonical; //!< empty when it is the text itself
-    QString qml;       //!< at no indentation
+    QString canonical; //!< empty if it is the text itself
+    QString qml;       //!< without indentation
 };
 
 struct Kind
 {
     const char *description; //!< class, editor and flags
     Subject subject;
-    QList<Good> good; //!< of different values; the first one is not the initial value
+    QList<Good> good; //!< of different values; the first is not the initial value
     QStringList bad;
 };
 

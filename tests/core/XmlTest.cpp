@@ -25,7 +25,7 @@ class Xml : public testing::Test
 protected:
     Xml() { makeFactory(); }
 
-    //! Reads \a xml into a new node; null when it is refused.
+    //! Reads \a xml into a new node; null if it is refused.
     std::unique_ptr<Node> read(const QByteArray &xml)
     {
         QBuffer buffer;
@@ -44,7 +44,7 @@ protected:
         return DesignerObject::toString(object).toUtf8();
     }
 
-    //! A node whose properties are \a properties.
+    //! A node with these properties.
     static QByteArray node(const QByteArray &properties)
     {
         return "<Node>\n <Properties>\n" + properties + " </Properties>\n</Node>\n";
@@ -91,7 +91,7 @@ TEST_F(Xml, TheFormatIsFixed)
 
 namespace {
 
-//! Stores its text in capitals, and a note of its own.
+//! Stores its text in capitals, together with a note.
 class Loud : public Node
 {
 public:
@@ -246,7 +246,7 @@ TEST_F(Xml, ItemsOfUnknownClassesAndDuplicatesKeepTheirPlaces)
         owner->addListPropertyItem(owner->property("nodes"), Node::create(name));
     }
     QByteArray xml = write(owner.get());
-    // "b" becomes a class that no plug-in knows, "c" a second "a".
+    // "b" gets a class that no plug-in knows, "c" becomes a second "a".
     const qsizetype b = xml.indexOf("    <Node>", xml.indexOf("name: a;"));
     const qsizetype c = xml.indexOf("    <Node>", b + 1);
     QByteArray middle = xml.mid(b, c - b).replace("Node>", "Robot>");
@@ -261,7 +261,7 @@ TEST_F(Xml, ItemsOfUnknownClassesAndDuplicatesKeepTheirPlaces)
     EXPECT_EQ(kept.front().name, u"b"_s);
     EXPECT_EQ(write(loaded.get()), xml);
 
-    // Read once more into the same object, and with another item in the place before.
+    // Read again into the same object, with another item before the kept one.
     QBuffer again(&xml);
     again.open(QIODevice::ReadOnly);
     EXPECT_TRUE(ObjectXmlReader(&again).read(loaded.get()));
@@ -279,7 +279,7 @@ TEST_F(Xml, ItemsOfUnknownClassesAndDuplicatesKeepTheirPlaces)
 
 TEST_F(Xml, AListWrittenInPartsGivesTheSameText)
 {
-    //! Takes so many bytes, in one thread.
+    //! Accepts a limited number of bytes, from one thread only.
     struct Device : QIODevice
     {
         explicit Device(qsizetype most)
@@ -317,7 +317,7 @@ TEST_F(Xml, AListWrittenInPartsGivesTheSameText)
     EXPECT_FALSE(ObjectXmlWriter(&full).write(owner.get()));
     EXPECT_EQ(full.bytes, all.bytes.first(full.room));
 
-    // Of two items that no file can hold the first is named.
+    // Of two items that cannot be stored, the first one is reported.
     for (const char *name : {"name: n150;", "name: n90;"}) {
         const qsizetype value =
             all.bytes.indexOf("value=\"", all.bytes.indexOf("\"text\"", all.bytes.indexOf(name)));
@@ -372,7 +372,7 @@ TEST_F(Xml, EverySavedFileCanBeRead)
     const std::unique_ptr<Node> again = read(write(owner.get()));
     ASSERT_TRUE(again) << qPrintable(error);
     EXPECT_EQ(again->value("text"), longest);
-    // What is raw in a file may be longer when it is written.
+    // Characters that are not escaped in the file may need more bytes when they are written.
     QByteArray raw = node("<Property name='text' value='" + QByteArray(5'000'000, '>') + "'/>");
     EXPECT_EQ(write(read(raw).get()), QByteArray());
     EXPECT_EQ(write(read(node("<Property name='nodes'><List><Robot a='" + QByteArray(5'000'000, '>')
@@ -380,7 +380,7 @@ TEST_F(Xml, EverySavedFileCanBeRead)
                         .get()),
               QByteArray());
 
-    // As deep as objects can be, and one more, as an item and as the child of a property, alone and with
+    // The maximum nesting of objects, and one more, as an item and as the child of a property, alone and with
     // others.
     const std::unique_ptr<Node> root(Node::create(u"root"_s));
     Node *deepest = root.get();
@@ -399,7 +399,7 @@ TEST_F(Xml, EverySavedFileCanBeRead)
         EXPECT_FALSE(place->insertListPropertyItemAt(place->property("sorted"), item, 0));
         EXPECT_FALSE(place->changePropertyObjectValue(place->property("child"), item, true));
     }
-    // A root that was full gets an owner of its own by no door.
+    // A root of maximum depth cannot get an owner by any operation.
     const std::unique_ptr<Node> beyond(Node::create(u"beyond"_s));
     EXPECT_FALSE(beyond->addListPropertyItem(beyond->property("nodes"), root.get()));
 }
@@ -421,7 +421,7 @@ TEST_F(Xml, AFileThatWasReadAndSavedMeansTheSame)
         const QByteArray saved = write(loaded.get());
         EXPECT_TRUE(round == 0 || saved == xml) << round;
         xml = saved;
-        // The others get a name before or behind it.
+        // The others get a name before or after it.
         list->getListItemAtIndex(0)->setIdName(round == 1 ? u"zz"_s : u"ab"_s);
         EXPECT_EQ(static_cast<Node *>(read(write(loaded.get()))->property("sorted")->getListItem(u"bb"_s))
                       ->value("percent"),
@@ -429,7 +429,7 @@ TEST_F(Xml, AFileThatWasReadAndSavedMeansTheSame)
             << round;
     }
 
-    // Properties of one name are applied in turn.
+    // Properties with the same name are applied in order.
     const QByteArray items = "<Property name='nodes'><List><Node/></List></Property>";
     const std::unique_ptr<Node> twice =
         read(node("<Property name='percent' value='7'/>" + items + "<Property name='percent' value='50'/>"
@@ -439,7 +439,7 @@ TEST_F(Xml, AFileThatWasReadAndSavedMeansTheSame)
     EXPECT_EQ(twice->value("note"), u"x"_s);
     EXPECT_EQ(twice->property("nodes")->listItemNames(), (QStringList{u"node"_s, u"b"_s}));
     EXPECT_EQ(notes.size(), 3);
-    // An identifier of nothing would be read as another one after the next save.
+    // An empty identifier would be read as a different one after the next save.
     const std::unique_ptr<Node> nameless = read(node("<Property name='id' value='name: ;'/>"));
     EXPECT_EQ(nameless->getIdName(), u"node"_s);
     EXPECT_EQ(notes.size(), 1);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// XML, read by our tokenizer and by another reader into texts that can be compared.
+// Converts XML to comparable texts, once with our tokenizer and once with another reader.
 #pragma once
 
 #include "corvex/core/xml/private/XmlTokenizer.h"
@@ -9,13 +9,13 @@
 
 namespace Halvane::Corvex::Designer::XmlTexts {
 
-//! Blanks at the ends of a piece of text may be left out, and pieces end where chunks do.
+//! Blanks at the ends of a piece of text may be dropped, and pieces end where chunks end.
 inline QByteArray withoutBlanks(const QByteArray &text)
 {
     return text.simplified().replace(' ', "").toHex();
 }
 
-//! The tags and texts, in one text; "!" and a message for what is not well-formed.
+//! The tags and texts as one text; "!" and a message if it is not well-formed.
 inline QByteArray readByTokenizer(QIODevice &device, XmlPlace *place = nullptr)
 {
     device.open(QIODevice::ReadOnly | QIODevice::Unbuffered);

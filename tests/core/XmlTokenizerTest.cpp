@@ -12,7 +12,7 @@ namespace Halvane::Corvex::Designer::Test {
 
 namespace {
 
-//! Gives a byte at a time, so that each place of a text is the end of a chunk once.
+//! Delivers one byte at a time, so that a chunk ends at every position.
 class Dripping : public QBuffer
 {
 public:
@@ -91,7 +91,7 @@ TEST(XmlTokenizer, AgreesWithAnotherReaderOnEverything)
         Dripping bytes(&xml);
         const QByteArray found = XmlTexts::readByTokenizer(whole);
         const QByteArray expected = XmlTexts::readByQt(xml);
-        // The other reader leaves out half a character at the end, and knows more encodings.
+        // The other reader ignores an incomplete character at the end, and supports more encodings.
         const bool isBad = expected.startsWith('!') || QString::fromUtf8(xml).toUtf8() != xml
                            || found.contains("is declared as");
         ASSERT_EQ(found.startsWith('!'), isBad) << xml.data() << found.data() << expected.data();

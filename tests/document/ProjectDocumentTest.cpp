@@ -93,7 +93,7 @@ TEST_F(ProjectDocumentTest, AGestureIsOneStepOrNone)
     EXPECT_EQ(text(), last);
     ASSERT_TRUE(document->undo());
 
-    // Rolled back, it leaves even what could be redone.
+    // A rollback even keeps the redo steps.
     ASSERT_TRUE(document->beginGesture(u"Wheel"_s));
     ASSERT_TRUE(describe(u"x"_s) && addVariable(u"level2"_s) && describe(u"y"_s));
     document->select({document->project().variables()->getListItem(u"level2"_s)});
@@ -151,7 +151,7 @@ TEST_F(ProjectDocumentTest, ASaveThatCannotKeepFilesDropsTheHistory)
     EXPECT_TRUE(QFile::exists(image)) << "that was not saved";
     ASSERT_TRUE(deleteImage());
     QSignalSpy forgotten(&document->history(), &ProjectHistory::forgotten);
-    qputenv("TMPDIR", file.toLocal8Bit()); // no folder
+    qputenv("TMPDIR", file.toLocal8Bit()); // not a folder
     EXPECT_TRUE(document->save());
     qunsetenv("TMPDIR");
     EXPECT_FALSE(QFile::exists(image));
@@ -169,7 +169,7 @@ TEST_F(ProjectDocumentTest, ChangesByOtherProgramsAreReportedOnce)
     EXPECT_EQ(changedByOthers->size(), 0) << "our own save";
     const QByteArray ours = read(file);
     for (const QByteArray &theirs : {ours + '\n', ours + "\n\n"}) {
-        QFile::remove(file); // as version control does
+        QFile::remove(file); // like version control
         write(file, theirs);
         EXPECT_TRUE(changedByOthers->wait());
         QTest::qWait(300);

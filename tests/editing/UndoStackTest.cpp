@@ -28,7 +28,7 @@ DesignerObject *make(const char *className)
     return object;
 }
 
-//! A command that answers what the test wants and counts what is done with it.
+//! A command with configurable answers that counts its calls.
 class Step : public UndoCommand
 {
 public:
@@ -51,10 +51,10 @@ public:
     DesignerObject *active = nullptr;
     Deletion kind = Deletion::None;
     int done = 0;
-    int *total = nullptr; //!< of commands that may be gone when it is looked at
+    int *total = nullptr; //!< for commands that may be deleted before the check
 };
 
-//! A command that fails when the test wants it.
+//! A command that fails on request.
 class Fallible : public Step
 {
 public:
@@ -78,7 +78,7 @@ TEST(UndoStackTest, AFailedCommandIsDroppedWithAllThatDependOnIt)
     EXPECT_TRUE(stack.isSaved());
     EXPECT_EQ(saved.size(), 0);
 
-    // A composite takes back what its other children did; one that was done before fails when it is redone.
+    // A composite undoes its other children. One that was already done fails when it is redone.
     auto *first = new Step;
     auto *late = new UndoCommand;
     new Step({}, false, late);

@@ -13,7 +13,7 @@ namespace Halvane::Corvex::Examples {
 
 namespace {
 
-//! All expressions that an element holds, those of a logic builder's rules among them.
+//! All expressions of an element, including those in the rules of a logic builder.
 QList<GeneralDataList> expressionsOf(const Element &element)
 {
     QList<GeneralDataList> expressions;

@@ -12,7 +12,7 @@
 
 namespace Halvane::Corvex::Examples {
 
-//! Tests of whole projects: with the standard elements, the installed device models and a folder to write to.
+//! Tests of whole projects, with the standard elements, the installed device models and a folder for output.
 class ExampleTest : public testing::Test
 {
 protected:
@@ -39,7 +39,7 @@ protected:
         return file.readAll();
     }
 
-    //! What saving the project now would write.
+    //! The bytes that a save would write.
     QByteArray saved(const Designer::Project &project) const
     {
         const QString path = folder.filePath(QStringLiteral("saved.kdproj"));
@@ -48,7 +48,7 @@ protected:
         return bytesOf(path);
     }
 
-    //! Every fault in an object and below it, with its place.
+    //! Every problem in an object and below it, with its place.
     static QStringList faults(const Designer::DesignerObject &object)
     {
         QStringList found;
@@ -61,7 +61,7 @@ protected:
         return found;
     }
 
-    //! The names in the expressions of all screens that lead nowhere.
+    //! The unknown names in the expressions of all screens.
     static QStringList danglingNames(const Designer::Project &project);
 
     QTemporaryDir folder;

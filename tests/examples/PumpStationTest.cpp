@@ -86,7 +86,7 @@ TEST_F(PumpStationTest, UsesAllCommonClasses)
     }
 }
 
-//! What an expression gives is looked at by the tour, which runs with the tests of the command line.
+//! The tour, which runs with the tests of the command line, checks the values of the expressions.
 TEST_F(PumpStationTest, TheTourChecksEveryBinding)
 {
     static const QMap<QString, QString> targets{{u"textBinding"_s, u"text"_s},
@@ -112,7 +112,7 @@ TEST_F(PumpStationTest, TheTourChecksEveryBinding)
     EXPECT_GT(bindings, 20);
 }
 
-//! Everything is on the screen, and each text fits into its place and lies whole on what is behind it.
+//! Everything is on the screen, and each text fits into its place and is completely on its background.
 TEST_F(PumpStationTest, TextsFitAndAreReadable)
 {
     const std::unique_ptr<Project> project = load(projectFile);

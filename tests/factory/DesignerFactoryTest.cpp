@@ -16,7 +16,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Collects what is warned about.
+//! Collects warnings.
 class Warnings
 {
 public:
@@ -34,7 +34,7 @@ private:
     QtMessageHandler m_previous;
 };
 
-//! Names one class in the three tables, as the test wants them.
+//! Lists one class in the three tables, configured by the test.
 class OneClassFactory : public CoreFactory
 {
 public:

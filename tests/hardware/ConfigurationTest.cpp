@@ -139,7 +139,7 @@ TEST_F(ConfigurationTest, TheSwitchOfChipSelect)
 
 TEST_F(ConfigurationTest, AFileIsReadUnchanged)
 {
-    // In conflict with itself: to be reported, not to be mended behind the user's back.
+    // Conflicting channels are reported, not changed without notice.
     const auto configuration = makeBusy(u"VTR 50-K"_s);
     set(*configuration, configuration->enableRS485(), u"true"_s);
     set(*configuration, configuration->serialRS485Ports(), u"RECEIVE,SEND, DIRECTION, UNUSED"_s);
@@ -228,7 +228,7 @@ TEST_F(ConfigurationTest, ShowsTheDescriptionInTheUsersLanguage)
         QString locale, description, url;
     } rows[] = {
         {u"de_DE"_s, u"Anzeige"_s, u"x.de"_s},
-        {u"fr_CA"_s, u"Afficheur"_s, {}}, // of the language
+        {u"fr_CA"_s, u"Afficheur"_s, {}}, // from the language
         {u"it_IT"_s, {}, {}},             // cannot be read
         {u"es_ES"_s, {}, {}},
         {u"C"_s, {}, {}},

@@ -22,7 +22,7 @@ namespace {
 
 using Common::EnumHelper;
 
-//! A build that someone has sent, with a file beside it that is none of its own, and a server that waits.
+//! A build from somebody else, with a foreign file next to it, and a server that waits for requests.
 class BuildGuardTest : public Test
 {
 protected:
@@ -43,7 +43,7 @@ protected:
     QByteArray server() const { return "http://127.0.0.1:" + QByteArray::number(m_server.serverPort()); }
     static QByteArray fileUrl(const QString &path) { return QUrl::fromLocalFile(path).toEncoded(); }
 
-    //! What a screen with this inside leads to.
+    //! The problems of a screen with this body.
     QStringList problemsOf(const QByteArray &body, const char *script = "")
     {
         build.addScreen("Main", body);
@@ -65,8 +65,7 @@ protected:
 
 TEST_F(BuildGuardTest, AllowsOnlyTheFilesOfTheBuild)
 {
-    // In place of %1 stands an address, in place of %2 that of its folder. XMLHttpRequest takes no file at
-    // all.
+    // %1 is an address and %2 that of its folder. XMLHttpRequest cannot read files at all.
     static constexpr const char *documents[] = {
         "Image { source: '%1' }",
         "Image { source: 'own.png'; Component.onCompleted: source = '%1' }",
@@ -114,7 +113,7 @@ TEST_F(BuildGuardTest, AllowsNothingForAMissingFolder)
 TEST_F(BuildGuardTest, AllowsOnlyTheModulesOfScreens)
 {
     build.write(u"worker.js"_s, "Qt.include('" + fileUrl(outside.path(u"beside.js"_s)) + "')");
-    // Some come with the libraries of Qt, some as plug-ins, where they are installed.
+    // Some are part of the Qt libraries; others are plug-ins, if they are installed.
     static constexpr const char *documents[] = {
         "import QtQml.WorkerScript 2.0; WorkerScript { source: 'worker.js' }",
         "import QtQml.WorkerScript; WorkerScript { source: 'worker.js' }",

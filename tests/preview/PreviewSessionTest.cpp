@@ -243,7 +243,7 @@ TEST(PreviewSession, WritesOnlyItsOwnFile)
         EXPECT_FALSE(panel.isOpen) << content;
         EXPECT_TRUE(panel.error.contains(u"holds no saved values of a preview"_s)) << qPrintable(panel.error);
     }
-    // One that is exchanged while the panel runs is not written either.
+    // A file that was replaced while the panel runs is not written either.
     QFile::remove(state);
     {
         TestPanel panel(build, state);

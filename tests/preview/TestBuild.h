@@ -13,7 +13,7 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! The folder of a build, written by hand.
+//! The folder of a build, created by hand.
 class TestBuild
 {
 public:
@@ -21,7 +21,7 @@ public:
 
     QString path(const QString &name = QString()) const { return m_folder.filePath(name); }
     void write(const QString &name, const QByteArray &bytes) const;
-    //! The document of a screen with this inside.
+    //! Writes the document of a screen with this body.
     void addScreen(const QByteArray &name, const QByteArray &body) const;
     void addVariable(const QString &name, Common::EnumHelper::VariableType type, const QVariant &value,
                      bool isPersistent = false);
@@ -33,15 +33,15 @@ private:
     QVariantMap m_variables;
 };
 
-//! A session over a build, with a window that can be touched.
+//! A session that runs a build, with a window that can be touched.
 class TestPanel
 {
 public:
     explicit TestPanel(const TestBuild &build, const QString &stateFile = QString());
 
-    //! What the lines of a script, parted by ";", have to complain of.
+    //! The failures of a script, whose lines are separated by ";".
     QStringList run(const char *script);
-    //! "element: message" of all problems.
+    //! All problems as "element: message".
     QStringList problems();
     QString evaluate(const QString &code);
 

@@ -18,7 +18,7 @@ class AutosaveTest : public Test::ProjectFixture
 protected:
     void SetUp() override
     {
-        // Staging folders are looked for, so that they must not be those of another program.
+        // The test searches for staging folders, so they must not belong to another program.
         oldTemporary = qgetenv("TMPDIR");
         QDir().mkdir(path(u"temporary"_s));
         qputenv("TMPDIR", path(u"temporary"_s).toLocal8Bit());
@@ -37,7 +37,7 @@ protected:
 
     void edit() { project->undoStack()->QUndoStack::push(new QUndoCommand); }
 
-    //! Begins a run and waits for its end; its error.
+    //! Starts a run and waits for its end. Returns its error.
     QString run()
     {
         QSignalSpy finished(&project->autosave(), &ProjectAutosave::finished);
@@ -145,7 +145,7 @@ TEST_F(AutosaveTest, AFailedRunRestoresTheOldFile)
         EXPECT_FALSE(finished.at(i).at(0).toString().isEmpty());
         EXPECT_EQ(read(archive), bytes);
         EXPECT_FALSE(QFileInfo::exists(aside));
-        // As after a crash between the two names.
+        // The state after a crash between the two renames.
         ASSERT_TRUE(QFile::rename(archive, aside));
     }
     EXPECT_FALSE(project->autosave().checkStackIsSame()) << "it is still to be saved";

@@ -19,7 +19,7 @@
 
 namespace Halvane::Corvex::Designer::Test {
 
-//! A folder for projects that is gone after the test, and what tests do with projects and files.
+//! A folder for projects, deleted after the test, and helpers for projects and files.
 class ProjectFixture : public testing::Test
 {
 protected:
@@ -31,7 +31,7 @@ protected:
     {
         return std::unique_ptr<Project>(make<Project>(QStringLiteral("Project"), name));
     }
-    //! With a configuration and the screen "Main", but without a file.
+    //! Has a configuration and the screen "Main", but no file.
     static std::unique_ptr<Project> makeProject(const QString &name = QStringLiteral("Pumps"))
     {
         std::unique_ptr<Project> project = makeEmptyProject(name);
@@ -50,7 +50,7 @@ protected:
         EXPECT_TRUE(project.addListPropertyItem(list, item));
         return item;
     }
-    //! A picture in the images folder and its resource.
+    //! Adds an image file and its resource.
     static ImageResource *addImage(Project &project, const QString &name)
     {
         writePicture(project.imagesPath() + QLatin1Char('/') + name);
@@ -77,7 +77,7 @@ protected:
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
         return file.readAll();
     }
-    //! All files below the folder, relative to it, sorted.
+    //! All files below the folder, with relative paths, sorted.
     static QStringList filesIn(const QString &path)
     {
         QStringList files;

@@ -14,7 +14,7 @@ namespace {
 class ScreenTest : public Test::ProjectFixture
 {
 protected:
-    //! Groups stand in for all visual elements here: the core makes no others.
+    //! Groups represent all visual elements here, because the core has no others.
     GroupElement *addGroup(const QString &name, DesignerObject *to = nullptr)
     {
         auto *group = make<GroupElement>(u"GroupElement"_s, name);
@@ -39,7 +39,7 @@ protected:
     Screen *const screen = static_cast<Screen *>(project->screens()->listItems().constFirst());
 };
 
-//! Does something once its screen is there.
+//! Does something once its screen is set.
 class Starter : public GroupElement
 {
 public:

@@ -250,7 +250,7 @@ TEST_F(RuntimeConfigurationTest, WritesThreeFilesOrReportsWhyNot)
     addVariable(u"NumberVariable"_s, u"level"_s, {{u"value"_s, u"62.5"_s}});
     addVariable(u"StringVariable"_s, u"level10"_s, {{u"value"_s, u"x"_s}});
     addVariable(u"NumberVariable"_s, u"level9"_s, {{u"value"_s, u"y"_s}});
-    // Two of one name, which is a problem and no reason to write what cannot be read.
+    // Two variables with the same name are a problem, but the file must remain readable.
     addVariable(u"NumberVariable"_s, u"level2"_s, {{u"value"_s, u"2"_s}});
     DesignerObject *twin = project->getItemInListProperty(u"variables"_s, u"level2"_s);
     twin->setIdName(u"level9"_s);
@@ -266,7 +266,7 @@ TEST_F(RuntimeConfigurationTest, WritesThreeFilesOrReportsWhyNot)
         EXPECT_EQ(Common::FileHelper::fileToVariant(folder.filePath(name), &ok), QVariant(map));
         EXPECT_TRUE(ok) << qPrintable(name);
     }
-    // The variables are written one by one.
+    // The variables are written one at a time.
     const QString whole = folder.filePath(u"whole"_s);
     ASSERT_TRUE(Common::FileHelper::variantToFile(configuration.configMap(), whole, false));
     EXPECT_EQ(Common::FileHelper::md5(folder.filePath(u"config.kdrc"_s)), Common::FileHelper::md5(whole));

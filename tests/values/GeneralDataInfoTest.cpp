@@ -67,7 +67,7 @@ TEST(GeneralDataInfo, TextForm)
         EXPECT_TRUE(ok) << qPrintable(text);
         EXPECT_EQ(c.term.toString(), text);
     }
-    // Digits are read in either case.
+    // Digits are read in upper and lower case.
     EXPECT_EQ(Info(u"020d0aff"_s).value(), u"0AFF");
     EXPECT_EQ(Info(u"020880ff000a"_s).value(), u"#80FF000A");
     EXPECT_EQ(Info(u"0204-00"_s).value(), u"0");
@@ -84,13 +84,13 @@ TEST(GeneralDataInfo, RefusedTexts)
         EXPECT_EQ(Info(text, &ok), Info());
         EXPECT_FALSE(ok) << qPrintable(text);
     }
-    // A value that is none of its type never reads back as another one.
+    // A value that does not match its type never reads back as another value.
     EXPECT_EQ(constant(Info::IntegerData, u"abc"_s).toString(), u"0204");
 }
 
 namespace {
 
-//! Whatever the value is, there is code only of types that go together, and of known shapes.
+//! Whatever the value, there is code only for types that fit together, and only in known shapes.
 void writesNothingForeign(Info &term)
 {
     const QStringList values{
@@ -106,7 +106,7 @@ void writesNothingForeign(Info &term)
                 continue;
             EXPECT_TRUE(term.isValidValueType() && term.isValidDataType() && term.isValidValue())
                 << qPrintable(term.toString()) << " gives " << qPrintable(code);
-            // Digits stand as they are, and so does the path of a reference.
+            // Digits are written unchanged, as is the path of a reference.
             const bool isBare = term.valueType() == Info::CommandValue || term.dataType() == Info::HexData
                                 || term.dataType() == Info::ReferenceData;
             EXPECT_TRUE(foreignCode(code).isEmpty() || (isBare && code == value))
@@ -325,7 +325,7 @@ TEST(GeneralDataInfo, TranslatesToEachOutput)
     }
     EXPECT_EQ(variable(Info::NumberData, u"a\"b%1%2"_s).toQmlString(Info::FloatOutput),
               u"qmlViewer.getVariableValue(\"a\\\"b%1%2\")");
-    // Halves go upwards, and nothing overflows.
+    // Halves round up, and nothing overflows.
     EXPECT_EQ(constant(Info::FloatData, u"2.5"_s).toQmlString(Info::IntegerOutput), u"3");
     EXPECT_EQ(constant(Info::FloatData, u"-2.6"_s).toQmlString(Info::IntegerOutput), u"-3");
     EXPECT_EQ(constant(Info::FloatData, u"1e19"_s).toQmlString(Info::IntegerOutput), u"10000000000000000000");
@@ -391,7 +391,7 @@ TEST(GeneralDataInfo, RenamesWholeNames)
         Info term;
         const char16_t *oldName, *newName;
         Info::NameKind kind;
-        const char16_t *value; // null: not found
+        const char16_t *value; // null if it is not found
     };
     const Info nested = element(Info::ColorData, u"group1.rect1.color"_s);
     const Info speed = variable(Info::NumberData, u"speed"_s);

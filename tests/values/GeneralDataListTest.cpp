@@ -10,7 +10,7 @@ using List = GeneralDataList;
 
 namespace {
 
-//! The expression of a text form, which has to be right.
+//! The expression with that text form, which must be valid.
 List list(const QString &text)
 {
     bool ok = false;
@@ -52,7 +52,7 @@ TEST(GeneralDataList, ReadsLongTexts)
     bool ok = true;
     EXPECT_TRUE(List(u"<"_s + u"><"_s.repeated(count) + u">"_s, &ok).isEmpty());
     EXPECT_FALSE(ok);
-    // A path in which the name nearly stands at every place.
+    // A path in which the name almost matches at every position.
     List path;
     path.append(Info::ObjectValue, Info::ColorData, u"rect.rec."_s.repeated(count / 10) + u"rect1.color"_s);
     EXPECT_EQ(path.replaceObject(u"rect1"_s, u"box"_s), 1);
@@ -89,7 +89,7 @@ TEST(GeneralDataList, ListOperations)
     EXPECT_FALSE(none.startsWith(Info()) || none.endsWith(Info()));
 }
 
-//! The sanitizers see what outlives its list.
+//! The sanitizers detect references that outlive their list.
 TEST(GeneralDataList, AppendsToTemporaryLists)
 {
     const GeneralDataInfo term(GeneralDataInfo::ConstantValue, GeneralDataInfo::IntegerData, u"7"_s);
@@ -109,7 +109,7 @@ TEST(GeneralDataList, ChecksTermsAsTheGivenKind)
     {
         const char16_t *text;
         std::array<const char *, 3>
-            passes; // value types, data types, values; a digit for each kind that passes
+            passes; // value types, data types, values; one digit for each accepting kind
     };
     const Case cases[]{
         {u"", {"01234", "01234", "01234"}},
@@ -163,8 +163,9 @@ TEST(GeneralDataList, TranslatesExpressions)
         {u"<0406a><0101?>", List::MathExpression, Info::RawOutput, u""},
         {u"<0502concat><0407a><0101,><0207Ig==><0101)>", List::StringExpression, Info::RawOutput,
          u"\"\".concat( qmlViewer.getVariableValue(\"a\") , \"\\\"\" )"},
-        // What would run: a text of wrong types, a value that is called, the end of a text behind a "/" that
-        // begins a regular expression. A condition that is made a text or a color always holds.
+        // Code that would be executed: a text with wrong types, a value that is called, the rest of a text
+        // after a "/" that begins a regular expression. A condition converted to a text or a color is always
+        // true.
         {u"0707alert(1)", List::GeneralExpression, Info::RawOutput, u""},
         {u"<0307a.constructor.constructor><0101(><0207YQ==><0101)><0101(><0101)>", List::StringExpression,
          Info::StringOutput, u""},

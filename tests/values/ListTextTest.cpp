@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Lists and maps of free texts, which read back whatever is put into them.
+// Lists and maps of free texts, which must read back unchanged.
 #include "corvex/values/records/ListInfo.h"
 #include "corvex/values/records/MapInfo.h"
 #include "corvex/values/text/NestedText.h"

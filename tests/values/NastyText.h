@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-//! Texts made of what separators, escapes and blanks are made of: the same ones in every run.
+//! Random texts of separators, escapes and blanks; the same in every run.
 class NastyText
 {
 public:

@@ -21,7 +21,7 @@ struct Row
     QString text, expected;
 };
 
-//! Each text read as a record and printed again, or "refused", which leaves a default record behind.
+//! Reads each text as a record and prints it again. "refused" must leave a default record.
 template<class Record, size_t Count>
 void expectCanonical(const Row (&rows)[Count])
 {

@@ -12,7 +12,7 @@ namespace {
 UpdateObjectInfo nastyUpdate(NastyText &nasty)
 {
     UpdateObjectInfo info;
-    // Half of the fields stay empty, so that updates with nothing set occur as well.
+    // Half of the fields are empty, so that updates that set nothing occur, too.
     const auto text = [&nasty] { return nasty.number(2) == 0 ? QString() : nasty.text(); };
     info.setName(text());
     info.setParentProperty(text());

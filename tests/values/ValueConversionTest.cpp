@@ -18,7 +18,7 @@ namespace {
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-//! What the real form is by its definition, slowly.
+//! A slow implementation of the definition of the real form.
 QString definedRealForm(double value, int decimals)
 {
     QString text = QString::number(value, 'f', decimals);
@@ -29,7 +29,7 @@ QString definedRealForm(double value, int decimals)
     return text.endsWith(u'.') ? text.chopped(1) : text;
 }
 
-//! The text after a round trip, or "refused".
+//! The text after reading and printing, or "refused".
 template<class Value>
 QString canonical(Value (*read)(QStringView, bool *), const QString &text)
 {
@@ -100,7 +100,7 @@ TEST(ValueConversion, RealTextForCode)
     EXPECT_EQ(ValueConversion::toQmlString(-infinity, 3), u"-Infinity"_s);
 }
 
-//! The fast ways of printing and reading agree with the toolkit's to the last bit.
+//! The fast printing and reading must agree with the toolkit to the last bit.
 TEST(ValueConversion, RealsEqualThoseOfTheToolkit)
 {
     std::mt19937_64 random(7);
@@ -249,7 +249,7 @@ TEST(ValueConversion, Font)
               -2);
     EXPECT_TRUE(ok);
 
-    // The font holds 64ths and cuts the rest: what it prints must not shrink from reading to reading.
+    // The font stores 64ths and truncates the rest. The value must not shrink with each reading.
     for (int fraction = -64; fraction <= 64; ++fraction) {
         const QString spacing = ValueConversion::toString(fraction / 64.0);
         const QString text = QString(printed)
@@ -315,7 +315,7 @@ TEST(ValueConversion, GradientStops)
                                      {u"0.999,red|1,blue"_s, u"0.99, #FFFF0000 | 1, #FF0000FF"_s},
                                      {u"0, red, blue"_s, u"refused"_s},
                                      {u""_s, u"refused"_s}});
-    // A hundredth that falls short of itself as a double would sink by one each time it is printed.
+    // A hundredth that is slightly too small as a double would decrease with each printing.
     for (int hundredth = -100; hundredth <= 100; ++hundredth) {
         const QString text = u"%1, #FF000000"_s.arg(ValueConversion::toString(hundredth / 100.0));
         EXPECT_EQ(canonical<QGradientStops>(ValueConversion::toGradientStops, text), text);

@@ -40,7 +40,7 @@ QString problem(const GeneralDataList &terms)
     return error;
 }
 
-//! Where the fields are among the terms of the first parameter, behind the three of the head.
+//! The positions of the fields in the first parameter, after the three terms of the head.
 enum Place { Pgn, Priority, Source, Spn, Units, Byte, Bit, Length, Offset, Minimum, Maximum, Scaling };
 
 TEST(CanParameterMap, IdentifierHas29Bits)

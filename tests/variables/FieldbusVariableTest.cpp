@@ -99,7 +99,7 @@ TEST(BACnetDevice, RequiresAPasswordOnceItIsEnabled)
     change(*device, u"pwdEnabled", u"false"_s);
     EXPECT_TRUE(device->isValid());
 
-    // What a file says is shown as if it had been edited.
+    // Values from a file affect the visibility like edits.
     change(*device, u"upgradable", u"true"_s);
     const std::unique_ptr<DesignerObject> copy(DesignerObject::createCopy(device.get()));
     ASSERT_TRUE(copy);

@@ -10,7 +10,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A new variable as the application makes it; null when no factory knows the class.
+//! A new variable, created as in the application; null if no factory knows the class.
 inline std::unique_ptr<ProjectVariable> makeVariable(const QString &className)
 {
     static const bool isReady = DesignerFactory::createInstance(QDir::currentPath());
@@ -27,7 +27,7 @@ inline bool change(ProjectVariable &variable, QStringView id, const QString &tex
     return variable.changePropertyValue(variable.getProperty(id), text);
 }
 
-//! What is wrong with the text \a text in the property \a id of a new variable; empty when nothing is.
+//! The error for \a text in the property \a id of a new variable; empty if it is valid.
 inline QString errorOf(const QString &className, QStringView id, const QString &text)
 {
     const std::unique_ptr<ProjectVariable> variable = makeVariable(className);

@@ -42,7 +42,7 @@ protected:
         return sandbox.run(QStringList{u"build"_s, pump, u"-o"_s, folder} + options);
     }
 
-    //! Takes the title away: a screen without elements is a problem.
+    //! Removes the title: a screen without elements is a problem.
     void spoil() const
     {
         QByteArray text = sandbox.read(pump);
@@ -65,7 +65,7 @@ TEST_F(BuildVerb, PutsTheBuildIntoItsFolder)
     EXPECT_EQ(sandbox.files(u"out/new/%1 ä"_s), builtFiles);
     EXPECT_TRUE(sandbox.read(u"out/new/%1 ä/project/qml_Main.qml"_s).contains("Pump %1"));
 
-    // Again, over the build of before and into an empty folder.
+    // Again, over the earlier build and into an empty folder.
     sandbox.write(u"out/new/%1 ä/project/qml_Gone.qml"_s, "");
     QDir().mkpath(sandbox.path(u"empty"_s));
     EXPECT_EQ(build(u"out/new/%1 ä"_s).code, 0);
@@ -84,7 +84,7 @@ TEST_F(BuildVerb, ContainsOnlyResourcesOfTheProject)
     sandbox.write(u"Pump/Images/old.png"_s, "mine");
     EXPECT_EQ(build(u"out"_s).code, 0);
     EXPECT_EQ(sandbox.files(u"out"_s), builtFiles);
-    // What the project does not name any more is a part of the earlier build all the same.
+    // A file that the project no longer names is still part of the earlier build.
     sandbox.write(u"Pump/Images/odd.dat"_s, "odd");
     const QByteArray text = sandbox.read(pump);
     sandbox.write(pump, QByteArray(text).replace("pump.png", "odd.dat"));
@@ -99,7 +99,7 @@ TEST_F(BuildVerb, LeavesNoTraceElsewhere)
 {
     const QDir builds(u"/tmp/corvex-%1/Halvane/CorvexNova/Designer"_s.arg(QString::number(getuid())));
     const QStringList before = builds.entryList();
-    // What a build that was killed has left goes, too.
+    // The remains of a killed build are removed, too.
     ASSERT_TRUE(builds.mkpath(u"{5d4a1c1e-0000-4000-8000-000000000000}/project"_s));
     ASSERT_EQ(build(u"out"_s).code, 0);
     sandbox.write(u"mine/letter.txt"_s, "");

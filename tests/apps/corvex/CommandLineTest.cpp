@@ -18,7 +18,7 @@ using testing::StartsWith;
 
 namespace {
 
-//! Runs a line of a shell.
+//! Runs a shell command.
 ProgramRun shell(const QString &line, const QStringList &variables = {})
 {
     QProcess process;
@@ -101,7 +101,7 @@ TEST(CommandLine, RefusesWrongUsage)
 
 TEST(CommandLine, HandlesClosedAndFullPipes)
 {
-    // Nobody reads any more by the time that there is something to read.
+    // The reader is gone before anything is written.
     EXPECT_EQ(shell(u"set -o pipefail; { sleep 0.2; \"$CORVEX\" help; } | true"_s).code, 0);
     const ProgramRun full = shell(u"\"$CORVEX\" help >/dev/full"_s);
     EXPECT_EQ(full.code, 3);

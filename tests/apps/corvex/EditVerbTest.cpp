@@ -178,7 +178,7 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
     EXPECT_EQ(sandbox.run({u"edit"_s, pump, u"nowhere"_s}).code, 3);
     EXPECT_EQ(sandbox.run({u"edit"_s, pump, u"/dev/zero"_s}).code, 3);
 
-    // All wrong lines are named, but none that is wrong only since another one is.
+    // All wrong lines are reported, except those that only fail because of another one.
     const ProgramRun all = edit("add Text Mian note\nset Main.note.text a\nset Main.titel.text b\nundo 1 2\n"
                                 "rename Main.title box1\nset Main.box1.opactiy 1\nundo\nset Main.x 1\n");
     EXPECT_EQ(all.error.count(u'\n'), 6);
@@ -186,7 +186,7 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
          {u"script:1: "_s, u"script:3: "_s, u"script:4: "_s, u"script:5: "_s, u"script:6: "_s}) {
         EXPECT_TRUE(all.error.contains(start)) << qPrintable(all.error);
     }
-    // A path that leads nowhere takes no time, however long it is.
+    // A path that does not exist takes no time, even if it is long.
     EXPECT_LT(edit("set " + QByteArray(1'000'000, '.') + " 1\n").error.size(), 5000);
 }
 
@@ -276,7 +276,7 @@ added GroupElement First.trio
     const ProgramRun models = sandbox.run({u"diff"_s, old, pump});
     EXPECT_EQ(models.out, u"changed VTR 50-S.id: name: VTR 50-S; -> name: VTR 50-K;\n"_s);
     EXPECT_EQ(models.code, 1);
-    // git's own arguments, and another content of an image of the same name.
+    // git's own arguments, and an image with the same name and other contents.
     const QStringList hash{u"0000000"_s, u"100644"_s};
     const ProgramRun git =
         sandbox.run(QStringList{u"diff"_s, u"--git"_s, pump, old} + hash + QStringList{pump} + hash);
@@ -388,7 +388,7 @@ TEST_F(EditVerb, TwoConcurrentEditsAreBothSaved)
                                         .arg(i == 0 ? u"title.text"_s : u"box1.opacity"_s, value, names[i])
                                         .toUtf8());
         }
-        // A build beside them has the images that it names.
+        // An older build next to the projects contains its images.
         const QList<QStringList> calls{{u"edit"_s, pump, names[0]},
                                        {u"edit"_s, pump, names[1]},
                                        {u"build"_s, pump, u"--force"_s, u"-o"_s, u"out"_s}};
@@ -451,7 +451,7 @@ TEST_F(EditVerb, AProjectThatCouldNotBeOpenedAgainIsNotSaved)
     EXPECT_EQ(sandbox.read(pump), before);
 }
 
-//! All files that the example has after the lines.
+//! All files of the example after these edits.
 struct EditedExample
 {
     explicit EditedExample(const QByteArray &lines)

@@ -99,7 +99,7 @@ TEST_F(ExchangeVerbs, ExportPrintsOrWritesFiles)
     EXPECT_EQ(sandbox.files(u"ede"_s).size(), 4);
 
     EXPECT_EQ(sandbox.run({u"export"_s, u"can"_s, pump, u"-o"_s, pump}).code, 3);
-    // A project from elsewhere may be called like a place outside of DIR.
+    // The name of a foreign project may be a path outside of DIR.
     sandbox.write(pump, sandbox.read(pump).replace("name: Pump;", "name: ../Pump;"));
     EXPECT_EQ(sandbox.run({u"export"_s, u"modbus"_s, pump, u"-o"_s, u"new/dir"_s}).code, 3);
     EXPECT_FALSE(sandbox.files(u"new"_s).contains(u"Pump_Modbus.csv"_s));

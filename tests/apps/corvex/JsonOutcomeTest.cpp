@@ -10,7 +10,7 @@
 using namespace Halvane::Corvex::Test;
 using namespace Qt::StringLiterals;
 
-// What every verb prints with --json, however it ends: one object.
+// With --json, every verb prints exactly one object, whatever the outcome.
 TEST(JsonOutcome, IsOneObjectForEveryVerbAndEveryOutcome)
 {
     const Sandbox sandbox;
@@ -29,7 +29,7 @@ TEST(JsonOutcome, IsOneObjectForEveryVerbAndEveryOutcome)
     {
         QString call;
         int code;
-        QString member; //!< that the object must have
+        QString member; //!< a required member of the object
     } cases[] = {
         {u"help"_s, 0, u"verbs"_s},
         {u"help check"_s, 0, u"usage"_s},

@@ -92,7 +92,7 @@ TEST_F(PreviewVerb, InspectsTheScreensForCheck)
                          "Main.title: There is no variable \"none\".\n"_s);
     EXPECT_EQ(check.code, 1);
 
-    // What cannot be built is told with the reasons.
+    // A project that cannot be built is reported with the reasons.
     sandbox.write(u"none.kdproj"_s, "<Project><Properties><Property name=\"id\" value=\"name: None;\"/>"
                                     "</Properties></Project>");
     const ProgramRun none = sandbox.run({u"check"_s, u"none.kdproj"_s, u"--screens"_s});
@@ -126,7 +126,7 @@ TEST_F(PreviewVerb, CannotReachTheRestOfTheMachine)
     EXPECT_TRUE(run.error.contains(u". false "_s)) << qPrintable(run.error);
     EXPECT_EQ(sandbox.files(u"."_s).filter(u"sent.png"_s), QStringList());
 
-    // Markup asks no engine about the files that it names.
+    // Images in markup bypass the engine's checks.
     QImage secret(8, 8, QImage::Format_RGB32);
     secret.fill(Qt::red);
     ASSERT_TRUE(secret.save(sandbox.path(u"secret.png"_s)));

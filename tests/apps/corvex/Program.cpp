@@ -51,8 +51,8 @@ ProgramRun corvex(const QStringList &arguments, const QString &folder, long deni
 {
     QProcess process;
     process.setWorkingDirectory(folder);
-    // The search for leaks at the end of a program that has loaded libraries by itself crashes now and then
-    // in the search itself. The tests of the rooms look for leaks in the same code.
+    // The leak checker sometimes crashes at the end of a program that has loaded libraries. Other tests check
+    // the same code for leaks.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"ASAN_OPTIONS"_s, environment.value(u"ASAN_OPTIONS"_s) + u":detect_leaks=0"_s);
     process.setProcessEnvironment(environment);

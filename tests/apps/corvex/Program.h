@@ -7,18 +7,19 @@
 
 namespace Halvane::Corvex::Test {
 
-//! What a run of the program left behind.
+//! The result of a run of the program.
 struct ProgramRun
 {
-    int code = -1; //!< -1 when the program could not be run to its end
+    int code = -1; //!< -1 if the program did not end normally
     QString out;
     QString error;
 
-    //! The output as JSON; undefined when it is none.
+    //! The output as JSON; undefined if it is not JSON.
     QJsonValue json() const;
 };
 
-//! Runs the program in \a folder, the current one unless given, on a system that lacks a system call.
+//! Runs the program in \a folder, by default the current one, on a system that lacks the system call \a
+//! denied.
 ProgramRun corvex(const QStringList &arguments, const QString &folder = {}, long denied = -1);
 
 } // namespace Halvane::Corvex::Test

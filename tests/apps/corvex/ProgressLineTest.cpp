@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a person sees at a terminal while the program works.
+// The output on a terminal while the program works.
 #include "corvex/common/files/FolderLock.h"
 
 #include "Sandbox.h"
@@ -18,7 +18,7 @@ namespace Halvane::Corvex::Test {
 
 namespace {
 
-//! Standard error of \a arguments on a terminal, while the folder is locked for some time.
+//! The output on standard error in a terminal, while the folder is locked for some time.
 QByteArray seen(const QStringList &arguments, const QString &locked, int milliseconds)
 {
     const int terminal = posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
@@ -46,7 +46,7 @@ TEST(ProgressLineTest, LongWorkShowsALineAndClearsIt)
     sandbox.makeProject({});
     const QString file = sandbox.path(u"Pump/Pump.kdproj"_s);
     const QString folder = sandbox.path(u"Pump"_s);
-    constexpr int longer = 1500; // than the work for which nothing is shown
+    constexpr int longer = 1500; // longer than work for which nothing is shown
     const QByteArray line = seen({u"tree"_s, file}, folder, longer);
     EXPECT_TRUE(line.contains("Waiting for others that work on ")) << line.constData();
     EXPECT_TRUE(line.endsWith("\r\033[K")) << line.constData();

@@ -17,7 +17,7 @@ namespace {
 
 const QString pump = u"Pump/Pump.kdproj"_s;
 
-//! A sandbox with a red rectangle, turned by a quarter about its centre, on a screen that is white.
+//! A sandbox with a red rectangle, rotated by 90 degrees about its centre, on a white screen.
 class RenderVerb : public testing::Test
 {
 protected:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Commands for objects that are not there, not in this project, or there twice, and for files and folders
-// that do not do as they are told.
+// Commands for objects that do not exist, belong to another project or are given twice, and for files and
+// folders that cause errors.
 #include "corvex/editing/commands/ChangeConfiguration.h"
 #include "corvex/editing/commands/RenameProject.h"
 #include "corvex/editing/commands/groups/GroupCommand.h"
@@ -58,7 +58,7 @@ protected:
     {
         return QDir(project->imagesPath()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
-    //! Pushes a command that must not be done and must leave no trace, not even once it is undone.
+    //! Pushes a command that must fail without a trace, even after an undo.
     void refuse(UndoCommand *command)
     {
         const QString before = text();
@@ -182,7 +182,7 @@ TEST_F(BadInputTest, ObjectsWithoutAnOwnerOrOfAnotherProject)
         refuse(command);
     }
     EXPECT_EQ(DesignerObject::toString(foreign.get()), theirs);
-    // An object that is named twice is meant once, and a user of another project is none.
+    // An object that is given twice counts once. Uses in another project are ignored.
     push(new DeleteObjectsAndCheckFilters({rectangle1, rectangle1}, main));
     push(new AddImage(make(u"ImageResource"_s, u"new.png"_s), file, project.get(), {nullptr, text1}));
     EXPECT_EQ(DesignerObject::toString(foreign.get()), theirs);
@@ -193,16 +193,16 @@ TEST_F(BadInputTest, FilesThatAppearAndDisappear)
     const QString file = picture(u"new.png"_s);
     const QString images = project->imagesPath() + u'/';
     const QString first = text();
-    // Gone between the command and its doing.
+    // Removed before the command is done.
     auto *late = new AddImage(make(u"ImageResource"_s, u"late.png"_s), picture(u"late.png"_s), project.get());
     QFile::remove(folder.filePath(u"late.png"_s));
     refuse(late);
-    // Onto a file that is there, of no image in the project.
+    // A file with that name exists but belongs to no image of the project.
     writePicture("stray.png", Qt::green);
     refuse(new RenameImage(object(u"pump.png"_s), u"stray.png"_s));
     refuse(new AddImage(make(u"ImageResource"_s, u"stray.png"_s), file, project.get()));
     refuse(new ReplaceImage(object(u"pump.png"_s), file, u"stray.png"_s));
-    // Gone between the doing and the undoing: the history goes on without the file.
+    // Removed between redo and undo: the history continues without the file.
     push(new AddImage(make(u"ImageResource"_s, u"added.png"_s), file, project.get()));
     push(new RenameImage(object(u"added.png"_s), u"renamed.png"_s));
     push(new ReplaceImage(object(u"pump.png"_s), file, u"pump.png"_s));
@@ -215,7 +215,7 @@ TEST_F(BadInputTest, FilesThatAppearAndDisappear)
     stack().setIndex(stack().count());
     EXPECT_EQ(text(), last);
     EXPECT_EQ(files(), (QStringList{u"pump.png"_s, u"renamed.png"_s}));
-    // A picture without a file is given one, and loses it again.
+    // A resource without a file gets one, and loses it again.
     QFile::remove(images + u"pump.png"_s);
     push(new ReplaceImage(object(u"pump.png"_s), file, u"pump.png"_s));
     stack().undo();
@@ -238,7 +238,7 @@ TEST_F(BadInputTest, AFullDisk)
     refuse(new AddImageFromData(QImage(file), main, {}));
     setrlimit(RLIMIT_FSIZE, &usual);
     std::signal(SIGXFSZ, ignored);
-    // Nor is there a folder for them.
+    // There is no folder for them either.
     QDir(project->imagesPath()).removeRecursively();
     QFile(project->imagesPath()).open(QIODevice::WriteOnly);
     refuse(new AddImage(make(u"ImageResource"_s, u"new.png"_s), file, project.get()));

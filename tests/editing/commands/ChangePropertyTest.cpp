@@ -43,7 +43,7 @@ TEST_F(ChangePropertyTest, TextsAndValues)
 
 TEST_F(ChangePropertyTest, AQuietRefusalChangesNothingElse)
 {
-    // No reference may follow a name that the object did not get.
+    // If the object does not get the name, no reference may change.
     ASSERT_TRUE(set(element("button1"), "visualElement", linkTo(u"rectangle1"_s)));
     const QString before = text();
     EXPECT_FALSE(stack().push(new ChangeProperty(element("rectangle1")->idProperty(),
@@ -108,7 +108,7 @@ TEST_F(ChangePropertyTest, ANameThatTheRulesRefuseIsNotSet)
     EXPECT_EQ(text(), before);
     EXPECT_TRUE(element("rectangle1")->idProperty()->isValid()) << "a trial leaves no mark";
 
-    // In a composite a name may become free on the way.
+    // Within a composite a name may become free.
     auto *exchange = new UndoCommand;
     const auto rename = [&](const char *from, const QString &to) {
         new ChangeProperty(element(from)->idProperty(), named(element(from), to), false, exchange);

@@ -17,8 +17,8 @@
 
 namespace Halvane::Corvex::Designer::Test {
 
-/*! A saved project with two screens, a variable of each kind that is referred to, a picture, and an element
-   of each class that refers to others. */
+//! A saved project with two screens, a variable of each referenced kind, an image, and an element of each
+//! class that refers to others.
 class CommandFixture : public testing::Test
 {
 protected:
@@ -61,7 +61,7 @@ protected:
         EXPECT_TRUE(list->parentObject()->addListPropertyItem(list, item)) << name;
         return item;
     }
-    //! An element named by its class with the next number: "rectangle2".
+    //! Adds an element named after its class with the next number: "rectangle2".
     static DesignerObject *addTo(Screen *screen, const char *className)
     {
         QString base = QString::fromLatin1(className);
@@ -81,7 +81,7 @@ protected:
     {
         return project->variables()->getListItem(QString::fromLatin1(name));
     }
-    //! Finds an object by its name, wherever it is.
+    //! Finds an object anywhere by its name.
     DesignerObject *object(const QString &name) const
     {
         for (const SharedProperty &list :
@@ -105,7 +105,7 @@ protected:
     {
         return owner->changePropertyValue(property(owner, id), text) && value(owner, id) == text;
     }
-    //! Pushes a command that is expected to be done.
+    //! Pushes a command that must succeed.
     template<class Command>
     Command *push(Command *command)
     {
@@ -114,7 +114,7 @@ protected:
         return command;
     }
     UndoStack &stack() const { return *project->undoStack(); }
-    //! The project as it would be saved.
+    //! The saved form of the project.
     QString text() const { return DesignerObject::toString(project.get()); }
 
     QTemporaryDir folder;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The commands that are chosen by the kind of an object: each does its work, and undo leaves no trace.
+// The commands that depend on the kind of an object: each does its work, and undo restores everything.
 #include "corvex/editing/commands/Commands.h"
 #include "corvex/editing/commands/groups/GroupCommand.h"
 #include "corvex/project/elements/GroupElement.h"
@@ -34,8 +34,7 @@ protected:
 
     DesignerObject *find(const char *name) const { return object(QString::fromLatin1(name)); }
     QStringList files() const { return QDir(project->imagesPath()).entryList(QDir::Files, QDir::Name); }
-    //! Pushes a command that is expected to be there, and looks whether undo and redo come back to the same
-    //! project and files.
+    //! Pushes a command, which must exist, and checks that undo and redo restore the same project and files.
     void walk(PlannedCommand planned, const QString &title)
     {
         ASSERT_TRUE(planned) << qPrintable(planned.reason);
@@ -149,7 +148,7 @@ TEST_F(KindCommands, EachKindIsDuplicatedUnderAFreeName)
     EXPECT_EQ(group->childrenNames(), (QStringList{u"rectangle4"_s, u"text2"_s, u"rectangle5"_s}));
     EXPECT_EQ(group->indexes()->valueString(), u"rectangle4 | text2 | rectangle5"_s);
     EXPECT_EQ(value(find("group1"), "indexes"), u"rectangle1 | text1 | rectangle3"_s);
-    // A name that means something else, and a stem that is too long for a number.
+    // A name with another meaning, and a stem that leaves no room for a number.
     add(project->variables(), "NumberVariable", "atan1");
     duplicate({"atan1"}, u"Duplicate \"atan1\""_s);
     EXPECT_TRUE(find("atan3"));
@@ -161,7 +160,7 @@ TEST_F(KindCommands, EachKindIsDuplicatedUnderAFreeName)
 
 TEST_F(KindCommands, DuplicatesReferToEachOther)
 {
-    // In another order than that of the screen, one of them inside another one.
+    // In another order than on the screen, with one of them inside another.
     duplicate({"image1", "filter1", "group1", "rectangle1", "rectangle2", "button1", "speed"},
               u"Duplicate 6 objects"_s);
     EXPECT_EQ(value(find("button2"), "visualElement"),
@@ -180,7 +179,7 @@ TEST_F(KindCommands, DuplicatesReferToEachOther)
     EXPECT_EQ(isBelow("rectangle3", "image2"), isBelow("rectangle2", "image1"));
     EXPECT_TRUE(isBelow("image1", "rectangle3"));
 
-    // In a screen, what is named by the name alone means the same on the copy.
+    // On a copied screen, names without a path refer to the copies.
     duplicate({"Main", "Other"}, u"Duplicate 2 objects"_s);
     const auto *copy = static_cast<const Screen *>(find("Main1"));
     EXPECT_EQ(value(copy->getElement(u"rectangle2"_s), "xBinding"),

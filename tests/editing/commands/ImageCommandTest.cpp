@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Commands that work on the files of pictures.
+// Commands that change image files.
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/editing/commands/EditingDialogs.h"
 #include "corvex/editing/commands/RenameProject.h"
@@ -56,7 +56,7 @@ TEST_F(ImageCommandTest, AddingCopiesTheFileAndSavingCleansUp)
     EXPECT_EQ(files(), (QStringList{u"pump.png"_s, u"tank.png"_s}));
     stack().undo();
     EXPECT_EQ(source("image1"), QString());
-    // The file it came from is gone, and the picture comes back all the same.
+    // The original file is gone, but undo restores the image.
     QFile::remove(file);
     stack().redo();
     EXPECT_EQ(source("image1"), u"tank.png"_s);
@@ -112,7 +112,7 @@ TEST_F(ImageCommandTest, RenamingAlsoRenamesTheFile)
     EXPECT_TRUE(AddImage(make(u"ImageResource"_s, u"sea.png"_s), picture(u"sea.dat"_s, Qt::cyan, "PNG"),
                          project.get())
                     .isValid());
-    // Nothing is written over.
+    // Nothing is overwritten.
     writePicture("taken.png", Qt::black);
     EXPECT_FALSE(stack().push(new RenameImage(object(u"pump.png"_s), u"taken.png"_s)));
     EXPECT_EQ(shown(u"taken.png"_s), QColor(Qt::black));
@@ -152,7 +152,7 @@ TEST_F(ImageCommandTest, UnsavedChangesDoNotCount)
     push(new RenameImage(object(u"pump.png"_s), u"engine.png"_s));
     push(new ReplaceImage(object(u"well.png"_s), picture(u"new.png"_s, Qt::blue), u"well.png"_s));
     push(new RenameProject(project.get(), u"Wells"_s));
-    // Another one can look at it, and cannot write it.
+    // A second project can read the file but not write it.
     Project &second = static_cast<Project &>(*make(u"Project"_s, u"Other"_s));
     const std::unique_ptr<DesignerObject> owned(&second);
     EXPECT_TRUE(second.loadFile(project->fullFilePath())) << qPrintable(second.fileError());
@@ -219,7 +219,7 @@ TEST_F(ImageCommandTest, DroppedFiles)
               "format: \n    aux.png\n     liar.jpg"_s);
     EXPECT_EQ(stack().undoText(), u"Add 1 Image"_s);
     EXPECT_EQ(source("image2"), u"pump1.png"_s);
-    // The same contents again: one more element, no other file.
+    // The same contents again add an element but no file.
     EXPECT_TRUE(drop({folder.filePath(u"pump.png"_s), picture(u"sea.png"_s, Qt::cyan)}));
     EXPECT_EQ(stack().undoText(), u"Add 2 Images"_s);
     EXPECT_EQ(source("image3"), u"pump1.png"_s);
@@ -228,7 +228,7 @@ TEST_F(ImageCommandTest, DroppedFiles)
     EXPECT_EQ(dialogs.warnings.takeFirst(),
               u"Add Image: The following image is invalid or its extension does not match the image format: "
               "\n    liar.jpg"_s);
-    // A project that was never saved has no folder for them.
+    // A project that was never saved has no folder for images.
     const std::unique_ptr<DesignerObject> unsaved(make(u"Project"_s, u"Wells"_s));
     auto *screen =
         static_cast<Screen *>(add(static_cast<Project *>(unsaved.get())->screens(), "Screen", "Main"));
@@ -262,7 +262,7 @@ TEST_F(ImageCommandTest, ElementsBringImagesAndVariables)
         AddElementsWithResources(main, {make(u"Text"_s, u"pasted3"_s)}, {nullptr}, {}, true).isValid());
     EXPECT_FALSE(AddImagesAndElements({{nullptr, u"x.png"_s}}, {}, main).isValid());
 
-    // When one part fails, nothing of it stays.
+    // If one part fails, nothing changes.
     const QString before = text();
     auto *failing = new AddElementsWithResources(main, {make(u"Text"_s, u"pasted3"_s)},
                                                  {image(u"far.png"_s, folder.filePath(u"far.png"_s))},

@@ -24,7 +24,7 @@ protected:
         ASSERT_TRUE(variable->changePropertyValue(variable->getProperty(id), text));
     }
 
-    //! False when the table has problems.
+    //! Returns false if the table has problems.
     bool import(const QByteArray &csv)
     {
         VariableImport plan(csv, *project);
@@ -62,7 +62,7 @@ TEST_F(ImportVariablesTest, ATableRestoresEverythingInOneStep)
     EXPECT_EQ(project->undoStack()->index(), 1);
     EXPECT_EQ(table(), before);
 
-    // Into a project that has two of the variables, one of them with another value.
+    // Into a project with two of the variables, one of them with a different value.
     for (const char *name : {"title", "engine", "upload", "history", "map1"}) {
         delete project->takeListPropertyItem(project->variables(),
                                              project->variables()->getListItem(QString::fromLatin1(name)));
@@ -81,7 +81,7 @@ TEST_F(ImportVariablesTest, TablesMayOmitColumnsAndRows)
 {
     set(u"history"_s, u"interval"_s, u"4000"_s);
     set(u"speed"_s, u"value"_s, u"5"_s);
-    // A spreadsheet writes TRUE, another mark at the start, and other line ends; empty fields are defaults.
+    // A spreadsheet writes TRUE, a byte order mark and other line ends; empty fields mean defaults.
     EXPECT_TRUE(import("\xef\xbb\xbfvalue,name,persistent,interval,class\n"
                        "TRUE,on,TRUE,,\n"
                        ",speed,FALSE,,\n"
@@ -93,7 +93,7 @@ TEST_F(ImportVariablesTest, TablesMayOmitColumnsAndRows)
     EXPECT_TRUE(text.contains(u"\r\ndepth,NumberVariable,1.5,false,"_s));
     EXPECT_EQ(project->variables()->getListItem(u"history"_s)->getProperty(u"interval")->valueString(),
               u"5000"_s);
-    // The same value in another spelling is no mistake.
+    // The same value in another form is not an error.
     EXPECT_TRUE(import("name,interval\nhistory,05000\n"));
 }
 
@@ -161,7 +161,7 @@ TEST_F(ImportVariablesTest, ReportsWhatItCannotImport)
         EXPECT_EQ(invalid.invalidValues().size(), 1) << value;
     }
     EXPECT_EQ(textsOf(VariableImport("name,value\nspeed,-Infinity\n", *project).invalidValues()), QString());
-    // All that is wrong, at once.
+    // All errors at once.
     EXPECT_EQ(textsOf(VariableImport("name,value\nspeed,1,2\n\"on\"x,1\nnew,1\n", *project).problems()),
               u"line 3: A field in quotes is not closed, or text follows its closing quote.\n"
               "line 2: There are 3 fields for 2 columns.\n"

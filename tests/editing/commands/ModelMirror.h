@@ -14,9 +14,8 @@
 
 namespace Halvane::Corvex::Designer::Test {
 
-/*! A copy of a whole project that changes by what an observer hears and by nothing else: places are lists and
-    indexes, as in an item model. On the way it checks that "about to" comes before the change, and the other
-    operation after it. */
+//! A copy of a whole project that is only updated by notifications. Places are lists and indexes, as in an
+//! item model. Checks that "about to" comes before the change and the counterpart after it.
 class ModelMirror : public ModelObserver
 {
 public:
@@ -27,13 +26,13 @@ public:
         project.observers().add(this);
     }
 
-    //! The first difference between the copy and the project. Empty if they are equal.
+    //! The first difference between the copy and the project; empty if they are equal.
     QString difference() const
     {
         return m_root ? difference(*m_root, m_project) : QStringLiteral("There is no copy.");
     }
 
-    //! The operations that were heard.
+    //! The operations that were called.
     QSet<QByteArray> heard;
 
     void valueChanged(const SharedProperty &property, const QString &previousValue) override
@@ -186,7 +185,7 @@ private:
     {
         const DesignerObject *object = nullptr;
         bool isValid = true;
-        std::map<QString, Row> rows; //!< by the ids of the properties
+        std::map<QString, Row> rows; //!< by property id
     };
 
     static QList<const DesignerObject *> childrenIn(const SharedProperty &list)
@@ -225,7 +224,7 @@ private:
         return text;
     }
 
-    //! The row of a property of which something is heard: its object must be in the copy.
+    //! The row of the notified property. Its object must be in the copy.
     Row &rowOf(const SharedProperty &property)
     {
         static Row none;

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Random edits with random undo and redo of a project with elements of every class. After each step the model
-// must hold together; from the last one the history must lead back to the first byte and forth to the last.
+// Random edits with random undo and redo, in a project with elements of every class. The model must be
+// consistent after each step; at the end, undo must restore the first state to the byte, and redo the last
+// one.
 //
-// CORVEX_MODEL_STEPS and CORVEX_MODEL_SEED make longer and other runs; scripts/soak sets them.
+// CORVEX_MODEL_STEPS and CORVEX_MODEL_SEED set the number of steps and the seed; scripts/soak uses them.
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/ItemList.h"
@@ -74,7 +75,7 @@ QList<DesignerObject *> below(const DesignerObject *object)
     return all;
 }
 
-//! The first line that differs, on both sides; empty for equal texts.
+//! The first differing line on both sides; empty for equal texts.
 QString difference(const QString &text, const QString &expected)
 {
     const QStringList left = text.split(u'\n');
@@ -116,7 +117,7 @@ protected:
         project->validate();
     }
 
-    //! Items of classes that no plug-in knows come before every fifth item of a list.
+    //! Inserts items of unknown classes before every fifth item of a list.
     void addUnknownItems()
     {
         QStringList lines = text().split(u'\n');
@@ -144,7 +145,7 @@ protected:
     }
 
     QString newName(const QString &stem) { return stem + QString::number(++lastNumber); }
-    //! A good name; some others, which are marked or refused, in a test of hostile names.
+    //! A good name or, in a test with hostile names, also names that are marked or refused.
     QString anyName(const QString &stem)
     {
         static const QStringList hostile{u""_s,     u"1rect"_s,  u"while"_s,      u"a.b"_s,   u"a | b"_s,
@@ -194,7 +195,7 @@ protected:
         return info.toString();
     }
 
-    //! A command that may be possible; null when there is nothing for it.
+    //! A command that may succeed; null if there is nothing to do it with.
     UndoCommand *anyCommand();
     UndoCommand *imageCommand();
     QString newPicture(QImage &picture);
@@ -219,7 +220,7 @@ protected:
 
 UndoCommand *ModelTest::valueCommand()
 {
-    // Another object of the class and the screen lends its value, which is a good one for this property.
+    // Takes a valid value from another object of the same class and screen.
     QList<DesignerObject *> all = below(project.get());
     const DesignerObject *object = random.oneOf(all);
     all.removeIf([object](const DesignerObject *other) {
@@ -297,7 +298,7 @@ UndoCommand *ModelTest::filterCommand(Screen *screen)
     return new AddObject(screen->filters(), made, false);
 }
 
-//! Composites: what is pasted, a screen from a template, the new name of the project.
+//! Composites: pasting, a screen from a template, renaming the project.
 UndoCommand *ModelTest::manyCommand(Screen *screen)
 {
     QImage picture;
@@ -424,7 +425,7 @@ void ModelTest::checkOwners(const DesignerObject *owner)
     }
 }
 
-//! The index knows the same sites as a walk.
+//! The index must contain the same sites as a search.
 void ModelTest::checkReferences(const DesignerObject *object)
 {
     if (object->getIdName().isEmpty()) {
@@ -445,7 +446,7 @@ void ModelTest::checkModel()
 {
     ASSERT_NO_FATAL_FAILURE(checkOwners(project.get()));
     const QList<DesignerObject *> all = below(project.get());
-    // What bears a bad name, or another's, is marked, and cannot be made out where it is named.
+    // Objects with a bad or duplicate name are marked, and references to them are ambiguous.
     for (const DesignerObject *object : hasHostileNames ? QList<DesignerObject *>() : all) {
         if (const auto *group = kindCast<GroupElement>(object)) {
             QStringList indexes = ListInfo(group->indexes()->valueString()).toList();
@@ -511,11 +512,11 @@ TEST_F(ModelTest, UndoingEditsWithHostileNamesRestoresEveryByte)
     edit();
 }
 
-//! The row of all states that a history leads through, kept beside it as texts.
+//! Records all states of a history as texts.
 class HistoryTest : public ModelTest
 {
 protected:
-    //! The project, and what the files of its images hold.
+    //! The project and the contents of its image files.
     QString state() const
     {
         QString all = text();
@@ -532,7 +533,7 @@ protected:
             note(history);
         }
     }
-    //! A step was pushed.
+    //! Records a new step.
     void note(const ProjectHistory &history)
     {
         states.resize(position + 1);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What observers of a project hear: everything, in the order in which it happens.
+// The notifications of observers: complete and in order.
 #include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
@@ -16,7 +16,7 @@ namespace Halvane::Corvex::Designer::Test {
 
 namespace {
 
-//! Does something once, in the middle of a call.
+//! Does something once during a notification.
 class Doer : public ModelObserver
 {
 public:
@@ -43,7 +43,7 @@ private:
 class ObserverTest : public CommandFixture
 {
 protected:
-    //! A list and the classes of what it may hold.
+    //! A list and the classes of its possible items.
     struct List
     {
         SharedProperty list;
@@ -80,7 +80,7 @@ void ObserverTest::editList(const List &target)
     const int count = int(list->listItemCount());
     DesignerObject *item = count > 0 ? list->getListItemAtIndex(random.below(count)) : nullptr;
     DesignerObject *partner = count > 0 ? list->getListItemAtIndex(random.below(count)) : nullptr;
-    // The first screen and its lists are used by others.
+    // Other parts of the test use the first screen and its lists.
     const bool isSpare = item && (list != project->screens() || item != list->getListItemAtIndex(0));
     switch (random.below(9)) {
     case 0:
@@ -106,7 +106,7 @@ void ObserverTest::editList(const List &target)
         break;
     case 6:
         if (isSpare && count > 3) {
-            delete item; // in its place
+            delete item; // while it is in the model
         }
         break;
     case 7:
@@ -162,7 +162,7 @@ void ObserverTest::editProject()
 {
     switch (random.below(5)) {
     case 0:
-        // Without a configuration nothing can be saved.
+        // A project without a configuration cannot be saved.
         if (random.chance(50)) {
             project->changePropertyObjectValue(project->configuration(), nullptr, true);
         }
@@ -176,7 +176,7 @@ void ObserverTest::editProject()
         EXPECT_TRUE(project->saveFile() && project->loadFile(project->fullFilePath()));
         break;
     case 3: {
-        // A part of a project that is read in its place is reported item by item.
+        // A part of a project that is read in place is reported item by item.
         DesignerObject *screen = project->screens()->getListItemAtIndex(0);
         const QString file = folder.filePath(u"screen.xml"_s);
         EXPECT_TRUE(DesignerObject::saveToFile(screen, file));
@@ -239,7 +239,7 @@ TEST_F(ObserverTest, ANewItemIsReportedOnceAtItsFinalPlace)
     EXPECT_TRUE(first->setIdName(u"z1"_s));
     EXPECT_EQ(log.text, u"id;moved 0 4;"_s);
     log.text.clear();
-    // The size of a new screen follows the configuration while the screen comes in.
+    // A new screen gets its size from the configuration while it is inserted.
     add(project->screens(), "Screen", "Third");
     EXPECT_EQ(log.text, u"about to insert 2;inserted 2;"_s);
 }
@@ -270,7 +270,7 @@ TEST_F(ObserverTest, ObserversCanBeAddedAndRemovedDuringCalls)
     EXPECT_EQ(last.calls, 2);
     EXPECT_EQ(added.calls, 1);
 
-    // An observer follows one project, and either of the two may go first.
+    // An observer follows one project. Either of the two may be deleted first.
     auto elsewhere = std::unique_ptr<Project>(static_cast<Project *>(make(u"Project"_s, u"Elsewhere"_s)));
     elsewhere->observers().add(&last);
     change();

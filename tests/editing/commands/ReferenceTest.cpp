@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Every place and form in which something can be named: found, renamed, dropped, and back again.
+// Every place and form of a reference: found, renamed, dropped and restored.
 #include "corvex/editing/references/ReferenceChanges.h"
 #include "corvex/editing/references/ReferenceIndex.h"
 #include "corvex/editing/references/ReferenceScanner.h"
@@ -20,7 +20,7 @@ struct Row
     const char *dropped;
 };
 
-// The texts are as the properties write them.
+// The texts are in the form that the properties write.
 const Row rows[] = {
     // Links.
     {"button1", "visualElement", "filterType: VisualElement; objectId: rectangle1; scopeType: Screen;",
@@ -47,7 +47,7 @@ const Row rows[] = {
     {"image1", "source", "filterType: ImageResource; objectId: pump.png; scopeType: Project;", "pump.png",
      "filterType: ImageResource; objectId: renamed.png; scopeType: Project;",
      "filterType: ImageResource; objectId: ; scopeType: Project;"},
-    // A link by the same name to something else.
+    // A link to another object with the same name.
     {"image1", "source", "filterType: ImageResource; objectId: speed; scopeType: Project;", "speed", nullptr,
      nullptr},
     // Expressions.
@@ -141,7 +141,7 @@ class ReferenceTest : public CommandFixture
 
 TEST_F(ReferenceTest, AllFormsAreFoundRenamedAndDropped)
 {
-    // The index is there before the values are, so that it has to follow the changes.
+    // The index exists before the values, so it must follow the changes.
     ReferenceIndex::of(project.get());
     for (const Row &row : rows) {
         SCOPED_TRACE(testing::Message() << row.owner << '.' << row.property << ": " << row.text);
@@ -205,7 +205,7 @@ TEST_F(ReferenceTest, TheIndexFollowsInsertedAndRemovedObjects)
     ASSERT_TRUE(main->addListPropertyItem(main->elements(), late));
     EXPECT_EQ(referrers(), QStringList{QStringLiteral("late1")});
 
-    // On another screen the same name is another element.
+    // On another screen the same name refers to another element.
     ASSERT_TRUE(main->takeListPropertyItem(main->elements(), late));
     EXPECT_EQ(referrers(), QStringList());
     ASSERT_TRUE(other->addListPropertyItem(other->elements(), late));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Commands that add, take, move and group objects.
+// Commands that add, remove, move and group objects.
 #include "corvex/editing/commands/ChangeConfiguration.h"
 #include "corvex/editing/commands/EditingDialogs.h"
 #include "corvex/editing/commands/RenameProject.h"
@@ -43,7 +43,7 @@ namespace Halvane::Corvex::Designer::Test {
 class StructureTest : public CommandFixture
 {
 protected:
-    //! Pushes a command and checks its text, and that it comes and goes without a trace.
+    //! Pushes a command and checks its text, and that undo and redo restore the exact states.
     template<class Command>
     Command *walk(Command *command, const QString &title)
     {
@@ -76,7 +76,7 @@ TEST_F(StructureTest, AddingSetsActiveAndSelectedItems)
     EXPECT_EQ(stack().activeItem(), element("text2"));
     EXPECT_EQ(add->selectedItems(), QList<DesignerObject *>{element("text2")});
     EXPECT_FALSE(AddObject(main->elements(), u"Nothing"_s, {}, true).isValid());
-    // A name that is there is refused by the list, and the command is not done.
+    // The list refuses a name that exists, so the command fails.
     EXPECT_FALSE(stack().push(new AddObject(main->elements(), u"Text"_s, u"text1"_s, true)));
     EXPECT_EQ(stack().errorString(), u"Item already exists."_s);
 
@@ -145,7 +145,7 @@ TEST_F(StructureTest, DeletingDropsReferencesAndUndoRestoresThePlace)
     stack().undo();
     EXPECT_EQ(main->elements()->getListItemIndex(u"rectangle1"_s), index);
     stack().redo();
-    // The command owns what it took out.
+    // The command owns the removed object.
     project->createUndoStack();
     EXPECT_FALSE(rectangle);
     EXPECT_FALSE(DeleteObject(nullptr, true).isValid());
@@ -153,7 +153,8 @@ TEST_F(StructureTest, DeletingDropsReferencesAndUndoRestoresThePlace)
 
 TEST_F(StructureTest, CommandsShareRemovedObjects)
 {
-    // Each gives away what an older command holds and is dropped from the history; the older one is undone.
+    // Each loses an object that an older command owns, and is dropped from the history; then the older one is
+    // undone.
     const QPointer<DesignerObject> screen = other;
     const QPointer<DesignerObject> text = element("text1");
     const QPointer<DesignerObject> lost = make(u"GroupElement"_s, u"lost"_s);
@@ -178,7 +179,7 @@ TEST_F(StructureTest, CommandsShareRemovedObjects)
     stack().setIndex(0);
     ASSERT_TRUE(text && screen);
     EXPECT_EQ(CommandFixture::text(), first);
-    // The last command that holds an object takes it along, in whatever order they go.
+    // The last command that owns an object deletes it, in any order of deletion.
     push(new DeleteObject(text, true));
     push(new GroupCommand(lost, {element("rectangle1"), element("rectangle2")}));
     push(new DeleteObject(lost, true));
@@ -188,7 +189,7 @@ TEST_F(StructureTest, CommandsShareRemovedObjects)
     EXPECT_TRUE(lost);
     kept.reset();
     EXPECT_FALSE(lost);
-    // What somebody else took out of the model is theirs.
+    // An object removed by other code belongs to that code.
     push(new AddObject(main->elements(), u"Text"_s, u"theirs"_s, true));
     const std::unique_ptr<DesignerObject> theirs(
         main->takeListPropertyItem(main->elements(), element("theirs")));
@@ -269,7 +270,7 @@ TEST_F(StructureTest, AnUngroupedElementStaysInPlaceOnTheScreen)
     GroupElement *group = makeGroup({u"rectangle1"_s, u"rectangle2"_s});
     ASSERT_TRUE(set(group, "rotation", u"90"_s));
     push(new UngroupCommand(group));
-    // The group was 100 wide and 100 high and turned about its centre.
+    // The group was 100 wide and 100 high and rotated about its centre.
     const auto rectOf = [](const DesignerObject *element) {
         return GroupCommand::actualBoundingRect(ValueConversion::toPoint(value(element, "position")),
                                                 {100, 40}, value(element, "rotation").toDouble(), u"Center"_s)

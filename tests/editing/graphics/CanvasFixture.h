@@ -12,7 +12,7 @@
 
 namespace Halvane::Corvex::Designer::Test {
 
-//! A project whose screen "Main" has elements to be shown on a canvas.
+//! A project whose screen "Main" has elements for a canvas.
 class CanvasFixture : public testing::Test
 {
 protected:
@@ -32,7 +32,7 @@ protected:
         object->setIdName(QString::fromLatin1(name));
         return object;
     }
-    //! At a place in the screen or in a group; of that size unless it is empty.
+    //! Adds an element at a position in the screen or a group, with that size unless it is empty.
     static DesignerObject *add(DesignerObject *owner, const char *className, const char *name,
                                const QRectF &rect)
     {

@@ -30,7 +30,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! A canvas in a view that no display shows, with a mouse.
+//! A canvas in a view without a display, with a simulated mouse.
 class CanvasSceneTest : public Test::CanvasFixture
 {
 protected:
@@ -160,7 +160,7 @@ TEST_F(CanvasSceneTest, AGestureWithoutAChangeLeavesNoCommand)
     const QString before = placeOf(box);
     drag({100, 80}, {102, 82}); // a click with an unsteady hand
     EXPECT_EQ(scene->selectedObjects(), QList<DesignerObject *>{box});
-    drag({150, 80}, {150, 200}); // the right handle knows no height
+    drag({150, 80}, {150, 200}); // the right handle does not change the height
     press({100, 80});
     moveTo({300, 200});
     EXPECT_EQ(itemOf(box)->handlePoint(QQuickItem::TopLeft), QPointF(250, 170));
@@ -195,7 +195,7 @@ TEST_F(CanvasSceneTest, HandlesAreFoundInAMagnifiedViewOfARotatedElement)
     show(2);
     scene->selectObjects({box});
     const FramedItem *item = itemOf(box);
-    const QPointF handle = item->handlePoint(QQuickItem::Right); // below the box as it is turned
+    const QPointF handle = item->handlePoint(QQuickItem::Right); // below the box, because it is rotated
     EXPECT_EQ(handle, QPointF(100, 130));
     EXPECT_EQ(scene->cursorAt(handle), Qt::SizeVerCursor);
     EXPECT_EQ(scene->cursorAt(handle - QPointF(0, 2)), Qt::SizeAllCursor);
@@ -242,7 +242,7 @@ TEST_F(CanvasSceneTest, GroupingAndDeletingLeaveEverythingElseInItsPlace)
     DesignerObject *other = add(screen, "Rectangle", "other", {10, 10, 40, 40});
     show();
     const auto look = [this] {
-        QStringList drawn; // from the lowest to the topmost, each with its corners on the scene
+        QStringList drawn; // from bottom to top, each with its corners in scene coordinates
         for (const QGraphicsItem *graphic : scene->items(Qt::AscendingOrder)) {
             const GraphicsItem *item = GraphicsItem::of(graphic);
             if (item && item->isKindOfClass(u"GraphicsRectangle"_s)) {
@@ -277,7 +277,7 @@ TEST_F(CanvasSceneTest, GroupingAndDeletingLeaveEverythingElseInItsPlace)
 
 TEST_F(CanvasSceneTest, OtherMembersOfARotatedGroupStayInPlace)
 {
-    // A group that reaches less or further turns about another point.
+    // A group with other bounds rotates about another point.
     DesignerObject *outer = add(screen, "GroupElement", "outer", {150, 100, 0, 0});
     DesignerObject *other = add(outer, "Rectangle", "other", {20, 5, 40, 40});
     DesignerObject *inner = add(outer, "GroupElement", "inner", {50, 20, 0, 0});
@@ -373,7 +373,7 @@ TEST_F(CanvasSceneTest, OtherMembersOfARotatedGroupStayInPlace)
         stack.undo();
     }
 
-    // Only what is dragged by a handle says where it is itself.
+    // Only an item dragged by a handle defines its own position.
     scene->selectObjects({inner});
     const QPolygonF otherPlace = cornersOf(other);
     const QPointF fixed = itemOf(inner)->handlePoint(QQuickItem::TopLeft);
@@ -434,7 +434,7 @@ TEST_F(CanvasSceneTest, TheHistorySelectsTheEditedElements)
 
 TEST_F(CanvasSceneTest, MembersOfRotatedGroupsFollowTheMouse)
 {
-    // A group that grows with a member turns about another point; nothing is seen to move by that.
+    // A group that grows with a member rotates about another point, but nothing may appear to move.
     DesignerObject *outer = add(screen, "GroupElement", "outer", {150, 100, 0, 0});
     set(outer, "rotation", u"30"_s);
     set(outer, "scale", u"120"_s);

@@ -30,7 +30,7 @@ constexpr double minimum = 4;
 class GraphicsItemTest : public CanvasFixture
 {
 protected:
-    //! The names of the elements as they lie over each other, the lowest first.
+    //! The names of the elements in stacking order, bottom first.
     QStringList stacking() const
     {
         QStringList names;
@@ -222,7 +222,7 @@ TEST_F(GraphicsItemTest, AScreenOutlivesItsSceneAndIsShownAgain)
     QGraphicsScene left;
     screen->setGraphicsItem();
     left.addItem(GraphicsItem::of(screen)->graphic());
-    screen->resetGraphicsItem(); // as the deletion of a screen does
+    screen->resetGraphicsItem(); // as when a screen is deleted
     QGraphicsScene next;
     screen->setGraphicsItem();
     next.addItem(GraphicsItem::of(screen)->graphic());
@@ -286,7 +286,7 @@ TEST_F(GraphicsItemTest, AGroupResizesItsMembers)
         item->resizeByMouse(QQuickItem::TopLeft, size, handle.topLeftAt(item->frame(), size));
     };
     drag({190, 139});
-    drag({0, 120}); // the way that the mouse took leaves no trace
+    drag({0, 120}); // the way of the mouse
     EXPECT_EQ(corner(group, QQuickItem::BottomRight), QPointF(200, 140));
     EXPECT_EQ(corner(left, QQuickItem::TopLeft), QPointF(0, 120));
     EXPECT_EQ(itemOf(left)->frame().size(), QSizeF(80, 10));

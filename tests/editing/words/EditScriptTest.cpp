@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What programs other than the command line see of edits in words. What each edit does, and the texts of all
-// refusals, is tested there.
+// Edits in words as seen by programs other than the command line. The tests of the command line check each
+// edit and the texts of all refusals.
 #include "corvex/editing/words/EditScript.h"
 
 #include "editing/commands/CommandFixture.h"

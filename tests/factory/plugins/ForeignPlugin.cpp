@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A plugin for another program, which leaves a mark when any of its code runs.
+// A plug-in for another program that records whether any of its code runs.
 #include <QObject>
 #include <QtPlugin>
 

@@ -4,7 +4,7 @@
 
 using namespace Halvane::Corvex::Common;
 
-//! Looks into the archive of a build, with the companion library alone.
+//! Lists the archive of a build, using only the companion library.
 int main(int argc, char **argv)
 {
     const bool hasNames = EnumHelper::getVariableAccessModeNames().value("ReadWrite") == "Read and Write";

@@ -32,7 +32,7 @@ std::unique_ptr<Object> make(const QString &className, const QString &name = {})
     return std::unique_ptr<Object>(object);
 }
 
-//! A project with a standard element and one of the plug-in's, in the working folder.
+//! Creates a project with a standard element and one of the plug-in's in the working folder.
 bool writeProject(const QString &name)
 {
     auto project = make<Project>(u"Project"_s, name);
@@ -53,7 +53,7 @@ QString describe(const Element &element)
     return litres ? u"%1 (%2 l/min)"_s.arg(text, litres->valueString()) : text;
 }
 
-//! Plain literals do where a text is asked for, and a list and a property may be made in passing.
+//! Plain literals are accepted as texts, and lists and properties can be temporaries.
 bool readsLiterals()
 {
     bool isBorder = false;

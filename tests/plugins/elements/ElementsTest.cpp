@@ -26,7 +26,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! A screen that the standard elements stand on.
+//! A screen for the standard elements.
 class Elements : public testing::Test
 {
 protected:
@@ -59,7 +59,7 @@ protected:
         return u"filterType: %1; objectId: %2; scopeType: %3;"_s.arg(filter, name, scope);
     }
 
-    //! What goes wrong when the document of the screen "Main" runs.
+    //! The problems when the document of the screen "Main" runs.
     static QStringList problemsInPreview(const QString &qml)
     {
         const QTemporaryDir folder;
@@ -252,7 +252,7 @@ TEST_F(Elements, AnExpressionWithoutCodeIsReported)
         QLatin1StringView property;
         QString good;
         QString bad;
-        QString error = {}; // that it is incomplete
+        QString error = {}; // the error that it is incomplete
     } rows[] = {
         {"Text", "colorBinding"_L1, u"<0403hot><0101?><0207cmVk><0101:><0307label.text>"_s, hot,
          u"A color is a single term"_s},
@@ -285,7 +285,7 @@ TEST_F(Elements, AnExpressionWithoutCodeIsReported)
         EXPECT_TRUE(expression->errorString().startsWith(error.isEmpty() ? incomplete : error))
             << className << property.data() << qPrintable(expression->errorString());
         EXPECT_EQ(foreignCall(element->toQml(0)), QString());
-        // Of lists, what is complete remains.
+        // For lists, the complete entries remain.
         if (property != "dataValues"_L1 && property != "pressed"_L1) {
             EXPECT_EQ(element->toQml(0), plain);
         }
@@ -369,7 +369,7 @@ TEST_F(Elements, LinksAndChannelsAreValidated)
     DesignerObject *second = add("DigitalInputOutput", u"second"_s);
     EXPECT_EQ(second->getProperty(u"channel")->errorString(),
               u"second and first are connected to same Digital Output."_s);
-    // Both say so, and both hear when one of them changes or leaves.
+    // Both report it, and both are updated when one of them changes or is removed.
     EXPECT_EQ(first->getProperty(u"channel")->errorString(),
               u"first and second are connected to same Digital Output."_s);
     set(second, "channel", u"2"_s);
@@ -414,7 +414,7 @@ TEST_F(Elements, ALinkMustMeetTheRequirementsOfItsProperty)
     };
     for (const auto &[className, property, needed] : rows) {
         DesignerObject *element = add(className, u"the"_s + QLatin1StringView(className));
-        // What the link itself says it may name does not count.
+        // The link's own filter is ignored.
         set(element, property, link(u"speed"_s, u"Project"_s, number));
         EXPECT_EQ(
             element->getProperty(QString::fromLatin1(property))->errorString(),

@@ -82,7 +82,7 @@ TEST(PreviewWindow, ShowsAndMovesThePanel)
     EXPECT_EQ(cellOf(variables, u"lamp"_s, 2).data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
     EXPECT_TRUE(becomes(Qt::blue));
 
-    // A new build is taken up, with the screen that was shown.
+    // A new build is loaded, and the same screen is shown.
     window.session().showScreen(u"Aside"_s);
     build.addScreen("Aside", "Text { objectName: \"new\" }");
     EXPECT_TRUE(QTest::qWaitFor([&window] { return window.session().find(u"new") != nullptr; }, 5000));

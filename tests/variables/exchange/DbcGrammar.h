@@ -6,13 +6,13 @@
 #include <QSet>
 #include <QString>
 
-/*! The grammar of DBC files, as far as J1939 databases use it. It is our own, made from the published format
-    for lack of a packaged reader, and thus no independent judge: it finds what no program could read, not
-   what one would understand otherwise than we do. */
+//! The grammar of DBC files, as far as J1939 databases use it. It is our own, based on the published format
+//! because no reader is packaged, so it is not an independent check: it finds files that no program can read,
+//! but not misunderstandings of the format.
 class DbcGrammar
 {
 public:
-    //! The first problem of a file, with what is left of it there; empty when there is none.
+    //! The first problem of a file, with the rest of the file from there; empty if there is none.
     static QString problemOf(const QByteArray &bytes)
     {
         DbcGrammar grammar(QString::fromLatin1(bytes));

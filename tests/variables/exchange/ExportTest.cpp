@@ -24,7 +24,7 @@ class ExportTest : public testing::Test
 protected:
     ExportTest()
     {
-        const auto nothing = makeVariable(u"NumberVariable"_s); // makes the factory
+        const auto nothing = makeVariable(u"NumberVariable"_s); // creates the factory
         project.reset(static_cast<Project *>(DesignerFactory::instance()->createObject(u"Project"_s)));
         project->setParent(nullptr);
         project->setIdName(u"Plant"_s);
@@ -161,7 +161,7 @@ TEST_F(ExportTest, CanGroupsAsADatabase)
     EXPECT_EQ(DbcGrammar::problemOf(bytes), QString()) << bytes.constData();
     using testing::HasSubstr;
     const std::string dbc = bytes.toStdString();
-    // 217056256 and the bit of extended frames.
+    // 217056256 and the bit for extended frames.
     EXPECT_THAT(dbc, HasSubstr("BO_ 2364539904 again: 8 Vector__XXX\n"
                                " SG_ SPN190 : 24|16@1+ (0.125,0) [0|8031.875] \"1/'min'\" Vector__XXX\n"
                                " SG_ SPN190_engine : 24|16@1+ (0.125,0) [0|8031.875] \"rpm\" Vector__XXX\n"
@@ -177,7 +177,7 @@ TEST_F(ExportTest, CanGroupsAsADatabase)
             {u"empty.parameterMap: At least one SPN required"_s,
              u"tank: The unit \"\u00b0C \u03a9\" of SPN 96 has characters that the file cannot hold."_s}));
 
-    // The grammar tells good from bad.
+    // The grammar distinguishes good from bad files.
     for (const auto &[good, bad] :
          {std::pair("8 Vector__XXX\n SG_ SPN96", "7 Vector__XXX\n SG_ SPN96"),
           std::pair("SG_ SPN899 :", "SG_ SPN190 :"), std::pair("(0.0000001,", "(1e-7,"),
