@@ -2,19 +2,32 @@
 #include "elements/visual/Image.h"
 
 #include "corvex/core/DesignerFactory.h"
+#include "corvex/core/QmlText.h"
 #include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/ShapeProperties.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/RuntimeTable.h"
+#include "corvex/values/records/ObjectLinkInfo.h"
 
 #include "elements/Rows.h"
-#include "elements/Statements.h"
 #include "elements/Validators.h"
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
 namespace Halvane::Corvex::Elements {
+
+namespace {
+
+//! Writes the file name as a URL, in which "%" and "#" have a meaning of their own.
+QmlBindings sourceToQml(const DesignerProperty *property)
+{
+    QString name = ObjectLinkInfo(property->valueString()).objectId();
+    name.replace(u'%', "%25"_L1).replace(u'#', "%23"_L1);
+    return {property->id(), QmlText::quoted(name)};
+}
+
+} // namespace
 
 bool Image::initializeProperties()
 {
@@ -23,7 +36,7 @@ bool Image::initializeProperties()
             .rank(2)
             .editor("ImageSourceEditor")
             .validator(&linkTargetValidator)
-            .qml(&linkNameToQml),
+            .qml(&sourceToQml),
         row<SizeProperty>("size", "Size", QSizeF(100, 100)).rank(3).allowInvalid(),
         row<BooleanProperty>("keepRatio", "Keep Proportions", true)
             .rank(4)

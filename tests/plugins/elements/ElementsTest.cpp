@@ -342,6 +342,10 @@ TEST_F(Elements, ResourcesKnowTheImagesThatShowThem)
     set(image, "source", link(u"pump.png"_s, u"Project"_s, u"ImageResource"_s));
     EXPECT_FALSE(logo->isLinked());
     EXPECT_TRUE(pump->isLinked());
+    EXPECT_EQ(line(image, "source"), u"source: \"pump.png\""_s);
+    set(image, "source", link(u"Logo%20#2.png"_s, u"Project"_s, u"ImageResource"_s));
+    EXPECT_EQ(line(image, "source"), u"source: \"Logo%2520%232.png\""_s) << "QML reads a URL";
+    set(image, "source", link(u"pump.png"_s, u"Project"_s, u"ImageResource"_s));
     const std::unique_ptr<DesignerObject> taken(screen->takeListPropertyItem(screen->elements(), image));
     EXPECT_FALSE(pump->isLinked());
 
