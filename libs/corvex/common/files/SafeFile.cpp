@@ -8,9 +8,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QSet>
 
 #include <cerrno>
 #include <fcntl.h>
+#include <mutex>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -49,6 +51,17 @@ int openLocked(const QByteArray &path)
     }
 }
 
+//! Whether this program has not asked for that folder before.
+bool isFirstFileIn(const QString &folder)
+{
+    static std::mutex mutex;
+    static QSet<QString> known;
+    const std::lock_guard lock(mutex);
+    const qsizetype before = known.size();
+    known.insert(QFileInfo(folder).absoluteFilePath());
+    return known.size() > before;
+}
+
 } // namespace
 
 SafeFile::SafeFile(const QString &path)
@@ -81,7 +94,9 @@ bool SafeFile::openForWriting(QString *error)
 bool SafeFile::makeDraft()
 {
     const QString folder = QFileInfo(m_target).path();
-    removeAbandoned(folder);
+    if (isFirstFileIn(folder)) {
+        removeAbandoned(folder);
+    }
     int file = -1;
     do {
         const QString number = QString::number(QRandomGenerator::global()->generate(), 16);

@@ -14,7 +14,8 @@ namespace Halvane::Corvex::Common {
    took fewer bytes than it was given (a full disk), the target stays as it was. A target that is a link stays
    one: the file that it leads to is replaced. Permissions of the target are kept.
 
-    What a program that was killed left in the folder goes with the next file that is written there. */
+    Programs that were killed may have left drafts in the folder. A program removes them when it writes its
+   first file there. */
 class CORVEX_COMMON_EXPORT SafeFile : public QFile
 {
     Q_OBJECT
@@ -32,7 +33,7 @@ public:
     //! Syncs and moves. False, with the target untouched, when anything failed since the file was opened.
     bool commit(QString *error = nullptr);
 
-    //! Removes from a folder what programs that were killed wrote there and could not move any more.
+    //! Removes the drafts that killed programs have left in a folder.
     static void removeAbandoned(const QString &folder);
 
 protected:
