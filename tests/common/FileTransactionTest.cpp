@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/common/files/FileStamp.h"
+#include "corvex/common/files/FileSync.h"
 #include "corvex/common/files/FileTransaction.h"
 #include "corvex/common/files/FolderLock.h"
 #include "corvex/common/files/SafeFile.h"
@@ -145,6 +146,27 @@ TEST_F(FileTransactionTest, ARenamedFolderGetsItsOldName)
               (QStringList{u"Mine/Images/pump.png"_s, u"Mine/Images/tank.png"_s, u"Mine/P.proj"_s}));
 }
 
+TEST_F(FileTransactionTest, ALinkStaysALink)
+{
+    const auto target = [this](const QString &name) { return FileSync::linkTarget(path(u"P/"_s + name)); };
+    write(u"elsewhere/P.proj"_s, "old");
+    ASSERT_TRUE(QFile::remove(path(u"P/P.proj"_s)));
+    ASSERT_TRUE(QFile::link(u"../elsewhere/P.proj"_s, path(u"P/P.proj"_s)));
+    const QMap<QString, QByteArray> before = files();
+    const auto change = [](FileTransaction &files) { EXPECT_TRUE(files.move(u"P.proj"_s, u"Q.proj"_s)); };
+    crash(change);
+    EXPECT_EQ(FileTransaction::recover(path(u"P"_s)), FileTransaction::Recovery::TakenBack);
+    EXPECT_EQ(files(), before) << "no second link is left";
+    EXPECT_EQ(target(u"P.proj"_s), u"../elsewhere/P.proj"_s);
+
+    const std::unique_ptr<FileTransaction> transaction = FileTransaction::begin(path(u"P"_s));
+    change(*transaction);
+    EXPECT_TRUE(FileHelper::writeFile(transaction->draftPath(), "saved"));
+    EXPECT_TRUE(transaction->commit(u"Q.proj"_s));
+    EXPECT_EQ(target(u"Q.proj"_s), u"../elsewhere/P.proj"_s);
+    EXPECT_EQ(files().value(u"elsewhere/P.proj"_s), "saved");
+}
+
 TEST_F(FileTransactionTest, LaterChangesByTheUserAreKept)
 {
     crash([](FileTransaction &files) { EXPECT_TRUE(files.move(pump, motor) && files.place(pump, "new")); });
@@ -228,6 +250,11 @@ TEST_F(FileTransactionTest, DraftsOfKilledProgramsAreRemoved)
     }
     waitpid(child, nullptr, 0);
     EXPECT_EQ(files().size(), 4);
+    // Those in a folder that this program has not written to yet go with its first file there.
+    ASSERT_TRUE(QDir().rename(path(u"P"_s), path(u"New"_s)));
+    write(u"New/first"_s, "first");
+    EXPECT_EQ(files().size(), 4);
+    ASSERT_TRUE(QFile::remove(path(u"New/first"_s)) && QDir().rename(path(u"New"_s), path(u"P"_s)));
     write(u"P/.corvex-draft-mine"_s, "mine");
     SafeFile live(path(u"P/live"_s));
     ASSERT_TRUE(live.openForWriting());

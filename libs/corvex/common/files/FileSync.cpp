@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <filesystem>
 #include <unistd.h>
 
 namespace Halvane::Corvex::Common::FileSync {
@@ -103,6 +104,14 @@ bool link(const QString &from, const QString &to)
 {
     return ::link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0
            || (FileHelper::copyFile(from, to) && sync(to));
+}
+
+QString linkTarget(const QString &path)
+{
+    std::error_code error;
+    const std::filesystem::path target =
+        std::filesystem::read_symlink(QFile::encodeName(path).toStdString(), error);
+    return QFile::decodeName(target.c_str());
 }
 
 QString reason()

@@ -25,6 +25,9 @@ CORVEX_COMMON_EXPORT bool exchange(const QString &first, const QString &second);
 //! Gives a file a second name, or makes a copy that is on the disk where files have only one.
 CORVEX_COMMON_EXPORT bool link(const QString &from, const QString &to);
 
+//! The target of a symbolic link exactly as the link stores it, so it may be relative; empty for other files.
+CORVEX_COMMON_EXPORT QString linkTarget(const QString &path);
+
 //! The reason that errno tells.
 CORVEX_COMMON_EXPORT QString reason();
 

@@ -131,7 +131,7 @@ QString FileTransaction::setAside(const QString &name)
 bool FileTransaction::bringBack(const QString &key, const QString &name)
 {
     const QString path = m_journal->privatePath(key);
-    return keep(name) && m_journal->addNew(name, FileHelper::md5(path))
+    return keep(name) && m_journal->addNew(name, FileJournal::digestOf(path))
            && FileSync::move(path, m_journal->pathOf(name));
 }
 
@@ -154,7 +154,7 @@ bool FileTransaction::remove(const QString &name)
         return true;
     }
     if (m_defersRemovals) {
-        m_removed.insert(name, FileHelper::md5(m_journal->pathOf(name)));
+        m_removed.insert(name, FileJournal::digestOf(m_journal->pathOf(name)));
         return true;
     }
     return keep(name) && QFile::remove(m_journal->pathOf(name));

@@ -32,6 +32,16 @@ QString projectFileName(const QString &name)
     return u"%1.kdproj"_s.arg(name);
 }
 
+//! Whether the file is a link that leads back into its folder by the name of the folder.
+bool needsFolderName(const QString &path)
+{
+    const QString target = Common::FileSync::linkTarget(path);
+    const QFileInfo file(path);
+    const bool leavesFolder = QDir::isAbsolutePath(target) || QDir::cleanPath(target).startsWith("../"_L1);
+    return leavesFolder
+           && file.canonicalFilePath().startsWith(QFileInfo(file.path()).canonicalFilePath() + u'/');
+}
+
 } // namespace
 
 QString Project::createFileName() const
@@ -151,6 +161,14 @@ bool Project::writeAgain(QString *error)
 
 bool Project::renameEntries(const QString &fileName, const QString &subPath, QString *error)
 {
+    if (subPath != this->subPath() && needsFolderName(fullFilePath())) {
+        *error =
+            Common::LocalizationHelper::coreString(
+                u"The project file \"%1\" is a link to \"%2\". It would lead nowhere when the folder has "
+                "another name. Make the link relative to its own folder and try again."_s)
+                .arg(fullFilePath(), Common::FileSync::linkTarget(fullFilePath()));
+        return false;
+    }
     const bool waitsForSave = fileChanges();
     Common::FileTransaction *changes = beginFileChanges(error);
     const bool isRenamed =

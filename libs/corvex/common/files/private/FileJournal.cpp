@@ -40,6 +40,12 @@ QString FileJournal::privatePath(const QString &name) const
     return name.isEmpty() ? folder : u"%1/%2"_s.arg(folder, name);
 }
 
+QString FileJournal::digestOf(const QString &path)
+{
+    const QString target = FileSync::linkTarget(path);
+    return target.isEmpty() ? FileHelper::md5(path) : u"link to %1"_s.arg(target);
+}
+
 bool FileJournal::isThere(const QString &folder)
 {
     const QFileInfo info(FileJournal(folder).privatePath());

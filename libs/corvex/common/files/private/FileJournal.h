@@ -26,6 +26,9 @@ public:
     const QString &folder() const { return m_folder; }
     void setFolder(const QString &folder) { m_folder = folder; }
 
+    //! What identifies the contents of a file. For a link it is the stored target, because a relative link
+    //! leads elsewhere while the file is out of sight. Empty without a file.
+    static QString digestOf(const QString &path);
     //! Whether there is one, of a transaction that goes on or was interrupted.
     static bool isThere(const QString &folder);
     //! Begins a new one, whose transaction is not committed.

@@ -38,7 +38,7 @@ QString freePath(const QString &path)
 //! Whether the file holds what the transaction put there, and not what somebody else did since.
 bool FileRecovery::isOurs(const QString &name) const
 {
-    return m_journal.newFiles().value(name).contains(FileHelper::md5(m_journal.pathOf(name)));
+    return m_journal.newFiles().value(name).contains(FileJournal::digestOf(m_journal.pathOf(name)));
 }
 
 bool FileRecovery::bringDraft() const
@@ -65,7 +65,7 @@ bool FileRecovery::finish()
     const QVariantMap &removed = m_journal.removedFiles();
     for (auto file = removed.cbegin(); file != removed.cend(); ++file) {
         const QString path = m_journal.pathOf(file.key());
-        if (FileHelper::md5(path) == file.value().toString()) {
+        if (FileJournal::digestOf(path) == file.value().toString()) {
             QFile::remove(path);
             folders.insert(QFileInfo(path).path());
         }
@@ -107,7 +107,8 @@ bool FileRecovery::restore(const QString &name, const QString &copy) const
     if (!isThere(kept)) {
         return true; // the copy goes with the journal alone
     }
-    const bool isForeign = isThere(path) && !isOurs(name) && FileHelper::md5(path) != FileHelper::md5(kept);
+    const bool isForeign =
+        isThere(path) && !isOurs(name) && FileJournal::digestOf(path) != FileJournal::digestOf(kept);
     if (isForeign && !FileSync::move(path, freePath(path))) {
         return false;
     }
