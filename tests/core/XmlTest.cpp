@@ -205,6 +205,9 @@ TEST_F(Xml, UnknownPartsAreReported)
         {"<Property name='nodes'><List><Robot/></List></Property>", ReadNote::Kept, "\"Robot\""},
         {"<Property name='percent' value='7'/></Properties><Properties><Property name='percent' value='8'/>",
          ReadNote::Dropped, "second time"},
+        {"</Properties><Properties hue='1'>", ReadNote::Dropped, "\"hue\""},
+        {"<Property name='nodes'><List hue='1'/></Property>", ReadNote::Dropped, "\"hue\""},
+        {"<Property name='nodes'><List><Node hue='1'/></List></Property>", ReadNote::Dropped, "\"hue\""},
     };
     for (const Case &test : cases) {
         ASSERT_TRUE(read(node(QByteArray("  ") + test.properties))) << test.properties;
@@ -214,6 +217,8 @@ TEST_F(Xml, UnknownPartsAreReported)
             << qPrintable(notes.front().message);
         EXPECT_EQ(notes.front().line, 3) << test.properties;
     }
+    ASSERT_TRUE(read("<Node hue='1'/>"));
+    EXPECT_EQ(notes.size(), 1);
 }
 
 TEST_F(Xml, ASecondPartOfAnObjectAddsToTheFirst)

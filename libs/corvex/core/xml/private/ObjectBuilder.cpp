@@ -73,6 +73,14 @@ QString ObjectBuilder::place() const
     return names.isEmpty() && m_root ? m_root->objectPath() : names.join(u'.');
 }
 
+void ObjectBuilder::dropAttributes(std::span<const XmlAttribute> attributes)
+{
+    for (const XmlAttribute &attribute : attributes) {
+        note(ReadNote::Dropped,
+             u"The attribute \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(attribute.name)));
+    }
+}
+
 void ObjectBuilder::push(Context context, DesignerObject *object, const SharedProperty &property)
 {
     m_frames.append({context, object, property});
@@ -92,24 +100,25 @@ void ObjectBuilder::startElement(QByteArrayView name, std::span<const XmlAttribu
     }
     if (m_frames.isEmpty()) {
         openRoot(name);
+        dropAttributes(attributes);
         return;
     }
     Frame &frame = m_frames.last();
     switch (frame.context) {
     case Context::Object:
-        openInObject(frame, name);
+        openInObject(frame, name, attributes);
         break;
     case Context::Properties:
         openInProperties(frame, name, attributes);
         break;
     case Context::Property:
-        openInProperty(frame, name);
+        openInProperty(frame, name, attributes);
         break;
     case Context::List:
         openItem(frame, name, attributes);
         break;
     case Context::ObjectValue:
-        openObjectValue(frame, name);
+        openObjectValue(frame, name, attributes);
         break;
     case Context::Kept:
         m_recorder.open(name, attributes);
@@ -152,12 +161,14 @@ void ObjectBuilder::forgetKeptItems()
     }
 }
 
-void ObjectBuilder::openInObject(const Frame &frame, QByteArrayView name)
+void ObjectBuilder::openInObject(const Frame &frame, QByteArrayView name,
+                                 std::span<const XmlAttribute> attributes)
 {
     if (name == "Properties") {
         const Frame object = frame;
         push(Context::Properties, object.object);
         m_frames.last().known = object.known;
+        dropAttributes(attributes);
     } else {
         skip(u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
     }
@@ -224,8 +235,7 @@ DesignerProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView name,
         } else if (attribute.name == "value") {
             *value = attribute.value;
         } else {
-            note(ReadNote::Dropped,
-                 u"The attribute \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(attribute.name)));
+            dropAttributes({&attribute, 1});
         }
     }
     const qsizetype index = id.isNull() ? -1 : findProperty(frame, id, isRepeated);
@@ -288,7 +298,8 @@ void ObjectBuilder::applyValue(DesignerObject *object, DesignerProperty *propert
     }
 }
 
-void ObjectBuilder::openInProperty(Frame &frame, QByteArrayView name)
+void ObjectBuilder::openInProperty(Frame &frame, QByteArrayView name,
+                                   std::span<const XmlAttribute> attributes)
 {
     const bool opensList = name == "List" && frame.property->isList();
     const bool opensObject = name == "Object" && frame.property->isObject();
@@ -304,6 +315,7 @@ void ObjectBuilder::openInProperty(Frame &frame, QByteArrayView name)
         }
         frame.property->setOrderingPaused(true);
     }
+    dropAttributes(attributes);
     push(opensList ? Context::List : Context::ObjectValue, frame.object, frame.property);
 }
 
@@ -340,6 +352,7 @@ void ObjectBuilder::openItem(const Frame &frame, QByteArrayView name,
 {
     const QString className = QString::fromUtf8(name);
     if (DesignerObject *item = makeObject(className)) {
+        dropAttributes(attributes);
         push(Context::Object, item);
         return;
     }
@@ -351,7 +364,8 @@ void ObjectBuilder::openItem(const Frame &frame, QByteArrayView name,
     push(Context::Kept, frame.object, frame.property);
 }
 
-void ObjectBuilder::openObjectValue(Frame &frame, QByteArrayView name)
+void ObjectBuilder::openObjectValue(Frame &frame, QByteArrayView name,
+                                    std::span<const XmlAttribute> attributes)
 {
     const QString className = QString::fromUtf8(name);
     if (frame.isAnswered) {
@@ -361,6 +375,7 @@ void ObjectBuilder::openObjectValue(Frame &frame, QByteArrayView name)
     }
     frame.isAnswered = true;
     if (DesignerObject *object = makeObject(className)) {
+        dropAttributes(attributes);
         push(Context::Object, object);
     } else {
         skip(u"No plug-in knows the class \"%1\"."_s.arg(XmlTokenizer::excerpt(name)));

@@ -62,17 +62,18 @@ private:
     QString place() const;
     void push(Context context, DesignerObject *object, const SharedProperty &property = {});
     void skip(const QString &message);
+    void dropAttributes(std::span<const XmlAttribute> attributes);
 
     void openRoot(QByteArrayView name);
     void forgetKeptItems();
-    void openInObject(const Frame &frame, QByteArrayView name);
+    void openInObject(const Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
     void openInProperties(Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
     DesignerProperty *takeProperty(Frame &frame, QByteArrayView name,
                                    std::span<const XmlAttribute> attributes, QByteArrayView *value,
                                    bool *isRepeated);
-    void openInProperty(Frame &frame, QByteArrayView name);
+    void openInProperty(Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
     void openItem(const Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
-    void openObjectValue(Frame &frame, QByteArrayView name);
+    void openObjectValue(Frame &frame, QByteArrayView name, std::span<const XmlAttribute> attributes);
     static qsizetype findProperty(Frame &frame, QByteArrayView id, bool *isRepeated);
     void applyValue(DesignerObject *object, DesignerProperty *property, QByteArrayView value);
     static SharedProperty shared(DesignerObject *object, const DesignerProperty *property);
