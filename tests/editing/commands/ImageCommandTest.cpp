@@ -10,6 +10,7 @@
 #include "corvex/editing/commands/images/DeleteImage.h"
 #include "corvex/editing/commands/images/RenameImage.h"
 #include "corvex/editing/commands/images/ReplaceImage.h"
+#include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/editing/commands/screens/AddScreenAndElements.h"
 #include "corvex/project/ImageResource.h"
 
@@ -96,6 +97,15 @@ TEST_F(ImageCommandTest, RenamingAlsoRenamesTheFile)
     EXPECT_EQ(files(), QStringList{u"Pump.png"_s});
     EXPECT_EQ(source("image1"), u"Pump.png"_s);
     EXPECT_TRUE(object(u"Pump.png"_s)->isValid());
+    stack().undo();
+    EXPECT_EQ(files(), QStringList{u"pump.png"_s});
+    // To change the name as a property is the same.
+    IdentifierInfo info = object(u"pump.png"_s)->getIdInfo();
+    info.setName(u"motor.png"_s);
+    auto *change = push(new ChangeProperty(object(u"pump.png"_s)->idProperty(), info.toString(), false));
+    EXPECT_EQ(files(), QStringList{u"motor.png"_s});
+    EXPECT_EQ(source("image1"), u"motor.png"_s);
+    EXPECT_EQ(change->selectedItems(), QList<DesignerObject *>());
     stack().undo();
     EXPECT_EQ(files(), QStringList{u"pump.png"_s});
     for (const QString &bad : {u"pump.txt"_s, u"aux.png"_s, u"pump.jpg"_s}) {

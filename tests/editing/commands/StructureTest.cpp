@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Commands that add, remove, move and group objects.
+#include "corvex/common/files/FileSync.h"
 #include "corvex/editing/commands/ChangeConfiguration.h"
 #include "corvex/editing/commands/EditingDialogs.h"
 #include "corvex/editing/commands/RenameProject.h"
@@ -8,6 +9,7 @@
 #include "corvex/editing/commands/groups/UngroupCommand.h"
 #include "corvex/editing/commands/images/AddElementsWithResources.h"
 #include "corvex/editing/commands/objects/AddObject.h"
+#include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/editing/commands/objects/ChangeVisualElements.h"
 #include "corvex/editing/commands/objects/DeleteFilter.h"
 #include "corvex/editing/commands/objects/DeleteFiltersWithObjects.h"
@@ -363,6 +365,21 @@ TEST_F(StructureTest, AProjectIsRenamedWithItsFolder)
     stack().undo();
     EXPECT_TRUE(QFileInfo(folder.filePath(u"Pumps/Pumps.kdproj"_s)).isFile());
     EXPECT_FALSE(RenameProject(project.get(), u"a/b"_s).isValid());
+
+    // A link leads to the same file as before, or the name stays.
+    const QString file = project->fullFilePath();
+    ASSERT_TRUE(QFile::rename(file, folder.filePath(u"Pumps/real"_s)) && QFile::link(u"real"_s, file));
+    IdentifierInfo info = project->getIdInfo();
+    info.setName(u"Wells"_s);
+    push(new ChangeProperty(project->idProperty(), info.toString(), false));
+    EXPECT_EQ(Common::FileSync::linkTarget(folder.filePath(u"Wells/Wells.kdproj"_s)), u"real"_s);
+    stack().undo();
+    for (const QString &back : {folder.filePath(u"Pumps/real"_s), u"../Pumps/real"_s}) {
+        ASSERT_TRUE(QFile::remove(file) && QFile::link(back, file));
+        EXPECT_FALSE(stack().push(new RenameProject(project.get(), u"Wells"_s)));
+        EXPECT_TRUE(stack().errorString().contains(back)) << qPrintable(stack().errorString());
+        EXPECT_EQ(QFileInfo(project->fullFilePath()).canonicalFilePath(), folder.filePath(u"Pumps/real"_s));
+    }
 }
 
 } // namespace Halvane::Corvex::Designer::Test

@@ -3,6 +3,8 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/PropertyValidators.h"
+#include "corvex/editing/commands/RenameProject.h"
+#include "corvex/editing/commands/images/RenameImage.h"
 #include "corvex/editing/commands/private/EditStep.h"
 #include "corvex/editing/references/ReferenceChanges.h"
 #include "corvex/editing/references/ReferenceForm.h"
@@ -104,9 +106,32 @@ ChangeProperty::ChangeProperty(const SharedProperty &property, const QString &va
     } else {
         setTitle(u"Change %1"_s, property->name());
     }
+    if (renamesFile()) {
+        return;
+    }
     setupCommand();
     notePending(property, m_after);
     m_isFileMissing = notifyFileMissing();
+}
+
+//! A name that is also the name of a file is left to the command that renames both, as the only child.
+bool ChangeProperty::renamesFile()
+{
+    Project *project = owner()->project();
+    const QString name = IdentifierInfo(m_after).name();
+    if (property() != owner()->idProperty() || name == owner()->getIdName() || !project
+        || project->fullFilePath().isEmpty()) {
+        return false;
+    }
+    if (owner() == project) {
+        new RenameProject(project, name, this);
+    } else if (kindCast<ImageResource>(owner())) {
+        new RenameImage(owner(), name, this);
+    }
+    if (childCount() > 0 && !isSelected()) {
+        setSelection({});
+    }
+    return childCount() > 0;
 }
 
 void ChangeProperty::setupCommand()
@@ -170,7 +195,7 @@ bool ChangeProperty::notifyFileMissing() const
 //! that the rules are checked each time.
 QString ChangeProperty::nameError() const
 {
-    if (!owner() || property() != owner()->idProperty()) {
+    if (!owner() || property() != owner()->idProperty() || childCount() > 0) {
         return {};
     }
     const QString name = IdentifierInfo(m_after).name();
@@ -216,7 +241,7 @@ bool ChangeProperty::undoOwn()
 
 void ChangeProperty::appendOwnChanges(QList<ValueChange> &changes) const
 {
-    if (owner()) {
+    if (owner() && childCount() == 0) {
         changes.append({property(), m_before, m_after});
     }
 }

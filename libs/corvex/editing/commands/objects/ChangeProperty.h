@@ -10,6 +10,9 @@ namespace Halvane::Corvex::Designer {
     new linked element by the states that describe it, a switch of the device's configuration by the lists
     that it decides about.
 
+    The name of an image or a project in a folder is also the name of its file, which gets the new name as
+   with RenameImage and RenameProject.
+
     A value that shows a picture whose file is missing cannot be set, nor a name that the rules for names of
    the object refuse.
 */
@@ -33,6 +36,7 @@ protected:
 
 private:
     void setupCommand();
+    bool renamesFile();
     void followLinkedElement();
     void followName();
     bool notifyFileMissing() const;
