@@ -215,6 +215,15 @@ TEST_F(ReferenceTest, TheIndexFollowsInsertedAndRemovedObjects)
 
     delete other->takeListPropertyItem(other->elements(), late);
     EXPECT_EQ(referrers(), QStringList());
+
+    // A name that is listed twice is still listed when one of them goes.
+    DesignerObject *filter = object(QStringLiteral("filter1"));
+    for (const char *names : {"rectangle1 | text1 | rectangle1", "rectangle1 | text1 | rectangle2"}) {
+        ASSERT_TRUE(set(filter, "elements", QString::fromLatin1(names)));
+        EXPECT_EQ(referrers(), QStringList{QStringLiteral("filter1")}) << names;
+    }
+    ASSERT_TRUE(set(filter, "elements", QStringLiteral("rectangle2")));
+    EXPECT_EQ(referrers(), QStringList());
     ASSERT_TRUE(set(element("text1"), "xBinding", QStringLiteral("0306rectangle1.x")));
     delete element("text1");
     EXPECT_EQ(referrers(), QStringList());

@@ -22,6 +22,8 @@ struct CORVEX_EXPORT Mention
     NamedKinds kinds; //!< what the path may name, by the value alone
     QString path;     //!< a name, or names joined with "."; of a term all but the property
     bool isDropped = false;
+
+    bool operator==(const Mention &other) const = default;
 };
 
 using MentionVisitor = std::function<void(Mention &)>;

@@ -5,6 +5,8 @@
 #include "corvex/editing/references/ReferenceTarget.h"
 #include "corvex/project/Project.h"
 
+#include <algorithm>
+
 namespace Halvane::Corvex::Designer {
 
 bool ReferenceIndex::Entry::operator<(const Entry &other) const
@@ -50,19 +52,13 @@ QList<ReferenceIndex::Entry> ReferenceIndex::entriesOf(const Mention &mention, c
     return entries;
 }
 
-void ReferenceIndex::update(const SharedProperty &property, const QString &text, bool add)
+void ReferenceIndex::update(const SharedProperty &property, const Mention &mention, bool add)
 {
-    if (text.isEmpty()) {
-        return;
-    }
-    const Screen *screen = property->parentObject()->screen();
-    for (const Mention &mention : ReferenceForm::mentions(*property, text)) {
-        for (const Entry &entry : entriesOf(mention, screen, property)) {
-            if (add) {
-                m_entries.insert(entry);
-            } else {
-                m_entries.erase(entry);
-            }
+    for (const Entry &entry : entriesOf(mention, property->parentObject()->screen(), property)) {
+        if (add) {
+            m_entries.insert(entry);
+        } else {
+            m_entries.erase(entry);
         }
     }
 }
@@ -70,15 +66,49 @@ void ReferenceIndex::update(const SharedProperty &property, const QString &text,
 void ReferenceIndex::updateAll(const DesignerObject *object, bool add)
 {
     ReferenceScanner::visitSites(object, true, [this, add](const SharedProperty &property) {
-        update(property, property->valueString(), add);
+        for (const Mention &mention : ReferenceForm::mentions(*property)) {
+            update(property, mention, add);
+        }
     });
 }
 
+bool ReferenceIndex::sharesName(const Mention &mention, const QSet<QStringView> &names)
+{
+    if (!names.isEmpty()) {
+        for (const QStringView name : QStringView(mention.path).tokenize(u'.')) {
+            if (names.contains(name)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+//! A list may name thousands of objects, of which an edit changes one. Only what differs is looked up.
 void ReferenceIndex::valueChanged(const SharedProperty &property, const QString &previousValue)
 {
-    if (m_isBuilt && ReferenceForm::of(*property)) {
-        update(property, previousValue, false);
-        update(property, property->valueString(), true);
+    if (!m_isBuilt || !ReferenceForm::of(*property)) {
+        return;
+    }
+    const QList<Mention> before = ReferenceForm::mentions(*property, previousValue);
+    const QList<Mention> after = ReferenceForm::mentions(*property);
+    const auto [firstBefore, firstAfter] = std::ranges::mismatch(before, after);
+    const auto [lastBefore, lastAfter] = std::ranges::mismatch(
+        std::ranges::subrange(before.crbegin(), std::make_reverse_iterator(firstBefore)),
+        std::ranges::subrange(after.crbegin(), std::make_reverse_iterator(firstAfter)));
+    QSet<QStringView> removed;
+    for (const Mention &mention : std::ranges::subrange(firstBefore, lastBefore.base())) {
+        update(property, mention, false);
+        for (const QStringView name : QStringView(mention.path).split(u'.')) {
+            removed.insert(name);
+        }
+    }
+    for (auto mention = after.cbegin(); mention != after.cend(); ++mention) {
+        const bool isNew = mention >= firstAfter && mention < lastAfter.base();
+        // Other mentions in the value may share a name with those that are gone.
+        if (isNew || sharesName(*mention, removed)) {
+            update(property, *mention, true);
+        }
     }
 }
 

@@ -54,7 +54,8 @@ private:
     //! The entries under which a mention is found; some may be equal.
     static QList<Entry> entriesOf(const Mention &mention, const Screen *screen,
                                   const SharedProperty &property);
-    void update(const SharedProperty &property, const QString &text, bool add);
+    void update(const SharedProperty &property, const Mention &mention, bool add);
+    static bool sharesName(const Mention &mention, const QSet<QStringView> &names);
     //! For all properties of the object and of what is below it.
     void updateAll(const DesignerObject *object, bool add);
     void find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const;
