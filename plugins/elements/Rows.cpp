@@ -30,20 +30,17 @@ PropertyRow linkRow(const char *id, const char *title, const QString &className,
 
 PropertyRow expressionRow(const char *id, const char *title, const char *editor)
 {
-    return row<GeneralDataListProperty>(id, title, GeneralDataList())
-        .flags(notAtRuntime)
-        .editor(editor)
-        .allowInvalid();
+    return row<GeneralDataListProperty>(id, title, GeneralDataList()).editor(editor).allowInvalid();
 }
 
 const GeneralDataList &expressionOf(const DesignerProperty &property)
 {
-    return static_cast<const GeneralDataListProperty &>(property).value();
+    return valueAs<GeneralDataListProperty>(&property);
 }
 
 PropertyRow bindingRow(const char *id, const char *title, const char *editor)
 {
-    return expressionRow(id, title, editor).validator(&bindingValidator);
+    return expressionRow(id, title, editor).flags(notAtRuntime).validator(&bindingValidator);
 }
 
 PropertyRow elementLinkRow(const char *id, const char *title, const char *className)
@@ -64,7 +61,6 @@ PropertyRow visualElementRow(const char *id, const char *title)
 PropertyRow stateRow(const char *id, const char *title)
 {
     return row<UpdateObjectListProperty>(id, title, UpdateObjectList())
-        .flags(ordinary)
         .editor("ElementPropertyChangesEditor")
         .qml(&stateToQml)
         .allowInvalid();
@@ -73,7 +69,6 @@ PropertyRow stateRow(const char *id, const char *title)
 PropertyRow channelRow()
 {
     return row<IntegerProperty>("channel", "Channel", 1)
-        .flags(ordinary)
         .editor("ChannelEditor")
         .parameter("minimum", 1)
         .allowInvalid();
@@ -82,7 +77,6 @@ PropertyRow channelRow()
 PropertyRow initialConditionRow()
 {
     return expressionRow("initValue", "Initial Value", "VerticalBooleanExpressionEditor")
-        .flags(ordinary)
         .validator(&codeValidator<GeneralDataList::BoolExpression>)
         .qml(&conditionToQml);
 }
@@ -90,7 +84,6 @@ PropertyRow initialConditionRow()
 PropertyRow initialNumberRow()
 {
     return expressionRow("initValue", "Initial Value", "VerticalMathExpressionEditor")
-        .flags(ordinary)
         .validator(&codeValidator<GeneralDataList::MathExpression>)
         .qml(&mathToQml);
 }

@@ -10,8 +10,7 @@ class GeneralDataList;
 //! Rows that occur in the tables of several elements.
 namespace Halvane::Corvex::Elements {
 
-//! Stored, edited and sent to the runtime. A row of a property class without an editor of its own has to say
-//! so.
+//! Stored, edited and sent to the runtime, for property classes that are not so by themselves.
 inline constexpr int ordinary = Designer::OrdinaryFlags.toInt();
 //! Stored and edited; what goes to the runtime is written by those who use it.
 inline constexpr int notAtRuntime = ordinary & ~Designer::RuntimeFlag;

@@ -128,7 +128,7 @@ QStringList assignments(const DesignerObject *owner, const QString &name,
 QmlBindings stateToQml(const DesignerProperty *property)
 {
     QStringList statements;
-    for (const UpdateObjectInfo &update : static_cast<const UpdateObjectListProperty *>(property)->value()) {
+    for (const UpdateObjectInfo &update : valueAs<UpdateObjectListProperty>(property)) {
         QMap<QString, QString> values;
         for (const PropertyInfo &info : update.propertyValues()) {
             values.insert(info.propName(), info.propValue());
@@ -141,7 +141,7 @@ QmlBindings stateToQml(const DesignerProperty *property)
 QmlBindings changesToQml(const DesignerProperty *property)
 {
     QStringList statements;
-    const PropertyList &changes = static_cast<const PropertyChangeListProperty *>(property)->value();
+    const PropertyList &changes = valueAs<PropertyChangeListProperty>(property);
     for (const QString &element : changes.elements()) {
         QMap<QString, QString> values;
         for (const PropertyChangeInfo &change : changes.values(element)) {

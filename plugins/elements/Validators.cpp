@@ -37,8 +37,8 @@ bool isTranslatable(const QString &text, GeneralDataList::InfoType kind)
 
 bool linkTargetValidator(const DesignerProperty *property, QString &error)
 {
-    const auto *link = static_cast<const LinkProperty *>(property);
-    if (!link->value().isValid()) {
+    const auto *link = propertyCast<LinkProperty>(property);
+    if (!link || !link->value().isValid()) {
         error = translated("The link is not set.");
         return false;
     }

@@ -56,7 +56,7 @@ Info collect(const ProjectFile &file)
     if (const DesignerObject *configuration = project.configuration()->objectValue()) {
         info.model = configuration->getIdName();
     }
-    info.defaultScreen = static_cast<const LinkProperty &>(*project.defaultScreen()).value().objectId();
+    info.defaultScreen = valueAs<LinkProperty>(project.defaultScreen()).objectId();
     count(project, info.classCounts);
     for (const DesignerObject *item : project.imageResources()->listItems()) {
         const auto *image = static_cast<const ImageResource *>(item);

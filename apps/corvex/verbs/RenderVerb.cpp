@@ -31,9 +31,8 @@ namespace {
 
 QString screenName(const Call &call, const Project &project)
 {
-    return call.isSet(u"screen"_s)
-               ? call.value(u"screen"_s)
-               : static_cast<const LinkProperty &>(*project.defaultScreen()).value().objectId();
+    return call.isSet(u"screen"_s) ? call.value(u"screen"_s)
+                                   : valueAs<LinkProperty>(project.defaultScreen()).objectId();
 }
 
 struct Subject

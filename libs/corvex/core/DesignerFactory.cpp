@@ -2,6 +2,7 @@
 #include "corvex/core/DesignerFactory.h"
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/core/TableFactory.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,6 +12,7 @@
 #include <QPluginLoader>
 #include <QPointer>
 
+#include <atomic>
 #include <exception>
 #include <optional>
 
@@ -24,6 +26,24 @@ QPointer<DesignerFactory> &theInstance()
 {
     static QPointer<DesignerFactory> instance;
     return instance;
+}
+
+std::atomic<int> &theGeneration()
+{
+    static std::atomic<int> generation = 0;
+    return generation;
+}
+
+//! The entry of the object's class or of its nearest base class that has one.
+QString nearestEntry(const QHash<QString, QString> &entries, const DesignerObject *object)
+{
+    const QStringList classNames = object->classNames();
+    for (auto name = classNames.crbegin(); name != classNames.crend(); ++name) {
+        if (const auto entry = entries.constFind(*name); entry != entries.cend()) {
+            return *entry;
+        }
+    }
+    return {};
 }
 
 QStringList sortedKeys(const QHash<QString, IDesignerFactory *> &registry)
@@ -100,7 +120,10 @@ DesignerFactory::DesignerFactory(QObject *parent)
     theInstance() = this;
 }
 
-DesignerFactory::~DesignerFactory() = default;
+DesignerFactory::~DesignerFactory()
+{
+    ++theGeneration();
+}
 
 DesignerFactory *DesignerFactory::instance()
 {
@@ -199,7 +222,23 @@ bool DesignerFactory::registerFactory(IDesignerFactory *factory)
             }
         }
     }
+    readClassRows(factory);
+    ++theGeneration();
     return true;
+}
+
+void DesignerFactory::readClassRows(const IDesignerFactory *factory)
+{
+    const auto *tables = dynamic_cast<const TableFactory *>(factory);
+    for (const ClassRow &row : tables ? tables->classRows() : std::span<const ClassRow>()) {
+        const QString className = QString::fromUtf8(row.className);
+        if (row.screenList) {
+            m_screenLists.insert(className, QString::fromUtf8(row.screenList));
+        }
+        if (row.preview) {
+            m_previews.insert(className, QString::fromUtf8(row.preview));
+        }
+    }
 }
 
 void DesignerFactory::loadPlugins(const QString &folder)
@@ -342,6 +381,21 @@ QString DesignerFactory::displayNameOf(const DesignerObject *object)
 {
     const QString className = object->className();
     return instance() ? instance()->m_displayNames.value(className, className) : className;
+}
+
+QString DesignerFactory::screenListOf(const DesignerObject *element)
+{
+    return instance() ? nearestEntry(instance()->m_screenLists, element) : QString();
+}
+
+QString DesignerFactory::previewOf(const DesignerObject *element)
+{
+    return instance() ? nearestEntry(instance()->m_previews, element) : QString();
+}
+
+int DesignerFactory::generation()
+{
+    return theGeneration();
 }
 
 void DesignerFactory::setFontFamilies(const QStringList &families)

@@ -76,6 +76,17 @@ public:
     static QString baseNameOf(const DesignerObject *object);
     static QString displayNameOf(const DesignerObject *object);
 
+    // What the tables say about the class of an element, or about its nearest base class of which they say
+    // something; empty without a factory or an entry.
+    //! The list of a screen's document that holds the element.
+    static QString screenListOf(const DesignerObject *element);
+    //! The class that a preview shows in its place.
+    static QString previewOf(const DesignerObject *element);
+    //! Whether any class names one.
+    static bool hasPreviews() { return instance() && !instance()->m_previews.isEmpty(); }
+    //! Changes whenever classes come or go. Whoever keeps something about all classes keeps this too.
+    static int generation();
+
     //! The font families that all font editors offer.
     const QStringList &fontFamilies() const { return m_fontFamilies; }
     void setFontFamilies(const QStringList &families);
@@ -96,6 +107,7 @@ private:
     bool areFree(const Names &names) const;
     void loadPlugin(const QString &file);
     void pluginFailed(const QString &message);
+    void readClassRows(const IDesignerFactory *factory);
 
     Registry m_objects;
     Registry m_graphicsItems;
@@ -106,6 +118,8 @@ private:
     QMap<QString, QString> m_classesByBase;
     QMap<QString, QString> m_displayNames;
     QMap<QString, QString> m_classesByDisplay;
+    QHash<QString, QString> m_screenLists; //!< by class name
+    QHash<QString, QString> m_previews;    //!< by class name
     QStringList m_fontFamilies;
     QStringList m_pluginErrors;
 };

@@ -284,8 +284,8 @@ QMap<SharedProperty, QString> DesignerObject::linkPropertiesWithId() const
 {
     QMap<SharedProperty, QString> links;
     for (const SharedProperty &property : properties()) {
-        if (property->isKindOfClass(LinkProperty::kindName())) {
-            links.insert(property, static_cast<const LinkProperty &>(*property).value().objectId());
+        if (const auto *link = propertyCast<LinkProperty>(property)) {
+            links.insert(property, link->value().objectId());
         }
     }
     return links;
@@ -295,8 +295,8 @@ QMap<SharedProperty, DesignerObject *> DesignerObject::linkPropertiesWithObjects
 {
     QMap<SharedProperty, DesignerObject *> links;
     for (const SharedProperty &property : properties()) {
-        if (property->isKindOfClass(LinkProperty::kindName())) {
-            links.insert(property, static_cast<const LinkProperty &>(*property).connectLink());
+        if (const auto *link = propertyCast<LinkProperty>(property)) {
+            links.insert(property, link->connectLink());
         }
     }
     return links;

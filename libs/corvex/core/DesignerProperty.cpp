@@ -261,6 +261,21 @@ void DesignerProperty::setCreators(BindingsCreator bindingsCreator, QmlCreator q
     }
 }
 
+void DesignerProperty::setReferences(Form form)
+{
+    redescribe(&PropertyDescriptor::references, form);
+}
+
+void DesignerProperty::setStatesOf(const QString &linkId)
+{
+    redescribe(&PropertyDescriptor::statesOf, linkId);
+}
+
+void DesignerProperty::setNeedsPictures(bool needed)
+{
+    redescribe(&PropertyDescriptor::needsPictures, needed);
+}
+
 void DesignerProperty::setObjectFilters(const QStringList &classNames)
 {
     redescribe(&PropertyDescriptor::objectFilters, classNames);

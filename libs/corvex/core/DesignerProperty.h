@@ -9,6 +9,7 @@
 #include <QSharedPointer>
 
 #include <type_traits>
+#include <utility>
 
 namespace Halvane::Corvex::Designer {
 
@@ -79,6 +80,17 @@ public:
     //! Each of these two replaces what the other one has set.
     void setBindingsCreator(BindingsCreator creator);
     void setQmlCreator(QmlCreator creator);
+
+    //! In which form the value names other objects.
+    Form references() const { return descriptor().references; }
+    void setReferences(Form form);
+    //! The id of the link that names the element which the states in the value describe; empty unless set.
+    //! They go over to another element together with the link.
+    const QString &statesOf() const { return descriptor().statesOf; }
+    void setStatesOf(const QString &linkId);
+    //! Whether an edit is refused while the file of an image that the new value names is missing.
+    bool needsPictures() const { return descriptor().needsPictures; }
+    void setNeedsPictures(bool needed);
 
     //! Children must have one of these classes or derive from one; empty accepts all.
     const QStringList &objectFilters() const { return descriptor().objectFilters; }
@@ -295,5 +307,35 @@ private:
 
 //! A shared reference to a property, registered in Qt's meta-type system under its full name.
 using SharedProperty = QSharedPointer<DesignerProperty>;
+
+//! \a property as a \a Kind if its class names include that kind, else null.
+template<class Kind>
+const Kind *propertyCast(const DesignerProperty *property)
+{
+    const bool isKind =
+        property && (property->className() == Kind::kindName() || property->isKindOfClass(Kind::kindName()));
+    return isKind ? static_cast<const Kind *>(property) : nullptr;
+}
+
+template<class Kind>
+const Kind *propertyCast(const SharedProperty &property)
+{
+    return propertyCast<Kind>(property.data());
+}
+
+//! The value of a property of that kind; an empty value for null and for a property of another kind.
+template<class Kind>
+const auto &valueAs(const DesignerProperty *property)
+{
+    static const std::remove_cvref_t<decltype(std::declval<const Kind &>().value())> none{};
+    const Kind *typed = propertyCast<Kind>(property);
+    return typed ? typed->value() : none;
+}
+
+template<class Kind>
+const auto &valueAs(const SharedProperty &property)
+{
+    return valueAs<Kind>(property.data());
+}
 
 } // namespace Halvane::Corvex::Designer

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/Export.h"
+#include "corvex/core/Form.h"
 #include "corvex/core/NumberRange.h"
 #include "corvex/core/PropertyFlag.h"
 
@@ -42,6 +43,7 @@ struct CORVEX_EXPORT PropertyDescriptor : public QSharedData
     QString initialText;    //!< the text of the property while it has the value of its row; null if unknown
     QByteArray utf8Initial; //!< the same as written in files
     QStringList objectFilters;
+    QString statesOf; //!< the id of the link to the element that the value describes
     ValueValidator valueValidator = nullptr;
     ItemValidator addValidator = nullptr;
     ItemValidator removeValidator = nullptr;
@@ -49,7 +51,9 @@ struct CORVEX_EXPORT PropertyDescriptor : public QSharedData
     QmlCreator qmlCreator = nullptr; //!< at most one of the two creators is set
     PropertyFlags flags;
     int rank = 99;
+    Form references = Form::None;
     bool allowInvalidValue = false;
+    bool needsPictures = false;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -44,6 +44,9 @@ PropertyRow::PropertyRow(const SharedProperty &prototype, Maker maker, Builder b
     , m_builder(builder)
     , m_size(size)
 {
+    if (maker && !prototype->flags()) {
+        prototype->setFlags(OrdinaryFlags);
+    }
     if (maker && !prototype->isList() && !prototype->isObject()) {
         PropertyDescriptor &descriptor = m_prototype->ownDescriptor();
         descriptor.initialText = prototype->convertToValueString();
@@ -150,6 +153,24 @@ PropertyRow &PropertyRow::removeValidator(ItemValidator check)
 PropertyRow &PropertyRow::qml(BindingsCreator creator)
 {
     m_prototype->setBindingsCreator(creator);
+    return *this;
+}
+
+PropertyRow &PropertyRow::references(Form form)
+{
+    m_prototype->setReferences(form);
+    return *this;
+}
+
+PropertyRow &PropertyRow::statesOf(const char *linkId)
+{
+    m_prototype->setStatesOf(text(linkId));
+    return *this;
+}
+
+PropertyRow &PropertyRow::needsPictures()
+{
+    m_prototype->setNeedsPictures(true);
     return *this;
 }
 

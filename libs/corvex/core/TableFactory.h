@@ -18,6 +18,12 @@ struct ClassRow
     Make make;                      //!< null for an abstract class, which only has names; see makeObject
     const char *baseName = nullptr; //!< the stem of the names of new objects; null for a class without names
     const char *displayName = nullptr; //!< the name of the class for users
+    //! The list of a screen's document for elements of this class and of classes that derive from it; null
+    //! for the list of the base class.
+    const char *screenList = nullptr;
+    //! A class that the preview knows ("Rectangle"), to show in place of this one and of classes that derive
+    //! from it; null for that of the base class. Without any, the preview shows a labelled box.
+    const char *preview = nullptr;
 };
 
 //! A class of canvas items that a factory creates.
@@ -69,6 +75,8 @@ public:
     QStringList editorNames() const override;
     QStringList templateNames() const override;
     QStringList wizardNames() const override;
+
+    std::span<const ClassRow> classRows() const { return m_classes; }
 
 protected:
     //! The tables must outlive the factory.

@@ -36,7 +36,7 @@ const Configuration *configurationOf(const DesignerProperty *property)
 
 bool isOn(const SharedProperty &property)
 {
-    return property && static_cast<const BooleanProperty &>(*property).value();
+    return valueAs<BooleanProperty>(property);
 }
 
 RS485Lines linesOf(const Configuration *configuration)

@@ -59,6 +59,7 @@ bool ImageResource::initializeProperties()
             .editor("OriginalLocationEditor")
             .allowInvalid(),
         row<StringProperty>("imageFile", "Image File", QString())
+            .flags(0)
             .rank(2)
             .validator(imageFileValidator)
             .allowInvalid(),
@@ -198,8 +199,8 @@ void ImageResource::unlinkElement(DesignerObject *element)
 ImageResource *ImageResource::imageElement(const DesignerObject *element)
 {
     const SharedProperty source = element ? element->getProperty(u"source") : SharedProperty();
-    const bool isLink = source && source->isKindOfClass(LinkProperty::kindName());
-    return isLink ? static_cast<const LinkProperty &>(*source).connectLinkTo<ImageResource>() : nullptr;
+    const auto *link = propertyCast<LinkProperty>(source);
+    return link ? link->connectLinkTo<ImageResource>() : nullptr;
 }
 
 DesignerObject *ImageResource::createImageElement(const QString &name, const QSizeF &size,

@@ -39,7 +39,7 @@ bool nameValidator(const DesignerProperty *property, QString &error)
 
 bool defaultScreenValidator(const DesignerProperty *property, QString &error)
 {
-    const QString name = static_cast<const LinkProperty *>(property)->value().objectId();
+    const QString name = valueAs<LinkProperty>(property).objectId();
     if (name.isEmpty() || property->parentObject()->hasListItemInListProperty(u"screens"_s, name)) {
         return true;
     }
@@ -103,15 +103,12 @@ bool Project::initializeProperties()
             .filter({"Configuration"})
             .allowInvalid(),
         row<ObjectListProperty>("imageResources", "Image Resources", OrderRule::FileNameOrder)
-            .flags(65)
             .rank(13)
             .filter({"ImageResource"}),
         row<ObjectListProperty>("variables", "Project Variables", OrderRule::NaturalOrder)
-            .flags(65)
             .rank(14)
             .filter({"ProjectVariable"}),
         row<ObjectListProperty>("screens", "Screens", OrderRule::InsertionOrder)
-            .flags(65)
             .rank(15)
             .filter({"Screen"})
             .validator(&PropertyValidators::projectScreensValidator),

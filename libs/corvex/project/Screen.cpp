@@ -74,7 +74,6 @@ bool Screen::initializeProperties()
             .allowInvalid(),
         row<IntegerProperty>("orientation", "Orientation", 0)
             .rank(4)
-            .flags(15)
             .editor("ScreenOrientationEditor")
             .allowInvalid(),
         row<RealProperty>("scale", "Scale", 100.0)

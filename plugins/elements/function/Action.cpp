@@ -15,6 +15,7 @@ bool Action::initializeProperties()
     static const PropertyTable table{
         row<PropertyChangeListProperty>("propertyChanges", "Property Changes", PropertyList())
             .rank(1)
+            .needsPictures()
             .flags(ordinary)
             .editor("PropertyChangesEditor")
             .qml(&changesToQml)

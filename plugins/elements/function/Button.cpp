@@ -13,11 +13,10 @@ bool Button::initializeProperties()
 {
     static const PropertyTable table{
         visualElementRow("visualElement", "Visual Element").rank(1),
-        stateRow("normalState", "Normal State").rank(2),
-        stateRow("pressedState", "Pressed State").rank(3),
+        stateRow("normalState", "Normal State").rank(2).statesOf("visualElement").needsPictures(),
+        stateRow("pressedState", "Pressed State").rank(3).statesOf("visualElement").needsPictures(),
         expressionRow("pressed", "When Pressed", "PropertyChangesEditor")
             .rank(4)
-            .flags(ordinary)
             .validator(&codeValidator<GeneralDataList::AssignExpression>)
             .qml(&assignmentsToQml),
     };

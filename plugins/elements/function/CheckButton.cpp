@@ -12,8 +12,8 @@ bool CheckButton::initializeProperties()
 {
     static const PropertyTable table{
         visualElementRow("visualElement", "Visual Element").rank(1),
-        stateRow("checkedState", "Checked State").rank(2),
-        stateRow("uncheckedState", "Unchecked State").rank(3),
+        stateRow("checkedState", "Checked State").rank(2).needsPictures(),
+        stateRow("uncheckedState", "Unchecked State").rank(3).needsPictures(),
         projectLinkRow("variable", "Variable", "BooleanVariable").rank(4).qml(&linkNameToQml),
     };
     return FunctionElement::initializeProperties() && addProperties(table);

@@ -20,7 +20,8 @@ namespace {
 QmlBindings logToQml(const DesignerProperty *property)
 {
     QmlBindings bindings = linkNameToQml(property);
-    if (const auto *log = static_cast<const LinkProperty *>(property)->connectLinkTo<LogVariable>()) {
+    const auto *link = propertyCast<LinkProperty>(property);
+    if (const auto *log = link ? link->connectLinkTo<LogVariable>() : nullptr) {
         for (const QString &id : {QStringLiteral("autoStart"), QStringLiteral("interval"),
                                   QStringLiteral("maxDataPoints"), QStringLiteral("startDelay")}) {
             for (const QmlBinding &binding : log->getProperty(id)->qmlBindings()) {

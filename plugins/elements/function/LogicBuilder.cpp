@@ -54,7 +54,7 @@ bool LogicBuilder::initializeProperties()
     static const PropertyTable table{
         row<StringProperty>("logicExpression", "Rules", QString())
             .rank(1)
-            .flags(ordinary)
+            .references(Form::Expressions)
             .editor("VerticalBooleanExpressionEditor")
             .validator(&logicValidator)
             .qml(&logicToQml)

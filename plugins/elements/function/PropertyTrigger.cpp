@@ -34,17 +34,15 @@ bool PropertyTrigger::initializeProperties()
     static const PropertyTable table{
         expressionRow("dataValues", "Data Values", "PropertyEditor")
             .rank(1)
-            .flags(ordinary)
             .validator(&termsValidator)
             .qml(&termsToQml),
         expressionRow("condition", "Condition", "VerticalBooleanExpressionEditor")
             .rank(2)
-            .flags(ordinary)
             .validator(&codeValidator<GeneralDataList::BoolExpression>)
             .qml(&conditionToQml),
         row<StringProperty>("actionScheduler", "Actions", QString())
             .rank(3)
-            .flags(ordinary)
+            .references(Form::CommaNames)
             .validator(&actionsValidator)
             .qml(&actionsToQml)
             .allowInvalid(),

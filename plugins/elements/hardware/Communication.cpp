@@ -16,11 +16,11 @@ bool BACnetService::initializeProperties()
     static const PropertyTable table{
         row<ListValueProperty>("bacNetObjectList", "BACnet Objects", ListInfo())
             .rank(1)
-            .flags(ordinary)
+            .references(Form::Names)
             .allowInvalid(),
         row<ListValueProperty>("bacNetDevices", "BACnet Devices", ListInfo())
             .rank(2)
-            .flags(ordinary)
+            .references(Form::Names)
             .allowInvalid(),
     };
     return FunctionElement::initializeProperties() && addProperties(table);
@@ -29,7 +29,10 @@ bool BACnetService::initializeProperties()
 bool ModbusCommands::initializeProperties()
 {
     static const PropertyTable table{
-        row<ListValueProperty>("commands", "Commands", ListInfo()).rank(1).flags(ordinary).allowInvalid(),
+        row<ListValueProperty>("commands", "Commands", ListInfo())
+            .rank(1)
+            .references(Form::NamePairs)
+            .allowInvalid(),
     };
     return FunctionElement::initializeProperties() && addProperties(table);
 }
@@ -39,7 +42,6 @@ bool SPICommunication::initializeProperties()
     static const PropertyTable table{
         expressionRow("dataValues", "Data Values", "VerticalMathExpressionEditor")
             .rank(1)
-            .flags(ordinary)
             .validator(&termsValidator)
             .qml(&termsToQml),
     };

@@ -28,7 +28,7 @@ QFont deviceFont(const QString &text)
 
 Qt::Alignment alignmentOf(const DesignerProperty &property)
 {
-    return Qt::Alignment(static_cast<const EnumProperty &>(property).value().value());
+    return Qt::Alignment(valueAs<EnumProperty>(&property).value());
 }
 
 } // namespace

@@ -34,6 +34,7 @@ bool Image::initializeProperties()
     static const PropertyTable table{
         projectLinkRow("source", "Source", "ImageResource")
             .rank(2)
+            .needsPictures()
             .editor("ImageSourceEditor")
             .validator(&linkTargetValidator)
             .qml(&sourceToQml),

@@ -23,7 +23,6 @@ bool Rectangle::initializeProperties()
         row<BorderProperty>("border", "Border", BorderInfo(1, Qt::black)).rank(5).allowInvalid(),
         row<IntegerProperty>("radius", "Corner Radius", 0)
             .rank(6)
-            .flags(ordinary)
             .parameter("minimum", 0)
             .parameter("suffix", QStringLiteral(" px"))
             .allowInvalid(),

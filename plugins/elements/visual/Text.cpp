@@ -32,7 +32,6 @@ bool Text::initializeProperties()
     static const PropertyTable table{
         row<StringProperty>("text", "Text", QString())
             .rank(2)
-            .flags(ordinary)
             .editor("PlainTextEditor")
             .qml(&boundToQml)
             .allowInvalid(),
@@ -44,13 +43,11 @@ bool Text::initializeProperties()
         row<EnumProperty>("horizontalAlignment", "Horizontal Alignment",
                           EnumInfo(QMetaEnum::fromType<HorizontalAlignment>(), AlignLeft))
             .rank(8)
-            .flags(ordinary)
             .editor("EnumEditor")
             .qml(&alignmentToQml),
         row<EnumProperty>("verticalAlignment", "Vertical Alignment",
                           EnumInfo(QMetaEnum::fromType<VerticalAlignment>(), AlignVCenter))
             .rank(9)
-            .flags(ordinary)
             .editor("EnumEditor")
             .qml(&alignmentToQml),
     };

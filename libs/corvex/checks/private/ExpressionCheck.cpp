@@ -64,10 +64,8 @@ bool isAlone(Iterator term, Iterator end, QLatin1StringView parenthesis)
 
 bool ExpressionCheck::concerns(const DesignerProperty &property)
 {
-    const ReferenceForm::Form form = ReferenceForm::of(property);
     const bool isExpression =
-        form == ReferenceForm::Expressions
-        || (form == ReferenceForm::Expression && property.isKindOfClass(u"GeneralDataListProperty"_s));
+        property.references() == Form::Expressions || propertyCast<GeneralDataListProperty>(&property);
     return isExpression && property.parentObject()->isKindOfClass(u"Element"_s);
 }
 
@@ -76,8 +74,8 @@ void ExpressionCheck::look(const DesignerProperty &property)
     if (!property.isValid()) {
         return;
     }
-    if (property.isKindOfClass(u"GeneralDataListProperty"_s)) {
-        const GeneralDataList &terms = static_cast<const GeneralDataListProperty &>(property).value();
+    if (const auto *expression = propertyCast<GeneralDataListProperty>(&property)) {
+        const GeneralDataList &terms = expression->value();
         if (terms.isEmpty()) {
             return;
         }

@@ -65,7 +65,7 @@ void FieldbusCheck::lookForSharedBits(const DesignerProperty &variables)
         const SharedProperty &property = static_cast<const CANVariable *>(object)->parameterMap();
         CanParameterMap map;
         QString error;
-        if (!map.read(static_cast<const GeneralDataListProperty &>(*property).value(), error)) {
+        if (!map.read(valueAs<GeneralDataListProperty>(property), error)) {
             continue;
         }
         Message &message = messages[quint32(map.pgn()) << 8 | quint32(map.sourceAddress())];

@@ -6,6 +6,7 @@
 #include "corvex/core/ItemList.h"
 #include "corvex/core/PropertyValidators.h"
 #include "corvex/core/properties/ExpressionProperties.h"
+#include "corvex/core/properties/LinkProperty.h"
 #include "corvex/variables/MappingVariable.h"
 #include "corvex/variables/ModbusMap.h"
 
@@ -77,11 +78,11 @@ ProblemCode refusalCode(const DesignerProperty &property)
             return row.code;
         }
     }
-    if (property.isKindOfClass(u"LinkProperty"_s)) {
+    if (propertyCast<LinkProperty>(&property)) {
         return ProblemCode::LinkTarget;
     }
-    return property.isKindOfClass(GeneralDataListProperty::kindName()) ? ProblemCode::ExpressionInvalid
-                                                                       : ProblemCode::ValueInvalid;
+    return propertyCast<GeneralDataListProperty>(&property) ? ProblemCode::ExpressionInvalid
+                                                            : ProblemCode::ValueInvalid;
 }
 
 //! What is drawn can be drawn with any number; everything else counts on its range.

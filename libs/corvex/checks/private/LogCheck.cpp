@@ -16,13 +16,13 @@ const QString logClass = u"LogVariable"_s;
 
 bool LogCheck::concerns(const DesignerProperty &property)
 {
-    return property.isKindOfClass(u"LinkProperty"_s)
+    return propertyCast<LinkProperty>(&property)
            && property.editorParameter(u"filterType"_s).toString() == logClass;
 }
 
 void LogCheck::look(const DesignerProperty &link)
 {
-    m_fed.insert(static_cast<const LinkProperty &>(link).value().objectId());
+    m_fed.insert(valueAs<LinkProperty>(&link).objectId());
 }
 
 void LogCheck::join(Check &later)

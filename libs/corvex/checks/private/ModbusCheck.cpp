@@ -40,7 +40,7 @@ void ModbusCheck::look(const DesignerProperty &map)
     const auto kind = ModbusMap::RegisterKind(map.editorParameter(u"RegType"_s).toInt());
     ModbusMap registers(kind);
     QString error;
-    if (!project || !registers.read(static_cast<const GeneralDataListProperty &>(map).value(), error)) {
+    if (!project || !registers.read(valueAs<GeneralDataListProperty>(&map), error)) {
         return;
     }
     const bool isBit = kind == ModbusMap::Coil || kind == ModbusMap::DiscreteInput;

@@ -34,8 +34,8 @@ template<class Property>
 auto listOf(const DesignerProperty &property)
 {
     using List = std::remove_cvref_t<decltype(std::declval<Property>().value())>;
-    return property.isKindOfClass(Property::kindName()) ? static_cast<const Property &>(property).value()
-                                                        : List(property.valueString());
+    const auto *typed = propertyCast<Property>(&property);
+    return typed ? typed->value() : List(property.valueString());
 }
 
 //! The numbers that a state or an action may give to a property. An element that is hardly to be seen is
@@ -68,9 +68,8 @@ ReferenceCheck::~ReferenceCheck() = default;
 
 bool ReferenceCheck::concerns(const DesignerProperty &property)
 {
-    const ReferenceForm::Form form = ReferenceForm::of(property);
     // The first halves of pairs may be names of the device's own.
-    return form != ReferenceForm::None && form != ReferenceForm::NamePairs;
+    return property.references() != Form::None && property.references() != Form::NamePairs;
 }
 
 void ReferenceCheck::look(const DesignerProperty &property)
@@ -78,28 +77,26 @@ void ReferenceCheck::look(const DesignerProperty &property)
     if (!property.isValid()) {
         return;
     }
-    const ReferenceForm::Form form = ReferenceForm::of(property);
-    if (form == ReferenceForm::Link) {
-        checkLink(static_cast<const LinkProperty &>(property));
+    if (const auto *link = propertyCast<LinkProperty>(&property)) {
+        checkLink(*link);
         return;
     }
     checkNames(property);
-    for (const Setting &setting : settingsOf(property, form)) {
+    for (const Setting &setting : settingsOf(property, property.references())) {
         checkSetting(property, setting);
     }
 }
 
-QList<ReferenceCheck::Setting> ReferenceCheck::settingsOf(const DesignerProperty &property,
-                                                          ReferenceForm::Form form)
+QList<ReferenceCheck::Setting> ReferenceCheck::settingsOf(const DesignerProperty &property, Form form)
 {
     QList<Setting> settings;
-    if (form == ReferenceForm::States) {
+    if (form == Form::States) {
         for (const UpdateObjectInfo &update : listOf<UpdateObjectListProperty>(property)) {
             for (const PropertyInfo &info : update.propertyValues()) {
                 settings.append({update.name(), info.propName(), info.propValue()});
             }
         }
-    } else if (form == ReferenceForm::Changes) {
+    } else if (form == Form::Changes) {
         for (const PropertyChangeInfo &change : listOf<PropertyChangeListProperty>(property)) {
             settings.append({change.elementName(), change.propertyName(), change.valueString()});
         }

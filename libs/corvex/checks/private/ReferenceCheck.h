@@ -32,7 +32,7 @@ public:
 private:
     struct Setting;
 
-    static QList<Setting> settingsOf(const DesignerProperty &property, ReferenceForm::Form form);
+    static QList<Setting> settingsOf(const DesignerProperty &property, Form form);
     void checkLink(const LinkProperty &link);
     void checkNames(const DesignerProperty &property);
     void checkSetting(const DesignerProperty &property, const Setting &setting);

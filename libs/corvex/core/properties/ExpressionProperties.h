@@ -13,6 +13,19 @@
 
 namespace Halvane::Corvex::Designer {
 
+template<>
+inline constexpr Form ReferencesIn<GeneralDataInfo> = Form::Expression;
+template<>
+inline constexpr Form ReferencesIn<GeneralDataList> = Form::Expression;
+template<>
+inline constexpr Form ReferencesIn<UpdateObjectInfo> = Form::States;
+template<>
+inline constexpr Form ReferencesIn<UpdateObjectList> = Form::States;
+template<>
+inline constexpr Form ReferencesIn<PropertyChangeInfo> = Form::Changes;
+template<>
+inline constexpr Form ReferencesIn<PropertyList> = Form::Changes;
+
 //! One term of an expression. Its users compile it; it writes no QML itself.
 class CORVEX_EXPORT GeneralDataProperty : public TypedProperty<GeneralDataInfo>
 {

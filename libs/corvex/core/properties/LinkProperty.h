@@ -8,6 +8,9 @@
 
 namespace Halvane::Corvex::Designer {
 
+template<>
+inline constexpr Form ReferencesIn<ObjectLinkInfo> = Form::Link;
+
 //! A reference to another object by its identifier name.
 class CORVEX_EXPORT LinkProperty : public TypedProperty<ObjectLinkInfo>
 {

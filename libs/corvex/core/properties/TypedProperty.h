@@ -39,7 +39,11 @@ public:
     TypedProperty(DesignerObject *parent, const QString &id, const QString &name, const Value &initialValue)
         : DesignerProperty(parent, id, name)
         , m_value(initialValue)
-    { }
+    {
+        if constexpr (ReferencesIn<Value> != Form::None) {
+            setReferences(ReferencesIn<Value>);
+        }
+    }
 
     const Value &value() const { return m_value; }
 

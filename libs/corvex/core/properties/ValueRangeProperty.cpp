@@ -20,13 +20,10 @@ constexpr double resolution = 0.001;
 //! The element that knows the voltages of \a owner: its analog input or \a owner itself.
 const DesignerObject *inputOf(const DesignerObject *owner)
 {
-    const SharedProperty link = owner->getProperty(u"analogInput");
-    if (link && link->isKindOfClass(u"LinkProperty"_s)) {
-        if (const DesignerObject *input = static_cast<const LinkProperty &>(*link).connectLink()) {
-            return input;
-        }
-    }
-    return owner;
+    const SharedProperty property = owner->getProperty(u"analogInput");
+    const auto *link = propertyCast<LinkProperty>(property);
+    const DesignerObject *input = link ? link->connectLink() : nullptr;
+    return input ? input : owner;
 }
 
 //! The voltages from the lowest to the highest; nothing if they are unknown or equal.

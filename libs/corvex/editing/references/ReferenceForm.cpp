@@ -4,6 +4,7 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/core/properties/LinkProperty.h"
+#include "corvex/editing/references/private/NestedForms.h"
 #include "corvex/values/expressions/GeneralDataList.h"
 #include "corvex/values/expressions/UpdateObjectList.h"
 #include "corvex/values/records/ListInfo.h"
@@ -11,35 +12,11 @@
 #include "corvex/values/runtime/PropertyList.h"
 #include "corvex/values/text/PairList.h"
 
-#include <QHash>
-
-#include <algorithm>
-#include <array>
-
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
 namespace {
-
-using Form = ReferenceForm::Form;
-
-//! Values that a state or an action gives to properties of elements, by the id alone, since the element may
-//! not be there.
-constexpr std::array nestedLinks{"source"_L1,          "variable"_L1,      "screen"_L1,
-                                 "mapping"_L1,         "visualElement"_L1, "incVisualElement"_L1,
-                                 "decVisualElement"_L1};
-constexpr std::array nestedExpressions{"initValue"_L1, "condition"_L1, "dataValues"_L1, "pressed"_L1};
-
-Form formOfNested(const QString &id)
-{
-    if (std::ranges::find(nestedLinks, id) != nestedLinks.end()) {
-        return Form::Link;
-    }
-    const bool isExpression =
-        id.endsWith("Binding"_L1) || std::ranges::find(nestedExpressions, id) != nestedExpressions.end();
-    return isExpression ? Form::Expression : Form::None;
-}
 
 constexpr NamedKinds projectKinds = NamedKind::Variable | NamedKind::Screen | NamedKind::Image;
 
@@ -125,6 +102,9 @@ bool visitValue(GeneralDataList &terms, const MentionVisitor &visitor)
     return isChanged;
 }
 
+//! The new value that a state or an action gives to a property, of which only the id is known.
+bool visitNested(const QString &id, QString &text, const MentionVisitor &visitor);
+
 bool visitValue(UpdateObjectList &list, const MentionVisitor &visitor)
 {
     bool isChanged = false;
@@ -148,7 +128,7 @@ bool visitValue(UpdateObjectList &list, const MentionVisitor &visitor)
         PropertyInfoList values;
         for (PropertyInfo value : update.propertyValues()) {
             QString nested = value.propValue();
-            if (ReferenceForm::visit(formOfNested(value.propName()), nested, visitor)) {
+            if (visitNested(value.propName(), nested, visitor)) {
                 isChanged = true;
                 value.setPropValue(nested);
             }
@@ -176,7 +156,7 @@ bool visitValue(PropertyList &list, const MentionVisitor &visitor)
             change.setElementName(mention.path);
         }
         QString nested = change.valueString();
-        if (ReferenceForm::visit(formOfNested(change.propertyName()), nested, visitor)) {
+        if (visitNested(change.propertyName(), nested, visitor)) {
             isChanged = true;
             change.setValueString(nested);
         }
@@ -199,6 +179,13 @@ bool visitAs(QString &text, const MentionVisitor &visitor)
         text = value.toString();
     }
     return isChanged;
+}
+
+bool visitNested(const QString &id, QString &text, const MentionVisitor &visitor)
+{
+    const NestedForms &forms = NestedForms::current();
+    const bool isChanged = forms.isLink(id) && visitLink(nullptr, text, visitor);
+    return (forms.isExpression(id) && visitAs<GeneralDataList>(text, visitor)) || isChanged;
 }
 
 //! Shows each name and keeps those that are not dropped.
@@ -269,97 +256,55 @@ bool visitExpressions(QString &text, const MentionVisitor &visitor)
     return isChanged;
 }
 
-bool showLink(const DesignerProperty &property, const MentionVisitor &visitor)
-{
-    const auto &link = static_cast<const LinkProperty &>(property);
-    ObjectLinkInfo copy = link.value();
-    return visitLink(&link, copy, visitor);
-}
-
+//! Shows what the value mentions, if the property is of that class; otherwise its text has to be read.
 template<class Property>
 bool showValue(const DesignerProperty &property, const MentionVisitor &visitor)
 {
-    auto copy = static_cast<const Property &>(property).value();
-    return visitValue(copy, visitor);
+    const auto *typed = propertyCast<Property>(&property);
+    if (typed) {
+        auto copy = typed->value();
+        visitValue(copy, visitor);
+    }
+    return typed;
 }
 
-bool showText(const DesignerProperty &property, const MentionVisitor &visitor)
+bool showLink(const DesignerProperty &property, const MentionVisitor &visitor)
 {
-    QString text = property.valueString();
-    return ReferenceForm::visit(ReferenceForm::of(property), text, visitor);
+    const auto *link = propertyCast<LinkProperty>(&property);
+    if (link) {
+        ObjectLinkInfo copy = link->value();
+        visitLink(link, copy, visitor);
+    }
+    return link;
 }
 
-//! A class of properties with a form. An owner and an id restrict it to one property of one class.
-struct Site
+bool showTyped(const DesignerProperty &property, const MentionVisitor &visitor)
 {
-    QLatin1StringView propertyClass;
-    Form form;
-    bool (*show)(const DesignerProperty &property, const MentionVisitor &visitor); //!< its value as it is
-    QLatin1StringView owner = {};
-    QLatin1StringView id = {};
-};
-
-constexpr std::array sites{
-    Site{"LinkProperty"_L1, Form::Link, &showLink},
-    Site{"GeneralDataProperty"_L1, Form::Expression, &showText},
-    Site{"GeneralDataListProperty"_L1, Form::Expression, &showValue<GeneralDataListProperty>},
-    Site{"UpdateObjectProperty"_L1, Form::States, &showText},
-    Site{"UpdateObjectListProperty"_L1, Form::States, &showValue<UpdateObjectListProperty>},
-    Site{"PropertyChangeProperty"_L1, Form::Changes, &showText},
-    Site{"PropertyChangeListProperty"_L1, Form::Changes, &showValue<PropertyChangeListProperty>},
-    Site{"ListValueProperty"_L1, Form::Names, &showText, "GroupElement"_L1, "indexes"_L1},
-    Site{"ListValueProperty"_L1, Form::Names, &showText, "FilterElement"_L1, "elements"_L1},
-    Site{"ListValueProperty"_L1, Form::Names, &showText, "BACnetService"_L1, "bacNetObjectList"_L1},
-    Site{"ListValueProperty"_L1, Form::Names, &showText, "BACnetService"_L1, "bacNetDevices"_L1},
-    Site{"ListValueProperty"_L1, Form::NamePairs, &showText, "ModbusCommands"_L1, "commands"_L1},
-    Site{"StringProperty"_L1, Form::CommaNames, &showText, "PropertyTrigger"_L1, "actionScheduler"_L1},
-    Site{"StringProperty"_L1, Form::Expressions, &showText, "LogicBuilder"_L1, "logicExpression"_L1},
-};
-
-//! The rows for the class of the property and its bases, looked up once for each class in each thread.
-const QList<const Site *> &sitesOf(const DesignerProperty &property)
-{
-    static thread_local QHash<QString, QList<const Site *>> known;
-    const auto found = known.constFind(property.className());
-    if (found != known.cend()) {
-        return *found;
+    switch (property.references()) {
+    case Form::Link:
+        return showLink(property, visitor);
+    case Form::Expression:
+        return showValue<GeneralDataListProperty>(property, visitor);
+    case Form::States:
+        return showValue<UpdateObjectListProperty>(property, visitor);
+    case Form::Changes:
+        return showValue<PropertyChangeListProperty>(property, visitor);
+    default:
+        return false;
     }
-    const QStringList classNames = property.classNames();
-    QList<const Site *> rows;
-    for (const Site &site : sites) {
-        if (classNames.contains(site.propertyClass)) {
-            rows.append(&site);
-        }
-    }
-    return *known.insert(property.className(), rows);
-}
-
-//! Null for a property that names nothing.
-const Site *siteOf(const DesignerProperty &property)
-{
-    for (const Site *site : sitesOf(property)) {
-        if (site->id.isEmpty()
-            || (property.id() == site->id && property.parentObject()
-                && property.parentObject()->isKindOfClass(site->owner))) {
-            return site;
-        }
-    }
-    return nullptr;
 }
 
 } // namespace
 
 ReferenceForm::Form ReferenceForm::of(const DesignerProperty &property)
 {
-    const Site *site = siteOf(property);
-    return site ? site->form : None;
+    return property.references();
 }
 
 bool ReferenceForm::visit(const DesignerProperty &property, QString &text, const MentionVisitor &visitor)
 {
-    const Form form = of(property);
-    return form == Link ? visitLink(static_cast<const LinkProperty *>(&property), text, visitor)
-                        : visit(form, text, visitor);
+    const auto *link = property.references() == Link ? propertyCast<LinkProperty>(&property) : nullptr;
+    return link ? visitLink(link, text, visitor) : visit(property.references(), text, visitor);
 }
 
 bool ReferenceForm::visit(Form form, QString &text, const MentionVisitor &visitor)
@@ -399,8 +344,9 @@ QList<Mention> ReferenceForm::mentions(const DesignerProperty &property, const Q
 QList<Mention> ReferenceForm::mentions(const DesignerProperty &property)
 {
     QList<Mention> found;
-    if (const Site *site = siteOf(property)) {
-        site->show(property, [&found](const Mention &mention) { found.append(mention); });
+    if (!showTyped(property, [&found](const Mention &mention) { found.append(mention); })
+        && property.references() != None) {
+        found = mentions(property, property.valueString());
     }
     return found;
 }

@@ -9,7 +9,10 @@ namespace Halvane::Corvex::Designer {
 bool FilterElement::initializeProperties()
 {
     static const PropertyTable table{
-        row<ListValueProperty>("elements", "Elements", ListInfo()).rank(1).flags(15).allowInvalid(),
+        row<ListValueProperty>("elements", "Elements", ListInfo())
+            .rank(1)
+            .references(Form::Names)
+            .allowInvalid(),
     };
     return Element::initializeProperties() && addProperties(table);
 }

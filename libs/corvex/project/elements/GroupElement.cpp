@@ -19,8 +19,8 @@ bool GroupElement::initializeProperties()
     static const PropertyTable table{
         row<ListValueProperty>("indexes", "Indexes", ListInfo())
             .rank(2)
-            .flags(15)
             .editor("ItemsOrderEditor")
+            .references(Form::Names)
             .validator(&PropertyValidators::groupIndexesValidator)
             .allowInvalid(),
         row<ObjectListProperty>("elements", "Elements", OrderRule::InsertionOrder)

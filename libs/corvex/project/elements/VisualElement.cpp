@@ -43,7 +43,6 @@ bool VisualElement::initializeProperties()
             .allowInvalid(),
         row<RealProperty>("opacity", "Opacity", 100.0)
             .rank(50)
-            .flags(15)
             .editor("OpacityEditor")
             .parameter("minimum", smallestOpacity)
             .parameter("maximum", 100)
@@ -53,11 +52,9 @@ bool VisualElement::initializeProperties()
             .allowInvalid(),
         row<TransformOriginProperty>("transformOrigin", "Transform Origin", QQuickItem::Center)
             .rank(51)
-            .flags(15)
             .tooltip("Controls the point about which simple transforms like scale apply."),
         row<RealProperty>("rotation", "Rotation (Clockwise)", 0.0)
             .rank(52)
-            .flags(15)
             .parameter("minimum", 0)
             .parameter("maximum", 359.99)
             .parameter("singleStep", 1)
@@ -66,7 +63,6 @@ bool VisualElement::initializeProperties()
             .allowInvalid(),
         row<RealProperty>("scale", "Scale", 100.0)
             .rank(53)
-            .flags(15)
             .editor("ScaleEditor")
             .parameter("minimum", -500)
             .parameter("maximum", 500)
@@ -75,7 +71,6 @@ bool VisualElement::initializeProperties()
             .allowInvalid(),
         row<IntegerProperty>("z", "Layer", 0)
             .rank(54)
-            .flags(15)
             .parameter("minimum", 0)
             .parameter("maximum", topLayer)
             .parameter("showSlider", true)
@@ -83,7 +78,6 @@ bool VisualElement::initializeProperties()
             .allowInvalid(),
         row<BooleanProperty>("visible", "Visible", true)
             .rank(55)
-            .flags(15)
             .tooltip("When set to invisible the visual element will become unclickable."),
     };
     return Element::initializeProperties() && addProperties(table);

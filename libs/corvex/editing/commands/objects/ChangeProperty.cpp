@@ -20,45 +20,11 @@
 #include <QDebug>
 #include <QFileInfo>
 
-#include <array>
-
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
 namespace {
-
-//! Which states describe the element that a link of a function element names.
-struct LinkedStates
-{
-    QLatin1StringView className;
-    QLatin1StringView link;
-    std::array<QLatin1StringView, 2> states;
-};
-
-constexpr std::array linkedStates{
-    LinkedStates{"Button"_L1, "visualElement"_L1, {"normalState"_L1, "pressedState"_L1}},
-    LinkedStates{"NumberSpinner"_L1, "incVisualElement"_L1, {"incNormalState"_L1, "incPressedState"_L1}},
-    LinkedStates{"NumberSpinner"_L1, "decVisualElement"_L1, {"decNormalState"_L1, "decPressedState"_L1}},
-};
-
-//! The properties whose pictures have to be there.
-struct Pictured
-{
-    QLatin1StringView className;
-    QLatin1StringView property;
-};
-
-constexpr std::array pictured{
-    Pictured{"Image"_L1, "source"_L1},
-    Pictured{"Button"_L1, "normalState"_L1},
-    Pictured{"Button"_L1, "pressedState"_L1},
-    Pictured{"NumberSpinner"_L1, "incNormalState"_L1},
-    Pictured{"NumberSpinner"_L1, "incPressedState"_L1},
-    Pictured{"CheckButton"_L1, "checkedState"_L1},
-    Pictured{"CheckButton"_L1, "uncheckedState"_L1},
-    Pictured{"Action"_L1, "propertyChanges"_L1},
-};
 
 //! All updates of elements of the screen are for \a newName from here on; the others describe nothing.
 QString relinked(const QString &states, const QString &newName, const Screen *screen)
@@ -149,16 +115,14 @@ void ChangeProperty::setupCommand()
 void ChangeProperty::followLinkedElement()
 {
     const Screen *screen = owner()->screen();
-    for (const LinkedStates &row : linkedStates) {
-        if (property()->id() != row.link || !owner()->isKindOfClass(row.className)) {
-            continue;
-        }
-        const QString linked = ObjectLinkInfo(m_after).objectId();
-        for (const QLatin1StringView id : row.states) {
-            const SharedProperty state = owner()->getProperty(QString(id));
-            if (state && screen && screen->hasElement(linked)) {
-                addChange(state, relinked(valueOf(state), linked, screen));
-            }
+    const QString linked =
+        property()->references() == Form::Link ? ObjectLinkInfo(m_after).objectId() : QString();
+    if (!screen || !screen->hasElement(linked)) {
+        return;
+    }
+    for (const SharedProperty &state : owner()->properties()) {
+        if (state->statesOf() == property()->id()) {
+            addChange(state, relinked(valueOf(state), linked, screen));
         }
     }
 }
@@ -173,11 +137,8 @@ void ChangeProperty::followName()
 
 bool ChangeProperty::notifyFileMissing() const
 {
-    const auto isShown = [this](const Pictured &row) {
-        return property()->id() == row.property && owner()->isKindOfClass(row.className);
-    };
     const Project *project = owner()->project();
-    if (!project || std::none_of(pictured.begin(), pictured.end(), isShown)) {
+    if (!project || !property()->needsPictures()) {
         return false;
     }
     for (const Mention &mention : ReferenceForm::mentions(*property(), m_after)) {

@@ -15,9 +15,8 @@ namespace {
 //! A swap that the list's own order undoes at once could not be taken back by another one.
 bool canExchange(const DesignerProperty &list, const DesignerObject &first, const DesignerObject &second)
 {
-    const auto rule = list.isKindOfClass(ObjectListProperty::kindName())
-                          ? static_cast<const ObjectListProperty &>(list).orderRule()
-                          : OrderRule::InsertionOrder;
+    const auto *objects = propertyCast<ObjectListProperty>(&list);
+    const auto rule = objects ? objects->orderRule() : OrderRule::InsertionOrder;
     const auto isVisual = [](const DesignerObject &item) { return item.isKindOfClass(u"VisualElement"_s); };
     const auto isSorted = [](const DesignerObject &item) {
         return item.isKindOfClass(u"HardwareElement"_s) || item.isKindOfClass(u"FunctionElement"_s)
