@@ -45,7 +45,7 @@ QString propertiesText(const DesignerObject &object)
     BACnetPropertyList list;
     QString error;
     const SharedProperty terms = object.getProperty(u"properties");
-    if (!list.read(static_cast<const GeneralDataListProperty &>(*terms).value(), error)) {
+    if (!list.read(valueAs<GeneralDataListProperty>(terms), error)) {
         return {};
     }
     QStringList texts;

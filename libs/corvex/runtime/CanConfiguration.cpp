@@ -43,7 +43,7 @@ void CanConfiguration::add(const CANVariable &variable)
 {
     CanParameterMap map;
     QString error;
-    if (!map.read(static_cast<const GeneralDataListProperty &>(*variable.parameterMap()).value(), error)) {
+    if (!map.read(valueAs<GeneralDataListProperty>(variable.parameterMap()), error)) {
         return;
     }
     const QString key = u"%1,%2"_s.arg(text(map.pgn()), text(map.sourceAddress()));

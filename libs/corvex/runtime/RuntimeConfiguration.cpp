@@ -6,7 +6,6 @@
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/common/private/PasswordHash.h"
 #include "corvex/values/records/ObjectLinkInfo.h"
-#include "corvex/variables/AutoSettingVariable.h"
 #include "corvex/variables/BACnetDevice.h"
 #include "corvex/variables/CANVariable.h"
 
@@ -77,18 +76,14 @@ void RuntimeConfiguration::sortVariables()
 
 void RuntimeConfiguration::addVariable(const ProjectVariable &variable)
 {
-    const QString kind = variable.className();
-    if (kind == CANVariable::kindName()) {
-        m_can.add(static_cast<const CANVariable &>(variable));
-    } else if (kind == BACnetDevice::kindName()) {
-        m_bacnet.addDevice(static_cast<const BACnetDevice &>(variable));
-    } else if (kind == "BACnetObject"_L1) {
+    if (const auto *can = kindCast<CANVariable>(&variable)) {
+        m_can.add(*can);
+    } else if (const auto *device = kindCast<BACnetDevice>(&variable)) {
+        m_bacnet.addDevice(*device);
+    } else if (variable.isKindOfClass(u"BACnetObject"_s)) {
         m_bacnet.addObject(variable);
-    } else if (kind == AutoSettingVariable::kindName()) {
-        const auto &settings = static_cast<const AutoSettingVariable &>(variable);
-        addRecord(u"%1.%2"_s.arg(settings.typeOfObject()->valueString(), variable.getIdName()), variable);
-    } else if (kind != "MappingVariable"_L1 && kind != "LogVariable"_L1) {
-        addRecord(variable.getIdName(), variable);
+    } else if (const QString key = variable.configurationKey(); !key.isEmpty()) {
+        addRecord(key, variable);
     }
 }
 

@@ -5,7 +5,14 @@
 #include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/ExpressionProperties.h"
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Designer {
+
+QString AutoSettingVariable::configurationKey() const
+{
+    return u"%1.%2"_s.arg(m_typeOfObject->valueString(), getIdName());
+}
 
 bool AutoSettingVariable::initializeProperties()
 {
@@ -13,7 +20,6 @@ bool AutoSettingVariable::initializeProperties()
         fixedPersistence(false),
         row<StringProperty>("typeOfObject", "Object Type", QString())
             .rank(12)
-            .flags(15)
             .allowInvalid()
             .editor("AutosaveObjectEditor"),
     };

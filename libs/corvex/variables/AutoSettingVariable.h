@@ -16,6 +16,8 @@ public:
     VariableType variableType() const override { return VariableType::DeviceVariable; }
     QVariant toVariant() const override { return value()->valueString(); }
 
+    QString configurationKey() const override;
+
     //! The object whose properties are saved.
     const SharedProperty &typeOfObject() const { return m_typeOfObject; }
 

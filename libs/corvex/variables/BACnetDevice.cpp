@@ -27,7 +27,6 @@ constexpr auto passwordDescription =
 PropertyRow numberRow(const char *id, const char *title, int initial, int maximum)
 {
     return row<IntegerProperty>(id, title, initial)
-        .flags(15)
         .allowInvalid()
         .parameter("minimum", 0)
         .parameter("maximum", maximum);
@@ -35,17 +34,17 @@ PropertyRow numberRow(const char *id, const char *title, int initial, int maximu
 
 PropertyRow switchRow(const char *id, const char *title, bool initial)
 {
-    return row<BooleanProperty>(id, title, initial).flags(15).allowInvalid();
+    return row<BooleanProperty>(id, title, initial).allowInvalid();
 }
 
 PropertyRow textRow(const char *id, const char *title, const QString &initial = {})
 {
-    return row<StringProperty>(id, title, initial).flags(15).allowInvalid();
+    return row<StringProperty>(id, title, initial).allowInvalid();
 }
 
 bool isOn(const SharedProperty &property)
 {
-    return static_cast<const BooleanProperty &>(*property).value();
+    return valueAs<BooleanProperty>(property);
 }
 
 bool validatePassword(const DesignerProperty *property, QString &error)

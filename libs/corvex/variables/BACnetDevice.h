@@ -13,6 +13,8 @@ class CORVEX_EXPORT BACnetDevice : public DeviceVariable
     CORVEX_CLASS_NAMES(BACnetDevice, ProjectVariable)
 
 public:
+    Connection connection() const override { return Connection::Ethernet; }
+
     const SharedProperty &isLocal() const { return m_isLocal; }
     const SharedProperty &isFixed() const { return m_isFixed; }
     const SharedProperty &ethernetIP() const { return m_ethernetIP; }

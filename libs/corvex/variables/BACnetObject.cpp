@@ -29,7 +29,7 @@ bool validateName(const DesignerProperty *property, QString &error)
 
 bool validateProperties(const DesignerProperty *property, QString &error)
 {
-    return BACnetPropertyList().read(static_cast<const GeneralDataListProperty *>(property)->value(), error);
+    return BACnetPropertyList().read(valueAs<GeneralDataListProperty>(property), error);
 }
 
 } // namespace
@@ -55,18 +55,15 @@ bool BACnetObject::initializeProperties()
         fixedPersistence(false),
         row<StringProperty>("objectID", "Object Identifier", u"0,0"_s)
             .rank(12)
-            .flags(15)
             .allowInvalid()
             .editor("BACObjIdEditor")
             .validator(&validateIdentifier),
         row<StringProperty>("bacnetObjName", "Object Name", QString())
             .rank(13)
-            .flags(15)
             .allowInvalid()
             .validator(&validateName),
         row<GeneralDataListProperty>("properties", "Property List", GeneralDataList())
             .rank(14)
-            .flags(15)
             .allowInvalid()
             .editor("BACnetPropertiesEditor")
             .validator(&validateProperties),

@@ -17,7 +17,7 @@ QVariant BooleanVariable::typedValue(QStringView text)
 SharedProperty BooleanVariable::initializeValueProperty()
 {
     static const PropertyRow prototype =
-        row<BooleanProperty>("value", "Variable Value", false).rank(10).flags(15).allowInvalid();
+        row<BooleanProperty>("value", "Variable Value", false).rank(10).allowInvalid();
     return prototype.make(this);
 }
 

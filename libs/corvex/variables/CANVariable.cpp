@@ -11,7 +11,7 @@ namespace {
 
 bool validateParameterMap(const DesignerProperty *property, QString &error)
 {
-    return CanParameterMap().read(static_cast<const GeneralDataListProperty *>(property)->value(), error);
+    return CanParameterMap().read(valueAs<GeneralDataListProperty>(property), error);
 }
 
 } // namespace
@@ -22,7 +22,6 @@ bool CANVariable::initializeProperties()
         fixedPersistence(false),
         row<GeneralDataListProperty>("parameterMap", "Parameter Map", GeneralDataList())
             .rank(12)
-            .flags(15)
             .allowInvalid()
             .editor("CANVariableEditor")
             .validator(&validateParameterMap),

@@ -13,6 +13,8 @@ class CORVEX_EXPORT CANVariable : public DeviceVariable
     CORVEX_CLASS_NAMES(CANVariable, ProjectVariable)
 
 public:
+    Connection connection() const override { return Connection::Can; }
+
     const SharedProperty &parameterMap() const { return m_parameterMap; }
 
 protected:

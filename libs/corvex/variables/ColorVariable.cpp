@@ -16,7 +16,7 @@ QVariant ColorVariable::typedValue(QStringView text)
 SharedProperty ColorVariable::initializeValueProperty()
 {
     static const PropertyRow prototype =
-        row<ColorProperty>("value", "Variable Value", QColor(Qt::black)).rank(10).flags(15).allowInvalid();
+        row<ColorProperty>("value", "Variable Value", QColor(Qt::black)).rank(10).allowInvalid();
     return prototype.make(this);
 }
 

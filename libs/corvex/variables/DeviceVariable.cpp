@@ -20,7 +20,7 @@ QVariant DeviceVariable::typedValue(const QString &text)
 SharedProperty DeviceVariable::initializeValueProperty()
 {
     static const PropertyRow prototype =
-        row<MapProperty>("value", "Variable Value", MapInfo()).rank(10).flags(15).allowInvalid();
+        row<MapProperty>("value", "Variable Value", MapInfo()).rank(10).allowInvalid();
     return prototype.make(this);
 }
 

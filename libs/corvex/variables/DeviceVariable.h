@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What the kinds share whose value is a map of names to values; no kind of its own.
+//! What the fieldbus variables share, whose value is a map of names to values; no kind of its own.
 class CORVEX_EXPORT DeviceVariable : public ProjectVariable
 {
     Q_OBJECT
@@ -14,6 +14,10 @@ class CORVEX_EXPORT DeviceVariable : public ProjectVariable
 public:
     VariableType variableType() const override { return VariableType::DeviceVariable; }
     QVariant toVariant() const override { return typedValue(value()->valueString()); }
+
+    bool isFieldbus() const override { return true; }
+    //! None: each fieldbus has a file of its own.
+    QString configurationKey() const override { return {}; }
 
     //! A QVariantMap of texts; invalid when the text is no map, the empty text among them.
     static QVariant typedValue(const QString &text);

@@ -12,7 +12,7 @@ namespace Halvane::Corvex::Designer {
 bool FtpVariable::initializeProperties()
 {
     const auto text = [](const char *id, const char *title) {
-        return row<StringProperty>(id, title, QString()).flags(15).allowInvalid();
+        return row<StringProperty>(id, title, QString()).allowInvalid();
     };
     static const PropertyTable table{
         fixedPersistence(true),
@@ -23,14 +23,13 @@ bool FtpVariable::initializeProperties()
         text("remotePath", "Remote Path").rank(16),
         row<IntegerProperty>("fileCount", "Upload file count", 5)
             .rank(17)
-            .flags(15)
             .allowInvalid()
             .parameter("minimum", 1)
             .parameter("maximum", 10)
             .parameter("singelStep", 1)
             .description("Data logged is split into mutiple files if logged with 'Save and Reset' option "
                          "provided in the Log Variable.\n\nUploads the most recent set of Log files."),
-        row<BooleanProperty>("fileRemove", "Delete after upload", true).rank(18).flags(15).allowInvalid(),
+        row<BooleanProperty>("fileRemove", "Delete after upload", true).rank(18).allowInvalid(),
     };
     if (!ProjectVariable::initializeProperties() || !addProperties(table)) {
         return false;
@@ -46,7 +45,7 @@ bool FtpVariable::initializeProperties()
 SharedProperty FtpVariable::initializeValueProperty()
 {
     static const PropertyRow prototype =
-        row<StringProperty>("value", "Ftp Value", QString()).rank(10).flags(15).allowInvalid();
+        row<StringProperty>("value", "Ftp Value", QString()).rank(10).allowInvalid();
     return prototype.make(this);
 }
 

@@ -14,6 +14,7 @@ class CORVEX_EXPORT FtpVariable : public ProjectVariable
 
 public:
     VariableType variableType() const override { return VariableType::FtpVariable; }
+    Connection connection() const override { return Connection::Ethernet; }
 
     const SharedProperty &host() const { return m_host; }
     const SharedProperty &type() const { return m_type; }

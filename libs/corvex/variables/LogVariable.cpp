@@ -12,7 +12,7 @@ namespace Halvane::Corvex::Designer {
 bool LogVariable::initializeProperties()
 {
     const auto integer = [](const char *id, const char *title, int initial) {
-        return row<IntegerProperty>(id, title, initial).flags(15).allowInvalid();
+        return row<IntegerProperty>(id, title, initial).allowInvalid();
     };
     static const PropertyTable table{
         fixedPersistence(false),
@@ -35,7 +35,6 @@ bool LogVariable::initializeProperties()
                          "Number: The timer is triggered after a specified delay.</li></ul>"),
         row<BooleanProperty>("autoStart", "Automatic Start", true)
             .rank(16)
-            .flags(15)
             .allowInvalid()
             .description("If set to true, the timer will start automatically after the screen is loaded."),
     };

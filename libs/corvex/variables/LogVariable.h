@@ -16,6 +16,8 @@ public:
     VariableType variableType() const override { return VariableType::LogVariable; }
     //! As that of a NumberVariable.
     QVariant toVariant() const override { return NumberVariable::typedValue(value()->valueString()); }
+    //! None: the element that samples the log describes it.
+    QString configurationKey() const override { return {}; }
 
 protected:
     using ProjectVariable::ProjectVariable;

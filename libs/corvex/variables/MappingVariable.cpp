@@ -12,14 +12,13 @@ namespace {
 template<ModbusMap::RegisterKind kind>
 bool validateMap(const DesignerProperty *property, QString &error)
 {
-    return ModbusMap(kind).read(static_cast<const GeneralDataListProperty *>(property)->value(), error);
+    return ModbusMap(kind).read(valueAs<GeneralDataListProperty>(property), error);
 }
 
 template<ModbusMap::RegisterKind kind>
 PropertyRow mapRow(const char *id, const char *title)
 {
     return row<GeneralDataListProperty>(id, title, GeneralDataList())
-        .flags(15)
         .allowInvalid()
         .editor(kind == ModbusMap::VirtualString ? "StringAddressMapEditor" : "AddressMapEditor")
         .parameter("RegType", int(kind))

@@ -78,7 +78,6 @@ const PropertyRow &NumberVariable::numberRow()
 {
     static const PropertyRow prototype = row<StringProperty>("value", "Variable Value", u"0"_s)
                                              .rank(10)
-                                             .flags(15)
                                              .allowInvalid()
                                              .editor("LargeNumberEditor")
                                              .validator(&validateNumber);

@@ -20,7 +20,6 @@ PropertyRow persistentRow(bool on)
                                  "option only works on the device.";
     return row<BooleanProperty>("persistent", "Persistent", on)
         .rank(11)
-        .flags(15)
         .description(description)
         .tooltip(description);
 }
@@ -85,7 +84,7 @@ bool ProjectVariable::initializeProperties()
 SharedProperty ProjectVariable::initializeValueProperty()
 {
     static const PropertyRow prototype =
-        row<StringProperty>("value", "Variable Value", QString()).rank(10).flags(15).allowInvalid();
+        row<StringProperty>("value", "Variable Value", QString()).rank(10).allowInvalid();
     return prototype.make(this);
 }
 
@@ -103,7 +102,6 @@ PropertyRow ProjectVariable::enumRow(const char *id, const char *title, const ch
 {
     const QString name = QString::fromLatin1(enumName);
     return row<EnumProperty>(id, title, EnumInfo(Common::EnumHelper::metaEnum(name), 0))
-        .flags(15)
         .allowInvalid()
         .editor("EnumEditor")
         .parameter("enumName", name);

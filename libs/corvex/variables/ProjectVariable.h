@@ -41,6 +41,14 @@ public:
     //! The value as the device gets it; invalid when its text does not stand for one.
     virtual QVariant toVariant() const;
 
+    //! Whether it describes an exchange with a fieldbus. Expressions cannot read it.
+    virtual bool isFieldbus() const { return false; }
+    //! The key of its record among the variables of the device's configuration; empty without a record.
+    virtual QString configurationKey() const { return getIdName(); }
+    //! What a device model must have for the variable to work.
+    enum class Connection : quint8 { None, Can, Ethernet };
+    virtual Connection connection() const { return Connection::None; }
+
 protected:
     explicit ProjectVariable(QObject *parent = nullptr);
 

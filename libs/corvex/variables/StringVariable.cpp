@@ -10,7 +10,6 @@ SharedProperty StringVariable::initializeValueProperty()
 {
     static const PropertyRow prototype = row<StringProperty>("value", "Variable Value", QString())
                                              .rank(10)
-                                             .flags(15)
                                              .allowInvalid()
                                              .editor("PlainTextEditor");
     return prototype.make(this);

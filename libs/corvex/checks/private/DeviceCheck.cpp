@@ -6,6 +6,7 @@
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/hardware/DeviceChannels.h"
 #include "corvex/project/Project.h"
+#include "corvex/variables/ProjectVariable.h"
 
 #include <numeric>
 
@@ -32,15 +33,15 @@ QString listed(const QList<int> &channels)
     return numbers.isEmpty() ? translated("none") : numbers.join(u", "_s);
 }
 
-bool isCanVariable(const DesignerObject &object)
-{
-    return object.isKindOfClass(u"CANVariable"_s);
-}
+using Connection = ProjectVariable::Connection;
 
-bool usesEthernet(const DesignerObject &object)
+//! What an object needs of the model, other than a channel of its own.
+Connection connectionOf(const DesignerObject &object)
 {
-    return object.isKindOfClass(u"EthernetPort"_s) || object.isKindOfClass(u"FtpVariable"_s)
-           || object.isKindOfClass(u"BACnetDevice"_s);
+    if (const auto *variable = kindCast<ProjectVariable>(&object)) {
+        return variable->connection();
+    }
+    return object.isKindOfClass(u"EthernetPort"_s) ? Connection::Ethernet : Connection::None;
 }
 
 } // namespace
@@ -54,9 +55,10 @@ DeviceCheck::DeviceCheck(const Project &project, const ConfigurationContainer &m
 
 bool DeviceCheck::concerns(const DesignerObject &object)
 {
+    const Connection connection = connectionOf(object);
     return m_model
-           && (isCanVariable(object) || DeviceChannels::of(object.className())
-               || (m_ethernetPorts && usesEthernet(object)));
+           && (connection == Connection::Can || DeviceChannels::of(object.className())
+               || (m_ethernetPorts && connection == Connection::Ethernet));
 }
 
 void DeviceCheck::look(const DesignerObject &object)
@@ -64,9 +66,9 @@ void DeviceCheck::look(const DesignerObject &object)
     const char *name = ethernetName;
     QList<int> available(m_ethernetPorts.value_or(0));
     std::iota(available.begin(), available.end(), 1);
-    if (!usesEthernet(object)) {
+    if (const Connection connection = connectionOf(object); connection != Connection::Ethernet) {
         const DeviceChannels *channels =
-            DeviceChannels::of(isCanVariable(object) ? u"CANBusDevice"_s : object.className());
+            DeviceChannels::of(connection == Connection::Can ? u"CANBusDevice"_s : object.className());
         name = channels->name;
         available = channels->available(*m_model);
     }

@@ -6,16 +6,11 @@
 #include "corvex/values/text/ObjectPath.h"
 #include "corvex/variables/ProjectVariable.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
 namespace {
-
-constexpr std::array fieldbusClasses{"CANVariable"_L1, "MappingVariable"_L1, "BACnetDevice"_L1,
-                                     "BACnetObject"_L1};
 
 ValueType typeOfData(GeneralDataInfo::DataType type)
 {
@@ -43,7 +38,7 @@ ValueType valueTypeOfVariable(const QString &name, const Project &project)
     if (!variable) {
         return ValueType::Unknown;
     }
-    if (std::ranges::find(fieldbusClasses, variable->className()) != fieldbusClasses.end()) {
+    if (variable->isFieldbus()) {
         return ValueType::Fieldbus;
     }
     switch (variable->variableType()) {

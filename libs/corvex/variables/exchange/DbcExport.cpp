@@ -203,7 +203,7 @@ Exported DbcExport::write(const DesignerObject &project)
         const SharedProperty terms = static_cast<const CANVariable *>(object)->parameterMap();
         CanParameterMap map;
         QString error;
-        if (map.read(static_cast<const GeneralDataListProperty &>(*terms).value(), error)) {
+        if (map.read(valueAs<GeneralDataListProperty>(terms), error)) {
             database.add(object->getIdName(), map);
             reportLostUnits(object->getIdName(), map, exported.problems);
         } else {

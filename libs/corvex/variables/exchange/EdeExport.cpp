@@ -161,7 +161,7 @@ private:
         BACnetPropertyList list;
         QString error;
         const SharedProperty terms = object.getProperty(u"properties");
-        if (!list.read(static_cast<const GeneralDataListProperty &>(*terms).value(), error)) {
+        if (!list.read(valueAs<GeneralDataListProperty>(terms), error)) {
             m_exported.problems.append(u"%1.properties: %2"_s.arg(object.getIdName(), error));
         }
         const KnownValues known(list, m_project);

@@ -64,7 +64,7 @@ Exported ModbusExport::write(const DesignerObject &project)
             ModbusMap map(kind);
             QString error;
             const SharedProperty terms = variable->getProperty(id);
-            const GeneralDataList &list = static_cast<const GeneralDataListProperty &>(*terms).value();
+            const GeneralDataList &list = valueAs<GeneralDataListProperty>(terms);
             if (!map.read(list, error)) {
                 const QStringList &repeated = map.repeatedAddresses();
                 exported.problems.append(
