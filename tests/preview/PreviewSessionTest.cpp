@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/preview/ScreenAudit.h"
 
 #include "TestBuild.h"
@@ -168,6 +169,38 @@ TEST(PreviewSession, ReportsTheElementWithAProblem)
     for (const char *problem : expected) {
         EXPECT_THAT(panel.problems(), Contains(startingWith(problem)));
     }
+}
+
+TEST(PreviewSession, ShowsClassesOfPluginsAsTheBuildSays)
+{
+    TestBuild build;
+    build.addVariable(u"number"_s, EnumHelper::IntegerVariable, 3);
+    build.writeConfiguration();
+    Common::FileHelper::variantToFile(
+        QVariantMap{{u"Key"_s, u"Button"_s}, {u"Panel"_s, u"Rectangle"_s}, {u"Odd"_s, u"Nothing"_s}},
+        build.path(u"preview.kdrc"_s), false);
+    build.addScreen("Main", R"(
+        functions: [ Button { objectName: "usual" } ]
+        keys: [
+            Key { id: qml_key; objectName: "key"; visualElement: qml_panel; litres: 3; face.color: "red"
+                  onPressed: qmlViewer.setVariableValue("number", litres, 2)
+                  onOverflow: {} }
+        ]
+        Panel { id: qml_panel; objectName: "panel"; width: 50; height: 50; color: "#ff0000"; border.width: 2
+                label: "hot" }
+        Odd { objectName: "odd" }
+    )");
+    for (const bool isAgain : {false, true}) {
+        TestPanel panel(build);
+        ASSERT_TRUE(panel.isOpen) << qPrintable(panel.error);
+        EXPECT_THAT(panel.run("expect panel.color #ff0000; expect panel.label hot; "
+                              "expect key.litres 3; set number 7; press panel; expect number 3"),
+                    IsEmpty())
+            << isAgain;
+        EXPECT_THAT(panel.problems(), ElementsAre(startingWith("The preview knows no class \"Odd\"")));
+    }
+    build.write(u"preview.kdrc"_s, "rubbish");
+    EXPECT_THAT(TestPanel(build).problems(), Contains(startingWith("preview.kdrc: The file is damaged")));
 }
 
 TEST(PreviewSession, OpensAnIncompleteBuild)

@@ -19,6 +19,7 @@ namespace Halvane::Corvex::Preview {
 namespace {
 
 const QString configurationFile = u"config.kdrc"_s;
+const QString previewFile = u"preview.kdrc"_s;
 
 QString projectPath(const QString &path)
 {
@@ -37,6 +38,7 @@ bool BuildFolder::open(const QString &path, QString *error)
         return false;
     }
     readConfiguration();
+    readPreviews();
     return true;
 }
 
@@ -82,6 +84,26 @@ void BuildFolder::readConfiguration()
     if (!m_defaultScreen.isEmpty() && !m_screens.contains(m_defaultScreen)) {
         m_problems.append(
             {configurationFile, u"The default screen \"%1\" is missing."_s.arg(m_defaultScreen)});
+    }
+}
+
+//! Only builds with classes of plug-ins have the file.
+void BuildFolder::readPreviews()
+{
+    const QString path = QDir(m_path).filePath(previewFile);
+    if (!QFile::exists(path)) {
+        return;
+    }
+    bool ok = false;
+    const QString problem = Common::RegularFile::problem(path, Bounds::longestFile);
+    const QVariant previews = problem.isEmpty() ? Common::FileHelper::fileToVariant(path, &ok) : QVariant();
+    if (!ok || previews.metaType() != QMetaType::fromType<QVariantMap>()) {
+        const QString reason = problem.isEmpty() ? u"The file is damaged."_s : problem;
+        m_problems.append({previewFile, reason + u" Elements of plug-ins are shown as boxes."_s});
+        return;
+    }
+    for (const auto &[className, preview] : previews.toMap().asKeyValueRange()) {
+        m_previews.insert(className, preview.toString());
     }
 }
 

@@ -29,6 +29,8 @@ public:
     QString defaultScreen() const;
     //! From name to record: "type", "value", "persistent".
     const QVariantMap &variables() const { return m_variables; }
+    //! From a class to the one that the preview shows in its place.
+    const QMap<QString, QString> &previews() const { return m_previews; }
     //! What is wrong with the folder without keeping its screens from being shown: file and message.
     const QList<std::pair<QString, QString>> &problems() const { return m_problems; }
     //! Another one when a file of the folder has been written anew, came or went.
@@ -37,6 +39,7 @@ public:
 private:
     bool findScreens();
     void readConfiguration();
+    void readPreviews();
     //! The text of the configuration file that tells what made the build: "PumpStation-4.0.0", encrypted.
     void checkVersion(const QString &tag);
 
@@ -44,6 +47,7 @@ private:
     QMap<QString, ScreenFile> m_screens;
     QString m_defaultScreen;
     QVariantMap m_variables;
+    QMap<QString, QString> m_previews;
     QList<std::pair<QString, QString>> m_problems;
 };
 

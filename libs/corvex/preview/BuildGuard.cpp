@@ -199,7 +199,7 @@ QUrl BuildGuard::intercept(const QUrl &url, DataType type)
         return moduleFile(url);
     }
     if (url.isEmpty() || isOurs(url)) {
-        return url;
+        return m_replaced.value(url, url);
     }
     const bool isFile = url.isLocalFile() && type != JavaScriptFile;
     QString problem = u"\"%1\" is not opened: the preview reads the files of the build alone."_s.arg(

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHash>
 #include <QObject>
 #include <QQmlAbstractUrlInterceptor>
 #include <QQmlNetworkAccessManagerFactory>
 #include <QStringList>
+#include <QUrl>
 
 class QQmlEngine;
 
@@ -29,6 +31,9 @@ public:
     void guard(QQmlEngine &engine);
     //! The folders whose files may be read; before any document is loaded.
     void allow(const QStringList &folders);
+    //! Loads another document in place of \a url, which is one of the program's; before any document is
+    //! loaded.
+    void replace(const QUrl &url, const QUrl &document) { m_replaced.insert(url, document); }
     //! Closes a window that a document of the engine opens.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -50,6 +55,7 @@ private:
 
     QStringList m_importPaths; //!< the folders of modules, each with "/" at its end
     QStringList m_folders;
+    QHash<QUrl, QUrl> m_replaced;
     QQmlEngine *m_engine = nullptr;
 };
 

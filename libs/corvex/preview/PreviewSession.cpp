@@ -52,6 +52,7 @@ bool PreviewSession::load(const QString &path, QString *error)
         m_panel->problems().report(QString(), u"The preview knows no class \"%1\" and shows boxes for its "
                                               "elements."_s.arg(name));
     }
+    m_panel->guard().replace(StandIns::screenDocument(), StandIns::screenDocumentFor(m_build));
     m_panel->guard().allow({m_build.path(), StandIns::boxFolder()});
     connect(&m_panel->guard(), &BuildGuard::refused, this, [this](const QString &message) {
         m_panel->problems().report(m_screenId.mid(idPrefix.size()), message);
@@ -104,7 +105,8 @@ void PreviewSession::addVariables()
     }
     for (const BuildFolder::ScreenFile &screen : m_build.screens()) {
         for (const QmlOutline::Object &object : screen.outline.objects()) {
-            if (object.className == "DataLogging"_L1) {
+            // A class of a plug-in may be shown as one.
+            if (m_build.previews().value(object.className, object.className) == "DataLogging"_L1) {
                 m_panel->variables().addLog(object.variable);
             }
         }

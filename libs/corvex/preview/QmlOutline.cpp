@@ -87,8 +87,14 @@ void Scanner::name()
     if (m_isAtStart && at(next) == u':' && current() != noObject) {
         m_property = m_name;
         m_objects[current()].properties.append(m_name);
-        m_name.clear();
         m_place = next + 1;
+        while (at(m_place) == u' ') {
+            ++m_place;
+        }
+        if (at(m_place) == u'[') {
+            m_objects[current()].lists.append(m_name);
+        }
+        m_name.clear();
     }
     m_isAtStart = false;
 }
@@ -109,7 +115,7 @@ void Scanner::open(QChar bracket)
     if (bracket == u'{' && !className.isEmpty() && className.at(0).isUpper()) {
         const qsizetype outer = enclosing();
         m_objects.append(
-            {className, outer < 0 ? QString() : m_objects.at(outer).path, m_line, m_line, {}, {}});
+            {className, outer < 0 ? QString() : m_objects.at(outer).path, m_line, m_line, {}, {}, {}});
         m_levels.append({bracket, m_objects.size() - 1});
     } else {
         m_levels.append({bracket, noObject});

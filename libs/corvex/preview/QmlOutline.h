@@ -21,6 +21,7 @@ public:
         int lastLine;
         QStringList properties; //!< what is set, handlers among it: "width", "font.bold", "onPressed"
         QString variable;       //!< the text of the property "variable"
+        QStringList lists;      //!< those of the properties that are set to a list
     };
 
     explicit QmlOutline(const QString &text = QString());

@@ -3,6 +3,7 @@
 
 #include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/preview/BuildFolder.h"
+#include "corvex/preview/TypeDocument.h"
 #include "corvex/preview/elements/Buttons.h"
 #include "corvex/preview/elements/Channels.h"
 #include "corvex/preview/elements/DataLogging.h"
@@ -11,7 +12,9 @@
 
 #include <QDir>
 #include <QFile>
-#include <QUrl>
+#include <QMetaMethod>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <qqml.h>
 
 using namespace Qt::StringLiterals;
@@ -28,6 +31,7 @@ namespace {
 
 constexpr char module[] = "RuntimeObjects";
 constexpr int moduleVersion = 2;
+const QString screenClass = u"Screen"_s;
 
 //! Classes that are written in QML.
 constexpr const char *drawn[] = {"Screen", "Rectangle", "Text", "Image", "GroupElement"};
@@ -36,10 +40,11 @@ constexpr const char *plain[] = {"BACnetService",    "CANBusDevice",   "Ethernet
                                  "I2CBus",           "ModbusCommands", "RS485COMPort",
                                  "SPICommunication", "SPIPort",        "SerialCOMPort"};
 
-QSet<QString> &knownClasses()
+//! The classes of the device. A class that is written in QML has no meta object before it is loaded.
+QHash<QString, const QMetaObject *> &knownClasses()
 {
-    static QSet<QString> names;
-    return names;
+    static QHash<QString, const QMetaObject *> classes;
+    return classes;
 }
 
 QString &folderOfBoxes()
@@ -52,84 +57,96 @@ template<typename Class>
 void add(const char *name)
 {
     qmlRegisterType<Class>(module, moduleVersion, 0, name);
-    knownClasses().insert(QString::fromLatin1(name));
+    knownClasses().insert(QString::fromLatin1(name), &Class::staticMetaObject);
+}
+
+QUrl documentOf(const QString &className)
+{
+    return QUrl(u"qrc:/corvex/preview/qml/%1.qml"_s.arg(className));
 }
 
 void addFile(const QUrl &file, const QString &name)
 {
     qmlRegisterType(file, module, moduleVersion, 0, qPrintable(name));
-    knownClasses().insert(name);
-}
-
-//! Properties that a box has as any item has them.
-bool isOfItem(const QString &property)
-{
-    static const QSet<QString> names{u"id"_s,       u"objectName"_s, u"x"_s,       u"y"_s,
-                                     u"z"_s,        u"width"_s,      u"height"_s,  u"scale"_s,
-                                     u"rotation"_s, u"opacity"_s,    u"visible"_s, u"transformOrigin"_s};
-    return names.contains(property) || property.contains(u'.');
-}
-
-QString declaration(const QString &property)
-{
-    const bool isHandler = property.size() > 2 && property.startsWith("on"_L1) && property.at(2).isUpper();
-    return isHandler ? u"    signal %1()\n"_s.arg(property.at(2).toLower() + property.mid(3))
-                     : u"    property var %1\n"_s.arg(property);
-}
-
-/*! A dashed box would do; what counts is that it says whose place it keeps. Groups of properties
-   ("font.bold") get an object that takes whatever is set. */
-QString boxDocument(const QString &className, const QSet<QString> &properties)
-{
-    QString declarations;
-    QMap<QString, QStringList> groups;
-    for (const QString &property : properties) {
-        if (property.at(0).isUpper()) {
-            continue; // "Component.onCompleted", which every object has
-        }
-        if (property.contains(u'.')) {
-            groups[property.section(u'.', 0, 0)].append(property.section(u'.', 1));
-        } else if (!isOfItem(property)) {
-            declarations += declaration(property);
-        }
-    }
-    for (const auto &[group, members] : groups.asKeyValueRange()) {
-        const QString type = u"Group_"_s + group;
-        declarations += u"    component %1: QtObject {"_s.arg(type);
-        for (const QString &member : members) {
-            declarations += u" property var %1;"_s.arg(member);
-        }
-        declarations += u" }\n    readonly property %1 %2: %1 {}\n"_s.arg(type, group);
-    }
-    return u"import QtQuick 2.15 as Quick\nimport QtQml 2.15\n"
-           "Quick.Rectangle {\n"
-           "    id: box\n%2"
-           "    implicitWidth: 120; implicitHeight: 48\n"
-           "    color: \"#fff4d6\"; border.color: \"#a06a00\"; border.width: 1\n"
-           "    Quick.Text {\n"
-           "        anchors.fill: parent; anchors.margins: 2; text: \"%1\\n\" + box.objectName\n"
-           "        textFormat: Quick.Text.PlainText\n"
-           "        color: \"#5a3c00\"; font.pixelSize: 12; fontSizeMode: Quick.Text.Fit; minimumPixelSize: "
-           "6\n"
-           "        horizontalAlignment: Quick.Text.AlignHCenter; verticalAlignment: "
-           "Quick.Text.AlignVCenter\n"
-           "    }\n"
-           "}\n"_s.arg(className, declarations);
 }
 
 //! The properties that are set of each class that nothing is known of.
-QMap<QString, QSet<QString>> unknownClasses(const BuildFolder &build, const QSet<QString> &boxes)
+QMap<QString, QSet<QString>> unknownClasses(const BuildFolder &build)
 {
     QMap<QString, QSet<QString>> classes;
     for (const BuildFolder::ScreenFile &screen : build.screens()) {
         for (const QmlOutline::Object &object : screen.outline.objects()) {
-            if (!knownClasses().contains(object.className) || boxes.contains(object.className)) {
+            if (!knownClasses().contains(object.className)) {
                 QSet<QString> &properties = classes[object.className];
                 properties.unite(QSet<QString>(object.properties.cbegin(), object.properties.cend()));
             }
         }
     }
     return classes;
+}
+
+//! The lists that are set of screens and that \a document, which is that of all screens, does not declare.
+QSet<QString> unknownLists(const BuildFolder &build, const QString &document)
+{
+    QSet<QString> lists;
+    for (const BuildFolder::ScreenFile &screen : build.screens()) {
+        for (const QmlOutline::Object &object : screen.outline.objects()) {
+            if (object.className == screenClass) {
+                lists.unite(QSet<QString>(object.lists.cbegin(), object.lists.cend()));
+            }
+        }
+    }
+    lists.removeIf([&document](const QString &list) {
+        return document.contains(u"property list<QtObject> %1\n"_s.arg(list));
+    });
+    return lists;
+}
+
+//! The names of the properties and handlers of a class.
+QSet<QString> membersOf(const QMetaObject &meta)
+{
+    QSet<QString> names;
+    for (int i = 0; i < meta.propertyCount(); ++i) {
+        names.insert(QString::fromUtf8(meta.property(i).name()));
+    }
+    for (int i = 0; i < meta.methodCount(); ++i) {
+        if (meta.method(i).methodType() == QMetaMethod::Signal) {
+            const QString name = QString::fromUtf8(meta.method(i).name());
+            names.insert(u"on"_s + name.at(0).toUpper() + name.sliced(1));
+        }
+    }
+    return names;
+}
+
+//! The same for a class by its name. What a document adds to its type, only an engine can say.
+QSet<QString> membersOf(const QString &className)
+{
+    if (const QMetaObject *meta = knownClasses().value(className)) {
+        return membersOf(*meta);
+    }
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData("import RuntimeObjects 2.0\n" + className.toUtf8() + " {}", QUrl());
+    const std::unique_ptr<QObject> model(component.create());
+    return model ? membersOf(*model->metaObject()) : QSet<QString>();
+}
+
+QUrl fileOf(const QString &className)
+{
+    return QUrl::fromLocalFile(u"%1/%2.qml"_s.arg(folderOfBoxes(), className));
+}
+
+bool writeDocument(const QString &className, const QString &text)
+{
+    // The engine reads types from files alone.
+    if (folderOfBoxes().isEmpty()) {
+        static const Common::TemporaryFolder folder(u"corvex-classes"_s);
+        folderOfBoxes() = QDir::cleanPath(folder.filePath(QString()));
+    }
+    QDir().mkpath(folderOfBoxes());
+    QFile file(fileOf(className).toLocalFile());
+    const QByteArray bytes = text.toUtf8();
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
 } // namespace
@@ -146,8 +163,8 @@ void StandIns::registerModules()
     }
     qmlRegisterModuleImport("QtQuick", 1, "QtQuick", 2, 0);
     for (const char *name : drawn) {
-        addFile(QUrl(u"qrc:/corvex/preview/qml/%1.qml"_s.arg(QLatin1StringView(name))),
-                QString::fromLatin1(name));
+        addFile(documentOf(QString::fromLatin1(name)), QString::fromLatin1(name));
+        knownClasses().insert(QString::fromLatin1(name), nullptr);
     }
     for (const char *name : plain) {
         add<PlainElement>(name);
@@ -180,29 +197,37 @@ const QString &StandIns::boxFolder()
 
 QStringList StandIns::addUnknownClasses(const BuildFolder &build)
 {
-    static QSet<QString> boxes;
-    const QMap<QString, QSet<QString>> classes = unknownClasses(build, boxes);
-    if (classes.isEmpty()) {
-        return {};
-    }
-    // The engine reads types from files alone.
-    if (boxFolder().isEmpty()) {
-        static const Common::TemporaryFolder folder(u"corvex-classes"_s);
-        keepBoxesIn(QDir::cleanPath(folder.filePath(QString())));
-    }
-    QDir().mkpath(boxFolder());
-    for (const auto &[name, properties] : classes.asKeyValueRange()) {
-        QFile file(u"%1/%2.qml"_s.arg(boxFolder(), name));
-        if (!file.open(QIODevice::WriteOnly)) {
-            continue;
+    static QSet<QString> registered;
+    QStringList boxes;
+    for (const auto &[name, properties] : unknownClasses(build).asKeyValueRange()) {
+        const QString base = build.previews().value(name);
+        const bool isBox = !knownClasses().contains(base) || base == screenClass;
+        if (isBox) {
+            boxes.append(name);
         }
-        file.write(boxDocument(name, properties).toUtf8());
-        if (!boxes.contains(name)) {
-            boxes.insert(name);
-            addFile(QUrl::fromLocalFile(file.fileName()), name);
+        if (writeDocument(name, isBox ? TypeDocument::box(name, properties)
+                                      : TypeDocument::derived(base, membersOf(base), properties))
+            && !registered.contains(name)) {
+            registered.insert(name);
+            addFile(fileOf(name), name);
         }
     }
-    return classes.keys();
+    return boxes;
+}
+
+QUrl StandIns::screenDocument()
+{
+    return documentOf(screenClass);
+}
+
+QUrl StandIns::screenDocumentFor(const BuildFolder &build)
+{
+    QFile file(u':' + screenDocument().path());
+    const QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    const QSet<QString> lists = unknownLists(build, text);
+    return !lists.isEmpty() && writeDocument(screenClass, TypeDocument::screen(text, lists))
+               ? fileOf(screenClass)
+               : screenDocument();
 }
 
 } // namespace Halvane::Corvex::Preview

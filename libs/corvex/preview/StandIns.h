@@ -4,6 +4,7 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 
 namespace Halvane::Corvex::Preview {
 
@@ -16,9 +17,14 @@ public:
     //! Once for the program, before any engine loads a screen.
     static void registerModules();
 
-    /*! Makes a type, shown as a labelled box, for each class of the build that there is none for, with all
-        properties and signals that are set of it. Gives the names of these classes. */
+    /*! Makes a type for each class of the build that there is none for, with all properties and signals that
+        are set of it: the class that the build names for it, or else a labelled box. Returns the names of
+        those that are boxes. */
     static QStringList addUnknownClasses(const BuildFolder &build);
+    //! The document of the class Screen.
+    static QUrl screenDocument();
+    //! The one for that build: its screens may have lists for elements of plug-ins.
+    static QUrl screenDocumentFor(const BuildFolder &build);
     //! Where the documents of the boxes are to be, before there are any; else in a folder of their own.
     static void keepBoxesIn(const QString &folder);
     //! Empty as long as nobody knows.

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 // The QML document of a screen.
 #include "corvex/common/ConfigurationInfo.h"
+#include "corvex/core/DesignerFactory.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
-#include "corvex/project/elements/Element.h"
+#include "corvex/project/elements/VisualElement.h"
 #include "corvex/values/records/ObjectLinkInfo.h"
 #include "corvex/variables/MappingVariable.h"
 
+#include <algorithm>
+#include <map>
 #include <mutex>
 
 using namespace Qt::StringLiterals;
@@ -16,44 +19,23 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The lists of a screen document in their order, with the class whose elements each holds.
+//! The lists of the device in the order in which documents have them. Lists of plug-ins come after them.
 constexpr struct
 {
-    const char *className;
-    const char *list;
-    bool isSerialPort = false;
-} qmlLists[] = {
-    {"AlarmOutput", "alarmOutputs"},
-    {"AnalogInput", "analogInputs"},
-    {"DigitalInputOutput", "digitalIOs"},
-    {"PwmOutput", "pwmOutputs"},
-    {"SPIPort", "spiPorts"},
-    {"SerialCOMPort", "serialCOMPorts", true},
-    {"RS485COMPort", "rs485COMPorts", true},
-    {"ThermistorInput", "thermistorInputs"},
-    {"ThermocoupleInput", "thermocoupleInputs"},
-    {"EthernetPort", "ethernetPorts"},
-    {"CANBusDevice", "canBusPorts"},
-    {"I2CBus", "i2CBusPorts"},
-    {"FunctionElement", "functions"},
+    const char *name;
+    bool holdsSerialPorts = false;
+} deviceLists[] = {
+    {"alarmOutputs"},       {"analogInputs"},         {"digitalIOs"},          {"pwmOutputs"},
+    {"spiPorts"},           {"serialCOMPorts", true}, {"rs485COMPorts", true}, {"thermistorInputs"},
+    {"thermocoupleInputs"}, {"ethernetPorts"},        {"canBusPorts"},         {"i2CBusPorts"},
+    {"functions"},
 };
-constexpr int listCount = int(std::size(qmlLists));
 
-//! Elements that stand in no list follow them: first what is drawn, then the rest.
-constexpr int visualGroup = listCount;
-constexpr int otherGroup = listCount + 1;
-
-//! Where an element goes: the index of its list, visualGroup or otherGroup.
-int groupOf(const DesignerObject *item)
+//! The index of a list among those of the device; for other lists their number.
+std::ptrdiff_t placeOf(const QString &listName)
 {
-    if (item->isKindOfClass(u"VisualElement"_s)) {
-        return visualGroup;
-    }
-    const QStringList classNames = item->classNames();
-    const auto entry = std::find_if(std::begin(qmlLists), std::end(qmlLists), [&](const auto &list) {
-        return classNames.contains(QLatin1StringView(list.className));
-    });
-    return entry == std::end(qmlLists) ? otherGroup : int(entry - std::begin(qmlLists));
+    const auto isNamed = [&listName](const auto &list) { return listName == QLatin1StringView(list.name); };
+    return std::ranges::find_if(deviceLists, isNamed) - std::begin(deviceLists);
 }
 
 void announceScreen(const DesignerObject *port, const Screen &screen)
@@ -92,21 +74,26 @@ int brightnessOf(const Screen &screen)
 
 QStringList Screen::elementLists(int indent) const
 {
-    QStringList blocks[listCount + 2];
+    std::map<std::pair<std::ptrdiff_t, QString>, QStringList> lists;
+    QStringList visible;
+    QStringList others;
     for (const DesignerObject *item : elements()->listItems()) {
-        const int group = groupOf(item);
-        const bool isPort = group < listCount && qmlLists[group].isSerialPort;
-        const int itemIndent = group < listCount ? indent + 1 : indent;
-        blocks[group].append(isPort ? portToQml(item, *this, itemIndent) : item->toQml(itemIndent));
-    }
-    QStringList lists;
-    for (int i = 0; i < listCount; ++i) {
-        if (!blocks[i].isEmpty()) {
-            lists.append(u"%1%2: [\n%3\n%1]"_s.arg(getTabs(indent), QString::fromLatin1(qmlLists[i].list),
-                                                   blocks[i].join(u",\n"_s)));
+        const bool isVisible = item->isKindOfClass(VisualElement::kindName());
+        const QString name = isVisible ? QString() : DesignerFactory::screenListOf(item);
+        if (name.isEmpty()) {
+            (isVisible ? visible : others).append(item->toQml(indent));
+            continue;
         }
+        const std::ptrdiff_t place = placeOf(name);
+        const bool isPort = place < std::ssize(deviceLists) && deviceLists[place].holdsSerialPorts;
+        lists[{place, name}].append(isPort ? portToQml(item, *this, indent + 1) : item->toQml(indent + 1));
     }
-    return lists + blocks[visualGroup] + blocks[otherGroup];
+    QStringList written;
+    for (const auto &[list, blocks] : lists) {
+        written.append(u"%1%2: [\n%3\n%1]"_s.arg(getTabs(indent), list.second, blocks.join(u",\n"_s)));
+    }
+    // Elements without a list come last: first what is drawn, then the rest.
+    return written + visible + others;
 }
 
 QString Screen::toQml(int indent) const

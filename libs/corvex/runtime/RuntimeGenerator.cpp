@@ -8,6 +8,7 @@
 #include "corvex/common/files/FolderLock.h"
 #include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/common/zip/ZipHelper.h"
+#include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/xml/ObjectXmlWriter.h"
 #include "corvex/runtime/RuntimeConfiguration.h"
@@ -86,6 +87,17 @@ QString takenName(const QString &screen)
 {
     return LocalizationHelper::coreString(u"Two screens would be written to \"%1\"."_s)
         .arg(screen + u".qml"_s);
+}
+
+//! By the QML name of the object's class, for it and everything below it.
+void collectPreviews(const DesignerObject &object, QVariantMap &previews)
+{
+    if (const QString preview = DesignerFactory::previewOf(&object); !preview.isEmpty()) {
+        previews.insert(object.qmlName(), preview);
+    }
+    for (const DesignerObject *child : object.childObjects()) {
+        collectPreviews(*child, previews);
+    }
 }
 
 } // namespace
@@ -179,7 +191,7 @@ bool RuntimeGenerator::writeProject(const DesignerObject *project)
     // nothing changes meanwhile. Without a second thread it works when it is asked for its result.
     std::future<QString> packing = std::async(std::launch::async | std::launch::deferred,
                                               [this, project] { return packProject(*project); });
-    const bool written = writeConfiguration(project) && writeScreens(project);
+    const bool written = writeConfiguration(project) && writePreviews(project) && writeScreens(project);
     const QString error = packing.get();
     return error.isEmpty() ? written : fail(error);
 }
@@ -220,6 +232,18 @@ bool RuntimeGenerator::writeConfiguration(const DesignerObject *project)
     QString error;
     return (configuration.collect(*project, &error)
             && configuration.write(m_buildFolder + u"/project"_s, &error))
+           || fail(error);
+}
+
+bool RuntimeGenerator::writePreviews(const DesignerObject *project)
+{
+    QVariantMap previews;
+    if (DesignerFactory::hasPreviews()) {
+        collectPreviews(*project, previews);
+    }
+    QString error;
+    return previews.isEmpty()
+           || Common::FileHelper::variantToFile(previews, filePath(u"preview.kdrc"_s), false, &error)
            || fail(error);
 }
 

@@ -56,6 +56,8 @@ private:
     QString packProject(const DesignerObject &project) const;
     QByteArray projectXml(const DesignerObject &project, QString *error) const;
     bool writeConfiguration(const DesignerObject *project);
+    //! Writes which classes a preview shows in place of those of plug-ins; no file if no class says so.
+    bool writePreviews(const DesignerObject *project);
     //! All processors write, each one screen at a time.
     bool writeScreens(const DesignerObject *project);
     //! The error, empty without one.
