@@ -10,8 +10,9 @@
 #include "elements/Statements.h"
 #include "elements/Validators.h"
 
+#include <QHash>
+
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
@@ -22,26 +23,27 @@ namespace {
 
 constexpr auto suffix = "Binding"_L1;
 
-//! How the expression for each bound name is translated.
+//! How an expression is translated. What it is edited with says what it is.
 struct Binding
 {
-    QLatin1StringView name;
+    QLatin1StringView editor;
     GeneralDataList::InfoType kind;
     GeneralDataInfo::OutputType output;
 };
 
 constexpr Binding bindings[] = {
-    {"text"_L1, GeneralDataList::StringExpression, GeneralDataInfo::StringOutput},
-    {"color"_L1, GeneralDataList::GeneralExpression, GeneralDataInfo::ColorOutput},
-    {"rotation"_L1, GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput},
-    {"visible"_L1, GeneralDataList::BoolExpression, GeneralDataInfo::RawOutput},
-    {"x"_L1, GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput},
-    {"y"_L1, GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput},
+    {"VerticalStringExpressionEditor"_L1, GeneralDataList::StringExpression, GeneralDataInfo::StringOutput},
+    {"VerticalMathExpressionEditor"_L1, GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput},
+    {"VerticalBooleanExpressionEditor"_L1, GeneralDataList::BoolExpression, GeneralDataInfo::RawOutput},
 };
+
+constexpr Binding colorBinding{"PropertyEditor"_L1, GeneralDataList::GeneralExpression,
+                               GeneralDataInfo::ColorOutput};
 
 /*! A color is one term, which is made a color. Whatever else an expression of colors did, it would do with
     colors: a condition would be one, too, and always hold. Only texts that name colors can be selected. */
-constexpr Binding colorSelection{"color"_L1, GeneralDataList::StringExpression, GeneralDataInfo::RawOutput};
+constexpr Binding colorSelection{"PropertyEditor"_L1, GeneralDataList::StringExpression,
+                                 GeneralDataInfo::RawOutput};
 
 bool isSelection(const GeneralDataList &expression)
 {
@@ -50,58 +52,45 @@ bool isSelection(const GeneralDataList &expression)
     });
 }
 
-//! Null when nothing of that name can be bound.
-const Binding *bindingOf(QStringView name)
+const Binding &bindingOf(const DesignerProperty &property, const GeneralDataList &expression)
 {
-    const auto binding =
-        std::ranges::find_if(bindings, [name](const Binding &entry) { return name == entry.name; });
-    return binding == std::end(bindings) ? nullptr : binding;
-}
-
-//! How that expression is translated.
-const Binding &formOf(const GeneralDataList &expression, const Binding &binding)
-{
-    const bool isColor = binding.output == GeneralDataInfo::ColorOutput;
-    return isColor && isSelection(expression) ? colorSelection : binding;
+    const auto isIts = [&property](const Binding &entry) { return property.editor() == entry.editor; };
+    const auto binding = std::ranges::find_if(bindings, isIts);
+    return binding != std::end(bindings) ? *binding : isSelection(expression) ? colorSelection : colorBinding;
 }
 
 QString codeOf(const GeneralDataList &expression, const Binding &binding)
 {
-    const auto &[name, kind, output] = formOf(expression, binding);
-    const bool isTooLong = output == GeneralDataInfo::ColorOutput && expression.count() > 1;
-    return isTooLong ? QString() : completeCode(expression, output, kind);
+    const bool isTooLong = binding.output == GeneralDataInfo::ColorOutput && expression.count() > 1;
+    return isTooLong ? QString() : completeCode(expression, binding.output, binding.kind);
 }
 
-//! The property beside the plain value of that name that holds its expression; null when \a owner has none.
-const DesignerProperty *propertyBeside(const DesignerObject *owner, const Binding &binding)
+//! The property with the expression beside the plain value \a name; null when \a owner has none.
+const DesignerProperty *propertyBeside(const DesignerObject *owner, const QString &name)
 {
     const PropertyRange properties = owner->properties();
-    const auto isIt = [&binding](const SharedProperty &property) {
+    const auto isIt = [&name](const SharedProperty &property) {
         const QString &id = property->id();
-        return id.size() == binding.name.size() + suffix.size() && id.endsWith(suffix)
-               && id.startsWith(binding.name);
+        return id.size() == name.size() + suffix.size() && id.endsWith(suffix) && id.startsWith(name);
     };
     // Elements of a class have it at one place, and each bound property of each element asks.
-    static thread_local std::array<qsizetype, std::size(bindings)> places{};
-    qsizetype &place = places[size_t(&binding - std::begin(bindings))];
+    static thread_local QHash<QString, qsizetype> places;
+    qsizetype &place = places[name];
     if (place >= properties.size() || !isIt(properties.at(place))) {
         place = std::ranges::distance(properties.begin(), std::ranges::find_if(properties, isIt));
-        if (place == properties.size()) {
-            return nullptr;
-        }
     }
-    return properties.at(place).data();
+    return place < properties.size() ? properties.at(place).data() : nullptr;
 }
 
 //! Puts the code of the expression beside the plain value of \a owner, if it has one, in its place.
 void replaceByExpression(QmlBinding &binding, const DesignerObject *owner)
 {
-    const Binding *form = bindingOf(binding.name);
-    const DesignerProperty *source = form ? propertyBeside(owner, *form) : nullptr;
+    const DesignerProperty *source = propertyBeside(owner, binding.name);
     if (!source || expressionOf(*source).isEmpty()) {
         return;
     }
-    if (const QString code = codeOf(expressionOf(*source), *form); !code.isEmpty()) {
+    const GeneralDataList &expression = expressionOf(*source);
+    if (const QString code = codeOf(expression, bindingOf(*source, expression)); !code.isEmpty()) {
         binding.code = code;
         binding.source = source;
     }
@@ -112,13 +101,11 @@ void replaceByExpression(QmlBinding &binding, const DesignerObject *owner)
 bool bindingValidator(const DesignerProperty *property, QString &error)
 {
     const GeneralDataList &expression = expressionOf(*property);
-    const Binding *binding = bindingOf(QStringView(property->id()).chopped(suffix.size()));
-    if (!binding
-        || acceptExpression(expression, formOf(expression, *binding).kind,
-                            !codeOf(expression, *binding).isEmpty(), error)) {
+    const Binding &binding = bindingOf(*property, expression);
+    if (acceptExpression(expression, binding.kind, !codeOf(expression, binding).isEmpty(), error)) {
         return true;
     }
-    if (expression.count() > 1 && property->id() == "colorBinding"_L1) {
+    if (expression.count() > 1 && binding.editor == colorBinding.editor) {
         error = Common::LocalizationHelper::coreString(
             u"A color is a single term, or a boolean term selects one of two texts, as in "
             "<0403hot><0101?><0207cmVk><0101:><0207Z3JlZW4=>, which is hot ? \"red\" : \"green\"."_s);
