@@ -2,6 +2,9 @@
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/TableFactory.h"
 #include "corvex/core/properties/BasicProperties.h"
+#include "corvex/core/properties/CollectionProperties.h"
+#include "corvex/core/properties/ExpressionProperties.h"
+#include "corvex/core/properties/LinkProperty.h"
 #include "corvex/project/elements/FunctionElement.h"
 
 #include <QObject>
@@ -22,13 +25,24 @@ protected:
     bool initializeProperties() override
     {
         static const PropertyTable table{
-            row<IntegerProperty>("litres", "Litres per Minute", 12).flags(15),
+            row<IntegerProperty>("litres", "Litres per Minute", 12),
+            row<LinkProperty>("visualElement", "Lamp",
+                              ObjectLinkInfo(QString(), u"Screen"_s, u"VisualElement"_s))
+                .flags(OrdinaryFlags.toInt())
+                .parameter("scopeType", u"Screen"_s)
+                .parameter("filterType", u"VisualElement"_s),
+            row<UpdateObjectListProperty>("alarmState", "Alarm State", UpdateObjectList())
+                .flags(StoredFlag | EditableFlag)
+                .statesOf("visualElement"),
+            row<ListValueProperty>("sources", "Sources", ListInfo()).references(Form::Names),
         };
         return FunctionElement::initializeProperties() && addProperties(table);
     }
 };
 
-constexpr ClassRow classes[] = {{"FlowMeter", &makeObject<FlowMeter>, "flowMeter", "Flow Meter"}};
+//! Screens have a list of these elements, and a preview shows them as buttons.
+constexpr ClassRow classes[] = {
+    {"FlowMeter", &makeObject<FlowMeter>, "flowMeter", "Flow Meter", "flowMeters", "Button"}};
 
 class FlowFactory
     : public QObject

@@ -10,6 +10,7 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -32,18 +33,30 @@ std::unique_ptr<Object> make(const QString &className, const QString &name = {})
     return std::unique_ptr<Object>(object);
 }
 
-//! Creates a project with a standard element and one of the plug-in's in the working folder.
+//! Creates a project with standard elements and one of the plug-in's, which refers to them, in the working
+//! folder.
 bool writeProject(const QString &name)
 {
     auto project = make<Project>(u"Project"_s, name);
     project->changePropertyObjectValue(project->configuration(),
                                        make<DesignerObject>(u"Configuration"_s, u"VTR"_s).release());
+    project->addListPropertyItem(project->variables(),
+                                 make<DesignerObject>(u"NumberVariable"_s, u"speed"_s).release());
     auto *screen = make<Screen>(u"Screen"_s, u"Main"_s).release();
     project->addListPropertyItem(project->screens(), screen);
-    screen->addListPropertyItem(screen->elements(), make<Element>(u"Text"_s, u"label"_s).release());
+    for (const QString &element : {u"label"_s, u"lamp"_s}) {
+        screen->addListPropertyItem(screen->elements(), make<Element>(u"Text"_s, element).release());
+    }
     auto *meter = make<Element>(u"FlowMeter"_s, u"meter"_s).release();
     screen->addListPropertyItem(screen->elements(), meter);
-    return meter->changePropertyValue(meter->getProperty(u"litres"), u"30"_s) && project->createFile(u"."_s);
+    const std::pair<QString, QString> values[] = {{u"litres"_s, u"30"_s},
+                                                  {u"visualElement"_s, u"objectId: label;"_s},
+                                                  {u"alarmState"_s, u"name: label;"_s},
+                                                  {u"sources"_s, u"speed | label"_s}};
+    const bool areSet = std::all_of(std::begin(values), std::end(values), [meter](const auto &value) {
+        return meter->changePropertyValue(meter->getProperty(value.first), value.second);
+    });
+    return areSet && project->createFile(u"."_s);
 }
 
 QString describe(const Element &element)
