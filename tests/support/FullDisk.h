@@ -6,7 +6,7 @@
 #include <csignal>
 #include <sys/resource.h>
 
-//! While it exists, files cannot grow beyond a number of bytes, as if the disk were full.
+//! For its life the disk takes no file of more than some bytes, as if it were full.
 class FullDisk
 {
 public:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Prints Qt's texts in the messages of GoogleTest.
+// How GoogleTest prints Qt's texts when an expectation fails.
 #pragma once
 
 #include <QByteArray>
