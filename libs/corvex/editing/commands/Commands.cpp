@@ -2,10 +2,14 @@
 #include "corvex/editing/commands/Commands.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/xml/XmlText.h"
 #include "corvex/editing/commands/CompositeCommand.h"
+#include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/editing/commands/objects/DeleteObjectsAndCheckFilters.h"
+#include "corvex/editing/commands/private/ChangeValues.h"
 #include "corvex/editing/commands/private/DuplicateObjects.h"
 #include "corvex/editing/commands/private/EditedKind.h"
+#include "corvex/editing/commands/private/MoveObjects.h"
 #include "corvex/editing/references/KeptMentions.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
@@ -23,6 +27,14 @@ using Common::LocalizationHelper;
 PlannedCommand refused(const QString &english, const QString &name)
 {
     return {nullptr, LocalizationHelper::coreString(english).arg(name), {}};
+}
+
+//! Why a change to that value is refused; empty for one that is done, and perhaps marked as invalid.
+QString refusalOf(DesignerProperty &property, const QString &text)
+{
+    const bool isTaken =
+        property.allowInvalidValue() && XmlText::storageProblem(text).isEmpty() && property.canRead(text);
+    return isTaken ? QString() : property.refusalOf(text);
 }
 
 PlannedCommand planned(std::unique_ptr<ModelCommand> command)
@@ -53,10 +65,11 @@ PlannedCommand noted(PlannedCommand planned, const QList<DesignerObject *> &obje
     return planned;
 }
 
+const QString stillMentioned = u"\"%1\" still mentions \"%2\", since its plug-in is missing."_s;
+
 PlannedCommand notedDeletion(std::unique_ptr<ModelCommand> command, const QList<DesignerObject *> &objects)
 {
-    return noted(planned(std::move(command)), objects,
-                 u"\"%1\" still mentions \"%2\", since its plug-in is missing."_s);
+    return noted(planned(std::move(command)), objects, stillMentioned);
 }
 
 } // namespace
@@ -126,6 +139,55 @@ PlannedCommand Commands::duplicationOf(const QList<DesignerObject *> &objects)
         }
     }
     return planned(std::make_unique<DuplicateObjects>(objects));
+}
+
+PlannedCommand Commands::moveOf(const QList<DesignerObject *> &objects, const SharedProperty &list,
+                                qsizetype index)
+{
+    PlannedCommand moved = planned(std::make_unique<MoveObjects>(objects, list, index));
+    QList<DesignerObject *> leaving; // their screens
+    for (DesignerObject *object : moved ? objects : QList<DesignerObject *>()) {
+        if (object && object->screen() && object->screen() != MoveObjects::screenOf(list)) {
+            leaving.append(object);
+        }
+    }
+    return leaving.isEmpty() ? std::move(moved) : noted(std::move(moved), leaving, stillMentioned);
+}
+
+PlannedCommand Commands::changeOf(const QList<RequestedValue> &values)
+{
+    QList<RequestedValue> wanted;
+    for (const RequestedValue &value : values) {
+        const SharedProperty &property = value.property;
+        const DesignerObject *owner = property ? property->parentObject() : nullptr;
+        if (!owner || property->isList() || property->isObject()) {
+            return refused(u"\"%1\" is not a value."_s, property ? property->id() : QString());
+        }
+        if (property == owner->idProperty() && values.size() > 1) {
+            return refused(u"\"%1\" is a name, and no two objects can have the same. Rename one at a time."_s,
+                           owner->getIdName());
+        }
+        if (!property->hasFlag(StoredFlag)) {
+            return refused(u"\"%1\" is not stored; it follows from other values."_s, property->name());
+        }
+        if (const QString reason = refusalOf(*property, value.text); !reason.isEmpty()) {
+            return {nullptr, values.size() > 1 ? u"%1: %2"_s.arg(owner->objectPath(), reason) : reason, {}};
+        }
+        if (!property->equalsValue(value.text)) {
+            wanted.append(value);
+        }
+    }
+    if (wanted.isEmpty()) {
+        return {};
+    }
+    const auto &[property, text] = wanted.constFirst();
+    if (property == property->parentObject()->idProperty()) {
+        return renameOf(property->parentObject(), IdentifierInfo(text).name());
+    }
+    if (wanted.size() == 1) {
+        return planned(std::make_unique<ChangeProperty>(property, text, true));
+    }
+    return planned(std::make_unique<ChangeValues>(wanted));
 }
 
 } // namespace Halvane::Corvex::Designer

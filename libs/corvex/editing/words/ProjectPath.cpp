@@ -130,8 +130,13 @@ SharedProperty ProjectPath::listFor(Project &project, const QString &path, const
     if (!place.object || place.property) {
         return place.property && place.property->isList() ? place.property : SharedProperty();
     }
+    return listFor(*place.object, item);
+}
+
+SharedProperty ProjectPath::listFor(const DesignerObject &owner, const DesignerObject &item)
+{
     const auto list =
-        std::ranges::max_element(place.object->properties(), {}, [&item](const SharedProperty &property) {
+        std::ranges::max_element(owner.properties(), {}, [&item](const SharedProperty &property) {
             return closeness(property, item);
         });
     return closeness(*list, item) >= 0 ? *list : SharedProperty();

@@ -33,6 +33,8 @@ public:
     /*! The list that the path names. For the path of an object, the one of its lists that describes \a item
         most closely. Null when there is none. */
     static SharedProperty listFor(Project &project, const QString &path, const DesignerObject &item);
+    //! The list of \a owner that describes \a item most closely. Null when there is none.
+    static SharedProperty listFor(const DesignerObject &owner, const DesignerObject &item);
     //! Whether a screen, a variable, an image or an element of the project has the name.
     static bool isName(const Project &project, const QString &name);
 

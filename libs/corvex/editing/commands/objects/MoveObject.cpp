@@ -4,6 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editing/commands/groups/GroupIndexes.h"
 #include "corvex/editing/commands/private/EditStep.h"
+#include "corvex/editing/commands/private/ListOrder.h"
 #include "corvex/editing/references/ReferenceChanges.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
@@ -34,16 +35,45 @@ MoveObject::MoveObject(const SharedProperty &from, const SharedProperty &to, Des
                        bool selected, UndoCommand *parent)
     : ModelCommand(from, selected, parent)
 {
-    if (!from || !to || from == to || !to->parentObject() || !to->isList() || !object
-        || object->listProperty() != from || projectOf(from) != projectOf(to)) {
+    setupCommand(from == to ? SharedProperty() : to, object, -1);
+}
+
+MoveObject::MoveObject(const SharedProperty &from, const SharedProperty &to, DesignerObject *object,
+                       qsizetype index, bool selected, UndoCommand *parent)
+    : ModelCommand(from, selected, parent)
+{
+    setupCommand(to, object, index);
+}
+
+void MoveObject::setupCommand(const SharedProperty &to, DesignerObject *object, qsizetype index)
+{
+    const SharedProperty &from = property();
+    if (!from || !to || !to->parentObject() || !to->isList() || !object || object->listProperty() != from
+        || projectOf(from) != projectOf(to)) {
         refuse(
             Common::LocalizationHelper::coreString(u"There is nothing to move, or no list to move it to."_s));
         return;
     }
     const QString name = object->getIdName();
+    if (from == to && !ListOrder::isFree(*to, *object)) {
+        refuse(Common::LocalizationHelper::coreString(
+                   u"\"%1\" has a fixed place in its list, which sorts objects of its kind by name."_s)
+                   .arg(name));
+        return;
+    }
     setTitle(u"Move\"%1\" to \"%2\""_s, name, to->parentObject()->getIdName());
     addStep<TakeItemStep>(from, object);
-    addStep<InsertItemStep>(to, object);
+    addStep<InsertItemStep>(to, object, index);
+    if (from != to) {
+        followReferences(to, object);
+    }
+    setSelection(isSelected() ? QList<DesignerObject *>{object} : QList<DesignerObject *>());
+}
+
+void MoveObject::followReferences(const SharedProperty &to, DesignerObject *object)
+{
+    const SharedProperty &from = property();
+    const QString name = object->getIdName();
     const GroupElement *oldGroup = GroupIndexes::groupOf(from);
     if (screenOf(from) != screenOf(to)) {
         // Drops it from the indexes of its group too.
@@ -55,7 +85,6 @@ MoveObject::MoveObject(const SharedProperty &from, const SharedProperty &to, Des
     if (const GroupElement *group = GroupIndexes::groupOf(to)) {
         addChange(group->indexes(), GroupIndexes::replaced(valueOf(group->indexes()), {}, {name}));
     }
-    setSelection(selected ? QList<DesignerObject *>{object} : QList<DesignerObject *>());
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -6,13 +6,22 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Moves an object to the end of another list. What refers to it loses the name of a group that it leaves; on
-//! another screen nothing refers to it any more.
+//! Moves an object to another list, or to another place of its list. References to it lose the name of a
+//! group that it leaves. On another screen nothing refers to it any more.
 class CORVEX_EXPORT MoveObject : public ModelCommand
 {
 public:
+    //! To the end of another list.
     MoveObject(const SharedProperty &from, const SharedProperty &to, DesignerObject *object, bool selected,
                UndoCommand *parent = nullptr);
+    //! \a index counts the items of \a to without the object; -1 is the end. A list that sorts itself puts
+    //! the object in its order.
+    MoveObject(const SharedProperty &from, const SharedProperty &to, DesignerObject *object, qsizetype index,
+               bool selected, UndoCommand *parent = nullptr);
+
+private:
+    void setupCommand(const SharedProperty &to, DesignerObject *object, qsizetype index);
+    void followReferences(const SharedProperty &to, DesignerObject *object);
 };
 
 } // namespace Halvane::Corvex::Designer

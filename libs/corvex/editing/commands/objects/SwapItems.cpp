@@ -3,31 +3,12 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
-#include "corvex/core/properties/ObjectListProperty.h"
 #include "corvex/editing/commands/private/EditStep.h"
+#include "corvex/editing/commands/private/ListOrder.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
-
-namespace {
-
-//! A swap that the list's own order undoes at once could not be taken back by another one.
-bool canExchange(const DesignerProperty &list, const DesignerObject &first, const DesignerObject &second)
-{
-    const auto *objects = propertyCast<ObjectListProperty>(&list);
-    const auto rule = objects ? objects->orderRule() : OrderRule::InsertionOrder;
-    const auto isVisual = [](const DesignerObject &item) { return item.isKindOfClass(u"VisualElement"_s); };
-    const auto isSorted = [](const DesignerObject &item) {
-        return item.isKindOfClass(u"HardwareElement"_s) || item.isKindOfClass(u"FunctionElement"_s)
-               || item.isKindOfClass(u"FilterElement"_s) || item.isKindOfClass(u"ProjectVariable"_s);
-    };
-    return rule == OrderRule::InsertionOrder
-           || (rule == OrderRule::KindOrder && !isSorted(first) && !isSorted(second)
-               && isVisual(first) == isVisual(second));
-}
-
-} // namespace
 
 SwapItems::SwapItems(const SharedProperty &list, DesignerObject *first, DesignerObject *second,
                      UndoCommand *parent)
@@ -38,7 +19,7 @@ SwapItems::SwapItems(const SharedProperty &list, DesignerObject *first, Designer
         refuse(Common::LocalizationHelper::coreString(u"These are not two items of one list."_s));
         return;
     }
-    if (!canExchange(*list, *first, *second)) {
+    if (!ListOrder::canExchange(*list, *first, *second)) {
         refuse(Common::LocalizationHelper::coreString(u"The list keeps these two in an order of its own."_s));
         return;
     }

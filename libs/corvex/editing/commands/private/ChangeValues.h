@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/commands/CompositeCommand.h"
+
+namespace Halvane::Corvex::Designer {
+
+struct RequestedValue;
+
+//! Sets values of one or several objects.
+class ChangeValues : public CompositeCommand
+{
+public:
+    //! All of them can be set, and none is a name.
+    explicit ChangeValues(const QList<RequestedValue> &values);
+};
+
+} // namespace Halvane::Corvex::Designer
