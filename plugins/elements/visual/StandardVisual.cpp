@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "elements/visual/StandardVisual.h"
 
+#include "corvex/common/LocalizationHelper.h"
+
 #include "elements/BoundQml.h"
 #include "elements/Rows.h"
 
+using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
 namespace Halvane::Corvex::Elements {
@@ -13,14 +16,23 @@ bool StandardVisual::initializeProperties()
     if (!VisualElement::initializeProperties()) {
         return false;
     }
+    static const QString group = Common::LocalizationHelper::coreString(u"Expressions"_s);
     static const PropertyTable table{
         PropertyRow::redescribe(getProperty(u"position")).qml(&boundToQml),
         PropertyRow::redescribe(getProperty(u"rotation")).qml(&boundToQml),
         PropertyRow::redescribe(getProperty(u"visible")).qml(&boundToQml),
-        bindingRow("xBinding", "Position X (Expression)", "VerticalMathExpressionEditor").rank(60),
-        bindingRow("yBinding", "Position Y (Expression)", "VerticalMathExpressionEditor").rank(61),
-        bindingRow("rotationBinding", "Rotation (Expression)", "VerticalMathExpressionEditor").rank(62),
-        bindingRow("visibleBinding", "Visible (Expression)", "VerticalBooleanExpressionEditor").rank(63),
+        bindingRow("xBinding", "Position X (Expression)", "VerticalMathExpressionEditor")
+            .rank(60)
+            .parameter("group", group),
+        bindingRow("yBinding", "Position Y (Expression)", "VerticalMathExpressionEditor")
+            .rank(61)
+            .parameter("group", group),
+        bindingRow("rotationBinding", "Rotation (Expression)", "VerticalMathExpressionEditor")
+            .rank(62)
+            .parameter("group", group),
+        bindingRow("visibleBinding", "Visible (Expression)", "VerticalBooleanExpressionEditor")
+            .rank(63)
+            .parameter("group", group),
     };
     return addProperties(table);
 }

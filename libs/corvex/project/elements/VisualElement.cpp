@@ -35,6 +35,7 @@ QString opacityDescription()
 
 bool VisualElement::initializeProperties()
 {
+    static const QString group = Common::LocalizationHelper::coreString(u"Appearance"_s);
     static const PropertyTable table{
         row<PointProperty>("position", "Position", QPointF())
             .rank(1)
@@ -43,6 +44,7 @@ bool VisualElement::initializeProperties()
             .allowInvalid(),
         row<RealProperty>("opacity", "Opacity", 100.0)
             .rank(50)
+            .parameter("group", group)
             .editor("OpacityEditor")
             .parameter("minimum", smallestOpacity)
             .parameter("maximum", 100)
@@ -52,9 +54,11 @@ bool VisualElement::initializeProperties()
             .allowInvalid(),
         row<TransformOriginProperty>("transformOrigin", "Transform Origin", QQuickItem::Center)
             .rank(51)
+            .parameter("group", group)
             .tooltip("Controls the point about which simple transforms like scale apply."),
         row<RealProperty>("rotation", "Rotation (Clockwise)", 0.0)
             .rank(52)
+            .parameter("group", group)
             .parameter("minimum", 0)
             .parameter("maximum", 359.99)
             .parameter("singleStep", 1)
@@ -63,6 +67,7 @@ bool VisualElement::initializeProperties()
             .allowInvalid(),
         row<RealProperty>("scale", "Scale", 100.0)
             .rank(53)
+            .parameter("group", group)
             .editor("ScaleEditor")
             .parameter("minimum", -500)
             .parameter("maximum", 500)
@@ -71,6 +76,7 @@ bool VisualElement::initializeProperties()
             .allowInvalid(),
         row<IntegerProperty>("z", "Layer", 0)
             .rank(54)
+            .parameter("group", group)
             .parameter("minimum", 0)
             .parameter("maximum", topLayer)
             .parameter("showSlider", true)
@@ -78,6 +84,7 @@ bool VisualElement::initializeProperties()
             .allowInvalid(),
         row<BooleanProperty>("visible", "Visible", true)
             .rank(55)
+            .parameter("group", group)
             .tooltip("When set to invisible the visual element will become unclickable."),
     };
     return Element::initializeProperties() && addProperties(table);
