@@ -6,14 +6,14 @@
 
 #include <QRegularExpression>
 
-//! The code with nothing in its texts.
+//! The code with all string literals emptied.
 inline QString withoutTexts(QString code)
 {
     static const QRegularExpression text(QStringLiteral(R"("(?:[^"\\\n]|\\[^\n])*")"));
     return code.replace(text, QStringLiteral("\"\""));
 }
 
-//! The first call in a generated document that no table makes, or an empty text.
+//! The first function call in a generated document that no table contains; empty if there is none.
 inline QString foreignCall(const QString &document)
 {
     static const QRegularExpression call(
@@ -33,8 +33,8 @@ inline QString foreignCall(const QString &document)
     return {};
 }
 
-/*! The first part of generated code that no table writes, empty when there is none. Texts may hold anything,
-   and paths that begin with "qml_" are read and assigned, never called. All other words are known ones. */
+//! The first part of generated code that no table contains; empty if there is none. Texts may contain
+//! anything. Paths that begin with "qml_" are read and assigned, never called. All other words must be known.
 inline QString foreignCode(QString code)
 {
     using namespace Qt::StringLiterals;

@@ -6,7 +6,7 @@
 #include <csignal>
 #include <sys/resource.h>
 
-//! For its life the disk takes no file of more than some bytes, as if it were full.
+//! While it exists, files cannot grow beyond a number of bytes, as if the disk were full.
 class FullDisk
 {
 public:

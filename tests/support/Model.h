@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! An object of a class that the factory knows, which the caller owns.
+//! Creates an object of a class of the factory. The caller owns it.
 template<class Object = DesignerObject>
 Object *make(const QString &className, const QString &name)
 {

@@ -5,11 +5,11 @@
 #include <QQmlEngine>
 #include <QString>
 
-/*! What the QML parser has to say about a document, a line for each error; empty when it parses. The modules
-   of the device are not there, so that its types are unknown and nothing behind the parser looks at the
-   document. Its place is a local one: the engine asks the network for the siblings of a remote one. The test
-   links Qt6::Qml.
- */
+/*! The errors of the QML parser for a document, one per line; empty if it parses. The modules of the device
+    do not exist here, so their types are unknown and only the parser sees the document. The document has a
+    local address, because the engine would ask the network for the siblings of a remote one. The test must
+    link Qt6::Qml.
+*/
 inline QString qmlSyntaxErrors(QString document)
 {
     qmlRegisterModule("StandIn", 1, 0);

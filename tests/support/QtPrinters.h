@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How GoogleTest prints Qt's texts when an expectation fails.
+// Prints Qt's texts in the messages of GoogleTest.
 #pragma once
 
 #include <QByteArray>

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #ifdef __SANITIZE_ADDRESS__
-//! Read by LeakSanitizer: Qt's QML engine keeps what its loader thread was about when the engine is deleted.
+//! Read by LeakSanitizer: when a QML engine is deleted, Qt leaks data of its loader thread.
 extern "C" Q_DECL_EXPORT const char *__lsan_default_suppressions()
 {
     return "leak:libQt6Qml.so\n";
@@ -16,12 +16,12 @@ extern "C" Q_DECL_EXPORT const char *__lsan_default_options()
 }
 #endif
 
-//! Runs all tests of a program under one application object on Qt's offscreen platform, so that fonts and
-//! images work on a machine without a display.
+//! Runs all tests of a program with one application object on Qt's offscreen platform, so that fonts and
+//! images work without a display.
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Tests never read or write the settings of the person who runs them.
+    // Tests must not read or write the user's settings.
     const QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(home.path()));
