@@ -24,22 +24,31 @@ using namespace Designer;
 namespace {
 
 //! Names all problems and tells whether the build goes on in spite of them.
-bool isAccepted(const QList<Problem> &problems, const ProjectFile &file, const Call &call,
+bool isAccepted(const QList<Problem> &found, const ProjectFile &file, const Call &call,
                 ProjectBuild::WithProblems withProblems)
 {
+    const ProblemsOfFile report = ProblemReport::make(file, found, call.asJson());
+    const QList<Problem> &problems = report.problems;
     const bool isRefused = hasErrors(problems) && withProblems == ProjectBuild::WithProblems::Refuse;
     if (isRefused && call.asJson()) {
-        ProblemReport::printJson({{file.path(), problems}}, call.terminal());
+        ProblemReport::printJson({report}, call.terminal());
     } else {
         for (const Problem &problem : problems) {
-            call.terminal().printError(ProblemReport::line(problem));
+            if (ProblemReport::isOpen(problem)) {
+                call.terminal().printError(ProblemReport::line(problem));
+            }
         }
     }
     if (!isRefused) {
         return true;
     }
-    call.failed(u"\"%1\" has problems (%2) and is not built. Mend them, or build it all the same with "
-                "--force."_s.arg(file.path(), QString::number(problems.size())));
+    const bool isApproved = std::ranges::any_of(problems, [](const Problem &problem) {
+        return problem.isApproved && problem.severity() == Severity::Error;
+    });
+    call.failed(
+        u"\"%1\" has problems (%2) and is not built. Mend them, or build it all the same with "
+        "--force.%3"_s.arg(file.path(), QString::number(problems.size()),
+                           isApproved ? u" Errors stop a build even when they are approved."_s : QString()));
     return false;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ProjectFile.h"
 
+#include "corvex/checks/ProblemApprovals.h"
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/core/DesignerFactory.h"
@@ -77,6 +78,7 @@ ProjectFile::~ProjectFile()
     if (m_project) {
         m_project->closeFiles();
     }
+    m_approvals.reset();
     delete std::exchange(left, m_project.release());
 }
 
@@ -124,6 +126,7 @@ bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
         return false;
     }
     m_project = create();
+    m_approvals = m_project ? std::make_unique<ProblemApprovals>(*m_project) : nullptr;
     call.terminal().showProgress(u"Waiting for others that work on %1"_s.arg(m_path));
     using Kind = Common::FolderLock::Kind;
     // Nobody else knows the folder of a project from standard input.
@@ -181,7 +184,13 @@ ExitCode ProjectFile::save(const Call &call) const
     if (!isUnchanged(call)) {
         return ExitCode::File;
     }
-    return m_project->saveFile() ? ExitCode::Done : call.failed(m_project->fileError());
+    if (!m_project->saveFile()) {
+        return call.failed(m_project->fileError());
+    }
+    if (const QString error = m_approvals->errorString(); !error.isEmpty()) {
+        call.terminal().printError(Terminal::oneLine(u"The approvals are not saved. %1"_s.arg(error)));
+    }
+    return ExitCode::Done;
 }
 
 QList<ReadNote> ProjectFile::dropped() const

@@ -18,6 +18,7 @@ class TemporaryFolder;
 
 namespace Halvane::Corvex::Designer {
 class DesignerObject;
+class ProblemApprovals;
 class Project;
 } // namespace Halvane::Corvex::Designer
 
@@ -44,6 +45,8 @@ public:
     static std::unique_ptr<Designer::Project> create();
 
     Designer::Project &project() const { return *m_project; }
+    //! Those of the project. They are saved with it, and follow what is renamed.
+    Designer::ProblemApprovals &approvals() const { return *m_approvals; }
     //! As the user wrote it; "-" for standard input, whose project can be looked at and not be saved.
     const QString &path() const { return m_path; }
 
@@ -71,6 +74,7 @@ private:
     Common::FileStamp m_stamp;                        //!< of the file as it was opened
     std::unique_ptr<Common::TemporaryFolder> m_input; //!< with what came from standard input
     std::unique_ptr<Designer::Project> m_project;
+    std::unique_ptr<Designer::ProblemApprovals> m_approvals;
 };
 
 //! A verb's run() that opens the project first.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/checks/ProblemFix.h"
 #include "corvex/checks/ProblemKind.h"
 
 #include <QFile>
@@ -15,7 +16,8 @@ TEST(ProblemPage, ListsEveryKindOfProblem)
     QString page =
         u"# Problems\n\nWhat `corvex check` can find. An error keeps a project from being built; a "
         "warning and a hint do\nnot. `--json` prints the code words, which stay the same from version "
-        "to version.\n"_s;
+        "to version. Programs with a list of\nproblems offer the fixes as edits, which can be undone. Words "
+        "such as \"%1\" stand for names and values.\n"_s;
     QSet<QByteArray> words;
     for (const ProblemKind &kind : ProblemKind::all()) {
         EXPECT_FALSE(words.contains(kind.word)) << kind.word;
@@ -24,6 +26,9 @@ TEST(ProblemPage, ListsEveryKindOfProblem)
         page += kind.message ? u"`%1`\n\n"_s.arg(QString::fromUtf8(kind.message)) : QString();
         page += u"- Severity: %1\n- Cause: %2\n- Cure: %3\n"_s.arg(
             kind.severityWord(), QString::fromUtf8(kind.cause), QString::fromUtf8(kind.cure));
+        for (const QString &fix : ProblemFix::texts(kind.code)) {
+            page += u"- Fix: %1\n"_s.arg(fix);
+        }
     }
     QFile file(QStringLiteral(CORVEX_DOCS "/problems.md"));
     if (qEnvironmentVariableIsSet("CORVEX_WRITE")) {

@@ -3,8 +3,11 @@
 
 #include "corvex/checks/Problem.h"
 
+#include <QStringList>
+
 namespace Halvane::Corvex::Tool {
 
+class ProjectFile;
 class Terminal;
 
 //! What is wrong with one of the projects that a verb was called with.
@@ -12,12 +15,21 @@ struct ProblemsOfFile
 {
     QString file; //!< as the user wrote it
     QList<Designer::Problem> problems;
+    QList<QStringList> fixes; //!< what they are called, problem by problem; may be shorter
+    QStringList reasons;      //!< why problems are approved, problem by problem
 };
 
 //! How verbs print problems.
 class ProblemReport
 {
 public:
+    //! Marks what is approved. With \a withFixes it looks for fixes, too, which takes time.
+    static ProblemsOfFile make(const ProjectFile &file, const QList<Designer::Problem> &problems,
+                               bool withFixes);
+    //! What is left to a user who has approved the rest: all but approved warnings and hints.
+    static bool isOpen(const Designer::Problem &problem);
+    //! "3 problems, 2 approved"; empty when nothing is approved.
+    static QString summary(const QList<Designer::Problem> &problems);
     //! One line of text.
     static QString line(const Designer::Problem &problem);
     //! All problems as one JSON object.

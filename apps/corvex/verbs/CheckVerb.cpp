@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/checks/ProblemApprovals.h"
 #include "corvex/checks/ProjectProblems.h"
 #include "corvex/project/Project.h"
 #include "corvex/runtime/RuntimeGenerator.h"
@@ -67,7 +68,10 @@ ExitCode check(const Call &call, qsizetype argument, QList<ProblemsOfFile> &all)
     QList<Problem> problems = ProjectProblems::find(
         file.project(), *models, call.terminal().showProgress(u"Checking %1"_s.arg(file.path())));
     const ExitCode code = call.isSet(u"screens"_s) ? checkScreens(call, file, problems) : ExitCode::Done;
-    all.append({file.path(), problems});
+    if (const QString error = file.approvals().errorString(); !error.isEmpty()) {
+        return call.failed(error);
+    }
+    all.append(ProblemReport::make(file, problems, call.asJson()));
     return code == ExitCode::Done && hasErrors(problems) ? ExitCode::Problems : code;
 }
 
@@ -75,7 +79,12 @@ void print(const ProblemsOfFile &one, const Call &call)
 {
     const QString start = call.arguments().size() > 1 ? Terminal::oneLine(one.file) + u": "_s : QString();
     for (const Problem &problem : one.problems) {
-        call.terminal().print(start + ProblemReport::line(problem));
+        if (ProblemReport::isOpen(problem)) {
+            call.terminal().print(start + ProblemReport::line(problem));
+        }
+    }
+    if (const QString summary = ProblemReport::summary(one.problems); !summary.isEmpty()) {
+        call.terminal().print(start + summary);
     }
 }
 
@@ -113,6 +122,9 @@ const Verb checkVerb{
 object, the property, and what is wrong. Among them are parts of the file that could not be
 read, with line and column, names that lead nowhere, and generated code that the device could
 not read. Without problems nothing is printed; with errors the exit code is 1.
+
+Warnings and hints that are approved ("corvex approve") are only counted. Errors that are approved
+are printed: they still stop a build.
 
 With --screens, the screens are run as the device would run them: texts that do not fit,
 elements that are outside of the screen or wholly hidden by others, and all that goes wrong

@@ -31,6 +31,7 @@ struct Verb
     ExitCode (*run)(const Call &call); //!< onProject<> for a verb whose first argument is a project's file
 };
 
+extern const Verb approveVerb;
 extern const Verb buildVerb;
 extern const Verb checkVerb;
 extern const Verb configDumpVerb;

@@ -6,9 +6,9 @@ namespace Halvane::Corvex::Tool {
 const QList<const Verb *> &allVerbs()
 {
     static const QList<const Verb *> verbs{
-        &newVerb,    &infoVerb,   &treeVerb,       &usesVerb,  &diffVerb,    &editVerb,
-        &renameVerb, &checkVerb,  &fmtVerb,        &buildVerb, &previewVerb, &renderVerb,
-        &exportVerb, &importVerb, &configDumpVerb, &valueVerb, &exprVerb,    &helpVerb,
+        &newVerb,    &infoVerb,       &treeVerb,  &usesVerb,  &diffVerb,    &editVerb,   &renameVerb,
+        &checkVerb,  &approveVerb,    &fmtVerb,   &buildVerb, &previewVerb, &renderVerb, &exportVerb,
+        &importVerb, &configDumpVerb, &valueVerb, &exprVerb,  &helpVerb,
     };
     return verbs;
 }

@@ -4,6 +4,7 @@
 #include "corvex/checks/Problem.h"
 #include "corvex/common/Export.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Halvane::Corvex::Designer {
@@ -12,11 +13,10 @@ class Project;
 
 /*! Looks for problems of one kind.
 
-    A check says what it looks at by its base: PropertyCheck, ObjectCheck or ProjectCheck. What it says of a
-    property depends on that property and on what it refers to, and nothing else; likewise for an object. So
-    the part that an edit has changed can be checked again alone, one walk through the project serves all
-    checks, and several threads share the walk: each has checks of its own, which are joined at the end. A
-    check of a list is one of the list property.
+    A check says what it looks at by its base: PropertyCheck, ObjectCheck or ProjectCheck. What it says about
+    a property depends only on the object of that property and on the objects that it names. So the part that
+    an edit has changed can be checked again alone, one walk through the project serves all checks, and
+    several threads share the walk: each has checks of its own, which are joined at the end.
 */
 class CORVEX_EXPORT Check
 {
@@ -28,9 +28,10 @@ public:
     //! Takes over what \a later has found, a check of the same class that has looked at what comes later in
     //! the project.
     virtual void join(Check &later) { m_problems += std::exchange(later.m_problems, {}); }
-    //! Runs when the check has seen all that it looks at.
+    //! Runs when the check has seen all that it looks at. It may then look at more, and finish again.
     virtual void finish(const Project &) { }
     const QList<Problem> &problems() const { return m_problems; }
+    QList<Problem> takeProblems() { return std::exchange(m_problems, {}); }
 
 protected:
     void report(const Problem &problem) { m_problems.append(problem); }
@@ -38,6 +39,12 @@ protected:
     void report(const Subject &subject, ProblemCode code, const QStringList &values = {})
     {
         report(Problem::at(subject, code, values));
+    }
+    //! Problems with equal keys keep their order.
+    template<class Key>
+    void sortProblems(Key key)
+    {
+        std::ranges::stable_sort(m_problems, {}, key);
     }
 
 private:
@@ -53,7 +60,7 @@ public:
     virtual void look(const DesignerProperty &property) = 0;
 };
 
-//! Looks at one object at a time, and perhaps at what is below it.
+//! Looks at one object at a time, without the objects below it.
 class CORVEX_EXPORT ObjectCheck : public Check
 {
 public:
@@ -62,7 +69,7 @@ public:
     virtual void look(const DesignerObject &object) = 0;
 };
 
-//! Looks at the project as a whole.
+//! Looks at what is true of the project as a whole: its file and its device model.
 class CORVEX_EXPORT ProjectCheck : public Check
 {
 public:

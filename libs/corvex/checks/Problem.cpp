@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/Problem.h"
 
+#include "corvex/checks/private/FilledText.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 
@@ -12,46 +13,45 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Fills the placeholders in one pass: a value may look like a placeholder itself.
-QString filled(const QString &text, const QStringList &values)
-{
-    switch (values.size()) {
-    case 0:
-        return text;
-    case 1:
-        return text.arg(values[0]);
-    case 2:
-        return text.arg(values[0], values[1]);
-    case 3:
-        return text.arg(values[0], values[1], values[2]);
-    default:
-        return text.arg(values[0], values[1], values[2], values[3]);
-    }
-}
-
-Problem make(const DesignerObject &object, const QString &property, ProblemCode code,
-             const QStringList &values)
+//! The message of the kind.
+QString message(ProblemCode code, const QStringList &values)
 {
     const QString english = QString::fromUtf8(ProblemKind::of(code).message);
-    return {code, object.objectPath(), property,
-            filled(Common::LocalizationHelper::coreString(english), values)};
+    return filledText(Common::LocalizationHelper::coreString(english), values);
+}
+
+Problem make(const DesignerObject &object, const QString &property, ProblemCode code, const QString &message)
+{
+    Problem problem{code, object.objectPath(), property, message};
+    problem.source = const_cast<DesignerObject *>(&object);
+    return problem;
 }
 
 } // namespace
 
 Problem Problem::at(const DesignerProperty &property, ProblemCode code, const QStringList &values)
 {
-    return make(*property.parentObject(), property.id(), code, values);
+    return withMessage(property, code, Designer::message(code, values));
 }
 
 Problem Problem::at(const DesignerObject &object, ProblemCode code, const QStringList &values)
 {
-    return make(object, {}, code, values);
+    return make(object, {}, code, Designer::message(code, values));
+}
+
+Problem Problem::withMessage(const DesignerProperty &property, ProblemCode code, const QString &message)
+{
+    return make(*property.parentObject(), property.id(), code, message);
+}
+
+QString Problem::path() const
+{
+    return source && source->project() ? source->objectPath() : object;
 }
 
 QString Problem::toString() const
 {
-    QStringList parts{object};
+    QStringList parts{path()};
     if (const QString place = line > 0 ? u"line %1, column %2"_s.arg(line).arg(column) : property;
         !place.isEmpty()) {
         parts.append(place);

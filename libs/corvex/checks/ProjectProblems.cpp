@@ -2,16 +2,6 @@
 #include "corvex/checks/ProjectProblems.h"
 
 #include "corvex/checks/private/CheckWalk.h"
-#include "corvex/checks/private/CodeCheck.h"
-#include "corvex/checks/private/DeviceCheck.h"
-#include "corvex/checks/private/ExpressionCheck.h"
-#include "corvex/checks/private/FieldbusCheck.h"
-#include "corvex/checks/private/FileCheck.h"
-#include "corvex/checks/private/InvalidValueCheck.h"
-#include "corvex/checks/private/LogCheck.h"
-#include "corvex/checks/private/ModbusCheck.h"
-#include "corvex/checks/private/NumberCheck.h"
-#include "corvex/checks/private/ReferenceCheck.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/Processors.h"
 #include "corvex/common/Progress.h"
@@ -36,22 +26,6 @@ struct Part
     CheckWalk walk;
 };
 
-CheckWalk newWalk(const Project &project, const ConfigurationContainer &models)
-{
-    CheckWalk walk;
-    walk.add<FileCheck>(models);
-    walk.add<InvalidValueCheck>();
-    walk.add<NumberCheck>();
-    walk.add<ReferenceCheck>(project);
-    walk.add<DeviceCheck>(project, models);
-    walk.add<FieldbusCheck>();
-    walk.add<ModbusCheck>();
-    walk.add<ExpressionCheck>(project);
-    walk.add<LogCheck>();
-    walk.add<CodeCheck>();
-    return walk;
-}
-
 //! How many objects there are about, of which none is far below.
 qsizetype weightOf(const DesignerObject &object)
 {
@@ -71,14 +45,14 @@ std::vector<Part> partsOf(const Project &project, const ConfigurationContainer &
     qsizetype room = 0;
     for (DesignerObject *object : objects) {
         if (room <= 0) {
-            parts.push_back({{}, newWalk(project, models)});
+            parts.push_back({{}, CheckWalk::withAllChecks(project, models)});
             room = weight;
         }
         parts.back().objects.append(object);
         room -= weightOf(*object);
     }
     if (parts.empty()) {
-        parts.push_back({{}, newWalk(project, models)});
+        parts.push_back({{}, CheckWalk::withAllChecks(project, models)});
     }
     return parts;
 }

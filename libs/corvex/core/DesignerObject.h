@@ -189,6 +189,8 @@ public:
     //! Validates all objects below, then all own properties, and collects "title: reason" for each failure.
     //! Emits validationError() when errors appear and resetValidationError() when they are gone.
     bool validate();
+    //! The same without the objects below, which keep their last outcomes.
+    void validateProperties();
     bool isValid() const;
     void setValid(bool valid);
     const QStringList &validationErrors() const;
@@ -323,7 +325,6 @@ private:
     void revalidate(const SharedProperty &property);
     //! Enables validation for this object and everything below it, and validates, in one pass.
     void validateWhatWasRead();
-    void validateOwnProperties();
     void childValidityChanged(DesignerProperty &property);
 
     bool mayEnter(const SharedProperty &property, const DesignerObject *item) const;

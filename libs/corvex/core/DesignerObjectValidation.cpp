@@ -19,7 +19,7 @@ bool DesignerObject::validate()
     for (DesignerObject *child : childObjects()) {
         child->validate();
     }
-    validateOwnProperties();
+    validateProperties();
     return d->isValid;
 }
 
@@ -30,12 +30,15 @@ void DesignerObject::validateWhatWasRead()
     for (DesignerObject *child : childObjects()) {
         child->validateWhatWasRead();
     }
-    validateOwnProperties();
+    validateProperties();
 }
 
-void DesignerObject::validateOwnProperties()
+void DesignerObject::validateProperties()
 {
     d->isValidatingChildren = false;
+    if (d->validationDisabled) {
+        return;
+    }
     for (DesignerProperty *property : d->properties) {
         property->validate();
     }

@@ -92,6 +92,8 @@ public:
     //! Where the files of the images lie, whether or not the folder is there; empty for a project without a
     //! file.
     QString imagesPath() const;
+    //! D/P/Approvals.jsonl, where approved problems are listed; empty for a project without a file.
+    QString approvalsPath() const;
     //! D/P.kdproj.kdasv, beside the project's folder; empty for a project without a file.
     QString autosavePath() const;
     //! What the file \a path holds as the values of its properties "id" and "version", found without loading

@@ -27,7 +27,7 @@ bool validateName(const DesignerProperty *property, QString &error)
            || ValidationError::set(error, "BACnet Object name should be provided");
 }
 
-bool validateProperties(const DesignerProperty *property, QString &error)
+bool validatePropertyList(const DesignerProperty *property, QString &error)
 {
     return BACnetPropertyList().read(valueAs<GeneralDataListProperty>(property), error);
 }
@@ -66,7 +66,7 @@ bool BACnetObject::initializeProperties()
             .rank(14)
             .allowInvalid()
             .editor("BACnetPropertiesEditor")
-            .validator(&validateProperties),
+            .validator(&validatePropertyList),
     };
     return DeviceVariable::initializeProperties() && addProperties(table);
 }

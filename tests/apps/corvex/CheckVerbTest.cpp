@@ -302,3 +302,44 @@ TEST(CheckVerb, RequiresAnInstalledModel)
     EXPECT_EQ(sandbox.run({u"check"_s, pump}).out,
               u"Pump: configuration: The device model \"Other %1\" is not available.\n"_s);
 }
+
+TEST(CheckVerb, CountsApprovedProblemsApart)
+{
+    const Sandbox sandbox;
+    sandbox.makeProject(Sandbox::goodElements()
+                        + Sandbox::object("Text", "faded", Sandbox::value("opacity", "5"))
+                        + Sandbox::object("Text", "bad name"));
+    const QString fadedLine = u"Main.faded: opacity: warning: opacity takes numbers from 10 to 100, not 5."_s;
+    const ProgramRun before = sandbox.run({u"check"_s, pump});
+    EXPECT_TRUE(before.out.contains(fadedLine)) << qPrintable(before.out);
+    const ProgramRun approved = sandbox.run(
+        {u"approve"_s, pump, u"appearance.range"_s, u"Main.faded.opacity"_s, u"--reason"_s, u"thin"_s});
+    EXPECT_EQ(approved.error + approved.out, QString());
+    EXPECT_EQ(approved.code, 0);
+    EXPECT_EQ(sandbox.run({u"approve"_s, pump, u"name.format"_s, u"Main.bad name.id"_s}).code, 0);
+
+    const ProgramRun after = sandbox.run({u"check"_s, pump});
+    EXPECT_EQ(after.code, 1) << "an error stays one";
+    EXPECT_FALSE(after.out.contains(fadedLine));
+    EXPECT_TRUE(after.out.contains(u"must be a letter. (approved)\n0 problems, 2 approved\n"_s))
+        << qPrintable(after.out);
+    const QJsonArray problems = sandbox.run({u"check"_s, pump, u"--json"_s}).json()[u"problems"_s].toArray();
+    ASSERT_EQ(problems.size(), 2);
+    EXPECT_TRUE(problems[1][u"approved"_s].toBool());
+    EXPECT_EQ(problems[1][u"reason"_s].toString(), u"thin"_s);
+    EXPECT_EQ(problems[1][u"fixes"_s].toArray(), QJsonArray{u"Set to 10, the smallest value"_s});
+    EXPECT_TRUE(sandbox.run({u"build"_s, pump, u"-o"_s, u"built"_s})
+                    .error.contains(u"Errors stop a build even when they are approved."_s));
+
+    EXPECT_EQ(sandbox.run({u"rename"_s, pump, u"Main.faded"_s, u"pale"_s, u"--force"_s}).code, 0);
+    EXPECT_TRUE(sandbox.run({u"check"_s, pump}).out.contains(u", 2 approved\n"_s));
+    EXPECT_EQ(
+        sandbox.run({u"approve"_s, pump, u"appearance.range"_s, u"Main.pale.opacity"_s, u"--withdraw"_s})
+            .code,
+        0);
+    EXPECT_TRUE(sandbox.run({u"check"_s, pump}).out.contains(u"1 problem, 1 approved\n"_s));
+    const ProgramRun none = sandbox.run({u"approve"_s, pump, u"name.taken"_s, u"Main.pale.opacity"_s});
+    EXPECT_EQ(none.code, 1);
+    EXPECT_TRUE(none.error.contains(u"It has: appearance.range Main.pale.opacity."_s))
+        << qPrintable(none.error);
+}

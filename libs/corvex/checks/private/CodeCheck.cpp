@@ -19,6 +19,9 @@ QString textOf(const QmlBinding &binding)
     return text;
 }
 
+//! Beyond that number the check forgets all of them, and reads again what comes up.
+constexpr qsizetype mostShapes = 20'000;
+
 } // namespace
 
 qsizetype CodeCheck::TextNumbers::of(const QString &text)
@@ -55,7 +58,10 @@ void CodeCheck::look(const DesignerProperty &property)
     int place = 0;
     for (const QmlBinding &binding : property.qmlBindings()) {
         if (isPlain || binding.name.isEmpty() || !isPlainCode(binding.code)) {
-            m_uses.append({&property, m_shapes.of(qmlShape(textOf(binding))), place, isPlain});
+            const qsizetype shape = m_shapes.of(qmlShape(textOf(binding)));
+            if (shape >= m_readShapes || m_wrongShapes.contains(shape)) {
+                m_uses.append({&property, shape, place, isPlain});
+            }
         }
         ++place;
     }
@@ -76,8 +82,18 @@ void CodeCheck::join(Check &later)
     m_plainNames += other.m_plainNames;
 }
 
+void CodeCheck::readShapes()
+{
+    const QStringList unread = m_shapes.texts().sliced(m_readShapes);
+    for (const qsizetype index : CodeReader::errors(unread).keys()) {
+        m_wrongShapes.insert(m_readShapes + index);
+    }
+    m_readShapes = m_shapes.count();
+}
+
 void CodeCheck::finish(const Project &)
 {
+    readShapes();
     // Not each text of a wrong shape has to be wrong. Each is read for its own message.
     struct Suspect
     {
@@ -86,9 +102,10 @@ void CodeCheck::finish(const Project &)
     };
     QList<Suspect> suspects;
     TextNumbers texts;
-    const QHash<qsizetype, QString> wrongShapes = CodeReader::errors(m_shapes.texts());
-    for (const auto &[property, shape, place, isPlain] : std::as_const(m_uses)) {
-        if (wrongShapes.contains(shape)) {
+    for (const auto &[property, shape, place, isPlain] : std::exchange(m_uses, {})) {
+        if (m_wrongShapes.contains(shape)) {
+            // The next object with such a property is looked at, too, should it be checked later.
+            m_plainNames.remove(isPlain ? property->id() : QString());
             const QmlBindings bindings = property->qmlBindings();
             suspects.append({bindings.at(place).source, texts.of(textOf(bindings.at(place)))});
         }
@@ -100,6 +117,11 @@ void CodeCheck::finish(const Project &)
             report(*source, ProblemCode::CodeUnreadable, {messages.value(text)});
             reported = source;
         }
+    }
+    if (m_shapes.count() > mostShapes) {
+        m_shapes = {};
+        m_wrongShapes.clear();
+        m_readShapes = 0;
     }
 }
 

@@ -10,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 
 /*! Reads the bindings that properties of screens and elements generate, as the device will do. Of texts that
    are alike one is read, and a text that cannot be wrong not at all. A problem is reported at the source of
-   the binding: the property that holds what the user wrote. */
+   the binding: the property that holds what the user wrote. The check remembers what it has read. */
 class CodeCheck : public PropertyCheck
 {
 public:
@@ -35,13 +35,18 @@ private:
     public:
         qsizetype of(const QString &text);
         const QStringList &texts() const { return m_texts; }
+        qsizetype count() const { return m_texts.size(); }
 
     private:
         QHash<QString, qsizetype> m_numbers;
         QStringList m_texts;
     };
 
+    void readShapes();
+
     TextNumbers m_shapes;
+    qsizetype m_readShapes = 0;    //!< how many of them have been read
+    QSet<qsizetype> m_wrongShapes; //!< of those
     QList<Use> m_uses;
     QSet<QString> m_plainNames; //!< of properties with plain values, which were looked at once
 };

@@ -53,6 +53,11 @@ DeviceCheck::DeviceCheck(const Project &project, const ConfigurationContainer &m
     m_ethernetPorts = installed ? installed->ethernetPorts() : std::nullopt;
 }
 
+bool DeviceCheck::isOnDevice(const DesignerObject &object)
+{
+    return connectionOf(object) != Connection::None || DeviceChannels::of(object.className());
+}
+
 bool DeviceCheck::concerns(const DesignerObject &object)
 {
     const Connection connection = connectionOf(object);

@@ -14,9 +14,12 @@ class ConfigurationContainer;
 class DeviceCheck : public ObjectCheck
 {
 public:
-    //! Says nothing of a project without a configuration. \a models are those that are installed.
+    /*! Says nothing about a project without a configuration. \a models are those that are installed. The
+       check keeps what it needs of the model: make another one when the configuration changes. */
     DeviceCheck(const Project &project, const ConfigurationContainer &models);
 
+    //! Whether objects of the class use channels or connections of any model.
+    static bool isOnDevice(const DesignerObject &object);
     bool concerns(const DesignerObject &object) override;
     void look(const DesignerObject &object) override;
 

@@ -7,8 +7,6 @@
 #include "corvex/variables/CANVariable.h"
 #include "corvex/variables/CanParameterMap.h"
 
-#include <QHash>
-
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -27,59 +25,78 @@ struct BitUser
 };
 using Message = std::array<BitUser, messageBits>;
 
+const SharedProperty &mapProperty(const DesignerObject &variable)
+{
+    return static_cast<const CANVariable &>(variable).parameterMap();
+}
+
+//! False for a map that is not valid.
+bool readMap(const DesignerObject &variable, CanParameterMap &map)
+{
+    QString error;
+    return map.read(valueAs<GeneralDataListProperty>(mapProperty(variable)), error);
+}
+
+SharedProperty identifierOf(const DesignerObject &object)
+{
+    return object.getProperty(u"objectID");
+}
+
 } // namespace
 
-bool FieldbusCheck::concerns(const DesignerProperty &property)
+bool IdentifierCheck::concerns(const DesignerObject &object) const
 {
-    return property.id() == "variables"_L1 && property.parentObject()->isKindOfClass(Project::kindName());
+    return object.isKindOfClass(u"BACnetObject"_s);
 }
 
-void FieldbusCheck::look(const DesignerProperty &variables)
+QList<SharedCheck::Claim> IdentifierCheck::claims(const DesignerObject &object) const
 {
-    lookForSharedIdentifiers(variables);
-    lookForSharedBits(variables);
+    const auto identifier = BACnetObject::readIdentifier(identifierOf(object)->valueString());
+    return identifier ? QList<Claim>{{u"%1,%2"_s.arg(identifier->type).arg(identifier->instance)}}
+                      : QList<Claim>();
 }
 
-void FieldbusCheck::lookForSharedIdentifiers(const DesignerProperty &variables)
+void IdentifierCheck::compare(const Group &group)
 {
-    QHash<QPair<int, int>, const DesignerObject *> owners;
-    for (const DesignerObject *object : variables.getItemsOfType(u"BACnetObject"_s)) {
-        const SharedProperty property = object->getProperty(u"objectID");
-        const auto identifier = BACnetObject::readIdentifier(property->valueString());
-        if (!identifier) {
-            continue;
-        }
-        const DesignerObject *&owner = owners[{identifier->type, identifier->instance}];
-        if (owner) {
-            report(*property, ProblemCode::BACnetTaken, {property->valueString(), owner->getIdName()});
-        } else {
-            owner = object;
-        }
+    for (const DesignerObject *object : group.subjects.sliced(1)) {
+        const SharedProperty property = identifierOf(*object);
+        report(*property, ProblemCode::BACnetTaken,
+               {property->valueString(), group.subjects.constFirst()->getIdName()});
     }
 }
 
-void FieldbusCheck::lookForSharedBits(const DesignerProperty &variables)
+bool MessageBitsCheck::concerns(const DesignerObject &object) const
 {
-    QHash<quint32, Message> messages; // by identifier without priority, which parts no messages
-    for (const DesignerObject *object : variables.getItemsOfType(u"CANVariable"_s)) {
-        const SharedProperty &property = static_cast<const CANVariable *>(object)->parameterMap();
+    return object.isKindOfClass(u"CANVariable"_s);
+}
+
+QList<SharedCheck::Claim> MessageBitsCheck::claims(const DesignerObject &object) const
+{
+    CanParameterMap map;
+    if (!readMap(object, map)) {
+        return {};
+    }
+    // The identifier without the priority, which does not part messages.
+    return {{QString::number(quint32(map.pgn()) << 8 | quint32(map.sourceAddress()))}};
+}
+
+void MessageBitsCheck::compare(const Group &group)
+{
+    Message message;
+    for (const DesignerObject *variable : group.subjects) {
         CanParameterMap map;
-        QString error;
-        if (!map.read(valueAs<GeneralDataListProperty>(property), error)) {
-            continue;
-        }
-        Message &message = messages[quint32(map.pgn()) << 8 | quint32(map.sourceAddress())];
+        readMap(*variable, map);
         for (const CanParameter &parameter : map.parameters()) {
             const int start = (parameter.byte - 1) * 8 + parameter.bit - 1;
             const auto first = message.begin() + start;
             const auto last = first + parameter.length;
             const auto other = std::find_if(first, last, [](const BitUser &user) { return user.variable; });
             if (other != last) {
-                report(*property, ProblemCode::CanOverlap,
+                report(*mapProperty(*variable), ProblemCode::CanOverlap,
                        {QString::number(parameter.spn), QString::number(other->spn),
                         other->variable->getIdName()});
             }
-            std::fill(first, last, BitUser{object, parameter.spn});
+            std::fill(first, last, BitUser{variable, parameter.spn});
         }
     }
 }

@@ -1,21 +1,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/checks/Check.h"
+#include "corvex/checks/private/SharedCheck.h"
 
 namespace Halvane::Corvex::Designer {
 
-//! What the fieldbus variables of a project must not share: BACnet identifiers, and bits of CAN messages.
-//! Looks at the list of variables.
-class FieldbusCheck : public PropertyCheck
+//! BACnet objects with the same identifier.
+class IdentifierCheck : public SharedCheck
 {
 public:
-    bool concerns(const DesignerProperty &property) override;
-    void look(const DesignerProperty &variables) override;
+    bool concerns(const DesignerObject &object) const override;
+    QList<Claim> claims(const DesignerObject &object) const override;
+    void compare(const Group &group) override;
+};
 
-private:
-    void lookForSharedIdentifiers(const DesignerProperty &variables);
-    void lookForSharedBits(const DesignerProperty &variables);
+//! Variables that use the same bits of a CAN message.
+class MessageBitsCheck : public SharedCheck
+{
+public:
+    bool concerns(const DesignerObject &object) const override;
+    QList<Claim> claims(const DesignerObject &object) const override;
+    void compare(const Group &group) override;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -13,7 +13,7 @@ void FileCheck::look(const Project &project)
         report({code, note.place, {}, note.message, note.line, note.column});
     }
     if (QString error; !m_models.match(project.configurationObject(), &error)) {
-        report({ProblemCode::ModelUnknown, project.objectPath(), project.configuration()->id(), error});
+        report(Problem::withMessage(*project.configuration(), ProblemCode::ModelUnknown, error));
     }
 }
 

@@ -134,8 +134,7 @@ void InvalidValueCheck::look(const DesignerObject &object)
         const ProblemCode code = property->failure() == Kind    ? ProblemCode::ValueInvalid
                                  : property->failure() == Range ? rangeCode(object)
                                                                 : refusalCode(*property);
-        report(
-            {code, object.objectPath(), property->id(), property->errorString() + detail(*property, code)});
+        report(Problem::withMessage(*property, code, property->errorString() + detail(*property, code)));
     }
 }
 

@@ -2,7 +2,9 @@
 #include "corvex/checks/private/LogCheck.h"
 
 #include "corvex/core/properties/LinkProperty.h"
-#include "corvex/project/Project.h"
+#include "corvex/variables/LogVariable.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -10,32 +12,39 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-const QString logClass = u"LogVariable"_s;
+bool isLogLink(const DesignerProperty &property)
+{
+    return propertyCast<LinkProperty>(&property)
+           && property.editorParameter(u"filterType"_s).toString() == LogVariable::kindName();
+}
 
 } // namespace
 
-bool LogCheck::concerns(const DesignerProperty &property)
+bool LogCheck::concerns(const DesignerObject &object) const
 {
-    return propertyCast<LinkProperty>(&property)
-           && property.editorParameter(u"filterType"_s).toString() == logClass;
+    return object.isKindOfClass(LogVariable::kindName())
+           || std::ranges::any_of(object.properties(),
+                                  [](const SharedProperty &property) { return isLogLink(*property); });
 }
 
-void LogCheck::look(const DesignerProperty &link)
+QList<SharedCheck::Claim> LogCheck::claims(const DesignerObject &object) const
 {
-    m_fed.insert(valueAs<LinkProperty>(&link).objectId());
-}
-
-void LogCheck::join(Check &later)
-{
-    m_fed.unite(static_cast<LogCheck &>(later).m_fed);
-}
-
-void LogCheck::finish(const Project &project)
-{
-    for (const DesignerObject *log : project.variables()->getItemsOfType(logClass)) {
-        if (!m_fed.contains(log->getIdName())) {
-            report(*log, ProblemCode::LogUnfed);
+    if (object.isKindOfClass(LogVariable::kindName())) {
+        return {{object.getIdName()}};
+    }
+    QList<Claim> claims;
+    for (const SharedProperty &property : object.properties()) {
+        if (isLogLink(*property)) {
+            claims.append({valueAs<LinkProperty>(property).objectId(), false});
         }
+    }
+    return claims;
+}
+
+void LogCheck::compare(const Group &group)
+{
+    for (const DesignerObject *log : group.otherCount == 0 ? group.subjects : decltype(group.subjects)()) {
+        report(*log, ProblemCode::LogUnfed);
     }
 }
 

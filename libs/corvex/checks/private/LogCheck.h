@@ -1,23 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/checks/Check.h"
-
-#include <QSet>
+#include "corvex/checks/private/SharedCheck.h"
 
 namespace Halvane::Corvex::Designer {
 
 //! Log variables that no element on any screen links, so that nothing ever enters them.
-class LogCheck : public PropertyCheck
+class LogCheck : public SharedCheck
 {
 public:
-    bool concerns(const DesignerProperty &property) override;
-    void look(const DesignerProperty &link) override;
-    void join(Check &later) override;
-    void finish(const Project &project) override;
-
-private:
-    QSet<QString> m_fed; //!< names
+    bool concerns(const DesignerObject &object) const override;
+    //! Logs and links to logs claim the name of the log.
+    QList<Claim> claims(const DesignerObject &object) const override;
+    void compare(const Group &group) override;
 };
 
 } // namespace Halvane::Corvex::Designer

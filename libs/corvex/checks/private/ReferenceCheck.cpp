@@ -2,7 +2,6 @@
 #include "corvex/checks/private/ReferenceCheck.h"
 
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
@@ -19,35 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
-//! What a state or an action gives to a property of an element.
-struct ReferenceCheck::Setting
-{
-    QString element;
-    QString property;
-    QString value;
-};
-
 namespace {
-
-//! What the text is without a property that holds it as a list.
-template<class Property>
-auto listOf(const DesignerProperty &property)
-{
-    using List = std::remove_cvref_t<decltype(std::declval<Property>().value())>;
-    const auto *typed = propertyCast<Property>(&property);
-    return typed ? typed->value() : List(property.valueString());
-}
-
-//! The numbers that a state or an action may give to a property. An element that is hardly to be seen is
-//! kept from designers only; to fade one out is what actions are for.
-NumberRange rangeOf(const DesignerProperty &property)
-{
-    NumberRange range = NumberRange::of(property.editorParameters());
-    if (property.id() == "opacity"_L1) {
-        range.minimum = 0;
-    }
-    return range;
-}
 
 //! Not a number for the text of anything else.
 double numberOf(const QString &text)
@@ -62,7 +33,10 @@ double numberOf(const QString &text)
 ReferenceCheck::ReferenceCheck(const Project &project)
     : m_project(project)
     , m_thread(QThread::currentThread())
-{ }
+{
+    // The project counts the names of all elements when it is first asked for one; later, threads may ask.
+    project.hasElement(QString());
+}
 
 ReferenceCheck::~ReferenceCheck() = default;
 
@@ -82,26 +56,9 @@ void ReferenceCheck::look(const DesignerProperty &property)
         return;
     }
     checkNames(property);
-    for (const Setting &setting : settingsOf(property, property.references())) {
+    for (const StateSetting &setting : StateSetting::of(property)) {
         checkSetting(property, setting);
     }
-}
-
-QList<ReferenceCheck::Setting> ReferenceCheck::settingsOf(const DesignerProperty &property, Form form)
-{
-    QList<Setting> settings;
-    if (form == Form::States) {
-        for (const UpdateObjectInfo &update : listOf<UpdateObjectListProperty>(property)) {
-            for (const PropertyInfo &info : update.propertyValues()) {
-                settings.append({update.name(), info.propName(), info.propValue()});
-            }
-        }
-    } else if (form == Form::Changes) {
-        for (const PropertyChangeInfo &change : listOf<PropertyChangeListProperty>(property)) {
-            settings.append({change.elementName(), change.propertyName(), change.valueString()});
-        }
-    }
-    return settings;
 }
 
 void ReferenceCheck::checkLink(const LinkProperty &link)
@@ -161,27 +118,12 @@ bool ReferenceCheck::isElement(const QString &path, const Screen *screen)
     if (const DesignerObject *named = m_project.screens()->getListItem(first); named && first != path) {
         return hasElement(named, path.sliced(first.size() + 1));
     }
-    return !screen && std::ranges::any_of(screensWith(first), [&](const DesignerObject *any) {
-        return hasElement(any, path);
-    });
+    return !screen && m_project.hasElement(first)
+           && std::ranges::any_of(m_project.screens()->listItems(),
+                                  [&](const DesignerObject *any) { return hasElement(any, path); });
 }
 
-//! The screens with an element of that name. Who asks for one belongs to no screen and may be one of many.
-QList<const Screen *> ReferenceCheck::screensWith(const QString &element)
-{
-    if (!m_screens) {
-        m_screens.emplace();
-        for (const DesignerObject *screen : m_project.screens()->listItems()) {
-            for (const DesignerObject *item :
-                 static_cast<const Screen *>(screen)->elements()->listItems(true)) {
-                m_screens->insert(item->getIdName(), static_cast<const Screen *>(screen));
-            }
-        }
-    }
-    return m_screens->values(element);
-}
-
-void ReferenceCheck::checkSetting(const DesignerProperty &property, const Setting &setting)
+void ReferenceCheck::checkSetting(const DesignerProperty &property, const StateSetting &setting)
 {
     const auto &[elementName, id, value] = setting;
     const Screen *screen = property.parentObject()->screen();
@@ -196,7 +138,7 @@ void ReferenceCheck::checkSetting(const DesignerProperty &property, const Settin
         report(property, ProblemCode::StateProperty, {elementName, id});
     } else if (!target->canRead(value)) {
         report(property, ProblemCode::StateValue, {value, id, elementName});
-    } else if (const NumberRange range = rangeOf(*target); !range.contains(numberOf(value))) {
+    } else if (const NumberRange range = StateSetting::rangeOf(*target); !range.contains(numberOf(value))) {
         report(property, ProblemCode::StateRange, {value, id, elementName, range.toString()});
     }
 }

@@ -2,13 +2,11 @@
 #pragma once
 
 #include "corvex/checks/Check.h"
+#include "corvex/checks/private/StateSetting.h"
 #include "corvex/editing/references/ReferenceForm.h"
-
-#include <QMultiHash>
 
 #include <map>
 #include <memory>
-#include <optional>
 
 class QThread;
 
@@ -30,21 +28,16 @@ public:
     void look(const DesignerProperty &property) override;
 
 private:
-    struct Setting;
-
-    static QList<Setting> settingsOf(const DesignerProperty &property, Form form);
     void checkLink(const LinkProperty &link);
     void checkNames(const DesignerProperty &property);
-    void checkSetting(const DesignerProperty &property, const Setting &setting);
+    void checkSetting(const DesignerProperty &property, const StateSetting &setting);
     bool isThere(const Mention &mention, const Screen *screen);
     bool isElement(const QString &path, const Screen *screen);
-    QList<const Screen *> screensWith(const QString &element);
     const DesignerObject *modelOf(const QString &className);
 
     const Project &m_project;
     QThread *m_thread;
-    std::optional<QMultiHash<QString, const Screen *>> m_screens; //!< by element, found when first asked for
-    std::map<QString, std::unique_ptr<DesignerObject>> m_models;  //!< by class
+    std::map<QString, std::unique_ptr<DesignerObject>> m_models; //!< by class
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -151,6 +151,9 @@ void ReferenceIndex::projectAboutToBeDestroyed()
 
 void ReferenceIndex::find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const
 {
+    if (scope) {
+        find(nullptr, name, found);
+    }
     const auto isFound = [&](const Entry &entry) { return entry.scope == scope && entry.name == name; };
     for (auto entry = m_entries.lower_bound({scope, name, {}}); entry != m_entries.end() && isFound(*entry);
          ++entry) {
@@ -165,12 +168,16 @@ QList<SharedProperty> ReferenceIndex::candidates(const ReferenceTarget &target) 
 {
     QSet<SharedProperty> found;
     for (const QString &name : target.names()) {
-        find(nullptr, name, found);
-        if (target.screen()) {
-            find(target.screen(), name, found);
-        }
+        find(target.screen(), name, found);
     }
     return found.values();
+}
+
+QSet<SharedProperty> ReferenceIndex::mentioning(const Screen *screen, const QString &name) const
+{
+    QSet<SharedProperty> found;
+    find(screen, name, found);
+    return found;
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -28,6 +28,9 @@ public:
 
     //! The properties that may name the target, each once; whether one does is for its value to tell.
     QList<SharedProperty> candidates(const ReferenceTarget &target) const;
+    //! The properties that may name something of that name: an object of \a screen, or without a screen one
+    //! that is known everywhere.
+    QSet<SharedProperty> mentioning(const Screen *screen, const QString &name) const;
 
     void valueChanged(const SharedProperty &property, const QString &previousValue) override;
     void inserted(const SharedProperty &list, qsizetype index, DesignerObject *object) override;
@@ -58,6 +61,7 @@ private:
     static bool sharesName(const Mention &mention, const QSet<QStringView> &names);
     //! For all properties of the object and of what is below it.
     void updateAll(const DesignerObject *object, bool add);
+    //! Adds what is found in the scope and what is known everywhere.
     void find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const;
 
     std::set<Entry> m_entries;

@@ -18,6 +18,8 @@
 #include <QFileInfo>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -26,6 +28,7 @@ namespace {
 
 const QString imagesFolder = u"Images"_s;
 const QString previewFile = u"Preview.png"_s;
+const QString approvalsFile = u"Approvals.jsonl"_s;
 
 QString projectFileName(const QString &name)
 {
@@ -195,7 +198,7 @@ bool Project::deleteFile()
     for (const ImageResource *image : images()) {
         files.append(image->filePath());
     }
-    files.append(folder.filePath(previewFile));
+    files << folder.filePath(previewFile) << folder.filePath(approvalsFile);
     if (!FileObject::deleteFile()) {
         return false;
     }
@@ -279,9 +282,13 @@ bool Project::copyResources(const QString &path, QString *error) const
             return false;
         }
     }
-    const QString preview = QDir(folderPath()).filePath(previewFile);
-    return folderPath().isEmpty() || !QFileInfo(preview).isFile()
-           || Common::FileHelper::copyFile(preview, target.filePath(previewFile), error);
+    const QDir source(folderPath());
+    const QStringList others =
+        folderPath().isEmpty() ? QStringList() : QStringList{previewFile, approvalsFile};
+    return std::ranges::all_of(others, [&](const QString &name) {
+        return !QFileInfo(source.filePath(name)).isFile()
+               || Common::FileHelper::copyFile(source.filePath(name), target.filePath(name), error);
+    });
 }
 
 QList<ImageResource *> Project::images() const
@@ -303,6 +310,11 @@ void Project::afterFileFieldsChanged()
 QString Project::imagesPath() const
 {
     return fullFilePath().isEmpty() ? QString() : u"%1/%2"_s.arg(folderPath(), imagesFolder);
+}
+
+QString Project::approvalsPath() const
+{
+    return fullFilePath().isEmpty() ? QString() : QDir(folderPath()).filePath(approvalsFile);
 }
 
 QString Project::autosavePath() const

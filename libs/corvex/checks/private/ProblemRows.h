@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/checks/Problem.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+namespace Halvane::Corvex::Designer {
+
+class ProblemApprovals;
+class ProblemList;
+
+//! The rows of a ProblemList, for which it emits the signals. Objects without problems take no memory.
+class ProblemRows
+{
+public:
+    //! What found a problem. The problems of one object and one origin are replaced together.
+    struct Origin
+    {
+        static constexpr qsizetype object = -1; //!< the checks of single objects and properties
+        static constexpr qsizetype file = -2;
+
+        qsizetype check = object; //!< or the index of a shared check
+        QString key = {};         //!< of a group of that
+
+        friend bool operator==(const Origin &, const Origin &) = default;
+    };
+
+    explicit ProblemRows(ProblemList &list);
+    ~ProblemRows();
+
+    qsizetype count() const { return qsizetype(m_rows.size()); }
+    qsizetype count(Severity severity) const { return m_counts.at(size_t(severity)); }
+    qsizetype approvedCount() const { return m_approvedCount; }
+    void setApprovals(const ProblemApprovals *approvals);
+    const Problem &at(qsizetype row) const { return m_rows.at(size_t(row))->problem; }
+    //! In the order of their rows.
+    QList<qsizetype> rowsOf(const DesignerObject *owner) const;
+
+    //! Replaces the problems of one origin. Rows change with the next flush().
+    void set(DesignerObject *owner, const Origin &origin, QList<Problem> problems);
+    //! Removes rows, then adds rows, and emits the signals for both.
+    void flush();
+    //! Removes the rows of an object that leaves the project, at once.
+    void drop(const DesignerObject *owner);
+    void clear();
+
+private:
+    struct Entry
+    {
+        quint64 serial = 0; //!< grows with the rows; 0 before the entry has a row
+        DesignerObject *owner;
+        Origin origin;
+        Problem problem;
+    };
+
+    qsizetype rowOf(const Entry &entry) const;
+    void removeRows(std::vector<const Entry *> entries);
+    void forget(Entry *entry);
+    void countIn(const Problem &problem, qsizetype by);
+    void markApproved();
+
+    ProblemList &m_list;
+    std::vector<std::unique_ptr<Entry>> m_rows;
+    std::vector<std::unique_ptr<Entry>> m_coming;
+    std::vector<const Entry *> m_going;
+    QHash<const DesignerObject *, QList<Entry *>> m_byOwner; //!< without those that are going
+    QSet<DesignerObject *> m_touched;
+    std::array<qsizetype, 3> m_counts{}; //!< by severity, of those that are not approved
+    qsizetype m_approvedCount = 0;
+    QPointer<const ProblemApprovals> m_approvals;
+    QMetaObject::Connection m_connection; //!< to the approvals
+    quint64 m_lastSerial = 0;
+};
+
+} // namespace Halvane::Corvex::Designer

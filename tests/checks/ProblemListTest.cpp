@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+// The live list of problems against a check of the whole project.
+#include "corvex/checks/ProblemList.h"
+#include "corvex/checks/ProjectProblems.h"
+#include "corvex/core/ItemList.h"
+#include "corvex/editing/undo/UndoStack.h"
+#include "corvex/hardware/ConfigurationContainer.h"
+
+#include "support/RandomEdits.h"
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer::Test {
+
+namespace {
+
+QStringList textsOf(const QList<Problem> &problems)
+{
+    QStringList texts;
+    for (const Problem &problem : problems) {
+        texts.append(u"%1 (%2, %3)"_s.arg(problem.toString(), QString::fromUtf8(problem.kind().word),
+                                          problem.property));
+    }
+    return texts;
+}
+
+//! What is in one list and not in the other.
+QString difference(QStringList texts, QStringList expected)
+{
+    texts.sort();
+    expected.sort();
+    QStringList tooMany;
+    QStringList missing;
+    std::ranges::set_difference(texts, expected, std::back_inserter(tooMany));
+    std::ranges::set_difference(expected, texts, std::back_inserter(missing));
+    return tooMany.isEmpty() && missing.isEmpty()
+               ? QString()
+               : u"too many:\n%1\nmissing:\n%2"_s.arg(tooMany.join(u'\n'), missing.join(u'\n'));
+}
+
+} // namespace
+
+class ProblemListTest : public RandomEdits
+{
+protected:
+    void SetUp() override
+    {
+        RandomEdits::SetUp();
+        list.emplace(*project, *models());
+        QObject::connect(&*list, &ProblemList::aboutToRemove, &*list,
+                         [this](qsizetype first, qsizetype last) {
+                             ASSERT_EQ(rows.size(), list->count());
+                             ASSERT_TRUE(0 <= first && first <= last && last < list->count());
+                         });
+        QObject::connect(&*list, &ProblemList::removed, &*list, [this](qsizetype first, qsizetype last) {
+            rows.remove(first, last - first + 1);
+            ASSERT_EQ(rows.size(), list->count());
+        });
+        QObject::connect(&*list, &ProblemList::inserted, &*list, [this](qsizetype first, qsizetype last) {
+            ASSERT_EQ(first, rows.size());
+            for (qsizetype row = first; row <= last; ++row) {
+                rows.append(list->at(row).message);
+            }
+            ASSERT_EQ(rows.size(), list->count());
+        });
+        list->update();
+    }
+
+    static const ConfigurationContainer *models() { return HardwareConfigurations::instance()->installed(); }
+
+    //! The list is what a check finds in the validated project, and its signals have told of each row.
+    void check()
+    {
+        list->update();
+        ASSERT_TRUE(list->isCurrent());
+        project->validate();
+        const QStringList texts = textsOf(list->problems());
+        ASSERT_EQ(difference(texts, textsOf(ProjectProblems::find(*project, *models()))), QString());
+        QStringList messages;
+        for (const Problem &problem : list->problems()) {
+            messages.append(problem.message);
+        }
+        ASSERT_EQ(rows, messages);
+        ASSERT_EQ(list->count(Severity::Error) + list->count(Severity::Warning), list->count());
+    }
+
+    void edit(int steps)
+    {
+        UndoStack *stack = project->undoStack();
+        ASSERT_NO_FATAL_FAILURE(check());
+        for (int step = 0; step < steps; ++step) {
+            QString what = u"undo or redo"_s;
+            if (random.chance(25)) {
+                stack->setIndex(std::clamp(stack->index() + random.between(-4, 3), 0, stack->count()));
+            } else if (std::unique_ptr<UndoCommand> command{anyCommand()}; command && command->isValid()) {
+                what = command->text();
+                stack->push(command.release());
+            }
+            SCOPED_TRACE(testing::Message()
+                         << "seed " << seed << ", step " << step << ": " << what.toStdString());
+            if (random.chance(70)) {
+                ASSERT_NO_FATAL_FAILURE(check());
+            }
+        }
+        stack->setIndex(0);
+        ASSERT_NO_FATAL_FAILURE(check());
+        stack->setIndex(stack->count());
+        ASSERT_NO_FATAL_FAILURE(check());
+    }
+
+    void changeAnyValue();
+
+    std::optional<ProblemList> list;
+    QStringList rows; //!< messages, as the signals tell
+};
+
+TEST_F(ProblemListTest, FollowsRandomEdits)
+{
+    edit(setting("CORVEX_MODEL_STEPS", 400));
+}
+
+TEST_F(ProblemListTest, FollowsRandomEditsWithHostileNames)
+{
+    hasHostileNames = true;
+    edit(setting("CORVEX_MODEL_STEPS", 400));
+}
+
+//! A value of the same property elsewhere, or one that is wrong in most places.
+void ProblemListTest::changeAnyValue()
+{
+    static const QStringList wrong{u""_s,
+                                   u"-1"_s,
+                                   u"99999"_s,
+                                   u"1e300"_s,
+                                   u"filterType: ; objectId: nothing; scopeType: Screen;"_s,
+                                   u"filterType: ; objectId: nothing; scopeType: Project;"_s,
+                                   u"5,1"_s,
+                                   u"nothing"_s,
+                                   u"while"_s,
+                                   u"name: first1; scopeType: Screen; type: Text;"_s,
+                                   u"name: Screen1; scopeType: Project; type: Screen;"_s,
+                                   u"variable|bool|nothing"_s};
+    const QList<DesignerObject *> all = below(project.get());
+    DesignerObject *object = random.oneOf(all);
+    const SharedProperty property = random.oneOf(object->properties().toList());
+    if (property->isList() || property->isObject()) {
+        return;
+    }
+    const SharedProperty other = random.oneOf(all)->getProperty(property->id());
+    const QString value = other && random.chance(60) ? other->valueString() : random.oneOf(wrong);
+    object->setDisableValidation(random.chance(30));
+    object->changePropertyValue(property, value);
+    object->setDisableValidation(false);
+}
+
+//! The model changes without a command, and takes what validation would refuse.
+TEST_F(ProblemListTest, FollowsChangesOfAnyValue)
+{
+    for (int i = 0; i < setting("CORVEX_MODEL_STEPS", 400); ++i) {
+        for (int times = random.below(4); times >= 0; --times) {
+            changeAnyValue();
+        }
+        SCOPED_TRACE(testing::Message() << "seed " << seed << ", step " << i);
+        ASSERT_NO_FATAL_FAILURE(check());
+    }
+    EXPECT_GT(list->count(), 40);
+}
+
+} // namespace Halvane::Corvex::Designer::Test
