@@ -28,10 +28,10 @@ namespace {
 const QString projectFolder = u"project"_s;
 const QString zippedProject = u"Project.kdproj.zip"_s;
 const QString previousFolder = u"previous"_s;
-const QString workshopName = u".corvex-build-"_s; // and some letters
+const QString workshopName = u".corvex-build-"_s; // followed by a few random letters
 constexpr QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
-//! Whether a build makes, or copies, files of that name.
+//! Whether a build generates or copies files with that name.
 bool isBuilt(const QString &name)
 {
     const QString extension = QFileInfo(name).suffix().toLower();
@@ -39,7 +39,7 @@ bool isBuilt(const QString &name)
            || extension == "kdrc"_L1 || Common::FileHelper::validImageExtensions().contains(extension);
 }
 
-//! The names of the images that a build shows, as the project that is zipped in it names them.
+//! The names of the images in the zipped project of a build.
 QSet<QString> imagesOf(const QString &zip)
 {
     QSet<QString> names;
@@ -75,7 +75,7 @@ bool copyFiles(const QDir &source, const QDir &target, QString *error)
               });
 }
 
-//! The folders that make a path, the innermost first, as far as they are missing.
+//! The missing folders of a path, innermost first.
 QStringList missingFolders(const QString &path)
 {
     QStringList missing;
@@ -114,9 +114,10 @@ bool DeviceFolder::bring(const QString &source, QString *error)
         return fail(error, u"\"%1\" is not a folder."_s.arg(m_path));
     }
     if (const QString foreign = foreignEntry(QDir(source).entryList(everything)); !foreign.isEmpty()) {
-        return fail(error,
-                    u"\"%1\" holds \"%2\", which is no part of a build, and stays as it is. Choose a new or "
-                    "an empty folder."_s.arg(m_path, foreign));
+        return fail(
+            error,
+            u"\"%1\" holds \"%2\", which is not part of a build, so nothing was written. Choose a new or "
+            "an empty folder."_s.arg(m_path, foreign));
     }
     const QStringList made = missingFolders(m_path);
     if (Common::FileHelper::makeFolder(m_path, error) && bringLocked(source, error)) {
@@ -128,7 +129,7 @@ bool DeviceFolder::bring(const QString &source, QString *error)
     return false;
 }
 
-//! The build is on the disk; so is the way to it.
+//! Flushes the build, and the folders that lead to it, to the disk.
 bool DeviceFolder::syncFrom(const QStringList &made, QString *error) const
 {
     QStringList folders{m_path};
@@ -144,8 +145,7 @@ bool DeviceFolder::bringLocked(const QString &source, QString *error) const
 {
     Common::FolderLock lock;
     if (!lock.take(m_path, Common::FolderLock::Kind::Exclusive)) {
-        return fail(error,
-                    u"Another build is being brought to \"%1\". Wait until it has finished."_s.arg(m_path));
+        return fail(error, u"Another build is writing to \"%1\". Wait until it has finished."_s.arg(m_path));
     }
     clearRemains();
     return replace(source, error);
@@ -177,7 +177,7 @@ QString DeviceFolder::foreignEntry(const QStringList &newFiles) const
         return {};
     }
     const QString zip = QDir(projectPath()).filePath(zippedProject);
-    std::optional<QSet<QString>> images; // of the earlier build, when they have to be known
+    std::optional<QSet<QString>> images; // of the earlier build; read only when needed
     const QFileInfoList files = QDir(projectPath()).entryInfoList(everything);
     for (const QFileInfo &file : files) {
         const QString name = file.fileName();
@@ -195,14 +195,15 @@ QString DeviceFolder::foreignEntry(const QStringList &newFiles) const
 
 bool DeviceFolder::replace(const QString &source, QString *error) const
 {
-    // The new files grow beside their place, on the same disk, and are moved there when they are complete.
+    // Build the new files beside their final place, on the same disk, and move them there when they are
+    // complete.
     const QTemporaryDir workshop(QDir(m_path).filePath(workshopName + "XXXXXX"_L1));
     const QDir draft(workshop.filePath(projectFolder));
     if (!workshop.isValid()) {
         return fail(error,
                     u"The folder \"%1\" cannot be written to: %2"_s.arg(m_path, workshop.errorString()));
     }
-    // Files of another disk cannot be moved.
+    // A rename fails across file systems; copy the files instead.
     if (!QDir().rename(source, draft.path()) && !copyFiles(QDir(source), draft, error)) {
         return false;
     }
@@ -214,7 +215,7 @@ bool DeviceFolder::replace(const QString &source, QString *error) const
     bool isInPlace = hasPrevious ? FileSync::exchange(draft.path(), projectPath())
                                  : FileSync::move(draft.path(), projectPath());
     if (hasPrevious && !isInPlace && errno == ENOTSUP) {
-        // In two steps; a build that is broken off between them is put back by the next one.
+        // Two renames. If the program is killed between them, the next build restores the earlier one.
         const QString previous = workshop.filePath(previousFolder);
         isInPlace =
             FileSync::move(projectPath(), previous)
@@ -225,7 +226,7 @@ bool DeviceFolder::replace(const QString &source, QString *error) const
         return fail(error,
                     u"The build cannot be moved to \"%1\": %2"_s.arg(projectPath(), FileSync::reason()));
     }
-    // Before the earlier build goes.
+    // Flush the new build before the earlier one is deleted.
     return FileSync::sync(m_path)
            || fail(error, u"The folder \"%1\" cannot be written to: %2"_s.arg(m_path, FileSync::reason()));
 }

@@ -6,14 +6,13 @@
 
 namespace Halvane::Corvex::Tool {
 
-/*! The folder to which a build goes, and which holds the sub-folder "project" afterwards.
+/*! The folder that receives a build, in its sub-folder "project".
 
-    Nothing of the user's is ever replaced. Besides a folder that is missing or empty only that of an earlier
-   build is taken: one that holds nothing but "project", and in it nothing but files that a build makes or
-   copies, the zipped project among them.
+    User files are never replaced. The folder must be missing, empty, or hold an earlier build and nothing
+    else: only "project", and in it only files that a build generates or copies, including the zipped project.
 
-    One build at a time goes to a folder. What a build that was broken off left behind is in nobody's way: the
-    next one clears it away, and puts an earlier build back that had just been moved.
+    Only one build at a time may write to a folder. The next build removes the remains of an interrupted one,
+    and restores an earlier build that the interrupted one had already moved away.
 */
 class DeviceFolder
 {
@@ -22,12 +21,12 @@ public:
         : m_path(path)
     { }
 
-    /*! Moves the folder \a source, which holds files only, to the place of "project", or a copy of it when it
-       lies on another disk. False, with that place as it was and a text for the user, when that fails. */
+    //! Moves the folder \a source, which holds only files, to "project". Copies it if it is on another disk.
+    //! On failure returns false with a text for the user, and "project" is unchanged.
     bool bring(const QString &source, QString *error);
-    //! Whether it is, or would be, in the folder \a other or below it, links followed.
+    //! Whether the folder is, or would be, inside the folder \a other; resolves links.
     bool isInside(const QString &other) const;
-    //! "project" in the folder, as the user would write it.
+    //! The path of "project", based on the path as the user wrote it.
     QString projectPath() const;
 
 private:

@@ -31,9 +31,8 @@ bool InputFile::isReadable(qint64 size)
     if (m_file.error() != QFileDevice::NoError) {
         m_error = u"\"%1\" cannot be read: %2."_s.arg(m_path, m_file.errorString());
     } else if (m_size > m_largest) {
-        m_error =
-            u"\"%1\" is longer than %2 MB, the most that is read. Name another file, or divide it."_s.arg(
-                m_path, QString::number(m_largest >> 20));
+        m_error = u"\"%1\" is larger than %2 MB, the maximum. Choose another file, or split it."_s.arg(
+            m_path, QString::number(m_largest >> 20));
     }
     return m_error.isEmpty();
 }
@@ -53,7 +52,7 @@ bool InputFile::readAll(QByteArray &bytes)
 
 bool InputFile::readLine(QByteArray &line)
 {
-    // QFile asks a pipe for each byte of a line alone, or waits until it is full.
+    // QFile reads lines from a pipe byte by byte, or blocks until its buffer is full.
     QByteArray part(64 * 1024, Qt::Uninitialized);
     qsizetype end = m_ahead.indexOf('\n', m_lineStart);
     while (end < 0) {
@@ -65,7 +64,7 @@ bool InputFile::readLine(QByteArray &line)
             return false;
         }
         if (size <= 0) {
-            break; // the end, or the wish that the program shall end
+            break; // end of file, or the program was interrupted
         }
         if (!isReadable(size)) {
             return false;

@@ -7,8 +7,7 @@
 
 namespace Halvane::Corvex::Tool {
 
-/*! A file that a verb reads, or standard input for "-". It is read up to a size that nobody needs, since a
-   pipe may have no end. */
+//! A file that a verb reads; "-" is standard input. The size is limited because a pipe may never end.
 class InputFile
 {
 public:
@@ -19,15 +18,16 @@ public:
         , m_largest(largest)
     { }
 
-    //! False, with the reason in errorString(), when it cannot be read.
+    //! Returns false, with errorString(), if the file cannot be opened.
     bool open();
-    //! The whole file. False, with the reason, for one that cannot be read or is too large.
+    //! Reads the whole file. Returns false, with errorString(), if it cannot be read or is too large.
     bool readAll(QByteArray &bytes);
-    //! One line with its end; empty at the end of the file. False as above.
+    //! Reads one line including its line end; an empty line means the end of the file. Returns false as
+    //! above.
     bool readLine(QByteArray &line);
 
     const QString &path() const { return m_path; }
-    //! Names the file, and says what to do.
+    //! The message names the file and says what to do.
     const QString &errorString() const { return m_error; }
 
 private:
@@ -36,9 +36,9 @@ private:
     QString m_path;
     qint64 m_largest;
     QFile m_file;
-    qint64 m_size = 0;         //!< that was read
-    QByteArray m_ahead;        //!< that was read and is not yet a line of somebody's
-    qsizetype m_lineStart = 0; //!< of the next line, in m_ahead
+    qint64 m_size = 0;         //!< bytes read so far
+    QByteArray m_ahead;        //!< bytes read but not yet returned
+    qsizetype m_lineStart = 0; //!< offset of the next line in m_ahead
     QString m_error;
 };
 

@@ -28,8 +28,8 @@ QString besideProgram(const char *relativePath)
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + QLatin1StringView(relativePath));
 }
 
-//! What the library warns of while a scope lasts; elsewhere its warnings are about what verbs tell in their
-//! own words.
+//! Collects the library's warnings within a scope. Elsewhere they are dropped, because the verbs report the
+//! same problems in their own words.
 class WarningCollector
 {
 public:
@@ -105,9 +105,8 @@ ConfigurationContainer *Installation::loadModels(const Call &call)
         call.terminal().complain(message);
     }
     if (!loaded || HardwareConfigurations::instance()->installed()->configurations().isEmpty()) {
-        call.failed(
-            u"There are no device models in \"%1/Configurations\". Install the program again, or name "
-            "another folder with --configurations."_s.arg(home));
+        call.failed(u"\"%1/Configurations\" contains no device models. Install the program again, or name "
+                    "another folder with --configurations."_s.arg(home));
         return nullptr;
     }
     return HardwareConfigurations::instance()->installed();

@@ -13,18 +13,18 @@ namespace Halvane::Corvex::Tool {
 
 class Call;
 
-/*! What lies beside the program, in the build tree as after installation. The options --plugins and
-    --configurations of the call come first. */
+//! Finds the files installed with the program; the build tree has the same layout. The options --plugins and
+//! --configurations take precedence.
 class Installation
 {
 public:
-    /*! Makes the factory, with all plug-ins. One that cannot be loaded is told to the user and passed over:
-       what it would have made is kept as it stands in the files. */
+    //! Creates the factory and loads all plug-ins. Reports a plug-in that fails to load and continues;
+    //! objects of its classes are kept as they are stored in the files.
     static ExitCode loadFactory(const Call &call);
-    //! The installed device models; null, once the user has been told, when there are none. Needs the
+    //! The installed device models. Null, after a message to the user, if there are none. Requires the
     //! factory.
     static Designer::ConfigurationContainer *loadModels(const Call &call);
-    //! What to say of a device model that is not among them.
+    //! The message for an unknown device model.
     static QString unknownModel(const QString &name, const Designer::ConfigurationContainer &models);
 };
 

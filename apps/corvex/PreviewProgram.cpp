@@ -31,7 +31,7 @@ PreviewProgram::PreviewProgram(const Call &call, const QString &temporary)
     m_process.setProcessChannelMode(call.asJson() ? QProcess::SeparateChannels : QProcess::ForwardedChannels);
     m_process.setInputChannelMode(QProcess::ForwardedInputChannel);
 #ifdef Q_OS_LINUX
-    // A window without the tool that it belongs to would stay for good.
+    // End the preview with the tool; otherwise its window would stay open.
     m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
 #endif
     m_process.setProgram(QDir::cleanPath(QCoreApplication::applicationDirPath()
@@ -45,7 +45,7 @@ bool PreviewProgram::start(const QStringList &arguments)
     if (m_process.waitForStarted()) {
         return true;
     }
-    m_call.failed(u"\"%1\" does not start: %2. Install the program together with its libraries."_s.arg(
+    m_call.failed(u"\"%1\" does not start: %2. Install the program again, with its libraries."_s.arg(
         m_process.program(), m_process.errorString()));
     return false;
 }
@@ -63,25 +63,24 @@ ExitCode PreviewProgram::finish()
     return isOurs ? ExitCode(m_process.exitCode()) : m_call.failed(reasonOfEnd());
 }
 
-//! The preview ends itself in no other way than by its exit code.
+//! Why the preview ended without an exit code of its own.
 QString PreviewProgram::reasonOfEnd() const
 {
     QFile file(m_temporary + QLatin1StringView(Preview::Bounds::placeFile));
     const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     const QString place = QString::fromUtf8(bytes.constData());
-    const QString where = place.isEmpty() ? u"before its first screen"_s : u"at \"%1\""_s.arg(place);
+    const QString where = place.isEmpty() ? u"before the first screen"_s : u"at \"%1\""_s.arg(place);
     switch (m_process.exitStatus() == QProcess::CrashExit ? m_process.exitCode() : 0) {
     case SIGXCPU:
-        return u"The preview was ended %1: it kept the processor busy for more than %2 seconds."_s.arg(
+        return u"The preview was stopped %1: it used more than %2 seconds of processor time."_s.arg(
             where, QString::number(Preview::Bounds::processorSeconds));
     case SIGABRT:
     case SIGSEGV:
     case SIGBUS:
-        return u"The preview was ended %1: it needed more than %2 GB of memory, or a script called itself "
+        return u"The preview was stopped %1: it used more than %2 GB of memory, or a script called itself "
                "without end."_s.arg(where, QString::number(Preview::Bounds::memory / 1024 / 1024 / 1024));
     default:
-        return u"The preview was ended %1 by the system (%2)."_s.arg(where,
-                                                                     QString::number(m_process.exitCode()));
+        return u"The system stopped the preview %1 (%2)."_s.arg(where, QString::number(m_process.exitCode()));
     }
 }
 

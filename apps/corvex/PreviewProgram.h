@@ -11,19 +11,19 @@ namespace Halvane::Corvex::Tool {
 
 class Call;
 
-/*! The program beside the library of verbs that runs a build. It brings Qt Quick along, which no other verb
-   has to wait for. */
+//! Starts the separate program that runs a build. Only that program loads Qt Quick, so that all other verbs
+//! start fast.
 class PreviewProgram
 {
 public:
-    //! The program keeps its own files in the folder \a temporary.
+    //! The program puts its temporary files into the folder \a temporary.
     PreviewProgram(const Call &call, const QString &temporary);
 
-    //! False, with a message, when it does not start. What it writes goes where the caller's does; with JSON
+    //! Starts the program. Returns false, after a message, on failure. Its output is forwarded; with --json
     //! it becomes part of the result.
     bool start(const QStringList &arguments);
     QProcess &process() { return m_process; }
-    //! Of the program when it has ended. Its messages, and what nobody has read of its output, are passed on.
+    //! Call it when the program has ended. Forwards its messages and the rest of its output.
     ExitCode finish();
 
 private:

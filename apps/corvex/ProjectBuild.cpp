@@ -23,7 +23,7 @@ using namespace Designer;
 
 namespace {
 
-//! Names all problems and tells whether the build goes on in spite of them.
+//! Prints all problems. Returns whether the build may continue despite them.
 bool isAccepted(const QList<Problem> &found, const ProjectFile &file, const Call &call,
                 ProjectBuild::WithProblems withProblems)
 {
@@ -64,8 +64,8 @@ ExitCode ProjectBuild::run(const Call &call, const QString &folder, WithProblems
     }
     DeviceFolder target(folder);
     if (target.isInside(file.project().folderPath())) {
-        return call.failed(u"\"%1\" lies in the project's own folder, in which a build changes nothing. "
-                           "Choose a folder outside."_s.arg(folder));
+        return call.failed(u"\"%1\" is inside the project's own folder, which a build must not change. "
+                           "Choose a folder outside of it."_s.arg(folder));
     }
     RuntimeGenerator &generator = file.project().runtimeGenerator();
     const auto cleanUp = qScopeGuard([&generator] { generator.removeBuildFolder(); });
@@ -74,7 +74,7 @@ ExitCode ProjectBuild::run(const Call &call, const QString &folder, WithProblems
     if (!isAccepted(problems, file, call, withProblems)) {
         return ExitCode::Problems;
     }
-    // What else lies beside the images is the user's own and not for the device.
+    // Other files next to the images are the user's own and do not go to the device.
     generator.setResourceNames(file.project().imageResources()->listItemNames());
     generator.setProgress(call.terminal().showProgress(u"Building %1"_s.arg(file.path())));
     file.project().generateRuntimeFiles();

@@ -9,14 +9,14 @@ namespace Halvane::Corvex::Tool {
 
 class Call;
 
-//! The build of the project that a verb was called with.
+//! Builds the project of a call.
 class ProjectBuild
 {
 public:
     enum class WithProblems { Refuse, Build };
 
-    /*! Names all problems of the project to the user, and brings its build to \a folder, see DeviceFolder.
-       Problems if it was refused for them, or could not be built with them. */
+    //! Prints all problems of the project and builds it into \a folder, see DeviceFolder. Returns
+    //! ExitCode::Problems if problems prevent the build.
     static ExitCode run(const Call &call, const QString &folder, WithProblems withProblems);
 };
 

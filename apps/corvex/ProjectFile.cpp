@@ -24,21 +24,21 @@ using namespace Designer;
 
 namespace {
 
-//! An edit that a person types may take long; a script does not.
+//! Long enough for a person who types edits; a script needs far less.
 constexpr int longestWait = 30'000; // milliseconds
 
-//! What a user can do who named something that is no project file.
+//! What to do about a path that does not name a readable project.
 QString advice(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        return u"Name the .kdproj file of a project; \"corvex new\" makes one."_s;
+        return u"Name the .kdproj file of a project; \"corvex new\" creates one."_s;
     }
     if (info.isFile() && !info.isReadable()) {
-        return u"Ask its owner to let you read it."_s;
+        return u"Ask its owner for read permission."_s;
     }
     if (info.isFile()) {
-        return u"Mend the file at that place, or take it from a copy."_s;
+        return u"Repair the file at that place, or restore it from a copy."_s;
     }
     const QStringList projects =
         info.isDir() ? QDir(path).entryList({u"*.kdproj"_s}, QDir::Files, QDir::Name) : QStringList();
@@ -46,7 +46,7 @@ QString advice(const QString &path)
                                 : u"Name the .kdproj file of a project."_s;
 }
 
-//! What the system has to say has no full stop.
+//! Adds the full stop that messages of the operating system lack.
 QString sentence(const QString &text)
 {
     return text.endsWith(u'.') ? text : text + u'.';
@@ -72,8 +72,8 @@ ProjectFile::ProjectFile() = default;
 
 ProjectFile::~ProjectFile()
 {
-    // The program ends with its verb, and taking a large model apart would take longer than many a verb does.
-    // It stays here, where a search for leaks finds it.
+    // The program exits after its verb; destroying a large model would often take longer than the verb
+    // itself. This pointer keeps the leak checker quiet.
     static const Project *left = nullptr;
     if (m_project) {
         m_project->closeFiles();
@@ -95,7 +95,7 @@ std::unique_ptr<Project> ProjectFile::create()
 bool ProjectFile::takeStandardInput(QString &file, Use use, const Call &call)
 {
     if (use == Use::Change) {
-        call.failed(u"A project from standard input has no file to be saved to. Name its file."_s);
+        call.failed(u"A project from standard input cannot be saved. Name its file instead."_s);
         return false;
     }
     constexpr qint64 largest = 1024 * 1024 * 1024;
@@ -127,9 +127,9 @@ bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
     }
     m_project = create();
     m_approvals = m_project ? std::make_unique<ProblemApprovals>(*m_project) : nullptr;
-    call.terminal().showProgress(u"Waiting for others that work on %1"_s.arg(m_path));
+    call.terminal().showProgress(u"Waiting for another program that uses %1"_s.arg(m_path));
     using Kind = Common::FolderLock::Kind;
-    // Nobody else knows the folder of a project from standard input.
+    // A project from standard input lives in a private folder, so it needs no lock.
     const bool isLocked =
         m_project
         && (m_input
@@ -152,7 +152,7 @@ bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
     if (isLoaded) {
         return true;
     }
-    QString error = m_project ? m_project->fileError() : u"No project can be made."_s;
+    QString error = m_project ? m_project->fileError() : u"Cannot create a project."_s;
     error.replace(file, m_path);
     call.failed(u"%1 %2"_s.arg(sentence(error), advice(file)));
     return false;
@@ -160,25 +160,26 @@ bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
 
 bool ProjectFile::isUnchanged(const Call &call) const
 {
-    // A project that got another name has taken its file along.
+    // A renamed project has moved its file.
     if (Common::FileStamp::of(m_project->fullFilePath()) == m_stamp) {
         return true;
     }
-    call.failed(u"\"%1\" has been written by another program since it was opened, and stays as that program "
-                "left it. Try again."_s.arg(m_path));
+    call.failed(u"Another program changed \"%1\" after it was opened, so nothing "
+                "was saved. Try again."_s.arg(m_path));
     return false;
 }
 
 ExitCode ProjectFile::save(const Call &call) const
 {
     if (!dropped().isEmpty() && !call.isSet(u"force"_s)) {
-        return call.failed(u"\"%1\" holds what this version does not know and would lose; it stays as it is. "
-                           "\"corvex check\" names the places; --force writes it all the same."_s.arg(m_path),
-                           ExitCode::Problems);
+        return call.failed(
+            u"\"%1\" contains parts that this version does not know and would lose, so it was not saved. "
+            "\"corvex check\" lists them; --force saves anyway."_s.arg(m_path),
+            ExitCode::Problems);
     }
     if (QString missing; !ObjectXmlWriter::isComplete(m_project.get(), false, &missing)) {
         return call.failed(
-            u"\"%1\" holds no object, and \"%2\" is not written without it."_s.arg(missing, m_path),
+            u"\"%1\" contains no object, and \"%2\" cannot be saved without one."_s.arg(missing, m_path),
             ExitCode::Problems);
     }
     if (!isUnchanged(call)) {

@@ -26,7 +26,7 @@ namespace Halvane::Corvex::Tool {
 
 class Call;
 
-//! A project that a verb was called with.
+//! The project that a verb works on.
 class ProjectFile
 {
 public:
@@ -35,31 +35,31 @@ public:
     Q_DISABLE_COPY_MOVE(ProjectFile)
 
     enum class Use {
-        Read,  //!< beside others that do
-        Change //!< alone: others wait until this object is gone
+        Read,  //!< shared with other readers
+        Change //!< exclusive: others wait until this object is destroyed
     };
-    /*! Opens the file that is an argument of the call, the first unless told otherwise, with all plug-ins.
-       What a run that was killed has begun there is ended first. False once the user has been told. */
+    //! Loads all plug-ins and opens the file named by an argument, by default the first. Completes or undoes
+    //! an interrupted save first. Returns false after a message to the user.
     bool open(const Call &call, Use use, qsizetype argument = 0);
-    //! A new project that has no file yet; null without a factory.
+    //! Creates a project that has no file yet; null if the factory cannot be loaded.
     static std::unique_ptr<Designer::Project> create();
 
     Designer::Project &project() const { return *m_project; }
     //! Those of the project. They are saved with it, and follow what is renamed.
     Designer::ProblemApprovals &approvals() const { return *m_approvals; }
-    //! As the user wrote it; "-" for standard input, whose project can be looked at and not be saved.
+    //! The path as the user wrote it. "-" is standard input; such a project cannot be saved.
     const QString &path() const { return m_path; }
 
-    //! False, once the user has been told, when some program has written the file since it was opened for a
-    //! change.
+    //! Returns false, after a message to the user, if another program has changed the file since it was
+    //! opened.
     bool isUnchanged(const Call &call) const;
-    //! Saves the project, which loses what dropped() tells only when the call says --force. The user has been
-    //! told of a failure.
+    //! Saves the project. Refuses to lose the parts listed in dropped(), except with --force. Reports a
+    //! failure to the user.
     ExitCode save(const Call &call) const;
 
-    //! What would be lost if the project were saved.
+    //! The parts that saving would lose.
     QList<Designer::ReadNote> dropped() const;
-    //! An item of a list that no plug-in knows, with the object in whose list it stands.
+    //! An item whose class no plug-in knows, and the object that owns its list.
     struct Kept
     {
         const Designer::DesignerObject *owner;
@@ -71,13 +71,13 @@ private:
     bool takeStandardInput(QString &file, Use use, const Call &call);
 
     QString m_path;
-    Common::FileStamp m_stamp;                        //!< of the file as it was opened
-    std::unique_ptr<Common::TemporaryFolder> m_input; //!< with what came from standard input
+    Common::FileStamp m_stamp;                        //!< of the file when it was opened
+    std::unique_ptr<Common::TemporaryFolder> m_input; //!< holds the project from standard input
     std::unique_ptr<Designer::Project> m_project;
     std::unique_ptr<Designer::ProblemApprovals> m_approvals;
 };
 
-//! A verb's run() that opens the project first.
+//! Adapts a verb that works on one project: opens the project, then calls \a run.
 template<ExitCode (*run)(const Call &call, const ProjectFile &file),
          ProjectFile::Use use = ProjectFile::Use::Read>
 ExitCode onProject(const Call &call)

@@ -38,7 +38,7 @@ qint64 RewrittenFile::writeData(const char *data, qint64 size)
         }
     }
     if (m_new) {
-        m_new->write(data + equal, size - equal); // commit() tells whether it took all bytes
+        m_new->write(data + equal, size - equal); // commit() reports a failed write
     }
     return size;
 }

@@ -10,8 +10,7 @@
 
 namespace Halvane::Corvex::Tool {
 
-/*! Takes what a file is to hold, and compares it with what the file holds. At the first difference it begins
-    a new file: nothing is made twice. */
+//! Compares the bytes written to it with an existing file. Starts a new file only at the first difference.
 class RewrittenFile : public QIODevice
 {
 public:
@@ -19,14 +18,14 @@ public:
 
     RewrittenFile(const QString &path, Mode mode);
 
-    //! False, with errorString(), when the file cannot be read.
+    //! Returns false, with errorString(), if the file cannot be read.
     bool openForWriting();
-    //! Call it when everything has been written. False, with errorString(), when the file failed.
+    //! Call it when everything has been written. Returns false, with errorString(), on an error.
     bool finish();
-    //! Where the texts differ first, counted from 1; 0 when they are equal.
+    //! The line of the first difference, counted from 1; 0 if the texts are equal.
     qint64 differentLine() const { return m_line; }
-    /*! After a difference: puts the new file in the place of the old one. False, with errorString(), when
-       that fails; the old one stays as it is. */
+    //! Replaces the old file by the new one if they differ. On failure returns false, with errorString(), and
+    //! the old file is unchanged.
     bool commit();
     //! Whether a file could not be read or written.
     bool hasFailed() const { return m_hasFailed; }

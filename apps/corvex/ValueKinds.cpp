@@ -36,7 +36,7 @@ std::optional<QString> canonical(const QString &text)
     return ok ? std::optional(TextForm<Value>::print(value)) : std::nullopt;
 }
 
-//! The group form has no value type of its own.
+//! The group form has no value type of its own, so check it here.
 std::optional<QString> canonicalGroup(const QString &text)
 {
     bool ok = false;

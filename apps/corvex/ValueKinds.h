@@ -13,13 +13,13 @@ struct ValueKind
 {
     const char *name;
     const char *example; //!< a text that is accepted
-    //! The text as it would be saved; nothing for a text that is refused.
+    //! The text as it would be saved; nothing if the text is invalid.
     std::optional<QString> (*canonical)(const QString &text);
 };
 
-//! In the order in which the help shows them.
+//! All kinds, in the order of the help page.
 const QList<ValueKind> &valueKinds();
-//! Null when there is none of that name.
+//! Null if there is no such kind.
 const ValueKind *findValueKind(const QString &name);
 
 } // namespace Halvane::Corvex::Tool

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program itself: it tells its version, and leaves all else to the library of verbs beside it.
+// The executable prints its version itself and passes everything else to the library of verbs.
 #include <QCoreApplication>
 #include <QLibrary>
 #include <QStringList>
@@ -27,13 +27,13 @@ int printVersion()
     if (std::puts("corvex " CORVEX_VERSION) >= 0 && std::fflush(stdout) == 0) {
         return 0;
     }
-    std::perror("corvex: The version cannot be written");
+    std::perror("corvex: Cannot write the version");
     return cannotRead;
 }
 
 #ifdef Q_OS_UNIX
-//! A stream that the caller has closed gives its number to the next file that is opened, which would then get
-//! what is printed. Here it is one that cannot be written to.
+//! A standard stream that the caller has closed would give its number to the next file that is opened, and
+//! that file would receive the output. Occupy the number with a file that cannot be written to.
 void occupyStandardStreams()
 {
     int file = 0;
@@ -44,7 +44,7 @@ void occupyStandardStreams()
 }
 #endif
 
-//! Qt's remarks on the system's locale mean nothing here: whatever it is, texts are UTF-8.
+//! Ignore Qt's warnings about the system's locale; the program always uses UTF-8.
 void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 
 } // namespace
@@ -53,8 +53,7 @@ int main(int argc, char **argv)
 {
 #ifdef Q_OS_UNIX
     occupyStandardStreams();
-    // Writing to a pipe that nobody reads any more, or more than a file may hold, is an error like others,
-    // not the end of a build.
+    // Turn writes to a closed pipe, or beyond the file size limit, into ordinary errors.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
 #endif
@@ -65,7 +64,7 @@ int main(int argc, char **argv)
     QStringList arguments;
     QLibrary verbs;
     {
-        // Which kind of application object is needed is for the verbs to say; this one only knows the system.
+        // The verbs create the application object that they need; this one only serves the version.
         const QCoreApplication application(argc, argv);
         arguments = QCoreApplication::arguments();
         verbs.setFileName(QCoreApplication::applicationDirPath() + QStringLiteral("/" CORVEX_VERBS_LIBRARY));
@@ -74,7 +73,7 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVEX_VERSION));
     const auto run = reinterpret_cast<int (*)(const QStringList &)>(verbs.resolve("corvexRun"));
     if (!run) {
-        std::fprintf(stderr, "corvex: %s Install the program together with its libraries.\n",
+        std::fprintf(stderr, "corvex: %s Install the program again, with its libraries.\n",
                      qUtf8Printable(verbs.errorString()));
         return cannotRead;
     }

@@ -7,12 +7,12 @@
 
 namespace Halvane::Corvex::Preview {
 
-/*! Runs the panel without a display. Without a script, takes a picture of every screen into \a folder; with
-   one, those that the script asks for. */
+//! Runs the panel without a display. Without a script, takes a picture of every screen into \a folder; with
+//! one, those that the script asks for.
 Exit runUnattended(PreviewSession &session, const QString &scriptFile, const QString &folder);
 
-/*! Looks at every screen, and prints all that is wrong as an array of JSON, with "object" and "message" in
-   each entry. */
+//! Looks at every screen, and prints all that is wrong as an array of JSON, with "object" and "message" in
+//! each entry.
 Exit runAudit(PreviewSession &session);
 
 } // namespace Halvane::Corvex::Preview

@@ -54,8 +54,8 @@ Exit runInWindow(const QString &folder, const QString &stateFile)
     return QApplication::exec() == 0 ? Exit::Done : Exit::File;
 }
 
-/*! Takes from the program what a build does not need. False, once the user has been told, for a build that
-   nobody vouches for on a system that lets every program do everything. */
+//! Takes from the program what a build does not need. False, once the user has been told, for a build that
+//! nobody vouches for on a system that lets every program do everything.
 bool giveUpRights(const QCommandLineParser &parser, const QString &folder)
 {
     OutsideThread::start();

@@ -21,11 +21,11 @@ QString placeOf(const EditRefusal &refusal)
     case EditRefusal::Edits:
         return u"\"corvex help edit\" lists them."_s;
     case EditRefusal::Classes:
-        return u"Classes of other plug-ins are there with --plugins DIR."_s;
+        return u"--plugins DIR loads other plug-ins with more classes."_s;
     case EditRefusal::Models:
         return u"\"corvex new --list-models\" lists them."_s;
     case EditRefusal::Contents:
-        return u"\"corvex tree FILE %1\" shows what there is."_s.arg(refusal.path);
+        return u"\"corvex tree FILE %1\" shows what exists."_s.arg(refusal.path);
     case EditRefusal::Properties:
         return u"\"corvex tree FILE %1\" shows them all."_s.arg(refusal.path);
     }
@@ -46,7 +46,7 @@ ExitCode Advice::notFound(Designer::Project &project, const QString &path, const
 {
     const EditRefusal suggestion = Designer::ProjectPath::suggestion(project, path);
     return call.failed(
-        u"There is nothing called \"%1\" in \"%2\". %3"_s.arg(path, call.argument(0), complete(suggestion)),
+        u"\"%2\" contains nothing called \"%1\". %3"_s.arg(path, call.argument(0), complete(suggestion)),
         ExitCode::Usage);
 }
 

@@ -13,13 +13,13 @@ namespace Halvane::Corvex::Tool {
 
 class Call;
 
-//! Where this program shows what would do instead of what was refused.
+//! Adds to a refusal where the program lists what would be accepted.
 class Advice
 {
 public:
-    //! The message with a sentence about the list that would help.
+    //! The message, followed by a sentence that names the helpful list.
     static QString complete(const Designer::EditRefusal &refusal);
-    //! Tells the user that there is nothing of that path.
+    //! Reports that nothing has that path.
     static ExitCode notFound(Designer::Project &project, const QString &path, const Call &call);
 };
 

@@ -10,11 +10,10 @@ namespace Halvane::Corvex::Tool {
 
 namespace {
 
-//! No text that a person types; see shieldNumber().
+//! A character that nobody types; see shieldNumber().
 constexpr QChar shield(0xFFFE);
 
-//! "-26" is an argument and no option: options do not begin with a digit. The parser takes it for one when
-//! something else stands in front.
+//! Marks "-26" as an argument, which the parser would take for an option. Options never begin with a digit.
 QString shieldNumber(const QString &argument)
 {
     const bool isNumber =
@@ -52,7 +51,7 @@ QList<QCommandLineOption> Call::optionsOf(const Verb &verb)
 
 bool Call::parse(const QStringList &commandLine)
 {
-    QStringList shielded{QString()}; // the parser passes over the program's name
+    QStringList shielded{QString()}; // the parser skips the program's name
     for (const QString &argument : commandLine) {
         shielded.append(shieldNumber(argument));
     }
@@ -102,7 +101,7 @@ bool Call::asksForHelp() const
 
 ExitCode Call::misused(const QString &message) const
 {
-    return failed(u"%1 \"corvex help %2\" tells more."_s.arg(message, QLatin1StringView(m_verb.name)),
+    return failed(u"%1 See \"corvex help %2\"."_s.arg(message, QLatin1StringView(m_verb.name)),
                   ExitCode::Usage);
 }
 

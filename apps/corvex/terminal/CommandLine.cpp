@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// From the arguments of the program to the verb that they name.
+// Finds the verb that the arguments name, and runs it.
 #include "terminal/Call.h"
 #include "terminal/Help.h"
 #include "terminal/Terminal.h"
@@ -53,7 +53,8 @@ ExitCode run(const QStringList &arguments, Terminal &terminal)
     return verb->run(call);
 }
 
-//! Most verbs start at once since they do without fonts; those that draw do so without a display.
+//! Creates the lightest application object that the verb can run on: most need no fonts, and those that draw
+//! need no display.
 std::unique_ptr<QCoreApplication> makeApplication(const QString &verbName, int &argc, char **argv)
 {
     const Verb *verb = findVerb(verbName);
@@ -68,12 +69,12 @@ std::unique_ptr<QCoreApplication> makeApplication(const QString &verbName, int &
 
 } // namespace Halvane::Corvex::Tool
 
-//! What the program calls, with all its arguments, its own name among them.
+//! The entry point of the library. The program's own name is the first argument.
 extern "C" Q_DECL_EXPORT int corvexRun(const QStringList &commandLine)
 {
     using namespace Halvane::Corvex::Tool;
     const QStringList arguments = commandLine.mid(1);
-    // The application object sees none of the arguments: Qt would take some for its own.
+    // Hide the arguments from Qt, which would interpret some of them.
     QByteArray program = QFile::encodeName(commandLine.value(0));
     char *argv[] = {program.data(), nullptr};
     int argc = 1;

@@ -12,13 +12,12 @@ namespace Halvane::Corvex::Tool {
 class Call;
 class ProjectFile;
 
-//! How a verb ends that has edited a project.
+//! Completes a verb that edited a project.
 class EditReport
 {
 public:
-    /*! Saves the project, or takes all edits back when the call says --dry-run or the project cannot be
-       saved. A trial shows the edits and all changes of values that came with them, as lines or as JSON;
-       otherwise they are shown with --json alone. */
+    //! Saves the project. Undoes all edits instead for --dry-run, or if saving fails. A dry run prints the
+    //! edits and every value that changed, as lines or JSON; otherwise they are printed only with --json.
     static ExitCode finish(Designer::EditScript &script, const ProjectFile &file, const Call &call);
 };
 

@@ -3,12 +3,12 @@
 
 namespace Halvane::Corvex::Tool {
 
-//! What the program tells its caller. The numbers are a contract with scripts.
+//! The exit codes of the program. Scripts rely on the numbers.
 enum class ExitCode {
     Done = 0,
-    Problems = 1, //!< of the project, or of a value or an expression
+    Problems = 1, //!< in the project, a value or an expression
     Usage = 2,
-    File = 3, //!< one that cannot be read or written
+    File = 3, //!< a file cannot be read or written
 };
 
 } // namespace Halvane::Corvex::Tool

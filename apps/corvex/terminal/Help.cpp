@@ -68,7 +68,7 @@ void printVerbs(Terminal &terminal)
     }
     terminal.print({});
     terminal.print(
-        u"\"corvex help VERB\" tells more of a verb and has an example; \"corvex --version\" tells the"_s);
+        u"\"corvex help VERB\" explains a verb and gives an example. \"corvex --version\" prints the"_s);
     terminal.print(u"version. Every verb prints JSON with --json."_s);
     terminal.print({});
     terminal.print(

@@ -9,12 +9,12 @@ namespace Halvane::Corvex::Tool {
 class Terminal;
 struct Verb;
 
-//! What the program says about itself.
+//! Prints the help pages.
 class Help
 {
 public:
     static QString unknownVerb(const QString &name);
-    //! Usage, options and an example of a verb; for null all verbs and what the exit codes mean.
+    //! Prints usage, options and an example of a verb; for null the list of verbs and the exit codes.
     static void show(const Verb *verb, Terminal &terminal);
 };
 

@@ -10,13 +10,13 @@ namespace Halvane::Corvex::Tool {
 namespace {
 
 volatile std::sig_atomic_t isNoted = 0;
-volatile std::sig_atomic_t nothing = -1; //!< a file without contents
+volatile std::sig_atomic_t nothing = -1; //!< descriptor of an empty file
 
 void note(int)
 {
     const int before = errno;
     isNoted = 1;
-    // No signal wakes reading that begins from now on: it finds no more input.
+    // A read that starts later is not interrupted by a signal, so let it hit the end of input.
     if (nothing >= 0) {
         dup2(nothing, STDIN_FILENO);
     }
@@ -30,7 +30,7 @@ Interruption::Interruption()
     nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
     struct sigaction action = {};
     action.sa_handler = note;
-    // Without SA_RESTART, so that reading ends.
+    // Set no SA_RESTART, so that a blocking read returns.
     for (std::size_t i = 0; i < signalNumbers.size(); ++i) {
         sigaction(signalNumbers[i], &action, &m_before[i]);
     }

@@ -6,9 +6,8 @@
 
 namespace Halvane::Corvex::Tool {
 
-/*! While it lives, the wish that the program shall end (Ctrl+C, or a signal from elsewhere) is noted and not
-    followed, so that what has begun in the folder of a project can be ended or taken back. Reading that waits
-    for input gives up then, and the standard input ends. */
+//! While it exists, Ctrl+C and similar signals are recorded instead of ending the program, so that work in a
+//! project folder can be completed or undone. Blocked reads return and standard input ends.
 class Interruption
 {
 public:

@@ -11,18 +11,19 @@ namespace Halvane::Corvex::Tool {
 
 class Terminal;
 
-/*! Writes one JSON object as the result, members in the order in which they come, without building it in
-    memory. Calls are balanced and members are in objects only; that is up to the caller.
+/*! Writes one JSON object as the result, directly and in the order of the calls. The caller must balance the
+    calls and write members only into objects.
 
-    Objects at the top are parts of one: members of the second follow those of the first. finish() closes
-    it. */
+    Several objects at the top level are merged into one: the members of each follow those of the one before.
+    finish() closes it.
+*/
 class JsonWriter
 {
 public:
     explicit JsonWriter(Terminal &terminal);
     Q_DISABLE_COPY_MOVE(JsonWriter)
 
-    //! Closes the object at the top and its line.
+    //! Closes the top-level object and ends the line.
     void finish();
 
     void beginObject() { begin('{'); }
@@ -30,14 +31,14 @@ public:
     void beginArray() { begin('['); }
     void endArray() { end(']'); }
 
-    //! The name of the member whose value comes next.
+    //! Writes the name of the next member.
     void name(QStringView text);
     void name(QLatin1StringView text) { name(QString(text)); }
 
     void value(QStringView text);
     void value(qint64 number);
     void value(bool truth);
-    //! In the fewest digits that give the number back; NaN and the infinities, which JSON has not, as text.
+    //! Writes the shortest digits that restore the number; NaN and infinity, which JSON lacks, as text.
     void value(double number);
     void value(float number);
     void nothing();
@@ -64,8 +65,8 @@ private:
     Terminal &m_terminal;
     QByteArray m_text;
     QList<bool> m_hasEntries;  //!< for each open bracket
-    bool m_isTopEnded = false; //!< the object at the top may go on or be closed
-    bool m_isNamed = false;    //!< the name of a member was written, its value comes next
+    bool m_isTopEnded = false; //!< the top-level object is complete but not closed
+    bool m_isNamed = false;    //!< a member name was written and its value is due
 };
 
 } // namespace Halvane::Corvex::Tool

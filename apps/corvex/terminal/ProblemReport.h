@@ -10,7 +10,7 @@ namespace Halvane::Corvex::Tool {
 class ProjectFile;
 class Terminal;
 
-//! What is wrong with one of the projects that a verb was called with.
+//! The problems of one project of a call.
 struct ProblemsOfFile
 {
     QString file; //!< as the user wrote it
@@ -19,7 +19,7 @@ struct ProblemsOfFile
     QStringList reasons;      //!< why problems are approved, problem by problem
 };
 
-//! How verbs print problems.
+//! Prints problems.
 class ProblemReport
 {
 public:
@@ -30,7 +30,7 @@ public:
     static bool isOpen(const Designer::Problem &problem);
     //! "3 problems, 2 approved"; empty when nothing is approved.
     static QString summary(const QList<Designer::Problem> &problems);
-    //! One line of text.
+    //! A problem as one line of text.
     static QString line(const Designer::Problem &problem);
     //! All problems as one JSON object.
     static void printJson(const QList<ProblemsOfFile> &all, Terminal &terminal);

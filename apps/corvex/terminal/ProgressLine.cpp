@@ -40,7 +40,7 @@ Common::Progress &ProgressLine::begin(const QString &activity)
     m_isActive = true;
     if (!m_thread.joinable()) {
         m_start = std::chrono::steady_clock::now();
-        // Signals are for the main thread, whose waiting they end.
+        // Leave signals to the main thread, so that they interrupt its blocking calls.
         sigset_t all;
         sigset_t before;
         sigfillset(&all);
@@ -48,7 +48,7 @@ Common::Progress &ProgressLine::begin(const QString &activity)
         try {
             m_thread = std::thread(&ProgressLine::run, this);
         } catch (const std::system_error &) {
-            m_isActive = false; // no thread, no line
+            m_isActive = false; // without a thread there is no progress line
         }
         pthread_sigmask(SIG_SETMASK, &before, nullptr);
     }

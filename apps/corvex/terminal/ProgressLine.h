@@ -10,9 +10,9 @@
 
 namespace Halvane::Corvex::Tool {
 
-/*! One line on the terminal of standard error that says what long work is at. A thread writes it, so that the
-    work has nothing to do for it; there is none before somebody begins. Of work that is soon done nothing is
-    shown. */
+//! Shows the progress of long work in one line on the terminal of standard error. A thread of its own writes
+//! the line, so that the work is not slowed down; the thread starts with the first begin(). Short work shows
+//! nothing.
 class ProgressLine
 {
 public:
@@ -20,9 +20,9 @@ public:
     ~ProgressLine();
     Q_DISABLE_COPY_MOVE(ProgressLine)
 
-    //! What the work tells is shown from now on. It may tell in any thread.
+    //! Starts to show the progress of an activity. The activity may report from any thread.
     Common::Progress &begin(const QString &activity);
-    //! The line goes, before something else is written.
+    //! Clears the line. Call it before anything else is written.
     void end();
 
 private:
@@ -30,7 +30,7 @@ private:
     void write();
 
     Common::Progress m_progress;
-    std::mutex m_mutex; //!< of what follows, and of standard error while the line is on it
+    std::mutex m_mutex; //!< guards the members below, and standard error while the line is shown
     std::condition_variable m_changed;
     bool m_isShown = false;
     bool m_isActive = false;

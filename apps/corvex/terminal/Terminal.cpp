@@ -42,7 +42,7 @@ void Terminal::write(const QByteArray &utf8)
     }
 }
 
-//! Messages quote what they are about, which may be as long as a file.
+//! Shortens a message; it may quote something as long as a file.
 static QString shortened(QStringView message)
 {
     constexpr qsizetype most = 2000;
@@ -120,7 +120,7 @@ bool Terminal::finish()
     return false;
 }
 
-//! Characters that show what stands behind them in another order.
+//! Characters that change the display order of the text after them.
 static bool turnsText(QChar character)
 {
     const auto in = [character](char16_t first, char16_t last) {

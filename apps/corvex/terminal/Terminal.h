@@ -14,13 +14,13 @@ namespace Halvane::Corvex::Tool {
 
 class JsonWriter;
 
-/*! Where the program writes, in UTF-8 whatever the locale: results to standard output, everything else to
-    standard error.
+/*! Writes the output of the program, always in UTF-8: results to standard output, everything else to standard
+    error.
 
-    With useJson() standard output gets one JSON object, whatever happens: the members that the verb writes,
-    lines that it prints as "output", and all messages as "errors".
+    After useJson(), standard output gets exactly one JSON object: the members that the verb writes, printed
+    lines as "output", and all messages as "errors".
 
-    A reader that closes the pipe early is no failure; what it did not want to read is dropped.
+    If a reader closes the pipe early, the rest of the output is dropped without an error.
 */
 class Terminal
 {
@@ -31,28 +31,28 @@ public:
 
     void useJson();
     bool usesJson() const { return m_json != nullptr; }
-    //! The result of this run; only with useJson().
+    //! The result of this run. Only valid after useJson().
     JsonWriter &json() { return *m_json; }
 
-    //! A line of the result.
+    //! Prints a line of the result.
     void print(QStringView line);
-    //! A part of the result as it stands.
+    //! Writes a part of the result unchanged.
     void write(const QByteArray &utf8);
-    //! A message of the program: what is wrong, where, and what to do. It names files and objects, whose
-    //! names may hold anything, and is kept on one line.
+    //! Prints a message that says what is wrong, where, and what to do. The names in it may contain any
+    //! characters; it is printed on one line.
     void complain(QStringView text);
-    //! A line to standard error as it is.
+    //! Writes a line to standard error unchanged.
     void printError(QStringView text);
-    /*! What the program is doing, on the last line of a terminal once it has been busy for a second; nothing
-       elsewhere, and with JSON. The next message or result takes its place. The work may tell how far it is.
-     */
+    //! Shows an activity on the last line of a terminal once it has taken a second; does nothing without a
+    //! terminal or with JSON. The next message or result replaces the line. The activity may report its
+    //! progress to the returned object.
     Common::Progress *showProgress(const QString &activity);
     void endProgress();
 
-    //! Writes all that is left. False, with a message, when the result could not be written.
+    //! Flushes all output. Returns false, after a message, if the result could not be written.
     bool finish();
 
-    //! The text on one line: line ends, tabs and other control characters in the manner of C ("\n").
+    //! The text on one line: control characters, such as line ends and tabs, as C escapes ("\n").
     static QString oneLine(QStringView text);
 
 private:
@@ -60,10 +60,10 @@ private:
     void finishJson();
 
     std::unique_ptr<JsonWriter> m_json;
-    QStringList m_output; //!< with JSON, as are the errors
+    QStringList m_output; //!< with JSON, like m_errors
     QStringList m_errors;
     std::unique_ptr<ProgressLine> m_progress; //!< null without a terminal
-    int m_error = 0;                          //!< errno of the first write that failed
+    int m_error = 0;                          //!< errno of the first failed write
 };
 
 } // namespace Halvane::Corvex::Tool

@@ -46,9 +46,8 @@ ExitCode run(const Call &call)
 
 QList<QCommandLineOption> options()
 {
-    return {
-        QCommandLineOption({u"o"_s, u"output"_s}, u"The folder that the build is brought to."_s, u"DIR"_s),
-        QCommandLineOption(u"force"_s, u"Build a project with problems."_s)};
+    return {QCommandLineOption({u"o"_s, u"output"_s}, u"The folder for the build."_s, u"DIR"_s),
+            QCommandLineOption(u"force"_s, u"Build despite problems."_s)};
 }
 
 } // namespace
@@ -56,15 +55,15 @@ QList<QCommandLineOption> options()
 const Verb buildVerb{
     .name = "build",
     .arguments = "FILE -o DIR",
-    .summary = "make the folder that goes to the device",
+    .summary = "build the folder that goes to the device",
     .details =
         [] {
-            return uR"(Builds the project and brings the result to DIR, which then holds the folder "project" with
-one QML file for each screen, the images, the zipped project and what the device reads
-about variables and fieldbuses (config.kdrc, canConfig.kdrc, bacConfig.kdrc; "corvex
-config-dump" shows them). DIR is made when it is missing. Nothing of yours is replaced: DIR
-must be new, empty, or hold an earlier build and nothing else. A project with problems is not
-built without --force, and a build that fails leaves DIR as it was.)"_s;
+            return uR"(Builds the project into DIR/project: one QML file for each screen, the images, the zipped
+project, and the configuration files for variables and fieldbuses (config.kdrc,
+canConfig.kdrc, bacConfig.kdrc; "corvex config-dump" shows them). Creates DIR if necessary.
+Your own files are never replaced: DIR must be new, empty, or hold an earlier build and
+nothing else. --force builds a project despite problems. A build that fails leaves DIR
+unchanged.)"_s;
         },
     .example = "corvex build examples/PumpStation/PumpStation.kdproj -o out/PumpStation",
     .opensProjects = true,

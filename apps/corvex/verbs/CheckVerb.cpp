@@ -24,8 +24,8 @@ using namespace Designer;
 
 namespace {
 
-//! Runs a build of the project and adds what is wrong with its screens. Of a project that cannot be built
-//! the problems tell why, as a rule.
+//! Builds the project, runs its screens and adds the problems found there. Usually \a problems already
+//! explain a failed build.
 ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> &problems)
 {
     if (file.project().screens()->listItems().isEmpty()) {
@@ -41,7 +41,7 @@ ExitCode checkScreens(const Call &call, const ProjectFile &file, QList<Problem> 
                            hasErrors(problems) ? ExitCode::Problems : ExitCode::File);
     }
     PreviewProgram program(call, generator.buildFolder() + u"/classes"_s);
-    call.terminal().showProgress(u"Looking at the screens of %1"_s.arg(file.path()));
+    call.terminal().showProgress(u"Inspecting the screens of %1"_s.arg(file.path()));
     program.process().setProcessChannelMode(call.asJson() ? QProcess::SeparateChannels
                                                           : QProcess::ForwardedErrorChannel);
     if (!program.start({generator.buildFolder(), u"--audit"_s, u"--trust"_s})
@@ -107,7 +107,7 @@ ExitCode run(const Call &call)
 
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption(u"screens"_s, u"Run the screens, too, and look at them."_s)};
+    return {QCommandLineOption(u"screens"_s, u"Also run the screens and inspect them."_s)};
 }
 
 } // namespace
@@ -119,18 +119,18 @@ const Verb checkVerb{
     .details =
         [] {
             return uR"(Loads the project, validates everything and prints one line for each problem: the path of the
-object, the property, and what is wrong. Among them are parts of the file that could not be
-read, with line and column, names that lead nowhere, and generated code that the device could
-not read. Without problems nothing is printed; with errors the exit code is 1.
+object, the property, and what is wrong. Problems include unreadable parts of the file, with
+line and column, names of objects that do not exist, and generated code that the device could
+not read. If there are no problems, nothing is printed. Errors give exit code 1.
 
 Warnings and hints that are approved ("corvex approve") are only counted. Errors that are approved
 are printed: they still stop a build.
 
-With --screens, the screens are run as the device would run them: texts that do not fit,
-elements that are outside of the screen or wholly hidden by others, and all that goes wrong
-while they run are problems, too. They are looked at as they start, with the first values of
-their variables; what hides others is a rectangle or a picture without transparent parts. A
-script of "corvex preview" looks at everything else.)"_s;
+--screens also runs the screens as the device would. It reports texts that do not fit, elements
+that are outside of the screen or completely hidden by others, and all errors at run time. It
+inspects the screens as they start, with the initial values of the variables; only rectangles
+and images without transparent parts count as hiding others. To test anything else, write a
+script for "corvex preview".)"_s;
         },
     .example = "corvex check examples/PumpStation/PumpStation.kdproj",
     .mostArguments = Verb::anyNumber,

@@ -22,7 +22,7 @@ using namespace Designer;
 
 namespace {
 
-//! A real number that shows that it is one.
+//! A real number that is recognizable as one.
 QString realText(const QString &digits)
 {
     const bool looksWhole =
@@ -36,7 +36,7 @@ QString rectangleText(const QRectF &rectangle)
                           ValueConversion::toString(rectangle.size()));
 }
 
-//! A value that is no text, number, truth or container.
+//! A value that is not a text, number, boolean or container.
 QString otherText(const QVariant &value)
 {
     switch (value.typeId()) {
@@ -81,7 +81,7 @@ bool isMapping(const QVariant &value)
     return value.typeId() == QMetaType::QVariantMap || value.typeId() == QMetaType::QVariantHash;
 }
 
-//! Hands each entry of a container to \a entry(key, value) and tells whether the value is one.
+//! Calls \a entry(key, value) for each entry of a container. Returns whether the value is a container.
 template<class Entry>
 bool forEachEntry(const QVariant &value, Entry &&entry)
 {
@@ -185,14 +185,15 @@ ExitCode run(const Call &call)
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         return call.failed(
-            u"The file \"%1\" cannot be read. Name a .kdrc file of a folder that \"corvex build\" made."_s
-                .arg(path));
+            u"Cannot read \"%1\". Name a .kdrc file from a folder that \"corvex build\" created."_s.arg(
+                path));
     }
     bool isGood = false;
     const QVariant value = Common::FileHelper::fileToVariant(path, &isGood);
     if (!isGood) {
-        return call.failed(u"\"%1\" is no configuration file, or it is damaged or cut off. \"corvex build\" "
-                           "makes it anew."_s.arg(path));
+        return call.failed(
+            u"\"%1\" is not a configuration file, or it is damaged or incomplete. \"corvex build\" "
+            "creates it again."_s.arg(path));
     }
     print(value, call);
     return ExitCode::Done;
@@ -206,9 +207,9 @@ const Verb configDumpVerb{
     .summary = "show a configuration file of a build",
     .details =
         [] {
-            return uR"(Prints what is in one of the files config.kdrc, canConfig.kdrc and bacConfig.kdrc, one line for
-each entry. Texts stand between quotes, real numbers have a decimal point, and (none) is a
-value that the project does not give. As JSON, (none) is null and colors are texts.)"_s;
+            return uR"(Prints the entries of a file config.kdrc, canConfig.kdrc or bacConfig.kdrc, one per line. Texts
+are in quotes, real numbers have a decimal point, and (none) means that the project gives no
+value. In JSON, (none) is null and colors are texts.)"_s;
         },
     .example = "corvex config-dump out/PumpStation/project/config.kdrc",
     .run = run,

@@ -62,13 +62,13 @@ void print(const QList<Difference> &differences, const Call &call)
     }
 }
 
-//! Version control names a project that is not there yet, or no more, /dev/null.
+//! Version control passes /dev/null for a project that was added or deleted.
 bool isNothing(const Call &call, qsizetype argument)
 {
     return call.argument(argument) == "/dev/null"_L1;
 }
 
-//! Prints how the projects of two arguments differ.
+//! Prints the differences between two projects of the call.
 ExitCode compare(const Call &call, qsizetype oldArgument, qsizetype newArgument, bool &differs)
 {
     ProjectFile before;
@@ -96,8 +96,8 @@ ExitCode compare(const Call &call, qsizetype oldArgument, qsizetype newArgument,
     return ExitCode::Done;
 }
 
-//! As git calls it: PATH OLD-FILE OLD-HEX OLD-MODE NEW-FILE NEW-HEX NEW-MODE, of what is not merged PATH
-//! alone. Any exit code but 0 ends git.
+//! The arguments that git passes: PATH OLD-FILE OLD-HEX OLD-MODE NEW-FILE NEW-HEX NEW-MODE, or only PATH for
+//! an unmerged file. git stops at any exit code except 0.
 ExitCode compareForGit(const Call &call)
 {
     constexpr qsizetype oldFile = 1;
@@ -108,7 +108,7 @@ ExitCode compareForGit(const Call &call)
         return ExitCode::Done;
     }
     if (count <= newFile) {
-        return call.misused(u"With --git the arguments are those that git gives to a diff command."_s);
+        return call.misused(u"--git needs the arguments that git passes to a diff command."_s);
     }
     bool differs = false;
     call.terminal().print(Terminal::oneLine(u"%1:"_s.arg(call.argument(0))));
@@ -121,7 +121,7 @@ ExitCode run(const Call &call)
         return compareForGit(call);
     }
     if (call.arguments().size() != 2) {
-        return call.misused(u"Two projects are compared: corvex diff A B."_s);
+        return call.misused(u"Name two projects: corvex diff A B."_s);
     }
     bool differs = false;
     const ExitCode code = compare(call, 0, 1, differs);
@@ -130,7 +130,7 @@ ExitCode run(const Call &call)
 
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption(u"git"_s, u"Take the arguments that git gives, and exit with 0 for any two "
+    return {QCommandLineOption(u"git"_s, u"Accept the arguments that git passes, and exit with 0 for any two "
                                          "projects that can be read."_s)};
 }
 
@@ -139,14 +139,14 @@ QList<QCommandLineOption> options()
 const Verb diffVerb{
     .name = "diff",
     .arguments = "A B",
-    .summary = "tell what became of one project in another",
+    .summary = "show what changed between two projects",
     .details =
         [] {
-            return uR"(Compares two projects object by object: what is in one list under one name is the same object.
-Prints what was added, removed, renamed or moved and every value that changed, a line each; in
-JSON each has "kind", "class", "path" and, where there are two sides, "old" and "new". Images with
-the same name and other contents have changed, where both files are there. The exit code is 0 when
-the projects are equal and 1 when they are not.
+            return uR"(Compares two projects object by object; objects with the same name in the same list are the
+same object. Prints one line for everything that was added, removed, renamed or moved, and for
+every changed value. In JSON each has "kind", "class", "path" and, where both sides exist,
+"old" and "new". If both files exist, an image with the same name and other contents counts as
+changed. The exit code is 0 if the projects are equal and 1 if they differ.
 
 git shows its differences in this way with
     git config diff.corvex.command "corvex diff --git"

@@ -20,11 +20,11 @@ using Designer::EditScript;
 
 namespace {
 
-//! Does all lines, or none of them: then every line that is wrong is named.
+//! Applies all lines. If any line is wrong, reports every wrong line and applies none.
 ExitCode edit(EditScript &script, InputFile &lines, const Call &call)
 {
     constexpr int mostFailures = 100;
-    const QString stays = u"\"%1\" stays as it is."_s.arg(call.argument(0));
+    const QString stays = u"\"%1\" was not changed."_s.arg(call.argument(0));
     int failures = 0;
     QByteArray line;
     bool isRead = lines.readLine(line);
@@ -37,7 +37,7 @@ ExitCode edit(EditScript &script, InputFile &lines, const Call &call)
         }
         if (result == EditScript::Result::Failed) {
             const QString error = isUtf8 ? Advice::complete(script.refusal())
-                                         : u"The bytes are not UTF-8, the one encoding that is read."_s;
+                                         : u"The script is not in UTF-8. Save it in UTF-8."_s;
             ++failures;
             call.terminal().printError(
                 Terminal::oneLine(u"%1:%2: %3"_s.arg(lines.path(), QString::number(number), error)));
@@ -64,7 +64,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     if (!lines.open()) {
         return call.failed(lines.errorString());
     }
-    const Interruption interruption; // files of images would be left in the middle of it
+    const Interruption interruption; // an interrupted edit would leave image files behind
     EditScript script(file.project(), [&call] { return Installation::loadModels(call) != nullptr; });
     const ExitCode code = edit(script, lines, call);
     return code == ExitCode::Done ? EditReport::finish(script, file, call) : code;
@@ -73,9 +73,10 @@ ExitCode run(const Call &call, const ProjectFile &file)
 QList<QCommandLineOption> options()
 {
     return {
-        QCommandLineOption(u"dry-run"_s, u"Save nothing; show every change, with all that follow from it."_s),
-        QCommandLineOption(u"atomic"_s, u"All lines or none; this is so anyway."_s),
-        QCommandLineOption(u"force"_s, u"Write even though parts of the file are lost."_s)};
+        QCommandLineOption(u"dry-run"_s,
+                           u"Save nothing; show every change, including those that follow from an edit."_s),
+        QCommandLineOption(u"atomic"_s, u"Accepted for compatibility; edits are always all or nothing."_s),
+        QCommandLineOption(u"force"_s, u"Save even if parts of the file get lost."_s)};
 }
 
 } // namespace
@@ -83,15 +84,15 @@ QList<QCommandLineOption> options()
 const Verb editVerb{
     .name = "edit",
     .arguments = "FILE [SCRIPT]",
-    .summary = "change a project by a script, all lines or none",
+    .summary = "edit a project with a script, all lines or none",
     .details =
         [] {
-            return uR"(Reads one edit a line from SCRIPT, or from standard input, and saves the project when all are
-done. When one fails it says which and why, and the file stays as it is. Everything that follows
-from an edit, such as the references to what gets another name, is changed along with it.
-    set PATH VALUE                   a value; the rest of the line as it stands, or in quotes
-    add CLASS TO [NAME]              a new object to a screen, a group, a list or the project
-    delete PATH...                   objects, and all that refers to them
+            return uR"(Reads one edit per line from SCRIPT, or from standard input, and saves the project when all
+have succeeded. If any line is wrong, the project stays unchanged and every wrong line is
+reported. Each edit also updates what depends on it, such as the references to a renamed object.
+    set PATH VALUE                   a value: the rest of the line as it is, or in quotes
+    add CLASS TO [NAME]              a new object in a screen, a group, a list or the project
+    delete PATH...                   objects, and all references to them
     rename PATH NAME                 anything that has a name
     group NAME PATH...               elements of one screen; ungroup PATH; split PATH MEMBER...
     swap PATH PATH, move PATH TO     in a list, or to another one
@@ -99,8 +100,8 @@ from an edit, such as the references to what gets another name, is changed along
     model NAME                       another device model
     filter NAME PATH...              a filter that lists these elements
     undo [N], redo [N], print PATH
-Empty lines and lines that start with "#" do nothing. All wrong lines are named at once; what
-follows from one of them is not.)"_s;
+Empty lines and lines that start with "#" are ignored. Errors that only follow from another wrong
+line are not reported.)"_s;
         },
     .example = "echo 'rename startLevel pumpStart' | corvex edit --dry-run "
                "examples/PumpStation/PumpStation.kdproj",

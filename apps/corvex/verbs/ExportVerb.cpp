@@ -65,7 +65,7 @@ void reportWritten(const QStringList &paths, const Call &call)
     json.endObject();
 }
 
-//! Writes all files into a folder, which is made when it is missing.
+//! Writes all files into a folder, which is created if necessary.
 bool writeAll(const Exported &exported, const QString &folder, const Call &call)
 {
     QString error;
@@ -76,7 +76,7 @@ bool writeAll(const Exported &exported, const QString &folder, const Call &call)
     QStringList paths;
     for (const Exported::File &file : exported.files) {
         if (file.name != QFileInfo(file.name).fileName()) {
-            call.failed(u"\"%1\" is no name for a file. Give the project another name."_s.arg(file.name));
+            call.failed(u"\"%1\" cannot be a file name. Rename the project."_s.arg(file.name));
             return false;
         }
         paths.append(QDir(folder).filePath(file.name));
@@ -102,7 +102,7 @@ ExitCode run(const Call &call)
     }
     const QString folder = call.value(u"output"_s);
     if (call.asJson() && folder.isEmpty()) {
-        return call.misused(u"With --json the files have to go somewhere: add -o DIR."_s);
+        return call.misused(u"--json needs a folder for the files: add -o DIR."_s);
     }
     ProjectFile file;
     if (!file.open(call, ProjectFile::Use::Read, 1)) {
@@ -122,8 +122,8 @@ ExitCode run(const Call &call)
 
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption({u"o"_s, u"output"_s},
-                               u"Write the files into DIR, replacing those of before."_s, u"DIR"_s)};
+    return {QCommandLineOption({u"o"_s, u"output"_s}, u"Write the files into DIR, replacing earlier ones."_s,
+                               u"DIR"_s)};
 }
 
 } // namespace
@@ -131,13 +131,13 @@ QList<QCommandLineOption> options()
 const Verb exportVerb{
     .name = "export",
     .arguments = "modbus|bacnet|can|variables FILE",
-    .summary = "hand registers, objects, messages or variables to other programs",
+    .summary = "export registers, objects, messages or variables for other programs",
     .details =
         [] {
             return uR"(Prints the Modbus registers or all variables as CSV, the J1939 groups as a DBC file, or the
 BACnet objects as an EDE table. With -o DIR they become files in DIR, named after the project;
-for BACnet these are the whole set, with the texts of object types, states and units. What is
-not valid is left out and told, and the exit code is 1.)"_s;
+for BACnet this is the whole set, with the texts of object types, states and units. Invalid
+entries are omitted and reported, and the exit code is 1.)"_s;
         },
     .example = "corvex export modbus examples/PumpStation/PumpStation.kdproj",
     .fewestArguments = 2,

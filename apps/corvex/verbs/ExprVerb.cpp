@@ -37,7 +37,7 @@ constexpr struct
     {"color", GeneralDataInfo::ColorOutput},
 };
 
-//! The row of a table with that name, null when there is none.
+//! The row with that name; null if there is none.
 template<class Table>
 const auto *findRow(const Table &table, const QString &name)
 {
@@ -56,26 +56,27 @@ QStringList namesOf(const Table &table)
     return names;
 }
 
-//! Why an expression that could be read gives no code.
+//! Why an expression without syntax errors has no code.
 QString obstacle(const GeneralDataList &expression, GeneralDataList::InfoType kind)
 {
     for (qsizetype i = 0; i < expression.count(); ++i) {
         const GeneralDataList term({expression.at(i)});
         if (!term.isValidValueType(kind) || !term.isValidDataType(kind) || !term.isValidValue(kind)) {
-            return u"its term %1, \"%2\", cannot stand in one"_s.arg(QString::number(i + 1), term.toString());
+            return u"its term %1, \"%2\", is not allowed in one"_s.arg(QString::number(i + 1),
+                                                                       term.toString());
         }
     }
     if (kind == GeneralDataList::AssignExpression && expression.count() % 2 != 0) {
         return u"its terms are not pairs of a target and a source"_s;
     }
-    return u"its terms do not go together"_s;
+    return u"its terms do not fit together"_s;
 }
 
-//! The term whose code has the place of an error in it, the last one for an error at the end.
+//! The term whose code contains the error; the last one if the error is at the end.
 qsizetype termAt(const GeneralDataList &expression, const ExpressionSyntax::Result &error,
                  GeneralDataInfo::OutputType output, GeneralDataList::InfoType kind)
 {
-    constexpr qsizetype most = 1000; // the code of each beginning is made
+    constexpr qsizetype most = 1000; // a limit, as the code of every prefix is generated
     GeneralDataList beginning;
     for (qsizetype i = 0; i < std::min<qsizetype>(expression.count(), most); ++i) {
         beginning.append(expression.at(i));
@@ -92,7 +93,7 @@ qsizetype termAt(const GeneralDataList &expression, const ExpressionSyntax::Resu
 struct Translation
 {
     QString code;
-    QString problem; //!< for the user; empty when there is none
+    QString problem; //!< for the user; empty on success
 };
 
 Translation translate(const QString &text, GeneralDataList::InfoType kind, GeneralDataInfo::OutputType output,
@@ -101,15 +102,16 @@ Translation translate(const QString &text, GeneralDataList::InfoType kind, Gener
     bool ok = false;
     const GeneralDataList expression(text, &ok);
     if (!ok) {
-        return {{},
-                u"\"%1\" is no expression. Terms look like \"0406speed\", several like \"<0406speed><0101+>"
-                "<02041>\"."_s.arg(text)};
+        return {
+            {},
+            u"\"%1\" is not an expression. Terms look like \"0406speed\", several like \"<0406speed><0101+>"
+            "<02041>\"."_s.arg(text)};
     }
     const QString code = expression.toQmlString(output, kind);
     if (code.isEmpty() && !expression.isEmpty()) {
         return {{},
-                u"\"%1\" is no expression of the kind \"%2\": %3."_s.arg(text, kindName,
-                                                                         obstacle(expression, kind))};
+                u"\"%1\" is not an expression of the kind \"%2\": %3."_s.arg(text, kindName,
+                                                                             obstacle(expression, kind))};
     }
     ExpressionSyntax syntax;
     const bool isStatement = kind == GeneralDataList::AssignExpression || code.isEmpty();
@@ -117,7 +119,7 @@ Translation translate(const QString &text, GeneralDataList::InfoType kind, Gener
         isStatement ? syntax.checkStatements(code) : syntax.checkExpression(code);
     if (!result.valid) {
         const qsizetype place = termAt(expression, result, output, kind);
-        return {code, u"The code is no complete JavaScript at term %1, \"%2\": %3"_s.arg(
+        return {code, u"The code is not complete JavaScript at term %1, \"%2\": %3"_s.arg(
                           QString::number(place + 1), GeneralDataList({expression.at(place)}).toString(),
                           result.message)};
     }
@@ -126,9 +128,9 @@ Translation translate(const QString &text, GeneralDataList::InfoType kind, Gener
 
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption(
-        u"output"_s, u"The type that the code is to have: %1."_s.arg(namesOf(outputs).join(", "_L1)),
-        u"TYPE"_s, u"raw"_s)};
+    return {QCommandLineOption(u"output"_s,
+                               u"The result type of the code: %1."_s.arg(namesOf(outputs).join(", "_L1)),
+                               u"TYPE"_s, u"raw"_s)};
 }
 
 ExitCode run(const Call &call)
@@ -166,7 +168,7 @@ const Verb exprVerb{
     .details =
         [] {
             return uR"(Prints the JavaScript that the device gets for the expression TEXT, which is written as in
-project files. KIND is what the expression is for: %1. An expression that cannot
+project files. KIND is the purpose of the expression: %1. An expression that cannot
 be translated, or not into complete JavaScript, gives exit code 1.)"_s.arg(namesOf(kinds).join(", "_L1));
         },
     .example = "corvex expr math \"<0406speed><0101*><02042>\"",

@@ -19,19 +19,20 @@ using namespace Designer;
 
 namespace {
 
-//! Tells, for each note, what would be lost.
+//! Lists what saving would lose.
 ExitCode refuse(const Call &call, const ProjectFile &file, const QList<ReadNote> &dropped)
 {
     for (const ReadNote &note : dropped) {
         call.terminal().printError(Terminal::oneLine(u"%1:%2"_s.arg(file.path(), note.toString())));
     }
-    return call.failed(u"\"%1\" holds what this version does not know and would lose; it stays as it is. "
-                       "Mend these places, or write it all the same with --force."_s.arg(file.path()),
-                       ExitCode::Problems);
+    return call.failed(
+        u"\"%1\" contains parts that this version does not know and would lose, so it was not written. "
+        "Fix these places, or write anyway with --force."_s.arg(file.path()),
+        ExitCode::Problems);
 }
 
-//! Version control may have changed all line ends, which says nothing of the project: those of the first line
-//! are taken for all.
+//! Version control may have converted the line ends. That is not a change of the project, so the first line
+//! decides for all.
 ObjectXmlWriter::LineEnd lineEndOf(const QString &path)
 {
     constexpr qint64 longestDeclaration = 1024;
@@ -40,7 +41,7 @@ ObjectXmlWriter::LineEnd lineEndOf(const QString &path)
     return isUnix ? ObjectXmlWriter::LineEnd::Unix : ObjectXmlWriter::LineEnd::Windows;
 }
 
-//! The first line that differs is 0 when none does.
+//! \a line is the first line that differs, or 0.
 void report(const Call &call, const ProjectFile &file, qint64 line, bool written)
 {
     const bool isCanonical = line == 0;
@@ -111,7 +112,7 @@ ExitCode run(const Call &call)
 QList<QCommandLineOption> options()
 {
     return {QCommandLineOption(u"check"_s, u"Write nothing; say whether the file would change."_s),
-            QCommandLineOption(u"force"_s, u"Write even though parts of the file are lost."_s)};
+            QCommandLineOption(u"force"_s, u"Write even if parts of the file get lost."_s)};
 }
 
 } // namespace
@@ -122,11 +123,11 @@ const Verb fmtVerb{
     .summary = "write a project file in its canonical form",
     .details =
         [] {
-            return uR"(Writes the file as the design tool would save it; a file that is so already is not touched.
-With --check nothing is written, and the exit code is 1 when there is something to write. A
-file with parts that this version does not know is not written without --force, since they
-would be lost; elements whose plug-in is missing are kept and lose nothing. Lines that end with
-LF alone, as version control may have made them, stay so.)"_s;
+            return uR"(Writes the file as the design tool would save it; a file in this form is not touched. --check
+writes nothing, and the exit code is 1 if the file would change. If the file contains parts that
+this version does not know, only --force writes it, because those parts get lost. Elements whose
+plug-in is missing are kept unchanged. Lines that end with LF alone, as version control may have
+made them, stay so.)"_s;
         },
     .example = "corvex fmt --check examples/PumpStation/PumpStation.kdproj",
     .opensProjects = true,

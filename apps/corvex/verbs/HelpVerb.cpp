@@ -26,8 +26,8 @@ ExitCode run(const Call &call)
 const Verb helpVerb{
     .name = "help",
     .arguments = "[VERB]",
-    .summary = "list the verbs, or tell more of one",
-    .details = [] { return uR"(Lists all verbs, or shows usage, options and an example of one of them.)"_s; },
+    .summary = "list the verbs, or explain one",
+    .details = [] { return uR"(Lists all verbs, or shows the usage, the options and an example of one.)"_s; },
     .example = "corvex help build",
     .fewestArguments = 0,
     .run = run,

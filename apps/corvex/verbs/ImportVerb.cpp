@@ -22,7 +22,8 @@ using namespace Designer;
 
 namespace {
 
-//! What the import did, or would do, told before it is done: new variables leave the import then.
+//! The result of an import, collected before it is applied, because applying moves the new variables to the
+//! project.
 struct Report
 {
     struct Value
@@ -99,7 +100,7 @@ void print(const Report &report, bool isWritten, const Call &call)
         QString::number(report.unchanged)));
 }
 
-//! All of them, in the order of their lines.
+//! Prints all problems, ordered by line.
 void complain(QList<CsvText::Problem> problems, const Call &call)
 {
     std::ranges::stable_sort(problems, {}, &CsvText::Problem::line);
@@ -109,8 +110,8 @@ void complain(QList<CsvText::Problem> problems, const Call &call)
     }
 }
 
-//! Does the edit. False when the project refuses it. What is wrong with the names of new variables shows only
-//! among the others.
+//! Applies the import. Returns false if the project refuses it. Adds problems with the names of new
+//! variables, which appear only once they are in the list.
 bool edit(Project &project, VariableImport &import, QList<CsvText::Problem> &problems)
 {
     QList<const DesignerObject *> added;
@@ -140,9 +141,10 @@ ExitCode take(ProjectFile &file, VariableImport &import, const Call &call)
     const bool canBeForced = edit(file.project(), import, problems) && import.problems().isEmpty();
     complain(problems, call);
     if (!problems.isEmpty() && !(canBeForced && call.isSet(u"force"_s))) {
-        return call.failed(u"\"%1\" stays as it is. %2"_s.arg(
-                               file.path(), canBeForced ? u"Mend the table, or take it over with --force."_s
-                                                        : u"Mend the table."_s),
+        return call.failed(u"\"%1\" was not changed. %2"_s.arg(
+                               file.path(), canBeForced
+                                                ? u"Correct the table, or import it anyway with --force."_s
+                                                : u"Correct the table."_s),
                            ExitCode::Problems);
     }
     const bool isWritten = !isTrial && !report.isEmpty();
@@ -160,7 +162,7 @@ ExitCode run(const Call &call)
     }
     const QString separator = call.value(u"separator"_s);
     if (call.isSet(u"separator"_s) && separator.size() != 1 && separator != "tab"_L1) {
-        return call.misused(u"\"%1\" is no separator. Give one character, or tab."_s.arg(separator));
+        return call.misused(u"\"%1\" is not a separator. Give one character, or tab."_s.arg(separator));
     }
     QByteArray bytes;
     InputFile table(call.argument(2));
@@ -181,12 +183,12 @@ ExitCode run(const Call &call)
 QList<QCommandLineOption> options()
 {
     return {QCommandLineOption(u"separator"_s,
-                               u"What parts the columns: one character, or tab. Found by the first line "
+                               u"The column separator: one character, or tab. Taken from the first line "
                                "unless given."_s,
                                u"CHAR"_s),
-            QCommandLineOption({u"n"_s, u"dry-run"_s}, u"Write nothing; tell what would change."_s),
-            QCommandLineOption(u"force"_s, u"Take values that are not valid, and write even though parts of "
-                                           "the file are lost."_s)};
+            QCommandLineOption({u"n"_s, u"dry-run"_s}, u"Save nothing; show what would change."_s),
+            QCommandLineOption(u"force"_s, u"Accept invalid values, and save even if parts of "
+                                           "the file get lost."_s)};
 }
 
 } // namespace
@@ -194,23 +196,17 @@ QList<QCommandLineOption> options()
 const Verb importVerb{
     .name = "import",
     .arguments = "variables FILE CSV",
-    .summary = "take over a table of variables",
+    .summary = "update variables from a table",
     .details =
         [] {
-            return u"Reads a table as \"corvex export variables\" prints it, changes the variables that it "
-                   "names\n"
-                   "and adds those that are new, all or nothing, and prints each value that it changed. "
-                   "Columns may\n"
-                   "be left out, all but \"name\"; an empty field is the default. Variables that the table "
-                   "does not\n"
-                   "name stay as they are. CSV may be \"-\" for standard input.\n"
-                   "\n"
-                   "Tables of spreadsheets are read in UTF-8 or UTF-16, with commas, semicolons or tabs. "
-                   "Where "
-                   "no\n"
-                   "comma parts the columns, numbers may have a decimal comma. A \"'\" in front of \"=\", "
-                   "\"+\", \"-\" or\n"
-                   "\"@\" is no part of a text: it keeps spreadsheets from running it."_s;
+            return uR"(Reads a table in the form that "corvex export variables" prints. Updates the variables in the
+table and adds the new ones, all or nothing, and prints each changed value. Every column except
+"name" may be omitted. An empty field means the default value. Variables that are not in the
+table are not changed. CSV may be "-" for standard input.
+
+The table may be in UTF-8 or UTF-16, with commas, semicolons or tabs between the columns. Unless
+the separator is a comma, numbers may have a decimal comma. A "'" before "=", "+", "-" or "@" is
+not part of a text; it keeps spreadsheets from running the text as a formula.)"_s;
         },
     .example =
         "corvex import --dry-run variables examples/PumpStation/PumpStation.kdproj examples/variables.csv",

@@ -150,7 +150,7 @@ void printText(const Info &info, Terminal &terminal)
     }
     QStringList images;
     for (const Image &image : info.images) {
-        images.append(image.isMissing ? u"%1 (missing, or no image)"_s.arg(image.name) : image.name);
+        images.append(image.isMissing ? u"%1 (missing or not an image)"_s.arg(image.name) : image.name);
     }
     QStringList plugins;
     for (const auto &[className, items] : info.missingPlugins.asKeyValueRange()) {
@@ -159,7 +159,7 @@ void printText(const Info &info, Terminal &terminal)
     printSection(u"objects:"_s, classes, terminal);
     printSection(u"images:"_s, images, terminal);
     printSection(u"classes without a plug-in, kept as they are:"_s, plugins, terminal);
-    printSection(u"not taken over from the file (line:column: object):"_s, info.notes, terminal);
+    printSection(u"ignored in the file (line:column: object):"_s, info.notes, terminal);
 }
 
 ExitCode run(const Call &call, const ProjectFile &file)
@@ -178,12 +178,12 @@ ExitCode run(const Call &call, const ProjectFile &file)
 const Verb infoVerb{
     .name = "info",
     .arguments = "FILE",
-    .summary = "tell what is in a project",
+    .summary = "show what a project contains",
     .details =
         [] {
-            return uR"(Tells the project's name and version, the device model, how many objects there are of each
-class, the images, classes whose plug-in is missing, and what was not taken over from the
-file. The exit code is 0 for every project that can be opened; "corvex check" judges it.)"_s;
+            return uR"(Shows the project's name and version, the device model, the number of objects of each class,
+the images, the classes whose plug-in is missing, and what was ignored in the file. The exit
+code is 0 for every project that can be opened; "corvex check" finds problems.)"_s;
         },
     .example = "corvex info examples/PumpStation/PumpStation.kdproj",
     .opensProjects = true,

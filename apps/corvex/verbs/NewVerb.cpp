@@ -50,7 +50,7 @@ ExitCode listModels(const ConfigurationContainer &models, const Call &call)
     return ExitCode::Done;
 }
 
-//! The configuration, one screen, and the screen as the one that comes first.
+//! Adds the configuration and one screen, and makes it the default screen.
 bool fill(Project &project, const Configuration &model)
 {
     std::unique_ptr<DesignerObject> configuration(DesignerObject::createCopy(&model));
@@ -81,7 +81,7 @@ ExitCode create(const QString &path, const Configuration &model, const Call &cal
     }
     const std::unique_ptr<Project> project = ProjectFile::create();
     if (!project || !project->setIdName(name) || !fill(*project, model)) {
-        return call.failed(u"A project for the model \"%1\" cannot be made. Install the program again."_s.arg(
+        return call.failed(u"Cannot create a project for the model \"%1\". Install the program again."_s.arg(
             model.getIdName()));
     }
     if (!project->createFile(folder.path())) {
@@ -111,8 +111,8 @@ ExitCode run(const Call &call)
     }
     if (path.endsWith(".kdproj"_L1, Qt::CaseInsensitive)) {
         return call.misused(
-            u"PATH is the folder that the project gets, without \".kdproj\": corvex new \"%1\" --model NAME."_s
-                .arg(path.chopped(7)));
+            u"PATH is the project's folder, without \".kdproj\": corvex new \"%1\" --model NAME."_s.arg(
+                path.chopped(7)));
     }
     if (const ExitCode code = Installation::loadFactory(call); code != ExitCode::Done) {
         return code;
@@ -132,8 +132,8 @@ ExitCode run(const Call &call)
 
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption(u"model"_s, u"The device model that the project is for."_s, u"NAME"_s),
-            QCommandLineOption(u"list-models"_s, u"List the installed device models and make nothing."_s)};
+    return {QCommandLineOption(u"model"_s, u"The device model of the project."_s, u"NAME"_s),
+            QCommandLineOption(u"list-models"_s, u"List the installed device models and create nothing."_s)};
 }
 
 } // namespace
@@ -144,10 +144,10 @@ const Verb newVerb{
     .summary = "create a project with one screen",
     .details =
         [] {
-            return uR"(Makes the folder PATH, which gives the project its name, and in it the project's file, with
-the configuration of the device model and one screen, "Main": "corvex new work/Boiler"
-makes work/Boiler/Boiler.kdproj and prints this path. The folder above must be there; a
-project that is there already is not touched.)"_s;
+            return uR"(Creates the folder PATH, whose name becomes the name of the project, and in it the project file
+with the configuration of the device model and one screen, "Main". For example, "corvex new
+work/Boiler" creates work/Boiler/Boiler.kdproj and prints this path. The parent folder must
+exist. An existing project is not touched.)"_s;
         },
     .example = "corvex new Boiler --model \"VTR 50-K\"",
     .fewestArguments = 0,

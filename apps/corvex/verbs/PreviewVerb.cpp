@@ -22,7 +22,7 @@ namespace Halvane::Corvex::Tool {
 
 namespace {
 
-// Editors write a file in several steps.
+// Editors save a file in several steps.
 constexpr int calmAfterChange = 300;
 
 bool isUnattended(const Call &call)
@@ -30,7 +30,8 @@ bool isUnattended(const Call &call)
     return call.isSet(u"shot"_s) || call.isSet(u"script"_s);
 }
 
-//! What the panel of a project or a build keeps, wherever the build happens to be.
+//! The default file for the saved state of a project or a build; it does not depend on the temporary build
+//! folder.
 QString usualStateFile(const QString &path)
 {
     const QByteArray digest =
@@ -43,7 +44,7 @@ QString usualStateFile(const QString &path)
 QStringList programArguments(const Call &call, const QString &folder)
 {
     QStringList arguments{folder};
-    // What comes of a project was generated right now; the folder of a build may hold anybody's scripts.
+    // The build of a project was just generated; the folder of a build may contain scripts from anybody.
     if (folder != call.argument(0) || call.isSet(u"trust"_s)) {
         arguments.append(u"--trust"_s);
     }
@@ -58,7 +59,7 @@ QStringList programArguments(const Call &call, const QString &folder)
     return arguments;
 }
 
-//! Builds the project again each time its file changes, until the window is closed.
+//! Rebuilds the project whenever its file changes, until the window is closed.
 void follow(const Call &call, const QString &folder, PreviewProgram &program)
 {
     QEventLoop loop;
@@ -68,7 +69,7 @@ void follow(const Call &call, const QString &folder, PreviewProgram &program)
     QFileSystemWatcher watcher({call.argument(0)});
     QObject::connect(&watcher, &QFileSystemWatcher::fileChanged, &calm, qOverload<>(&QTimer::start));
     QObject::connect(&calm, &QTimer::timeout, &loop, [&call, &folder, &watcher] {
-        watcher.addPath(call.argument(0)); // which a file that was moved there is not under watch any more
+        watcher.addPath(call.argument(0)); // a file that was replaced is no longer watched
         ProjectBuild::run(call, folder, ProjectBuild::WithProblems::Build);
     });
     QObject::connect(&program.process(), &QProcess::finished, &loop, &QEventLoop::quit);
@@ -86,7 +87,7 @@ ExitCode run(const Call &call)
             return built;
         }
     }
-    // The key that ends the preview leaves time to clean up here.
+    // The same Ctrl+C also ends the preview; stay alive to clean up.
     std::signal(SIGINT, [](int) {});
     PreviewProgram program(call, temporary.filePath(u"classes"_s));
     if (!program.start(programArguments(call, folder))) {
@@ -103,11 +104,13 @@ ExitCode run(const Call &call)
 QList<QCommandLineOption> options()
 {
     return {
-        QCommandLineOption(u"shot"_s, u"Take a picture of every screen, or where the script says."_s,
+        QCommandLineOption(u"shot"_s, u"Save a picture of every screen, or where the script says so."_s,
                            u"DIR"_s),
-        QCommandLineOption(u"script"_s, u"Run the panel without a window as the script says."_s, u"SCRIPT"_s),
+        QCommandLineOption(u"script"_s, u"Run the panel without a window, driven by a script."_s,
+                           u"SCRIPT"_s),
         QCommandLineOption(u"state"_s, u"Where persistent variables are kept between runs."_s, u"PATH"_s),
-        QCommandLineOption(u"trust"_s, u"Run the folder of a build where nothing confines its scripts."_s),
+        QCommandLineOption(u"trust"_s,
+                           u"Run the folder of a build even if its scripts cannot be confined."_s),
     };
 }
 
@@ -119,30 +122,29 @@ const Verb previewVerb{
     .summary = "run the project on the desktop",
     .details =
         [] {
-            return uR"(Builds the project and runs the build as the device would, in a window: the panel, its
-variables, its inputs and outputs, and what goes wrong. When the project is saved, the window
-follows. FILE may be the folder of a build, too.
+            return uR"(Builds the project and runs it in a window as the device would: the panel, its variables, its
+inputs and outputs, and a list of run-time errors. The window follows when the project is saved.
+FILE may also be the folder of a build.
 
-With --shot, or --script, no window is needed. --shot DIR writes DIR/Main.png and so on, one
-picture for each screen. A script has one command a line:
+--shot and --script need no window. --shot DIR writes one picture for each screen, DIR/Main.png
+and so on. A script has one command per line:
 
     show Settings               show a screen
     press Settings.remote       touch an element and let go
-    hold NAME, release          the two halves of it
+    hold NAME, release          touch an element; let go later
     set wellLevel 40            a variable, or a property: Overview.levelInput.value
-    wait 5000                   let milliseconds pass, at once
+    wait 5000                   advance the clock by milliseconds, without a delay
     expect Main.label1.text "40"
     expect screen Settings
     shot NAME                   write NAME.png into the folder of --shot
 
-The exit code is 1 when an expectation fails, which is told with what was there, and when
-anything goes wrong on the screens. With --state, persistent variables and saved settings are
-read from PATH and written back; the window keeps them by itself. A file that holds anything else
-is left as it is.
+The exit code is 1 if an expectation fails, which prints the actual value, or if an error occurs
+on the screens. --state reads persistent variables and saved settings from PATH and writes them
+back; the window keeps them by default. A file with any other contents is not touched.
 
-The scripts of a build reach the files of the build alone, no network and no program; memory and
-processor time are bounded. Where the system cannot do that (Linux does, with Landlock), the
-folder of a build needs --trust; a project does not.)"_s;
+The scripts of a build can read only the files of the build. They have no network, cannot start
+programs, and their memory and processor time are limited. On systems without such limits (Linux
+has them, with Landlock), the folder of a build needs --trust; a project does not.)"_s;
         },
     .example = "corvex preview examples/PumpStation/PumpStation.kdproj --shot out/pictures",
     .opensProjects = true,

@@ -40,8 +40,8 @@ ExitCode run(const Call &call, const ProjectFile &file)
 
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption(u"dry-run"_s, u"Save nothing; show every change that comes with the name."_s),
-            QCommandLineOption(u"force"_s, u"Write even though parts of the file are lost."_s)};
+    return {QCommandLineOption(u"dry-run"_s, u"Save nothing; show every change that follows."_s),
+            QCommandLineOption(u"force"_s, u"Save even if parts of the file get lost."_s)};
 }
 
 } // namespace
@@ -49,12 +49,12 @@ QList<QCommandLineOption> options()
 const Verb renameVerb{
     .name = "rename",
     .arguments = "FILE OLD NEW",
-    .summary = "give something another name, wherever it is used",
+    .summary = "rename something wherever it is used",
     .details =
         [] {
-            return uR"(Gives the screen, element, variable, image or project with the path OLD the name NEW, and changes
+            return uR"(Renames the screen, element, variable, image or project with the path OLD to NEW, and updates
 every link, expression, state and list that names it. The file of an image and the folder of a
-project get the new name too. A name that will not do is refused.)"_s;
+project are renamed too. An invalid name is refused.)"_s;
         },
     .example = "corvex rename --dry-run examples/PumpStation/PumpStation.kdproj startLevel pumpStart",
     .fewestArguments = 3,

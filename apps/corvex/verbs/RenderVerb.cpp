@@ -38,10 +38,10 @@ QString screenName(const Call &call, const Project &project)
 struct Subject
 {
     Screen *screen = nullptr;
-    Element *element = nullptr; //!< that gets handles; null for none
+    Element *element = nullptr; //!< to draw with handles; may be null
 };
 
-//! The element of --handles, by its path or by its name on the screen of --screen.
+//! Finds the element of --handles by its path, or by its name on the screen of --screen.
 ExitCode findElement(Subject &subject, Project &project, const Call &call)
 {
     const QString path = call.value(u"handles"_s);
@@ -55,12 +55,12 @@ ExitCode findElement(Subject &subject, Project &project, const Call &call)
         return call.failed(subject.screen && !path.contains(u'.') && !place.object
                                ? Suggestion::unknown(
                                    u"element"_s, path, subject.screen->getElementNames(),
-                                   u"\"corvex tree FILE %1\" shows them."_s.arg(subject.screen->getIdName()))
+                                   u"\"corvex tree FILE %1\" lists them."_s.arg(subject.screen->getIdName()))
                                : Advice::complete(ProjectPath::refusal(project, path, ProjectPath::Object)),
                            ExitCode::Usage);
     }
     if (call.isSet(u"screen"_s) && subject.element->screen() != subject.screen) {
-        return call.misused(u"\"%1\" is on the screen \"%2\". Leave --screen out."_s.arg(
+        return call.misused(u"\"%1\" is on the screen \"%2\". Omit --screen."_s.arg(
             path, subject.element->screen()->getIdName()));
     }
     subject.screen = subject.element->screen();
@@ -115,7 +115,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
 {
     const QString path = call.value(u"output"_s);
     if (path.isEmpty()) {
-        return call.misused(u"The file for the picture is missing: corvex render FILE -o PNG."_s);
+        return call.misused(u"Name a file for the picture: corvex render FILE -o PNG."_s);
     }
     if (QFileInfo(path).canonicalFilePath() == QFileInfo(file.project().fullFilePath()).canonicalFilePath()) {
         return call.misused(u"\"%1\" is the project's own file. Choose another for the picture."_s.arg(path));
@@ -129,13 +129,14 @@ ExitCode run(const Call &call, const ProjectFile &file)
     CanvasScene scene(screen);
     scene.selectObjects({element});
     if (element && scene.selectedObjects().isEmpty()) {
-        return call.failed(u"\"%1\" is hidden or of a kind that is not drawn, and has no handles."_s.arg(
-                               element->getIdName()),
-                           ExitCode::Problems);
+        return call.failed(
+            u"\"%1\" has no handles because it is hidden or of a kind that is not drawn."_s.arg(
+                element->getIdName()),
+            ExitCode::Problems);
     }
     const QImage picture = scene.picture();
     if (picture.isNull()) {
-        return call.failed(u"The screen \"%1\" has no area, or one too large for a picture. Mend the size in "
+        return call.failed(u"The screen \"%1\" is empty or too large for a picture. Correct the size in "
                            "the project's configuration."_s.arg(screen->getIdName()),
                            ExitCode::Problems);
     }
@@ -159,8 +160,9 @@ QList<QCommandLineOption> options()
     return {
         QCommandLineOption({u"o"_s, u"output"_s}, u"The file for the picture."_s, u"PNG"_s),
         QCommandLineOption(u"screen"_s,
-                           u"The screen to draw; the first that the device shows unless given."_s, u"NAME"_s),
-        QCommandLineOption(u"handles"_s, u"Draw the frame and the handles of an element too."_s, u"PATH"_s)};
+                           u"The screen to draw; by default the first screen that the device shows."_s,
+                           u"NAME"_s),
+        QCommandLineOption(u"handles"_s, u"Also draw the frame and the handles of an element."_s, u"PATH"_s)};
 }
 
 } // namespace
@@ -171,11 +173,11 @@ const Verb renderVerb{
     .summary = "draw a screen as the canvas shows it",
     .details =
         [] {
-            return uR"(Draws a screen of the project, with the values that it has in the design, into a picture in the
-format PNG that is as large as the screen. No display is needed. With --handles the picture also
-shows where the mouse would catch an element, which has a path as in "corvex tree"; its name will
-do for one on the screen that is drawn. An image whose file is missing, or is a drawing that
-links to other files, is drawn as a crossed frame.)"_s;
+            return uR"(Draws a screen of the project, with its values in the design, into a PNG picture of the size of
+the screen. No display is needed. --handles also shows where the mouse would catch an element.
+It takes a path as in "corvex tree", or just the name of an element on this screen. An image is
+drawn as a crossed frame if its file is missing, or if it is a drawing that links to other
+files.)"_s;
         },
     .example = "corvex render examples/PumpStation/PumpStation.kdproj --screen Overview -o Overview.png",
     .opensProjects = true,

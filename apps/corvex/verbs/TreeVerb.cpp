@@ -19,7 +19,7 @@ using namespace Designer;
 
 namespace {
 
-//! Tells a printer of an object and of everything below it, in the order of the file.
+//! Passes an object and everything below it to a printer.
 template<class Printer>
 void walk(const DesignerObject &object, Printer &printer)
 {
@@ -46,7 +46,7 @@ bool isShown(const DesignerProperty &property)
     return property.hasFlag(StoredFlag) && !property.isList() && !property.isObject();
 }
 
-//! "Text label1", a line for each object, indented below its owner.
+//! "Text label1": one line for each object, indented below its owner.
 class TextPrinter
 {
 public:
@@ -54,7 +54,7 @@ public:
         : m_terminal(terminal)
     { }
 
-    //! The values of the next object are shown too.
+    //! The next object is printed with its values.
     void showValues() { m_showsValues = true; }
 
     void begin(const DesignerObject &object)
@@ -73,7 +73,7 @@ public:
     void end() { --m_depth; }
     void addKept(const KeptItem &kept)
     {
-        print(u"%1 %2 (kept as it stands in the file)"_s.arg(kept.className, kept.name));
+        print(u"%1 %2 (kept unchanged from the file)"_s.arg(kept.className, kept.name));
     }
 
 private:
@@ -212,12 +212,12 @@ const Verb treeVerb{
     .summary = "show the objects of a project, one of them, or a value",
     .details =
         [] {
-            return uR"(Shows the tree of all objects, each with its class and its name. PATH is the names on the way
-down, joined with ".", perhaps with the id of a property behind them: "Main" shows the screen
-Main, "Main.pump1" an element of it with its properties and all below it, and
-"Main.pump1.position" prints one value and nothing else. Elements in a group stand below the
-group. Variables and images go by their names, and the id of a list ("screens") shows what is
-in it. In JSON each object has "class", "name", "properties" and "children".)"_s;
+            return uR"(Shows the tree of all objects, each with its class and name. PATH consists of the names on the
+way down, joined with ".", and may end with the id of a property. "Main" shows the screen Main,
+"Main.pump1" shows its element pump1 with its properties and everything below it, and
+"Main.pump1.position" prints only that value. Elements in a group appear below the group. The
+path of a variable or an image is its name. The id of a list ("screens") shows the contents of
+the list. In JSON each object has "class", "name", "properties" and "children".)"_s;
         },
     .example = "corvex tree examples/PumpStation/PumpStation.kdproj",
     .mostArguments = 2,

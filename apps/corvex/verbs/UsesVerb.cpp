@@ -22,11 +22,11 @@ using namespace Designer;
 
 namespace {
 
-//! A place that names something.
+//! A place that names an object.
 struct Use
 {
     QString property; //!< its path
-    QString text;     //!< the name as it stands there, with what it goes through: "Main.group1.pump1"
+    QString text;     //!< the name as written there, including the way to it: "Main.group1.pump1"
 };
 
 //! \a name is that of the target.
@@ -69,7 +69,7 @@ bool isUsed(const DesignerObject &object, const ReferenceIndex &index)
     });
 }
 
-//! The paths of all screens, variables and images that nothing names.
+//! The paths of all unused screens, variables and images.
 QStringList unusedIn(Project &project)
 {
     const ReferenceIndex &index = ReferenceIndex::of(&project);
@@ -132,7 +132,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     if (const DesignerObject *object = ProjectPath::find(file.project(), name).object) {
         return printUses(usesOf(ReferenceTarget(object), object->getIdName()), call);
     }
-    // A name without the way to it: of elements, and of what is no longer there.
+    // Search by the bare name, which may belong to elements or to something that no longer exists.
     const QList<Use> uses = usesOf(ReferenceTarget(&file.project(), name), name);
     if (uses.isEmpty() && !hasElement(file.project(), name)) {
         return Advice::notFound(file.project(), name, call);
@@ -145,13 +145,14 @@ ExitCode run(const Call &call, const ProjectFile &file)
 const Verb usesVerb{
     .name = "uses",
     .arguments = "FILE [NAME]",
-    .summary = "tell where something is used, or what is not used at all",
+    .summary = "show where something is used, or what is not used at all",
     .details =
         [] {
-            return uR"(Prints where the object NAME or an element in it is named: in links, expressions, states of
-buttons, address maps. A line each, with the property, as a path that "corvex tree" takes, and the
-name as it stands there. Of elements whose plug-in is missing it prints the path. NAME is a path, or the name of elements on any screen. Without NAME it
-prints the screens, variables and images that nothing names.)"_s;
+            return uR"(Prints where the object NAME, or an element in it, is used: in links, expressions, states of
+buttons and address maps. Each line shows the property, as a path that "corvex tree" accepts, and
+the name as written there. For an element whose plug-in is missing it prints the path. NAME is a
+path, or the name of elements on any screen. Without NAME, prints the screens, variables and
+images that are not used.)"_s;
         },
     .example = "corvex uses examples/PumpStation/PumpStation.kdproj wellLevel",
     .mostArguments = 2,

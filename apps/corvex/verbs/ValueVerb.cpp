@@ -25,9 +25,8 @@ QStringList kindNames()
 QString details()
 {
     QString text =
-        u"Reads TEXT as a value of the kind KIND and prints it as a project file would hold it. A text\n"
-        "that the kind does not accept is refused with exit code 1. The kinds, each with a text that\n"
-        "it accepts:\n"_s;
+        u"Reads TEXT as a value of the kind KIND and prints it as a project file would contain it. An\n"
+        "invalid text is refused with exit code 1. The kinds, each with an example:\n"_s;
     for (const ValueKind &kind : valueKinds()) {
         text += u"\n  %1  %2"_s.arg(QString::fromLatin1(kind.name).leftJustified(18),
                                     QLatin1StringView(kind.example));
@@ -55,7 +54,7 @@ ExitCode run(const Call &call)
         call.terminal().print(*canonical);
     }
     if (!canonical) {
-        return call.failed(u"\"%1\" is no value of the kind \"%2\", such as \"%3\"."_s.arg(
+        return call.failed(u"\"%1\" is not a value of the kind \"%2\". An example is \"%3\"."_s.arg(
                                text, name, QLatin1StringView(kind->example)),
                            ExitCode::Problems);
     }

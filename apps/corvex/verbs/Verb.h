@@ -12,23 +12,23 @@ namespace Halvane::Corvex::Tool {
 
 class Call;
 
-//! One thing that the program can do. Each verb has a source file of its own; Verbs.cpp lists them.
+//! A verb of the program. Each verb has a source file of its own; Verbs.cpp lists them.
 struct Verb
 {
     static constexpr int anyNumber = 1000000;
 
     const char *name;
-    const char *arguments; //!< as the usage line shows them: "FILE [PATH]"
-    const char *summary;   //!< a few words for the list of verbs
-    QString (*details)();  //!< sentences for the page of the verb, lines at most 90 characters long
-    const char *example;   //!< a command that works in the folder of the sources
+    const char *arguments; //!< as in the usage line: "FILE [PATH]"
+    const char *summary;   //!< a few words for the list of verbs, in the imperative
+    QString (*details)();  //!< the sentences of the help page, in lines of at most 100 characters
+    const char *example;   //!< a command that works in the source folder
     int fewestArguments = 1;
     int mostArguments = 1;
     bool opensProjects = false; //!< takes --plugins and --configurations
-    bool draws = false;         //!< needs an application object that knows fonts and pictures
-    //! Beside those that all verbs have; may be null.
+    bool draws = false;         //!< needs an application object with fonts and images
+    //! The verb's own options, besides the common ones; may be null.
     QList<QCommandLineOption> (*options)() = nullptr;
-    ExitCode (*run)(const Call &call); //!< onProject<> for a verb whose first argument is a project's file
+    ExitCode (*run)(const Call &call); //!< onProject<> for a verb whose first argument is a project file
 };
 
 extern const Verb approveVerb;
@@ -51,9 +51,9 @@ extern const Verb treeVerb;
 extern const Verb usesVerb;
 extern const Verb valueVerb;
 
-//! In the order in which the list of verbs shows them.
+//! All verbs, in the order of the help page.
 const QList<const Verb *> &allVerbs();
-//! Null when there is none of that name.
+//! Null if there is no such verb.
 const Verb *findVerb(const QString &name);
 
 } // namespace Halvane::Corvex::Tool

@@ -170,8 +170,7 @@ TEST_F(BuildVerb, OnlyOneBuildAtATimeWritesToAFolder)
     ASSERT_EQ(flock(folder, LOCK_EX), 0);
     const ProgramRun run = build(u"out"_s);
     close(folder);
-    EXPECT_EQ(run.error,
-              u"corvex: Another build is being brought to \"out\". Wait until it has finished.\n"_s);
+    EXPECT_EQ(run.error, u"corvex: Another build is writing to \"out\". Wait until it has finished.\n"_s);
     EXPECT_EQ(run.code, 3);
     EXPECT_EQ(sandbox.files(u"out"_s), builtFiles);
 }

@@ -70,25 +70,20 @@ TEST(CommandLine, RefusesWrongUsage)
         {{u"%1 %2"_s}, u"There is no verb \"%1 %2\". \"corvex help\" lists them all."_s},
         {{u"--versions"_s}, u"There is no verb \"--versions\". \"corvex help\" lists them all."_s},
         {{u"help"_s, u"me"_s}, u"There is no verb \"me\". \"corvex help\" lists them all."_s},
-        {{u"info"_s}, u"\"info\" needs more arguments: corvex info FILE. \"corvex help info\" tells more."_s},
+        {{u"info"_s}, u"\"info\" needs more arguments: corvex info FILE. See \"corvex help info\"."_s},
         {{u"info"_s, u"a"_s, u"b c"_s},
-         u"\"b c\" is one argument too many. Put quotes around an argument with blanks. \"corvex help "
-         u"info\" "
-         "tells more."_s},
+         u"\"b c\" is one argument too many. Put quotes around an argument with blanks. See \"corvex help info\"."_s},
         {{u"info"_s, u"--colour"_s, u"x"_s},
-         u"Unknown option 'colour'. Put \"--\" before an argument that begins with \"-\". \"corvex help "
-         u"info\" "
-         "tells more."_s},
+         u"Unknown option 'colour'. Put \"--\" before an argument that begins with \"-\". "
+         "See \"corvex help info\"."_s},
         {{u"value"_s, u"number"_s, u"1"_s},
          u"There is no kind of values \"number\". There are bool, int, "_s},
         {{u"expr"_s, u"logic"_s, u"1"_s},
          u"There is no kind of expressions \"logic\". There are general, assign, bool, math, string. "
-         u"\"corvex "
-         "help expr\" tells more."_s},
+         "See \"corvex help expr\"."_s},
         {{u"expr"_s, u"bool"_s, u"0203t"_s, u"--output"_s, u"text"_s},
          u"There is no type \"text\". There are raw, string, boolean, integer, float, number, color. "
-         u"\"corvex "
-         "help expr\" tells more."_s},
+         "See \"corvex help expr\"."_s},
         {{u"expr"_s, u"bool"_s, u"0203t"_s, u"--output"_s}, u"Missing value after '--output'."_s},
     };
     for (const auto &[arguments, error] : cases) {

@@ -115,7 +115,7 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
     } rows[] = {
         {"explode", "There is no edit \"explode\". \"corvex help edit\" lists them."},
         {"set Main.nothing.text x",
-         "There is no property \"Main.nothing.text\". \"corvex tree FILE Main\" shows what there is."},
+         "There is no property \"Main.nothing.text\". \"corvex tree FILE Main\" shows what exists."},
         {"set Main.titel.text x",
          "There is no property \"Main.titel.text\". Did you mean \"Main.title.text\"?"},
         {"set Main.title.position far", "position takes a text such as \"x: 0; y: 0;\", not \"far\"."},
@@ -125,11 +125,11 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
                               "\"Main.box1.position\". \"corvex tree FILE Main.box1\" shows them all."},
         {"set box1.opacity 1", "There is no property \"box1.opacity\". Did you mean \"Main.box1.opacity\"?"},
         {"set Main.title.text.x 1",
-         "There is no property \"Main.title.text.x\". \"corvex tree FILE Main.title\" shows what there is."},
+         "There is no property \"Main.title.text.x\". \"corvex tree FILE Main.title\" shows what exists."},
         {"delete Main.title.text",
          "\"Main.title.text\" is a property, where an object is due: \"Main.title\" is one."},
         {"set Main.size height: 1; width: 1;", "\"Main.size\" is not stored; it follows from other values."},
-        {"set Main.title.text \xff", "The bytes are not UTF-8, the one encoding that is read."},
+        {"set Main.title.text \xff", "The script is not in UTF-8. Save it in UTF-8."},
         {"set Main.photo.source filterType: ImageResource; objectId: x.png; scopeType: Project;",
          "The file of the image is missing."},
         {"set Main.title.id x", "Names are given by rename, which takes all references along."},
@@ -139,7 +139,7 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
          "The name is in the wrong format. Only letters, numbers and underscore are allowed. "
          "The first character must be a letter. It has at least 2 characters."},
         {"add Nothing Main",
-         "There is no class \"Nothing\". Classes of other plug-ins are there with --plugins DIR."},
+         "There is no class \"Nothing\". --plugins DIR loads other plug-ins with more classes."},
         {"add Rectangle Main box1",
          "This cannot be added. There is a \"box1\" in \"Main\". Give one of the two "
          "another name first."},
@@ -149,7 +149,7 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
         {"add ImageResource Pump a.png", "Images are added by add-image, which takes their files along."},
         {"add Text speed", "\"speed\" has no list for an object of the class Text."},
         {"delete Main.title nowhere",
-         "There is no object \"nowhere\". \"corvex tree FILE Pump\" shows what there is."},
+         "There is no object \"nowhere\". \"corvex tree FILE Pump\" shows what exists."},
         {"group one Main.title", "The form of this edit is: group NAME PATH..."},
         {"group one Main.title Main.title", "At least two elements are required."},
         {"group one Main.title speed", "\"speed\" is a NumberVariable. A group takes elements."},
@@ -168,7 +168,7 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
     for (const auto &[line, reason] : rows) {
         const ProgramRun run = edit(QByteArray("set Main.title.text new\nadd-image one.png\n") + line + '\n');
         EXPECT_EQ(run.error,
-                  u"script:3: %1\ncorvex: \"%2\" stays as it is.\n"_s.arg(QString::fromLatin1(reason), pump))
+                  u"script:3: %1\ncorvex: \"%2\" was not changed.\n"_s.arg(QString::fromLatin1(reason), pump))
             << line;
         EXPECT_EQ(run.code, 1) << line;
         EXPECT_EQ(sandbox.read(pump), before) << line;
@@ -207,7 +207,7 @@ TEST_F(EditVerb, AnInterruptedScriptIsUndone)
     EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(program.exitCode(), 1);
     EXPECT_EQ(QString::fromUtf8(program.readAllStandardError()),
-              u"corvex: Interrupted: \"%1\" stays as it is.\n"_s.arg(pump));
+              u"corvex: Interrupted: \"%1\" was not changed.\n"_s.arg(pump));
     EXPECT_EQ(sandbox.read(pump), before);
     EXPECT_EQ(sandbox.files(u"Pump"_s), QStringList{u"Pump.kdproj"_s});
 }

@@ -147,12 +147,12 @@ TEST_F(PreviewVerb, StopsABuildThatUsesTooMuch)
 #endif
     static constexpr std::pair<const char *, const char *> documents[] = {
         {"import RuntimeObjects 2.0\nScreen { objectName: 'Main'; property var all: new Array(1e9).fill(1) }",
-         "The preview was ended at \"Main\": it needed more than 2 GB"},
+         "The preview was stopped at \"Main\": it used more than 2 GB"},
         {"import QtQuick 2.0 as Q\nimport RuntimeObjects 2.0\nScreen { objectName: 'Main'\n"
          "functions: [ Button { objectName: 'touched'; visualElement: box; "
          "onPressed: { new Array(1e9).fill(1) } } ]\n"
          "Rectangle { id: box; objectName: 'box'; width: 20; height: 20 } }",
-         "The preview was ended at \"Main.touched\": it needed more than 2 GB"},
+         "The preview was stopped at \"Main.touched\": it used more than 2 GB"},
         {"import QtQuick 2.0\nCanvas { objectName: 'Main'; width: 20; height: 20; onPaint: getContext('2d')\n"
          "onPainted: save('sent.png') }",
          "or a script called itself without end"},

@@ -48,7 +48,7 @@ TEST(ProgressLineTest, LongWorkShowsALineAndClearsIt)
     const QString folder = sandbox.path(u"Pump"_s);
     constexpr int longer = 1500; // longer than work for which nothing is shown
     const QByteArray line = seen({u"tree"_s, file}, folder, longer);
-    EXPECT_TRUE(line.contains("Waiting for others that work on ")) << line.constData();
+    EXPECT_TRUE(line.contains("Waiting for another program that uses ")) << line.constData();
     EXPECT_TRUE(line.endsWith("\r\033[K")) << line.constData();
     EXPECT_EQ(seen({u"tree"_s, file}, folder, 0), QByteArray());
     EXPECT_EQ(seen({u"tree"_s, file, u"--json"_s}, folder, longer), QByteArray());

@@ -58,8 +58,8 @@ TEST(NewVerb, NeverChangesExistingFiles)
         {QStringList{u"no/where"_s} + model, 3, u"no\" does not exist."_s},
         {QStringList{u"Locked/file/x2"_s} + model, 3, u"Locked/file\" does not exist."_s},
         {QStringList{u"Pump.kdproj"_s} + model, 2, u"corvex new \"Pump\" --model NAME."_s},
-        {QStringList{u"a:b"_s} + model, 2, u"\"corvex help new\" tells more."_s},
-        {QStringList{u"a\nb"_s} + model, 2, u"may not be used: \\n \"corvex help new\""_s},
+        {QStringList{u"a:b"_s} + model, 2, u"See \"corvex help new\"."_s},
+        {QStringList{u"a\nb"_s} + model, 2, u"may not be used: \\n See \"corvex help new\""_s},
         {QStringList{u"ab "_s} + model, 2, u"cannot begin or end with a blank."_s},
         {QStringList{QString(249, u'a')} + model, 2,
          u"The project's name cannot have more than 248 characters."_s},
@@ -100,7 +100,7 @@ TEST(TreeVerb, ShowsObjectsAndValues)
                                                   "    GroupElement group1\n"
                                                   "      Rectangle box1\n"
                                                   "      Rectangle box2\n"
-                                                  "    Gauge gauge1 (kept as it stands in the file)\n"_s);
+                                                  "    Gauge gauge1 (kept unchanged from the file)\n"_s);
     const struct
     {
         QString path;
@@ -129,7 +129,7 @@ TEST(TreeVerb, ShowsObjectsAndValues)
         EXPECT_EQ(run.code, 2);
         EXPECT_EQ(run.out, QString());
         EXPECT_THAT(run.error.toStdString(),
-                    HasSubstr(u"There is nothing called \"%1\" in \"%2\"."_s.arg(path, pump).toStdString()));
+                    HasSubstr(u"\"%2\" contains nothing called \"%1\"."_s.arg(path, pump).toStdString()));
     }
     for (const QString &verb : {u"tree"_s, u"uses"_s}) {
         EXPECT_THAT(sandbox.run({verb, pump, u"Main.titel"_s}).error.toStdString(),

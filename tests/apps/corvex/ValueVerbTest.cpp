@@ -83,8 +83,9 @@ TEST(ValueVerb, PrintsOnlyWhatItAccepts)
     EXPECT_EQ(good.code, 0);
     const ProgramRun bad = corvex({u"value"_s, u"point"_s, u"%1 \"a\""_s});
     EXPECT_EQ(bad.out, QString());
-    EXPECT_EQ(bad.error,
-              u"corvex: \"%1 \"a\"\" is no value of the kind \"point\", such as \"x: 10; y: 20.5;\".\n"_s);
+    EXPECT_EQ(
+        bad.error,
+        u"corvex: \"%1 \"a\"\" is not a value of the kind \"point\". An example is \"x: 10; y: 20.5;\".\n"_s);
     EXPECT_EQ(bad.code, 1);
 }
 
@@ -115,12 +116,12 @@ TEST(ExprVerb, PrintsTheCodeOrTheReasonAgainstIt)
          u"<0303a.b><0502sqrt>"_s,
          u"boolean"_s,
          {},
-         u"\"<0303a.b><0502sqrt>\" is no expression of the kind \"bool\": its term 2, \"0502sqrt\", cannot stand in one.\n"_s},
+         u"\"<0303a.b><0502sqrt>\" is not an expression of the kind \"bool\": its term 2, \"0502sqrt\", is not allowed in one.\n"_s},
         {u"string"_s,
          u"<0407name>"_s,
          u"string"_s,
          {},
-         u"\"<0407name>\" is no expression. Terms look like"_s},
+         u"\"<0407name>\" is not an expression. Terms look like"_s},
         {u"assign"_s,
          u"<0406speed><02043>"_s,
          u"raw"_s,
@@ -130,15 +131,16 @@ TEST(ExprVerb, PrintsTheCodeOrTheReasonAgainstIt)
          u"0304r.x"_s,
          u"raw"_s,
          {},
-         u"\"0304r.x\" is no expression of the kind \"assign\": its terms are not pairs of a target and a "
+         u"\"0304r.x\" is not an expression of the kind \"assign\": its terms are not pairs of a target and "
+         u"a "
          "source."_s},
         {u"math"_s,
          u"<0406speed><0101?>"_s,
          u"raw"_s,
          {},
-         u"\"<0406speed><0101?>\" is no expression of the kind \"math\": its terms do not go together.\n"_s},
+         u"\"<0406speed><0101?>\" is not an expression of the kind \"math\": its terms do not fit together.\n"_s},
         {u"math"_s, u"<0406speed><0101*>"_s, u"raw"_s, speed + u" *"_s,
-         u"The code is no complete JavaScript at term 2, \"0101*\": "_s},
+         u"The code is not complete JavaScript at term 2, \"0101*\": "_s},
     };
     for (const auto &[kind, text, output, code, error] : cases) {
         SCOPED_TRACE(qPrintable(kind + u' ' + text));
