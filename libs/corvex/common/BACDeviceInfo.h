@@ -10,19 +10,19 @@
 
 namespace Halvane::Corvex::Common {
 
-//! The properties of a BACnet device object that a project may set. Empty texts and zeros leave the device's
-//! own.
+//! The properties of a BACnet device object that a project may set. For empty texts and zeros the device
+//! keeps its own values.
 class CORVEX_COMMON_EXPORT BACDeviceInfo
 {
 public:
     BACDeviceInfo() = default;
-    //! Reads what toString() writes: every key exactly once, in any order. The record is empty when ok is
-    //! false.
+    //! Reads the form that toString() writes: every key exactly once, in any order. If ok is false, the
+    //! record is empty.
     explicit BACDeviceInfo(const QString &text, bool *ok = nullptr);
 
     //! "key: value;" items joined with a blank, keys ascending, texts as Base64.
     QString toString() const;
-    //! The same items with their values, texts and numbers.
+    //! The same items, with values as texts and numbers.
     QVariantMap toVariantMap() const;
 
     const QString &objectName() const { return m_objectName; }
@@ -35,7 +35,7 @@ public:
     void setModelName(const QString &modelName) { m_modelName = modelName; }
     const QString &vendorName() const { return m_vendorName; }
     void setVendorName(const QString &vendorName) { m_vendorName = vendorName; }
-    //! As assigned by ASHRAE, 0 to 65535.
+    //! Assigned by ASHRAE, 0 to 65535.
     int vendorIdentifier() const { return m_vendorIdentifier; }
     void setVendorIdentifier(int vendorIdentifier) { m_vendorIdentifier = vendorIdentifier; }
     //! In milliseconds.

@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Common::BACnetTables {
 
 namespace {
 
-//! Names of consecutive numbers, parted by blanks.
+//! Names of consecutive numbers, separated by blanks.
 struct Run
 {
     int first;

@@ -6,8 +6,8 @@
 #include <QList>
 #include <QString>
 
-//! The enumerations of ANSI/ASHRAE 135-2020 (BACnet) that a project refers to, by the names that the standard
-//! gives them ("analog-input", "present-value").
+//! The enumerations of ANSI/ASHRAE 135-2020 (BACnet) that a project refers to, by their names in the standard
+//! ("analog-input", "present-value").
 namespace Halvane::Corvex::Common::BACnetTables {
 
 struct CORVEX_COMMON_EXPORT Entry
@@ -18,8 +18,7 @@ struct CORVEX_COMMON_EXPORT Entry
 
 //! Clause 21, BACnetObjectType.
 CORVEX_COMMON_EXPORT const QList<Entry> &objectTypes();
-//! Clause 21, BACnetPropertyIdentifier, without all, optional and required, which stand for several
-//! properties.
+//! Clause 21, BACnetPropertyIdentifier, without all, optional and required, which mean several properties.
 CORVEX_COMMON_EXPORT const QList<Entry> &properties();
 //! Clause 20.2.1.4, the numbers of the application tags.
 CORVEX_COMMON_EXPORT const QList<Entry> &dataTypes();
@@ -27,7 +26,7 @@ CORVEX_COMMON_EXPORT const QList<Entry> &dataTypes();
 //! Clause 21, BACnetEngineeringUnits, the first 190.
 CORVEX_COMMON_EXPORT const QList<Entry> &units();
 
-//! The name as a user reads it: "present-value" as "Present Value", "cov-increment" as "COV Increment".
+//! The name as users read it: "Present Value" for "present-value", "COV Increment" for "cov-increment".
 CORVEX_COMMON_EXPORT QString displayText(const QString &name);
 
 } // namespace Halvane::Corvex::Common::BACnetTables

@@ -10,21 +10,21 @@
 
 namespace Halvane::Corvex::Common {
 
-//! What one model of display panel has and how it is set up: the form in which a device configuration is
-//! handed to the rest of the tools. A default record is empty and not valid.
+//! The hardware and settings of one display panel model: the form in which a device configuration is passed
+//! to the rest of the tools. A default record is empty and invalid.
 class CORVEX_COMMON_EXPORT ConfigurationInfo
 {
 public:
     //! Channels are numbered from 1.
     using ChannelMap = QMap<int, EnumHelper::InputOutputType>;
 
-    //! A display size above zero and a brightness of 0 to 100.
+    //! The display size is above zero and the brightness is 0 to 100.
     bool isValid() const;
 
     //! In per cent.
     int displayBrightness() const { return m_displayBrightness; }
     void setDisplayBrightness(int brightness) { m_displayBrightness = brightness; }
-    //! In pixels, unturned.
+    //! In pixels, not rotated.
     QSize displaySize() const { return m_displaySize; }
     void setDisplaySize(QSize size) { m_displaySize = size; }
     //! In bits per pixel.
@@ -56,12 +56,12 @@ public:
     const ChannelMap &spiChipSelect() const { return m_spiChipSelect; }
     void setSPIChipSelect(const ChannelMap &pins) { m_spiChipSelect = pins; }
 
-    //! The password that reading the project back from a device asks for.
+    //! Whether reading the project back from a device requires a password.
     bool isPasswordEnabled() const { return m_passwordEnabled; }
     void setPasswordEnabled(bool enabled) { m_passwordEnabled = enabled; }
     const QString &password() const { return m_password; }
     void setPassword(const QString &password) { m_password = password; }
-    //! The password that sending a project to a device asks for.
+    //! Whether sending a project to a device requires a password.
     bool isUploadEnabled() const { return m_uploadEnabled; }
     void setUploadEnabled(bool enabled) { m_uploadEnabled = enabled; }
     const QString &uploadPassword() const { return m_uploadPassword; }

@@ -18,7 +18,7 @@ class CORVEX_COMMON_EXPORT EnumHelper
     Q_GADGET
 
 public:
-    //! The kind of value that a variable or a runtime property holds. 5 and 8 are not in use.
+    //! The type of value that a variable or a runtime property holds. 5 and 8 are unused.
     enum VariableType {
         NoVariable = 0,
         BooleanVariable = 1,
@@ -36,45 +36,44 @@ public:
     enum VariableAccessMode { NoAccess = 0, ReadOnly = 1, WriteOnly = 2, ReadWrite = 3 };
     Q_ENUM(VariableAccessMode)
 
-    //! What a device channel is used for. The key of each enumerator is its word in a channel list.
+    //! What a device channel is used for. In channel lists each enumerator is written as its key.
     enum InputOutputType { UNUSED, INPUT, OUTPUT, COMTYPE, RECEIVE, SEND, DIRECTION, UNAVAILABLE, CSPIN };
     Q_ENUM(InputOutputType)
 
-    //! How a file server is spoken to.
+    //! The protocol of a file server.
     enum FtpType { FTP, FTPS, SFTP };
     Q_ENUM(FtpType)
 
-    //! What a log does when its last place is taken.
+    //! What a full log does.
     enum RollOverBehavior { OverwriteOldest, StopLogging, SaveAndReset };
     Q_ENUM(RollOverBehavior)
 
     enum BACnetType { BACnetIP, BACnetMSTP };
     Q_ENUM(BACnetType)
 
-    //! The texts a user reads for the variable types, by the name of the type ("BooleanVariable").
+    //! The display texts of the variable types, by type name ("BooleanVariable").
     static const QMap<QString, QString> &getVariableTypeNames();
 
-    //! The texts a user reads for the access modes, by the name of the mode ("ReadOnly").
+    //! The display texts of the access modes, by mode name ("ReadOnly").
     static const QMap<QString, QString> &getVariableAccessModeNames();
 
-    //! The words of the channel types, in the order of their numbers.
+    //! The names of the channel types, in the order of their numbers.
     static const QStringList &inputOutputTypeNames();
 
-    //! The channel type of a word, compared exactly; UNUSED, with ok false, for any other text.
+    //! The channel type with that name, compared exactly. UNUSED, with ok false, for any other text.
     static InputOutputType toInputOutputType(QStringView word, bool *ok = nullptr);
 
-    //! The texts a user reads for the BACnet object types, by the names that ASHRAE 135 gives them
-    //! ("analog-input").
+    //! The display texts of the BACnet object types, by their names in ASHRAE 135 ("analog-input").
     static const QMap<QString, QString> &getBacnetObjectTypeNames();
     //! The names of the object types by number.
     static const QMap<int, QString> &getBACnetObjIDToNames();
-    //! The same two tables for the properties of objects ("present-value") ...
+    //! The same two tables for the properties of objects ("present-value").
     static const QMap<QString, QString> &getBACnetPropertyTypeNames();
     static const QMap<int, QString> &getBACnetPropIDToNames();
-    //! ... and the texts of the data types ("real"), by name.
+    //! The display texts of the data types ("real"), by name.
     static const QMap<QString, QString> &getBACnetDataTypeNames();
 
-    //! The enumeration of this class with that name ("InputOutputType"), invalid when there is none.
+    //! The enumeration of this class with that name ("InputOutputType"); invalid if there is none.
     static QMetaEnum metaEnum(const QString &name);
 };
 

@@ -3,9 +3,9 @@
 
 #include <QtGlobal>
 
-/*! What the libraries offer to programs and plug-ins; everything else is hidden. The build of a library
-   defines that it is being built. Headers in folders private/ use the macros for what tests reach, and nobody
-   else. */
+//! Exports a symbol to programs and plug-ins; all other symbols are hidden. Each library defines its own
+//! CORVEX_BUILDS_ macro while it is built. Headers in folders private/ use the macros only for symbols that
+//! tests need.
 #if defined(CORVEX_BUILDS_COMMON)
 #define CORVEX_COMMON_EXPORT Q_DECL_EXPORT
 #else

@@ -38,7 +38,7 @@ void Job::startInThread(Work work)
     m_thread->start();
     if (!m_thread->isRunning() && !m_thread->isFinished()) {
         m_error = LocalizationHelper::coreString(
-            QStringLiteral("The system has no thread left for this. Try again later."));
+            QStringLiteral("The system cannot start another thread. Try again later."));
         QMetaObject::invokeMethod(this, &Job::conclude, Qt::QueuedConnection);
     }
 }
@@ -61,7 +61,7 @@ void Job::onTimeout()
     }
 }
 
-//! False when nothing more is to be done.
+//! Returns false when the work is complete.
 bool Job::runSlice()
 {
     QElapsedTimer timer;

@@ -15,54 +15,55 @@ class QThread;
 
 namespace Halvane::Corvex::Common {
 
-/*! Work that takes longer than a user wants to wait for. It runs in a thread of its own, or, when it changes
-    what the thread of the job works with, in slices between the events of that thread.
+/*! A long operation that does not block the user interface. It runs in a thread of its own or, if it changes
+    objects of the job's thread, in slices between the events of that thread.
 
-    Signals are emitted in the thread of the job, which needs an event loop; receivers in other threads get
-   them in theirs. A job that is deleted cancels its work, waits for it, and emits nothing more. It may be
-   deleted in a slot that it called. */
+    All signals are emitted in the job's thread, which needs an event loop; receivers in other threads are
+    notified in their own. Deleting a job cancels its work, waits for it and emits nothing. A slot connected
+    to a job may delete the job.
+*/
 class CORVEX_COMMON_EXPORT Job : public QObject
 {
     Q_OBJECT
 
 public:
     enum class Outcome {
-        None, //!< not finished yet
+        None, //!< not finished
         Done,
         Failed,
         Cancelled
     };
-    //! Called in the thread of the work. False, with a text for the user, when it failed.
+    //! Runs in the thread of the work. Returns false, with a text for the user, on failure.
     using Work = std::function<bool(Progress &progress, QString &error)>;
     enum class Next { More, Done, Failed };
-    //! A piece of work of less than a millisecond, called until it has no more to do.
+    //! One piece of the work, shorter than a millisecond. It is called until nothing is left to do.
     using Piece = std::function<Next(Progress &progress, QString &error)>;
 
-    //! No slice takes longer, unless a single piece does.
+    //! The maximum length of a slice, unless a single piece takes longer.
     static constexpr int longestSlice = 10; // milliseconds
-    //! How often progress is told at most.
+    //! The minimum interval between two progress reports.
     static constexpr int reportInterval = 50; // milliseconds
 
     explicit Job(QObject *parent = nullptr);
     ~Job() override;
 
-    // One of these, once.
+    // Call exactly one of these, once.
     void startInThread(Work work);
     void startInSlices(Piece piece);
 
-    //! Has the work end soon; finished() follows all the same.
+    //! Asks the work to stop soon; finished() is still emitted.
     void cancel() { m_progress.cancel(); }
-    //! Waits until work in a thread has returned; finished() follows in the event loop.
+    //! Blocks until the thread has returned. finished() is emitted later, from the event loop.
     void wait();
     bool isRunning() const { return m_isRunning; }
     Outcome outcome() const { return m_outcome; }
-    //! For the user, of a job that failed.
+    //! The reason for a failure, for the user.
     const QString &errorString() const { return m_error; }
     Progress::State progress() const { return m_progress.state(); }
 
 signals:
     void progressed(const Halvane::Corvex::Common::Progress::State &state);
-    //! Once, whatever the outcome.
+    //! Emitted once, whatever the outcome.
     void finished();
 
 private:
@@ -74,22 +75,22 @@ private:
     Progress m_progress;
     std::unique_ptr<QThread> m_thread;
     Piece m_piece;
-    QTimer m_timer; //!< of reports, or of slices
+    QTimer m_timer; //!< for reports or slices
     QElapsedTimer m_sinceReport;
     Progress::State m_reported;
     QString m_error;
     Outcome m_outcome = Outcome::None;
     bool m_isRunning = false;
-    bool m_isDone = false; //!< the work has succeeded
+    bool m_isDone = false; //!< the work succeeded
 };
 
-/*! A job whose work makes something. Work that was cancelled, or failed, has no result: what it made is
-    destroyed in the thread of the job. */
+//! A job that produces a result. If the work fails or is cancelled, there is no result; a result that it had
+//! produced is destroyed in the thread of the job.
 template<class Result>
 class ResultJob : public Job
 {
 public:
-    //! Nothing, with a text for the user, when it failed.
+    //! Returns nothing, with a text for the user, on failure.
     using Making = std::function<std::optional<Result>(Progress &progress, QString &error)>;
 
     explicit ResultJob(QObject *parent = nullptr)
@@ -112,7 +113,7 @@ public:
             });
     }
 
-    //! The result of a job that is done, once; nothing for any other.
+    //! Takes the result of a job that succeeded; nothing for any other job, and nothing the second time.
     std::optional<Result> takeResult()
     {
         return outcome() == Outcome::Done ? std::exchange(*m_result, std::nullopt) : std::nullopt;

@@ -13,21 +13,22 @@ class StringsFile;
 class CORVEX_COMMON_EXPORT LocalizationHelper
 {
 public:
-    //! The name of the locale whose texts are shown ("de_DE"); that of the system until another is set.
+    //! The name of the current locale ("de_DE"), by default that of the system.
     static QString currentLocale();
     static void setCurrentLocale(const QString &name);
 
-    //! The folder with one sub-folder per locale or language ("de_DE", "de") that holds a
-    //! "Localizable.strings" with the library's own texts. None by default: texts are shown in English then.
-    //! False, with English texts, when the table of the current locale is there and cannot be read; a locale
-    //! without a table is no error.
+    /*! Sets the folder with the library's own texts: one sub-folder per locale or language ("de_DE", "de"),
+        each with a "Localizable.strings". By default there is none, and texts are English. Returns false, and
+        texts are English, if the table of the current locale exists but cannot be read. A missing table is
+        not an error.
+    */
     static bool setLocalizationsPath(const QString &path, QString *error = nullptr);
 
-    //! The text in the current locale; the English text itself when there is no translation. Placeholders are
-    //! the same in both and are filled by the caller, in one call.
+    //! The text in the current locale, or the English text if there is no translation. Both have the same
+    //! placeholders, which the caller fills in one call.
     static QString coreString(const QString &english);
 
-    //! The text of a table; the key itself when the table does not hold it.
+    //! The text with that key; the key itself if the table does not contain it.
     static QString localizedString(const StringsFile &table, const QString &key);
 };
 

@@ -16,7 +16,7 @@ namespace {
 
 constexpr qint64 mostBytes = qint64(64) * 1024 * 1024;
 
-//! Of pictures of dots, which name no other file.
+//! The first bytes of raster images, which cannot refer to other files.
 constexpr auto firstBytesOfDots =
     std::to_array<QByteArrayView>({"\x89PNG\r\n\x1a\n", "\xff\xd8\xff", "BM", "GIF87a", "GIF89a"});
 constexpr QByteArrayView firstBytesOfGzip = "\x1f\x8b";
@@ -27,7 +27,7 @@ bool isOfDots(const QByteArray &bytes)
                                [&bytes](QByteArrayView first) { return bytes.startsWith(first); });
 }
 
-//! Whether a reference stays within the drawing. A picture that it holds may itself be a drawing.
+//! Whether a reference points into the drawing itself. An embedded image may be a drawing again.
 bool staysWithin(QStringView reference)
 {
     const QStringView target = reference.trimmed();
@@ -38,7 +38,8 @@ bool staysWithin(QStringView reference)
                && isOfDots(QByteArray::fromBase64(target.sliced(data + marker.size()).toLatin1())));
 }
 
-//! What a drawing names beyond itself; empty when there is nothing. Anything may be asked.
+//! The first reference of a drawing to something outside of it; empty if there is none. The bytes may be
+//! anything.
 QString linkOf(const QByteArray &drawing)
 {
     QXmlStreamReader reader(drawing);
@@ -73,7 +74,7 @@ QString PictureFile::problem(const QString &path)
     const QString link = linkOf(bytes);
     return link.isEmpty()
                ? QString()
-               : u"\"%1\" is not drawn: it links to \"%2\". Put into the drawing what it shows."_s.arg(
+               : u"\"%1\" is not drawn: it links to \"%2\". Embed the linked contents in the drawing."_s.arg(
                    path, link.left(longest));
 }
 

@@ -7,13 +7,13 @@
 
 namespace Halvane::Corvex::Common {
 
-//! What is asked of the file of a picture before anything draws it.
+//! Checks image files before they are drawn.
 class CORVEX_COMMON_EXPORT PictureFile
 {
 public:
-    /*! Why the picture is not to be drawn, in a text for the user; empty when it may be, or is no picture. A
-       drawing (SVG) may name other files, and whoever draws it would read them: only parts of the drawing
-       itself, and pictures of dots within it, are let through. */
+    //! Why the image must not be drawn, as a text for the user; empty if it may be drawn or is not an image.
+    //! A drawing (SVG) can refer to other files, which drawing it would read. Only references to parts of the
+    //! drawing itself and to embedded raster images are accepted.
     static QString problem(const QString &path);
 };
 

@@ -17,7 +17,7 @@ void Processors::run(std::size_t most, const std::function<void()> &work)
 {
     std::vector<std::future<void>> others(std::max<std::size_t>(std::min(count(), most), 1) - 1);
     for (std::future<void> &other : others) {
-        // Without another thread the call waits for its turn in this one.
+        // If no other thread can be started, the call runs later in this one.
         other = std::async(std::launch::async | std::launch::deferred, work);
     }
     work();

@@ -8,16 +8,16 @@
 
 namespace Halvane::Corvex::Common {
 
-//! Work that all processors share.
+//! Divides work among all processors.
 class CORVEX_COMMON_EXPORT Processors
 {
 public:
     //! At least 1.
     static std::size_t count();
 
-    /*! Calls \a work in several threads at once, this one among them, and returns when all calls have
-        returned. There are as many as there are processors, and at most \a most. The calls share out among
-        themselves what there is to do; one of them alone must be able to do it all. */
+    //! Calls \a work in several threads at once, including the calling one, and returns when all calls have
+    //! returned. There is one call per processor, but at most \a most. The calls must divide the work among
+    //! themselves, and one call alone must be able to do all of it.
     static void run(std::size_t most, const std::function<void()> &work);
 };
 

@@ -13,7 +13,7 @@ namespace Halvane::Corvex::Common {
 
 namespace {
 
-//! The text of the bytes: UTF-16 or UTF-32 after their byte order marks, UTF-8 otherwise.
+//! Decodes UTF-16 or UTF-32 with a byte order mark, and otherwise UTF-8.
 QString decoded(const QByteArray &bytes, bool &ok)
 {
     const auto encoding = QStringDecoder::encodingForData(bytes).value_or(QStringDecoder::Utf8);

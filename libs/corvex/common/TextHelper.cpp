@@ -12,8 +12,8 @@ namespace Halvane::Corvex::Common {
 
 namespace {
 
-//! The text of UTF-8 bytes, kept to the letter (a leading byte order mark is text here); ok false for other
-//! bytes.
+//! Decodes UTF-8 without any changes; even a leading byte order mark is kept. ok is false if the bytes are
+//! not UTF-8.
 QString fromStrictUtf8(const QByteArray &bytes, bool &ok)
 {
     QStringDecoder decoder(QStringDecoder::Utf8,
@@ -52,7 +52,7 @@ QString TextHelper::convertFromBase64(const QString &base64, bool *ok)
 
 namespace {
 
-//! How a character is written between double quotes; empty when it stands for itself.
+//! The escape of a character within double quotes; empty if it needs none.
 QString escaped(QChar c)
 {
     switch (c.unicode()) {

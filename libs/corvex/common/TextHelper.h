@@ -12,52 +12,51 @@ namespace Halvane::Corvex::Common {
 class CORVEX_COMMON_EXPORT TextHelper
 {
 public:
-    //! Base64 of the UTF-8 bytes of the text. A surrogate without its partner cannot be told in UTF-8 and is
-    //! lost.
+    //! Base64 of the text in UTF-8. A surrogate without its partner has no UTF-8 form and is lost.
     static QString convertToBase64(const QString &text);
-    //! Takes exactly what convertToBase64 writes: padded, without blanks, UTF-8 inside. Anything else gives
-    //! an empty text and ok false.
+    //! Accepts exactly the form that convertToBase64 writes: padded, without blanks, with UTF-8 inside.
+    //! Anything else gives an empty text and ok false.
     static QString convertFromBase64(const QString &base64, bool *ok = nullptr);
 
-    //! The text as it must stand between double quotes in QML or JavaScript.
+    //! The text escaped for double quotes in QML or JavaScript.
     static QString toQmlValueString(const QString &text);
 
-    //! The words that no object can be called: those of the script language on the device, its global objects
+    //! The names that no object may have: the keywords of the device's script language, its global objects
     //! and functions, and the objects that the device adds. Sorted.
     static const QStringList &reservedWords();
     //! Compares case-sensitively.
     static bool isReservedWord(const QString &name);
 
-    //! The order that people expect of names: letters of either case together, runs of digits of any length
-    //! by the number they spell ("pump2" before "Pump10"). Texts that differ at all are never equal in it.
+    //! The order in which people expect names: case-insensitive, with runs of digits of any length compared
+    //! as numbers ("pump2" before "Pump10"). Two different texts never compare as equal.
     static bool naturalLess(QStringView left, QStringView right);
     static void sortStringList(QStringList &list);
-    //! Natural order of what stands before the last full stop, then of what stands behind it.
+    //! Compares the parts before the last full stop in natural order, then the extensions.
     static bool fileNameLess(QStringView left, QStringView right);
     static void sortFileNames(QStringList &names);
 
-    //! Makes each "\r\n" and each "\r" alone a "\n".
+    //! Replaces each "\r\n" and each lone "\r" by "\n".
     static QString normalizeLineEnds(const QString &text);
-    //! The same with "\r\n" for every line end, whatever it was.
+    //! Replaces every line end, of whatever kind, by "\r\n".
     static QString toCrLf(const QString &text);
 
-    //! The number that ends the name, -1 when none does. The stem is what stands before it, so that stem and
-    //! number give the name again: leading zeros belong to the stem, and so do digits beyond the last 18.
+    //! The number at the end of the name; -1 if there is none. The stem is the text before it, so that stem
+    //! and number together give the name: leading zeros belong to the stem, as do all digits before the last
+    //! 18.
     static qint64 numberFromString(QStringView name, QString *stem = nullptr);
 
-    //! Enciphers with a key that is part of this program: it keeps honest people from editing a build tag by
-    //! hand and tells when a byte of it has changed. It keeps no secret. The same text always gives the same
-    //! Base64.
+    //! Encrypts with a key that is part of this program. This prevents edits of a build tag by hand and
+    //! detects changed bytes; it keeps nothing secret. Equal texts give equal Base64.
     static QString encryptString(const QString &text);
     static QString decryptString(const QString &cipher, bool *ok = nullptr);
 
-    //! Whether the name, or its part before the first full stop, is a device of Windows (AUX, COM1 ...), in
+    //! Whether the name, or its part before the first full stop, is a Windows device name (AUX, COM1 ...), in
     //! any case.
     static bool isReservedDeviceName(QStringView fileName);
-    //! The characters of the name that files of a project cannot have in theirs, each once, in order. Letters
-    //! and digits of every script are allowed, blanks and most punctuation of ASCII.
+    //! The characters of the name that file names in a project may not contain, each once, in order. Letters
+    //! and digits of every script are allowed, as are blanks and most ASCII punctuation.
     static QStringList forbiddenFileNameCharacters(QStringView name);
-    //! At least two characters, none forbidden, the first neither a blank nor a full stop.
+    //! At least two characters, no forbidden one, and the first is neither a blank nor a full stop.
     static bool isValidFileNameFormat(QStringView name);
 };
 

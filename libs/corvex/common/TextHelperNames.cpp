@@ -11,7 +11,7 @@ const QStringList &TextHelper::reservedWords()
 {
     static const QStringList words = [] {
         constexpr auto all =
-            // Keywords, words kept for the future and words that the third edition of ECMAScript kept.
+            // Keywords, and the words reserved for the future by this and the third edition of ECMAScript.
             "break case catch continue debugger default delete do else finally for function if in "
             "instanceof new return switch this throw try typeof var void while with "
             "class const enum export extends import super "
@@ -24,7 +24,7 @@ const QStringList &TextHelper::reservedWords()
             "encodeURI encodeURIComponent escape unescape "
             "Object Function Array String Boolean Number Date RegExp Error EvalError RangeError "
             "ReferenceError SyntaxError TypeError URIError Math JSON "
-            // What the device adds.
+            // Objects that the device adds.
             "Qt console print qmlViewer"_L1;
         QStringList list = QString(all).split(u' ');
         list.sort();

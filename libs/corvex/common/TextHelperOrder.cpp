@@ -10,7 +10,7 @@ bool isAsciiDigit(QChar c)
     return c >= u'0' && c <= u'9';
 }
 
-//! One past the run of digits that begins at i.
+//! The end of the run of digits that begins at i.
 qsizetype digitsEnd(QStringView text, qsizetype i)
 {
     while (i < text.size() && isAsciiDigit(text[i]))
@@ -33,7 +33,7 @@ int compareNumbers(QStringView left, QStringView right)
     return left.compare(right);
 }
 
-//! Natural order that does not tell "a" from "A" nor "1" from "01": negative, zero or positive.
+//! Compares in natural order, ignoring case and leading zeros: negative, zero or positive.
 int compareNaturally(QStringView left, QStringView right)
 {
     qsizetype i = 0;
@@ -58,7 +58,7 @@ int compareNaturally(QStringView left, QStringView right)
     return i == left.size() ? -1 : 1;
 }
 
-//! What stands before the last full stop; a full stop in front begins no extension.
+//! The part before the last full stop; a leading full stop does not begin an extension.
 QStringView stemOf(QStringView fileName)
 {
     const qsizetype dot = fileName.lastIndexOf(u'.');

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int deepestNesting = 64;
 
-//! The numbers of types that hold other values, as the stream has them.
+//! The type numbers of containers in the stream.
 enum ContainerType : quint32 { Map = 8, List = 9, StringList = 11, Hash = 28 };
 
 template<typename T>
@@ -30,7 +30,7 @@ QVariant readLeaf(QDataStream &stream)
 
 QVariant readNothing(QDataStream &stream)
 {
-    // An invalid value is followed by an empty text.
+    // The stream writes an empty text after an invalid value.
     QString nothing;
     stream >> nothing;
     return {};
@@ -100,7 +100,7 @@ public:
     }
 
 private:
-    //! A count that the bytes left can hold; otherwise the stream is corrupt and nothing is to be read.
+    //! Reads a count. If the remaining bytes cannot hold as many entries, marks the stream as corrupt.
     quint32 readCount(qint64 leastBytesOfOne)
     {
         quint32 count = 0;
@@ -161,13 +161,15 @@ void setForm(QDataStream &stream)
     stream.setByteOrder(QDataStream::BigEndian);
 }
 
-//! A compressed file has the first byte of zlib's form behind its four bytes of size, a plain one 0 or 1.
+//! After its four bytes of size, a compressed file has the first byte of the zlib format; a plain file has 0
+//! or 1 there.
 bool isCompressed(const QByteArray &bytes)
 {
     return bytes.size() > 4 && bytes.at(4) == 0x78;
 }
 
-//! What qCompress packed. Unlike qUncompress it grows no further than mostBytes, whatever the bytes claim.
+//! Unpacks the output of qCompress. Unlike qUncompress it never grows beyond mostBytes, whatever size the
+//! bytes claim.
 QByteArray uncompressed(const QByteArray &bytes, qint64 mostBytes, bool &ok)
 {
     ok = false;

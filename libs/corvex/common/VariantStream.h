@@ -7,28 +7,28 @@
 #include <QDataStream>
 #include <QVariant>
 
-//! The form in which the device reads values: a QDataStream of version Qt_4_7, big-endian, of one QVariant.
+//! The binary form of values on the device: one QVariant in a QDataStream of version Qt_4_7, big-endian.
 namespace Halvane::Corvex::Common::VariantStream {
 
-//! False for a value that the form cannot hold.
+//! Returns false if the form does not support the value.
 CORVEX_COMMON_EXPORT bool write(const QVariant &value, QByteArray &bytes);
 
-/*! Writes a map entry by entry, as write() writes the whole, without holding it. Keys come in any order, each
-    once, and each map gets as many entries as it was begun with. */
+//! Writes a map entry by entry, with the same bytes as write() but without holding the map in memory. Keys
+//! may come in any order, each once, and each map must get as many entries as announced.
 class CORVEX_COMMON_EXPORT MapWriter
 {
 public:
     MapWriter(QByteArray *bytes, qsizetype count);
 
-    //! An entry that is a map itself, whose own entries come next.
+    //! Begins an entry that is itself a map. Its entries follow.
     void beginMap(const QString &key, qsizetype count);
     void add(const QString &key, const QVariant &value);
-    //! Entries that encoded() gave, for those that come again and again.
+    //! Adds entries made by encoded(), for entries that occur many times.
     void addEncoded(const QByteArray &entries);
     //! The bytes of an entry.
     static QByteArray encoded(const QString &key, const QVariant &value);
 
-    //! False when a value was none that the form can hold.
+    //! False if the form did not support one of the values.
     bool isGood() const { return m_isGood; }
 
 private:
@@ -38,9 +38,8 @@ private:
     bool m_isGood = true;
 };
 
-//! Reads a value made of the types of the form alone, compressed by qCompress or not, to the last byte.
-//! Counts and sizes in the bytes are believed only as far as there are bytes for them, and nothing is
-//! unpacked beyond mostBytes.
+//! Reads one value that consists of supported types, compressed or not; all bytes must be used. Counts and
+//! sizes are checked against the available bytes, and nothing is unpacked beyond mostBytes.
 CORVEX_COMMON_EXPORT QVariant read(const QByteArray &bytes, qint64 mostBytes, bool &ok);
 
 } // namespace Halvane::Corvex::Common::VariantStream

@@ -133,7 +133,7 @@ bool FileObject::createWithFolder(const QString &parent, const QString &sub, QSt
     const QString draft = workshop.filePath(sub);
     const QString folder = u"%1/%2"_s.arg(parent, sub);
     if (!workshop.isValid()) {
-        *error = message(u"The folder \"%1\" cannot be made: %2"_s, folder, workshop.errorString());
+        *error = message(u"The folder \"%1\" cannot be created: %2"_s, folder, workshop.errorString());
         return false;
     }
     if (!Common::FileHelper::makeFolder(draft, error)
@@ -141,7 +141,7 @@ bool FileObject::createWithFolder(const QString &parent, const QString &sub, QSt
         return false;
     }
     if (!Common::FileSync::move(draft, folder) || !Common::FileSync::sync(parent)) {
-        *error = message(u"The folder \"%1\" cannot be made: %2"_s, folder, Common::FileSync::reason());
+        *error = message(u"The folder \"%1\" cannot be created: %2"_s, folder, Common::FileSync::reason());
         return false;
     }
     return true;

@@ -138,8 +138,8 @@ TEST_F(BuildVerb, ReplacesNothingButEarlierBuilds)
         {u"Pump"_s, u"\"Pump\" lies in the project's own folder"_s},
         {u"into/out"_s, u"\"into/out\" lies in the project's own folder"_s},
         {u"file"_s, u"\"file\" is not a folder."_s},
-        {u"file/below/it"_s, u"The folder \"file/below/it\" cannot be made: "_s},
-        {u"/proc/nowhere"_s, u"The folder \"/proc/nowhere\" cannot be made: "_s},
+        {u"file/below/it"_s, u"The folder \"file/below/it\" cannot be created: "_s},
+        {u"/proc/nowhere"_s, u"The folder \"/proc/nowhere\" cannot be created: "_s},
     };
     const QStringList before = sandbox.files(u"."_s);
     for (const auto &[folder, error] : cases) {

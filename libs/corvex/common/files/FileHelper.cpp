@@ -29,7 +29,8 @@ QString FileHelper::getStandardTemporatyLocation()
 {
     QString folder = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
 #ifdef Q_OS_UNIX
-    // The folder is often everybody's: a fixed name in it could be taken, or be a link laid by another user.
+    // The folder is often shared by all users. Another user could occupy a fixed name in it, or place a link
+    // there.
     folder += u"/corvex-"_s + QString::number(geteuid());
     QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     const QFileInfo info(folder);
@@ -43,8 +44,8 @@ QString FileHelper::getStandardTemporatyLocation()
 
 namespace {
 
-//! The folder itself, by a path whose every part but the last is no link: what ".." and a slash behind a link
-//! mean to the system, not what the letters suggest. Empty when nothing is there.
+//! The path of the folder itself without links, except possibly its last part. Resolves ".." and trailing
+//! slashes after links as the system does, not by the letters of the path. Empty if nothing exists there.
 std::filesystem::path physicalPath(const QString &path)
 {
     std::error_code error;
@@ -86,7 +87,7 @@ bool FileHelper::makeFolder(const QString &path, QString *error)
     std::error_code failure;
     std::filesystem::create_directories(QFileInfo(QDir::cleanPath(path)).filesystemFilePath(), failure);
     if (failure && error) {
-        *error = LocalizationHelper::coreString(u"The folder \"%1\" cannot be made: %2"_s)
+        *error = LocalizationHelper::coreString(u"The folder \"%1\" cannot be created: %2"_s)
                      .arg(path, QString::fromLocal8Bit(failure.message().c_str()));
     }
     return !failure;
@@ -94,7 +95,7 @@ bool FileHelper::makeFolder(const QString &path, QString *error)
 
 bool FileHelper::copyFile(const QString &source, const QString &target, QString *error)
 {
-    // Not QFile::copy(), which names other reasons for a disk that is full.
+    // QFile::copy() would not report a full disk.
     QFile from(source);
     QFile to(target);
     QString reason;
@@ -125,8 +126,7 @@ bool FileHelper::copyFile(const QString &source, const QString &target, QString 
 QString FileHelper::writeError(const QFileDevice &file)
 {
     const QString text = file.errorString();
-    return text == QFile().errorString() ? LocalizationHelper::coreString(u"There is no room on the disk."_s)
-                                         : text;
+    return text == QFile().errorString() ? LocalizationHelper::coreString(u"The disk is full."_s) : text;
 }
 
 bool FileHelper::writeFile(const QString &path, const QByteArray &bytes, QString *error)
@@ -168,7 +168,7 @@ QString FileHelper::md5(const QString &path)
 {
     QFile file(path);
     QCryptographicHash hash(QCryptographicHash::Md5);
-    // A pipe or a device may have no end.
+    // Do not read pipes and devices; they may never end.
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || !hash.addData(&file))
         return {};
     return QString::fromLatin1(hash.result().toHex());
@@ -199,7 +199,7 @@ QString rasterFormatOf(const QByteArray &head)
     return {};
 }
 
-//! Whether the root is that of a drawing; wellFormed tells about the rest.
+//! Whether the root element is that of a drawing. wellFormed says whether the rest can be parsed.
 bool hasSvgRoot(QFile &file, bool &wellFormed)
 {
     constexpr auto svgNamespace = "http://www.w3.org/2000/svg"_L1;

@@ -11,46 +11,46 @@
 
 namespace Halvane::Corvex::Common {
 
-//! Files and folders. Errors are texts for the user that name the file and the reason.
+//! Files and folders. Errors are texts for the user with the file and the reason.
 class CORVEX_COMMON_EXPORT FileHelper
 {
 public:
-    //! A folder for temporary files that belongs to this user alone; it exists.
+    //! An existing folder for temporary files that only this user can access.
     static QString getStandardTemporatyLocation();
 
-    //! Removes the folder and all below it. A link is removed, never what it leads to. True when nothing is
-    //! left, which includes a path where nothing was. Refuses an empty path, the root, and the home folder
-    //! with all above it.
+    //! Removes the folder and everything below it. Links are removed, not their targets. Returns true if
+    //! nothing is left, also if nothing existed. Refuses an empty path, the root, and the home folder and its
+    //! parents.
     static bool removeDirectory(const QString &path);
 
-    //! Makes the folder and those above it that are missing. True for one that is there, too.
+    //! Creates the folder and its missing parents. Returns true if it exists already.
     static bool makeFolder(const QString &path, QString *error = nullptr);
 
-    //! Copies a file to a place where none is. False, with nothing left there, unless every byte arrived.
+    //! Copies a file to a path that must not exist. On failure returns false and leaves no partial file.
     static bool copyFile(const QString &source, const QString &target, QString *error = nullptr);
 
-    //! Why a file did not take all bytes. A disk that filled up leaves no text in the file.
+    //! Why a write failed. QFileDevice has no text for a full disk.
     static QString writeError(const QFileDevice &file);
 
     //! Replaces the file in one step, see SafeFile.
     static bool writeFile(const QString &path, const QByteArray &bytes, QString *error = nullptr);
 
-    //! Writes one value as the device reads it: a QDataStream of version Qt_4_7, big-endian, through
-    //! qCompress when compressed. False for a value that this form cannot hold, too.
+    //! Writes one value in the form that the device reads: a QDataStream of version Qt_4_7, big-endian,
+    //! through qCompress if compressed. Also returns false if the form does not support the value.
     static bool variantToFile(const QVariant &value, const QString &path, bool compressed,
                               QString *error = nullptr);
-    //! Reads what variantToFile wrote, compressed or not. Takes values made of numbers, texts, bytes, dates,
-    //! colours, points, sizes and rectangles, and lists and maps of these; any other file gives ok false.
+    //! Reads the output of variantToFile, compressed or not. Accepts numbers, texts, bytes, dates, colours,
+    //! points, sizes, rectangles, and lists and maps of these; for any other file ok is false.
     static QVariant fileToVariant(const QString &path, bool *ok = nullptr);
 
-    //! In lower case, without a full stop.
+    //! In lower case, without the full stop.
     static const QStringList &validImageExtensions();
-    //! Whether the file is an image and its bytes are of the kind that its extension tells. The format is
-    //! that of the bytes ("png", "jpg", "bmp", "gif", "svg"), or empty when they are none of these. Needs no
-    //! application object.
+    //! Whether the file is an image whose contents match its extension. The format is taken from the contents
+    //! ("png", "jpg", "bmp", "gif", "svg"), or empty if it is none of these. Works without an application
+    //! object.
     static bool isValidImage(const QString &path, QString *format = nullptr);
 
-    //! The digest as 32 hexadecimal digits in lower case; empty when the file cannot be read.
+    //! The digest as 32 lower case hexadecimal digits; empty if the file cannot be read.
     static QString md5(const QString &path);
 };
 

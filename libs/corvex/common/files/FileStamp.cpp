@@ -13,7 +13,7 @@ FileStamp FileStamp::of(const QString &path)
 {
     constexpr qint64 blockSize = qint64(1) << 20;
     FileStamp stamp;
-    // Whoever opens a pipe would wait for its other end.
+    // O_NONBLOCK: opening a pipe would block until its other end is opened.
     const int handle = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     QFile file;
     struct stat status = {};

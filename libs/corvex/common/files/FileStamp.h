@@ -7,23 +7,23 @@
 
 namespace Halvane::Corvex::Common {
 
-/*! Which file a path led to and what it held. Times tell nothing: some file systems count whole seconds, and
-   some programs put them back. */
+//! Identifies a file and its contents, to detect changes. Times are ignored: some file systems count whole
+//! seconds, and some programs reset them.
 class CORVEX_COMMON_EXPORT FileStamp
 {
 public:
-    //! Of no file.
+    //! The stamp of a missing file.
     FileStamp() = default;
-    //! Of the file as it is now; reads all of it.
+    //! The stamp of the file in its present state; reads all of it.
     static FileStamp of(const QString &path);
 
     friend bool operator==(const FileStamp &, const FileStamp &) = default;
 
 private:
     quint64 m_device = 0;
-    quint64 m_number = 0; //!< among the files of the device
+    quint64 m_number = 0; //!< inode number on the device
     qint64 m_size = -1;
-    size_t m_digest = 0; //!< means nothing to another process
+    size_t m_digest = 0; //!< only valid in this process
 };
 
 } // namespace Halvane::Corvex::Common

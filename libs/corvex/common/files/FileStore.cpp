@@ -45,7 +45,7 @@ std::unique_ptr<StoredFile> FileStore::keep(const QString &path, QString *error)
     if (!m_folder) {
         auto folder = std::make_shared<TemporaryFolder>(u"corvex-kept"_s);
         if (!folder->isValid()) {
-            *error = LocalizationHelper::coreString(u"The folder \"%1\" cannot be made: %2"_s)
+            *error = LocalizationHelper::coreString(u"The folder \"%1\" cannot be created: %2"_s)
                          .arg(u"corvex-kept"_s, folder->errorString());
             return nullptr;
         }

@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Common {
 
 class TemporaryFolder;
 
-//! A copy of a file in a FileStore. It is deleted with this object.
+//! A copy of a file in a FileStore. The copy is deleted together with this object.
 class CORVEX_COMMON_EXPORT StoredFile
 {
 public:
@@ -27,12 +27,12 @@ private:
     QString m_name;
 };
 
-//! Copies of files for as long as somebody needs them, at most until the program ends. They lie in a
-//! temporary folder, which is made for the first and goes with the last.
+//! Keeps copies of files in a temporary folder as long as they are needed, at most until the program ends.
+//! The folder exists from the first copy until the last one is deleted.
 class CORVEX_COMMON_EXPORT FileStore
 {
 public:
-    //! Null, with a text for the user, when the file cannot be copied.
+    //! Null, with a text for the user, if the file cannot be copied.
     std::unique_ptr<StoredFile> keep(const QString &path, QString *error);
 
 private:

@@ -18,7 +18,7 @@ namespace Halvane::Corvex::Common::FileSync {
 
 namespace {
 
-//! From this number of files on the whole file system is synced at once, which takes less time.
+//! From this number of files on, syncing the whole file system is faster.
 constexpr qsizetype many = 64;
 
 bool isUnsupported()
@@ -30,7 +30,7 @@ bool syncWith(const QString &path, int (*operation)(int))
 {
     const int file = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
     if (file < 0) {
-        return errno == EACCES; // what may be written and not be read is for others to look after
+        return errno == EACCES; // a file that is writable but unreadable is not an error here
     }
     const bool isSynced = operation(file) == 0 || isUnsupported();
     const int error = errno;

@@ -7,28 +7,28 @@
 
 namespace Halvane::Corvex::Common::FileSync {
 
-/*! Steps of which a power cut leaves nothing half: what was synced is on the disk, and a name leads to the
-   old file or to the new one. Each is false with errno, and with nothing changed, when it fails. */
+//! Steps that a power failure cannot leave half done: synced data is on the disk, and a name leads to either
+//! the old or the new file. On failure each returns false with errno and changes nothing.
 
-//! Brings the contents of a file, or the names in a folder, to the disk. A file system that cannot is as
-//! good.
+//! Flushes the contents of a file, or the names in a folder, to the disk. Succeeds on file systems that
+//! cannot sync.
 CORVEX_COMMON_EXPORT bool sync(const QString &path);
-//! The same of all files and folders below the folder, and of itself.
+//! Syncs all files and folders below the folder, and the folder itself.
 CORVEX_COMMON_EXPORT bool syncAll(const QString &folder);
 
-//! Gives a file or folder another name on the same disk, which nothing may have.
+//! Renames a file or folder on the same disk. The new name must not exist.
 CORVEX_COMMON_EXPORT bool move(const QString &from, const QString &to);
-//! The same, in place of the file that has it.
+//! Renames a file and replaces the file that has the name.
 CORVEX_COMMON_EXPORT bool replace(const QString &from, const QString &to);
-//! Exchanges two files or folders in one step; errno is ENOTSUP where the file system cannot.
+//! Exchanges two files or folders in one step. errno is ENOTSUP if the file system cannot do that.
 CORVEX_COMMON_EXPORT bool exchange(const QString &first, const QString &second);
-//! Gives a file a second name, or makes a copy that is on the disk where files have only one.
+//! Creates a hard link or, if the file system has none, a synced copy.
 CORVEX_COMMON_EXPORT bool link(const QString &from, const QString &to);
 
 //! The target of a symbolic link exactly as the link stores it, so it may be relative; empty for other files.
 CORVEX_COMMON_EXPORT QString linkTarget(const QString &path);
 
-//! The reason that errno tells.
+//! The text for errno.
 CORVEX_COMMON_EXPORT QString reason();
 
 } // namespace Halvane::Corvex::Common::FileSync

@@ -59,7 +59,7 @@ std::unique_ptr<FileTransaction> FileTransaction::begin(const QString &folder, Q
     return std::unique_ptr<FileTransaction>(new FileTransaction(std::move(journal)));
 }
 
-//! Before the first change of a file: its contents get a second name, which survives the change.
+//! Before a file is first changed, gives its contents a second name, which survives the change.
 bool FileTransaction::keep(const QString &name)
 {
     if (m_journal->oldFiles().contains(name)) {
@@ -137,7 +137,7 @@ bool FileTransaction::bringBack(const QString &key, const QString &name)
 
 void FileTransaction::discard(const QString &key)
 {
-    // While removals wait, so does this: it goes with the transaction.
+    // While removals are deferred, the file is removed with the transaction.
     if (!key.isEmpty() && !m_defersRemovals) {
         QFile::remove(m_journal->privatePath(key));
     }
@@ -182,7 +182,7 @@ QString FileTransaction::draftPath() const
     return m_journal->privatePath(draftName);
 }
 
-//! All that was changed is on the disk before it counts.
+//! Flushes all changes to the disk before they take effect.
 bool FileTransaction::syncFolders() const
 {
     QSet<QString> folders{m_journal->privatePath(), m_journal->folder(),
@@ -210,7 +210,7 @@ bool FileTransaction::mayReplace(const QString &file, QString *error) const
     return false;
 }
 
-//! The draft was made as a new file, which others may be able to read.
+//! The draft is a new file, which other users may be able to read.
 bool FileTransaction::givePermissions(const QString &file) const
 {
     const QByteArray draft = QFile::encodeName(draftPath());
@@ -236,7 +236,7 @@ bool FileTransaction::commit(const QString &file, QString *error)
 void FileTransaction::takeBack()
 {
     if (const std::unique_ptr<FileJournal> journal = std::move(m_journal)) {
-        // When that fails, the journal stays, and the next opening tries again.
+        // If this fails, the journal remains and the next opening tries again.
         FileRecovery(*journal).takeBack();
     }
 }

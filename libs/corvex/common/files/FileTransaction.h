@@ -12,65 +12,68 @@ namespace Halvane::Corvex::Common {
 
 class FileJournal;
 
-/*! Changes of files in a folder that count together with the file that names them, or not at all.
+/*! Changes of several files in a folder that take effect together with the file that names them, or not at
+    all.
 
-    Each change is made at once, so that programs see it. What is needed to take it back is written to a
-   hidden folder first, and is on the disk before the change. commit() exchanges the file that names the
-   others and makes an end; without it all is taken back, by this object or, after a crash or a power cut, by
-   recover().
+    Each change is made at once, so that other programs see it. Before the change, the data to undo it is
+    written to a hidden folder and flushed to the disk. commit() replaces the file that names the others and
+    completes the transaction. Without commit() everything is undone, by this object or, after a crash or a
+    power failure, by recover().
 
-    Names are paths relative to the folder, on which the caller has an exclusive lock all the time. Operations
-   are false, with nothing changed, when they fail. */
+    Names are paths relative to the folder. The caller must hold an exclusive lock on the folder all the time.
+    On failure operations return false and change nothing.
+*/
 class CORVEX_COMMON_EXPORT FileTransaction
 {
 public:
-    //! Begins in \a folder; null, with a reason for the user, when nothing can be written there.
+    //! Begins a transaction in \a folder; null, with a reason for the user, if the folder is not writable.
     static std::unique_ptr<FileTransaction> begin(const QString &folder, QString *error = nullptr);
-    //! Takes back what was not committed.
+    //! Undoes all changes unless they were committed.
     ~FileTransaction();
     Q_DISABLE_COPY_MOVE(FileTransaction)
 
-    //! Makes a file where none is.
+    //! Creates a file, which must not exist.
     bool place(const QString &name, const QByteArray &bytes, QString *error = nullptr);
-    //! Gives a file a name that none has.
+    //! Renames a file. The new name must not exist.
     bool move(const QString &from, const QString &to, QString *error = nullptr);
-    //! Removes a file, or notes to do so with commit() while removals are deferred.
+    //! Removes a file; with deferred removals only commit() removes it.
     bool remove(const QString &name);
-    //! Gives the folder itself another name, beside all others in its parent.
+    //! Renames the folder itself within its parent.
     bool renameFolder(const QString &name, QString *error = nullptr);
 
-    // Files out of sight that may come back; they are known by the key that these operations return, which is
-    // empty after a failure.
+    // Files that are out of sight but can be restored. Each is identified by the key that these operations
+    // return; the key is empty on failure.
     QString setAside(const QString &name);
     QString keepAside(const QByteArray &bytes, QString *error = nullptr);
     bool bringBack(const QString &key, const QString &name);
     void discard(const QString &key);
-    //! Where the file of a key is meanwhile.
+    //! The current path of the file with that key.
     QString asidePath(const QString &key) const;
 
-    //! Where the caller writes the file that commit() puts in its place; on the disk before it is called.
+    //! The path for the new file that commit() puts in place. The caller must flush it to the disk before.
     QString draftPath() const;
     void deferRemovals(bool isDeferred);
-    //! False, with the reason, when \a file is protected against changes.
+    //! Returns false, with the reason, if \a file is write-protected.
     bool mayReplace(const QString &file, QString *error = nullptr) const;
-    /*! Puts the draft in the place of \a file, whose permissions it gets, and what was deferred away. False
-       with everything as before, and open to be taken back, unless isOver(). */
+    //! Replaces \a file by the draft, with the permissions of \a file, and carries out deferred removals. On
+    //! failure returns false; everything is as before and can still be undone, unless isOver().
     bool commit(const QString &file, QString *error = nullptr);
-    //! Whether it was committed or taken back.
+    //! Whether it was committed or undone.
     bool isOver() const { return !m_journal; }
     void takeBack();
 
     enum class Recovery {
-        Nothing,  //!< was to be done
-        Finished, //!< a transaction that had been committed
+        Nothing,  //!< there was no transaction
+        Finished, //!< completed a committed transaction
         TakenBack,
-        Failed //!< what is to be done cannot be done now
+        Failed //!< recovery is not possible now
     };
-    //! Ends what a program that was killed began in the folder; the folder may have another name afterwards.
+    //! Completes or undoes the transaction of a program that was killed. The folder may have another name
+    //! afterwards.
     static Recovery recover(const QString &folder);
-    //! Whether a transaction goes on in the folder, or was interrupted.
+    //! Whether the folder has a running or interrupted transaction.
     static bool isOpen(const QString &folder);
-    //! The folder that was \a folder before an interrupted transaction gave it another name; empty when none.
+    //! The path that \a folder had before an interrupted transaction renamed it; empty if it was not renamed.
     static QString renamedFrom(const QString &folder);
 
 private:
@@ -81,8 +84,8 @@ private:
     bool syncFolders() const;
     QString newKey();
 
-    std::unique_ptr<FileJournal> m_journal; //!< null when it is over
-    QVariantMap m_removed;                  //!< deferred: digests by name
+    std::unique_ptr<FileJournal> m_journal; //!< null after the end
+    QVariantMap m_removed;                  //!< deferred removals: digests by name
     int m_lastKey = 0;
     bool m_defersRemovals = false;
 };

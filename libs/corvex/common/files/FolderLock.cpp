@@ -15,7 +15,7 @@ namespace Halvane::Corvex::Common {
 
 namespace {
 
-constexpr unsigned long pause = 10; // milliseconds between two tries
+constexpr unsigned long pause = 10; // milliseconds between attempts
 
 } // namespace
 
@@ -26,7 +26,7 @@ bool FolderLock::open(const QString &folder)
     return m_file >= 0;
 }
 
-//! While it was waited for, the folder may have got another name and another one its place.
+//! During the wait the folder may have been renamed, and another one may have taken its name.
 bool FolderLock::isStillThere(const QString &folder) const
 {
     struct stat locked = {};

@@ -7,18 +7,19 @@
 
 namespace Halvane::Corvex::Common {
 
-/*! Keeps other programs from working in a folder, or from changing it, as long as they ask.
+/*! Keeps other programs that use this lock from working in a folder, or from changing it.
 
-    The lock is on the folder itself: it leaves no file behind, needs no right to write, follows the folder
-   when that gets another name, and goes with the process, however that ends. Two locks of one process keep
-   each other out, too. A file system that knows no locks gives every one. */
+    The lock is on the folder itself: it leaves no file, needs no write permission, follows the folder when it
+    is renamed, and ends with the process in any case. Two locks in one process exclude each other, too. File
+    systems without locks always grant it.
+*/
 class CORVEX_COMMON_EXPORT FolderLock
 {
 public:
     enum class Kind {
         None,
-        Shared,   //!< others may read, too
-        Exclusive //!< nobody else
+        Shared,   //!< other readers are allowed
+        Exclusive //!< nobody else is allowed
     };
 
     FolderLock() = default;
@@ -26,13 +27,13 @@ public:
     ~FolderLock() { release(); }
     Q_DISABLE_COPY_MOVE(FolderLock)
 
-    /*! Takes the lock in place of the one before, which is given up first. False when others still have it
-       after \a milliseconds, or when there is no such folder. */
+    //! Releases the current lock and takes this one. Returns false if others hold it for longer than \a
+    //! milliseconds, or if the folder does not exist.
     bool take(const QString &folder, Kind kind, int milliseconds = 0);
     void release();
 
     Kind kind() const { return m_kind; }
-    //! False for one that the file system only pretends to give.
+    //! False if the file system does not support locks and only pretended to grant one.
     bool isReal() const { return m_isReal; }
 
 private:

@@ -14,7 +14,7 @@ namespace Halvane::Corvex::Common {
 
 namespace {
 
-//! Opens the file and looks at what was opened, so that nobody can exchange it in between.
+//! Opens the file and checks the opened file, so that nobody can exchange it in between.
 bool open(QFile &file, const QString &path, qint64 most, RegularFile::Links links, QString *error)
 {
     const int noLinks = links == RegularFile::Links::Refuse ? O_NOFOLLOW : 0;
@@ -23,7 +23,7 @@ bool open(QFile &file, const QString &path, qint64 most, RegularFile::Links link
     if (handle < 0) {
         *error =
             noLinks != 0 && errno == ELOOP
-                ? u"\"%1\" is a link, which is not followed. Name the file itself."_s.arg(path)
+                ? u"\"%1\" is a link. Name the file itself."_s.arg(path)
                 : u"\"%1\" cannot be read: %2."_s.arg(path, QString::fromLocal8Bit(std::strerror(errno)));
         return false;
     }
@@ -31,10 +31,10 @@ bool open(QFile &file, const QString &path, qint64 most, RegularFile::Links link
     { };
     file.open(handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
     if (fstat(handle, &facts) != 0 || !S_ISREG(facts.st_mode)) {
-        *error = u"\"%1\" is not read: it is not a regular file."_s.arg(path);
+        *error = u"\"%1\" cannot be read: it is not a regular file."_s.arg(path);
     } else if (facts.st_size > most) {
-        *error =
-            u"\"%1\" is not read: it is larger than %2 MB."_s.arg(path, QString::number(most / 1024 / 1024));
+        *error = u"\"%1\" cannot be read: it is larger than %2 MB."_s.arg(
+            path, QString::number(most / 1024 / 1024));
     } else {
         return true;
     }

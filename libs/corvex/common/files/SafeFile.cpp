@@ -23,7 +23,7 @@ namespace Halvane::Corvex::Common {
 
 namespace {
 
-const QString draftPrefix = u".corvex-draft-"_s; // and eight digits
+const QString draftPrefix = u".corvex-draft-"_s; // followed by eight digits
 
 bool isSame(int file, const QByteArray &path)
 {
@@ -33,11 +33,11 @@ bool isSame(int file, const QByteArray &path)
            && opened.st_dev == named.st_dev;
 }
 
-/*! Makes a file that nobody takes for abandoned: its writer holds a lock on it from its first moment. One
-   that was removed in the moment between is made again. -1 with errno when it cannot be made. */
+//! Creates a file that removeAbandoned() does not touch: it is locked right after its creation, and created
+//! again if it was removed in between. Returns -1 with errno on failure.
 int openLocked(const QByteArray &path)
 {
-    constexpr mode_t readAndWrite = 0666; // less what the user's mask takes away
+    constexpr mode_t readAndWrite = 0666; // minus the user's umask
     for (;;) {
         const int file = open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, readAndWrite);
         if (file < 0) {
@@ -78,9 +78,9 @@ bool SafeFile::openForWriting(QString *error)
     m_failure.clear();
     const QFileInfo target(m_path);
     m_target = target.isSymLink() && target.exists() ? target.canonicalFilePath() : m_path;
-    // What is moved over a device or a pipe would be in its place for every program.
+    // Replacing a device or a pipe would replace it for every program.
     if (target.exists() && !target.isFile()) {
-        m_failure = LocalizationHelper::coreString(u"This is no file."_s);
+        m_failure = LocalizationHelper::coreString(u"This is not a file."_s);
     } else if (target.exists() && !target.isWritable()) {
         m_failure = LocalizationHelper::coreString(u"It is protected."_s);
     } else if (m_path.isEmpty()) {
@@ -145,7 +145,7 @@ bool SafeFile::commit(QString *error)
 
 bool SafeFile::moveDraft()
 {
-    // The lock on the draft ends with the file, when it has its name.
+    // The lock ends when the draft, already renamed, is closed.
     if (fsync(handle()) != 0 && errno != EINVAL) {
         return false;
     }

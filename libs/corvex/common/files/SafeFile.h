@@ -7,12 +7,12 @@
 
 namespace Halvane::Corvex::Common {
 
-/*! A file that replaces another in one step, when every byte of it is on the disk, and never in part.
+/*! A file that replaces another in one step, once all of its bytes are on the disk.
 
-    It is written beside its target. commit() moves it over the target and brings the folder to the disk, so
-   that after a power cut there is the old file or the new one; without commit(), and after any write that
-   took fewer bytes than it was given (a full disk), the target stays as it was. A target that is a link stays
-   one: the file that it leads to is replaced. Permissions of the target are kept.
+    The new file is written beside its target. commit() renames it to the target and flushes the folder, so
+    that after a power failure there is either the old or the new file. Without commit(), or after an
+    incomplete write (a full disk), the target is unchanged. If the target is a link, the file that it leads
+    to is replaced. The permissions of the target are kept.
 
     Programs that were killed may have left drafts in the folder. A program removes them when it writes its
    first file there. */
@@ -26,11 +26,12 @@ public:
 
     //! The path of the target.
     QString fileName() const override { return m_path; }
-    //! Opens for writing; the error names the file and the reason.
+    //! Opens for writing. The error names the file and the reason.
     bool openForWriting(QString *error = nullptr);
-    //! Nothing will be moved; commit() is not needed any more.
+    //! Discards the new file. commit() is no longer needed.
     void cancelWriting();
-    //! Syncs and moves. False, with the target untouched, when anything failed since the file was opened.
+    //! Flushes and renames the file. If anything has failed since the file was opened, returns false and the
+    //! target is unchanged.
     bool commit(QString *error = nullptr);
 
     //! Removes the drafts that killed programs have left in a folder.
@@ -45,8 +46,8 @@ private:
     bool fail(QString *error);
 
     QString m_path;
-    QString m_target; //!< what is replaced: the path, links followed
-    QString m_draft;  //!< the file beside it; empty while none is open
+    QString m_target; //!< the path of the file to replace, with links resolved
+    QString m_draft;  //!< the new file beside it; empty while none is open
     QString m_failure;
 };
 

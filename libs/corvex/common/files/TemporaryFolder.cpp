@@ -27,7 +27,7 @@ TemporaryFolder::TemporaryFolder(const QString &parent, const QString &name)
         isMade = folder.isValid();
         m_path = isMade ? folder.path() : QString();
         m_error = folder.errorString();
-        // Somebody may have taken it for an abandoned one in the moment before it is locked.
+        // Another program may have removed it as abandoned before it was locked.
     } while (isMade && !m_lock.take(m_path, FolderLock::Kind::Exclusive));
 }
 

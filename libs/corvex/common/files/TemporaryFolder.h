@@ -8,12 +8,12 @@
 
 namespace Halvane::Corvex::Common {
 
-/*! A folder for a while, which goes with the object. A program that is killed leaves its folder behind: the
-   next one that makes a folder of that name in the same place, for the same user, removes it. */
+//! A temporary folder that is removed together with the object. The folder of a program that was killed
+//! remains until the same user creates a folder with the same name pattern in the same place.
 class CORVEX_COMMON_EXPORT TemporaryFolder
 {
 public:
-    //! "NAME-" and some letters, among the system's temporary files.
+    //! "NAME-" and some letters, in the system's folder for temporary files.
     explicit TemporaryFolder(const QString &name);
     //! The same in the folder \a parent.
     TemporaryFolder(const QString &parent, const QString &name);
@@ -23,11 +23,11 @@ public:
     bool isValid() const { return !m_path.isEmpty(); }
     const QString &path() const { return m_path; }
     QString filePath(const QString &name) const { return m_path + QLatin1Char('/') + name; }
-    //! Why it could not be made.
+    //! Why it could not be created.
     const QString &errorString() const { return m_error; }
 
-    //! Removes the folders in \a parent whose names match \a pattern ("name-??????"), which belong to the
-    //! user and on which nobody has a lock.
+    //! Removes all folders in \a parent whose names match \a pattern ("name-??????"), that belong to the user
+    //! and that are not locked.
     static void removeAbandoned(const QString &parent, const QString &pattern);
 
 private:

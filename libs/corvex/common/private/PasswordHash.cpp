@@ -20,7 +20,7 @@ using Hash = std::array<unsigned char, 32>;
 
 Salt saltOf(const QStringList &texts)
 {
-    // Each text is closed, so that no two lists give the same bytes.
+    // Terminate each text, so that two different lists never give the same bytes.
     const QByteArray bytes = (texts.join(QChar::Null) + QChar::Null).toUtf8();
     Salt salt;
     crypto_generichash(salt.data(), salt.size(), reinterpret_cast<const unsigned char *>(bytes.constData()),

@@ -18,7 +18,7 @@ namespace Halvane::Corvex::Common {
 
 namespace {
 
-// 1 January 1980, midnight: the earliest that an archive can tell, in no time zone.
+// 1 January 1980, midnight: the earliest time that an archive can store; it has no time zone.
 constexpr zip_uint16_t entryDate = (1 << 5) | 1;
 constexpr zip_uint32_t regularFileMode = 0100644;
 constexpr int defaultLevel = 6;
@@ -41,7 +41,7 @@ QString textOf(zip_t *archive)
     return textOf(zip_get_error(archive));
 }
 
-//! Discards the archive, unless it was closed.
+//! Discards the archive unless it was closed.
 struct ArchiveDeleter
 {
     void operator()(zip_t *archive) const { zip_discard(archive); }
@@ -54,8 +54,8 @@ struct EntryFileDeleter
 };
 using EntryFile = std::unique_ptr<zip_file_t, EntryFileDeleter>;
 
-/*! A file that is deflated when it comes into the archive. libzip takes it as it is, and would deflate it
-    on one processor. */
+//! A file that is deflated when it is added to the archive. libzip stores these bytes as they are; its own
+//! compression would use only one processor.
 class DeflatedSource
 {
 public:
@@ -63,7 +63,7 @@ public:
         : m_bytes(bytes)
     { }
 
-    //! This object outlives what it makes.
+    //! This object must outlive the source.
     zip_source_t *create(zip_t *archive) { return zip_source_function(archive, &serve, this); }
 
 private:
@@ -81,7 +81,7 @@ private:
         case ZIP_SOURCE_STAT:
             return source.describe(*static_cast<zip_stat_t *>(data));
         default:
-            return 0; // nothing to close, to free or to complain of
+            return 0; // nothing to close, free or report
         }
     }
 
@@ -112,7 +112,7 @@ struct Entry
 {
     QString path;
     QString name;
-    DeflatedSource *source = nullptr; //!< in place of a file
+    DeflatedSource *source = nullptr; //!< used instead of a file
 };
 
 bool addEntry(zip_t *archive, const Entry &entry, int level)
@@ -180,7 +180,7 @@ bool pack(const QList<Entry> &entries, const QString &zipPath, const QString &co
                            : nullptr);
     if (!archive)
         return fail(error, zipPath, textOf(&problem));
-    // The archive lets go of the buffer when it is closed; it is read after that.
+    // Closing the archive releases the buffer, which is read after that.
     zip_source_keep(buffer.get());
     if (!setComment(archive.get(), comment))
         return fail(error, zipPath, LocalizationHelper::coreString(u"The comment is too long."_s));
@@ -196,7 +196,7 @@ bool pack(const QList<Entry> &entries, const QString &zipPath, const QString &co
 
 constexpr zip_int64_t mostEntries = 100'000;
 constexpr quint64 mostUnpackedBytes = quint64(4) << 30;
-//! No honest deflate stream reaches more.
+//! The highest ratio that a valid deflate stream can reach.
 constexpr quint64 mostGrowth = 1100;
 
 Archive openForReading(const QString &path, QString *error)
@@ -240,11 +240,11 @@ bool isPlainFileOrFolder(zip_t *archive, zip_uint64_t index)
     return system != ZIP_OPSYS_UNIX || kind == 0 || kind == folder || kind == file;
 }
 
-//! Looks at every entry before the first is written.
+//! Checks every entry before the first one is written.
 bool isHarmless(zip_t *archive, const QString &zipPath, QString *error)
 {
     const zip_int64_t count = zip_get_num_entries(archive, 0);
-    const QString tooLarge = LocalizationHelper::coreString(u"The archive would grow beyond measure."_s);
+    const QString tooLarge = LocalizationHelper::coreString(u"The unpacked archive would be too large."_s);
     if (count > mostEntries)
         return fail(error, zipPath, tooLarge);
     QSet<QString> names;
@@ -262,14 +262,14 @@ bool isHarmless(zip_t *archive, const QString &zipPath, QString *error)
         if (!isSafeName(name) || !isPlainFileOrFolder(archive, index) || names.contains(name)) {
             return fail(
                 error, zipPath,
-                LocalizationHelper::coreString(u"The archive holds the unsafe entry \"%1\"."_s).arg(name));
+                LocalizationHelper::coreString(u"The archive contains the unsafe entry \"%1\"."_s).arg(name));
         }
         names.insert(name);
     }
     return true;
 }
 
-//! Makes the folder of the path below the root, refusing to pass through a link.
+//! Creates the folder below the root. Refuses to follow links.
 bool makeFolder(const QString &root, const QString &relative)
 {
     QString path = root;
@@ -317,7 +317,7 @@ bool extractAll(zip_t *archive, const QString &root, QString *error)
         const QString path = root + u'/' + name;
         const QString folder = name.first(name.lastIndexOf(u'/') + 1);
         if (!makeFolder(root, folder) || QFileInfo(path).isSymLink())
-            return fail(error, path, LocalizationHelper::coreString(u"The folder cannot be made."_s));
+            return fail(error, path, LocalizationHelper::coreString(u"The folder cannot be created."_s));
         if (!name.endsWith(u'/') && !extract(archive, i, path, error))
             return false;
     }
@@ -373,7 +373,7 @@ bool ZipHelper::unzip(const QString &zipPath, const QString &directory, QString 
     if (!archive || !isHarmless(archive.get(), zipPath, error))
         return false;
     if (!QDir().mkpath(directory))
-        return fail(error, directory, LocalizationHelper::coreString(u"The folder cannot be made."_s));
+        return fail(error, directory, LocalizationHelper::coreString(u"The folder cannot be created."_s));
     return extractAll(archive.get(), QDir(directory).absolutePath(), error);
 }
 

@@ -9,31 +9,31 @@
 
 namespace Halvane::Corvex::Common {
 
-//! Zip archives. Equal input gives equal bytes: entries carry one fixed time and one fixed mode. An archive
-//! is written beside its place and moved there when it is complete.
+//! Zip archives. Equal input gives equal bytes: all entries have the same time and the same mode. An archive
+//! is written to a temporary file and renamed when it is complete.
 class CORVEX_ZIP_EXPORT ZipHelper
 {
 public:
-    //! Packs the files, each under its file name. The comment is the archive's. The level is 0 (stored) to 9;
-    //! more is taken as 9. False when there is no file, one is missing or two have one
-    //! name.
+    //! Packs the files, each under its file name. The comment belongs to the archive. The level is 0 (stored)
+    //! to 9; higher levels count as 9. Returns false if there are no files, one is missing or two have the
+    //! same name.
     static bool zipWithFiles(const QStringList &files, const QString &zipPath, const QString &comment,
                              int level, QString *error = nullptr);
 
-    //! Packs bytes as a file of that name, alone in its archive. The level is 1 to 9, as above.
+    //! Packs bytes as the only file of an archive. The level is 1 to 9, as above.
     static bool zipWithBytes(const QByteArray &bytes, const QString &name, const QString &zipPath,
                              const QString &comment, int level, QString *error = nullptr);
 
-    //! Packs all files below the folder under their paths relative to it, in the order of these. Links are
-    //! left out.
+    //! Packs all files below the folder, by their relative paths and in the order of these. Links are
+    //! skipped.
     static bool zipDirectory(const QString &directory, const QString &zipPath, QString *error = nullptr);
 
-    //! Unpacks into the folder, which is made when it is missing. Refuses, before it writes anything, an
-    //! archive with a name that is absolute or leads out of the folder, with links, with two entries of one
-    //! name, or that would grow beyond measure.
+    //! Unpacks into the folder, which is created if necessary. Before anything is written, refuses an archive
+    //! with absolute names, names that lead out of the folder, links or duplicate names, and one whose
+    //! contents would be too large.
     static bool unzip(const QString &zipPath, const QString &directory, QString *error = nullptr);
 
-    //! The names of the entries in the order of the archive; empty when it cannot be read.
+    //! The names of the entries in archive order; empty if the archive cannot be read.
     static QStringList entryNames(const QString &zipPath, QString *error = nullptr);
 };
 

@@ -126,7 +126,7 @@ QString ProjectAutosave::stage()
     m_staging = std::make_unique<Common::TemporaryFolder>(Common::FileHelper::getStandardTemporatyLocation(),
                                                           u"CorvexNova-autosave"_s);
     if (!m_staging->isValid()) {
-        return Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be made: %2"_s)
+        return Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be created: %2"_s)
             .arg(m_staging->path(), m_staging->errorString());
     }
     QString error;

@@ -234,7 +234,7 @@ bool Project::createFileCopy(const QString &parentPath, const QString &name)
     const Common::TemporaryFolder workshop(parentPath, u".corvex-copy"_s);
     const QString draft = workshop.filePath(copyName);
     if (!workshop.isValid() || !QDir().mkdir(draft)) {
-        return finish(Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be made: %2"_s)
+        return finish(Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be created: %2"_s)
                           .arg(folder, workshop.errorString()));
     }
     QString error;
@@ -242,7 +242,7 @@ bool Project::createFileCopy(const QString &parentPath, const QString &name)
                                 : writeRenamed(draft, copyName, &error)) {
         if (!Common::FileSync::syncAll(draft) || !Common::FileSync::move(draft, folder)
             || !Common::FileSync::sync(parentPath)) {
-            error = Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be made: %2"_s)
+            error = Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be created: %2"_s)
                         .arg(folder, Common::FileSync::reason());
         }
     }

@@ -22,7 +22,7 @@ namespace {
 const QString privateFolder = u".corvex-edit"_s;
 const QString journalName = u"journal"_s;
 
-//! Whether it is the name of an entry of a folder, and no path.
+//! Whether it is a plain file name, not a path.
 bool isSingleName(const QString &name)
 {
     return !name.isEmpty() && name != "."_L1 && name != ".."_L1 && !name.contains(u'/');
@@ -68,7 +68,7 @@ void FileJournal::read()
         return;
     }
     QList<QByteArray> lines = bytes.split('\n');
-    lines.removeLast(); // cut off, or empty
+    lines.removeLast(); // incomplete or empty
     for (const QByteArray &line : std::as_const(lines)) {
         if (const QJsonObject entry = QJsonDocument::fromJson(line).object(); staysInside(entry)) {
             take(entry);
@@ -90,7 +90,7 @@ bool FileJournal::staysInside(const QJsonObject &line) const
         }
     }
     const QStringList removed = line["removed"_L1].toObject().keys();
-    // The committed file is written through a link.
+    // If it is a link, its target is the committed file.
     const QFileInfo committed(pathOf(line["file"_L1].toString()));
     const bool leadsOn = line.contains("removed"_L1) && committed.isSymLink();
     return std::ranges::all_of(removed, [this](const QString &name) { return isInside(name); })
@@ -98,7 +98,7 @@ bool FileJournal::staysInside(const QJsonObject &line) const
                || committed.canonicalFilePath().startsWith(QFileInfo(m_folder).canonicalFilePath() + u'/'));
 }
 
-//! Whether a path relative to the folder names something in it, also when folders on the way are links.
+//! Whether a path relative to the folder stays inside the folder, even if folders on the way are links.
 bool FileJournal::isInside(const QString &name) const
 {
     if (name.isEmpty() || QDir::cleanPath(name) != name || !QDir::isRelativePath(name)
@@ -172,7 +172,7 @@ bool FileJournal::addCommit(const QString &file, const QVariantMap &removed)
 
 bool FileJournal::remove() const
 {
-    // Without the journal the rest means nothing any more.
+    // Remove the journal first; without it the other files are meaningless.
     QFile::remove(privatePath(journalName));
     return FileSync::sync(privatePath()) && FileHelper::removeDirectory(privatePath())
            && FileSync::sync(m_folder);

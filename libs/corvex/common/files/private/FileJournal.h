@@ -10,17 +10,18 @@
 
 namespace Halvane::Corvex::Common {
 
-/*! What a transaction writes down before it touches a file, in the hidden folder that it has in the folder of
-    the files: one JSON object a line, on the disk before the next step is taken. Beside it are "old-N", a
-   hard link to a file before its change, "N", a file that is out of sight, "draft", the new file of the
-   project, and "again", as long as a recovery works. */
+/*! The journal of a transaction, written before a file is touched. It is in the transaction's hidden folder,
+    as one JSON object per line, flushed to the disk before each next step. Beside it are "old-N", a hard link
+    to a file before its change, "N", a file that was set aside, "draft", the new project file, and, during a
+    recovery, "again".
+*/
 class FileJournal
 {
 public:
-    //! Of the files in \a folder.
+    //! The journal of the files in \a folder.
     explicit FileJournal(const QString &folder);
 
-    //! Where the transaction keeps what it needs.
+    //! The path of the hidden folder, or of a file in it.
     QString privatePath(const QString &name = {}) const;
     QString pathOf(const QString &name) const { return m_folder + QLatin1Char('/') + name; }
     const QString &folder() const { return m_folder; }
@@ -29,28 +30,29 @@ public:
     //! What identifies the contents of a file. For a link it is the stored target, because a relative link
     //! leads elsewhere while the file is out of sight. Empty without a file.
     static QString digestOf(const QString &path);
-    //! Whether there is one, of a transaction that goes on or was interrupted.
+    //! Whether the folder has the journal of a running or interrupted transaction.
     static bool isThere(const QString &folder);
-    //! Begins a new one, whose transaction is not committed.
+    //! Starts a new journal, which is not committed.
     bool begin();
-    /*! Reads what is there. What was cut off at the end never came about. Lines that lead out of the folder
-       are not of this program, which writes none: a journal may have come with somebody else's project. */
+    //! Reads the journal. An incomplete last line is ignored, as its step did not happen. Lines that lead out
+    //! of the folder are ignored: this program writes none, and the journal may come with a project from
+    //! somebody else.
     void read();
-    //! Removes it with all that the transaction has kept.
+    //! Removes the journal and all kept files.
     bool remove() const;
 
-    //! A file that is about to be changed: a copy of it, or nothing, when it is not there.
+    //! Records that a file is about to change: its copy, or nothing if the file does not exist.
     bool addOld(const QString &name, const QString &copy);
-    //! Contents that the file is about to have.
+    //! Records the digest of the contents that a file is about to get.
     bool addNew(const QString &name, const QString &digest);
-    //! A folder that is about to be made.
+    //! Records that a folder is about to be created.
     bool addFolder(const QString &name);
-    //! The folder itself is about to get this name.
+    //! Records that the folder itself is about to be renamed.
     bool addRenaming(const QString &name);
-    //! From now on the transaction is to be finished, no more to be taken back.
+    //! Records that from now on a recovery completes the transaction and no longer undoes it.
     bool addCommit(const QString &file, const QVariantMap &removed);
 
-    //! The name of the folder itself when the transaction began, and those that it was to get since.
+    //! The name of the folder when the transaction began, and the names it was to get since.
     const QString &folderName() const { return m_folderName; }
     const QStringList &newFolderNames() const { return m_newFolderNames; }
     const QHash<QString, QString> &oldFiles() const { return m_oldFiles; }
@@ -58,7 +60,7 @@ public:
     const QStringList &madeFolders() const { return m_madeFolders; }
     bool isCommitted() const { return !m_file.isEmpty(); }
     const QString &committedFile() const { return m_file; }
-    //! The digests of the files that go with the commit, by their names.
+    //! The files to remove on commit: digests by name.
     const QVariantMap &removedFiles() const { return m_removed; }
 
 private:
@@ -70,8 +72,8 @@ private:
     QString m_folder;
     QString m_folderName;
     QStringList m_newFolderNames;
-    QHash<QString, QString> m_oldFiles;     //!< the copy of each, by its name
-    QHash<QString, QStringList> m_newFiles; //!< digests of all that it was to have, by its name
+    QHash<QString, QString> m_oldFiles;     //!< the copy of each file, by the file's name
+    QHash<QString, QStringList> m_newFiles; //!< all digests that each file was to get, by the file's name
     QStringList m_madeFolders;
     QString m_file;
     QVariantMap m_removed;

@@ -35,7 +35,7 @@ QString freePath(const QString &path)
 
 } // namespace
 
-//! Whether the file holds what the transaction put there, and not what somebody else did since.
+//! Whether the file has the contents that the transaction wrote; another program may have changed it since.
 bool FileRecovery::isOurs(const QString &name) const
 {
     return m_journal.newFiles().value(name).contains(FileJournal::digestOf(m_journal.pathOf(name)));
@@ -46,7 +46,7 @@ bool FileRecovery::bringDraft() const
     const QString draft = m_journal.privatePath(u"draft"_s);
     // A link would become the project's file, wherever it leads.
     if (!QFileInfo(draft).isFile() || QFileInfo(draft).isSymLink()) {
-        return true; // it is there already
+        return true; // already in place
     }
     const QString path = m_journal.pathOf(m_journal.committedFile());
     if (QFileInfo(path).isSymLink()) {
@@ -78,7 +78,7 @@ bool FileRecovery::takeBack()
     const QHash<QString, QString> &old = m_journal.oldFiles();
     QSet<QString> folders;
     for (auto file = old.cbegin(); file != old.cend(); ++file) {
-        // On a disk that does not tell cases apart this may be another name of a file that is restored below.
+        // On a case-insensitive disk this may be another name of a file that is restored below.
         if (file.value().isEmpty() && isOurs(file.key()) && !QFile::remove(m_journal.pathOf(file.key()))) {
             return false;
         }
@@ -95,7 +95,7 @@ bool FileRecovery::takeBack()
         }
     }
     for (const QString &folder : m_journal.madeFolders()) {
-        QDir().rmdir(m_journal.pathOf(folder)); // fails, as it should, when somebody else uses it by now
+        QDir().rmdir(m_journal.pathOf(folder)); // fails if somebody uses the folder by now, which is fine
     }
     return renameBack() && m_journal.remove();
 }
@@ -105,7 +105,7 @@ bool FileRecovery::restore(const QString &name, const QString &copy) const
     const QString path = m_journal.pathOf(name);
     const QString kept = m_journal.privatePath(copy);
     if (!isThere(kept)) {
-        return true; // the copy goes with the journal alone
+        return true; // removing the journal removes the copy
     }
     const bool isForeign =
         isThere(path) && !isOurs(name) && FileJournal::digestOf(path) != FileJournal::digestOf(kept);
@@ -117,13 +117,13 @@ bool FileRecovery::restore(const QString &name, const QString &copy) const
     return FileSync::link(kept, again) && FileSync::replace(again, path);
 }
 
-//! False also when the old name has been taken meanwhile.
+//! Also returns false if another folder has the old name by now.
 bool FileRecovery::renameBack()
 {
     const QFileInfo folder(m_journal.folder());
     const QString before = folder.dir().filePath(m_journal.folderName());
     if (before == folder.filePath() || !m_journal.newFolderNames().contains(folder.fileName())) {
-        return true; // it has its old name, or one that a user gave it
+        return true; // the folder has its old name, or one that the user chose
     }
     if (!FileSync::move(folder.filePath(), before)) {
         return false;

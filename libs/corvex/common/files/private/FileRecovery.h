@@ -8,8 +8,8 @@ namespace Halvane::Corvex::Common {
 
 class FileJournal;
 
-/*! Ends a transaction by its journal, in one direction or the other. Each step may be repeated: when the end
-   is interrupted in its turn, the next one begins again. */
+//! Completes or undoes a transaction by its journal. Every step can be repeated: if a recovery is
+//! interrupted, the next one starts over.
 class FileRecovery
 {
 public:
@@ -17,7 +17,7 @@ public:
         : m_journal(journal)
     { }
 
-    //! False with errno; the journal is still there then.
+    //! Returns false with errno on failure; the journal remains.
     bool finish();
     bool takeBack();
 

@@ -12,14 +12,14 @@ namespace Halvane::Corvex::Common {
 
 namespace {
 
-// Worth a thread. The same on every machine, since other pieces would be other bytes.
+// Large enough to be worth a thread. A constant, because other pieces would give other bytes.
 constexpr qsizetype pieceSize = qsizetype(2) * 1024 * 1024;
-constexpr qsizetype windowSize = 32 * 1024; // as far back as the format can refer to
-constexpr qsizetype markSize = 16;          // room for what ends a piece
-constexpr int memoryLevel = 8;              // zlib's own choice
+constexpr qsizetype windowSize = 32 * 1024; // how far back the format can refer
+constexpr qsizetype markSize = 16;          // room for the end marker of a piece
+constexpr int memoryLevel = 8;              // the default of zlib
 
-/*! How hard the highest level looks for matches in a piece of many: at 128 places for each in place of 4,096.
-    That takes 30 % of the time and, of a large project, 13 % more bytes. */
+//! How thoroughly the highest level searches for matches when there are several pieces: 128 candidates
+//! instead of 4,096. For a large project that takes 30 % of the time and 13 % more bytes.
 struct Search
 {
     int good = 8;
@@ -35,11 +35,11 @@ const Bytef *bytesOf(QByteArrayView view)
 
 struct Piece
 {
-    QByteArrayView before; //!< the end of the piece before it, to which it may refer
+    QByteArrayView before; //!< the end of the previous piece, to which this one may refer
     QByteArrayView bytes;
     bool isLast = false;
     bool isOnly = false;
-    QByteArray deflated = {}; //!< ends with a whole byte; empty when there was no memory
+    QByteArray deflated = {}; //!< ends on a byte boundary; empty if memory ran out
     uLong crc = 0;
 };
 

@@ -5,17 +5,17 @@
 
 namespace Halvane::Corvex::Common {
 
-/*! Bytes in their deflated form, with what an archive tells about them. All processors work at it; what comes
-    out is the same for any number of them. */
+//! Deflates bytes, and provides their size and checksum for an archive. Uses all processors; the result does
+//! not depend on their number.
 class DeflatedBytes
 {
 public:
     //! The level is 1 to 9, as for zlib.
     DeflatedBytes(const QByteArray &bytes, int level);
 
-    //! A raw deflate stream; empty when there was no memory for it.
+    //! A raw deflate stream; empty if memory ran out.
     const QByteArray &deflated() const { return m_deflated; }
-    //! Before deflating.
+    //! The size before compression.
     quint64 size() const { return m_size; }
     quint32 crc() const { return m_crc; }
 
