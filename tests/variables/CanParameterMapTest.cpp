@@ -93,7 +93,7 @@ TEST(CanParameterMap, ReportsValuesOutOfRange)
         {Byte, integer(9), "Entry 1: The byte must be a whole number from 1 to 8."},
         {Byte, integer(8), "Entry 1: The bits reach beyond the eight bytes of the message."},
         {Byte, integer(7), ""},
-        {Byte, integer(1), "Entry 2: The bits are those of another entry, too."},
+        {Byte, integer(1), "Entry 2: The bits overlap those of another entry."},
         {Bit, integer(9), "Entry 1: The bit must be a whole number from 1 to 8."},
         {Length, integer(65), "Entry 1: The length must be a whole number from 1 to 64."},
         {Length, integer(40), ""},

@@ -39,9 +39,9 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-/*! The classes of the library. Those without names are not offered to users; the abstract ones have names,
-   and plug-ins bring the classes that derive from them. Names that look misspelt ("functionElememnt",
-    "autoSaveVariable") are the stems of identifiers in saved projects. */
+//! The classes of the library. Classes without a base name are not offered to users. Abstract classes have
+//! names; plug-ins provide the classes that derive from them. Names that look misspelt ("functionElememnt",
+//! "autoSaveVariable") are the stems of identifiers in saved projects.
 constexpr ClassRow classes[] = {
     {"AutoSettingVariable", &makeObject<AutoSettingVariable>, "autoSaveVariable", "Autosave Save Variable"},
     {"BACnetDevice", &makeObject<BACnetDevice>, "bacNetDevice", "BACnet Device"},

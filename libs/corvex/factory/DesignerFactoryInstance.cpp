@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the process-wide factory comes to be, on the one floor that knows all classes of the library.
+// Creates the process-wide factory, on the only layer that knows all classes of the library.
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/factory/CoreFactory.h"
 
@@ -14,7 +14,7 @@ namespace Halvane::Corvex::Designer {
 bool DesignerFactory::createInstance(const QString &path)
 {
     if (!QCoreApplication::instance() || !QFileInfo::exists(path)) {
-        qWarning("Failed to make the factory: there is no application object, or no \"%s\".",
+        qWarning("Failed to create the factory: there is no application object, or no \"%s\".",
                  qUtf8Printable(path));
         return false;
     }

@@ -13,10 +13,9 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! What each channel of a device is used for, as text "INPUT, OUTPUT, UNUSED": one word of
-    EnumHelper::InputOutputType per channel. Channels are numbered from 1; an empty text has none. Words that
-    are none of these are kept, for the validators to tell.
-*/
+//! What each channel of a device is used for, as text "INPUT, OUTPUT, UNUSED": one word of
+//! EnumHelper::InputOutputType per channel. Channels are numbered from 1; an empty text has none. Unknown
+//! words are kept, so that the validators can report them.
 class CORVEX_EXPORT ChannelList
 {
 public:
@@ -24,10 +23,10 @@ public:
     using ChannelMap = QMap<int, Type>;
 
     ChannelList() = default;
-    //! Blanks mean nothing, wherever they stand.
+    //! All blanks are ignored.
     explicit ChannelList(QStringView text);
-    //! Numbers that are left out between others are free channels. No device has a channel below 1 or above
-    //! highestChannel; such numbers are passed over.
+    //! Missing numbers become free channels. Numbers below 1 or above highestChannel are ignored; no device
+    //! has such channels.
     explicit ChannelList(const ChannelMap &channels);
 
     static constexpr int highestChannel = 1024;
@@ -35,18 +34,18 @@ public:
     qsizetype count() const { return m_words.size(); }
     const QStringList &words() const & { return m_words; }
     QStringList words() && { return std::move(m_words); }
-    //! Whether there is such a channel and it is not free.
+    //! Whether the channel exists and is not free.
     bool isUsed(qsizetype channel) const;
     bool isAnyUsed() const;
     bool contains(Type type) const;
-    //! The first word that is none of these.
+    //! The first word that is not one of \a types.
     std::optional<QString> firstOther(std::initializer_list<Type> types) const;
 
-    //! Frees one channel, or all channels of some types.
+    //! Frees one channel, or all channels of the given types.
     void release(qsizetype channel);
     void release(std::initializer_list<Type> types);
 
-    //! A word that is not known counts as a free channel.
+    //! Unknown words count as free channels.
     ChannelMap toMap() const;
     QString toString() const;
 

@@ -74,7 +74,7 @@ bool password(const DesignerProperty *property, QString &error)
                                         configuration && isOn((configuration->*enabled)()), error);
 }
 
-//! A property of one kind that keeps what is wrong, marked.
+//! A row for a property that keeps an invalid value and marks it.
 template<class Property, class Value>
 PropertyRow device(int rank, const char *id, const char *title, const Value &initialValue,
                    int flags = deviceFlags)
@@ -218,7 +218,7 @@ void Configuration::finishReading()
 {
     FileObject::finishReading();
     m_isLoaded = true;
-    // Lists that the file leaves empty have not been changed and have nothing to show either.
+    // Lists that are empty in the file were not changed, so nothing has updated their visibility yet.
     updateVisibility(nullptr);
     localize();
 }
@@ -228,7 +228,8 @@ void Configuration::afterFileFieldsChanged()
     localize();
 }
 
-//! Shows description and address in the user's language, where the folder of the model has them.
+//! Translates description and address into the user's language, if the folder of the model contains texts for
+//! it.
 void Configuration::localize()
 {
     using Common::LocalizationHelper;

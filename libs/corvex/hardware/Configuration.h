@@ -14,10 +14,10 @@ class ConfigurationInfo;
 namespace Halvane::Corvex::Designer {
 
 /*! One model of display panel: its screen, its channels and ports, its passwords, and the other models that
-   can run what was made for it. The name of the object is the name of the model.
+    can run its projects. The name of the object is the name of the model.
 
-    The installed configurations are read-only patterns. A project holds a copy of that of its model, in which
-    the user sets up what each channel is used for.
+    The installed configurations are read-only. A project has a copy of the configuration of its model, in
+    which the user assigns the channels.
 */
 class CORVEX_EXPORT Configuration : public FileObject
 {
@@ -27,7 +27,7 @@ class CORVEX_EXPORT Configuration : public FileObject
 public:
     QString baseName() const override;
     QString displayName() const override;
-    //! "config.xml", in a folder of the model's name.
+    //! "config.xml", in a folder with the model's name.
     QString createFileName() const override;
     QString createSubPath() const override;
 
@@ -53,26 +53,26 @@ public:
     SharedProperty description() const { return at(Description); }
     SharedProperty url() const { return at(Url); }
 
-    //! How many Ethernet ports an installed model has, from "Ports.strings" in its folder; nothing when that
-    //! does not say. The configuration of a project does not know.
+    //! The number of Ethernet ports of an installed model, from "Ports.strings" in its folder; nothing if
+    //! that file has no number. The configuration of a project does not know the number.
     std::optional<int> ethernetPorts() const;
 
-    //! The model itself, then the models that its projects run on.
+    //! The model itself, followed by the models that can run its projects.
     QStringList allCompatibleModels() const;
 
     Common::ConfigurationInfo toConfigurationInfo() const;
-    //! Does nothing for a record that is not valid.
+    //! Ignores an invalid record.
     void setConfigurationInfo(const Common::ConfigurationInfo &info);
 
-    /*! Takes over what is fixed by the hardware of \a model. Channels that the user sets up (digital, PWM,
-       RS485) keep their use as long as the model has as many of them. */
+    //! Copies everything that the hardware of \a model determines. Channels that the user assigns (digital,
+    //! PWM, RS485) keep their use if the model has as many of them.
     void updateFrom(const Configuration &model);
 
     //! Whether the RS485 lines of this model are pins of PWM channels 1 to 3 and of digital channel 8.
     bool sharesRS485Pins() const;
 
-    /*! What this object will write into other properties when \a property is changed to \a value. An edit
-       that is to be taken back needs to know. */
+    //! The other properties, with their new values, that this object will change when \a property changes to
+    //! \a value. An edit needs them for its undo.
     QList<std::pair<SharedProperty, QString>> followingChanges(const DesignerProperty &property,
                                                                const QString &value) const;
 
@@ -88,7 +88,7 @@ protected:
     void afterFileFieldsChanged() override;
 
 private:
-    //! The places of the properties among all of the object's.
+    //! The positions of the properties in the object's list.
     enum Place {
         Name,
         DisplayBrightness,
@@ -128,7 +128,7 @@ private:
     void write(Place place, const QString &value) { changePropertyValue(at(place), value); }
 
     bool isShown(const Visibility &visibility) const;
-    //! Of what \a changed decides about; of everything when it is null.
+    //! Updates what depends on \a changed, or everything if it is null.
     void updateVisibility(const DesignerProperty *changed);
     void revalidateAfter(const DesignerProperty &changed);
     void localize();

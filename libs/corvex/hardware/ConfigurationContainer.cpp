@@ -16,7 +16,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Descriptions of a model are a few kilobytes; anything of this size is something else.
+//! The size limit of a configuration file; real ones have a few kilobytes.
 constexpr qint64 mostBytes = qint64(1) << 20;
 
 } // namespace
@@ -62,7 +62,7 @@ bool ConfigurationContainer::loadDirectory(const QString &path)
             files.append(file);
         }
     }
-    // The system lists files in any order; of two with one name the same one must win everywhere.
+    // The system lists files in any order. Sort them, so that with duplicate names the same file always wins.
     files.sort();
     for (const QString &file : std::as_const(files)) {
         loadFile(file);
@@ -74,20 +74,20 @@ void ConfigurationContainer::loadFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.isFile() || info.size() > mostBytes) {
-        qWarning("%s is no configuration and is skipped.", qUtf8Printable(path));
+        qWarning("%s is not a configuration and is skipped.", qUtf8Printable(path));
         return;
     }
     std::unique_ptr<DesignerObject> object(createFromFile(path));
     if (!object || !object->isKindOfClass(u"Configuration"_s)) {
-        qWarning("%s is no configuration and is skipped.", qUtf8Printable(path));
+        qWarning("%s is not a configuration and is skipped.", qUtf8Printable(path));
         return;
     }
     const QFileInfo folder(info.absolutePath());
     static_cast<Configuration &>(*object).setFileFields(folder.path(), folder.fileName(), info.fileName());
     DesignerObject *configuration = object.release();
     if (!addListPropertyItem(m_configurations, configuration)) {
-        qWarning("%s describes the model \"%s\", which is there already, and is skipped.",
-                 qUtf8Printable(path), qUtf8Printable(configuration->getIdName()));
+        qWarning("%s describes the model \"%s\", which exists already, and is skipped.", qUtf8Printable(path),
+                 qUtf8Printable(configuration->getIdName()));
         delete configuration;
     }
 }

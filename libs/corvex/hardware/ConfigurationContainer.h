@@ -8,7 +8,7 @@ namespace Halvane::Corvex::Designer {
 
 class Configuration;
 
-//! The folder "Configurations" and the device models in it.
+//! The device models in the folder "Configurations".
 class CORVEX_EXPORT ConfigurationContainer : public DirectoryObject
 {
     Q_OBJECT
@@ -17,19 +17,19 @@ class CORVEX_EXPORT ConfigurationContainer : public DirectoryObject
 public:
     //! "Configurations".
     QString createDirectoryName() const override;
-    /*! Reads every configuration file below the folder, which must exist. What is no configuration, and a
-       model that is there already, is passed over with a warning. Links to folders are not followed. */
+    //! Reads all configuration files below the folder, which must exist. Skips other files and duplicate
+    //! models with a warning. Does not follow links to folders.
     bool loadDirectory(const QString &path) override;
-    //! Absolute; empty before a folder was made or loaded.
+    //! Absolute; empty before a folder was created or loaded.
     QString configurationsPath() const { return fullPath(); }
 
-    //! In the natural order of their names.
+    //! In natural order of their names.
     QList<Configuration *> configurations() const;
-    //! Null when there is no such model.
+    //! Null if there is no such model.
     Configuration *configuration(const QString &model) const;
-    /*! The model for a project that was made for \a wanted: that model itself, else the first that \a wanted
-       lists as compatible, else one that lists \a wanted. Null, with a text for the user in \a error, when
-       there is none. */
+    //! The model to use for a project made for \a wanted: that model itself, or the first model that \a
+    //! wanted lists as compatible, or a model that lists \a wanted. Null, with a text for the user in \a
+    //! error, if there is none.
     Configuration *match(const Configuration *wanted, QString *error = nullptr) const;
 
 protected:

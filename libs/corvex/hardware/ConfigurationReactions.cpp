@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What an edit of a device configuration brings with it: other values, what the property panel shows, and
-// what has to be validated again.
+// The consequences of an edit of a device configuration: changes of other values, visibility in the property
+// panel, and new validation.
 #include "corvex/hardware/ChannelList.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationRules.h"
@@ -16,8 +16,8 @@ using Common::EnumHelper;
 
 namespace {
 
-//! The lines of RS485 when it is switched on. The direction line is for the user to choose: until then the
-//! list is marked as incomplete.
+//! The lines of RS485 right after it is switched on. The user must choose the direction line; until then the
+//! list is incomplete.
 constexpr auto firstRS485Lines = "RECEIVE, SEND, UNUSED, UNUSED"_L1;
 constexpr auto freeRS485Lines = "UNUSED, UNUSED, UNUSED, UNUSED"_L1;
 constexpr auto firstSPIPins = "UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, CSPIN"_L1;
@@ -54,7 +54,7 @@ QString withoutChipSelect(const ChannelList &current)
 
 } // namespace
 
-//! What turning a switch writes into a channel list.
+//! What a switch writes into a channel list when it changes.
 struct Configuration::Reaction
 {
     Place onSwitch;
@@ -66,7 +66,7 @@ struct Configuration::Reaction
 
 const QList<Configuration::Reaction> &Configuration::reactions()
 {
-    // Pins are given free before others take them.
+    // Free pins before other channels take them.
     static const QList<Reaction> table{
         {EnableRS485, true, PwmOutputs, withoutPwmLines, true},
         {EnableRS485, true, DigitalInputOutputs, withoutDigitalLine, true},
@@ -81,11 +81,11 @@ const QList<Configuration::Reaction> &Configuration::reactions()
     return table;
 }
 
-//! When the panel shows a property: while its switch is on, or while it has something to show.
+//! When the panel shows a property: while its switch is on, or while it is not empty.
 struct Configuration::Visibility
 {
     Place property;
-    Place onSwitch; //!< Name for none
+    Place onSwitch; //!< Name if there is none
     bool hasEntries;
 };
 
@@ -106,7 +106,7 @@ const QList<Configuration::Visibility> &Configuration::visibilities()
     return table;
 }
 
-//! The properties whose rules look at another one.
+//! Properties whose rules depend on another property.
 struct Configuration::Revalidation
 {
     Place changed;
@@ -153,7 +153,7 @@ QList<std::pair<SharedProperty, QString>> Configuration::followingChanges(const 
 void Configuration::afterPropertyChanged(const DesignerProperty *property, const QString &previousValue)
 {
     FileObject::afterPropertyChanged(property, previousValue);
-    // A file that is being read says itself what is in each list.
+    // While a file is read, its own lists count.
     if (!disabledValidation()) {
         for (const auto &[target, value] : followingChanges(*property, property->valueString())) {
             changePropertyValue(target, value);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A device configuration as the record that the other tools take, and as the pattern of another.
+// Converts a device configuration to the record that other tools use, and copies it from another
+// configuration.
 #include "corvex/common/ConfigurationInfo.h"
 #include "corvex/hardware/ChannelList.h"
 #include "corvex/hardware/Configuration.h"
@@ -25,7 +26,7 @@ QString shortest(float number)
     return error == std::errc() ? QString::fromLatin1(text.data(), end - text.data()) : u"0"_s;
 }
 
-//! In hertz; what is no number is 0.
+//! In hertz; a text that is not a number gives 0.
 QMap<int, float> toFrequencies(const QString &text)
 {
     QMap<int, float> frequencies;
@@ -59,7 +60,7 @@ QSize toPixels(const QString &text)
 
 } // namespace
 
-//! A property that is a list of channels in the record.
+//! A property that corresponds to a channel list of the record.
 struct Configuration::ChannelField
 {
     Place place;
@@ -107,7 +108,7 @@ void Configuration::setConfigurationInfo(const ConfigurationInfo &info)
     if (!info.isValid()) {
         return;
     }
-    // The switches first: what they write is then replaced by what the record says.
+    // Write the switches first, because they change lists that the record then overwrites.
     write(EnableRS485, ValueConversion::toString(info.isRS485Enabled()));
     write(EnableSPIChipSelect, ValueConversion::toString(info.isSPIEnabled()));
     write(EnablePassword, ValueConversion::toString(info.isPasswordEnabled()));

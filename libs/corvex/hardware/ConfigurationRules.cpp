@@ -20,7 +20,7 @@ bool refuse(QString &error, const QString &english)
     return false;
 }
 
-//! A message about one word or value, which is its %1.
+//! Reports a problem with one word or value, which replaces %1.
 bool refuse(QString &error, const QString &english, const QString &text)
 {
     error = Common::LocalizationHelper::coreString(english).arg(text);
@@ -35,7 +35,7 @@ bool holdsOnly(const ChannelList &list, std::initializer_list<ChannelList::Type>
     return !word || refuse(error, english, *word);
 }
 
-//! The texts differ in more than the number: each is known to translations as it stands.
+//! The texts differ in more than the number, and translations refer to each of them exactly.
 QString pwmConflict(int channel)
 {
     switch (channel) {

@@ -10,11 +10,12 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerProperty;
 
-//! How the lines of the RS485 ports are in use, for the rules about the channels that share pins with them.
+//! The use of the RS485 lines, for the rules about channels with shared pins.
 struct CORVEX_EXPORT RS485Lines
 {
     bool isOn = false;
-    //! On some models lines 1 to 3 are the pins of PWM channels 1 to 3, and line 4 that of digital channel 8.
+    //! On some models lines 1 to 3 share the pins of PWM channels 1 to 3, and line 4 that of digital channel
+    //! 8.
     bool sharesPins = false;
     ChannelList lines;
 
@@ -22,16 +23,16 @@ struct CORVEX_EXPORT RS485Lines
     static constexpr int digitalLine = 4;
     static constexpr int digitalChannel = 8;
 
-    //! Whether the line holds the pin that it shares.
+    //! Whether the line occupies its shared pin.
     bool holds(int line) const { return isOn && sharesPins && lines.isUsed(line); }
 };
 
-/*! What the texts of a device configuration must be. Each rule tells in \a error why it refuses a text, and
-    empties it otherwise. The rules take any text, those too that a property of its kind could not hold. */
+//! The rules for the texts of a device configuration. Each rule sets \a error to the reason for a refusal,
+//! and clears it otherwise. The rules accept any text, even one that the property could not store.
 class CORVEX_EXPORT ConfigurationRules
 {
 public:
-    //! A whole number of per cent from 0 to 100.
+    //! A whole number from 0 to 100, in per cent.
     static bool displayBrightness(const QString &text, QString &error);
     static bool screenSize(const QString &text, QString &error);
     static bool analogInputs(const QString &text, QString &error);
@@ -39,7 +40,7 @@ public:
     static bool serialCOMPorts(const QString &text, QString &error);
     static bool pwmOutputs(const QString &text, const RS485Lines &rs485, QString &error);
     static bool digitalInputOutputs(const QString &text, const RS485Lines &rs485, QString &error);
-    /*! The lines of \a rs485 beside the channels that share their pins. */
+    //! Checks the lines of \a rs485 against the channels that share their pins.
     static bool serialRS485Ports(const RS485Lines &rs485, const ChannelList &pwmOutputs,
                                  const ChannelList &digitalInputOutputs, QString &error);
     static bool password(const QString &text, bool isAskedFor, QString &error);

@@ -10,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Opens the constructor, which the factory uses elsewhere.
+//! Gives access to the constructor, which otherwise only the factory uses.
 struct Installed : public ConfigurationContainer
 { };
 

@@ -11,8 +11,8 @@ namespace Halvane::Corvex::Designer {
 
 class ConfigurationContainer;
 
-//! The device models that are installed beside the tool, read once. One per process, a child of the
-//! application object.
+//! The installed device models, read once. There is one instance per process, a child of the application
+//! object.
 class CORVEX_EXPORT HardwareConfigurations : public QObject
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ class CORVEX_EXPORT HardwareConfigurations : public QObject
 public:
     ~HardwareConfigurations() override;
 
-    /*! Reads the folder "Configurations" in \a path. False, and no instance, when there is none or no
-       application object. An earlier instance is replaced. The factory must be there. */
+    //! Reads the folder "Configurations" in \a path and replaces an earlier instance. Returns false, without
+    //! an instance, if there is no such folder or no application object. Requires the factory.
     static bool createInstance(const QString &path);
     //! Null before createInstance().
     static HardwareConfigurations *instance();

@@ -28,7 +28,7 @@ QString valueOf(const DesignerObject *object, QStringView property)
     return found ? found->valueString() : QString();
 }
 
-//! The QML id of the screen that the device shows first; empty without any screen.
+//! The QML id of the first screen on the device; empty if there are no screens.
 QString defaultScreen(const DesignerObject &project)
 {
     const QString chosen = ObjectLinkInfo(valueOf(&project, u"defaultScreen")).objectId();
@@ -59,10 +59,11 @@ bool RuntimeConfiguration::collect(const DesignerObject &project, QString *error
     return addPasswords(project, error);
 }
 
-//! As a map has them: of several with one key, which a project with problems may hold, the last.
+//! Sorts the variables as in a map. If several have the same key, which a project with problems may contain,
+//! keeps the last one.
 void RuntimeConfiguration::sortVariables()
 {
-    // As a rule the project has them in this order already.
+    // Usually the project has this order already.
     if (std::ranges::adjacent_find(m_variables, std::greater_equal(), &Variable::key) == m_variables.end()) {
         return;
     }
@@ -125,7 +126,7 @@ bool RuntimeConfiguration::addPasswords(const DesignerObject &project, QString *
             hash = Common::PasswordHash::of(valueOf(device, password), {project.getIdName(), name});
             if (hash.isEmpty()) {
                 *error = Common::LocalizationHelper::coreString(
-                    u"There is not enough memory for the protection of the passwords (64 MB)."_s);
+                    u"There is not enough memory to hash the passwords (64 MB)."_s);
                 return false;
             }
         }
@@ -149,7 +150,7 @@ void RuntimeConfiguration::writeVariables(MapWriter &writer) const
     }
 }
 
-//! The bytes that variantToFile() makes of configMap().
+//! Writes the same bytes as variantToFile() for configMap().
 bool RuntimeConfiguration::writeConfig(const QString &path, QString *error) const
 {
     constexpr qsizetype usualRecordSize = 160;
@@ -167,7 +168,7 @@ bool RuntimeConfiguration::writeConfig(const QString &path, QString *error) cons
     }
     if (!writer.isGood()) {
         *error = Common::LocalizationHelper::coreString(
-            u"A variable has a value of a type that the device does not know."_s);
+            u"A variable has a value of a type that the device does not support."_s);
         return false;
     }
     return Common::FileHelper::writeFile(path, bytes, error);

@@ -18,21 +18,21 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class ProjectVariable;
 
-/*! What the device reads beside the screens: the project with its variables, the CAN groups and the BACnet
-    devices, a file each, written with FileHelper::variantToFile() without compression.
+/*! The files that the device reads in addition to the screens: the project with its variables, the CAN groups
+    and the BACnet devices. Each is written with FileHelper::variantToFile(), without compression.
 
-    config.kdrc holds "defaultScreen" (the QML id), "version" (the project's build tag), four passwords
-   ("retreivePassword", "uploadPassword", "comControlPassword", "reintializePassword") and "variables".
-   Passwords are hashes (see PasswordHash), empty where none is asked for. A variable is a record under its
-   name: "persistent", "type" (EnumHelper::VariableType) and "value", which is invalid when the text of the
-   variable stands for none. An auto-setting variable stands under "OBJECT TYPE.NAME". Mappings, logs and what
-   is in the two other files are left out.
+    config.kdrc contains "defaultScreen" (the QML id), "version" (the project's build tag), four passwords
+    ("retreivePassword", "uploadPassword", "comControlPassword", "reintializePassword") and "variables".
+    Passwords are hashed (see PasswordHash), or empty if none is required. A variable is a record under its
+    name: "persistent", "type" (EnumHelper::VariableType) and "value", which is invalid if the text of the
+    variable is not a value. An auto-setting variable has the name "OBJECT TYPE.NAME". Mappings, logs and the
+    contents of the two other files are omitted.
 */
 class CORVEX_EXPORT RuntimeConfiguration
 {
 public:
-    //! Collects from \a project, an object with lists "screens" and "variables". False, with a text for the
-    //! user, when a password cannot be hashed.
+    //! Collects the data from \a project, an object with lists "screens" and "variables". Returns false, with
+    //! a text for the user, if a password cannot be hashed.
     bool collect(const DesignerObject &project, QString *error);
     //! Writes canConfig.kdrc, bacConfig.kdrc and config.kdrc, in this order, into \a folder.
     bool write(const QString &folder, QString *error) const;
@@ -59,7 +59,7 @@ private:
 
     CanConfiguration m_can;
     BACnetConfiguration m_bacnet;
-    // A project may have 20,000 variables: they become a map only for those who ask for one.
+    // A project may have 20,000 variables; they are converted to a map only on request.
     std::vector<Variable> m_variables;
     QVariantMap m_settings;
 };

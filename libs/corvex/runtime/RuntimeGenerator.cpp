@@ -34,12 +34,12 @@ namespace {
 
 using Common::LocalizationHelper;
 
-//! Asked of the packer, which takes it as its highest.
+//! The packer limits this to its highest level.
 constexpr int compressionLevel = 10;
 const QString packedName = u"Project.kdproj"_s;
 
-/*! By these other processes see which build folders are in use, whatever became of their generators: those of
-   the last builds, since each lock keeps a file open. */
+//! Locks the build folders of the last builds, so that other processes see that they are in use, whether or
+//! not their generators still exist. Limited to the last builds, because each lock keeps a file open.
 class BuildFolderLocks
 {
 public:
@@ -82,7 +82,7 @@ QByteArray withWindowsLineEnds(QByteArrayView text)
     return result;
 }
 
-//! Why there is no second file of that screen's name.
+//! The message for a second screen with the same file name.
 QString takenName(const QString &screen)
 {
     return LocalizationHelper::coreString(u"Two screens would be written to \"%1\"."_s)
@@ -168,7 +168,7 @@ bool RuntimeGenerator::makeBuildFolder()
         if (!Common::FileHelper::makeFolder(folder, &error)) {
             return fail(error);
         }
-        // Somebody may have taken it for an abandoned one in the moment before it is locked.
+        // Another process may have removed it as abandoned before it was locked.
     } while (!lock->take(folder, Common::FolderLock::Kind::Exclusive));
     if (!Common::FileHelper::makeFolder(folder + u"/project"_s, &error)) {
         Common::FileHelper::removeDirectory(folder);
@@ -187,8 +187,8 @@ bool RuntimeGenerator::writeProject(const DesignerObject *project)
         m_progress->begin(LocalizationHelper::coreString(u"Building %1"_s).arg(project->getIdName()),
                           packerSteps + (screens ? screens->listItemCount() : 0));
     }
-    // Packing takes as long as writing all screens does. The packer reads the values of the model, which
-    // nothing changes meanwhile. Without a second thread it works when it is asked for its result.
+    // Packing takes as long as writing all screens. The packer reads the model, which nothing changes
+    // meanwhile. If no second thread can be started, it runs when its result is requested.
     std::future<QString> packing = std::async(std::launch::async | std::launch::deferred,
                                               [this, project] { return packProject(*project); });
     const bool written = writeConfiguration(project) && writePreviews(project) && writeScreens(project);
@@ -254,9 +254,9 @@ bool RuntimeGenerator::writeScreens(const DesignerObject *project)
     QSet<QString> names;
     for (const DesignerObject *screen : screens) {
         const QString name = screen->getQmlIdName();
-        // The id stands for a name of letters, digits and "_", which leads nowhere else.
+        // The id is a name of letters, digits and "_", so the path cannot leave the folder.
         if (name.isEmpty()) {
-            return fail(LocalizationHelper::coreString(u"The screen's name \"%1\" is no name for a file."_s)
+            return fail(LocalizationHelper::coreString(u"The screen's name \"%1\" cannot be a file name."_s)
                             .arg(screen->getIdName()));
         }
         if (names.contains(name)) {
@@ -280,7 +280,7 @@ QString RuntimeGenerator::writeScreen(const DesignerObject &screen) const
 {
     const QByteArray bytes = withWindowsLineEnds(screen.toQml(0).toUtf8());
     QFile file(filePath(screen.getQmlIdName() + u".qml"_s));
-    // A file system may take names for one that differ in their case.
+    // A file system may ignore case in names.
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.exists()) {
         return takenName(screen.getQmlIdName());
     }
@@ -306,13 +306,14 @@ bool RuntimeGenerator::copyResources()
     for (const QString &name : std::as_const(names)) {
         const QString path = resources.absoluteFilePath(name);
         if (isCancelled()) {
-            return false; // generate() tells
+            return false; // generate() reports it
         }
-        // A build is handed on, and a project from elsewhere may have a link to any file of this machine.
+        // A build is passed on to others, and a project from elsewhere may contain links to any file of this
+        // machine.
         if (!QFileInfo(path).canonicalFilePath().startsWith(projectFolder)) {
             return fail(
                 LocalizationHelper::coreString(
-                    u"\"%1\" leads to a file outside of the project. Put the file itself in its place."_s)
+                    u"\"%1\" is a link to a file outside of the project. Replace it by the file itself."_s)
                     .arg(path));
         }
         QString error;

@@ -16,51 +16,51 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-/*! Makes the folder that goes to the device: one QML file per screen, the zipped project, the files of
-   RuntimeConfiguration and the resources, all in the sub-folder "project".
+/*! Generates the folder that goes to the device: one QML file per screen, the zipped project, the files of
+    RuntimeConfiguration and the resources, all in the sub-folder "project".
 
-    Each build gets a fresh folder of its own below the temporary location, which belongs to this process
-   until its end: builds of later processes remove it then. A build that fails leaves none.
+    Each build gets a new folder in the temporary location, which belongs to this process until it ends;
+    builds of later processes remove it then. A failed build leaves no folder.
 */
 class CORVEX_EXPORT RuntimeGenerator
 {
 public:
-    //! The folder whose files are copied beside the screens; none when empty.
+    //! The folder whose files are copied beside the screens. Empty: no files.
     void setResourceFolder(const QString &path) { m_resourceFolder = path; }
     const QString &resourceFolder() const { return m_resourceFolder; }
-    //! Those of them that are copied, of which some may be missing; all files of the folder unless this is
-    //! called.
+    //! The files to copy from that folder; some of them may be missing. By default all files are copied.
     void setResourceNames(const QStringList &names) { m_resourceNames = names; }
-    //! What the zipped project has as its version in place of its own; nothing when empty.
+    //! The version in the zipped project, instead of the project's own. Empty: the project's own.
     void setBuildTag(const QString &tag) { m_buildTag = tag; }
 
-    //! Follows a build and may cancel it, which counts as a failure; null for nobody. Not owned.
+    //! Reports the progress of a build and can cancel it, which counts as a failure. May be null. Not owned.
     void setProgress(Common::Progress *progress) { m_progress = progress; }
 
-    //! Builds \a project, an object with a list "screens". Ends with the first step that fails.
+    //! Builds \a project, an object with a list "screens". Stops at the first step that fails.
     bool generate(const DesignerObject *project);
 
-    //! The absolute path of what the last build made; empty before a build and after a failed one.
+    //! The absolute path of the last build; empty before a build and after a failed one.
     const QString &buildFolder() const { return m_buildFolder; }
     //! Why the last build failed.
     const QString &errorString() const { return m_error; }
-    //! Deletes what the last build made, for a caller that has taken the files from there.
+    //! Deletes the last build, after its files have been moved away.
     void removeBuildFolder();
-    //! The same for one that was made before.
+    //! Deletes an earlier build.
     static void removeBuild(const QString &buildFolder);
 
 private:
     bool makeBuildFolder();
     bool writeProject(const DesignerObject *project);
-    //! In a thread of its own: reads the model and this, and changes neither. The error, empty without one.
+    //! Runs in its own thread: reads the model and this object but changes neither. Returns the error, or an
+    //! empty text.
     QString packProject(const DesignerObject &project) const;
     QByteArray projectXml(const DesignerObject &project, QString *error) const;
     bool writeConfiguration(const DesignerObject *project);
     //! Writes which classes a preview shows in place of those of plug-ins; no file if no class says so.
     bool writePreviews(const DesignerObject *project);
-    //! All processors write, each one screen at a time.
+    //! Uses all processors, one screen at a time each.
     bool writeScreens(const DesignerObject *project);
-    //! The error, empty without one.
+    //! Returns the error, or an empty text.
     QString writeScreen(const DesignerObject &screen) const;
     bool copyResources();
     bool fail(const QString &error);

@@ -6,8 +6,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! An object that has its identity and nothing else yet, named by the factory's tables where they know its
-   class and by the class itself where they do not. */
+//! An object with only an identity. The factory's tables provide its names, or its class does if it is
+//! missing there.
 class CORVEX_EXPORT NamedObject : public DesignerObject
 {
 public:
@@ -16,7 +16,7 @@ public:
 
 protected:
     using DesignerObject::DesignerObject;
-    // Nothing of this kind is ever shown on a canvas.
+    // Objects of this kind are never shown on a canvas.
     ObjectView *createGraphicsItem() override { return nullptr; }
 };
 

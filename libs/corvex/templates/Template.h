@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Something ready-made that a user starts from.
+//! A ready-made starting point for the user.
 class CORVEX_EXPORT Template : public NamedObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The tutorials that are installed.
+//! The installed tutorials.
 class CORVEX_EXPORT TutorialContainer : public NamedObject
 {
     Q_OBJECT

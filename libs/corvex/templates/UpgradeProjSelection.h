@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The projects that a user picked for an upgrade.
+//! The projects that the user has selected for an upgrade.
 class CORVEX_EXPORT UpgradeProjSelection : public NamedObject
 {
     Q_OBJECT

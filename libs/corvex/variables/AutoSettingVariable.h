@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Saves properties of an object on the device and restores them; its value is the list of what it saves.
+//! Saves properties of an object on the device and restores them. Its value lists the saved properties.
 class CORVEX_EXPORT AutoSettingVariable : public ProjectVariable
 {
     Q_OBJECT

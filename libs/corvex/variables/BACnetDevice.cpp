@@ -13,10 +13,10 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The number of an object is at most 4194303, which stands for no device in particular.
+//! Instance 4194303, the highest, means "any device".
 constexpr int largestDevice = 4194302;
 constexpr int largestNumber = 65535;
-//! The UDP port of BACnet, 0xBAC0.
+//! The default UDP port of BACnet, 0xBAC0.
 constexpr int usualPort = 47808;
 
 constexpr auto passwordDescription =
@@ -105,7 +105,7 @@ void BACnetDevice::afterPropertyChanged(const DesignerProperty *property, const 
         showDependents();
     }
     if (property == m_pwdEnabled && !disabledValidation()) {
-        // Whether the password may be empty depends on the switch.
+        // The switch determines whether the password may be empty.
         m_password->validate();
         updateValidity();
     }

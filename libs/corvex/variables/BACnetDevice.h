@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A BACnet device: the panel itself or, when it is not local, another one that the panel speaks to.
+//! A BACnet device: the panel itself or, if it is not local, another device that the panel communicates with.
 class CORVEX_EXPORT BACnetDevice : public DeviceVariable
 {
     Q_OBJECT

@@ -8,15 +8,14 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! An object that the device exposes over BACnet; see BACnetPropertyList for what its list of properties
-//! holds.
+//! An object that the panel exposes over BACnet. See BACnetPropertyList for its properties.
 class CORVEX_EXPORT BACnetObject : public DeviceVariable
 {
     Q_OBJECT
     CORVEX_CLASS_NAMES(BACnetObject, ProjectVariable)
 
 public:
-    //! What an object is known by in its device.
+    //! Identifies an object within its device.
     struct Identifier
     {
         int type;     //!< 0 to 1023
@@ -24,7 +23,7 @@ public:
 
         friend bool operator==(const Identifier &, const Identifier &) = default;
     };
-    //! Reads "type,instance"; blanks around the numbers mean nothing.
+    //! Reads "type,instance". Blanks around the numbers are ignored.
     static std::optional<Identifier> readIdentifier(const QString &text);
 
 protected:

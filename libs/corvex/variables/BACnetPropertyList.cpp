@@ -19,7 +19,7 @@ using Common::EnumHelper;
 constexpr qsizetype entrySize = 3;
 constexpr int largestProperty = 4194303;
 
-//! Whether the term can stand in a list of properties, set or not.
+//! Whether the term may occur in a list of properties, even an empty one.
 bool isPossible(const GeneralDataInfo &term)
 {
     switch (term.valueType()) {

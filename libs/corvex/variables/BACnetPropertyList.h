@@ -8,11 +8,11 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! The properties that a BACnet object offers, each with the type and the source of its value.
+/*! The properties of a BACnet object, each with the type and the source of its value.
 
-    In an expression an entry is three terms: the name of the property and the name of the data type, both
-   string constants, then the source, which is a constant, a variable or an element term. The names are those
-   of EnumHelper; a property that has none there goes by its number.
+    In an expression an entry consists of three terms: the name of the property and the name of the data type,
+    both string constants, then the source, which is a constant, a variable or an element term. The names are
+    those of EnumHelper; a property without a name there is written as its number.
 */
 class CORVEX_EXPORT BACnetPropertyList
 {
@@ -28,17 +28,17 @@ public:
 
     BACnetPropertyList() = default;
 
-    //! False, with the first problem in \a error and no entries, when the terms are not such a list, are none
-    //! at all or name a property twice.
+    //! Returns false, with the first problem in \a error and no entries, if the terms are not such a list, if
+    //! there are none, or if they name a property twice.
     bool read(const GeneralDataList &terms, QString &error);
     GeneralDataList toTerms() const;
 
     const QList<Entry> &entries() const { return m_entries; }
     void append(const Entry &entry) { m_entries.append(entry); }
 
-    //! The name of a property, its number in digits when it has none.
+    //! The name of a property, or its number in digits if it has no name.
     static QString propertyName(int property);
-    //! The number of the property with that propertyName(); -1 when there is none.
+    //! The number of the property with that propertyName(); -1 if there is none.
     static int propertyNumber(const QString &name);
 
 private:

@@ -15,7 +15,7 @@ public:
     VariableType variableType() const override { return VariableType::BooleanVariable; }
     QVariant toVariant() const override { return typedValue(value()->valueString()); }
 
-    //! Of exactly "true" and "false"; invalid of any other text.
+    //! For exactly "true" and "false"; invalid for any other text.
     static QVariant typedValue(QStringView text);
 
 protected:

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A J1939 parameter group; see CanParameterMap for what its map holds.
+//! A J1939 parameter group. See CanParameterMap for its map.
 class CORVEX_EXPORT CANVariable : public DeviceVariable
 {
     Q_OBJECT

@@ -34,7 +34,7 @@ bool isConstant(const GeneralDataInfo &term, GeneralDataInfo::DataType type)
     return term.valueType() == GeneralDataInfo::ConstantValue && term.dataType() == type;
 }
 
-//! Takes one term after the other; the first that does not fit leaves its problem in the error.
+//! Reads terms one by one, and records the problem of the first one that does not fit.
 class TermReader
 {
 public:
@@ -44,7 +44,7 @@ public:
     { }
 
     bool atEnd() const { return m_next == m_terms.count(); }
-    //! Counted from 1; 0 in the head.
+    //! The number of the current entry, counted from 1; 0 in the head.
     qsizetype entry() const { return (m_next - headSize + entrySize - 1) / entrySize; }
 
     bool readInteger(const char *name, int minimum, int maximum, int &value)
@@ -104,11 +104,11 @@ private:
     qsizetype m_next = 0;
 };
 
-//! What one parameter must observe beside the others.
+//! Checks a parameter together with the previous ones.
 class ParameterCheck
 {
 public:
-    //! What is wrong with the next parameter; null when nothing is.
+    //! The problem of the next parameter; null if there is none.
     const char *problemOf(const CanParameter &parameter)
     {
         if (m_numbers.contains(parameter.spn)) {
@@ -126,7 +126,7 @@ public:
         }
         const quint64 bits = (~quint64(0) >> (dataBits - parameter.length)) << start;
         if (m_bits & bits) {
-            return "Entry %1: The bits are those of another entry, too.";
+            return "Entry %1: The bits overlap those of another entry.";
         }
         m_numbers.insert(parameter.spn);
         m_bits |= bits;

@@ -15,7 +15,7 @@ public:
     VariableType variableType() const override { return VariableType::ColorVariable; }
     QVariant toVariant() const override { return typedValue(value()->valueString()); }
 
-    //! A QColor; invalid of a text that is no colour.
+    //! A QColor; invalid if the text is not a colour.
     static QVariant typedValue(QStringView text);
 
 protected:

@@ -19,7 +19,7 @@ public:
     //! None: each fieldbus has a file of its own.
     QString configurationKey() const override { return {}; }
 
-    //! A QVariantMap of texts; invalid when the text is no map, the empty text among them.
+    //! A QVariantMap of texts; invalid if the text is not a map, for example empty.
     static QVariant typedValue(const QString &text);
 
 protected:

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Numbers that the device samples at an interval and keeps.
+//! Numbers that the device samples at an interval and stores.
 class CORVEX_EXPORT LogVariable : public ProjectVariable
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class CORVEX_EXPORT LogVariable : public ProjectVariable
 
 public:
     VariableType variableType() const override { return VariableType::LogVariable; }
-    //! As that of a NumberVariable.
+    //! Like that of a NumberVariable.
     QVariant toVariant() const override { return NumberVariable::typedValue(value()->valueString()); }
     //! None: the element that samples the log describes it.
     QString configurationKey() const override { return {}; }

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The Modbus registers of the device; see ModbusMap for what each of the maps holds.
+//! The Modbus registers of the device. See ModbusMap for the contents of its maps.
 class CORVEX_EXPORT MappingVariable : public DeviceVariable
 {
     Q_OBJECT
@@ -20,10 +20,10 @@ public:
     const SharedProperty &virtualRegMap() const { return m_virtualRegMap; }
     const SharedProperty &virtualStringMap() const { return m_virtualStringMap; }
 
-    //! The name of the screen for whose port the map's QML is being written.
+    //! The name of the screen whose port's map is being written to QML.
     void setQmlActiveScreen(const QString &screenName) { m_qmlActiveScreen = screenName; }
     const QString &qmlActiveScreen() const { return m_qmlActiveScreen; }
-    //! Nothing: a port names its map, and the maps themselves travel in the zipped project.
+    //! Writes nothing: a port only names its map, and the device reads the maps from the zipped project.
     QString toQml(int indent) const override;
 
 protected:

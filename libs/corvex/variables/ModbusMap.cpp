@@ -56,7 +56,7 @@ bool isSource(const GeneralDataInfo &term)
                || term.valueType() == GeneralDataInfo::ObjectValue);
 }
 
-//! Five digits, as addresses are written everywhere.
+//! Five digits, the usual form of an address.
 QString addressText(int address)
 {
     return QString::number(address).rightJustified(5, u'0');

@@ -8,16 +8,16 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! The registers of one kind that the device offers over Modbus, each bound to the variable or the property
-   of an element whose value it carries.
+/*! The registers of one kind that the device offers over Modbus, each bound to a variable or a property of an
+    element.
 
-    In an expression an entry is two terms: the address, an integer constant, then the source, a variable or
-   an element term.
+    In an expression an entry consists of two terms: the address, an integer constant, then the source, a
+    variable or an element term.
 */
 class CORVEX_EXPORT ModbusMap
 {
 public:
-    //! The numbers by which editors know the kinds ("RegType").
+    //! The numbers that editors use for the kinds ("RegType").
     enum RegisterKind {
         DiscreteInput = 1,
         Coil = 2,
@@ -29,7 +29,7 @@ public:
 
     struct Entry
     {
-        int address = 0; //!< with the leading digit of the kind: the first holding register is 40001
+        int address = 0; //!< includes the leading digit of the kind: the first holding register is 40001
         GeneralDataInfo source;
 
         friend bool operator==(const Entry &, const Entry &) = default;
@@ -39,11 +39,11 @@ public:
         : m_kind(kind)
     { }
 
-    /*! Takes the entries of an expression, in its order; an empty one is an empty map. False, with the first
-        problem in \a error and no entries, when one is cut short, has no address of the kind or no source, or
-        has the address of another one. */
+    //! Reads the entries of an expression, in its order; an empty expression gives an empty map. Returns
+    //! false, with the first problem in \a error and no entries, if an entry is incomplete, lacks an address
+    //! of this kind or a source, or repeats an address.
     bool read(const GeneralDataList &terms, QString &error);
-    //! When that was the problem, all addresses that several entries have, in five digits.
+    //! If addresses are repeated, lists all of them, in five digits.
     const QStringList &repeatedAddresses() const { return m_repeated; }
     GeneralDataList toTerms() const;
 

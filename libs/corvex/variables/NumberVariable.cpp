@@ -14,7 +14,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Up to here every integer has a single-precision float of its own.
+//! Up to here a single-precision float holds every integer exactly.
 constexpr float largestFloat = 16777215;
 constexpr int smallestInteger = -2147483647;
 

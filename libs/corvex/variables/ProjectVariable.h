@@ -11,11 +11,9 @@ namespace Halvane::Corvex::Designer {
 
 class PropertyRow;
 
-/*! A named value of the project, which expressions, elements and the device read and write by its name.
-
-    The value is kept as the text that the user gave; type and typed value are always worked out from that
-   text.
-*/
+//! A named value of the project that expressions, elements and the device read and write by its name.
+//!
+//! The value is stored as the user's text. Its type and its typed value are always derived from this text.
 class CORVEX_EXPORT ProjectVariable : public DesignerObject
 {
     Q_OBJECT
@@ -27,18 +25,18 @@ public:
     QString baseName() const override;
     QString displayName() const override;
 
-    //! Null until initialize() has run; likewise the other handles.
+    //! These handles are null until initialize() has run.
     const SharedProperty &value() const { return m_value; }
     //! Whether the device keeps the value when it is switched off.
     const SharedProperty &persistent() const { return m_persistent; }
 
 protected:
-    //! Makes the property "value"; null stops the initialisation.
+    //! Creates the property "value"; null aborts the initialisation.
     virtual SharedProperty initializeValueProperty();
 
 public:
     virtual VariableType variableType() const;
-    //! The value as the device gets it; invalid when its text does not stand for one.
+    //! The value in the form for the device; invalid if its text is not a value of this class.
     virtual QVariant toVariant() const;
 
     //! Whether it describes an exchange with a fieldbus. Expressions cannot read it.
@@ -54,12 +52,13 @@ protected:
 
     ObjectView *createGraphicsItem() override;
     bool initializeProperties() override;
-    //! Refuses to change "persistent" of a kind that decides about it by itself.
+    //! Refuses changes of "persistent" in classes with a fixed value.
     bool beforePropertyChanged(const DesignerProperty *property, const QString &newValue) override;
 
-    //! The property "persistent" of a kind that is always or never persistent: hidden, and \a on.
+    //! The property "persistent" of a class that is always or never persistent: hidden, with the value \a on.
     static PropertyRow fixedPersistence(bool on);
-    //! A property that holds a value of the enumeration \a enumName of EnumHelper, the first unless changed.
+    //! A property whose value belongs to the enumeration \a enumName of EnumHelper. The default is its first
+    //! value.
     static PropertyRow enumRow(const char *id, const char *title, const char *enumName);
 
 private:

@@ -95,7 +95,8 @@ TEST_F(ExchangeVerbs, ExportPrintsOrWritesFiles)
     EXPECT_EQ(set.code, 1);
     EXPECT_EQ(set.json()[u"files"_s].toArray().size(), 4);
     EXPECT_EQ(set.json()[u"errors"_s].toArray().size(), 1);
-    EXPECT_TRUE(set.error.startsWith(u"There is no local BACnet device"_s)) << qPrintable(set.error);
+    EXPECT_TRUE(set.error.startsWith(u"The list needs the number of the local BACnet device"_s))
+        << qPrintable(set.error);
     EXPECT_EQ(sandbox.files(u"ede"_s).size(), 4);
 
     EXPECT_EQ(sandbox.run({u"export"_s, u"can"_s, pump, u"-o"_s, pump}).code, 3);

@@ -126,26 +126,27 @@ TEST_F(ImportVariablesTest, ReportsWhatItCannotImport)
         const char *table;
         const char *problem;
     } cases[] = {
-        {"", "line 1: The first line has to name the columns, each once, \"name\" among them."},
-        {"value\n1\n", "line 1: The first line has to name the columns, each once, \"name\" among them."},
+        {"", "line 1: The first line must name the columns, each once, including \"name\"."},
+        {"value\n1\n", "line 1: The first line must name the columns, each once, including \"name\"."},
         {"name,value,value\n",
-         "line 1: The first line has to name the columns, each once, \"name\" among them."},
-        {"name\n\xff\n", "line 2: The table is not in UTF-8, nor in UTF-16 with a mark at its start. Save it "
-                         "as \"CSV UTF-8\"."},
+         "line 1: The first line must name the columns, each once, including \"name\"."},
+        {"name\n\xff\n",
+         "line 2: The table is neither in UTF-8 nor in UTF-16 with a byte order mark. Save it "
+         "as \"CSV UTF-8\"."},
         {"name\rspeed\r",
-         "line 1: The lines end with a carriage return alone. Save the table with the line ends of today's "
+         "line 1: The lines end with only a carriage return. Save the table with the line ends of today's "
          "systems."},
-        {"name,value\nspeed\n", "line 2: There are 1 fields for 2 columns."},
-        {"name\nspeed\nspeed\n", "line 3: \"speed\" is in line 2, too."},
-        {"name,value\nnew,1\n", "line 2: \"new\" is not in the project; a class is needed to make it."},
-        {"name,class\nnew,Rectangle\n", "line 2: \"Rectangle\" is no class of variables."},
-        {"name,class\nnew,Number\n", "line 2: \"Number\" is no class of variables."},
-        {"name,class\n,NumberVariable\n", "line 2: \"\" is no name for a variable."},
+        {"name,value\nspeed\n", "line 2: The row has 1 fields for 2 columns."},
+        {"name\nspeed\nspeed\n", "line 3: \"speed\" is also in line 2."},
+        {"name,value\nnew,1\n", "line 2: \"new\" is not in the project. Give a class to add it."},
+        {"name,class\nnew,Rectangle\n", "line 2: \"Rectangle\" is not a class of variables."},
+        {"name,class\nnew,Number\n", "line 2: \"Number\" is not a class of variables."},
+        {"name,class\n,NumberVariable\n", "line 2: \"\" is not a valid name for a variable."},
         {"name,class\nspeed,LogVariable\n",
          "line 2: \"speed\" is a NumberVariable and cannot become a LogVariable."},
-        {"name,interval\nhistory,soon\n", "line 2: history.interval: \"soon\" is no value for it."},
-        {"name,value\non,maybe\n", "line 2: on.value: \"maybe\" is no value for it."},
-        {"name,persistent\nhistory,true\n", "line 2: history.persistent: \"true\" is no value for it."},
+        {"name,interval\nhistory,soon\n", "line 2: history.interval: \"soon\" is not a valid value."},
+        {"name,value\non,maybe\n", "line 2: on.value: \"maybe\" is not a valid value."},
+        {"name,persistent\nhistory,true\n", "line 2: history.persistent: \"true\" is not a valid value."},
         {"name,interval\nspeed,1\n", "line 2: NumberVariable has no property \"interval\"."},
         {"name,id\nspeed,other\n", "line 2: NumberVariable has no property \"id\"."},
     };
@@ -164,8 +165,8 @@ TEST_F(ImportVariablesTest, ReportsWhatItCannotImport)
     // All errors at once.
     EXPECT_EQ(textsOf(VariableImport("name,value\nspeed,1,2\n\"on\"x,1\nnew,1\n", *project).problems()),
               u"line 3: A field in quotes is not closed, or text follows its closing quote.\n"
-              "line 2: There are 3 fields for 2 columns.\n"
-              "line 4: \"new\" is not in the project; a class is needed to make it."_s);
+              "line 2: The row has 3 fields for 2 columns.\n"
+              "line 4: \"new\" is not in the project. Give a class to add it."_s);
 }
 
 } // namespace Halvane::Corvex::Designer::Test

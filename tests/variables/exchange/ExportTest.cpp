@@ -175,7 +175,7 @@ TEST_F(ExportTest, CanGroupsAsADatabase)
         exported.problems,
         QStringList(
             {u"empty.parameterMap: At least one SPN required"_s,
-             u"tank: The unit \"\u00b0C \u03a9\" of SPN 96 has characters that the file cannot hold."_s}));
+             u"tank: The unit \"\u00b0C \u03a9\" of SPN 96 has characters that the file format does not support."_s}));
 
     // The grammar distinguishes good from bad files.
     for (const auto &[good, bad] :
@@ -237,7 +237,7 @@ TEST_F(ExportTest, BACnetObjectsAsEde)
                            u"1;Off;On"_s, u"2;Hand;Off;Auto"_s}));
     EXPECT_EQ(lines(exported.files.at(3).bytes).sliced(2), QStringList({u"95;No Units"_s, u"98;Percent"_s}));
     EXPECT_EQ(exported.problems,
-              QStringList(u"eWrong.objectID: \"two\" is no type and instance, as in \"2,1\"."_s));
+              QStringList(u"eWrong.objectID: \"two\" is not a type and instance, as in \"2,1\"."_s));
 }
 
 TEST_F(ExportTest, VariablesWithAllTheirProperties)

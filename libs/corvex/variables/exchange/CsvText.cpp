@@ -13,7 +13,7 @@ namespace {
 
 constexpr QChar mark = u'\'';
 
-//! Whether a spreadsheet would run the field, or would once its marks are taken away.
+//! Whether a spreadsheet would run the field as a formula, now or without its protection marks.
 bool isRun(const QString &field)
 {
     static const QRegularExpression dangerous(u"^'*[=+\\-@\t\r]"_s);
@@ -49,10 +49,10 @@ public:
 
     bool atEnd() const { return m_at == m_text.size(); }
     int line() const { return m_line; }
-    //! The first line that ends with "\r" alone; 0 without one.
+    //! The first line that ends with a lone "\r"; 0 if there is none.
     int lineOfLoneReturn() const { return m_lineOfLoneReturn; }
 
-    //! False for a field that is not closed, or that goes on after its closing quote.
+    //! Returns false for a field whose quotes are not closed, or with text after the closing quote.
     bool readField(QString &field)
     {
         field.clear();
@@ -70,7 +70,7 @@ public:
         return true;
     }
 
-    //! Whether another field follows in this row; otherwise the row's line end is passed.
+    //! Returns whether another field follows in this row. Otherwise skips the line end.
     bool readSeparator()
     {
         if (!atEnd() && m_text.at(m_at) == m_separator) {
@@ -184,7 +184,7 @@ QList<Row> read(QStringView text, QList<Problem> &problems, QChar separator)
     }
     if (reader.lineOfLoneReturn() > 0) {
         problems.append({reader.lineOfLoneReturn(),
-                         u"The lines end with a carriage return alone. Save the table with the line ends of "
+                         u"The lines end with only a carriage return. Save the table with the line ends of "
                          "today's systems."_s});
         rows.clear();
     }

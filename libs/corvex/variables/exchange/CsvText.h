@@ -7,11 +7,11 @@
 #include <QString>
 #include <QStringList>
 
-/*! Tables as RFC 4180 has them. A field with a separator, a quote or a line end in it is written between
-   quotes.
+/*! Tables in the format of RFC 4180. A field with a separator, a quote or a line end is quoted.
 
-    Spreadsheets run what begins with "=", "+", "-", "@", a tab or a carriage return. Such a field gets a "'"
-   in front, which reading takes away; a plain number such as "-5" stays as it is. */
+    Spreadsheets run fields that begin with "=", "+", "-", "@", a tab or a carriage return as formulas. Such a
+    field gets a "'" in front, which reading removes; plain numbers such as "-5" are not changed.
+*/
 namespace Halvane::Corvex::Designer::CsvText {
 
 //! One row with its line end, "\r\n".
@@ -19,11 +19,11 @@ CORVEX_EXPORT QString row(const QStringList &fields, QChar separator = u',');
 
 struct CORVEX_EXPORT Row
 {
-    int line = 0; //!< where it begins, from 1
+    int line = 0; //!< the first line of the row, counted from 1
     QStringList fields;
 };
 
-//! What is wrong with a line of a table, for the user.
+//! A problem in a line of a table, for the user.
 struct CORVEX_EXPORT Problem
 {
     int line = 0;
@@ -33,12 +33,12 @@ struct CORVEX_EXPORT Problem
     QString toString() const;
 };
 
-//! The one of ",", ";" and tab that the first line has most of outside of quotes; "," without any.
+//! The most frequent of ",", ";" and tab outside of quotes in the first line; "," if there is none.
 CORVEX_EXPORT QChar separatorOf(QStringView text);
 
-/*! The rows of a text; "\n" ends a row too, and empty lines between rows are passed over. Reports text that
-    follows a closing quote, a quote that is not closed, and lines that end with "\r" alone; the lines in
-   question are left out. A quote inside a field that does not begin with one is a character like others. */
+//! The rows of a text. "\n" also ends a row, and empty lines are skipped. Reports text after a closing quote,
+//! a quote that is not closed, and lines that end with a lone "\r"; those lines are omitted. A quote inside
+//! an unquoted field is an ordinary character.
 CORVEX_EXPORT QList<Row> read(QStringView text, QList<Problem> &problems, QChar separator = u',');
 
 } // namespace Halvane::Corvex::Designer::CsvText

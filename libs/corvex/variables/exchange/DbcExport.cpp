@@ -14,7 +14,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Words of the format, which are no names in it.
+//! Keywords of the format, which cannot be names.
 const QSet<QString> &keywords()
 {
     static const QSet<QString> words{u"VERSION"_s,       u"NS_"_s,
@@ -41,16 +41,16 @@ const QSet<QString> &keywords()
     return words;
 }
 
-//! Marks identifiers of 29 bits.
+//! Marks identifiers with 29 bits.
 constexpr quint32 extendedFrame = 0x80000000U;
 
 QString number(double value)
 {
-    // Readers know no exponents.
+    // Readers of the format do not know exponents.
     return QString::number(value, 'f', QLocale::FloatingPointShortest);
 }
 
-//! Between quotes, where there is no way to write a quote.
+//! The format has no way to write a quote inside quotes.
 QString quoted(const QString &text)
 {
     QString plain = text.simplified();
@@ -181,13 +181,14 @@ private:
     QSet<QString> m_names;
 };
 
-//! Databases are read in the character set of Western Europe.
+//! Readers expect the character set of Western Europe.
 void reportLostUnits(const QString &variable, const CanParameterMap &map, QStringList &problems)
 {
     for (const CanParameter &parameter : map.parameters()) {
         if (QString::fromLatin1(parameter.units.toLatin1()) != parameter.units) {
-            problems.append(u"%1: The unit \"%2\" of SPN %3 has characters that the file cannot hold."_s.arg(
-                variable, parameter.units, QString::number(parameter.spn)));
+            problems.append(
+                u"%1: The unit \"%2\" of SPN %3 has characters that the file format does not support."_s.arg(
+                    variable, parameter.units, QString::number(parameter.spn)));
         }
     }
 }

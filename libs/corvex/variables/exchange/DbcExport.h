@@ -8,13 +8,15 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! The J1939 groups as a CAN database.
+//! Exports the J1939 groups as a CAN database.
 class CORVEX_EXPORT DbcExport
 {
 public:
-    /*! A message for each CAN identifier, named by the first variable that has it, with a signal for each
-        SPN, which a comment gives its variable. Attributes mark the frames as J1939 and tell the SPNs. The
-        file is in Latin-1, as these files are; units lose characters that it has not, and quotes. */
+    /*! One message for each CAN identifier, named after the first variable with that identifier, with one
+        signal for each SPN; a comment names the signal's variable. Attributes mark the frames as J1939 and
+        give the SPNs. The file is in Latin-1, as usual for this format; other characters, and quotes, are
+        removed from units.
+    */
     static Exported write(const DesignerObject &project);
 };
 

@@ -22,7 +22,7 @@ using Common::BACnetTables::Entry;
 
 constexpr int deviceType = 8;
 
-//! Outputs, values and the like, which others may write.
+//! Outputs and values, which other devices may write.
 constexpr int settableTypes[] = {1, 2, 4, 5, 14, 19};
 
 enum Property {
@@ -48,7 +48,7 @@ QString textOf(const DesignerObject &object, QStringView property)
     return object.getProperty(property)->valueString();
 }
 
-//! The number of a name, which may be a number already; empty for any other text.
+//! The number for a name, which may already be a number; empty for any other text.
 QString numberOf(const QString &name, const QList<Entry> &entries)
 {
     const auto entry =
@@ -58,7 +58,7 @@ QString numberOf(const QString &name, const QList<Entry> &entries)
     return entry != entries.end() || isNumber ? QString::number(number) : QString();
 }
 
-//! A table of numbers and what they mean, those in \a numbers alone.
+//! A table of the given \a numbers and their meanings.
 QByteArray glossary(const QString &title, const QString &columns, const QList<Entry> &entries,
                     const QSet<QString> &numbers)
 {
@@ -71,7 +71,7 @@ QByteArray glossary(const QString &title, const QString &columns, const QList<En
     return text.toUtf8();
 }
 
-//! What an object says of its properties where it is known before the device runs.
+//! The constant properties of an object, which are known before the device runs.
 class KnownValues
 {
 public:
@@ -84,7 +84,7 @@ public:
 
     QString operator[](Property property) const { return m_values.value(property); }
 
-    //! What the states are called, from the first on.
+    //! The names of the states, beginning with the first.
     QStringList stateTexts() const
     {
         const QString listed = m_values.value(StateText);
@@ -145,7 +145,8 @@ private:
                 return;
             }
         }
-        m_exported.problems.append(u"There is no local BACnet device, whose number the list would tell."_s);
+        m_exported.problems.append(
+            u"The list needs the number of the local BACnet device, but the project has no such device."_s);
     }
 
     void addObject(const DesignerObject &object)
@@ -153,8 +154,9 @@ private:
         const QString text = textOf(object, u"objectID");
         const std::optional<BACnetObject::Identifier> identifier = BACnetObject::readIdentifier(text);
         if (!identifier) {
-            m_exported.problems.append(u"%1.objectID: \"%2\" is no type and instance, as in \"2,1\"."_s.arg(
-                object.getIdName(), text));
+            m_exported.problems.append(
+                u"%1.objectID: \"%2\" is not a type and instance, as in \"2,1\"."_s.arg(object.getIdName(),
+                                                                                        text));
             return;
         }
         const auto [type, instance] = *identifier;
@@ -195,7 +197,7 @@ private:
         m_rows += row(fields);
     }
 
-    //! Objects with the same texts share them.
+    //! Objects with equal texts share one reference.
     QString referenceTo(const QStringList &texts)
     {
         if (texts.isEmpty()) {

@@ -10,14 +10,13 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! The BACnet objects as a set of EDE files, layout 2.3 of the B.I.G.-EU: the objects, and the texts for
-//! their types, states and units.
+//! Exports the BACnet objects as a set of EDE files, layout 2.3 of the B.I.G.-EU: the objects, and the texts
+//! for their types, states and units.
 class CORVEX_EXPORT EdeExport
 {
 public:
-    /*! The panel, which is the first local device, and its objects; what their properties say where it is
-        constant, and the start value of a variable. \a lastChange of the project is noted in the first file.
-     */
+    //! Writes the panel, which is the first local device, and its objects, with their constant properties and
+    //! the initial values of variables. The first file contains the date \a lastChange of the project.
     static Exported write(const DesignerObject &project, const QDate &lastChange);
 };
 

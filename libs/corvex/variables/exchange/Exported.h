@@ -10,17 +10,17 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What a project hands to other programs.
+//! The files of an export.
 struct CORVEX_EXPORT Exported
 {
     struct File
     {
-        QString name; //!< a usual name for it
+        QString name; //!< a suggested name
         QByteArray bytes;
     };
 
-    QList<File> files;    //!< the chief one first
-    QStringList problems; //!< what could not be told and is left out, for the user
+    QList<File> files;    //!< the main file first
+    QStringList problems; //!< what could not be exported, for the user
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -18,9 +18,9 @@ constexpr struct
     ModbusMap::RegisterKind kind;
     const char16_t *title;
     const char16_t *access;
-    const char16_t *width; //!< in bits on the wire; virtual ones are no part of the protocol
+    const char16_t *width; //!< in bits on the wire; virtual registers are not part of the protocol
     const char16_t *type;  //!< on the wire
-    int first;             //!< the address that is 0 on the wire
+    int first;             //!< the address that is sent as 0
 } maps[] = {
     {u"coilMap", ModbusMap::Coil, u"coil", u"read/write", u"1", u"bit", 1},
     {u"discreteInputMap", ModbusMap::DiscreteInput, u"discrete input", u"read", u"1", u"bit", 10001},

@@ -8,13 +8,13 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! The register list that an integrator asks for.
+//! Exports the register list for the integrator of the plant.
 class CORVEX_EXPORT ModbusExport
 {
 public:
-    /*! A table of all registers of \a project, a row each: the mapping variable, the kind of register, its
-        address in the usual five digits and as it goes over the wire (from 0), whether a master may write it,
-        its width in bits, type and scale on the wire, what it carries, and the type of that. */
+    //! A table of all registers of \a project, one row each: the mapping variable, the kind of register, its
+    //! address in the usual five digits and as sent over the wire (from 0), whether a master may write it,
+    //! its width in bits, type and scale on the wire, its source, and the type of the source.
     static Exported write(const DesignerObject &project);
 };
 

@@ -13,7 +13,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The ids of all properties but the name's, in the order in which the variables have them.
+//! The ids of all properties except the name, in the order of the variables' own properties.
 QStringList propertyIds(const QList<DesignerObject *> &variables)
 {
     QStringList ids;

@@ -8,12 +8,12 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! All variables as one table.
+//! Exports all variables as one table.
 class CORVEX_EXPORT VariableExport
 {
 public:
-    /*! A row for each variable, in the order of the project: "name", "class", then a column for each property
-        that any of them has, with its text. A field is empty where the class has no such property. */
+    //! One row for each variable, in project order: "name", "class", then a column for each property that any
+    //! variable has, with its text. A field is empty if the class lacks the property.
     static Exported write(const DesignerObject &project);
 };
 

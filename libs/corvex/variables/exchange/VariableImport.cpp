@@ -34,7 +34,7 @@ struct VariableImport::Record
     int line;
     QStringList fields;
     QString name;
-    QString className; //!< empty when the table does not tell it
+    QString className; //!< empty if the table has no class
 };
 
 VariableImport::VariableImport(const QByteArray &csv, const DesignerObject &project, QChar separator)
@@ -53,7 +53,7 @@ VariableImport::VariableImport(const QByteArray &csv, const DesignerObject &proj
                         m_classColumn < 0 ? QString() : row.fields.value(m_classColumn)});
         }
     } else if (m_problems.isEmpty()) {
-        m_problems.append({1, u"The first line has to name the columns, each once, \"name\" among them."_s});
+        m_problems.append({1, u"The first line must name the columns, each once, including \"name\"."_s});
     }
 }
 
@@ -63,8 +63,8 @@ QString VariableImport::decode(const QByteArray &csv)
     QStringDecoder decoder(encoding);
     const QString text = decoder(csv);
     if (encoding != QStringDecoder::Utf8 && csv.size() % 2 != 0) {
-        m_problems.append(
-            {int(text.count(u'\n')) + 1, u"The table ends within a character; it was cut off."_s});
+        m_problems.append({int(text.count(u'\n')) + 1,
+                           u"The table ends in the middle of a character; it is incomplete."_s});
     } else if (decoder.hasError() || text.contains(QChar::Null)) {
         int line = 1;
         for (const QByteArray &bytes : csv.split('\n')) {
@@ -74,7 +74,7 @@ QString VariableImport::decode(const QByteArray &csv)
             ++line;
         }
         m_problems.append({line,
-                           u"The table is not in UTF-8, nor in UTF-16 with a mark at its start. Save it as "
+                           u"The table is neither in UTF-8 nor in UTF-16 with a byte order mark. Save it as "
                            "\"CSV UTF-8\"."_s});
     }
     return text;
@@ -110,12 +110,12 @@ void VariableImport::readRecord(Record record)
         record.fields.removeLast();
     }
     if (record.fields.size() != m_columns.size()) {
-        fail(record, u"There are %1 fields for %2 columns."_s.arg(QString::number(record.fields.size()),
-                                                                  QString::number(m_columns.size())));
+        fail(record, u"The row has %1 fields for %2 columns."_s.arg(QString::number(record.fields.size()),
+                                                                    QString::number(m_columns.size())));
         return;
     }
     if (const int earlier = m_lines.value(record.name); earlier > 0) {
-        fail(record, u"\"%1\" is in line %2, too."_s.arg(record.name, QString::number(earlier)));
+        fail(record, u"\"%1\" is also in line %2."_s.arg(record.name, QString::number(earlier)));
         return;
     }
     m_lines.insert(record.name, record.line);
@@ -130,7 +130,7 @@ void VariableImport::readRecord(Record record)
     }
 }
 
-//! Whether an empty field asks for the text that the property has when it is new.
+//! Whether an empty field means the default text of the property.
 bool VariableImport::isDefault(const DesignerObject &variable, const SharedProperty &property,
                                const QString &text)
 {
@@ -142,7 +142,8 @@ bool VariableImport::isDefault(const DesignerObject &variable, const SharedPrope
     return initial && initial->valueString() == text;
 }
 
-//! The property that a column names, in whatever case; null when the class has none. Names are no column's.
+//! The property that a column names, in any case; null if the class has none. The name of a variable is not a
+//! property of a column.
 SharedProperty VariableImport::propertyOf(const DesignerObject &variable, qsizetype column) const
 {
     const QString &id = m_columns.at(column);
@@ -153,7 +154,7 @@ SharedProperty VariableImport::propertyOf(const DesignerObject &variable, qsizet
                                                                                    : *found;
 }
 
-//! The field as the property has to read it.
+//! The field in the form that the property reads.
 QString VariableImport::textOf(const DesignerObject &variable, const SharedProperty &property,
                                const QString &field) const
 {
@@ -165,7 +166,7 @@ QString VariableImport::textOf(const DesignerObject &variable, const SharedPrope
                : field;
 }
 
-//! Sets what the field of a column says; a field that the class has no property for must be empty.
+//! Sets a property to the field of a column. If the class lacks the property, the field must be empty.
 bool VariableImport::set(const Record &record, DesignerObject &copy, qsizetype column)
 {
     const QString &field = record.fields.at(column);
@@ -188,15 +189,15 @@ bool VariableImport::set(const Record &record, DesignerObject &copy, qsizetype c
     }
     const DesignerObject::Change change = copy.changeValue(property, text);
     if (change != DesignerObject::Change::Done && change != DesignerObject::Change::Unchanged) {
-        return fail(record, u"%1.%2: \"%3\" is no value for it."_s.arg(record.name, id, text));
+        return fail(record, u"%1.%2: \"%3\" is not a valid value."_s.arg(record.name, id, text));
     }
     const bool isNumber =
         id != "value"_L1 || !NumberVariable::lacksNumber(static_cast<const ProjectVariable &>(copy));
     if (!property->isValid() || !isNumber) {
         m_invalidValues.append(
-            {record.line,
-             u"%1.%2: %3"_s.arg(record.name, id,
-                                isNumber ? property->errorString() : u"\"%1\" is no number."_s.arg(text))});
+            {record.line, u"%1.%2: %3"_s.arg(record.name, id,
+                                             isNumber ? property->errorString()
+                                                      : u"\"%1\" is not a number."_s.arg(text))});
     }
     return true;
 }
@@ -231,12 +232,12 @@ void VariableImport::add(const Record &record)
     std::unique_ptr<DesignerObject> variable = makeVariable(record.className);
     if (!variable) {
         fail(record, record.className.isEmpty()
-                         ? u"\"%1\" is not in the project; a class is needed to make it."_s.arg(record.name)
-                         : u"\"%1\" is no class of variables."_s.arg(record.className));
+                         ? u"\"%1\" is not in the project. Give a class to add it."_s.arg(record.name)
+                         : u"\"%1\" is not a class of variables."_s.arg(record.className));
         return;
     }
     if (record.name.isEmpty() || !variable->setIdName(record.name)) {
-        fail(record, u"\"%1\" is no name for a variable."_s.arg(record.name));
+        fail(record, u"\"%1\" is not a valid name for a variable."_s.arg(record.name));
         return;
     }
     for (qsizetype column = 0; column < m_columns.size(); ++column) {

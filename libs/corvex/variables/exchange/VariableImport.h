@@ -11,15 +11,15 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! What a table of variables, as VariableExport writes it, would change in a project.
+/*! The changes that a table in the form of VariableExport would make to a project.
 
-    Variables are found by their names. One that is not there yet is made; for that the table has to name its
-   class. Properties without a column, and variables without a row, stay as they are. An empty field is the
-    empty text where the property holds just that, else the default of the class.
+    Variables are identified by name. New variables are added; for them the table must give a class.
+    Properties without a column, and variables without a row, are not changed. An empty field means an empty
+    text if the property has that text, and otherwise the default of the class.
 
-    Tables of spreadsheets are read, too: in UTF-8, or in UTF-16 with a mark at the start; with ",", ";" or
-   tabs; with column names in any case, and with empty columns at the end. Where the separator is not ",", a
-   number may have a decimal comma.
+    Tables from spreadsheets are supported: in UTF-8, or in UTF-16 with a byte order mark; with ",", ";" or
+    tabs; with column names in any case, and with empty columns at the end. Unless the separator is ",",
+    numbers may have a decimal comma.
 */
 class CORVEX_EXPORT VariableImport
 {
@@ -30,21 +30,21 @@ public:
         QString after;
     };
 
-    //! Compares the table \a csv with the variables of \a project, which stays as it is. A null \a separator
-    //! is found by the first line. The table can be taken over when there are no problems.
+    //! Compares the table \a csv with the variables of \a project, which is not changed. A null \a separator
+    //! is detected in the first line. The table can be imported if there are no problems.
     VariableImport(const QByteArray &csv, const DesignerObject &project, QChar separator = {});
 
     const QList<Change> &changes() const { return m_changes; }
     const std::vector<std::unique_ptr<DesignerObject>> &additions() const { return m_additions; }
-    //! The new variables, for their new owner.
+    //! Moves the new variables to their new owner.
     std::vector<std::unique_ptr<DesignerObject>> takeAdditions() { return std::move(m_additions); }
-    //! How many variables of the table are in the project already, as the table has them.
+    //! The number of variables that the project has already with the same values.
     qsizetype unchangedCount() const { return m_unchangedCount; }
-    //! What cannot be taken over.
+    //! Everything that cannot be imported.
     const QList<CsvText::Problem> &problems() const { return m_problems; }
-    //! Values that the model can hold and that are not valid.
+    //! Values that the model can store but that are not valid.
     const QList<CsvText::Problem> &invalidValues() const { return m_invalidValues; }
-    //! Where the table has the variable; 0 for another one.
+    //! The line of the variable in the table; 0 if it has none.
     int lineOf(const QString &name) const { return m_lines.value(name); }
 
 private:
