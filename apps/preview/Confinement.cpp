@@ -36,7 +36,7 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-//! All that changes a file system, as the first version of Landlock knows it.
+//! All rights that change a file system, in the first version of Landlock.
 constexpr quint64 changes = LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_REMOVE_DIR
                             | LANDLOCK_ACCESS_FS_REMOVE_FILE | LANDLOCK_ACCESS_FS_MAKE_CHAR
                             | LANDLOCK_ACCESS_FS_MAKE_DIR | LANDLOCK_ACCESS_FS_MAKE_REG
@@ -44,10 +44,10 @@ constexpr quint64 changes = LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_R
                             | LANDLOCK_ACCESS_FS_MAKE_BLOCK | LANDLOCK_ACCESS_FS_MAKE_SYM;
 
 constexpr quint64 reading = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
-//! Rights that a rule for a file may give.
+//! The rights that apply to files.
 constexpr quint64 ofFiles = LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_READ_FILE;
 
-//! Where a program with Qt finds its parts while it runs.
+//! The folders from which Qt loads its parts at run time.
 QStringList placesOfTheSystem()
 {
     QStringList places{u"/usr/lib"_s,
@@ -76,7 +76,7 @@ QStringList placesOfTheSystem()
     return places;
 }
 
-//! A place that is not there needs no rule.
+//! Skips places that do not exist.
 void allow(int rules, const QStringList &places, quint64 access)
 {
     for (const QString &place : places) {
@@ -101,14 +101,14 @@ bool closeFiles(const QStringList &readable, const QStringList &writable)
     allow(rules, placesOfTheSystem() + readable, reading);
     allow(rules, writable, changes | reading);
     allow(rules, {u"/dev/null"_s, u"/dev/zero"_s, u"/dev/random"_s, u"/dev/urandom"_s}, ofFiles);
-    // Temporary folders go when the program ends.
+    // Temporary folders are removed when the program ends.
     allow(rules, {QDir::tempPath()}, LANDLOCK_ACCESS_FS_REMOVE_DIR);
     const bool isClosed = syscall(SYS_landlock_restrict_self, rules, 0) == 0;
     close(rules);
     return isClosed;
 }
 
-//! Sockets within the system remain: the display is behind one.
+//! Local sockets remain available, because the display needs one.
 bool closeNetworkAndPrograms()
 {
     constexpr quint32 lowHalf = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? 0 : 4;
@@ -133,7 +133,7 @@ bool closeNetworkAndPrograms()
 
 bool confine(const QStringList &readable, const QStringList &writable)
 {
-    // Without it neither is given to programs of ordinary users.
+    // Required for ordinary users to use either restriction.
     return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && closeFiles(readable, writable)
            && closeNetworkAndPrograms();
 }

@@ -5,12 +5,12 @@
 
 namespace Halvane::Corvex::Preview {
 
-/*! Takes from this thread, and from those that it starts, what a build does not need, since a script may be
-    anybody's. What is left is reading below \a readable and where Qt, the system's libraries and the fonts
-    are, and writing below \a writable, folders that are there. There is no network, and no program is
-   started.
+/*! Drops all rights that a build does not need from this thread and the threads it starts, because the
+    scripts of a build may come from anybody. It can still read below \a readable and the folders of Qt,
+    system libraries and fonts, and write below \a writable; these folders must exist. It has no network and
+    cannot start programs.
 
-    False where the system does not do all of that: it takes Linux with Landlock and seccomp.
+    Returns false if the system does not support all of this. It needs Linux with Landlock and seccomp.
 */
 [[nodiscard]] bool confine(const QStringList &readable, const QStringList &writable);
 

@@ -7,7 +7,7 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-//! Scripts write what they like, and a terminal would obey.
+//! Removes control characters: a script may write anything, and a terminal would interpret it.
 QByteArray withoutCommands(QString text)
 {
     for (QChar &character : text) {

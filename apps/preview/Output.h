@@ -5,12 +5,12 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! As the program corvex has them, which passes them on.
+//! The same as the exit codes of corvex, which passes them on.
 enum class Exit { Done = 0, Problems = 1, Usage = 2, File = 3 };
 
-//! A line to standard error, as the program corvex writes it.
+//! Writes a line to standard error in the style of corvex.
 void complain(const QString &message);
-//! A line to standard output.
+//! Writes a line to standard output.
 void print(const QString &line);
 
 } // namespace Halvane::Corvex::Preview

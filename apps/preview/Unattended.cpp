@@ -33,7 +33,7 @@ Exit printProblems(const ProblemLog &log)
 bool save(PanelWindow &window, const QString &folder, const QString &name)
 {
     const QString path = QDir(folder).filePath(name + u".png"_s);
-    QString error = u"\"%1\" is no name for a picture."_s.arg(name);
+    QString error = u"\"%1\" is not a valid name for a picture."_s.arg(name);
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
     bool isSaved = name == QFileInfo(name).fileName() && window.picture().save(&bytes, "PNG");
@@ -57,7 +57,7 @@ Exit shootAll(PreviewSession &session, PanelWindow &window, const QString &folde
         if (!session.showScreen(name)) {
             continue;
         }
-        // The rules come first, so that the first points of logs are what they give.
+        // Let the rules run first, so that the first points of logs contain their results.
         session.settle();
         session.panel().clock().advance(0);
         if (!save(window, folder, name)) {
@@ -73,7 +73,7 @@ Exit runScript(PreviewSession &session, PanelWindow &window, const QString &scri
     QByteArray text;
     OutsideThread::run([&file, &text] {
         if (file.open(QIODevice::ReadOnly)) {
-            text = file.read(Bounds::longestFile); // of a pipe, too
+            text = file.read(Bounds::longestFile); // also from a pipe
         }
     });
     if (!file.isOpen()) {
@@ -115,7 +115,7 @@ Exit runAudit(PreviewSession &session)
     QJsonArray entries;
     for (const QString &name : session.screens()) {
         if (session.showScreen(name)) {
-            window.picture(); // which lays out what is in it
+            window.picture(); // computes the layout of the window
             append(ScreenAudit::find(session.screenItem()), entries);
         }
     }

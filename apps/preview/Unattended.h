@@ -7,12 +7,11 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! Runs the panel without a display. Without a script, takes a picture of every screen into \a folder; with
-//! one, those that the script asks for.
+//! Runs the panel without a display. With a script, saves the pictures that the script requests; otherwise
+//! saves a picture of every screen in \a folder.
 Exit runUnattended(PreviewSession &session, const QString &scriptFile, const QString &folder);
 
-//! Looks at every screen, and prints all that is wrong as an array of JSON, with "object" and "message" in
-//! each entry.
+//! Inspects every screen and prints all problems as a JSON array with "object" and "message" in each entry.
 Exit runAudit(PreviewSession &session);
 
 } // namespace Halvane::Corvex::Preview

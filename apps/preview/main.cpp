@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // corvex-preview FOLDER [--audit] [--shot DIR] [--script FILE] [--state FILE] [--temporary DIR] [--trust]:
-// runs a build on the desktop, in a window unless there is a picture to take or a script to follow.
+// runs a build on the desktop. Opens a window unless an option makes it run unattended.
 #include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/preview/Bounds.h"
 #include "corvex/preview/OutsideThread.h"
@@ -22,7 +22,7 @@ using namespace Halvane::Corvex::Preview;
 
 namespace {
 
-//! What scripts write to the console; of Qt's own remarks the last one, before it ends the program.
+//! Prints the console output of scripts. Of Qt's own messages only a fatal one is printed.
 void printMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (type == QtFatalMsg || QLatin1StringView(context.category) == "js"_L1
@@ -31,7 +31,7 @@ void printMessage(QtMsgType type, const QMessageLogContext &context, const QStri
     }
 }
 
-//! Before there is an application object, whose kind depends on it.
+//! Checks the arguments before the application object exists, because its kind depends on them.
 bool needsNoWindow(int argc, char **argv)
 {
     return std::any_of(argv + 1, argv + argc, [](const char *argument) {
@@ -48,14 +48,14 @@ Exit runInWindow(const QString &folder, const QString &stateFile)
         complain(error);
         return Exit::File;
     }
-    const QSize margin(420, 260); // for what stands beside the panel
+    const QSize margin(420, 260); // room for the docks beside the panel
     window.resize(window.session().frame()->size().toSize() + margin);
     window.show();
     return QApplication::exec() == 0 ? Exit::Done : Exit::File;
 }
 
-//! Takes from the program what a build does not need. False, once the user has been told, for a build that
-//! nobody vouches for on a system that lets every program do everything.
+//! Drops the rights that a build does not need. Returns false, after a message, if the system cannot confine
+//! the program and the user does not vouch for the build.
 bool giveUpRights(const QCommandLineParser &parser, const QString &folder)
 {
     OutsideThread::start();
@@ -70,18 +70,17 @@ bool giveUpRights(const QCommandLineParser &parser, const QString &folder)
     Bounds::set(boxes);
     QStringList readable{folder};
     if (parser.isSet(u"trust"_s)) {
-        readable.append(QFileInfo(folder).absolutePath()); // where the next build takes its place
+        readable.append(QFileInfo(folder).absolutePath()); // the next build replaces the folder in here
     }
     const bool isConfined = confine(readable, {boxes});
     if (!isConfined && !parser.isSet(u"trust"_s)) {
-        complain(
-            u"This system cannot keep a program from files and networks (Linux does, with Landlock), and "
-            "\"%1\" may hold anybody's scripts. Give the project itself, or --trust for a build of which "
-            "you know who has made it."_s.arg(folder));
+        complain(u"This system cannot confine a program (Linux can, with Landlock), and "
+                 "\"%1\" may contain scripts from anybody. Name the project itself, or add --trust if "
+                 "you trust the author of the build."_s.arg(folder));
         return false;
     }
     if (!isConfined) {
-        complain(u"The scripts of the build are not confined, since this system has no Landlock."_s);
+        complain(u"The scripts of the build are not confined, because this system has no Landlock."_s);
     }
     return true;
 }
@@ -89,7 +88,7 @@ bool giveUpRights(const QCommandLineParser &parser, const QString &folder)
 Exit run(const QCommandLineParser &parser, bool isUnattended)
 {
     if (parser.positionalArguments().size() != 1) {
-        complain(u"One folder of a build is to be given."_s);
+        complain(u"Give exactly one folder of a build."_s);
         return Exit::Usage;
     }
     const QString folder = parser.positionalArguments().constFirst();
@@ -121,19 +120,19 @@ int main(int argc, char **argv)
     if (isUnattended) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    // Panels are small, and their pictures are to be the same everywhere.
+    // Panels are small, and pictures must be the same on every machine.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const std::unique_ptr<QCoreApplication> application(isUnattended ? new QGuiApplication(argc, argv)
                                                                      : new QApplication(argc, argv));
     QCoreApplication::setApplicationName(u"corvex"_s);
 
     QCommandLineParser parser;
-    parser.addOptions({{u"shot"_s, u"Pictures of all screens."_s, u"DIR"_s},
-                       {u"script"_s, u"What to do with the panel."_s, u"FILE"_s},
-                       {u"audit"_s, u"What is wrong with the screens, as JSON."_s},
-                       {u"state"_s, u"Where persistent variables are kept."_s, u"PATH"_s},
-                       {u"temporary"_s, u"A folder for what goes with the program."_s, u"DIR"_s},
-                       {u"trust"_s, u"The build is the user's own."_s}});
+    parser.addOptions({{u"shot"_s, u"Save pictures of all screens."_s, u"DIR"_s},
+                       {u"script"_s, u"A script that operates the panel."_s, u"FILE"_s},
+                       {u"audit"_s, u"Print the problems of the screens as JSON."_s},
+                       {u"state"_s, u"The file for persistent variables."_s, u"PATH"_s},
+                       {u"temporary"_s, u"A folder for temporary files."_s, u"DIR"_s},
+                       {u"trust"_s, u"Trust the scripts of the build."_s}});
     parser.addPositionalArgument(u"FOLDER"_s, u"The folder of a build."_s);
     parser.process(*application);
     return int(run(parser, isUnattended));

@@ -92,8 +92,8 @@ TEST_F(BuildGuardTest, AllowsOnlyTheFilesOfTheBuild)
                 continue;
             }
             EXPECT_THAT(problemsOf(body),
-                        Contains(u"Main: \"%1\" is not opened: the preview reads the files of the "
-                                 "build alone."_s.arg(QString::fromUtf8(address))))
+                        Contains(u"Main: \"%1\" was not opened: the preview only reads the files of "
+                                 "the build."_s.arg(QString::fromUtf8(address))))
                 << body.constData();
             EXPECT_FALSE(m_server.hasPendingConnections()) << body.constData();
         }
@@ -138,24 +138,24 @@ TEST_F(BuildGuardTest, ReadsFilesOfTheBuild)
     ASSERT_TRUE(QFile::link(far, build.path(u"link.png"_s)));
     const auto address = [this](const QString &name) { return QString::fromUtf8(fileUrl(build.path(name))); };
     build.write(u"qmldir"_s, "module Sent\nplugin machinecode\nBeside 1.0 Beside.qml\n");
-    EXPECT_THAT(
-        problemsOf("Image { objectName: 'own'; source: 'own.png' }\n"
-                   "Image { objectName: 'link'; source: 'link.png' }\n"
-                   "Text { objectName: 'text'; text: '<img src=\""
-                       + fileUrl(far)
-                       + "\" width=\"800\">' }\n"
-                         "Gauge { objectName: 'box'; Component.onCompleted: visible = false }\n"
-                         "Component.onCompleted: Qt.openUrlExternally('own.png')\n",
-                   "expect own.status 1; expect link.status 3; expect box.visible false; expect "
-                   "text.textFormat 0"),
-        UnorderedElementsAre(
-            u"The preview knows no class \"Gauge\" and shows boxes for its elements."_s,
-            u"Main: \"%1\" is not read: the preview has the modules of the device alone."_s.arg(
-                build.path(u"qmldir"_s)),
-            u"Main: \"%1\" is not opened: the preview reads the files of the build alone."_s.arg(
-                address(u"link.png"_s)),
-            u"Main.link: QML Image: Cannot open: qrc:/refused/%1"_s.arg(address(u"link.png"_s)),
-            u"Main: \"%1\" is not shown: the preview starts no other program."_s.arg(address(u"own.png"_s))));
+    EXPECT_THAT(problemsOf("Image { objectName: 'own'; source: 'own.png' }\n"
+                           "Image { objectName: 'link'; source: 'link.png' }\n"
+                           "Text { objectName: 'text'; text: '<img src=\""
+                               + fileUrl(far)
+                               + "\" width=\"800\">' }\n"
+                                 "Gauge { objectName: 'box'; Component.onCompleted: visible = false }\n"
+                                 "Component.onCompleted: Qt.openUrlExternally('own.png')\n",
+                           "expect own.status 1; expect link.status 3; expect box.visible false; expect "
+                           "text.textFormat 0"),
+                UnorderedElementsAre(
+                    u"The preview does not support the class \"Gauge\" and shows boxes for its elements."_s,
+                    u"Main: \"%1\" was not read: the preview only has the modules of the device."_s.arg(
+                        build.path(u"qmldir"_s)),
+                    u"Main: \"%1\" was not opened: the preview only reads the files of the build."_s.arg(
+                        address(u"link.png"_s)),
+                    u"Main.link: QML Image: Cannot open: qrc:/refused/%1"_s.arg(address(u"link.png"_s)),
+                    u"Main: \"%1\" was not shown: the preview starts no other programs."_s.arg(
+                        address(u"own.png"_s))));
 }
 
 TEST_F(BuildGuardTest, BlocksLinkedFilesAndWindows)
@@ -178,9 +178,9 @@ TEST_F(BuildGuardTest, BlocksLinkedFilesAndWindows)
                    "Qt.createQmlObject('import QtQuick 2.15; Window { visible: true }', Qt.application) }");
     EXPECT_THAT(problems,
                 startsWith(u"Main: \"%1\" is not drawn: it links to "_s.arg(build.path(u"drawing.svg"_s))));
-    EXPECT_THAT(problems, startsWith(u"Main: \"%1\" is not read: "_s.arg(build.path(u"pipe.png"_s))));
-    EXPECT_THAT(problems, startsWith(u"Main: \"%1\" is not read: "_s.arg(build.path(u"Pipe.qml"_s))));
-    EXPECT_THAT(problems, startsWith(u"Main: A window of its own is not opened"_s));
+    EXPECT_THAT(problems, startsWith(u"Main: \"%1\" cannot be read: "_s.arg(build.path(u"pipe.png"_s))));
+    EXPECT_THAT(problems, startsWith(u"Main: \"%1\" cannot be read: "_s.arg(build.path(u"Pipe.qml"_s))));
+    EXPECT_THAT(problems, startsWith(u"Main: A separate window was not opened"_s));
     for (const QWindow *window : QGuiApplication::topLevelWindows()) {
         EXPECT_FALSE(window->isVisible());
     }
@@ -188,7 +188,7 @@ TEST_F(BuildGuardTest, BlocksLinkedFilesAndWindows)
     ASSERT_TRUE(QFile::remove(build.path(u"config.kdrc"_s)));
     ASSERT_EQ(mkfifo(QFile::encodeName(build.path(u"config.kdrc"_s)).constData(), 0600), 0);
     EXPECT_THAT(TestPanel(build).problems(),
-                startsWith(u"config.kdrc: \"%1\" is not read: "_s.arg(build.path(u"config.kdrc"_s))));
+                startsWith(u"config.kdrc: \"%1\" cannot be read: "_s.arg(build.path(u"config.kdrc"_s))));
 }
 
 } // namespace Halvane::Corvex::Preview

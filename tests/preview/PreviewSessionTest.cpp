@@ -152,18 +152,18 @@ TEST(PreviewSession, ReportsTheElementWithAProblem)
         ElementsAre(startingWith("11: The screen \"Spoilt\" cannot be shown.")));
     static constexpr const char *expected[] = {
         "config.kdrc: The default screen \"qml_Gone\" is missing.",
-        "broken: The variable is to hold a number",
-        "The preview knows no class \"Gauge\"",
-        "Main.noLog: The variable \"number\" is no log.",
+        "broken: The value of the variable is not a number",
+        "The preview does not support the class \"Gauge\"",
+        "Main.noLog: The variable \"number\" is not a log.",
         "Main.group.label: There is no variable \"nobody\".",
         "Main.loop: ",
         "Main.picture: ",
         "Main.hang: A script took longer than 300 ms and was stopped.",
         "Main.stuck: A script took longer than 300 ms and was stopped.",
-        "Main.wrong: \"many\" is no value for the variable \"number\".",
-        "Main.wrong: \"left\" is no value for the property \"x\".",
+        "Main.wrong: \"many\" is not a valid value for the variable \"number\".",
+        "Main.wrong: \"left\" is not a valid value for the property \"x\".",
         "Main.loader: There is no screen \"qml_Nowhere\".",
-        "Main.pingPong: Its rules set themselves off again and again.",
+        "Main.pingPong: Its rules trigger themselves endlessly.",
         "Spoilt.label: ",
     };
     for (const char *problem : expected) {
@@ -215,7 +215,7 @@ TEST(PreviewSession, OpensAnIncompleteBuild)
     file.resize(file.size() - 3);
     TestPanel panel(build);
     EXPECT_TRUE(panel.isOpen);
-    EXPECT_THAT(panel.problems(), ElementsAre(startingWith("config.kdrc: The file is cut off")));
+    EXPECT_THAT(panel.problems(), ElementsAre(startingWith("config.kdrc: The file is incomplete")));
 
     build.writeConfiguration(QString(), u"Plant-one-4.0.0"_s);
     EXPECT_THAT(TestPanel(build).problems(), IsEmpty());
@@ -229,7 +229,7 @@ TEST(PreviewSession, SurvivesDocumentsThatAreNotGenerated)
     static constexpr std::pair<const char *, const char *> documents[] = {
         {"", "Main: File is empty"},
         {"import QtQuick 1.1\nimport QtQml 2.15 as Q\nQ.QtObject {}",
-         "qml_Main.qml: The document is none of a screen."},
+         "qml_Main.qml: This document does not define a screen."},
         {"import QtQuick 2.0 as Q\nQ.Item { Q.Loader { source: \"qml_Main.qml\" } }",
          "Main: Maximum call stack size exceeded."},
         {"import QtQuick 2.0 as Q\nQ.Item { objectName: \"Main\"; x: { while (true) {} } }",
@@ -274,7 +274,8 @@ TEST(PreviewSession, WritesOnlyItsOwnFile)
         build.write(u"kept.json"_s, content);
         const TestPanel panel(build, state);
         EXPECT_FALSE(panel.isOpen) << content;
-        EXPECT_TRUE(panel.error.contains(u"holds no saved values of a preview"_s)) << qPrintable(panel.error);
+        EXPECT_TRUE(panel.error.contains(u"does not contain saved values of a preview"_s))
+            << qPrintable(panel.error);
     }
     // A file that was replaced while the panel runs is not written either.
     QFile::remove(state);
@@ -330,10 +331,10 @@ TEST(PreviewSession, InspectsItsScreens)
     EXPECT_THAT(found, ElementsAre(startingWith("Main.wide: The text does not fit: it needs "),
                                    startingWith("Main.gone: The element is outside of the screen."),
                                    startingWith("Main.cut: A part"),
-                                   startingWith("Main.group.hidden: Other elements hide"),
-                                   startingWith("Main.group.below: Other elements hide"),
-                                   startingWith("Main.frame: Other elements hide"),
-                                   startingWith("Main.framed: Other elements hide")));
+                                   startingWith("Main.group.hidden: Other elements completely hide"),
+                                   startingWith("Main.group.below: Other elements completely hide"),
+                                   startingWith("Main.frame: Other elements completely hide"),
+                                   startingWith("Main.framed: Other elements completely hide")));
 }
 
 } // namespace Halvane::Corvex::Preview

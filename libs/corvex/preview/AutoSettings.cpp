@@ -14,7 +14,7 @@ AutoSettings::AutoSettings(SavedState &state)
 
 QStringList AutoSettings::pathsOf(const QVariantMap &record)
 {
-    // "<0308Main.box.color><0304Main.box.x>", one term without the brackets; 03 are properties of elements.
+    // "<0308Main.box.color><0304Main.box.x>"; a single term has no brackets. 03 marks properties of elements.
     QString text = record.value(u"value"_s).toString();
     if (text.startsWith(u'<') && text.endsWith(u'>')) {
         text = text.sliced(1, text.size() - 2);

@@ -13,7 +13,7 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! Saves the properties that auto-setting variables list, and gives them to their elements again.
+//! Saves the properties that auto-setting variables list, and restores them.
 class AutoSettings : public QObject
 {
     Q_OBJECT
@@ -21,18 +21,18 @@ class AutoSettings : public QObject
 public:
     explicit AutoSettings(SavedState &state);
 
-    //! A path is "Main.box.color", or "box.color" for the elements of that name on every screen. The record
-    //! of a variable holds them as an expression.
+    //! The paths in the record of a variable, which stores them as an expression. A path is "Main.box.color",
+    //! or "box.color" for the elements with that name on every screen.
     static QStringList pathsOf(const QVariantMap &record);
 
     void add(const QStringList &paths) { m_paths += paths; }
-    //! Gives what is saved to the elements of a screen and follows them until it is deleted.
+    //! Applies the saved values to the elements of a screen and watches the elements until it is deleted.
     void attach(const QString &screen, const std::function<QObject *(const QString &)> &find);
 
 private:
     SavedState &m_state;
     QStringList m_paths;
-    //! Those of the screen that is shown.
+    //! for the current screen
     std::vector<std::unique_ptr<QObject>> m_watchers;
 };
 

@@ -19,7 +19,7 @@ constexpr qsizetype placeSize = 512;
 constexpr rlim_t mostOpenFiles = 512;
 constexpr rlim_t longestWritten = rlim_t(256) * 1024 * 1024;
 
-//! Mapped, so that what is in it is there however the process ends.
+//! A mapped file, whose contents remain however the process ends.
 uchar *s_place = nullptr;
 QString s_current;
 bool s_isSet = false;
@@ -64,7 +64,7 @@ void Bounds::set(const QString &folder)
     limit(RLIMIT_NOFILE, mostOpenFiles);
     limit(RLIMIT_FSIZE, longestWritten);
     limit(RLIMIT_CORE, 0);
-    std::signal(SIGXFSZ, SIG_IGN);            // writing fails instead
+    std::signal(SIGXFSZ, SIG_IGN);            // let writes fail instead
     std::set_terminate([] { std::abort(); }); // the parent process reports the error
     renew();
 }

@@ -5,25 +5,24 @@
 
 namespace Halvane::Corvex::Preview {
 
-/*! What the process of a preview may use. It ends at these bounds, as Qt ends where memory is short, and
-   leaves in a file at which place that was, for the program that has started it. Without set() nothing is
-   bounded. */
+//! The resource limits of a preview process. A process that exceeds them ends, and a file tells the parent
+//! process which element or screen was active. Before set() nothing is limited.
 class Bounds
 {
 public:
-    //! Addresses, beside those that the program has before: drivers of displays reserve many.
+    //! Address space beyond what the program has at the start; display drivers reserve a lot.
     static constexpr qint64 memory = qint64(2) * 1024 * 1024 * 1024;
-    static constexpr int processorSeconds = 60;                     //!< from one renewal to the next
-    static constexpr qint64 longestFile = qint64(32) * 1024 * 1024; //!< of those that a build is made of
+    static constexpr int processorSeconds = 60;                     //!< per call of renew()
+    static constexpr qint64 longestFile = qint64(32) * 1024 * 1024; //!< for the files of a build
 
-    //! In the folder that set() is given: the last place in UTF-8, with a zero behind it.
+    //! The file in the folder of set() that contains the active place in UTF-8, terminated by a zero.
     static constexpr char placeFile[] = "/place";
 
-    //! Once. The folder is there.
+    //! Call it once. The folder must exist.
     static void set(const QString &folder);
-    //! Gives a new stretch of processor time.
+    //! Restarts the limit on processor time.
     static void renew();
-    //! The element or screen whose turn it is, as a text for the user; the one before comes back.
+    //! Sets the active element or screen, as a text for the user. Returns the previous one.
     static QString enter(const QString &place);
 };
 

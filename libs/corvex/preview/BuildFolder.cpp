@@ -34,7 +34,7 @@ bool BuildFolder::open(const QString &path, QString *error)
     *this = BuildFolder();
     m_path = projectPath(path);
     if (!findScreens()) {
-        *error = u"\"%1\" holds no screens. Make it with \"corvex build FILE -o DIR\"."_s.arg(path);
+        *error = u"\"%1\" contains no screens. Create it with \"corvex build FILE -o DIR\"."_s.arg(path);
         return false;
     }
     readConfiguration();
@@ -75,7 +75,7 @@ void BuildFolder::readConfiguration()
     if (!ok || configuration.value(u"variables"_s).metaType() != QMetaType::fromType<QVariantMap>()) {
         m_problems.append(
             {configurationFile,
-             u"The file is cut off, or none of a build, so there are no variables. Build the project anew."_s});
+             u"The file is incomplete or not from a build, so there are no variables. Build the project again."_s});
         return;
     }
     checkVersion(configuration.value(u"version"_s).toString());
@@ -115,8 +115,8 @@ void BuildFolder::checkVersion(const QString &tag)
     if (QVersionNumber::fromString(version) > QVersionNumber::fromString(known)) {
         m_problems.append(
             {configurationFile,
-             u"The build was made by version %1, and this preview knows builds up to version %2. It "
-             "may show and do other things than the device."_s.arg(version, known)});
+             u"The build was made by version %1, but this preview supports builds up to version %2. It "
+             "may behave differently than the device."_s.arg(version, known)});
     }
 }
 

@@ -9,7 +9,7 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! What a build has put into its folder "project". Nothing is written there.
+//! Reads the folder "project" of a build. Never writes there.
 class BuildFolder
 {
 public:
@@ -19,28 +19,29 @@ public:
         QmlOutline outline;
     };
 
-    //! Takes the folder of the build or its "project". False, with a text for the user, without any screen.
+    //! Accepts the folder of the build or its "project". Returns false, with a text for the user, if there
+    //! are no screens.
     bool open(const QString &path, QString *error);
 
     const QString &path() const { return m_path; }
-    //! By QML id: "qml_Main".
+    //! Indexed by QML id: "qml_Main".
     const QMap<QString, ScreenFile> &screens() const { return m_screens; }
-    //! The QML id of the screen to show first.
+    //! The QML id of the default screen.
     QString defaultScreen() const;
-    //! From name to record: "type", "value", "persistent".
+    //! The record of each variable by name: "type", "value", "persistent".
     const QVariantMap &variables() const { return m_variables; }
     //! From a class to the one that the preview shows in its place.
     const QMap<QString, QString> &previews() const { return m_previews; }
-    //! What is wrong with the folder without keeping its screens from being shown: file and message.
+    //! Problems of the folder that do not prevent its screens from being shown: file and message.
     const QList<std::pair<QString, QString>> &problems() const { return m_problems; }
-    //! Another one when a file of the folder has been written anew, came or went.
+    //! A value that changes when a file of the folder is changed, added or removed.
     static QString stampOf(const QString &path);
 
 private:
     bool findScreens();
     void readConfiguration();
     void readPreviews();
-    //! The text of the configuration file that tells what made the build: "PumpStation-4.0.0", encrypted.
+    //! Checks the version in the configuration file, "PumpStation-4.0.0" in encrypted form.
     void checkVersion(const QString &tag);
 
     QString m_path;

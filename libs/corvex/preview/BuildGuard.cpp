@@ -25,15 +25,15 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-//! Those that screens import, and what these need in one version of Qt or another.
+//! The modules that screens import, and their dependencies in any supported version of Qt.
 constexpr auto modules =
     std::to_array<const char *>({"QML", "QtQml", "QtQml/Models", "QtQuick", "RuntimeObjects"});
 const QString listOfModule = u"/qmldir"_s;
-constexpr int newestMinorVersion = 254; // that Qt knows
+constexpr int newestMinorVersion = 254; // the highest that Qt accepts
 
-//! Of addresses that intercept() leaves as they are, though no other program is to get them.
+//! Schemes of addresses that intercept() passes; they must not be opened by other programs either.
 const QStringList ourSchemes{u"data"_s, u"file"_s, u"qrc"_s};
-//! The one that has the desktop's handlers; a new session has them before the old one ends.
+//! The guard that receives requests to open URLs. A new session takes over before the old one ends.
 BuildGuard *s_current = nullptr;
 
 bool isOurs(const QUrl &url)
@@ -43,7 +43,7 @@ bool isOurs(const QUrl &url)
 
 const QString refusedFolder = u"/refused/"_s;
 
-//! An address of the program at which there is nothing, and which tells what was asked for.
+//! An address without contents. It contains the requested one, for the message.
 QUrl nothingFor(const QUrl &url)
 {
     QUrl nothing(u"qrc:"_s);
@@ -51,7 +51,7 @@ QUrl nothingFor(const QUrl &url)
     return nothing;
 }
 
-//! What is in a picture or a text that came with its address passes, and nothing else does.
+//! Blocks all requests except those for data in the address itself.
 class ClosedNetwork : public QNetworkAccessManager
 {
 public:
@@ -65,7 +65,7 @@ protected:
                                  QIODevice *data) override
     {
         const QUrl url = m_guard.intercept(request.url(), QQmlAbstractUrlInterceptor::UrlString);
-        // A file of the build is not read this way: a script would see what is in it.
+        // Files of the build cannot be requested either, because a script could read the answer.
         const QUrl ours = isOurs(url) ? url : nothingFor(url);
         return QNetworkAccessManager::createRequest(operation, QNetworkRequest(ours), data);
     }
@@ -88,7 +88,7 @@ BuildGuard::~BuildGuard()
 
 void BuildGuard::guard(QQmlEngine &engine)
 {
-    // What stands as "qml_Main.qmlc" beside a document would be taken for its compiled form.
+    // Otherwise a file "qml_Main.qmlc" beside a document would be used as its compiled form.
     qputenv("QML_DISABLE_DISK_CACHE", "1");
     for (QString path : engine.importPathList()) {
         m_importPaths.append(path.remove(u"qrc:"_s) + u'/');
@@ -109,12 +109,12 @@ void BuildGuard::allow(const QStringList &folders)
     for (const QString &folder : folders) {
         m_folders += {QDir::cleanPath(folder), QFileInfo(folder).canonicalFilePath()};
     }
-    m_folders.removeAll(QString()); // of a folder that is not there
+    m_folders.removeAll(QString()); // missing folders
 }
 
 bool BuildGuard::isAllowed(const QString &path) const
 {
-    // A link counts as what it leads to; a file that is missing may be asked for.
+    // Resolve links. A missing file may be requested.
     const QFileInfo file(path);
     const QString folder =
         file.exists() ? QFileInfo(file.canonicalFilePath()).path() : QFileInfo(QDir::cleanPath(path)).path();
@@ -123,8 +123,8 @@ bool BuildGuard::isAllowed(const QString &path) const
     });
 }
 
-/*! The module "QtQuick/Window" for a list in one of the folders of modules, whose names may have a version:
-   "QtQuick.2/Window". Empty for a list elsewhere. */
+//! The module "QtQuick/Window" for a qmldir file in one of the module folders, whose names may contain a
+//! version: "QtQuick.2/Window". Empty for a file elsewhere.
 QString BuildGuard::moduleOf(const QString &path) const
 {
     static const QRegularExpression version(u"\\.[0-9.]+(?=/|$)"_s);
@@ -136,12 +136,12 @@ QString BuildGuard::moduleOf(const QString &path) const
     return {};
 }
 
-/*! Types that come with the libraries of Qt need no list. An engine asks for the list of a module before it
-   looks for these types. A locked module can be imported, in any version, and has none. */
+//! Types built into the Qt libraries need no qmldir file. The engine requests the file of a module before it
+//! looks for these types. A locked module can be imported in any version but has no types.
 void BuildGuard::lockModule(const QString &module)
 {
     static QMutex mutex;
-    static QSet<QString> locked; // for good, in all engines
+    static QSet<QString> locked; // permanently, in all engines
     const QMutexLocker lock(&mutex);
     if (locked.contains(module)) {
         return;
@@ -155,7 +155,7 @@ void BuildGuard::lockModule(const QString &module)
     }
 }
 
-//! The list of what a folder offers as a module. One that is not let through is missing, in a folder of ours.
+//! The qmldir file of a folder. For a blocked module, the address of a missing file in our own folder.
 QUrl BuildGuard::moduleFile(const QUrl &url)
 {
     const QString path = url.isLocalFile() ? url.toLocalFile() : url.path();
@@ -167,7 +167,7 @@ QUrl BuildGuard::moduleFile(const QUrl &url)
     if (!module.isEmpty()) {
         lockModule(module);
     } else if (QFileInfo::exists(path)) {
-        emit refused(u"\"%1\" is not read: the preview has the modules of the device alone."_s.arg(path));
+        emit refused(u"\"%1\" was not read: the preview only has the modules of the device."_s.arg(path));
     }
     return QUrl(u"qrc:/corvex/preview/qmldir"_s);
 }
@@ -176,13 +176,13 @@ bool BuildGuard::eventFilter(QObject *watched, QEvent *event)
 {
     auto *window = event->type() == QEvent::Show ? qobject_cast<QWindow *>(watched) : nullptr;
     if (window && qmlEngine(window) == m_engine) {
-        emit refused(u"A window of its own is not opened: a panel has one screen at a time."_s);
+        emit refused(u"A separate window was not opened: a panel shows one screen at a time."_s);
         QMetaObject::invokeMethod(window, &QWindow::destroy, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
 }
 
-//! What is wrong with a file that may be read by its place. A picture may lead further.
+//! Why a file in an allowed folder must not be read; images may refer to other files.
 QString BuildGuard::fileProblem(const QUrl &url, DataType type) const
 {
     const QString path = url.toLocalFile();
@@ -202,7 +202,7 @@ QUrl BuildGuard::intercept(const QUrl &url, DataType type)
         return m_replaced.value(url, url);
     }
     const bool isFile = url.isLocalFile() && type != JavaScriptFile;
-    QString problem = u"\"%1\" is not opened: the preview reads the files of the build alone."_s.arg(
+    QString problem = u"\"%1\" was not opened: the preview only reads the files of the build."_s.arg(
         url.toString(QUrl::RemoveUserInfo));
     if (isFile && isAllowed(url.toLocalFile())) {
         problem = fileProblem(url, type);
@@ -217,9 +217,9 @@ QUrl BuildGuard::intercept(const QUrl &url, DataType type)
 void BuildGuard::refuseToShow(const QUrl &url)
 {
     if (url.path().startsWith(refusedFolder)) {
-        return; // and was told already
+        return; // reported already
     }
-    emit refused(u"\"%1\" is not shown: the preview starts no other program."_s.arg(url.toString()));
+    emit refused(u"\"%1\" was not shown: the preview starts no other programs."_s.arg(url.toString()));
 }
 
 QNetworkAccessManager *BuildGuard::create(QObject *parent)

@@ -5,7 +5,8 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-//! How often one element may react in one go. Rules that settle do so in as many rounds as there are rules.
+//! The limit for reactions of one element in a single pass. Rules that converge need at most as many rounds
+//! as there are rules.
 constexpr int mostRounds = 200;
 
 } // namespace

@@ -8,7 +8,7 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! What reacts to values that change, one after the other.
+//! An element that reacts to changed values.
 class Reaction
 {
 public:
@@ -16,8 +16,8 @@ public:
     virtual void react() = 0;
 };
 
-/*! Collects the elements whose values have changed and lets each react once for all changes at a time. What
-   they do may wake others, or themselves. */
+//! Collects the elements whose values have changed, and lets each react once to all changes. A reaction may
+//! wake other elements, or its own.
 class LogicQueue : public QObject
 {
     Q_OBJECT
@@ -25,12 +25,12 @@ class LogicQueue : public QObject
 public:
     explicit LogicQueue(QObject *parent = nullptr);
 
-    //! Reacts when control comes back to the event loop, or with the next flush.
+    //! The reaction runs when control returns to the event loop, or with the next flush.
     void wake(QObject *element, Reaction *reaction);
     void flush();
 
 signals:
-    //! \a element has set itself off again and again, and is left in peace until something else wakes it.
+    //! \a element keeps triggering itself. It stays inactive until something else wakes it.
     void isEndless(QObject *element);
 
 private:

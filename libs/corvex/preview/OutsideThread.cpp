@@ -39,7 +39,7 @@ std::unique_ptr<Outside> &outside()
 void OutsideThread::start()
 {
     outside() = std::make_unique<Outside>();
-    run([] {}); // by then the system knows it
+    run([] {}); // wait until the system has started it
 }
 
 void OutsideThread::run(const std::function<void()> &task)

@@ -5,14 +5,14 @@
 
 namespace Halvane::Corvex::Preview {
 
-/*! A thread that keeps the rights which the rest of the program gives up, since it began before. It reads and
-   writes the files that the user has named: saved values, pictures, scripts. */
+//! A thread that keeps the rights that the rest of the program drops, because it was started before. It reads
+//! and writes the files that the user has named: saved values, pictures, scripts.
 class OutsideThread
 {
 public:
-    //! Once for the program, before it gives up anything.
+    //! Call it once, before the program drops its rights.
     static void start();
-    //! Does the task there and waits for it; here and now when there is no such thread.
+    //! Runs the task in that thread and waits for it; without the thread, runs it directly.
     static void run(const std::function<void()> &task);
 };
 

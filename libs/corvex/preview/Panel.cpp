@@ -30,9 +30,8 @@ Panel::Panel(QObject *parent)
     m_guard.guard(m_engine);
     connect(&m_clock, &Clock::ticked, &m_logic, &LogicQueue::flush);
     connect(&m_logic, &LogicQueue::isEndless, this, [this](QObject *element) {
-        report(element,
-               u"Its rules set themselves off again and again. They are left alone until another value "
-               "changes."_s);
+        report(element, u"Its rules trigger themselves endlessly. They are stopped until another value "
+                        "changes."_s);
     });
 }
 

@@ -13,7 +13,7 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! The device as the elements of its screens see it.
+//! The device, from the view of the elements on its screens.
 class Panel : public QObject
 {
     Q_OBJECT
@@ -31,14 +31,15 @@ public:
     ProblemLog &problems() { return m_problems; }
     Watchdog &watchdog() { return m_watchdog; }
 
-    //! The panel on which an object of QML stands.
+    //! The panel that shows a QML object.
     static Panel *of(const QObject *object);
-    //! "Main.label1" for an object on a screen, from the names of those that it stands in.
+    //! The path of an object on a screen, "Main.label1", from the names of its parents.
     static QString pathOf(const QObject *object);
     void report(const QObject *element, const QString &message);
 
 signals:
-    //! By its QML id. Not before control is back in the event loop, as the screen that asks is deleted.
+    //! A request for a screen by its QML id. Handle it from the event loop, because the requesting screen is
+    //! deleted.
     void screenWanted(const QString &screen, const QString &element);
 
 private:
@@ -52,11 +53,11 @@ private:
     BuildGuard m_guard;
     QQmlEngine m_engine;
     Watchdog m_watchdog;
-    QString m_stopped; //!< the element whose script the watchdog has stopped, until that is told
+    QString m_stopped; //!< the element whose script the watchdog stopped, until it is reported
 };
 
-//! A stretch in which scripts of an element may run. Tells when they had to be stopped; of stretches within
-//! each other the innermost that was.
+//! A scope in which scripts of an element may run. Reports if they were stopped; with nested scopes, the
+//! innermost one reports.
 class ScriptScope
 {
 public:

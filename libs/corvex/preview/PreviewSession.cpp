@@ -49,8 +49,9 @@ bool PreviewSession::load(const QString &path, QString *error)
         m_panel->problems().report(file, message);
     }
     for (const QString &name : StandIns::addUnknownClasses(m_build)) {
-        m_panel->problems().report(QString(), u"The preview knows no class \"%1\" and shows boxes for its "
-                                              "elements."_s.arg(name));
+        m_panel->problems().report(QString(),
+                                   u"The preview does not support the class \"%1\" and shows boxes for its "
+                                   "elements."_s.arg(name));
     }
     m_panel->guard().replace(StandIns::screenDocument(), StandIns::screenDocumentFor(m_build));
     m_panel->guard().allow({m_build.path(), StandIns::boxFolder()});
@@ -68,7 +69,7 @@ void PreviewSession::start()
     restoreState();
     new Viewer(*m_panel, [this](const QString &file, int line) { return locate(file, line); });
     connect(&m_panel->engine(), &QQmlEngine::warnings, this, &PreviewSession::takeWarnings);
-    // The screen that asks is in the middle of its handler, and deleted when another one is shown.
+    // The requesting screen is still in its handler, and is deleted when another screen is shown.
     connect(
         m_panel.get(), &Panel::screenWanted, this,
         [this](const QString &id, const QString &element) {
@@ -96,7 +97,7 @@ void PreviewSession::addVariables()
 {
     for (const auto &[name, value] : m_build.variables().asKeyValueRange()) {
         const QVariantMap record = value.toMap();
-        // "Rectangle.savedLook": the elements of a class whose settings are kept.
+        // "Rectangle.savedLook": the elements of a class with saved settings.
         if (name.contains(u'.')) {
             m_settings.add(AutoSettings::pathsOf(record));
         } else {
@@ -119,8 +120,8 @@ void PreviewSession::addVariable(const QString &name, const QVariantMap &record)
                                                   record.value(u"persistent"_s).toBool());
     const QVariant value = record.value(u"value"_s);
     if (!variable->setValue(value)) {
-        m_panel->problems().report(name, u"The variable is to hold a %1, and its value is none."_s.arg(
-                                             Variable::nameOf(variable->type())));
+        m_panel->problems().report(
+            name, u"The value of the variable is not a %1."_s.arg(Variable::nameOf(variable->type())));
     }
 }
 
@@ -132,7 +133,7 @@ void PreviewSession::restoreState()
     connect(&m_state, &SavedState::failed, this,
             [this](const QString &message) { m_panel->problems().report(QString(), message); });
     for (Variable *variable : m_panel->variables().variables()) {
-        // A value of another type is one of an earlier build.
+        // A saved value of another type is from an earlier build.
         if (variable->isPersistent() && m_state.contains(variable->name())) {
             variable->setValue(m_state.value(variable->name()));
         }
@@ -151,14 +152,14 @@ QString PreviewSession::locate(const QString &file, int line) const
     if (screen == m_build.screens().cend()) {
         return QFileInfo(file).fileName();
     }
-    // An engine that has run out of stack knows no line.
+    // An engine without free stack gives no line.
     const QString path = line < 1 ? name.sliced(idPrefix.size()) : screen->outline.pathAt(line);
     return path.isEmpty() ? u"%1.qml:%2"_s.arg(name, QString::number(line)) : path;
 }
 
 void PreviewSession::takeWarnings(const QList<QQmlError> &warnings)
 {
-    // While an engine is interrupted, nothing that is evaluated has a value.
+    // While the engine is interrupted, expressions have no values.
     const bool isInterrupted = m_panel->engine().isInterrupted();
     for (const QQmlError &warning : warnings) {
         if (isInterrupted && warning.url().scheme() == "qrc"_L1) {
@@ -216,7 +217,7 @@ QQuickItem *PreviewSession::makeScreen(const QString &id)
     if (!item) {
         if (object) {
             component.completeCreate();
-            m_panel->problems().report(id + u".qml"_s, u"The document is none of a screen."_s);
+            m_panel->problems().report(id + u".qml"_s, u"This document does not define a screen."_s);
         }
         return nullptr;
     }
@@ -252,7 +253,7 @@ QObject *PreviewSession::find(QStringView path) const
     if (!m_screen) {
         return nullptr;
     }
-    // Names are those of one screen, so the groups in between may be left out, and the screen itself.
+    // Names are unique on a screen, so the screen and the groups in a path may be omitted.
     const QString name = path.sliced(path.lastIndexOf(u'.') + 1).toString();
     const QString screenName = m_screen->objectName();
     if (path == screenName) {

@@ -12,9 +12,8 @@
 
 namespace Halvane::Corvex::Preview {
 
-/*! A build, running. Shows one screen at a time in an item that a window takes up, and keeps a log of all
-   that goes wrong. Needs a GUI application, and Qt Quick to be set to software graphics before there is a
-   window. */
+//! Runs a build. Shows one screen at a time in an item for a window, and logs all problems. Needs a GUI
+//! application; Qt Quick must be set to software graphics before the first window.
 class PreviewSession : public QObject
 {
     Q_OBJECT
@@ -23,39 +22,40 @@ public:
     explicit PreviewSession(QObject *parent = nullptr);
     ~PreviewSession() override;
 
-    /*! Where the panel keeps what outlives it; before open. False, with a text for the user, for a file that
-        holds something else. */
+    //! The file for saved values. Call it before open(). Returns false, with a text for the user, if the file
+    //! contains anything else.
     bool keepStateIn(const QString &file, QString *error);
-    //! Writes what is not in that file yet.
+    //! Writes unsaved values to that file.
     void flushState() { m_state.flush(); }
-    /*! Reads a build, of which a thread of its own then reads the first screen. False, with a text for the
-       user, when there is nothing to show. */
+    //! Reads a build and loads its first screen in a thread of its own. Returns false, with a text for the
+    //! user, if there is nothing to show.
     bool load(const QString &path, QString *error);
-    //! Gives the variables their values and shows the first screen; once, after load.
+    //! Initializes the variables and shows the first screen. Call it once, after load().
     void start();
-    //! Loads and starts.
+    //! Calls load() and start().
     bool open(const QString &path, QString *error);
     const BuildFolder &build() const { return m_build; }
     Panel &panel() { return *m_panel; }
-    //! What the window shows. It is as large as the screen.
+    //! The item for the window. It has the size of the screen.
     QQuickItem *frame() { return m_frame.get(); }
 
-    //! Identifier names, "Main", in the order of the files.
+    //! Identifier names, "Main", in file order.
     QStringList screens() const;
-    //! The identifier name of the screen that is shown; empty without one.
+    //! The identifier name of the current screen; empty without one.
     QString screen() const;
     QQuickItem *screenItem() const { return m_screen; }
-    //! False, with a problem in the log, for a screen that there is none of or that does not load.
+    //! Returns false, and logs a problem, if the screen does not exist or cannot be loaded.
     bool showScreen(const QString &name);
-    //! Lets all that is under way come to an end, time apart.
+    //! Completes all pending work that does not need time to pass.
     void settle();
 
-    //! An element of the screen by its name or by the path of names to it, the screen's own included; null
-    //! when there is none.
+    //! An element of the screen by name or by path, which may include the screen's name; null if there is
+    //! none.
     QObject *find(QStringView path) const;
-    //! The item itself, or what a function element works with; null for an element that is not touched.
+    //! The item itself, or the item that a function element works with; null if the element cannot be
+    //! touched.
     QQuickItem *touchedItem(QObject *element) const;
-    //! On the frame.
+    //! In coordinates of the frame.
     QPointF middleOf(const QQuickItem *item) const;
 
 signals:
@@ -76,7 +76,7 @@ private:
     SavedState m_state;
     AutoSettings m_settings;
     std::unique_ptr<Panel> m_panel;
-    std::unique_ptr<QQmlComponent> m_first; //!< the first screen on its way, until it is there
+    std::unique_ptr<QQmlComponent> m_first; //!< the first screen while it is being loaded
     std::unique_ptr<QQuickItem> m_frame;
     QPointer<QQuickItem> m_screen;
     QString m_screenId;

@@ -7,7 +7,7 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-//! One pass over the text: braces, the names before them, and "name:" at the start of a line.
+//! Scans the text once for braces, the names before them, and "name:" at the start of a line.
 class Scanner
 {
 public:
@@ -33,7 +33,7 @@ private:
     void name();
     void open(QChar bracket);
     void close();
-    //! Of the object that the scanner stands in directly; noObject inside a handler or an expression.
+    //! The object that directly contains the position; noObject inside a handler or an expression.
     qsizetype current() const { return m_levels.isEmpty() ? noObject : m_levels.last().object; }
     qsizetype enclosing() const;
     void takeString(const QString &value);
@@ -43,9 +43,9 @@ private:
     QList<Level> m_levels;
     qsizetype m_place = 0;
     int m_line = 1;
-    bool m_isAtStart = true; //!< of a line or a statement
-    QString m_name;          //!< the last one, nothing but blanks behind it
-    QString m_property;      //!< of the line
+    bool m_isAtStart = true; //!< at the start of a line or a statement
+    QString m_name;          //!< the last name, with only blanks after it
+    QString m_property;      //!< of the current line
 };
 
 void Scanner::skipComment()

@@ -8,27 +8,28 @@
 
 namespace Halvane::Corvex::Preview {
 
-/*! The objects of a QML document, found without the QML engine, which reads nothing of a document with one
-   wrong line. Takes any text; of one that is no QML the outline is empty or short. */
+//! Finds the objects of a QML document without the QML engine, which rejects the whole document because of
+//! one wrong line. Accepts any text; if it is not QML, the outline is empty or incomplete.
 class QmlOutline
 {
 public:
     struct Object
     {
         QString className;
-        QString path;  //!< "Main.group.label", of the names of the objects around it
-        int firstLine; //!< from 1
+        QString path;  //!< "Main.group.label", from the names of the enclosing objects
+        int firstLine; //!< counted from 1
         int lastLine;
-        QStringList properties; //!< what is set, handlers among it: "width", "font.bold", "onPressed"
+        QStringList properties; //!< everything that is set, including handlers: "width", "font.bold",
+                                //!< "onPressed"
         QString variable;       //!< the text of the property "variable"
         QStringList lists;      //!< those of the properties that are set to a list
     };
 
     explicit QmlOutline(const QString &text = QString());
 
-    //! In the order of the text, each before those inside it.
+    //! In the order of the text, parents before children.
     const QList<Object> &objects() const { return m_objects; }
-    //! The path of the innermost object around a line; empty when there is none.
+    //! The path of the innermost object at a line; empty if there is none.
     QString pathAt(int line) const;
 
 private:

@@ -19,7 +19,7 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-// Fractions of a pixel are nobody's business.
+// Ignore fractions of a pixel.
 constexpr double tolerance = 0.5;
 
 bool isDrawn(const QQuickItem *item)
@@ -28,7 +28,7 @@ bool isDrawn(const QQuickItem *item)
     return !item->objectName().isEmpty() && !item->property("indexes").isValid();
 }
 
-//! Children in the order in which they are drawn.
+//! The children in drawing order.
 QList<QQuickItem *> sortedChildren(const QQuickItem *item)
 {
     QList<QQuickItem *> children = item->childItems();
@@ -55,7 +55,7 @@ bool isUpright(const QQuickItem *item, const QQuickItem *screen)
     return true;
 }
 
-//! A picture that fills the item and has no transparent parts.
+//! Whether it is an image that fills the item and has no transparent parts.
 bool isOpaqueImage(const QQuickItem *item)
 {
     constexpr int stretched = 0;
@@ -126,7 +126,7 @@ void ScreenAudit::checkText(const Drawn &drawn)
     const double neededHeight = drawn.item->property("contentHeight").toDouble();
     if (neededWidth > drawn.item->width() + tolerance || neededHeight > drawn.item->height() + tolerance) {
         report(drawn.item,
-               u"The text does not fit: it needs %1 pixels and has %2."_s.arg(
+               u"The text does not fit: it needs %1 pixels but has %2."_s.arg(
                    size(neededWidth, neededHeight), size(drawn.item->width(), drawn.item->height())));
     }
 }
@@ -138,7 +138,7 @@ void ScreenAudit::checkPlace(const Drawn &drawn)
     if (drawn.rect.isEmpty() || within.contains(drawn.rect)) {
         return;
     }
-    report(drawn.item, screen.intersects(drawn.rect) ? u"A part of the element is outside of the screen."_s
+    report(drawn.item, screen.intersects(drawn.rect) ? u"Part of the element is outside of the screen."_s
                                                      : u"The element is outside of the screen."_s);
 }
 
@@ -150,7 +150,7 @@ QRect ScreenAudit::opaquePart(const Drawn &drawn) const
     if (!isFilled || effectiveOpacity(drawn.item, m_screen) < 1 || !isUpright(drawn.item, m_screen)) {
         return {};
     }
-    // Inside the round corners, and whole pixels.
+    // Exclude the rounded corners and partial pixels.
     const double corner = radius.toDouble() * (1 - M_SQRT1_2);
     const QRectF inside = drawn.rect.adjusted(corner, corner, -corner, -corner);
     return QRect(QPoint(int(std::ceil(inside.left())), int(std::ceil(inside.top()))),
@@ -164,7 +164,7 @@ void ScreenAudit::checkCovers()
     for (auto drawn = m_drawn.crbegin(); drawn != m_drawn.crend(); ++drawn) {
         const QRect seen = drawn->rect.toAlignedRect() & screen;
         if (!seen.isEmpty() && QRegion(seen).subtracted(covered).isEmpty()) {
-            report(drawn->item, u"Other elements hide the element wholly."_s);
+            report(drawn->item, u"Other elements completely hide the element."_s);
         }
         covered += opaquePart(*drawn);
     }

@@ -11,21 +11,21 @@ class QQuickItem;
 
 namespace Halvane::Corvex::Preview {
 
-/*! What a person would find wrong when looking at a screen: texts that do not fit, elements that stand
-   outside of the screen, and elements that rectangles and pictures without transparent parts cover wholly.
-   Elements that are not visible at the moment are left alone. */
+//! Finds the visible problems of a screen: texts that do not fit, elements outside of the screen, and
+//! elements that are completely covered by rectangles or by images without transparent parts. Ignores
+//! invisible elements.
 class ScreenAudit
 {
 public:
-    //! A screen that has been laid out.
+    //! The screen must have been laid out.
     static QList<PanelProblem> find(QQuickItem *screen);
 
 private:
-    //! An element as it is drawn.
+    //! An element in drawing order.
     struct Drawn
     {
         QQuickItem *item;
-        QRectF rect; //!< on the screen
+        QRectF rect; //!< in screen coordinates
     };
 
     explicit ScreenAudit(QQuickItem *screen);
@@ -35,11 +35,11 @@ private:
     void checkText(const Drawn &drawn);
     void checkPlace(const Drawn &drawn);
     void checkCovers();
-    //! What of the screen an element hides, certainly.
+    //! The area that an element covers in any case.
     QRect opaquePart(const Drawn &drawn) const;
 
     QQuickItem *m_screen;
-    QList<Drawn> m_drawn; //!< the topmost last
+    QList<Drawn> m_drawn; //!< topmost element last
     QList<PanelProblem> m_problems;
 };
 

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! Tells when a property of a QML object has another value.
+//! Reports changes of a property of a QML object.
 class SettingWatcher : public QObject
 {
     Q_OBJECT

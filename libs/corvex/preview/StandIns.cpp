@@ -19,7 +19,7 @@
 
 using namespace Qt::StringLiterals;
 
-//! In the global namespace, where the resources of a static library are.
+//! Must be in the global namespace to access the resources of a static library.
 static void initializeResources()
 {
     Q_INIT_RESOURCE(preview);
@@ -33,7 +33,7 @@ constexpr char module[] = "RuntimeObjects";
 constexpr int moduleVersion = 2;
 const QString screenClass = u"Screen"_s;
 
-//! Classes that are written in QML.
+//! Classes implemented in QML.
 constexpr const char *drawn[] = {"Screen", "Rectangle", "Text", "Image", "GroupElement"};
 
 constexpr const char *plain[] = {"BACnetService",    "CANBusDevice",   "EthernetPort",

@@ -10,11 +10,11 @@ namespace Halvane::Corvex::Preview {
 
 class BuildFolder;
 
-//! The modules that generated screens import, filled with types that stand in for those of the device.
+//! The types of the modules that generated screens import, in place of those of the device.
 class StandIns
 {
 public:
-    //! Once for the program, before any engine loads a screen.
+    //! Call it once, before any engine loads a screen.
     static void registerModules();
 
     /*! Makes a type for each class of the build that there is none for, with all properties and signals that
@@ -25,9 +25,10 @@ public:
     static QUrl screenDocument();
     //! The one for that build: its screens may have lists for elements of plug-ins.
     static QUrl screenDocumentFor(const BuildFolder &build);
-    //! Where the documents of the boxes are to be, before there are any; else in a folder of their own.
+    //! The folder for the documents of the boxes, by default a temporary one. Call it before the first box is
+    //! registered.
     static void keepBoxesIn(const QString &folder);
-    //! Empty as long as nobody knows.
+    //! Empty until the folder is known.
     static const QString &boxFolder();
 };
 

@@ -26,7 +26,7 @@ Viewer::Viewer(Panel &panel, std::function<QString(const QString &, int)> locate
     , m_locate(std::move(locate))
 {
     QQmlEngine &engine = panel.engine();
-    // Objects without a prototype, in which a variable may have any name.
+    // An object without a prototype, so that variables may have any name.
     m_cells = engine.evaluate(u"Object.create(null)"_s);
     m_logs = engine.evaluate(u"Object.create(null)"_s);
     QFile file(u":/corvex/preview/qml/viewer.js"_s);
@@ -51,7 +51,7 @@ void Viewer::show(Variable *variable)
 
 void Viewer::report(const QString &message, const QString &stack)
 {
-    // A line of the stack is "function@file:///path/qml_Main.qml:12".
+    // A stack line is "function@file:///path/qml_Main.qml:12".
     static const QRegularExpression place(u"@([^\\n]*qml_[^\\n/]*\\.qml):(-?\\d+)"_s);
     const QRegularExpressionMatch match = place.match(stack);
     m_panel.problems().report(

@@ -12,20 +12,20 @@ namespace Halvane::Corvex::Preview {
 class Panel;
 class Variable;
 
-/*! Puts the object "qmlViewer", whose functions generated code calls, into the engine of a panel. The
-   functions are those of viewer.js; this object does for them what a script cannot. */
+//! Provides the object "qmlViewer", whose functions generated code calls, to the engine of a panel. viewer.js
+//! implements the functions; this object does what a script cannot.
 class Viewer : public QObject
 {
     Q_OBJECT
 
 public:
-    //! \a locate gives the element at a line of a file.
+    //! \a locate returns the element at a line of a file.
     Viewer(Panel &panel, std::function<QString(const QString &file, int line)> locate);
 
     Q_INVOKABLE void report(const QString &message, const QString &stack);
     Q_INVOKABLE bool setVariable(const QString &name, const QVariant &value);
     Q_INVOKABLE QString text(const QVariant &value) const;
-    // Undefined for a value that is none of the type.
+    // Undefined if the value does not fit the type.
     Q_INVOKABLE QJSValue converted(const QVariant &value, int type) const;
     Q_INVOKABLE QJSValue color(const QVariant &name) const;
 

@@ -13,8 +13,8 @@ class QJSEngine;
 
 namespace Halvane::Corvex::Preview {
 
-/*! Stops scripts that do not come to an end: looks at them from a thread of its own, and interrupts the
-   engine when a guarded stretch has taken longer than the limit. */
+//! Stops endless scripts: a thread of its own interrupts the engine when a guarded call takes longer than the
+//! limit.
 class Watchdog
 {
 public:
@@ -25,9 +25,9 @@ public:
     void setLimit(int milliseconds) { m_limit = milliseconds; }
     int limit() const { return m_limit; }
 
-    //! Guarded stretches may contain others; the outermost one counts.
+    //! Guarded calls may be nested; the outermost one counts.
     void enter();
-    //! True, with the engine ready again, when the outermost stretch ends and was interrupted.
+    //! Returns true if the outermost call ends and was interrupted. The engine is usable again.
     bool leave();
 
 private:
@@ -38,7 +38,7 @@ private:
     int m_depth = 0;
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::chrono::steady_clock::time_point m_deadline; //!< of the stretch that runs
+    std::chrono::steady_clock::time_point m_deadline; //!< of the current call
     bool m_isRunning = false;
     bool m_isOver = false;
     std::thread m_thread;

@@ -112,7 +112,7 @@ TEST(CommandLine, ReadsProjectsFromStandardInput)
     EXPECT_TRUE(cut.error.startsWith(u"corvex: -:101:1: "_s)) << qPrintable(cut.error);
     const ProgramRun renamed = shell(u"\"$CORVEX\" rename - startLevel beginLevel <'%1'"_s.arg(station));
     EXPECT_EQ(renamed.code, 3);
-    EXPECT_TRUE(renamed.error.contains(u"Name its file."_s)) << qPrintable(renamed.error);
+    EXPECT_TRUE(renamed.error.contains(u"Name its file instead."_s)) << qPrintable(renamed.error);
 }
 
 TEST(CommandLine, WritesUtf8WhateverTheLocale)

@@ -80,7 +80,7 @@ TEST_F(PreviewVerb, ReportsExpectedAndActualValues)
     EXPECT_EQ(preview(pump, {u"--script"_s, u"missing"_s}).code, 3);
     sandbox.write(u"cut"_s, QByteArray("shot a\0b\n", 9));
     EXPECT_EQ(preview(pump, {u"--script"_s, u"cut"_s, u"--shot"_s, u"out"_s}).out,
-              u"cut:1: The line holds a NUL.\n"_s);
+              u"cut:1: The line contains a NUL character.\n"_s);
 }
 
 TEST_F(PreviewVerb, InspectsTheScreensForCheck)
@@ -117,7 +117,7 @@ TEST_F(PreviewVerb, CannotReachTheRestOfTheMachine)
         })");
     sandbox.write(u"script"_s, "shot before\nset speed 8\n");
     const ProgramRun run = preview(u"out"_s, {u"--script"_s, u"script"_s, u"--shot"_s, u"pictures"_s});
-    EXPECT_TRUE(run.error.contains(u"out/project/qmldir\" is not read"_s)) << qPrintable(run.error);
+    EXPECT_TRUE(run.error.contains(u"out/project/qmldir\" was not read"_s)) << qPrintable(run.error);
     EXPECT_EQ(run.code, 1);
     if (!hasLandlock()) {
         GTEST_SKIP() << "the system does not keep programs from writing files";
@@ -174,7 +174,7 @@ TEST_F(PreviewVerb, NeverOverwritesAForeignFileWithItsState)
     EXPECT_EQ(sandbox.read(pump), project);
     ASSERT_EQ(mkfifo(QFile::encodeName(sandbox.path(u"pipe"_s)).constData(), 0600), 0);
     const ProgramRun run = preview(pump, {u"--script"_s, u"script"_s, u"--state"_s, u"pipe"_s});
-    EXPECT_EQ(run.error, u"corvex: \"pipe\" is not read: it is not a regular file.\n"_s);
+    EXPECT_EQ(run.error, u"corvex: \"pipe\" cannot be read: it is not a regular file.\n"_s);
     EXPECT_EQ(run.code, 3);
 }
 
@@ -190,7 +190,7 @@ TEST_F(PreviewVerb, RefusesABuildThatCannotBeConfined)
     for (const ProgramRun &run : {preview(u"out"_s, shot + QStringList{u"--trust"_s}), preview(pump, shot)}) {
         EXPECT_EQ(
             run.error,
-            u"corvex: The scripts of the build are not confined, since this system has no Landlock.\n"_s);
+            u"corvex: The scripts of the build are not confined, because this system has no Landlock.\n"_s);
         EXPECT_EQ(run.code, 0);
     }
 }

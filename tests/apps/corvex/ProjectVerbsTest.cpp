@@ -71,7 +71,7 @@ TEST(NewVerb, NeverChangesExistingFiles)
          u"\"nix\" of --configurations"_s},
         {{u"Pump"_s, u"--model"_s, u"X"_s, u"--configurations"_s, u"Locked"_s},
          3,
-         u"no device models in \"Locked"_s},
+         u"Locked/Configurations\" contains no device models"_s},
     };
     for (const auto &[arguments, code, error] : cases) {
         const ProgramRun run = sandbox.run(QStringList{u"new"_s} + arguments);

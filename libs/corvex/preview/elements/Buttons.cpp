@@ -9,11 +9,11 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-// How long a finger rests on a spinner until it repeats, and how fast it does, in milliseconds.
+// How long a touch on a spinner lasts before it repeats, and the repeat interval, in milliseconds.
 constexpr int repeatDelay = 500;
 constexpr int repeatInterval = 100;
 
-//! The variable that an element names, told to be missing when it is; null for an empty name, too.
+//! The variable that an element names. Reports a missing variable; null for an empty name, too.
 Variable *variableFor(const Element *element, Panel *panel, const QString &name)
 {
     Variable *variable = panel->variables().find(name);

@@ -6,7 +6,7 @@
 
 #include <QVariant>
 
-//! The elements that are pressed.
+//! Elements that react to a touch.
 namespace Halvane::Corvex::Preview {
 
 class Variable;
@@ -34,7 +34,7 @@ private:
     TouchTarget m_target;
 };
 
-//! Shows a variable that is true or false, and turns it over when it is pressed.
+//! Shows a boolean variable and toggles it when pressed.
 class CheckButton : public Element
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ private:
     bool m_isChecked = false;
 };
 
-//! Counts a variable up and down, again and again while a finger rests on it.
+//! Counts a variable up and down, repeatedly while it is held.
 class NumberSpinner : public Element
 {
     Q_OBJECT
@@ -74,7 +74,7 @@ class NumberSpinner : public Element
     Q_PROPERTY(QQuickItem *decVisualElement READ decVisualElement WRITE setDecVisualElement)
     Q_PROPERTY(QString variable MEMBER m_variableName)
     Q_PROPERTY(double step MEMBER m_step)
-    //! [least, most]
+    //! [minimum, maximum]
     Q_PROPERTY(QVariantList range MEMBER m_range)
 
 public:

@@ -50,7 +50,7 @@ void ChannelElement::write(const QVariant &value)
 {
     m_channel->makeOutput();
     if (!m_channel->setValue(value)) {
-        panel()->report(this, u"\"%1\" is no value for the output."_s.arg(value.toString()));
+        panel()->report(this, u"\"%1\" is not a valid value for the output."_s.arg(value.toString()));
     }
 }
 

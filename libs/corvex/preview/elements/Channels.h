@@ -6,16 +6,16 @@
 
 #include <QVariant>
 
-//! The elements that stand for inputs and outputs of the device.
+//! Elements for the inputs and outputs of the device.
 namespace Halvane::Corvex::Preview {
 
 class ChannelElement : public Element
 {
     Q_OBJECT
     Q_PROPERTY(int channel MEMBER m_number)
-    //! [least, most] in volts
+    //! [minimum, maximum] in volts
     Q_PROPERTY(QVariantList voltageRange MEMBER m_voltageRange)
-    //! What an output has, until a script writes its value.
+    //! The value of an output until a script writes one.
     Q_PROPERTY(QVariant initValue READ initValue WRITE setInitValue)
     Q_PROPERTY(QVariant value READ value WRITE setValue NOTIFY valueChanged)
 

@@ -25,7 +25,7 @@ void DataLogging::start()
     m_log = variables.logOf(m_variable);
     m_source = variables.find(m_variable);
     if (!m_log) {
-        panel()->report(this, u"The variable \"%1\" is no log."_s.arg(m_variable));
+        panel()->report(this, u"The variable \"%1\" is not a log."_s.arg(m_variable));
         return;
     }
     m_log->setLimit(m_maxDataPoints, whenFull(m_behavior));

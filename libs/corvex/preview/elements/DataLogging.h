@@ -8,12 +8,12 @@ namespace Halvane::Corvex::Preview {
 class DataLog;
 class Variable;
 
-//! Takes a sample of a log variable at regular times, as long as its screen is shown.
+//! Adds points to a log variable at a fixed interval while its screen is shown.
 class DataLogging : public Element
 {
     Q_OBJECT
     Q_PROPERTY(QString variable MEMBER m_variable)
-    // Milliseconds.
+    // in milliseconds
     Q_PROPERTY(int interval MEMBER m_interval)
     Q_PROPERTY(int startDelay MEMBER m_startDelay)
     Q_PROPERTY(int maxDataPoints MEMBER m_maxDataPoints)
@@ -23,7 +23,7 @@ class DataLogging : public Element
 public:
     using Element::Element;
 
-    // Without a log they do nothing.
+    // These do nothing without a log.
     Q_INVOKABLE void run();
     Q_INVOKABLE void stop();
 
@@ -37,7 +37,7 @@ private:
     int m_maxDataPoints = 10000;
     QString m_behavior;
     bool m_autoStart = true;
-    // Those of the variable that it started with.
+    // The log and the variable at the time of the start.
     DataLog *m_log = nullptr;
     Variable *m_source = nullptr;
 };

@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Preview {
 
 class Panel;
 
-//! What the elements that are not drawn have in common.
+//! Base class of the elements that are not drawn.
 class Element
     : public QObject
     , public QQmlParserStatus
@@ -33,11 +33,11 @@ signals:
     void completedChanged();
 
 protected:
-    //! Once all properties have their values.
+    //! Called when all properties are set.
     virtual void start() { }
-    //! Never null from start on.
+    //! Never null after start().
     Panel *panel() const { return m_panel; }
-    //! Runs handlers, under the eye of the watchdog.
+    //! Runs handlers, guarded by the watchdog.
     void perform(const std::function<void()> &handlers);
 
 private:

@@ -17,8 +17,8 @@ void LogicBuilder::start()
 
 void LogicBuilder::setConditions(const QVariantList &conditions)
 {
-    // That they are the same as before does not matter: the values behind them, which the handler uses, are
-    // not.
+    // React even if the results of the conditions are equal: the values they depend on, which the handler
+    // uses, have changed.
     m_conditions = conditions;
     emit conditionsChanged();
     if (isCompleted()) {

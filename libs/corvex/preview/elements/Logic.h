@@ -6,10 +6,10 @@
 
 #include <QVariant>
 
-//! The elements that react to values.
+//! Elements that react to changed values.
 namespace Halvane::Corvex::Preview {
 
-//! Makes its changes when a trigger tells it to.
+//! Applies its changes when it is triggered.
 class Action : public Element
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ signals:
     void propertyChanges();
 };
 
-//! Runs its handler each time that something changes of what its conditions are made of.
+//! Runs its handler whenever an input of its conditions changes.
 class LogicBuilder
     : public Element
     , public Reaction
@@ -49,7 +49,7 @@ private:
     QVariantList m_conditions;
 };
 
-//! Runs its actions when its condition comes to hold, and when one of the data values changes while it holds.
+//! Runs its actions when its condition becomes true, and when a data value changes while it is true.
 class PropertyTrigger
     : public Element
     , public Reaction
@@ -79,8 +79,8 @@ private:
     QVariantList m_dataValues;
     QVariant m_condition = true;
     QVariantList m_actions;
-    bool m_held = false;       //!< the condition, when it was looked at last
-    QVariantList m_seenValues; //!< the data values, then
+    bool m_held = false;       //!< the last value of the condition
+    QVariantList m_seenValues; //!< the data values at that time
 };
 
 } // namespace Halvane::Corvex::Preview

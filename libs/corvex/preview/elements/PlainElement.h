@@ -7,7 +7,7 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! The ports and services that have nothing to do on a desktop: they take what the device would work with.
+//! Ports and services that do nothing on a desktop; they only accept their properties.
 class PlainElement : public Element
 {
     Q_OBJECT

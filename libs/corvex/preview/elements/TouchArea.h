@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! Lies over an element that can be pressed, and follows its size, place and visibility.
+//! Covers a touchable element and follows its size, position and visibility.
 class TouchArea : public QQuickItem
 {
     Q_OBJECT
@@ -16,9 +16,9 @@ public:
 
 signals:
     void pressed();
-    //! The finger has left the glass, or something else has taken it over.
+    //! The touch ended, or another item took it over.
     void released();
-    //! As released, with the finger still on the element.
+    //! Like released(), while still on the element.
     void clicked();
 
 protected:
@@ -34,8 +34,8 @@ private:
     bool m_isPressed = false;
 };
 
-/*! The area over the element that a function element works with. It goes where the element goes, and away
-   with either of the two. */
+//! The touch area over the element that a function element works with. It moves with that element and is
+//! deleted with either of the two.
 class TouchTarget
 {
 public:
@@ -45,7 +45,7 @@ public:
 
     QQuickItem *item() const { return m_item; }
     void setItem(QQuickItem *item) { m_item = item; }
-    //! Null without an item.
+    //! Null if there is no item.
     TouchArea *makeArea();
 
 private:

@@ -5,7 +5,7 @@ Quick.Image {
     readonly property string id: objectName
     property bool addedToScene: false
     property bool completed: false
-    // Drawings are drawn in the size in which they are shown.
+    // Render drawings in their displayed size.
     sourceSize: String(source).endsWith(".svg") ? Qt.size(width, height) : undefined
     Quick.Component.onCompleted: {
         addedToScene = true;

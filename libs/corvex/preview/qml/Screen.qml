@@ -5,7 +5,7 @@ import QtQml 2.15
 Quick.Rectangle {
     readonly property string id: objectName
     readonly property string deviceSerialNo: "PREVIEW"
-    // Degrees by which the device is turned; what is drawn stands upright all the same.
+    // The rotation of the device in degrees. The contents are drawn upright anyway.
     property int orientation: 0
     property int brightness: 100
     property bool addedToScene: false

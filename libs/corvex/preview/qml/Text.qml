@@ -5,7 +5,7 @@ Quick.Text {
     readonly property string id: objectName
     property bool addedToScene: false
     property bool completed: false
-    // Letter by letter, as the canvas shows it: markup could name any file, and nobody would be asked about it.
+    // Plain text, as on the canvas: markup could refer to any file without a check.
     textFormat: Quick.Text.PlainText
     Quick.Component.onCompleted: {
         addedToScene = true;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The functions of "qmlViewer". They read properties of "cells", the variables by their names, and of "logs", so
-// that each binding that calls them is evaluated again when what it has read changes, and when nothing else does.
+// The functions of "qmlViewer". They read the variables as properties of "cells", and the logs as properties
+// of "logs", so that a binding is evaluated again exactly when a value that it reads has changed.
 (function (cells, logs, device) {
     "use strict";
 
@@ -39,19 +39,19 @@
         },
         setVariableValue(name, value, type) {
             if (cellOf(name) !== undefined && !device.setVariable(name, value))
-                report("\"" + text(value) + "\" is no value for the variable \"" + name + "\".");
+                report("\"" + text(value) + "\" is not a valid value for the variable \"" + name + "\".");
         },
         assignPropertyValue(element, property, type, value) {
             const converted = device.converted(value, type);
             if (converted === undefined)
-                report("\"" + text(value) + "\" is no value for the property \"" + property + "\".");
+                report("\"" + text(value) + "\" is not a valid value for the property \"" + property + "\".");
             else
                 element[property] = converted;
         },
         convertToColorFromName(name) {
             const color = device.color(name);
             if (color === undefined)
-                report("\"" + text(name) + "\" is no color.");
+                report("\"" + text(name) + "\" is not a color.");
             return color === undefined ? "#00000000" : color;
         },
 
@@ -66,7 +66,7 @@
             return coefficients.reduceRight((sum, coefficient) => sum * x + Number(coefficient), 0);
         },
 
-        // One piece, from 0, of the text between the separators.
+        // One part of the text between separators; index 0 is the first.
         split(value, separator, index) {
             const pieces = text(value).split(text(separator));
             return index === undefined ? pieces : pieces[Number(index)] ?? "";
@@ -82,7 +82,7 @@
             return at < 0 ? text(value)
                           : text(value).slice(0, at) + text(by) + text(value).slice(at + text(old).length);
         },
-        // From a place up to another, which is left out; to the end without it.
+        // From one position up to, but not including, another; by default to the end.
         subString(value, from, to) {
             return text(value).substring(Number(from), to === undefined ? undefined : Number(to));
         },

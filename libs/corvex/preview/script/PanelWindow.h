@@ -8,15 +8,15 @@ namespace Halvane::Corvex::Preview {
 
 class PreviewSession;
 
-//! The panel in a window that is never shown: to be touched, and to take pictures of.
+//! The panel in an invisible window, for touches and pictures.
 class PanelWindow
 {
 public:
     explicit PanelWindow(PreviewSession &session);
 
-    //! In the pixels of the screen.
+    //! In screen pixels.
     QImage picture();
-    //! Gives the element that takes it; null when nothing there does.
+    //! Returns the element that receives the touch; null if none does.
     QQuickItem *touch(const QPointF &point);
     void letGo();
 

@@ -15,7 +15,7 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-//! A word, or a text in double quotes with \" and \\ in it; what is behind it stays in \a line.
+//! Takes a word, or a text in double quotes with the escapes \" and \\. The rest remains in \a line.
 QString takeWord(QStringView &line)
 {
     line = line.trimmed();
@@ -37,7 +37,7 @@ QString takeWord(QStringView &line)
     return word;
 }
 
-//! A text in quotes, or all that is left of the line.
+//! A quoted text, or the rest of the line.
 QString takeValue(QStringView line)
 {
     line = line.trimmed();
@@ -106,7 +106,7 @@ QString PreviewScript::runLine(const QString &line)
         return {};
     }
     if (line.contains(QChar::Null)) {
-        return u"The line holds a NUL."_s;
+        return u"The line contains a NUL character."_s;
     }
     QStringView rest = line;
     const QString word = takeWord(rest);
@@ -119,7 +119,7 @@ QString PreviewScript::runLine(const QString &line)
         return u"\"%1\" needs %2."_s.arg(word, entry->hasValue ? u"a name and a value"_s : u"a name"_s);
     }
     if (!entry->hasValue && !rest.trimmed().isEmpty()) {
-        return u"\"%1\" is too much."_s.arg(rest.trimmed());
+        return u"Remove \"%1\" from the end of the line."_s.arg(rest.trimmed());
     }
     const QString failure = (this->*entry->command)(name, takeValue(rest));
     m_session.settle();
@@ -134,9 +134,8 @@ QString PreviewScript::show(const QString &name, const QString &)
 QString PreviewScript::findElement(const QString &name, QObject **element) const
 {
     *element = m_session.find(name);
-    return *element
-               ? QString()
-               : u"There is no \"%1\" on the screen \"%2\", which is shown."_s.arg(name, m_session.screen());
+    return *element ? QString()
+                    : u"There is no \"%1\" on the current screen, \"%2\"."_s.arg(name, m_session.screen());
 }
 
 QString PreviewScript::findProperty(const QString &name, QQmlProperty *property) const
@@ -165,15 +164,14 @@ QString PreviewScript::hold(const QString &name, const QString &)
     }
     QQuickItem *target = m_session.touchedItem(element);
     if (!target || !target->isVisible()) {
-        return u"\"%1\" is not to be seen, so it cannot be pressed."_s.arg(name);
+        return u"\"%1\" is not visible, so it cannot be pressed."_s.arg(name);
     }
     const QQuickItem *touched = m_window.touch(m_session.middleOf(target));
     if (!touched) {
-        return u"Nothing reacts to a finger on \"%1\"."_s.arg(name);
+        return u"Nothing reacts to a touch on \"%1\"."_s.arg(name);
     }
-    return touched == target
-               ? QString()
-               : u"\"%1\" takes the finger that is put on \"%2\"."_s.arg(Panel::pathOf(touched), name);
+    return touched == target ? QString()
+                             : u"\"%1\" receives the touch on \"%2\"."_s.arg(Panel::pathOf(touched), name);
 }
 
 QString PreviewScript::release(const QString &, const QString &)
@@ -197,7 +195,7 @@ QString PreviewScript::set(const QString &name, const QString &value)
     const ScriptScope scope(m_session.panel(), name);
     if (Variable *variable = m_session.panel().variables().find(name)) {
         return variable->setValue(value) ? QString()
-                                         : u"\"%1\" is no value for \"%2\", which is a %3."_s.arg(
+                                         : u"\"%1\" is not a valid value for \"%2\", which is a %3."_s.arg(
                                              value, name, Variable::nameOf(variable->type()));
     }
     QQmlProperty property;
@@ -213,7 +211,7 @@ QString PreviewScript::wait(const QString &name, const QString &)
     bool ok = false;
     const int milliseconds = name.toInt(&ok);
     if (!ok || milliseconds < 0) {
-        return u"\"%1\" is no number of milliseconds."_s.arg(name);
+        return u"\"%1\" is not a number of milliseconds."_s.arg(name);
     }
     m_session.panel().clock().advance(milliseconds);
     return {};

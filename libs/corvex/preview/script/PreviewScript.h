@@ -14,25 +14,25 @@ namespace Halvane::Corvex::Preview {
 class PanelWindow;
 class PreviewSession;
 
-/*! A script that uses a panel as a person does. One command a line, "#" begins a remark:
+/*! A script that operates a panel like a person. One command per line; "#" begins a comment:
 
         show SCREEN             press ELEMENT           hold ELEMENT        release
         set NAME VALUE          wait MILLISECONDS       expect NAME VALUE   shot FILE
 
-    NAME is a variable, an element's property ("Main.label1.text"), or "screen". VALUE may stand in double
-   quotes. Time stands still except for "wait", which takes none.
+    NAME is a variable, an element's property ("Main.label1.text"), or "screen". VALUE may be in double
+    quotes. The panel's clock only advances with "wait", which itself takes no time.
 */
 class PreviewScript
 {
 public:
-    //! \a shoot takes a picture under a name and tells whether it could be kept.
+    //! \a shoot saves a picture with a name and returns whether that succeeded.
     PreviewScript(PreviewSession &session, PanelWindow &window, std::function<bool(const QString &)> shoot);
 
-    //! Runs all lines. Each failure is a text with its line: what was expected, and what was there.
+    //! Runs all lines. Returns one text per failure, with its line, the expected and the actual value.
     QStringList run(const QString &text);
 
 private:
-    // Each gives what went wrong, or an empty text.
+    // Each returns an error, or an empty text.
     QString runLine(const QString &line);
     QString show(const QString &name, const QString &value);
     QString press(const QString &name, const QString &value);

@@ -7,7 +7,7 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-//! Volts, degrees Celsius, percent; the element of a channel may know better.
+//! In volts, degrees Celsius or percent; an element may set a more specific range.
 std::pair<double, double> usualRange(Channel::Kind kind)
 {
     switch (kind) {

@@ -8,13 +8,13 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! An input or output of the device. It keeps its value while the screens that name it come and go.
+//! An input or output of the device. It keeps its value when its screens are deleted.
 class Channel : public QObject
 {
     Q_OBJECT
 
 public:
-    //! In the order in which they are shown.
+    //! In display order.
     enum Kind { Digital, Analog, Thermistor, Thermocouple, Pwm, Alarm };
     Q_ENUM(Kind)
 
@@ -23,19 +23,19 @@ public:
     Kind kind() const { return m_kind; }
     int number() const { return m_number; }
     bool isSwitch() const { return m_kind == Digital || m_kind == Alarm; }
-    //! Written by the panel. Digital channels are inputs until a screen gives them a value.
+    //! Whether the panel writes the channel. Digital channels are inputs until a screen gives them a value.
     bool isOutput() const { return m_isOutput; }
     void makeOutput();
-    //! What the value of an input moves between.
+    //! The range of an input.
     std::pair<double, double> range() const { return m_range; }
     void setRange(double least, double most);
-    //! The elements that stand for it, "Main.levelInput", one by one.
+    //! The elements that use the channel, for example "Main.levelInput".
     const QStringList &elements() const { return m_elements; }
     void addElement(const QString &path);
 
     //! A bool or a double.
     const QVariant &value() const { return m_value; }
-    //! False for a value that is neither a number nor, for a switch, true or false.
+    //! Returns false unless the value is a number or, for a digital channel, true or false.
     bool setValue(const QVariant &value);
 
 signals:
@@ -58,9 +58,9 @@ class ChannelStore : public QObject
 public:
     using QObject::QObject;
 
-    //! Made when it is asked for the first time.
+    //! Created on first use.
     Channel *channel(Channel::Kind kind, int number);
-    //! By kind and number.
+    //! Ordered by kind and number.
     QList<Channel *> channels() const { return m_channels.values(); }
 
 signals:

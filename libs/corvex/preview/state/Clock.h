@@ -11,8 +11,8 @@
 
 namespace Halvane::Corvex::Preview {
 
-/*! The time of the panel in milliseconds since it started. It stands still until it is advanced, so that a
-   script need not wait for a log that takes a sample each minute, or runs with the time of the day. */
+//! The time of the panel in milliseconds since it started. It only moves when it is advanced: with the real
+//! time in a window, or by a script, which need not wait for a log with one point per minute.
 class Clock : public QObject
 {
     Q_OBJECT
@@ -21,17 +21,17 @@ public:
     explicit Clock(QObject *parent = nullptr);
 
     qint64 now() const { return m_now; }
-    //! Calls \a action after \a delay, and each \a interval from then on when that is more than 0, as long as
-    //! \a context lives.
+    //! Calls \a action after \a delay and, if \a interval is positive, repeatedly from then on, as long as \a
+    //! context exists.
     void start(qint64 delay, qint64 interval, QObject *context, std::function<void()> action);
-    //! Forgets all that was started for \a context.
+    //! Cancels everything started for \a context.
     void stop(const QObject *context);
-    //! Calls what is due on the way.
+    //! Calls everything that is due meanwhile.
     void advance(qint64 milliseconds);
     void runFreely();
 
 signals:
-    //! After each call, and at the end of each advance.
+    //! Emitted after each call, and at the end of each advance.
     void ticked();
 
 private:

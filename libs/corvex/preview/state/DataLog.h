@@ -6,14 +6,14 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! The points of a log variable. Bindings read "revision" to hear of new ones.
+//! The points of a log variable. Bindings read "revision" to notice new points.
 class DataLog : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(int revision READ revision NOTIFY changed)
 
 public:
-    //! What happens to a log that is full. SaveAndReset starts anew; the file is the device's affair.
+    //! What a full log does. SaveAndReset starts over; only the device writes a file.
     enum class WhenFull { OverwriteOldest, StopLogging, SaveAndReset };
 
     using QObject::QObject;
@@ -23,9 +23,9 @@ public:
 
     int revision() const { return m_revision; }
     qsizetype count() const { return m_points.size(); }
-    //! The newest has index 0; 0 where there is none.
+    //! The newest point has index 0. Returns 0 for a missing point.
     double valueAt(qsizetype index) const;
-    // 0 for an empty log.
+    // These return 0 for an empty log.
     double minimum() const;
     double maximum() const;
     double average() const;
@@ -34,7 +34,7 @@ signals:
     void changed();
 
 private:
-    QList<double> m_points; //!< the oldest first
+    QList<double> m_points; //!< oldest first
     qsizetype m_mostPoints = 10000;
     WhenFull m_whenFull = WhenFull::OverwriteOldest;
     int m_revision = 0;

@@ -10,15 +10,15 @@ namespace Halvane::Corvex::Preview {
 
 struct PanelProblem
 {
-    QString element; //!< "Main.label1", or a file of the build; empty when the problem is of neither
+    QString element; //!< "Main.label1", or a file of the build; empty if it concerns neither
     QString message;
-    int count = 1; //!< how often it came
+    int count = 1; //!< the number of occurrences
 
     //! "element: message"
     QString toString() const;
 };
 
-//! What went wrong on the panel, in the order in which it came first.
+//! The problems on the panel, in order of their first occurrence.
 class ProblemLog : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     void clear();
 
 signals:
-    //! A new problem, or one that came again; -1 after clear.
+    //! A new or repeated problem; -1 after clear().
     void changed(qsizetype index);
 
 private:

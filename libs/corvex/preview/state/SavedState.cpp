@@ -21,7 +21,8 @@ const QString formatKey = u"format"_s;
 const QString formatName = u"corvex preview state"_s;
 const QString valuesKey = u"values"_s;
 
-//! The values of a file of ours; none of a file that is not there. False, with a text, for any other.
+//! Reads the values of a saved state; none if the file does not exist. Returns false, with a text, for any
+//! other file.
 bool readValues(const QString &path, QJsonObject *values, QString *error)
 {
     const QFileInfo file(path);
@@ -35,8 +36,9 @@ bool readValues(const QString &path, QJsonObject *values, QString *error)
     }
     const QJsonObject content = QJsonDocument::fromJson(bytes).object();
     if (content.value(formatKey) != formatName) {
-        *error = u"\"%1\" holds no saved values of a preview, and is left as it is. Name another file."_s.arg(
-            path);
+        *error =
+            u"\"%1\" does not contain saved values of a preview, so it was not changed. Name another file."_s
+                .arg(path);
         return false;
     }
     *values = content.value(valuesKey).toObject();

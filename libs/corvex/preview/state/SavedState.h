@@ -8,8 +8,8 @@
 
 namespace Halvane::Corvex::Preview {
 
-/*! What a panel keeps when it is switched off: texts of values by the names of variables and by the paths of
-    properties ("Main.box.color"). A file of JSON that says what it is; without one nothing is kept. */
+//! The values that a panel keeps when it is switched off: texts by the names of variables and the paths of
+//! properties ("Main.box.color"). Stored in a JSON file with a format name; without a file nothing is kept.
 class SavedState : public QObject
 {
     Q_OBJECT
@@ -19,14 +19,14 @@ public:
     //! Flushes.
     ~SavedState() override;
 
-    /*! False, with a text for the user, for a file that is there and holds no saved values, and for links and
-        pipes; such a file is never written. */
+    //! Returns false, with a text for the user, if the file exists but contains no saved values, or is a link
+    //! or a pipe. Such a file is never written.
     bool open(const QString &path, QString *error);
     bool contains(const QString &name) const { return m_values.contains(name); }
     QString value(const QString &name) const { return m_values.value(name); }
-    //! Written to the file soon.
+    //! Writes the value to the file with a short delay.
     void setValue(const QString &name, const QString &value);
-    //! Writes what has not been written yet.
+    //! Writes all pending values.
     void flush();
 
 signals:

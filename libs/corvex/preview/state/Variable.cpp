@@ -24,8 +24,7 @@ QVariant toBoolean(const QVariant &value)
     return value.canConvert<bool>() ? QVariant(value.toBool()) : QVariant();
 }
 
-/*! The shortest decimal that a float stands for, so that 12.3 is shown as it was typed and not as
-    12.300000190734863. */
+//! The shortest decimal for a float, so that 12.3 is shown as entered, not as 12.300000190734863.
 double toDouble(float value)
 {
     char digits[32];

@@ -9,8 +9,7 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! A variable of the project while the panel runs. Bindings read "value", so each hears of its own variables
-//! alone.
+//! A variable of the running project. Bindings read "value", so each is notified only of its own variables.
 class Variable : public QObject
 {
     Q_OBJECT
@@ -28,14 +27,14 @@ public:
     const QVariant &value() const { return m_value; }
     QString text() const { return textOf(m_value); }
 
-    //! False, with everything as it was, for a value that is none of the variable's type.
+    //! Returns false, and changes nothing, if the value does not fit the variable's type.
     bool setValue(const QVariant &value);
 
-    //! The value as one of the type: an invalid variant for one that is none.
+    //! The value converted to the type; an invalid variant if that is impossible.
     static QVariant converted(const QVariant &value, Type type);
-    //! What a label shows of a value: "true", "1.5", "abc".
+    //! The text of a value on a label: "true", "1.5", "abc".
     static QString textOf(const QVariant &value);
-    //! "boolean", "number", "text" or "color", in words for the user.
+    //! "boolean", "number", "text" or "color", for users.
     static QString nameOf(Type type);
 
 signals:

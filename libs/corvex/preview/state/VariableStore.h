@@ -10,7 +10,7 @@
 
 namespace Halvane::Corvex::Preview {
 
-//! All variables of a panel, and the points of those that are logs.
+//! All variables of a panel, and the points of the logs.
 class VariableStore : public QObject
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ class VariableStore : public QObject
 public:
     using QObject::QObject;
 
-    //! Null when there is one of that name already.
+    //! Null if there is a variable with that name already.
     Variable *add(const QString &name, Variable::Type type, bool isPersistent);
-    //! A variable of type log, made when there is none; its points are logOf(name).
+    //! Adds a variable of type log, unless it exists; its points are logOf(name).
     void addLog(const QString &name);
 
     Variable *find(const QString &name) const { return m_byName.value(name); }
     DataLog *logOf(const QString &name) const { return m_logs.value(name); }
-    //! In the order in which they were added.
+    //! In order of addition.
     const QList<Variable *> &variables() const { return m_variables; }
 
 signals:

@@ -17,7 +17,7 @@ namespace Halvane::Corvex::Preview {
 namespace {
 
 constexpr int sliderSteps = 1000;
-// A user may want to know what happens beyond the range.
+// Allow values beyond the range, so that users can test them.
 constexpr double mostValue = 1e6;
 
 QString title(const Channel *channel)
@@ -54,7 +54,7 @@ void ChannelsView::setPanel(Panel *panel)
     rebuild();
 }
 
-//! Channels come many at a time, with the screen that names them.
+//! A new screen adds many channels at a time.
 void ChannelsView::rebuildSoon()
 {
     if (!std::exchange(m_isStale, true)) {

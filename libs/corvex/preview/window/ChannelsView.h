@@ -10,7 +10,7 @@ namespace Halvane::Corvex::Preview {
 class Channel;
 class Panel;
 
-//! The inputs of the device, to be moved, and its outputs, to be watched.
+//! Controls for the inputs of the device, and displays for its outputs.
 class ChannelsView : public QWidget
 {
     Q_OBJECT

@@ -9,7 +9,7 @@ namespace Halvane::Corvex::Preview {
 
 class PreviewSession;
 
-//! The panel, in its real size in pixels or larger or smaller.
+//! The panel, in its real size in pixels or scaled.
 class PanelView : public QScrollArea
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ class PanelView : public QScrollArea
 public:
     explicit PanelView(QWidget *parent = nullptr);
 
-    //! The session must outlive the view, or be replaced before it ends.
+    //! The session must outlive the view, or be replaced before it is deleted.
     void setSession(PreviewSession *session);
     void setZoom(double factor);
 

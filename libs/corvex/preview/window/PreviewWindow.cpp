@@ -26,7 +26,7 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-// How often the folder is looked at, in milliseconds.
+// The interval at which the folder is checked, in milliseconds.
 constexpr int watchInterval = 500;
 constexpr int sideWidth = 400;
 constexpr int bottomHeight = 120;
@@ -44,7 +44,7 @@ QTableView *makeTable(QAbstractItemModel *model, int wideColumn)
     return table;
 }
 
-//! The table of variables below a field that filters it.
+//! The table of variables below a filter field.
 QWidget *makeVariables(VariablesModel *model)
 {
     auto *content = new QWidget;
@@ -65,7 +65,7 @@ QWidget *makeVariables(VariablesModel *model)
     return content;
 }
 
-//! The system looks through all its fonts for the first text, and no screen has to be there for that.
+//! The system searches all its fonts for the first text. Trigger that before a screen exists.
 void findFonts()
 {
     QThreadPool::globalInstance()->start([font = QApplication::font()] { QFontInfo(font).family(); });
@@ -130,7 +130,7 @@ QDockWidget *PreviewWindow::addDock(const QString &title, Qt::DockWidgetArea are
     return dock;
 }
 
-//! The panel is what the user waits for: what is beside it comes when it is there.
+//! The user waits for the panel, so create the docks after it.
 void PreviewWindow::makeDocks()
 {
     m_variablesDock = addDock(tr("Variables"), Qt::RightDockWidgetArea);
@@ -168,7 +168,7 @@ bool PreviewWindow::open(const QString &folder, const QString &stateFile, QStrin
     if (!session->load(folder, error)) {
         return false;
     }
-    // The window is made while the screen is read.
+    // Create the window while the screen is being read.
     if (!m_view) {
         makeView();
     }

@@ -16,7 +16,7 @@ class PanelView;
 class ProblemsModel;
 class VariablesModel;
 
-//! A build, running in a window, with all that is going on inside. Follows the folder when it is built anew.
+//! Runs a build in a window that shows its internal state. Reloads the folder when it is rebuilt.
 class PreviewWindow : public QMainWindow
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     PreviewWindow();
     ~PreviewWindow() override;
 
-    //! False, with a text for the user, when there is nothing to show; what was shown before stays.
+    //! Returns false, with a text for the user, if there is nothing to show; the previous contents remain.
     bool open(const QString &folder, const QString &stateFile, QString *error);
     PreviewSession &session() { return *m_session; }
 
@@ -47,7 +47,7 @@ private:
     std::unique_ptr<PreviewSession> m_session;
     VariablesModel *m_variables;
     ProblemsModel *m_problems;
-    PanelView *m_view = nullptr; //!< as all that is below it, from the first build on
+    PanelView *m_view = nullptr; //!< null, like the members below, until the first build is opened
     QDockWidget *m_variablesDock = nullptr;
     QDockWidget *m_channelsDock = nullptr;
     QDockWidget *m_problemsDock = nullptr;

@@ -7,7 +7,7 @@ namespace Halvane::Corvex::Preview {
 
 class ProblemLog;
 
-//! The log of what went wrong: the element, what, and how often.
+//! The log of problems: the element, the message and the number of occurrences.
 class ProblemsModel : public QAbstractTableModel
 {
     Q_OBJECT

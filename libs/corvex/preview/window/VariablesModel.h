@@ -9,7 +9,7 @@ namespace Halvane::Corvex::Preview {
 class Panel;
 class Variable;
 
-//! The variables of a panel with their values, to be watched and changed.
+//! The variables of a panel with their values, which can be edited.
 class VariablesModel : public QAbstractTableModel
 {
     Q_OBJECT
