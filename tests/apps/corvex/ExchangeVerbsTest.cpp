@@ -75,7 +75,7 @@ TEST_F(ExchangeVerbs, ConfigDumpReportsUnreadableFiles)
         const ProgramRun run = sandbox.run({u"config-dump"_s, bad});
         EXPECT_EQ(run.code, 3);
         EXPECT_EQ(run.out, QString());
-        EXPECT_TRUE(run.error.contains(u"damaged or cut off"_s)) << qPrintable(run.error);
+        EXPECT_TRUE(run.error.contains(u"damaged or incomplete"_s)) << qPrintable(run.error);
     }
     EXPECT_EQ(sandbox.run({u"config-dump"_s, u"out"_s}).code, 3);
 }

@@ -20,7 +20,7 @@ namespace {
 constexpr double turnStep = 1;
 constexpr double coarseTurnStep = 15;
 
-//! In degrees, clockwise as rotations are.
+//! In degrees, clockwise, like rotations.
 double direction(const FramedItem &item, const QPointF &point)
 {
     const QGraphicsItem *graphic = item.graphic();

@@ -17,9 +17,8 @@ class DesignerObject;
 class FramedItem;
 class UndoCommand;
 
-/*! What happens between pressing and releasing the mouse: items are moved, resized or turned on the canvas,
-   and the model knows nothing of it until the end. Points are in the coordinates of the scene. Objects that
-   go meanwhile are left out. */
+//! Moves, resizes or turns items on the canvas from the press to the release of the mouse; the model changes
+//! only at the end. All points are in scene coordinates. Objects that are deleted meanwhile are skipped.
 class CORVEX_EXPORT CanvasGesture
 {
 public:
@@ -28,13 +27,13 @@ public:
                                 const QPointF &start);
     static CanvasGesture turn(const FramedItem &item, const QPointF &start);
 
-    //! Positions and sizes come in whole pixels of the item's surroundings, angles in whole degrees. Shift
-    //! keeps the proportions and turns in steps of 15 degrees.
+    //! Positions and sizes are rounded to whole pixels in the coordinates of the parent, angles to whole
+    //! degrees. Shift keeps the proportions, and turns in steps of 15 degrees.
     void moveTo(const QPointF &point, Qt::KeyboardModifiers modifiers);
-    //! The one command for all that was changed; null when nothing was.
+    //! A single command for all changes; null if there are none.
     std::unique_ptr<UndoCommand> command();
-    //! Ends the gesture and takes the items back to what the model says. After the command was done, the
-    //! items that it was about follow the model already.
+    //! Ends the gesture and resets the items to the values in the model. If the command was done, its items
+    //! already show those values.
     void release(bool isDone);
 
 private:
@@ -42,8 +41,10 @@ private:
     struct Start
     {
         QPointer<DesignerObject> object;
-        QPointF position; //!< of a moved item, where it was; of a resized one, from the mouse to the handle
-        double angle;     //!< of a turned item, from the direction of the mouse to the rotation
+        QPointF position; //!< for a move, the initial position of the item; for a resize, the vector from the
+                          //!< mouse to the handle
+        double angle;     //!< for a rotation, the angle between the direction of the mouse and the item's
+                          //!< rotation
         bool isInCommand = false;
     };
 
@@ -54,7 +55,7 @@ private:
     void moveItem(FramedItem &item, const Start &start, const QPointF &point) const;
     void resizeItem(FramedItem &item, const Start &start, const QPointF &point) const;
     QString text() const;
-    //! What moving or turning changes.
+    //! The property that moving or turning changes.
     SharedProperty movedProperty(const DesignerObject &object) const;
 
     Kind m_kind;

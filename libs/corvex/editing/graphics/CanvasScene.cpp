@@ -62,7 +62,7 @@ CanvasScene::CanvasScene(Screen *screen, QObject *parent)
 
 CanvasScene::~CanvasScene()
 {
-    // The items that go now would still tell of a selection that gets smaller.
+    // Items that are deleted now would report changes of the selection.
     disconnect(this, &QGraphicsScene::selectionChanged, this, nullptr);
 }
 
@@ -123,13 +123,13 @@ void CanvasScene::selectItems(const QList<QGraphicsItem *> &items)
 {
     const QSet<QGraphicsItem *> all(items.cbegin(), items.cend());
     QSet<QGraphicsItem *> wanted = all;
-    // With a group go its members.
+    // Members are deleted with their group.
     wanted.removeIf([&all](const QGraphicsItem *item) {
         return hasParent(item, [&all](QGraphicsItem *parent) { return all.contains(parent); });
     });
     bool isChanged = false;
     {
-        // Otherwise the scene emits a signal for each item.
+        // Avoids a signal for each item.
         const QSignalBlocker blocker(this);
         for (QGraphicsItem *item : selectedItems()) {
             if (!wanted.contains(item)) {
@@ -160,7 +160,7 @@ FramedItem *CanvasScene::innermostAt(const QPointF &point) const
     return nullptr;
 }
 
-//! What is selected at that point, if anything is; else the element under it, a group as a whole.
+//! The selected item at that point, if any; otherwise the element under it, where a group counts as a whole.
 FramedItem *CanvasScene::clickedAt(const QPointF &point) const
 {
     FramedItem *clicked = innermostAt(point);
@@ -292,7 +292,7 @@ void CanvasScene::endGesture()
     Project *project = screen() ? screen()->project() : nullptr;
     std::unique_ptr<UndoCommand> command = project ? m_gesture->command() : nullptr;
     const bool isDone = command && command->isValid() && project->undoStack()->push(command.release());
-    // What the model has not taken over does not stay on the canvas either.
+    // Reset changes that the model did not accept.
     releaseGesture(isDone);
 }
 
@@ -316,7 +316,7 @@ void CanvasScene::selectTouched(const QRectF &area)
 {
     QPainterPath path;
     path.addRect(area);
-    // Most items lie in the area as a whole; to compare shapes takes longer.
+    // Most items are completely inside the area; comparing shapes is slower.
     const auto isTouched = [&](const QGraphicsItem &graphic) {
         const QRectF bounds = graphic.sceneBoundingRect();
         return (!bounds.isEmpty() && area.contains(bounds))
@@ -366,13 +366,13 @@ void CanvasScene::connectHistory()
 
 void CanvasScene::followHistory(const UndoStack &stack)
 {
-    // A command may also replace the file of a picture, which no property tells.
+    // A command may also replace an image file without a property change.
     update();
     if (m_gesture) {
-        return; // it is about what is selected
+        return; // the edit affects the current selection
     }
     const int done = stack.currentIndex() - (stack.isRedoToCurrentIndex() ? 1 : 0);
-    // The stack owns its commands; QUndoStack shows them to be read only.
+    // The stack owns its commands, but QUndoStack only returns const pointers.
     auto *command = const_cast<UndoCommand *>(dynamic_cast<const UndoCommand *>(stack.command(done)));
     if (const QList<QGraphicsItem *> items =
             itemsOf(command ? command->selectedItems() : QList<DesignerObject *>());
@@ -383,7 +383,7 @@ void CanvasScene::followHistory(const UndoStack &stack)
 
 void CanvasScene::outlineLater()
 {
-    // An edit may change thousands of items, each of which says so.
+    // An edit may change thousands of items, and each of them reports it.
     if (!m_isOutlineDue) {
         m_isOutlineDue = true;
         QMetaObject::invokeMethod(this, &CanvasScene::outline, Qt::QueuedConnection);

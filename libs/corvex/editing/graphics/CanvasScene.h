@@ -16,34 +16,34 @@ class Screen;
 class SelectionOutline;
 class UndoStack;
 
-/*! The canvas of one screen: its items, the selection, and the mouse at work on it.
+/*! The canvas of one screen: its items, the selection and the mouse interaction.
 
-    A click selects the element under the mouse, a group as a whole; a double click selects inside the group;
-    with Control pressed, a click adds to the selection or takes away. Dragging moves what is selected, its
-    handles resize it, its grip turns it, and from an empty place a rectangle selects what it touches.
-   Releasing the mouse pushes one command onto the history of the screen's project; Escape gives the gesture
-   up, as does everything in a screen without a project.
+    A click selects the element under the mouse; a group counts as a whole. A double click selects inside the
+    group. With Control pressed, a click adds to the selection or removes from it. Dragging moves the
+    selection, its handles resize it, its grip turns it, and dragging from an empty place selects everything
+    that the rectangle touches. Releasing the mouse pushes one command onto the history of the screen's
+    project. Escape cancels the gesture; so does a release if the screen has no project.
 */
 class CORVEX_EXPORT CanvasScene : public QGraphicsScene
 {
     Q_OBJECT
 
 public:
-    //! A screen is on one canvas at a time. It may go before the scene does, which is empty then.
+    //! A screen can be on one canvas at a time. If it is deleted before the scene, the scene becomes empty.
     explicit CanvasScene(Screen *screen, QObject *parent = nullptr);
     ~CanvasScene() override;
 
     Screen *screen() const;
     QList<DesignerObject *> selectedObjects() const;
-    //! Elements that are not on the canvas are passed over.
+    //! Ignores elements that are not on the canvas.
     void selectObjects(const QList<DesignerObject *> &objects);
-    //! Has what is selected outlined again soon, where it is by then.
+    //! Schedules an update of the selection outline.
     void outlineLater();
     bool isGestureActive() const { return m_gesture || m_crop; }
     void cancelGesture();
-    //! The screen, as large as it is, with what is selected; null when that would be no picture.
+    //! The whole screen, with the selection; null if its size does not allow a picture.
     QImage picture();
-    //! What the mouse would do at a point of the scene.
+    //! The cursor for the action that the mouse would start at a point of the scene.
     Qt::CursorShape cursorAt(const QPointF &point) const;
 
 protected:
@@ -59,9 +59,9 @@ private:
     FramedItem *innermostAt(const QPointF &point) const;
     FramedItem *clickedAt(const QPointF &point) const;
     void select(FramedItem *item, bool adds);
-    //! Those of the objects that are on the canvas to be selected.
+    //! The items of those objects that can be selected on the canvas.
     QList<QGraphicsItem *> itemsOf(const QList<DesignerObject *> &objects) const;
-    //! In one step, however many they are.
+    //! In one step, whatever their number.
     void selectItems(const QList<QGraphicsItem *> &items);
     void startMoving(const QPointF &point);
     void endGesture();
@@ -75,11 +75,11 @@ private:
     QPointer<DesignerObject> m_screen;
     QPointer<UndoStack> m_history;
     std::optional<CanvasGesture> m_gesture;
-    bool m_waitsForDrag = false; //!< the mouse has not moved far enough yet to mean it
+    bool m_waitsForDrag = false; //!< the mouse has not yet moved far enough for a drag
     CropArea *m_crop = nullptr;
     SelectionOutline *m_outline;
     GraphicsBounding *m_bounding;
-    mutable std::optional<QList<FramedItem *>> m_selected; //!< none when it is to be asked for again
+    mutable std::optional<QList<FramedItem *>> m_selected; //!< a cache; empty if outdated
     bool m_isOutlineDue = false;
 };
 

@@ -7,13 +7,13 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The rectangle that the mouse draws over the canvas.
+//! The rectangle that the user draws over the canvas.
 class CORVEX_EXPORT CropArea : public QGraphicsItem
 {
 public:
     using QGraphicsItem::QGraphicsItem;
 
-    //! From any corner to the one opposite.
+    //! Sets any two opposite corners.
     void setUp(const QPointF &corner, const QPointF &opposite);
 
     QRectF boundingRect() const override { return m_rect; }

@@ -17,7 +17,7 @@ constexpr std::array framePoints{
     FramePoint{QQuickItem::Center, 0, 0},
 };
 
-//! The new length along one direction, in which the handle moves the edge at \a low, at \a high, or none.
+//! The new length in one direction, where the handle moves the edge at \a low, the edge at \a high, or none.
 double lengthAt(int direction, double low, double high, double point, double minimum)
 {
     switch (direction) {
@@ -92,7 +92,7 @@ Qt::CursorShape FramePoint::cursor(double rotation) const
     if (origin == QQuickItem::Center) {
         return Qt::SizeAllCursor;
     }
-    // Clockwise from the right, in steps of half a right angle; opposite directions look alike.
+    // Clockwise from the right, in steps of 45 degrees. Opposite directions share a cursor.
     constexpr std::array shapes{Qt::SizeHorCursor, Qt::SizeFDiagCursor, Qt::SizeVerCursor,
                                 Qt::SizeBDiagCursor};
     const double angle = std::atan2(vertical, horizontal) * 180 / M_PI + rotation;

@@ -12,7 +12,8 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! How far the grip is from the upper edge, and how much room a handle needs, in zones of handles.
+//! The distance of the grip from the upper edge, and the space that a handle needs, in widths of the
+//! detection zone.
 constexpr double gripDistance = 4;
 constexpr double roomForHandle = 3;
 
@@ -26,7 +27,7 @@ QPointF FramedItem::handlePoint(QQuickItem::TransformOrigin handle) const
 QPointF FramedItem::rotationGrip() const
 {
     const QPointF top = handlePoint(QQuickItem::Top);
-    // The item's own way up, whatever it and the groups around it are turned and scaled by.
+    // "Up" for the item, including all rotations and scales of the item and its groups.
     QLineF upwards(top, graphic()->mapToScene(FramePoint::of(QQuickItem::Top).in(frame()) - QPointF(0, 1)));
     if (upwards.isNull()) {
         return top;
@@ -88,8 +89,8 @@ void FramedItem::resizeByMouse(QQuickItem::TransformOrigin handle, const QSizeF 
         wanted.setSize(framePoint.proportionalSize(size, proportions(), minSize()));
         wanted.moveTopLeft(framePoint.topLeftAt(frame(), wanted.size()));
     }
-    // Another size moves the point about which the item turns, and with it all of the item; and a group may
-    // not get as small as wanted. What counts is that the point opposite the handle lies where it belongs.
+    // Resizing moves the transform origin and thereby the whole item, and a group may not become as small as
+    // requested. Correct the position so that the point opposite the handle stays in place.
     const QPointF fixed = graphic()->mapToParent(framePoint.opposite().in(wanted));
     setFrameSize(wanted.size());
     updateTransformOriginPoint();

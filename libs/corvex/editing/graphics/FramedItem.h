@@ -6,18 +6,18 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! An item with eight handles on its frame and a grip above it to turn it by.
+//! An item with eight resize handles on its frame and a grip above it for rotation.
 class CORVEX_EXPORT FramedItem : public GraphicsItem
 {
     CORVEX_CLASS_NAMES(FramedItem, GraphicsItem)
 
 public:
-    //! The item of such a kind that shows an object; null when none does.
+    //! The framed item that shows an object; null if there is none.
     static FramedItem *of(const DesignerObject *object)
     {
         return framed(object ? object->graphicsItem() : nullptr);
     }
-    //! The one that an item of a scene is the graphic of; null for any other item.
+    //! The framed item of a graphic in a scene; null for any other graphic.
     static FramedItem *of(const QGraphicsItem *graphic) { return framed(GraphicsItem::of(graphic)); }
 
     QQuickItem::TransformOrigin getResizeHandle(const QPointF &point, bool *found = nullptr) const override;
@@ -26,20 +26,20 @@ public:
                        const QPointF &position) override;
     void rotateByMouse(double angle) override;
 
-    //! The middle of a handle in the coordinates of the scene.
+    //! The middle of a handle in scene coordinates.
     QPointF handlePoint(QQuickItem::TransformOrigin handle) const;
-    //! The middle of the grip in the coordinates of the scene.
+    //! The middle of the grip in scene coordinates.
     QPointF rotationGrip() const;
     bool isRotationGrip(const QPointF &point) const;
-    //! The handles that the frame, as large as it is on the canvas, has room for.
+    //! The handles that fit on the frame at its present size on the canvas.
     QList<QQuickItem::TransformOrigin> shownHandles() const;
 
-    //! Makes the frame that large; its top left may move in the item's own coordinates.
+    //! Resizes the frame. Its top left may move in the item's own coordinates.
     virtual void setFrameSize(const QSizeF &size) = 0;
 
 protected:
     using GraphicsItem::GraphicsItem;
-    //! A size with the proportions that resizing may have to keep.
+    //! The size whose proportions resizing may have to keep.
     virtual QSizeF proportions() const = 0;
 
 private:

@@ -18,7 +18,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Where a graphic keeps its GraphicsItem.
+//! The key under which a graphic stores its GraphicsItem.
 constexpr int itemKey = 0;
 constexpr double handleZone = 5;
 
@@ -28,7 +28,7 @@ bool isStored(const DesignerObject *object, QStringView id)
     return property && property->hasFlag(StoredFlag);
 }
 
-//! How the properties that all elements have show on the canvas. The model counts in per cent.
+//! How the common properties of elements are applied to the canvas. The model uses per cent.
 constexpr struct
 {
     QLatin1StringView id;
@@ -57,7 +57,7 @@ constexpr struct
      }},
 };
 
-//! Outside of a scene, graphics without a parent have no order.
+//! Qt has no stacking order for top-level graphics outside of a scene.
 void stackBelow(QGraphicsItem *graphic, const QGraphicsItem *above)
 {
     if (graphic->parentItem() || graphic->scene()) {
@@ -277,7 +277,7 @@ void GraphicsItem::addGraphicsItemChild(const SharedProperty &property, Designer
         return;
     }
     place(item->graphic());
-    // Now it is the topmost.
+    // At this point it is on top.
     const QList<DesignerObject *> siblings = property->listItems();
     for (qsizetype index = property->getListItemIndex(child) + 1; index < siblings.size(); ++index) {
         if (const GraphicsItem *next = of(siblings.at(index))) {

@@ -15,14 +15,14 @@ namespace Halvane::Corvex::Designer {
 
 class UndoCommand;
 
-/*! What shows an object on the canvas: it ties the object to an item of Qt's graphics view, follows the
-    object's properties, and turns what the mouse has done to the item into commands.
+/*! Shows an object on the canvas: connects it to an item of Qt's graphics view, follows the object's
+    properties, and turns mouse actions into commands.
 
-    While the mouse works, only the item changes; updateDataObject() then tells the model by way of the undo
-    history, and readDataObject() takes the item back to what the model says.
+    While the mouse is pressed, only the item changes. updateDataObject() then changes the model through the
+    undo history, and readDataObject() resets the item to the values in the model.
 
-    The item goes with its object, and with the list or the scene that holds it. A copy is tied to the same
-   two and belongs to nobody.
+    The item is deleted together with its object, and with the list or the scene that contains it. A copy
+    shows the same object with the same graphic and has no owner.
 */
 class CORVEX_EXPORT GraphicsItem : public ObjectView
 {
@@ -33,14 +33,14 @@ public:
     GraphicsItem(const GraphicsItem &) = default;
     GraphicsItem &operator=(const GraphicsItem &) = default;
 
-    //! The item that shows an object; null when none does.
+    //! The item that shows an object; null if there is none.
     static GraphicsItem *of(const DesignerObject *object);
-    //! The one that an item of a scene is the graphic of; null for any other item.
+    //! The item of a graphic in a scene; null for any other graphic.
     static GraphicsItem *of(const QGraphicsItem *graphic);
 
-    //! Takes over all properties of the object and shows the objects in its lists.
+    //! Reads all properties of the object and creates items for the objects in its lists.
     bool initialize() override;
-    //! Takes over all properties again.
+    //! Reads all properties again.
     void readDataObject();
 
     DesignerObject *dataObject() const { return m_dataObject; }
@@ -54,58 +54,59 @@ public:
 
     //! The point about which the item turns and scales.
     QQuickItem::TransformOrigin transformOrigin() const { return m_transformOrigin; }
-    //! Puts the point where it belongs in the item as large as it is now.
+    //! Updates the position of that point after a change of the item's size.
     void updateTransformOriginPoint();
 
-    // Shapes.
-    //! The rectangle with the handles, in the item's own coordinates, as all shapes are.
+    // Shapes, in the item's own coordinates unless stated otherwise.
+    //! The rectangle with the handles.
     virtual QRectF frame() const;
-    //! The rectangle whose nine points the item can turn about; the frame of most.
+    //! The rectangle with the nine points about which the item can turn; usually the frame.
     virtual QRectF turningFrame() const { return frame(); }
-    //! What the item covers.
+    //! The area that the item covers.
     virtual QPainterPath getShape() const;
     QPainterPath itemShape() const { return getShape(); }
-    //! The same on the screen: in the coordinates of the scene.
+    //! The same area in scene coordinates.
     QPainterPath screenShape() const;
-    /*! The width, in the coordinates of the scene, of the zone around a handle in which the mouse catches it:
-       5, and 5 pixels of the view when the scene is shown by one view that magnifies. */
+    //! The width, in scene coordinates, of the zone in which the mouse catches a handle: 5 or, in a scene
+    //! with a single magnified view, 5 pixels of that view.
     double detectionWidth() const;
 
-    // The mouse. Points are in the coordinates of the scene unless said otherwise.
-    //! The number of the point, of an item made of points, that lies there; 0 without one.
+    // Mouse actions. Points are in scene coordinates unless stated otherwise.
+    //! For items made of points: the number of the point at that position; 0 if there is none.
     virtual int getResizePointHandle(const QPointF &point, bool *found = nullptr) const;
-    //! The handle that lies there; Center for none.
+    //! The handle at that position; Center if there is none.
     virtual QQuickItem::TransformOrigin getResizeHandle(const QPointF &point, bool *found = nullptr) const;
-    /*! Gives the item the size and the place of its top left, both in its own coordinates as they are before,
-       that one of the rules below gave. An item that keeps its proportions takes the nearest that does. */
+    //! Resizes and moves the item. \a size and the position of the top left are in the item's coordinates
+    //! before the change, as the functions below compute them. An item that keeps its proportions uses the
+    //! nearest allowed size.
     virtual void resizeByMouse(QQuickItem::TransformOrigin handle, const QSizeF &size,
                                const QPointF &position);
-    //! Moves a point of an item made of points.
+    //! For items made of points: moves a point.
     virtual void resizeByMouse(int pointHandle, const QPointF &point);
-    //! Turns the item to an angle in degrees, clockwise.
+    //! Rotates the item clockwise to an angle in degrees.
     virtual void rotateByMouse(double angle);
-    //! The least width and height that the mouse can give the item.
+    //! The minimum width and height that the mouse can set.
     virtual double minSize() const { return 1.0; }
-    //! Whether resizing keeps the proportions: by the property "keepRatio", or because the user asks for it.
+    //! Whether resizing keeps the proportions, because of the property "keepRatio" or on the user's request.
     virtual bool keepsRatio() const;
     void setRatioForced(bool on) { m_isRatioForced = on; }
 
-    // To the model. Commands are made as children of \a parent.
-    /*! The command that gives a property what the item shows; null when it has that already, or is none that
-        items change. */
+    // Updates of the model. Commands become children of \a parent.
+    //! The command that sets a property to the value shown; null if nothing changes or items do not change
+    //! that property.
     virtual UndoCommand *updateDataObject(const SharedProperty &property, UndoCommand *parent);
-    //! The commands for all that was resized by a handle, whose number is that of its TransformOrigin.
+    //! The commands for everything that a handle resized. \a handle is the number of its TransformOrigin.
     virtual void updateResizedDataObjects(int handle, UndoCommand *parent);
 
-    // From the model.
+    // Updates from the model.
     void updateGraphicsItem(const SharedProperty &property) override;
     void addGraphicsItemChild(const SharedProperty &property, DesignerObject *child) override;
     void removeGraphicsItemChild(const SharedProperty &property, DesignerObject *child) override;
     void orderGraphicsItemChildren(const SharedProperty &property) override;
     void objectGone() override;
 
-    // How the handles resize: the edges on the side of the handle follow the point, those opposite stay, and
-    // no length gets smaller than \a minimum.
+    // How the handles resize: the edges on the side of the handle follow the point, the opposite edges stay
+    // in place, and no length becomes smaller than \a minimum.
     static void resizeTopLeft(const QRectF &rect, const QPointF &point, QSizeF &size, QPointF &position,
                               double minimum);
     static void resizeTop(const QRectF &rect, const QPointF &point, QSizeF &size, QPointF &position,
@@ -124,19 +125,18 @@ public:
                            double minimum);
 
 protected:
-    //! \a graphic may be the object under construction itself; it is not owned otherwise.
+    //! \a graphic may be the object under construction itself. Otherwise it is not owned.
     GraphicsItem(DesignerObject *dataObject, QGraphicsItem *graphic);
 
-    //! Puts the graphic of a child where it belongs, above those that are there: into this one.
+    //! Adds the graphic of a child to this one, above the existing children.
     virtual void place(QGraphicsItem *child);
-    //! What the item shows, as the text of the property with that id; null for those that items do not
-    //! change.
+    //! The value shown, as the text of the property with that id; null if items do not change that property.
     virtual QString shownValue(QStringView id) const;
-    //! Runs when a child has come, or its place or its size is another.
+    //! Called when a child was added, moved or resized.
     virtual void childChanged(const GraphicsItem &) { }
-    //! Runs before a child goes that does not go with this item.
+    //! Called before a child is removed, unless this item is deleted, too.
     virtual void childLeaves(const GraphicsItem &) { }
-    //! Tells the item around this one and the canvas that the place or the size is another.
+    //! Notifies the parent item and the canvas of a new position or size.
     void announcePlace() const;
 
 private:

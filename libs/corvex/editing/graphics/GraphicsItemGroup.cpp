@@ -11,13 +11,13 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! In the coordinates of the group, as the two below are.
+//! These functions use the coordinates of the group.
 QRectF coveredBy(const GraphicsItem &member)
 {
     return member.graphic()->mapRectToParent(member.frame());
 }
 
-//! Of the member as it would be if it were not turned.
+//! The far corner of the member as if it were not rotated.
 QPointF farCorner(const GraphicsItem &member)
 {
     return member.graphic()->pos() + member.turningFrame().bottomRight();
@@ -123,7 +123,7 @@ void GraphicsItemGroup::setFrameSize(const QSizeF &size)
         return;
     }
     const QScopedValueRollback changing(m_isChangingSize, true);
-    // From the sizes in the model each time: nothing adds up while the mouse moves.
+    // Always start from the sizes in the model, so that rounding errors do not add up during the gesture.
     for (GraphicsItem *member : members()) {
         member->readDataObject();
     }

@@ -9,9 +9,11 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Holds the items of a group's members. Its frame is the rectangle around what the members cover, turned as
-    they are. To resize it is to resize and move all members; it keeps its proportions when a member does, or
-    when one is turned, since what is turned cannot be stretched in one direction of the group. */
+/*! Contains the items of a group's members. Its frame is the bounding rectangle of the members, including
+    their rotations. Resizing the group resizes and moves all members. It keeps its proportions if a member
+    does, or if a member is rotated, because a rotated member cannot be stretched in one direction of the
+    group.
+*/
 class CORVEX_EXPORT GraphicsItemGroup
     : public QGraphicsItem
     , public FramedItem
@@ -22,15 +24,15 @@ public:
     explicit GraphicsItemGroup(DesignerObject *dataObject);
 
     QRectF frame() const override { return m_frame; }
-    //! As on the device: from the group's own zero point to the far edges of the members, turned or not.
+    //! As on the device: from the group's origin to the far edges of the members, ignoring rotations.
     QRectF turningFrame() const override { return QRectF(QPointF(), m_turningSize); }
     QPainterPath getShape() const override;
     void setFrameSize(const QSizeF &size) override;
     bool keepsRatio() const override;
-    //! With the place of the group, even when it stays the same: it belongs to the size that the members
-    //! give.
+    //! Also sets the position of the group, even if it is unchanged, because it belongs to the size that
+    //! results from the members.
     void updateResizedDataObjects(int handle, UndoCommand *parent) override;
-    //! Whether the members are changing because the group is being resized.
+    //! Whether members are changing because the group is being resized.
     bool isChangingSize() const { return m_isChangingSize; }
 
     QRectF boundingRect() const override { return m_frame; }
@@ -51,7 +53,7 @@ private:
 
     QRectF m_frame;
     QSizeF m_turningSize;
-    MemberBounds m_modelBounds; //!< of the members as they are in the model
+    MemberBounds m_modelBounds; //!< the bounds of the members in the model
     bool m_isChangingSize = false;
 };
 

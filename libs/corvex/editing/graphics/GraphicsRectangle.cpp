@@ -77,7 +77,7 @@ void GraphicsRectangle::paintSquare(QPainter &painter) const
     const QRectF inner = outer.adjusted(width, width, -width, -width);
     painter.fillRect(inner, m_color);
     if (width > 0) {
-        // Strips instead of a pen: they cover whole pixels, as on the device.
+        // Filled strips instead of a pen, so that the border covers whole pixels as on the device.
         const QColor &color = m_border.color();
         painter.fillRect(QRectF(outer.topLeft(), QPointF(outer.right(), inner.top())), color);
         painter.fillRect(QRectF(QPointF(outer.left(), inner.bottom()), outer.bottomRight()), color);

@@ -10,8 +10,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! A rectangle with a colour, a border within its edges and round corners, as far as the object has such
-    properties. An element that has neither colour nor border is outlined, so that it can be seen. */
+//! A rectangle with colour, inner border and rounded corners, as far as the object has these properties. An
+//! element without colour and border gets an outline to make it visible.
 class CORVEX_EXPORT GraphicsRectangle
     : public QGraphicsItem
     , public FramedItem
@@ -23,7 +23,7 @@ public:
 
     QRectF frame() const override { return QRectF(QPointF(), m_size); }
     void setFrameSize(const QSizeF &size) override;
-    //! There is always room for the border on both sides.
+    //! Leaves room for the border on both sides.
     double minSize() const override;
     void updateGraphicsItem(const SharedProperty &property) override;
 

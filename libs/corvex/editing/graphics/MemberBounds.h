@@ -13,19 +13,19 @@ namespace Halvane::Corvex::Designer {
 
 class GraphicsItem;
 
-/*! What the members of a group cover together. A change of one member costs the logarithm of their number, so
-    that a change of all of them costs no more than a look at each. */
+//! The common bounds of the members of a group. Updating one member takes time logarithmic in their number,
+//! so moving all members costs little more than visiting each.
 class CORVEX_EXPORT MemberBounds
 {
 public:
-    //! Enters the member, or takes over where it is now. Members without width and height cover nothing,
-    //! and those whose place is beyond all numbers do not count.
+    //! Adds or updates a member. Members without width and height cover nothing; members at infinite or
+    //! invalid positions are ignored.
     void set(const GraphicsItem *member, const QRectF &frame, const QPointF &farCorner);
     void remove(const GraphicsItem *member);
 
-    //! The rectangle around all frames.
+    //! The bounding rectangle of all frames.
     QRectF frame() const;
-    //! From the zero point to the far corners.
+    //! The distance from the origin to the farthest corners.
     QSizeF reach() const;
 
 private:

@@ -15,7 +15,8 @@ ScreenRectangle::ScreenRectangle(DesignerObject *screen)
 
 ScreenRectangle::~ScreenRectangle()
 {
-    // Unless the screen is shown by another item now, or is going itself and takes its elements along.
+    // Not if another item shows the screen by now, or if the screen is being deleted together with its
+    // elements.
     if (dataObject() && dataObject()->graphicsItem() == this) {
         qDeleteAll(elementItems());
     }
@@ -48,7 +49,7 @@ QVariant ScreenRectangle::itemChange(GraphicsItemChange change, const QVariant &
             scene()->removeItem(item->graphic());
         }
     } else if (change == ItemSceneHasChanged) {
-        // In the order of the list, which is the order of drawing.
+        // List order is drawing order.
         for (const GraphicsItem *item : elementItems()) {
             place(item->graphic());
         }

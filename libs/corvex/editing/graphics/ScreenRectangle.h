@@ -6,9 +6,9 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! The rectangle of a screen, below all else. The items of the elements do not lie in it but beside it, in
-   the same scene: a frame would otherwise visit all of them to paint a few. They still come and go with it.
- */
+//! The rectangle of a screen, below everything else. The items of the elements are its siblings in the scene,
+//! not its children: otherwise each frame would visit all of them to paint a few. They are still added and
+//! removed together with it.
 class CORVEX_EXPORT ScreenRectangle : public GraphicsRectangle
 {
 public:

@@ -14,7 +14,7 @@ namespace Halvane::Corvex::Designer {
 namespace {
 
 constexpr QColor outlineColor(0, 90, 200);
-//! How far handles and grip reach beyond a frame, in the coordinates of the scene.
+//! How far handles and grip extend beyond the frame, in scene coordinates.
 constexpr double reach = 28;
 
 } // namespace

@@ -13,19 +13,19 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class FramedItem;
 
-/*! The frames of the selected items; a single one has its handles and its grip too. It lies above all items.
-    It shows them as they were when it took them over, and needs none of them afterwards. */
+//! The frames of the selected items, above all items. A single selected item also has handles and a grip.
+//! Stores copies of the positions and does not use the items later.
 class CORVEX_EXPORT SelectionOutline : public QGraphicsItem
 {
 public:
     SelectionOutline();
 
-    //! Takes over the items, and their places as they are now. Without handles there are the frames alone.
-    //! \return the rectangle around the frames
+    //! Copies the present positions of the items. Without handles only frames are shown.
+    //! \return the bounding rectangle of the frames
     QRectF follow(const QList<FramedItem *> &items, bool hasHandles);
 
     QRectF boundingRect() const override { return m_bounds; }
-    //! Nothing is ever hit.
+    //! Empty, so that the mouse never hits the outline.
     QPainterPath shape() const override { return {}; }
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
@@ -35,7 +35,7 @@ private:
     QList<QLineF> m_frames;
     QRectF m_bounds;
     QPointer<DesignerObject>
-        m_handled; //!< the object with handles, which depend on how large the view shows it
+        m_handled; //!< the object with handles; their number depends on its size in the view
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -27,7 +27,8 @@ void rename(Mention &mention, const QString &oldName, const QString &newName)
     }
 }
 
-//! "group1.pump1" without "group1." when pump1 is a member. \return whether the group itself is meant.
+//! Removes "group1." from "group1.pump1" if pump1 is a member. \return whether the path refers to the group
+//! itself.
 bool stripGroup(QString &path, const QString &group, const QSet<QString> &members)
 {
     QStringList kept;

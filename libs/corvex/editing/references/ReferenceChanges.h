@@ -12,19 +12,19 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! What the rest of a project has to be changed to when something in it gets another name or goes. \a pending
-//! may be null.
+//! The changes in the rest of a project that follow when an object is renamed or removed. \a pending may be
+//! null.
 class CORVEX_EXPORT ReferenceChanges
 {
 public:
     static QList<ValueChange> renamed(const DesignerObject *object, const QString &newName,
                                       const PendingValues *pending = nullptr);
-    //! Mentions are dropped, except in the objects themselves. The objects are of one kind and, being
-    //! elements, of one screen.
+    //! Drops all mentions, except in the objects themselves. The objects must be of one kind, and elements
+    //! must be on one screen.
     static QList<ValueChange> removed(const QList<DesignerObject *> &objects,
                                       const PendingValues *pending = nullptr);
-    /*! Paths lose the name of the group where they go on with that of one of \a members. When the group goes
-        with that, what else mentions it is dropped. */
+    //! Removes the group's name from paths that continue with the name of one of \a members. If the group is
+    //! removed as well, drops all other mentions of it.
     static QList<ValueChange> ungrouped(const DesignerObject *group, const QSet<QString> &members,
                                         bool groupGoes, const PendingValues *pending = nullptr);
 

@@ -53,7 +53,7 @@ NamedKinds kindsOf(const GeneralDataInfo &term)
 
 constexpr NamedKinds listedKinds = NamedKind::Element | NamedKind::Variable;
 
-//! Shows the mention to the visitor. \return whether it was changed.
+//! Calls the visitor for the mention. \return whether it was changed.
 bool show(Mention &mention, const MentionVisitor &visitor)
 {
     const QString path = mention.path;
@@ -169,7 +169,7 @@ bool visitValue(PropertyList &list, const MentionVisitor &visitor)
     return isChanged;
 }
 
-//! The same for the text of a value.
+//! The same for a value given as text.
 template<class Value>
 bool visitAs(QString &text, const MentionVisitor &visitor)
 {
@@ -188,7 +188,7 @@ bool visitNested(const QString &id, QString &text, const MentionVisitor &visitor
     return (forms.isExpression(id) && visitAs<GeneralDataList>(text, visitor)) || isChanged;
 }
 
-//! Shows each name and keeps those that are not dropped.
+//! Visits each name and keeps those that are not dropped.
 bool visitNames(QStringList &names, const MentionVisitor &visitor)
 {
     bool isChanged = false;

@@ -26,11 +26,11 @@ public:
     //! The same as property.references().
     static Form of(const DesignerProperty &property);
 
-    /*! Shows all mentions of \a text, taken as a value of the property, in their order, and rewrites it when
-        one was changed. A text that does not parse has none. \return whether \a text is another one now. */
+    //! Visits all mentions in \a text, read as a value of the property, in order, and rewrites the text if
+    //! one was changed. An invalid text has no mentions. \return whether \a text has changed.
     static bool visit(const DesignerProperty &property, QString &text, const MentionVisitor &visitor);
     static QList<Mention> mentions(const DesignerProperty &property, const QString &text);
-    //! Those of the value that the property has, for which it is neither printed nor parsed.
+    //! The mentions in the present value, without printing or parsing it.
     static QList<Mention> mentions(const DesignerProperty &property);
     //! For a text of that form which no property holds. What a link may name is then in its text alone.
     static bool visit(Form form, QString &text, const MentionVisitor &visitor);

@@ -38,7 +38,7 @@ QList<ReferenceIndex::Entry> ReferenceIndex::entriesOf(const Mention &mention, c
         return {{nullptr, mention.path, property}};
     }
     QList<Entry> entries;
-    // A path may start with the name of another screen and go on there, so its names are known everywhere.
+    // A path may begin with the name of another screen, so its names are indexed for all screens.
     const bool isKnownEverywhere = mention.kinds != NamedKind::Element || mention.path.contains(u'.');
     for (const QStringView segment : QStringView(mention.path).split(u'.')) {
         entries.append({screen, segment.toString(), property});
@@ -157,7 +157,7 @@ void ReferenceIndex::find(const Screen *scope, const QString &name, QSet<SharedP
     const auto isFound = [&](const Entry &entry) { return entry.scope == scope && entry.name == name; };
     for (auto entry = m_entries.lower_bound({scope, name, {}}); entry != m_entries.end() && isFound(*entry);
          ++entry) {
-        // A site whose object was deleted in its place is not told apart from other lists any more.
+        // If the owner was deleted in place, its sites can no longer be distinguished from other lists.
         if (entry->property->parentObject()) {
             found.insert(entry->property);
         }

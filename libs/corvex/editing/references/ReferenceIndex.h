@@ -15,18 +15,18 @@ class Project;
 class ReferenceTarget;
 class Screen;
 
-/*! Which properties of a project name what, so that a rename does not walk the project.
+/*! Finds the properties that name an object, so that a renaming need not search the project.
 
-    It is built by one walk when it is asked for first, and after the project was loaded. From then on it
-    follows the changes of the model.
+    The index is built on first use and after the project was loaded, and then follows the changes of the
+    model.
 */
 class CORVEX_EXPORT ReferenceIndex : public ModelObserver
 {
 public:
-    //! The index of the project. It deletes itself with the project.
+    //! The index of the project. It is deleted together with the project.
     static ReferenceIndex &of(Project *project);
 
-    //! The properties that may name the target, each once; whether one does is for its value to tell.
+    //! The properties that may name the target, without duplicates; only their values can confirm it.
     QList<SharedProperty> candidates(const ReferenceTarget &target) const;
     //! The properties that may name something of that name: an object of \a screen, or without a screen one
     //! that is known everywhere.
@@ -47,19 +47,19 @@ private:
 
     struct Entry
     {
-        const Screen *scope; //!< the screen on which an element is named; null for what is known everywhere
+        const Screen *scope; //!< the screen of an element; null for names known everywhere
         QString name;
         SharedProperty property;
 
         bool operator<(const Entry &other) const;
     };
 
-    //! The entries under which a mention is found; some may be equal.
+    //! The index entries for a mention; some may be equal.
     static QList<Entry> entriesOf(const Mention &mention, const Screen *screen,
                                   const SharedProperty &property);
     void update(const SharedProperty &property, const Mention &mention, bool add);
     static bool sharesName(const Mention &mention, const QSet<QStringView> &names);
-    //! For all properties of the object and of what is below it.
+    //! For all properties of the object and of everything below it.
     void updateAll(const DesignerObject *object, bool add);
     //! Adds what is found in the scope and what is known everywhere.
     void find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const;

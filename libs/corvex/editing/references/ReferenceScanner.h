@@ -10,23 +10,23 @@ namespace Halvane::Corvex::Designer {
 
 class ReferenceTarget;
 
-//! One place where an object is named.
+//! One place that names an object.
 struct CORVEX_EXPORT ReferenceUse
 {
     SharedProperty property;
-    QString path; //!< as it stands there: "group1.pump1"
+    QString path; //!< as written there: "group1.pump1"
 };
 
-//! Walks the model and finds what names something.
+//! Searches the model for references.
 class CORVEX_EXPORT ReferenceScanner
 {
 public:
     using SiteVisitor = std::function<void(const SharedProperty &property)>;
 
-    //! Shows all properties of \a object that can name others and, with \a recursive, those of everything
-    //! below it, in the order of the file.
+    //! Visits all properties of \a object that can name others and, if \a recursive, those of everything
+    //! below it, in file order.
     static void visitSites(const DesignerObject *object, bool recursive, const SiteVisitor &visitor);
-    //! Where the target is used, in the order of the file. Walks the whole project.
+    //! The places that use the target, in file order. Searches the whole project.
     static QList<ReferenceUse> uses(const ReferenceTarget &target);
 };
 

@@ -31,8 +31,8 @@ void addNames(const DesignerObject *object, QSet<QString> &names)
     }
 }
 
-//! The screen that a path starts with, as seen from a property of \a owner: an element that is called like
-//! another screen comes before it on its own screen.
+//! The screen at the start of a path, seen from a property of \a owner. On its own screen, an element takes
+//! precedence over another screen with the same name.
 const DesignerObject *screenNamedBy(QStringView path, const DesignerObject *owner, const Project *project)
 {
     const QString first = ObjectPath::firstSegment(path).toString();
@@ -98,7 +98,7 @@ bool ReferenceTarget::isMeantBy(const Mention &mention, const DesignerObject *ow
         return false;
     }
     if (!mention.kinds.testFlag(NamedKind::Element)) {
-        // One name, which may hold a "." itself.
+        // A single name, which may contain a ".".
         return m_names.contains(mention.path);
     }
     if (kinds.testFlag(NamedKind::Element) && isElementMeant(mention, owner)) {

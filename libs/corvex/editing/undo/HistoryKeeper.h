@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 
 class UndoStack;
 
-//! Keeps the history that would end when a project is saved.
+//! Keeps the history that would otherwise end when a project is saved.
 class CORVEX_EXPORT HistoryKeeper
 {
     Q_DISABLE_COPY_MOVE(HistoryKeeper)
@@ -19,11 +19,11 @@ class CORVEX_EXPORT HistoryKeeper
 public:
     virtual ~HistoryKeeper() = default;
 
-    //! The project is about to be written: the files that only an undo needs are to be kept elsewhere.
+    //! Called before the project is written. Moves the files that only an undo needs to a safe place.
     virtual void aboutToSave() = 0;
-    //! The project has been saved. The empty history that begins, of which index 0 is saved.
+    //! Called after the project was saved. Returns the new, empty history, in which index 0 means saved.
     virtual std::shared_ptr<UndoStack> historyAfterSave() = 0;
-    //! What could be undone is forgotten: the project was loaded, or made at another place.
+    //! Called when the history is discarded because the project was loaded, or created in another place.
     virtual void historyForgotten() = 0;
 
 protected:

@@ -66,7 +66,7 @@ UndoCommand::Start UndoCommand::start()
 bool UndoCommand::redoChildren()
 {
     for (int i = 0; i < childCount(); ++i) {
-        // The children are ours; QUndoCommand shows them to be read only.
+        // The children are ours, but QUndoCommand only returns const pointers.
         const_cast<QUndoCommand *>(child(i))->redo();
         if (child(i)->isObsolete()) {
             undoChildren(i);
@@ -209,7 +209,7 @@ Project *UndoCommand::project() const
     }
     const DesignerObject *object = owner();
     if (object && object->isKindOfClass(u"FilterElement"_s)) {
-        // A filter belongs to its screen; the screen knows the project.
+        // A filter belongs to its screen, and the screen knows the project.
         for (const DesignerObject *holder = object; holder; holder = holder->ownerObject()) {
             if (holder->isKindOfClass(u"Screen"_s)) {
                 return holder->project();

@@ -16,21 +16,20 @@ class Project;
 class Screen;
 class UndoStack;
 
-/*! One step of the history of a project.
+/*! One step in the history of a project.
 
-    A command with children is a composite: it does nothing itself, and its answers are drawn from its
-   children. A leaf answers from the property that it concerns, whose owner is the object that it concerns.
-   Commands never merge.
+    A command with children is a composite: it does nothing itself and answers queries from its children. A
+    leaf refers to a property and to the object that owns it. Commands never merge.
 
-    A command that cannot be done leaves nothing changed and is obsolete, and a stack drops it. A composite
-   that has such a child takes back what its other children did, and is obsolete too.
+    A command that fails changes nothing and becomes obsolete, so the stack drops it. If a child of a
+    composite fails, the composite undoes its other children and becomes obsolete, too.
 */
 class CORVEX_EXPORT UndoCommand : public QUndoCommand
 {
     Q_DISABLE_COPY_MOVE(UndoCommand)
 
 public:
-    //! Deletions that the tool's panels treat apart from all other commands.
+    //! The deletions that the tool's panels treat differently from other commands.
     enum class Deletion { None, Screen, Image, Variable };
     enum class Start {
         Done,
@@ -39,43 +38,43 @@ public:
     };
 
     UndoCommand();
-    //! With a \a parent the command is a child of it and belongs to it. \a selected: its object is to be
-    //! selected on the canvas when the command has been done or undone.
+    //! A command with a \a parent becomes its child. \a selected: select the object of the command on the
+    //! canvas after it was done or undone.
     UndoCommand(const SharedProperty &property, bool selected, UndoCommand *parent);
     ~UndoCommand() override;
 
     void undo() override;
     void redo() override;
-    /*! Does the command before a stack takes it over, so that one that fails costs no redo steps. The redo()
-       that follows does nothing then. A composite starts its children in turn; a composite with a redo() of
-       its own overrides this, too. */
+    //! Does the command before it is pushed, so that a command that fails does not delete the redo history.
+    //! The following redo() does nothing. A composite starts its children one by one; a composite with its
+    //! own redo() must override this function, too.
     virtual Start start();
-    // Slots of id() and mergeWith() are those of QUndoCommand.
-    //! The objects to select on the canvas, each once.
+    // id() and mergeWith() are those of QUndoCommand.
+    //! The objects to select on the canvas, without duplicates.
     virtual QList<DesignerObject *> selectedItems();
-    /*! Whether the command can be pushed. A composite asks its first child alone, however many it has: the
-       children that follow are built upon what the first will have done. */
+    //! Whether the command can be pushed. A composite only asks its first child: the others depend on the
+    //! result of the first.
     virtual bool isValid() const;
-    //! An object that the stack shall delete with the history unless it is back in the model; none here.
+    //! An object that the stack deletes with the history, unless it is back in the model; null by default.
     virtual DesignerObject *deletionCandidate() const;
-    //! The object to go to after the command has been done or undone.
+    //! The object to show after the command was done or undone.
     virtual DesignerObject *activeItem() const;
-    //! Which of the deletions that panels treat apart this is.
+    //! Which of those deletions this command is.
     virtual Deletion deletion() const;
-    //! Deletes files that were left for an undo and that nothing in the project needs: before the history
-    //! goes, once the project has been saved. A composite passes it on.
+    //! Deletes files that were kept only for an undo and that the project does not use. Called after the
+    //! project was saved, before the history is discarded. A composite forwards the call.
     virtual void cleanJunkFiles();
-    /*! The project is about to be saved and the command stays in the history: it copies what it would need to
-       be undone or redone, and the save would delete, into \a store. False, with a text for the user, when
-       that fails. A composite passes it on. */
+    //! Called before a save that keeps the history. Copies the files that the command needs for undo or redo,
+    //! and that the save would delete, into \a store. Returns false, with a text for the user, on failure. A
+    //! composite forwards the call.
     virtual bool keepFiles(Common::FileStore &store, QString &error);
-    //! Whether the command changes files beside the model.
+    //! Whether the command changes files in addition to the model.
     virtual bool changesFiles() const;
-    //! The property whose value is all that the command has changed; null for any other command. Of two such
-    //! commands in a row the later one alone decides what the value is.
+    //! The property, if the command changes only its value; null for any other command. Of two such commands
+    //! in a row only the later one determines the value.
     virtual SharedProperty soleProperty() const;
-    //! Why the command could not be done, for the user; empty when nobody knows. A composite answers by its
-    //! first child that knows.
+    //! Why the command failed, for the user; empty if unknown. A composite returns the first error of a
+    //! child.
     virtual QString errorString() const;
 
     const SharedProperty &property() const { return m_property; }
@@ -83,20 +82,21 @@ public:
     bool hasParent() const { return m_parent; }
     bool isSelected() const { return m_isSelected; }
 
-    //! Where the command acts. A composite answers by its first child that is not about image resources.
+    //! The screen that the command changes. A composite returns that of its first child that does not concern
+    //! image resources.
     Screen *screen() const;
     Project *project() const;
-    //! The property "id" of a command that gives a name; null for all others.
+    //! The property "id" if the command sets a name; null otherwise.
     DesignerProperty *idProperty() const;
 
 protected:
-    //! The object that owns the property; null without one.
+    //! The object that owns the property; null if there is no property.
     DesignerObject *owner() const;
-    //! Child \a index when it is one of ours.
+    //! The child \a index if it is an UndoCommand.
     const UndoCommand *childCommand(int index) const;
-    //! Does the children in order. False, with nothing changed, when one of them cannot be done.
+    //! Does the children in order. Returns false, with nothing changed, if a child fails.
     bool redoChildren();
-    //! For a redo() that could not be done and left nothing changed.
+    //! Call it from a redo() that failed and changed nothing.
     void fail();
 
 private:
@@ -106,7 +106,7 @@ private:
 
     SharedProperty m_property;
     UndoCommand *m_parent = nullptr;
-    UndoStack *m_stack = nullptr; //!< that the command was pushed on
+    UndoStack *m_stack = nullptr; //!< the stack that owns the command
     bool m_isSelected = false;
 };
 

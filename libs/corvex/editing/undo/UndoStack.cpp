@@ -21,7 +21,7 @@ bool holds(const QUndoCommand *command, const QUndoCommand *sought)
     return isHere;
 }
 
-//! All commands of a step, which may be a macro.
+//! For all commands of a step, which may be a macro.
 bool keepFilesOf(QUndoCommand *step, Common::FileStore &store, QString &error)
 {
     if (auto *command = dynamic_cast<UndoCommand *>(step)) {
@@ -34,7 +34,7 @@ bool keepFilesOf(QUndoCommand *step, Common::FileStore &store, QString &error)
     return isKept;
 }
 
-//! What cannot be done, so that pushing it leaves nothing.
+//! A command that cannot be done, so that pushing it has no effect.
 class NoCommand : public QUndoCommand
 {
 public:
@@ -51,11 +51,11 @@ UndoStack::UndoStack(QObject *parent)
 
 UndoStack::~UndoStack()
 {
-    // QUndoStack tells of index 0 while it goes.
+    // QUndoStack reports index 0 in its destructor.
     disconnect(this, &QUndoStack::indexChanged, this, &UndoStack::onIndexChanged);
     deleteCandidates();
     m_gesture.reset();
-    // The commands know this stack, and go before it is a mere QUndoStack.
+    // The commands use this stack, so delete them before it is reduced to a QUndoStack.
     clear();
 }
 
@@ -110,7 +110,7 @@ bool UndoStack::collect(std::unique_ptr<UndoCommand> command)
     return true;
 }
 
-//! Whether it may move, or begin a gesture.
+//! Whether the history may move or a gesture may begin.
 bool UndoStack::isOpen()
 {
     m_errorString.clear();
@@ -140,7 +140,7 @@ bool UndoStack::commitGesture()
 {
     const std::unique_ptr<Gesture> gesture = std::move(m_gesture);
     if (std::unique_ptr<UndoCommand> command = gesture ? gesture->takeCommand() : nullptr) {
-        append(command.release()); // It is done, so the gate is not asked.
+        append(command.release()); // It is done already, so do not ask the gate.
     }
     return gesture != nullptr;
 }
@@ -199,17 +199,17 @@ void UndoStack::setIndex(int index)
     }
     takeBackFailedMacro();
     while (m_hasFailed && canRedo()) {
-        // QUndoStack deletes what is obsolete in place of doing it.
+        // QUndoStack deletes an obsolete command instead of doing it.
         QUndoStack::setIndex(this->index() + 1);
     }
     if (m_hasFailed && this->index() == before) {
-        // QUndoStack emits these only when the index moves.
+        // QUndoStack emits these only when the index changes.
         emit canRedoChanged(canRedo());
         emit redoTextChanged(redoText());
     }
 }
 
-//! One of its commands failed, and Qt has done all others.
+//! Handles a macro in which a command failed after Qt had done all the others.
 bool UndoStack::takeBackFailedMacro()
 {
     QUndoCommand *macro = std::exchange(m_failedMacro, nullptr);
@@ -230,7 +230,7 @@ void UndoStack::commandFailed(const UndoCommand *command)
     while (place < count() && !holds(this->command(place), command)) {
         ++place;
     }
-    // The stack owns its commands; QUndoStack shows them to be read only.
+    // The stack owns its commands, but QUndoStack only returns const pointers.
     const auto at = [this](int i) { return const_cast<QUndoCommand *>(this->command(i)); };
     if (place < count() && at(place) != command) {
         m_failedMacro = at(place);
@@ -269,7 +269,7 @@ DesignerObject *UndoStack::activeItem() const
 void UndoStack::deleteCandidates()
 {
     while (!m_deletionCandidates.isEmpty()) {
-        // What was put back may have gone with the model since.
+        // Objects that are back in the model may have been deleted with it.
         const QPointer<DesignerObject> candidate = m_deletionCandidates.takeFirst();
         if (candidate && !candidate->parent()) {
             delete candidate;
@@ -280,7 +280,7 @@ void UndoStack::deleteCandidates()
 void UndoStack::cleanJunkFiles()
 {
     for (int i = 0; i < count(); ++i) {
-        // The stack owns its commands; QUndoStack shows them to be read only.
+        // The stack owns its commands, but QUndoStack only returns const pointers.
         if (auto *known = const_cast<UndoCommand *>(dynamic_cast<const UndoCommand *>(command(i)))) {
             known->cleanJunkFiles();
         }
@@ -307,9 +307,9 @@ const UndoCommand *UndoStack::decidingCommand(int index) const
 
 void UndoStack::onIndexChanged(int index)
 {
-    // Actions, groups and views of Qt call the redo of QUndoStack, which is not virtual.
+    // Qt's actions, groups and views call the redo() of QUndoStack, which is not virtual.
     if (!m_isMoving && takeBackFailedMacro()) {
-        // Those who listen have heard of the newer index before this one.
+        // Other receivers would get the newer index before this one.
         QMetaObject::invokeMethod(
             this, [this] { emit indexChanged(this->index()); }, Qt::QueuedConnection);
         return;
@@ -334,7 +334,7 @@ void UndoStack::onIndexChanged(int index)
     } else if (m_isStartSaved && m_previousIndex == 0) {
         emit savedChanged(false);
     }
-    // A macro is one of Qt's own commands, and answers by its first child.
+    // A macro is a command of Qt and returns the values of its first child.
     const QUndoCommand *last = command(isRedoToCurrentIndex() ? index - 1 : index);
     while (last && !dynamic_cast<const UndoCommand *>(last)) {
         last = last->childCount() > 0 ? last->child(0) : nullptr;

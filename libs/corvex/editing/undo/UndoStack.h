@@ -20,11 +20,11 @@ class DesignerObject;
 class Gesture;
 class UndoCommand;
 
-/*! The history of a project's edits, without a limit.
+/*! The history of a project's edits, without a size limit.
 
-    Index 0 means saved: the owner begins a new history whenever the project is made, loaded or saved. Beside
-   the history the stack knows which object to go to after the last move, and whether that move did or undid a
-   deletion that panels treat apart.
+    Index 0 means saved: the owner starts a new history whenever the project is created, loaded or saved. The
+    stack also knows which object to show after the last move, and whether that move did or undid a deletion
+    that panels treat differently.
 */
 class CORVEX_EXPORT UndoStack : public QUndoStack
 {
@@ -36,60 +36,60 @@ public:
     explicit UndoStack(QObject *parent = nullptr);
     ~UndoStack() override;
 
-    /*! Takes over the command and does it. False when it could not be done: then it is deleted, errorString()
-       may know why, and the history is as it was. A command that is not valid is not to be pushed. */
+    //! Takes ownership of the command and does it. Returns false on failure: the command is deleted,
+    //! errorString() may give the reason, and the history is unchanged. Do not push an invalid command.
     bool push(UndoCommand *command);
-    //! Why the last command could not be done, for the user; empty when nobody knows.
+    //! Why the last command failed, for the user; empty if unknown.
     const QString &errorString() const { return m_errorString; }
-    //! Begins a new history: what could be undone is forgotten, and what is now counts as saved.
+    //! Starts a new history: all steps are discarded and the present state counts as saved.
     void startOver();
-    //! Has all commands delete the files that only an undo would need.
+    //! Makes all commands delete the files that only an undo would need.
     void cleanJunkFiles();
-    //! Has all commands keep them elsewhere instead, see UndoCommand::keepFiles().
+    //! Makes all commands keep these files elsewhere, see UndoCommand::keepFiles().
     bool keepFiles(Common::FileStore &store, QString &error);
-    //! Asked before each push and each move. When it is false nothing happens, and the text says why. The
-    //! undo() and redo() of QUndoStack, which the actions that it creates call, do not ask.
+    //! Called before each push and each move. If it returns false, nothing happens and the text gives the
+    //! reason. QUndoStack's own undo() and redo(), which its actions use, do not call the gate.
     using Gate = std::function<bool(QString &reason)>;
     void setGate(Gate gate) { m_gate = std::move(gate); }
-    //! Whether the history can move now, and a gesture can begin; errorString() says why not.
+    //! Whether the history can move now and a gesture can begin; otherwise errorString() gives the reason.
     bool isOpen();
-    //! Forgets what could be redone.
+    //! Discards all steps after the present index.
     void dropRedo();
-    //! Whether index 0 is saved: a history before the last save begins with something else.
+    //! Whether index 0 is the saved state; false for a history from before the last save.
     void setStartSaved(bool isSaved);
 
-    /*! What is pushed from here on is done at once and becomes one step of that name with commitGesture().
-       Until then the history stays as it is and cannot move. False, with an error, while another gesture goes
-       on. */
+    //! Commands pushed from here on are done at once, and commitGesture() combines them into one step with
+    //! that name. Until then the history is unchanged and cannot move. Returns false, with an error, during
+    //! another gesture.
     bool beginGesture(const QString &text);
     bool hasGesture() const { return m_gesture != nullptr; }
-    //! Whether the gesture that goes on has changed anything.
+    //! Whether the current gesture has changed anything.
     bool hasChangedInGesture() const;
-    //! False when there is no gesture. One that changed nothing leaves no step.
+    //! Returns false if there is no gesture. A gesture without changes adds no step.
     bool commitGesture();
-    //! Restores model and history to the start of the gesture. False without a gesture.
+    //! Restores model and history to the start of the gesture. Returns false if there is no gesture.
     bool rollBackGesture();
-    //! Deletes the objects that commands named for it, except those that are back in the model.
+    //! Deletes the objects that commands have named for deletion, except those that are back in the model.
     void deleteCandidates();
-    //! While blocked, moves are followed without a word.
+    //! While blocked, moves are tracked without signals.
     void blockActiveItemChangedSignal(bool block) { m_isActiveItemSignalBlocked = block; }
 
     int previousIndex() const { return m_previousIndex; }
     int currentIndex() const { return m_currentIndex; }
     bool isSaved() const { return m_currentIndex == 0 && m_isStartSaved; }
-    //! Whether the last move went back, or forth.
+    //! Whether the last move was an undo, or a redo.
     bool isUndoToCurrentIndex() const { return m_previousIndex > m_currentIndex; }
     bool isRedoToCurrentIndex() const { return m_previousIndex < m_currentIndex; }
     bool isDeleteScreen() const { return m_isDeleteScreen; }
     bool isDeleteImage() const { return m_isDeleteImage; }
     bool isDeleteVariable() const { return m_isDeleteVariable; }
-    //! Null also when the object is gone meanwhile.
+    //! Null also if the object has been deleted.
     DesignerObject *activeItem() const;
 
 public slots:
-    /*! As QUndoStack does, but when a command cannot be done again, it and all that follow are dropped: they
-       were built upon it. A macro that holds the command is taken back as a whole. Nothing moves while a
-       gesture goes on, and errorString() says so. */
+    //! Like those of QUndoStack, except that a command that cannot be redone is dropped with all later ones,
+    //! which depend on it; a macro with such a command is undone as a whole. During a gesture nothing moves,
+    //! and errorString() says so.
     void undo();
     void redo();
     void setIndex(int index);
@@ -97,9 +97,10 @@ public slots:
 signals:
     void activeItemChanged(Halvane::Corvex::Designer::DesignerObject *item);
     void savedChanged(bool saved);
-    //! A command was done or undone; of several, the last. Not emitted when a new history begins.
+    //! A command was done or undone; of several commands, the last one. Not emitted when a new history
+    //! begins.
     void moved(const Halvane::Corvex::Designer::UndoCommand *command);
-    //! A command is about to be taken over: what could be redone goes.
+    //! A command is about to be pushed, which discards the redo steps.
     void aboutToPush();
 
 private:

@@ -17,7 +17,7 @@ bool EditLine::read(const QString &line, QString &error)
     words.clear();
     rest.clear();
     if (line.contains(QChar::Null)) {
-        error = LocalizationHelper::coreString(u"The line holds a NUL."_s);
+        error = LocalizationHelper::coreString(u"The line contains a NUL character."_s);
         return false;
     }
     for (qsizetype i = 0; i < line.size(); ++i) {
@@ -42,7 +42,7 @@ bool EditLine::read(const QString &line, QString &error)
         }
     }
     if (isQuoted) {
-        error = LocalizationHelper::coreString(u"A quote is opened and not closed."_s);
+        error = LocalizationHelper::coreString(u"A quote is not closed."_s);
         return false;
     }
     if (isInWord) {

@@ -8,14 +8,15 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! A line of an edit script in its words, separated by blanks and tabs. A word in double quotes may
-    hold them, too, and \", \\, \n and \t. */
+//! A line of an edit script, split into words at blanks and tabs. A word in double quotes may contain these,
+//! and \", \\,
+//! and \t.
 struct CORVEX_EXPORT EditLine
 {
     QStringList words;
-    QString rest; //!< what follows the second word, unchanged
+    QString rest; //!< everything after the second word, unchanged
 
-    //! False, with the reason for the user, when a quote is not closed or the line holds a NUL.
+    //! Returns false, with the reason for the user, if a quote is not closed or the line contains a NUL.
     bool read(const QString &line, QString &error);
 };
 

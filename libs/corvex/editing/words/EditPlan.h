@@ -13,25 +13,25 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What an edit in words asks for. Nothing is changed before the command is pushed.
+//! The plan for an edit in words. Nothing changes until the command is pushed.
 struct CORVEX_EXPORT EditPlan
 {
-    std::unique_ptr<ModelCommand> command; //!< null when nothing is to change
-    std::optional<int> historySteps;       //!< of an undo (negative) or redo, instead of a command
+    std::unique_ptr<ModelCommand> command; //!< null if nothing changes
+    std::optional<int> historySteps;       //!< for undo (negative) or redo, instead of a command
     QString historyText;                   //!< for the user: "Undo 2"
-    QStringList output;                    //!< what the user is told in any case
-    //! Why the edit cannot be made. It can when the message is empty.
+    QStringList output;                    //!< messages for the user, printed in any case
+    //! Why the edit is refused. An empty message means that it is not.
     EditRefusal refusal;
 
-    //! Comes into the project by the command, which is to be taken back when the name is not valid there.
+    //! The object that the command adds. Undo the command if its name turns out to be invalid.
     const DesignerObject *added = nullptr;
-    //! For the user when the model refuses the command without a reason.
+    //! For the user, if the model gives no reason for a refusal.
     QString defaultReason;
-    //! Adds what the user can do about a reason of the model; null for none.
+    //! Adds advice to a reason of the model; may be null.
     std::function<QString(const QString &reason)> explain;
 
     bool isRefused() const { return !refusal.message.isEmpty(); }
-    //! The reason, or the default for an empty one, explained.
+    //! The reason, or the default if it is empty, with advice.
     QString explained(const QString &reason) const;
 };
 

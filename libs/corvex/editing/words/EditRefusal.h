@@ -7,20 +7,21 @@ namespace Halvane::Corvex::Designer {
 
 /*! Why a path or an edit in words is refused.
 
-    The message is complete. Where a list would help that each program shows in its own way, `list` says which
-    one, so that the program can add where to find it. */
+    The message is complete. If a list would help the user, `list` identifies it, so that each program can add
+    how to show it.
+*/
 struct EditRefusal
 {
     enum List {
         NoList,
         Edits,      //!< all edits
-        Classes,    //!< the classes that the plug-ins bring
+        Classes,    //!< the classes of the plug-ins
         Models,     //!< the installed device models
-        Contents,   //!< what there is in the object `path`
+        Contents,   //!< the contents of the object `path`
         Properties, //!< the properties of the object `path`
     };
 
-    QString message; //!< for the user, one sentence or more
+    QString message; //!< for the user, one or more sentences
     List list = NoList;
     QString path = {};
 };

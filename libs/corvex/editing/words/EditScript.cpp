@@ -22,7 +22,7 @@ QString pathOf(const SharedProperty &property)
     return owner ? u"%1.%2"_s.arg(owner->objectPath(), property->id()) : property->id();
 }
 
-//! The texts of all commands below \a command that are no composites themselves.
+//! The texts of all leaf commands below \a command.
 QStringList partsOf(const QUndoCommand &command)
 {
     QStringList parts;
@@ -87,7 +87,7 @@ bool EditScript::perform(EditPlan &plan)
 bool EditScript::push(EditPlan &plan)
 {
     ModelCommand *command = plan.command.release();
-    // What leaves the project is known by where it was.
+    // Removed objects are identified by their earlier paths.
     QHash<const DesignerProperty *, QString> paths;
     for (const ValueChange &change : command->valueChanges()) {
         paths.insert(change.property.data(), pathOf(change.property));
@@ -114,7 +114,7 @@ bool EditScript::push(EditPlan &plan)
     return true;
 }
 
-//! Whether a line that cannot be done is wrong itself. Notes what later lines will miss.
+//! Whether a failed line is itself wrong. Records what later lines will miss.
 EditScript::Result EditScript::noteFailure(const EditCall &call)
 {
     const bool follows = m_isLost || std::ranges::any_of(call.words, [this](const QString &word) {

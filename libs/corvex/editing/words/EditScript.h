@@ -18,49 +18,50 @@ class EditPlanner;
 class Project;
 struct EditCall;
 
-/*! Edits a project by lines of words, one edit each, such as "set Main.title.text Hello", and notes what was
-    done. The words are those of EditLine, the paths those of ProjectPath. An empty line and one that starts
-    with "#" ask for nothing.
+/*! Edits a project by lines such as "set Main.title.text Hello", one edit per line, and records what was
+    done. EditLine defines the words, ProjectPath the paths. Empty lines and lines that begin with "#" are
+    ignored.
 
-    Each line is one step of the project's history, except undo and redo. */
+    Each line is one step in the project's history, except undo and redo.
+*/
 class CORVEX_EXPORT EditScript
 {
 public:
-    //! A value that an edit changed.
+    //! A value changed by an edit.
     struct Change
     {
         QString property; //!< its path
         QString before;
         QString after;
     };
-    //! One edit that was made.
+    //! A completed edit.
     struct Edit
     {
-        QString text;          //!< what the history calls it
-        QStringList parts;     //!< the same of what it is made of, when that is more than one thing
-        QList<Change> changes; //!< in the order of their paths
+        QString text;          //!< its text in the history
+        QStringList parts;     //!< the texts of its parts, if it has several
+        QList<Change> changes; //!< ordered by path
     };
     enum class Result {
         Done,
         Failed,
-        Follows, //!< it cannot be done, since an earlier line failed
+        Follows, //!< it cannot be done because an earlier line failed
     };
 
-    /*! \a loadModels is called when an edit needs the installed device models and they have not been read. It
-        answers whether they are there now. */
+    //! \a loadModels is called when an edit needs the device models and they are not loaded. It returns
+    //! whether they are available now.
     explicit EditScript(Project &project, std::function<bool()> loadModels = {});
     ~EditScript();
     Q_DISABLE_COPY_MOVE(EditScript)
 
-    //! The edit that a line asks for, as the project is now. Changes nothing.
+    //! Plans the edit of a line for the present state of the project. Changes nothing.
     EditPlan plan(const QString &line) const;
-    //! Makes the edit. When it cannot be made the project is as before, and refusal() has the reason.
+    //! Does the edit. On failure the project is unchanged, and refusal() gives the reason.
     Result run(const QString &line);
     const EditRefusal &refusal() const { return m_refusal; }
     const QList<Edit> &edits() const { return m_edits; }
-    //! What lines had to tell since the last call, those that failed included.
+    //! The output of all lines since the last call, including failed ones.
     QStringList takeOutput() { return std::exchange(m_output, {}); }
-    //! Takes all edits back for good, with the files that came with them.
+    //! Permanently undoes all edits, including the files that they added.
     void undoAll();
 
 private:
@@ -74,8 +75,8 @@ private:
     QList<Edit> m_edits;
     QStringList m_output;
     bool m_hasFailed = false;
-    bool m_isLost = false;  //!< where the history would be now depends on lines that failed
-    QSet<QString> m_unmade; //!< names that failed lines would have given
+    bool m_isLost = false;  //!< the present position in the history depends on failed lines
+    QSet<QString> m_unmade; //!< names that failed lines would have assigned
 };
 
 } // namespace Halvane::Corvex::Designer

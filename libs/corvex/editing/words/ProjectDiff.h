@@ -10,14 +10,14 @@ namespace Halvane::Corvex::Designer {
 
 class Project;
 
-/*! What became of one project in another: objects that were added, removed, renamed or moved, and values that
-    changed.
+/*! The differences between two projects: added, removed, renamed and moved objects, and changed values.
 
-    An object is the same when it has the same name and class in the same list. One that is gone from a list
-    and new in another under its name was moved, into a new group for example. An object that is gone and one
-    that is new in the same list are one that was renamed, when nothing but the name tells them apart or when
-    half of what they hold is the same. What is in an object that was added or removed is not listed, unless
-   it was moved. Objects of classes that no plug-in knows are compared as text. */
+    Objects with the same name and class in the same list are the same object. An object that disappeared from
+    a list and appeared in another under the same name was moved, for example into a new group. An object that
+    disappeared and one that appeared in the same list are the same, renamed, if only the name differs or at
+    least half of their contents are equal. The contents of added and removed objects are not listed, unless
+    they were moved. Objects of unknown classes are compared as text.
+*/
 class CORVEX_EXPORT ProjectDiff
 {
 public:
@@ -25,9 +25,9 @@ public:
     struct Difference
     {
         Kind kind;
-        QString path; //!< of the object; of the property when a value changed
+        QString path; //!< of the object; for a changed value, of the property
         QString className;
-        QString before; //!< the old value, name or place; the XML of an object that no plug-in knows
+        QString before; //!< the old value, name or position; for an object of an unknown class, its XML
         QString after;
     };
 

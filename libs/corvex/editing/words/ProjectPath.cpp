@@ -18,7 +18,7 @@ using Common::LocalizationHelper;
 
 namespace {
 
-// Far more than any name that a project may have; a path has one for each of its objects.
+// Much longer than any name in a project; a path contains one name per level.
 constexpr qsizetype longestName = 4096;
 
 DesignerObject *childNamed(const DesignerObject &owner, const QString &name)
@@ -32,11 +32,11 @@ DesignerObject *childNamed(const DesignerObject &owner, const QString &name)
     return nullptr;
 }
 
-//! How far a path leads.
+//! How far a path was followed.
 struct Walk
 {
-    DesignerObject *owner; //!< the last object that was found
-    qsizetype known = 0;   //!< of the path, the "." after the owner included
+    DesignerObject *owner; //!< the last object found
+    qsizetype known = 0;   //!< the length of the part found, including the "." after the owner
 };
 
 ProjectPlace findBelow(DesignerObject &owner, const QString &path, qsizetype from, Walk &walk)
@@ -74,7 +74,7 @@ ProjectPlace findFrom(Project &project, const QString &path, Walk &walk)
     return path.at(name.size()) == u'.' ? findBelow(project, path, name.size() + 1, walk) : place;
 }
 
-//! How closely the list describes such an item; -1 when it does not take it.
+//! How specifically the list describes the item; -1 if the list does not accept it.
 qsizetype closeness(const SharedProperty &list, const DesignerObject &item)
 {
     qsizetype closest = list->isList() && list->objectFilters().isEmpty() ? 0 : -1;
@@ -86,7 +86,7 @@ qsizetype closeness(const SharedProperty &list, const DesignerObject &item)
     return closest;
 }
 
-//! The names that may follow that of \a owner in a path.
+//! The names that can follow \a owner in a path.
 QStringList namesBelow(const DesignerObject &owner)
 {
     QStringList names;
@@ -99,7 +99,7 @@ QStringList namesBelow(const DesignerObject &owner)
     return names;
 }
 
-//! An element with the very name, else with one like it; null without one.
+//! An element with exactly that name, or else with a similar one; null if there is none.
 const DesignerObject *nearestElement(const Project &project, const QString &name)
 {
     QStringList names;
@@ -177,11 +177,11 @@ EditRefusal ProjectPath::refusal(Project &project, const QString &path, Wanted w
 {
     const auto [object, property] = find(project, path);
     if (object && property && wanted == Object) {
-        const QString english = u"\"%1\" is a property, where an object is due: \"%2\" is one."_s;
+        const QString english = u"\"%1\" is a property, but an object is needed, such as \"%2\"."_s;
         return {LocalizationHelper::coreString(english).arg(path, object->objectPath())};
     }
     if (object && !property && wanted == Property) {
-        const QString english = u"\"%1\" is an object, where a property is due, such as \"%1.%2\"."_s;
+        const QString english = u"\"%1\" is an object, but a property is needed, such as \"%1.%2\"."_s;
         return {LocalizationHelper::coreString(english).arg(path, object->properties().at(1)->id()),
                 EditRefusal::Properties, path};
     }

@@ -12,37 +12,37 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class Project;
 
-//! What a path names: an object, or one of its properties.
+//! The object or property that a path names.
 struct ProjectPlace
 {
-    DesignerObject *object = nullptr; //!< null when there is nothing of that name
-    SharedProperty property;          //!< null when the path ends with the object
+    DesignerObject *object = nullptr; //!< null if nothing has that name
+    SharedProperty property;          //!< null if the path names an object
 };
 
-/*! The path of an object as users write it: the names on the way from the project down to it, joined with
-    "."; for one of its properties, the id of the property follows: "Main.group1.pump1.position".
-    DesignerObject::objectPath() gives such paths.
+/*! The path of an object in the form that users write: the names from the project down to the object, joined
+    with ".". For a property its id follows: "Main.group1.pump1.position". DesignerObject::objectPath()
+    returns such paths.
 
-    Names may hold a "." themselves ("pump.png"). An object comes before a property of the same name. The name
-    of the project itself is a path, too, and so is the id of a property that holds an object
-    ("configuration"). */
+    Names may contain a "." ("pump.png"). An object takes precedence over a property of the same name. The
+    project's own name is a path, too, as is the id of a property that contains an object ("configuration").
+*/
 class CORVEX_EXPORT ProjectPath
 {
 public:
     static ProjectPlace find(Project &project, const QString &path);
-    /*! The list that the path names. For the path of an object, the one of its lists that describes \a item
-        most closely. Null when there is none. */
+    //! The list that the path names. For the path of an object, the list of that object that describes \a
+    //! item most specifically. Null if there is none.
     static SharedProperty listFor(Project &project, const QString &path, const DesignerObject &item);
     //! The list of \a owner that describes \a item most closely. Null when there is none.
     static SharedProperty listFor(const DesignerObject &owner, const DesignerObject &item);
-    //! Whether a screen, a variable, an image or an element of the project has the name.
+    //! Whether a screen, variable, image or element of the project has that name.
     static bool isName(const Project &project, const QString &name);
 
     enum Wanted { Object, Property, Anything };
-    //! Why the path does not lead to what is wanted, and what the user may have meant.
+    //! Why the path does not lead to a place of the wanted kind, with a suggestion.
     static EditRefusal refusal(Project &project, const QString &path, Wanted wanted);
-    //! What the user may have meant by a path that leads nowhere: a sentence with a path that does, or no
-    //! message and the contents of the last object on the way.
+    //! A suggestion for a path that does not exist: a sentence with a similar path, or no message and a
+    //! reference to the contents of the last object found.
     static EditRefusal suggestion(Project &project, const QString &path);
 };
 

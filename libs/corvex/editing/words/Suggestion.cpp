@@ -15,7 +15,7 @@ using Common::LocalizationHelper;
 
 namespace {
 
-//! How many letters must be put in, left out or changed to make one text of the other.
+//! The edit distance: the number of letters to insert, remove or replace.
 qsizetype distance(QStringView a, QStringView b)
 {
     std::vector<qsizetype> row(size_t(b.size()) + 1);

@@ -8,17 +8,17 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What a user may have meant by a name that nothing has.
+//! Suggestions for unknown names.
 class CORVEX_EXPORT Suggestion
 {
 public:
-    //! Of \a names the one that is nearest to \a text; empty when none is near. It is never \a text itself.
+    //! The name in \a names that is most similar to \a text; empty if none is similar. Never \a text itself.
     static QString nearest(const QString &text, const QStringList &names);
-    //! A message: there is no such thing, which one may be meant, and \a advice, a sentence on where to look
-    //! or empty.
+    //! A message that there is no such thing, with a similar name and \a advice, which is empty or a sentence
+    //! on where to look.
     static QString unknown(const QString &what, const QString &name, const QStringList &names,
                            const QString &advice);
-    //! The same with a list of all names for advice.
+    //! The same, with a list of all names as advice.
     static QString unknown(const QString &what, const QString &name, const QStringList &names);
 };
 

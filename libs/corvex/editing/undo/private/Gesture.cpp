@@ -12,7 +12,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! What a command concerns; for a composite, what the first of its commands does.
+//! The property that a command changes; for a composite, the one of its first command.
 SharedProperty propertyOf(const UndoCommand &command)
 {
     const UndoCommand *leaf = &command;

@@ -9,11 +9,11 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! The commands of one gesture, done one by one while it goes on, and undone and redone as one step after
-   that.
+/*! The commands of one gesture. They are done one by one, and later undone and redone as one step.
 
-    A gesture may set one value hundreds of times. Of commands that do nothing else, only the first and the
-   last for each property are kept: the one knows the value before, the other the value after. */
+    A gesture may set the same value hundreds of times. Of commands that do nothing else, only the first and
+    the last for each property are kept: the first knows the old value, the last the new one.
+*/
 class Gesture
 {
 public:
@@ -23,26 +23,25 @@ public:
         : m_text(text)
     { }
 
-    //! Takes over a command that was done.
+    //! Takes ownership of a command that was done.
     void add(std::unique_ptr<UndoCommand> command);
     const QString &text() const { return m_text; }
     bool isEmpty() const { return m_commands.empty(); }
     //! Undoes all commands.
     void rollBack();
-    //! All commands as one, which is already done. Null for an empty gesture.
+    //! All commands as one, which is already done. Null if the gesture is empty.
     std::unique_ptr<UndoCommand> takeCommand();
 
 private:
     struct Run
     {
         Commands::iterator last;
-        bool hasEarlier = false; //!< than the last
+        bool hasEarlier = false; //!< there was an earlier command
     };
 
     QString m_text;
     Commands m_commands;
-    QHash<const DesignerProperty *, Run>
-        m_runs; //!< since the last command that did more than to set one value
+    QHash<const DesignerProperty *, Run> m_runs; //!< since the last command that did more than set one value
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -138,7 +138,7 @@ EditPlan EditPlanner::plan(const EditCall &call) const
 {
     EditPlan plan;
     plan.refusal = call.refusal;
-    plan.defaultReason = text(u"The project does not take this."_s);
+    plan.defaultReason = text(u"The project does not accept this."_s);
     if (call.form && !plan.isRefused()) {
         (this->*call.form->plan)(call, plan);
     }
@@ -204,14 +204,14 @@ void EditPlanner::set(const EditCall &call, EditPlan &plan) const
     if (!property) {
         plan.refusal = ProjectPath::refusal(m_project, path, ProjectPath::Property);
     } else if (property->isList() || property->isObject()) {
-        refuse(plan, u"\"%1\" holds objects. Use add, delete and move."_s, path);
+        refuse(plan, u"\"%1\" contains objects. Use add, delete and move."_s, path);
     } else if (property == object->idProperty()) {
-        refuse(plan, u"Names are given by rename, which takes all references along."_s);
+        refuse(plan, u"Use rename to change a name; it updates all references."_s);
     } else if (!property->hasFlag(StoredFlag)) {
-        refuse(plan, u"\"%1\" is not stored; it follows from other values."_s, path);
+        refuse(plan, u"\"%1\" cannot be set; it depends on other values."_s, path);
     } else {
         const QString value = call.words.size() == 2 ? call.words.at(1) : call.rest;
-        plan.defaultReason = text(u"\"%1\" does not take \"%2\"."_s, path, value);
+        plan.defaultReason = text(u"\"%1\" does not accept \"%2\"."_s, path, value);
         if (property->valueString() != value) {
             take(std::make_unique<ChangeProperty>(property, value, false), plan);
         }
@@ -229,7 +229,7 @@ void EditPlanner::add(const EditCall &call, EditPlan &plan) const
         return;
     }
     if (kindCast<ImageResource>(sample.get())) {
-        refuse(plan, u"Images are added by add-image, which takes their files along."_s);
+        refuse(plan, u"Use add-image to add an image; it copies the file."_s);
         return;
     }
     const SharedProperty list = listFor(call.words.at(1), *sample, plan);
@@ -291,13 +291,13 @@ void EditPlanner::group(const EditCall &call, EditPlan &plan) const
     const DesignerObject *first = members.constFirst();
     for (const DesignerObject *member : std::as_const(members)) {
         if (!kindCast<Element>(member)) {
-            refuse(plan, u"\"%1\" is a %2. A group takes elements."_s, member->objectPath(),
+            refuse(plan, u"\"%1\" is a %2. A group contains elements."_s, member->objectPath(),
                    member->className());
             return;
         }
         if (member->listProperty() != first->listProperty()) {
             refuse(plan,
-                   u"\"%1\" and \"%2\" are not in the same place. A group takes elements of one screen, "
+                   u"\"%1\" and \"%2\" are not in the same place. A group contains elements of one screen, "
                    "or of one group."_s,
                    first->objectPath(), member->objectPath());
             return;
@@ -355,13 +355,14 @@ void EditPlanner::addImages(const EditCall &call, EditPlan &plan) const
         const QString digest = Common::FileHelper::md5(file);
         if (const QString known = names.withContents(digest, info.suffix().toLower()); !known.isEmpty()) {
             plan.output.append(
-                text(u"\"%1\" is in the project already: it is the image \"%2\"."_s, file, known));
+                text(u"\"%1\" is already in the project, as the image \"%2\"."_s, file, known));
             continue;
         }
         const QString name = names.freeName(info.fileName());
         names.add(name, digest);
         if (name != info.fileName()) {
-            plan.output.append(text(u"\"%1\" is called \"%2\" now, since the name was used."_s, file, name));
+            plan.output.append(
+                text(u"\"%1\" was renamed to \"%2\" because the name was in use."_s, file, name));
         }
         DesignerObject *image = make(ImageResource::kindName(), name);
         if (call.words.size() == 1) {
@@ -430,7 +431,7 @@ void EditPlanner::filter(const EditCall &call, EditPlan &plan) const
     for (const DesignerObject *item : std::as_const(listed)) {
         if (!screen || item->screen() != screen || !kindCast<Element>(item)
             || kindCast<FilterElement>(item)) {
-            refuse(plan, u"A filter lists elements of one screen."_s);
+            refuse(plan, u"A filter can only list elements of one screen."_s);
             return;
         }
         names.append(item->getIdName());

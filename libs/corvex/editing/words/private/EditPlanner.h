@@ -15,24 +15,24 @@ class Project;
 struct EditCall;
 struct PlannedCommand;
 
-//! A row of the table of all edits: what an edit is called and how it is planned.
+//! A row in the table of all edits: the name of an edit and its planner.
 struct EditForm
 {
     const char *name;
     const char *usage;
-    int fewest; //!< words after the name
-    int most;   //!< -1 for any number
-    int given;  //!< the word that names what the edit adds or renames; -1 without one
+    int fewest; //!< minimum number of words after the name
+    int most;   //!< maximum number; -1 for any
+    int given;  //!< the index of the word with the name of the new or renamed object; -1 if there is none
     void (EditPlanner::*plan)(const EditCall &call, EditPlan &plan) const;
 };
 
-//! A line of a script with the edit that it calls for.
+//! A line of a script and its edit.
 struct EditCall
 {
-    const EditForm *form = nullptr; //!< null for a line without an edit
-    QStringList words;              //!< after the name of the edit
-    QString rest;                   //!< of the line after the first of the words, unchanged
-    EditRefusal refusal;            //!< why the line cannot be understood
+    const EditForm *form = nullptr; //!< null if the line has no edit
+    QStringList words;              //!< the words after the name of the edit
+    QString rest;                   //!< the line after the first of the words, unchanged
+    EditRefusal refusal;            //!< why the line is invalid
 
     bool movesHistory() const;
     QString givenName() const { return form && form->given >= 0 ? words.value(form->given) : QString(); }

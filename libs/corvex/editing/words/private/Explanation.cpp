@@ -19,7 +19,7 @@ using Common::LocalizationHelper;
 
 namespace {
 
-//! Who has the name that \a object cannot have, too; null when nobody is found.
+//! The object that already has the name that \a object cannot have; null if none is found.
 const DesignerObject *bearer(const DesignerObject &object, const QString &name)
 {
     const Project *project = object.project();
@@ -47,7 +47,7 @@ QString Explanation::ofName(const DesignerObject &object, const QString &name, c
         return reason;
     }
     if (!kindCast<ImageResource>(&object) && name.size() < 2) {
-        return LocalizationHelper::coreString(u"%1 It has at least 2 characters."_s).arg(reason);
+        return LocalizationHelper::coreString(u"%1 Use at least 2 characters."_s).arg(reason);
     }
     const DesignerObject *other = bearer(object, name);
     return other ? LocalizationHelper::coreString(u"%1 \"%2\" (%3) has this name."_s)
@@ -65,7 +65,7 @@ QString Explanation::ofItem(const DesignerObject &item, const SharedProperty &li
     }
     if (list->hasListItem(item.getIdName())) {
         return LocalizationHelper::coreString(
-                   u"%1 There is a \"%2\" in \"%3\". Give one of the two another name first."_s)
+                   u"%1 There is already a \"%2\" in \"%3\". Rename one of the two first."_s)
             .arg(reason, item.getIdName(), place);
     }
     const bool isOfKind = list->objectFilters().isEmpty()
@@ -73,7 +73,7 @@ QString Explanation::ofItem(const DesignerObject &item, const SharedProperty &li
                                  return item.isKindOfClass(className);
                              });
     return isOfKind ? reason
-                    : LocalizationHelper::coreString(u"%1 \"%2\" takes %3, and \"%4\" is a %5."_s)
+                    : LocalizationHelper::coreString(u"%1 \"%2\" accepts %3, but \"%4\" is a %5."_s)
                           .arg(reason, place, list->objectFilters().join(u" or "_s), item.getIdName(),
                                item.className());
 }
@@ -92,18 +92,20 @@ QString Explanation::ofImageFile(const QString &path)
         return LocalizationHelper::coreString(u"\"%1\" is not a file. Name a picture in it."_s).arg(path);
     }
     if (!info.isReadable()) {
-        return LocalizationHelper::coreString(u"\"%1\" cannot be read. Ask its owner to let you read it."_s)
+        return LocalizationHelper::coreString(u"\"%1\" cannot be read. Ask its owner for read permission."_s)
             .arg(path);
     }
     if (format.isEmpty()) {
-        return LocalizationHelper::coreString(u"\"%1\" is no image of a kind that the device shows: %2."_s)
+        return LocalizationHelper::coreString(
+                   u"\"%1\" is not an image format that the device supports: %2."_s)
             .arg(path, Common::FileHelper::validImageExtensions().join(u", "_s));
     }
     const QString extension = info.suffix().toLower();
     return format == extension || (format == "jpg"_L1 && extension == "jpeg"_L1)
-               ? LocalizationHelper::coreString(u"\"%1\" is damaged or cut off. Take it from a copy."_s)
+               ? LocalizationHelper::coreString(u"\"%1\" is damaged or incomplete. Restore it from a copy."_s)
                      .arg(path)
-               : LocalizationHelper::coreString(u"\"%1\" is an image of the kind %2. Call it \"%3.%2\"."_s)
+               : LocalizationHelper::coreString(
+                     u"\"%1\" is an image in the format %2. Rename it to \"%3.%2\"."_s)
                      .arg(path, format, info.completeBaseName());
 }
 

@@ -7,16 +7,16 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! What the fixed texts of the library leave open: which of several, how long a name has to be, what would
-   do. Each answer is the text, and where there is more to say a sentence that follows it. */
+//! Adds details to the library's fixed texts: which object is meant, how long a name must be, what would be
+//! accepted. Each function returns the text, followed by a sentence if there is more to say.
 class Explanation
 {
 public:
-    //! For a name that \a object was to get, and the reason against it.
+    //! For a name that \a object cannot get, and the reason.
     static QString ofName(const DesignerObject &object, const QString &name, const QString &reason);
-    //! For an item that a list did not take, and its reason.
+    //! For an item that a list did not accept, and the reason.
     static QString ofItem(const DesignerObject &item, const SharedProperty &list, const QString &reason);
-    //! Why a file is no image for a project; empty for one that is.
+    //! Why a file is not an image for a project; empty if it is.
     static QString ofImageFile(const QString &path);
 };
 

@@ -24,7 +24,7 @@ QString pathOf(const DesignerProperty &property)
     return path + property.id();
 }
 
-//! The object as a file holds it, without its own name.
+//! The object as stored in a file, without its own name.
 QString contentsOf(const DesignerObject *object)
 {
     QString text = DesignerObject::toString(object);
@@ -51,7 +51,7 @@ bool isWithin(const DesignerObject *object, const QSet<const DesignerObject *> &
 
 using Holders = QHash<QStringList, QList<const DesignerObject *>>;
 
-//! The one with at least half of the members that tell holders apart: those that few have.
+//! The owner that shares at least half of the distinctive members, which are those that few owners have.
 const DesignerObject *mostAlike(const QList<QStringList> &members, const Holders &holders,
                                 const QSet<const DesignerObject *> &taken)
 {
@@ -74,10 +74,10 @@ const DesignerObject *mostAlike(const QList<QStringList> &members, const Holders
     return 2 * shared.value(best) >= telling ? best : nullptr;
 }
 
-//! Which of the numbers stand in a longest ascending row of them.
+//! Marks a longest increasing subsequence of the numbers.
 QList<bool> ascending(const QList<qsizetype> &numbers)
 {
-    QList<qsizetype> tails; // the place of the smallest end of a row of each length
+    QList<qsizetype> tails; // the index of the smallest last number for each length
     QList<qsizetype> previous(numbers.size(), -1);
     for (qsizetype i = 0; i < numbers.size(); ++i) {
         const auto end = std::ranges::lower_bound(tails, numbers.at(i), {},
@@ -102,7 +102,7 @@ QList<bool> ascending(const QList<qsizetype> &numbers)
 ProjectComparison::ProjectComparison(const DesignerObject &before, const DesignerObject &after)
 {
     compareObjects(before, after);
-    // What is in an object that was moved may itself have been renamed, or moved out of it.
+    // The contents of a moved object may themselves have been renamed, or moved out of it.
     while (matchRenamed() || matchAlike() || matchMoved(Within::Screen) || matchMoved(Within::Project)) { }
     for (const Loose &gone : std::as_const(m_gone)) {
         if (!gone.isNested) {
@@ -145,7 +145,7 @@ void ProjectComparison::compareObjects(const DesignerObject &before, const Desig
     }
 }
 
-//! A file that is missing on one side has been no part of what is compared, as in a version of the past.
+//! An image file that exists only on one side was not part of the comparison, for example in an old version.
 void ProjectComparison::compareContents(const ImageResource &before, const ImageResource &after)
 {
     const auto describe = [](const ImageResource &image) {
@@ -243,7 +243,7 @@ void ProjectComparison::compareKept(const DesignerProperty &before, const Design
     }
 }
 
-//! Tells of the fewest objects that had to be moved for the new order.
+//! Reports the smallest set of objects that must move to produce the new order.
 void ProjectComparison::compareOrder(const QList<const DesignerObject *> &before,
                                      const QList<const DesignerObject *> &after)
 {
@@ -264,8 +264,8 @@ void ProjectComparison::compareOrder(const QList<const DesignerObject *> &before
     }
 }
 
-/*! With all that the object holds, which may have come from elsewhere or gone there. \a list is that of the
-   old project also for what is new in it: the owner may have another name now. */
+//! Adds the object with everything below it, which may have been moved in or out. For a new object, too, \a
+//! list belongs to the old project, because its owner may have been renamed.
 void ProjectComparison::addLoose(QList<Loose> &to, const DesignerObject *object, const DesignerProperty &list,
                                  bool isNested)
 {
@@ -282,7 +282,7 @@ void ProjectComparison::addLoose(QList<Loose> &to, const DesignerObject *object,
     }
 }
 
-//! All that is in an object, each with what it must have in common with that in another.
+//! For each object below the given one, the values that its counterpart must share.
 QList<QStringList> ProjectComparison::memberKeys(const Loose &loose)
 {
     QList<QStringList> keys;
@@ -294,7 +294,7 @@ QList<QStringList> ProjectComparison::memberKeys(const Loose &loose)
     return keys;
 }
 
-//! What has found its other side, and all in it, is no longer loose.
+//! Removes the matched objects, and everything below them, from the loose ones.
 bool ProjectComparison::settle(const QSet<const DesignerObject *> &matched)
 {
     const auto isSettled = [&matched](const Loose &loose) { return isWithin(loose.object, matched); };
@@ -364,7 +364,7 @@ bool ProjectComparison::matchRenamed()
     return settle(matched);
 }
 
-//! Screens and groups that have another name and have changed, too: most of what is in them is the same.
+//! Matches screens and groups that were both renamed and changed, if most of their contents are equal.
 bool ProjectComparison::matchAlike()
 {
     Holders byMember;

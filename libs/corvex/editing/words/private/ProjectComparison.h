@@ -12,7 +12,8 @@ class DesignerObject;
 class DesignerProperty;
 class ImageResource;
 
-//! Finds the differences of a ProjectDiff: first list by list, then among what was found in one project only.
+//! Finds the differences for a ProjectDiff: first list by list, then among the objects found in only one
+//! project.
 class ProjectComparison
 {
 public:
@@ -25,13 +26,13 @@ private:
     struct Loose
     {
         const DesignerObject *object;
-        QString place;   //!< the path of its list, or of the list of that in which it is nested
-        QStringList key; //!< its class, its name and its screen
-        bool isNested;   //!< in another one that is loose
+        QString place;   //!< the path of its list, or of the list that contains its outermost loose owner
+        QStringList key; //!< its class, name and screen
+        bool isNested;   //!< it is inside another loose object
     };
 
     void compareObjects(const DesignerObject &before, const DesignerObject &after);
-    //! The objects of an object property, either of which may be null.
+    //! Compares the objects of an object property. Either may be null.
     void compareChildren(const DesignerObject *before, const DesignerObject *after);
     void compareContents(const ImageResource &before, const ImageResource &after);
     void compareLists(const DesignerProperty &before, const DesignerProperty &after);
@@ -40,7 +41,7 @@ private:
                       const QList<const DesignerObject *> &after);
     static void addLoose(QList<Loose> &to, const DesignerObject *object, const DesignerProperty &list,
                          bool isNested);
-    // All tell whether they have found anything.
+    // Each returns whether it found a match.
     bool matchMoved(Within within);
     bool matchRenamed();
     bool matchAlike();
