@@ -140,9 +140,8 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
          "The first character must be a letter. Use at least 2 characters."},
         {"add Nothing Main",
          "There is no class \"Nothing\". --plugins DIR loads other plug-ins with more classes."},
-        {"add Rectangle Main box1",
-         "This cannot be added. There is a \"box1\" in \"Main\". Give one of the two "
-         "another name first."},
+        {"add Rectangle Main box1", "This cannot be added. There is already a \"box1\" in \"Main\". "
+                                    "Rename one of the two first."},
         {"move Main.box1 Main.box1", "\"Main.box1\" has no list for an object of the class Rectangle."},
         {"add Text Main new", "This name is reserved."},
         {"group new Main.box1 Main.box2", "This name is reserved."},
