@@ -40,8 +40,8 @@ constexpr Binding bindings[] = {
 constexpr Binding colorBinding{"PropertyEditor"_L1, GeneralDataList::GeneralExpression,
                                GeneralDataInfo::ColorOutput};
 
-/*! A color is one term, which is made a color. Whatever else an expression of colors did, it would do with
-    colors: a condition would be one, too, and always hold. Only texts that name colors can be selected. */
+//! A color is a single term, converted to a color. In any other expression all terms would become colors: a
+//! condition, for example, would be a color and always true. Only texts that name colors can be selected.
 constexpr Binding colorSelection{"PropertyEditor"_L1, GeneralDataList::StringExpression,
                                  GeneralDataInfo::RawOutput};
 
@@ -73,7 +73,7 @@ const DesignerProperty *propertyBeside(const DesignerObject *owner, const QStrin
         const QString &id = property->id();
         return id.size() == name.size() + suffix.size() && id.endsWith(suffix) && id.startsWith(name);
     };
-    // Elements of a class have it at one place, and each bound property of each element asks.
+    // The elements of a class have it at the same index, and this is asked for each bound property.
     static thread_local QHash<QString, qsizetype> places;
     qsizetype &place = places[name];
     if (place >= properties.size() || !isIt(properties.at(place))) {

@@ -8,14 +8,14 @@ class DesignerProperty;
 class QmlBindings;
 } // namespace Halvane::Corvex::Designer
 
-/*! The QML of properties that an expression may stand in for.
+/*! Writes properties whose value an expression can replace.
 
-    The expression is a property beside the plain one, named like it with "Binding" behind ("textBinding"
-   beside "text"). As long as it is empty the plain value is written.
+    The expression is a second property, named like the first with the suffix "Binding" ("textBinding" for
+    "text"). While it is empty, the plain value is written.
 */
 namespace Halvane::Corvex::Elements {
 
-//! An expression beside a plain value: empty, or one that can be written in the value's place.
+//! Accepts an expression that is empty or can replace the value.
 bool bindingValidator(const Designer::DesignerProperty *property, QString &error);
 
 //! The bindings of the plain value, each replaced by the expression beside it: "text" by "textBinding", the

@@ -7,7 +7,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! The root of the plug-in: makes the standard elements.
+//! The root object of the plug-in: creates the standard elements.
 class ElementsFactory
     : public QObject
     , public Designer::TableFactory

@@ -22,7 +22,7 @@ namespace Halvane::Corvex::Elements {
 
 namespace {
 
-//! A new object of the class writes the values as any other of the class would.
+//! Sets the values on a new object of the class, to write them as that class does.
 QmlBindings assignToNew(const QString &className, const QMap<QString, QString> &values)
 {
     const std::unique_ptr<DesignerObject> model(DesignerFactory::instance()->createUnowned(className));

@@ -24,7 +24,7 @@ QString translated(const char *message)
     return Common::LocalizationHelper::coreString(QString::fromLatin1(message));
 }
 
-//! An empty text is no expression and no fault.
+//! An empty text is neither an expression nor an error.
 bool isTranslatable(const QString &text, GeneralDataList::InfoType kind)
 {
     bool ok = true;
@@ -73,7 +73,7 @@ bool acceptExpression(const GeneralDataList &expression, GeneralDataList::InfoTy
         return true;
     }
     const QString obstacle = expression.obstacle(kind);
-    error = obstacle.isEmpty() ? translated("The terms of the expression do not go together.") : obstacle;
+    error = obstacle.isEmpty() ? translated("The terms of the expression do not fit together.") : obstacle;
     return false;
 }
 
@@ -94,7 +94,7 @@ bool termsValidator(const DesignerProperty *property, QString &error)
     int number = 1;
     for (const GeneralDataInfo &term : expressionOf(*property)) {
         if (operandCode(term).isEmpty()) {
-            error = translated("Value %1, \"%2\", is no constant, variable or property that a script can "
+            error = translated("Value %1, \"%2\", is not a constant, variable or property that a script can "
                                "read.")
                         .arg(QString::number(number), term.toString());
             return false;

@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! Changes of properties that triggers run.
+//! Changes of properties that triggers execute.
 class Action : public Designer::BasicAction
 {
     Q_OBJECT

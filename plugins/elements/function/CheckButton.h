@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! Switches between two states at each press, and follows a boolean variable.
+//! Switches between two states when it is pressed, and follows a boolean variable.
 class CheckButton : public Designer::FunctionElement
 {
     Q_OBJECT

@@ -15,8 +15,8 @@ namespace Halvane::Corvex::Elements {
 
 namespace {
 
-/*! The name of the log, and how it samples: no configuration file says that, and the element is what does the
-    sampling. */
+//! The name and the sampling settings of the log. No configuration file contains them, because the element
+//! does the sampling.
 QmlBindings logToQml(const DesignerProperty *property)
 {
     QmlBindings bindings = linkNameToQml(property);

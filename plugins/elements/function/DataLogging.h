@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! Lets a log variable take its samples while the screen is shown.
+//! Samples a log variable while the screen is shown.
 class DataLogging : public Designer::FunctionElement
 {
     Q_OBJECT

@@ -17,8 +17,8 @@ namespace Halvane::Corvex::Elements {
 
 namespace {
 
-/*! The conditions as an array that the runtime follows, and a handler that makes the assignments of those
-   that hold. A rule without a condition always holds; one without assignments is left out. */
+//! The conditions as an array that the runtime keeps evaluating, and a handler with the assignments of those
+//! that are true. A rule without a condition always applies; one without assignments is omitted.
 QmlBindings logicToQml(const DesignerProperty *property)
 {
     QStringList conditions;

@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! Rules: while a condition holds, assignments are made whenever a value changes.
+//! Rules: while a condition is true, assignments are executed whenever a value changes.
 class LogicBuilder : public Designer::FunctionElement
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! Runs actions when one of its values has changed and its condition holds.
+//! Runs actions when one of its values has changed and its condition is true.
 class PropertyTrigger : public Designer::FunctionElement
 {
     Q_OBJECT

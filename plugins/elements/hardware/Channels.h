@@ -5,12 +5,12 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! \a properties and the "value" of a channel: what an input measures, what an output is set to.
+//! Adds the "value" of a channel to \a properties: the measured value of an input or the value of an output.
 Designer::RuntimePropertyList withValue(Designer::RuntimePropertyList properties,
                                         Common::EnumHelper::VariableType type,
                                         Common::EnumHelper::VariableAccessMode access);
 
-//! A channel of the device whose value has that type: read from an input, written to an output as well.
+//! A channel of the device with a value of that type: an input is read, an output is also written.
 template<Common::EnumHelper::VariableType type, Common::EnumHelper::VariableAccessMode access>
 class Channel : public Designer::HardwareElement
 {
@@ -39,7 +39,7 @@ protected:
     bool initializeProperties() override;
 };
 
-//! A digital channel of the device, an input or an output by the configuration.
+//! A digital channel of the device. The configuration defines whether it is an input or an output.
 class DigitalInputOutput : public SwitchedOutput
 {
     Q_OBJECT
@@ -61,7 +61,7 @@ protected:
     bool initializeProperties() override;
 };
 
-//! An analog input of the device, with the voltages that it measures.
+//! An analog input of the device, with its voltage range.
 class AnalogInput : public MeasuringInput
 {
     Q_OBJECT

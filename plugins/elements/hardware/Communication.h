@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! Serves BACnet objects and talks to BACnet devices, by the names of their variables.
+//! Serves BACnet objects and communicates with BACnet devices, which are variables.
 class BACnetService : public Designer::FunctionElement
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ protected:
     bool initializeProperties() override;
 };
 
-//! Commands sent over Modbus: pairs of the element that starts one and its hexadecimal bytes.
+//! Commands to send over Modbus: pairs of the triggering element and the hexadecimal bytes.
 class ModbusCommands : public Designer::FunctionElement
 {
     Q_OBJECT

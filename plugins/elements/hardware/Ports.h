@@ -38,7 +38,7 @@ protected:
     bool initializeProperties() override;
 };
 
-//! The RS485 port of the device, on which it answers by an address map.
+//! The RS485 port of the device. It responds to requests according to an address map.
 class RS485COMPort : public Designer::HardwareElement
 {
     Q_OBJECT
@@ -60,7 +60,7 @@ protected:
     bool initializeProperties() override;
 };
 
-//! A serial port of the device, on which it answers by an address map.
+//! A serial port of the device. It responds to requests according to an address map.
 class SerialCOMPort : public Designer::HardwareElement
 {
     Q_OBJECT

@@ -16,8 +16,8 @@ namespace Halvane::Corvex::Elements {
 
 namespace {
 
-//! The picture of a file as it is now; drawn anew for each size when it is made of lines. Null when it cannot
-//! be read, or would have other files read.
+//! The picture in the present file; drawings are rendered for each size. Null if the file cannot be read, or
+//! if it would read other files.
 QPixmap pictureOf(const QFileInfo &file, const QSize &size)
 {
     const bool isDrawing = file.suffix().compare("svg"_L1, Qt::CaseInsensitive) == 0;
@@ -42,7 +42,8 @@ QPixmap pictureOf(const QFileInfo &file, const QSize &size)
 
 void GraphicsImage::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
-    // Looked up each time: the file may be replaced and the resource renamed without a word to the element.
+    // Looked up each time, because the element is not notified when the file is replaced or the resource
+    // renamed.
     const ImageResource *image = ImageResource::imageElement(dataObject());
     const QPixmap picture =
         image ? pictureOf(QFileInfo(image->fullFilePath()), frame().size().toSize()) : QPixmap();

@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! A picture of the project, stretched over the frame; a crossed frame when there is none.
+//! An image of the project, stretched over the frame; a crossed frame if there is none.
 class GraphicsImage : public Designer::GraphicsRectangle
 {
     CORVEX_CLASS_NAMES(GraphicsImage, Designer::GraphicsRectangle)

@@ -14,7 +14,8 @@ namespace Halvane::Corvex::Elements {
 
 namespace {
 
-//! Sizes of fonts are in points, of which the device has 72 on 96 pixels, whatever the desk's display has.
+//! Font sizes are in points. The device has 96 pixels per inch, whatever the resolution of the designer's
+//! display.
 constexpr double pixelsPerPoint = 96.0 / 72;
 
 QFont deviceFont(const QString &text)
@@ -43,7 +44,7 @@ void GraphicsText::measure()
 {
     prepareGeometryChange();
     const int flags = int(m_alignment) | Qt::TextDontClip;
-    // Letters of italic fonts reach a little beyond what is measured.
+    // Italic letters extend a little beyond the measured rectangle.
     const QRectF ink = QFontMetricsF(m_font).boundingRect(frame(), flags, m_text).adjusted(-2, -2, 2, 2);
     m_inkRect = m_text.isEmpty() ? frame() : frame() | ink;
 }

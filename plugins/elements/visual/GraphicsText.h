@@ -7,8 +7,8 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! A text as the device writes it: on one line unless it has line breaks, and beyond its frame when it is too
-//! long for that.
+//! A text as the device draws it: on one line unless it contains line breaks, and beyond its frame if it is
+//! too long.
 class GraphicsText : public Designer::GraphicsRectangle
 {
     CORVEX_CLASS_NAMES(GraphicsText, Designer::GraphicsRectangle)
@@ -28,7 +28,7 @@ private:
     QFont m_font;
     QColor m_color;
     Qt::Alignment m_alignment;
-    QRectF m_inkRect; //!< the frame and what the text covers beside it
+    QRectF m_inkRect; //!< the frame united with the drawn text
 };
 
 } // namespace Halvane::Corvex::Elements

@@ -61,7 +61,7 @@ void Image::afterPropertyChanged(const DesignerProperty *property, const QString
     }
 }
 
-//! Tells the picture that it names, and the one that it named before.
+//! Notifies the image resources that it refers to now and before.
 void Image::showResource()
 {
     ImageResource *resource = ImageResource::imageElement(this);

@@ -11,7 +11,7 @@ class ImageResource;
 
 namespace Halvane::Corvex::Elements {
 
-//! A picture of the project's image resources, which knows the elements that show it.
+//! Shows one of the project's image resources, which knows the elements that show it.
 class Image : public StandardVisual
 {
     Q_OBJECT

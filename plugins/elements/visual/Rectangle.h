@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! A rectangle with a border and round corners.
+//! A rectangle with a border and rounded corners.
 class Rectangle : public StandardVisual
 {
     Q_OBJECT

@@ -5,8 +5,8 @@
 
 namespace Halvane::Corvex::Elements {
 
-/*! What the drawn standard elements have in common: position, rotation and visibility may follow expressions.
-    No kind of its own: the class names of its elements go on with VisualElement. */
+//! The base of the standard elements that are drawn: position, rotation and visibility may be expressions. It
+//! is not a class in the model: in the class names of its elements VisualElement follows directly.
 class StandardVisual : public Designer::VisualElement
 {
 protected:

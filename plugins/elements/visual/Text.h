@@ -12,7 +12,7 @@ class Text : public StandardVisual
     CORVEX_CLASS_NAMES(Text, Designer::VisualElement)
 
 public:
-    //! The names that QML has for the places of a text.
+    //! The QML names for the alignments of a text.
     enum HorizontalAlignment {
         AlignLeft = Qt::AlignLeft,
         AlignHCenter = Qt::AlignHCenter,
