@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# What the scripts of this folder share; sourced by them, not run.
+# Shared by the scripts of this folder; sourced, not run.
 # shellcheck shell=bash disable=SC2034 # variables are for the scripts
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
@@ -13,19 +13,18 @@ fail() {
   exit 1
 }
 
-# usage FILE: prints the comment at the head of a script, which is its help.
+# usage FILE: prints the comment at the start of a script, which is its help text.
 usage() { sed -n '3,/^$/{/^$/d;s/^# \{0,1\}//;p}' "$1"; }
 
-# show_failure LOG: the part of a log that tells why a command failed.
+# show_failure LOG: prints the part of a log that shows why a command failed.
 show_failure() {
   local first
   first=$(grep -n -m 1 -E '^FAILED:|error:|Error' "$1" | cut -d : -f 1 || true)
   tail -n "+${first:-1}" "$1" | head -n 150 >&2
 }
 
-# quietly WHAT LOG COMMAND...: runs a command with its output in the file LOG, and shows the output only
-# when the command fails. Says what runs and how long it took; the lines "[done/all]" of a ninja build
-# become a line for each tenth.
+# quietly WHAT LOG COMMAND...: runs a command with its output in the file LOG, and shows the output only if the
+# command fails. Prints WHAT and the duration, and the progress of a ninja build in steps of a tenth.
 quietly() {
   local what=$1 log=$2 start=$SECONDS status=0 tenth shown=0 line
   shift 2
@@ -43,7 +42,7 @@ quietly() {
   done >"$log" || status=$?
   if ((status != 0)); then
     show_failure "$log"
-    fail "this failed: $what (all of its output is in ${log#"$root"/})"
+    fail "failed: $what (see ${log#"$root"/} for the full output)"
   fi
   say "  done in $((SECONDS - start)) s"
 }

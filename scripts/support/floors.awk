@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# The work of scripts/floors. Reads three files: the page that holds the table of floors, a list of source
-# files, and their include lines as "file:line:#include ...".
+# Implements scripts/floors. Reads three files: the page with the table of layers, a list of source files, and
+# their include lines as "file:line:#include ...".
 
 FNR == 1 { input++ }
 
@@ -10,12 +10,12 @@ input == 1 && /^\| *[0-9]+ *\|/ {
     count = split(cells[3], names, /[`, ]+/)
     for (i = 1; i <= count; i++)
         if (names[i] != "")
-            floors[names[i]] = cells[2] + 0
+            layers[names[i]] = cells[2] + 0
     rows++
 }
 
 input == 2 && FNR == 1 && !rows {
-    complain("no row of a table of floors in the page of the architecture")
+    complain("docs/architecture.md has no table of layers")
     exit
 }
 
@@ -23,7 +23,7 @@ input == 2 {
     known[$0] = 1
     sources[++files] = $0
     if (room($0) == "")
-        complain($0 ": stands in no room of the table of floors")
+        complain($0 ": is not in a room of the table of layers")
 }
 
 input == 3 {
@@ -39,9 +39,9 @@ input == 3 {
     to = room(target)
     includes++
     if (from != "" && to == "")
-        complain(file ":" parts[2] ": includes " included ", which stands in no room of the table of floors")
-    else if (from != "" && floors[to] > floors[from])
-        complain(file ":" parts[2] ": " from " (floor " floors[from] ") includes " included " of floor " floors[to])
+        complain(file ":" parts[2] ": includes " included ", which is not in a room of the table of layers")
+    else if (from != "" && layers[to] > layers[from])
+        complain(file ":" parts[2] ": " from " (layer " layers[from] ") includes " included " of layer " layers[to])
     if (target in known) {
         edges[file] = edges[file] "\n" target
         lines[file, target] = parts[2]
@@ -54,7 +54,7 @@ END {
             visit(sources[i])
     if (problems)
         exit 1
-    print "floors: " files " files, " includes " includes between them: each floor knows only itself and those below"
+    print "floors: " files " files, " includes " includes between them: each layer uses only itself and lower layers"
 }
 
 function complain(text)
@@ -63,18 +63,18 @@ function complain(text)
     problems++
 }
 
-# The room of a file: "values" of "libs/corvex/values/X.h", "editing/undo", "plugins", "apps".
+# The room of a file: "values" for "libs/corvex/values/X.h", "editing/undo", "plugins", "apps".
 function room(file,    path, names)
 {
     path = file
     sub(/^libs\/corvex\//, "", path)
     split(path, names, "/")
-    if ((names[1] "/" names[2]) in floors)
+    if ((names[1] "/" names[2]) in layers)
         return names[1] "/" names[2]
-    return names[1] in floors ? names[1] : ""
+    return names[1] in layers ? names[1] : ""
 }
 
-# The file of this tree that an include line means, or "" for a header from elsewhere.
+# The file of this tree that an include line refers to, or "" for any other header.
 function resolved(file, included,    path)
 {
     if (included ~ /^corvex\//)
@@ -86,7 +86,7 @@ function resolved(file, included,    path)
         ;
     if (path in known)
         return path
-    # Programs and plug-ins name their files from their own folder, or from the one above.
+    # Programs and plug-ins include their files relative to their own folder or a parent folder.
     path = file
     while (sub(/\/[^\/]*$/, "", path))
         if ((path "/" included) in known)
@@ -94,7 +94,7 @@ function resolved(file, included,    path)
     return ""
 }
 
-# Walks the includes of a file depth first; a file that is met again while it is on the path closes a ring.
+# Follows the includes of a file depth first. A file that is already on the path closes a cycle.
 function visit(file,    targets, count, i)
 {
     state[file] = "open"
@@ -104,17 +104,17 @@ function visit(file,    targets, count, i)
         if (!(targets[i] in state))
             visit(targets[i])
         else if (state[targets[i]] == "open")
-            complain(ring(targets[i]))
+            complain(cycle(targets[i]))
     }
     depth--
     state[file] = "done"
 }
 
-function ring(first,    i, text)
+function cycle(first,    i, text)
 {
     for (i = depth; trail[i] != first; i--)
         ;
-    text = trail[i] ":" lines[trail[i], i < depth ? trail[i + 1] : first] ": a ring of includes: " trail[i]
+    text = trail[i] ":" lines[trail[i], i < depth ? trail[i + 1] : first] ": a cycle of includes: " trail[i]
     while (i < depth)
         text = text " -> " trail[++i]
     return text " -> " first

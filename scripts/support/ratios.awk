@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: MIT
-# The table of scripts/benchmark. Reads the rows of the table, "benchmark | work | benchmark | reference |
-# target | measure", and then what Google Benchmark wrote about its runs as JSON, which has one member on each
-# line.
+# Prints the table of scripts/benchmark. Reads the rows of the table, "benchmark | work | benchmark | reference |
+# target | measure", and then the results of Google Benchmark as JSON with one member per line.
 
 FNR == 1 { input++ }
 
@@ -18,7 +17,7 @@ input == 1 && !/^#/ && NF {
     sub(/ *$/, "", measure[row])
 }
 
-# The members of one run stand between "{" and "}"; the name comes first.
+# The members of one run are between "{" and "}"; the name comes first.
 input > 1 && /^ *"[^"]+":/ {
     key = $1
     gsub(/[":]/, "", key)
@@ -41,7 +40,7 @@ END {
         report(i)
 }
 
-# Remembers the run: the median of several repetitions, or the only one.
+# Stores a run: the median of several repetitions, or the only one.
 function keep(    name)
 {
     name = member["run_name"] != "" ? member["run_name"] : member["name"]

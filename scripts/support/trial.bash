@@ -1,14 +1,14 @@
 # SPDX-License-Identifier: MIT
-# What scripts/trial-kill and scripts/trial-power share; sourced by them after common.bash.
+# Shared by scripts/trial-kill and scripts/trial-power; source it after common.bash.
 # shellcheck shell=bash disable=SC2034
 
-export ASAN_OPTIONS=detect_leaks=0 # that looks at itself with the same means as strace
+export ASAN_OPTIONS=detect_leaks=0 # the leak checker uses ptrace, like strace
 export TMPDIR
 TMPDIR=$(mktemp -d)
 trial=$TMPDIR/trial
 mkdir "$trial"
 
-# The verbs that write, one a line: name | what is run in the folder above the projects.
+# The verbs that write, one per line: name | command to run in the parent folder of the projects.
 cases='
 rename-image | "$corvex" rename Station/Station.kdproj pump.png engine.png
 replace-image | echo "replace-image pump.png other.png" | "$corvex" edit Station/Station.kdproj -
@@ -28,7 +28,7 @@ build | "$corvex" build Station/Station.kdproj -o built
 first-build | "$corvex" build Station/Station.kdproj -o firstly
 '
 
-# state FOLDER: names and contents of all files and folders in it.
+# state FOLDER: prints names and digests of all files and folders in it.
 state() {
   (
     cd "$1"
@@ -37,8 +37,8 @@ state() {
   )
 }
 
-# open_again FOLDER CASE: what a user does after a crash; the names of before and after are both tried. Builds are
-# set aside as they are found, since the next one may not need them.
+# open_again FOLDER CASE: does what a user does after a crash, with both the old and the new names. Builds are
+# copied first, because the next build may replace them.
 open_again() {
   (
     cd "$1"
@@ -61,14 +61,14 @@ open_again() {
   ) >>"$trial/log" 2>&1
 }
 
-# judge FOLDER WHAT: fails unless the folder is as it was or as it was to be.
-judge() {
+# check_state FOLDER WHAT: fails unless the folder is in the old or the new state.
+check_state() {
   local folder
   state "$1" >"$trial/try.state"
   if ! cmp -s "$trial/try.state" "$trial/old.state" && ! cmp -s "$trial/try.state" "$trial/new.state"; then
     cat "$trial/log" >&2
     diff "$trial/old.state" "$trial/try.state" >&2 || true
-    fail "$2: neither old nor new"
+    fail "$2: neither the old nor the new state"
   fi
   for folder in "$trial"/*.seen; do
     [[ -e $folder ]] || continue
@@ -80,7 +80,7 @@ judge() {
   done
 }
 
-# make_case NAME COMMAND: the states of before and after, in "old" and "new".
+# make_case NAME COMMAND: creates the states before and after it in "old" and "new".
 make_case() {
   rm -rf "$trial/old" "$trial/new"
   cp -a "$trial/prepared" "$trial/old"
@@ -90,7 +90,7 @@ make_case() {
   state "$trial/new" >"$trial/new.state"
 }
 
-# each_case FUNCTION [NAME...]: calls it with the name and the command of each case, or of those that are named.
+# each_case FUNCTION [NAME...]: calls the function with the name and the command of all cases, or of the named ones.
 each_case() {
   local function=$1 line name
   shift
@@ -103,7 +103,7 @@ each_case() {
   done <<<"$cases"
 }
 
-# make_projects: a project with images, a build of it as it was before, and what the cases need, in "prepared".
+# make_projects: creates a project with images, an older build of it, and other files for the cases, in "prepared".
 make_projects() {
   local images=$root/examples/PumpStation/Images
   mkdir "$trial/prepared"
@@ -123,5 +123,5 @@ make_projects() {
     mkdir Rough
     sed 's/^ *//' Station/Station.kdproj >Rough/Rough.kdproj
     rm script
-  ) >"$trial/log" 2>&1 || fail "the projects cannot be made: $(<"$trial/log")"
+  ) >"$trial/log" 2>&1 || fail "cannot create the projects: $(<"$trial/log")"
 }

@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# The table of scripts/benchmark, made from results as Google Benchmark writes them: the median of several
-# repetitions, a single run, a counter, a value without a reference, a benchmark that was skipped, one that is
-# missing.
+# Tests the table of scripts/benchmark with results in the format of Google Benchmark: the median of several
+# repetitions, a single run, a counter, a value without a reference, a skipped benchmark, and a missing one.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
 place=$(mktemp -d)
@@ -19,7 +18,7 @@ run() {
 }
 
 cat >"$place/rows" <<'ROWS'
-# a remark
+# a comment
 load/L | load it | load/read | read it | 1.5 | time
 load/L | its memory | load/read | the other | 1 | peak_bytes
 load/L | processor | load/read | the other | - | cpu

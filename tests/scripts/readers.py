@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
-"""Reads what the program writes for others with readers that are not ours.
+"""Reads the output of the program with independent readers.
 
 readers.py CORVEX PROJECT FOLDER
 
-Builds the project into FOLDER. PyQt reads the stored values of the build, and gets what `corvex config-dump`
-shows; Python's csv module reads the exported tables.
+Builds the project into FOLDER. Reads the stored values of the build with PyQt and compares them with the output
+of `corvex config-dump`. Reads the exported tables with Python's csv module.
 """
 import csv
 import importlib
