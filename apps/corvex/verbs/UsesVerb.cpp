@@ -29,7 +29,7 @@ struct Use
     QString text;     //!< the name as written there, including the way to it: "Main.group1.pump1"
 };
 
-//! \a name is that of the target.
+//! \a name is the name of the target.
 QList<Use> usesOf(const ReferenceTarget &target, const QString &name)
 {
     QList<Use> uses;

@@ -144,7 +144,7 @@ void ImageResource::updateFileFields()
 void ImageResource::afterFileFieldsChanged()
 {
     changePropertyValue(m_imageFile, fullFilePath());
-    // The path may be that of before, and another file lie there now.
+    // The path may be unchanged while the file there is another one.
     validate();
 }
 
@@ -214,7 +214,7 @@ DesignerObject *ImageResource::createImageElement(const QString &name, const QSi
         return nullptr;
     }
     element->setParent(nullptr);
-    // The picture can be found only once the element is on a screen.
+    // The image is found only after the element was added to a screen.
     element->setDisableValidation(true);
     const ObjectLinkInfo source(name, u"Project"_s, u"ImageResource"_s);
     element->changePropertyValue(element->getProperty(u"source"), source.toString());

@@ -14,8 +14,8 @@ class QWidget;
 
 namespace Halvane::Corvex::Designer {
 
-/*! A picture that belongs to a project. Its name is that of its file in the project's folder "Images",
-    extension included; a name that would lead out of that folder has no file. */
+//! An image of a project. Its name is the name of its file in the project's folder "Images", including the
+//! extension. A name that would leave that folder has no file.
 class CORVEX_EXPORT ImageResource : public FileObject
 {
     Q_OBJECT
@@ -26,44 +26,43 @@ public:
     QString displayName() const override;
     void setProject(Project *project) override;
 
-    //! Where the picture was taken from; not stored.
+    //! The file that the image was copied from; not stored.
     const SharedProperty &originalLocation() const { return m_originalLocation; }
-    //! The path of the file, which must be an image of the kind that its extension tells; not stored.
+    //! The path of the file, which must be an image that matches its extension; not stored.
     const SharedProperty &imageFile() const { return m_imageFile; }
 
     QString createFileName() const override;
-    //! Copies the picture from its original location into the folder \a path, which is made when it is
-    //! missing.
+    //! Copies the image from its original location into the folder \a path, which is created if necessary.
     bool createFile(const QString &path) override;
-    //! Takes \a path for the file of the picture; it must exist.
+    //! Uses the existing file \a path as the file of the image.
     bool loadFile(const QString &path) override;
-    //! True when the file is there: a picture is never written.
+    //! Returns whether the file exists. Images are never written.
     bool saveFile() override;
-    //! Renames the file in its folder; both names with extension.
+    //! Renames the file in its folder; both names include the extension.
     bool renameFile(const QString &oldName, const QString &newName) override;
-    //! Looks for the file where the project keeps its images now.
+    //! Updates the path of the file after the images folder of the project changed.
     void updateFileFields();
-    //! The path of the file as the folders stand at this moment; empty when it cannot be there.
+    //! The path of the file according to the present folders; empty if there is no valid path.
     QString filePath() const { return createFullFilePath(parentPath(), subPath(), fileName()); }
 
-    //! The elements that show the picture, in no particular order. Not owned; an element that is deleted
-    //! leaves.
+    //! The elements that show the image, in no particular order. Not owned; deleted elements are removed.
     QList<DesignerObject *> linkedElements() const { return m_linkedElements.values(); }
     void linkElement(DesignerObject *element);
     void unlinkElement(DesignerObject *element);
     bool isLinked() const { return !m_linkedElements.isEmpty(); }
 
-    //! The picture that an element names as its "source"; null when it names none of its project.
+    //! The image that an element names as its "source"; null if its project has none with that name.
     static ImageResource *imageElement(const DesignerObject *element);
-    /*! A new element of the class "Image" that shows the picture called \a name. It has the base name of its
-        class, no parent, and belongs to the caller. Null when no plug-in knows the class. */
+    //! A new element of the class "Image" that shows the image \a name. It has the base name of its class and
+    //! no parent; the caller owns it. Null if no plug-in provides the class.
     static DesignerObject *createImageElement(const QString &name, const QSizeF &size,
                                               const QPointF &position);
 
-    /*! Adds local image files to the project of \a screen, with an element at \a position for each, in one
-        step of the history. A picture that the project has already is used again. Files that are no images,
-        or whose names will not do, are told to the user. False when nothing was added. Defined in the room
-        of the commands. */
+    /*! Adds local image files to the project of \a screen, with an element for each at \a position, as one
+        step of the history. Existing images of the project are reused. Reports files that are not images or
+        have invalid names to the user. Returns false if nothing was added. Defined in the room of the
+        commands.
+    */
     static bool addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, const QPointF &position,
                                   QWidget *parentWidget = nullptr);
 
@@ -75,7 +74,7 @@ protected:
         : FileObject(parent)
     { }
 
-    // Elements are shown, not pictures by themselves.
+    // The canvas shows elements, not images.
     ObjectView *createGraphicsItem() override { return nullptr; }
     bool initializeProperties() override;
     void afterPropertyChanged(const DesignerProperty *property, const QString &previousValue) override;
@@ -89,7 +88,7 @@ private:
     SharedProperty m_imageFile;
     QSet<DesignerObject *> m_linkedElements;
 
-    //! The file that was looked into last: decoding a picture takes long.
+    //! The file that was checked last, because decoding an image is slow.
     struct Inspection
     {
         QString path;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The half of the value records that walks the model: their text half knows nothing of it.
+// The functions of the value records that search the model. The records themselves do not know it.
 #include "corvex/core/ItemList.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
@@ -16,8 +16,8 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! How many siblings of \a object, itself left out, bear \a name. Elements have all elements of their screen
-//! for siblings, other objects those in their list.
+//! The number of siblings of \a object with the name \a name, excluding the object. The siblings of an
+//! element are all elements of its screen; those of other objects are in the same list.
 qsizetype siblingsNamed(const DesignerObject *object, const QString &name)
 {
     const bool isElement = object->isKindOfClass(Element::kindName());
@@ -38,7 +38,7 @@ bool isOneOf(const DesignerObject *object, const QStringList &classNames)
                           [&own](const QString &name) { return own.contains(name); });
 }
 
-//! The lists in which a link of that scope may find its target, as seen from \a from.
+//! The lists that a link with that scope searches, seen from \a from.
 QList<SharedProperty> listsInScope(const DesignerObject *from, const QString &scopeType)
 {
     QList<SharedProperty> lists;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The rules for the names of variables, screens and elements. Those of projects and images, which are files,
-// are in FileNameRules.
+// The rules for the names of variables, screens and elements. FileNameRules has those of projects and images,
+// which are files.
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/TextHelper.h"
 #include "corvex/core/ItemList.h"
@@ -18,9 +18,9 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-// Each answers whether the name passes.
+// Each function returns whether the name is valid.
 
-//! A letter, then at least one letter, digit or underscore; ASCII alone.
+//! A letter, followed by at least one letter, digit or underscore; only ASCII.
 bool hasGoodFormat(const DesignerObject *, const QString &name)
 {
     const auto isLetter = [](QChar c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); };
@@ -99,7 +99,7 @@ constexpr char reserved[] = "This name is reserved.";
 constexpr char sameAsScreen[] = "The name cannot be the same as the screen's name.";
 constexpr char sameAsVariable[] = "The name cannot be the same as the project variables.";
 
-// The rules of each kind in the order in which they are asked; the first that fails is told.
+// The rules of each kind, in order. The first violated rule is reported.
 constexpr NameRule variableRules[] = {
     {&hasGoodFormat, Format, wrongFormat},
     {&isShortEnough<255>, Length, tooLong},
@@ -133,7 +133,7 @@ NameRules rulesFor(const DesignerObject *object)
                                                        : NameRules(elementRules);
 }
 
-//! Null when the name passes.
+//! Null if the name is valid.
 const NameRule *brokenRule(const DesignerObject *object, const QString &name)
 {
     const NameRules rules = rulesFor(object);
@@ -165,7 +165,7 @@ QString PropertyValidators::nameError(const DesignerObject *object, const QStrin
     IdentifierInfo info = object->getIdInfo();
     info.setName(name);
     const QString text = info.toString();
-    // Blanks around it and what the form of an identifier is made of would give another name.
+    // Surrounding blanks and the separators of the identifier's form would change the name.
     if (!name.isEmpty() && IdentifierInfo(text).name() != name) {
         return Common::LocalizationHelper::coreString(QString::fromLatin1(wrongFormat));
     }

@@ -9,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 
 QmlBindings percentToQml(const DesignerProperty *property)
 {
-    // Three decimals in the model are five in the fraction.
+    // Three decimals of a percentage are five of a fraction.
     constexpr int decimals = 5;
     const double percent = ValueConversion::toReal(property->valueString());
     return {property->id(), ValueConversion::toQmlString(percent / 100, decimals)};

@@ -8,7 +8,7 @@ namespace Halvane::Corvex::Designer {
 class DesignerProperty;
 class QmlBindings;
 
-//! QML of a real property that is per cent in the model and a fraction at run time: "opacity: 0.5".
+//! The QML of a real property that is a percentage in the model and a fraction at run time: "opacity: 0.5".
 CORVEX_EXPORT QmlBindings percentToQml(const DesignerProperty *property);
 
 } // namespace Halvane::Corvex::Designer

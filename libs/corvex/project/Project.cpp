@@ -58,7 +58,7 @@ Project::~Project()
 {
     m_observers.release();
     m_autosave.reset();
-    // Undo steps own what they took out of the model, and refer to what they left in it.
+    // Undo steps own removed objects and refer to objects in the model, so delete them first.
     m_undoStack.reset();
     m_folder.close();
     deleteChildren();
@@ -138,7 +138,8 @@ bool Project::storesProperty(const DesignerProperty &property) const
     if (property.isList() && property.listItemCount() == 0 && !property.itemList()->hasKeptItems()) {
         return false;
     }
-    // An empty build tag in a file asks for a new one, see readEmptyValue(); a project without any stays so.
+    // An empty build tag in a file requests a new one, see readEmptyValue(). A project without a build tag
+    // must not get one that way.
     if (&property == m_version.data() && property.valueString().isEmpty()) {
         return false;
     }

@@ -21,12 +21,11 @@ class ProjectAutosave;
 class UndoCommand;
 class UndoStack;
 
-/*! The root of everything that a user designs: screens, variables, images and the configuration of the
-   device.
+/*! The root of the model: screens, variables, images and the configuration of the device.
 
-    A project P in the folder D is the file D/P/P.kdproj; its images lie in D/P/Images and a picture of it,
-   when there is one, is D/P/Preview.png. project() of a project and of everything below it is the project
-   itself.
+    A project P in the folder D is the file D/P/P.kdproj. Its images are in D/P/Images, and its optional
+    preview picture is D/P/Preview.png. project() of a project and of everything below it is the project
+    itself.
 */
 class CORVEX_EXPORT Project : public FileObject
 {
@@ -41,122 +40,122 @@ public:
     QString displayName() const override;
 
     // Properties.
-    //! The enciphered build tag, "name-version".
+    //! The encrypted build tag, "name-version".
     const SharedProperty &version() const { return m_version; }
-    //! The version of the tool that wrote the file last.
+    //! The version of the tool that last wrote the file.
     const SharedProperty &designerVersion() const { return m_designerVersion; }
     const SharedProperty &configuration() const { return m_configuration; }
     const SharedProperty &imageResources() const { return m_imageResources; }
     const SharedProperty &variables() const { return m_variables; }
     const SharedProperty &screens() const { return m_screens; }
     const SharedProperty &defaultScreen() const { return m_defaultScreen; }
-    //! The configuration itself; null in a project that has none yet.
+    //! The configuration; null in a project without one.
     Configuration *configurationObject() const;
-    /*! Brings what the hardware of the device fixes up to date from the installed model that fits, see
-        ConfigurationContainer::match(). False, with a text for fileError(), when none does. */
+    //! Updates everything that the hardware determines from the matching installed model, see
+    //! ConfigurationContainer::match(). Returns false, with a text for fileError(), if no model matches.
     bool updateConfiguration();
 
-    // Files. All keep a text for fileError() when they fail.
+    // Files. On failure, fileError() has the reason.
     QString createFileName() const override;
     QString createSubPath() const override;
-    /*! Makes D/P/P.kdproj in the existing folder D = \a path. Refuses a name that cannot be carried to every
-       system. Images stay where they are: createFileCopy() takes them along. A new undo history starts here,
-       with loadFile() and with saveFile(). */
+    //! Creates D/P/P.kdproj in the existing folder D = \a path. Refuses a name that is not valid on every
+    //! system. Images are not moved; createFileCopy() copies them. This, loadFile() and saveFile() start a
+    //! new undo history.
     bool createFile(const QString &path) override;
-    //! Reads D/P/P.kdproj into this project, whose own contents go before.
+    //! Reads D/P/P.kdproj into this project. Deletes the present contents first.
     bool loadFile(const QString &path) override;
     bool saveFile() override;
-    /*! Keeps others from changing the project in the file \a path, or from reading it too (exclusive), from
-       before it is loaded until closeFiles(). False when others work there for longer than \a milliseconds.
-     */
+    //! Locks the project in the file \a path: prevents others from changing it, or also from reading it
+    //! (exclusive). Call it before loading; the lock is held until closeFiles(). Returns false if others hold
+    //! a lock for longer than \a milliseconds.
     bool lockFiles(const QString &path, Common::FolderLock::Kind kind, int milliseconds);
-    //! Takes back what commands did to files since the last save, and lets others in. The destructor does so,
-    //! too.
+    //! Undoes the file changes of commands since the last save, and releases the lock. The destructor does
+    //! the same.
     void closeFiles() { m_folder.close(); }
-    //! What the opening had to end that a program did not end itself, as a sentence; mostly empty.
+    //! What opening the project had to complete or undo after an interruption, as a sentence; usually empty.
     const QString &recoveryNote() const { return m_folder.recoveryNote(); }
-    /*! Where commands change files: all of it counts with the next saveFile(), and nobody else can write the
-        project until then. Null, with an error, when that cannot be. */
+    //! The transaction for file changes of commands. The next saveFile() commits all of them, and nobody else
+    //! can write the project until then. Null, with an error, on failure.
     Common::FileTransaction *beginFileChanges(QString *error);
-    //! The changes that wait for the next save, or null.
+    //! The changes that wait for the next save; null if there are none.
     Common::FileTransaction *fileChanges() const { return m_folder.changes(); }
-    //! Deletes the project's file, its images and its preview, and their folders once they are empty.
+    //! Deletes the project's file, its images and its preview, and its folders if they are empty afterwards.
     bool deleteFile() override;
-    /*! Makes the project D/Q/Q.kdproj with images and preview in the existing folder D = \a parentPath, as it
-       stands in memory; Q is \a name, or the project's own name. D/Q must not be there yet, and is not after
-       a failure. An image whose file is missing is missing in the copy. */
+    //! Writes the present state of the project, with its images and preview, as D/Q/Q.kdproj in the existing
+    //! folder D = \a parentPath. Q is \a name, or the project's own name. D/Q must not exist, and does not
+    //! exist after a failure. Images without a file are skipped.
     bool createFileCopy(const QString &parentPath, const QString &name = {});
-    /*! Writes \a fileName, the images into "Images" and the preview into the folder \a path, which is empty.
-       This is what copies and autosave files are made of. */
+    //! Writes \a fileName, the images into "Images" and the preview into the empty folder \a path. Copies and
+    //! autosave files have these contents.
     bool writeContents(const QString &path, const QString &fileName, QString *error) const;
-    //! Where the files of the images lie, whether or not the folder is there; empty for a project without a
-    //! file.
+    //! The folder of the image files, whether or not it exists; empty for a project without a file.
     QString imagesPath() const;
     //! D/P/Approvals.jsonl, where approved problems are listed; empty for a project without a file.
     QString approvalsPath() const;
-    //! D/P.kdproj.kdasv, beside the project's folder; empty for a project without a file.
+    //! D/P.kdproj.kdasv, next to the project's folder; empty for a project without a file.
     QString autosavePath() const;
-    //! What the file \a path holds as the values of its properties "id" and "version", found without loading
-    //! it. False when it is no project.
+    //! Reads the properties "id" and "version" from the file \a path without loading it. Returns false if it
+    //! is not a project.
     static bool getFileIdAndVersion(const QString &path, QString *id, QString *version);
-    //! The second of these; empty when the file is no project.
+    //! The version from the file; empty if it is not a project.
     static QString getFileVersion(const QString &path);
 
     // Versions.
     //! The version of this program: "4.0.0".
     static QString buildVersion();
-    //! Enciphers name and version of this program as the project's build tag.
+    //! Sets the build tag to the encrypted name and version of this program.
     void updateBuildVersion();
-    //! The name and version in the build tag; empty when that is none of ours.
+    //! The name and version in the build tag; empty if it is not a valid tag.
     QString buildTag() const;
-    //! Bring a project of an older version into the present form, in which every project that loads is today.
+    //! Converts a project of an older version to the present form. At present all projects that can be loaded
+    //! have this form.
     bool updateProjectProperties();
     bool upgradeToCurrentVersion();
 
     // Undo.
-    //! The history of edits, owned by the project. It is another one after undoStackChanged().
+    //! The history of edits, owned by the project. undoStackChanged() is emitted when it is replaced.
     UndoStack *undoStack();
-    //! Puts another history in its place, whose commands lead on from the project as it is.
+    //! Replaces the history. The commands of \a stack must match the present state of the project.
     void setUndoStack(std::shared_ptr<UndoStack> stack);
-    //! The history, for those who put it back later.
+    //! The history, for code that restores it later.
     std::shared_ptr<UndoStack> sharedUndoStack();
-    /*! Who keeps the histories that end with a save; null for nobody, who then are forgotten. Not owned: a
-       keeper leaves before it is destroyed. */
+    //! Keeps the histories that end with a save; null to discard them. Not owned: a keeper must be removed
+    //! before it is destroyed.
     void setHistoryKeeper(HistoryKeeper *keeper) { m_historyKeeper = keeper; }
-    //! Begins a new history: all that could be undone is forgotten.
+    //! Starts a new history; all steps are discarded.
     void createUndoStack();
-    //! Tells userModified() when the command acts in this project.
+    //! Emits userModified() if the command belongs to this project.
     void emitUserModified(const UndoCommand *command);
-    /*! Whether \a command is the one that \a stack did last; without a command, whether nothing was done that
-       could be told from another state. */
+    //! Whether \a command is the last one that \a stack did. Without a command: whether the history is empty.
     static bool checkStackIsSame(const UndoCommand *command, const UndoStack *stack);
-    //! Made once, owned by the project, and in need of a GUI application object.
+    //! Created once and owned by the project. Requires a GUI application object.
     QAction *createUndoAction();
     QAction *createRedoAction();
 
-    //! Those that follow all changes of the project.
+    //! The observers of all changes in the project.
     ModelObservers &observers() { return m_observers; }
 
     // Autosave.
     ProjectAutosave &autosave() { return *m_autosave; }
-    //! Starts the timer by the user's settings, see ProjectAutosave::startTimer().
+    //! Starts the timer with the user's settings, see ProjectAutosave::startTimer().
     void startAutoSaveTimer();
 
     // The device.
-    //! Makes the folder that goes to the device; runtimeGenerator() tells where it is, or why there is none.
+    //! Generates the folder for the device. runtimeGenerator() has its path, or the error.
     void generateRuntimeFiles();
     RuntimeGenerator &runtimeGenerator() { return m_runtimeGenerator; }
-    //! Another one for a build of this project as it is now.
+    //! A new generator, set up for a build of this project in its present state.
     RuntimeGenerator newRuntimeGenerator() const;
 
     // Names.
-    //! Whether an element of any screen bears that name.
+    //! Whether an element on any screen has that name.
     bool hasElement(const QString &name) const;
-    //! Null as long as nobody has asked for an element of the whole project. For screens that come and go.
+    //! Null until names of elements are first searched in the whole project. Updated by screens when they are
+    //! inserted or removed.
     QHash<QString, int> *elementNameCounts() const { return m_elementNames.get(); }
-    //! The first of stem1, stem2, ... that is no variable, screen or element of the project.
+    //! The first of stem1, stem2, ... that is not the name of a variable, screen or element in the project.
     QString generateUniqueName(const QString &stem) const;
-    //! \a name, or the first of name1, name2, ... of which nothing lies in the folder.
+    //! \a name, or the first of name1, name2, ... that does not exist in the folder.
     static QString generateUniqueName(const QString &folder, const QString &name);
 
     //! The properties of an object that an auto-setting variable saves and restores, by the object's name.
@@ -164,19 +163,19 @@ public:
     void updateObjectAutoSaveVariablesList(const QString &objectName, const RuntimeAutoSettingList &list);
 
 signals:
-    //! The user has edited the project: a command of its history was done or undone.
+    //! The user has edited the project: a command in its history was done or undone.
     void userModified();
     void undoStackChanged();
 
 protected:
     explicit Project(QObject *parent = nullptr);
 
-    // The canvas shows screens, never a whole project.
+    // The canvas shows screens, not whole projects.
     ObjectView *createGraphicsItem() override { return nullptr; }
     bool initializeProperties() override;
-    //! Lists without items are left out of files.
+    //! Empty lists are not stored in files.
     bool storesProperty(const DesignerProperty &property) const override;
-    //! An empty version asks for a build tag once the project's name is known.
+    //! An empty version requests a build tag as soon as the project's name is known.
     void readEmptyValue(const SharedProperty &property) override;
     void finishReading() override;
     void afterFileFieldsChanged() override;
@@ -209,7 +208,7 @@ private:
     SharedProperty m_defaultScreen;
     QHash<QString, RuntimeAutoSettingList> m_autoSaveVariables;
     mutable std::unique_ptr<QHash<QString, int>> m_elementNames;
-    //! By stem: below this number all are those of variables and screens.
+    //! By stem: all lower numbers belong to variables and screens.
     mutable QHash<QString, int> m_firstFree;
     std::shared_ptr<UndoStack> m_undoStack;
     HistoryKeeper *m_historyKeeper = nullptr;

@@ -6,7 +6,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! One row of a class's table of runtime properties; texts are English and translated when the list is made.
+//! One row in a class's table of runtime properties. Texts are English and are translated when the list is
+//! built.
 struct CORVEX_EXPORT RuntimeRow
 {
     const char *property;
@@ -24,7 +25,7 @@ RuntimePropertyList toRuntimeProperties(const RuntimeRow (&rows)[count])
     return toRuntimeProperties(rows, rows + count);
 }
 
-//! What a class offers beside what its base does.
+//! Adds the properties of a class to those of its base.
 template<size_t count>
 RuntimePropertyList extended(RuntimePropertyList base, const RuntimeRow (&rows)[count])
 {

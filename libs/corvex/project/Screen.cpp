@@ -153,7 +153,7 @@ Element *Screen::getElement(const QString &name) const
     return name.contains(u'.') ? memberAt(name) : nullptr;
 }
 
-//! The element that a path through groups leads to.
+//! The element at the end of a path through groups.
 Element *Screen::memberAt(QStringView path) const
 {
     Element *element = getElement(ObjectPath::firstSegment(path).toString());

@@ -10,10 +10,10 @@ namespace Halvane::Corvex::Designer {
 
 class Element;
 
-/*! What the panel shows at one time: elements in the order in which they are drawn, and filters.
+/*! A screen of the panel: elements in drawing order, and filters.
 
-    The size is not stored. It follows the project's configuration, turned with the screen's own orientation;
-   a screen out of a project has 500 x 300.
+    The size is not stored. It follows the project's configuration and the screen's own orientation; a screen
+    outside of a project has 500 x 300.
 */
 class CORVEX_EXPORT Screen : public DesignerObject
 {
@@ -26,7 +26,7 @@ public:
     QString baseName() const override;
     QString displayName() const override;
     void setProject(Project *project) override;
-    //! A screen is its own.
+    //! A screen is always its own screen.
     void setScreen(Screen *screen) override;
     QString toQml(int indent) const override;
     QString onCompletedQml(int indent) const override;
@@ -35,22 +35,22 @@ public:
     SharedProperty elements() const { return getProperty(u"elements"); }
     SharedProperty filters() const { return getProperty(u"filters"); }
 
-    //! The names of all elements, members of groups included, in drawing order.
+    //! The names of all elements, including members of groups, in drawing order.
     QStringList getElementNames() const;
-    //! Finds members of groups too, by their name in constant time or by a path ("group.member"); never a
-    //! filter.
+    //! Finds elements and members of groups, but no filters, by name in constant time or by a path
+    //! ("group.member").
     Element *getElement(const QString &name) const;
     bool hasElement(const QString &name) const { return getElement(name); }
-    //! All elements of that class, members of groups included.
+    //! All elements of that class, including members of groups.
     QList<Element *> getElementsOfType(const QString &className) const;
     //! A name for a new element: the class's base name and the first free number.
     QString uniqueElementName(const QString &base);
-    //! Whether nothing bears the name that a new element of this screen must not be called like.
+    //! Whether a new element on this screen may have the name.
     bool isFreeName(const QString &name) const;
 
     RuntimePropertyList runtimeProperties() const;
 
-    //! Takes the size from the project's configuration; the project calls it when that changes.
+    //! Updates the size from the project's configuration. Called by the project when that changes.
     void onConfigurationSizeChanged();
 
     ElementIndex &elementIndex() { return m_index; }

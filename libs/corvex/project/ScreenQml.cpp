@@ -51,8 +51,8 @@ void announceScreen(const DesignerObject *port, const Screen &screen)
     }
 }
 
-/*! The code of a serial port contains the address map of its variable, which is told the screen before. So
-   only one of the threads that write screens may do this at a time. */
+//! The code of a serial port contains the address map of its variable, which must know the screen. Therefore
+//! only one of the threads that write screens may do this at a time.
 QString portToQml(const DesignerObject *port, const Screen &screen, int indent)
 {
     static std::mutex mutex;

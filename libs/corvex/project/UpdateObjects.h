@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A list of objects that one update concerns.
+//! A list of objects affected by an update.
 class CORVEX_EXPORT UpdateObjects : public DesignerObject
 {
     Q_OBJECT

@@ -150,7 +150,8 @@ TEST(CheckVerb, ChecksReferencesBetweenParts)
     EXPECT_EQ(bad.run({u"check"_s, pump}).out, expected.join(u'\n') + u'\n');
 }
 
-//! Threads look at parts of it: the order stays that of the file, and what one part feeds another knows.
+//! Threads check parts of the project. The order must be that of the file, and each part must know data from
+//! the others.
 TEST(CheckVerb, CombinesTheResultsOfTheThreads)
 {
     constexpr int screens = 12;
@@ -210,7 +211,7 @@ TEST(CheckVerb, ChecksTheDeviceAndTheFieldbuses)
                                                                   "><0406speed>"),
                                "Project");
     };
-    // PGN 1, priority 6, source 0, and one SPN of 16 bits from a byte on.
+    // PGN 1, priority 6, source 0, and one SPN with 16 bits, beginning at a byte.
     const auto signal = [&](const QByteArray &name, const QByteArray &spn, const QByteArray &byte) {
         return variable("CANVariable", name, "parameterMap",
                         "<02041><02046><02040><0204" + spn + "><0207><0204" + byte
@@ -273,7 +274,7 @@ warning expression.condition Main.shown.visibleBinding
 warning log.unfed history.)"_s);
     EXPECT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 1);
 
-    // Warnings are printed, and fail neither the check nor the build.
+    // Warnings are printed but do not fail the check or the build.
     const Sandbox warned;
     warned.makeProject(Sandbox::goodElements()
                        + Sandbox::object("Rectangle", "frame", Sandbox::value("opacity", "300")));
@@ -282,7 +283,7 @@ warning log.unfed history.)"_s);
     EXPECT_EQ(mild.code, 0);
     EXPECT_EQ(warned.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 0);
 
-    // A model with fewer channels says which elements move.
+    // For a model with fewer channels, the output lists the elements that get another one.
     const Sandbox moved;
     moved.makeProject(Sandbox::goodElements() + channel("PwmOutput", "fan", "4")
                       + channel("AlarmOutput", "horn", "2") + channel("AlarmOutput", "lamp", "1"));

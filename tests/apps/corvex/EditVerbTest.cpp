@@ -335,7 +335,7 @@ TEST(EditVerbKept, ItemsOfUnknownClassesKeepTheirPlaces)
         EXPECT_EQ(edit(script + "\nundo\n").error, QString());
         EXPECT_EQ(sandbox.read(pump), before) << script.constData();
     }
-    const QString mention = u"\"Main.dial\" still mentions \"one\", since its plug-in is missing."_s;
+    const QString mention = u"\"Main.dial\" still mentions \"one\", because its plug-in is missing."_s;
     EXPECT_TRUE(edit("rename Main.one first\nundo\n").out.startsWith(mention));
     EXPECT_TRUE(edit("delete Main.two Main.one\nundo\n").out.startsWith(mention));
     EXPECT_EQ(sandbox.run({u"uses"_s, pump, u"Main.one"_s}).out, u"Main.dial: one\n"_s);
@@ -428,7 +428,7 @@ TEST_F(EditVerb, AKilledEditIsUndoneWhenTheProjectIsOpened)
     ASSERT_TRUE(program.waitForFinished(60'000));
     const ProgramRun next = sandbox.run({u"info"_s, pump});
     EXPECT_EQ(next.error,
-              u"%1: An interrupted edit of this project has been taken back: it is as it was last "
+              u"%1: An interrupted edit of this project was undone. The project is as it was last "
               "saved.\n"_s.arg(pump));
     EXPECT_EQ(next.code, 0);
     EXPECT_EQ(sandbox.read(pump), before);

@@ -38,7 +38,7 @@ TEST(ProjectFile, IsRefusedWithPlaceAndReason)
         QString error;
     } cases[] = {
         {u"nix %1"_s,
-         u"The file \"nix %1\" does not exist. Name the .kdproj file of a project; \"corvex new\" makes one."_s},
+         u"The file \"nix %1\" does not exist. Name the .kdproj file of a project; \"corvex new\" creates one."_s},
         {u"Pump"_s, u"\"Pump\" is not a file. Did you mean \"Pump/Pump.kdproj\"?"_s},
         {u"."_s, u"\".\" is not a file. Name the .kdproj file of a project."_s},
         {u"/dev/null"_s, u"\"/dev/null\" is not a file. Name the .kdproj file of a project."_s},
@@ -86,7 +86,7 @@ TEST(FmtVerb, WritesTheCanonicalFormAndNothingElse)
     EXPECT_EQ(sandbox.run({u"fmt"_s, pump}).out, QString());
     EXPECT_EQ(sandbox.read(pump), canonical);
 
-    // Version control may have changed all line ends; some of them are another matter.
+    // Version control may have converted all line ends, but not only some of them.
     const QByteArray unixEnds = QByteArray(canonical).replace("\r\n", "\n");
     sandbox.write(pump, unixEnds);
     EXPECT_EQ(sandbox.run({u"fmt"_s, u"--check"_s, pump}).code, 0);
@@ -136,17 +136,16 @@ TEST(FmtVerb, LosesNothingUnlessForced)
     const ProgramRun refused = sandbox.run({u"fmt"_s, pump});
     EXPECT_EQ(refused.code, 1);
     EXPECT_EQ(refused.out, QString());
-    EXPECT_EQ(
-        refused.error,
-        u"Pump/Pump.kdproj:%1:1: Main.title: The property \"shadow\" is not known.\n"
-        "corvex: \"Pump/Pump.kdproj\" holds what this version does not know and would lose; it stays as it "
-        "is. Mend these places, or write it all the same with --force.\n"_s.arg(
-            sandbox.lineOf(pump, "shadow")));
+    EXPECT_EQ(refused.error, u"Pump/Pump.kdproj:%1:1: Main.title: The property \"shadow\" is not known.\n"
+                             "corvex: \"Pump/Pump.kdproj\" contains parts that this version does not know "
+                             "and would lose, so it was not "
+                             "written. Fix these places, or write anyway with --force.\n"_s.arg(
+                                 sandbox.lineOf(pump, "shadow")));
     EXPECT_EQ(sandbox.read(pump), before);
     EXPECT_EQ(sandbox.run({u"fmt"_s, u"--force"_s, pump}).code, 0);
     EXPECT_THAT(sandbox.read(pump).toStdString(), testing::Not(HasSubstr("shadow")));
 
-    // Of two objects in one place the second would replace the first.
+    // Of two objects in the same place, the second would replace the first.
     const QByteArray twice = sandbox.read(pump).replace("</Object>", "<Configuration/></Object>");
     sandbox.write(pump, twice);
     EXPECT_THAT(sandbox.run({u"fmt"_s, pump}).error.toStdString(), HasSubstr("holds one object"));
@@ -158,7 +157,7 @@ TEST(FmtVerb, LeavesTheFileUnchangedOnAFullDisk)
     const Sandbox sandbox;
     sandbox.makeProject(Sandbox::goodElements());
     const QByteArray before = sandbox.read(pump);
-    // What is printed would go into the file that gets the number of a closed stream.
+    // The output would go into the file that gets the number of a closed stream.
     for (const QString &streams : {QString(), u" >&-"_s, u" 2>&-"_s}) {
         QProcess shell;
         shell.start(u"bash"_s, {u"-c"_s, u"ulimit -f 2; exec '%1' fmt '%2'%3"_s.arg(

@@ -101,7 +101,7 @@ TEST_F(KindCommands, RefusalsHaveAReason)
     EXPECT_EQ(reasonOf(Commands::deletionOf(project.get())), u"\"Pumps\" cannot be deleted."_s);
     EXPECT_EQ(reasonOf(Commands::deletionOf({find("speed"), model})), u"\"VTR 50-K\" cannot be deleted."_s);
     EXPECT_EQ(reasonOf(Commands::renameOf(model, u"New"_s)), u"\"VTR 50-K\" cannot be renamed."_s);
-    EXPECT_EQ(reasonOf(Commands::renameOf(find("speed"), u"speed"_s)), u"\"speed\" is its name already."_s);
+    EXPECT_EQ(reasonOf(Commands::renameOf(find("speed"), u"speed"_s)), u"The name is already \"speed\"."_s);
     for (const char *name : {"speed", "Other", "rectangle1"}) {
         EXPECT_NE(reasonOf(Commands::renameOf(find(name), u"history"_s)), QString()) << name;
     }

@@ -18,7 +18,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! What the hardware fixes.
+//! The values that the hardware determines.
 constexpr std::array copied{
     "url"_L1,          "description"_L1,         "compatibleModels"_L1, "colorDepth"_L1,   "screenSize"_L1,
     "analogInputs"_L1, "alarmOutputs"_L1,        "serialCOMPorts"_L1,   "pwmFrequency"_L1, "pwmOutputs"_L1,
@@ -75,7 +75,7 @@ void ChangeConfiguration::setupHardwareElements(const Project *project, const Co
     }
 }
 
-//! Gives the elements of one screen whose channel is too high the first free channels.
+//! Gives the elements of one screen whose channel number is too high the first free channels.
 void ChangeConfiguration::moveElements(const QList<Element *> &users, const DeviceChannels &channels,
                                        const Configuration &model)
 {

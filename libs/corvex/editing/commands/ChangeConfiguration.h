@@ -11,24 +11,24 @@ class Element;
 class Project;
 struct DeviceChannels;
 
-/*! Makes a project one for another device model: takes over what the hardware of the model fixes, and gives
-    hardware elements whose channel the model does not have the first one that is free on their screen. */
+//! Converts a project to another device model: copies everything that the hardware of the model determines,
+//! and gives each hardware element whose channel the model lacks the first free channel on its screen.
 class CORVEX_EXPORT ChangeConfiguration : public ModelCommand
 {
 public:
-    //! A hardware element whose channel the new model does not have.
+    //! A hardware element whose channel the new model lacks.
     struct Move
     {
         QString element; //!< its path
         int from;
-        int to; //!< 0: no channel is free, and the element keeps the one that is not there
+        int to; //!< 0 if no channel is free, and the element keeps the missing one
     };
 
     ChangeConfiguration(Project *project, const Configuration *model, UndoCommand *parent = nullptr);
-    //! Takes the installed model of that name.
+    //! Uses the installed model with that name.
     ChangeConfiguration(Project *project, const QString &modelName, UndoCommand *parent = nullptr);
 
-    //! What becomes of the elements that cannot stay on their channels.
+    //! The elements that need another channel.
     const QList<Move> &moves() const { return m_moves; }
 
 private:

@@ -48,8 +48,8 @@ PlannedCommand planned(std::unique_ptr<ModelCommand> command)
             {}};
 }
 
-//! For a command that changes all references to the objects. \a outcome says what happens to those that it
-//! cannot change.
+//! For a command that updates all references to the objects. \a outcome is the note about references that it
+//! cannot update.
 PlannedCommand noted(PlannedCommand planned, const QList<DesignerObject *> &objects, const QString &outcome)
 {
     if (planned && objects.first()->project()) {
@@ -91,7 +91,8 @@ PlannedCommand Commands::deletionOf(const QList<DesignerObject *> &objects)
     auto all = std::make_unique<CompositeCommand>();
     QSet<DesignerObject *> known;
     QList<Screen *> screens;
-    QHash<Screen *, QList<DesignerObject *>> elements; // and filters: together they decide what else goes
+    QHash<Screen *, QList<DesignerObject *>> elements; // elements and filters: together they determine what
+                                                       // else is deleted
     for (DesignerObject *object : objects) {
         if (known.contains(object)) {
             continue;
@@ -123,10 +124,10 @@ PlannedCommand Commands::renameOf(DesignerObject *object, const QString &name)
         return refused(u"\"%1\" cannot be renamed."_s, object ? object->objectPath() : QString());
     }
     if (object->getIdName() == name) {
-        return refused(u"\"%1\" is its name already."_s, name);
+        return refused(u"The name is already \"%1\"."_s, name);
     }
     return noted(planned(std::unique_ptr<ModelCommand>(kind->renaming(object, name))), {object},
-                 u"\"%1\" still mentions \"%2\", since its plug-in is missing. Correct it in the file, or "
+                 u"\"%1\" still mentions \"%2\", because its plug-in is missing. Correct it in the file, or "
                  "install the plug-in and rename again."_s);
 }
 

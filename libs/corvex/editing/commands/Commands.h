@@ -10,12 +10,12 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A command that is ready to push, or the reason why the edit cannot be made.
+//! A command that is ready to push, or the reason why the edit is impossible.
 struct PlannedCommand
 {
-    std::unique_ptr<ModelCommand> command; //!< null when the edit cannot be made
+    std::unique_ptr<ModelCommand> command; //!< null if the edit is impossible
     QString reason;                        //!< for the user; empty when there is a command, or nothing to do
-    QStringList notes;                     //!< what the user has to know about the edit
+    QStringList notes;                     //!< what the user must know about the edit
 
     explicit operator bool() const { return command != nullptr; }
 };
@@ -30,23 +30,25 @@ struct RequestedValue
 /*! Deletes, renames, duplicates and moves objects of any kind: screens, elements, groups, filters, variables
     and images. A project can be renamed. Values of any objects change in one step.
 
-    Each function plans one step of the history for the project as it is now and changes nothing. Push the
-    command before you plan the next one. */
+    Each function plans one step of the history for the present state of the project and changes nothing. Push
+    the command before you plan the next one.
+*/
 class CORVEX_EXPORT Commands
 {
 public:
     //! Deletes the object and all references to it.
     static PlannedCommand deletionOf(DesignerObject *object);
-    //! Deletes all of them in one step. Filters that list nothing but deleted elements are deleted, too.
+    //! Deletes all objects in one step. Filters that only list deleted elements are deleted, too.
     static PlannedCommand deletionOf(const QList<DesignerObject *> &objects);
-    //! References to the object get the new name.
+    //! Renames the object and updates all references to it.
     static PlannedCommand renameOf(DesignerObject *object, const QString &name);
-    /*! Copies the objects, with all that is in them, to the end of the lists that hold them, in the order of
-        these lists. Objects inside others of \a objects are copied once.
+    /*! Copies the objects, with everything in them, to the end of their lists, in list order. Objects inside
+        others of \a objects are copied once.
 
-        Every copy gets the stem of the original's name and the first free number; members of groups, too.
-        References of the copies to objects that are copied lead to their copies; all others stay as they are.
-        An image gets a file of its own. */
+        Every copy, including members of groups, gets the stem of the original's name and the first free
+        number. References between copied objects refer to the copies; all other references are unchanged. An
+        image gets a file of its own.
+    */
     static PlannedCommand duplicationOf(const QList<DesignerObject *> &objects);
     /*! Moves the objects, in the order of their lists, into a list of the same project, before its item
         \a index; -1 is the end. Items that the list sorts by itself stay where they are in it.

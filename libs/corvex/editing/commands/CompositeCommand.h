@@ -6,16 +6,18 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Several edits in one step of the history. They are its children, and all of them must be possible.
+/*! Several edits in one step of the history. They are the children of the command, and all of them must be
+    possible.
 
-    Children are planned one after the other, each for the values that those before it will have set. */
+    Children are planned one by one, each for the values that the previous ones will have set.
+*/
 class CORVEX_EXPORT CompositeCommand : public ModelCommand
 {
 public:
     CompositeCommand();
 
     bool isValid() const override;
-    //! Makes a text of those of the edits. To be called when all of them are there.
+    //! Combines the texts of the edits. Call it when the last one was added.
     void describe();
 };
 

@@ -11,22 +11,22 @@ class QWidget;
 
 namespace Halvane::Corvex::Designer {
 
-/*! What commands and imports ask and tell the user. A tool with windows installs its own; without one nobody
-   is asked, filters that are still needed stay, and warnings go to the log. */
+//! The questions and messages of commands and imports for the user. A tool with windows installs its own. By
+//! default, nothing is asked, filters that are still needed are kept, and warnings are logged.
 class CORVEX_EXPORT EditingDialogs
 {
 public:
     virtual ~EditingDialogs() = default;
 
-    /*! Which of the filters shall go with the elements that are deleted, though elements that stay use them
-        too: \a filters by name, each with a text that tells who does. */
+    //! Asks which filters to delete together with the elements, although they also list other elements. \a
+    //! filters contains their names, each with a text that names those elements.
     virtual QStringList filtersToDelete(const QMap<QString, QString> &filters);
     //! \a parent may be null.
     virtual void warn(QWidget *parent, const QString &title, const QString &text);
 
     //! Never null.
     static EditingDialogs *instance();
-    //! Not taken over; null goes back to asking nobody.
+    //! Not owned. Null restores the default.
     static void install(EditingDialogs *dialogs);
 };
 

@@ -13,12 +13,12 @@ struct HeldObject::Care
 {
     Q_DISABLE_COPY_MOVE(Care)
 
-    //! That of all commands which hold the object.
+    //! Shared by all commands that hold the object.
     static std::shared_ptr<Care> of(DesignerObject *object)
     {
         std::weak_ptr<Care> &known = all()[object];
         std::shared_ptr<Care> care = known.lock();
-        // The object of an older care may have been deleted, and another one be in its place.
+        // The object of an older entry may have been deleted, and another one may have its address.
         if (!care || !care->object) {
             care = std::make_shared<Care>(object);
             known = care;
@@ -47,7 +47,7 @@ struct HeldObject::Care
     bool isOut;
 
 private:
-    //! Commands live on the GUI thread only.
+    //! Commands only exist on the GUI thread.
     static std::unordered_map<const DesignerObject *, std::weak_ptr<Care>> &all()
     {
         static std::unordered_map<const DesignerObject *, std::weak_ptr<Care>> cares;

@@ -11,24 +11,24 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-/*! A command's share in an object that it may take out of the model.
+/*! A command's share in an object that it may remove from the model.
 
-    All commands that hold one object share the care for it. While commands have it out of the model it
-   belongs to them, and goes with the last command that holds it. An object that is back in the model by then
-   stays there, and one that somebody else took out of the model belongs to that.
+    All commands that hold the same object share its ownership. While it is out of the model because of a
+    command, they own it, and the last command deletes it. An object that is back in the model stays there,
+    and one that other code removed from the model belongs to that code.
 */
 class CORVEX_EXPORT HeldObject
 {
     Q_DISABLE_COPY_MOVE(HeldObject)
 
 public:
-    //! An object that is in no model belongs to the commands from here on.
+    //! From here on the commands own an object that is in no model.
     explicit HeldObject(DesignerObject *object);
     ~HeldObject();
 
-    //! Null for an object that somebody else deleted.
+    //! Null if other code has deleted the object.
     DesignerObject *get() const;
-    //! The command has taken the object out of the model, or put it in.
+    //! The command has removed the object from the model, or inserted it.
     void setOut(bool isOut);
 
 private:

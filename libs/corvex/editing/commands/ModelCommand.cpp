@@ -28,13 +28,13 @@ void undoAll(const QList<ValueChange> &changes)
 
 } // namespace
 
-//! What the commands of one edit share.
+//! Shared by the commands of one edit.
 struct ModelCommand::Edit
 {
     PendingValues pending;
-    bool hasSeveral = false; //!< commands
+    bool hasSeveral = false; //!< more than one command
     GroupPlaces places;
-    const ModelCommand *lastInGroups = nullptr; //!< the one after which the groups are settled
+    const ModelCommand *lastInGroups = nullptr; //!< after this command the positions of groups are corrected
 };
 
 struct ModelCommand::Plan
@@ -95,7 +95,7 @@ std::shared_ptr<ModelCommand::Edit> ModelCommand::wholeEdit() const
     for (const UndoCommand *parent = parentCommand(); parent; parent = parent->parentCommand()) {
         const auto *model = dynamic_cast<const ModelCommand *>(parent);
         if (!model && parent->childCount() > 1) {
-            // The command is the last child of its parent for now.
+            // At this point the command is the last child of its parent.
             model = dynamic_cast<const ModelCommand *>(parent->child(parent->childCount() - 2));
         }
         if (model && model->m_edit) {
@@ -143,7 +143,7 @@ QString ModelCommand::localized(const QString &english)
 
 void ModelCommand::setTitle(const QString &english, const QString &name)
 {
-    // An edit of many elements changes the same property of each. Commands live on the GUI thread only.
+    // An edit of many elements changes the same property of each. Commands only exist on the GUI thread.
     static struct
     {
         QString form;

@@ -13,12 +13,12 @@ class EditStep;
 
 /*! The base of all commands that edit a project.
 
-    A command is planned once, in its constructor: steps that it takes of itself, and changes of values
-    elsewhere that follow from them. redo() and undo() replay the plan and look for nothing any more.
+    The constructor plans the command: its own steps, and changes of other values that follow from them.
+    redo() and undo() replay the plan without searching again.
 
-    When a step fails, the steps before it are taken back and nothing that follows from them is changed: the
-    command is not done, and errorString() may know why. A change elsewhere that fails stops nothing. To do a
-    command that is done, or to undo one that is not, changes nothing.
+    If a step fails, the previous steps are undone and no other values change; the command fails, and
+    errorString() may give the reason. If a change of another value fails, the rest continues. Doing a command
+    twice, or undoing one that is not done, changes nothing.
 */
 class CORVEX_EXPORT ModelCommand : public UndoCommand
 {
@@ -28,7 +28,7 @@ public:
     void redo() override;
     void undo() override;
     Start start() override;
-    //! False also for a command that was given something impossible, with the reason in errorString().
+    //! Also returns false for a command with impossible arguments; errorString() has the reason.
     bool isValid() const override;
     DesignerObject *activeItem() const override;
     QList<DesignerObject *> selectedItems() override;
@@ -36,18 +36,18 @@ public:
     bool keepFiles(Common::FileStore &store, QString &error) override;
     bool changesFiles() const override;
 
-    //! Whether the command is done at the moment.
+    //! Whether the command is currently done.
     bool isDone() const { return m_isDone; }
     QString errorString() const override;
-    //! All values that the command and its children set, in order, those that follow from others included.
-    //! The places of groups that an edit keeps in sight are among them once it has been done.
+    //! All values that the command and its children set, in order, including those that follow from others.
+    //! Once it has been done, this includes the corrected positions of groups.
     QList<ValueChange> valueChanges() const;
 
 protected:
     ModelCommand(const SharedProperty &property, bool selected, UndoCommand *parent);
 
     // For constructors.
-    //! \a english with its placeholders filled, in the language of the user.
+    //! \a english in the user's language, with its placeholders filled.
     template<class... Names>
     void setTitle(const QString &english, const Names &...names)
     {
@@ -58,11 +58,11 @@ protected:
             setText(title);
         }
     }
-    //! The same. Commands that follow each other with equal titles share one text.
+    //! The same. Consecutive commands with equal titles share one text.
     void setTitle(const QString &english, const QString &name);
-    //! Makes the command one that cannot be done. It owns \a unused all the same, unless they are in a model.
+    //! Makes the command impossible. It still owns \a unused, except objects in a model.
     void refuse(const QString &error, const QList<DesignerObject *> &unused = {});
-    //! Objects that were given to the command and will not come into the model.
+    //! Takes ownership of objects that were passed to the command and will not be inserted into the model.
     void hold(const QList<DesignerObject *> &unused);
     void addStep(std::unique_ptr<EditStep> step);
     template<class Step, class... Arguments>
@@ -70,28 +70,28 @@ protected:
     {
         addStep(std::make_unique<Step>(std::forward<Arguments>(arguments)...));
     }
-    //! A step that sets a value; none when the property has it.
+    //! Adds a step that sets a value, unless the property has it already.
     void addValueStep(const SharedProperty &property, const QString &value);
-    //! Changes that follow from the steps.
+    //! Adds changes that follow from the steps.
     void addChanges(const QList<ValueChange> &changes);
     void addChange(const SharedProperty &property, const QString &value);
-    //! The changes are made before the steps; an undo always comes back to the steps first.
+    //! Makes the changes before the steps. An undo always undoes the steps first.
     void makeChangesFirst();
     void setActiveItem(DesignerObject *item);
     void setSelection(const QList<DesignerObject *> &items) { setSelection(items, items); }
-    //! What is selected once the command is done, and what when it is not. The first of them is the active
-    //! item unless there is one of its own.
+    //! The selection after the command was done and after it was undone. The first object is the active item,
+    //! unless another one was set.
     void setSelection(const QList<DesignerObject *> &whenDone, const QList<DesignerObject *> &whenUndone);
-    //! What a property will hold when this command's turn comes.
+    //! The value of a property at the time when this command will be done.
     QString valueOf(const SharedProperty &property) const;
-    //! Null for a command of its own.
+    //! Null if the command is not part of a composite.
     const PendingValues *pending() const;
     void notePending(const SharedProperty &property, const QString &value);
 
-    //! What the command does of itself: its steps.
+    //! Does the command's own steps.
     virtual bool redoOwn(QString &error);
-    //! False when the property of the command does not get its old value back: what follows from it stays
-    //! too.
+    //! Returns false if the property of the command does not get its old value back; then the changes that
+    //! follow from it are kept, too.
     virtual bool undoOwn();
     virtual void appendOwnChanges(QList<ValueChange> &changes) const;
 
@@ -106,8 +106,8 @@ private:
     QList<DesignerObject *> ownSelection() const;
     bool redoLeaf(QString &error);
 
-    std::unique_ptr<Plan> m_plan; //!< null for a command with nothing beside its own change
-    std::shared_ptr<Edit> m_edit; //!< null for a lone command that no group has to follow
+    std::unique_ptr<Plan> m_plan; //!< null for a command that only makes its own change
+    std::shared_ptr<Edit> m_edit; //!< null for a single command that affects no group
     bool m_isDone = false;
 };
 

@@ -14,7 +14,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Renames the folder and the file, also if they have another name than the project, as copies have.
+//! Renames the folder and the file, even if their names differ from the project's, as in a copy.
 class RenameProjectStep : public EditStep
 {
 public:

@@ -8,7 +8,7 @@ namespace Halvane::Corvex::Designer {
 
 class Project;
 
-//! Gives a project, its folder and its file another name.
+//! Renames a project, its folder and its file.
 class CORVEX_EXPORT RenameProject : public ModelCommand
 {
 public:

@@ -8,7 +8,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A value that one property gets instead of another.
+//! A change of a property's value.
 struct CORVEX_EXPORT ValueChange
 {
     SharedProperty property;
@@ -22,8 +22,8 @@ struct CORVEX_EXPORT ValueChange
     static bool set(const SharedProperty &property, const QString &value);
 };
 
-/*! What properties will hold once all commands that a composite has so far have been done. A command that is
-    built behind others in the same composite builds upon it. */
+//! The values of properties after all commands that a composite has so far. Later commands of the composite
+//! are planned with these values.
 using PendingValues = QHash<const DesignerProperty *, QString>;
 
 } // namespace Halvane::Corvex::Designer

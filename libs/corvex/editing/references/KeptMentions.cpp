@@ -19,7 +19,7 @@ bool isPartOfName(QChar c)
     return c.isLetterOrNumber() || c == u'_';
 }
 
-//! Digits may come before the name: those of a term in an expression do.
+//! Digits may precede the name, as in an expression term.
 bool hasWord(const QString &text, const QString &name)
 {
     for (qsizetype at = text.indexOf(name); at >= 0; at = text.indexOf(name, at + 1)) {

@@ -15,17 +15,18 @@ class Screen;
 
 /*! Finds names in the values of elements whose plug-ins are missing.
 
-    A project keeps such elements as the text of its file. Only the plug-in knows what their values mean, so
-   no command changes them when something else gets another name or is deleted. The user has to know that. */
+    A project keeps such elements as text from its file. Only the plug-in knows what their values mean, so no
+    command updates them when another object is renamed or deleted. The user must know about them.
+*/
 class CORVEX_EXPORT KeptMentions
 {
 public:
-    //! Reads what the project keeps, except in the objects \a leftOut. Walks the project only if it was
-    //! loaded with such elements.
+    //! Reads the kept items of the project, except those in the objects \a leftOut. Searches the project only
+    //! if it was loaded with such elements.
     explicit KeptMentions(const Project &project, const QSet<const DesignerObject *> &leftOut = {});
 
-    //! The paths of the elements that have the name as a word in a value, such as "Overview.gauge1", in the
-    //! order of the file: those of one screen, or all.
+    //! The paths of the elements that contain the name as a word in a value, such as "Overview.gauge1", in
+    //! file order: those on one screen, or all.
     QStringList of(const QString &name, const Screen *screen = nullptr) const;
 
 private:

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The base of what can be done at run time: changes of properties.
+//! The base of actions at run time: changes of properties.
 class CORVEX_EXPORT BasicAction : public Element
 {
     Q_OBJECT

@@ -17,8 +17,8 @@ using Common::EnumHelper;
 
 namespace {
 
-//! The numbers that the device begins with, by their names at run time: "x" is a part of "position",
-//! "opacity" a fraction. What follows an expression begins with none.
+//! The initial numbers on the device, by their runtime names: "x" is part of "position", and "opacity" a
+//! fraction. Properties that follow an expression have none.
 QHash<QString, QString> firstNumbers(const DesignerObject &element)
 {
     QHash<QString, QString> numbers;

@@ -7,8 +7,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Whatever stands on a screen. Concrete classes come from plug-ins; their names come from the factory's
-//! tables.
+//! Base class of everything on a screen. Concrete classes come from plug-ins; their names come from the
+//! factory's tables.
 class CORVEX_EXPORT Element : public DesignerObject
 {
     Q_OBJECT
@@ -21,10 +21,10 @@ public:
     QString displayName() const override;
     void setScreen(Screen *screen) override;
 
-    //! What expressions and actions can use of the element at run time.
+    //! The properties that expressions and actions can use at run time.
     virtual RuntimePropertyList runtimeProperties() const;
-    /*! Those of them that can be written, with the values that the device begins with: what an auto-setting
-        variable can save and restore. */
+    //! The writable ones among them, with their initial values on the device: the properties that an
+    //! auto-setting variable can save and restore.
     virtual RuntimeAutoSettingList runtimeAutoSettingProperties() const;
 
 protected:

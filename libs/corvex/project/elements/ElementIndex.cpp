@@ -12,7 +12,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Null for what has no channel.
+//! Null if the element has no channel.
 SharedProperty channelOf(const DesignerObject *element)
 {
     const bool mayHaveChannel = element->isKindOfClass(u"HardwareElement"_s);
@@ -46,7 +46,7 @@ void ElementIndex::forgetChannelOf(Element *element)
         return;
     }
     if (!m_byChannel.remove({element->className(), channel->valueString()}, element)) {
-        // An element that is being destroyed no longer knows its class.
+        // An element in its destructor no longer knows its class, so clear all channels.
         m_byChannel.clear();
         m_channelsKnown = false;
     }
@@ -71,7 +71,7 @@ void ElementIndex::rename(Element *element, const QString &oldName)
     }
 }
 
-//! "pump12" may be number 12 of "pump" and number 2 of "pump1".
+//! "pump12" may be number 12 of "pump" or number 2 of "pump1".
 void ElementIndex::nameFreed(const QString &name)
 {
     const qsizetype most = std::min<qsizetype>(name.size() - 1, std::numeric_limits<int>::digits10);

@@ -17,9 +17,10 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class Element;
 
-/*! Finds the elements of a screen, members of groups and filters among them, by name and by channel.
+/*! Finds the elements of a screen, including members of groups and filters, by name and by channel.
 
-    Elements enter and leave it as they enter and leave the screen, so that no name check walks the screen.
+    Elements are added and removed together with their screen, so that no name check needs to search the
+    screen.
 */
 class CORVEX_EXPORT ElementIndex
 {
@@ -28,14 +29,14 @@ public:
     void remove(Element *element);
     void rename(Element *element, const QString &oldName);
     void clear();
-    //! How many elements bear each name, counted from here on for a whole project in \a counts, too; null to
-    //! count no longer there.
+    //! The number of elements with each name. From this call on, the names are also counted in \a counts for
+    //! the whole project; null ends that.
     using NameCounts = QHash<QString, int>;
     void countIn(NameCounts *counts);
 
     QList<DesignerObject *> named(const QString &name) const { return m_byName.find(name); }
     qsizetype count(const QString &name) const { return m_byName.count(name); }
-    //! The first of base1, base2, ... that no element bears and that is not taken otherwise.
+    //! The first of base1, base2, ... that is neither the name of an element nor taken otherwise.
     QString freeName(const QString &base, const std::function<bool(const QString &name)> &isTaken = {});
 
     //! The hardware elements of that class with that channel.
@@ -54,14 +55,14 @@ private:
 
     NameIndex m_byName;
     NameCounts *m_counts = nullptr; //!< of the project
-    //! What is known of the numbers behind a base.
+    //! The numbers in use after a base.
     struct Numbers
     {
-        int next = 1;       //!< below it, a number is an element's or one of the gaps
-        std::set<int> gaps; //!< numbers that were freed, or were taken elsewhere when they were asked for
+        int next = 1;       //!< all lower numbers are either used or in gaps
+        std::set<int> gaps; //!< freed numbers, and numbers that were taken otherwise when they were requested
     };
     QHash<QString, Numbers> m_numbers; //!< by base
-    // Found at the first question, since most screens are never asked, and kept from then on.
+    // Built on first use, because most screens never need it, and then updated.
     mutable Channels m_byChannel;
     mutable bool m_channelsKnown = false;
 };

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A named selection of the elements of a screen, by which the designer shows and hides them.
+//! A named selection of elements on a screen, which the designer can show and hide.
 class CORVEX_EXPORT FilterElement : public Element
 {
     Q_OBJECT

@@ -6,11 +6,10 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Several elements that are moved, shown and turned as one.
+/*! Several elements that are moved, shown and rotated together.
 
-    `indexes` lists the names of the members in the order by which the runtime numbers them. The group does
-   not keep it in step by itself: the commands that change the members change it too, so that undo restores
-   it.
+    `indexes` lists the names of the members in the order of their runtime numbers. The group does not update
+    it: the commands that change the members do, so that undo restores it.
 */
 class CORVEX_EXPORT GroupElement : public VisualElement
 {
@@ -21,18 +20,18 @@ public:
     SharedProperty elements() const { return getProperty(u"elements"); }
     SharedProperty indexes() const { return getProperty(u"indexes"); }
 
-    //! The names of all elements in the group, those of groups in it included.
+    //! The names of all elements in the group, including those in nested groups.
     QStringList childrenNames() const;
-    //! Looks through groups in the group too.
+    //! Also searches nested groups.
     Element *getChild(const QString &name) const;
     bool hasChild(const QString &name) const { return getChild(name); }
-    //! The screen on which the outermost group stands; null out of a screen.
+    //! The screen of the outermost group; null outside of a screen.
     Screen *parentScreen() const;
 
-    //! The statements of the members, those of groups in it included.
+    //! The statements of the members, including those in nested groups.
     QString onCompletedQml(int indent) const override;
     RuntimePropertyList runtimeProperties() const override;
-    //! The rectangle around the members, moved to the group's position.
+    //! The bounding rectangle of the members, at the group's position.
     QRectF boundingRect() const override;
 
 protected:

@@ -9,7 +9,8 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Pasting thousands of elements with one channel must not validate them all for each.
+//! Limits validation, so that pasting thousands of elements with the same channel does not validate all of
+//! them each time.
 constexpr qsizetype mostSharers = 64;
 
 } // namespace
@@ -38,7 +39,8 @@ void HardwareElement::afterPropertyChanged(const DesignerProperty *property, con
 void HardwareElement::validateOthersOn(const Screen *on, const QString &channel) const
 {
     const auto others = on ? on->elementIndex().withChannel(className(), channel) : QList<DesignerObject *>();
-    // Beyond that number they have known of each other for long; a message may name one that has left.
+    // Beyond that number all of them are marked already. A message may still name an element that was
+    // removed.
     if (others.size() > mostSharers) {
         return;
     }

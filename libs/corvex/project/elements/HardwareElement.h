@@ -6,8 +6,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! An input, an output or a port of the device. Elements that share a channel hear of each other's changes,
-//! so that each of them says what is wrong.
+//! An input, an output or a port of the device. Elements with the same channel are notified of each other's
+//! changes, so that each reports a conflict.
 class CORVEX_EXPORT HardwareElement : public Element
 {
     Q_OBJECT

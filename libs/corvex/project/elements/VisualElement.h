@@ -8,7 +8,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! An element that is drawn. Opacity and scale are per cent in the model and fractions at run time.
+//! An element that is drawn. Opacity and scale are percentages in the model and fractions at run time.
 class CORVEX_EXPORT VisualElement : public Element
 {
     Q_OBJECT
@@ -16,13 +16,13 @@ class CORVEX_EXPORT VisualElement : public Element
 
 public:
     RuntimePropertyList runtimeProperties() const override;
-    //! What the element covers before rotation and scaling, in the coordinates of its screen or group;
-    //! without extent for an element without a size.
+    //! The area of the element before rotation and scaling, in the coordinates of its screen or group; empty
+    //! for an element without a size.
     virtual QRectF boundingRect() const;
 
 protected:
     using Element::Element;
-    //! A rectangle; those that look different say so.
+    //! A rectangle, unless a class overrides it.
     ObjectView *createGraphicsItem() override;
     bool initializeProperties() override;
 };

@@ -42,7 +42,7 @@ bool hasImageExtension(const QString &name)
     return dot >= 0 && Common::FileHelper::validImageExtensions().contains(name.mid(dot + 1).toLower());
 }
 
-//! In the words of FileHelper::isValidImage().
+//! In the terms of FileHelper::isValidImage().
 QString formatOf(const QString &name)
 {
     const QString extension = name.section(u'.', -1).toLower();
@@ -66,7 +66,7 @@ QString FileNameRules::projectNameError(const QString &name)
         return LocalizationHelper::coreString(
             u"The project's name cannot begin with a blank or a full stop."_s);
     }
-    // An identifier drops blanks around it: the file would bear another name than the project.
+    // An identifier drops surrounding blanks, so the file would have a different name than the project.
     if (name.trimmed() != name) {
         return LocalizationHelper::coreString(u"The project's name cannot begin or end with a blank."_s);
     }

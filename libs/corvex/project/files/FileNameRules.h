@@ -7,19 +7,19 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What projects and images can be called, being files that are carried from one system to another. Each
-//! function gives the reason, for the user, why a name will not do, or nothing for a good one.
+//! The rules for the names of projects and images, which are files that must be valid on every system. Each
+//! function returns the reason why a name is invalid, for the user, or an empty text.
 class CORVEX_EXPORT FileNameRules
 {
 public:
     static constexpr qsizetype longestProjectName = 248;
     static constexpr qsizetype longestImageName = 255;
 
-    //! A project's name is that of its folder and, with an extension, of its file.
+    //! The name of a project is the name of its folder and, with an extension, of its file.
     static QString projectNameError(const QString &name);
-    //! An image's name is that of its file, extension included.
+    //! The name of an image is its file name, including the extension.
     static QString imageNameError(const QString &name);
-    //! The same for the contents of a file that is to be the image of that name.
+    //! Checks whether the contents of a file are an image with the format of that name.
     static QString imageFileError(const QString &path, const QString &name);
     //! Whether the two names have the same image format.
     static bool haveSameFormat(const QString &name, const QString &otherName);

@@ -106,7 +106,7 @@ bool ProjectAutosave::findArchive()
     return QFile::exists(archive);
 }
 
-//! After a crash there may be nothing but the file that was set aside; it is the one to keep then.
+//! After a crash the file that was set aside may be the only one; keep it then.
 QString ProjectAutosave::moveAside()
 {
     const QString aside = asideName(m_archive);

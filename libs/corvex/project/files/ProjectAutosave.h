@@ -18,12 +18,12 @@ namespace Halvane::Corvex::Designer {
 class Project;
 class ZipWorker;
 
-/*! Saves a project beside its folder while it is being edited, as the archive D/P.kdproj.kdasv of "P.kdproj",
-    "Images/..." and "Preview.png".
+/*! Saves a project next to its folder while it is being edited, as the archive D/P.kdproj.kdasv with
+    "P.kdproj", "Images/..." and "Preview.png".
 
-    The contents are brought together in a temporary folder of their own and packed in a thread of its own.
-   For that time the autosave file of before is called D/P.kdproj.kdasv.tmp; it goes when the new one is
-   complete and comes back when that fails.
+    The contents are collected in a temporary folder and packed in a separate thread. Meanwhile the previous
+    autosave file has the name D/P.kdproj.kdasv.tmp. It is deleted when the new file is complete and restored
+    on failure.
 */
 class CORVEX_EXPORT ProjectAutosave : public QObject
 {
@@ -37,35 +37,34 @@ public:
     //! Waits for the archive that is being packed.
     ~ProjectAutosave() override;
 
-    //! Starts the timer anew with the minutes in the user's setting "autoIntervalTime"; there is no timer
-    //! when these are missing or out of range.
+    //! Restarts the timer with the minutes in the user's setting "autoIntervalTime". Without a valid setting
+    //! there is no timer.
     void start();
     //! -1 without a timer.
     int timerId() const { return m_timerId; }
     //! In milliseconds, 0 without a timer.
     int interval() const { return m_interval; }
 
-    /*! Whether there is an autosave file. After a crash this may be the file that was set aside, which gets
-        its name back. */
+    //! Whether there is an autosave file. After a crash this may be the one that was set aside; it gets its
+    //! name back.
     bool findArchive();
 
-    /*! What the timer does: begins a run, unless nothing has changed or a run is under way. Whether one has
-       begun; what became of it is told by finished(), which also tells why one could not begin. */
+    //! Called by the timer: starts a run, unless nothing has changed or a run is active. Returns whether a
+    //! run has started. finished() reports the result, also if it could not be started.
     bool run();
     bool isRunning() const { return m_isRunning; }
-    //! Nothing is saved while it is paused: the file of before is still needed.
+    //! While paused nothing is saved, because the previous file is still needed.
     void setPaused(bool isPaused) { m_isPaused = isPaused; }
-    //! Whether the undo history stands where it stood when the project was autosaved, loaded or saved last,
-    //! and has not been elsewhere in between.
+    //! Whether the undo history is unchanged since the project was last autosaved, loaded or saved.
     bool checkStackIsSame() const;
-    //! The project is as its file holds it: nothing is worth an autosave until the next edit.
+    //! The project is equal to its file: no autosave is needed until the next edit.
     void startOver();
     void countEdit() { ++m_editCount; }
 
 signals:
     //! For the status indicator.
     void runningChanged(bool running);
-    //! \a error is empty when the autosave file is complete.
+    //! \a error is empty if the autosave file is complete.
     void finished(const QString &error);
 
 protected:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The files of Project: everything in its own folder, nothing beside it but the autosave file.
+// The files of Project. They are all in its own folder, except the autosave file.
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/common/files/FileSync.h"
@@ -71,7 +71,7 @@ bool Project::createFile(const QString &path)
         changePropertyValue(m_designerVersion, oldDesignerVersion);
         return false;
     }
-    m_folder.close(); // another one from now on
+    m_folder.close(); // the next one is another folder
     m_observers.call(&ModelObserver::projectSaved);
     createUndoStack();
     return true;
@@ -208,7 +208,7 @@ bool Project::deleteFile()
             left.append(file);
         }
     }
-    // Folders in which the user keeps more are not empty and stay.
+    // Folders with other files of the user are not empty and remain.
     folder.rmdir(imagesFolder);
     if (!ownFolder.isEmpty()) {
         parent.rmdir(ownFolder);
@@ -230,7 +230,7 @@ bool Project::createFileCopy(const QString &parentPath, const QString &name)
         return finish(
             Common::LocalizationHelper::coreString(u"The folder \"%1\" exists already."_s).arg(folder));
     }
-    // The copy grows in a folder beside its place and is moved there when it is complete.
+    // Build the copy in a temporary folder beside its final place, and rename it when it is complete.
     const Common::TemporaryFolder workshop(parentPath, u".corvex-copy"_s);
     const QString draft = workshop.filePath(copyName);
     if (!workshop.isValid() || !QDir().mkdir(draft)) {
@@ -273,7 +273,7 @@ bool Project::copyResources(const QString &path, QString *error) const
     const QDir target(path);
     for (const ImageResource *image : images()) {
         const QString copy = target.filePath(u"%1/%2"_s.arg(imagesFolder, image->fileName()));
-        // Two resources that bear one name show one file.
+        // Two resources with the same name share one file.
         if (!QFileInfo(image->filePath()).isFile() || QFileInfo::exists(copy)) {
             continue;
         }

@@ -15,7 +15,7 @@ namespace {
 using Common::FileTransaction;
 using Common::LocalizationHelper;
 
-//! A save in another program is over by then.
+//! Long enough for a save in another program.
 constexpr int timeToSave = 2000; // milliseconds
 
 bool fail(QString *error, const QString &english, const QString &path)
@@ -31,7 +31,7 @@ bool failToLock(QString *error, const QString &folder)
                 folder);
 }
 
-//! The folder of the file, which an interrupted edit may have left under another name.
+//! The folder of the file. An interrupted edit may have left it under another name.
 QString folderOf(const QString &path)
 {
     const QString folder = QFileInfo(path).absolutePath();
@@ -46,9 +46,9 @@ bool ProjectFolder::lock(const QString &path, Kind kind, int milliseconds, QStri
     close();
     const QString folder = folderOf(path);
     if (!QFileInfo(folder).isDir()) {
-        return true; // the opening tells that there is no such file
+        return true; // the caller reports the missing file
     }
-    // To end what was interrupted nobody else may be there.
+    // An interrupted transaction can only be completed while nobody else uses the folder.
     const bool isInterrupted = FileTransaction::isOpen(folder);
     if (!m_lock.take(folder, isInterrupted ? Kind::Exclusive : kind, milliseconds)) {
         return failToLock(error, folder);
@@ -57,7 +57,7 @@ bool ProjectFolder::lock(const QString &path, Kind kind, int milliseconds, QStri
         m_lock.release();
         return false;
     }
-    // The folder has the name that the caller knows again, or is gone from there.
+    // The folder has its known name again, or no longer exists there.
     const QString present = QFileInfo(path).absolutePath();
     if (isInterrupted && QFileInfo(present).isDir() && !m_lock.take(present, kind, milliseconds)) {
         return failToLock(error, present);
@@ -84,18 +84,18 @@ bool ProjectFolder::endInterrupted(const QString &folder, QString *error)
     case FileTransaction::Recovery::Nothing:
         break;
     case FileTransaction::Recovery::Finished:
-        m_note = LocalizationHelper::coreString(u"An interrupted save of this project has been finished."_s);
+        m_note = LocalizationHelper::coreString(u"An interrupted save of this project was completed."_s);
         break;
     case FileTransaction::Recovery::TakenBack:
         m_note = LocalizationHelper::coreString(
-            u"An interrupted edit of this project has been taken back: it is as it was last saved."_s);
+            u"An interrupted edit of this project was undone. The project is as it was last saved."_s);
         break;
     case FileTransaction::Recovery::Failed:
-        return fail(
-            error,
-            u"An edit of the project in \"%1\" was interrupted and cannot be taken back: its files cannot "
-            "be written. Allow that, and open the project again."_s,
-            folder);
+        return fail(error,
+                    u"An edit of the project in \"%1\" was interrupted and cannot be undone, because its "
+                    u"files cannot "
+                    "be written. Make them writable and open the project again."_s,
+                    folder);
     }
     return true;
 }
@@ -148,7 +148,7 @@ bool ProjectFolder::lockToSave(const QString &folder, QString *error)
            || failToLock(error, folder);
 }
 
-//! Between two saves nobody is kept out for nothing.
+//! Do not keep others out between two saves.
 void ProjectFolder::unlockSaved()
 {
     if (!m_changes && !m_isLockedForCaller) {

@@ -9,13 +9,12 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! The folder of a project on the disk: who may work in it, and which changes of files wait for the project
-   to be saved.
+/*! The folder of a project: locks it and keeps the file changes that wait for a save.
 
-    Images are files from the moment a command brings them in or changes them, while the project's file names
-   them only when it has been saved. Until then all these changes are one transaction: saving commits it,
-   everything else takes it back, and the next opening does so after a crash. Other programs are kept out
-   meanwhile. */
+    Commands change image files immediately, but the project's file refers to the changes only after a save.
+    Until then all these changes are one transaction: a save commits it, everything else undoes it, and after
+    a crash the next opening does. Meanwhile other programs cannot open the project.
+*/
 class CORVEX_EXPORT ProjectFolder
 {
 public:
@@ -25,35 +24,35 @@ public:
     ~ProjectFolder() { close(); }
     Q_DISABLE_COPY_MOVE(ProjectFolder)
 
-    /*! Takes the lock for the file \a path and ends what was interrupted there. It is held until close().
-       False, with an error, when others have it for longer than \a milliseconds. */
+    //! Locks the folder of the file \a path until close(), and completes or undoes an interrupted transaction
+    //! there. Returns false, with an error, if others hold the lock for longer than \a milliseconds.
     bool lock(const QString &path, Kind kind, int milliseconds, QString *error);
-    //! Ends what was interrupted where the file \a path is, unless somebody is working there. False, with an
-    //! error, when that is not possible.
+    //! Completes or undoes an interrupted transaction in the folder of the file \a path, unless somebody is
+    //! using it. Returns false, with an error, if that is impossible.
     bool recover(const QString &path, QString *error);
-    //! What lock() or recover() has ended, as a sentence; empty when it was nothing.
+    //! What lock() or recover() has completed or undone, as a sentence; empty if nothing.
     const QString &recoveryNote() const { return m_note; }
 
-    //! The changes that wait for the next save, which begin with the first call. Null, with an error, when
-    //! nothing can be changed in \a folder.
+    //! The changes that wait for the next save, started by the first call. Null, with an error, if nothing
+    //! can be changed in \a folder.
     Common::FileTransaction *begin(const QString &folder, QString *error);
-    //! Null when no change waits.
+    //! Null if there are no changes.
     Common::FileTransaction *changes() const { return m_changes.get(); }
 
     using Write = std::function<bool(const QString &path, QString *error)>;
-    /*! Writes the file, and commits all changes with it. \a clean removes what only an undo needs; that is
-       done when the file has been written. */
+    //! Writes the file and commits all changes with it. After the file was written, \a clean removes the
+    //! files that only an undo needs.
     bool save(const QString &folder, const QString &file, const std::function<void()> &clean,
               const Write &write, QString *error);
-    //! Has what waits count without a save of \a file.
+    //! Commits the waiting changes without a save of \a file.
     bool keepChanges(const QString &file, QString *error);
-    //! Takes back what waits; the lock stays.
+    //! Undoes the waiting changes but keeps the lock.
     void takeBack();
-    //! Takes back what waits, and gives up the lock.
+    //! Undoes the waiting changes and releases the lock.
     void close();
 
 private:
-    //! Finishes or takes back, by its journal, what a killed program left behind.
+    //! Completes or undoes, according to its journal, the transaction of a killed program.
     bool endInterrupted(const QString &folder, QString *error);
     bool lockToSave(const QString &folder, QString *error);
     void unlockSaved();

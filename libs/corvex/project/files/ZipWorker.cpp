@@ -13,7 +13,7 @@ namespace Halvane::Corvex::Designer {
 ZipWorker::ZipWorker(const QString &folder, const QString &archive)
     : m_folder(folder)
     , m_archive(archive)
-    , m_error(Common::LocalizationHelper::coreString(u"The archive has not been packed."_s))
+    , m_error(Common::LocalizationHelper::coreString(u"The archive was not packed."_s))
 { }
 
 void ZipWorker::run()

@@ -17,7 +17,7 @@ public:
 
     void run();
 
-    //! The outcome, once the thread has finished: empty when the archive is complete.
+    //! The result after the thread has finished: empty if the archive is complete.
     const QString &errorString() const { return m_error; }
 
 private:

@@ -24,7 +24,7 @@ SharedProperty listOf(const QList<DesignerObject *> &members)
     return members.isEmpty() || !members.first() ? SharedProperty() : members.first()->listProperty();
 }
 
-//! The members in the order of the list, each once. Nothing if one of them is not in the list.
+//! The members in list order, without duplicates. Nothing if one of them is not in the list.
 QList<DesignerObject *> inOrder(const QList<DesignerObject *> &members, const SharedProperty &list)
 {
     const bool areThere = list && std::ranges::all_of(members, [&list](const DesignerObject *member) {

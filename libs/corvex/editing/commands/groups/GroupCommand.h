@@ -10,21 +10,21 @@ namespace Halvane::Corvex::Designer {
 
 class GroupElement;
 
-/*! Puts elements of one list into a new group, which takes the place of the topmost of them. What refers to
-   them stays as it is. */
+//! Moves elements of one list into a new group, which replaces the topmost of them. References to them are
+//! unchanged.
 class CORVEX_EXPORT GroupCommand : public ModelCommand
 {
 public:
-    //! \a elements is the list of a screen or of another group; \a group is in no model.
+    //! \a elements is the list of a screen or of another group; \a group must not be in a model.
     GroupCommand(const SharedProperty &elements, GroupElement *group, const QList<DesignerObject *> &members,
                  UndoCommand *parent = nullptr);
-    //! Groups in the list in which the members stand.
+    //! Creates the group in the list that contains the members.
     GroupCommand(DesignerObject *group, const QList<DesignerObject *> &members,
                  UndoCommand *parent = nullptr);
 
-    //! What an item covers that is turned by \a rotation degrees about one of the points "TopLeft", "Top",
-    //! "TopRight", "Left", "Right", "BottomLeft", "Bottom" and "BottomRight"; about its centre for any other
-    //! text.
+    //! The bounding rectangle of an item rotated by \a rotation degrees about one of the points "TopLeft",
+    //! "Top", "TopRight", "Left", "Right", "BottomLeft", "Bottom" and "BottomRight"; for any other text about
+    //! its centre.
     static QRectF actualBoundingRect(const QPointF &position, const QSizeF &size, double rotation,
                                      const QString &transformOrigin);
 

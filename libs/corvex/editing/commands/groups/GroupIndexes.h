@@ -10,15 +10,15 @@ namespace Halvane::Corvex::Designer {
 
 class GroupElement;
 
-//! The order in which a group numbers its members, which follows them only when commands say so.
+//! The numbering order of a group's members. Commands must update it when the members change.
 class CORVEX_EXPORT GroupIndexes
 {
 public:
-    //! The group whose members \a list holds; null for any other list.
+    //! The group whose members are in \a list; null for any other list.
     static GroupElement *groupOf(const SharedProperty &list);
 
-    //! The text \a indexes without some names and with others at the place of the first of these, or at the
-    //! end.
+    //! The text \a indexes with the names \a without removed, and the names \a with at the place of the first
+    //! removed one or, if there is none, at the end.
     static QString replaced(const QString &indexes, const QStringList &without, const QStringList &with);
 };
 

@@ -59,7 +59,7 @@ bool GroupPlaces::note(const SharedProperty &property)
 
 bool GroupPlaces::watch(const GroupElement *group)
 {
-    // What is in no list yet has been seen nowhere.
+    // A group that is in no list has no position on the screen yet.
     if (!group || !group->listProperty()) {
         return false;
     }
@@ -77,7 +77,7 @@ bool GroupPlaces::watch(const GroupElement *group)
 
 QList<ValueChange> GroupPlaces::settle()
 {
-    // Where a group is counts for how far those around it reach.
+    // Inner groups first, because their positions affect the bounds of the outer ones.
     std::ranges::stable_sort(m_groups, std::ranges::greater(), &Group::depth);
     QList<ValueChange> changes;
     for (const auto &[group, depth, size] : m_groups) {

@@ -15,30 +15,29 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class GroupElement;
 
-/*! Keeps what a turned group holds in its place on the screen while an edit changes how far the group
-   reaches.
+/*! Keeps the members of a rotated group in place on the screen while an edit changes the bounds of the group.
 
-    A group turns and scales about a point that depends on the far edges of its members. When an edit moves
-   that point, the group gets another position, in which none of the other members is seen to move. One edit
-   has one of these, however many commands it is made of: the groups are looked at before its first command,
-   and settled once after the last that concerns them.
+    A group rotates and scales about a point that depends on the far edges of its members. When an edit moves
+    that point, the group gets a new position such that none of the other members appears to move. There is
+    one such object per edit, even if it has many commands: the groups are recorded before its first command,
+    and corrected once after the last one that affects them.
 */
 class CORVEX_EXPORT GroupPlaces
 {
 public:
-    //! Whether a change of that value, or of what that list holds, can matter at all.
+    //! Whether a change of that value, or of the contents of that list, can matter.
     static bool concerns(const SharedProperty &property);
-    //! Takes note of what a command is going to change: a value, or what a list holds. True when that may
-    //! move something else.
+    //! Records that a command is about to change a value or a list. Returns true if something else may appear
+    //! to move.
     bool note(const SharedProperty &property);
-    //! Gives the groups their positions, after the commands, and tells which have changed.
+    //! Sets the positions of the groups after the commands. Returns the changed ones.
     QList<ValueChange> settle();
 
 private:
     struct Group
     {
         QPointer<DesignerObject> group;
-        int depth; //!< the number of groups around it
+        int depth; //!< the number of enclosing groups
         QSizeF size;
     };
 
@@ -46,7 +45,7 @@ private:
 
     std::vector<Group> m_groups;
     QSet<const DesignerObject *> m_watched;
-    QSet<const DesignerObject *> m_placed; //!< the edit itself says where these are
+    QSet<const DesignerObject *> m_placed; //!< the edit itself sets their positions
 };
 
 } // namespace Halvane::Corvex::Designer

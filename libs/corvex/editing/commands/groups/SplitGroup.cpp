@@ -22,7 +22,7 @@ SplitGroup::SplitGroup(DesignerObject *group, const QList<DesignerObject *> &mem
     };
     if (!element || !property() || members.isEmpty()
         || !std::all_of(members.begin(), members.end(), isMember)) {
-        refuse(Common::LocalizationHelper::coreString(u"These are no members of a group."_s));
+        refuse(Common::LocalizationHelper::coreString(u"These are not members of a group."_s));
         return;
     }
     const QSet<DesignerObject *> wanted(members.cbegin(), members.cend());
@@ -47,7 +47,7 @@ QList<DesignerObject *> SplitGroup::named(DesignerObject *group, const QStringLi
     const auto *element = kindCast<GroupElement>(group);
     QList<DesignerObject *> members;
     for (const QString &name : names) {
-        // A name that is none gives null, which is refused.
+        // An invalid name gives null, which is refused.
         members.append(element ? element->elements()->getListItem(name) : nullptr);
     }
     return members;

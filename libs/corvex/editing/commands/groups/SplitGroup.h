@@ -9,15 +9,15 @@ namespace Halvane::Corvex::Designer {
 class GroupElement;
 struct ElementPlacement;
 
-//! Takes some members out of a group and puts them in front of it, where they are seen as before. References
-//! to them lose the name of the group.
+//! Moves some members out of a group and puts them above it. Their positions on the screen do not change.
+//! References to them lose the name of the group.
 class CORVEX_EXPORT SplitGroup : public ModelCommand
 {
 public:
     SplitGroup(DesignerObject *group, const QList<DesignerObject *> &members, UndoCommand *parent = nullptr);
     SplitGroup(DesignerObject *group, const QStringList &memberNames, UndoCommand *parent = nullptr);
 
-    //! The values that leave a member of the group at the same place out of it.
+    //! The values that keep a member in place on the screen outside of the group.
     static QList<ValueChange> placeOutside(const DesignerObject *member, const ElementPlacement &group);
 
 private:

@@ -20,12 +20,12 @@ UngroupCommand::UngroupCommand(DesignerObject *group, UndoCommand *parent)
     const auto *element = kindCast<GroupElement>(group);
     const SharedProperty list = property();
     if (!element || !list) {
-        refuse(Common::LocalizationHelper::coreString(u"There is no group to take apart."_s));
+        refuse(Common::LocalizationHelper::coreString(u"There is no group to ungroup."_s));
         return;
     }
     if (element->elements()->itemList()->hasKeptItems()) {
         refuse(Common::LocalizationHelper::coreString(
-            u"The group holds elements whose plug-in is missing. They would be lost with it."_s));
+            u"The group contains elements whose plug-in is missing. They would be lost."_s));
         return;
     }
     const QString name = group->getIdName();
@@ -36,7 +36,7 @@ UngroupCommand::UngroupCommand(DesignerObject *group, UndoCommand *parent)
     QList<ValueChange> changes =
         ReferenceChanges::ungrouped(group, QSet<QString>(below.cbegin(), below.cend()), true, pending());
     if (outer) {
-        // The members take the place of the group in the order of the outer one.
+        // The members replace the group in the order of the outer group.
         changes.removeIf([outer](const ValueChange &change) { return change.property == outer->indexes(); });
     }
     addChanges(changes);

@@ -6,8 +6,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Puts the members of a group in its place, where they are seen as before. References to them lose the name
-//! of the group; those to the group itself are dropped.
+//! Replaces a group by its members. Their positions on the screen do not change. References to them lose the
+//! name of the group; references to the group itself are dropped.
 class CORVEX_EXPORT UngroupCommand : public ModelCommand
 {
 public:

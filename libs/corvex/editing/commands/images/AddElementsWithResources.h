@@ -8,9 +8,9 @@ namespace Halvane::Corvex::Designer {
 
 class Screen;
 
-/*! Adds elements, pasted or from a template, with the pictures and the variables that they need. Pictures are
-    copied from their original locations. A variable or a picture that the project has already, under the same
-    name and with the same contents, is used instead. */
+//! Adds elements, pasted or from a template, with the images and variables that they need. Images are copied
+//! from their original locations. If the project already has a variable or an image with the same name and
+//! contents, that one is used instead.
 class CORVEX_EXPORT AddElementsWithResources : public ModelCommand
 {
 public:

@@ -8,12 +8,12 @@ namespace Halvane::Corvex::Designer {
 
 class Project;
 
-/*! Adds a picture: its file is copied into the project's folder of images under the name of the resource, and
-    elements show it. The project must have a file. */
+//! Adds an image: copies its file into the project's images folder under the name of the resource, and shows
+//! it in elements. The project must have a file.
 class CORVEX_EXPORT AddImage : public SortingCommand
 {
 public:
-    //! The elements \a users get the picture as their "source".
+    //! Sets the image as the "source" of the elements \a users.
     AddImage(DesignerObject *image, const QString &filePath, Project *project,
              const QList<DesignerObject *> &users = {}, UndoCommand *parent = nullptr);
 };

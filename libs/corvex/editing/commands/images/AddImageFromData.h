@@ -12,11 +12,12 @@ namespace Halvane::Corvex::Designer {
 class Project;
 class Screen;
 
-/*! Adds a picture that is in memory, from the clipboard for example, as a PNG file "Image Resource.png" or
-   the next such name; on a screen with an element that shows it.
+/*! Adds an image from memory, for example from the clipboard, as a PNG file "Image Resource.png" or the next
+    free name. On a screen, also adds an element that shows it.
 
-    A picture that the project has already is not added again, as errorString() tells; on a screen the element
-    shows the one that is there. */
+    An image that the project already has is not added again, as errorString() reports; on a screen the new
+    element shows the existing image.
+*/
 class CORVEX_EXPORT AddImageFromData : public ModelCommand
 {
 public:

@@ -11,11 +11,11 @@ namespace Halvane::Corvex::Designer {
 class ImageResource;
 class Screen;
 
-//! Adds pictures and the elements that show them.
+//! Adds images and the elements that show them.
 class CORVEX_EXPORT AddImagesAndElements : public ModelCommand
 {
 public:
-    //! \a images with the file of each.
+    //! \a images maps each image to its file.
     AddImagesAndElements(const QMap<ImageResource *, QString> &images,
                          const QList<DesignerObject *> &elements, Screen *screen,
                          UndoCommand *parent = nullptr);

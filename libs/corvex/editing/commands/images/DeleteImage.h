@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Its file stays until the project has been saved.
+//! The file is kept until the project is saved.
 class CORVEX_EXPORT DeleteImage : public DeleteObject
 {
 public:

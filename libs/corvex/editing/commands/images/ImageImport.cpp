@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Images that the user drops on a screen or chooses for it.
+// Images that the user drops on a screen or selects for it.
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/TextHelper.h"
 #include "corvex/common/files/FileHelper.h"
@@ -67,7 +67,7 @@ ImageResource *makeResource(const QString &name)
     return static_cast<ImageResource *>(image);
 }
 
-//! False, and the user knows why, when the command cannot be done.
+//! Returns false, after a message to the user, if the command fails.
 bool push(AddImagesAndElements *command, Project *project, QWidget *parentWidget)
 {
     UndoStack *stack = project->undoStack();

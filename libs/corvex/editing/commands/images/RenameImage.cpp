@@ -29,7 +29,7 @@ RenameImage::RenameImage(DesignerObject *image, const QString &newName, UndoComm
         error = LocalizationHelper::coreString(u"An image resource with name \"%1\" already exists."_s)
                     .arg(newName);
     }
-    // An image whose file is missing or damaged keeps at least the kind that its name tells.
+    // An image whose file is missing or damaged must keep the format of its name.
     if (error.isEmpty() && !FileNameRules::haveSameFormat(oldName, newName)) {
         error = FileNameRules::imageFileError(resource->filePath(), newName);
     }

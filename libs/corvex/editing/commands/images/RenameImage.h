@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Gives a picture and its file another name, which all that shows it follows.
+//! Renames an image and its file, and updates the elements that show it.
 class CORVEX_EXPORT RenameImage : public ModelCommand
 {
 public:

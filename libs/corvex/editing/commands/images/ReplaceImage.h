@@ -6,8 +6,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Gives a picture other contents and, perhaps, another name, which all that shows it follows. The old file
-//! stays beside until the project has been saved. The original location stays what it was.
+//! Replaces the contents of an image and optionally its name, and updates the elements that show it. The old
+//! file is kept until the project is saved. The original location is not changed.
 class CORVEX_EXPORT ReplaceImage : public ModelCommand
 {
 public:

@@ -14,7 +14,8 @@ class CORVEX_EXPORT AddObject : public SortingCommand
 public:
     AddObject(const SharedProperty &list, DesignerObject *object, bool selected,
               UndoCommand *parent = nullptr);
-    //! A new object of that class; the name of its class and the first free number when \a name is empty.
+    //! Adds a new object of that class. If \a name is empty, it gets the name of its class and the first free
+    //! number.
     AddObject(const SharedProperty &list, const QString &className, const QString &name, bool selected,
               UndoCommand *parent = nullptr);
 

@@ -26,7 +26,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! All updates of elements of the screen are for \a newName from here on; the others describe nothing.
+//! Changes all updates of elements on the screen to \a newName; other updates are ignored.
 QString relinked(const QString &states, const QString &newName, const Screen *screen)
 {
     UpdateObjectList updates;
@@ -39,7 +39,7 @@ QString relinked(const QString &states, const QString &newName, const Screen *sc
     return updates.toString();
 }
 
-//! A link that does not tell what it names may mean a variable, a screen or an element.
+//! A link without a class filter may refer to a variable, a screen or an element.
 bool isOtherThing(const Mention &mention, const DesignerObject *owner)
 {
     const Project *project = owner->project();
@@ -152,8 +152,8 @@ bool ChangeProperty::notifyFileMissing() const
     return false;
 }
 
-//! Why the object cannot get the new name. Commands before this one in a composite may free the name yet, so
-//! that the rules are checked each time.
+//! Why the object cannot get the new name. The rules are checked each time, because previous commands in a
+//! composite may free the name.
 QString ChangeProperty::nameError() const
 {
     if (!owner() || property() != owner()->idProperty() || childCount() > 0) {

@@ -6,9 +6,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Sets one value, with all that follows from it: a new name is followed by every reference to the object, a
-    new linked element by the states that describe it, a switch of the device's configuration by the lists
-    that it decides about.
+/*! Sets a value, with all consequences: references follow a new name, states follow a new linked element, and
+    channel lists follow the switches of the device's configuration.
 
     The name of an image or a project in a folder is also the name of its file, which gets the new name as
    with RenameImage and RenameProject.

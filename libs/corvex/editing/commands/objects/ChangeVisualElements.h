@@ -8,14 +8,14 @@ namespace Halvane::Corvex::Designer {
 
 class VisualElement;
 
-//! Gives a property of several elements the value that one of them has.
+//! Copies the value of a property from one element to others.
 class CORVEX_EXPORT ChangeVisualElements : public ModelCommand
 {
 public:
-    //! Elements without a property of the id of \a property are left out.
+    //! Elements without a property with the id of \a property are skipped.
     ChangeVisualElements(const SharedProperty &property, const QList<VisualElement *> &elements,
                          UndoCommand *parent = nullptr);
-    //! The same with a value of its own.
+    //! The same with a given value.
     ChangeVisualElements(const SharedProperty &property, const QString &value,
                          const QList<VisualElement *> &elements, UndoCommand *parent = nullptr);
 };

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Removes a filter from a screen; the elements that it lists stay.
+//! Removes a filter from a screen. The elements in the filter are not deleted.
 class CORVEX_EXPORT DeleteFilter : public ModelCommand
 {
 public:

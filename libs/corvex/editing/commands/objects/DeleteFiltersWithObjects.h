@@ -8,7 +8,7 @@ namespace Halvane::Corvex::Designer {
 
 class Screen;
 
-//! Deletes filters of a screen and, with \a withObjects, the elements that they list.
+//! Deletes filters of a screen and, with \a withObjects, the elements in them.
 class CORVEX_EXPORT DeleteFiltersWithObjects : public ModelCommand
 {
 public:

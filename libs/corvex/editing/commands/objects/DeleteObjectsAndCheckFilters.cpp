@@ -16,7 +16,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The names that a filter lists besides those that go.
+//! The names in a filter that are not being deleted.
 QStringList othersIn(const FilterElement *filter, const QSet<QString> &going, bool *isConcerned)
 {
     QStringList others;
@@ -42,7 +42,7 @@ QList<DesignerObject *> filtersToDelete(const Screen *screen, const QList<Design
     QMap<QString, QString> common;
     for (DesignerObject *filter : screen->filters()->listItems()) {
         if (going.names().contains(filter->getIdName())) {
-            continue; // it is one of the objects
+            continue; // it is being deleted itself
         }
         bool isConcerned = false;
         const QStringList others =

@@ -8,16 +8,16 @@ namespace Halvane::Corvex::Designer {
 
 class Screen;
 
-/*! Deletes elements of a screen, and the filters that list nothing but them. Filters that list others too go
-    when the user says so, see EditingDialogs, and lose the deleted names otherwise. */
+//! Deletes elements of a screen, and filters that only list these elements. Filters that also list others are
+//! deleted if the user agrees, see EditingDialogs; otherwise they lose the deleted names.
 class CORVEX_EXPORT DeleteObjectsAndCheckFilters : public ModelCommand
 {
 public:
     DeleteObjectsAndCheckFilters(const QList<DesignerObject *> &objects, Screen *screen,
                                  UndoCommand *parent = nullptr);
 
-    //! Gives \a parent a command for each object, which together drop all references to them. Objects that
-    //! are there twice, or stand below others of them, are deleted once.
+    //! Adds a command for each object to \a parent; together they drop all references. Duplicates, and
+    //! objects below others, are deleted once.
     static QList<DesignerObject *> addDeletions(const QList<DesignerObject *> &objects, UndoCommand *parent);
 };
 

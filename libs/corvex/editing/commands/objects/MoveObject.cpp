@@ -22,7 +22,7 @@ const Screen *screenOf(const SharedProperty &list)
     return screen ? screen : list->parentObject()->screen();
 }
 
-//! Objects keep to their project: references and files would stay behind.
+//! Objects cannot move to another project, because references and files would not follow.
 const Project *projectOf(const SharedProperty &list)
 {
     const auto *project = kindCast<Project>(list->parentObject());
@@ -76,7 +76,7 @@ void MoveObject::followReferences(const SharedProperty &to, DesignerObject *obje
     const QString name = object->getIdName();
     const GroupElement *oldGroup = GroupIndexes::groupOf(from);
     if (screenOf(from) != screenOf(to)) {
-        // Drops it from the indexes of its group too.
+        // Also removes it from the indexes of its group.
         addChanges(ReferenceChanges::removed({object}, pending()));
     } else if (oldGroup) {
         addChanges(ReferenceChanges::ungrouped(oldGroup, ReferenceTarget(object).names(), false, pending()));

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Takes an object out of a list and leaves all that refers to it as it is.
+//! Removes an object from a list without changing references to it.
 class CORVEX_EXPORT RemoveObject : public ModelCommand
 {
 public:

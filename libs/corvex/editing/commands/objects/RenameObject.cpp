@@ -16,7 +16,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The cursor that tells the user to wait, where there is one.
+//! Shows the wait cursor, if there is one.
 class WaitCursor
 {
     Q_DISABLE_COPY_MOVE(WaitCursor)

@@ -6,8 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Gives a screen or a variable another name, which all that refers to it follows. The base of the commands
-//! for each of them.
+//! Renames a screen or a variable and updates all references. The base of the commands for each of them.
 class CORVEX_EXPORT RenameObject : public ModelCommand
 {
 public:
@@ -15,7 +14,7 @@ public:
     void undo() override;
 
 protected:
-    //! Refuses an object that is none of \a className, and a name that it cannot have.
+    //! Refuses an object that is not a \a className, and an invalid name.
     RenameObject(DesignerObject *object, const QString &className, const QString &newName,
                  const QString &title, UndoCommand *parent);
 };

@@ -6,11 +6,11 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A command that adds to the list of its property, in the order of the list unless that is switched off.
+//! A command that adds to the list of its property, sorted unless that is disabled.
 class CORVEX_EXPORT SortingCommand : public ModelCommand
 {
 public:
-    //! Whether the list is sorted when the object has been added. Otherwise the object comes last, and the
+    //! Whether the list is sorted when the object is added. Otherwise the object is added at the end, and the
     //! next change of the list sorts it.
     bool sortEnabled() const { return m_isSortEnabled; }
     void setSortEnabled(bool enabled) { m_isSortEnabled = enabled; }

@@ -16,11 +16,11 @@ SwapItems::SwapItems(const SharedProperty &list, DesignerObject *first, Designer
 {
     if (!list || !first || !second || first == second || first->listProperty() != list
         || second->listProperty() != list) {
-        refuse(Common::LocalizationHelper::coreString(u"These are not two items of one list."_s));
+        refuse(Common::LocalizationHelper::coreString(u"These are not two items of the same list."_s));
         return;
     }
     if (!ListOrder::canExchange(*list, *first, *second)) {
-        refuse(Common::LocalizationHelper::coreString(u"The list keeps these two in an order of its own."_s));
+        refuse(Common::LocalizationHelper::coreString(u"The list sorts these two items itself."_s));
         return;
     }
     setTitle(u"Swap \"%1\" and \"%2\""_s, first->getIdName(), second->getIdName());

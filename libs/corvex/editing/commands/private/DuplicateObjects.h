@@ -5,11 +5,11 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Adds copies of objects to the lists that hold the originals.
+//! Adds copies of objects to the lists of the originals.
 class DuplicateObjects : public CompositeCommand
 {
 public:
-    //! All objects are of kinds that can be added, and in one project.
+    //! All objects must be of kinds that can be added, and in one project.
     explicit DuplicateObjects(const QList<DesignerObject *> &objects);
 };
 

@@ -15,7 +15,7 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! One change that a command makes of itself, to be done and undone in turn.
+//! A single change by a command, which can be done and undone.
 class EditStep
 {
     Q_DISABLE_COPY_MOVE(EditStep)
@@ -24,14 +24,14 @@ public:
     EditStep() = default;
     virtual ~EditStep() = default;
 
-    //! Whether all that the step works on is still there.
+    //! Whether everything that the step works on still exists.
     virtual bool isPossible() const = 0;
-    //! False, with nothing changed, when it cannot be done; \a error then tells the user why, if it can.
+    //! Returns false, with nothing changed, on failure; \a error may then have a text for the user.
     virtual bool redo(QString &error) = 0;
     virtual void undo() = 0;
-    //! The value or the list of the model that it changes; null for anything else.
+    //! The value or the list that it changes; null for anything else.
     virtual SharedProperty property() const { return {}; }
-    //! Deletes files that were left for an undo and that no image of the project needs.
+    //! Deletes files that were kept for an undo and that no image of the project needs.
     virtual void cleanJunkFiles() { }
     //! See UndoCommand.
     virtual bool changesFiles() const { return false; }
@@ -55,11 +55,11 @@ private:
     ValueChange m_change;
 };
 
-//! Puts an object into a list, where it goes back to the same place each time.
+//! Inserts an object into a list, always at the same place.
 class InsertItemStep : public EditStep
 {
 public:
-    //! \a index -1 is the end.
+    //! \a index -1 means the end.
     InsertItemStep(const SharedProperty &list, DesignerObject *object, qsizetype index = -1);
 
     bool isPossible() const override;
@@ -73,7 +73,7 @@ private:
     ItemPlace m_place;
 };
 
-//! Takes an object out of its list and brings it back to its place.
+//! Removes an object from its list; undo returns it to its place.
 class TakeItemStep : public EditStep
 {
 public:
@@ -90,7 +90,7 @@ private:
     ItemPlace m_place;
 };
 
-//! Exchanges two items; doing it again takes it back.
+//! Exchanges two items; undo does the same again.
 class SwapItemsStep : public EditStep
 {
 public:
@@ -106,7 +106,7 @@ private:
     QPointer<DesignerObject> m_second;
 };
 
-//! Brings a list whose items are out of order into its order, both ways.
+//! Sorts a list, both for redo and undo.
 class SortListStep : public EditStep
 {
 public:
@@ -118,7 +118,7 @@ public:
     bool redo(QString &error) override;
     void undo() override { sort(m_list); }
 
-    //! Lists keep themselves in order, so that there is rarely anything to do.
+    //! Lists keep themselves sorted, so there is rarely anything to do.
     static void sort(const SharedProperty &list);
 
 private:

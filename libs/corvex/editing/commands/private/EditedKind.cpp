@@ -83,7 +83,7 @@ ModelCommand *elementAddition(DesignerObject *copy, DesignerObject *original, Un
     return new AddObject(original->listProperty(), copy, true, parent);
 }
 
-// The first row that fits counts: a filter is an element, too.
+// The first matching row counts: a filter is also an element.
 constexpr std::array kinds{
     EditedKind{"Project"_L1, nullptr, &projectRenaming, nullptr},
     EditedKind{"Screen"_L1, &deletion<DeleteScreen>, &renaming<RenameScreen>, &screenAddition},

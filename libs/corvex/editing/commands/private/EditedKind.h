@@ -10,17 +10,16 @@ class DesignerObject;
 class ModelCommand;
 class UndoCommand;
 
-/*! A kind of object that users add, rename and delete, with the commands that do it. An operation is null
-    where the kind has none. */
+//! A kind of object that users add, rename and delete, with the commands for it. A missing operation is null.
 struct EditedKind
 {
     QLatin1StringView className;
     ModelCommand *(*deletion)(DesignerObject *object, UndoCommand *parent);
     ModelCommand *(*renaming)(DesignerObject *object, const QString &name);
-    //! Adds \a copy, which has its name already, to the list of \a original.
+    //! Adds \a copy, which already has its name, to the list of \a original.
     ModelCommand *(*addition)(DesignerObject *copy, DesignerObject *original, UndoCommand *parent);
 
-    //! Null for an object of no such kind.
+    //! Null if the object is of another kind.
     static const EditedKind *of(const DesignerObject *object);
 };
 

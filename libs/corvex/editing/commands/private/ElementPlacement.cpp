@@ -18,7 +18,7 @@ namespace {
 struct Origin
 {
     QLatin1StringView name;
-    double x; //!< as a part of the width
+    double x; //!< as a fraction of the width
     double y;
 };
 
@@ -40,7 +40,7 @@ ElementPlacement ElementPlacement::of(const DesignerObject *element)
     const auto *visual = kindCast<VisualElement>(element);
     QSizeF size(0, 0);
     if (const auto *group = kindCast<GroupElement>(element)) {
-        // As on the device: from its own zero point to the far edges of its members, turned or not.
+        // As on the device: from its origin to the far edges of its members, ignoring rotations.
         for (const DesignerObject *member : group->elements()->listItems()) {
             const ElementPlacement place = of(member);
             size = size.expandedTo(

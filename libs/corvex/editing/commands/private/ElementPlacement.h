@@ -10,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! Where a visual element stands and how it is turned, in the coordinates of its screen or group.
+//! The position and rotation of a visual element, in the coordinates of its screen or group.
 struct ElementPlacement
 {
     QPointF position;
@@ -21,18 +21,18 @@ struct ElementPlacement
 
     static ElementPlacement of(const DesignerObject *element);
 
-    //! The point about which it turns and scales, from its own top left corner.
+    //! The point about which it rotates and scales, relative to its top left corner.
     QPointF origin() const;
-    //! What it covers, turned as it is.
+    //! Its bounding rectangle, including the rotation.
     QRectF actualBoundingRect() const;
-    //! Where it has to be so that what it holds is seen where it was when it had \a oldSize: another size is
-    //! another point to turn about.
+    //! The position at which its contents appear in the same place as with \a oldSize: the size determines
+    //! the point of rotation.
     QPointF positionAfterSize(const QSizeF &oldSize) const;
-    //! The same place outside of the group \a group for something that stands in it.
+    //! The same placement in the coordinates outside of the group \a group, for one of its members.
     ElementPlacement outOf(const ElementPlacement &group) const;
 
 private:
-    //! A way within it, turned and scaled as it is.
+    //! A vector inside of it, rotated and scaled.
     QPointF turned(const QPointF &way) const;
 };
 

@@ -82,7 +82,7 @@ QString FileStep::inFolder(const QString &name) const
 
 void FileStep::discard(const QString &key) const
 {
-    // Without changes that wait it has gone with the last save.
+    // Without pending changes the last save has deleted it.
     if (Common::FileTransaction *files = m_project ? m_project->fileChanges() : nullptr) {
         files->discard(key);
     }
@@ -124,7 +124,7 @@ bool PlaceFileStep::redo(QString &error)
     return m_isDone;
 }
 
-//! What was placed once is as good as the source, which may be gone by now.
+//! A file that was placed before replaces the source, which may no longer exist.
 bool PlaceFileStep::bringBack(Common::FileTransaction &files)
 {
     if (m_key.isEmpty() || isThere(path()) || !files.bringBack(m_key, inFolder(name()))) {
@@ -221,7 +221,7 @@ void PlaceFileStep::cleanJunkFiles()
 bool RenameFileStep::rename(const QString &from, const QString &to, QString &error)
 {
     if (!isThere(pathOf(from)) && !isThere(pathOf(to))) {
-        return true; // somebody has taken the file away; the image does without, under either name
+        return true; // somebody has deleted the file; the image has none under either name
     }
     if (isThere(pathOf(to)) && from.compare(to, Qt::CaseInsensitive) != 0) {
         error = LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(pathOf(to));
@@ -239,7 +239,7 @@ void RenameFileStep::undo()
 
 ReplaceFileStep::~ReplaceFileStep()
 {
-    // Done and not saved, the file that is set aside holds what the project's file still shows.
+    // While the step is done but not saved, the project's file still refers to the file that was set aside.
     if (!m_isDone) {
         ReplaceFileStep::cleanJunkFiles();
     }

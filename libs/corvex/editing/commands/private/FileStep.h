@@ -11,9 +11,9 @@ namespace Halvane::Corvex::Designer {
 
 class Project;
 
-/*! A step that works on a file in the folder of a project's images. All such changes wait for the project to
-   be saved, see ProjectFolder: what an undo would need, and what the file of the project still refers to,
-   goes with the save and not before. */
+//! A step that changes a file in the project's images folder. The changes wait for the project to be saved,
+//! see ProjectFolder: files that an undo needs, and files that the project's file still refers to, are only
+//! deleted by the save.
 class FileStep : public EditStep
 {
 public:
@@ -25,21 +25,21 @@ public:
 protected:
     Project *project() const { return m_project; }
     using Stored = std::unique_ptr<Common::StoredFile>;
-    //! Copies a file that was set aside, since it goes with the save. Null, with an error, when that fails.
+    //! Copies a file that was set aside, because a save deletes it. Null, with an error, on failure.
     Stored store(const QString &key, Common::FileStore &files, QString &error) const;
     const QString &name() const { return m_name; }
     QString path() const { return pathOf(m_name); }
     QString pathOf(const QString &name) const;
-    //! Whether an image of the project shows the file of that name.
+    //! Whether an image of the project shows that file.
     bool isUsed(const QString &name) const;
     void removeUnused(const QString &name) const;
-    //! Where files are changed, begun when there is no change yet; null, with an error, when that cannot be.
+    //! The transaction for file changes, which is started if necessary; null, with an error, on failure.
     Common::FileTransaction *changes(QString &error) const;
-    //! The file of that name as the changes know it.
+    //! The path of a file in the images folder of the transaction.
     QString inFolder(const QString &name) const;
-    //! Drops a file that was set aside.
+    //! Deletes a file that was set aside.
     void discard(const QString &key) const;
-    //! Tells the image of that name to look at its file again.
+    //! Makes the image with that name check its file again.
     void lookAgain(const QString &name) const;
 
 private:
@@ -47,9 +47,9 @@ private:
     QString m_name;
 };
 
-//! Puts a file into the folder: a copy of another one, or some bytes. A file of the same contents will do;
-//! any other of that name stops it. Undone, the file steps aside, so that each state of the project finds the
-//! names of files as they were.
+//! Puts a file into the folder: a copy of another file, or given bytes. An existing file with the same
+//! contents is used; any other file with that name is an error. An undo sets the file aside, so that each
+//! state of the project has the same file names.
 class PlaceFileStep : public FileStep
 {
 public:
@@ -76,12 +76,12 @@ private:
     QString m_source;
     QByteArray m_bytes;
     QString m_key;         //!< of the file that is set aside while the step is undone
-    Stored m_stored;       //!< the same, when the project has been saved since
-    bool m_isMade = false; //!< by this step, so that it may be removed again
+    Stored m_stored;       //!< the same, if the project has been saved since
+    bool m_isMade = false; //!< created by this step, so that it may be removed
     bool m_isDone = false;
 };
 
-//! Leaves the file of an image that goes where it is, until the project has been saved without it.
+//! Keeps the file of a deleted image until the project is saved without it.
 class LeaveFileStep : public FileStep
 {
 public:
@@ -93,11 +93,11 @@ public:
     bool keepFiles(Common::FileStore &store, QString &error) override;
 
 private:
-    Stored m_stored; //!< the file, once it went with a save
+    Stored m_stored; //!< the file, after a save deleted it
     bool m_isDone = false;
 };
 
-//! Renames a file, by way of a third name, so that names that differ in the case of letters alone will do.
+//! Renames a file via a third name, so that names may differ only in case.
 class RenameFileStep : public FileStep
 {
 public:
@@ -115,7 +115,7 @@ private:
     QString m_newName;
 };
 
-//! Gives a file other contents, and the old ones back.
+//! Replaces the contents of a file; undo restores the old ones.
 class ReplaceFileStep : public FileStep
 {
 public:
@@ -134,8 +134,8 @@ private:
     bool exchange(QString &error);
 
     QString m_source;
-    QString m_key;   //!< of the file with the contents that are not shown; empty before the first redo
-    Stored m_stored; //!< the same, when the project has been saved since
+    QString m_key;   //!< of the file with the hidden contents; empty before the first redo
+    Stored m_stored; //!< the same, if the project has been saved since
     bool m_isDone = false;
 };
 

@@ -35,7 +35,7 @@ QString FreeNames::nameForCopyOf(const DesignerObject &original)
     return name.isEmpty() ? numbered(original, original.baseName()) : name;
 }
 
-//! Empty when no number makes a good name of the stem.
+//! Empty if no number gives a valid name with the stem.
 QString FreeNames::numbered(const DesignerObject &original, const QString &stem)
 {
     using enum PropertyValidators::NameFault;
@@ -47,7 +47,7 @@ QString FreeNames::numbered(const DesignerObject &original, const QString &stem)
         if (fault == Format || fault == Length) {
             return {};
         }
-        // The rules let an object keep its own name.
+        // According to the rules, an object may keep its own name.
         if (fault == None && name != original.getIdName() && !m_given.contains(name)) {
             m_given.insert(name);
             ++number;

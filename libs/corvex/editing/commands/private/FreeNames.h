@@ -12,18 +12,18 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! Names for copies that are about to come into the project. No two copies get the same one.
+//! Names for copies before they are added to the project. No two copies get the same name.
 class FreeNames
 {
 public:
-    //! A name for a copy that will be in the list of \a original: the stem of its name with the first free
-    //! number. An original whose name breaks the rules gives the base name of its class for a stem.
+    //! A name for a copy in the list of \a original: the stem of its name with the first free number. If the
+    //! original's name is invalid, the stem is the base name of its class.
     QString nameForCopyOf(const DesignerObject &original);
 
 private:
     QString numbered(const DesignerObject &original, const QString &stem);
 
-    using Stem = QPair<const void *, QString>; //!< with the screen on which it is numbered
+    using Stem = QPair<const void *, QString>; //!< with the screen of its numbers
     QHash<Stem, qint64> m_nextNumbers;
     QSet<QString> m_given;
     std::optional<ImageNames> m_images;

@@ -42,7 +42,7 @@ bool ObjectCopies::copy(const DesignerObject &original)
     return copy && addPairs(original, *copy);
 }
 
-//! False for a group with something in it that cannot get a name of its own.
+//! Returns false for a group that contains an object that cannot be renamed.
 bool ObjectCopies::addPairs(const DesignerObject &original, DesignerObject &copy)
 {
     m_pairs.append({&original, &copy});
@@ -72,8 +72,8 @@ bool ObjectCopies::addPairs(const DesignerObject &original, DesignerObject &copy
     return true;
 }
 
-//! Names the copy whose pair is \a firstPair and, if it is an element, those that are in it. Elements of a
-//! copied screen keep their names.
+//! Names the copy of the pair \a firstPair and, if it is an element, the elements in it. Elements of a copied
+//! screen keep their names.
 void ObjectCopies::nameCopies(qsizetype firstPair, FreeNames &names)
 {
     const DesignerObject *root = m_pairs.at(firstPair).original;
@@ -116,7 +116,7 @@ void ObjectCopies::followReferences(const Pair &pair) const
     });
 }
 
-//! \a owner is the original, since what a path means depends on the screen from where it is seen.
+//! \a owner is the original, because the meaning of a path depends on its screen.
 void ObjectCopies::follow(Mention &mention, const DesignerObject *owner) const
 {
     const Mention before = mention;

@@ -14,17 +14,17 @@ namespace Halvane::Corvex::Designer {
 class FreeNames;
 struct Mention;
 
-/*! Copies of objects of one project, in no model yet. They have free names, and refer to each other as the
-    originals do. */
+//! Copies of objects of one project, which are not in a model yet. They have free names, and refer to each
+//! other like the originals.
 class ObjectCopies
 {
 public:
-    //! None of the originals is inside another one.
+    //! No original may be inside another one.
     explicit ObjectCopies(const QList<DesignerObject *> &originals);
 
-    //! Why there are no copies; empty when there are.
+    //! Why there are no copies; empty on success.
     const QString &error() const { return m_error; }
-    //! In the order of the originals. The caller owns them from here on.
+    //! In the order of the originals. The caller takes ownership.
     std::vector<std::unique_ptr<DesignerObject>> take() { return std::move(m_copies); }
 
 private:
@@ -33,7 +33,7 @@ private:
         const DesignerObject *original;
         DesignerObject *copy;
     };
-    //! Originals that are named in the same way, with the names of their copies.
+    //! Originals in the same scope, with the names of their copies.
     struct Family
     {
         ReferenceTarget target;
@@ -48,7 +48,7 @@ private:
     void follow(Mention &mention, const DesignerObject *owner) const;
 
     std::vector<std::unique_ptr<DesignerObject>> m_copies;
-    QList<Pair> m_pairs; //!< all objects with all that is in them
+    QList<Pair> m_pairs; //!< all objects and everything below them
     std::vector<Family> m_families;
     QHash<QPair<const void *, int>, size_t> m_familyIndexes; //!< by screen and kind
     QString m_error;

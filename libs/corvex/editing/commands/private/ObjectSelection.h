@@ -7,13 +7,13 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-//! What an edit makes of the objects that a user has selected.
+//! Prepares the user's selection for an edit.
 class ObjectSelection
 {
 public:
-    //! Those that are in a list and not inside others of them, each once.
+    //! The objects that are in a list and not inside others of them, without duplicates.
     static QList<DesignerObject *> outermost(const QList<DesignerObject *> &objects);
-    //! Objects of one list in the order of this list; the lists in the order of their first object.
+    //! Objects of one list in list order; the lists are ordered by their first object.
     static QList<DesignerObject *> inListOrder(const QList<DesignerObject *> &objects);
 };
 

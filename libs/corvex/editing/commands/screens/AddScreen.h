@@ -11,7 +11,7 @@ class Project;
 class CORVEX_EXPORT AddScreen : public ModelCommand
 {
 public:
-    //! \a index -1 is the end.
+    //! \a index -1 means the end.
     AddScreen(DesignerObject *screen, Project *project, qsizetype index, UndoCommand *parent = nullptr);
 };
 

@@ -6,13 +6,13 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Adds a screen and does what another command does to it, in one step.
+//! Adds a screen and applies another command to it, in one step.
 class CORVEX_EXPORT AddScreenAndElements : public AddScreen
 {
 public:
-    /*! Takes over \a elements, which must not have a parent. It is planned before the screen is in the
-       project. So call screen->setProject(project) before you make a command that brings images or variables.
-     */
+    //! Takes ownership of \a elements, which must not have a parent. The command is planned before the screen
+    //! is in the project, so call screen->setProject(project) before you create a command that brings images
+    //! or variables.
     AddScreenAndElements(DesignerObject *screen, Project *project, qsizetype index, UndoCommand *elements,
                          UndoCommand *parent = nullptr);
 

@@ -8,11 +8,11 @@ namespace Halvane::Corvex::Designer {
 
 class VariableImport;
 
-//! Takes over a table of variables, in one step of the history: values, and variables that are new.
+//! Imports a table of variables in one step of the history: values and new variables.
 class CORVEX_EXPORT ImportVariables : public ModelCommand
 {
 public:
-    //! Takes the additions of \a import, which was made for the project whose list \a variables is.
+    //! Takes the new variables of \a import, which was created for the project with the list \a variables.
     ImportVariables(const SharedProperty &variables, VariableImport &import);
 };
 
