@@ -31,7 +31,7 @@ bool isSingleName(const QString &name)
            && !name.contains(QChar::Null);
 }
 
-bool isThere(const QString &path)
+bool exists(const QString &path)
 {
     const QFileInfo info(path);
     // A broken link does not "exist" but still occupies the name.
@@ -101,7 +101,7 @@ bool FileObject::finish(const QString &error)
 bool FileObject::fileExists(const QString &path) const
 {
     const QString file = createFullFilePath(path, createSubPath(), createFileName());
-    return !file.isEmpty() && isThere(file);
+    return !file.isEmpty() && exists(file);
 }
 
 bool FileObject::createFile(const QString &path)
@@ -113,7 +113,7 @@ bool FileObject::createFile(const QString &path)
                           ? message(u"\"%1\" cannot be the name of a file."_s, getIdName())
                           : message(u"The folder \"%1\" does not exist."_s, path));
     }
-    if (isThere(file)) {
+    if (exists(file)) {
         return finish(message(u"The file \"%1\" exists already."_s, file));
     }
     const QDir parent(path);
@@ -218,7 +218,7 @@ bool FileObject::renameFile(const QString &oldName, const QString &newName)
     const QString folder = folderPath();
     for (const QString &target : {sub == m_subPath ? QString() : m_parentPath + u'/' + sub,
                                   file == m_fileName ? QString() : folder + u'/' + file}) {
-        if (!target.isEmpty() && isThere(target)) {
+        if (!target.isEmpty() && exists(target)) {
             return finish(message(u"The file \"%1\" exists already."_s, target));
         }
     }

@@ -22,9 +22,9 @@ qsizetype siblingsNamed(const DesignerObject *object, const QString &name)
 {
     const bool isElement = object->isKindOfClass(Element::kindName());
     if (isElement && object->screen()) {
-        const QList<DesignerObject *> bearers = object->screen()->elementIndex().named(name);
-        return std::count_if(bearers.begin(), bearers.end(),
-                             [object](const DesignerObject *bearer) { return bearer != object; });
+        const QList<DesignerObject *> namesakes = object->screen()->elementIndex().named(name);
+        return std::count_if(namesakes.begin(), namesakes.end(),
+                             [object](const DesignerObject *namesake) { return namesake != object; });
     }
     const SharedProperty list = object->listProperty();
     return list ? list->listItemCount(name) - (list->itemList()->bears(object, name) ? 1 : 0) : 0;

@@ -32,7 +32,7 @@ bool fail(QString *error, const QString &english, const QString &path)
     return false;
 }
 
-bool isThere(const QString &path)
+bool exists(const QString &path)
 {
     const QFileInfo info(path);
     return info.exists() || info.isSymLink();
@@ -46,7 +46,7 @@ FileTransaction::FileTransaction(std::unique_ptr<FileJournal> journal)
 
 FileTransaction::~FileTransaction()
 {
-    takeBack();
+    undo();
 }
 
 std::unique_ptr<FileTransaction> FileTransaction::begin(const QString &folder, QString *error)
@@ -66,7 +66,7 @@ bool FileTransaction::keep(const QString &name)
         return true;
     }
     const QString path = m_journal->pathOf(name);
-    if (!isThere(path)) {
+    if (!exists(path)) {
         return m_journal->addOld(name, {});
     }
     const QString copy = u"old-"_s + newKey();
@@ -150,7 +150,7 @@ QString FileTransaction::asidePath(const QString &key) const
 
 bool FileTransaction::remove(const QString &name)
 {
-    if (!isThere(m_journal->pathOf(name))) {
+    if (!exists(m_journal->pathOf(name))) {
         return true;
     }
     if (m_defersRemovals) {
@@ -215,7 +215,7 @@ bool FileTransaction::givePermissions(const QString &file) const
 {
     const QByteArray draft = QFile::encodeName(draftPath());
     struct stat old = {};
-    if (stat(QFile::encodeName(m_journal->pathOf(file)).constData(), &old) != 0 || !isThere(draftPath())) {
+    if (stat(QFile::encodeName(m_journal->pathOf(file)).constData(), &old) != 0 || !exists(draftPath())) {
         return true;
     }
     constexpr mode_t permissions = 07777;
@@ -233,17 +233,17 @@ bool FileTransaction::commit(const QString &file, QString *error)
            || fail(error, u"The file \"%1\" cannot be written: %2"_s, journal->pathOf(file));
 }
 
-void FileTransaction::takeBack()
+void FileTransaction::undo()
 {
     if (const std::unique_ptr<FileJournal> journal = std::move(m_journal)) {
         // If this fails, the journal remains and the next opening tries again.
-        FileRecovery(*journal).takeBack();
+        FileRecovery(*journal).undo();
     }
 }
 
 bool FileTransaction::isOpen(const QString &folder)
 {
-    return FileJournal::isThere(folder);
+    return FileJournal::exists(folder);
 }
 
 FileTransaction::Recovery FileTransaction::recover(const QString &folder)
@@ -256,7 +256,7 @@ FileTransaction::Recovery FileTransaction::recover(const QString &folder)
     FileRecovery recovery(journal);
     const bool isCommitted = journal.isCommitted();
     const bool hasBegun = !journal.oldFiles().isEmpty() || !journal.newFolderNames().isEmpty();
-    if (!(isCommitted ? recovery.finish() : recovery.takeBack())) {
+    if (!(isCommitted ? recovery.finish() : recovery.undo())) {
         return Recovery::Failed;
     }
     return isCommitted ? Recovery::Finished : hasBegun ? Recovery::TakenBack : Recovery::Nothing;

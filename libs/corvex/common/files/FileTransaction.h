@@ -60,7 +60,7 @@ public:
     bool commit(const QString &file, QString *error = nullptr);
     //! Whether it was committed or undone.
     bool isOver() const { return !m_journal; }
-    void takeBack();
+    void undo();
 
     enum class Recovery {
         Nothing,  //!< there was no transaction

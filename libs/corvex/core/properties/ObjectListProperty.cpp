@@ -150,15 +150,15 @@ qsizetype ObjectListProperty::placeAround(const DesignerObject &item, qsizetype 
     const auto isBefore = [this](const DesignerObject *other, const SortKey &own) {
         return isLess(keyOf(other, m_rule), own, m_rule);
     };
-    const auto isBehind = [this](const SortKey &own, const DesignerObject *other) {
+    const auto isAfter = [this](const SortKey &own, const DesignerObject *other) {
         return isLess(own, keyOf(other, m_rule), m_rule);
     };
     const QList<DesignerObject *> &list = itemList()->items();
     const auto first = list.cbegin();
     const auto before = first + end;
     const auto after = first + begin;
-    if (end > 0 && isBehind(key, *(before - 1))) {
-        return std::upper_bound(first, before, key, isBehind) - first;
+    if (end > 0 && isAfter(key, *(before - 1))) {
+        return std::upper_bound(first, before, key, isAfter) - first;
     }
     if (after != list.cend() && isBefore(*after, key)) {
         return end + (std::lower_bound(after, list.cend(), key, isBefore) - after);

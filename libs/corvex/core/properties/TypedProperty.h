@@ -151,7 +151,7 @@ private:
         Parsed &known = memory[((address >> 4) ^ (address >> 10)) % memory.size()];
         const bool isKnown = known.text.constData() == text.constData() && known.text.size() == text.size();
         if (ReadsBesideCurrent<Value> || text.isEmpty() || !isKnown) {
-            known.value = parseAnew(text);
+            known.value = parseUncached(text);
             // A text without a capacity refers to foreign memory, which may change. Long texts would waste
             // memory.
             constexpr qsizetype longest = 512;
@@ -160,7 +160,7 @@ private:
         return known.value;
     }
 
-    std::optional<Value> parseAnew(const QString &text) const
+    std::optional<Value> parseUncached(const QString &text) const
     {
         bool ok = false;
         if constexpr (ReadsBesideCurrent<Value>) {

@@ -63,11 +63,11 @@ bool ObjectXmlWriter::isComplete(const DesignerObject *object, bool allPropertie
     if (!object->hasOwnXmlDocument()) {
         return hasAllChildren(object, allProperties, missing);
     }
-    const bool isThere = !object->convertToXmlDocument(false, allProperties).isNull();
-    if (!isThere && missing) {
+    const bool hasForm = !object->convertToXmlDocument(false, allProperties).isNull();
+    if (!hasForm && missing) {
         *missing = object->objectPath();
     }
-    return isThere;
+    return hasForm;
 }
 
 bool ObjectXmlWriter::hasAllChildren(const DesignerObject *object, bool allProperties, QString *missing)

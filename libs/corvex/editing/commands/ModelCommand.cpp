@@ -42,7 +42,7 @@ struct ModelCommand::Plan
     std::vector<std::unique_ptr<EditStep>> steps;
     std::vector<std::unique_ptr<HeldObject>> unused;
     QList<ValueChange> changes;
-    std::optional<QList<ValueChange>> settled;
+    std::optional<QList<ValueChange>> placeChanges;
     QPointer<DesignerObject> activeItem;
     QList<QPointer<DesignerObject>> selectedWhenDone;
     QList<QPointer<DesignerObject>> selectedWhenUndone;
@@ -124,15 +124,15 @@ void ModelCommand::noteForGroups(const SharedProperty &property)
     }
 }
 
-void ModelCommand::settleGroups()
+void ModelCommand::placeGroups()
 {
     if (!m_edit || m_edit->lastInGroups != this) {
         return;
     }
-    if (!plan().settled) {
-        plan().settled = m_edit->places.settle();
+    if (!plan().placeChanges) {
+        plan().placeChanges = m_edit->places.settle();
     } else {
-        redoAll(*m_plan->settled);
+        redoAll(*m_plan->placeChanges);
     }
 }
 
@@ -322,7 +322,7 @@ bool ModelCommand::redoLeaf(QString &error)
         undoAll(m_plan->changes);
     }
     if (done) {
-        settleGroups();
+        placeGroups();
     }
     return done;
 }
@@ -336,8 +336,8 @@ void ModelCommand::undo()
         QUndoCommand::undo();
     } else if (isValid() && undoOwn() && m_plan) {
         undoAll(m_plan->changes);
-        if (m_plan->settled) {
-            undoAll(*m_plan->settled);
+        if (m_plan->placeChanges) {
+            undoAll(*m_plan->placeChanges);
         }
     }
     m_isDone = false;
@@ -381,7 +381,7 @@ QList<ValueChange> ModelCommand::valueChanges() const
         }
     }
     appendOwnChanges(changes);
-    return m_plan ? changes + m_plan->changes + m_plan->settled.value_or(QList<ValueChange>()) : changes;
+    return m_plan ? changes + m_plan->changes + m_plan->placeChanges.value_or(QList<ValueChange>()) : changes;
 }
 
 void ModelCommand::cleanJunkFiles()

@@ -102,7 +102,7 @@ private:
     static QString localized(const QString &english);
     std::shared_ptr<Edit> wholeEdit() const;
     void noteForGroups(const SharedProperty &property);
-    void settleGroups();
+    void placeGroups();
     QList<DesignerObject *> ownSelection() const;
     bool redoLeaf(QString &error);
 

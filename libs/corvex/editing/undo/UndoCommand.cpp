@@ -20,7 +20,7 @@ UndoCommand::UndoCommand(const SharedProperty &property, bool selected, UndoComm
 UndoCommand::~UndoCommand()
 {
     if (m_stack) {
-        m_stack->commandGone(this);
+        m_stack->commandDeleted(this);
     }
 }
 

@@ -197,7 +197,7 @@ void UndoStack::setIndex(int index)
         const QScopedValueRollback<bool> isMoving(m_isMoving, true);
         QUndoStack::setIndex(index);
     }
-    takeBackFailedMacro();
+    undoFailedMacro();
     while (m_hasFailed && canRedo()) {
         // QUndoStack deletes an obsolete command instead of doing it.
         QUndoStack::setIndex(this->index() + 1);
@@ -210,7 +210,7 @@ void UndoStack::setIndex(int index)
 }
 
 //! Handles a macro in which a command failed after Qt had done all the others.
-bool UndoStack::takeBackFailedMacro()
+bool UndoStack::undoFailedMacro()
 {
     QUndoCommand *macro = std::exchange(m_failedMacro, nullptr);
     if (!macro) {
@@ -240,7 +240,7 @@ void UndoStack::commandFailed(const UndoCommand *command)
     }
 }
 
-void UndoStack::commandGone(const UndoCommand *command)
+void UndoStack::commandDeleted(const UndoCommand *command)
 {
     if (m_lastPushed == command) {
         m_lastPushed = nullptr;
@@ -308,7 +308,7 @@ const UndoCommand *UndoStack::decidingCommand(int index) const
 void UndoStack::onIndexChanged(int index)
 {
     // Qt's actions, groups and views call the redo() of QUndoStack, which is not virtual.
-    if (!m_isMoving && takeBackFailedMacro()) {
+    if (!m_isMoving && undoFailedMacro()) {
         // Other receivers would get the newer index before this one.
         QMetaObject::invokeMethod(
             this, [this] { emit indexChanged(this->index()); }, Qt::QueuedConnection);

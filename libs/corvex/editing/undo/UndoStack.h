@@ -110,8 +110,8 @@ private:
     bool append(UndoCommand *command);
     void addCandidate(DesignerObject *candidate);
     void commandFailed(const UndoCommand *command);
-    bool takeBackFailedMacro();
-    void commandGone(const UndoCommand *command);
+    bool undoFailedMacro();
+    void commandDeleted(const UndoCommand *command);
     void onIndexChanged(int index);
     const UndoCommand *decidingCommand(int index) const;
 

@@ -106,8 +106,8 @@ bool EditScript::push(EditPlan &plan)
     QList<Change> changes;
     for (const auto &[property, before, after] : command->valueChanges()) {
         const DesignerObject *owner = property->parentObject();
-        const bool isThere = owner && owner->project();
-        changes.append({isThere ? pathOf(property) : paths.value(property.data()), before, after});
+        const bool isInModel = owner && owner->project();
+        changes.append({isInModel ? pathOf(property) : paths.value(property.data()), before, after});
     }
     std::ranges::stable_sort(changes, {}, &Change::property);
     m_edits.append({command->text(), partsOf(*command), changes});

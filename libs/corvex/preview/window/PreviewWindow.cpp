@@ -109,7 +109,7 @@ void PreviewWindow::makeToolBar()
     zoom->addItems({u"50 %"_s, u"75 %"_s, u"100 %"_s, u"150 %"_s, u"200 %"_s, u"300 %"_s});
     zoom->setCurrentText(u"100 %"_s);
     bar->addWidget(zoom);
-    QAction *reloading = bar->addAction(tr("Start anew"), this, &PreviewWindow::reload);
+    QAction *reloading = bar->addAction(tr("Restart"), this, &PreviewWindow::reload);
     reloading->setToolTip(tr("Switch the panel off and on again"));
     reloading->setShortcut(QKeySequence::Refresh);
     bar->addAction(tr("Clear problems"), this, [this] { m_session->panel().problems().clear(); });

@@ -46,7 +46,7 @@ QString FileJournal::digestOf(const QString &path)
     return target.isEmpty() ? FileHelper::md5(path) : u"link to %1"_s.arg(target);
 }
 
-bool FileJournal::isThere(const QString &folder)
+bool FileJournal::exists(const QString &folder)
 {
     const QFileInfo info(FileJournal(folder).privatePath());
     return info.isDir() && !info.isSymLink();

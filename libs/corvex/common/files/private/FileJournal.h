@@ -31,7 +31,7 @@ public:
     //! leads elsewhere while the file is out of sight. Empty without a file.
     static QString digestOf(const QString &path);
     //! Whether the folder has the journal of a running or interrupted transaction.
-    static bool isThere(const QString &folder);
+    static bool exists(const QString &folder);
     //! Starts a new journal, which is not committed.
     bool begin();
     //! Reads the journal. An incomplete last line is ignored, as its step did not happen. Lines that lead out

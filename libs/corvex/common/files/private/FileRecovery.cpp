@@ -18,7 +18,7 @@ namespace Halvane::Corvex::Common {
 
 namespace {
 
-bool isThere(const QString &path)
+bool exists(const QString &path)
 {
     const QFileInfo info(path);
     return info.exists() || info.isSymLink();
@@ -27,7 +27,7 @@ bool isThere(const QString &path)
 QString freePath(const QString &path)
 {
     int number = 1;
-    while (isThere(u"%1.tmp%2"_s.arg(path, QString::number(number)))) {
+    while (exists(u"%1.tmp%2"_s.arg(path, QString::number(number)))) {
         ++number;
     }
     return u"%1.tmp%2"_s.arg(path, QString::number(number));
@@ -73,7 +73,7 @@ bool FileRecovery::finish()
     return std::ranges::all_of(folders, FileSync::sync) && m_journal.remove();
 }
 
-bool FileRecovery::takeBack()
+bool FileRecovery::undo()
 {
     const QHash<QString, QString> &old = m_journal.oldFiles();
     QSet<QString> folders;
@@ -104,7 +104,7 @@ bool FileRecovery::restore(const QString &name, const QString &copy) const
 {
     const QString path = m_journal.pathOf(name);
     const QString kept = m_journal.privatePath(copy);
-    if (!isThere(kept)) {
+    if (!exists(kept)) {
         return true; // removing the journal removes the copy
     }
     const bool isForeign =

@@ -19,7 +19,7 @@ public:
 
     //! Returns false with errno on failure; the journal remains.
     bool finish();
-    bool takeBack();
+    bool undo();
 
 private:
     bool isOurs(const QString &name) const;

@@ -40,7 +40,7 @@ QString relinked(const QString &states, const QString &newName, const Screen *sc
 }
 
 //! A link without a class filter may refer to a variable, a screen or an element.
-bool isOtherThing(const Mention &mention, const DesignerObject *owner)
+bool meansOtherObject(const Mention &mention, const DesignerObject *owner)
 {
     const Project *project = owner->project();
     return (mention.kinds.testFlag(NamedKind::Variable) && project->variables()->hasListItem(mention.path))
@@ -142,7 +142,7 @@ bool ChangeProperty::notifyFileMissing() const
         return false;
     }
     for (const Mention &mention : ReferenceForm::mentions(*property(), m_after)) {
-        if (mention.kinds.testFlag(NamedKind::Image) && !isOtherThing(mention, owner())
+        if (mention.kinds.testFlag(NamedKind::Image) && !meansOtherObject(mention, owner())
             && !isFileThere(project, mention.path)) {
             qDebug().noquote() << u"%1: the file of the image \"%2\" is missing."_s.arg(owner()->objectPath(),
                                                                                         mention.path);

@@ -16,7 +16,7 @@ namespace {
 
 using Common::LocalizationHelper;
 
-bool isThere(const QString &path)
+bool exists(const QString &path)
 {
     const QFileInfo info(path);
     return info.exists() || info.isSymLink();
@@ -63,7 +63,7 @@ bool FileStep::isUsed(const QString &name) const
 void FileStep::removeUnused(const QString &name) const
 {
     QString error;
-    if (const QString path = pathOf(name); !path.isEmpty() && isThere(path) && !isUsed(name)) {
+    if (const QString path = pathOf(name); !path.isEmpty() && exists(path) && !isUsed(name)) {
         if (Common::FileTransaction *files = changes(error)) {
             files->remove(inFolder(name));
         }
@@ -127,7 +127,7 @@ bool PlaceFileStep::redo(QString &error)
 //! A file that was placed before replaces the source, which may no longer exist.
 bool PlaceFileStep::bringBack(Common::FileTransaction &files)
 {
-    if (m_key.isEmpty() || isThere(path()) || !files.bringBack(m_key, inFolder(name()))) {
+    if (m_key.isEmpty() || exists(path()) || !files.bringBack(m_key, inFolder(name()))) {
         return false;
     }
     m_key.clear();
@@ -140,7 +140,7 @@ bool PlaceFileStep::place(Common::FileTransaction &files, QString &error)
     if (!readSource(bytes, error)) {
         return false;
     }
-    if (isThere(path())) {
+    if (exists(path())) {
         const bool isSame = hasContents(path(), bytes);
         if (!isSame) {
             error = LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(path());
@@ -178,7 +178,7 @@ void LeaveFileStep::undo()
     m_isDone = false;
     QByteArray bytes;
     QString error;
-    if (!m_stored || isThere(path()) || !m_stored->read(&bytes, &error)) {
+    if (!m_stored || exists(path()) || !m_stored->read(&bytes, &error)) {
         return;
     }
     Common::FileTransaction *files = changes(error);
@@ -190,7 +190,7 @@ void LeaveFileStep::undo()
 
 bool LeaveFileStep::keepFiles(Common::FileStore &store, QString &error)
 {
-    if (!m_isDone || isUsed(name()) || !isThere(path())) {
+    if (!m_isDone || isUsed(name()) || !exists(path())) {
         return true;
     }
     m_stored = store.keep(path(), &error);
@@ -220,10 +220,10 @@ void PlaceFileStep::cleanJunkFiles()
 
 bool RenameFileStep::rename(const QString &from, const QString &to, QString &error)
 {
-    if (!isThere(pathOf(from)) && !isThere(pathOf(to))) {
+    if (!exists(pathOf(from)) && !exists(pathOf(to))) {
         return true; // somebody has deleted the file; the image has none under either name
     }
-    if (isThere(pathOf(to)) && from.compare(to, Qt::CaseInsensitive) != 0) {
+    if (exists(pathOf(to)) && from.compare(to, Qt::CaseInsensitive) != 0) {
         error = LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(pathOf(to));
         return false;
     }
@@ -259,7 +259,7 @@ bool ReplaceFileStep::exchange(QString &error)
         }
         m_stored.reset();
     }
-    const bool hasOld = isThere(path());
+    const bool hasOld = exists(path());
     const QString old = hasOld ? files->setAside(inFolder(name())) : QString();
     if (hasOld && old.isEmpty()) {
         return false;

@@ -20,7 +20,7 @@ using Common::LocalizationHelper;
 namespace {
 
 //! The object that already has the name that \a object cannot have; null if none is found.
-const DesignerObject *bearer(const DesignerObject &object, const QString &name)
+const DesignerObject *ownerOfName(const DesignerObject &object, const QString &name)
 {
     const Project *project = object.project();
     if (const DesignerObject *element = object.screen() ? object.screen()->getElement(name) : nullptr;
@@ -49,7 +49,7 @@ QString Explanation::ofName(const DesignerObject &object, const QString &name, c
     if (!kindCast<ImageResource>(&object) && name.size() < 2) {
         return LocalizationHelper::coreString(u"%1 Use at least 2 characters."_s).arg(reason);
     }
-    const DesignerObject *other = bearer(object, name);
+    const DesignerObject *other = ownerOfName(object, name);
     return other ? LocalizationHelper::coreString(u"%1 \"%2\" (%3) has this name."_s)
                        .arg(reason, other->objectPath(), other->className())
                  : reason;

@@ -295,11 +295,11 @@ QList<QStringList> ProjectComparison::memberKeys(const Loose &loose)
 }
 
 //! Removes the matched objects, and everything below them, from the loose ones.
-bool ProjectComparison::settle(const QSet<const DesignerObject *> &matched)
+bool ProjectComparison::removeMatched(const QSet<const DesignerObject *> &matched)
 {
-    const auto isSettled = [&matched](const Loose &loose) { return isWithin(loose.object, matched); };
-    m_gone.removeIf(isSettled);
-    m_new.removeIf(isSettled);
+    const auto isMatched = [&matched](const Loose &loose) { return isWithin(loose.object, matched); };
+    m_gone.removeIf(isMatched);
+    m_new.removeIf(isMatched);
     return !matched.isEmpty();
 }
 
@@ -327,7 +327,7 @@ bool ProjectComparison::matchMoved(Within within)
                 pathOf(*other->object->listProperty()));
         }
     }
-    settle(matched);
+    removeMatched(matched);
     for (const auto &[before, after] : std::as_const(pairs)) {
         compareObjects(*before, *after);
     }
@@ -361,7 +361,7 @@ bool ProjectComparison::matchRenamed()
             }
         }
     }
-    return settle(matched);
+    return removeMatched(matched);
 }
 
 //! Matches screens and groups that were both renamed and changed, if most of their contents are equal.
@@ -386,7 +386,7 @@ bool ProjectComparison::matchAlike()
             add(ProjectDiff::Renamed, *gone.object, gone.object->getIdName(), other->getIdName());
         }
     }
-    settle(matched);
+    removeMatched(matched);
     for (const auto &[before, after] : std::as_const(pairs)) {
         compareObjects(*before, *after);
     }

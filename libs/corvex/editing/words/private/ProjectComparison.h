@@ -46,7 +46,7 @@ private:
     bool matchRenamed();
     bool matchAlike();
     static QList<QStringList> memberKeys(const Loose &loose);
-    bool settle(const QSet<const DesignerObject *> &matched);
+    bool removeMatched(const QSet<const DesignerObject *> &matched);
     void add(ProjectDiff::Kind kind, const DesignerObject &object, const QString &before = {},
              const QString &after = {});
 
