@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The jobs of ProjectDocument, and what it takes to run beside them.
+// The jobs of ProjectDocument, and the rules for edits while they run.
 #include "corvex/checks/ProjectProblems.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerFactory.h"
@@ -20,18 +20,18 @@ namespace {
 using Common::LocalizationHelper;
 using Common::Progress;
 
-//! An edit that a person types may take long; a script does not.
+//! Long enough for a person who types edits; a script needs far less.
 constexpr int longestWait = 30'000; // milliseconds
 constexpr int pauseOfWaiting = 100; // milliseconds
 
-//! Null, with an error, without a factory.
+//! Null, with an error, if there is no factory.
 std::unique_ptr<Project> newProject(QString &error)
 {
     const DesignerFactory *factory = DesignerFactory::instance();
     std::unique_ptr<Project> project(
         factory ? static_cast<Project *>(factory->createUnowned(Project::kindName())) : nullptr);
     if (!project) {
-        error = LocalizationHelper::coreString(u"No project can be made."_s);
+        error = LocalizationHelper::coreString(u"Cannot create a project."_s);
     }
     return project;
 }
@@ -39,7 +39,7 @@ std::unique_ptr<Project> newProject(QString &error)
 bool lock(Project &project, const QString &path, ProjectDocument::Access access, Progress &progress)
 {
     using Kind = Common::FolderLock::Kind;
-    progress.begin(LocalizationHelper::coreString(u"Waiting for others that work on %1"_s)
+    progress.begin(LocalizationHelper::coreString(u"Waiting for another program that uses %1"_s)
                        .arg(QFileInfo(path).fileName()));
     bool isLocked = false;
     for (int waited = 0; !isLocked && !progress.isCancelled() && waited < longestWait;
@@ -50,7 +50,7 @@ bool lock(Project &project, const QString &path, ProjectDocument::Access access,
     return isLocked;
 }
 
-//! In the thread that has the project so far.
+//! Call it in the thread that owns the project so far.
 void handOver(Project &project, QThread *thread)
 {
     project.moveToThread(thread);
@@ -84,18 +84,18 @@ std::unique_ptr<ProjectDocument::LoadJob> ProjectDocument::load(const QString &p
     return job;
 }
 
-//! Whether a project can be read from the file. A failure leaves a project half read, so this one is read
-//! first.
+//! Whether a project can be read from the file. Reads it into a second project, because a failure would leave
+//! the present one incomplete.
 bool ProjectDocument::canLoad(const QString &path)
 {
     QString error;
     const std::unique_ptr<Project> trial = newProject(error);
-    // The override would end an edit that the folder waits for.
+    // The override would complete an edit that waits in the folder.
     const bool isRead = trial && trial->FileObject::loadFile(path);
     return result(isRead, trial ? trial->fileError() : error);
 }
 
-//! Whether the project may be changed, which ends what an edit ends.
+//! Whether the project may be changed. Cancels the jobs that an edit cancels.
 bool ProjectDocument::isFree(QString &reason)
 {
     m_readers.removeIf([](const Reader &reader) { return !reader.job || !reader.job->isRunning(); });
@@ -113,7 +113,7 @@ bool ProjectDocument::isFree(QString &reason)
     return true;
 }
 
-//! A gesture is not interrupted to look at what it has done so far.
+//! Refuses to read the project during a gesture.
 bool ProjectDocument::mayRead()
 {
     return result(
@@ -149,7 +149,7 @@ std::unique_ptr<ProjectDocument::BuildJob> ProjectDocument::build()
     job->startInThread([generator = m_project->newRuntimeGenerator(), project = m_project.get()](
                            Progress &progress, QString &error) mutable -> std::optional<BuildFolder> {
         generator.setProgress(&progress);
-        // What else lies beside the images is the user's own and not for the device.
+        // Other files next to the images are the user's own and do not go to the device.
         generator.setResourceNames(project->imageResources()->listItemNames());
         if (!generator.generate(project)) {
             error = generator.errorString();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What ProjectDocument does about the autosave file that a crash has left.
+// How ProjectDocument handles the autosave file after a crash.
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/files/FileTransaction.h"
 #include "corvex/common/files/TemporaryFolder.h"
@@ -76,7 +76,7 @@ bool ProjectDocument::recover()
         m_project->loadFile(path);
         return result(false, error);
     }
-    m_project->setFileFields(parent, sub, file); // the images look at their files again
+    m_project->setFileFields(parent, sub, file); // the images check their files again
     m_history->setUnsaved();
     m_isComplete = true;
     setRecovery(false);
@@ -85,8 +85,7 @@ bool ProjectDocument::recover()
     return result(true, {});
 }
 
-//! Brings the images of the archive into the folder of the project, until the next save as a change that can
-//! be taken back.
+//! Adds the images from the archive to the project's folder. The change can be undone until the next save.
 bool ProjectDocument::takeRecoveredImages(const QString &folder)
 {
     const QDir images(QDir(folder).filePath(QFileInfo(m_project->imagesPath()).fileName()));

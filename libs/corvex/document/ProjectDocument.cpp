@@ -39,7 +39,7 @@ ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *pare
     m_history->setGate([this](QString &reason) { return isFree(reason); });
     connect(m_history.get(), &ProjectHistory::changed, this, &ProjectDocument::onHistoryChanged);
     connect(m_history.get(), &ProjectHistory::moved, this, [this](const UndoCommand *command) {
-        // A command does not change when it is asked what to select.
+        // selectedItems() does not change the command.
         if (const auto items = const_cast<UndoCommand *>(command)->selectedItems(); !items.isEmpty()) {
             select(items);
         }
@@ -48,7 +48,7 @@ ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *pare
     connect(&m_project->autosave(), &ProjectAutosave::finished, this, [this](const QString &error) {
         m_ownsAutosave = m_ownsAutosave || error.isEmpty();
         if (!isModified()) {
-            removeAutosave(); // the project was saved meanwhile
+            removeAutosave(); // the project has been saved meanwhile
         }
     });
     m_watch->watch(m_project->fullFilePath());
@@ -67,10 +67,10 @@ ProjectDocument::~ProjectDocument()
     }
     m_history.reset();
     ProjectAutosave &autosave = m_project->autosave();
-    autosave.disconnect(this); // It finishes while the project is destroyed.
+    autosave.disconnect(this); // The run ends while the project is being destroyed.
     const bool ownsAutosave = m_ownsAutosave || autosave.isRunning();
     const QString archive = m_project->autosavePath();
-    m_project.reset(); // waits for a run of the autosave
+    m_project.reset(); // waits for a running autosave
     if (ownsAutosave) {
         QFile::remove(archive);
     }
@@ -135,7 +135,7 @@ void ProjectDocument::updateModified()
 
 void ProjectDocument::onHistoryChanged()
 {
-    // Another name of the project moves its folder.
+    // Renaming the project moves its folder.
     if (m_watch->path() != m_project->fullFilePath()) {
         m_watch->watch(m_project->fullFilePath());
     }
@@ -143,26 +143,26 @@ void ProjectDocument::onHistoryChanged()
     updateModified();
 }
 
-//! Whether a save replaces nothing that the user does not know of.
+//! Whether a save would only replace contents that the user knows.
 bool ProjectDocument::canOverwrite()
 {
     const QString file = QDir::toNativeSeparators(m_project->fullFilePath());
     if (m_watch->isChanged()) {
         const QString text =
             QFileInfo::exists(file)
-                ? u"\"%1\" has been written by another program since it was opened. Open it again, or save "
+                ? u"Another program changed \"%1\" after it was opened. Open it again, or save "
                   "over it."_s
-                : u"\"%1\" has been deleted by another program. Save over it to write it again."_s;
+                : u"Another program deleted \"%1\". Save over it to write it again."_s;
         return result(false, LocalizationHelper::coreString(text).arg(file));
     }
     return result(m_isComplete,
                   LocalizationHelper::coreString(
-                      u"\"%1\" holds parts that this version does not know and would lose. Save "
+                      u"\"%1\" contains parts that this version does not know and would lose. Save "
                       "over it if nobody needs them."_s)
                       .arg(file));
 }
 
-//! Project::saveFile() only replaces a file.
+//! Project::saveFile() only replaces an existing file.
 bool ProjectDocument::writeMissingFile()
 {
     const QString file = m_project->fullFilePath();
@@ -241,7 +241,7 @@ void ProjectDocument::select(const QList<DesignerObject *> &objects)
     }
 }
 
-//! What an edit has taken out of the project is not selected any more.
+//! Removes objects from the selection that an edit has removed from the project.
 void ProjectDocument::dropFromSelection()
 {
     select(selection());

@@ -15,26 +15,28 @@ class DesignerObject;
 class FileWatch;
 class Project;
 
-/*! A project that a user works on, with all that belongs to the work and not to the project: the history
-   across saves, the selection, a watch on the file, and what a crash has left.
+/*! A project that a user is editing, with the state of the editing session: the history across saves, the
+    selection, a watch on the file, and the recovery after a crash.
 
-    Operations that can fail are false then, with nothing changed, and errorString() tells the user why. */
+    On failure operations return false and change nothing, and errorString() gives the reason for the user.
+*/
 class CORVEX_EXPORT ProjectDocument : public QObject
 {
     Q_OBJECT
 
 public:
     enum class Access {
-        Shared, //!< other programs may write the project; changedByOthers() tells
-        Alone   //!< other programs can neither read nor write it while it is open
+        Shared, //!< other programs may write the project; changedByOthers() reports it
+        Alone   //!< other programs can neither read nor write the project while it is open
     };
     using LoadJob = Common::ResultJob<std::unique_ptr<Project>>;
-    //! Starts to load a project in a thread of its own, for the constructor. It waits while others write.
+    //! Starts loading a project, for the constructor, in a thread of its own. Waits while other programs
+    //! write it.
     static std::unique_ptr<LoadJob> load(const QString &path, Access access = Access::Shared);
 
-    //! For a project that has a file.
+    //! The project must have a file.
     explicit ProjectDocument(std::unique_ptr<Project> project, QObject *parent = nullptr);
-    //! Discards edits that were not saved, and the autosave file that this document has written or recovered.
+    //! Discards unsaved edits, and the autosave file that this document has written or recovered.
     ~ProjectDocument() override;
 
     Project &project() const { return *m_project; }
@@ -42,63 +44,67 @@ public:
     const QString &errorString() const { return m_error; }
 
     // Edits.
-    //! Takes over the command and does it.
+    //! Takes ownership of the command and does it.
     bool push(UndoCommand *command);
     bool undo();
     bool redo();
-    /*! What is pushed from here on becomes one step of the history with commitGesture(): all that a user does
-       with a slider, the wheel, or an arrow key held down. Refused while another gesture goes on. */
+    //! Commands pushed from here on become one step of the history with commitGesture(), for example
+    //! everything that a user does with a slider, the wheel, or an arrow key held down. Refused during
+    //! another gesture.
     bool beginGesture(const QString &text);
-    //! A gesture that changed nothing leaves no step.
+    //! A gesture without changes adds no step.
     bool commitGesture();
-    //! Project and history are as they were before the gesture.
+    //! Restores project and history to the start of the gesture.
     bool rollBackGesture();
 
     // The file.
     bool isModified() const;
     enum class Overwrite {
-        Never, //!< a file that others have written, and parts of it that this version does not know
-        Always //!< a file that was deleted is written again
+        Never, //!< refuses if others have changed the file, or if it has parts that this version does not
+               //!< know
+        Always //!< also writes a deleted file again
     };
     bool save(Overwrite overwrite = Overwrite::Never);
-    //! Reads the file again and discards edits and their history. A file that cannot be read changes nothing.
+    //! Reads the file again and discards all edits and their history. If the file cannot be read, nothing
+    //! changes.
     bool reload();
 
-    // What a crash has left: an autosave file. It may be older than the project's file, as version control
-    // writes files, too. There is no autosave until the user has decided; a save does not decide.
+    // The autosave file after a crash. It may be older than the project's file, for example because version
+    // control wrote that. There is no autosave until the user has decided; a save does not count as a
+    // decision.
     bool hasRecovery() const { return m_hasRecovery; }
-    //! When the autosave file was written, for the question to the user.
+    //! The time of the autosave file, for the question to the user.
     QDateTime recoveryTime() const;
-    //! Takes over what the autosave file holds. The project is modified then, and its own file as it was.
+    //! Loads the contents of the autosave file. The project is modified then; its own file is not changed.
     bool recover();
     //! Deletes the autosave file.
     bool discardRecovery();
-    //! What the opening had to end that a program did not end itself, as a sentence; mostly empty.
+    //! What opening the project had to complete or undo after an interruption, as a sentence; usually empty.
     QString recoveryNote() const;
 
-    // The selection: objects of the project, each once, the active one first.
+    // The selected objects of the project, without duplicates, the active one first.
     QList<DesignerObject *> selection() const;
     void select(const QList<DesignerObject *> &objects);
 
-    // Jobs that read the project in other threads. They do not start during a gesture: then the result is
+    // Jobs that read the project in other threads. During a gesture they are not started, and the result is
     // null.
     using CheckJob = Common::ResultJob<QList<Problem>>;
-    //! Looks for problems. An edit cancels it.
+    //! Searches for problems. An edit cancels the job.
     std::unique_ptr<CheckJob> check(const ConfigurationContainer &models);
     //! The folder of a build, which is deleted with the last copy of the pointer.
     using BuildFolder = std::shared_ptr<const QString>;
     using BuildJob = Common::ResultJob<BuildFolder>;
-    //! Builds the project. Edits are refused until it is finished or cancelled.
+    //! Builds the project. Edits are refused until the job has finished or was cancelled.
     std::unique_ptr<BuildJob> build();
 
 signals:
     void modifiedChanged(bool isModified);
     void selectionChanged();
-    //! Another program has written or deleted the file. Once for each change.
+    //! Another program has written or deleted the file. Emitted once for each change.
     void changedByOthers();
 
 private:
-    //! What happens to a job that reads the project when somebody wants to change it.
+    //! What happens when the user edits the project while a job reads it.
     enum class OnEdit { CancelJob, RefuseEdit };
     bool isFree(QString &reason);
     bool mayRead();
@@ -126,9 +132,9 @@ private:
     QList<QPointer<DesignerObject>> m_selection;
     QString m_error;
     bool m_hasRecovery = false;
-    bool m_ownsAutosave = false; //!< the autosave file is that of this document
+    bool m_ownsAutosave = false; //!< the autosave file belongs to this document
     bool m_wasModified = false;
-    bool m_isComplete = true; //!< nothing that the file holds is lost by a save
+    bool m_isComplete = true; //!< a save loses nothing from the file
 };
 
 } // namespace Halvane::Corvex::Designer

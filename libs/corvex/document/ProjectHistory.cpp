@@ -17,7 +17,7 @@ namespace {
 
 using Common::LocalizationHelper;
 
-//! Of a macro, any of its commands.
+//! For a macro, whether any of its commands does.
 bool touchesFiles(const QUndoCommand *command)
 {
     if (const auto *own = dynamic_cast<const UndoCommand *>(command)) {
@@ -173,14 +173,14 @@ bool ProjectHistory::refuse(const QString &reason)
     return false;
 }
 
-//! Whether the command can be undone or redone now.
+//! Returns whether the command can be undone or redone now.
 bool ProjectHistory::prepare(const QUndoCommand *command)
 {
     m_error.clear();
     if (!current().stack->isOpen()) {
         return refuse(stack().errorString());
     }
-    // A save has let others into the folder of the project since.
+    // Since a save, other programs have had access to the project's folder.
     return !touchesFiles(command) || m_project.beginFileChanges(&m_error);
 }
 
@@ -224,7 +224,7 @@ bool ProjectHistory::redo()
         current().stack->redo();
         isDone = stack().index() > before;
         if (!isDone) {
-            // The stack has dropped it; what follows was built upon it.
+            // The stack has dropped it, so later steps are invalid.
             m_error = stack().errorString();
             dropLaterParts();
         }
@@ -262,7 +262,7 @@ void ProjectHistory::followStack()
     connect(stack, &UndoStack::moved, this, &ProjectHistory::moved);
 }
 
-//! Where the saved state is reached, its history is the one of the project, whose index 0 says so.
+//! At the saved state, switches to the history in which index 0 means saved.
 void ProjectHistory::settle()
 {
     const auto saved =
@@ -273,7 +273,7 @@ void ProjectHistory::settle()
     }
 }
 
-//! Somebody has moved the stack itself, maybe from one part of it into another.
+//! Other code has moved the stack itself, possibly from one part into another.
 void ProjectHistory::onIndexChanged()
 {
     if (m_isMoving) {
@@ -293,7 +293,7 @@ void ProjectHistory::onIndexChanged()
     emit changed();
 }
 
-//! Nothing leads to them any more.
+//! These parts can no longer be reached.
 void ProjectHistory::dropLaterParts()
 {
     std::deque<Part> later;

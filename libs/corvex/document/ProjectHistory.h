@@ -14,14 +14,15 @@ namespace Halvane::Corvex::Designer {
 class Project;
 class UndoCommand;
 
-/*! All that was done to a project since it was opened, across its saves.
+/*! The history of all edits since a project was opened, across saves.
 
-    A save begins a new UndoStack, whose index 0 is saved. This class keeps the stacks of before and puts them
-    back when somebody undoes further, so that a user who saves loses nothing: undo goes on before the save,
-   which makes the project modified, and redo comes back, to what was saved and on to what came after it.
+    A save begins a new UndoStack, in which index 0 means saved. This class keeps the earlier stacks and
+    restores them when the user undoes further, so that a save loses nothing: undo continues before the save,
+    which makes the project modified, and redo returns to the saved state and the edits after it.
 
-    Every step has a place in one row; position() tells how many of them are done. The project's own
-   undoStack() is the part of the row around the position. Commands are pushed onto that one. */
+    All steps form one sequence, and position() is the number of steps done. The project's own undoStack() is
+    the part of the sequence around the position. Push commands onto that one.
+*/
 class CORVEX_EXPORT ProjectHistory
     : public QObject
     , private HistoryKeeper
@@ -29,8 +30,7 @@ class CORVEX_EXPORT ProjectHistory
     Q_OBJECT
 
 public:
-    /*! Steps beyond the one history before the last save are forgotten, oldest history first, when there are
-       more than this. */
+    //! If there are more steps before the last save, the oldest ones are discarded.
     static constexpr int mostEarlierSteps = 10'000;
 
     explicit ProjectHistory(Project &project, QObject *parent = nullptr);
@@ -38,50 +38,51 @@ public:
 
     int count() const;
     int position() const;
-    //! The position that is in the project's file; -1 when no undo and no redo leads there.
+    //! The position of the project's file; -1 if undo and redo cannot reach it.
     int savedPosition() const;
 
     bool canUndo() const;
     bool canRedo() const;
-    //! What would be undone or redone, for the user; empty when there is nothing.
+    //! The text of the next step to undo or redo, for the user; empty if there is none.
     QString undoText() const;
     QString redoText() const;
 
-    // False, with nothing changed, when there is nothing to do or it cannot be done; errorString() tells why.
+    // These return false and change nothing if there is nothing to do or a command fails; errorString() gives
+    // the reason.
     bool undo();
     bool redo();
-    //! Undoes or redoes until it gets there. After a failure the position is where it got to.
+    //! Undoes or redoes up to the position. After a failure the position is somewhere on the way.
     bool goTo(int position);
     const QString &errorString() const { return m_error; }
 
-    //! In place of mostEarlierSteps, for those who have less memory.
+    //! Replaces mostEarlierSteps, for programs with less memory.
     void setMostEarlierSteps(int steps) { m_mostEarlierSteps = steps; }
-    //! No position is what the file of the project holds: the project comes from somewhere else.
+    //! No position corresponds to the project's file, because the project has another origin.
     void setUnsaved();
-    // What goes into one step, see UndoStack. Nothing can be undone or redone meanwhile.
+    // Combines edits into one step, see UndoStack. Meanwhile undo and redo are refused.
     bool beginGesture(const QString &text);
     bool commitGesture();
     bool rollBackGesture();
-    //! Asked before each change, see UndoStack; whichever stack it is made through.
+    //! Called before each change on any of the stacks, see UndoStack.
     void setGate(UndoStack::Gate gate);
 
 signals:
-    //! The position, a text, or what can be undone or redone.
+    //! The position, a text, or the availability of undo or redo has changed.
     void changed();
     //! A command was done, undone or redone.
     void moved(const Halvane::Corvex::Designer::UndoCommand *command);
-    //! A save could not keep the files that an undo would need, and so forgot what came before it.
+    //! A save could not keep the files that an undo needs, so the earlier history was discarded.
     void forgotten(const QString &reason);
 
 private:
     using Stack = std::shared_ptr<UndoStack>;
-    /*! The steps of \a stack from one index to another. A save in the middle of a stack cuts it into two
-       parts; the history that begins there comes between them. */
+    //! The steps of \a stack between two indexes. A save in the middle of a stack divides it into two parts;
+    //! the history that begins with the save comes between them.
     struct Part
     {
         Stack stack;
         int from = 0;
-        int to = -1; //!< -1 is the end of the stack
+        int to = -1; //!< -1 means the end of the stack
 
         int end() const;
         int size() const { return end() - from; }
@@ -94,7 +95,7 @@ private:
     Part &current() { return m_parts[m_current]; }
     const Part &current() const { return m_parts[m_current]; }
     const UndoStack &stack() const { return *current().stack; }
-    //! What would be undone, or redone; null without one.
+    //! The command to undo, or to redo; null if there is none.
     const QUndoCommand *commandBefore() const;
     const QUndoCommand *commandAfter() const;
     bool refuse(const QString &reason);
@@ -110,13 +111,13 @@ private:
     Project &m_project;
     std::deque<Part> m_parts; //!< at least one
     size_t m_current = 0;
-    Stack m_saved; //!< whose start is saved; null when it was dropped
+    Stack m_saved; //!< its start is the saved state; null if it was dropped
     Common::FileStore m_files;
     QString m_error;
     int m_mostEarlierSteps = mostEarlierSteps;
     UndoStack::Gate m_gate;
     bool m_isMoving = false;
-    bool m_keepsFiles = true; //!< the last try to keep files went well
+    bool m_keepsFiles = true; //!< the last attempt to keep files succeeded
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -25,7 +25,7 @@ void FileWatch::watch(const QString &path)
         m_watcher.removePaths(before);
     }
     m_path = path;
-    // The watcher loses a file that is replaced. Its folder reports the new one.
+    // The watcher loses a file that is replaced, but the folder reports the new one.
     if (!path.isEmpty()) {
         m_watcher.addPaths({path, QFileInfo(path).path()});
     }

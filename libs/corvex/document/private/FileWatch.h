@@ -8,8 +8,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Notices that another program has written, replaced or deleted a file. It compares what the file holds, in
-   a thread of its own, so that neither times nor our own writing matter. */
+//! Notices when another program writes, replaces or deletes a file. Compares the contents, in a thread of its
+//! own, so that timestamps and our own writing do not matter.
 class FileWatch : public QObject
 {
     Q_OBJECT
@@ -17,23 +17,23 @@ class FileWatch : public QObject
 public:
     explicit FileWatch(QObject *parent = nullptr);
 
-    //! Watches the file there, which may be another name of the one that it knows.
+    //! Watches the file with that path, which may be a new name of the present file.
     void watch(const QString &path);
     const QString &path() const { return m_path; }
-    //! What the file holds now is known.
+    //! Accepts the present contents as known.
     void accept();
-    //! Whether it holds something else by now; reads all of it.
+    //! Whether the contents have changed since; reads the whole file.
     bool isChanged() const { return !(Common::FileStamp::of(m_path) == m_known); }
 
 signals:
-    //! Once for each change.
+    //! Emitted once for each change.
     void changed();
 
 private:
     void look();
 
     QFileSystemWatcher m_watcher;
-    QTimer m_pause; //!< a program that writes a file may tell in several steps
+    QTimer m_pause; //!< combines several notifications of one write
     std::unique_ptr<Common::ResultJob<Common::FileStamp>> m_look;
     QString m_path;
     Common::FileStamp m_known;
