@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The headers that nearly every source of the tree includes; kept few, so that a change costs little.
+// The headers that nearly every source file includes. The list is short, so that a change rebuilds little.
 #pragma once
 
 #include <QByteArray>

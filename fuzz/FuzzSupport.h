@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the targets share: input as text, promises, round trips.
+// Shared by the targets: input as text, assertions, round trips.
 #pragma once
 
 #include <QString>
@@ -10,7 +10,7 @@
 
 namespace Fuzz {
 
-//! What the library has to say about hostile input would fill the log.
+//! Silences the library's messages about hostile input, which would fill the log.
 inline const QtMessageHandler quiet =
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &message) {
         if (type == QtFatalMsg)
@@ -22,14 +22,14 @@ inline QString toText(const std::uint8_t *data, std::size_t size)
     return QString::fromUtf8(reinterpret_cast<const char *>(data), qsizetype(size));
 }
 
-//! Ends the program, for libFuzzer a finding, when a promise is not kept.
+//! Ends the program, which libFuzzer reports, if a condition is false.
 inline void require(bool kept, const char *promise, const QString &about = {})
 {
     if (!kept)
         qFatal("%s: %s", promise, qUtf8Printable(about));
 }
 
-//! A text that is read and written reads back, and is then written as the same text.
+//! A text that can be read and is written again must read back, and then be written as the same text.
 template<class Read, class Write>
 void checkText(const char *kind, const QString &text, Read read, Write write)
 {
@@ -40,7 +40,7 @@ void checkText(const char *kind, const QString &text, Read read, Write write)
     const QString first = write(value);
     const auto again = read(first, &ok);
     require(ok, kind, QStringLiteral("what was written cannot be read: ") + first);
-    require(write(again) == first, kind, QStringLiteral("written anew it is another text: ") + first);
+    require(write(again) == first, kind, QStringLiteral("the second output differs: ") + first);
 }
 
 //! The same for a record or list with a constructor from text and toString().
@@ -52,7 +52,7 @@ void checkText(const char *kind, const QString &text)
         [](const Record &record) { return record.toString(); });
 }
 
-//! Whatever a record holds, its text gives the same record again.
+//! The text of any record must give the same record again.
 template<class Record>
 void checkRecord(const char *kind, const Record &record)
 {

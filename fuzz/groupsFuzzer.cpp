@@ -14,7 +14,7 @@ using Group = QMap<QString, QString>;
 
 namespace {
 
-//! The group form read step by step, as it is defined, with a list for each step.
+//! Reads the group form step by step according to its definition, with a list for each step.
 std::optional<Group> readSlowly(const QString &text)
 {
     const QStringList parts = text.trimmed().split(u';', Qt::SkipEmptyParts);
@@ -44,7 +44,7 @@ std::optional<Group> readSlowly(const QString &text)
 
 } // namespace
 
-//! Groups are read as they are defined, and read back unless one of them holds a free text.
+//! Groups must be read according to their definition, and read back unless they contain a free text.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QString text = Fuzz::toText(data, size);

@@ -14,7 +14,7 @@ using namespace Halvane::Corvex::Designer;
 
 namespace {
 
-//! Hands out the pieces of the input, round and round.
+//! Returns the pieces of the input in turn, repeatedly.
 class Pieces
 {
 public:
@@ -52,7 +52,7 @@ UpdateObjectInfo update(Pieces &pieces)
     return info;
 }
 
-//! Lists of any texts at all read back.
+//! Lists of any texts must read back.
 void checkBuilt(const QString &text)
 {
     Pieces pieces(text);
@@ -86,7 +86,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         "update of an object", text,
         [](const QString &form, bool *ok) {
             const UpdateObjectInfo update(form, ok);
-            // Fields that are empty are left out, and an update without any has no text that reads back.
+            // Empty fields are omitted, and the text of an update without any fields cannot be read back.
             *ok = *ok && update != UpdateObjectInfo();
             return update;
         },
@@ -96,7 +96,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         "property changes", text,
         [](const QString &form, bool *ok) {
             const PropertyList changes(form, ok);
-            // Changes without names are left out, and a list of none has no text that reads back.
+            // Changes without names are omitted, and the text of an empty list cannot be read back.
             *ok = *ok && !changes.isEmpty();
             return changes;
         },

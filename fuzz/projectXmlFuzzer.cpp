@@ -64,7 +64,7 @@ void checkQml(const DesignerObject *object)
 
 } // namespace
 
-//! Whatever can be read is written, can be read again, and is then written as the same bytes.
+//! Everything that can be read must be written, read again, and then be written as the same bytes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     static const bool started = (start(), true);

@@ -26,7 +26,7 @@ using Halvane::Corvex::Common::TextHelper;
 
 namespace {
 
-//! An identifier without a name is written as a text that names nothing.
+//! The text of an identifier without a name contains no name.
 void checkIdentifier(const QString &text)
 {
     const IdentifierInfo identifier(text, nullptr);
@@ -34,7 +34,7 @@ void checkIdentifier(const QString &text)
         Fuzz::checkRecord("identifier", identifier);
 }
 
-//! Tables that are read from expressions are written as expressions that give the same table.
+//! Tables read from expressions must be written as expressions that give the same table.
 template<class Table>
 void checkTable(const char *kind, const QString &text, Table table)
 {
@@ -48,7 +48,7 @@ void checkTable(const char *kind, const QString &text, Table table)
     Fuzz::require(table.toTerms().toString() == first, kind, first);
 }
 
-//! Sorting with an order that contradicts itself may do anything.
+//! Sorting with an inconsistent order is undefined behaviour.
 void checkOrder(bool (*isLess)(QStringView, QStringView), const QString &text)
 {
     const QStringList names = text.split(u'~').first(std::min<qsizetype>(text.count(u'~') + 1, 3));
@@ -77,7 +77,7 @@ void checkEncodings(const QString &text)
 
 } // namespace
 
-//! Every record keeps its text.
+//! Every record must keep its text.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QString text = Fuzz::toText(data, size);

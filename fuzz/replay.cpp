@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Stands in for libFuzzer in ordinary builds: gives a target every file of a folder, whole and cut off.
+// Replaces libFuzzer in ordinary builds: passes every file of a folder to a target, complete and truncated.
 #include <QDirIterator>
 #include <QFile>
 
@@ -15,7 +15,7 @@ int runs = 0;
 
 void run(const QByteArray &input)
 {
-    // A copy of exactly this size, so that AddressSanitizer sees a read beyond its end.
+    // A copy of exactly this size, so that AddressSanitizer detects a read beyond its end.
     const std::vector<std::uint8_t> bytes(input.cbegin(), input.cend());
     LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
     ++runs;

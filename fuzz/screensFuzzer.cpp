@@ -32,7 +32,7 @@ void start()
     Fuzz::require(DesignerFactory::instance()->canCreateObject(QStringLiteral("Text")), "the elements");
 }
 
-//! Fills a screen with elements that have the pieces of the input for names and values.
+//! Fills a screen with elements whose names and values are pieces of the input.
 class Author
 {
 public:
@@ -74,7 +74,7 @@ private:
         return static_cast<Object *>(object);
     }
 
-    //! A second item of a name is refused.
+    //! The list refuses a second item with the same name.
     static void add(DesignerObject &owner, const SharedProperty &list, DesignerObject *item)
     {
         if (!owner.addListPropertyItem(list, item)) {
@@ -110,7 +110,8 @@ private:
 
 } // namespace
 
-//! Whatever the names and values are, they call nothing, and the document of a good project is one.
+//! Whatever the names and values, the code must not call anything, and the document of a valid project must
+//! parse.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     static const bool started = (start(), true);

@@ -29,13 +29,13 @@ QJSEngine &scriptEngine()
     return engine;
 }
 
-//! The leading throw keeps the code from running; an error can only come from reading it.
+//! The leading throw keeps the code from running, so an error can only come from parsing it.
 bool canBeRead(const QString &code)
 {
     return !scriptEngine().evaluate(u"throw null;\n"_s + code).isError();
 }
 
-//! Operators and functions are parts of code; constants of the other kinds of data stand for no code.
+//! Operators and functions are only parts of code; constants of the other data types have no code.
 bool isOperand(const Info &term)
 {
     const bool isLiteral = term.dataType() >= Info::BooleanData && term.dataType() <= Info::ColorData;
@@ -55,7 +55,7 @@ void checkCode(const Info &term)
     Fuzz::require(kind.toVariant() == Info(term).toVariant(), "a kind adds no data", term.toString());
 }
 
-//! Every assignment is a statement.
+//! Every assignment must be a statement.
 void checkAssignments(const QString &text)
 {
     const GeneralDataList list(text);
@@ -65,7 +65,7 @@ void checkAssignments(const QString &text)
     }
 }
 
-//! Hands out what terms can be made of.
+//! Returns parts for terms.
 class Author
 {
 public:
@@ -126,7 +126,7 @@ private:
     std::size_t m_size;
 };
 
-//! Constants whose characters stand in code as they are.
+//! Constants whose characters appear in code unchanged.
 bool isBare(const Info &term)
 {
     return term.valueType() == Info::CommandValue
@@ -134,8 +134,8 @@ bool isBare(const Info &term)
                && (term.dataType() == Info::HexData || term.dataType() == Info::ReferenceData));
 }
 
-//! Terms of all types and their expressions: types that do not go together give no code, and code is of known
-//! words alone.
+//! Terms of all types and their expressions: types that do not fit together give no code, and code only
+//! contains known words.
 void checkBuilt(const std::uint8_t *data, std::size_t size)
 {
     Author author(data, size);
@@ -164,7 +164,7 @@ void checkBuilt(const std::uint8_t *data, std::size_t size)
 
 } // namespace
 
-//! A term keeps its text, and the code of an operand is an expression.
+//! A term must keep its text, and the code of an operand must be an expression.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QString text = Fuzz::toText(data, size);

@@ -10,7 +10,7 @@ using Convert = ValueConversion;
 
 namespace {
 
-//! A number comes back as near as three decimals allow.
+//! A number must read back as precisely as three decimals allow.
 void checkReal(const QString &text)
 {
     bool ok = false;
@@ -28,7 +28,7 @@ void checkReal(const QString &text)
 
 } // namespace
 
-//! Every kind of value keeps its text.
+//! Every type of value must keep its text.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QString text = Fuzz::toText(data, size);

@@ -32,7 +32,7 @@ QByteArray tableOf(const Project &project)
     return VariableExport::write(project).files.constFirst().bytes;
 }
 
-//! False when the table has problems; all of it is taken over otherwise.
+//! Returns false if the table has problems; otherwise imports all of it.
 bool import(const QByteArray &table, Project &project)
 {
     VariableImport plan(table, project);
@@ -53,8 +53,7 @@ bool import(const QByteArray &table, Project &project)
 
 } // namespace
 
-//! A table that is taken over can be undone, and is exported as it was taken; the device gets it without
-//! fault.
+//! An imported table can be undone, is exported unchanged, and gives a valid configuration for the device.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const std::unique_ptr<Project> project = makeProject();

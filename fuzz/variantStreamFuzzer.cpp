@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/VariantStream.h"
 
-//! What can be read can be written, and reads back as the same bytes.
+//! Everything that can be read must be written and read back as the same bytes.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     using namespace Halvane::Corvex::Common;
@@ -15,6 +15,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         && (!VariantStream::write(value, first)
             || !VariantStream::write(VariantStream::read(first, mostBytes * 16, ok), second)
             || first != second))
-        qFatal("a value does not come back");
+        qFatal("a value does not read back");
     return 0;
 }

@@ -8,13 +8,13 @@
 
 using namespace Halvane::Corvex::Designer;
 
-//! What the tokenizer takes, another reader takes, too, and finds the same tags and texts in it.
+//! Everything that the tokenizer accepts must be accepted by another reader, with the same tags and texts.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     QByteArray xml(reinterpret_cast<const char *>(data), qsizetype(size));
     QBuffer buffer(&xml);
     const QByteArray found = XmlTexts::readByTokenizer(buffer);
-    // The other reader knows the names of an older edition, and colons as parts of them.
+    // The other reader implements the names of an older edition, with colons as separators.
     const bool hasPlainNames = std::all_of(
         xml.begin(), xml.end(), [](char c) { return static_cast<signed char>(c) > 0 && c != ':'; });
     if (!found.startsWith('!') && hasPlainNames)

@@ -15,7 +15,7 @@ namespace {
 
 constexpr QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
-//! What was unpacked is files and folders, and each entry is one of them.
+//! The unpacked contents must be files and folders that correspond to the entries.
 void checkUnpacked(const QString &folder, const QStringList &names)
 {
     QDirIterator entries(folder, everything, QDirIterator::Subdirectories);
@@ -26,12 +26,12 @@ void checkUnpacked(const QString &folder, const QStringList &names)
         files += entry.isFile() ? 1 : 0;
     }
     const auto isFile = [](const QString &name) { return !name.endsWith(u'/'); };
-    Fuzz::require(files == std::count_if(names.begin(), names.end(), isFile), "not all was unpacked");
+    Fuzz::require(files == std::count_if(names.begin(), names.end(), isFile), "not everything was unpacked");
 }
 
 } // namespace
 
-//! Nothing gets out of the folder that an archive is unpacked into.
+//! Nothing may leave the folder into which an archive is unpacked.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QTemporaryDir home;

@@ -10,7 +10,7 @@ using namespace PanelStyle;
 
 namespace {
 
-//! A lamp for each alarm, which is lit as long as the alarm is there.
+//! A lamp for each alarm, which is lit while the alarm is active.
 void drawTable(PanelScreen &screen)
 {
     constexpr struct
@@ -41,7 +41,7 @@ void PumpStationScreens::drawAlarms(PanelScreen &screen)
         .bind("textBinding", "trim(lastEvent)");
     screen.pushButton("acknowledge", {32, 384, 240, 64}, "Acknowledge", accent,
                       "acknowledged = true; lastEvent = 'Acknowledged'; eventText.color = #FF22303C");
-    // What came stays red until somebody has seen it.
+    // A new alarm stays red until somebody acknowledges it.
     screen.action("showHighLevel", {{"eventText", "text", u"Wet well level too high"_s},
                                     {"eventText", "color", PanelScreen::colorText(alarm)}});
     screen.function("PropertyTrigger", "highLevelCame")

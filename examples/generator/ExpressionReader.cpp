@@ -31,7 +31,7 @@ qsizetype countWhile(QStringView text, Predicate belongs)
     return std::find_if_not(text.begin(), text.end(), belongs) - text.begin();
 }
 
-//! All operators, longer ones before those that they begin with.
+//! All operators, longer ones before their own prefixes.
 const QStringList &operators()
 {
     static const QStringList sorted = [] {
@@ -102,7 +102,7 @@ Info ExpressionReader::readName()
 {
     const QString name = take(countWhile(m_rest, belongsToName)).toString();
     if (hasNext(m_rest, u'(')) {
-        // The parenthesis belongs to the term; a function without arguments has both of them in it.
+        // The term includes the parenthesis, or both parentheses of a function without arguments.
         take(m_rest.indexOf(u'(') + 1);
         if (hasNext(m_rest, u')') && name == "random"_L1) {
             take(m_rest.indexOf(u')') + 1);
@@ -123,7 +123,7 @@ Info ExpressionReader::readName()
         m_problems.append(u"There is no variable \"%1\"."_s.arg(name));
         return {};
     }
-    // A log takes numbers, and is a log only to the functions that look into it.
+    // A log accepts numbers; only the functions that read logs treat it as a log.
     const bool isTarget = hasNext(m_rest, u'=') && !m_rest.trimmed().startsWith("=="_L1);
     return {Info::VariableValue, *type == Info::LogData && isTarget ? Info::NumberData : *type, name};
 }
@@ -138,7 +138,7 @@ Info ExpressionReader::readOperator()
     }
     const QStringView other = take(1);
     if (other != u"=" && other != u";") {
-        m_problems.append(u"\"%1\" is no operator."_s.arg(other));
+        m_problems.append(u"\"%1\" is not an operator."_s.arg(other));
     }
     return {};
 }

@@ -8,23 +8,23 @@
 
 namespace Halvane::Corvex::Examples {
 
-/*! Reads expressions as people write them: "max(0, wellLevel - 5)", "autoMode && wellLevel > 80",
+/*! Reads expressions in ordinary notation: "max(0, wellLevel - 5)", "autoMode && wellLevel > 80",
     "concat(flow, ' m3/h')", "pumpRunning = true; flow = 0".
 
-    A name is a variable, a name with a dot a property of an element, a name before "(" a function. Constants
-   are numbers, texts in single quotes, true and false, colours #AARRGGBB and the values of mathematics (PI).
-   "=" and ";" only part the targets and sources of assignments.
+    A name is a variable, a name with a dot is a property of an element, and a name before "(" is a function.
+    Constants are numbers, texts in single quotes, true and false, colours #AARRGGBB and mathematical
+    constants (PI). "=" and ";" separate the targets and sources of assignments.
 */
 class ExpressionReader
 {
 public:
     using DataType = Designer::GeneralDataInfo::DataType;
 
-    /*! Makes a name known: that of a variable, or "element.property" where the name of the property alone
-       does not tell what it holds. */
+    //! Declares the type of a variable, or of "element.property" if the name of the property alone does not
+    //! define it.
     void declare(const QString &name, DataType type) { m_types.insert(name, type); }
 
-    //! What cannot be read is left out and told by problems().
+    //! Skips what it cannot read; problems() lists it.
     Designer::GeneralDataList read(QStringView text);
     const QStringList &problems() const { return m_problems; }
 
@@ -40,7 +40,7 @@ private:
     QHash<QString, DataType> m_types;
     QStringList m_problems;
     QStringView m_rest;
-    bool m_afterOperand = false; //!< decides whether "-" is an operator or a sign
+    bool m_afterOperand = false; //!< determines whether "-" is an operator or a sign
 };
 
 } // namespace Halvane::Corvex::Examples

@@ -10,7 +10,7 @@ using namespace PanelStyle;
 
 namespace {
 
-//! The well as a bar of segments, each of which means that the water has come to the next mark.
+//! The well as a bar of segments. Each segment means that the water has reached the next mark.
 void drawWell(PanelScreen &screen)
 {
     constexpr struct
@@ -43,13 +43,13 @@ void drawWell(PanelScreen &screen)
         .bind("textBinding", "concat('Well ', subString(wellLevel, 0, 4), ' %')");
 }
 
-//! What is said of each pump with its number put in for "#".
+//! The text for a pump, with its number for "#".
 QByteArray numbered(const char *text, int number)
 {
     return QByteArray(text).replace("#", QByteArray::number(number));
 }
 
-//! A touch on the picture switches the pump by hand.
+//! Touching the picture switches the pump manually.
 void drawPump(PanelScreen &screen, int number, int top, bool isRunning)
 {
     const auto of = [number](const char *text) { return numbered(text, number); };
@@ -70,7 +70,7 @@ void drawPump(PanelScreen &screen, int number, int top, bool isRunning)
 void drawDischarge(PanelScreen &screen)
 {
     screen.image("gauge", {568, 96, 176, 176}, "gauge.png");
-    // The needle turns about its lower end, 240 degrees for 10 bar.
+    // The needle rotates about its lower end, 240 degrees for 10 bar.
     screen.rectangle("needle", {654, 116, 4, 68}, plain(alarm, 2))
         .set("transformOrigin", u"Bottom"_s)
         .bind("rotationBinding", "max(-120, min(120, pressure * 24 - 120))");
@@ -80,7 +80,7 @@ void drawDischarge(PanelScreen &screen)
         .bind("textBinding", "concat('Flow ', subString(flow, 0, 5), ' m\u00b3/h')");
 }
 
-//! The channels of the device. Inputs speak only while they deliver something: 0 is a broken wire.
+//! The channels of the device. Inputs only count while they deliver a signal: 0 is a broken wire.
 void addChannels(PanelScreen &screen)
 {
     screen.channel("AnalogInput", "levelInput", 1);

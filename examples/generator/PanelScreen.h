@@ -11,7 +11,7 @@
 
 namespace Halvane::Corvex::Examples {
 
-//! An element of a screen that is being drawn: sets its properties in a chain.
+//! An element of a screen under construction. Its properties are set in a chain of calls.
 class ElementHandle
 {
 public:
@@ -22,7 +22,7 @@ public:
 
     const ElementHandle &set(const char *propertyId, const QString &value) const;
     const ElementHandle &link(const char *propertyId, const char *target) const;
-    //! \a expression as ExpressionReader reads it, in UTF-8.
+    //! \a expression is in the form of ExpressionReader, in UTF-8.
     const ElementHandle &bind(const char *propertyId, const char *expression) const;
 
 private:
@@ -30,15 +30,15 @@ private:
     Designer::DesignerObject *m_element;
 };
 
-//! Draws one screen of the panel. Rectangles are in pixels of the screen, or of the group that is open.
+//! Draws one screen of the panel. Rectangles are in pixels of the screen, or of the open group.
 class PanelScreen
 {
 public:
     using TextStyle = PanelStyle::TextStyle;
     using Face = PanelStyle::Face;
-    //! What has to hold, and the assignments that are made then.
+    //! A condition, and the assignments that follow from it.
     using Rule = std::pair<const char *, const char *>;
-    //! A property of an element and the value that it gets.
+    //! A property of an element and its new value.
     struct Change
     {
         const char *element;
@@ -54,14 +54,14 @@ public:
     void openGroup(const char *name, const QPoint &position);
     void closeGroup();
 
-    //! A face with a caption that makes assignments when it is pressed; the face is called "nameFace".
+    //! A face with a caption that executes assignments when it is pressed. The face has the name "nameFace".
     void pushButton(const char *name, const QRect &place, const char *caption, QRgb color,
                     const char *assignments);
     ElementHandle function(const char *className, const char *name);
     ElementHandle channel(const char *className, const char *name, int number);
     void logic(const char *name, std::initializer_list<Rule> rules);
     void action(const char *name, std::initializer_list<Change> changes);
-    //! The text of a state: what the elements look like in it.
+    //! The text of a state: the look of elements in it.
     static QString state(std::initializer_list<Change> changes);
     void filter(const char *name, std::initializer_list<const char *> elements);
 
@@ -73,7 +73,7 @@ private:
 
     ProjectBuilder &m_builder;
     Designer::Screen *m_screen;
-    QList<Designer::DesignerObject *> m_owners; //!< the screen and the groups that are open, innermost last
+    QList<Designer::DesignerObject *> m_owners; //!< the screen and the open groups, innermost last
 };
 
 } // namespace Halvane::Corvex::Examples

@@ -3,7 +3,8 @@
 
 #include <QRgb>
 
-//! How the screens of the pump station look: quiet greys, with strong colours for what needs attention.
+//! The look of the pump station's screens: quiet greys, with strong colours for anything that needs
+//! attention.
 namespace Halvane::Corvex::Examples::PanelStyle {
 
 inline constexpr int panelWidth = 800;

@@ -19,7 +19,7 @@ namespace {
 
 using Info = GeneralDataInfo;
 
-//! What the variables of each class are in expressions.
+//! The types of the variables of each class in expressions.
 constexpr struct
 {
     const char *className;
@@ -30,7 +30,7 @@ constexpr struct
     {"StringVariable", Info::StringData},
 };
 
-//! The kinds of expression that properties hold; those of all others are boolean.
+//! The kinds of expressions in properties; all others are boolean.
 constexpr struct
 {
     const char *className; //!< null for all classes
@@ -91,8 +91,8 @@ void ProjectBuilder::add(DesignerObject *owner, const char *listId, DesignerObje
 {
     const SharedProperty list = owner->getProperty(QString::fromLatin1(listId));
     if (!owner->addListPropertyItem(list, item)) {
-        report(u"%1 does not take \"%2\": %3"_s.arg(pathOf(*owner, listId), item->getIdName(),
-                                                    list->errorString()));
+        report(u"%1 does not accept \"%2\": %3"_s.arg(pathOf(*owner, listId), item->getIdName(),
+                                                      list->errorString()));
     }
 }
 
@@ -163,9 +163,9 @@ void ProjectBuilder::set(DesignerObject *object, const char *propertyId, const Q
         report(u"There is no property %1."_s.arg(pathOf(*object, propertyId)));
         return;
     }
-    // A text that cannot be read leaves the property as it is.
+    // An invalid text does not change the property.
     if (!object->changePropertyValue(property, value) || property->valueString() != value) {
-        report(u"%1 does not take \"%2\"."_s.arg(pathOf(*object, propertyId), value));
+        report(u"%1 does not accept \"%2\"."_s.arg(pathOf(*object, propertyId), value));
     }
 }
 
@@ -186,7 +186,7 @@ QString ProjectBuilder::expression(GeneralDataList::InfoType kind, QStringView t
 {
     const GeneralDataList terms = m_reader.read(text);
     if (terms.toQmlString(Info::RawOutput, kind).isEmpty()) {
-        report(u"No code comes of \"%1\"."_s.arg(text));
+        report(u"\"%1\" gives no code."_s.arg(text));
     }
     return terms.toString();
 }

@@ -13,8 +13,8 @@ class Screen;
 
 namespace Halvane::Corvex::Examples {
 
-/*! Builds a project through the library, object by object, as a designer would by hand. It goes on after a
-    failure and keeps what went wrong. Objects that it returns belong to the project. */
+//! Builds a project with the library, object by object, like a designer. After a failure it continues and
+//! records the problem. The project owns the returned objects.
 class ProjectBuilder
 {
 public:
@@ -24,9 +24,9 @@ public:
     Designer::Project &project() const { return *m_project; }
     std::unique_ptr<Designer::Project> takeProject();
 
-    //! Targets the installed device model of that name.
+    //! Sets the installed device model with that name.
     void setModel(const QString &model);
-    //! A file of the project's folder "Images".
+    //! A file in the project's folder "Images".
     void addImage(const QString &fileName);
     Designer::DesignerObject *addVariable(const QString &className, const QString &name,
                                           const QString &value = {});
@@ -34,21 +34,21 @@ public:
     //! \a owner is a screen or a group.
     Designer::DesignerObject *addElement(Designer::DesignerObject *owner, const QString &className,
                                          const QString &name);
-    //! A group fit for its members, which are added to it afterwards and closed in by closeGroup().
+    //! Fits a group to its members. Add the members first.
     void closeGroup(Designer::DesignerObject *group);
     Designer::DesignerObject *addFilter(Designer::Screen *screen, const QString &name,
                                         const QStringList &elementNames);
 
     //! Sets a property to a text in its canonical form.
     void set(Designer::DesignerObject *object, const char *propertyId, const QString &value);
-    //! Links a property to what bears that name where the property's links lead.
+    //! Links a property to the object with that name in the scope of the link.
     void link(Designer::DesignerObject *object, const char *propertyId, const QString &name);
-    /*! Sets a property that holds an expression, as ExpressionReader reads it. What kind of expression it is
-       follows from the property. */
+    //! Sets a property with an expression in the form of ExpressionReader. The property determines the kind
+    //! of the expression.
     void bind(Designer::DesignerObject *object, const char *propertyId, QStringView expression);
-    //! The text form of an expression of that kind; a problem when no code comes of it.
+    //! The text form of an expression of that kind. Records a problem if it gives no code.
     QString expression(Designer::GeneralDataList::InfoType kind, QStringView text);
-    //! Makes "element.property" known to expressions, where the name alone does not tell what it holds.
+    //! Declares the type of "element.property" for expressions, if the name alone does not define it.
     void declare(const QString &name, ExpressionReader::DataType type) { m_reader.declare(name, type); }
 
     QStringList problems() const { return m_problems + m_reader.problems(); }

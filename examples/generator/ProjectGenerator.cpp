@@ -26,7 +26,7 @@ QString imageName(int number)
     return u"symbol%1.png"_s.arg(number + 1);
 }
 
-//! Makes the variables and offers their names to expressions.
+//! Creates the variables and offers their names to expressions.
 class VariableGenerator
 {
 public:
@@ -48,7 +48,7 @@ private:
     {
         int share; //!< per cent
         const char *className;
-        char names; //!< under which its names are offered, 0 for none
+        char names; //!< the kind for which its names are offered; 0 for none
         QString (*value)(Random &random);
     };
 
@@ -144,12 +144,12 @@ std::optional<ProjectSize> ProjectSize::named(const QString &name)
 QString ProjectSize::problem() const
 {
     if (screens < 1) {
-        return u"A project has at least one screen."_s;
+        return u"A project needs at least one screen."_s;
     }
     if (variables < fewestVariables) {
-        return u"There are at least %1 variables, one of each kind."_s.arg(fewestVariables);
+        return u"A project needs at least %1 variables, one of each kind."_s.arg(fewestVariables);
     }
-    return elements < screens ? u"Each screen has at least one element."_s : QString();
+    return elements < screens ? u"Each screen needs at least one element."_s : QString();
 }
 
 ProjectGenerator::ProjectGenerator(const QString &name, ProjectSize size, quint64 seed)
@@ -178,7 +178,7 @@ std::unique_ptr<Project> ProjectGenerator::generate()
     }
     ScreenGenerator generator(builder, random, expressions, screens, images);
     for (int i = 0; i < m_size.screens; ++i) {
-        // What does not divide evenly goes to the first screens.
+        // The first screens get the remainder.
         generator.fill(screens.at(i),
                        m_size.elements / m_size.screens + (i < m_size.elements % m_size.screens));
     }

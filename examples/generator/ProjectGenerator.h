@@ -13,7 +13,7 @@ class Project;
 
 namespace Halvane::Corvex::Examples {
 
-//! How large a generated project is. Elements are all that stand on the screens, members of groups included.
+//! The size of a generated project. Elements include the members of groups.
 struct ProjectSize
 {
     //! One variable of each class that expressions and elements refer to.
@@ -23,25 +23,25 @@ struct ProjectSize
     int variables = 0;
     int elements = 0;
 
-    //! The sizes that benchmarks speak of: "S", "M" and "L".
+    //! The sizes for benchmarks: "S", "M" and "L".
     static std::optional<ProjectSize> named(const QString &name);
-    //! What is wrong with the counts; empty when they can be met.
+    //! What is wrong with the counts; empty if they are possible.
     QString problem() const;
 };
 
-/*! A valid project of any size: all classes of variables and elements in the shares that one finds in real
-    projects, with groups, links and expressions of all kinds. The same size, seed and name give the same
-    project. It has no file; writeImages() gives its images theirs. */
+//! A valid project of any size: all classes of variables and elements in realistic proportions, with groups,
+//! links and expressions of all kinds. The same size, seed and name give the same project. It has no file;
+//! writeImages() writes the files of its images.
 class ProjectGenerator
 {
 public:
     ProjectGenerator(const QString &name, ProjectSize size, quint64 seed);
 
     std::unique_ptr<Designer::Project> generate();
-    //! What could not be done; nothing, unless the generator itself is at fault.
+    //! Failed operations; always empty unless the generator has an error.
     const QStringList &problems() const { return m_problems; }
 
-    //! Writes the pictures that the project shows into an existing folder.
+    //! Writes the images of the project into an existing folder.
     static bool writeImages(const QString &folder);
 
 private:

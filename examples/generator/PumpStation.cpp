@@ -43,7 +43,7 @@ constexpr struct
     {"BooleanVariable", "pump2Fault", "false"},
     {"ColorVariable", "pump1Color", "#FF2E8B57"},
     {"ColorVariable", "pump2Color", "#FF8A97A3"},
-    // How the station is run.
+    // The operation of the station.
     {"BooleanVariable", "autoMode", "true", true},
     {"BooleanVariable", "remoteControl", "false", true},
     {"StringVariable", "stationName", "Pump Station North", true},
@@ -158,7 +158,7 @@ void PumpStation::addSavedSettings()
 
 void PumpStation::drawScreens()
 {
-    // Screens come before their contents, since their frames lead from one to the other.
+    // Create all screens before their contents, because their frames link to each other.
     QList<Screen *> made;
     for (const auto &screen : screens) {
         made.append(m_builder.addScreen(utf8(screen.name)));

@@ -5,18 +5,18 @@
 
 namespace Halvane::Corvex::Examples {
 
-/*! The example project PumpStation: the panel of a small pumping station with a wet well, two pumps and a
-    pressure main. It has no file; writeImages() gives its images theirs. */
+//! The example project PumpStation: the panel of a small pumping station with a wet well, two pumps and a
+//! pressure main. It has no file; writeImages() writes the files of its images.
 class PumpStation
 {
 public:
     PumpStation();
 
     std::unique_ptr<Designer::Project> build();
-    //! What could not be done; nothing, unless the drawing itself is at fault.
+    //! Failed operations; always empty unless this class has an error.
     QStringList problems() const { return m_builder.problems(); }
 
-    //! Draws the pictures that the project shows into an existing folder.
+    //! Draws the images of the project into an existing folder.
     static bool writeImages(const QString &folder);
 
 private:

@@ -10,7 +10,7 @@ using namespace PanelStyle;
 
 namespace {
 
-//! The rules that have to hold whatever is shown: those of a screen rest while another one is there.
+//! Rules that must run on every screen, because the rules of a screen only run while it is shown.
 void addStationRules(PanelScreen &screen)
 {
     screen.logic("stationRules",
@@ -30,7 +30,7 @@ void addStationRules(PanelScreen &screen)
                  });
 }
 
-//! The name of the station, and the way to the other screens.
+//! The name of the station, and the links to the other screens.
 void drawHome(PanelScreen &screen)
 {
     constexpr const char *others[] = {"Trends", "Alarms", "Settings"};
@@ -53,7 +53,7 @@ void drawHome(PanelScreen &screen)
     }
 }
 
-//! The whole bar is the way back: on a small panel a finger needs room.
+//! The whole bar returns to the overview, because a finger needs space on a small panel.
 void drawWayBack(PanelScreen &screen, const char *name)
 {
     const QByteArray title = QByteArray("\u2039  ").append(name);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The pictures of the pump station, each in the size in which it is shown.
+// The images of the pump station, each in its displayed size.
 #include "PanelStyle.h"
 #include "PumpStation.h"
 
@@ -33,7 +33,7 @@ void drawPump(QPainter &painter, const QRectF &area)
 {
     painter.setPen(QPen(opaque(faint), 3));
     painter.setBrush(opaque(cardBorder));
-    // The foot, the pressure pipe, the casing and the triangle that tells which way it pumps.
+    // The foot, the pressure pipe, the casing and the triangle that shows the pumping direction.
     painter.drawPolygon(QPolygonF{QPointF(30, 72), QPointF(66, 72), QPointF(78, 92), QPointF(18, 92)});
     painter.drawRect(QRectF(51, 9, 40, 21));
     painter.drawEllipse(area.center() - QPointF(0, 3), 36, 36);
@@ -41,7 +41,7 @@ void drawPump(QPainter &painter, const QRectF &area)
     painter.drawPolygon(QPolygonF{QPointF(33, 24), QPointF(78, 45), QPointF(33, 66)});
 }
 
-//! A dial from 0 to 10 bar over 240 degrees, the zero at the lower left.
+//! A dial from 0 to 10 bar over 240 degrees, with zero at the lower left.
 void drawGauge(QPainter &painter, const QRectF &area)
 {
     constexpr int bars = 10;
@@ -59,7 +59,7 @@ void drawGauge(QPainter &painter, const QRectF &area)
     } zones[] = {{0, 6, running}, {6, 8, warning}, {8, 10, alarm}};
     for (const auto &[from, to, color] : zones) {
         painter.setPen(QPen(opaque(color), 6, Qt::SolidLine, Qt::FlatCap));
-        // Arcs are counted counter-clockwise from three o'clock, in sixteenths of a degree.
+        // Arcs are measured counter-clockwise from three o'clock, in sixteenths of a degree.
         painter.drawArc(QRectF(-78, -78, 156, 156), int((90 - start - from * degreesPerBar) * 16),
                         int((from - to) * degreesPerBar * 16));
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the pump station says on its CAN bus and to the building's network.
+// The data of the pump station on its CAN bus and for the building's network.
 #include "corvex/variables/BACnetPropertyList.h"
 #include "corvex/variables/CanParameterMap.h"
 
@@ -22,7 +22,7 @@ struct Group
     QList<CanParameter> parameters;
 };
 
-//! The drive of the pumps speaks as an engine does.
+//! The drive of the pumps uses the messages of an engine.
 const Group groups[] = {
     {u"driveSpeed",
      61444,

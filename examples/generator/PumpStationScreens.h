@@ -5,7 +5,7 @@ namespace Halvane::Corvex::Examples {
 
 class PanelScreen;
 
-//! The contents of the pump station's screens, below the bar at their top.
+//! The contents of the pump station's screens, below the bar at the top.
 namespace PumpStationScreens {
 
 void drawOverview(PanelScreen &screen);
@@ -13,8 +13,8 @@ void drawTrends(PanelScreen &screen);
 void drawAlarms(PanelScreen &screen);
 void drawSettings(PanelScreen &screen);
 
-/*! What all screens have: the bar with the title and the way to the other screens, and the rules by which the
-    station runs. */
+//! The parts of all screens: the bar with the title and the links to other screens, and the rules that run
+//! the station.
 void drawFrame(PanelScreen &screen, const char *name);
 
 } // namespace PumpStationScreens

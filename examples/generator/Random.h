@@ -7,7 +7,7 @@
 
 namespace Halvane::Corvex::Examples {
 
-//! Numbers that depend on the seed alone: the same on every system and with every library.
+//! Random numbers that only depend on the seed: the same on every system and with every library.
 class Random
 {
 public:

@@ -9,7 +9,7 @@ namespace Halvane::Corvex::Examples {
 
 namespace {
 
-// "$" and the kind of a name stand for one of these names, "$k" for a number, "$C" for a colour.
+// "$" and a kind are replaced by a name of that kind, "$k" by a number, "$C" by a colour.
 constexpr QLatin1StringView general[] = {"$c"_L1, "$r.color"_L1, "$C"_L1};
 constexpr QLatin1StringView assignments[] = {
     "$n = $k"_L1,

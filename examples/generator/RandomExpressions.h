@@ -10,7 +10,7 @@
 
 namespace Halvane::Corvex::Examples {
 
-//! Expressions over the variables of a project and the elements of a screen, as ExpressionReader reads them.
+//! Expressions with the variables of a project and the elements of a screen, in the form of ExpressionReader.
 class RandomExpressions
 {
 public:
@@ -20,15 +20,15 @@ public:
         : m_random(random)
     { }
 
-    /*! Offers a name as one of: 'n' number, 'b' boolean, 's' string, 'c' colour, 'l' log, 'm' address map,
-       'e' visual element, 'r' visual element with a colour, 'a' action. */
+    //! Offers a name of a kind: 'n' number, 'b' boolean, 's' string, 'c' colour, 'l' log, 'm' address map,
+    //! 'e' visual element, 'r' visual element with a colour, 'a' action.
     void offer(char kind, const QString &name) { m_names[kind].append(name); }
-    //! Takes back all names of a kind.
+    //! Removes all names of a kind.
     void withdraw(char kind) { m_names.remove(kind); }
     const QStringList &names(char kind) { return m_names[kind]; }
     const QString &oneOf(char kind) { return m_random.oneOf(names(kind)); }
 
-    //! One expression of the kind; there is a name of every kind that its patterns use.
+    //! An expression of the kind. There must be a name for every kind in its patterns.
     QString make(Kind kind);
 
 private:

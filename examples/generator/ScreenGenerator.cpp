@@ -89,8 +89,7 @@ void ScreenGenerator::fill(Screen *screen, int count)
     m_screen = screen;
     m_channels.clear();
     m_placed = 0;
-    // Elements are known on their own screen only: 'e' all visual ones, 'r' those with a
-    // colour, 'a' actions.
+    // Elements are only known on their own screen: 'e' all visual ones, 'r' those with a colour, 'a' actions.
     for (const char kind : {'e', 'r', 'a'}) {
         m_expressions.withdraw(kind);
     }
@@ -160,7 +159,7 @@ int ScreenGenerator::addGroup(DesignerObject *owner, int room, int depth)
     int made = 1;
     int members = 0;
     while (made < count || members < 2) {
-        // A group in the group leaves room for a second member.
+        // A nested group must leave space for a second member.
         made += addVisual(group, members == 0 ? room - made - 1 : room - made, depth + 1);
         ++members;
     }
@@ -180,7 +179,7 @@ void ScreenGenerator::addOneOf(const QList<Share> &shares)
     (this->*share.fill)(addElement(m_screen, className));
 }
 
-//! How many elements of a class one screen can have, so that each has a channel of the model.
+//! The maximum number of elements of a class on one screen, so that each has a channel of the model.
 qsizetype ScreenGenerator::channelCount(const QString &className) const
 {
     if (const DeviceChannels *channels = DeviceChannels::of(className)) {

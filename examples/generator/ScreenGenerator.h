@@ -14,16 +14,16 @@ namespace Halvane::Corvex::Examples {
 
 class ProjectBuilder;
 
-/*! Fills screens: some sixty per cent visual elements, part of them in groups, then what works with them
-    (buttons, logic, actions) and the channels of the device. */
+//! Fills screens: about sixty per cent visual elements, some in groups, then elements that use them (buttons,
+//! logic, actions) and the channels of the device.
 class ScreenGenerator
 {
 public:
-    //! All are referred to and outlive the generator. Images are the names of the project's image resources.
+    //! All references must outlive the generator. Images are the names of the project's image resources.
     ScreenGenerator(ProjectBuilder &builder, Random &random, RandomExpressions &expressions,
                     const QList<Designer::Screen *> &screens, const QStringList &images);
 
-    //! Puts \a count elements, at least one, on a screen that has none.
+    //! Puts \a count elements, at least one, on an empty screen.
     void fill(Designer::Screen *screen, int count);
 
 private:
@@ -33,14 +33,14 @@ private:
         int weight;
         const char *className;
         Fill fill;
-        char needs = 0; //!< the kind of name that there has to be on the screen
+        char needs = 0; //!< the kind of name that the screen must have
     };
     static const QList<Share> visuals;
     static const QList<Share> functions;
     static const QList<Share> hardware;
 
     Designer::DesignerObject *addElement(Designer::DesignerObject *owner, const QString &className);
-    //! Adds one element, or a group with what is in it. \return how many elements came in.
+    //! Adds one element, or a group with its contents. \return the number of added elements.
     int addVisual(Designer::DesignerObject *owner, int room, int depth);
     int addGroup(Designer::DesignerObject *owner, int room, int depth);
     qsizetype channelCount(const QString &className) const;
@@ -66,11 +66,11 @@ private:
     void fillMapping(Designer::DesignerObject *element);
 
     void place(Designer::DesignerObject *element, int width, int height);
-    //! Binds a property in \a percent of all cases.
+    //! Binds a property in \a percent of all calls.
     void bindSome(int percent, Designer::DesignerObject *element, const char *propertyId,
                   RandomExpressions::Kind kind);
     void set(Designer::DesignerObject *element, const char *propertyId, const QString &value);
-    //! A colour and an opacity for one of the visual elements, as the text of a state.
+    //! A colour and an opacity for a visual element, as the text of a state.
     QString state();
     QString color();
 
@@ -80,9 +80,9 @@ private:
     QStringList m_screenNames;
     QStringList m_images;
 
-    // Of the screen at hand.
+    // For the current screen.
     Designer::Screen *m_screen = nullptr;
-    QHash<QString, int> m_channels; //!< how many each class of hardware has taken
+    QHash<QString, int> m_channels; //!< the number of used channels of each hardware class
     int m_placed = 0;
 };
 

@@ -22,7 +22,7 @@ void drawSetPoints(PanelScreen &screen)
         const char *title;
         int minimum;
         int maximum;
-        const char *shown; //!< on the drawing board
+        const char *shown; //!< in the design
     } setPoints[] = {
         {"startLevel", "Start at", 40, 85, "Start at 70 %"},
         {"stopLevel", "Stop at", 10, 40, "Stop at 30 %"},

@@ -10,7 +10,7 @@ using namespace PanelStyle;
 
 namespace {
 
-// The field of the plot, 3 pixels for each per cent.
+// The area of the plot; each per cent is 3 pixels high.
 constexpr int fieldLeft = 80;
 constexpr int fieldWidth = 680;
 constexpr int fieldBottom = 396;
@@ -18,8 +18,8 @@ constexpr int pixelsPerCent = 3;
 
 void drawSamples(PanelScreen &screen)
 {
-    // Where the points stand on the drawing board; on the device they follow the log, the newest at the
-    // right. Where the log is too short for a point, it stands as high as the oldest.
+    // The positions of the points in the design. On the device they follow the log, with the newest at the
+    // right. If the log is too short for a point, it has the height of the oldest.
     constexpr int levels[] = {41, 56, 71, 62};
     constexpr int count = int(std::size(levels));
     constexpr int size = 16;

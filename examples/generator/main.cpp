@@ -26,7 +26,7 @@ ExitCode fail(ExitCode code, const QString &message)
     return code;
 }
 
-//! What the command line asks for.
+//! The contents of the command line.
 struct Order
 {
     QString parentFolder;
@@ -36,11 +36,11 @@ struct Order
     bool isPumpStation = false;
 };
 
-//! Fills \a order; the text tells what is wrong with the command line.
+//! Parses the command line into \a order. Returns an error, or an empty text.
 QString read(const QCommandLineParser &line, Order &order)
 {
     if (line.positionalArguments().size() != 1) {
-        return u"One folder is needed, in which the folder of the project is made."_s;
+        return u"Give exactly one folder, in which the project's folder is created."_s;
     }
     order.parentFolder = line.positionalArguments().first();
     order.isPumpStation = line.isSet(u"pump-station"_s);
@@ -63,10 +63,10 @@ QString read(const QCommandLineParser &line, Order &order)
         *count = line.isSet(option) ? line.value(option).toInt(&isNumber) : *count;
         areNumbers = areNumbers && isNumber;
     }
-    return areNumbers ? order.size.problem() : u"Seed and counts are numbers."_s;
+    return areNumbers ? order.size.problem() : u"Seed and counts must be numbers."_s;
 }
 
-//! Puts the project and its images into a folder of its own; a project that is there already is replaced.
+//! Writes the project and its images into the project's own folder; replaces an existing project.
 bool write(Project &project, const Order &order)
 {
     const QString folder = order.parentFolder + u'/' + project.createSubPath();
@@ -86,7 +86,7 @@ bool write(Project &project, const Order &order)
     return project.saveFile();
 }
 
-//! What is wrong with an object and with everything below it, each with its place.
+//! The errors of an object and of everything below it, each with its place.
 void collectErrors(const Designer::DesignerObject &object, QStringList &errors)
 {
     for (const QString &error : object.validationErrors()) {
@@ -127,7 +127,7 @@ ExitCode carryOut(const Order &order)
     return Done;
 }
 
-//! With fonts, if need be: the pictures of the pump station have letters on them.
+//! With fonts if necessary, because the images of the pump station contain text.
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
 {
     const auto asksForPumpStation = [](const char *argument) {
@@ -144,13 +144,13 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Descriptions of device models are those of the locale.
+    // The descriptions of device models depend on the locale.
     qputenv("LC_ALL", "C.UTF-8");
     const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
     QCommandLineParser line;
     line.setApplicationDescription(
-        u"Makes projects of any size, or the example project PumpStation. The same "
-        u"arguments give the same bytes."_s);
+        u"Creates projects of any size, or the example project PumpStation. The same "
+        u"arguments always give the same bytes."_s);
     line.addHelpOption();
     line.addOptions({
         {u"size"_s,
@@ -159,12 +159,12 @@ int main(int argc, char **argv)
          u"size"_s, u"S"_s},
         {u"screens"_s, u"Number of screens, instead of that of the size."_s, u"count"_s},
         {u"variables"_s, u"Number of variables."_s, u"count"_s},
-        {u"elements"_s, u"Number of elements on all screens, members of groups included."_s, u"count"_s},
+        {u"elements"_s, u"Number of elements on all screens, including members of groups."_s, u"count"_s},
         {u"seed"_s, u"Start of the random numbers."_s, u"seed"_s, u"1"_s},
         {u"name"_s, u"Name of the project."_s, u"name"_s, u"Generated"_s},
-        {u"pump-station"_s, u"Makes the example project PumpStation."_s},
+        {u"pump-station"_s, u"Create the example project PumpStation."_s},
     });
-    line.addPositionalArgument(u"folder"_s, u"Where the folder of the project is made."_s);
+    line.addPositionalArgument(u"folder"_s, u"The folder in which the project's folder is created."_s);
     line.process(*application);
 
     Order order;
@@ -176,7 +176,7 @@ int main(int argc, char **argv)
     if (!Designer::DesignerFactory::createInstance(programs.filePath(QStringLiteral(CORVEX_LIBRARY_PATH)))
         || !Designer::HardwareConfigurations::createInstance(
             programs.filePath(QStringLiteral(CORVEX_DATA_PATH)))) {
-        return fail(FileTrouble, u"The plug-ins or the device models are missing beside this program."_s);
+        return fail(FileTrouble, u"The plug-ins or the device models are missing next to this program."_s);
     }
     return carryOut(order);
 }

@@ -82,9 +82,9 @@ TEST_F(ProjectGeneratorTest, CreatesExactlyTheRequestedCounts)
 TEST_F(ProjectGeneratorTest, ReportsImpossibleCounts)
 {
     EXPECT_EQ((ProjectSize{1, 8, 1}.problem()), QString());
-    EXPECT_EQ((ProjectSize{0, 8, 1}.problem()), u"A project has at least one screen."_s);
-    EXPECT_EQ((ProjectSize{1, 7, 1}.problem()), u"There are at least 8 variables, one of each kind."_s);
-    EXPECT_EQ((ProjectSize{9, 8, 8}.problem()), u"Each screen has at least one element."_s);
+    EXPECT_EQ((ProjectSize{0, 8, 1}.problem()), u"A project needs at least one screen."_s);
+    EXPECT_EQ((ProjectSize{1, 7, 1}.problem()), u"A project needs at least 8 variables, one of each kind."_s);
+    EXPECT_EQ((ProjectSize{9, 8, 8}.problem()), u"Each screen needs at least one element."_s);
     EXPECT_FALSE(ProjectSize::named(u"XL"_s));
 }
 
