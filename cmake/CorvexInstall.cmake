@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What cmake --install lays down beside tools, plug-ins and data, which their own folders install: the libraries,
-# their headers under the paths that they have in the tree, and the CMake package DesignerCore.
+# Installs the libraries, their headers with the same paths as in the tree, and the CMake package
+# DesignerCore. The folders of the tools, plug-ins and data install their own files.
 include(CMakePackageConfigHelpers)
 
 set(package_path "${CMAKE_INSTALL_LIBDIR}/cmake/DesignerCore")
@@ -9,7 +9,7 @@ install(TARGETS CommonBase Zip Common DesignerCore EXPORT DesignerCoreTargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-# The preview is a program; its library stays here, as do the folders private/ of all rooms.
+# The preview is a program, so its library is not installed; neither are the folders private/ of all rooms.
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/libs/corvex" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
   FILES_MATCHING PATTERN "*.h" PATTERN "corvex/preview" EXCLUDE PATTERN "private" EXCLUDE)
 install(EXPORT DesignerCoreTargets NAMESPACE Corvex:: DESTINATION "${package_path}")

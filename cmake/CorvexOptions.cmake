@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Options, language level and warnings that hold for every target of the tree.
+# Options, language level and warnings for every target of the tree.
 
 include(GNUInstallDirs)
 
@@ -14,24 +14,24 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-# A library offers what it marks (common/Export.h).
+# Only symbols with an export macro are visible (common/Export.h).
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-# The build tree has the layout of an installation, so that the tools find their plug-ins and data in
-# the same relative places in both.
+# The build tree has the layout of an installation, so that the relative paths from the tools to their
+# plug-ins and data are the same in both.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}")
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}" "$ORIGIN")
-# Otherwise CMake makes room for the longer path with empty entries, which the linker takes for the current folder.
+# Otherwise CMake pads the path with empty entries, which the linker interprets as the current folder.
 set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
 set(CORVEX_LIBRARY_PATH "${CMAKE_INSTALL_LIBDIR}/corvex")
 set(CORVEX_PLUGIN_PATH "${CORVEX_LIBRARY_PATH}/Plugins/DesignerObjects")
 set(CORVEX_DATA_PATH "${CMAKE_INSTALL_DATADIR}/corvex")
 
-# Everything the sources of this tree are compiled with; never part of what an installation asks of others.
+# The options for compiling this tree. An installation does not pass them on.
 add_library(corvex_build_options INTERFACE)
 target_compile_definitions(corvex_build_options INTERFACE
   QT_NO_CAST_FROM_ASCII
@@ -42,8 +42,8 @@ target_compile_definitions(corvex_build_options INTERFACE
 target_compile_options(corvex_build_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wundef
   $<$<BOOL:${CORVEX_WARNINGS_AS_ERRORS}>:-Werror>)
-# Programs share the precompiled headers of libraries, and GCC takes one only for code of the same kind; CMake has
-# -fPIE for programs.
+# Programs share the precompiled headers of libraries, and GCC accepts one only for code of the same kind.
+# CMake adds -fPIE for programs.
 target_compile_options(corvex_build_options INTERFACE $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-fPIC>)
 
 if(CORVEX_SANITIZE)
@@ -53,7 +53,7 @@ if(CORVEX_SANITIZE)
 endif()
 
 if(NOT CORVEX_SANITIZE AND NOT CORVEX_BUILD_FUZZERS)
-  # What a library needs and no other offers is found when it is linked. The sanitizers' own names come later.
+  # Report undefined symbols when a library is linked. With sanitizers some are only resolved at run time.
   add_link_options(-Wl,-z,defs)
 endif()
 
@@ -69,8 +69,8 @@ add_link_options(-Wl,--as-needed)
 
 find_program(CORVEX_CCACHE ccache)
 if(CORVEX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  # Precompiled headers need ccache to look past their time stamps and at the macros they define; with paths
-  # relative to the tree, several checkouts share what was compiled in one of them.
+  # With precompiled headers, ccache must ignore time stamps and defined macros. With paths relative to the
+  # tree, several checkouts share the cache.
   set(CMAKE_CXX_COMPILER_LAUNCHER
     "${CMAKE_COMMAND}" -E env
     CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime

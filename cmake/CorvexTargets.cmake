@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
-# Functions that declare the kinds of targets of this tree.
+# Functions that declare the targets of this tree.
 
 # corvex_precompiled_header()
 #
-# The one precompiled header of all rooms, tools and plug-ins: the target corvex_precompiled. It costs as much
-# as compiling a dozen sources, so each room having its own would cost more than it saves.
+# The precompiled header of all rooms, tools and plug-ins: the target corvex_precompiled. It takes as long as
+# a dozen sources, so a separate one for each room would cost more than it saves.
 function(corvex_precompiled_header)
   file(CONFIGURE OUTPUT pch.cpp CONTENT "")
   add_library(corvex_precompiled OBJECT "${CMAKE_CURRENT_BINARY_DIR}/pch.cpp")
@@ -14,8 +14,8 @@ endfunction()
 
 # corvex_automoc(TARGET)
 #
-# Runs moc for the target. moc runs again when a file changes that it has looked at before, and would miss one
-# that is new in a folder; so it is given one more header to look at, which changes with the list of files.
+# Runs moc for the target. moc only runs again when a known file changes, and would miss a new file in a
+# folder. Therefore it gets an additional header that changes with the list of files.
 function(corvex_automoc target)
   get_target_property(sources ${target} SOURCES)
   list(TRANSFORM sources PREPEND "// ")
@@ -27,9 +27,9 @@ endfunction()
 
 # corvex_room(NAME LINKS target...)
 #
-# A room is one folder of libs/corvex, compiled by itself with nothing but the libraries that its floor may
-# use; the objects of all rooms make the library DesignerCore. The folder may hold sub-folders; each file is
-# found by itself. Sets the target corvex_NAME.
+# A room is a folder of libs/corvex. It is compiled with only the libraries that its layer may use; the
+# objects of all rooms form the library DesignerCore. The folder may contain sub-folders; files are found
+# automatically. Sets the target corvex_NAME.
 function(corvex_room name)
   cmake_parse_arguments(ROOM "" "" "LINKS" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
@@ -47,7 +47,7 @@ endfunction()
 
 # corvex_plugin(NAME SOURCES file... LINKS target...)
 #
-# A plug-in that the factory loads: libNAME.so in the folder of plug-ins, installed.
+# A plug-in for the factory: libNAME.so in the folder of plug-ins, installed.
 function(corvex_plugin name)
   cmake_parse_arguments(PLUGIN "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} MODULE ${PLUGIN_SOURCES})
@@ -64,8 +64,8 @@ endfunction()
 
 # corvex_test(NAME SOURCES file... LINKS target...)
 #
-# One test program, test_NAME, run by CTest as one test named NAME. Its main function is
-# tests/support/main.cpp, which makes an application object that needs no display.
+# A test program, test_NAME, which CTest runs as the test NAME. Its main function is tests/support/main.cpp,
+# which creates an application object that needs no display.
 function(corvex_test name)
   cmake_parse_arguments(TEST "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(test_${name} ${TEST_SOURCES})
