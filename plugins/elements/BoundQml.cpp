@@ -82,7 +82,7 @@ const DesignerProperty *propertyBeside(const DesignerObject *owner, const QStrin
     return place < properties.size() ? properties.at(place).data() : nullptr;
 }
 
-//! Puts the code of the expression beside the plain value of \a owner, if it has one, in its place.
+//! Replaces the plain value by the code of its expression, if \a owner has one.
 void replaceByExpression(QmlBinding &binding, const DesignerObject *owner)
 {
     const DesignerProperty *source = propertyBeside(owner, binding.name);

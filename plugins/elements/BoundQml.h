@@ -18,8 +18,8 @@ namespace Halvane::Corvex::Elements {
 //! Accepts an expression that is empty or can replace the value.
 bool bindingValidator(const Designer::DesignerProperty *property, QString &error);
 
-//! The bindings of the plain value, each replaced by the expression beside it: "text" by "textBinding", the
-//! "x" of "position" by "xBinding".
+//! The bindings of the property, each replaced by its expression, if there is one: "text" by "textBinding",
+//! the "x" of "position" by "xBinding".
 Designer::QmlBindings boundToQml(const Designer::DesignerProperty *property);
 
 } // namespace Halvane::Corvex::Elements

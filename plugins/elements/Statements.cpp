@@ -42,7 +42,7 @@ QmlBindings assignToNew(const QString &className, const QMap<QString, QString> &
     return all;
 }
 
-//! The same, remembered: the buttons of a project give the same few values to elements of the same classes.
+//! The same, cached: the buttons of a project set the same few values on elements of the same classes.
 //! Valid until the next call in this thread.
 const QmlBindings &assignedBy(const QString &className, const QMap<QString, QString> &values)
 {
@@ -60,7 +60,7 @@ const QmlBindings &assignedBy(const QString &className, const QMap<QString, QStr
     return *all;
 }
 
-//! The handler that is named after the property; none without statements.
+//! The handler named after the property; nothing without statements.
 QmlBindings handler(const DesignerProperty *property, const QStringList &statements)
 {
     if (statements.isEmpty()) {

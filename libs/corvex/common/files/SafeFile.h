@@ -14,8 +14,9 @@ namespace Halvane::Corvex::Common {
     incomplete write (a full disk), the target is unchanged. If the target is a link, the file that it leads
     to is replaced. The permissions of the target are kept.
 
-    Programs that were killed may have left drafts in the folder. A program removes them when it writes its
-   first file there. */
+    Drafts of killed programs remain in the folder until the next program writes its first file there, which
+    removes them.
+*/
 class CORVEX_COMMON_EXPORT SafeFile : public QFile
 {
     Q_OBJECT

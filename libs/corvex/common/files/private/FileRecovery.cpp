@@ -108,7 +108,7 @@ bool FileRecovery::restore(const QString &name, const QString &copy) const
         return true; // removing the journal removes the copy
     }
     const bool isForeign =
-        isThere(path) && !isOurs(name) && FileJournal::digestOf(path) != FileJournal::digestOf(kept);
+        exists(path) && !isOurs(name) && FileJournal::digestOf(path) != FileJournal::digestOf(kept);
     if (isForeign && !FileSync::move(path, freePath(path))) {
         return false;
     }

@@ -9,11 +9,10 @@ namespace Halvane::Corvex::Designer {
 /*! Sets a value, with all consequences: references follow a new name, states follow a new linked element, and
     channel lists follow the switches of the device's configuration.
 
-    The name of an image or a project in a folder is also the name of its file, which gets the new name as
-   with RenameImage and RenameProject.
+    The name of an image or of a project with a file is also a file name; the file is renamed as by
+    RenameImage and RenameProject.
 
-    A value that shows a picture whose file is missing cannot be set, nor a name that the rules for names of
-   the object refuse.
+    Refuses a value that shows an image whose file is missing, and an invalid name.
 */
 class CORVEX_EXPORT ChangeProperty : public ModelCommand
 {
