@@ -250,7 +250,7 @@ TEST_F(FileTransactionTest, DraftsOfKilledProgramsAreRemoved)
     }
     waitpid(child, nullptr, 0);
     EXPECT_EQ(files().size(), 4);
-    // Those in a folder that this program has not written to yet go with its first file there.
+    // Drafts in a new folder are removed when this program writes its first file there.
     ASSERT_TRUE(QDir().rename(path(u"P"_s), path(u"New"_s)));
     write(u"New/first"_s, "first");
     EXPECT_EQ(files().size(), 4);

@@ -71,7 +71,7 @@ TEST_F(QmlBindingTest, BindingsNameTheirPropertyAndTextsHaveNoName)
     EXPECT_TRUE(owner->property("loose")->writesPlainQml());
     EXPECT_FALSE(member->property("note")->writesPlainQml());
 
-    // The creator that is set last counts.
+    // The last creator counts.
     member->property("text")->setQmlCreator(&linesOfText);
     member->property("note")->setBindingsCreator(nullptr);
     EXPECT_EQ(member->property("text")->toQml(0), u"note.a: 1\nItem {\n\tx: 1\n}"_s);

@@ -67,8 +67,8 @@ public:
     virtual QString qmlName() const;
     //! The object's block of QML, indented by \a indent tabs. Lines are separated by "\n"; the last has none.
     virtual QString toQml(int indent) const;
-    //! The bindings in that block: those of the properties in their order, and beside the identifier the name
-    //! for the runtime ("objectName"), which has no source. Child objects are not among them.
+    //! The bindings in that block: those of the properties, in order, and after the identifier the runtime
+    //! name ("objectName"), which has no source. Child objects are not included.
     QmlBindings qmlBindings() const;
     //! Statements to run once the screen is loaded; empty in the base.
     virtual QString onCompletedQml(int indent) const;
@@ -288,8 +288,8 @@ protected:
     //! it.
     void deleteChildren();
 
-    /*! Appends to \a text what toQml() writes between the braces, indented by \a indent tabs, each line with
-        its "\n". The property \a omitted, which may be null, is left out. */
+    //! Appends the contents of the braces of toQml() to \a text, indented by \a indent tabs, each line with
+    //! its "\n". Omits the property \a omitted, which may be null.
     void appendMembers(QString &text, int indent, const DesignerProperty *omitted = nullptr) const;
 
     //! Adds a property that is not in a table.

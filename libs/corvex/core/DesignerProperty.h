@@ -77,7 +77,7 @@ public:
     void setValueValidator(ValueValidator validator);
     void setAddValidator(ItemValidator validator);
     void setRemoveValidator(ItemValidator validator);
-    //! Each of these two replaces what the other one has set.
+    //! Each of these two replaces the other.
     void setBindingsCreator(BindingsCreator creator);
     void setQmlCreator(QmlCreator creator);
 
@@ -134,7 +134,7 @@ public:
 
     //! The property's QML, with lines separated by "\n"; empty unless RuntimeFlag is set.
     QString toQml(int indent) const;
-    //! The same as data. A list is one member without a name.
+    //! The same as data. A list is a single member without a name.
     QmlBindings qmlBindings() const;
     //! Whether toQml() writes only literals, which are correct for all values.
     bool writesPlainQml() const
@@ -175,7 +175,7 @@ public:
     //! The canonical text of the typed value.
     virtual QString convertToValueString() const = 0;
     //! The QML of the value itself, regardless of flags and QML creator. Classes whose QML consists of
-    //! bindings override convertToBindings() too, and print it here.
+    //! bindings also override convertToBindings(), and print it here.
     virtual QString convertToQml(int indent) const;
     virtual bool valueIsEqual(const QString &text) const = 0;
     //! Validates the value without storing the outcome.
@@ -185,7 +185,8 @@ public:
     //! Called after the list has changed and observers were notified. The place to sort it, with moveItem()
     //! and reorderItems().
     virtual void updateListItems();
-    //! The bindings of the value itself; convertToQml() as one member in a class that has only that.
+    //! The bindings of the value itself. For a class that only overrides convertToQml(), its result as one
+    //! member.
     virtual QmlBindings convertToBindings() const;
 
     //! The list's children and kept items; null for other properties.

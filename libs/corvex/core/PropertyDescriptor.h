@@ -23,10 +23,10 @@ class QmlBindings;
 using ValueValidator = bool (*)(const DesignerProperty *property, QString &error);
 //! Decides whether an object may enter or leave a list property.
 using ItemValidator = bool (*)(const DesignerProperty *property, const DesignerObject *item, QString &error);
-//! Makes a property's bindings in place of DesignerProperty::convertToBindings().
+//! Creates a property's bindings instead of DesignerProperty::convertToBindings().
 using BindingsCreator = QmlBindings (*)(const DesignerProperty *property);
-//! Writes a property's QML as text, lines with their tabs. Nothing can tell its bindings apart, so states and
-//! actions cannot set such a property. Prefer a BindingsCreator.
+//! Writes a property's QML as text, with indented lines. The text cannot be split into bindings, so states
+//! and actions cannot set such a property. Prefer a BindingsCreator.
 using QmlCreator = QString (*)(const DesignerProperty *property, int indent);
 
 //! The data about a property that all instances of a class share. A property copies it when it is changed for

@@ -10,17 +10,17 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerProperty;
 
-//! One member of an object in QML: a name and the code that it is bound to.
+//! A member of an object in QML: a name and the code bound to it.
 struct QmlBinding
 {
     //! "x", "font.bold" or a handler such as "onPressed". Empty for a member that binds nothing, such as a
-    //! function; the code is then the whole member.
+    //! function; then the code is the whole member.
     QString name;
-    //! The lines of a block are separated by "\n" and indented as in an object at the left margin, without
-    //! the tabs of the binding itself.
+    //! The lines of a block are separated by "\n", and indented for an object at the left margin; the
+    //! binding's own indentation is not included.
     QString code;
-    //! The property that holds what the code was made from, of the same object as the property that writes
-    //! the binding; null in a binding that belongs to no property. Not owned.
+    //! The property from whose value the code was generated, of the same object as the property that writes
+    //! the binding. Null if the binding belongs to no property. Not owned.
     const DesignerProperty *source = nullptr;
 
     bool isBlock() const { return code.contains(u'\n'); }
@@ -32,8 +32,8 @@ Q_DECLARE_TYPEINFO(Halvane::Corvex::Designer::QmlBinding, Q_RELOCATABLE_TYPE);
 
 namespace Halvane::Corvex::Designer {
 
-/*! The bindings that a property or an object writes, in their order. Most properties write one or two, which
-    take no memory of their own. */
+//! The bindings of a property or an object, in order. Most properties have one or two, which need no heap
+//! memory.
 class QmlBindings
 {
 public:
@@ -45,7 +45,7 @@ public:
     {
         add(std::move(name), std::move(code), source);
     }
-    //! QML that is known only as text: one member without a name, or nothing for an empty text.
+    //! QML that exists only as text: one member without a name, or nothing if the text is empty.
     static QmlBindings ofText(const QString &qml)
     {
         return qml.isEmpty() ? QmlBindings() : QmlBindings(QString(), qml);
@@ -64,7 +64,7 @@ public:
     const_iterator end() const { return m_bindings.cend(); }
     qsizetype size() const { return m_bindings.size(); }
     bool isEmpty() const { return m_bindings.isEmpty(); }
-    //! The index must be below size().
+    //! The index must be less than size().
     const QmlBinding &at(qsizetype index) const { return m_bindings.at(index); }
 
 private:

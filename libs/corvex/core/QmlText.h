@@ -7,15 +7,15 @@
 #include <QString>
 #include <QStringList>
 
-//! The few forms that all generated QML is made of: one tab per level, lines separated by "\n".
+//! The basic forms of generated QML: one tab per level, lines separated by "\n".
 namespace Halvane::Corvex::Designer::QmlText {
 
 CORVEX_EXPORT QString tabs(int indent);
 //! Appends "name: code", indented by \a indent tabs, without a line end after it.
 CORVEX_EXPORT void append(QString &text, const QmlBinding &binding, int indent);
-//! The bindings one below the other, without a line end after the last.
+//! The bindings, one per line, without a line end after the last.
 CORVEX_EXPORT QString print(const QmlBindings &bindings, int indent);
-//! The code of a block: "{", the lines with a tab more, "}".
+//! The code of a block: "{", the lines with one more tab, "}".
 CORVEX_EXPORT QString block(const QStringList &lines);
 //! The text between double quotes, made safe.
 CORVEX_EXPORT QString quoted(const QString &text);

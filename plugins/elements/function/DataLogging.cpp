@@ -25,7 +25,7 @@ QmlBindings logToQml(const DesignerProperty *property)
         for (const QString &id : {QStringLiteral("autoStart"), QStringLiteral("interval"),
                                   QStringLiteral("maxDataPoints"), QStringLiteral("startDelay")}) {
             for (const QmlBinding &binding : log->getProperty(id)->qmlBindings()) {
-                bindings.add(binding.name, binding.code); // what names the log is the source
+                bindings.add(binding.name, binding.code); // the property with the log's name is the source
             }
         }
         bindings.add(QStringLiteral("behavior"),

@@ -19,7 +19,7 @@ namespace Halvane::Corvex::Elements {
 
 namespace {
 
-//! Writes the file name as a URL, in which "%" and "#" have a meaning of their own.
+//! Writes the file name as a URL, in which "%" and "#" have special meanings.
 QmlBindings sourceToQml(const DesignerProperty *property)
 {
     QString name = ObjectLinkInfo(property->valueString()).objectId();

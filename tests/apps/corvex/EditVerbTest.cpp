@@ -302,7 +302,7 @@ added GroupElement First.trio
     EXPECT_EQ(sandbox.run({u"fmt"_s, station, u"--check"_s}).code, 0);
     EXPECT_FALSE(QFile::exists(sandbox.path(u"Pump"_s)));
 
-    // A copy has the name of its original inside.
+    // A copied file still contains the name of its original.
     QDir(sandbox.path({})).mkdir(u"Copy"_s);
     sandbox.write(u"Copy/Copy.kdproj"_s, sandbox.read(station));
     EXPECT_EQ(sandbox.run({u"rename"_s, u"Copy/Copy.kdproj"_s, u"Station"_s, u"Tank"_s}).error, QString());

@@ -99,7 +99,7 @@ TEST_F(ImageCommandTest, RenamingAlsoRenamesTheFile)
     EXPECT_TRUE(object(u"Pump.png"_s)->isValid());
     stack().undo();
     EXPECT_EQ(files(), QStringList{u"pump.png"_s});
-    // To change the name as a property is the same.
+    // Changing the name as a property does the same.
     IdentifierInfo info = object(u"pump.png"_s)->getIdInfo();
     info.setName(u"motor.png"_s);
     auto *change = push(new ChangeProperty(object(u"pump.png"_s)->idProperty(), info.toString(), false));

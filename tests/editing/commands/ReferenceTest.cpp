@@ -216,7 +216,7 @@ TEST_F(ReferenceTest, TheIndexFollowsInsertedAndRemovedObjects)
     delete other->takeListPropertyItem(other->elements(), late);
     EXPECT_EQ(referrers(), QStringList());
 
-    // A name that is listed twice is still listed when one of them goes.
+    // A name that is listed twice remains if one of the two is removed.
     DesignerObject *filter = object(QStringLiteral("filter1"));
     for (const char *names : {"rectangle1 | text1 | rectangle1", "rectangle1 | text1 | rectangle2"}) {
         ASSERT_TRUE(set(filter, "elements", QString::fromLatin1(names)));

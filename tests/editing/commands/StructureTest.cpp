@@ -366,7 +366,7 @@ TEST_F(StructureTest, AProjectIsRenamedWithItsFolder)
     EXPECT_TRUE(QFileInfo(folder.filePath(u"Pumps/Pumps.kdproj"_s)).isFile());
     EXPECT_FALSE(RenameProject(project.get(), u"a/b"_s).isValid());
 
-    // A link leads to the same file as before, or the name stays.
+    // If a link would get another target, the name is not changed.
     const QString file = project->fullFilePath();
     ASSERT_TRUE(QFile::rename(file, folder.filePath(u"Pumps/real"_s)) && QFile::link(u"real"_s, file));
     IdentifierInfo info = project->getIdInfo();

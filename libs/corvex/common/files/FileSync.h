@@ -25,7 +25,7 @@ CORVEX_COMMON_EXPORT bool exchange(const QString &first, const QString &second);
 //! Creates a hard link or, if the file system has none, a synced copy.
 CORVEX_COMMON_EXPORT bool link(const QString &from, const QString &to);
 
-//! The target of a symbolic link exactly as the link stores it, so it may be relative; empty for other files.
+//! The target of a symbolic link exactly as stored, possibly relative; empty for other files.
 CORVEX_COMMON_EXPORT QString linkTarget(const QString &path);
 
 //! The text for errno.

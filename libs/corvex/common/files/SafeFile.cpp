@@ -51,7 +51,7 @@ int openLocked(const QByteArray &path)
     }
 }
 
-//! Whether this program has not asked for that folder before.
+//! Whether this program writes to that folder for the first time.
 bool isFirstFileIn(const QString &folder)
 {
     static std::mutex mutex;

@@ -29,8 +29,8 @@ class ReceiveErrorInfo;
 class SendErrorInfo;
 class ValueRangeInfo;
 
-/*! What a property writes into QML, by the type of its value: bindings, most of them with the property's id
-   as their name. A type without a form of its own writes nothing.
+/*! How a property is written in QML, by the type of its value: bindings, usually with the property's id as
+    name. A type without a form of its own writes nothing.
 
     Numbers that are not whole have as many decimals as the editor parameter "decimals" says, 3 by default.
 */

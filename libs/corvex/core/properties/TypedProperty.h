@@ -59,7 +59,7 @@ public:
 
     QString convertToValueString() const override { return TextForm<Value>::print(m_value); }
 
-    // Final: what is overridden is convertToBindings(), which objects, states and checks read.
+    // Final: override convertToBindings() instead, which objects, states and checks use.
     QString convertToQml(int indent) const final { return QmlText::print(convertToBindings(), indent); }
 
     QmlBindings convertToBindings() const override { return QmlForm<Value>::bindings(*this, m_value); }

@@ -84,7 +84,7 @@ bool ReferenceIndex::sharesName(const Mention &mention, const QSet<QStringView> 
     return false;
 }
 
-//! A list may name thousands of objects, of which an edit changes one. Only what differs is looked up.
+//! A list may name thousands of objects, of which an edit changes one. Look up only the differences.
 void ReferenceIndex::valueChanged(const SharedProperty &property, const QString &previousValue)
 {
     if (!m_isBuilt || !ReferenceForm::of(*property)) {
@@ -105,7 +105,7 @@ void ReferenceIndex::valueChanged(const SharedProperty &property, const QString 
     }
     for (auto mention = after.cbegin(); mention != after.cend(); ++mention) {
         const bool isNew = mention >= firstAfter && mention < lastAfter.base();
-        // Other mentions in the value may share a name with those that are gone.
+        // Other mentions in the value may share a name with the removed ones.
         if (isNew || sharesName(*mention, removed)) {
             update(property, *mention, true);
         }

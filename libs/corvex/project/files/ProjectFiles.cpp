@@ -35,7 +35,7 @@ QString projectFileName(const QString &name)
     return u"%1.kdproj"_s.arg(name);
 }
 
-//! Whether the file is a link that leads back into its folder by the name of the folder.
+//! Whether the file is a link whose path leaves the folder and returns by the folder's name.
 bool needsFolderName(const QString &path)
 {
     const QString target = Common::FileSync::linkTarget(path);

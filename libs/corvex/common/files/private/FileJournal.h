@@ -27,8 +27,8 @@ public:
     const QString &folder() const { return m_folder; }
     void setFolder(const QString &folder) { m_folder = folder; }
 
-    //! What identifies the contents of a file. For a link it is the stored target, because a relative link
-    //! leads elsewhere while the file is out of sight. Empty without a file.
+    //! Identifies the contents of a file. For a link it is the stored target, because a relative link has
+    //! another target while the file is set aside. Empty for a missing file.
     static QString digestOf(const QString &path);
     //! Whether the folder has the journal of a running or interrupted transaction.
     static bool exists(const QString &folder);

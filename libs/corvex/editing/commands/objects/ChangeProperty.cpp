@@ -80,7 +80,7 @@ ChangeProperty::ChangeProperty(const SharedProperty &property, const QString &va
     m_isFileMissing = notifyFileMissing();
 }
 
-//! A name that is also the name of a file is left to the command that renames both, as the only child.
+//! If a name is also a file name, the only child is a command that renames both.
 bool ChangeProperty::renamesFile()
 {
     Project *project = owner()->project();
