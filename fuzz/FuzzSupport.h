@@ -13,8 +13,9 @@ namespace Fuzz {
 //! Silences the library's messages about hostile input, which would fill the log.
 inline const QtMessageHandler quiet =
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &message) {
-        if (type == QtFatalMsg)
+        if (type == QtFatalMsg) {
             std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+        }
     });
 
 inline QString toText(const std::uint8_t *data, std::size_t size)
@@ -25,8 +26,9 @@ inline QString toText(const std::uint8_t *data, std::size_t size)
 //! Ends the program, which libFuzzer reports, if a condition is false.
 inline void require(bool kept, const char *promise, const QString &about = {})
 {
-    if (!kept)
+    if (!kept) {
         qFatal("%s: %s", promise, qUtf8Printable(about));
+    }
 }
 
 //! A text that can be read and is written again must read back, and then be written as the same text.
@@ -35,8 +37,9 @@ void checkText(const char *kind, const QString &text, Read read, Write write)
 {
     bool ok = false;
     const auto value = read(text, &ok);
-    if (!ok)
+    if (!ok) {
         return;
+    }
     const QString first = write(value);
     const auto again = read(first, &ok);
     require(ok, kind, QStringLiteral("what was written cannot be read: ") + first);

@@ -18,15 +18,17 @@ namespace {
 std::optional<Group> readSlowly(const QString &text)
 {
     const QStringList parts = text.trimmed().split(u';', Qt::SkipEmptyParts);
-    if (parts.isEmpty())
+    if (parts.isEmpty()) {
         return std::nullopt;
+    }
     Group group;
     QStringList pieces;
     for (const QString &part : parts) {
         const QString item = part.trimmed();
         const QStringList fields = item.split(u':');
-        if (item.isEmpty())
+        if (item.isEmpty()) {
             continue;
+        }
         if (fields.size() > 2 && fields[0].trimmed().compare("valueString"_L1, Qt::CaseInsensitive) == 0) {
             pieces.append(fields[1] + u':' + fields[2]);
         } else if (!pieces.isEmpty()) {
@@ -37,8 +39,9 @@ std::optional<Group> readSlowly(const QString &text)
             return std::nullopt;
         }
     }
-    if (!pieces.isEmpty())
+    if (!pieces.isEmpty()) {
         group.insert(u"valueString"_s, pieces.join("; "_L1) + u';');
+    }
     return group;
 }
 

@@ -33,8 +33,9 @@ private:
 PropertyInfoList propertyValues(Pieces &pieces)
 {
     PropertyInfoList values;
-    for (qsizetype i = 0; i < pieces.count() % 3; ++i)
+    for (qsizetype i = 0; i < pieces.count() % 3; ++i) {
         values.append(PropertyInfo(pieces.next(), pieces.next()));
+    }
     return values;
 }
 
@@ -69,8 +70,9 @@ void checkBuilt(const QString &text)
     Fuzz::checkRecord("list of texts", list);
     Fuzz::checkRecord("map", map);
     Fuzz::checkRecord("updates of objects", updates);
-    if (!changes.isEmpty())
+    if (!changes.isEmpty()) {
         Fuzz::checkRecord("property changes", changes);
+    }
 }
 
 } // namespace

@@ -52,8 +52,9 @@ void checkQml(const DesignerObject *object)
 {
     object->toQml(0);
     const auto *project = kindCast<Project>(object);
-    if (!project)
+    if (!project) {
         return;
+    }
     ExpressionSyntax syntax;
     for (const DesignerObject *screen : project->screens()->listItems()) {
         const QString qml = screen->toQml(0);
@@ -71,12 +72,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     Q_UNUSED(started)
     const std::unique_ptr<DesignerObject> object =
         read(QByteArray(reinterpret_cast<const char *>(data), qsizetype(size)));
-    if (!object)
+    if (!object) {
         return 0;
+    }
     checkQml(object.get());
     const QByteArray first = write(object.get());
-    if (first.isEmpty())
+    if (first.isEmpty()) {
         return 0; // a project without a configuration, for example
+    }
     const std::unique_ptr<DesignerObject> again = read(first);
     Fuzz::require(again != nullptr, "what was written cannot be read", QString::fromUtf8(first));
     const QByteArray second = write(again.get());

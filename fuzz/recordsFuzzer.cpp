@@ -30,8 +30,9 @@ namespace {
 void checkIdentifier(const QString &text)
 {
     const IdentifierInfo identifier(text, nullptr);
-    if (identifier.isValid())
+    if (identifier.isValid()) {
         Fuzz::checkRecord("identifier", identifier);
+    }
 }
 
 //! Tables read from expressions must be written as expressions that give the same table.
@@ -103,8 +104,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     checkIdentifier(text);
     checkTable("BACnet properties", text, BACnetPropertyList());
     checkTable("CAN parameters", text, CanParameterMap());
-    for (const auto kind : {ModbusMap::Coil, ModbusMap::HoldingRegister, ModbusMap::VirtualString})
+    for (const auto kind : {ModbusMap::Coil, ModbusMap::HoldingRegister, ModbusMap::VirtualString}) {
         checkTable("Modbus map", text, ModbusMap(kind));
+    }
     checkOrder(TextHelper::naturalLess, text);
     checkOrder(TextHelper::fileNameLess, text);
     checkEncodings(text);

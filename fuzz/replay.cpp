@@ -39,8 +39,9 @@ int main(int argc, char **argv)
         }
         const QByteArray content = file.readAll();
         run(content);
-        for (qsizetype end = 0; end < content.size(); end += std::max(content.size() / cuts, qsizetype(1)))
+        for (qsizetype end = 0; end < content.size(); end += std::max(content.size() / cuts, qsizetype(1))) {
             run(content.first(end));
+        }
     }
     std::printf("%d inputs\n", runs);
     return runs > 0 ? 0 : 1;

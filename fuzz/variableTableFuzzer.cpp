@@ -36,8 +36,9 @@ QByteArray tableOf(const Project &project)
 bool import(const QByteArray &table, Project &project)
 {
     VariableImport plan(table, project);
-    if (!plan.problems().isEmpty())
+    if (!plan.problems().isEmpty()) {
         return false;
+    }
     ImportVariables command(project.variables(), plan);
     command.redo();
     Fuzz::require(command.isDone(), "a table is refused", command.errorString());

@@ -14,7 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (ok
         && (!VariantStream::write(value, first)
             || !VariantStream::write(VariantStream::read(first, mostBytes * 16, ok), second)
-            || first != second))
+            || first != second)) {
         qFatal("a value does not read back");
+    }
     return 0;
 }

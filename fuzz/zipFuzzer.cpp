@@ -48,8 +48,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     Fuzz::require(names.isEmpty() || error.isEmpty(), "names and an error", error);
     const bool done = ZipHelper::unzip(archive, folder, &error);
     Fuzz::require(done || !error.isEmpty(), "refused without a reason");
-    if (done)
+    if (done) {
         checkUnpacked(folder, names);
+    }
     const QStringList left = QDir(home.path()).entryList(everything, QDir::Name);
     Fuzz::require(left == QStringList{u"in.zip"_s} || left == QStringList({u"a"_s, u"in.zip"_s}),
                   "something lies outside", left.join(u' '));

@@ -20,8 +20,9 @@ double seconds(const timeval &time)
 
 int main(int argc, char **argv)
 {
-    if (argc < 2)
+    if (argc < 2) {
         return 2;
+    }
     const auto start = std::chrono::steady_clock::now();
     const pid_t child = fork();
     if (child == 0) {
@@ -33,8 +34,9 @@ int main(int argc, char **argv)
     }
     int status = 0;
     rusage usage{};
-    if (child < 0 || wait4(child, &status, 0, &usage) != child)
+    if (child < 0 || wait4(child, &status, 0, &usage) != child) {
         return 1;
+    }
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
     std::printf("%d %.9f %.9f %lld\n", WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status),
                 taken.count(), seconds(usage.ru_utime) + seconds(usage.ru_stime),

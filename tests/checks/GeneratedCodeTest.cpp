@@ -29,8 +29,9 @@ public:
     {
         List terms;
         if (type == List::AssignExpression) {
-            for (int pairs = 1 + below(3); pairs > 0; --pairs)
+            for (int pairs = 1 + below(3); pairs > 0; --pairs) {
                 terms << (below(2) ? variable() : element()) << operand(type);
+            }
         } else {
             expression(terms, type, 3);
         }
@@ -103,12 +104,14 @@ private:
         const Info function(Info::FunctionValue, Info::FunctionData,
                             oneOf(math ? MathInfo::mathFunctions() : StringInfo::stringFunctions()));
         terms << function;
-        if (function.value() == u"random")
+        if (function.value() == u"random") {
             return;
+        }
         for (int arguments = below(3); arguments >= 0; --arguments) {
             expression(terms, type, depth - 1);
-            if (arguments > 0)
+            if (arguments > 0) {
                 terms << sign(u","_s);
+            }
         }
         terms << sign(u")"_s);
     }
@@ -121,16 +124,18 @@ private:
                                     u"&"_s, u"|"_s, u"^"_s, u"<<"_s, u">>"_s};
         expression(terms, type, depth - 1);
         terms << sign(oneOf(type == List::BoolExpression || below(2) ? comparing : computing));
-        if (type == List::MathExpression && below(4) == 0)
+        if (type == List::MathExpression && below(4) == 0) {
             terms << sign(oneOf({u"-"_s, u"~"_s, u"+"_s}));
+        }
         expression(terms, type, depth - 1);
     }
 
     void selection(List &terms, List::InfoType type, int depth)
     {
         Info selector = operand(type);
-        while (selector.dataType() != Info::BooleanData)
+        while (selector.dataType() != Info::BooleanData) {
             selector = operand(type);
+        }
         terms << selector << sign(u"?"_s);
         expression(terms, type, depth - 1);
         terms << sign(u":"_s);
@@ -199,8 +204,9 @@ TEST(GeneratedCode, IsCorrectWithPlainNames)
         const bool math = i % 2 == 0;
         QStringList pieces;
         for (Info term : author.write(math ? List::MathExpression : List::StringExpression)) {
-            if (term.valueType() == Info::VariableValue)
+            if (term.valueType() == Info::VariableValue) {
                 term.setValue(u"speed"_s);
+            }
             pieces << (math ? MathInfo::parserString(term) : StringInfo::parserString(term));
         }
         const QString text = pieces.join(u' ');

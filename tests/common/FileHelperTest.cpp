@@ -82,8 +82,9 @@ TEST_F(FileHelperTest, FullDiskLeavesTheOldFile)
         const FullDisk disk(50000);
         SafeFile file(path(u"a"_s));
         ASSERT_TRUE(file.openForWriting(&error)) << error.toStdString();
-        for (qsizetype written = 0; written < 200000; written += block)
+        for (qsizetype written = 0; written < 200000; written += block) {
             file.write(QByteArray(block, 'x'));
+        }
         EXPECT_FALSE(file.commit(&error));
         EXPECT_TRUE(error.contains(path(u"a"_s))) << error.toStdString();
         EXPECT_FALSE(error.contains(u"Unknown"_s)) << error.toStdString();
@@ -149,8 +150,9 @@ TEST_F(FileHelperTest, RemoveDirectoryRefuses)
     QDir(m_folder.path()).mkpath(u"users/me/plans"_s);
     qputenv("HOME", path(u"users/me"_s).toUtf8());
     for (const QString &bad : {u""_s, u"/"_s, u"//"_s, u"/tmp/.."_s, path(u"users/me"_s), path(u"users"_s),
-                               path(u"users/me/plans/.."_s), path(u"users/me/."_s)})
+                               path(u"users/me/plans/.."_s), path(u"users/me/."_s)}) {
         EXPECT_FALSE(FileHelper::removeDirectory(bad)) << bad.toStdString();
+    }
     EXPECT_TRUE(FileHelper::removeDirectory(path(u"users/me/plans"_s)));
     qputenv("HOME", home);
 }
@@ -233,8 +235,9 @@ TEST_F(FileHelperTest, VariantRefusesOtherBytes)
     ASSERT_TRUE(FileHelper::variantToFile(map, path(u"v"_s), false));
     const QByteArray good = contentOf(path(u"v"_s));
     QByteArray nested;
-    for (int i = 0; i < 100000; ++i)
+    for (int i = 0; i < 100000; ++i) {
         nested += QByteArray::fromHex("000000090000000001");
+    }
     const QByteArray bad[] = {
         "",
         good + '\0',

@@ -10,8 +10,9 @@ using namespace Halvane::Corvex::Common;
 TEST(EnumHelper, EveryVariableTypeHasAText)
 {
     const QMetaEnum types = EnumHelper::metaEnum(u"VariableType"_s);
-    for (int i = 0; i < types.keyCount(); ++i)
+    for (int i = 0; i < types.keyCount(); ++i) {
         EXPECT_FALSE(EnumHelper::getVariableTypeNames().value(QString::fromLatin1(types.key(i))).isEmpty());
+    }
     EXPECT_EQ(EnumHelper::getVariableTypeNames().size(), types.keyCount());
     EXPECT_FALSE(EnumHelper::metaEnum(u"NoSuchType"_s).isValid());
 }
@@ -34,8 +35,9 @@ TEST(EnumHelper, BACnetTables)
         const int number = row.section(u'=', 0, 0).toInt();
         EXPECT_EQ(EnumHelper::getBACnetPropIDToNames().value(number), row.section(u'=', 1)) << number;
     }
-    for (const int gap : {8, 18, 80, 95, 105, 194, 198, 216, 223, 236, 312, 324, 466, 508})
+    for (const int gap : {8, 18, 80, 95, 105, 194, 198, 216, 223, 236, 312, 324, 466, 508}) {
         EXPECT_FALSE(EnumHelper::getBACnetPropIDToNames().contains(gap)) << gap;
+    }
     EXPECT_EQ(EnumHelper::getBACnetObjIDToNames().value(8), u"device"_s);
     EXPECT_EQ(EnumHelper::getBACnetObjIDToNames().value(19), u"multi-state-value"_s);
     EXPECT_EQ(EnumHelper::getBACnetObjIDToNames().value(56), u"network-port"_s);

@@ -63,17 +63,20 @@ TEST(TextHelper, QmlValueString)
         {u"x"_s + QChar(0xd83d) + u"y"_s, u"x\\ud83dy"_s},
         {QString(QChar(0xde00)) + QChar(0xd83d), u"\\ude00\\ud83d"_s},
     };
-    for (const auto &row : rows)
+    for (const auto &row : rows) {
         EXPECT_EQ(TextHelper::toQmlValueString(row.text), row.expected) << row.expected.toStdString();
+    }
 }
 
 TEST(TextHelper, ReservedWords)
 {
     for (const QString &word : {u"break"_s, u"yield"_s, u"goto"_s, u"null"_s, u"NaN"_s, u"parseInt"_s,
-                                u"JSON"_s, u"Qt"_s, u"console"_s, u"print"_s, u"qmlViewer"_s})
+                                u"JSON"_s, u"Qt"_s, u"console"_s, u"print"_s, u"qmlViewer"_s}) {
         EXPECT_TRUE(TextHelper::isReservedWord(word)) << word.toStdString();
-    for (const QString &word : {u""_s, u"Break"_s, u"qt"_s, u"pump"_s, u"break "_s})
+    }
+    for (const QString &word : {u""_s, u"Break"_s, u"qt"_s, u"pump"_s, u"break "_s}) {
         EXPECT_FALSE(TextHelper::isReservedWord(word)) << word.toStdString();
+    }
     QStringList words = TextHelper::reservedWords();
     EXPECT_EQ(words.removeDuplicates(), 0);
 }
@@ -146,11 +149,13 @@ TEST(TextHelper, CipherIsStableAndNoticesChanges)
 
 TEST(TextHelper, DeviceNames)
 {
-    for (const QStringView name : {u"aux", u"aux.png", u"COM1", u"Lpt9.tar.gz", u"con.", u"nul", u"prn.a"})
+    for (const QStringView name : {u"aux", u"aux.png", u"COM1", u"Lpt9.tar.gz", u"con.", u"nul", u"prn.a"}) {
         EXPECT_TRUE(TextHelper::isReservedDeviceName(name)) << name.toString().toStdString();
+    }
     for (const QStringView name :
-         {u"", u"aux_image.png", u"image.aux.png", u"COM0", u"com10", u".aux", u"COMX"})
+         {u"", u"aux_image.png", u"image.aux.png", u"COM0", u"com10", u".aux", u"COMX"}) {
         EXPECT_FALSE(TextHelper::isReservedDeviceName(name)) << name.toString().toStdString();
+    }
 }
 
 TEST(TextHelper, FileNameFormat)
@@ -158,8 +163,9 @@ TEST(TextHelper, FileNameFormat)
     EXPECT_TRUE(TextHelper::isValidFileNameFormat(u"a~`!@#$%&'()-_+={}[],. 1.png"));
     EXPECT_TRUE(TextHelper::isValidFileNameFormat(u"Übersicht u\u0308ber \u0939\u093F.png"));
     for (const QStringView name :
-         {u"", u"a", u" a.png", u".png", u"..", u"a/b", u"a\\b", u"a\nb", u"a\U0001F600"})
+         {u"", u"a", u" a.png", u".png", u"..", u"a/b", u"a\\b", u"a\nb", u"a\U0001F600"}) {
         EXPECT_FALSE(TextHelper::isValidFileNameFormat(name)) << name.toString().toStdString();
+    }
     EXPECT_EQ(TextHelper::forbiddenFileNameCharacters(u"a?b*?\U0001F600*^:"),
               QStringList({u"?"_s, u"*"_s, u"\U0001F600"_s, u"^"_s, u":"_s}));
 }

@@ -35,8 +35,9 @@ TEST(ConditionInfo, TextForm)
 TEST(ConditionInfo, Operators)
 {
     QStringList operators;
-    for (const QString &name : ConditionInfo::validConditions())
+    for (const QString &name : ConditionInfo::validConditions()) {
         operators << ConditionInfo::conditionToOperator(name);
+    }
     EXPECT_EQ(operators, (QStringList{u""_s, u">"_s, u">="_s, u"<"_s, u"<="_s}));
     EXPECT_EQ(ConditionInfo::conditionToOperator(u"gt"_s), QString());
 }

@@ -102,8 +102,9 @@ void writesNothingForeign(Info &term)
         term.setValue(value);
         for (int output = 0; output < 9; ++output) {
             const QString code = term.toQmlString(Info::OutputType(output));
-            if (code.isEmpty())
+            if (code.isEmpty()) {
                 continue;
+            }
             EXPECT_TRUE(term.isValidValueType() && term.isValidDataType() && term.isValidValue())
                 << qPrintable(term.toString()) << " gives " << qPrintable(code);
             // Digits are written unchanged, as is the path of a reference.
@@ -201,12 +202,14 @@ TEST(GeneralDataInfo, ValuesOfConstants)
         {Info::CommandData, {u"00ff"_s}, {u""_s, u"0"_s, u"0G"_s}},
     };
     for (const Case &c : cases) {
-        for (const QString &value : c.good)
+        for (const QString &value : c.good) {
             EXPECT_TRUE(AssignInfo(constant(c.type, value)).isValidValue())
                 << c.type << ' ' << qPrintable(value);
-        for (const QString &value : c.bad)
+        }
+        for (const QString &value : c.bad) {
             EXPECT_FALSE(AssignInfo(constant(c.type, value)).isValidValue())
                 << c.type << ' ' << qPrintable(value);
+        }
     }
     EXPECT_TRUE(MathInfo(constant(Info::FloatData, u"SQRT1_2"_s)).isValid(false));
     EXPECT_FALSE(MathInfo(constant(Info::NumberData, u"PI"_s)).isValid(false));

@@ -26,8 +26,9 @@ public:
             u"["_s,   u"]"_s,      u"text"_s,    u"{x}"_s,      u"\\"_s, u"valueString:"_s, u"\""_s,
         };
         QString text;
-        for (int length = number(6); length > 0; --length)
+        for (int length = number(6); length > 0; --length) {
             text += pieces[number(int(pieces.size()))];
+        }
         return text;
     }
 

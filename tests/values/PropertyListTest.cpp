@@ -18,8 +18,9 @@ PropertyChangeInfo change(const QString &element, const QString &property, const
 QString pairs(const PropertyList &list)
 {
     QStringList pairs;
-    for (const PropertyChangeInfo &change : list)
+    for (const PropertyChangeInfo &change : list) {
         pairs << change.elementName() + u'.' + change.propertyName();
+    }
     return pairs.join(u' ');
 }
 
@@ -64,8 +65,9 @@ TEST(PropertyList, AppendKeepsTheFirstOfAPairInOrder)
     EXPECT_EQ(pairs(list), u"Label2.z a.x b.x b.y c.x label1.color label1.text"_s);
     EXPECT_EQ(list.elements().join(u' '), u"Label2 a b c label1"_s);
     PropertyList flat;
-    for (const auto &changes : list.toMap())
+    for (const auto &changes : list.toMap()) {
         flat << changes.values();
+    }
     EXPECT_EQ(flat, list);
 }
 
@@ -126,11 +128,13 @@ TEST(PropertyList, ThousandsInRandomOrderBehaveLikeAMap)
     }
     ASSERT_GT(list.size(), 1000);
     QMap<QString, QString> held;
-    for (const PropertyChangeInfo &entry : list)
+    for (const PropertyChangeInfo &entry : list) {
         held.insert(entry.propertyName(), entry.valueString());
+    }
     EXPECT_EQ(held, expected);
-    for (qsizetype i = 0; i < list.size(); ++i)
+    for (qsizetype i = 0; i < list.size(); ++i) {
         ASSERT_EQ(list.indexOf(list.at(i)), i);
+    }
     EXPECT_EQ(list.take(u"e"_s).size(), expected.size());
 }
 
@@ -139,8 +143,9 @@ TEST(PropertyList, ReadsBackWhatItPrints)
     NastyText nasty(5);
     for (int turn = 0; turn < 2000; ++turn) {
         PropertyList list;
-        for (int length = nasty.number(4); length >= 0; --length)
+        for (int length = nasty.number(4); length >= 0; --length) {
             list << change(u"e"_s + nasty.text(), nasty.text() + u'p', nasty.text());
+        }
         bool ok = false;
         ASSERT_EQ(PropertyList(list.toString(), &ok), list) << list.toString().toStdString();
         ASSERT_TRUE(ok);

@@ -84,8 +84,9 @@ TYPED_TEST(RuntimeLists, SortedByDisplayName)
     list << this->record(u"x"_s, u"Speed"_s) << this->record(u"y"_s, u"Level"_s)
          << this->record(u"z"_s, u"Speed"_s) << this->record(u"w"_s, u"a"_s);
     QStringList names;
-    for (const auto &record : list.toSortedList())
+    for (const auto &record : list.toSortedList()) {
         names << record.property();
+    }
     EXPECT_EQ(names, QStringList({u"y"_s, u"z"_s, u"w"_s}));
 }
 

@@ -22,8 +22,9 @@ UpdateObjectInfo nastyUpdate(NastyText &nasty)
     info.setUpgradeVersion(text());
     info.setElementIndex(nasty.number(4) - 2);
     PropertyInfoList values;
-    for (int length = nasty.number(3); length > 0; --length)
+    for (int length = nasty.number(3); length > 0; --length) {
         values << PropertyInfo(nasty.text(), nasty.text());
+    }
     info.setPropertyValues(values);
     return info;
 }
@@ -72,8 +73,9 @@ TEST(UpdateObjectList, ReadsBackWhatItPrints)
     NastyText nasty(3);
     for (int turn = 0; turn < 2000; ++turn) {
         UpdateObjectList list;
-        for (int length = nasty.number(4); length > 0; --length)
+        for (int length = nasty.number(4); length > 0; --length) {
             list << nastyUpdate(nasty);
+        }
         bool ok = false;
         ASSERT_EQ(UpdateObjectList(list.toString(), &ok), list) << list.toString().toStdString();
         ASSERT_EQ(ok, !list.isEmpty());

@@ -22,10 +22,12 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 QString definedRealForm(double value, int decimals)
 {
     QString text = QString::number(value, 'f', decimals);
-    if (!text.contains(u'.'))
+    if (!text.contains(u'.')) {
         return text;
-    while (text.endsWith(u'0'))
+    }
+    while (text.endsWith(u'0')) {
         text.chop(1);
+    }
     return text.endsWith(u'.') ? text.chopped(1) : text;
 }
 
@@ -49,8 +51,9 @@ struct Row
 template<class Value, size_t Count>
 void expectCanonical(Value (*read)(QStringView, bool *), const Row (&rows)[Count])
 {
-    for (const auto &[text, expected] : rows)
+    for (const auto &[text, expected] : rows) {
         EXPECT_EQ(canonical(read, text), expected) << text.toStdString();
+    }
 }
 
 } // namespace
@@ -111,8 +114,9 @@ TEST(ValueConversion, RealsEqualThoseOfTheToolkit)
         std::memcpy(&value, &bits, sizeof value);
         for (const double number : {whole / 16, whole / 1000, (whole + 0.5) / 1000, value}) {
             const int decimals = i % 12;
-            if (!std::isfinite(number))
+            if (!std::isfinite(number)) {
                 continue;
+            }
             const QString text = ValueConversion::toQmlString(number, decimals);
             ASSERT_EQ(text, definedRealForm(number, decimals)) << number;
             bool ok = false;
@@ -141,8 +145,9 @@ TEST(ValueConversion, RestrictDecimals)
         {1.5, 400, 1.5},
         {infinity, 0, infinity},
     };
-    for (const auto &[value, decimals, expected] : rows)
+    for (const auto &[value, decimals, expected] : rows) {
         EXPECT_EQ(ValueConversion::restrictDecimals(value, decimals), expected) << value << ' ' << decimals;
+    }
     EXPECT_TRUE(std::isnan(ValueConversion::restrictDecimals(notANumber, 2)));
 
     EXPECT_EQ(ValueConversion::restrictDecimals(QSizeF(1.26, 2.24), 1), QSizeF(1.3, 2.2));

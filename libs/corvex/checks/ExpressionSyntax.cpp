@@ -44,8 +44,9 @@ Place within(Place place, Place end)
 ExpressionSyntax::Result checkNesting(QStringView code, int linesBefore = 0)
 {
     const qsizetype place = findTooDeepNesting(code);
-    if (place < 0)
+    if (place < 0) {
         return {};
+    }
     const auto [line, column] = endOf(code.first(place));
     return {false, line + linesBefore, column,
             u"It is nested more than %1 levels deep."_s.arg(deepestNesting)};
@@ -58,8 +59,9 @@ ExpressionSyntax::Result checkNestingOfLines(QStringView document)
     for (const QStringView line : document.tokenize(u'\n')) {
         if (const auto result =
                 line.size() > deepestNesting ? checkNesting(line, number) : ExpressionSyntax::Result();
-            !result.valid)
+            !result.valid) {
             return result;
+        }
         ++number;
     }
     return {};
@@ -98,8 +100,9 @@ ExpressionSyntax::Result ExpressionSyntax::checkStatements(const QString &code)
 ExpressionSyntax::Result ExpressionSyntax::checkDocument(const QString &qml)
 {
     // Without its imports a document that can be read has one error, an unknown type: reading comes first.
-    if (const Result nesting = checkNestingOfLines(qml); !nesting.valid)
+    if (const Result nesting = checkNestingOfLines(qml); !nesting.valid) {
         return nesting;
+    }
     static const QRegularExpression imports(u"^import [^\n]*"_s, QRegularExpression::MultilineOption);
     QQmlComponent component(m_engine.get());
     component.setData(QString(qml).remove(imports).toUtf8(), QUrl(u"qrc:/document.qml"_s));
@@ -127,8 +130,9 @@ bool ExpressionSyntax::isOfUnknownType(const QString &error)
 // end between quotes.
 ExpressionSyntax::Result ExpressionSyntax::compile(const QString &code, bool inParentheses)
 {
-    if (const Result nesting = checkNesting(code); !nesting.valid)
+    if (const Result nesting = checkNesting(code); !nesting.valid) {
         return nesting;
+    }
     const QString block = inParentheses ? u"(\n%1\n)"_s.arg(code) : code;
     const int linesBefore = inParentheses ? 2 : 1;
     const Place end = endOf(code);
@@ -147,13 +151,16 @@ ExpressionSyntax::Result ExpressionSyntax::compile(const QString &code, bool inP
     const auto error = std::find_if(errors.begin(), errors.end(), [&](const QQmlError &candidate) {
         return candidate.line() > linesBefore;
     });
-    if (error == errors.end())
+    if (error == errors.end()) {
         return result;
+    }
     const Place place = within({error->line() - linesBefore, error->column()}, end);
-    if (result.valid)
+    if (result.valid) {
         return {false, place.line, place.column, error->description()};
-    if (place.line == result.line)
+    }
+    if (place.line == result.line) {
         result.column = place.column;
+    }
     return result;
 }
 

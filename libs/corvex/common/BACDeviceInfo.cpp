@@ -29,23 +29,28 @@ constexpr std::array<BACDeviceInfo::NumberField, 3> BACDeviceInfo::numberFields{
 QString BACDeviceInfo::toString() const
 {
     QMap<QString, QString> items;
-    for (const TextField &field : textFields)
+    for (const TextField &field : textFields) {
         items.insert(field.key, TextHelper::convertToBase64(this->*field.member));
-    for (const NumberField &field : numberFields)
+    }
+    for (const NumberField &field : numberFields) {
         items.insert(field.key, QString::number(this->*field.member));
+    }
     QStringList texts;
-    for (auto item = items.cbegin(); item != items.cend(); ++item)
+    for (auto item = items.cbegin(); item != items.cend(); ++item) {
         texts.append(u"%1: %2;"_s.arg(item.key(), item.value()));
+    }
     return texts.join(u' ');
 }
 
 QVariantMap BACDeviceInfo::toVariantMap() const
 {
     QVariantMap items;
-    for (const TextField &field : textFields)
+    for (const TextField &field : textFields) {
         items.insert(field.key, this->*field.member);
-    for (const NumberField &field : numberFields)
+    }
+    for (const NumberField &field : numberFields) {
         items.insert(field.key, this->*field.member);
+    }
     return items;
 }
 
@@ -53,8 +58,9 @@ bool BACDeviceInfo::readItem(QStringView key, QStringView value)
 {
     bool ok = false;
     for (const TextField &field : textFields) {
-        if (key == field.key)
+        if (key == field.key) {
             this->*field.member = TextHelper::convertFromBase64(value.toString(), &ok);
+        }
     }
     for (const NumberField &field : numberFields) {
         if (key == field.key) {
@@ -79,10 +85,12 @@ BACDeviceInfo::BACDeviceInfo(const QString &text, bool *ok)
         keys.insert(key);
     }
     good = good && size_t(keys.size()) == textFields.size() + numberFields.size();
-    if (!good)
+    if (!good) {
         *this = BACDeviceInfo();
-    if (ok)
+    }
+    if (ok) {
         *ok = good;
+    }
 }
 
 } // namespace Halvane::Corvex::Common

@@ -217,8 +217,9 @@ QList<Entry> entriesOf(const Runs &runs)
     for (const Run &run : runs) {
         int number = run.first;
         const QString names = run.names;
-        for (const QString &name : names.split(u' '))
+        for (const QString &name : names.split(u' ')) {
             entries.append({number++, name});
+        }
     }
     return entries;
 }

@@ -13,24 +13,27 @@ QStringList keysOf(const QMetaEnum &enumeration)
 {
     QStringList keys;
     keys.reserve(enumeration.keyCount());
-    for (int i = 0; i < enumeration.keyCount(); ++i)
+    for (int i = 0; i < enumeration.keyCount(); ++i) {
         keys.append(QString::fromLatin1(enumeration.key(i)));
+    }
     return keys;
 }
 
 QMap<QString, QString> textsOf(const QList<BACnetTables::Entry> &entries)
 {
     QMap<QString, QString> texts;
-    for (const BACnetTables::Entry &entry : entries)
+    for (const BACnetTables::Entry &entry : entries) {
         texts.insert(entry.name, BACnetTables::displayText(entry.name));
+    }
     return texts;
 }
 
 QMap<int, QString> namesOf(const QList<BACnetTables::Entry> &entries)
 {
     QMap<int, QString> names;
-    for (const BACnetTables::Entry &entry : entries)
+    for (const BACnetTables::Entry &entry : entries) {
         names.insert(entry.number, entry.name);
+    }
     return names;
 }
 
@@ -68,8 +71,9 @@ const QStringList &EnumHelper::inputOutputTypeNames()
 EnumHelper::InputOutputType EnumHelper::toInputOutputType(QStringView word, bool *ok)
 {
     const qsizetype number = inputOutputTypeNames().indexOf(word);
-    if (ok)
+    if (ok) {
         *ok = number >= 0;
+    }
     return number >= 0 ? static_cast<InputOutputType>(number) : UNUSED;
 }
 

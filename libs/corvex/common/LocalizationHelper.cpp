@@ -36,8 +36,9 @@ bool loadTable(const QString &path, const QString &locale, StringsFile &table, Q
 {
     for (const QString &name : {locale, locale.section(u'_', 0, 0)}) {
         const QString file = u"%1/%2/Localizable.strings"_s.arg(path, name);
-        if (!path.isEmpty() && !name.isEmpty() && QFileInfo::exists(file))
+        if (!path.isEmpty() && !name.isEmpty() && QFileInfo::exists(file)) {
             return table.load(file, error);
+        }
     }
     return true;
 }
@@ -72,8 +73,9 @@ QString LocalizationHelper::currentLocale()
 void LocalizationHelper::setCurrentLocale(const QString &name)
 {
     QString error;
-    if (!apply(localizationsPath(), name, &error))
+    if (!apply(localizationsPath(), name, &error)) {
         qWarning("%s", qUtf8Printable(error));
+    }
 }
 
 bool LocalizationHelper::setLocalizationsPath(const QString &path, QString *error)
@@ -84,8 +86,9 @@ bool LocalizationHelper::setLocalizationsPath(const QString &path, QString *erro
 QString LocalizationHelper::coreString(const QString &english)
 {
     State &shared = state();
-    if (!shared.hasTable.load(std::memory_order_acquire))
+    if (!shared.hasTable.load(std::memory_order_acquire)) {
         return english;
+    }
     const QReadLocker locker(&shared.lock);
     return shared.table.value(english);
 }

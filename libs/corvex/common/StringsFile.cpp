@@ -39,8 +39,9 @@ public:
             const bool entry = readText(key, u"a key in quotes"_s) && skipBlanks() && expect(u'=')
                                && skipBlanks() && readText(value, u"a value in quotes"_s) && skipBlanks()
                                && expect(u';');
-            if (!entry)
+            if (!entry) {
                 return false;
+            }
             m_values.insert(key, value);
         }
         return m_problem.isEmpty();
@@ -60,8 +61,9 @@ private:
 
     bool expect(QChar c)
     {
-        if (atEnd() || m_text[m_at] != c)
+        if (atEnd() || m_text[m_at] != c) {
             return fail(LocalizationHelper::coreString(u"\"%1\" is missing"_s).arg(c));
+        }
         ++m_at;
         return true;
     }
@@ -77,8 +79,9 @@ private:
                 m_at = end < 0 ? m_text.size() : end + 1;
             } else if (rest.startsWith("/*"_L1)) {
                 const qsizetype end = m_text.indexOf("*/"_L1, m_at + 2);
-                if (end < 0)
+                if (end < 0) {
                     return fail(LocalizationHelper::coreString(u"a comment is not closed"_s));
+                }
                 m_at = end + 2;
             } else {
                 break;
@@ -89,19 +92,23 @@ private:
 
     bool readText(QString &text, const QString &what)
     {
-        if (atEnd() || m_text[m_at] != u'"')
+        if (atEnd() || m_text[m_at] != u'"') {
             return fail(LocalizationHelper::coreString(u"%1 is missing"_s).arg(what));
+        }
         ++m_at;
         qsizetype plain = m_at;
         for (; !atEnd() && m_text[m_at] != u'"'; plain = m_at) {
-            while (!atEnd() && m_text[m_at] != u'"' && m_text[m_at] != u'\\')
+            while (!atEnd() && m_text[m_at] != u'"' && m_text[m_at] != u'\\') {
                 ++m_at;
+            }
             text += m_text.sliced(plain, m_at - plain);
-            if (!atEnd() && m_text[m_at] == u'\\' && !readEscape(text))
+            if (!atEnd() && m_text[m_at] == u'\\' && !readEscape(text)) {
                 return false;
+            }
         }
-        if (atEnd())
+        if (atEnd()) {
             return fail(LocalizationHelper::coreString(u"a text is not closed"_s));
+        }
         ++m_at;
         return true;
     }
@@ -111,13 +118,15 @@ private:
         static constexpr QStringView letters = u"nrtabfv\"'\\";
         static constexpr QStringView meanings = u"\n\r\t\a\b\f\v\"'\\";
         const QStringView rest = m_text.sliced(m_at + 1);
-        if (rest.isEmpty())
+        if (rest.isEmpty()) {
             return fail(LocalizationHelper::coreString(u"a text is not closed"_s));
+        }
         if (rest.front() == u'u' || rest.front() == u'U') {
             bool ok = rest.size() >= 5;
             const ushort unit = ok ? hexadecimal(rest.sliced(1, 4), ok) : ushort(0);
-            if (!ok)
+            if (!ok) {
                 return fail(LocalizationHelper::coreString(u"four hexadecimal digits are missing"_s));
+            }
             text += QChar(unit);
             m_at += 6;
             return true;
@@ -143,8 +152,9 @@ private:
 
 bool report(QString *error, const QString &text)
 {
-    if (error)
+    if (error) {
         *error = text;
+    }
     return false;
 }
 
@@ -165,8 +175,9 @@ bool StringsFile::load(const QString &path, QString *error)
         return report(error, u"%1: %2"_s.arg(name, tooLarge));
     }
     QString problem;
-    if (!parse(file.read(mostBytes), &problem))
+    if (!parse(file.read(mostBytes), &problem)) {
         return report(error, u"%1: %2"_s.arg(name, problem));
+    }
     return true;
 }
 
@@ -175,8 +186,9 @@ bool StringsFile::parse(const QByteArray &bytes, QString *error)
     m_values.clear();
     bool ok = false;
     const QString text = decoded(bytes, ok);
-    if (!ok)
+    if (!ok) {
         return report(error, LocalizationHelper::coreString(u"The text is neither UTF-8 nor UTF-16."_s));
+    }
     QHash<QString, QString> values;
     Parser parser(text, values);
     if (!parser.parse()) {

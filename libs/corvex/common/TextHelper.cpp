@@ -43,10 +43,12 @@ QString TextHelper::convertFromBase64(const QString &base64, bool *ok)
     bool good = false;
     const QByteArray bytes = fromStrictBase64(base64, good);
     QString text;
-    if (good)
+    if (good) {
         text = fromStrictUtf8(bytes, good);
-    if (ok)
+    }
+    if (ok) {
         *ok = good;
+    }
     return text;
 }
 
@@ -74,12 +76,15 @@ QString escaped(QChar c)
 bool needsEscape(const QString &text, qsizetype at)
 {
     const QChar c = text.at(at);
-    if (c < u' ' || c == u'"' || c == u'\\' || (c >= u'\x7f' && c <= u'\x9f'))
+    if (c < u' ' || c == u'"' || c == u'\\' || (c >= u'\x7f' && c <= u'\x9f')) {
         return true;
-    if (c.isHighSurrogate())
+    }
+    if (c.isHighSurrogate()) {
         return at + 1 == text.size() || !text.at(at + 1).isLowSurrogate();
-    if (c.isLowSurrogate())
+    }
+    if (c.isLowSurrogate()) {
         return at == 0 || !text.at(at - 1).isHighSurrogate();
+    }
     return c == u'\u2028' || c == u'\u2029' || c == QChar::ByteOrderMark;
 }
 
@@ -90,22 +95,25 @@ QString TextHelper::toQmlValueString(const QString &text)
     QString result;
     qsizetype copied = 0;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (!needsEscape(text, i))
+        if (!needsEscape(text, i)) {
             continue;
+        }
         result += QStringView(text).sliced(copied, i - copied);
         result += escaped(text.at(i));
         copied = i + 1;
     }
-    if (copied == 0)
+    if (copied == 0) {
         return text;
+    }
     result += QStringView(text).sliced(copied);
     return result;
 }
 
 QString TextHelper::normalizeLineEnds(const QString &text)
 {
-    if (!text.contains(u'\r'))
+    if (!text.contains(u'\r')) {
         return text;
+    }
     QString result = text;
     result.replace("\r\n"_L1, "\n"_L1);
     result.replace(u'\r', u'\n');
@@ -145,8 +153,9 @@ const unsigned char *bytesOf(const QByteArray &array)
 
 QString TextHelper::encryptString(const QString &text)
 {
-    if (!sodiumIsReady())
+    if (!sodiumIsReady()) {
         return {};
+    }
     const QByteArray plain = text.toUtf8();
     QByteArray nonce(nonceSize, Qt::Uninitialized);
     crypto_generichash(bytesOf(nonce), static_cast<size_t>(nonceSize), bytesOf(plain),
@@ -171,11 +180,13 @@ QString TextHelper::decryptString(const QString &cipher, bool *ok)
                                                           static_cast<size_t>(bytes.size() - nonceSize),
                                                           nullptr, 0, bytesOf(bytes), cipherKey.data())
                == 0;
-        if (good)
+        if (good) {
             text = fromStrictUtf8(plain, good);
+        }
     }
-    if (ok)
+    if (ok) {
         *ok = good;
+    }
     return text;
 }
 

@@ -44,12 +44,15 @@ qint64 TextHelper::numberFromString(QStringView name, QString *stem)
     constexpr qsizetype mostDigits = 18;
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
     qsizetype begin = name.size();
-    while (begin > 0 && name.size() - begin < mostDigits && isDigit(name[begin - 1]))
+    while (begin > 0 && name.size() - begin < mostDigits && isDigit(name[begin - 1])) {
         --begin;
-    while (begin + 1 < name.size() && name[begin] == u'0')
+    }
+    while (begin + 1 < name.size() && name[begin] == u'0') {
         ++begin;
-    if (stem)
+    }
+    if (stem) {
         *stem = name.first(begin).toString();
+    }
     return begin == name.size() ? -1 : name.sliced(begin).toLongLong();
 }
 
@@ -57,8 +60,9 @@ bool TextHelper::isReservedDeviceName(QStringView fileName)
 {
     const qsizetype dot = fileName.indexOf(u'.');
     const QString name = (dot < 0 ? fileName : fileName.first(dot)).toString().toUpper();
-    if (name.size() == 4 && (name.startsWith("COM"_L1) || name.startsWith("LPT"_L1)))
+    if (name.size() == 4 && (name.startsWith("COM"_L1) || name.startsWith("LPT"_L1))) {
         return name.at(3) >= u'1' && name.at(3) <= u'9';
+    }
     return name == "AUX"_L1 || name == "CON"_L1 || name == "NUL"_L1 || name == "PRN"_L1;
 }
 
@@ -73,8 +77,9 @@ QStringList TextHelper::forbiddenFileNameCharacters(QStringView name)
         i += pair ? 1 : 0;
         const bool allowed = QChar::isLetter(c) || QChar::isMark(c) || QChar::isDigit(c)
                              || (!pair && punctuation.contains(QChar(char16_t(c))));
-        if (!allowed && !forbidden.contains(written))
+        if (!allowed && !forbidden.contains(written)) {
             forbidden.append(written);
+        }
     }
     return forbidden;
 }

@@ -13,8 +13,9 @@ bool isAsciiDigit(QChar c)
 //! The end of the run of digits that begins at i.
 qsizetype digitsEnd(QStringView text, qsizetype i)
 {
-    while (i < text.size() && isAsciiDigit(text[i]))
+    while (i < text.size() && isAsciiDigit(text[i])) {
         ++i;
+    }
     return i;
 }
 
@@ -22,14 +23,16 @@ int compareNumbers(QStringView left, QStringView right)
 {
     const auto significant = [](QStringView digits) {
         qsizetype zeros = 0;
-        while (zeros < digits.size() && digits[zeros] == u'0')
+        while (zeros < digits.size() && digits[zeros] == u'0') {
             ++zeros;
+        }
         return digits.sliced(zeros);
     };
     left = significant(left);
     right = significant(right);
-    if (left.size() != right.size())
+    if (left.size() != right.size()) {
         return left.size() < right.size() ? -1 : 1;
+    }
     return left.compare(right);
 }
 
@@ -42,19 +45,22 @@ int compareNaturally(QStringView left, QStringView right)
         if (isAsciiDigit(left[i]) && isAsciiDigit(right[j])) {
             const qsizetype iEnd = digitsEnd(left, i);
             const qsizetype jEnd = digitsEnd(right, j);
-            if (const int order = compareNumbers(left.sliced(i, iEnd - i), right.sliced(j, jEnd - j)))
+            if (const int order = compareNumbers(left.sliced(i, iEnd - i), right.sliced(j, jEnd - j))) {
                 return order;
+            }
             i = iEnd;
             j = jEnd;
             continue;
         }
         const char16_t a = left[i++].toCaseFolded().unicode();
         const char16_t b = right[j++].toCaseFolded().unicode();
-        if (a != b)
+        if (a != b) {
             return a < b ? -1 : 1;
+        }
     }
-    if (i == left.size() && j == right.size())
+    if (i == left.size() && j == right.size()) {
         return 0;
+    }
     return i == left.size() ? -1 : 1;
 }
 
@@ -82,8 +88,9 @@ bool TextHelper::fileNameLess(QStringView left, QStringView right)
 {
     const QStringView leftStem = stemOf(left);
     const QStringView rightStem = stemOf(right);
-    if (const int order = compareNaturally(leftStem, rightStem))
+    if (const int order = compareNaturally(leftStem, rightStem)) {
         return order < 0;
+    }
     const int order = compareNaturally(left.sliced(leftStem.size()), right.sliced(rightStem.size()));
     return order != 0 ? order < 0 : left.compare(right) < 0;
 }

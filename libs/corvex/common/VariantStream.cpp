@@ -93,8 +93,9 @@ public:
         const auto leaf = std::find_if(leafTypes.begin(), leafTypes.end(), [type](const LeafType &candidate) {
             return candidate.number == type;
         });
-        if (leaf != leafTypes.end() && m_stream.status() == QDataStream::Ok)
+        if (leaf != leafTypes.end() && m_stream.status() == QDataStream::Ok) {
             return leaf->read(m_stream);
+        }
         m_stream.setStatus(QDataStream::ReadCorruptData);
         return {};
     }
@@ -106,8 +107,9 @@ private:
         quint32 count = 0;
         m_stream >> count;
         if (m_stream.status() == QDataStream::Ok
-            && count <= m_stream.device()->bytesAvailable() / leastBytesOfOne)
+            && count <= m_stream.device()->bytesAvailable() / leastBytesOfOne) {
             return count;
+        }
         m_stream.setStatus(QDataStream::ReadCorruptData);
         return 0;
     }
@@ -116,8 +118,9 @@ private:
 
     quint32 readCountOfValues(int depth, qint64 leastBytesOfOne)
     {
-        if (depth > deepestNesting)
+        if (depth > deepestNesting) {
             m_stream.setStatus(QDataStream::ReadCorruptData);
+        }
         return readCount(leastBytesOfOne);
     }
 
@@ -136,8 +139,9 @@ private:
     QVariant readList(int depth)
     {
         QVariantList list;
-        for (quint32 left = readCountOfValues(depth, 5); left > 0 && isGood(); --left)
+        for (quint32 left = readCountOfValues(depth, 5); left > 0 && isGood(); --left) {
             list.append(readValue(depth));
+        }
         return list;
     }
 
@@ -174,8 +178,9 @@ QByteArray uncompressed(const QByteArray &bytes, qint64 mostBytes, bool &ok)
 {
     ok = false;
     z_stream stream{};
-    if (inflateInit(&stream) != Z_OK)
+    if (inflateInit(&stream) != Z_OK) {
         return {};
+    }
     QByteArray packed = bytes.sliced(4);
     stream.next_in = reinterpret_cast<Bytef *>(packed.data());
     stream.avail_in = static_cast<uInt>(packed.size());
@@ -215,8 +220,9 @@ bool canHold(const QVariant &value)
 
 bool write(const QVariant &value, QByteArray &bytes)
 {
-    if (!canHold(value))
+    if (!canHold(value)) {
         return false;
+    }
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     setForm(stream);
     stream << value;
@@ -244,8 +250,9 @@ void MapWriter::beginMap(const QString &key, qsizetype count)
 void MapWriter::add(const QString &key, const QVariant &value)
 {
     m_isGood = m_isGood && canHold(value);
-    if (m_isGood)
+    if (m_isGood) {
         m_stream << key << value;
+    }
 }
 
 void MapWriter::addEncoded(const QByteArray &entries)

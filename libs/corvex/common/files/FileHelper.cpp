@@ -50,11 +50,13 @@ std::filesystem::path physicalPath(const QString &path)
 {
     std::error_code error;
     std::filesystem::path given = std::filesystem::absolute(QFileInfo(path).filesystemFilePath(), error);
-    while (!given.has_filename() && given.has_relative_path())
+    while (!given.has_filename() && given.has_relative_path()) {
         given = given.parent_path();
+    }
     const std::filesystem::path name = given.filename();
-    if (name.empty() || name == "." || name == "..")
+    if (name.empty() || name == "." || name == "..") {
         return std::filesystem::canonical(given, error);
+    }
     const std::filesystem::path folder = std::filesystem::canonical(given.parent_path(), error);
     return error ? std::filesystem::path() : folder / name;
 }
@@ -70,13 +72,16 @@ bool holdsHome(const std::filesystem::path &folder)
 
 bool FileHelper::removeDirectory(const QString &path)
 {
-    if (path.isEmpty())
+    if (path.isEmpty()) {
         return false;
+    }
     const std::filesystem::path folder = physicalPath(path);
-    if (folder.empty())
+    if (folder.empty()) {
         return true;
-    if (!folder.has_relative_path() || holdsHome(folder))
+    }
+    if (!folder.has_relative_path() || holdsHome(folder)) {
         return false;
+    }
     std::error_code error;
     std::filesystem::remove_all(folder, error);
     return !error;
@@ -113,8 +118,9 @@ bool FileHelper::copyFile(const QString &source, const QString &target, QString 
         } else if (from.error() != QFileDevice::NoError) {
             reason = from.errorString();
         }
-        if (!reason.isEmpty())
+        if (!reason.isEmpty()) {
             to.remove();
+        }
     }
     if (!reason.isEmpty() && error) {
         *error = LocalizationHelper::coreString(u"The file \"%1\" cannot be copied to \"%2\": %3"_s)
@@ -132,8 +138,9 @@ QString FileHelper::writeError(const QFileDevice &file)
 bool FileHelper::writeFile(const QString &path, const QByteArray &bytes, QString *error)
 {
     SafeFile file(path);
-    if (!file.openForWriting(error))
+    if (!file.openForWriting(error)) {
         return false;
+    }
     file.write(bytes);
     return file.commit(error);
 }
@@ -157,10 +164,12 @@ QVariant FileHelper::fileToVariant(const QString &path, bool *ok)
     QVariant value;
     QFile file(path);
     bool good = file.open(QIODevice::ReadOnly) && file.size() <= mostBytes;
-    if (good)
+    if (good) {
         value = VariantStream::read(file.read(mostBytes), mostBytes, good);
-    if (ok)
+    }
+    if (ok) {
         *ok = good;
+    }
     return value;
 }
 
@@ -169,8 +178,9 @@ QString FileHelper::md5(const QString &path)
     QFile file(path);
     QCryptographicHash hash(QCryptographicHash::Md5);
     // Do not read pipes and devices; they may never end.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || !hash.addData(&file))
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || !hash.addData(&file)) {
         return {};
+    }
     return QString::fromLatin1(hash.result().toHex());
 }
 
@@ -193,8 +203,9 @@ constexpr auto rasterFormats = std::to_array<ImageFormat>({
 QString rasterFormatOf(const QByteArray &head)
 {
     for (const ImageFormat &format : rasterFormats) {
-        if (head.startsWith(format.firstBytes))
+        if (head.startsWith(format.firstBytes)) {
             return format.name;
+        }
     }
     return {};
 }
@@ -206,8 +217,9 @@ bool hasSvgRoot(QFile &file, bool &wellFormed)
     QXmlStreamReader reader(&file);
     const bool root = reader.readNextStartElement() && reader.name() == "svg"_L1
                       && (reader.namespaceUri().isEmpty() || reader.namespaceUri() == svgNamespace);
-    while (root && !reader.atEnd())
+    while (root && !reader.atEnd()) {
         reader.readNext();
+    }
     wellFormed = root && !reader.hasError();
     return root;
 }
@@ -241,8 +253,9 @@ bool FileHelper::isValidImage(const QString &path, QString *format)
             whole = whole && PictureFile::problem(path).isEmpty();
         }
     }
-    if (format)
+    if (format) {
         *format = found;
+    }
     const QString extension = QFileInfo(path).suffix().toLower();
     return whole && found == (extension == "jpeg"_L1 ? u"jpg"_s : extension);
 }

@@ -118,8 +118,9 @@ bool SafeFile::makeDraft()
 qint64 SafeFile::writeData(const char *data, qint64 size)
 {
     const qint64 written = QFile::writeData(data, size);
-    if (written != size && m_failure.isEmpty())
+    if (written != size && m_failure.isEmpty()) {
         m_failure = FileHelper::writeError(*this);
+    }
     return written;
 }
 

@@ -26,8 +26,9 @@ constexpr int highestLevel = 9;
 
 bool fail(QString *error, const QString &path, const QString &problem)
 {
-    if (error)
+    if (error) {
         *error = u"%1: %2"_s.arg(QDir::toNativeSeparators(path), problem);
+    }
     return false;
 }
 
@@ -120,8 +121,9 @@ bool addEntry(zip_t *archive, const Entry &entry, int level)
     zip_source_t *source = entry.source
                                ? entry.source->create(archive)
                                : zip_source_file(archive, QFile::encodeName(entry.path).constData(), 0, -1);
-    if (!source)
+    if (!source) {
         return false;
+    }
     const zip_int64_t index =
         zip_file_add(archive, entry.name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8);
     if (index < 0) {
@@ -146,16 +148,20 @@ using Source = std::unique_ptr<zip_source_t, SourceDeleter>;
 bool writeSource(zip_source_t *source, const QString &path, QString *error)
 {
     SafeFile file(path);
-    if (!file.openForWriting(error))
+    if (!file.openForWriting(error)) {
         return false;
-    if (zip_source_open(source) != 0)
+    }
+    if (zip_source_open(source) != 0) {
         return fail(error, path, textOf(zip_source_error(source)));
+    }
     QByteArray block(1 << 18, Qt::Uninitialized);
     zip_int64_t read = 0;
-    while ((read = zip_source_read(source, block.data(), static_cast<zip_uint64_t>(block.size()))) > 0)
+    while ((read = zip_source_read(source, block.data(), static_cast<zip_uint64_t>(block.size()))) > 0) {
         file.write(block.constData(), read);
-    if (read < 0)
+    }
+    if (read < 0) {
         return fail(error, path, textOf(zip_source_error(source)));
+    }
     zip_source_close(source);
     return file.commit(error);
 }
@@ -171,25 +177,30 @@ bool setComment(zip_t *archive, const QString &comment)
 bool pack(const QList<Entry> &entries, const QString &zipPath, const QString &comment, int level,
           QString *error)
 {
-    if (entries.isEmpty())
+    if (entries.isEmpty()) {
         return fail(error, zipPath, LocalizationHelper::coreString(u"There is nothing to pack."_s));
+    }
     zip_error_t problem;
     zip_error_init(&problem);
     Source buffer(zip_source_buffer_create(nullptr, 0, 0, &problem));
     Archive archive(buffer ? zip_open_from_source(buffer.get(), ZIP_CREATE | ZIP_TRUNCATE, &problem)
                            : nullptr);
-    if (!archive)
+    if (!archive) {
         return fail(error, zipPath, textOf(&problem));
+    }
     // Closing the archive releases the buffer, which is read after that.
     zip_source_keep(buffer.get());
-    if (!setComment(archive.get(), comment))
+    if (!setComment(archive.get(), comment)) {
         return fail(error, zipPath, LocalizationHelper::coreString(u"The comment is too long."_s));
-    for (const Entry &entry : entries) {
-        if (!addEntry(archive.get(), entry, level))
-            return fail(error, entry.path, textOf(archive.get()));
     }
-    if (zip_close(archive.get()) != 0)
+    for (const Entry &entry : entries) {
+        if (!addEntry(archive.get(), entry, level)) {
+            return fail(error, entry.path, textOf(archive.get()));
+        }
+    }
+    if (zip_close(archive.get()) != 0) {
         return fail(error, zipPath, textOf(archive.get()));
+    }
     archive.release(); // NOLINT(bugprone-unused-return-value): zip_close freed it
     return writeSource(buffer.get(), zipPath, error);
 }
@@ -219,8 +230,9 @@ QString entryName(zip_t *archive, zip_uint64_t index)
 
 bool isSafeName(const QString &name)
 {
-    if (name.isEmpty() || name.startsWith(u'/') || name.contains(u'\\') || name.contains(u':'))
+    if (name.isEmpty() || name.startsWith(u'/') || name.contains(u'\\') || name.contains(u':')) {
         return false;
+    }
     const QStringList parts = (name.endsWith(u'/') ? name.chopped(1) : name).split(u'/');
     return std::none_of(parts.begin(), parts.end(), [](const QString &part) {
         return part.isEmpty() || part == "."_L1 || part == ".."_L1;
@@ -234,8 +246,9 @@ bool isPlainFileOrFolder(zip_t *archive, zip_uint64_t index)
     constexpr zip_uint32_t file = 0100000;
     zip_uint8_t system = 0;
     zip_uint32_t attributes = 0;
-    if (zip_file_get_external_attributes(archive, index, 0, &system, &attributes) != 0)
+    if (zip_file_get_external_attributes(archive, index, 0, &system, &attributes) != 0) {
         return false;
+    }
     const zip_uint32_t kind = (attributes >> 16) & kindMask;
     return system != ZIP_OPSYS_UNIX || kind == 0 || kind == folder || kind == file;
 }
@@ -245,20 +258,23 @@ bool isHarmless(zip_t *archive, const QString &zipPath, QString *error)
 {
     const zip_int64_t count = zip_get_num_entries(archive, 0);
     const QString tooLarge = LocalizationHelper::coreString(u"The unpacked archive would be too large."_s);
-    if (count > mostEntries)
+    if (count > mostEntries) {
         return fail(error, zipPath, tooLarge);
+    }
     QSet<QString> names;
     quint64 total = 0;
     for (zip_int64_t i = 0; i < count; ++i) {
         const auto index = static_cast<zip_uint64_t>(i);
         const QString name = entryName(archive, index);
         zip_stat_t entry;
-        if (zip_stat_index(archive, index, 0, &entry) != 0)
+        if (zip_stat_index(archive, index, 0, &entry) != 0) {
             return fail(error, zipPath, textOf(archive));
+        }
         total += entry.size;
         const bool grows = entry.size / mostGrowth > entry.comp_size;
-        if (grows || entry.size > mostUnpackedBytes || total > mostUnpackedBytes)
+        if (grows || entry.size > mostUnpackedBytes || total > mostUnpackedBytes) {
             return fail(error, zipPath, tooLarge);
+        }
         if (!isSafeName(name) || !isPlainFileOrFolder(archive, index) || names.contains(name)) {
             return fail(
                 error, zipPath,
@@ -276,8 +292,9 @@ bool makeFolder(const QString &root, const QString &relative)
     for (const QString &part : relative.split(u'/', Qt::SkipEmptyParts)) {
         path += u'/' + part;
         const QFileInfo info(path);
-        if (info.isSymLink() || (!info.isDir() && !QDir().mkdir(path)))
+        if (info.isSymLink() || (!info.isDir() && !QDir().mkdir(path))) {
             return false;
+        }
     }
     return true;
 }
@@ -285,27 +302,33 @@ bool makeFolder(const QString &root, const QString &relative)
 bool extract(zip_t *archive, zip_uint64_t index, const QString &path, QString *error)
 {
     zip_stat_t entry;
-    if (zip_stat_index(archive, index, 0, &entry) != 0)
+    if (zip_stat_index(archive, index, 0, &entry) != 0) {
         return fail(error, path, textOf(archive));
+    }
     const EntryFile source(zip_fopen_index(archive, index, 0));
-    if (!source)
+    if (!source) {
         return fail(error, path, textOf(archive));
+    }
     SafeFile file(path);
-    if (!file.openForWriting(error))
+    if (!file.openForWriting(error)) {
         return false;
+    }
     QByteArray block(1 << 18, Qt::Uninitialized);
     quint64 total = 0;
     zip_int64_t read = 0;
     while ((read = zip_fread(source.get(), block.data(), static_cast<zip_uint64_t>(block.size()))) > 0) {
         total += static_cast<quint64>(read);
-        if (total > entry.size)
+        if (total > entry.size) {
             break;
+        }
         file.write(block.constData(), read);
     }
-    if (read < 0)
+    if (read < 0) {
         return fail(error, path, textOf(zip_file_get_error(source.get())));
-    if (total != entry.size)
+    }
+    if (total != entry.size) {
         return fail(error, path, LocalizationHelper::coreString(u"The size of the entry is wrong."_s));
+    }
     return file.commit(error);
 }
 
@@ -316,10 +339,12 @@ bool extractAll(zip_t *archive, const QString &root, QString *error)
         const QString name = entryName(archive, i);
         const QString path = root + u'/' + name;
         const QString folder = name.first(name.lastIndexOf(u'/') + 1);
-        if (!makeFolder(root, folder) || QFileInfo(path).isSymLink())
+        if (!makeFolder(root, folder) || QFileInfo(path).isSymLink()) {
             return fail(error, path, LocalizationHelper::coreString(u"The folder cannot be created."_s));
-        if (!name.endsWith(u'/') && !extract(archive, i, path, error))
+        }
+        if (!name.endsWith(u'/') && !extract(archive, i, path, error)) {
             return false;
+        }
     }
     return true;
 }
@@ -332,8 +357,9 @@ bool ZipHelper::zipWithFiles(const QStringList &files, const QString &zipPath, c
     QList<Entry> entries;
     for (const QString &file : files) {
         const QFileInfo info(file);
-        if (!info.isFile())
+        if (!info.isFile()) {
             return fail(error, file, LocalizationHelper::coreString(u"The file does not exist."_s));
+        }
         entries.append({file, info.fileName()});
     }
     return pack(entries, zipPath, comment, qBound(0, level, highestLevel), error);
@@ -343,16 +369,18 @@ bool ZipHelper::zipWithBytes(const QByteArray &bytes, const QString &name, const
                              const QString &comment, int level, QString *error)
 {
     const DeflatedBytes deflated(bytes, qBound(1, level, highestLevel));
-    if (deflated.deflated().isEmpty())
+    if (deflated.deflated().isEmpty()) {
         return fail(error, zipPath, LocalizationHelper::coreString(u"There is not enough memory."_s));
+    }
     DeflatedSource source(deflated);
     return pack({{zipPath, name, &source}}, zipPath, comment, highestLevel, error);
 }
 
 bool ZipHelper::zipDirectory(const QString &directory, const QString &zipPath, QString *error)
 {
-    if (!QFileInfo(directory).isDir())
+    if (!QFileInfo(directory).isDir()) {
         return fail(error, directory, LocalizationHelper::coreString(u"The folder does not exist."_s));
+    }
     const QDir root(QFileInfo(directory).absoluteFilePath());
     const QString target = QFileInfo(zipPath).absoluteFilePath();
     QList<Entry> entries;
@@ -360,8 +388,9 @@ bool ZipHelper::zipDirectory(const QString &directory, const QString &zipPath, Q
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString path = files.next();
-        if (path != target)
+        if (path != target) {
             entries.append({path, root.relativeFilePath(path)});
+        }
     }
     std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) { return a.name < b.name; });
     return pack(entries, zipPath, {}, defaultLevel, error);
@@ -370,22 +399,26 @@ bool ZipHelper::zipDirectory(const QString &directory, const QString &zipPath, Q
 bool ZipHelper::unzip(const QString &zipPath, const QString &directory, QString *error)
 {
     const Archive archive = openForReading(zipPath, error);
-    if (!archive || !isHarmless(archive.get(), zipPath, error))
+    if (!archive || !isHarmless(archive.get(), zipPath, error)) {
         return false;
-    if (!QDir().mkpath(directory))
+    }
+    if (!QDir().mkpath(directory)) {
         return fail(error, directory, LocalizationHelper::coreString(u"The folder cannot be created."_s));
+    }
     return extractAll(archive.get(), QDir(directory).absolutePath(), error);
 }
 
 QStringList ZipHelper::entryNames(const QString &zipPath, QString *error)
 {
     const Archive archive = openForReading(zipPath, error);
-    if (!archive)
+    if (!archive) {
         return {};
+    }
     QStringList names;
     const auto count = static_cast<zip_uint64_t>(zip_get_num_entries(archive.get(), 0));
-    for (zip_uint64_t i = 0; i < count; ++i)
+    for (zip_uint64_t i = 0; i < count; ++i) {
         names.append(entryName(archive.get(), i));
+    }
     return names;
 }
 

@@ -34,8 +34,9 @@ ConditionInfo::ConditionInfo(const QString &text, bool *ok)
         *this = ConditionInfo(group.value(u"condition1"_s), value1, group.value(u"condition2"_s), value2,
                               operatorName == "OR"_L1);
     }
-    if (ok)
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 QString ConditionInfo::toString() const

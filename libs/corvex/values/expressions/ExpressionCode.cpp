@@ -160,8 +160,9 @@ std::span<const Row> rowsOf(ExpressionRules::Kind kind)
 
 const Row *findRow(ExpressionRules::Kind kind, const Info &term, Info::OutputType output)
 {
-    if (output > Info::NoOutput)
+    if (output > Info::NoOutput) {
         return nullptr;
+    }
     const std::span<const Row> rows = rowsOf(kind);
     const auto row = std::find_if(rows.begin(), rows.end(), [&](const Row &candidate) {
         return candidate.valueType == term.valueType() && (candidate.outputs >> output & 1U) != 0
@@ -177,8 +178,9 @@ void appendNumeral(QString &code, QStringView digits)
         code += digits.front();
         digits = digits.sliced(1);
     }
-    while (digits.size() > 1 && digits[0] == u'0' && digits[1].isDigit())
+    while (digits.size() > 1 && digits[0] == u'0' && digits[1].isDigit()) {
         digits = digits.sliced(1);
+    }
     code += digits;
 }
 
@@ -254,8 +256,9 @@ bool needsConversion(const Info &target, const Info &source)
 bool ExpressionCode::appendAllowed(QString &code, Kind kind, const Info &term, Info::OutputType output)
 {
     const Row *row = findRow(kind, term, output);
-    if (!row)
+    if (!row) {
         return false;
+    }
     const qsizetype size = code.size();
     appendRow(code, *row, term.value());
     return code.size() > size;
@@ -280,8 +283,9 @@ bool ExpressionCode::appendAssignment(QString &code, const Info &target, const I
 {
     QString sourceCode;
     if (!ExpressionRules::allowsUntyped(Kind::Assign, target)
-        || !appendTerm(sourceCode, Kind::Assign, source, output))
+        || !appendTerm(sourceCode, Kind::Assign, source, output)) {
         return false;
+    }
     const QString &path = target.value();
     const QString type = QString::number(int(Info::variableType(target.dataType())));
     if (target.valueType() == Info::VariableValue) {
@@ -289,8 +293,9 @@ bool ExpressionCode::appendAssignment(QString &code, const Info &target, const I
             Common::TextHelper::toQmlValueString(path), sourceCode, type);
         return true;
     }
-    if (target.valueType() != Info::ObjectValue || !path.contains(u'.'))
+    if (target.valueType() != Info::ObjectValue || !path.contains(u'.')) {
         return false;
+    }
     if (isElementItself(target, source)) {
         code += u"qml_%1 = qml_%2;"_s.arg(path, ObjectPath::firstSegment(source.value()));
     } else if (needsConversion(target, source)) {
@@ -305,12 +310,15 @@ bool ExpressionCode::appendAssignment(QString &code, const Info &target, const I
 QString ExpressionCode::parserString(const Info &term)
 {
     const QString &value = term.value();
-    if (term.valueType() == Info::FunctionValue)
+    if (term.valueType() == Info::FunctionValue) {
         return value + ((Words::setsOf(value) & Words::CompleteFunctions) != 0 ? "()"_L1 : "("_L1);
-    if (term.valueType() != Info::ConstantValue)
+    }
+    if (term.valueType() != Info::ConstantValue) {
         return value;
-    if (term.dataType() == Info::StringData)
+    }
+    if (term.dataType() == Info::StringData) {
         return u'"' + Common::TextHelper::toQmlValueString(value) + u'"';
+    }
     QString numeral;
     appendNumeral(numeral, value);
     return numeral;

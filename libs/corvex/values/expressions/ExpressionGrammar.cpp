@@ -58,11 +58,13 @@ private:
 
     bool takeFunction(const Info &function)
     {
-        if (!m_needsOperand || !hasCalls(m_kind))
+        if (!m_needsOperand || !hasCalls(m_kind)) {
             return false;
+        }
         m_isCallEmpty = opensCall(m_kind, function);
-        if (m_isCallEmpty)
+        if (m_isCallEmpty) {
             m_open.append(Opening::Call);
+        }
         m_needsOperand = m_isCallEmpty;
         return true;
     }
@@ -98,8 +100,9 @@ private:
     //! Closes the innermost open bracket.
     bool close()
     {
-        if (m_open.isEmpty())
+        if (m_open.isEmpty()) {
             return false;
+        }
         m_open.removeLast();
         m_needsOperand = false;
         return true;

@@ -28,8 +28,9 @@ constexpr TypeSet only(int type)
 constexpr TypeSet range(int first, int last)
 {
     TypeSet set = 0;
-    for (int type = first; type <= last; ++type)
+    for (int type = first; type <= last; ++type) {
         set |= only(type);
+    }
     return set;
 }
 
@@ -96,8 +97,9 @@ bool isInteger(QStringView text)
 
 bool isNumber(QStringView text)
 {
-    if (text == "NaN"_L1 || text == "Infinity"_L1 || text == "-Infinity"_L1)
+    if (text == "NaN"_L1 || text == "Infinity"_L1 || text == "-Infinity"_L1) {
         return true;
+    }
     // The conversion alone would accept surrounding blanks, "inf" and "nan".
     const bool simple = std::all_of(text.begin(), text.end(), [](QChar c) {
         return (c >= u'0' && c <= u'9') || c == u'.' || c == u'-' || c == u'+' || c == u'e' || c == u'E';
@@ -126,8 +128,9 @@ bool ExpressionRules::isHexadecimal(QStringView digits)
 
 double ExpressionRules::toNumber(const QString &value)
 {
-    if (value == "NaN"_L1)
+    if (value == "NaN"_L1) {
         return std::numeric_limits<double>::quiet_NaN();
+    }
     if (value.endsWith("Infinity"_L1)) {
         constexpr double infinity = std::numeric_limits<double>::infinity();
         return value.startsWith(u'-') ? -infinity : infinity;
@@ -190,8 +193,9 @@ bool ExpressionRules::allowsValue(Kind kind, const Info &term)
         return (Words::setsOf(value) & rule.functions) != 0;
     case Info::ConstantValue:
         if (kind == Kind::Math && term.dataType() == Info::FloatData
-            && (Words::setsOf(value) & Words::MathValues))
+            && (Words::setsOf(value) & Words::MathValues)) {
             return true;
+        }
         return isConstant(term.dataType(), value);
     case Info::CommandValue:
         return isConstant(term.dataType(), value);

@@ -58,8 +58,9 @@ QHash<QString, quint8> collectWords()
 {
     QHash<QString, quint8> sets;
     const auto add = [&sets](const QStringList &words, ExpressionVocabulary::WordSet set) {
-        for (const QString &word : words)
+        for (const QString &word : words) {
             sets[word] |= set;
+        }
     };
     add(ExpressionVocabulary::mathOperators(), ExpressionVocabulary::MathOperators);
     add(ExpressionVocabulary::booleanOperators(), ExpressionVocabulary::BooleanOperators);

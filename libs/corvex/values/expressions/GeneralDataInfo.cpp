@@ -60,8 +60,9 @@ int twoDigits(QStringView text)
 
 QString encodedInteger(const QString &value)
 {
-    if (!ExpressionRules::isConstant(GeneralDataInfo::IntegerData, value))
+    if (!ExpressionRules::isConstant(GeneralDataInfo::IntegerData, value)) {
         return {};
+    }
     const qlonglong number = value.toLongLong();
     const auto magnitude = number < 0 ? 0 - qulonglong(number) : qulonglong(number);
     return (number < 0 ? u"-"_s : QString()) + QString::number(magnitude, 16).toUpper();
@@ -131,24 +132,28 @@ GeneralDataInfo::GeneralDataInfo(ValueType valueType, DataType dataType, const Q
 GeneralDataInfo::GeneralDataInfo(const QString &text, bool *ok)
 {
     const bool parsed = parse(text);
-    if (ok)
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 bool GeneralDataInfo::parse(QStringView text)
 {
-    if (text.size() < headSize)
+    if (text.size() < headSize) {
         return false;
+    }
     const int valueType = twoDigits(text.first(2));
     const int dataType = twoDigits(text.sliced(2, 2));
-    if (valueType < 0 || valueType > CommandValue || dataType < 0 || dataType > CommandData)
+    if (valueType < 0 || valueType > CommandValue || dataType < 0 || dataType > CommandData) {
         return false;
+    }
     const QStringView rest = text.sliced(headSize);
     bool ok = true;
     QString value =
         valueType == ConstantValue ? decodedConstant(DataType(dataType), rest, ok) : rest.toString();
-    if (!ok)
+    if (!ok) {
         return false;
+    }
     m_valueType = ValueType(valueType);
     m_dataType = DataType(dataType);
     m_value = std::move(value);
@@ -187,8 +192,9 @@ bool GeneralDataInfo::isValidValue() const
 
 bool GeneralDataInfo::isValid(bool allowEmpty) const
 {
-    if (!allowEmpty && (m_valueType == NoValue || m_dataType == NoData))
+    if (!allowEmpty && (m_valueType == NoValue || m_dataType == NoData)) {
         return false;
+    }
     return isValidValueType() && isValidDataType() && isValidValue();
 }
 
@@ -196,19 +202,23 @@ QString GeneralDataInfo::toQmlString(const OutputType &output) const
 {
     QString code;
     // A kind without a translation of its own still has its own rules.
-    if (isValidValueType() && isValidDataType() && isValidValue())
+    if (isValidValueType() && isValidDataType() && isValidValue()) {
         ExpressionCode::appendAllowed(code, Kind::General, *this, output);
+    }
     return code;
 }
 
 QVariant GeneralDataInfo::toVariant() const
 {
-    if (m_valueType == NoValue)
+    if (m_valueType == NoValue) {
         return {};
-    if (m_valueType != ConstantValue)
+    }
+    if (m_valueType != ConstantValue) {
         return m_value;
-    if (m_dataType == NoData || !ExpressionRules::isConstant(m_dataType, m_value))
+    }
+    if (m_dataType == NoData || !ExpressionRules::isConstant(m_dataType, m_value)) {
         return {};
+    }
     switch (m_dataType) {
     case BooleanData:
         return m_value == "true"_L1;
@@ -238,10 +248,12 @@ bool GeneralDataInfo::names(NameKind kind) const
 
 QStringView GeneralDataInfo::objectPart() const
 {
-    if (m_valueType == VariableValue)
+    if (m_valueType == VariableValue) {
         return m_value;
-    if (m_valueType != ObjectValue)
+    }
+    if (m_valueType != ObjectValue) {
         return {};
+    }
     const qsizetype dot = m_value.lastIndexOf(u'.');
     return QStringView(m_value).first(dot < 0 ? m_value.size() : dot);
 }
@@ -253,8 +265,9 @@ QString GeneralDataInfo::objectName() const
 
 bool GeneralDataInfo::containsObject(const QString &name, NameKind kind) const
 {
-    if (!names(kind))
+    if (!names(kind)) {
         return false;
+    }
     return m_valueType == VariableValue ? !name.isEmpty() && m_value == name
                                         : ObjectPath::contains(objectPart(), name);
 }
@@ -262,16 +275,18 @@ bool GeneralDataInfo::containsObject(const QString &name, NameKind kind) const
 bool GeneralDataInfo::replaceObject(const QString &name)
 {
     const QStringView objects = objectPart();
-    if (objects.isEmpty() || name.isEmpty())
+    if (objects.isEmpty() || name.isEmpty()) {
         return false;
+    }
     m_value.replace(0, objects.size(), name);
     return true;
 }
 
 bool GeneralDataInfo::replaceObject(const QString &oldName, const QString &newName, NameKind kind)
 {
-    if (newName.isEmpty() || !containsObject(oldName, kind))
+    if (newName.isEmpty() || !containsObject(oldName, kind)) {
         return false;
+    }
     if (m_valueType == VariableValue) {
         m_value = newName;
         return true;
@@ -290,8 +305,9 @@ bool GeneralDataInfo::containsScreenObject(const QString &name) const
 
 bool GeneralDataInfo::replaceScreenObject(const QString &name)
 {
-    if (m_valueType != ObjectValue || m_value.isEmpty() || name.isEmpty())
+    if (m_valueType != ObjectValue || m_value.isEmpty() || name.isEmpty()) {
         return false;
+    }
     m_value.replace(0, ObjectPath::firstSegment(m_value).size(), name);
     return true;
 }
@@ -303,8 +319,9 @@ bool GeneralDataInfo::replaceScreenObject(const QString &oldName, const QString 
 
 bool GeneralDataInfo::removeObject()
 {
-    if (objectPart().isEmpty())
+    if (objectPart().isEmpty()) {
         return false;
+    }
     m_value.clear();
     return true;
 }

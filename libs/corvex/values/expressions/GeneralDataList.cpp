@@ -50,31 +50,38 @@ bool appendExpression(QString &code, const QList<GeneralDataInfo> &terms, Kind k
 {
     const bool selectorsAreBoolean = kind == Kind::Math || kind == Kind::String;
     for (qsizetype i = 0; i < terms.size(); ++i) {
-        if (i > 0)
+        if (i > 0) {
             code += u' ';
+        }
         const qsizetype begin = code.size();
         const bool selects = i + 1 < terms.size() && ExpressionGrammar::isOperator(terms[i + 1], u'?');
-        if (selects && !canSelect(kind, output))
+        if (selects && !canSelect(kind, output)) {
             return false;
+        }
         if (!(selects && selectorsAreBoolean ? ExpressionCode::appendSelector(code, kind, terms[i])
-                                             : ExpressionCode::appendTerm(code, kind, terms[i], output)))
+                                             : ExpressionCode::appendTerm(code, kind, terms[i], output))) {
             return false;
+        }
         const bool followsOperand = i > 0 && ExpressionGrammar::endsOperand(kind, terms[i - 1]);
-        if (isMisread(QStringView(code).sliced(begin), followsOperand))
+        if (isMisread(QStringView(code).sliced(begin), followsOperand)) {
             return false;
+        }
     }
     return true;
 }
 
 bool appendAssignments(QString &code, const QList<GeneralDataInfo> &terms, GeneralDataInfo::OutputType output)
 {
-    if (terms.size() % 2 != 0)
+    if (terms.size() % 2 != 0) {
         return false;
+    }
     for (qsizetype i = 0; i < terms.size(); i += 2) {
-        if (i > 0)
+        if (i > 0) {
             code += u'\n';
-        if (!ExpressionCode::appendAssignment(code, terms[i], terms[i + 1], output))
+        }
+        if (!ExpressionCode::appendAssignment(code, terms[i], terms[i + 1], output)) {
             return false;
+        }
     }
     return true;
 }
@@ -98,8 +105,9 @@ template<typename Change>
 int changeTerms(QList<GeneralDataInfo> &terms, Change change)
 {
     int changed = 0;
-    for (GeneralDataInfo &term : terms)
+    for (GeneralDataInfo &term : terms) {
         changed += change(term) ? 1 : 0;
+    }
     return changed;
 }
 
@@ -128,18 +136,21 @@ GeneralDataList::GeneralDataList(const QString &text, bool *ok)
     } else if (!rest.isEmpty()) {
         parsed = appendParsed(rest);
     }
-    if (!parsed)
+    if (!parsed) {
         m_records.clear();
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 QString GeneralDataList::toString() const
 {
     QString text;
     for (qsizetype i = 0; i < m_records.size(); ++i) {
-        if (i > 0)
+        if (i > 0) {
             text += border;
+        }
         m_records[i].appendTo(text);
     }
     return m_records.size() > 1 ? u'<' + text + u'>' : text;
@@ -182,8 +193,9 @@ bool GeneralDataList::isValidValue(InfoType infoType) const
 
 QString GeneralDataList::toQmlString(const OutputType &output, const InfoType &infoType) const
 {
-    if (!isInfoType(infoType))
+    if (!isInfoType(infoType)) {
         return {};
+    }
     QString code;
     const bool translated = infoType == AssignExpression
                                 ? appendAssignments(code, m_records, output)
@@ -211,8 +223,9 @@ QString GeneralDataList::obstacle(InfoType infoType) const
                        : aboutTerm("Term %1 of the expression, \"%2\", cannot be used in it.", m_records, i);
         }
     }
-    if (isComplete(infoType))
+    if (isComplete(infoType)) {
         return {};
+    }
     const qsizetype misplaced = infoType == AssignExpression
                                     ? m_records.size()
                                     : ExpressionGrammar::firstMisplaced(Kind(infoType), m_records);
@@ -236,30 +249,34 @@ bool GeneralDataList::containsScreenObject(const QString &name) const
 
 int GeneralDataList::replaceObject(const QString &oldName, const QString &newName, NameKind kind)
 {
-    if (!containsObject(oldName, kind))
+    if (!containsObject(oldName, kind)) {
         return 0;
+    }
     return changeTerms(m_records, [&](auto &term) { return term.replaceObject(oldName, newName, kind); });
 }
 
 int GeneralDataList::replaceScreenObject(const QString &oldName, const QString &newName)
 {
-    if (!containsScreenObject(oldName))
+    if (!containsScreenObject(oldName)) {
         return 0;
+    }
     return changeTerms(m_records, [&](auto &term) { return term.replaceScreenObject(oldName, newName); });
 }
 
 int GeneralDataList::removeObject(const QString &name, NameKind kind)
 {
-    if (!containsObject(name, kind))
+    if (!containsObject(name, kind)) {
         return 0;
+    }
     return changeTerms(m_records,
                        [&](auto &term) { return term.containsObject(name, kind) && term.removeObject(); });
 }
 
 int GeneralDataList::removeScreenObject(const QString &name)
 {
-    if (!containsScreenObject(name))
+    if (!containsScreenObject(name)) {
         return 0;
+    }
     return changeTerms(m_records,
                        [&](auto &term) { return term.containsScreenObject(name) && term.removeObject(); });
 }

@@ -37,10 +37,12 @@ PropertyChangeInfo::PropertyChangeInfo(const QString &text, bool *ok)
         return valueOk;
     });
     parsed = parsed && seen == 7;
-    if (parsed)
+    if (parsed) {
         *this = change;
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 QString PropertyChangeInfo::toString() const

@@ -21,17 +21,20 @@ UpdateObjectInfo::UpdateObjectInfo(const QString &text, bool *ok)
         anyEntry = true;
         return info.readEntry(key, value);
     });
-    if (parsed && anyEntry)
+    if (parsed && anyEntry) {
         *this = info;
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed && anyEntry;
+    }
 }
 
 void UpdateObjectInfo::setPropValueMap(const QMap<QString, QString> &values)
 {
     m_propertyValues.clear();
-    for (auto value = values.cbegin(); value != values.cend(); ++value)
+    for (auto value = values.cbegin(); value != values.cend(); ++value) {
         m_propertyValues.append(PropertyInfo(value.key(), value.value()));
+    }
 }
 
 bool UpdateObjectInfo::readEntry(QStringView key, QStringView value)
@@ -56,8 +59,9 @@ bool UpdateObjectInfo::readEntry(QStringView key, QStringView value)
     }};
     const auto *const field =
         std::find_if(fields.begin(), fields.end(), [&](const auto &entry) { return entry.first == key; });
-    if (field == fields.end())
+    if (field == fields.end()) {
         return false;
+    }
     this->*field->second = text;
     return true;
 }
@@ -66,12 +70,14 @@ QString UpdateObjectInfo::toString() const
 {
     QString text;
     const auto append = [&text](QStringView key, const QString &value) {
-        if (!value.isEmpty())
+        if (!value.isEmpty()) {
             GroupText::appendEntry(text, key, NestedText::toField(value));
+        }
     };
     append(u"className", m_className);
-    if (m_index >= 0)
+    if (m_index >= 0) {
         GroupText::appendEntry(text, u"index", QString::number(m_index));
+    }
     append(u"name", m_name);
     append(u"parentObject", m_parentObject);
     append(u"parentProperty", m_parentProperty);

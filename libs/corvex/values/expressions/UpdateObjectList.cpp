@@ -23,20 +23,24 @@ UpdateObjectList::UpdateObjectList(const QString &text, bool *ok)
         } else {
             append(UpdateObjectInfo(item.toString(), &parsed));
         }
-        if (!parsed)
+        if (!parsed) {
             break;
+        }
     }
-    if (!parsed)
+    if (!parsed) {
         clear();
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 QString UpdateObjectList::toString() const
 {
     QString text;
-    for (qsizetype i = 0; i < size(); ++i)
+    for (qsizetype i = 0; i < size(); ++i) {
         text.append(i == 0 ? ""_L1 : " | "_L1).append(at(i).toString());
+    }
     return size() == 1 && text.isEmpty() ? NestedText::loneEmptyItem.toString() : text;
 }
 

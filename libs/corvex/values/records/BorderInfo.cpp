@@ -27,10 +27,12 @@ BorderInfo::BorderInfo(const QString &text, bool *ok)
     };
     const bool parsed =
         GroupText::readTwo(text, "color"_L1, "width"_L1, GroupText::Repeated::LastCounts, read);
-    if (parsed)
+    if (parsed) {
         *this = border;
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 QString BorderInfo::toString() const

@@ -15,10 +15,12 @@ EnumInfo::EnumInfo(const QMetaEnum &enumerator, const QString &key, bool *ok)
 {
     bool known = false;
     const int value = keyToValue(key, &known);
-    if (known)
+    if (known) {
         m_value = value;
-    if (ok)
+    }
+    if (ok) {
         *ok = known;
+    }
 }
 
 bool EnumInfo::valueIsValid(int value) const
@@ -37,13 +39,15 @@ int EnumInfo::keyToValue(const QString &key, bool *ok) const
 {
     for (int i = 0; i < m_enumerator.keyCount(); ++i) {
         if (key == QLatin1StringView(m_enumerator.key(i))) {
-            if (ok)
+            if (ok) {
                 *ok = true;
+            }
             return m_enumerator.value(i);
         }
     }
-    if (ok)
+    if (ok) {
         *ok = false;
+    }
     return -1;
 }
 
@@ -60,8 +64,9 @@ QString EnumInfo::key(int index) const
 
 QString EnumInfo::keyOf(const QString &text) const
 {
-    if (keyIsValid(text))
+    if (keyIsValid(text)) {
         return text;
+    }
     bool isNumber = false;
     const int value = text.toInt(&isNumber);
     return isNumber ? valueToKey(value) : QString();
@@ -69,8 +74,9 @@ QString EnumInfo::keyOf(const QString &text) const
 
 bool EnumInfo::equals(const EnumInfo &other) const
 {
-    if (m_value != other.m_value || m_enumerator.isValid() != other.m_enumerator.isValid())
+    if (m_value != other.m_value || m_enumerator.isValid() != other.m_enumerator.isValid()) {
         return false;
+    }
     return !m_enumerator.isValid()
            || (m_enumerator.enclosingMetaObject() == other.m_enumerator.enclosingMetaObject()
                && std::strcmp(m_enumerator.name(), other.m_enumerator.name()) == 0);

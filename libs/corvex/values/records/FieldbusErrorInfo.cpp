@@ -22,10 +22,12 @@ ReceiveErrorInfo::ReceiveErrorInfo(const QString &text, bool *ok)
     static constexpr std::array keys{"name"_L1, "value"_L1, "type"_L1, "dataFlow"_L1};
     std::array<bool, 4> values{};
     const bool parsed = CommaText::readFields(text, keys, values, ValueConversion::toBoolean);
-    if (parsed)
+    if (parsed) {
         *this = ReceiveErrorInfo(values[0], values[1], values[2], values[3]);
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 QString ReceiveErrorInfo::toString() const
@@ -42,10 +44,12 @@ SendErrorInfo::SendErrorInfo(const QString &text, bool *ok)
     static constexpr std::array keys{"busy"_L1, "offline"_L1};
     std::array<bool, 2> values{};
     const bool parsed = CommaText::readFields(text, keys, values, ValueConversion::toBoolean);
-    if (parsed)
+    if (parsed) {
         *this = SendErrorInfo(values[0], values[1]);
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 QString SendErrorInfo::toString() const

@@ -62,8 +62,9 @@ IdentifierInfo IdentifierInfo::fromText(QStringView text, const IdentifierInfo &
         }
         return true;
     });
-    if (ok)
+    if (ok) {
         *ok = parsed && hasName;
+    }
     if (!parsed || !hasName) {
         return {};
     }
@@ -80,12 +81,15 @@ QString IdentifierInfo::toString() const
 {
     QString text;
     text.reserve(filterType().size() + m_name.size() + scopeType().size() + 36);
-    if (!filterType().isEmpty())
+    if (!filterType().isEmpty()) {
         GroupText::appendEntry(text, u"filterType", filterType());
-    if (!m_name.isEmpty())
+    }
+    if (!m_name.isEmpty()) {
         GroupText::appendEntry(text, u"name", m_name);
-    if (!scopeType().isEmpty())
+    }
+    if (!scopeType().isEmpty()) {
         GroupText::appendEntry(text, u"scopeType", scopeType());
+    }
     return text;
 }
 

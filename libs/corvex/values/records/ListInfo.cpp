@@ -18,19 +18,23 @@ ListInfo::ListInfo(const QString &text, bool *ok)
             start = i + 1;
         }
     }
-    if (hasItems)
+    if (hasItems) {
         append(NestedText::fromField(items.sliced(start).trimmed()));
-    if (ok)
+    }
+    if (ok) {
         *ok = hasItems;
+    }
 }
 
 QString ListInfo::toString() const
 {
-    if (size() == 1 && first().isEmpty())
+    if (size() == 1 && first().isEmpty()) {
         return NestedText::loneEmptyItem.toString();
+    }
     QString text;
-    for (qsizetype i = 0; i < size(); ++i)
+    for (qsizetype i = 0; i < size(); ++i) {
         text.append(i == 0 ? ""_L1 : " | "_L1).append(NestedText::toItem(at(i)));
+    }
     return text;
 }
 

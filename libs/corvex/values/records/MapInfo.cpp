@@ -21,13 +21,16 @@ MapInfo::MapInfo(const QString &text, bool *ok)
             return true;
         };
         parsed = GroupText::readTwo(item, "key"_L1, "value"_L1, GroupText::Repeated::LastCounts, read);
-        if (!parsed)
+        if (!parsed) {
             break;
+        }
     }
-    if (parsed)
+    if (parsed) {
         m_entries = entries;
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 qsizetype MapInfo::remove(const QString &key)
@@ -44,8 +47,9 @@ QString MapInfo::take(const QString &key)
 QString MapInfo::key(const QString &value, const QString &defaultKey) const
 {
     for (const Entry &entry : m_entries) {
-        if (entry.second == value)
+        if (entry.second == value) {
             return entry.first;
+        }
     }
     return defaultKey;
 }
@@ -60,8 +64,9 @@ QStringList MapInfo::values(const QString &key) const
 {
     QStringList found;
     for (const Entry &entry : m_entries) {
-        if (entry.first == key)
+        if (entry.first == key) {
             found.append(entry.second);
+        }
     }
     return found;
 }
@@ -85,8 +90,9 @@ QStringList MapInfo::keys() const
 {
     QStringList keys;
     keys.reserve(m_entries.size());
-    for (const Entry &entry : m_entries)
+    for (const Entry &entry : m_entries) {
         keys.append(entry.first);
+    }
     return keys;
 }
 
@@ -94,15 +100,17 @@ QStringList MapInfo::values() const
 {
     QStringList values;
     values.reserve(m_entries.size());
-    for (const Entry &entry : m_entries)
+    for (const Entry &entry : m_entries) {
         values.append(entry.second);
+    }
     return values;
 }
 
 MapInfo &MapInfo::operator<<(const QMap<QString, QString> &map)
 {
-    for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
         insert(entry.key(), entry.value());
+    }
     return *this;
 }
 
@@ -121,8 +129,9 @@ MapInfo &MapInfo::operator<<(const Entry &entry)
 MapInfo &MapInfo::operator<<(const QPair<QStringList, QStringList> &keysAndValues)
 {
     const auto &[keys, values] = keysAndValues;
-    for (qsizetype i = 0; i < qMin(keys.size(), values.size()); ++i)
+    for (qsizetype i = 0; i < qMin(keys.size(), values.size()); ++i) {
         insert(keys[i], values[i]);
+    }
     return *this;
 }
 
@@ -139,8 +148,9 @@ QString MapInfo::toString() const
 qsizetype MapInfo::lastIndexOf(const QString &key) const
 {
     for (qsizetype i = m_entries.size() - 1; i >= 0; --i) {
-        if (m_entries[i].first == key)
+        if (m_entries[i].first == key) {
             return i;
+        }
     }
     return -1;
 }

@@ -21,8 +21,9 @@ QStringList readFilter(QStringView text)
     QStringList classNames;
     for (QStringView part : qTokenize(text, u'|')) {
         part = part.trimmed();
-        if (!part.isEmpty())
+        if (!part.isEmpty()) {
             classNames.append(part.toString());
+        }
     }
     return classNames;
 }
@@ -55,10 +56,12 @@ ObjectLinkInfo::ObjectLinkInfo(const QString &text, bool *ok)
         }
         return true;
     });
-    if (parsed && anyEntry)
+    if (parsed && anyEntry) {
         *this = link;
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed && anyEntry;
+    }
 }
 
 void ObjectLinkInfo::setFilterType(const QString &className)
@@ -71,12 +74,14 @@ QString ObjectLinkInfo::toString() const
     QString text;
     text.reserve(m_objectId.size() + m_scopeType.size() + 24 * m_filterType.size() + 40);
     text.append("filterType: "_L1);
-    for (qsizetype i = 0; i < m_filterType.size(); ++i)
+    for (qsizetype i = 0; i < m_filterType.size(); ++i) {
         text.append(i == 0 ? ""_L1 : " | "_L1).append(m_filterType[i]);
+    }
     text.append(u';');
     GroupText::appendEntry(text, u"objectId", m_objectId);
-    if (!m_scopeType.isEmpty())
+    if (!m_scopeType.isEmpty()) {
         GroupText::appendEntry(text, u"scopeType", m_scopeType);
+    }
     return text;
 }
 

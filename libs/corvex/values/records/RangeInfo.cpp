@@ -23,10 +23,12 @@ RangeInfo::RangeInfo(const QString &text, bool *ok)
     };
     const bool parsed =
         GroupText::readTwo(text, "maximum"_L1, "minimum"_L1, GroupText::Repeated::LastCounts, read);
-    if (parsed)
+    if (parsed) {
         *this = range;
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 QString RangeInfo::toString() const

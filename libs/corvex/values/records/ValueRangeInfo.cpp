@@ -26,10 +26,12 @@ ValueRangeInfo::ValueRangeInfo(const QString &text, bool *ok)
     static constexpr std::array keys{"value1"_L1, "value2"_L1, "min"_L1, "max"_L1};
     std::array<double, 4> values{};
     const bool parsed = CommaText::readFields(text, keys, values, ValueConversion::toReal);
-    if (parsed)
+    if (parsed) {
         *this = ValueRangeInfo(values[0], values[1], values[2], values[3]);
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 QString ValueRangeInfo::toString() const

@@ -22,10 +22,12 @@ PropertyInfo::PropertyInfo(const QString &text, bool *ok)
     };
     const bool parsed =
         GroupText::readTwo(text, "propName"_L1, "propValue"_L1, GroupText::Repeated::LastCounts, read);
-    if (parsed)
+    if (parsed) {
         *this = info;
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 QString PropertyInfo::toString() const

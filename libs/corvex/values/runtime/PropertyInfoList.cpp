@@ -14,20 +14,24 @@ PropertyInfoList::PropertyInfoList(const QString &text, bool *ok)
     bool parsed = true;
     for (const QStringView item : qTokenize(text.trimmed(), u'|')) {
         append(PropertyInfo(item.toString(), &parsed));
-        if (!parsed)
+        if (!parsed) {
             break;
+        }
     }
-    if (!parsed)
+    if (!parsed) {
         clear();
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 QString PropertyInfoList::toString() const
 {
     QString text;
-    for (const PropertyInfo &item : *this)
+    for (const PropertyInfo &item : *this) {
         text.append(text.isEmpty() ? ""_L1 : " | "_L1).append(item.toString());
+    }
     return text;
 }
 

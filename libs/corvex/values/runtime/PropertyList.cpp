@@ -15,13 +15,16 @@ PropertyList::PropertyList(const QString &text, bool *ok)
     bool parsed = true;
     for (const QStringView item : qTokenize(text.trimmed(), u'|')) {
         changes.append(PropertyChangeInfo(item.toString(), &parsed));
-        if (!parsed)
+        if (!parsed) {
             break;
+        }
     }
-    if (parsed)
+    if (parsed) {
         append(changes);
-    if (ok)
+    }
+    if (ok) {
         *ok = parsed;
+    }
 }
 
 PropertyList &PropertyList::operator<<(const PropertyChangeInfo &change)
@@ -39,12 +42,14 @@ PropertyList &PropertyList::operator<<(const QList<PropertyChangeInfo> &changes)
 bool PropertyList::replace(const QString &element, const QList<PropertyChangeInfo> &changes)
 {
     PropertyList replaced = *this;
-    if (replaced.take(element).isEmpty())
+    if (replaced.take(element).isEmpty()) {
         return false;
+    }
     const qsizetype complete = replaced.size() + changes.size();
     replaced.append(changes);
-    if (replaced.size() != complete)
+    if (replaced.size() != complete) {
         return false;
+    }
     *this = replaced;
     return true;
 }
@@ -75,8 +80,9 @@ QList<PropertyChangeInfo> PropertyList::take(const QString &element)
 {
     const QList<PropertyChangeInfo> taken = values(element);
     const qsizetype first = m_changes.placeOf({element, {}});
-    for (qsizetype i = 0; i < taken.size(); ++i)
+    for (qsizetype i = 0; i < taken.size(); ++i) {
         m_changes.takeAt(first);
+    }
     return taken;
 }
 
@@ -116,8 +122,9 @@ QStringList PropertyList::elements() const
 {
     QStringList names;
     for (const PropertyChangeInfo &change : *this) {
-        if (names.isEmpty() || names.last() != change.elementName())
+        if (names.isEmpty() || names.last() != change.elementName()) {
             names.append(change.elementName());
+        }
     }
     return names;
 }
@@ -125,16 +132,18 @@ QStringList PropertyList::elements() const
 PropertyList::Map PropertyList::toMap() const
 {
     Map map;
-    for (const PropertyChangeInfo &change : *this)
+    for (const PropertyChangeInfo &change : *this) {
         map[change.elementName()].insert(change.propertyName(), change);
+    }
     return map;
 }
 
 QString PropertyList::toString() const
 {
     QString text;
-    for (const PropertyChangeInfo &change : *this)
+    for (const PropertyChangeInfo &change : *this) {
         text.append(text.isEmpty() ? ""_L1 : " | "_L1).append(change.toString());
+    }
     return text;
 }
 

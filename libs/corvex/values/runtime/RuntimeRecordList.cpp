@@ -34,8 +34,9 @@ QStringList RuntimeRecordList<Record>::names() const
 {
     QStringList names;
     names.reserve(size());
-    for (const Record &record : *this)
+    for (const Record &record : *this) {
         names.append(record.property());
+    }
     return names;
 }
 
@@ -43,8 +44,9 @@ template<class Record>
 QMap<QString, Record> RuntimeRecordList<Record>::toMap() const
 {
     QMap<QString, Record> map;
-    for (const Record &record : *this)
+    for (const Record &record : *this) {
         map.insert(map.cend(), record.property(), record);
+    }
     return map;
 }
 
@@ -52,8 +54,9 @@ template<class Record>
 QList<Record> RuntimeRecordList<Record>::toSortedList() const
 {
     QMap<QString, Record> shown;
-    for (const Record &record : *this)
+    for (const Record &record : *this) {
         shown.insert(record.displayName(), record);
+    }
     return shown.values();
 }
 

@@ -22,17 +22,21 @@ bool readFields(QStringView text, const std::array<QLatin1StringView, Count> &ke
     for (QStringView part : qTokenize(text.trimmed(), u',')) {
         part = part.trimmed();
         const qsizetype colon = part.indexOf(u':');
-        if (colon < 0 || part.indexOf(u':', colon + 1) >= 0)
+        if (colon < 0 || part.indexOf(u':', colon + 1) >= 0) {
             return false;
+        }
         size_t index = 0;
-        while (index < Count && part.first(colon) != keys[index])
+        while (index < Count && part.first(colon) != keys[index]) {
             ++index;
-        if (index == Count || seen[index])
+        }
+        if (index == Count || seen[index]) {
             return false;
+        }
         bool ok = false;
         values[index] = read(part.sliced(colon + 1).trimmed(), &ok);
-        if (!ok)
+        if (!ok) {
             return false;
+        }
         seen[index] = true;
         ++fieldCount;
     }

@@ -17,10 +17,12 @@ inline QStringView withoutBlanks(QStringView text)
 {
     const QChar *first = text.begin();
     const QChar *last = text.end();
-    while (first != last && first->isSpace())
+    while (first != last && first->isSpace()) {
         ++first;
-    while (last != first && (last - 1)->isSpace())
+    }
+    while (last != first && (last - 1)->isSpace()) {
         --last;
+    }
     return {first, last};
 }
 
@@ -34,14 +36,16 @@ struct CORVEX_EXPORT Item
     static Item takeFrom(QStringView &rest)
     {
         qsizetype start = 0;
-        while (start < rest.size() && rest[start].isSpace())
+        while (start < rest.size() && rest[start].isSpace()) {
             ++start;
+        }
         Item item;
         qsizetype count = 0;
         qsizetype i = start;
         for (; i < rest.size() && rest[i] != u';'; ++i) {
-            if (rest[i] == u':' && count < 3)
+            if (rest[i] == u':' && count < 3) {
                 item.colons[count++] = i - start;
+            }
         }
         item.text = withoutBlanks(rest.sliced(start, i - start));
         rest = rest.sliced(std::min(i + 1, rest.size()));
@@ -64,8 +68,9 @@ bool forEachEntry(QStringView text, Entry &&entry)
     bool inValueString = false;
     QString valueString;
     const auto appendPiece = [&](QStringView piece) {
-        if (inValueString)
+        if (inValueString) {
             valueString.append(QLatin1StringView("; "));
+        }
         valueString.append(piece);
         inValueString = true;
     };
@@ -74,8 +79,9 @@ bool forEachEntry(QStringView text, Entry &&entry)
         const bool isNothing = rest.front() == u';';
         const Item item = Item::takeFrom(rest);
         anyItem = anyItem || !isNothing;
-        if (item.text.isEmpty())
+        if (item.text.isEmpty()) {
             continue;
+        }
         const auto [colon, second, third] = item.colons;
         const QStringView key = colon < 0 ? item.text : withoutBlanks(item.text.first(colon));
         if (second >= 0 && key.compare(QLatin1StringView("valueString"), Qt::CaseInsensitive) == 0) {
@@ -86,8 +92,9 @@ bool forEachEntry(QStringView text, Entry &&entry)
             return false;
         }
     }
-    if (!inValueString)
+    if (!inValueString) {
         return anyItem;
+    }
     valueString.append(u';');
     return entry(QStringView(u"valueString"), QStringView(valueString));
 }
@@ -110,8 +117,9 @@ bool readTwo(QStringView text, QLatin1StringView first, QLatin1StringView second
     unsigned good = 0;
     const bool parsed = forEachEntry(text, [&](QStringView key, QStringView value) {
         const unsigned bit = key == first ? 1U : key == second ? 2U : 0U;
-        if (bit == 0 || (repeated == Repeated::Refused && (seen & bit) != 0))
+        if (bit == 0 || (repeated == Repeated::Refused && (seen & bit) != 0)) {
             return false;
+        }
         seen |= bit;
         good = read(bit == 2, value) ? good | bit : good & ~bit;
         return true;

@@ -117,12 +117,14 @@ private:
 template<class Traits>
 QList<typename Traits::Record> KeyedRecords<Traits>::list() const
 {
-    if (m_blocks.size() == 1)
+    if (m_blocks.size() == 1) {
         return m_blocks.constFirst();
+    }
     QList<Record> records;
     records.reserve(m_size);
-    for (const Block &block : m_blocks)
+    for (const Block &block : m_blocks) {
         records.append(block);
+    }
     return records;
 }
 
@@ -131,8 +133,9 @@ void KeyedRecords<Traits>::setList(const QList<Record> &records)
 {
     m_blocks.clear();
     m_size = records.size();
-    for (qsizetype first = 0; first < m_size; first += fullBlock)
+    for (qsizetype first = 0; first < m_size; first += fullBlock) {
         m_blocks.append(m_size <= fullBlock ? records : records.mid(first, fullBlock));
+    }
 }
 
 template<class Traits>
@@ -142,9 +145,10 @@ typename KeyedRecords<Traits>::Place KeyedRecords<Traits>::find(Key key) const
     const auto next = std::partition_point(m_blocks.cbegin(), m_blocks.cend(), [&](const Block &block) {
         return isBelow(block.constLast(), key);
     });
-    if (next == m_blocks.cend())
+    if (next == m_blocks.cend()) {
         return {std::max<qsizetype>(m_blocks.size() - 1, 0),
                 m_blocks.isEmpty() ? 0 : m_blocks.constLast().size()};
+    }
     return {next - m_blocks.cbegin(),
             std::lower_bound(next->cbegin(), next->cend(), key, isBelow) - next->cbegin()};
 }
@@ -153,8 +157,9 @@ template<class Traits>
 typename KeyedRecords<Traits>::Place KeyedRecords<Traits>::locate(qsizetype index) const
 {
     Place place{0, index};
-    while (place.offset >= m_blocks.at(place.block).size())
+    while (place.offset >= m_blocks.at(place.block).size()) {
         place.offset -= m_blocks.at(place.block++).size();
+    }
     return place;
 }
 
@@ -185,8 +190,9 @@ qsizetype KeyedRecords<Traits>::placeOf(Key key) const
 {
     const Place place = find(key);
     qsizetype index = place.offset;
-    for (qsizetype block = 0; block < place.block; ++block)
+    for (qsizetype block = 0; block < place.block; ++block) {
         index += m_blocks.at(block).size();
+    }
     return index;
 }
 
@@ -201,10 +207,12 @@ void KeyedRecords<Traits>::add(const Record &record)
 {
     const Key key = Traits::key(record);
     const Place place = find(key);
-    if (!Traits::isComplete(key) || holds(place, key))
+    if (!Traits::isComplete(key) || holds(place, key)) {
         return;
-    if (m_blocks.isEmpty())
+    }
+    if (m_blocks.isEmpty()) {
         m_blocks.append(Block());
+    }
     Block &block = m_blocks[place.block];
     block.insert(place.offset, record);
     ++m_size;
@@ -234,8 +242,9 @@ bool KeyedRecords<Traits>::replaceAt(qsizetype index, const Record &record)
 {
     const Key key = Traits::key(record);
     const qsizetype other = indexOf(key);
-    if (index < 0 || index >= size() || !Traits::isComplete(key) || (other >= 0 && other != index))
+    if (index < 0 || index >= size() || !Traits::isComplete(key) || (other >= 0 && other != index)) {
         return false;
+    }
     const Record replacement = record; // It may be a reference to the record that is removed.
     takeAt(index);
     add(replacement);
@@ -245,12 +254,14 @@ bool KeyedRecords<Traits>::replaceAt(qsizetype index, const Record &record)
 template<class Traits>
 typename Traits::Record KeyedRecords<Traits>::takeAt(qsizetype index)
 {
-    if (index < 0 || index >= size())
+    if (index < 0 || index >= size()) {
         return Record();
+    }
     const Place place = locate(index);
     const Record taken = m_blocks[place.block].takeAt(place.offset);
-    if (m_blocks.at(place.block).isEmpty())
+    if (m_blocks.at(place.block).isEmpty()) {
         m_blocks.removeAt(place.block);
+    }
     --m_size;
     return taken;
 }

@@ -18,14 +18,16 @@ struct Escape
 //! The byte of the "%XX" at \a index; -1 if there is none.
 int escapedByte(QStringView text, qsizetype index)
 {
-    if (index + 3 > text.size() || text[index] != u'%')
+    if (index + 3 > text.size() || text[index] != u'%') {
         return -1;
+    }
     int byte = 0;
     for (const QChar c : text.sliced(index + 1, 2)) {
         const char16_t digit = c.unicode() | 0x20; // converts letters to lower case
         const bool isDecimal = c >= u'0' && c <= u'9';
-        if (!isDecimal && (digit < u'a' || digit > u'f'))
+        if (!isDecimal && (digit < u'a' || digit > u'f')) {
             return -1;
+        }
         byte = byte * 16 + (isDecimal ? c.unicode() - u'0' : digit - u'a' + 10);
     }
     return byte;
@@ -40,16 +42,19 @@ bool isEscapable(QChar c)
 Escape escapeAt(QStringView text, qsizetype index)
 {
     const int lead = escapedByte(text, index);
-    if (lead < 0)
+    if (lead < 0) {
         return {};
+    }
     const qsizetype byteCount = lead < 0x80 ? 1 : lead >= 0xC2 && lead < 0xE0 ? 2 : lead >> 4 == 0xE ? 3 : 0;
-    if (byteCount == 1)
+    if (byteCount == 1) {
         return isEscapable(QChar(lead)) ? Escape{QChar(lead), 3} : Escape{};
+    }
     QByteArray bytes(1, char(lead));
     for (qsizetype i = 1; i < byteCount; ++i) {
         const int byte = escapedByte(text, index + 3 * i);
-        if (byte >> 6 != 2)
+        if (byte >> 6 != 2) {
             return {};
+        }
         bytes.append(char(byte));
     }
     const QString decoded = QString::fromUtf8(bytes);
@@ -68,8 +73,9 @@ void appendEscaped(QString &text, QChar character)
         return;
     }
     const QByteArray bytes = QString(character).toUtf8();
-    for (const char byte : bytes)
+    for (const char byte : bytes) {
         appendByte(uchar(byte));
+    }
 }
 
 //! Blanks that XML cannot store, not even as a character reference.
@@ -90,8 +96,9 @@ QString escaped(const QString &text, IsSpecial &&isSpecial)
     qsizetype copied = 0;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const bool looksEscaped = text[i] == u'%' && escapeAt(text, i).length > 0;
-        if (!looksEscaped && !isOuterBlank(text, i) && !isUnstorable(text[i]) && !isSpecial(i))
+        if (!looksEscaped && !isOuterBlank(text, i) && !isUnstorable(text[i]) && !isSpecial(i)) {
             continue;
+        }
         result.append(QStringView(text).sliced(copied, i - copied));
         appendEscaped(result, text[i]);
         copied = i + 1;
@@ -121,8 +128,9 @@ QString NestedText::fromField(QStringView field)
             text.append(field[i]);
             continue;
         }
-        if (!escape.character.isNull())
+        if (!escape.character.isNull()) {
             text.append(escape.character);
+        }
         i += escape.length - 1;
     }
     return text;

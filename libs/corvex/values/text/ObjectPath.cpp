@@ -8,13 +8,15 @@ namespace {
 //! The position of the first sequence of whole segments equal to \a name; -1 if there is none.
 qsizetype indexOfSegments(QStringView path, QStringView name, qsizetype from = 0)
 {
-    if (name.isEmpty())
+    if (name.isEmpty()) {
         return -1;
+    }
     qsizetype place = path.indexOf(name, from);
     while (place >= 0) {
         const qsizetype end = place + name.size();
-        if ((place == 0 || path[place - 1] == u'.') && (end == path.size() || path[end] == u'.'))
+        if ((place == 0 || path[place - 1] == u'.') && (end == path.size() || path[end] == u'.')) {
             return place;
+        }
         place = path.indexOf(name, place + 1);
     }
     return -1;
@@ -28,15 +30,17 @@ bool ObjectPath::isValid(QStringView path)
     bool firstSegment = true;
     for (const QChar c : path) {
         if (c == u'.') {
-            if (segmentStart)
+            if (segmentStart) {
                 return false;
+            }
             segmentStart = true;
             firstSegment = false;
             continue;
         }
         const bool digit = c.isDigit();
-        if (!c.isLetter() && c != u'_' && (!digit || (segmentStart && !firstSegment)))
+        if (!c.isLetter() && c != u'_' && (!digit || (segmentStart && !firstSegment))) {
             return false;
+        }
         segmentStart = false;
     }
     return !segmentStart;
@@ -61,8 +65,9 @@ bool ObjectPath::contains(QStringView path, QStringView name)
 bool ObjectPath::replace(QString &path, QStringView oldName, QStringView newName)
 {
     qsizetype place = indexOfSegments(path, oldName);
-    if (place < 0 || newName.isEmpty())
+    if (place < 0 || newName.isEmpty()) {
         return false;
+    }
     QString result;
     qsizetype copied = 0;
     while (place >= 0) {

@@ -79,8 +79,9 @@ protected:
 template<class Record>
 bool RecordList<Record>::insert(qsizetype index, const Record &record)
 {
-    if (index < 0 || index > size())
+    if (index < 0 || index > size()) {
         return false;
+    }
     m_records.insert(index, record);
     return true;
 }
@@ -88,8 +89,9 @@ bool RecordList<Record>::insert(qsizetype index, const Record &record)
 template<class Record>
 bool RecordList<Record>::replace(qsizetype index, const Record &record)
 {
-    if (index < 0 || index >= size())
+    if (index < 0 || index >= size()) {
         return false;
+    }
     m_records[index] = record;
     return true;
 }

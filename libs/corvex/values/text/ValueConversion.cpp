@@ -27,8 +27,9 @@ using RealBuffer = std::array<char, 24>;
 
 void report(bool *ok, bool success)
 {
-    if (ok)
+    if (ok) {
         *ok = success;
+    }
 }
 
 //! Rounds magnitude * factor to a whole number as QString::number() does: uses the exact product, not the
@@ -36,8 +37,9 @@ void report(bool *ok, bool success)
 bool scaleAndRound(double magnitude, double factor, quint64 &scaled)
 {
     const double product = magnitude * factor;
-    if (!(product < largestExact))
+    if (!(product < largestExact)) {
         return false;
+    }
     const double whole = std::floor(product);
     const double fraction = product - whole;
     const bool up = fraction > 0.5 || (fraction == 0.5 && std::fma(magnitude, factor, -product) >= 0);
@@ -51,20 +53,24 @@ QLatin1StringView printOrdinaryReal(double value, int decimals, RealBuffer &buff
 {
     quint64 scaled = 0;
     if (decimals >= int(powersOfTen.size())
-        || !scaleAndRound(std::abs(value), powersOfTen[size_t(decimals)], scaled))
+        || !scaleAndRound(std::abs(value), powersOfTen[size_t(decimals)], scaled)) {
         return {};
+    }
     const auto unit = quint64(powersOfTen[size_t(decimals)]);
     char *end = buffer.data();
-    if (std::signbit(value))
+    if (std::signbit(value)) {
         *end++ = '-';
+    }
     end = std::to_chars(end, buffer.data() + buffer.size(), scaled / unit).ptr;
     quint64 fraction = scaled % unit;
     if (fraction != 0) {
-        for (; fraction % 10 == 0; --decimals)
+        for (; fraction % 10 == 0; --decimals) {
             fraction /= 10;
+        }
         *end = '.';
-        for (char *digit = end + decimals; digit != end; --digit, fraction /= 10)
+        for (char *digit = end + decimals; digit != end; --digit, fraction /= 10) {
             *digit = char('0' + fraction % 10);
+        }
         end += decimals + 1;
     }
     return {buffer.data(), end};
@@ -73,16 +79,20 @@ QLatin1StringView printOrdinaryReal(double value, int decimals, RealBuffer &buff
 QString realForm(double value, int decimals)
 {
     RealBuffer buffer;
-    if (const QLatin1StringView text = printOrdinaryReal(value, decimals, buffer); !text.isEmpty())
+    if (const QLatin1StringView text = printOrdinaryReal(value, decimals, buffer); !text.isEmpty()) {
         return text;
+    }
     QString text = QString::number(value, 'f', decimals);
-    if (value == 0 && std::signbit(value))
+    if (value == 0 && std::signbit(value)) {
         text.prepend(u'-');
+    }
     if (text.contains(u'.')) {
-        while (text.endsWith(u'0'))
+        while (text.endsWith(u'0')) {
             text.chop(1);
-        if (text.endsWith(u'.'))
+        }
+        if (text.endsWith(u'.')) {
             text.chop(1);
+        }
     }
     return text;
 }
@@ -95,8 +105,9 @@ bool readOrdinaryReal(QStringView text, double &value)
     qsizetype digitCount = 0;
     qsizetype point = -1;
     const qsizetype start = text.startsWith(u'-') ? 1 : 0;
-    if (text.size() > start + 16)
+    if (text.size() > start + 16) {
         return false;
+    }
     for (qsizetype i = start; i < text.size(); ++i) {
         const char16_t c = text[i].unicode();
         if (c >= u'0' && c <= u'9') {
@@ -109,20 +120,24 @@ bool readOrdinaryReal(QStringView text, double &value)
         }
     }
     const qsizetype decimals = point < 0 ? 0 : digitCount - point;
-    if (digitCount == 0 || digitCount > 15 || decimals >= qsizetype(powersOfTen.size()))
+    if (digitCount == 0 || digitCount > 15 || decimals >= qsizetype(powersOfTen.size())) {
         return false;
+    }
     value = double(digits) / powersOfTen[size_t(decimals)];
-    if (start != 0)
+    if (start != 0) {
         value = -value;
+    }
     return true;
 }
 
 double roundHalfUp(double value)
 {
-    if (!(std::abs(value) < largestExact))
+    if (!(std::abs(value) < largestExact)) {
         return value;
-    if (value >= 0)
+    }
+    if (value >= 0) {
         return std::floor(value + 0.5);
+    }
     const double below = std::trunc(value - 1);
     return std::floor(value - below + 0.5) + below;
 }
@@ -130,12 +145,15 @@ double roundHalfUp(double value)
 int hexDigit(QChar character)
 {
     const char16_t c = character.unicode();
-    if (c >= u'0' && c <= u'9')
+    if (c >= u'0' && c <= u'9') {
         return c - u'0';
-    if (c >= u'A' && c <= u'F')
+    }
+    if (c >= u'A' && c <= u'F') {
         return c - u'A' + 10;
-    if (c >= u'a' && c <= u'f')
+    }
+    if (c >= u'a' && c <= u'f') {
         return c - u'a' + 10;
+    }
     return -1;
 }
 
@@ -145,8 +163,9 @@ bool readArgb(QStringView digits, QRgb &argb)
     argb = 0;
     for (const QChar c : digits) {
         const int digit = hexDigit(c);
-        if (digit < 0)
+        if (digit < 0) {
             return false;
+        }
         argb = argb << 4 | QRgb(digit);
     }
     return digits.size() == 8;
@@ -158,8 +177,9 @@ bool ValueConversion::toBoolean(QStringView text, bool *ok)
 {
     const bool isTrue = text == "true"_L1 || text.compare("true"_L1, Qt::CaseInsensitive) == 0;
     const bool isFalse = !isTrue && text.compare("false"_L1, Qt::CaseInsensitive) == 0;
-    if (!isTrue && !isFalse && !text.isEmpty())
+    if (!isTrue && !isFalse && !text.isEmpty()) {
         qDebug().noquote() << "value" << text;
+    }
     report(ok, isTrue || isFalse);
     return isTrue;
 }
@@ -208,19 +228,23 @@ void ValueConversion::appendReal(QString &text, double value)
 
 QString ValueConversion::toQmlString(double value, int decimals)
 {
-    if (std::isnan(value))
+    if (std::isnan(value)) {
         return u"NaN"_s;
-    if (std::isinf(value))
+    }
+    if (std::isinf(value)) {
         return value > 0 ? u"Infinity"_s : u"-Infinity"_s;
+    }
     return realForm(value, qBound(0, decimals, 100));
 }
 
 double ValueConversion::restrictDecimals(double value, int decimals)
 {
-    if (decimals < 0)
+    if (decimals < 0) {
         return value;
-    if (decimals == 0)
+    }
+    if (decimals == 0) {
         return roundHalfUp(value);
+    }
     const double factor = std::trunc(std::pow(10.0, decimals));
     const double scaled = value * factor;
     return std::abs(scaled) < largestExact ? roundHalfUp(scaled) / factor : value;
@@ -244,16 +268,18 @@ QRectF ValueConversion::restrictDecimals(const QRectF &rect, int decimals)
 QPolygonF ValueConversion::restrictDecimals(const QPolygonF &polygon, int decimals)
 {
     QPolygonF result = polygon;
-    for (QPointF &point : result)
+    for (QPointF &point : result) {
         point = restrictDecimals(point, decimals);
+    }
     return result;
 }
 
 QList<QPolygonF> ValueConversion::restrictDecimals(const QList<QPolygonF> &polygons, int decimals)
 {
     QList<QPolygonF> result = polygons;
-    for (QPolygonF &polygon : result)
+    for (QPolygonF &polygon : result) {
         polygon = restrictDecimals(polygon, decimals);
+    }
     return result;
 }
 
@@ -262,8 +288,9 @@ QColor ValueConversion::toColor(QStringView text, bool *ok)
     report(ok, true);
     const bool hasAlpha = text.size() > 7 && text != "transparent"_L1;
     QRgb argb = 0;
-    if (hasAlpha && readArgb(text.sliced(1), argb))
+    if (hasAlpha && readArgb(text.sliced(1), argb)) {
         return QColor::fromRgba(argb);
+    }
 
     bool alphaIsNumber = true;
     int alpha = 255;
@@ -287,8 +314,9 @@ void ValueConversion::appendColor(QString &text, const QColor &color)
     static constexpr std::string_view digits = "0123456789ABCDEF";
     const QRgb argb = color.rgba();
     std::array<char, 9> form{'#'};
-    for (size_t i = 0; i < 8; ++i)
+    for (size_t i = 0; i < 8; ++i) {
         form[i + 1] = digits[argb >> (28 - 4 * i) & 0xF];
+    }
     text.append(QLatin1StringView(form.data(), form.size()));
 }
 
@@ -303,8 +331,9 @@ QList<QColor> ValueConversion::toColorList(QStringView text, bool *ok)
 {
     QList<QColor> colors;
     const QStringView inside = text.size() > 2 ? text.sliced(1, text.size() - 2) : QStringView();
-    for (const QStringView part : qTokenize(inside, u','))
+    for (const QStringView part : qTokenize(inside, u',')) {
         colors.append(toColor(part, ok));
+    }
     return colors;
 }
 
@@ -327,8 +356,9 @@ QMap<QString, QString> ValueConversion::toGroupProperties(QStringView text, bool
         group.insert(key.toString(), value.toString());
         return true;
     });
-    if (!parsed)
+    if (!parsed) {
         group.clear();
+    }
     report(ok, parsed);
     return group;
 }
@@ -336,8 +366,9 @@ QMap<QString, QString> ValueConversion::toGroupProperties(QStringView text, bool
 QString ValueConversion::toString(const QMap<QString, QString> &group)
 {
     QString text;
-    for (auto entry = group.cbegin(); entry != group.cend(); ++entry)
+    for (auto entry = group.cbegin(); entry != group.cend(); ++entry) {
         GroupText::appendEntry(text, entry.key(), entry.value());
+    }
     return text;
 }
 

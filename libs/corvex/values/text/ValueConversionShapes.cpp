@@ -38,8 +38,9 @@ bool readFontLength(QFont &font, QStringView value)
 {
     bool ok = false;
     const int length = ValueConversion::toInt(value, &ok);
-    if (!ok || length <= 0)
+    if (!ok || length <= 0) {
         return false;
+    }
     (font.*set)(length);
     return true;
 }
@@ -58,8 +59,9 @@ bool readSpacing(QStringView value, qreal &spacing)
     constexpr qreal fractions = 64;
     bool ok = false;
     const qreal scaled = std::round(ValueConversion::toReal(value, &ok) * fractions);
-    if (!ok || std::abs(scaled) > std::numeric_limits<int>::max())
+    if (!ok || std::abs(scaled) > std::numeric_limits<int>::max()) {
         return false;
+    }
     spacing = scaled / fractions;
     return true;
 }
@@ -68,8 +70,9 @@ bool readLetterSpacing(QFont &font, QStringView value)
 {
     qreal spacing = 0;
     const bool ok = readSpacing(value, spacing);
-    if (spacing != 0)
+    if (spacing != 0) {
         font.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
+    }
     return ok;
 }
 
@@ -98,8 +101,9 @@ constexpr std::array fontFields{
 bool readFontEntry(QFont &font, unsigned &seen, QStringView key, QStringView value)
 {
     for (size_t i = 0; i < fontFields.size(); ++i) {
-        if (key != fontFields[i].key)
+        if (key != fontFields[i].key) {
             continue;
+        }
         const bool repeated = (seen & 1U << i) != 0;
         seen |= 1U << i;
         return !repeated && fontFields[i].read(font, value);
@@ -123,8 +127,9 @@ template<class Read>
 bool forEachPart(QStringView text, char16_t separator, Read &&read)
 {
     for (const QStringView part : qTokenize(text, separator)) {
-        if (!read(part.trimmed()))
+        if (!read(part.trimmed())) {
             return false;
+        }
     }
     return true;
 }
@@ -132,8 +137,9 @@ bool forEachPart(QStringView text, char16_t separator, Read &&read)
 bool readStop(QStringView text, QGradientStop &stop)
 {
     const qsizetype comma = text.indexOf(u',');
-    if (comma < 0)
+    if (comma < 0) {
         return false;
+    }
     bool positionOk = false;
     bool colorOk = false;
     stop.first = ValueConversion::toReal(text.first(comma), &positionOk);
@@ -156,8 +162,9 @@ double cutToHundredths(double position)
 template<class Value>
 Value result(bool success, Value value, bool *ok)
 {
-    if (ok)
+    if (ok) {
         *ok = success;
+    }
     return success ? value : Value();
 }
 
@@ -169,8 +176,9 @@ QFont ValueConversion::toFont(QStringView text, bool *ok)
     unsigned seen = 0;
     bool parsed = GroupText::forEachEntry(
         text, [&](QStringView key, QStringView value) { return readFontEntry(font, seen, key, value); });
-    for (size_t i = 0; i < fontFields.size(); ++i)
+    for (size_t i = 0; i < fontFields.size(); ++i) {
         parsed = parsed && (fontFields[i].optional || (seen & 1U << i) != 0);
+    }
     return result(parsed, font, ok);
 }
 
@@ -183,10 +191,12 @@ QString ValueConversion::toString(const QFont &font)
     GroupText::appendEntry(text, u"italic", toString(font.style() != QFont::StyleNormal));
     GroupText::appendEntry(text, u"letterSpacing", toString(font.letterSpacing()));
     GroupText::appendEntry(text, u"overline", toString(font.overline()));
-    if (font.pixelSize() > 0)
+    if (font.pixelSize() > 0) {
         GroupText::appendEntry(text, u"pixelSize", toString(font.pixelSize()));
-    if (font.pointSize() > 0)
+    }
+    if (font.pointSize() > 0) {
         GroupText::appendEntry(text, u"pointSize", toString(font.pointSize()));
+    }
     GroupText::appendEntry(text, u"strikeout", toString(font.strikeOut()));
     GroupText::appendEntry(text, u"underline", toString(font.underline()));
     GroupText::appendEntry(text, u"wordSpacing", toString(font.wordSpacing()));
@@ -251,8 +261,9 @@ QString ValueConversion::toString(const QPolygonF &polygon)
     QString text;
     text.reserve(polygon.size() * 20);
     for (const QPointF &point : polygon) {
-        if (!text.isEmpty())
+        if (!text.isEmpty()) {
             text.append(" | "_L1);
+        }
         appendPoint(text, point);
     }
     return text;
@@ -262,8 +273,9 @@ QList<QPolygonF> ValueConversion::toPolygonList(QStringView text, bool *ok)
 {
     QList<QPolygonF> polygons;
     const bool parsed = forEachPart(text, u',', [&](QStringView part) {
-        if (part.size() < 2 || part.front() != u'[' || part.back() != u']')
+        if (part.size() < 2 || part.front() != u'[' || part.back() != u']') {
             return false;
+        }
         const QStringView inside = part.sliced(1, part.size() - 2).trimmed();
         bool polygonOk = inside.isEmpty();
         polygons.append(polygonOk ? QPolygonF() : toPolygon(inside, &polygonOk));
@@ -295,8 +307,9 @@ QString ValueConversion::toString(const QGradientStops &stops)
     QString text;
     text.reserve(stops.size() * 18);
     for (const auto &[position, color] : stops) {
-        if (!text.isEmpty())
+        if (!text.isEmpty()) {
             text.append(" | "_L1);
+        }
         appendReal(text, cutToHundredths(position));
         text.append(", "_L1);
         appendColor(text, color);
