@@ -23,7 +23,7 @@ namespace {
 
 constexpr auto suffix = "Binding"_L1;
 
-//! How an expression is translated. What it is edited with says what it is.
+//! How an expression is translated. Its editor determines its purpose.
 struct Binding
 {
     QLatin1StringView editor;
@@ -65,7 +65,7 @@ QString codeOf(const GeneralDataList &expression, const Binding &binding)
     return isTooLong ? QString() : completeCode(expression, binding.output, binding.kind);
 }
 
-//! The property with the expression beside the plain value \a name; null when \a owner has none.
+//! The property with the expression for the property \a name; null if \a owner has none.
 const DesignerProperty *propertyBeside(const DesignerObject *owner, const QString &name)
 {
     const PropertyRange properties = owner->properties();

@@ -10,7 +10,7 @@ class GeneralDataList;
 //! Table rows shared by several elements.
 namespace Halvane::Corvex::Elements {
 
-//! Stored, edited and sent to the runtime, for property classes that are not so by themselves.
+//! Stored, edited and sent to the runtime, for property classes with other default flags.
 inline constexpr int ordinary = Designer::OrdinaryFlags.toInt();
 //! Stored and edited. The classes that use the value write it to the runtime.
 inline constexpr int notAtRuntime = ordinary & ~Designer::RuntimeFlag;

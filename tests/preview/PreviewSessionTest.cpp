@@ -197,7 +197,8 @@ TEST(PreviewSession, ShowsClassesOfPluginsAsTheBuildSays)
                               "expect key.litres 3; set number 7; press panel; expect number 3"),
                     IsEmpty())
             << isAgain;
-        EXPECT_THAT(panel.problems(), ElementsAre(startingWith("The preview knows no class \"Odd\"")));
+        EXPECT_THAT(panel.problems(),
+                    ElementsAre(startingWith("The preview does not support the class \"Odd\"")));
     }
     build.write(u"preview.kdrc"_s, "rubbish");
     EXPECT_THAT(TestPanel(build).problems(), Contains(startingWith("preview.kdrc: The file is damaged")));

@@ -34,7 +34,7 @@ std::atomic<int> &theGeneration()
     return generation;
 }
 
-//! The entry of the object's class or of its nearest base class that has one.
+//! The entry of the object's class, or of its nearest base class with an entry.
 QString nearestEntry(const QHash<QString, QString> &entries, const DesignerObject *object)
 {
     const QStringList classNames = object->classNames();

@@ -76,15 +76,15 @@ public:
     static QString baseNameOf(const DesignerObject *object);
     static QString displayNameOf(const DesignerObject *object);
 
-    // What the tables say about the class of an element, or about its nearest base class of which they say
-    // something; empty without a factory or an entry.
-    //! The list of a screen's document that holds the element.
+    // The data in the tables for the class of an element, or for its nearest base class with an entry; empty
+    // without a factory or an entry.
+    //! The list of a screen's document that contains the element.
     static QString screenListOf(const DesignerObject *element);
-    //! The class that a preview shows in its place.
+    //! The class that a preview shows instead.
     static QString previewOf(const DesignerObject *element);
-    //! Whether any class names one.
+    //! Whether any class defines one.
     static bool hasPreviews() { return instance() && !instance()->m_previews.isEmpty(); }
-    //! Changes whenever classes come or go. Whoever keeps something about all classes keeps this too.
+    //! Changes whenever classes are added or removed. Caches of data about all classes must compare it.
     static int generation();
 
     //! The font families that all font editors offer.

@@ -81,14 +81,14 @@ public:
     void setBindingsCreator(BindingsCreator creator);
     void setQmlCreator(QmlCreator creator);
 
-    //! In which form the value names other objects.
+    //! How the value refers to other objects.
     Form references() const { return descriptor().references; }
     void setReferences(Form form);
-    //! The id of the link that names the element which the states in the value describe; empty unless set.
-    //! They go over to another element together with the link.
+    //! The id of the link to the element that the states in the value describe; empty by default. If the link
+    //! changes, the states are applied to the new element.
     const QString &statesOf() const { return descriptor().statesOf; }
     void setStatesOf(const QString &linkId);
-    //! Whether an edit is refused while the file of an image that the new value names is missing.
+    //! Whether an edit is refused if the file of an image in the new value is missing.
     bool needsPictures() const { return descriptor().needsPictures; }
     void setNeedsPictures(bool needed);
 
@@ -309,7 +309,7 @@ private:
 //! A shared reference to a property, registered in Qt's meta-type system under its full name.
 using SharedProperty = QSharedPointer<DesignerProperty>;
 
-//! \a property as a \a Kind if its class names include that kind, else null.
+//! \a property as a \a Kind if its class names include that kind; otherwise null.
 template<class Kind>
 const Kind *propertyCast(const DesignerProperty *property)
 {

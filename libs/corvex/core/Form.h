@@ -7,19 +7,18 @@ namespace Halvane::Corvex::Designer {
 
 namespace Forms {
 
-/*! In which form a value names other objects. Renaming, deleting and "where is this used?" follow the names.
-
-    A name that is dropped, as its object is deleted, leaves what the comments say.
-*/
+//! How a value refers to other objects. Renaming, deleting and the search for uses follow these references.
+//!
+//! The comments describe what remains when the referenced object is deleted.
 enum Form : quint8 {
     None,
-    Link,        //!< ObjectLinkInfo; dropped: a link that is not set
-    Expression,  //!< GeneralDataList, a single term included; dropped: a term without a name
-    States,      //!< UpdateObjectList; dropped: the update goes
-    Changes,     //!< PropertyList; dropped: the change goes
-    Names,       //!< ListInfo of names; dropped: the name goes
+    Link,        //!< ObjectLinkInfo; dropped: an empty link
+    Expression,  //!< GeneralDataList or a single term; dropped: a term without a name
+    States,      //!< UpdateObjectList; dropped: the update is removed
+    Changes,     //!< PropertyList; dropped: the change is removed
+    Names,       //!< ListInfo of names; dropped: the name is removed
     NamePairs,   //!< ListInfo of "name|text"; dropped: "|text"
-    CommaNames,  //!< names joined with ", "; dropped: the name goes
+    CommaNames,  //!< names joined with ", "; dropped: the name is removed
     Expressions, //!< PairList of two expressions
 };
 
@@ -27,7 +26,7 @@ enum Form : quint8 {
 
 using Forms::Form;
 
-//! The form of the values of a C++ type. A property of the type has it, unless its row sets another one.
+//! The form for values of a C++ type. A property of the type has this form, unless its row sets another one.
 template<class Value>
 inline constexpr Form ReferencesIn = Form::None;
 

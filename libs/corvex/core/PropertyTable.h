@@ -31,7 +31,7 @@ public:
     SharedProperty make(DesignerObject *parent) const;
 
     PropertyRow &rank(int rank);
-    //! In place of those that the property's class sets; a class that sets none has OrdinaryFlags.
+    //! Replaces the flags that the property's class sets; a class that sets none has OrdinaryFlags.
     PropertyRow &flags(int flags);
     //! For editors that the property's class does not set itself.
     PropertyRow &editor(const char *editorName);
@@ -49,11 +49,11 @@ public:
     PropertyRow &addValidator(ItemValidator validator);
     PropertyRow &removeValidator(ItemValidator validator);
     PropertyRow &qml(BindingsCreator creator);
-    //! In which form the value names other objects, for a value whose type does not say so: a list of names.
+    //! How the value refers to other objects, if its type does not define it, such as a list of names.
     PropertyRow &references(Form form);
-    //! The value is states of the element that the link \a linkId of the same object names.
+    //! The value contains states of the element in the link \a linkId of the same object.
     PropertyRow &statesOf(const char *linkId);
-    //! Refuses edits that name an image whose file is missing.
+    //! Refuses edits that set an image whose file is missing.
     PropertyRow &needsPictures();
     //! Where the row describes a property of the base anew, it gives it this row's value too.
     PropertyRow &overridesValue();

@@ -18,11 +18,11 @@ struct ClassRow
     Make make;                      //!< null for an abstract class, which only has names; see makeObject
     const char *baseName = nullptr; //!< the stem of the names of new objects; null for a class without names
     const char *displayName = nullptr; //!< the name of the class for users
-    //! The list of a screen's document for elements of this class and of classes that derive from it; null
-    //! for the list of the base class.
+    //! The list in a screen's document for elements of this class and of derived classes; null for the list
+    //! of the base class.
     const char *screenList = nullptr;
-    //! A class that the preview knows ("Rectangle"), to show in place of this one and of classes that derive
-    //! from it; null for that of the base class. Without any, the preview shows a labelled box.
+    //! A class that the preview supports ("Rectangle") and shows instead of this class and derived classes;
+    //! null for that of the base class. Without any, the preview shows a labelled box.
     const char *preview = nullptr;
 };
 

@@ -87,7 +87,7 @@ void BuildFolder::readConfiguration()
     }
 }
 
-//! Only builds with classes of plug-ins have the file.
+//! Only builds with classes of plug-ins contain the file.
 void BuildFolder::readPreviews()
 {
     const QString path = QDir(m_path).filePath(previewFile);

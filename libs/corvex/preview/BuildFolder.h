@@ -30,7 +30,7 @@ public:
     QString defaultScreen() const;
     //! The record of each variable by name: "type", "value", "persistent".
     const QVariantMap &variables() const { return m_variables; }
-    //! From a class to the one that the preview shows in its place.
+    //! Maps a class to the class that the preview shows instead.
     const QMap<QString, QString> &previews() const { return m_previews; }
     //! Problems of the folder that do not prevent its screens from being shown: file and message.
     const QList<std::pair<QString, QString>> &problems() const { return m_problems; }

@@ -32,7 +32,7 @@ public:
     void guard(QQmlEngine &engine);
     //! Sets the readable folders. Call it before a document is loaded.
     void allow(const QStringList &folders);
-    //! Loads another document in place of \a url, which is one of the program's; before any document is
+    //! Loads another document instead of \a url, which belongs to the program. Call it before a document is
     //! loaded.
     void replace(const QUrl &url, const QUrl &document) { m_replaced.insert(url, document); }
     //! Closes windows that a document of the engine opens.

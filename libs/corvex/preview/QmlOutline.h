@@ -22,7 +22,7 @@ public:
         QStringList properties; //!< everything that is set, including handlers: "width", "font.bold",
                                 //!< "onPressed"
         QString variable;       //!< the text of the property "variable"
-        QStringList lists;      //!< those of the properties that are set to a list
+        QStringList lists;      //!< the properties whose values are lists
     };
 
     explicit QmlOutline(const QString &text = QString());

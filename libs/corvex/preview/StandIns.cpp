@@ -40,7 +40,7 @@ constexpr const char *plain[] = {"BACnetService",    "CANBusDevice",   "Ethernet
                                  "I2CBus",           "ModbusCommands", "RS485COMPort",
                                  "SPICommunication", "SPIPort",        "SerialCOMPort"};
 
-//! The classes of the device. A class that is written in QML has no meta object before it is loaded.
+//! The classes of the device. A class implemented in QML has no meta object until it is loaded.
 QHash<QString, const QMetaObject *> &knownClasses()
 {
     static QHash<QString, const QMetaObject *> classes;
@@ -85,7 +85,7 @@ QMap<QString, QSet<QString>> unknownClasses(const BuildFolder &build)
     return classes;
 }
 
-//! The lists that are set of screens and that \a document, which is that of all screens, does not declare.
+//! The lists of screens in the build that \a document, the document of all screens, does not declare.
 QSet<QString> unknownLists(const BuildFolder &build, const QString &document)
 {
     QSet<QString> lists;
@@ -118,7 +118,7 @@ QSet<QString> membersOf(const QMetaObject &meta)
     return names;
 }
 
-//! The same for a class by its name. What a document adds to its type, only an engine can say.
+//! The same by the name of a class. Only an engine knows the members that a document adds to its type.
 QSet<QString> membersOf(const QString &className)
 {
     if (const QMetaObject *meta = knownClasses().value(className)) {

@@ -17,13 +17,13 @@ public:
     //! Call it once, before any engine loads a screen.
     static void registerModules();
 
-    /*! Makes a type for each class of the build that there is none for, with all properties and signals that
-        are set of it: the class that the build names for it, or else a labelled box. Returns the names of
-        those that are boxes. */
+    //! Registers a type for each unknown class of the build, with all properties and signals that the build
+    //! sets for it: the class that the build names for it, or a labelled box. Returns the names of the
+    //! classes shown as boxes.
     static QStringList addUnknownClasses(const BuildFolder &build);
     //! The document of the class Screen.
     static QUrl screenDocument();
-    //! The one for that build: its screens may have lists for elements of plug-ins.
+    //! The document for that build, whose screens may have lists for elements of plug-ins.
     static QUrl screenDocumentFor(const BuildFolder &build);
     //! The folder for the documents of the boxes, by default a temporary one. Call it before the first box is
     //! registered.

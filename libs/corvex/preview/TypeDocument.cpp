@@ -10,7 +10,7 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-//! The members that the generator sets on a box and that it has as an item.
+//! The members of a box that the generator sets and that it inherits from Item.
 const QSet<QString> &itemMembers()
 {
     static const QSet<QString> names{
@@ -26,15 +26,15 @@ QString declaration(const QString &property)
                      : u"    property var %1\n"_s.arg(property);
 }
 
-/*! Declares the properties that are not among \a members. A group of properties ("font.bold") becomes an
-    object that accepts what is set. */
+//! Declares the properties that are not in \a members. A group of properties ("font.bold") becomes an object
+//! that accepts its members.
 QString declarations(const QSet<QString> &properties, const QSet<QString> &members)
 {
     QString lines;
     QMap<QString, QStringList> groups;
     for (const QString &property : properties) {
         const QString first = property.section(u'.', 0, 0);
-        // "id" is no property, and every object has "Component.onCompleted".
+        // "id" is not a property, and every object has "Component.onCompleted".
         if (first == "id"_L1 || first.at(0).isUpper() || members.contains(first)) {
             continue;
         }

@@ -19,7 +19,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The lists of the device in the order in which documents have them. Lists of plug-ins come after them.
+//! The lists of the device, in the order of documents. Lists of plug-ins follow.
 constexpr struct
 {
     const char *name;
@@ -31,7 +31,7 @@ constexpr struct
     {"functions"},
 };
 
-//! The index of a list among those of the device; for other lists their number.
+//! The index of a device list; for other lists the number of device lists.
 std::ptrdiff_t placeOf(const QString &listName)
 {
     const auto isNamed = [&listName](const auto &list) { return listName == QLatin1StringView(list.name); };
@@ -92,7 +92,7 @@ QStringList Screen::elementLists(int indent) const
     for (const auto &[list, blocks] : lists) {
         written.append(u"%1%2: [\n%3\n%1]"_s.arg(getTabs(indent), list.second, blocks.join(u",\n"_s)));
     }
-    // Elements without a list come last: first what is drawn, then the rest.
+    // Elements without a list come last: first visual ones, then the others.
     return written + visible + others;
 }
 

@@ -89,7 +89,7 @@ QString takenName(const QString &screen)
         .arg(screen + u".qml"_s);
 }
 
-//! By the QML name of the object's class, for it and everything below it.
+//! For the object and everything below it, by the QML name of the class.
 void collectPreviews(const DesignerObject &object, QVariantMap &previews)
 {
     if (const QString preview = DesignerFactory::previewOf(&object); !preview.isEmpty()) {

@@ -56,7 +56,8 @@ private:
     QString packProject(const DesignerObject &project) const;
     QByteArray projectXml(const DesignerObject &project, QString *error) const;
     bool writeConfiguration(const DesignerObject *project);
-    //! Writes which classes a preview shows in place of those of plug-ins; no file if no class says so.
+    //! Writes which classes a preview shows instead of classes of plug-ins. Writes no file if no class
+    //! defines one.
     bool writePreviews(const DesignerObject *project);
     //! Uses all processors, one screen at a time each.
     bool writeScreens(const DesignerObject *project);

@@ -6,7 +6,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What the fieldbus variables share, whose value is a map of names to values; no kind of its own.
+//! The base of the fieldbus variables, whose value is a map of names to values. It is not a kind of its own.
 class CORVEX_EXPORT DeviceVariable : public ProjectVariable
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ public:
     QVariant toVariant() const override { return typedValue(value()->valueString()); }
 
     bool isFieldbus() const override { return true; }
-    //! None: each fieldbus has a file of its own.
+    //! None, because each fieldbus has a file of its own.
     QString configurationKey() const override { return {}; }
 
     //! A QVariantMap of texts; invalid if the text is not a map, for example empty.

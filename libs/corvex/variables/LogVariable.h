@@ -16,7 +16,7 @@ public:
     VariableType variableType() const override { return VariableType::LogVariable; }
     //! Like that of a NumberVariable.
     QVariant toVariant() const override { return NumberVariable::typedValue(value()->valueString()); }
-    //! None: the element that samples the log describes it.
+    //! None, because the element that samples the log contains its settings.
     QString configurationKey() const override { return {}; }
 
 protected:

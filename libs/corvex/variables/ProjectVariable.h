@@ -39,11 +39,11 @@ public:
     //! The value in the form for the device; invalid if its text is not a value of this class.
     virtual QVariant toVariant() const;
 
-    //! Whether it describes an exchange with a fieldbus. Expressions cannot read it.
+    //! Whether it describes a data exchange with a fieldbus. Expressions cannot read it.
     virtual bool isFieldbus() const { return false; }
-    //! The key of its record among the variables of the device's configuration; empty without a record.
+    //! The key of its record among the variables in the device's configuration; empty if it has none.
     virtual QString configurationKey() const { return getIdName(); }
-    //! What a device model must have for the variable to work.
+    //! The connection that the variable needs on the device model.
     enum class Connection : quint8 { None, Can, Ethernet };
     virtual Connection connection() const { return Connection::None; }
 

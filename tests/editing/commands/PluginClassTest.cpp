@@ -18,7 +18,7 @@ namespace Halvane::Corvex::Designer::Test {
 
 namespace {
 
-//! An element of which only its tables tell the library anything.
+//! An element that the library only knows from its tables.
 class Meter : public FunctionElement
 {
     CORVEX_CLASS_NAMES(Meter, FunctionElement)
@@ -109,7 +109,7 @@ protected:
         ASSERT_TRUE(planned) << qPrintable(planned.reason);
         push(planned.command.release());
     }
-    //! The values of the meter, in the order of its properties, and what the action does.
+    //! The values of the meter, in the order of its properties, and the changes of the action.
     QStringList values() const
     {
         QStringList texts;
@@ -133,7 +133,7 @@ TEST_F(PluginClassTest, ReferencesFollowAsItsRowsSay)
     pushPlanned(Commands::renameOf(element("rectangle1"), u"tank"_s));
     EXPECT_EQ(values(), QStringList({feeder(u"flow"_s), lamp(u"tank"_s), u"name: tank;"_s, u"flow | tank"_s,
                                      u"0406flow"_s, u"speed"_s, feeder(u"flow"_s)}));
-    // The states go over to the other element along with the link.
+    // If the link changes, the states are applied to the new element.
     push(new ChangeProperty(property(meter, "lamp"), lamp(u"rectangle2"_s), false));
     EXPECT_EQ(value(meter, "alarmState"), u"name: rectangle2;"_s);
     pushPlanned(Commands::deletionOf(variable("flow")));
@@ -156,7 +156,7 @@ TEST_F(PluginClassTest, ItsFactorySaysWhereItIsWrittenAndHowItIsShown)
     const qsizetype functions = qml.indexOf("\tfunctions: [\n\t\tDataLogging {"_L1);
     EXPECT_GE(functions, 0) << qPrintable(qml);
     EXPECT_GT(qml.indexOf("\n\t]\n\tmeters: [\n\t\tMeter {"_L1), functions) << qPrintable(qml);
-    // A class is written as its base is, and shown as it says itself.
+    // A class is written like its base class, and shown as its own row says.
     EXPECT_TRUE(main->toQml(0).contains("\tmeters: [\n\t\tWaterMeter {"_L1));
     EXPECT_EQ(DesignerFactory::previewOf(other->getElement(u"meter1"_s)), u"Button"_s);
     EXPECT_EQ(DesignerFactory::previewOf(meter), u"Rectangle"_s);

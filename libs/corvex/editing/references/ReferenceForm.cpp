@@ -102,7 +102,7 @@ bool visitValue(GeneralDataList &terms, const MentionVisitor &visitor)
     return isChanged;
 }
 
-//! The new value that a state or an action gives to a property, of which only the id is known.
+//! The new value of a property in a state or an action. Only the id of the property is known.
 bool visitNested(const QString &id, QString &text, const MentionVisitor &visitor);
 
 bool visitValue(UpdateObjectList &list, const MentionVisitor &visitor)
@@ -256,7 +256,7 @@ bool visitExpressions(QString &text, const MentionVisitor &visitor)
     return isChanged;
 }
 
-//! Shows what the value mentions, if the property is of that class; otherwise its text has to be read.
+//! Visits the typed value if the property is of that class; otherwise its text must be parsed.
 template<class Property>
 bool showValue(const DesignerProperty &property, const MentionVisitor &visitor)
 {

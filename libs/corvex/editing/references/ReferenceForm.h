@@ -13,9 +13,8 @@ class DesignerProperty;
 
 /*! Finds the names of other objects in values.
 
-    A property says in which form its value names others (DesignerProperty::references()). Everything that
-    looks for references, be it to follow a rename or to show the user where a name is used, goes through
-    visit().
+    Each property defines how its value refers to others (DesignerProperty::references()). Everything that
+    searches references, whether to follow a renaming or to list uses, goes through visit().
 */
 class CORVEX_EXPORT ReferenceForm
 {
@@ -32,7 +31,7 @@ public:
     static QList<Mention> mentions(const DesignerProperty &property, const QString &text);
     //! The mentions in the present value, without printing or parsing it.
     static QList<Mention> mentions(const DesignerProperty &property);
-    //! For a text of that form which no property holds. What a link may name is then in its text alone.
+    //! For a text of that form outside of a property. Links then define themselves what they may refer to.
     static bool visit(Form form, QString &text, const MentionVisitor &visitor);
 };
 

@@ -6,16 +6,16 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Which properties of elements are links or expressions, by the id alone.
+/*! Which properties of elements are links or expressions, by id only.
 
-    A state or an action names an element and its new values in text. The element may be deleted or on another
-    screen, so its class is not known. An id counts if any class of elements has such a property; texts of
-    other properties with the same id do not read as a link or as an expression.
+    A state or an action refers to an element and its new values as text. The element may have been deleted or
+    be on another screen, so its class is unknown. An id counts if any class of elements has such a property;
+    texts of other properties with the same id cannot be read as a link or an expression.
 */
 class NestedForms
 {
 public:
-    //! For the classes that there are now. Valid in this thread until its next call.
+    //! For all present classes. Valid in this thread until the next call.
     static const NestedForms &current();
 
     bool isLink(const QString &id) const { return m_links.contains(id); }
