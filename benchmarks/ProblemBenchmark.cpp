@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Edits of a project with a list of its problems that is brought up to date after each, beside the same edits
-// without.
+// Edits of a project whose list of problems is updated after each edit, compared with the same edits without
+// a list.
 #include "corvex/checks/ProblemList.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/editing/commands/objects/ChangeProperty.h"
@@ -80,7 +80,7 @@ BENCHMARK_CAPTURE(edit, M_with, "M", With::List)->Name("problems/M")->Unit(bench
 void weighList(benchmark::State &state)
 {
     const std::unique_ptr<Project> project = loadProject(projectFile(u"L"_s));
-    // What the first check of a project leaves behind.
+    // Excludes data that the first check of a project allocates once.
     std::make_unique<ProblemList>(*project, models())->update();
     for (auto _ : state) {
         const auto before = mallinfo2().uordblks;

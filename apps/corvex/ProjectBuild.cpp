@@ -46,9 +46,9 @@ bool isAccepted(const QList<Problem> &found, const ProjectFile &file, const Call
         return problem.isApproved && problem.severity() == Severity::Error;
     });
     call.failed(
-        u"\"%1\" has problems (%2) and is not built. Mend them, or build it all the same with "
+        u"\"%1\" has problems (%2) and was not built. Fix them, or build anyway with "
         "--force.%3"_s.arg(file.path(), QString::number(problems.size()),
-                           isApproved ? u" Errors stop a build even when they are approved."_s : QString()));
+                           isApproved ? u" Errors prevent a build even if they are approved."_s : QString()));
     return false;
 }
 

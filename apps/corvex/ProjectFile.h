@@ -45,7 +45,7 @@ public:
     static std::unique_ptr<Designer::Project> create();
 
     Designer::Project &project() const { return *m_project; }
-    //! Those of the project. They are saved with it, and follow what is renamed.
+    //! The approvals of the project. They are saved with it, and follow renamed objects.
     Designer::ProblemApprovals &approvals() const { return *m_approvals; }
     //! The path as the user wrote it. "-" is standard input; such a project cannot be saved.
     const QString &path() const { return m_path; }

@@ -76,7 +76,7 @@ TEST_F(ProblemApprovalsTest, AreCountedApartAndSavedInOrder)
     const ProblemApprovals again(*project);
     EXPECT_EQ(again.errorString(), QString());
     EXPECT_EQ(again.reasonFor(fading()), u"It is a \"watermark\"."_s);
-    // Another value is another problem.
+    // A problem with another value is a different one.
     set(element("rectangle1"), "opacity", u"600"_s);
     list->update();
     EXPECT_FALSE(fading().isApproved);

@@ -70,7 +70,7 @@ protected:
     std::optional<ProblemList> list;
 };
 
-//! The fix solves the problem and makes no other one; undo brings all back.
+//! The fix solves the problem and causes no other; undo restores everything.
 void ProblemFixTest::applyAndUndo(const ProblemFix &fix, ProblemCode code)
 {
     SCOPED_TRACE(qPrintable(fix.text));
@@ -191,7 +191,7 @@ TEST_F(ProblemFixTest, DeletesALogThatNothingFeeds)
     applyAndUndo(fixes.first(), ProblemCode::LogUnfed);
 }
 
-//! Two elements with one name: references stay with the other one, and the group still knows its member.
+//! Two elements with the same name: references mean the other one, and the group still knows its member.
 TEST_F(ProblemFixTest, RenamesANamesakeAlone)
 {
     DesignerObject *group = make(u"GroupElement"_s, u"group1"_s);

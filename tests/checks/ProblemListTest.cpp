@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The live list of problems against a check of the whole project.
+// Compares the live list of problems with a check of the whole project.
 #include "corvex/checks/ProblemList.h"
 #include "corvex/checks/ProjectProblems.h"
 #include "corvex/core/ItemList.h"
@@ -29,7 +29,7 @@ QStringList textsOf(const QList<Problem> &problems)
     return texts;
 }
 
-//! What is in one list and not in the other.
+//! The texts that are in only one of the lists.
 QString difference(QStringList texts, QStringList expected)
 {
     texts.sort();
@@ -73,7 +73,8 @@ protected:
 
     static const ConfigurationContainer *models() { return HardwareConfigurations::instance()->installed(); }
 
-    //! The list is what a check finds in the validated project, and its signals have told of each row.
+    //! The list must equal the result of a check of the validated project, and its signals must have reported
+    //! each row.
     void check()
     {
         list->update();

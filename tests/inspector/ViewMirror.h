@@ -8,8 +8,8 @@
 
 namespace Halvane::Corvex::Designer::Test {
 
-/*! A copy of an item model that changes by its signals alone, as a careful view would. What it holds differs
-    from the model when a signal was missing, or named the wrong rows or roles. */
+//! A copy of an item model that changes by its signals alone, as a careful view would. What it holds differs
+//! from the model when a signal was missing, or named the wrong rows or roles.
 class ViewMirror : public QObject
 {
 public:

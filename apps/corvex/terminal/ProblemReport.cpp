@@ -16,7 +16,7 @@ using namespace Designer;
 
 namespace {
 
-//! Looking for the nearest name among many takes time. Nobody reads the fixes of more problems.
+//! A search for the nearest of many names is slow, and nobody reads more fixes.
 constexpr qsizetype mostFixes = 200;
 
 void writeProblem(const ProblemsOfFile &one, qsizetype index, JsonWriter &json)

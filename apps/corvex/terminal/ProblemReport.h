@@ -15,20 +15,21 @@ struct ProblemsOfFile
 {
     QString file; //!< as the user wrote it
     QList<Designer::Problem> problems;
-    QList<QStringList> fixes; //!< what they are called, problem by problem; may be shorter
-    QStringList reasons;      //!< why problems are approved, problem by problem
+    QList<QStringList> fixes; //!< the texts of the fixes for each problem; may be shorter than the list of
+                              //!< problems
+    QStringList reasons;      //!< the reasons of approvals for each problem
 };
 
 //! Prints problems.
 class ProblemReport
 {
 public:
-    //! Marks what is approved. With \a withFixes it looks for fixes, too, which takes time.
+    //! Marks approved problems. With \a withFixes also searches for fixes, which is slow.
     static ProblemsOfFile make(const ProjectFile &file, const QList<Designer::Problem> &problems,
                                bool withFixes);
-    //! What is left to a user who has approved the rest: all but approved warnings and hints.
+    //! Whether the user still has to handle the problem: false only for approved warnings and hints.
     static bool isOpen(const Designer::Problem &problem);
-    //! "3 problems, 2 approved"; empty when nothing is approved.
+    //! "3 problems, 2 approved"; empty if nothing is approved.
     static QString summary(const QList<Designer::Problem> &problems);
     //! A problem as one line of text.
     static QString line(const Designer::Problem &problem);

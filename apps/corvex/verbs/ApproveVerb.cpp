@@ -20,7 +20,7 @@ using namespace Designer;
 
 namespace {
 
-//! The path as users write it: with the property.
+//! The path in the form that users write, including the property.
 QString pathOf(const Problem &problem)
 {
     return problem.property.isEmpty() ? problem.path() : problem.path() + u'.' + problem.property;
@@ -38,7 +38,7 @@ bool isCode(const QString &word)
     });
 }
 
-//! The user asked for a problem that the project does not have.
+//! Reports that the project does not have the problem.
 ExitCode noSuchProblem(const QList<Problem> &problems, const Call &call)
 {
     const QString code = call.argument(1);
@@ -94,9 +94,9 @@ ExitCode run(const Call &call, const ProjectFile &file)
 
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption(u"reason"_s, u"Why the problem is wanted, for those who read the file."_s,
+    return {QCommandLineOption(u"reason"_s, u"Why the problem is intended, for readers of the file."_s,
                                u"TEXT"_s),
-            QCommandLineOption(u"withdraw"_s, u"Take the approval back."_s)};
+            QCommandLineOption(u"withdraw"_s, u"Withdraw the approval."_s)};
 }
 
 } // namespace
@@ -104,16 +104,16 @@ QList<QCommandLineOption> options()
 const Verb approveVerb{
     .name = "approve",
     .arguments = "FILE CODE PATH",
-    .summary = "mark a problem of a project as known and wanted",
+    .summary = "mark a problem of a project as known and intended",
     .details =
         [] {
-            return uR"(Approves the problems with the code CODE ("log.unfed") of what PATH names: an object, or a property
-of an object ("Main.pump.opacity"). "corvex check --json" prints codes and paths. Approved warnings
-and hints are only counted from then on. Approved errors are still printed, and still stop a build.
+            return uR"(Approves the problems with the code CODE ("log.unfed") at PATH, which is an object or a property of
+an object ("Main.pump.opacity"). "corvex check --json" prints codes and paths. From then on, approved
+warnings and hints are only counted. Approved errors are still printed and still prevent a build.
 
-Approvals are in "Approvals.jsonl" in the folder of the project, one on each line, so that version
-control can merge them. An approval is for one message: if the value changes and the message with
-it, the problem is open again. Approvals follow objects that are renamed.)"_s;
+Approvals are in the file "Approvals.jsonl" in the folder of the project, one per line, so that
+version control can merge them. An approval refers to one message: if a new value changes the
+message, the problem is open again. Approvals follow renamed objects.)"_s;
         },
     .example = "corvex approve --help",
     .fewestArguments = 3,

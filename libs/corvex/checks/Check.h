@@ -11,12 +11,12 @@ namespace Halvane::Corvex::Designer {
 
 class Project;
 
-/*! Looks for problems of one kind.
+/*! Finds problems of one kind.
 
-    A check says what it looks at by its base: PropertyCheck, ObjectCheck or ProjectCheck. What it says about
-    a property depends only on the object of that property and on the objects that it names. So the part that
-    an edit has changed can be checked again alone, one walk through the project serves all checks, and
-    several threads share the walk: each has checks of its own, which are joined at the end.
+    The base class defines what a check examines: PropertyCheck, ObjectCheck or ProjectCheck. Its result for a
+    property depends only on the object of that property and on the objects that it names. So the part that an
+    edit has changed can be checked again separately, one walk through the project serves all checks, and
+    several threads share the walk: each thread has its own checks, whose results are combined at the end.
 */
 class CORVEX_EXPORT Check
 {
@@ -25,10 +25,10 @@ public:
     virtual ~Check() = default;
     Q_DISABLE_COPY_MOVE(Check)
 
-    //! Takes over what \a later has found, a check of the same class that has looked at what comes later in
-    //! the project.
+    //! Takes the results of \a later, a check of the same class that has examined a later part of the
+    //! project.
     virtual void join(Check &later) { m_problems += std::exchange(later.m_problems, {}); }
-    //! Runs when the check has seen all that it looks at. It may then look at more, and finish again.
+    //! Called when the check has examined everything. It may then examine more, and finish again.
     virtual void finish(const Project &) { }
     const QList<Problem> &problems() const { return m_problems; }
     QList<Problem> takeProblems() { return std::exchange(m_problems, {}); }
@@ -51,25 +51,25 @@ private:
     QList<Problem> m_problems;
 };
 
-//! Looks at one property at a time.
+//! Examines one property at a time.
 class CORVEX_EXPORT PropertyCheck : public Check
 {
 public:
-    //! Whether the check looks at such properties. The answer holds for all objects of the owner's class.
+    //! Whether the check examines such properties. The answer applies to all objects of the owner's class.
     virtual bool concerns(const DesignerProperty &property) = 0;
     virtual void look(const DesignerProperty &property) = 0;
 };
 
-//! Looks at one object at a time, without the objects below it.
+//! Examines one object at a time, without the objects below it.
 class CORVEX_EXPORT ObjectCheck : public Check
 {
 public:
-    //! Whether the check looks at such objects. The answer holds for all objects of the class.
+    //! Whether the check examines such objects. The answer applies to all objects of the class.
     virtual bool concerns(const DesignerObject &object) = 0;
     virtual void look(const DesignerObject &object) = 0;
 };
 
-//! Looks at what is true of the project as a whole: its file and its device model.
+//! Examines the project as a whole: its file and its device model.
 class CORVEX_EXPORT ProjectCheck : public Check
 {
 public:

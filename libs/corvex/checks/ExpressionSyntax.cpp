@@ -23,7 +23,7 @@ struct Place
     int column = 0;
 };
 
-//! The place behind the last character of the text.
+//! The place after the last character of the text.
 Place endOf(QStringView text)
 {
     Place end{1, 1};
@@ -34,13 +34,13 @@ Place endOf(QStringView text)
     return end;
 }
 
-//! Compilers tell of what lacks at the end where the text around it goes on.
+//! Compilers may report an error at the end of the text inside the code that we added around it.
 Place within(Place place, Place end)
 {
     return place.line > end.line ? end : place;
 }
 
-//! An error where the code is nested deeper than any compiler has to follow it.
+//! The error for code that is nested deeper than all compilers can follow.
 ExpressionSyntax::Result checkNesting(QStringView code, int linesBefore = 0)
 {
     const qsizetype place = findTooDeepNesting(code);
@@ -52,7 +52,7 @@ ExpressionSyntax::Result checkNesting(QStringView code, int linesBefore = 0)
             u"It is nested more than %1 levels deep."_s.arg(deepestNesting)};
 }
 
-//! Looks into the lines that are long enough to go that deep; an expression stands on one.
+//! Checks the lines that are long enough to be nested that deep; an expression is on one line.
 ExpressionSyntax::Result checkNestingOfLines(QStringView document)
 {
     int number = 0;
@@ -67,7 +67,7 @@ ExpressionSyntax::Result checkNestingOfLines(QStringView document)
     return {};
 }
 
-//! The first engine of a program makes what all have in common, and looks at no lock for it.
+//! The first engine in a program initializes data shared by all engines, without locking.
 std::unique_ptr<QQmlEngine> makeEngine()
 {
     static std::mutex mutex;
@@ -87,7 +87,7 @@ ExpressionSyntax::~ExpressionSyntax() = default;
 
 ExpressionSyntax::Result ExpressionSyntax::checkExpression(const QString &code)
 {
-    // The parentheses alone would let "1) + (2" through.
+    // The parentheses alone would accept "1) + (2".
     const Result asItStands = checkStatements(code);
     return asItStands.valid ? compile(code, true) : asItStands;
 }
@@ -99,7 +99,8 @@ ExpressionSyntax::Result ExpressionSyntax::checkStatements(const QString &code)
 
 ExpressionSyntax::Result ExpressionSyntax::checkDocument(const QString &qml)
 {
-    // Without its imports a document that can be read has one error, an unknown type: reading comes first.
+    // A readable document without imports has exactly one error, an unknown type, because parsing comes
+    // first.
     if (const Result nesting = checkNestingOfLines(qml); !nesting.valid) {
         return nesting;
     }
@@ -124,10 +125,10 @@ bool ExpressionSyntax::isOfUnknownType(const QString &error)
     return error.endsWith(m_unknownType);
 }
 
-// The engine compiles the whole text before it runs any of it, and the first thing that runs is the throw:
-// what comes out is an error only when the compiler threw it. The engine knows no column and takes a few
-// texts that are no code ("#FF" at the start of a line); the reader of QML files does not, but takes a line
-// end between quotes.
+// The engine compiles the whole text before it runs any of it, and the first statement is a throw, so any
+// other error comes from the compiler. The engine reports no column and accepts a few texts that are not code
+// ("#FF" at the start of a line). The reader of QML files rejects those, but accepts a line end between
+// quotes.
 ExpressionSyntax::Result ExpressionSyntax::compile(const QString &code, bool inParentheses)
 {
     if (const Result nesting = checkNesting(code); !nesting.valid) {
@@ -147,7 +148,7 @@ ExpressionSyntax::Result ExpressionSyntax::compile(const QString &code, bool inP
     component.setData(u"QtObject { function f() {\n%1\n}}"_s.arg(block).toUtf8(),
                       QUrl(u"qrc:/expression.qml"_s));
     const QList<QQmlError> errors = component.errors();
-    // Above the text there is one error anyway: nothing is imported, so that the type around it is unknown.
+    // There is always one error before the text: nothing is imported, so the type around it is unknown.
     const auto error = std::find_if(errors.begin(), errors.end(), [&](const QQmlError &candidate) {
         return candidate.line() > linesBefore;
     });

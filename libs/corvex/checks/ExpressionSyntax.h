@@ -11,19 +11,16 @@ class QQmlEngine;
 
 namespace Halvane::Corvex::Designer {
 
-/*!
-    Tells whether a text is correct JavaScript, or correct QML. The text is compiled and never runs, whatever
-   it holds. The engine is this object's own; make one checker for many checks, since an engine takes a
-   millisecond to come up.
-*/
+//! Checks whether a text is correct JavaScript or correct QML. The text is compiled but never run. Each
+//! object has its own engine; use one object for many checks, because creating an engine takes a millisecond.
 class CORVEX_EXPORT ExpressionSyntax
 {
 public:
     struct Result
     {
         bool valid = true;
-        int line = 0;    //!< From 1; 0 when the text is valid.
-        int column = 0;  //!< From 1; 0 when the text is valid, or when nobody knows.
+        int line = 0;    //!< From 1; 0 if the text is valid.
+        int column = 0;  //!< From 1; 0 if the text is valid or the column is unknown.
         QString message; //!< The compiler's, in English.
     };
 
@@ -31,13 +28,13 @@ public:
     ~ExpressionSyntax();
     Q_DISABLE_COPY_MOVE(ExpressionSyntax)
 
-    // What is nested deeper than deepestNesting is refused, and no compiler asked.
+    // Code nested deeper than deepestNesting is refused without calling a compiler.
 
-    //! One expression: what can stand between parentheses.
+    //! One expression: anything that may be between parentheses.
     Result checkExpression(const QString &code);
-    //! Any number of statements, none included.
+    //! Any number of statements, including none.
     Result checkStatements(const QString &code);
-    //! A QML document, with the code in it. Its imports and types are not looked up.
+    //! A QML document, including its code. Imports and types are not resolved.
     Result checkDocument(const QString &qml);
 
 private:
@@ -45,7 +42,8 @@ private:
     bool isOfUnknownType(const QString &error);
 
     std::unique_ptr<QQmlEngine> m_engine;
-    QString m_unknownType; //!< how the engine's error about a type goes on behind the name of the type
+    QString m_unknownType; //!< the end of the engine's error about an unknown type, after the name of the
+                           //!< type
 };
 
 } // namespace Halvane::Corvex::Designer

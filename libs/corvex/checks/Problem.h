@@ -11,31 +11,31 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! One thing that keeps a project from running on the device as its author means it.
+//! A problem that prevents a project from running on the device as intended.
 struct CORVEX_EXPORT Problem
 {
     ProblemCode code;
-    QString object;   //!< its path when the problem was found
-    QString property; //!< its id; empty when the problem is not that of a property
+    QString object;   //!< its path at the time when the problem was found
+    QString property; //!< its id; empty if the problem does not concern a property
     QString message;  //!< translated
-    qint64 line = 0;  //!< in the project's file, 0 when it is not known
+    qint64 line = 0;  //!< in the project's file; 0 if unknown
     qint64 column = 0;
-    //! The object itself; null when it is gone, and for a problem of what is not in the model.
+    //! The object itself; null if it was deleted, or if the problem concerns something outside of the model.
     QPointer<DesignerObject> source = {};
-    bool isApproved = false; //!< somebody knows of it and wants it so, see ProblemApprovals
+    bool isApproved = false; //!< known and intended, see ProblemApprovals
 
-    //! A problem whose message is that of its kind, the placeholders filled with \a values.
+    //! A problem with the message of its kind, its placeholders filled with \a values.
     static Problem at(const DesignerProperty &property, ProblemCode code, const QStringList &values = {});
     static Problem at(const DesignerObject &object, ProblemCode code, const QStringList &values = {});
-    //! A problem with a message of its own.
+    //! A problem with its own message.
     static Problem withMessage(const DesignerProperty &property, ProblemCode code, const QString &message);
 
     const ProblemKind &kind() const { return ProblemKind::of(code); }
     Severity severity() const { return kind().severity; }
-    //! The path that the object has now. The path that it had when it is gone.
+    //! The present path of the object, or its last path if it was deleted.
     QString path() const;
-    //! "object: property: message"; the place in the file takes the place of the property. Problems that are
-    //! no errors say so before the message.
+    //! "object: property: message"; a place in the file replaces the property. For problems that are not
+    //! errors, the severity precedes the message.
     QString toString() const;
 };
 

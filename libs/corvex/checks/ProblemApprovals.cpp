@@ -24,17 +24,17 @@ namespace {
 
 using Common::LocalizationHelper;
 
-//! No file of approvals is larger; a larger one is something else.
+//! A larger file is not a file of approvals.
 constexpr qint64 largestFile = 64LL * 1024 * 1024;
 
 struct Approval
 {
     QString code;
-    QString path; //!< as in the file, or where the object was when it left
+    QString path; //!< as in the file, or the last path of a removed object
     QString property;
     QString message;
     QString reason;
-    bool isResolved = false; //!< the project has had the object
+    bool isResolved = false; //!< the object was found in the project
     QPointer<DesignerObject> object = {};
 
     bool isFor(const Problem &problem) const
@@ -55,11 +55,11 @@ struct Approval
         }
     }
     QString presentPath() const { return object && object->project() ? object->objectPath() : path; }
-    //! Whether the object is deleted for good unless somebody undoes that.
+    //! Whether the object is deleted, unless that is undone.
     bool isGone() const { return isResolved && !(object && object->project()); }
 };
 
-//! Null for a line that is no approval.
+//! Null if the line is not an approval.
 std::optional<Approval> read(const QByteArray &line)
 {
     const QJsonObject json = QJsonDocument::fromJson(line).object();
@@ -84,7 +84,7 @@ QByteArray written(const Approval &approval)
 
 } // namespace
 
-//! Keeps the approvals, and follows the names of their objects.
+//! Stores the approvals and follows the names of their objects.
 class ProblemApprovals::Follower : public ModelObserver
 {
 public:
@@ -136,8 +136,8 @@ private:
     Project *m_project;
     ProblemApprovals &m_approvals;
     ByMessage m_all;
-    QByteArray m_known; //!< what the file holds
-    QString m_path;     //!< of the file that was read or written last
+    QByteArray m_known; //!< the contents of the file
+    QString m_path;     //!< of the file that was last read or written
     QString m_error;
     bool m_isUnreadable = false;
 };

@@ -12,15 +12,15 @@ namespace Halvane::Corvex::Designer {
 
 class Project;
 
-/*! The problems of a project that somebody knows of and wants to keep.
+/*! The problems of a project that are known and intended.
 
-    They are in a file of their own in the folder of the project (Project::approvalsPath()): one JSON object
-   on each line, in the order of the paths, so that version control merges them line by line. Keys are "code",
-    "object" (the path), "property", "message" and "reason"; the last is for people.
+    They are stored in a separate file in the folder of the project (Project::approvalsPath()): one JSON
+    object per line, ordered by path, so that version control can merge the lines. Keys are "code", "object"
+    (the path), "property", "message" and "reason"; the last is for people.
 
-    An approval is for one message about one object. It follows the object when that or one above it is
-    renamed or moved, and the names in its message. An object that is deleted takes its approvals with it;
-   undo brings them back. Approvals of what the project does not have stay in the file as they are.
+    An approval refers to one message about one object. When the object or one of its owners is renamed or
+    moved, the approval and the names in its message are updated. A deleted object takes its approvals with
+    it; undo restores them. Approvals of objects that the project does not have remain in the file unchanged.
 
     The file is written when the project is saved. A file that cannot be read is never overwritten.
 */
@@ -30,29 +30,30 @@ class CORVEX_EXPORT ProblemApprovals : public QObject
     Q_DISABLE_COPY_MOVE(ProblemApprovals)
 
 public:
-    //! Reads the file; errorString() tells why that failed. It is read again when the project is loaded.
+    //! Reads the file; on failure, errorString() has the reason. The file is read again when the project is
+    //! loaded.
     explicit ProblemApprovals(Project &project, QObject *parent = nullptr);
     ~ProblemApprovals() override;
 
     bool isApproved(const Problem &problem) const;
-    //! Empty for a problem that is not approved, too.
+    //! Also empty for a problem that is not approved.
     QString reasonFor(const Problem &problem) const;
-    //! Sets isApproved of each problem.
+    //! Sets isApproved for each problem.
     void mark(QList<Problem> &problems) const;
 
-    //! A problem that was approved before gets the new reason.
+    //! If the problem is approved already, replaces the reason.
     void approve(const Problem &problem, const QString &reason = {});
-    //! False when the problem is not approved.
+    //! Returns false if the problem is not approved.
     bool withdraw(const Problem &problem);
 
-    //! Writes the file if it has to change, and removes it when nothing is approved. False, with a text for
-    //! errorString(), when that fails.
+    //! Writes the file if it has changed, and deletes it if nothing is approved. On failure returns false,
+    //! and errorString() has the reason.
     bool save();
-    //! Why the file could not be read or written; empty when all is well.
+    //! Why the file could not be read or written; empty on success.
     QString errorString() const;
 
 signals:
-    //! Other problems than before are approved.
+    //! The set of approved problems has changed.
     void changed();
 
 private:

@@ -33,15 +33,15 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Where a problem is, and what is wrong there.
+//! The place of a problem.
 struct Place
 {
     const Problem &problem;
     DesignerObject &object;
-    SharedProperty property; //!< null for a problem of the object
+    SharedProperty property; //!< null if the problem concerns the object
 };
 
-//! What a fix does. A property gets a value; the object is renamed or deleted.
+//! The effect of a fix: a property gets a value, or the object is renamed or deleted.
 struct Plan
 {
     enum Action { Set, Rename, Delete };
@@ -58,7 +58,7 @@ MaybePlan setting(const SharedProperty &property, const QString &value, const QS
     return isGood ? MaybePlan({Plan::Set, property, value, words}) : std::nullopt;
 }
 
-//! Letters, digits and underscores of a name, with a letter first.
+//! The letters, digits and underscores of a name, beginning with a letter.
 QString cleanName(const DesignerObject &object)
 {
     constexpr qsizetype longest = 240;
@@ -79,7 +79,7 @@ MaybePlan renamed(const Place &place)
     Common::TextHelper::numberFromString(clean, &stem);
     const Screen *screen = kindCast<Element>(&object) ? object.screen() : nullptr;
     QString name = clean;
-    // The first free number may make a reserved name, or one that is taken otherwise.
+    // The first free number may give a reserved name, or one that is taken in another way.
     for (int attempts = 8; attempts > 0 && !PropertyValidators::nameError(&object, name).isEmpty();
          --attempts) {
         name = screen ? object.screen()->uniqueElementName(stem) : object.project()->generateUniqueName(stem);
@@ -119,7 +119,7 @@ MaybePlan clamped(const Place &place)
     return number ? setting(place.property, textOf(*number), {textOf(*number)}) : std::nullopt;
 }
 
-//! The number of a state or an action, by the range of the property that it is for.
+//! The number of a state or an action, compared with the range of its target property.
 template<Limit limit>
 MaybePlan clampedSetting(const Place &place)
 {
@@ -154,7 +154,7 @@ MaybePlan reset(const Place &place)
                : std::nullopt;
 }
 
-//! The names that a mention may stand for in a property of \a owner.
+//! The names that a mention in a property of \a owner may refer to.
 QStringList namesFor(NamedKinds kinds, const DesignerObject &owner)
 {
     const Project &project = *owner.project();
@@ -174,7 +174,7 @@ QStringList namesFor(NamedKinds kinds, const DesignerObject &owner)
     return names;
 }
 
-//! The link to the object with the nearest name of those that the link may name.
+//! The link to the object with the most similar name that the link accepts.
 MaybePlan relinked(const Place &place)
 {
     const auto *link = propertyCast<LinkProperty>(place.property);
@@ -204,7 +204,7 @@ MaybePlan unlinked(const Place &place)
     return setting(place.property, none.toString());
 }
 
-//! The value with the nearest name in each place where it has the one that nothing bears.
+//! Replaces the unknown name by the most similar one everywhere in the value.
 MaybePlan respelled(const Place &place)
 {
     if (propertyCast<LinkProperty>(place.property)) {
@@ -257,7 +257,7 @@ MaybePlan deleted(const Place &place)
     return Plan{Plan::Delete, place.object.idProperty(), {}, {place.object.getIdName()}};
 }
 
-//! A channel of the device that no element of the class uses on the screen.
+//! A channel of the device that no element of the class on the screen uses.
 MaybePlan otherChannel(const Place &place)
 {
     const DeviceChannels *channels = DeviceChannels::of(place.object.className());
@@ -272,7 +272,7 @@ MaybePlan otherChannel(const Place &place)
     return {};
 }
 
-//! The identifier with the first instance that no object of the type has.
+//! The identifier with the first free instance of its type.
 MaybePlan otherInstance(const Place &place)
 {
     const auto identifier = BACnetObject::readIdentifier(place.property->valueString());
@@ -307,7 +307,7 @@ constexpr char respellText[] = "Replace \"%1\" with \"%2\"";
 constexpr char resetText[] = "Reset to the default";
 constexpr char channelText[] = "Assign channel %1";
 
-//! All fixes. Of those for one kind of problem the better ones come first.
+//! All fixes. For each kind of problem the best ones come first.
 constexpr Row rows[] = {
     {ProblemCode::NameFormat, renameText, renamed},
     {ProblemCode::NameLength, renameText, renamed},
@@ -359,7 +359,7 @@ std::optional<PlannedFix> plannedFix(const Row &row, const Problem &problem)
     return PlannedFix{filledText(text, plan->words), *plan};
 }
 
-//! Another object could be meant by the same name.
+//! Whether the name could also mean another object.
 bool isAmbiguous(const DesignerObject &object)
 {
     const QString &name = object.getIdName();
@@ -368,8 +368,8 @@ bool isAmbiguous(const DesignerObject &object)
                                                          : list && list->listItemCount(name) > 1;
 }
 
-//! Renames one of several objects with the same name. References stay with the others, except that a group
-//! lists its member by the new name.
+//! Renames one of several objects with the same name. References continue to mean the others, except that a
+//! group lists its member under the new name.
 class RenameNamesake : public ModelCommand
 {
 public:

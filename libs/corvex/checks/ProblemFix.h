@@ -16,13 +16,13 @@ namespace Halvane::Corvex::Designer {
 struct CORVEX_EXPORT ProblemFix
 {
     QString text; //!< "Rename to "pump2"", translated
-    //! Makes a command to push. Null when the project has changed so that the text is no longer true.
+    //! Creates a command to push. Null if the project has changed so that the text is no longer correct.
     std::function<std::unique_ptr<UndoCommand>()> makeCommand;
 
-    /*! The fixes that the project offers for the problem as it is now, the best one first. Looking for the
-        nearest name takes time, so ask when the user does. The project must outlive the fixes. */
+    //! The fixes for the present state of the problem, the best one first. The search for similar names is
+    //! slow, so call it on request of the user. The project must outlive the fixes.
     static QList<ProblemFix> of(const Problem &problem);
-    //! What fixes of that kind are called, with placeholders: "Rename to "%1"". English.
+    //! The texts of all fixes for that kind of problem, with placeholders: "Rename to "%1"". English.
     static QStringList texts(ProblemCode code);
 };
 

@@ -9,14 +9,14 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! How bad a problem is.
+//! How serious a problem is.
 enum class Severity {
-    Error,   //!< The device cannot do what the author means. A build refuses it.
-    Warning, //!< The device probably does not do what the author means. A build goes on.
-    Hint,    //!< It works, and there is a better way.
+    Error,   //!< The device cannot do what the author intends. A build refuses it.
+    Warning, //!< The device probably does not do what the author intends. A build accepts it.
+    Hint,    //!< It works, but there is a better way.
 };
 
-//! What kind of problem a check has found. The words that users and programs see are in ProblemKind.
+//! The kind of a problem. ProblemKind has the words for users and programs.
 enum class ProblemCode {
     FileKept,
     FileDropped,
@@ -61,11 +61,11 @@ enum class ProblemCode {
     ScreenLook,
 };
 
-/*! One row of the table of all kinds of problems.
+/*! One row in the table of all kinds of problems.
 
     The code word is stable: programs compare it, and users look it up in docs/problems.md. The message has
-    placeholders for the names and values of one problem; it is null where the property that is invalid, the
-    reader or a compiler gives the text.
+    placeholders for the names and values of a problem; it is null if the invalid property, the reader or a
+    compiler provides the text.
 */
 struct CORVEX_EXPORT ProblemKind
 {

@@ -16,19 +16,19 @@ class ProblemChecker;
 class ProblemRows;
 class Project;
 
-/*! All problems of a project, kept current while somebody edits it.
+/*! All problems of a project, updated while it is being edited.
 
-    An edit marks the objects that it touched and those that refer to them. Marked objects are checked again
-    in short slices while the event loop is idle, and all at once by update(). Checking an object validates
-    its properties, too, so that it knows of edits elsewhere. When nothing is marked, the list holds the
-    problems that ProjectProblems::find() finds after a validation of the whole project.
+    An edit marks the objects that it changed and those that refer to them. Marked objects are checked again
+    in short slices while the event loop is idle, or all at once by update(). Checking an object also
+    validates its properties, so that it takes account of edits elsewhere. When nothing is marked, the list
+    contains the problems that ProjectProblems::find() finds after a validation of the whole project.
 
-    A problem keeps its row until another one with a smaller row goes. New problems come at the end. While a
-    signal is emitted, the rows are those from before or after the change, as its name says.
+    A problem keeps its row until one with a smaller row is removed. New problems are added at the end. While
+    a signal is emitted, the rows are those before or after the change, as the name of the signal says.
 
-    The problems of an object go as soon as the object leaves the project, within the operation that removes
-    it. So a slot must not change the model, and must not call update(). The list follows one project; it may
-    outlive the project, and is empty then.
+    When an object leaves the project, its problems are removed within the same operation. Therefore a slot
+    must not change the model, and must not call update(). The list follows one project; if that is destroyed
+    first, the list becomes empty.
 */
 class CORVEX_EXPORT ProblemList : public QObject
 {
@@ -36,27 +36,28 @@ class CORVEX_EXPORT ProblemList : public QObject
     Q_DISABLE_COPY_MOVE(ProblemList)
 
 public:
-    //! All of the project is marked. \a models are those that are installed; they must outlive the list.
+    //! Marks the whole project. \a models are the installed ones; they must outlive the list.
     ProblemList(Project &project, const ConfigurationContainer &models, QObject *parent = nullptr);
     ~ProblemList() override;
 
-    //! Null once the project is destroyed.
+    //! Null after the project was destroyed.
     Project *project() const;
 
-    //! Marks the problems that are approved; null for none. Not owned; they must outlive the list.
+    //! Sets the approvals of problems; may be null. Not owned; they must outlive the list.
     void setApprovals(const ProblemApprovals *approvals);
 
-    //! All problems, those that are approved included.
+    //! All problems, including approved ones.
     qsizetype count() const;
-    //! Those that are not approved.
+    //! Problems that are not approved.
     qsizetype count(Severity severity) const;
     qsizetype approvedCount() const;
-    //! The row must be one of the list. The reference is good until the list changes.
+    //! The row must be valid. The reference is valid until the list changes.
     const Problem &at(qsizetype row) const;
     QList<Problem> problems() const;
 
     // In a time that depends only on the number of problems of the object.
-    //! Those of the object itself, not of the objects in it. Problems of the file are those of the project.
+    //! The problems of the object itself, without those of objects in it. Problems of the file belong to the
+    //! project.
     QList<Problem> problemsOf(const DesignerObject *object) const;
     QList<Problem> problemsOf(const DesignerProperty &property) const;
     QList<qsizetype> rowsOf(const DesignerObject *object) const;
@@ -74,9 +75,9 @@ signals:
     void inserted(qsizetype first, qsizetype last);
     void aboutToRemove(qsizetype first, qsizetype last);
     void removed(qsizetype first, qsizetype last);
-    //! Problems in these rows may have been approved, or approvals withdrawn.
+    //! Problems in these rows may have been approved, or their approvals withdrawn.
     void changed(qsizetype first, qsizetype last);
-    //! Problems of the object came or went; the object is in the project.
+    //! Problems of the object were added or removed. The object is in the project.
     void problemsChanged(Halvane::Corvex::Designer::DesignerObject *object);
     void currentChanged(bool isCurrent);
 

@@ -16,17 +16,17 @@ namespace {
 
 //! Fewer objects are not worth a thread.
 constexpr qsizetype objectsOfPart = 500;
-//! More parts than processors, since some take longer than others.
+//! More parts than processors, because some take longer than others.
 constexpr qsizetype partsOfProcessor = 4;
 
-//! A run of the objects that the project holds, in their order, with checks of its own.
+//! A sequence of the project's objects, with its own checks.
 struct Part
 {
     QList<DesignerObject *> objects;
     CheckWalk walk;
 };
 
-//! How many objects there are about, of which none is far below.
+//! The approximate number of objects, including those below it.
 qsizetype weightOf(const DesignerObject &object)
 {
     return 1 + object.childObjects().size();

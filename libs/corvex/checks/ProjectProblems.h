@@ -13,14 +13,15 @@ namespace Halvane::Corvex::Designer {
 class ConfigurationContainer;
 class Project;
 
-//! Looks for everything that can be wrong with a project, in one walk, which all processors share.
+//! Finds all problems of a project in one walk, using all processors.
 class CORVEX_EXPORT ProjectProblems
 {
 public:
-    /*! In the order of the checks: what was not taken over from the file, a model that is not among \a
-       models, invalid values, and so on; generated code comes last. The project must have been validated, and
-       nothing may change it meanwhile. What is found does not depend on the number of processors. Nothing is
-       found when \a progress is cancelled. */
+    /*! In the order of the checks: parts of the file that were not read, a model that is not in \a models,
+        invalid values, and so on; generated code comes last. The project must have been validated, and must
+        not change meanwhile. The result does not depend on the number of processors. It is empty if \a
+        progress is cancelled.
+    */
     static QList<Problem> find(const Project &project, const ConfigurationContainer &models,
                                Common::Progress *progress = nullptr);
 };

@@ -189,7 +189,7 @@ public:
     //! Validates all objects below, then all own properties, and collects "title: reason" for each failure.
     //! Emits validationError() when errors appear and resetValidationError() when they are gone.
     bool validate();
-    //! The same without the objects below, which keep their last outcomes.
+    //! The same without the objects below, whose last outcomes are used.
     void validateProperties();
     bool isValid() const;
     void setValid(bool valid);

@@ -19,7 +19,7 @@ namespace {
 
 const QString mimeType = u"application/x-corvex-objects"_s;
 
-//! What is dragged. Only the model that made it accepts it.
+//! The dragged objects. Only the model that created the data accepts it.
 class DraggedObjects : public QMimeData
 {
 public:
@@ -35,7 +35,7 @@ public:
         setData(mimeType, text().toUtf8());
     }
 
-    //! Empty if the data come from elsewhere, or an object does not exist any more.
+    //! Empty if the data come from elsewhere, or an object no longer exists.
     static QList<DesignerObject *> of(const QMimeData *data, const ObjectTreeModel *source)
     {
         const auto *dragged = dynamic_cast<const DraggedObjects *>(data);
@@ -222,7 +222,7 @@ bool ObjectTreeModel::push(PlannedCommand planned)
 bool ObjectTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
     DesignerObject *renamed = role == Qt::EditRole ? object(index) : nullptr;
-    // An editor that is closed without a change renames nothing.
+    // Closing an editor without a change renames nothing.
     return renamed
            && (renamed->getIdName() == value.toString()
                || push(Commands::renameOf(renamed, value.toString())));
@@ -244,12 +244,12 @@ QMimeData *ObjectTreeModel::mimeData(const QModelIndexList &indexes) const
     return objects.isEmpty() ? nullptr : new DraggedObjects(this, objects);
 }
 
-//! The objects and the place for them.
+//! The objects and their new place.
 struct ObjectTreeModel::Drop
 {
     QList<DesignerObject *> objects;
     SharedProperty list;
-    qsizetype index = -1; //!< of the item that comes after them; -1 for the end of the list
+    qsizetype index = -1; //!< of the item after them; -1 for the end of the list
 };
 
 bool ObjectTreeModel::readDrop(const QMimeData *data, Qt::DropAction action, int row,
@@ -327,7 +327,7 @@ void ObjectTreeModel::inserted(const SharedProperty &list, qsizetype index, Desi
     }
 }
 
-//! Views may still read the object here, so the row goes before it.
+//! Views may still access the object here, so remove its row first.
 void ObjectTreeModel::aboutToRemove(const SharedProperty &, qsizetype, DesignerObject *object)
 {
     if (ObjectTree::Node *node = m_tree->nodeOf(object)) {

@@ -19,7 +19,8 @@ struct PlannedCommand;
     filters; a group holds its members. Rows have the order of the lists.
 
     The model follows all changes of the project. Users rename objects in place, and move or copy them by drag
-    and drop; each is one step of the document's history. */
+    and drop; each is one step of the document's history.
+*/
 class CORVEX_EXPORT ObjectTreeModel
     : public QAbstractItemModel
     , private ModelObserver
@@ -30,27 +31,28 @@ public:
     enum Role {
         ObjectRole = Qt::UserRole + 1, //!< DesignerObject *; null for a list
         ClassRole,                     //!< the class name; empty for a list
-        TitleRole,                     //!< what the user calls this kind of object
-        IconNameRole,                  //!< the class whose icon fits, see DesignerFactory::getObjectIcon()
-        /*! As ProjectPath reads it. It contains the names of the rows above. When one of these changes, only
-            that row is reported. */
+        TitleRole,                     //!< the name of the class for users
+        IconNameRole,                  //!< the class that determines the icon, see
+                                       //!< DesignerFactory::getObjectIcon()
+        //! In the form of ProjectPath. Includes the names of the rows above; when one of these changes, only
+        //! that row is reported.
         PathRole,
-        ValidRole,  //!< whether it is valid, with all that is in it
-        ErrorsRole, //!< why it is not: texts for the user, "title of the property: reason"
+        ValidRole,  //!< whether it is valid, including everything in it
+        ErrorsRole, //!< the reasons if it is invalid: texts for the user, "title of the property: reason"
     };
     Q_ENUM(Role)
 
-    //! The document must live as long as the model is used. A project that is loaded again is followed.
+    //! The document must outlive the model. The model continues with a reloaded project.
     explicit ObjectTreeModel(ProjectDocument &document, QObject *parent = nullptr);
     ~ObjectTreeModel() override;
 
     //! Null for a list.
     DesignerObject *object(const QModelIndex &index) const;
-    //! Invalid for an object that has no row.
+    //! Invalid if the object has no row.
     QModelIndex indexOf(const DesignerObject *object) const;
     //! The row of a list of the project, such as Project::screens().
     QModelIndex indexOf(const SharedProperty &list) const;
-    //! Why the last renaming or drop was refused, for the user; empty if it was done.
+    //! Why the last renaming or drop was refused, for the user; empty if it succeeded.
     const QString &errorString() const { return m_error; }
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
@@ -63,19 +65,20 @@ public:
     //! Renames an object, with all references to it.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
-    // Drag and drop, within one model. The text of the data has the paths of the objects, one per line.
+    // Drag and drop within one model. The text form of the data contains the paths of the objects, one per
+    // line.
     Qt::DropActions supportedDropActions() const override { return Qt::MoveAction | Qt::CopyAction; }
     QStringList mimeTypes() const override;
     QMimeData *mimeData(const QModelIndexList &indexes) const override;
     bool canDropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
                          const QModelIndex &parent) const override;
-    /*! Moves objects before the row, or to the end of the list for row -1. A copy is made in the list of the
-        original only. */
+    //! Moves objects before the row, or to the end of the list for row -1. Copies are always added to the
+    //! list of the original.
     bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
                       const QModelIndex &parent) override;
 
 signals:
-    //! A renaming or a drop was made, and the user has to know this about it.
+    //! Notes for the user about a renaming or a drop that was made.
     void noted(const QStringList &notes);
 
 private:

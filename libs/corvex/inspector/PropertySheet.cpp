@@ -21,7 +21,7 @@ namespace {
 
 using Common::LocalizationHelper;
 
-//! One member of a row, and the roles that show it.
+//! A member of a row, and its roles.
 struct Field
 {
     int role;
@@ -65,7 +65,7 @@ const std::vector<Field> &fields()
     return table;
 }
 
-//! The rows that a user edits. Objects and lists have views of their own.
+//! The rows that users edit. Objects and lists have their own views.
 bool isInSheets(const DesignerProperty &property)
 {
     return property.hasFlag(EditableFlag) && !property.isList() && !property.isObject();
@@ -148,7 +148,7 @@ void PropertySheet::addProperty(size_t place, const SharedProperty &property)
     (*line)->add(place, property, m_defaults->of(*property));
 }
 
-//! Adds the object of that place to the lines. The rows follow later.
+//! Adds the object at that place to the lines. The rows are updated later.
 void PropertySheet::addProperties(size_t place)
 {
     for (const SharedProperty &property : m_objects->at(place)->properties()) {
@@ -165,7 +165,7 @@ std::vector<SheetLine *> PropertySheet::wantedRows() const
         int rank;
     };
     std::vector<Wanted> wanted;
-    QHash<QString, int> groupRanks; // a group comes where its first row would
+    QHash<QString, int> groupRanks; // a group is placed where its first row would be
     for (const std::unique_ptr<SheetLine> &line : m_lines) {
         if (line->count() > 0 && line->count() == m_objects->count()) {
             const SheetRow row = line->summary();
@@ -182,7 +182,7 @@ std::vector<SheetLine *> PropertySheet::wantedRows() const
     return rows;
 }
 
-//! Brings the rows up to date, row by row.
+//! Updates the rows one by one.
 void PropertySheet::arrange()
 {
     const std::vector<SheetLine *> wanted = wantedRows();
@@ -334,7 +334,7 @@ QHash<int, QByteArray> PropertySheet::roleNames() const
     return names;
 }
 
-//! Null for a property that is in no line.
+//! Null if no line contains the property.
 SheetLine *PropertySheet::lineOf(const SharedProperty &property, size_t place) const
 {
     const auto line = std::ranges::find_if(

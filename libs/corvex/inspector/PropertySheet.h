@@ -21,32 +21,36 @@ class SheetObjects;
 struct CORVEX_EXPORT SheetRow
 {
     QString id;
-    QString title; //!< translated, as are group and description
-    QString group; //!< the title of the group that the row belongs to; empty for the first one
+    QString title; //!< translated, like group and description
+    QString group; //!< the title of the row's group; empty for the first group
     int rank = 0;  //!< orders the rows of a group
     QString kind;  //!< the class of the property
-    QString value; //!< the text of the value; empty if the objects have different ones
+    QString value; //!< the text of the value; empty if the values differ
     bool isMixed = false;
-    bool isDefault = true; //!< whether a new object of the class has the value; for several, all of them
-    QString error;         //!< why the value is invalid, of the first object whose value is; empty for none
+    bool isDefault = true; //!< whether the value is that of a new object of the class; for several objects,
+                           //!< of all
+    QString error;         //!< why the value is invalid, for the first object with an invalid value; empty if
+                           //!< all are valid
     QString description;
-    bool isVisible = true;   //!< a panel hides the row when the value of another row makes it pointless
-    bool isReadOnly = false; //!< the value follows from others, or several objects cannot share it
+    bool isVisible = true;   //!< a panel hides the row if the value of another row makes it irrelevant
+    bool isReadOnly = false; //!< the value depends on others, or several objects cannot share it
     QString editor;          //!< the name of the editor class
     QVariantMap editorParameters;
 
     bool operator==(const SheetRow &) const = default;
 };
 
-/*! The properties that one or several objects have in common, as a table: the title in one column, the value
-   in the next. Properties are common if they have the same id and kind, and a user may edit them. Rows are
-    ordered by groups, and in a group by rank; the editor parameter "group" of a property is its group.
+/*! The common properties of one or several objects, as a table with the title in one column and the value in
+    the next. Properties are common if they have the same id and kind, and if users may edit them. Rows are
+    ordered by group, and within a group by rank; the editor parameter "group" of a property defines its
+    group.
 
-    What is not a value, such as title and editor, comes from the first object.
+    Everything except the value, such as title and editor, is taken from the first object.
 
-    The sheet follows values, validity and descriptions, and reports exactly the rows and roles that change.
-   An object that leaves the project leaves the sheet, and returns if it comes back. An edit of another object
-    costs one look into a table. */
+    The sheet follows values, validity and descriptors, and reports exactly the changed rows and roles. An
+    object that leaves the project is removed from the sheet, and added again if it returns. An edit of
+    another object costs one table lookup.
+*/
 class CORVEX_EXPORT PropertySheet
     : public QAbstractTableModel
     , private ModelObserver
@@ -74,7 +78,7 @@ public:
     };
     Q_ENUM(Role)
 
-    //! A sheet of no objects. The sheet is empty from when the project is loaded again or destroyed.
+    //! Creates an empty sheet. The sheet becomes empty when the project is reloaded or destroyed.
     explicit PropertySheet(Project &project, QObject *parent = nullptr);
     ~PropertySheet() override;
 
@@ -82,21 +86,21 @@ public:
     void setObjects(const QList<DesignerObject *> &objects);
     QList<DesignerObject *> objects() const;
 
-    //! The row must be there.
+    //! The row must exist.
     const SheetRow &row(int row) const;
-    //! -1 if the sheet has no row of that id.
+    //! -1 if the sheet has no row with that id.
     int rowOf(const QString &id) const;
-    //! The property of the row, of each object.
+    //! The property of the row in each object.
     QList<SharedProperty> properties(int row) const;
 
-    // Edits. Each plans one command for all objects and changes nothing. Push it before the next edit. There
-    // is neither a command nor a reason if the objects have these values already.
+    // Edits. Each plans one command for all objects and changes nothing. Push it before the next edit. If the
+    // objects have these values already, there is neither a command nor a reason.
     PlannedCommand set(int row, const QString &text) const;
-    //! Gives each object the value that a new object of its class has.
+    //! Sets each object to the value of a new object of its class.
     PlannedCommand reset(int row) const;
-    //! Takes over the values of a copied text for the rows that the sheet has and may change.
+    //! Sets the values in a copied text, for the rows that the sheet has and may change.
     PlannedCommand paste(const QString &text) const;
-    //! The values of rows as text, an object in JSON with ids and values. Rows of mixed values are left out.
+    //! The values of rows as text: a JSON object with ids and values. Rows with different values are skipped.
     QString copy(const QList<int> &rows) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;

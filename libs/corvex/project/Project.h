@@ -90,7 +90,7 @@ public:
     bool writeContents(const QString &path, const QString &fileName, QString *error) const;
     //! The folder of the image files, whether or not it exists; empty for a project without a file.
     QString imagesPath() const;
-    //! D/P/Approvals.jsonl, where approved problems are listed; empty for a project without a file.
+    //! D/P/Approvals.jsonl, the list of approved problems; empty for a project without a file.
     QString approvalsPath() const;
     //! D/P.kdproj.kdasv, next to the project's folder; empty for a project without a file.
     QString autosavePath() const;

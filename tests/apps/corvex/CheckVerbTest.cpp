@@ -135,17 +135,17 @@ TEST(CheckVerb, ChecksReferencesBetweenParts)
         u"Main.check: variable: \"speed\" is of the class NumberVariable, and the link needs an object of "
         u"the "
         "class BooleanVariable."_s,
-        u"text: value: \"12 V\" is no number that the device can hold."_s,
+        u"text: value: \"12 V\" is not a number that the device supports."_s,
         u"map: coilMap: Cannot find \"gone\" in the project."_s,
         u"Main.button: pressedState: Cannot find element \"away\" in the screen."_s,
-        u"Main.button: pressedState: \"small\" is no value for the property \"size\" of \"box1\"."_s,
+        u"Main.button: pressedState: \"small\" is not a valid value for the property \"size\" of \"box1\"."_s,
         u"Main.button: pressedState: \"box1\" has no property \"hue\"."_s,
         u"Main.button: pressedState: warning: \"-4\" is out of range for \"radius\" of \"box1\", which takes "
         "numbers from 0 on."_s,
         u"Main.value: textBinding: Cannot find \"gone\" in the project."_s,
         u"Main.element: xBinding: Cannot find element \"box1.box2\" in the screen."_s,
         u"Main.screen: xBinding: Cannot find element \"Main.away\" in the screen."_s,
-        u"Main.action: propertyChanges: \"redish\" is no value for the property \"color\" of \"box1\"."_s,
+        u"Main.action: propertyChanges: \"redish\" is not a valid value for the property \"color\" of \"box1\"."_s,
     };
     EXPECT_EQ(bad.run({u"check"_s, pump}).out, expected.join(u'\n') + u'\n');
 }
@@ -330,7 +330,7 @@ TEST(CheckVerb, CountsApprovedProblemsApart)
     EXPECT_EQ(problems[1][u"reason"_s].toString(), u"thin"_s);
     EXPECT_EQ(problems[1][u"fixes"_s].toArray(), QJsonArray{u"Set to 10, the smallest value"_s});
     EXPECT_TRUE(sandbox.run({u"build"_s, pump, u"-o"_s, u"built"_s})
-                    .error.contains(u"Errors stop a build even when they are approved."_s));
+                    .error.contains(u"Errors prevent a build even if they are approved."_s));
 
     EXPECT_EQ(sandbox.run({u"rename"_s, pump, u"Main.faded"_s, u"pale"_s, u"--force"_s}).code, 0);
     EXPECT_TRUE(sandbox.run({u"check"_s, pump}).out.contains(u", 2 approved\n"_s));

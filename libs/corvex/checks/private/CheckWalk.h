@@ -13,40 +13,41 @@ namespace Halvane::Corvex::Designer {
 
 class ConfigurationContainer;
 
-//! Leads all checks through a part of a project in one walk.
+//! Runs all checks on a part of a project in a single walk.
 class CheckWalk
 {
 public:
-    //! With one check of each kind, in the order in which their problems are listed.
+    //! With one check of each kind, in the order of their problems in the list.
     static CheckWalk withAllChecks(const Project &project, const ConfigurationContainer &models);
 
-    //! Looks at the project without the objects in it.
+    //! Examines the project without the objects in it.
     void lookAt(const Project &project);
-    //! Looks at an object and all that is below it.
+    //! Examines an object and everything below it.
     void visit(const DesignerObject &object);
 
-    //! Takes over what \a later has found, which has the same checks and has walked what comes after.
+    //! Takes the results of \a later, which has the same checks and has walked the following part.
     void join(CheckWalk &later);
-    //! All problems: those of the check that was added first come first, each in the order of the walk.
+    //! All problems, ordered by check in the order of their addition, and for each check in the order of the
+    //! walk.
     QList<Problem> finish(const Project &project);
 
     // For a part of the project that is checked again.
-    //! Looks at an object without what is below it. Shared checks are left out.
+    //! Examines an object without the objects below it. Skips shared checks.
     void look(const DesignerObject &object);
     void lookAtFile(const Project &project);
-    //! What was found since the last call, except by shared checks.
+    //! The problems found since the last call, except by shared checks.
     QList<Problem> takeProblems(const Project &project);
     const QList<SharedCheck *> &sharedChecks() const { return m_sharedChecks; }
-    //! Whether what is said of objects of the class depends on the device model.
+    //! Whether the results for objects of the class depend on the device model.
     bool isOnDevice(const DesignerObject &object) { return planOf(object).isOnDevice; }
-    //! Those for objects of the class, by their index.
+    //! The indexes of the shared checks for objects of the class.
     const QList<qsizetype> &sharedChecksFor(const DesignerObject &object) { return planOf(object).shared; }
 
 private:
-    //! What there is to do with the objects of one class.
+    //! The work for the objects of one class.
     struct Plan
     {
-        //! A property is known by its place among those of the object.
+        //! A property is identified by its index in the object.
         struct Site
         {
             qsizetype place;

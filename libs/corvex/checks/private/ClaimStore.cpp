@@ -9,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! For more objects one walk of the list is cheaper than a search for each.
+//! For more objects a walk through the list is faster than searching for each.
 constexpr qsizetype mostSearches = 16;
 
 //! Puts objects of one list into its order.

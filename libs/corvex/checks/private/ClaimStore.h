@@ -8,24 +8,24 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The claims for one shared check, kept while a project is edited. Objects without claims take no memory.
+//! The claims for one shared check while a project is being edited. Objects without claims need no memory.
 class ClaimStore
 {
 public:
     using Claims = QList<SharedCheck::Claim>;
 
-    //! Replaces the claims of an object. Its groups, old and new, are to be compared. \return the keys of the
-    //! groups of which it is no subject any more.
+    //! Replaces the claims of an object, and marks its old and new groups for comparison. \return the keys of
+    //! the groups that the object has left as a subject.
     QStringList set(DesignerObject *object, const Claims &claims);
     void drop(const DesignerObject *object);
     void clear() { *this = {}; }
-    //! The objects have another order: all groups that have one are to be compared.
+    //! The order of the objects has changed: marks all groups whose result depends on it.
     void compareAll();
-    //! The groups of the object are to be compared.
+    //! Marks the groups of the object for comparison.
     void compareGroupsOf(const DesignerObject *object);
 
     bool isCurrent() const { return m_changed.isEmpty(); }
-    //! A group that is to be compared; its subjects are in the order of their list.
+    //! A marked group. Its subjects are in list order.
     SharedCheck::Group takeChanged();
 
 private:

@@ -19,7 +19,7 @@ QString textOf(const QmlBinding &binding)
     return text;
 }
 
-//! Beyond that number the check forgets all of them, and reads again what comes up.
+//! Beyond this number the check discards all shapes and parses new texts again.
 constexpr qsizetype mostShapes = 20'000;
 
 } // namespace
@@ -41,13 +41,13 @@ bool CodeCheck::concerns(const DesignerProperty &property)
     if (!isOnScreen || !property.hasFlag(RuntimeFlag) || property.isList() || property.isObject()) {
         return false;
     }
-    // Plain values are always correct. Whether the language takes the name is to be seen once.
+    // Plain values are always correct; their name must be checked only once.
     return !property.writesPlainQml() || !m_plainNames.contains(property.id());
 }
 
 void CodeCheck::look(const DesignerProperty &property)
 {
-    // An invalid value has its own problem.
+    // An invalid value is reported separately.
     const bool isPlain = property.writesPlainQml();
     if (!property.isValid() || (isPlain && m_plainNames.contains(property.id()))) {
         return;
@@ -94,7 +94,7 @@ void CodeCheck::readShapes()
 void CodeCheck::finish(const Project &)
 {
     readShapes();
-    // Not each text of a wrong shape has to be wrong. Each is read for its own message.
+    // Not every text of a wrong shape is wrong itself, so each is parsed for its own message.
     struct Suspect
     {
         const DesignerProperty *source;
@@ -104,14 +104,14 @@ void CodeCheck::finish(const Project &)
     TextNumbers texts;
     for (const auto &[property, shape, place, isPlain] : std::exchange(m_uses, {})) {
         if (m_wrongShapes.contains(shape)) {
-            // The next object with such a property is looked at, too, should it be checked later.
+            // Check the next object with such a property, too, because it may be checked later.
             m_plainNames.remove(isPlain ? property->id() : QString());
             const QmlBindings bindings = property->qmlBindings();
             suspects.append({bindings.at(place).source, texts.of(textOf(bindings.at(place)))});
         }
     }
     const QHash<qsizetype, QString> messages = CodeReader::errors(texts.texts());
-    const DesignerProperty *reported = nullptr; // the bindings of a property follow each other
+    const DesignerProperty *reported = nullptr; // the bindings of a property are adjacent
     for (const auto &[source, text] : std::as_const(suspects)) {
         if (source != reported && messages.contains(text)) {
             report(*source, ProblemCode::CodeUnreadable, {messages.value(text)});

@@ -8,9 +8,9 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! Reads the bindings that properties of screens and elements generate, as the device will do. Of texts that
-   are alike one is read, and a text that cannot be wrong not at all. A problem is reported at the source of
-   the binding: the property that holds what the user wrote. The check remembers what it has read. */
+//! Parses the bindings that properties of screens and elements generate, as the device will. Of similar texts
+//! only one is parsed, and texts that are always correct are skipped. A problem is reported at the source of
+//! the binding: the property with the user's input. The check remembers what it has parsed.
 class CodeCheck : public PropertyCheck
 {
 public:
@@ -20,16 +20,16 @@ public:
     void finish(const Project &project) override;
 
 private:
-    //! A binding with the number of the shape of its text.
+    //! A binding with the number of its text's shape.
     struct Use
     {
         const DesignerProperty *property;
         qsizetype shape;
-        int place;    //!< of the binding among those of the property
-        bool isPlain; //!< looked at for its name alone
+        int place;    //!< the index of the binding in the property
+        bool isPlain; //!< only its name is checked
     };
 
-    //! Texts without repetition, numbered from 0 in the order in which they came.
+    //! Texts without duplicates, numbered from 0 in order of their addition.
     class TextNumbers
     {
     public:
@@ -45,10 +45,10 @@ private:
     void readShapes();
 
     TextNumbers m_shapes;
-    qsizetype m_readShapes = 0;    //!< how many of them have been read
+    qsizetype m_readShapes = 0;    //!< the number of parsed shapes
     QSet<qsizetype> m_wrongShapes; //!< of those
     QList<Use> m_uses;
-    QSet<QString> m_plainNames; //!< of properties with plain values, which were looked at once
+    QSet<QString> m_plainNames; //!< of properties with plain values, which were checked already
 };
 
 } // namespace Halvane::Corvex::Designer

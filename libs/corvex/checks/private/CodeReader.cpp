@@ -14,7 +14,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Texts that are read in one go.
+//! The number of texts that are parsed together.
 constexpr qsizetype batchSize = 256;
 
 QString object(const QString &members)
@@ -22,7 +22,7 @@ QString object(const QString &members)
     return u"Item {\n"_s + members + u"\n}\n"_s;
 }
 
-//! All at once; one by one only when something is wrong.
+//! Parses all texts together, and one by one only if there is an error.
 void read(ExpressionSyntax &syntax, const QStringList &texts,
           const std::function<void(qsizetype, QString)> &report)
 {
@@ -49,7 +49,7 @@ QHash<qsizetype, QString> CodeReader::errors(const QStringList &texts)
     std::mutex mutex;
     std::atomic<qsizetype> next = 0;
     const auto readSome = [&] {
-        std::optional<ExpressionSyntax> syntax; // its engine belongs to one thread
+        std::optional<ExpressionSyntax> syntax; // an engine belongs to one thread
         for (qsizetype first = next.fetch_add(batchSize); first < texts.size();
              first = next.fetch_add(batchSize)) {
             if (!syntax) {

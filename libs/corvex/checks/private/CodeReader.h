@@ -6,12 +6,11 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Reads members of QML objects, on all processors.
+//! Parses members of QML objects, using all processors.
 class CodeReader
 {
 public:
-    //! Each text holds the members of one object. What is wrong with the texts that are wrong, by their
-    //! indexes.
+    //! Each text contains the members of one object. Returns the errors by the index of the text.
     static QHash<qsizetype, QString> errors(const QStringList &texts);
 };
 

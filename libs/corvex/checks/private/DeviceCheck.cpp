@@ -78,7 +78,7 @@ void DeviceCheck::look(const DesignerObject &object)
         available = channels->available(*m_model);
     }
     if (const SharedProperty channel = object.getProperty(u"channel")) {
-        // A number that no model has is the property's own problem.
+        // A number that exists on no model is reported by the property itself.
         const int number = channel->valueString().toInt();
         if (number >= 1 && !available.contains(number)) {
             report(*channel, ProblemCode::ChannelMissing,

@@ -10,12 +10,12 @@ namespace Halvane::Corvex::Designer {
 class Configuration;
 class ConfigurationContainer;
 
-//! Elements and variables for channels and connections that the device model of the project does not have.
+//! Finds elements and variables for channels and connections that the project's device model does not have.
 class DeviceCheck : public ObjectCheck
 {
 public:
-    /*! Says nothing about a project without a configuration. \a models are those that are installed. The
-       check keeps what it needs of the model: make another one when the configuration changes. */
+    //! Finds nothing in a project without a configuration. \a models are the installed ones. The check stores
+    //! data of the model: create a new check when the configuration changes.
     DeviceCheck(const Project &project, const ConfigurationContainer &models);
 
     //! Whether objects of the class use channels or connections of any model.

@@ -98,7 +98,8 @@ DesignerObject *EditMarks::take()
     return nullptr;
 }
 
-//! Marks what names the object and what has the same name. It is found out later, once for many edits.
+//! Marks objects that refer to the object or have the same name. The search is done later, once for many
+//! edits.
 void EditMarks::markName(const DesignerObject *object, const QString &name)
 {
     if (!name.isEmpty()) {
@@ -109,7 +110,7 @@ void EditMarks::markName(const DesignerObject *object, const QString &name)
     }
 }
 
-//! Other items of the list with that name, which only a project that is marked invalid has.
+//! Other items of the list with that name, which only an invalid project has.
 void EditMarks::markNamesakes(const SharedProperty &list, const QString &name, const DesignerObject *except)
 {
     const qsizetype count = list ? list->listItemCount(name) : 0;
@@ -220,7 +221,7 @@ void EditMarks::leave(const DesignerObject *object)
     }
 }
 
-//! What elements of other screens are called does not depend on those of this one.
+//! The names of elements on other screens do not depend on those of this one.
 void EditMarks::leaveScreen(const DesignerObject *screen)
 {
     m_channels.removeIf([screen](const Channel &channel) { return channel.screen == screen; });
@@ -258,7 +259,7 @@ void EditMarks::moved(const SharedProperty &list, qsizetype, qsizetype to)
     mark(list->parentObject());
     const DesignerObject *item = list->getListItemAtIndex(to);
     m_listener.reordered(item);
-    // Of two with one name the first is meant.
+    // Of two items with the same name the first one is meant.
     if (list->listItemCount(item->getIdName()) > 1) {
         markName(item, item->getIdName());
     }

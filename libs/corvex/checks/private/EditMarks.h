@@ -12,21 +12,21 @@ namespace Halvane::Corvex::Designer {
 class Project;
 class Screen;
 
-//! Follows a project and marks the objects that have to be checked again: those that an edit has touched, and
-//! those that name them, have the same name, or use the same channel.
+//! Follows a project and marks the objects that must be checked again: those that an edit has changed, and
+//! those that refer to them, have the same name, or use the same channel.
 class EditMarks : public ModelObserver
 {
 public:
-    //! Hears of edits within the operations of the model, which it must not change.
+    //! Is notified of edits within the operations of the model, which it must not change.
     class Listener
     {
     public:
         virtual ~Listener() = default;
-        //! Something is marked. Nothing was before.
+        //! Something is marked for the first time since everything was taken.
         virtual void marked() = 0;
-        //! The object leaves the project. It may be a bare DesignerObject by now.
+        //! The object leaves the project. It may already be reduced to a DesignerObject.
         virtual void left(const DesignerObject *object) = 0;
-        //! The item has another place in its list; null when many have.
+        //! The item has another place in its list; null if this applies to many items.
         virtual void reordered(const DesignerObject *item) = 0;
         //! All objects leave the project, which may be destroyed next.
         virtual void cleared() = 0;
@@ -34,17 +34,17 @@ public:
 
     EditMarks(Project &project, Listener &listener);
 
-    //! Null once the project is destroyed.
+    //! Null after the project was destroyed.
     Project *project() const { return m_project; }
 
     bool isEmpty() const;
     void markAll();
     void mark(DesignerObject *object);
     void unmark(const DesignerObject *object) { m_objects.remove(object); }
-    //! Takes the next marked object; null when there is none. A call may only find more objects to mark, so
-    //! ask isEmpty() whether there are any left.
+    //! Takes the next marked object; null if there is none. A call may only mark more objects, so ask
+    //! isEmpty() whether any are left.
     DesignerObject *take();
-    //! Whether the file of the project or what was read from it may be another one. Reading it resets it.
+    //! Whether the file of the project, or the data read from it, may have changed. The call resets this.
     bool takeFileMark() { return std::exchange(m_isFileMarked, false); }
     bool takeConfigurationMark() { return std::exchange(m_isConfigurationMarked, false); }
 
@@ -65,10 +65,10 @@ public:
     void projectAboutToBeDestroyed() override;
 
 private:
-    //! A name that an object has or had.
+    //! A present or past name of an object.
     struct Name
     {
-        const Screen *screen; //!< of an element; null when the screen is gone
+        const Screen *screen; //!< of an element; null if the screen was deleted
         QString text;
         bool isOfElement;
 
@@ -78,7 +78,7 @@ private:
             return qHashMulti(seed, name.screen, name.text);
         }
     };
-    //! What at most one element of a class and a screen should use.
+    //! A channel that at most one element of a class and a screen should use.
     struct Channel
     {
         const Screen *screen;
@@ -98,7 +98,7 @@ private:
     void markChannel(const DesignerObject *element, const QString &value);
     void markNamesakes(const SharedProperty &list, const QString &name,
                        const DesignerObject *except = nullptr);
-    //! What an object brings, or takes with it.
+    //! Marks what is affected when the object is inserted or removed.
     void markMentionsOf(const DesignerObject *object);
     void leave(const DesignerObject *object);
     void leaveScreen(const DesignerObject *screen);
@@ -109,8 +109,8 @@ private:
 
     Project *m_project;
     Listener &m_listener;
-    QHash<const DesignerObject *, bool> m_objects; //!< whether those below it are marked, too
-    QList<DesignerObject *> m_stack; //!< the next one is the last; without a mark it counts no more
+    QHash<const DesignerObject *, bool> m_objects; //!< whether the objects below it are marked, too
+    QList<DesignerObject *> m_stack; //!< the last one is next; entries without a mark are ignored
     QSet<Name> m_names;
     QSet<Channel> m_channels;
     bool m_isFileMarked = false;

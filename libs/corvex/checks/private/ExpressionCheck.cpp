@@ -15,11 +15,11 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! What an expression is for is known by the editor that makes it.
+//! The editor of an expression determines its purpose.
 constexpr auto conditionEditor = "VerticalBooleanExpressionEditor"_L1;
 constexpr auto assignmentEditor = "PropertyChangesEditor"_L1;
 
-//! Whether a value of the one type can become one of the other. A text that is written out is looked at.
+//! Whether a value of one type can be converted to the other. For a constant text the value is checked.
 bool canHold(ValueType target, ValueType type, const GeneralDataInfo &source)
 {
     const bool isLiteral = source.valueType() == GeneralDataInfo::ConstantValue && type == ValueType::Text;
@@ -50,7 +50,7 @@ bool isOperator(const GeneralDataInfo &term)
     return term.valueType() == GeneralDataInfo::OperatorValue;
 }
 
-//! Whether nothing but parentheses lies between a term and the next "&&", "||" or the end, in one direction.
+//! Whether there are only parentheses between a term and the next "&&", "||" or the end, in one direction.
 template<class Iterator>
 bool isAlone(Iterator term, Iterator end, QLatin1StringView parenthesis)
 {
@@ -121,14 +121,14 @@ void ExpressionCheck::lookAtCall(const DesignerProperty &property, const Functio
     const bool isVariable = call.onlyFirst && call.onlyFirst->valueType() == GeneralDataInfo::VariableValue;
     const DesignerObject *first =
         isVariable ? m_project.variables()->getListItem(call.onlyFirst->value()) : nullptr;
-    // What is not there at all has a problem of its own.
+    // A missing object is reported separately.
     const bool isMissing = isVariable && !first;
     if (call.takesLog && !isMissing && !(first && first->isKindOfClass(u"LogVariable"_s))) {
         report(property, ProblemCode::ExpressionLog, {call.name});
     }
 }
 
-//! Pairs of a target and a source.
+//! The terms are pairs of a target and a source.
 void ExpressionCheck::lookAtAssignments(const DesignerProperty &property, const GeneralDataList &terms)
 {
     for (qsizetype i = 0; i + 1 < terms.count(); i += 2) {

@@ -9,8 +9,8 @@ struct FunctionCall;
 class GeneralDataInfo;
 class GeneralDataList;
 
-//! Types of values in the expressions of screens: assignments, conditions, what functions are called with,
-//! and names of variables that have no value.
+//! Checks types in the expressions of screens: assignments, conditions, arguments of functions, and variables
+//! without a value.
 class ExpressionCheck : public PropertyCheck
 {
 public:

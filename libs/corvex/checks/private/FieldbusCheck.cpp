@@ -17,7 +17,7 @@ namespace {
 
 constexpr int messageBits = 64;
 
-//! Who uses which bit of a message.
+//! The user of a bit in a message.
 struct BitUser
 {
     const DesignerObject *variable = nullptr;
@@ -30,7 +30,7 @@ const SharedProperty &mapProperty(const DesignerObject &variable)
     return static_cast<const CANVariable &>(variable).parameterMap();
 }
 
-//! False for a map that is not valid.
+//! Returns false for an invalid map.
 bool readMap(const DesignerObject &variable, CanParameterMap &map)
 {
     QString error;
@@ -76,7 +76,7 @@ QList<SharedCheck::Claim> MessageBitsCheck::claims(const DesignerObject &object)
     if (!readMap(object, map)) {
         return {};
     }
-    // The identifier without the priority, which does not part messages.
+    // The identifier without the priority, which does not distinguish messages.
     return {{QString::number(quint32(map.pgn()) << 8 | quint32(map.sourceAddress()))}};
 }
 

@@ -7,7 +7,7 @@ namespace Halvane::Corvex::Designer {
 
 class ConfigurationContainer;
 
-//! What was not taken over from the project's file, and a device model that is not installed.
+//! Finds parts of the project's file that were not read, and a device model that is not installed.
 class FileCheck : public ProjectCheck
 {
 public:

@@ -5,8 +5,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The text with its placeholders filled in one pass, since a value may look like a placeholder itself. Takes
-//! four values at most.
+//! Fills all placeholders in one pass, because a value may look like a placeholder. Accepts at most four
+//! values.
 QString filledText(const QString &text, const QStringList &values);
 
 } // namespace Halvane::Corvex::Designer

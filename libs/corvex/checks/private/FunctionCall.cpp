@@ -22,7 +22,7 @@ struct Function
     bool takesLog = false;
 };
 
-//! All functions that take something, as the device has them.
+//! All functions with arguments, as on the device.
 constexpr Function functions[] = {
     {"abs"_L1, 1, 1},
     {"acos"_L1, 1, 1},
@@ -81,15 +81,15 @@ QString FunctionCall::wanted() const
 
 QList<FunctionCall> FunctionCall::of(const GeneralDataList &expression)
 {
-    // What is open: a call, or a parenthesis around a part of an argument.
+    // An open call, or a parenthesis around a part of an argument.
     struct Open
     {
         qsizetype call;      //!< its index; -1 for a parenthesis
-        qsizetype firstTerm; //!< of what is within it
+        qsizetype firstTerm; //!< the first term inside
     };
     QList<FunctionCall> calls;
     QList<Open> open;
-    // Of the innermost call: it ends before the term of that index.
+    // Ends an argument of the innermost call, before the term with that index.
     const auto endArgument = [&](qsizetype end) {
         const auto [index, first] = open.constLast();
         FunctionCall *call = index < 0 ? nullptr : &calls[index];

@@ -8,21 +8,21 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A call of a function in an expression, with what the function takes.
+//! A function call in an expression, with the arguments that the function accepts.
 struct CORVEX_EXPORT FunctionCall
 {
     QString name;
-    qsizetype fewest = 0; //!< arguments that the function takes
+    qsizetype fewest = 0; //!< the minimum number of arguments
     qsizetype most = 0;
     bool takesLog = false; //!< as its first argument
     qsizetype argumentCount = 0;
-    std::optional<GeneralDataInfo> onlyFirst = {}; //!< the first argument, when that is a single term
+    std::optional<GeneralDataInfo> onlyFirst = {}; //!< the first argument, if it is a single term
 
     bool hasGoodCount() const { return argumentCount >= fewest && argumentCount <= most; }
     //! "2 arguments", "1 to 3 arguments". Translated.
     QString wanted() const;
 
-    //! The calls of an expression that could be translated, each before those within it.
+    //! The calls of a translatable expression, outer calls before inner ones.
     static QList<FunctionCall> of(const GeneralDataList &expression);
 };
 

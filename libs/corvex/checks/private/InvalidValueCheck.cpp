@@ -18,12 +18,12 @@ namespace {
 
 struct Row
 {
-    QLatin1StringView ownerClass; //!< empty: of any class
+    QLatin1StringView ownerClass; //!< empty: any class
     QLatin1StringView id;         //!< empty: any property
     ProblemCode code;
 };
 
-//! What the validators of the standard classes look after. The first row that fits counts.
+//! The responsibilities of the standard classes' validators. The first matching row counts.
 constexpr Row rows[] = {
     {"Project"_L1, "screens"_L1, ProblemCode::ListIncomplete},
     {"Project"_L1, "defaultScreen"_L1, ProblemCode::ReferenceMissing},
@@ -44,7 +44,7 @@ constexpr Row rows[] = {
 
 ProblemCode nameCode(const DesignerObject &object)
 {
-    // Projects and images are files, with rules of their own.
+    // Projects and images are files, with their own rules.
     const bool isScriptName = object.isKindOfClass(u"ProjectVariable"_s) || object.isKindOfClass(u"Screen"_s)
                               || object.isKindOfClass(u"Element"_s);
     if (!isScriptName) {
@@ -65,7 +65,7 @@ ProblemCode nameCode(const DesignerObject &object)
     return ProblemCode::NameInvalid;
 }
 
-//! What a validator refuses depends on the property that it is for.
+//! The property determines what its validator refuses.
 ProblemCode refusalCode(const DesignerProperty &property)
 {
     const DesignerObject &owner = *property.parentObject();
@@ -85,25 +85,25 @@ ProblemCode refusalCode(const DesignerProperty &property)
                                                             : ProblemCode::ValueInvalid;
 }
 
-//! What is drawn can be drawn with any number; everything else counts on its range.
+//! Drawing works with any number; everything else depends on the range.
 ProblemCode rangeCode(const DesignerObject &owner)
 {
     const bool isDrawn = owner.isKindOfClass(u"VisualElement"_s) || owner.isKindOfClass(u"Screen"_s);
     return isDrawn ? ProblemCode::AppearanceRange : ProblemCode::ValueRange;
 }
 
-//! A group says of itself that a member is invalid; the member says why.
+//! A group reports that a member is invalid, but the member itself reports why.
 bool isEcho(const DesignerProperty &property)
 {
     return property.failure() == DesignerProperty::Failure::Children
            || (property.isList() && property.itemList()->invalidCount > 0 && property.listItemCount() > 1);
 }
 
-//! What the text of the validator leaves open.
+//! Details that the validator's text does not contain.
 QString detail(const DesignerProperty &property, ProblemCode code)
 {
     if (code == ProblemCode::NameFormat && property.parentObject()->getIdName().size() == 1) {
-        return Common::LocalizationHelper::coreString(u" A name has at least 2 characters."_s);
+        return Common::LocalizationHelper::coreString(u" A name needs at least 2 characters."_s);
     }
     if (code == ProblemCode::FieldbusMap
         && property.parentObject()->isKindOfClass(MappingVariable::kindName())) {

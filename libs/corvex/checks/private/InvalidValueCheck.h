@@ -5,8 +5,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What the properties say of their values themselves. Says nothing of lists and objects that are invalid
-//! only because of what they hold.
+//! Reports the errors that properties find in their own values, except for lists and objects that are only
+//! invalid because of their contents.
 class InvalidValueCheck : public ObjectCheck
 {
 public:

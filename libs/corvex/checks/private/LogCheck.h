@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Log variables that no element on any screen links, so that nothing ever enters them.
+//! Finds log variables that no element on any screen fills.
 class LogCheck : public SharedCheck
 {
 public:

@@ -12,7 +12,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! A register can carry a boolean as 0 or 1; a coil is one bit.
+//! Registers can hold a boolean as 0 or 1; a coil is a single bit.
 bool carries(ModbusMap::RegisterKind kind, ValueType type)
 {
     switch (kind) {

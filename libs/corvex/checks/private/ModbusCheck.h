@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Registers of a Modbus map that are bound to a value of another type.
+//! Finds Modbus registers that are bound to a value of another type.
 class ModbusCheck : public PropertyCheck
 {
 public:

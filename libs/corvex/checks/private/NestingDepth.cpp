@@ -14,7 +14,7 @@ bool isOperatorSign(QChar c)
     return QStringView(u"+-*/%&|^~<>=!?").contains(c);
 }
 
-//! The place of the quote that ends the text which begins at \a place.
+//! The position of the quote at the end of the text that begins at \a place.
 qsizetype endOfText(QStringView code, qsizetype place)
 {
     const QChar quote = code[place];
@@ -24,13 +24,13 @@ qsizetype endOfText(QStringView code, qsizetype place)
     return place;
 }
 
-//! What stands between two parentheses, or outside of all.
+//! The code between two parentheses, or outside of all.
 struct Level
 {
-    bool isList = false;       //!< Its commas part what does not depend on each other.
-    qsizetype operators = 0;   //!< Since the last part began.
-    qsizetype deepest = 0;     //!< The depth of what the operators work on.
-    qsizetype deepestPart = 0; //!< Of the parts before.
+    bool isList = false;       //!< Its commas separate independent parts.
+    qsizetype operators = 0;   //!< In the present part.
+    qsizetype deepest = 0;     //!< The maximum depth of the operands.
+    qsizetype deepestPart = 0; //!< Of the previous parts.
 
     qsizetype depth() const { return std::max(deepestPart, operators + deepest); }
     void beginPart() { *this = {isList, 0, 0, depth()}; }
@@ -41,7 +41,7 @@ struct Level
 qsizetype findTooDeepNesting(QStringView code)
 {
     QList<Level> levels{Level()};
-    qsizetype members = 0; // of the path that the place is in: a.b.c
+    qsizetype members = 0; // of the path at the present position: a.b.c
     for (qsizetype i = 0; i < code.size(); ++i) {
         const QChar c = code[i];
         Level &level = levels.last();

@@ -5,11 +5,11 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! How deep code may be nested: parentheses, and operators whose results are what the next one works on.
-   Compilers go down as deep as the code does, and refuse what takes them too far. */
+//! The maximum nesting of code: parentheses, and operators whose results are operands of the next one.
+//! Compilers recurse as deep as the code, and refuse code that is too deep for them.
 inline constexpr qsizetype deepestNesting = 1000;
 
-//! The place in \a code at which it is nested deeper than that, -1 when it never is.
+//! The position in \a code where it is nested deeper than that; -1 if it never is.
 qsizetype findTooDeepNesting(QStringView code);
 
 } // namespace Halvane::Corvex::Designer

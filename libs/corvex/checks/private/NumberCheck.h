@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Variables whose text is kept as it was typed and is no number: the device would get no value for them.
+//! Finds number variables whose text is not a number, so that the device would get no value.
 class NumberCheck : public PropertyCheck
 {
 public:

@@ -11,8 +11,8 @@ namespace {
 
 constexpr auto referenceStart = "qml_"_L1;
 
-/*! What code consists of beside names, numbers and texts. Comments, regular expressions and other kinds of
-    quotes are not among it. */
+//! The characters of code besides names, numbers and texts. Excludes comments, regular expressions and other
+//! kinds of quotes.
 bool isOtherCharacter(QChar c)
 {
     return QLatin1StringView(" \t\n!%&()*+,-.:;<=>?[]^{|}~").contains(c);
@@ -33,13 +33,13 @@ bool isNameCharacter(QChar c)
     return (c >= u'a' && c <= u'z') || isUpper(c) || isDigit(c) || c == u'_';
 }
 
-//! How many characters from the start on are those of a name.
+//! The length of the name at the start.
 qsizetype nameLength(QStringView text)
 {
     return std::find_if_not(text.begin(), text.end(), isNameCharacter) - text.begin();
 }
 
-//! How many characters a text between quotes takes, with no more than the simplest escapes; 0 for any other.
+//! The length of a quoted text with only the simplest escapes; 0 for any other text.
 qsizetype plainTextLength(QStringView value)
 {
     for (qsizetype i = 1; i < value.size(); ++i) {
@@ -66,7 +66,7 @@ bool isPlainNumber(QStringView value)
 {
     const QStringView digits = value.startsWith(u'-') ? value.sliced(1) : value;
     const qsizetype whole = std::find_if_not(digits.begin(), digits.end(), isDigit) - digits.begin();
-    // A zero in front makes another number of it, or none.
+    // A leading zero would change the number or make it invalid.
     if (whole == 0 || (whole > 1 && digits.front() == u'0')) {
         return false;
     }
@@ -75,7 +75,7 @@ bool isPlainNumber(QStringView value)
            || (rest.size() > 1 && rest.front() == u'.' && std::all_of(rest.begin() + 1, rest.end(), isDigit));
 }
 
-//! As in "Item.Center".
+//! For example "Item.Center".
 bool isEnumerator(QStringView value)
 {
     const qsizetype type = nameLength(value);
@@ -86,7 +86,7 @@ bool isEnumerator(QStringView value)
     return isUpper(name.front()) && nameLength(name) == name.size();
 }
 
-//! "qml_pump1", a reference to an object. No word of the language begins so.
+//! "qml_pump1", a reference to an object. No keyword begins like that.
 bool isReference(QStringView value)
 {
     return value.startsWith(referenceStart) && nameLength(value) == value.size();
@@ -102,7 +102,7 @@ bool isPlainCode(QStringView code)
 
 QString qmlShape(const QString &qml)
 {
-    // Nothing becomes longer.
+    // The shape is never longer than the code.
     QString shape(qml.size(), Qt::Uninitialized);
     QChar *end = shape.data();
     const auto append = [&end](auto text) { end = std::ranges::copy(text, end).out; };
@@ -117,7 +117,7 @@ QString qmlShape(const QString &qml)
             length = 1;
         } else if (length == 0) {
             length = plainTextLength(rest);
-            // Of "use strict" the words count.
+            // In "use strict" the words matter.
             if (length == 0 || rest.first(length) == "\"use strict\""_L1) {
                 return qml;
             }

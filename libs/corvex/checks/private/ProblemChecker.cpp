@@ -13,9 +13,9 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! A view is drawn, or a key is handled, after that time at the latest.
+//! The maximum delay for repainting or handling a key.
 constexpr auto slice = 10ms;
-//! The part of a slice in which objects are looked at. The rest is for what they have in common.
+//! The part of a slice for examining objects. The rest is for shared checks.
 constexpr auto lookingTime = 6ms;
 
 using Origin = ProblemRows::Origin;
@@ -110,7 +110,7 @@ void ProblemChecker::run(QDeadlineTimer deadline)
     } while (!m_isCurrent && !deadline.hasExpired());
 }
 
-//! They keep what they know of the device model.
+//! The checks store data of the device model.
 void ProblemChecker::renewChecks()
 {
     m_checks.emplace(CheckWalk::withAllChecks(*project(), m_models));
@@ -153,7 +153,7 @@ void ProblemChecker::checkObjects(QDeadlineTimer deadline)
 void ProblemChecker::look(DesignerObject *object)
 {
     object->validateProperties();
-    m_marks.unmark(object); // It was marked when its own validity changed.
+    m_marks.unmark(object); // validating it has marked it again
     m_checks->look(*object);
     if (m_checks->isOnDevice(*object)) {
         m_onDevice.insert(object);

@@ -15,7 +15,7 @@ namespace Halvane::Corvex::Designer {
 class ProblemList;
 class ProblemRows;
 
-//! Checks what is marked in a project, in slices, and keeps the rows of a ProblemList current.
+//! Checks the marked parts of a project in slices, and updates the rows of a ProblemList.
 class ProblemChecker : private EditMarks::Listener
 {
     Q_DISABLE_COPY_MOVE(ProblemChecker)
@@ -39,7 +39,7 @@ private:
 
     void runSlice();
     void renewChecks();
-    //! Objects are looked at together, because some checks read what they have found all at once.
+    //! Objects are examined together, because some checks parse what they have found all at once.
     void checkObjects(QDeadlineTimer deadline);
     void look(DesignerObject *object);
     void checkFile();
@@ -52,7 +52,7 @@ private:
     ProblemRows &m_rows;
     std::optional<CheckWalk> m_checks;
     std::vector<ClaimStore> m_claims;        //!< by shared check
-    QSet<const DesignerObject *> m_onDevice; //!< what depends on the device model
+    QSet<const DesignerObject *> m_onDevice; //!< the objects that depend on the device model
     QTimer m_timer;
     bool m_isCurrent = true;
     EditMarks m_marks;

@@ -95,7 +95,7 @@ void ProblemRows::set(DesignerObject *owner, const Origin &origin, QList<Problem
     }
 }
 
-//! An entry with a row stays until that is removed.
+//! An entry with a row remains until the row is removed.
 void ProblemRows::forget(Entry *entry)
 {
     const auto known = m_byOwner.find(entry->owner);
@@ -110,7 +110,7 @@ void ProblemRows::forget(Entry *entry)
     }
 }
 
-//! From the last to the first, rows that follow each other at once.
+//! Removes from the last to the first, adjacent rows together.
 void ProblemRows::removeRows(std::vector<const Entry *> entries)
 {
     std::ranges::sort(entries, {}, &Entry::serial);

@@ -15,11 +15,11 @@ namespace Halvane::Corvex::Designer {
 class ProblemApprovals;
 class ProblemList;
 
-//! The rows of a ProblemList, for which it emits the signals. Objects without problems take no memory.
+//! The rows of a ProblemList; emits its signals. Objects without problems need no memory.
 class ProblemRows
 {
 public:
-    //! What found a problem. The problems of one object and one origin are replaced together.
+    //! The check that found a problem. The problems of an object with the same origin are replaced together.
     struct Origin
     {
         static constexpr qsizetype object = -1; //!< the checks of single objects and properties
@@ -46,14 +46,14 @@ public:
     void set(DesignerObject *owner, const Origin &origin, QList<Problem> problems);
     //! Removes rows, then adds rows, and emits the signals for both.
     void flush();
-    //! Removes the rows of an object that leaves the project, at once.
+    //! Immediately removes the rows of an object that leaves the project.
     void drop(const DesignerObject *owner);
     void clear();
 
 private:
     struct Entry
     {
-        quint64 serial = 0; //!< grows with the rows; 0 before the entry has a row
+        quint64 serial = 0; //!< increases with the rows; 0 until the entry has a row
         DesignerObject *owner;
         Origin origin;
         Problem problem;
@@ -69,9 +69,9 @@ private:
     std::vector<std::unique_ptr<Entry>> m_rows;
     std::vector<std::unique_ptr<Entry>> m_coming;
     std::vector<const Entry *> m_going;
-    QHash<const DesignerObject *, QList<Entry *>> m_byOwner; //!< without those that are going
+    QHash<const DesignerObject *, QList<Entry *>> m_byOwner; //!< without those to be removed
     QSet<DesignerObject *> m_touched;
-    std::array<qsizetype, 3> m_counts{}; //!< by severity, of those that are not approved
+    std::array<qsizetype, 3> m_counts{}; //!< by severity, without approved ones
     qsizetype m_approvedCount = 0;
     QPointer<const ProblemApprovals> m_approvals;
     QMetaObject::Connection m_connection; //!< to the approvals

@@ -20,7 +20,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Not a number for the text of anything else.
+//! NaN for the text of any other property.
 double numberOf(const QString &text)
 {
     bool isNumber = false;
@@ -34,7 +34,7 @@ ReferenceCheck::ReferenceCheck(const Project &project)
     : m_project(project)
     , m_thread(QThread::currentThread())
 {
-    // The project counts the names of all elements when it is first asked for one; later, threads may ask.
+    // The project counts the names of all elements on first use. Do it before several threads use it.
     project.hasElement(QString());
 }
 
@@ -42,7 +42,7 @@ ReferenceCheck::~ReferenceCheck() = default;
 
 bool ReferenceCheck::concerns(const DesignerProperty &property)
 {
-    // The first halves of pairs may be names of the device's own.
+    // The first half of a pair may be a name defined by the device.
     return property.references() != Form::None && property.references() != Form::NamePairs;
 }
 
@@ -97,15 +97,15 @@ bool ReferenceCheck::isThere(const Mention &mention, const Screen *screen)
     if (!mention.kinds.testFlag(NamedKind::Element)) {
         return false;
     }
-    // The members of a log or a device follow the name of its variable.
+    // The members of a log or a device follow the variable's name.
     const bool isOfVariable =
         mention.kinds.testFlag(NamedKind::Variable)
         && m_project.variables()->hasListItem(ObjectPath::firstSegment(mention.path).toString());
     return isOfVariable || isElement(mention.path, screen);
 }
 
-//! Whether the path leads to an element of \a screen, of the screen that the path starts with, or, in a
-//! property that belongs to no screen, of any.
+//! Whether the path leads to an element of \a screen or of the screen at the start of the path. For a
+//! property outside of all screens: to an element of any screen.
 bool ReferenceCheck::isElement(const QString &path, const Screen *screen)
 {
     const auto hasElement = [](const DesignerObject *on, const QString &place) {
@@ -133,7 +133,7 @@ void ReferenceCheck::checkSetting(const DesignerProperty &property, const StateS
         return;
     }
     const SharedProperty target = model->getProperty(id);
-    // What an element is called cannot change while the screen runs.
+    // The name of an element cannot change at run time.
     if (!target || target == model->idProperty()) {
         report(property, ProblemCode::StateProperty, {elementName, id});
     } else if (!target->canRead(value)) {
@@ -143,14 +143,14 @@ void ReferenceCheck::checkSetting(const DesignerProperty &property, const StateS
     }
 }
 
-//! An object of the class that is nowhere: what is tried out on it changes nothing.
+//! An object of the class outside of the model, on which values can be tried.
 const DesignerObject *ReferenceCheck::modelOf(const QString &className)
 {
     std::unique_ptr<DesignerObject> &model = m_models[className];
     if (!model) {
         model.reset(DesignerFactory::instance()->createUnowned(className));
         if (model) {
-            // It goes with the check, in the thread that made that, and not in the one that asks now.
+            // It is deleted together with the check, in the thread that created the check.
             model->moveToThread(m_thread);
         }
     }

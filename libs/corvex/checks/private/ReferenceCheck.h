@@ -15,9 +15,9 @@ namespace Halvane::Corvex::Designer {
 class LinkProperty;
 class Screen;
 
-/*! Looks at what the parts of a project say of each other: names that lead nowhere, and new values for
-    properties that are not there or cannot hold them. The generated code is correct with any of them, and the
-    device does without what they mean. Properties that are invalid are left to their own messages. */
+//! Checks references between the parts of a project: names that do not exist, and new values for properties
+//! that do not exist or cannot hold them. The generated code is valid anyway, but the device ignores these
+//! references. Invalid properties have their own messages.
 class ReferenceCheck : public PropertyCheck
 {
 public:

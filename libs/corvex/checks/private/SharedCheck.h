@@ -7,9 +7,9 @@ namespace Halvane::Corvex::Designer {
 
 /*! Compares objects that share something: an identifier, a message, a name.
 
-    Each object claims what it uses by keys. The objects with the same key are a group, and what the check
-    says depends on one group alone. So an edit makes it compare only the groups that the edited object was in
-    or is in now.
+    Each object claims what it uses by keys. Objects with the same key form a group, and the result of the
+    check depends on one group only. So after an edit only the old and new groups of the edited object are
+    compared.
 */
 class SharedCheck : public Check
 {
@@ -17,8 +17,7 @@ public:
     struct Claim
     {
         QString key;
-        bool isSubject =
-            true; //!< Whether the check reports the object. Of the others it counts only the number.
+        bool isSubject = true; //!< Whether the check reports the object. Other objects are only counted.
     };
     struct Group
     {
@@ -27,16 +26,16 @@ public:
         qsizetype otherCount = 0;
     };
 
-    //! Whether such objects claim anything. The answer holds for all objects of the class.
+    //! Whether such objects claim anything. The answer applies to all objects of the class.
     virtual bool concerns(const DesignerObject &object) const = 0;
     virtual QList<Claim> claims(const DesignerObject &object) const = 0;
-    //! Reports the subjects of one group. Each object is a subject of one group at most.
+    //! Reports the subjects of a group. Each object is a subject of at most one group.
     virtual void compare(const Group &group) = 0;
 
     //! Collects the claims of an object. Objects come in the order of the project.
     void collect(const DesignerObject &object);
     void join(Check &later) override;
-    //! Compares all groups and puts the problems into the order of the project.
+    //! Compares all groups and sorts the problems into project order.
     void finish(const Project &project) override;
 
 private:

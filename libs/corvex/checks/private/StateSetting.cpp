@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! What the text is without a property that holds it as a list.
+//! Reads a text for which there is no property with a list.
 template<class Property>
 auto listOf(const DesignerProperty &property)
 {

@@ -10,19 +10,19 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerProperty;
 
-//! What a state or an action gives to a property of an element.
+//! A new value that a state or an action sets for a property of an element.
 struct StateSetting
 {
     QString element;
     QString property;
     QString value;
 
-    //! Those of a state or an action; none of a property that is neither.
+    //! The settings of a state or an action; none for any other property.
     static QList<StateSetting> of(const DesignerProperty &property);
     //! The text of the state or action with another value for this setting.
     QString textWith(const DesignerProperty &holder, const QString &newValue) const;
-    /*! The numbers that a state or an action may give to \a target. Editors keep a designer from making an
-        element invisible. Actions fade elements out, so they may. */
+    //! The numbers that a state or an action may set for \a target. Editors prevent almost invisible
+    //! elements, but actions may fade elements out.
     static NumberRange rangeOf(const DesignerProperty &target);
 
     friend bool operator==(const StateSetting &, const StateSetting &) = default;

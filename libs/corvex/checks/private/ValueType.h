@@ -7,7 +7,7 @@ namespace Halvane::Corvex::Designer {
 
 class Project;
 
-//! What type of value a term of an expression stands for, as far as checks can tell.
+//! The type of a value in an expression, as far as checks can determine it.
 enum class ValueType {
     Unknown,
     Boolean,
@@ -17,7 +17,7 @@ enum class ValueType {
     Fieldbus, //!< the description of a connection, which has no value
 };
 
-//! Of a variable the type that it has in the project counts, not the one that the term was written for.
+//! For a variable, its type in the project counts, not the type in the term.
 ValueType valueTypeOf(const GeneralDataInfo &term, const Project &project);
 //! The type of the variable with that name.
 ValueType valueTypeOfVariable(const QString &name, const Project &project);

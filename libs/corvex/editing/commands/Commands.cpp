@@ -29,7 +29,7 @@ PlannedCommand refused(const QString &english, const QString &name)
     return {nullptr, LocalizationHelper::coreString(english).arg(name), {}};
 }
 
-//! Why a change to that value is refused; empty for one that is done, and perhaps marked as invalid.
+//! Why a change to that value is refused; empty if it is accepted, possibly marked as invalid.
 QString refusalOf(DesignerProperty &property, const QString &text)
 {
     const bool isTaken =
@@ -65,7 +65,7 @@ PlannedCommand noted(PlannedCommand planned, const QList<DesignerObject *> &obje
     return planned;
 }
 
-const QString stillMentioned = u"\"%1\" still mentions \"%2\", since its plug-in is missing."_s;
+const QString stillMentioned = u"\"%1\" still mentions \"%2\", because its plug-in is missing."_s;
 
 PlannedCommand notedDeletion(std::unique_ptr<ModelCommand> command, const QList<DesignerObject *> &objects)
 {

@@ -14,13 +14,13 @@ namespace Halvane::Corvex::Designer {
 struct PlannedCommand
 {
     std::unique_ptr<ModelCommand> command; //!< null if the edit is impossible
-    QString reason;                        //!< for the user; empty when there is a command, or nothing to do
+    QString reason;                        //!< for the user; empty if there is a command, or nothing to do
     QStringList notes;                     //!< what the user must know about the edit
 
     explicit operator bool() const { return command != nullptr; }
 };
 
-//! A value that a property is to have.
+//! A new value for a property.
 struct RequestedValue
 {
     SharedProperty property;
@@ -50,14 +50,15 @@ public:
         image gets a file of its own.
     */
     static PlannedCommand duplicationOf(const QList<DesignerObject *> &objects);
-    /*! Moves the objects, in the order of their lists, into a list of the same project, before its item
-        \a index; -1 is the end. Items that the list sorts by itself stay where they are in it.
+    /*! Moves the objects, in list order, into a list of the same project, before its item \a index; -1 means
+        the end. Items that the list sorts keep their sorted places.
 
-        Refused if an object would get inside itself, or if something at the new place has its name. */
+        Refused if an object would be moved into itself, or if its name is in use at the new place.
+    */
     static PlannedCommand moveOf(const QList<DesignerObject *> &objects, const SharedProperty &list,
                                  qsizetype index);
-    /*! Gives properties other values, with all that follows from it. Values that the properties have are left
-        out. Refused if a property does not take its value. A name changes only by itself. */
+    //! Sets values of properties, with all consequences. Values that do not change are skipped. Refused if a
+    //! property does not accept its value. A name must be changed separately.
     static PlannedCommand changeOf(const QList<RequestedValue> &values);
 };
 

@@ -28,8 +28,8 @@ public:
 
     //! The properties that may name the target, without duplicates; only their values can confirm it.
     QList<SharedProperty> candidates(const ReferenceTarget &target) const;
-    //! The properties that may name something of that name: an object of \a screen, or without a screen one
-    //! that is known everywhere.
+    //! The properties that may refer to that name: to an object of \a screen or, without a screen, to one
+    //! known everywhere.
     QSet<SharedProperty> mentioning(const Screen *screen, const QString &name) const;
 
     void valueChanged(const SharedProperty &property, const QString &previousValue) override;
@@ -61,7 +61,7 @@ private:
     static bool sharesName(const Mention &mention, const QSet<QStringView> &names);
     //! For all properties of the object and of everything below it.
     void updateAll(const DesignerObject *object, bool add);
-    //! Adds what is found in the scope and what is known everywhere.
+    //! Adds the matches in the scope and those known everywhere.
     void find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const;
 
     std::set<Entry> m_entries;

@@ -9,8 +9,7 @@
 namespace Halvane::Corvex::Designer {
 
 //! A line of an edit script, split into words at blanks and tabs. A word in double quotes may contain these,
-//! and \", \\,
-//! and \t.
+//! and \", \\, \n and \t.
 struct CORVEX_EXPORT EditLine
 {
     QStringList words;

@@ -7,12 +7,12 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The values of new objects. One object of each class is made when somebody first asks.
+//! The values of new objects. An object of each class is created on first use.
 class DefaultValues
 {
 public:
-    //! The text that the property has in a new object of the class. Null for names, for values that are not
-    //! stored, and for objects of a class that the factory does not know.
+    //! The text of the property in a new object of the class. Null for names, for values that are not stored,
+    //! and for objects of unknown classes.
     QString of(const DesignerProperty &property);
 
 private:

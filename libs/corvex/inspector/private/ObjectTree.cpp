@@ -61,7 +61,7 @@ void ObjectTree::adopt(Node &node, const SharedProperty &list, const std::vector
     node.sections.emplace_back(list).rows.assign(rows);
 }
 
-//! Deletes a row with all below it.
+//! Deletes a row and everything below it.
 void ObjectTree::forget(const Node &node)
 {
     for (const Section &section : node.sections) {

@@ -15,8 +15,8 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 class Project;
 
-/*! The rows of an ObjectTreeModel. They change by what the model hears of the project, and never read it
-    again; so they are consistent at every moment, also in the middle of a change. */
+//! The rows of an ObjectTreeModel. They are only updated by notifications and never read from the project, so
+//! they are consistent at any time, even during a change.
 class ObjectTree
 {
     Q_DISABLE_COPY_MOVE(ObjectTree)
@@ -33,7 +33,7 @@ public:
     {
         DesignerObject *object = nullptr; //!< null for a list
         SharedProperty list;              //!< null for an object
-        Node *parent = nullptr;           //!< null for the root alone
+        Node *parent = nullptr;           //!< null only for the root
         qsizetype section = 0;            //!< of the parent
         std::vector<Section> sections;
     };
@@ -49,12 +49,12 @@ public:
 
     ObjectTree() = default;
 
-    //! Without a row of its own. The project is its only child.
+    //! Has no row itself. The project is its only child.
     Node &root() { return m_root; }
     void read(Project &project);
     void clear();
 
-    //! Null for an object without a row.
+    //! Null if the object has no row.
     Node *nodeOf(const DesignerObject *object) const;
     //! The row of a list of the project; null for any other list.
     Node *nodeOf(const SharedProperty &list) const;
@@ -62,7 +62,7 @@ public:
 
     static qsizetype rowOf(const Node &node);
     static qsizetype childCount(const Node &node);
-    //! Null for a row that is not there.
+    //! Null if there is no such row.
     static Node *child(const Node &node, qsizetype row);
 
     void insert(const Branch &branch, qsizetype index, DesignerObject *object);

@@ -86,7 +86,7 @@ std::pair<RowLink *, RowLink *> RowOrder::split(RowLink *top, qsizetype row)
     return parts;
 }
 
-//! The larger part is more likely to be on top, as if all items had been inserted in any order.
+//! The larger part is more likely to become the root, as if all items had been inserted in random order.
 RowLink *RowOrder::join(RowLink *left, RowLink *right)
 {
     if (!left || !right) {

@@ -8,29 +8,30 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What a RowOrder needs to know of an item. Items derive from it.
+//! The data of a RowOrder for each item. Items derive from it.
 struct RowLink
 {
     RowLink *up = nullptr;
     RowLink *left = nullptr;
     RowLink *right = nullptr;
-    qsizetype count = 1; //!< of the items below it in the tree, itself included
+    qsizetype count = 1; //!< the number of items in its subtree, including itself
 };
 
-/*! A list of items that finds an item by its row, and the row of an item, in logarithmic time. Insertions and
-    removals take as long. It owns no item, and an item is in one list at most.
+/*! A list that finds an item by its row, and the row of an item, in logarithmic time; insertions and removals
+    take the same time. Items are not owned, and an item is in at most one list.
 
-    It is a binary tree whose nodes count what is below them, balanced at random. */
+    It is a randomly balanced binary tree whose nodes count their subtrees.
+*/
 class RowOrder
 {
 public:
     qsizetype count() const { return countOf(m_root); }
-    //! The row must be one of the list.
+    //! The row must be valid.
     RowLink *at(qsizetype row) const;
     //! The row of an item that is in a list.
     static qsizetype rowOf(const RowLink &item);
 
-    //! Replaces all items. None of \a items is in a list.
+    //! Replaces all items. No item may be in a list.
     void assign(std::span<RowLink *const> items);
     void insert(qsizetype row, RowLink &item);
     void remove(RowLink &item);

@@ -51,7 +51,7 @@ std::vector<size_t> SheetObjects::placesIn(const DesignerObject *object) const
 std::vector<size_t> SheetObjects::returnedWith(const DesignerObject *object) const
 {
     std::vector<size_t> found;
-    // Something else may have the address of an object that was deleted.
+    // Another object may have the address of a deleted one.
     const auto place = m_away.constFind(object);
     if (place != m_away.cend() && m_all[*place] == object) {
         found.push_back(*place);

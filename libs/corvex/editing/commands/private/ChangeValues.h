@@ -11,7 +11,7 @@ struct RequestedValue;
 class ChangeValues : public CompositeCommand
 {
 public:
-    //! All of them can be set, and none is a name.
+    //! All values must be valid, and none may be a name.
     explicit ChangeValues(const QList<RequestedValue> &values);
 };
 

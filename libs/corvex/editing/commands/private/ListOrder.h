@@ -5,14 +5,13 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! What the order of a list leaves to the user.
+//! Which changes of order a list allows.
 class ListOrder
 {
 public:
-    //! Whether the item stays where the user puts it, among items of its kind at least.
+    //! Whether the user determines the place of the item, at least among items of its kind.
     static bool isFree(const DesignerProperty &list, const DesignerObject &item);
-    //! Whether both can change places. A swap that the order undoes at once could not be taken back by
-    //! another one.
+    //! Whether the two can be exchanged. If the list's own order reverses the swap, undo could not swap back.
     static bool canExchange(const DesignerProperty &list, const DesignerObject &first,
                             const DesignerObject &second);
 };

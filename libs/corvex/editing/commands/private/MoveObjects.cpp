@@ -20,8 +20,8 @@ using Common::LocalizationHelper;
 
 namespace {
 
-//! The name of the first element, of the object and all in it, that the screen has already; empty without
-//! one.
+//! The name of the first element, the object or one in it, that is in use on the screen; empty if there is
+//! none.
 QString takenName(const DesignerObject &object, const Screen &screen)
 {
     if (kindCast<Element>(&object) && screen.hasElement(object.getIdName())) {
@@ -107,7 +107,7 @@ MoveObjects::MoveObjects(const QList<DesignerObject *> &objects, const SharedPro
     }
     qsizetype place = next;
     for (DesignerObject *object : std::as_const(moved)) {
-        // An item of the list that comes before the place leaves a gap there.
+        // An item of the list before the place leaves a gap there.
         const bool isBefore = indexes.value(object, next) < next;
         new MoveObject(object->listProperty(), list, object, isBefore ? place - 1 : place, true, this);
         place += isBefore ? 0 : 1;
