@@ -331,7 +331,7 @@ TEST(PreviewSession, InspectsItsScreens)
     }
     EXPECT_THAT(found, ElementsAre(startingWith("Main.wide: The text does not fit: it needs "),
                                    startingWith("Main.gone: The element is outside of the screen."),
-                                   startingWith("Main.cut: A part"),
+                                   startingWith("Main.cut: Part"),
                                    startingWith("Main.group.hidden: Other elements completely hide"),
                                    startingWith("Main.group.below: Other elements completely hide"),
                                    startingWith("Main.frame: Other elements completely hide"),

@@ -184,8 +184,8 @@ TEST_F(BuildVerb, RefusesProblemsUnlessForced)
     EXPECT_EQ(refused.out, QString());
     EXPECT_EQ(refused.error,
               problem
-                  + u"corvex: \"Pump/Pump.kdproj\" has problems (1) and is not built. Mend them, or "
-                    "build it all the same with --force.\n"_s);
+                  + u"corvex: \"Pump/Pump.kdproj\" has problems (1) and was not built. Fix them, or "
+                    "build anyway with --force.\n"_s);
     EXPECT_FALSE(QFileInfo::exists(sandbox.path(u"out"_s)));
     EXPECT_EQ(build(u"out"_s, {u"--json"_s}).json()[u"problems"_s].toArray().size(), 1);
     const ProgramRun forced = build(u"out"_s, {u"--force"_s});

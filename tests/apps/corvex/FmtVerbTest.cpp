@@ -43,7 +43,7 @@ TEST(ProjectFile, IsRefusedWithPlaceAndReason)
         {u"."_s, u"\".\" is not a file. Name the .kdproj file of a project."_s},
         {u"/dev/null"_s, u"\"/dev/null\" is not a file. Name the .kdproj file of a project."_s},
         {u"empty"_s,
-         u"empty:1:1: The text ends before its root element does; it is empty or was cut off. Mend the file at that place, or take it from a copy."_s},
+         u"empty:1:1: The text ends before its root element does; it is empty or was cut off. Repair the file at that place, or restore it from a copy."_s},
         {u"cut"_s, u"cut:19:"_s},
         {u"text"_s, u"text:1:1: This is no XML."_s},
         {u"latin1"_s, u"latin1:2:10: The bytes here are not UTF-8"_s},

@@ -77,7 +77,7 @@ TEST_F(RenderVerb, ReportsErrors)
         {{u"--screen"_s, u"Main"_s, u"--handles"_s, u"bx"_s, u"-o"_s, u"x.png"_s}, 2, u"\"box\""_s},
         {{u"--screen"_s, u"Main"_s, u"--handles"_s, u"press"_s, u"-o"_s, u"x.png"_s},
          1,
-         u"\"press\" is hidden or of a kind"_s},
+         u"\"press\" has no handles because it is hidden or of a kind"_s},
         {{u"-o"_s, u"Pump/../Pump/Pump.kdproj"_s}, 2, u"is the project's own file"_s},
         {{u"--screen"_s, u"Main"_s, u"-o"_s, u"none/x.png"_s}, 3, u"\"none/x.png\" cannot be written"_s},
         {{u"-o"_s, QString(252, u'a') + u".png"_s}, 3, u"File name too long"_s},
