@@ -77,7 +77,7 @@ bool Call::hasRightCount() const
         return false;
     }
     if (m_arguments.size() > m_verb.mostArguments) {
-        misused(u"\"%1\" is one argument too many. Put quotes around an argument with blanks."_s.arg(
+        misused(u"\"%1\" is one argument too many. Put quotes around an argument with spaces."_s.arg(
             argument(m_verb.mostArguments)));
         return false;
     }

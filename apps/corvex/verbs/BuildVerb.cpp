@@ -61,9 +61,8 @@ const Verb buildVerb{
             return uR"(Builds the project into DIR/project: one QML file for each screen, the images, the zipped
 project, and the configuration files for variables and fieldbuses (config.kdrc,
 canConfig.kdrc, bacConfig.kdrc; "corvex config-dump" shows them). Creates DIR if necessary.
-Your own files are never replaced: DIR must be new, empty, or hold an earlier build and
-nothing else. --force builds a project despite problems. A build that fails leaves DIR
-unchanged.)"_s;
+A build never replaces your own files: DIR must be new, empty, or contain only an earlier
+build. --force builds a project despite problems. A failed build leaves DIR unchanged.)"_s;
         },
     .example = "corvex build examples/PumpStation/PumpStation.kdproj -o out/PumpStation",
     .opensProjects = true,

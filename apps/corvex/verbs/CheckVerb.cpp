@@ -120,11 +120,11 @@ const Verb checkVerb{
         [] {
             return uR"(Loads the project, validates everything and prints one line for each problem: the path of the
 object, the property, and what is wrong. Problems include unreadable parts of the file, with
-line and column, names of objects that do not exist, and generated code that the device could
-not read. If there are no problems, nothing is printed. Errors give exit code 1.
+line and column, names of objects that do not exist, and generated code that the device
+cannot read. If there are no problems, nothing is printed. Errors give exit code 1.
 
-Warnings and hints that are approved ("corvex approve") are only counted. Errors that are approved
-are printed: they still stop a build.
+Approved warnings and hints ("corvex approve") are only counted. Approved errors are still printed,
+because they still stop a build.
 
 --screens also runs the screens as the device would. It reports texts that do not fit, elements
 that are outside of the screen or completely hidden by others, and all errors at run time. It

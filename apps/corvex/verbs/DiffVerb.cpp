@@ -148,7 +148,7 @@ every changed value. In JSON each has "kind", "class", "path" and, where both si
 "old" and "new". If both files exist, an image with the same name and other contents counts as
 changed. The exit code is 0 if the projects are equal and 1 if they differ.
 
-git shows its differences in this way with
+To make git show differences in this way, run
     git config diff.corvex.command "corvex diff --git"
     echo "*.kdproj diff=corvex" >>.gitattributes)"_s;
         },

@@ -76,7 +76,7 @@ QList<QCommandLineOption> options()
         QCommandLineOption(u"dry-run"_s,
                            u"Save nothing; show every change, including those that follow from an edit."_s),
         QCommandLineOption(u"atomic"_s, u"Accepted for compatibility; edits are always all or nothing."_s),
-        QCommandLineOption(u"force"_s, u"Save even if parts of the file get lost."_s)};
+        QCommandLineOption(u"force"_s, u"Save even if parts of the file are lost."_s)};
 }
 
 } // namespace

@@ -111,8 +111,8 @@ ExitCode run(const Call &call)
 
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption(u"check"_s, u"Write nothing; say whether the file would change."_s),
-            QCommandLineOption(u"force"_s, u"Write even if parts of the file get lost."_s)};
+    return {QCommandLineOption(u"check"_s, u"Write nothing; report whether the file would change."_s),
+            QCommandLineOption(u"force"_s, u"Write even if parts of the file are lost."_s)};
 }
 
 } // namespace
@@ -125,9 +125,9 @@ const Verb fmtVerb{
         [] {
             return uR"(Writes the file as the design tool would save it; a file in this form is not touched. --check
 writes nothing, and the exit code is 1 if the file would change. If the file contains parts that
-this version does not know, only --force writes it, because those parts get lost. Elements whose
-plug-in is missing are kept unchanged. Lines that end with LF alone, as version control may have
-made them, stay so.)"_s;
+this version does not know, only --force writes it, because those parts are lost. Elements whose
+plug-in is missing are kept unchanged. Lines that end with LF alone, for example after a checkout
+with git, keep this line end.)"_s;
         },
     .example = "corvex fmt --check examples/PumpStation/PumpStation.kdproj",
     .opensProjects = true,

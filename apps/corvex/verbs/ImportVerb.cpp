@@ -162,7 +162,7 @@ ExitCode run(const Call &call)
     }
     const QString separator = call.value(u"separator"_s);
     if (call.isSet(u"separator"_s) && separator.size() != 1 && separator != "tab"_L1) {
-        return call.misused(u"\"%1\" is not a separator. Give one character, or tab."_s.arg(separator));
+        return call.misused(u"\"%1\" is not a separator. Use one character, or tab."_s.arg(separator));
     }
     QByteArray bytes;
     InputFile table(call.argument(2));
@@ -183,12 +183,12 @@ ExitCode run(const Call &call)
 QList<QCommandLineOption> options()
 {
     return {QCommandLineOption(u"separator"_s,
-                               u"The column separator: one character, or tab. Taken from the first line "
-                               "unless given."_s,
+                               u"The column separator: one character, or tab. By default, the first line "
+                               "decides."_s,
                                u"CHAR"_s),
             QCommandLineOption({u"n"_s, u"dry-run"_s}, u"Save nothing; show what would change."_s),
             QCommandLineOption(u"force"_s, u"Accept invalid values, and save even if parts of "
-                                           "the file get lost."_s)};
+                                           "the file are lost."_s)};
 }
 
 } // namespace

@@ -123,24 +123,24 @@ const Verb previewVerb{
     .details =
         [] {
             return uR"(Builds the project and runs it in a window as the device would: the panel, its variables, its
-inputs and outputs, and a list of run-time errors. The window follows when the project is saved.
+inputs and outputs, and a list of run-time errors. When the project is saved, the window updates.
 FILE may also be the folder of a build.
 
 --shot and --script need no window. --shot DIR writes one picture for each screen, DIR/Main.png
 and so on. A script has one command per line:
 
     show Settings               show a screen
-    press Settings.remote       touch an element and let go
-    hold NAME, release          touch an element; let go later
+    press Settings.remote       touch an element and release it
+    hold NAME, release          touch an element; release it later
     set wellLevel 40            a variable, or a property: Overview.levelInput.value
     wait 5000                   advance the clock by milliseconds, without a delay
     expect Main.label1.text "40"
     expect screen Settings
     shot NAME                   write NAME.png into the folder of --shot
 
-The exit code is 1 if an expectation fails, which prints the actual value, or if an error occurs
-on the screens. --state reads persistent variables and saved settings from PATH and writes them
-back; the window keeps them by default. A file with any other contents is not touched.
+A failed expectation prints the actual value. The exit code is 1 if an expectation fails or an error
+occurs on the screens. --state reads persistent variables and saved settings from PATH and writes them
+back; the window keeps them by default. A file with any other content is not changed.
 
 The scripts of a build can read only the files of the build. They have no network, cannot start
 programs, and their memory and processor time are limited. On systems without such limits (Linux

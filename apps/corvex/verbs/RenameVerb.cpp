@@ -41,7 +41,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
 QList<QCommandLineOption> options()
 {
     return {QCommandLineOption(u"dry-run"_s, u"Save nothing; show every change that follows."_s),
-            QCommandLineOption(u"force"_s, u"Save even if parts of the file get lost."_s)};
+            QCommandLineOption(u"force"_s, u"Save even if parts of the file are lost."_s)};
 }
 
 } // namespace

@@ -49,7 +49,8 @@ ExitCode findElement(Subject &subject, Project &project, const Call &call)
     const ProjectPlace place = named ? ProjectPlace{named, {}} : ProjectPath::find(project, path);
     subject.element = place.property ? nullptr : kindCast<Element>(place.object);
     if (!subject.element && place.object && !place.property) {
-        return call.misused(u"\"%1\" is a %2. Elements have handles."_s.arg(path, place.object->className()));
+        return call.misused(
+            u"\"%1\" is a %2. Only elements have handles."_s.arg(path, place.object->className()));
     }
     if (!subject.element) {
         return call.failed(subject.screen && !path.contains(u'.') && !place.object
@@ -174,8 +175,8 @@ const Verb renderVerb{
     .details =
         [] {
             return uR"(Draws a screen of the project, with its values in the design, into a PNG picture of the size of
-the screen. No display is needed. --handles also shows where the mouse would catch an element.
-It takes a path as in "corvex tree", or just the name of an element on this screen. An image is
+the screen. No display is needed. --handles also draws the frame and the handles of an element. It
+takes a path as in "corvex tree", or just the name of an element on this screen. An image is
 drawn as a crossed frame if its file is missing, or if it is a drawing that links to other
 files.)"_s;
         },

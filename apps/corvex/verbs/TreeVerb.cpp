@@ -212,8 +212,8 @@ const Verb treeVerb{
     .summary = "show the objects of a project, one of them, or a value",
     .details =
         [] {
-            return uR"(Shows the tree of all objects, each with its class and name. PATH consists of the names on the
-way down, joined with ".", and may end with the id of a property. "Main" shows the screen Main,
+            return uR"(Shows the tree of all objects, each with its class and name. PATH consists of the names from
+the top down, joined with ".", and may end with the id of a property. "Main" shows the screen Main,
 "Main.pump1" shows its element pump1 with its properties and everything below it, and
 "Main.pump1.position" prints only that value. Elements in a group appear below the group. The
 path of a variable or an image is its name. The id of a list ("screens") shows the contents of

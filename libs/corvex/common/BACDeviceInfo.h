@@ -20,7 +20,7 @@ public:
     //! record is empty.
     explicit BACDeviceInfo(const QString &text, bool *ok = nullptr);
 
-    //! "key: value;" items joined with a blank, keys ascending, texts as Base64.
+    //! "key: value;" items joined with a space, keys in ascending order, texts as Base64.
     QString toString() const;
     //! The same items, with values as texts and numbers.
     QVariantMap toVariantMap() const;

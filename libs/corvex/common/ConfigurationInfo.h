@@ -21,7 +21,7 @@ public:
     //! The display size is above zero and the brightness is 0 to 100.
     bool isValid() const;
 
-    //! In per cent.
+    //! In percent.
     int displayBrightness() const { return m_displayBrightness; }
     void setDisplayBrightness(int brightness) { m_displayBrightness = brightness; }
     //! In pixels, not rotated.

@@ -14,8 +14,8 @@ class CORVEX_COMMON_EXPORT TextHelper
 public:
     //! Base64 of the text in UTF-8. A surrogate without its partner has no UTF-8 form and is lost.
     static QString convertToBase64(const QString &text);
-    //! Accepts exactly the form that convertToBase64 writes: padded, without blanks, with UTF-8 inside.
-    //! Anything else gives an empty text and ok false.
+    //! Accepts exactly the form that convertToBase64 writes: padded, without spaces, with UTF-8 inside. For
+    //! anything else the text is empty and ok is false.
     static QString convertFromBase64(const QString &base64, bool *ok = nullptr);
 
     //! The text escaped for double quotes in QML or JavaScript.
@@ -31,7 +31,7 @@ public:
     //! as numbers ("pump2" before "Pump10"). Two different texts never compare as equal.
     static bool naturalLess(QStringView left, QStringView right);
     static void sortStringList(QStringList &list);
-    //! Compares the parts before the last full stop in natural order, then the extensions.
+    //! Compares the parts before the last dot in natural order, then the extensions.
     static bool fileNameLess(QStringView left, QStringView right);
     static void sortFileNames(QStringList &names);
 
@@ -50,13 +50,13 @@ public:
     static QString encryptString(const QString &text);
     static QString decryptString(const QString &cipher, bool *ok = nullptr);
 
-    //! Whether the name, or its part before the first full stop, is a Windows device name (AUX, COM1 ...), in
-    //! any case.
+    //! Whether the name, or its part before the first dot, is a Windows device name (AUX, COM1 ...), in any
+    //! case.
     static bool isReservedDeviceName(QStringView fileName);
     //! The characters of the name that file names in a project may not contain, each once, in order. Letters
-    //! and digits of every script are allowed, as are blanks and most ASCII punctuation.
+    //! and digits of every script are allowed, as are spaces and most ASCII punctuation.
     static QStringList forbiddenFileNameCharacters(QStringView name);
-    //! At least two characters, no forbidden one, and the first is neither a blank nor a full stop.
+    //! At least two characters, none of them forbidden, and the first is neither a space nor a dot.
     static bool isValidFileNameFormat(QStringView name);
 };
 

@@ -31,8 +31,8 @@ class Screen;
     1. The request is checked. A bad one returns false (or null), sets the property's errorString() and
        changes nothing.
     2. The before-hook runs. It may veto the change by returning false.
-    3. The property changes. Observers of the project hear of it (ModelObserver), the canvas item follows, the
-       property is validated.
+    3. The property changes. Observers of the project are notified (ModelObserver), the canvas item is
+       updated, and the property is validated.
     4. The after-hook runs.
     5. The signal is emitted.
 
@@ -87,7 +87,7 @@ public:
         Done,       //!< the property holds the new value
         Unchanged,  //!< it held this value before
         Unreadable, //!< the text is not a value of the property, or a file cannot hold it
-        Invalid,    //!< validation refused the value; errorString() of the property tells why
+        Invalid,    //!< validation refused the value; errorString() of the property has the reason
         Vetoed,     //!< the before-hook of the object refused it
     };
 
@@ -124,8 +124,7 @@ public:
     bool replaceListPropertyItemAt(const SharedProperty &property, qsizetype index, DesignerObject *newItem);
     bool swapListPropertyItems(const SharedProperty &property, DesignerObject *first, DesignerObject *second);
 
-    // Queries over one of its list properties, by the property's id; empty, null or -1 when there is no such
-    // list.
+    // Queries on a list property, by its id; empty, null or -1 if there is no such list.
     QStringList getListItemNamesInListProperty(const QString &id) const;
     bool hasListItemInListProperty(const QString &id, const QString &name) const;
     DesignerObject *getItemInListProperty(const QString &id, const QString &name) const;
@@ -161,7 +160,7 @@ public:
     void setListProperty(const SharedProperty &property);
     //! Every list that contains this object, including the owning one.
     QList<DesignerProperty *> listProperties() const;
-    //! Records a list that holds this object; one that is recorded already is ignored.
+    //! Records a list that contains this object. Ignores a list that is already recorded.
     void addListDesignerProperty(DesignerProperty *property);
     void takeListDesignerProperty(DesignerProperty *property);
     //! The object that owns the list or the object property that holds this one.
@@ -187,7 +186,7 @@ public:
 
     // Validation.
     //! Validates all objects below, then all own properties, and collects "title: reason" for each failure.
-    //! Emits validationError() when errors appear and resetValidationError() when they are gone.
+    //! Emits validationError() when errors appear and resetValidationError() when they disappear.
     bool validate();
     //! The same without the objects below, whose last outcomes are used.
     void validateProperties();

@@ -134,7 +134,7 @@ bool DesignerObject::saveToFile(const DesignerObject *object, const QString &pat
     QString problem;
     bool done = false;
     if (!ObjectXmlWriter::isComplete(object, false, &problem)) {
-        problem = u"\"%1\" holds no object; nothing is written."_s.arg(problem);
+        problem = u"\"%1\" contains no object, so nothing is written."_s.arg(problem);
     } else if (Common::SafeFile file(path); file.openForWriting(&problem)) {
         ObjectXmlWriter writer(&file, ObjectXmlWriter::LineEnd::Windows);
         // A failed file has the better error message.

@@ -25,7 +25,7 @@ class ModelObservers;
     - Nothing is reported while a project is loaded: between projectAboutToLoad() and projectLoaded().
 
     An observer must not change the model, and debug builds assert that. It may add and remove observers,
-    itself included; one that is added hears from the next operation on.
+    including itself; an added observer is notified from the next operation on.
 */
 class CORVEX_EXPORT ModelObserver
 {

@@ -55,7 +55,7 @@ public:
     PropertyRow &statesOf(const char *linkId);
     //! Refuses edits that set an image whose file is missing.
     PropertyRow &needsPictures();
-    //! Where the row describes a property of the base anew, it gives it this row's value too.
+    //! Also sets the value if the row redescribes a property of the base class.
     PropertyRow &overridesValue();
 
 private:

@@ -23,7 +23,7 @@ public:
     using ChannelMap = QMap<int, Type>;
 
     ChannelList() = default;
-    //! All blanks are ignored.
+    //! All whitespace is ignored.
     explicit ChannelList(QStringView text);
     //! Missing numbers become free channels. Numbers below 1 or above highestChannel are ignored; no device
     //! has such channels.

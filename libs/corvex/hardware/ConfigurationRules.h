@@ -32,7 +32,7 @@ struct CORVEX_EXPORT RS485Lines
 class CORVEX_EXPORT ConfigurationRules
 {
 public:
-    //! A whole number from 0 to 100, in per cent.
+    //! A whole number from 0 to 100, in percent.
     static bool displayBrightness(const QString &text, QString &error);
     static bool screenSize(const QString &text, QString &error);
     static bool analogInputs(const QString &text, QString &error);

@@ -72,7 +72,7 @@ TEST(CommandLine, RefusesWrongUsage)
         {{u"help"_s, u"me"_s}, u"There is no verb \"me\". \"corvex help\" lists them all."_s},
         {{u"info"_s}, u"\"info\" needs more arguments: corvex info FILE. See \"corvex help info\"."_s},
         {{u"info"_s, u"a"_s, u"b c"_s},
-         u"\"b c\" is one argument too many. Put quotes around an argument with blanks. See \"corvex help info\"."_s},
+         u"\"b c\" is one argument too many. Put quotes around an argument with spaces. See \"corvex help info\"."_s},
         {{u"info"_s, u"--colour"_s, u"x"_s},
          u"Unknown option 'colour'. Put \"--\" before an argument that begins with \"-\". "
          "See \"corvex help info\"."_s},

@@ -45,7 +45,7 @@ TEST(ProjectFile, IsRefusedWithPlaceAndReason)
         {u"empty"_s,
          u"empty:1:1: The text ends before its root element does; it is empty or was cut off. Repair the file at that place, or restore it from a copy."_s},
         {u"cut"_s, u"cut:19:"_s},
-        {u"text"_s, u"text:1:1: This is no XML."_s},
+        {u"text"_s, u"text:1:1: This is not XML."_s},
         {u"latin1"_s, u"latin1:2:10: The bytes here are not UTF-8"_s},
         {u"utf16"_s, u"utf16:1:1: The text is UTF-16; only UTF-8 is read."_s},
         {u"root"_s, u"root:1:1: The root element is \"Screen\" where \"Project\" is expected."_s},
@@ -148,7 +148,7 @@ TEST(FmtVerb, LosesNothingUnlessForced)
     // Of two objects in the same place, the second would replace the first.
     const QByteArray twice = sandbox.read(pump).replace("</Object>", "<Configuration/></Object>");
     sandbox.write(pump, twice);
-    EXPECT_THAT(sandbox.run({u"fmt"_s, pump}).error.toStdString(), HasSubstr("holds one object"));
+    EXPECT_THAT(sandbox.run({u"fmt"_s, pump}).error.toStdString(), HasSubstr("can have only one object"));
     EXPECT_EQ(sandbox.read(pump), twice);
 }
 

@@ -60,7 +60,7 @@ TEST(NewVerb, NeverChangesExistingFiles)
         {QStringList{u"Pump.kdproj"_s} + model, 2, u"corvex new \"Pump\" --model NAME."_s},
         {QStringList{u"a:b"_s} + model, 2, u"See \"corvex help new\"."_s},
         {QStringList{u"a\nb"_s} + model, 2, u"may not be used: \\n See \"corvex help new\""_s},
-        {QStringList{u"ab "_s} + model, 2, u"cannot begin or end with a blank."_s},
+        {QStringList{u"ab "_s} + model, 2, u"cannot begin or end with a space."_s},
         {QStringList{QString(249, u'a')} + model, 2,
          u"The project's name cannot have more than 248 characters."_s},
         {{u"Pump"_s}, 2, u"needs a path and a device model"_s},

@@ -22,7 +22,7 @@ public:
     {
     public:
         virtual ~Listener() = default;
-        //! Something is marked for the first time since everything was taken.
+        //! An object is marked, and none was before.
         virtual void marked() = 0;
         //! The object leaves the project. It may already be reduced to a DesignerObject.
         virtual void left(const DesignerObject *object) = 0;

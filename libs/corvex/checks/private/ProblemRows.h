@@ -26,7 +26,7 @@ public:
         static constexpr qsizetype file = -2;
 
         qsizetype check = object; //!< or the index of a shared check
-        QString key = {};         //!< of a group of that
+        QString key = {};         //!< the key of a group of that check
 
         friend bool operator==(const Origin &, const Origin &) = default;
     };

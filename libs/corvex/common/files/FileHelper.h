@@ -18,8 +18,8 @@ public:
     //! An existing folder for temporary files that only this user can access.
     static QString getStandardTemporatyLocation();
 
-    //! Removes the folder and everything below it. Links are removed, not their targets. Returns true if
-    //! nothing is left, also if nothing existed. Refuses an empty path, the root, and the home folder and its
+    //! Removes the folder and everything below it. Links are removed, but not their targets. Returns true if
+    //! nothing is left, even if nothing existed. Refuses an empty path, the root, and the home folder and its
     //! parents.
     static bool removeDirectory(const QString &path);
 
@@ -35,15 +35,15 @@ public:
     //! Replaces the file in one step, see SafeFile.
     static bool writeFile(const QString &path, const QByteArray &bytes, QString *error = nullptr);
 
-    //! Writes one value in the form that the device reads: a QDataStream of version Qt_4_7, big-endian,
-    //! through qCompress if compressed. Also returns false if the form does not support the value.
+    //! Writes one value in the form that the device reads: a big-endian QDataStream of version Qt_4_7,
+    //! optionally compressed with qCompress. Also returns false if the form does not support the value.
     static bool variantToFile(const QVariant &value, const QString &path, bool compressed,
                               QString *error = nullptr);
     //! Reads the output of variantToFile, compressed or not. Accepts numbers, texts, bytes, dates, colours,
     //! points, sizes, rectangles, and lists and maps of these; for any other file ok is false.
     static QVariant fileToVariant(const QString &path, bool *ok = nullptr);
 
-    //! In lower case, without the full stop.
+    //! In lower case, without the dot.
     static const QStringList &validImageExtensions();
     //! Whether the file is an image whose contents match its extension. The format is taken from the contents
     //! ("png", "jpg", "bmp", "gif", "svg"), or empty if it is none of these. Works without an application

@@ -20,7 +20,7 @@ class FileJournal;
     completes the transaction. Without commit() everything is undone, by this object or, after a crash or a
     power failure, by recover().
 
-    Names are paths relative to the folder. The caller must hold an exclusive lock on the folder all the time.
+    Names are paths relative to the folder. The caller must hold an exclusive lock on the folder throughout.
     On failure operations return false and change nothing.
 */
 class CORVEX_COMMON_EXPORT FileTransaction
@@ -50,7 +50,8 @@ public:
     //! The current path of the file with that key.
     QString asidePath(const QString &key) const;
 
-    //! The path for the new file that commit() puts in place. The caller must flush it to the disk before.
+    //! The path of the new file that commit() moves into place. The caller must write it and flush it to the
+    //! disk first.
     QString draftPath() const;
     void deferRemovals(bool isDeferred);
     //! Returns false, with the reason, if \a file is write-protected.
@@ -73,7 +74,7 @@ public:
     static Recovery recover(const QString &folder);
     //! Whether the folder has a running or interrupted transaction.
     static bool isOpen(const QString &folder);
-    //! The path that \a folder had before an interrupted transaction renamed it; empty if it was not renamed.
+    //! Finds the folder that an interrupted transaction renamed from \a folder; empty if there is none.
     static QString renamedFrom(const QString &folder);
 
 private:

@@ -24,8 +24,7 @@ public:
     static bool zipWithBytes(const QByteArray &bytes, const QString &name, const QString &zipPath,
                              const QString &comment, int level, QString *error = nullptr);
 
-    //! Packs all files below the folder, by their relative paths and in the order of these. Links are
-    //! skipped.
+    //! Packs all files below the folder under their relative paths, in the order of the paths. Skips links.
     static bool zipDirectory(const QString &directory, const QString &zipPath, QString *error = nullptr);
 
     //! Unpacks into the folder, which is created if necessary. Before anything is written, refuses an archive

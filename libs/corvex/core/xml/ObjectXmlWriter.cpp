@@ -106,7 +106,7 @@ bool ObjectXmlWriter::writeProperties(const DesignerObject *object)
 
 bool ObjectXmlWriter::noteMissing(bool isComplete, const QString &missing)
 {
-    m_error = isComplete ? QString() : u"\"%1\" holds no object; nothing is written."_s.arg(missing);
+    m_error = isComplete ? QString() : u"\"%1\" contains no object, so nothing is written."_s.arg(missing);
     return isComplete;
 }
 

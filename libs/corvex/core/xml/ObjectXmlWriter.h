@@ -17,7 +17,7 @@ class DesignerObject;
 class DesignerProperty;
 struct KeptItem;
 
-/*! Writes an object and everything below it as XML in UTF-8: one element per line, one blank of indent per
+/*! Writes an object and everything below it as XML in UTF-8: one element per line, one space of indent per
     level, `name` before `value`. Writing the same object again gives the same bytes.
 
     All processors write the items of a long list, so an overridden convertToXmlDocument() may be called from

@@ -15,7 +15,7 @@ class Project;
 class ReferenceTarget;
 class Screen;
 
-/*! Finds the properties that name an object, so that a renaming need not search the project.
+/*! Finds the properties that name an object, so that a rename does not have to search the project.
 
     The index is built on first use and after the project was loaded, and then follows the changes of the
     model.

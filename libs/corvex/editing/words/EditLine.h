@@ -8,7 +8,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A line of an edit script, split into words at blanks and tabs. A word in double quotes may contain these,
+//! A line of an edit script, split into words at spaces and tabs. A word in double quotes may contain these,
 //! and \", \\, \n and \t.
 struct CORVEX_EXPORT EditLine
 {

@@ -63,12 +63,11 @@ QString FileNameRules::projectNameError(const QString &name)
         return error;
     }
     if (!TextHelper::isValidFileNameFormat(name)) {
-        return LocalizationHelper::coreString(
-            u"The project's name cannot begin with a blank or a full stop."_s);
+        return LocalizationHelper::coreString(u"The project's name cannot begin with a space or a dot."_s);
     }
     // An identifier drops surrounding blanks, so the file would have a different name than the project.
     if (name.trimmed() != name) {
-        return LocalizationHelper::coreString(u"The project's name cannot begin or end with a blank."_s);
+        return LocalizationHelper::coreString(u"The project's name cannot begin or end with a space."_s);
     }
     return reservedNameError(name);
 }

@@ -15,7 +15,7 @@ class CORVEX_EXPORT ListInfo : public RecordList<QString>
 public:
     using RecordList::RecordList;
     ListInfo() = default;
-    //! "pump1 | pump2". A "|" separates items only if it has a blank or the end of the text on both sides.
+    //! "pump1 | pump2". A "|" separates items only if it has a space or the end of the text on both sides.
     explicit ListInfo(const QString &text, bool *ok = nullptr);
 
     //! Returns whether the item was in the list.

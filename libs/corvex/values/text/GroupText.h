@@ -12,7 +12,7 @@
 //! The group form, "color: #FF000000; width: 2;", of most values with several fields.
 namespace Halvane::Corvex::Designer::GroupText {
 
-//! \a text without surrounding blanks. Fast for short texts, which is what this form has.
+//! \a text without surrounding whitespace. Optimized for short texts, which are usual in this form.
 inline QStringView withoutBlanks(QStringView text)
 {
     const QChar *first = text.begin();
@@ -99,7 +99,7 @@ bool forEachEntry(QStringView text, Entry &&entry)
     return entry(QStringView(u"valueString"), QStringView(valueString));
 }
 
-//! Appends "key: value;", with a blank before it unless it is the first entry. Append entries in the order of
+//! Appends "key: value;", with a space before it unless it is the first entry. Append entries in the order of
 //! their keys.
 CORVEX_EXPORT void appendEntry(QString &group, QStringView key, QStringView value);
 

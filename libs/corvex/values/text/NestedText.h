@@ -13,9 +13,9 @@
 */
 namespace Halvane::Corvex::Designer::NestedText {
 
-//! For a value in a group, which cannot contain ":", ";", "|" or surrounding blanks.
+//! For a value in a group, which cannot contain ":", ";", "|" or surrounding spaces.
 CORVEX_EXPORT QString toField(const QString &text);
-//! For an item of a list joined with " | ". Only a "|" between blanks or ends separates items, so pairs like
+//! For an item of a list joined with " | ". Only a "|" between spaces or ends separates items, so pairs like
 //! "pump1|speed" need no escape.
 CORVEX_EXPORT QString toItem(const QString &text);
 CORVEX_EXPORT QString fromField(QStringView field);

@@ -369,7 +369,7 @@ void ObjectBuilder::openObjectValue(Frame &frame, QByteArrayView name,
 {
     const QString className = QString::fromUtf8(name);
     if (frame.isAnswered) {
-        skip(u"The property \"%1\" holds one object; the \"%2\" after it is left out."_s.arg(
+        skip(u"The property \"%1\" can have only one object; \"%2\" is ignored."_s.arg(
             frame.property->id(), XmlTokenizer::excerpt(name)));
         return;
     }
@@ -441,7 +441,7 @@ void ObjectBuilder::addItem(const Frame &list, DesignerObject *item)
     ObjectXmlWriter writer(&text);
     writer.setHeader(false);
     const bool isKept = writer.write(item);
-    const QString message = u"\"%1\" cannot stand in \"%2\": %3 %4"_s.arg(
+    const QString message = u"\"%1\" is not allowed in \"%2\": %3 %4"_s.arg(
         item->getIdName(), list.property->id(), list.property->errorString(),
         isKept ? u"The item is kept as it is."_s : writer.errorString());
     qWarning("%s", qUtf8Printable(message));

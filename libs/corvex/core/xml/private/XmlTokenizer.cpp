@@ -167,7 +167,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeText()
         m_tokenPlace = placeInToken(m_next);
         m_token = m_next;
         return m_hasRoot ? malformed("something follows the end of the root element"_L1, m_next)
-                         : fail(u"This is no XML."_s);
+                         : fail(u"This is not XML."_s);
     }
     const XmlPlace firstWord = placeOfNext();
     // The text before an incomplete character is a piece of its own.
@@ -404,7 +404,7 @@ XmlTokenizer::Outcome XmlTokenizer::fail(const QString &message)
 XmlTokenizer::Outcome XmlTokenizer::malformed(QLatin1StringView what, const char *at)
 {
     m_tokenPlace = placeInToken(at);
-    return fail(u"This is no well-formed XML: %1."_s.arg(what));
+    return fail(u"This is not well-formed XML: %1."_s.arg(what));
 }
 
 XmlTokenizer::Outcome XmlTokenizer::misplaced(const char *character)
