@@ -32,7 +32,7 @@ struct CORVEX_EXPORT Problem
 
     const ProblemKind &kind() const { return ProblemKind::of(code); }
     Severity severity() const { return kind().severity; }
-    //! The present path of the object, or its last path if it was deleted.
+    //! The current path of the object, or its last path if it was deleted.
     QString path() const;
     //! "object: property: message"; a place in the file replaces the property. For problems that are not
     //! errors, the severity precedes the message.

@@ -19,7 +19,7 @@ struct CORVEX_EXPORT ProblemFix
     //! Creates a command to push. Null if the project has changed so that the text is no longer correct.
     std::function<std::unique_ptr<UndoCommand>()> makeCommand;
 
-    //! The fixes for the present state of the problem, the best one first. The search for similar names is
+    //! The fixes for the current state of the problem, the best one first. The search for similar names is
     //! slow, so call it on request of the user. The project must outlive the fixes.
     static QList<ProblemFix> of(const Problem &problem);
     //! The texts of all fixes for that kind of problem, with placeholders: "Rename to "%1"". English.

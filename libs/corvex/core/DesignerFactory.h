@@ -45,7 +45,7 @@ public:
     DesignerObject *createUnowned(const QString &className) const;
     //! A canvas item that is not initialised yet; null if the name is unknown or there is no object.
     GraphicsItem *createGraphicsItem(const QString &className, DesignerObject *object) const;
-    //! An initialised canvas item for an object; null also without a factory. The default of
+    //! An initialised canvas item for an object; also null without a factory. The default of
     //! DesignerObject::createGraphicsItem().
     static ObjectView *createObjectView(const QString &className, DesignerObject *object);
     PropertyEditor *createEditor(const QString &editorName, QWidget *parent = nullptr) const;

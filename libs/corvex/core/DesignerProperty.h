@@ -122,7 +122,7 @@ public:
     //! The value as text: empty for a list; the XML of the child for an object property, or empty without a
     //! child; otherwise the canonical form of the value.
     QString valueString() const;
-    //! Whether \a text means the present value. A text that cannot be parsed counts as equal.
+    //! Whether \a text means the current value. A text that cannot be parsed counts as equal.
     bool equalsValue(const QString &text) const;
     //! Whether \a text can be read as a value. Changes neither the value nor the validation outcome.
     bool canRead(const QString &text);

@@ -39,7 +39,7 @@ public:
     void setProgress(Common::Progress *progress) { m_progress = progress; }
     //! Writes the file again. Returns false if it no longer exists.
     virtual bool saveFile();
-    //! Renames the folder and the file from \a oldName to \a newName, whatever the object's present name is.
+    //! Renames the folder and the file from \a oldName to \a newName, whatever the object's current name is.
     //! Does not replace existing files.
     virtual bool renameFile(const QString &oldName, const QString &newName);
     //! Deletes the file, and the object's own folder if nothing else is in it.

@@ -64,7 +64,7 @@ public:
     void forgetNewest();
     //! Replaces the order; \a order contains the same items.
     void reorder(const QList<DesignerObject *> &order) { m_items = order; }
-    //! Re-indexes \a item from its old name to its present one; harmless if repeated.
+    //! Re-indexes \a item from its old name to its current one; harmless if repeated.
     void rekey(const QString &oldName, DesignerObject *item);
 
     bool hasKeptItems() const { return !m_kept.isEmpty(); }

@@ -11,7 +11,7 @@ class DesignerObject;
 class DesignerProperty;
 
 //! Validators that need to look beyond the property itself. Tables of all layers refer to them; they are
-//! defined in the room "project", where the model is known.
+//! defined in the module "project", where the model is known.
 class CORVEX_EXPORT PropertyValidators
 {
 public:

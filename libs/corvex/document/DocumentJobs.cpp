@@ -85,7 +85,7 @@ std::unique_ptr<ProjectDocument::LoadJob> ProjectDocument::load(const QString &p
 }
 
 //! Whether a project can be read from the file. Reads it into a second project, because a failure would leave
-//! the present one incomplete.
+//! the current one incomplete.
 bool ProjectDocument::canLoad(const QString &path)
 {
     QString error;

@@ -44,7 +44,7 @@ public:
     const QString &errorString() const { return m_error; }
 
     // Edits.
-    //! Takes ownership of the command and does it.
+    //! Takes ownership of the command and executes it.
     bool push(UndoCommand *command);
     bool undo();
     bool redo();

@@ -42,7 +42,7 @@ public:
     bool renameFile(const QString &oldName, const QString &newName) override;
     //! Updates the path of the file after the images folder of the project changed.
     void updateFileFields();
-    //! The path of the file according to the present folders; empty if there is no valid path.
+    //! The path of the file according to the current folders; empty if there is no valid path.
     QString filePath() const { return createFullFilePath(parentPath(), subPath(), fileName()); }
 
     //! The elements that show the image, in no particular order. Not owned; deleted elements are removed.
@@ -60,7 +60,7 @@ public:
 
     /*! Adds local image files to the project of \a screen, with an element for each at \a position, as one
         step of the history. Existing images of the project are reused. Reports files that are not images or
-        have invalid names to the user. Returns false if nothing was added. Defined in the room of the
+        have invalid names to the user. Returns false if nothing was added. Defined in the module of the
         commands.
     */
     static bool addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, const QPointF &position,

@@ -62,7 +62,7 @@ public:
     //! system. Images are not moved; createFileCopy() copies them. This, loadFile() and saveFile() start a
     //! new undo history.
     bool createFile(const QString &path) override;
-    //! Reads D/P/P.kdproj into this project. Deletes the present contents first.
+    //! Reads D/P/P.kdproj into this project. Deletes the current contents first.
     bool loadFile(const QString &path) override;
     bool saveFile() override;
     //! Locks the project in the file \a path: prevents others from changing it, or also from reading it
@@ -81,7 +81,7 @@ public:
     Common::FileTransaction *fileChanges() const { return m_folder.changes(); }
     //! Deletes the project's file, its images and its preview, and its folders if they are empty afterwards.
     bool deleteFile() override;
-    //! Writes the present state of the project, with its images and preview, as D/Q/Q.kdproj in the existing
+    //! Writes the current state of the project, with its images and preview, as D/Q/Q.kdproj in the existing
     //! folder D = \a parentPath. Q is \a name, or the project's own name. D/Q must not exist, and does not
     //! exist after a failure. Images without a file are skipped.
     bool createFileCopy(const QString &parentPath, const QString &name = {});
@@ -107,7 +107,7 @@ public:
     void updateBuildVersion();
     //! The name and version in the build tag; empty if it is not a valid tag.
     QString buildTag() const;
-    //! Converts a project of an older version to the present form. At present all projects that can be loaded
+    //! Converts a project of an older version to the current form. At present all projects that can be loaded
     //! have this form.
     bool updateProjectProperties();
     bool upgradeToCurrentVersion();
@@ -115,7 +115,7 @@ public:
     // Undo.
     //! The history of edits, owned by the project. undoStackChanged() is emitted when it is replaced.
     UndoStack *undoStack();
-    //! Replaces the history. The commands of \a stack must match the present state of the project.
+    //! Replaces the history. The commands of \a stack must match the current state of the project.
     void setUndoStack(std::shared_ptr<UndoStack> stack);
     //! The history, for code that restores it later.
     std::shared_ptr<UndoStack> sharedUndoStack();
@@ -144,7 +144,7 @@ public:
     //! Generates the folder for the device. runtimeGenerator() has its path, or the error.
     void generateRuntimeFiles();
     RuntimeGenerator &runtimeGenerator() { return m_runtimeGenerator; }
-    //! A new generator, set up for a build of this project in its present state.
+    //! A new generator, set up for a build of this project in its current state.
     RuntimeGenerator newRuntimeGenerator() const;
 
     // Names.

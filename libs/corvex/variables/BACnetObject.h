@@ -23,7 +23,7 @@ public:
 
         friend bool operator==(const Identifier &, const Identifier &) = default;
     };
-    //! Reads "type,instance". Blanks around the numbers are ignored.
+    //! Reads "type,instance". Spaces around the numbers are ignored.
     static std::optional<Identifier> readIdentifier(const QString &text);
 
 protected:

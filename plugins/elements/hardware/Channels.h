@@ -50,7 +50,7 @@ protected:
     bool initializeProperties() override;
 };
 
-//! A pulse-width modulated output of the device; its value is the duty cycle in per cent.
+//! A pulse-width modulated output of the device; its value is the duty cycle in percent.
 class PwmOutput : public AnalogOutput
 {
     Q_OBJECT

@@ -16,7 +16,7 @@ namespace Halvane::Corvex::Elements {
 
 namespace {
 
-//! The picture in the present file; drawings are rendered for each size. Null if the file cannot be read, or
+//! The picture in the current file; drawings are rendered for each size. Null if the file cannot be read, or
 //! if it would read other files.
 QPixmap pictureOf(const QFileInfo &file, const QSize &size)
 {

@@ -41,7 +41,7 @@ struct Level
 qsizetype findTooDeepNesting(QStringView code)
 {
     QList<Level> levels{Level()};
-    qsizetype members = 0; // of the path at the present position: a.b.c
+    qsizetype members = 0; // of the path at the current position: a.b.c
     for (qsizetype i = 0; i < code.size(); ++i) {
         const QChar c = code[i];
         Level &level = levels.last();

@@ -14,7 +14,7 @@ class CORVEX_COMMON_EXPORT FileStamp
 public:
     //! The stamp of a missing file.
     FileStamp() = default;
-    //! The stamp of the file in its present state; reads all of it.
+    //! The stamp of the file in its current state; reads all of it.
     static FileStamp of(const QString &path);
 
     friend bool operator==(const FileStamp &, const FileStamp &) = default;

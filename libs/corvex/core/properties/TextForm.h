@@ -15,7 +15,7 @@ struct TextForm
     static QString print(const Value &value) { return value.toString(); }
 };
 
-//! For types whose texts depend on the present value: the key of an enumeration, for example, is read as a
+//! For types whose texts depend on the current value: the key of an enumeration, for example, is read as a
 //! key of the enumeration of that value. The form has parse(text, current, ok); no text counts as empty.
 template<class Value>
 concept ReadsBesideCurrent = requires(const QString &text, const Value &current, bool *ok)
@@ -23,7 +23,7 @@ concept ReadsBesideCurrent = requires(const QString &text, const Value &current,
     TextForm<Value>::parse(text, current, ok);
 };
 
-//! For types whose values share common data with the present value. The form has parseLike(text, current,
+//! For types whose values share common data with the current value. The form has parseLike(text, current,
 //! ok).
 template<class Value>
 concept SharesTexts = requires(const QString &text, const Value &current, bool *ok)

@@ -22,7 +22,7 @@ struct CORVEX_EXPORT QmlForm<QQuickItem::TransformOrigin>
     static QmlBindings bindings(const DesignerProperty &property, QQuickItem::TransformOrigin origin);
 };
 
-//! The point about which an item turns and scales. Its text is the name of the enumerator.
+//! The point about which an item rotates and scales. Its text is the name of the enumerator.
 class CORVEX_EXPORT TransformOriginProperty : public TypedProperty<QQuickItem::TransformOrigin>
 {
     CORVEX_CLASS_NAMES(TransformOriginProperty, DesignerProperty)

@@ -38,7 +38,7 @@ public:
     void setValidate(bool validate);
     //! Reports the bytes read, and can cancel the reading, which is an error. May be null. Not owned.
     void setProgress(Common::Progress *progress);
-    //! Reads into an object of the root's class. Lists in the file replace the present ones; anything that
+    //! Reads into an object of the root's class. Lists in the file replace the current ones; anything that
     //! the file does not mention is unchanged. After a failure the object is incomplete.
     bool read(DesignerObject *object);
     //! Creates the object that the root element names. The caller owns it; null after a failure.

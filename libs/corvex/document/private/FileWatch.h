@@ -17,10 +17,10 @@ class FileWatch : public QObject
 public:
     explicit FileWatch(QObject *parent = nullptr);
 
-    //! Watches the file with that path, which may be a new name of the present file.
+    //! Watches the file with that path, which may be a new name of the current file.
     void watch(const QString &path);
     const QString &path() const { return m_path; }
-    //! Accepts the present contents as known.
+    //! Accepts the current contents as known.
     void accept();
     //! Whether the contents have changed since; reads the whole file.
     bool isChanged() const { return !(Common::FileStamp::of(m_path) == m_known); }

@@ -30,7 +30,7 @@ struct RequestedValue
 /*! Deletes, renames, duplicates and moves objects of any kind: screens, elements, groups, filters, variables
     and images. A project can be renamed. Values of any objects change in one step.
 
-    Each function plans one step of the history for the present state of the project and changes nothing. Push
+    Each function plans one step of the history for the current state of the project and changes nothing. Push
     the command before you plan the next one.
 */
 class CORVEX_EXPORT Commands

@@ -17,8 +17,9 @@ class DesignerObject;
 class FramedItem;
 class UndoCommand;
 
-//! Moves, resizes or turns items on the canvas from the press to the release of the mouse; the model changes
-//! only at the end. All points are in scene coordinates. Objects that are deleted meanwhile are skipped.
+//! Moves, resizes or rotates items on the canvas from the press to the release of the mouse; the model
+//! changes only at the end. All points are in scene coordinates. Objects that are deleted meanwhile are
+//! skipped.
 class CORVEX_EXPORT CanvasGesture
 {
 public:
@@ -28,7 +29,7 @@ public:
     static CanvasGesture turn(const FramedItem &item, const QPointF &start);
 
     //! Positions and sizes are rounded to whole pixels in the coordinates of the parent, angles to whole
-    //! degrees. Shift keeps the proportions, and turns in steps of 15 degrees.
+    //! degrees. Shift keeps the proportions, and rotates in steps of 15 degrees.
     void moveTo(const QPointF &point, Qt::KeyboardModifiers modifiers);
     //! A single command for all changes; null if there are none.
     std::unique_ptr<UndoCommand> command();
@@ -55,7 +56,7 @@ private:
     void moveItem(FramedItem &item, const Start &start, const QPointF &point) const;
     void resizeItem(FramedItem &item, const Start &start, const QPointF &point) const;
     QString text() const;
-    //! The property that moving or turning changes.
+    //! The property that moving or rotating changes.
     SharedProperty movedProperty(const DesignerObject &object) const;
 
     Kind m_kind;

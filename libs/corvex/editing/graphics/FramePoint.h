@@ -12,7 +12,7 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! One of the nine points of a rectangle about which an item can turn. All except the centre are also the
+/*! One of the nine points of a rectangle about which an item can rotate. All except the centre are also the
     handles for resizing.
 
     A handle moves the edges on its side: horizontal and vertical are -1 for the left and the upper edge, 1

@@ -31,7 +31,7 @@ public:
     //! The middle of the grip in scene coordinates.
     QPointF rotationGrip() const;
     bool isRotationGrip(const QPointF &point) const;
-    //! The handles that fit on the frame at its present size on the canvas.
+    //! The handles that fit on the frame at its current size on the canvas.
     QList<QQuickItem::TransformOrigin> shownHandles() const;
 
     //! Resizes the frame. Its top left may move in the item's own coordinates.

@@ -52,7 +52,7 @@ public:
     bool isScalable() const { return m_isScalable; }
     void setScalable(bool on) { m_isScalable = on; }
 
-    //! The point about which the item turns and scales.
+    //! The point about which the item rotates and scales.
     QQuickItem::TransformOrigin transformOrigin() const { return m_transformOrigin; }
     //! Updates the position of that point after a change of the item's size.
     void updateTransformOriginPoint();
@@ -60,7 +60,7 @@ public:
     // Shapes, in the item's own coordinates unless stated otherwise.
     //! The rectangle with the handles.
     virtual QRectF frame() const;
-    //! The rectangle with the nine points about which the item can turn; usually the frame.
+    //! The rectangle with the nine points about which the item can rotate; usually the frame.
     virtual QRectF turningFrame() const { return frame(); }
     //! The area that the item covers.
     virtual QPainterPath getShape() const;

@@ -20,7 +20,7 @@ class CORVEX_EXPORT SelectionOutline : public QGraphicsItem
 public:
     SelectionOutline();
 
-    //! Copies the present positions of the items. Without handles only frames are shown.
+    //! Copies the current positions of the items. Without handles only frames are shown.
     //! \return the bounding rectangle of the frames
     QRectF follow(const QList<FramedItem *> &items, bool hasHandles);
 

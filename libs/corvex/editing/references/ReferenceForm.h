@@ -29,7 +29,7 @@ public:
     //! one was changed. An invalid text has no mentions. \return whether \a text has changed.
     static bool visit(const DesignerProperty &property, QString &text, const MentionVisitor &visitor);
     static QList<Mention> mentions(const DesignerProperty &property, const QString &text);
-    //! The mentions in the present value, without printing or parsing it.
+    //! The mentions in the current value, without printing or parsing it.
     static QList<Mention> mentions(const DesignerProperty &property);
     //! For a text of that form outside of a property. Links then define themselves what they may refer to.
     static bool visit(Form form, QString &text, const MentionVisitor &visitor);

@@ -22,7 +22,7 @@ class CORVEX_EXPORT ReferenceTarget
 {
 public:
     ReferenceTarget() = default;
-    //! The object and everything below it, with their present names. Invalid if nothing can refer to them.
+    //! The object and everything below it, with their current names. Invalid if nothing can refer to them.
     explicit ReferenceTarget(const DesignerObject *object);
     //! Only the object itself.
     static ReferenceTarget toItself(const DesignerObject *object);

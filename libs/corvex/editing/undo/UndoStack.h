@@ -36,12 +36,12 @@ public:
     explicit UndoStack(QObject *parent = nullptr);
     ~UndoStack() override;
 
-    //! Takes ownership of the command and does it. Returns false on failure: the command is deleted,
+    //! Takes ownership of the command and executes it. Returns false on failure: the command is deleted,
     //! errorString() may give the reason, and the history is unchanged. Do not push an invalid command.
     bool push(UndoCommand *command);
     //! Why the last command failed, for the user; empty if unknown.
     const QString &errorString() const { return m_errorString; }
-    //! Starts a new history: all steps are discarded and the present state counts as saved.
+    //! Starts a new history: all steps are discarded and the current state counts as saved.
     void startOver();
     //! Makes all commands delete the files that only an undo would need.
     void cleanJunkFiles();
@@ -53,7 +53,7 @@ public:
     void setGate(Gate gate) { m_gate = std::move(gate); }
     //! Whether the history can move now and a gesture can begin; otherwise errorString() gives the reason.
     bool isOpen();
-    //! Discards all steps after the present index.
+    //! Discards all steps after the current index.
     void dropRedo();
     //! Whether index 0 is the saved state; false for a history from before the last save.
     void setStartSaved(bool isSaved);
@@ -83,7 +83,7 @@ public:
     bool isDeleteScreen() const { return m_isDeleteScreen; }
     bool isDeleteImage() const { return m_isDeleteImage; }
     bool isDeleteVariable() const { return m_isDeleteVariable; }
-    //! Null also if the object has been deleted.
+    //! Also null if the object has been deleted.
     DesignerObject *activeItem() const;
 
 public slots:

@@ -53,7 +53,7 @@ public:
     ~EditScript();
     Q_DISABLE_COPY_MOVE(EditScript)
 
-    //! Plans the edit of a line for the present state of the project. Changes nothing.
+    //! Plans the edit of a line for the current state of the project. Changes nothing.
     EditPlan plan(const QString &line) const;
     //! Does the edit. On failure the project is unchanged, and refusal() gives the reason.
     Result run(const QString &line);
@@ -75,7 +75,7 @@ private:
     QList<Edit> m_edits;
     QStringList m_output;
     bool m_hasFailed = false;
-    bool m_isLost = false;  //!< the present position in the history depends on failed lines
+    bool m_isLost = false;  //!< the current position in the history depends on failed lines
     QSet<QString> m_unmade; //!< names that failed lines would have assigned
 };
 

@@ -12,7 +12,7 @@
 namespace Halvane::Corvex::Preview {
 
 //! The time of the panel in milliseconds since it started. It only moves when it is advanced: with the real
-//! time in a window, or by a script, which need not wait for a log with one point per minute.
+//! time in a window, or by a script, which does not have to wait for a log with one point per minute.
 class Clock : public QObject
 {
     Q_OBJECT

@@ -50,7 +50,7 @@ public:
     bool findArchive();
 
     //! Called by the timer: starts a run, unless nothing has changed or a run is active. Returns whether a
-    //! run has started. finished() reports the result, also if it could not be started.
+    //! run has started. finished() reports the result, even if it could not be started.
     bool run();
     bool isRunning() const { return m_isRunning; }
     //! While paused nothing is saved, because the previous file is still needed.

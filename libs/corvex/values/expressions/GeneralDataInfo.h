@@ -134,7 +134,7 @@ public:
     //! \return false if the term contains no name.
     bool removeObject();
 
-    // These two walk the model. They are compiled in the room "project", on a higher layer.
+    // These two walk the model. They are compiled in the module "project", on a higher layer.
 
     //! The variable that the term names; null if \a project has none.
     ProjectVariable *toVariable(Project *project) const;

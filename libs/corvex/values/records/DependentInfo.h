@@ -13,7 +13,7 @@ class DesignerProperty;
 
 //! An object, by its identifier, and the properties that depend on it.
 //!
-//! updateProperties() is defined in the room "project", where the model is known.
+//! updateProperties() is defined in the module "project", where the model is known.
 class CORVEX_EXPORT DependentInfo
 {
 public:

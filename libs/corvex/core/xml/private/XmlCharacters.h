@@ -14,7 +14,7 @@ enum Class : quint8 {
     Blank = 1,
     NameStart = 2,
     NameCharacter = 4,
-    PlainText = 8,   //!< neither markup nor a blank
+    PlainText = 8,   //!< neither markup nor whitespace
     PlainValue = 16, //!< needs no escape in a quoted value, and is not a quote
 };
 

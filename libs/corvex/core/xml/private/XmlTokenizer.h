@@ -40,7 +40,7 @@ private:
     {
         quint32 line = 1;
         quint32 columnBefore = 0;        //!< columns of the line before lineStart
-        const char *lineStart = nullptr; //!< in the present bytes
+        const char *lineStart = nullptr; //!< in the current bytes
         quint32 hidden = 0;              //!< bytes since lineStart that do not count as columns
     };
 
@@ -91,8 +91,8 @@ private:
     std::vector<char> m_names;        //!< of the open elements, one after the other
     std::vector<size_t> m_nameStarts; //!< the start of each name
     bool m_isBegun = false;           //!< something has been read
-    bool m_isLast = false;            //!< the present bytes are the last ones
-    bool m_isReturnHeld = false;      //!< a carriage return follows the present bytes
+    bool m_isLast = false;            //!< the current bytes are the last ones
+    bool m_isReturnHeld = false;      //!< a carriage return follows the current bytes
     bool m_isDeclarationPossible = true;
     bool m_hasRoot = false;
     bool m_hasText = false; //!< since the last tag
