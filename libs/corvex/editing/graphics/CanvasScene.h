@@ -20,7 +20,7 @@ class UndoStack;
 
     A click selects the element under the mouse; a group counts as a whole. A double click selects inside the
     group. With Control pressed, a click adds to the selection or removes from it. Dragging moves the
-    selection, its handles resize it, its grip turns it, and dragging from an empty place selects everything
+    selection, its handles resize it, its grip rotates it, and dragging from an empty place selects everything
     that the rectangle touches. Releasing the mouse pushes one command onto the history of the screen's
     project. Escape cancels the gesture; so does a release if the screen has no project.
 */
