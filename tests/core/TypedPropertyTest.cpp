@@ -308,11 +308,19 @@ TEST(TypedProperty, ZeroKeepsItsSign)
     }
 }
 
+TEST(TypedProperty, ACastToAnotherKindIsEmpty)
+{
+    const Subject number = make<IntegerProperty>(7);
+    EXPECT_EQ(propertyCast<IntegerProperty>(number.property), number.property.data());
+    EXPECT_EQ(propertyCast<RealProperty>(number.property), nullptr);
+    EXPECT_EQ(valueAs<IntegerProperty>(number.property), 7);
+    EXPECT_EQ(valueAs<StringProperty>(number.property), QString());
+    EXPECT_EQ(valueAs<IntegerProperty>(SharedProperty()), 0);
+}
+
 TEST(TypedProperty, EqualFontsAreShared)
 {
-    const auto fontOf = [](const Subject &subject) {
-        return static_cast<const FontProperty &>(*subject.property).value();
-    };
+    const auto fontOf = [](const Subject &subject) { return valueAs<FontProperty>(subject.property); };
     const Subject one = make<FontProperty>(QFont());
     const Subject other = make<FontProperty>(QFont());
     ASSERT_TRUE(one.read(QLatin1StringView(arial)) && other.read(QLatin1StringView(arial)));
