@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The models of the inspector follow random edits with undo and redo. After each of them, a view that knows
 // the signals alone holds what a model has that was just made.
+#include "corvex/checks/ProblemList.h"
 #include "corvex/document/ProjectDocument.h"
 #include "corvex/editing/commands/Commands.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/inspector/ObjectTreeModel.h"
+#include "corvex/inspector/ProblemsModel.h"
 #include "corvex/inspector/PropertySheet.h"
 
 #include "ProjectGenerator.h"
@@ -26,6 +28,11 @@ protected:
         document = std::make_unique<ProjectDocument>(std::unique_ptr<Project>(project.get()));
         tree = std::make_unique<ObjectTreeModel>(*document);
         sheet = std::make_unique<PropertySheet>(*project);
+        problems = std::make_unique<ProblemList>(*project, *HardwareConfigurations::instance()->installed());
+        problems->update();
+        tree->setProblems(problems.get());
+        problemsModel = std::make_unique<ProblemsModel>(*problems);
+        problemsMirror = std::make_unique<ViewMirror>(*problemsModel, problemRoles);
         treeMirror = std::make_unique<ViewMirror>(*tree, treeRoles);
         sheetMirror = std::make_unique<ViewMirror>(*sheet, sheetRoles);
     }
@@ -33,6 +40,7 @@ protected:
     void addTesters()
     {
         for (QAbstractItemModel *model : {static_cast<QAbstractItemModel *>(tree.get()),
+                                          static_cast<QAbstractItemModel *>(problemsModel.get()),
                                           static_cast<QAbstractItemModel *>(sheet.get())}) {
             testers.push_back(std::make_unique<QAbstractItemModelTester>(
                 model, QAbstractItemModelTester::FailureReportingMode::Fatal));
@@ -72,7 +80,10 @@ protected:
     }
     void check() const
     {
-        const ObjectTreeModel newTree(*document);
+        problems->update();
+        ASSERT_EQ(problemsMirror->lines(), ViewMirror::linesOf(*problemsModel, problemRoles));
+        ObjectTreeModel newTree(*document);
+        newTree.setProblems(problems.get());
         ASSERT_EQ(treeMirror->lines(), ViewMirror::linesOf(newTree, treeRoles));
         PropertySheet newSheet(*project);
         newSheet.setObjects(sheet->objects());
@@ -94,7 +105,11 @@ protected:
                                ObjectTreeModel::ObjectRole,
                                ObjectTreeModel::ClassRole,
                                ObjectTreeModel::ValidRole,
-                               ObjectTreeModel::ErrorsRole};
+                               ObjectTreeModel::ErrorsRole,
+                               ObjectTreeModel::SeverityRole};
+    const QList<int> problemRoles{Qt::DisplayRole,           ProblemsModel::SeverityRole,
+                                  ProblemsModel::CodeRole,   ProblemsModel::PathRole,
+                                  ProblemsModel::ObjectRole, ProblemsModel::ApprovedRole};
     const QList<int> sheetRoles{Qt::DisplayRole,
                                 PropertySheet::IdRole,
                                 PropertySheet::GroupRole,
@@ -108,7 +123,10 @@ protected:
     std::unique_ptr<ProjectDocument> document;
     std::unique_ptr<ObjectTreeModel> tree;
     std::unique_ptr<PropertySheet> sheet;
+    std::unique_ptr<ProblemList> problems;
+    std::unique_ptr<ProblemsModel> problemsModel;
     std::unique_ptr<ViewMirror> treeMirror;
+    std::unique_ptr<ViewMirror> problemsMirror;
     std::unique_ptr<ViewMirror> sheetMirror;
     std::vector<std::unique_ptr<QAbstractItemModelTester>> testers;
 };

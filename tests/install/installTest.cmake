@@ -71,6 +71,12 @@ run("running the program outside" "${CMAKE_COMMAND}" -E chdir "${work}" "${work}
 if(NOT output STREQUAL "Main: FlowMeter meter (30 l/min), Text label, Text lamp\n")
   message(FATAL_ERROR "the program printed something else: ${output}")
 endif()
+run("running the program that inspects" "${CMAKE_COMMAND}" -E chdir "${work}"
+  "${work}/outside/inspect" Plant/Plant.kdproj Main.meter INPUT_FILE "${CMAKE_CURRENT_LIST_DIR}/outside/edits.txt")
+file(READ "${CMAKE_CURRENT_LIST_DIR}/outside/inspect.txt" expected)
+if(NOT output STREQUAL expected)
+  message(FATAL_ERROR "the program that inspects printed something else: ${output}")
+endif()
 
 # The installed tool follows the references of the plug-in's element, writes it and shows it, as its tables say.
 set(plant "${work}/Plant/Plant.kdproj")

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/inspector/ObjectTreeModel.h"
 
+#include "corvex/checks/ProblemList.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/ModelObservers.h"
 #include "corvex/document/ProjectDocument.h"
@@ -10,6 +11,8 @@
 #include "corvex/project/Project.h"
 
 #include <QMimeData>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -134,6 +137,41 @@ ObjectTreeModel::ObjectTreeModel(ProjectDocument &document, QObject *parent)
 
 ObjectTreeModel::~ObjectTreeModel() = default;
 
+void ObjectTreeModel::setProblems(const ProblemList *problems)
+{
+    const QPointer<const ProblemList> before = std::exchange(m_problems, problems);
+    if (before) {
+        before->disconnect(this);
+        for (const Problem &problem : before->problems()) {
+            reportData(problem.source, {SeverityRole});
+        }
+    }
+    if (problems) {
+        connect(problems, &ProblemList::problemsChanged, this,
+                [this](const DesignerObject *object) { reportData(object, {SeverityRole}); });
+        connect(problems, &ProblemList::changed, this, &ObjectTreeModel::reportSeverities);
+        reportSeverities(0, problems->count() - 1);
+    }
+}
+
+QVariant ObjectTreeModel::severityOf(const DesignerObject *object) const
+{
+    std::optional<Severity> worst;
+    for (const Problem &problem : object &&m_problems ? m_problems->problemsOf(object) : QList<Problem>()) {
+        if (!problem.isApproved) {
+            worst = std::min(worst.value_or(problem.severity()), problem.severity());
+        }
+    }
+    return worst ? QVariant(int(*worst)) : QVariant();
+}
+
+void ObjectTreeModel::reportSeverities(qsizetype firstProblem, qsizetype lastProblem)
+{
+    for (qsizetype row = firstProblem; row <= lastProblem; ++row) {
+        reportData(m_problems->at(row).source, {SeverityRole});
+    }
+}
+
 DesignerObject *ObjectTreeModel::object(const QModelIndex &index) const
 {
     return index.isValid() ? nodeAt(index)->object : nullptr;
@@ -180,14 +218,17 @@ QVariant ObjectTreeModel::data(const QModelIndex &index, int role) const
         return {};
     }
     const ObjectTree::Node &node = *nodeAt(index);
+    if (role == SeverityRole) {
+        return severityOf(node.object);
+    }
     return node.object ? dataOf(*node.object, role) : dataOf(*node.list, role);
 }
 
 QHash<int, QByteArray> ObjectTreeModel::roleNames() const
 {
-    return {{Qt::DisplayRole, "name"}, {ObjectRole, "object"},     {ClassRole, "className"},
-            {TitleRole, "title"},      {IconNameRole, "iconName"}, {PathRole, "path"},
-            {ValidRole, "isValid"},    {ErrorsRole, "errors"}};
+    return {{Qt::DisplayRole, "name"},  {ObjectRole, "object"},     {ClassRole, "className"},
+            {TitleRole, "title"},       {IconNameRole, "iconName"}, {PathRole, "path"},
+            {SeverityRole, "severity"}, {ValidRole, "isValid"},     {ErrorsRole, "errors"}};
 }
 
 Qt::ItemFlags ObjectTreeModel::flags(const QModelIndex &index) const

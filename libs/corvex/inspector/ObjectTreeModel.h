@@ -5,12 +5,14 @@
 #include "corvex/core/ModelObserver.h"
 
 #include <QAbstractItemModel>
+#include <QPointer>
 
 #include <memory>
 
 namespace Halvane::Corvex::Designer {
 
 class ObjectTree;
+class ProblemList;
 class ProjectDocument;
 struct PlannedCommand;
 
@@ -39,12 +41,18 @@ public:
         PathRole,
         ValidRole,  //!< whether it is valid, including everything in it
         ErrorsRole, //!< the reasons if it is invalid: texts for the user, "title of the property: reason"
+        //! The number of the worst Severity among the problems of the object itself; approved problems do not
+        //! count. Invalid if there are none. See setProblems().
+        SeverityRole,
     };
     Q_ENUM(Role)
 
     //! The document must outlive the model. The model continues with a reloaded project.
     explicit ObjectTreeModel(ProjectDocument &document, QObject *parent = nullptr);
     ~ObjectTreeModel() override;
+
+    //! Sets the list that SeverityRole reads; null for none. Not owned.
+    void setProblems(const ProblemList *problems);
 
     //! Null for a list.
     DesignerObject *object(const QModelIndex &index) const;
@@ -102,11 +110,14 @@ private:
     bool readDrop(const QMimeData *data, Qt::DropAction action, int row, const QModelIndex &parent,
                   Drop &drop) const;
     void clear();
+    QVariant severityOf(const DesignerObject *object) const;
+    void reportSeverities(qsizetype firstProblem, qsizetype lastProblem);
     void reportData(const DesignerObject *object, const QList<int> &roles);
     bool push(PlannedCommand planned);
 
     ProjectDocument &m_document;
     std::unique_ptr<ObjectTree> m_tree;
+    QPointer<const ProblemList> m_problems;
     QString m_error;
 };
 
