@@ -150,6 +150,38 @@ TEST(JobTest, AJobThatIsDeletedCancelsAndWaits)
     }
 }
 
+TEST(JobTest, PartsFollowEachOtherUntilOneFails)
+{
+    for (const int failing : {-1, 1, 2}) {
+        int pieces = 0;
+        QStringList order;
+        const auto note = [&order, failing, here = QThread::currentThread()](int part, QString &error) {
+            order.append(
+                u"%1 %2"_s.arg(part).arg(QThread::currentThread() == here ? u"here"_s : u"elsewhere"_s));
+            error = part == failing ? u"Part %1"_s.arg(part) : QString();
+            return part != failing;
+        };
+        ResultJob<int> job;
+        job.addInThread([&](Progress &, QString &error) { return note(0, error); });
+        job.addInSlices([&, held = Piece(&pieces)](Progress &, QString &error) {
+            return order.size() < 2 ? (note(1, error) ? Job::Next::More : Job::Next::Failed)
+                                    : Job::Next::Done;
+        });
+        job.addInThread([&, held = Piece(&pieces), place = job.resultPlace()](Progress &, QString &error) {
+            *place = 42;
+            return note(2, error);
+        });
+        job.start();
+        waitFor(job);
+        EXPECT_EQ(order, QStringList({u"0 elsewhere"_s, u"1 here"_s, u"2 elsewhere"_s})
+                             .first(failing < 0 ? 3 : failing + 1));
+        EXPECT_EQ(job.outcome(), failing < 0 ? Job::Outcome::Done : Job::Outcome::Failed);
+        EXPECT_EQ(job.errorString(), failing < 0 ? QString() : u"Part %1"_s.arg(failing));
+        EXPECT_EQ(job.takeResult().has_value(), failing < 0);
+        EXPECT_EQ(pieces, 0);
+    }
+}
+
 TEST(JobTest, EventsAreProcessedBetweenSlices)
 {
     int pieces = 0;

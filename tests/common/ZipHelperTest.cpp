@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/common/Progress.h"
 #include "corvex/common/zip/ZipHelper.h"
 
 #include <QDateTime>
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using Halvane::Corvex::Common::Progress;
 using Halvane::Corvex::Common::ZipHelper;
 
 namespace {
@@ -99,6 +101,22 @@ TEST_F(ZipHelperTest, FailuresLeaveTheOldArchive)
     EXPECT_FALSE(ZipHelper::zipWithFiles({path(u"a"_s)}, path(u"z.zip"_s), QString(70000, u'c'), 9));
     EXPECT_FALSE(ZipHelper::zipDirectory(path(u"missing"_s), path(u"z.zip"_s)));
     EXPECT_EQ(get(u"z.zip"_s), "old");
+}
+
+TEST_F(ZipHelperTest, CancelledPackingLeavesTheOldArchive)
+{
+    put(u"in/file"_s, QByteArray(3'000'000, 'x'));
+    put(u"z"_s, "old");
+    Progress progress;
+    progress.cancel();
+    QString error;
+    EXPECT_FALSE(ZipHelper::zipDirectory(path(u"in"_s), path(u"z"_s), &error, &progress));
+    EXPECT_FALSE(error.isEmpty());
+    EXPECT_FALSE(ZipHelper::zipWithFiles({path(u"in/file"_s)}, path(u"z"_s), {}, 9, nullptr, &progress));
+    EXPECT_FALSE(
+        ZipHelper::zipWithBytes(get(u"in/file"_s), u"name"_s, path(u"z"_s), {}, 9, nullptr, &progress));
+    EXPECT_EQ(get(u"z"_s), "old");
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"z"_s});
 }
 
 TEST_F(ZipHelperTest, EqualFoldersGiveEqualBytesAndUnpackUnchanged)

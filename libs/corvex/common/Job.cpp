@@ -29,33 +29,49 @@ void Job::wait()
 
 void Job::startInThread(Work work)
 {
-    Q_ASSERT(!m_isRunning && m_outcome == Outcome::None);
+    addInThread(std::move(work));
+    start();
+}
+
+void Job::startInSlices(Piece piece)
+{
+    addInSlices(std::move(piece));
+    start();
+}
+
+void Job::start()
+{
+    Q_ASSERT(!m_isRunning && m_outcome == Outcome::None && !m_parts.empty());
     m_isRunning = true;
-    m_thread.reset(QThread::create([this, work = std::move(work)] { m_isDone = work(m_progress, m_error); }));
-    connect(m_thread.get(), &QThread::finished, this, &Job::conclude);
     m_sinceReport.start();
+    startNext();
+}
+
+void Job::startNext()
+{
+    auto part = std::move(m_parts.front());
+    m_parts.pop_front();
+    if (auto *piece = std::get_if<Piece>(&part)) {
+        m_piece = std::move(*piece);
+        m_timer.start(0);
+        return;
+    }
+    auto work = std::get<Work>(std::move(part));
+    m_thread.reset(QThread::create([this, work = std::move(work)] { m_isDone = work(m_progress, m_error); }));
+    connect(m_thread.get(), &QThread::finished, this, &Job::endPart);
     m_timer.start(reportInterval);
     m_thread->start();
     if (!m_thread->isRunning() && !m_thread->isFinished()) {
         m_error = LocalizationHelper::coreString(
             QStringLiteral("The system cannot start another thread. Try again later."));
-        QMetaObject::invokeMethod(this, &Job::conclude, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &Job::endPart, Qt::QueuedConnection);
     }
-}
-
-void Job::startInSlices(Piece piece)
-{
-    Q_ASSERT(!m_isRunning && m_outcome == Outcome::None);
-    m_isRunning = true;
-    m_piece = std::move(piece);
-    m_sinceReport.start();
-    m_timer.start(0);
 }
 
 void Job::onTimeout()
 {
     if (m_piece && !runSlice()) {
-        conclude();
+        endPart();
     } else if (m_sinceReport.hasExpired(reportInterval - 1)) {
         report();
     }
@@ -83,12 +99,23 @@ void Job::report()
     }
 }
 
-void Job::conclude()
+void Job::endPart()
 {
     m_timer.stop();
     wait();
     m_thread.reset();
     m_piece = {};
+    if (m_isDone && !m_parts.empty() && !m_progress.isCancelled()) {
+        m_isDone = false;
+        startNext();
+    } else {
+        conclude();
+    }
+}
+
+void Job::conclude()
+{
+    m_parts.clear();
     m_isRunning = false;
     m_outcome = m_progress.isCancelled() ? Outcome::Cancelled : m_isDone ? Outcome::Done : Outcome::Failed;
     // A slot may delete this job.

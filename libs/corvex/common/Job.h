@@ -7,16 +7,19 @@
 #include <QObject>
 #include <QTimer>
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <variant>
 
 class QThread;
 
 namespace Halvane::Corvex::Common {
 
 /*! A long operation that does not block the user interface. It runs in a thread of its own or, if it changes
-    objects of the job's thread, in slices between the events of that thread.
+    objects of the job's thread, in slices between the events of that thread. It may have several
+    parts of both kinds. Each begins when the part before it has succeeded.
 
     All signals are emitted in the job's thread, which needs an event loop; receivers in other threads are
     notified in their own. Deleting a job cancels its work, waits for it and emits nothing. A slot connected
@@ -47,7 +50,11 @@ public:
     explicit Job(QObject *parent = nullptr);
     ~Job() override;
 
-    // Call exactly one of these, once.
+    // Add the parts in order, then call start(), once.
+    void addInThread(Work work) { m_parts.emplace_back(std::move(work)); }
+    void addInSlices(Piece piece) { m_parts.emplace_back(std::move(piece)); }
+    void start();
+    // For a job with one part, call one of these instead.
     void startInThread(Work work);
     void startInSlices(Piece piece);
 
@@ -67,12 +74,15 @@ signals:
     void finished();
 
 private:
+    void startNext();
     void onTimeout();
     bool runSlice();
     void report();
+    void endPart();
     void conclude();
 
     Progress m_progress;
+    std::deque<std::variant<Work, Piece>> m_parts; //!< that have not begun
     std::unique_ptr<QThread> m_thread;
     Piece m_piece;
     QTimer m_timer; //!< for reports or slices
@@ -81,7 +91,7 @@ private:
     QString m_error;
     Outcome m_outcome = Outcome::None;
     bool m_isRunning = false;
-    bool m_isDone = false; //!< the work succeeded
+    bool m_isDone = false; //!< the last part succeeded
 };
 
 //! A job that produces a result. If the work fails or is cancelled, there is no result; a result that it had
@@ -112,6 +122,9 @@ public:
                 return result->has_value();
             });
     }
+
+    //! For jobs of several parts, which put the result here before they succeed.
+    const std::shared_ptr<std::optional<Result>> &resultPlace() const { return m_result; }
 
     //! Takes the result of a job that succeeded; nothing for any other job, and nothing the second time.
     std::optional<Result> takeResult()

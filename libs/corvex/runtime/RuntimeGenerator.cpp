@@ -203,7 +203,7 @@ QString RuntimeGenerator::packProject(const DesignerObject &project) const
     advance();
     if (error.isEmpty() && !isCancelled()) {
         Common::ZipHelper::zipWithBytes(xml, packedName, filePath(packedName + u".zip"_s), {},
-                                        compressionLevel, &error);
+                                        compressionLevel, &error, m_progress);
     }
     advance();
     return error;

@@ -2,6 +2,7 @@
 #include "corvex/common/zip/ZipHelper.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/Progress.h"
 #include "corvex/common/files/SafeFile.h"
 #include "corvex/common/zip/private/DeflatedBytes.h"
 
@@ -145,7 +146,22 @@ struct SourceDeleter
 };
 using Source = std::unique_ptr<zip_source_t, SourceDeleter>;
 
-bool writeSource(zip_source_t *source, const QString &path, QString *error)
+bool isCancelled(const Progress *progress)
+{
+    return progress && progress->isCancelled();
+}
+
+bool failCancelled(QString *error, const QString &path)
+{
+    return fail(error, path, LocalizationHelper::coreString(u"Packing was cancelled."_s));
+}
+
+int cancelsClosing(zip_t *, void *progress)
+{
+    return isCancelled(static_cast<const Progress *>(progress)) ? 1 : 0;
+}
+
+bool writeSource(zip_source_t *source, const QString &path, QString *error, const Progress *progress)
 {
     SafeFile file(path);
     if (!file.openForWriting(error)) {
@@ -156,8 +172,12 @@ bool writeSource(zip_source_t *source, const QString &path, QString *error)
     }
     QByteArray block(1 << 18, Qt::Uninitialized);
     zip_int64_t read = 0;
-    while ((read = zip_source_read(source, block.data(), static_cast<zip_uint64_t>(block.size()))) > 0) {
+    while (!isCancelled(progress)
+           && (read = zip_source_read(source, block.data(), static_cast<zip_uint64_t>(block.size()))) > 0) {
         file.write(block.constData(), read);
+    }
+    if (isCancelled(progress)) {
+        return failCancelled(error, path);
     }
     if (read < 0) {
         return fail(error, path, textOf(zip_source_error(source)));
@@ -175,7 +195,7 @@ bool setComment(zip_t *archive, const QString &comment)
 }
 
 bool pack(const QList<Entry> &entries, const QString &zipPath, const QString &comment, int level,
-          QString *error)
+          QString *error, Progress *progress)
 {
     if (entries.isEmpty()) {
         return fail(error, zipPath, LocalizationHelper::coreString(u"There is nothing to pack."_s));
@@ -198,11 +218,16 @@ bool pack(const QList<Entry> &entries, const QString &zipPath, const QString &co
             return fail(error, entry.path, textOf(archive.get()));
         }
     }
+    // libzip reads and deflates the files when it closes the archive.
+    zip_register_cancel_callback_with_state(archive.get(), &cancelsClosing, nullptr, progress);
+    if (isCancelled(progress)) {
+        return failCancelled(error, zipPath);
+    }
     if (zip_close(archive.get()) != 0) {
         return fail(error, zipPath, textOf(archive.get()));
     }
     archive.release(); // NOLINT(bugprone-unused-return-value): zip_close freed it
-    return writeSource(buffer.get(), zipPath, error);
+    return writeSource(buffer.get(), zipPath, error, progress);
 }
 
 constexpr zip_int64_t mostEntries = 100'000;
@@ -352,7 +377,7 @@ bool extractAll(zip_t *archive, const QString &root, QString *error)
 } // namespace
 
 bool ZipHelper::zipWithFiles(const QStringList &files, const QString &zipPath, const QString &comment,
-                             int level, QString *error)
+                             int level, QString *error, Progress *progress)
 {
     QList<Entry> entries;
     for (const QString &file : files) {
@@ -362,21 +387,25 @@ bool ZipHelper::zipWithFiles(const QStringList &files, const QString &zipPath, c
         }
         entries.append({file, info.fileName()});
     }
-    return pack(entries, zipPath, comment, qBound(0, level, highestLevel), error);
+    return pack(entries, zipPath, comment, qBound(0, level, highestLevel), error, progress);
 }
 
 bool ZipHelper::zipWithBytes(const QByteArray &bytes, const QString &name, const QString &zipPath,
-                             const QString &comment, int level, QString *error)
+                             const QString &comment, int level, QString *error, Progress *progress)
 {
-    const DeflatedBytes deflated(bytes, qBound(1, level, highestLevel));
+    const DeflatedBytes deflated(bytes, qBound(1, level, highestLevel), progress);
+    if (isCancelled(progress)) {
+        return failCancelled(error, zipPath);
+    }
     if (deflated.deflated().isEmpty()) {
         return fail(error, zipPath, LocalizationHelper::coreString(u"There is not enough memory."_s));
     }
     DeflatedSource source(deflated);
-    return pack({{zipPath, name, &source}}, zipPath, comment, highestLevel, error);
+    return pack({{zipPath, name, &source}}, zipPath, comment, highestLevel, error, progress);
 }
 
-bool ZipHelper::zipDirectory(const QString &directory, const QString &zipPath, QString *error)
+bool ZipHelper::zipDirectory(const QString &directory, const QString &zipPath, QString *error,
+                             Progress *progress)
 {
     if (!QFileInfo(directory).isDir()) {
         return fail(error, directory, LocalizationHelper::coreString(u"The folder does not exist."_s));
@@ -393,7 +422,7 @@ bool ZipHelper::zipDirectory(const QString &directory, const QString &zipPath, Q
         }
     }
     std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) { return a.name < b.name; });
-    return pack(entries, zipPath, {}, defaultLevel, error);
+    return pack(entries, zipPath, {}, defaultLevel, error, progress);
 }
 
 bool ZipHelper::unzip(const QString &zipPath, const QString &directory, QString *error)

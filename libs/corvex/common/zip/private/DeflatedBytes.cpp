@@ -2,6 +2,7 @@
 #include "corvex/common/zip/private/DeflatedBytes.h"
 
 #include "corvex/common/Processors.h"
+#include "corvex/common/Progress.h"
 
 #include <algorithm>
 #include <atomic>
@@ -85,13 +86,13 @@ std::vector<Piece> piecesOf(QByteArrayView bytes)
 
 } // namespace
 
-DeflatedBytes::DeflatedBytes(const QByteArray &bytes, int level)
+DeflatedBytes::DeflatedBytes(const QByteArray &bytes, int level, const Progress *progress)
     : m_size(static_cast<quint64>(bytes.size()))
 {
     std::vector<Piece> pieces = piecesOf(bytes);
     std::atomic<size_t> next = 0;
-    const auto deflateSome = [&pieces, &next, level] {
-        for (size_t i = next++; i < pieces.size(); i = next++) {
+    const auto deflateSome = [&pieces, &next, level, progress] {
+        for (size_t i = next++; i < pieces.size() && !(progress && progress->isCancelled()); i = next++) {
             deflatePiece(pieces[i], level);
         }
     };
