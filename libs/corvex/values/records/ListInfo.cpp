@@ -12,7 +12,7 @@ ListInfo::ListInfo(const QString &text, bool *ok)
     const QStringView items = QStringView(text).trimmed();
     const bool hasItems = !items.isEmpty();
     qsizetype start = 0;
-    for (qsizetype i = 0; i < items.size(); ++i) {
+    for (qsizetype i = items.indexOf(u'|'); i >= 0; i = items.indexOf(u'|', i + 1)) {
         if (NestedText::isItemSeparator(items, i)) {
             append(NestedText::fromField(items.sliced(start, i - start).trimmed()));
             start = i + 1;

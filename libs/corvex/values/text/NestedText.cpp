@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/values/text/NestedText.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -89,9 +90,22 @@ bool isOuterBlank(QStringView text, qsizetype index)
     return (index == 0 || index == text.size() - 1) && text[index].isSpace();
 }
 
+//! Whether there is nothing to escape, as in nearly all names.
+bool isPlainName(QStringView text)
+{
+    return std::ranges::all_of(text, [](QChar character) {
+        const char16_t c = character.unicode();
+        const char16_t lower = c | 0x20;
+        return (lower >= u'a' && lower <= u'z') || (c >= u'0' && c <= u'9') || c == u'_' || c == u'.';
+    });
+}
+
 template<class IsSpecial>
 QString escaped(const QString &text, IsSpecial &&isSpecial)
 {
+    if (isPlainName(text)) {
+        return text;
+    }
     QString result;
     qsizetype copied = 0;
     for (qsizetype i = 0; i < text.size(); ++i) {
@@ -120,6 +134,9 @@ QString NestedText::toItem(const QString &text)
 
 QString NestedText::fromField(QStringView field)
 {
+    if (!field.contains(u'%')) {
+        return field.toString();
+    }
     QString text;
     text.reserve(field.size());
     for (qsizetype i = 0; i < field.size(); ++i) {
