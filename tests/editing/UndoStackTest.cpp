@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QTest>
 #include <QUndoGroup>
 
 #include <functional>
@@ -108,6 +109,45 @@ TEST(UndoStackTest, AGestureCommitsCommandsThatAreDone)
     EXPECT_TRUE(stack.commitGesture());
     EXPECT_EQ(stack.count(), 1);
     EXPECT_EQ(step->done, 1);
+}
+
+TEST(UndoStackTest, ARunEndsByItself)
+{
+    UndoStack stack;
+    const QSignalSpy canUndo(&stack, &UndoStack::canUndoChanged);
+    const auto run = [&stack](const char *text, UndoCommand *command = new Step) {
+        return stack.pushInRun(QString::fromLatin1(text), command, 20);
+    };
+    const auto texts = [&stack] {
+        QStringList all;
+        for (int i = 0; i < stack.count(); ++i) {
+            all.append(stack.text(i));
+        }
+        return all.join(u' ');
+    };
+    auto *first = new Step;
+    EXPECT_TRUE(run("Nudge", first) && run("Nudge") && run("Nudge"));
+    EXPECT_EQ(stack.count(), 0);
+    EXPECT_TRUE(canUndo.constLast().constFirst().toBool()) << "an action may undo it at once";
+    EXPECT_TRUE(QTest::qWaitFor([&stack] { return stack.count() == 1; }));
+    EXPECT_FALSE(stack.isInRun());
+
+    // And before anything else.
+    EXPECT_TRUE(run("Nudge") && run("Wheel") && stack.push(new Step) && run("Nudge"));
+    EXPECT_EQ(texts(), u"Nudge Nudge Wheel "_s);
+    stack.undo();
+    EXPECT_EQ(texts(), u"Nudge Nudge Wheel  Nudge"_s);
+    EXPECT_EQ(stack.index(), 4);
+    EXPECT_TRUE(run("Wheel"));
+    stack.setIndex(0);
+    EXPECT_EQ(first->done, 0);
+    EXPECT_EQ(texts(), u"Nudge Nudge Wheel  Wheel"_s);
+    auto *fallible = new Fallible;
+    EXPECT_FALSE(run("Nudge", fallible));
+    EXPECT_EQ(stack.errorString(), u"The disk is full."_s);
+    EXPECT_TRUE(stack.beginGesture(u"Drag"_s) && run("Nudge") && stack.hasGesture());
+    EXPECT_TRUE(stack.commitGesture());
+    EXPECT_EQ(texts(), u"Drag"_s);
 }
 
 TEST(UndoStackTest, AFailedMacroIsUndoneAsAWhole)

@@ -7,6 +7,7 @@
 #include "corvex/editing/undo/private/Gesture.h"
 
 #include <QScopedValueRollback>
+#include <QTimerEvent>
 
 namespace Halvane::Corvex::Designer {
 
@@ -54,6 +55,7 @@ UndoStack::~UndoStack()
     // QUndoStack reports index 0 in its destructor.
     disconnect(this, &QUndoStack::indexChanged, this, &UndoStack::onIndexChanged);
     deleteCandidates();
+    m_runTimer.stop();
     m_gesture.reset();
     // The commands use this stack, so delete them before it is reduced to a QUndoStack.
     clear();
@@ -66,7 +68,55 @@ bool UndoStack::push(UndoCommand *command)
         delete command;
         return false;
     }
+    endRun();
     return m_gesture ? collect(std::unique_ptr<UndoCommand>(command)) : append(command);
+}
+
+bool UndoStack::pushInRun(const QString &text, UndoCommand *command, int pause)
+{
+    if (hasGesture()) {
+        return push(command);
+    }
+    std::unique_ptr<UndoCommand> step(command);
+    m_errorString.clear();
+    if (m_gate && !m_gate(m_errorString)) {
+        return false;
+    }
+    if (isInRun() && m_gesture->text() != text) {
+        endRun();
+    }
+    if (!m_gesture) {
+        m_gesture = std::make_unique<Gesture>(text);
+    }
+    m_runTimer.start(pause, this);
+    const bool isDone = collect(std::move(step));
+    if (isDone && !canUndo()) {
+        // Actions may undo the run although it is not in the history yet.
+        emit canUndoChanged(true);
+    }
+    return isDone;
+}
+
+void UndoStack::endRun()
+{
+    if (isInRun()) {
+        m_runTimer.stop();
+        commitGesture();
+    }
+}
+
+void UndoStack::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() == m_runTimer.timerId()) {
+        endRun();
+    } else {
+        QUndoStack::timerEvent(event);
+    }
+}
+
+QString UndoStack::gestureText() const
+{
+    return m_gesture ? m_gesture->text() : QString();
 }
 
 bool UndoStack::append(UndoCommand *command)
@@ -113,6 +163,7 @@ bool UndoStack::collect(std::unique_ptr<UndoCommand> command)
 //! Whether the history may move or a gesture may begin.
 bool UndoStack::isOpen()
 {
+    endRun();
     m_errorString.clear();
     if (m_gesture) {
         m_errorString = Common::LocalizationHelper::coreString(
@@ -138,6 +189,7 @@ bool UndoStack::hasChangedInGesture() const
 
 bool UndoStack::commitGesture()
 {
+    m_runTimer.stop();
     const std::unique_ptr<Gesture> gesture = std::move(m_gesture);
     if (std::unique_ptr<UndoCommand> command = gesture ? gesture->takeCommand() : nullptr) {
         append(command.release()); // It is done already, so do not ask the gate.
@@ -147,6 +199,7 @@ bool UndoStack::commitGesture()
 
 bool UndoStack::rollBackGesture()
 {
+    m_runTimer.stop();
     const std::unique_ptr<Gesture> gesture = std::move(m_gesture);
     if (gesture) {
         gesture->rollBack();
@@ -181,6 +234,7 @@ void UndoStack::undo()
 
 void UndoStack::redo()
 {
+    endRun();
     if (canRedo()) {
         setIndex(index() + 1);
     }
@@ -252,6 +306,7 @@ void UndoStack::startOver()
     deleteCandidates();
     const bool wasSaved = isSaved();
     m_failedMacro = nullptr;
+    m_runTimer.stop();
     m_gesture.reset();
     m_isStartSaved = true;
     clear();

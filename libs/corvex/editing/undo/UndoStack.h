@@ -3,6 +3,7 @@
 
 #include "corvex/common/Export.h"
 
+#include <QBasicTimer>
 #include <QList>
 #include <QPointer>
 #include <QUndoStack>
@@ -62,13 +63,28 @@ public:
     //! that name. Until then the history is unchanged and cannot move. Returns false, with an error, during
     //! another gesture.
     bool beginGesture(const QString &text);
-    bool hasGesture() const { return m_gesture != nullptr; }
-    //! Whether the current gesture has changed anything.
+    //! Whether a gesture waits for its end. A run does not: see pushInRun().
+    bool hasGesture() const { return m_gesture && !isInRun(); }
+    //! Whether the current gesture or run has changed anything.
     bool hasChangedInGesture() const;
     //! Returns false if there is no gesture. A gesture without changes adds no step.
     bool commitGesture();
     //! Restores model and history to the start of the gesture. Returns false if there is no gesture.
     bool rollBackGesture();
+
+    //! A run ends when nothing is added to it for so long.
+    static constexpr int runPause = 700; // milliseconds
+    /*! Does a command that is part of a run, such as the steps of an arrow key or of the wheel. All commands
+       of one text make one step of the history. A run ends by itself after a pause, and before any other
+       command, an undo or a redo. Nobody has to wait for it. Within a gesture the command belongs to the
+       gesture. */
+    bool pushInRun(const QString &text, UndoCommand *command, int pause = runPause);
+    //! Ends the run now, if there is one.
+    void endRun();
+    bool isInRun() const { return m_runTimer.isActive(); }
+    //! The text of the gesture or the run that goes on; empty without one.
+    QString gestureText() const;
+
     //! Deletes the objects that commands have named for deletion, except those that are back in the model.
     void deleteCandidates();
     //! While blocked, moves are tracked without signals.
@@ -103,6 +119,9 @@ signals:
     //! A command is about to be pushed, which discards the redo steps.
     void aboutToPush();
 
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
 private:
     friend class UndoCommand;
 
@@ -123,7 +142,8 @@ private:
     int m_previousIndex = 0;
     int m_currentIndex = 0;
     bool m_hasFailed = false;
-    std::unique_ptr<Gesture> m_gesture;
+    std::unique_ptr<Gesture> m_gesture; //!< or the run that goes on
+    QBasicTimer m_runTimer;             //!< active during a run
     Gate m_gate;
     bool m_isStartSaved = true;
     bool m_isMoving = false;
