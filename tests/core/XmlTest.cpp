@@ -318,6 +318,15 @@ TEST_F(Xml, AListWrittenInPartsGivesTheSameText)
     EXPECT_TRUE(ObjectXmlWriter(&all).write(owner.get()));
     EXPECT_TRUE(all.bytes.contains("<List>\n" + expected + "   </List>"));
     EXPECT_FALSE(all.isElsewhere);
+    Device inPieces(1'000'000'000);
+    ObjectXmlWriter pieces(&inPieces);
+    pieces.begin(owner.get());
+    qsizetype longest = 0;
+    for (qsizetype before = 0; pieces.writePiece(); before = inPieces.bytes.size()) {
+        longest = std::max(longest, inPieces.bytes.size() - before);
+    }
+    EXPECT_EQ(inPieces.bytes, all.bytes);
+    EXPECT_LT(longest, all.bytes.size() / 10);
     Device full(all.bytes.size() / 2);
     EXPECT_FALSE(ObjectXmlWriter(&full).write(owner.get()));
     EXPECT_EQ(full.bytes, all.bytes.first(full.room));

@@ -2,6 +2,7 @@
 #include "corvex/core/xml/ObjectXmlWriter.h"
 
 #include "corvex/common/Processors.h"
+#include "corvex/common/Progress.h"
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/private/DesignerObjectData.h"
@@ -113,13 +114,18 @@ bool ObjectXmlWriter::noteMissing(bool isComplete, const QString &missing)
 bool ObjectXmlWriter::writeDocument(const DesignerObject *object,
                                     void (ObjectXmlWriter::*form)(const DesignerObject *, int))
 {
+    writeDeclaration();
+    (this->*form)(object, 0);
+    flush();
+    return m_error.isEmpty();
+}
+
+void ObjectXmlWriter::writeDeclaration()
+{
     if (m_header) {
         m_buffer.append("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
         endLine();
     }
-    (this->*form)(object, 0);
-    flush();
-    return m_error.isEmpty();
 }
 
 void ObjectXmlWriter::startLine(int level)
@@ -173,6 +179,10 @@ void ObjectXmlWriter::deliver(QByteArrayView bytes)
 
 void ObjectXmlWriter::writeObject(const DesignerObject *object, int level)
 {
+    if (m_progress && m_progress->isCancelled()) {
+        refuse(object->objectPath(), u"Writing was cancelled."_s);
+        return;
+    }
     if (object->hasOwnXmlDocument()) {
         writeElement(object->convertToXmlDocument(false, m_allProperties).documentElement(), level);
     } else {
@@ -185,20 +195,44 @@ void ObjectXmlWriter::writeObject(const DesignerObject *object, int level)
 
 void ObjectXmlWriter::writeOwnProperties(const DesignerObject *object, int level)
 {
-    if (level > XmlLimits::mostOwners * XmlLimits::levelsPerObject) {
-        refuse(object->objectPath(), tooDeep);
+    if (!openObject(object, level)) {
         return;
     }
-    const QString name = object->className();
-    openTag(name, level);
-    openTag(u"Properties"_s, level + 1);
     for (const DesignerProperty *property : object->d->properties) {
         if (isWritten(object, *property, m_allProperties)) {
             writeProperty(*property, level + 2);
         }
     }
+    closeObject(object, level);
+}
+
+bool ObjectXmlWriter::openObject(const DesignerObject *object, int level)
+{
+    if (level > XmlLimits::mostOwners * XmlLimits::levelsPerObject) {
+        refuse(object->objectPath(), tooDeep);
+        return false;
+    }
+    openTag(object->className(), level);
+    openTag(u"Properties"_s, level + 1);
+    return true;
+}
+
+void ObjectXmlWriter::closeObject(const DesignerObject *object, int level)
+{
     closeTag(u"Properties"_s, level + 1);
-    closeTag(name, level);
+    closeTag(object->className(), level);
+}
+
+//! Up to the value of the property, or its list or object.
+void ObjectXmlWriter::openProperty(const DesignerProperty &property, int level)
+{
+    startLine(level);
+    m_buffer.append("<Property name=\"");
+    m_buffer.appendEscaped(property.id());
+    if (property.isList() || property.isObject()) {
+        m_buffer.append("\">");
+        endLine();
+    }
 }
 
 void ObjectXmlWriter::writeElement(const QDomElement &element, int level)
@@ -270,9 +304,7 @@ void ObjectXmlWriter::writeStartTag(const QDomElement &element)
 
 void ObjectXmlWriter::writeProperty(const DesignerProperty &property, int level)
 {
-    startLine(level);
-    m_buffer.append("<Property name=\"");
-    m_buffer.appendEscaped(property.id());
+    openProperty(property, level);
     if (!property.isList() && !property.isObject()) {
         m_buffer.append("\" value=\"");
         const bool replaced = level == rootPropertyLevel && m_rootValues.contains(property.id());
@@ -286,8 +318,6 @@ void ObjectXmlWriter::writeProperty(const DesignerProperty &property, int level)
         endLine();
         return;
     }
-    m_buffer.append("\">");
-    endLine();
     const QString container = property.isList() ? u"List"_s : u"Object"_s;
     const bool isEmpty =
         property.isList() && property.listItemCount() == 0 && !property.itemList()->hasKeptItems();
@@ -340,6 +370,7 @@ void ObjectXmlWriter::writeInParts(const QList<DesignerObject *> &items, int lev
     ObjectXmlWriter part(nullptr);
     part.m_lineEnd = m_lineEnd;
     part.m_allProperties = m_allProperties;
+    part.m_progress = m_progress;
     std::vector<ObjectXmlWriter> parts(partsOfList, part);
     std::vector<std::atomic<bool>> isDone(parts.size());
     std::atomic<size_t> next = 0;

@@ -8,8 +8,14 @@
 #include <QList>
 #include <QString>
 
+#include <vector>
+
 class QDomElement;
 class QIODevice;
+
+namespace Halvane::Corvex::Common {
+class Progress;
+} // namespace Halvane::Corvex::Common
 
 namespace Halvane::Corvex::Designer {
 
@@ -45,6 +51,14 @@ public:
     bool writeProperties(const DesignerObject *object);
     QString errorString() const { return m_error; }
 
+    //! Ends the writing with an error soon after the progress is cancelled; null for nobody. Not owned.
+    void setProgress(const Common::Progress *progress) { m_progress = progress; }
+    /*! The same as write(), in pieces of less than a millisecond: call writePiece() until it is false.
+       Nothing that is written may change meanwhile. What is incomplete shows when it is reached. */
+    void begin(const DesignerObject *object);
+    //! False when all is written, or with an errorString().
+    bool writePiece();
+
     //! Whether every object property has its object, and every class with a form of its own returns one. \a
     //! missing names the place without one.
     static bool isComplete(const DesignerObject *object, bool allProperties, QString *missing = nullptr);
@@ -57,6 +71,16 @@ private:
                        void (ObjectXmlWriter::*form)(const DesignerObject *, int));
     void writeObject(const DesignerObject *object, int level);
     void writeOwnProperties(const DesignerObject *object, int level);
+    void writeDeclaration();
+    //! False when the object is nested too deeply to be read again.
+    bool openObject(const DesignerObject *object, int level);
+    void closeObject(const DesignerObject *object, int level);
+    void openProperty(const DesignerProperty &property, int level);
+    void openPiece(const DesignerObject *object, int level);
+    void writeStep();
+    void writeNextProperty();
+    //! False, with an error, when the property has no complete object.
+    bool requireObject(const DesignerProperty &property);
     void writeElement(const QDomElement &element, int level);
     void writeContent(const QDomElement &element);
     void writeStartTag(const QDomElement &element);
@@ -73,11 +97,22 @@ private:
     void deliver(QByteArrayView bytes);
     bool isPart() const { return !m_device; }
 
+    //! An object of which writePiece() has written a part.
+    struct Frame
+    {
+        const DesignerObject *object;
+        int level;
+        qsizetype property = 0; //!< the next one, or that of the list
+        qsizetype item = -1;    //!< the next one of the list; -1 outside of a list
+    };
+
     QIODevice *m_device; //!< null for a part of a list, which remains in the buffer
     QByteArrayView m_lineEnd;
     XmlBuffer m_buffer;
     QHash<QString, QString> m_rootValues;
     QString m_error;
+    const Common::Progress *m_progress = nullptr;
+    std::vector<Frame> m_frames;
     bool m_header = true;
     bool m_allProperties = false;
 };
