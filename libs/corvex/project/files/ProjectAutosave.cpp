@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/project/files/ProjectAutosave.h"
 
+#include "corvex/common/Job.h"
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/common/files/FileHelper.h"
-#include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/Project.h"
-#include "corvex/project/files/ZipWorker.h"
+#include "corvex/project/private/AutosaveRun.h"
 
 #include <QFile>
 #include <QSettings>
-#include <QThread>
 #include <QTimerEvent>
 
 using namespace Qt::StringLiterals;
@@ -32,8 +30,8 @@ ProjectAutosave::ProjectAutosave(Project *project)
 
 ProjectAutosave::~ProjectAutosave()
 {
-    if (m_thread) {
-        takeArchive();
+    if (m_job) {
+        complete();
     }
 }
 
@@ -84,15 +82,11 @@ bool ProjectAutosave::run()
     m_archive = archive;
     m_beingSaved = historyState();
     emit runningChanged(true);
-    QString error = moveAside();
-    if (error.isEmpty()) {
-        error = stage();
-    }
-    if (!error.isEmpty()) {
+    if (const QString error = moveAside(); !error.isEmpty()) {
         conclude(error);
         return false;
     }
-    pack();
+    startJob();
     return true;
 }
 
@@ -121,41 +115,62 @@ QString ProjectAutosave::moveAside()
     return {};
 }
 
-QString ProjectAutosave::stage()
+void ProjectAutosave::startJob()
 {
-    m_staging = std::make_unique<Common::TemporaryFolder>(Common::FileHelper::getStandardTemporatyLocation(),
-                                                          u"CorvexNova-autosave"_s);
-    if (!m_staging->isValid()) {
-        return Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be created: %2"_s)
-            .arg(m_staging->path(), m_staging->errorString());
+    m_work = std::make_shared<AutosaveRun>(*m_project, m_archive);
+    m_work->onRestart([this] { m_beingSaved = historyState(); });
+    m_job = std::make_unique<Common::Job>();
+    m_job->addInSlices(
+        [work = m_work, name = m_project->getIdName()](Common::Progress &progress, QString &error) {
+            if (progress.state().text.isEmpty()) {
+                progress.begin(Common::LocalizationHelper::coreString(u"Autosaving %1"_s).arg(name));
+            }
+            return work->write(progress, error);
+        });
+    m_job->addInThread(
+        [work = m_work](Common::Progress &progress, QString &error) { return work->pack(progress, error); });
+    connect(m_job.get(), &Common::Job::finished, this, [this] {
+        const QString error = m_job->errorString();
+        m_job.reset();
+        conclude(error);
+    });
+    m_job->start();
+}
+
+void ProjectAutosave::cancel()
+{
+    if (m_job) {
+        m_job.reset();
+        conclude(m_work->isPacked()
+                     ? QString()
+                     : Common::LocalizationHelper::coreString(u"The autosave was cancelled."_s));
     }
-    QString error;
-    m_project->writeContents(m_staging->path(), m_project->fileName(), &error);
-    return error;
 }
 
-void ProjectAutosave::pack()
+//! Completes the run without events.
+void ProjectAutosave::complete()
 {
-    m_thread = std::make_unique<QThread>();
-    m_worker = std::make_unique<ZipWorker>(m_staging->path(), m_archive);
-    m_worker->moveToThread(m_thread.get());
-    connect(m_thread.get(), &QThread::started, m_worker.get(), &ZipWorker::run);
-    connect(m_thread.get(), &QThread::finished, this, &ProjectAutosave::takeArchive);
-    m_thread->start(QThread::LowPriority);
-}
-
-void ProjectAutosave::takeArchive()
-{
-    m_thread->wait();
-    const QString error = m_worker->errorString();
-    m_worker.reset();
-    m_thread.reset();
+    m_job->wait();
+    const std::shared_ptr<AutosaveRun> work = m_work;
+    const bool isPacked = work->isPacked();
+    QString error = m_job->errorString();
+    m_job.reset();
+    if (!isPacked && error.isEmpty()) {
+        Common::Progress progress;
+        Common::Job::Next next = Common::Job::Next::More;
+        while (next == Common::Job::Next::More) {
+            next = work->write(progress, error);
+        }
+        if (next == Common::Job::Next::Done) {
+            work->pack(progress, error);
+        }
+    }
     conclude(error);
 }
 
 void ProjectAutosave::conclude(const QString &error)
 {
-    m_staging.reset();
+    m_work.reset();
     const QString aside = asideName(m_archive);
     if (error.isEmpty()) {
         m_saved = m_beingSaved;

@@ -7,23 +7,22 @@
 
 #include <memory>
 
-class QThread;
-
 namespace Halvane::Corvex::Common {
-class TemporaryFolder;
+class Job;
 } // namespace Halvane::Corvex::Common
 
 namespace Halvane::Corvex::Designer {
 
+class AutosaveRun;
 class Project;
-class ZipWorker;
 
 /*! Saves a project next to its folder while it is being edited, as the archive D/P.kdproj.kdasv with
     "P.kdproj", "Images/..." and "Preview.png".
 
-    The contents are collected in a temporary folder and packed in a separate thread. Meanwhile the previous
-    autosave file has the name D/P.kdproj.kdasv.tmp. It is deleted when the new file is complete and restored
-    on failure.
+    A run is a job: it writes the project into a temporary folder, in slices between events, and packs that
+    folder in another thread. The user can continue to edit; the archive contains one state of the project.
+    Meanwhile the previous autosave file has the name D/P.kdproj.kdasv.tmp. It is deleted when the new file is
+    complete and restored on failure.
 */
 class CORVEX_EXPORT ProjectAutosave : public QObject
 {
@@ -34,7 +33,7 @@ public:
     static constexpr int longestInterval = 120;
 
     explicit ProjectAutosave(Project *project);
-    //! Waits for the archive that is being packed.
+    //! Completes a run that goes on.
     ~ProjectAutosave() override;
 
     //! Restarts the timer with the minutes in the user's setting "autoIntervalTime". Without a valid setting
@@ -53,6 +52,10 @@ public:
     //! run has started. finished() reports the result, even if it could not be started.
     bool run();
     bool isRunning() const { return m_isRunning; }
+    //! The current run, for its progress; null if there is none.
+    const Common::Job *job() const { return m_job.get(); }
+    //! Ends the current run, and restores the previous file before it returns.
+    void cancel();
     //! While paused nothing is saved, because the previous file is still needed.
     void setPaused(bool isPaused) { m_isPaused = isPaused; }
     //! Whether the undo history is unchanged since the project was last autosaved, loaded or saved.
@@ -79,9 +82,8 @@ private:
     };
     HistoryState historyState() const;
     QString moveAside();
-    QString stage();
-    void pack();
-    void takeArchive();
+    void startJob();
+    void complete();
     void conclude(const QString &error);
 
     Project *m_project;
@@ -93,9 +95,8 @@ private:
     bool m_isRunning = false;
     bool m_isPaused = false;
     QString m_archive;
-    std::unique_ptr<Common::TemporaryFolder> m_staging;
-    std::unique_ptr<ZipWorker> m_worker;
-    std::unique_ptr<QThread> m_thread;
+    std::shared_ptr<AutosaveRun> m_work; //!< of the job, null without one
+    std::unique_ptr<Common::Job> m_job;
 };
 
 } // namespace Halvane::Corvex::Designer

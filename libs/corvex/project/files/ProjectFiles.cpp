@@ -11,6 +11,7 @@
 #include "corvex/project/Project.h"
 #include "corvex/project/files/FileNameRules.h"
 #include "corvex/project/files/ProjectAutosave.h"
+#include "corvex/project/private/ProjectResources.h"
 #include "corvex/values/records/ObjectLinkInfo.h"
 
 #include <QDir>
@@ -18,17 +19,11 @@
 #include <QFileInfo>
 #include <QXmlStreamReader>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
 namespace {
-
-const QString imagesFolder = u"Images"_s;
-const QString previewFile = u"Preview.png"_s;
-const QString approvalsFile = u"Approvals.jsonl"_s;
 
 QString projectFileName(const QString &name)
 {
@@ -198,7 +193,9 @@ bool Project::deleteFile()
     for (const ImageResource *image : images()) {
         files.append(image->filePath());
     }
-    files << folder.filePath(previewFile) << folder.filePath(approvalsFile);
+    for (const QString &name : ProjectResources::otherFiles()) {
+        files.append(folder.filePath(name));
+    }
     if (!FileObject::deleteFile()) {
         return false;
     }
@@ -209,7 +206,7 @@ bool Project::deleteFile()
         }
     }
     // Folders with other files of the user are not empty and remain.
-    folder.rmdir(imagesFolder);
+    folder.rmdir(ProjectResources::imagesFolder());
     if (!ownFolder.isEmpty()) {
         parent.rmdir(ownFolder);
     }
@@ -270,25 +267,7 @@ bool Project::writeContents(const QString &path, const QString &fileName, QStrin
 
 bool Project::copyResources(const QString &path, QString *error) const
 {
-    const QDir target(path);
-    for (const ImageResource *image : images()) {
-        const QString copy = target.filePath(u"%1/%2"_s.arg(imagesFolder, image->fileName()));
-        // Two resources with the same name share one file.
-        if (!QFileInfo(image->filePath()).isFile() || QFileInfo::exists(copy)) {
-            continue;
-        }
-        target.mkdir(imagesFolder);
-        if (!Common::FileHelper::copyFile(image->filePath(), copy, error)) {
-            return false;
-        }
-    }
-    const QDir source(folderPath());
-    const QStringList others =
-        folderPath().isEmpty() ? QStringList() : QStringList{previewFile, approvalsFile};
-    return std::ranges::all_of(others, [&](const QString &name) {
-        return !QFileInfo(source.filePath(name)).isFile()
-               || Common::FileHelper::copyFile(source.filePath(name), target.filePath(name), error);
-    });
+    return ProjectResources(*this).copyTo(path, error);
 }
 
 QList<ImageResource *> Project::images() const
@@ -309,12 +288,14 @@ void Project::afterFileFieldsChanged()
 
 QString Project::imagesPath() const
 {
-    return fullFilePath().isEmpty() ? QString() : u"%1/%2"_s.arg(folderPath(), imagesFolder);
+    return fullFilePath().isEmpty() ? QString()
+                                    : u"%1/%2"_s.arg(folderPath(), ProjectResources::imagesFolder());
 }
 
 QString Project::approvalsPath() const
 {
-    return fullFilePath().isEmpty() ? QString() : QDir(folderPath()).filePath(approvalsFile);
+    return fullFilePath().isEmpty() ? QString()
+                                    : QDir(folderPath()).filePath(ProjectResources::approvalsFile());
 }
 
 QString Project::autosavePath() const

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/private/ProjectResources.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/Progress.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/project/ImageResource.h"
+#include "corvex/project/Project.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+QString ProjectResources::imagesFolder()
+{
+    return u"Images"_s;
+}
+
+QString ProjectResources::approvalsFile()
+{
+    return u"Approvals.jsonl"_s;
+}
+
+QStringList ProjectResources::otherFiles()
+{
+    return {u"Preview.png"_s, approvalsFile()};
+}
+
+ProjectResources::ProjectResources(const Project &project)
+{
+    for (const DesignerObject *item : project.imageResources()->listItems()) {
+        const auto *image = static_cast<const ImageResource *>(item);
+        m_files.append({image->filePath(), u"%1/%2"_s.arg(imagesFolder(), image->fileName())});
+    }
+    if (const QString folder = project.folderPath(); !folder.isEmpty()) {
+        for (const QString &name : otherFiles()) {
+            m_files.append({QDir(folder).filePath(name), name});
+        }
+    }
+}
+
+bool ProjectResources::copyTo(const QString &folder, QString *error, const Common::Progress *progress) const
+{
+    const QDir target(folder);
+    for (const File &file : m_files) {
+        if (progress && progress->isCancelled()) {
+            *error = Common::LocalizationHelper::coreString(u"Copying was cancelled."_s);
+            return false;
+        }
+        const QString copy = target.filePath(file.name);
+        // Two resources with one name show one file.
+        if (!QFileInfo(file.path).isFile() || QFileInfo::exists(copy)) {
+            continue;
+        }
+        QDir().mkdir(QFileInfo(copy).path());
+        if (!Common::FileHelper::copyFile(file.path, copy, error)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace Halvane::Corvex::Designer
