@@ -155,6 +155,24 @@ ExitCode take(ProjectFile &file, VariableImport &import, const Call &call)
     return code;
 }
 
+//! Shows on a terminal how far it is.
+VariableImport compared(const QByteArray &table, const Project &project, QChar separator, const Call &call)
+{
+    VariableImport import(project);
+    const QString activity = u"Comparing %1"_s.arg(call.argument(2));
+    Common::Progress *progress = call.terminal().showProgress(activity);
+    import.begin(table, separator);
+    if (progress) {
+        progress->begin(activity, import.rowCount());
+    }
+    while (import.readRow()) {
+        if (progress) {
+            progress->advance();
+        }
+    }
+    return import;
+}
+
 ExitCode run(const Call &call)
 {
     if (call.argument(0) != "variables"_L1) {
@@ -176,7 +194,7 @@ ExitCode run(const Call &call)
     const QChar character = separator == "tab"_L1 ? QChar(u'\t')
                             : separator.isEmpty() ? QChar()
                                                   : separator.at(0);
-    VariableImport import(bytes, file.project(), character);
+    VariableImport import = compared(bytes, file.project(), character, call);
     return take(file, import, call);
 }
 

@@ -38,23 +38,42 @@ struct VariableImport::Record
 };
 
 VariableImport::VariableImport(const QByteArray &csv, const DesignerObject &project, QChar separator)
-    : m_project(project)
-    , m_separator(separator)
+    : VariableImport(project)
 {
+    begin(csv, separator);
+    while (readRow()) { }
+}
+
+VariableImport::VariableImport(const DesignerObject &project)
+    : m_project(project)
+{ }
+
+void VariableImport::begin(const QByteArray &csv, QChar separator)
+{
+    m_separator = separator;
     const QString text = decode(csv);
     if (m_separator.isNull()) {
         m_separator = CsvText::separatorOf(text);
     }
-    const QList<CsvText::Row> rows =
-        m_problems.isEmpty() ? CsvText::read(text, m_problems, m_separator) : QList<CsvText::Row>();
-    if (!rows.isEmpty() && readHeader(rows.constFirst().fields)) {
-        for (const CsvText::Row &row : rows.sliced(1)) {
-            readRecord({row.line, row.fields, row.fields.value(m_nameColumn),
-                        m_classColumn < 0 ? QString() : row.fields.value(m_classColumn)});
-        }
-    } else if (m_problems.isEmpty()) {
+    m_rows = m_problems.isEmpty() ? CsvText::read(text, m_problems, m_separator) : QList<CsvText::Row>();
+    if (!m_rows.isEmpty() && readHeader(m_rows.takeFirst().fields)) {
+        return;
+    }
+    m_rows.clear();
+    if (m_problems.isEmpty()) {
         m_problems.append({1, u"The first line must name the columns, each once, including \"name\"."_s});
     }
+}
+
+bool VariableImport::readRow()
+{
+    if (m_nextRow == m_rows.size()) {
+        return false;
+    }
+    const CsvText::Row &row = m_rows.at(m_nextRow++);
+    readRecord({row.line, row.fields, row.fields.value(m_nameColumn),
+                m_classColumn < 0 ? QString() : row.fields.value(m_classColumn)});
+    return true;
 }
 
 QString VariableImport::decode(const QByteArray &csv)

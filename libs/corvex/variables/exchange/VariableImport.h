@@ -34,6 +34,14 @@ public:
     //! is detected in the first line. The table can be imported if there are no problems.
     VariableImport(const QByteArray &csv, const DesignerObject &project, QChar separator = {});
 
+    // The same in steps.
+    explicit VariableImport(const DesignerObject &project);
+    //! Splits the table into rows. It does not look at the project, so it may run in another thread.
+    void begin(const QByteArray &csv, QChar separator = {});
+    qsizetype rowCount() const { return m_rows.size(); }
+    //! Compares the next row; false when there was none.
+    bool readRow();
+
     const QList<Change> &changes() const { return m_changes; }
     const std::vector<std::unique_ptr<DesignerObject>> &additions() const { return m_additions; }
     //! Moves the new variables to their new owner.
@@ -64,6 +72,8 @@ private:
 
     const DesignerObject &m_project;
     QChar m_separator;
+    QList<CsvText::Row> m_rows; //!< without the names of the columns
+    qsizetype m_nextRow = 0;
     QStringList m_columns;
     qsizetype m_nameColumn = -1;
     qsizetype m_classColumn = -1;
