@@ -9,8 +9,11 @@
 
 #include "project/ProjectFixture.h"
 
+#include <QEventLoop>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -106,6 +109,43 @@ TEST_F(ProjectDocumentTest, AGestureIsOneStepOrNone)
     ASSERT_TRUE(document->commitGesture());
     EXPECT_EQ(history.redoText(), u"Drag"_s);
     EXPECT_EQ(modified.size(), 6);
+}
+
+TEST_F(ProjectDocumentTest, ARunIsOneStepForWhateverEndsIt)
+{
+    ProjectHistory &history = document->history();
+    const auto nudge = [this](const QString &text) {
+        return document->pushInRun(u"Nudge"_s, new ChangeProperty(level(), text, false));
+    };
+    DesignerObject *other = document->project().screens()->getListItemAtIndex(0);
+    const std::function<bool()> ends[] = {
+        [&] {
+            return document->push(new AddVariable(make(u"StringVariable"_s, u"a"_s), &document->project()))
+                   && document->undo();
+        },
+        [&] { return document->save(); },
+        [&] { return document->select({other}), true; },
+        [&] { return document->beginGesture(u"Drag"_s) && document->commitGesture(); },
+        [&] { return document->build() != nullptr; },
+        [&] { return QTest::qWaitFor([this] { return !document->project().undoStack()->isInRun(); }); },
+    };
+    document->setRunPause(50);
+    for (const auto &end : ends) {
+        const int before = history.position();
+        ASSERT_TRUE(nudge(u"%1.1"_s.arg(before)) && nudge(u"%1.2"_s.arg(before))
+                    && nudge(u"%1.3"_s.arg(before)));
+        EXPECT_TRUE(document->isModified());
+        EXPECT_TRUE(history.canUndo());
+        EXPECT_EQ(history.undoText(), u"Nudge"_s);
+        ASSERT_TRUE(end()) << qPrintable(document->errorString());
+        EXPECT_EQ(history.position(), before + 1);
+        EXPECT_EQ(history.undoText(), u"Nudge"_s);
+    }
+    const QString before = text();
+    ASSERT_TRUE(nudge(u"x"_s) && nudge(u"y"_s));
+    ASSERT_TRUE(document->undo());
+    EXPECT_EQ(text(), before);
+    EXPECT_EQ(history.redoText(), u"Nudge"_s);
 }
 
 TEST_F(ProjectDocumentTest, OldHistoriesAreDroppedAndLoadingDropsAll)
@@ -346,6 +386,93 @@ TEST_F(ProjectDocumentTest, AProjectCannotBeEditedWhileAJobReadsIt)
     ASSERT_TRUE(document->beginGesture(u"Drag"_s));
     EXPECT_FALSE(document->build());
     qunsetenv("TMPDIR");
+}
+
+TEST_F(ProjectDocumentTest, ATableIsImportedWholeOrNotAtAll)
+{
+    QByteArray table = "name,class,value\nlevel,StringVariable,high\n";
+    for (int i = 0; i < 2000; ++i) {
+        table += "new" + QByteArray::number(i) + ",StringVariable,x\n";
+    }
+    const QString before = text();
+    auto job = document->importVariables(table);
+    EXPECT_FALSE(describe(u"edit"_s));
+    EXPECT_FALSE(document->undo());
+    ASSERT_EQ(outcomeOf(*job), Job::Outcome::Done) << qPrintable(job->errorString());
+    const ProjectDocument::ImportResult result = job->takeResult().value();
+    EXPECT_EQ(result.addedVariables, 2000);
+    EXPECT_EQ(result.changedValues, 1);
+    EXPECT_EQ(document->history().count(), 1);
+    EXPECT_EQ(document->project().variables()->listItemCount(), 2001);
+    ASSERT_TRUE(document->undo());
+    EXPECT_EQ(text(), before);
+
+    const struct
+    {
+        QByteArray row;
+        QString problem;
+    } wrong[] = {
+        {"level,NumberVariable,1\n", u"line 2003: "_s},
+        {"Main,StringVariable,1\n", u"line 2003: "_s}, // shows when all are there
+    };
+    for (const auto &[row, problem] : wrong) {
+        job = document->importVariables(table + row);
+        EXPECT_EQ(outcomeOf(*job), Job::Outcome::Failed);
+        EXPECT_TRUE(job->errorString().startsWith(problem)) << qPrintable(job->errorString());
+        EXPECT_EQ(text(), before);
+    }
+    for (const bool isDeleted : {false, true}) {
+        job = document->importVariables(table);
+        QEventLoop untilSomeAreThere;
+        QObject::connect(&document->project(), &DesignerObject::propertyListItemAdded, &untilSomeAreThere,
+                         &QEventLoop::quit);
+        untilSomeAreThere.exec();
+        EXPECT_NE(text(), before);
+        ASSERT_TRUE(job->isRunning());
+        if (isDeleted) {
+            job.reset();
+        } else {
+            job->cancel();
+            EXPECT_EQ(outcomeOf(*job), Job::Outcome::Cancelled);
+        }
+        EXPECT_EQ(text(), before);
+        EXPECT_EQ(document->history().redoText(), u"Import variables"_s) << "what was undone is still there";
+        EXPECT_TRUE(document->history().canRedo());
+    }
+    job = document->importVariables(table);
+    document.reset();
+    EXPECT_EQ(outcomeOf(*job), Job::Outcome::Cancelled) << "its document is gone";
+}
+
+TEST_F(ProjectDocumentTest, AllScreensAreDrawnOrNone)
+{
+    add(document->project(), document->project().screens(), u"Screen"_s, u"Other"_s);
+    const QStringList files = filesIn(path());
+    const QString target = path(u"pictures"_s);
+    for (const bool isDeleted : {false, true}) {
+        auto cancelled = document->renderScreens(target);
+        if (isDeleted) {
+            cancelled.reset();
+        } else {
+            EXPECT_TRUE(describe(u"an edit"_s));
+            EXPECT_EQ(outcomeOf(*cancelled), Job::Outcome::Cancelled);
+        }
+        EXPECT_EQ(filesIn(path()), files);
+        EXPECT_FALSE(QFile::exists(target));
+    }
+    for (const bool isThere : {false, true}) {
+        auto job = document->renderScreens(target);
+        ASSERT_EQ(outcomeOf(*job), Job::Outcome::Done) << qPrintable(job->errorString());
+        EXPECT_EQ(job->takeResult(), QStringList({target + u"/Main.png"_s, target + u"/Other.png"_s}));
+        EXPECT_EQ(QImage(target + u"/Other.png"_s).size(), QSize(480, 272));
+        EXPECT_EQ(filesIn(path()).size(), files.size() + 2 + isThere);
+        write(target + u"/mine"_s, "mine");
+        write(target + u"/Other.png"_s, "old");
+    }
+    write(path(u"file"_s), "file");
+    auto job = document->renderScreens(path(u"file/pictures"_s));
+    EXPECT_EQ(outcomeOf(*job), Job::Outcome::Failed);
+    EXPECT_FALSE(job->errorString().isEmpty());
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -2,11 +2,10 @@
 // The jobs of ProjectDocument, and the rules for edits while they run.
 #include "corvex/checks/ProjectProblems.h"
 #include "corvex/common/LocalizationHelper.h"
-#include "corvex/core/DesignerFactory.h"
 #include "corvex/document/ProjectDocument.h"
+#include "corvex/document/private/ProjectCopy.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/Project.h"
-#include "corvex/project/files/ProjectAutosave.h"
 
 #include <QFileInfo>
 #include <QThread>
@@ -24,18 +23,6 @@ using Common::Progress;
 constexpr int longestWait = 30'000; // milliseconds
 constexpr int pauseOfWaiting = 100; // milliseconds
 
-//! Null, with an error, if there is no factory.
-std::unique_ptr<Project> newProject(QString &error)
-{
-    const DesignerFactory *factory = DesignerFactory::instance();
-    std::unique_ptr<Project> project(
-        factory ? static_cast<Project *>(factory->createUnowned(Project::kindName())) : nullptr);
-    if (!project) {
-        error = LocalizationHelper::coreString(u"Cannot create a project."_s);
-    }
-    return project;
-}
-
 bool lock(Project &project, const QString &path, ProjectDocument::Access access, Progress &progress)
 {
     using Kind = Common::FolderLock::Kind;
@@ -50,14 +37,6 @@ bool lock(Project &project, const QString &path, ProjectDocument::Access access,
     return isLocked;
 }
 
-//! Call it in the thread that owns the project so far.
-void handOver(Project &project, QThread *thread)
-{
-    project.moveToThread(thread);
-    project.undoStack()->moveToThread(thread);
-    project.autosave().moveToThread(thread);
-}
-
 } // namespace
 
 std::unique_ptr<ProjectDocument::LoadJob> ProjectDocument::load(const QString &path, Access access)
@@ -65,7 +44,7 @@ std::unique_ptr<ProjectDocument::LoadJob> ProjectDocument::load(const QString &p
     auto job = std::make_unique<LoadJob>();
     job->startInThread([path, access, thread = QThread::currentThread()](
                            Progress &progress, QString &error) -> std::optional<std::unique_ptr<Project>> {
-        std::unique_ptr<Project> project = newProject(error);
+        std::unique_ptr<Project> project = ProjectCopy::makeEmpty(error);
         if (!project) {
             return {};
         }
@@ -78,7 +57,7 @@ std::unique_ptr<ProjectDocument::LoadJob> ProjectDocument::load(const QString &p
         if (access == Access::Shared) {
             project->closeFiles();
         }
-        handOver(*project, thread);
+        ProjectCopy::handOver(*project, thread);
         return project;
     });
     return job;
@@ -89,7 +68,7 @@ std::unique_ptr<ProjectDocument::LoadJob> ProjectDocument::load(const QString &p
 bool ProjectDocument::canLoad(const QString &path)
 {
     QString error;
-    const std::unique_ptr<Project> trial = newProject(error);
+    const std::unique_ptr<Project> trial = ProjectCopy::makeEmpty(error);
     // The override would complete an edit that waits in the folder.
     const bool isRead = trial && trial->FileObject::loadFile(path);
     return result(isRead, trial ? trial->fileError() : error);
@@ -100,9 +79,8 @@ bool ProjectDocument::isFree(QString &reason)
 {
     m_readers.removeIf([](const Reader &reader) { return !reader.job || !reader.job->isRunning(); });
     for (const Reader &reader : std::as_const(m_readers)) {
-        if (reader.onEdit == OnEdit::RefuseEdit) {
-            reason = LocalizationHelper::coreString(
-                u"The project is being built. Wait for the end, or cancel the build."_s);
+        if (!reader.refusal.isEmpty()) {
+            reason = reader.refusal;
             return false;
         }
     }
@@ -116,14 +94,20 @@ bool ProjectDocument::isFree(QString &reason)
 //! Refuses to read the project during a gesture.
 bool ProjectDocument::mayRead()
 {
+    m_history->endRun();
     return result(
         !m_project->undoStack()->hasGesture(),
         LocalizationHelper::coreString(u"An edit is not finished yet. Finish or cancel it first."_s));
 }
 
-void ProjectDocument::addReader(Common::Job *job, OnEdit onEdit)
+void ProjectDocument::addReader(Common::Job *job, const QString &refusal)
 {
-    m_readers.append({job, onEdit});
+    m_readers.append({job, refusal});
+}
+
+void ProjectDocument::removeReader(const Common::Job *job)
+{
+    m_readers.removeIf([job](const Reader &reader) { return reader.job == job; });
 }
 
 std::unique_ptr<ProjectDocument::CheckJob> ProjectDocument::check(const ConfigurationContainer &models)
@@ -132,7 +116,7 @@ std::unique_ptr<ProjectDocument::CheckJob> ProjectDocument::check(const Configur
         return nullptr;
     }
     auto job = std::make_unique<CheckJob>();
-    addReader(job.get(), OnEdit::CancelJob);
+    addReader(job.get());
     job->startInThread([project = m_project.get(), &models](Progress &progress, QString &) {
         return std::optional(ProjectProblems::find(*project, models, &progress));
     });
@@ -145,7 +129,8 @@ std::unique_ptr<ProjectDocument::BuildJob> ProjectDocument::build()
         return nullptr;
     }
     auto job = std::make_unique<BuildJob>();
-    addReader(job.get(), OnEdit::RefuseEdit);
+    addReader(job.get(), LocalizationHelper::coreString(
+                             u"The project is being built. Wait for the end, or cancel the build."_s));
     job->startInThread([generator = m_project->newRuntimeGenerator(), project = m_project.get()](
                            Progress &progress, QString &error) mutable -> std::optional<BuildFolder> {
         generator.setProgress(&progress);

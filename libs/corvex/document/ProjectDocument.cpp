@@ -36,7 +36,7 @@ ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *pare
     , m_watch(std::make_unique<FileWatch>())
     , m_isComplete(!losesParts(*m_project))
 {
-    m_history->setGate([this](QString &reason) { return isFree(reason); });
+    m_history->setGate([this](QString &reason) { return m_isOwnEdit || isFree(reason); });
     connect(m_history.get(), &ProjectHistory::changed, this, &ProjectDocument::onHistoryChanged);
     connect(m_history.get(), &ProjectHistory::moved, this, [this](const UndoCommand *command) {
         // selectedItems() does not change the command.
@@ -67,10 +67,11 @@ ProjectDocument::~ProjectDocument()
     }
     m_history.reset();
     ProjectAutosave &autosave = m_project->autosave();
-    autosave.disconnect(this); // The run ends while the project is being destroyed.
+    autosave.disconnect(this);
     const bool ownsAutosave = m_ownsAutosave || autosave.isRunning();
+    autosave.cancel();
     const QString archive = m_project->autosavePath();
-    m_project.reset(); // waits for a running autosave
+    m_project.reset();
     if (ownsAutosave) {
         QFile::remove(archive);
     }
@@ -94,6 +95,15 @@ bool ProjectDocument::push(UndoCommand *command)
     return result(isDone, stack->errorString());
 }
 
+bool ProjectDocument::pushInRun(const QString &text, UndoCommand *command)
+{
+    if (!command->isValid()) {
+        const std::unique_ptr<UndoCommand> refused(command);
+        return result(false, refused->errorString());
+    }
+    return result(m_history->pushInRun(text, command, m_runPause), m_history->errorString());
+}
+
 bool ProjectDocument::undo()
 {
     return result(m_history->undo(), m_history->errorString());
@@ -111,11 +121,17 @@ bool ProjectDocument::beginGesture(const QString &text)
 
 bool ProjectDocument::commitGesture()
 {
+    if (QString reason; !isFree(reason)) {
+        return result(false, reason);
+    }
     return result(m_history->commitGesture(), m_history->errorString());
 }
 
 bool ProjectDocument::rollBackGesture()
 {
+    if (QString reason; !isFree(reason)) {
+        return result(false, reason);
+    }
     return result(m_history->rollBackGesture(), m_history->errorString());
 }
 
@@ -236,6 +252,7 @@ void ProjectDocument::select(const QList<DesignerObject *> &objects)
         }
     }
     if (selected != m_selection) {
+        m_history->endRun();
         m_selection = std::move(selected);
         emit selectionChanged();
     }

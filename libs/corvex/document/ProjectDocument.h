@@ -7,6 +7,7 @@
 
 #include <QDateTime>
 #include <QPointer>
+#include <QStringList>
 
 namespace Halvane::Corvex::Designer {
 
@@ -56,6 +57,12 @@ public:
     bool commitGesture();
     //! Restores project and history to the start of the gesture.
     bool rollBackGesture();
+    /*! Pushes a command that is part of a run: the steps of an arrow key or of the wheel. All commands of one
+       text make one step of the history. A run ends by itself after a pause, and before anything else that
+       the user does: another command, undo, redo, save, a new selection, a job. */
+    bool pushInRun(const QString &text, UndoCommand *command);
+    //! In milliseconds, in place of UndoStack::runPause.
+    void setRunPause(int pause) { m_runPause = pause; }
 
     // The file.
     bool isModified() const;
@@ -86,8 +93,8 @@ public:
     QList<DesignerObject *> selection() const;
     void select(const QList<DesignerObject *> &objects);
 
-    // Jobs that read the project in other threads. During a gesture they are not started, and the result is
-    // null.
+    // Jobs. During a gesture they are not started, and the result is null. A cancelled job leaves nothing
+    // behind.
     using CheckJob = Common::ResultJob<QList<Problem>>;
     //! Searches for problems. An edit cancels the job.
     std::unique_ptr<CheckJob> check(const ConfigurationContainer &models);
@@ -96,6 +103,23 @@ public:
     using BuildJob = Common::ResultJob<BuildFolder>;
     //! Builds the project. Edits are refused until the job has finished or was cancelled.
     std::unique_ptr<BuildJob> build();
+    struct ImportResult
+    {
+        qsizetype changedValues = 0;
+        qsizetype addedVariables = 0;
+        qsizetype unchangedVariables = 0;
+    };
+    using ImportJob = Common::ResultJob<ImportResult>;
+    /*! Takes over a table of variables as VariableImport reads it, in one step of the history. It fails, and
+       nothing is taken over, if a line is wrong or a value is not valid; the error then names all those
+       lines. A null \a separator is found by the first line. Edits are refused until the job is finished or
+       cancelled. */
+    std::unique_ptr<ImportJob> importVariables(const QByteArray &table, QChar separator = {});
+    using RenderJob = Common::ResultJob<QStringList>;
+    /*! Draws all screens as the canvas shows them, to "NAME.png" in \a folder, which is made if it is
+       missing. Other files stay there. The result is the paths of the pictures. It works with a copy of the
+       project, and an edit before the copy is complete cancels it. Needs a QApplication. */
+    std::unique_ptr<RenderJob> renderScreens(const QString &folder);
 
 signals:
     void modifiedChanged(bool isModified);
@@ -104,11 +128,11 @@ signals:
     void changedByOthers();
 
 private:
-    //! What happens when the user edits the project while a job reads it.
-    enum class OnEdit { CancelJob, RefuseEdit };
     bool isFree(QString &reason);
     bool mayRead();
-    void addReader(Common::Job *job, OnEdit onEdit);
+    //! An edit cancels the job, or is refused with \a refusal.
+    void addReader(Common::Job *job, const QString &refusal = {});
+    void removeReader(const Common::Job *job);
     bool result(bool isDone, const QString &error);
     bool canOverwrite();
     bool canLoad(const QString &path);
@@ -120,10 +144,11 @@ private:
     void setRecovery(bool hasRecovery);
     void removeAutosave();
 
+    class ImportRun;
     struct Reader
     {
         QPointer<Common::Job> job;
-        OnEdit onEdit;
+        QString refusal; //!< of edits; empty if an edit cancels the job
     };
     std::unique_ptr<Project> m_project;
     std::unique_ptr<ProjectHistory> m_history;
@@ -131,6 +156,8 @@ private:
     QList<Reader> m_readers;
     QList<QPointer<DesignerObject>> m_selection;
     QString m_error;
+    int m_runPause = UndoStack::runPause;
+    bool m_isOwnEdit = false; //!< of a job that refuses all others
     bool m_hasRecovery = false;
     bool m_ownsAutosave = false; //!< the autosave file belongs to this document
     bool m_wasModified = false;

@@ -93,6 +93,18 @@ bool ProjectHistory::rollBackGesture()
     return isDone || refuse(LocalizationHelper::coreString(u"There is no gesture to cancel."_s));
 }
 
+bool ProjectHistory::pushInRun(const QString &text, UndoCommand *command, int pause)
+{
+    const bool isDone = current().stack->pushInRun(text, command, pause);
+    emit changed();
+    return isDone || refuse(stack().errorString());
+}
+
+void ProjectHistory::endRun()
+{
+    current().stack->endRun();
+}
+
 int ProjectHistory::sizeBefore(size_t part) const
 {
     int size = 0;
@@ -147,16 +159,20 @@ const QUndoCommand *ProjectHistory::commandAfter() const
 
 bool ProjectHistory::canUndo() const
 {
-    return !stack().hasGesture() && commandBefore();
+    return stack().isInRun() ? stack().hasChangedInGesture() || commandBefore()
+                             : !stack().hasGesture() && commandBefore();
 }
 
 bool ProjectHistory::canRedo() const
 {
-    return !stack().hasGesture() && commandAfter();
+    return !stack().hasGesture() && !stack().hasChangedInGesture() && commandAfter();
 }
 
 QString ProjectHistory::undoText() const
 {
+    if (stack().isInRun() && stack().hasChangedInGesture()) {
+        return stack().gestureText();
+    }
     const QUndoCommand *command = commandBefore();
     return command ? command->actionText() : QString();
 }
@@ -186,6 +202,7 @@ bool ProjectHistory::prepare(const QUndoCommand *command)
 
 bool ProjectHistory::undo()
 {
+    endRun();
     const QUndoCommand *command = commandBefore();
     if (!command) {
         return refuse(LocalizationHelper::coreString(u"There is nothing to undo."_s));
@@ -207,6 +224,7 @@ bool ProjectHistory::undo()
 
 bool ProjectHistory::redo()
 {
+    endRun();
     const QUndoCommand *command = commandAfter();
     if (!command) {
         return refuse(LocalizationHelper::coreString(u"There is nothing to redo."_s));
@@ -236,6 +254,7 @@ bool ProjectHistory::redo()
 
 bool ProjectHistory::goTo(int position)
 {
+    endRun();
     bool isDone = position >= 0 && position <= count();
     while (isDone && this->position() != position) {
         isDone = this->position() > position ? undo() : redo();
