@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
-# Implements scripts/floors. Reads three files: the page with the table of layers, a list of source files, and
-# their include lines as "file:line:#include ...".
+# Implements scripts/floors. Reads five files: the page with the tables of layers and of exceptions, a list of source
+# files, and lines of these as "file:line:text": their includes, the first lines of classes and namespaces, and the
+# first lines of functions outside of classes.
 
 FNR == 1 { input++ }
 
@@ -12,6 +13,12 @@ input == 1 && /^\| *[0-9]+ *\|/ {
         if (names[i] != "")
             layers[names[i]] = cells[2] + 0
     rows++
+}
+
+# | `Class::member` | the room of the definition | the reason |; the member may be "*".
+input == 1 && /^\| *`[A-Za-z0-9_]+::[A-Za-z0-9_*]+` *\|/ {
+    split($0, cells, /[|`]/)
+    excepted[cells[3]] = 1
 }
 
 input == 2 && FNR == 1 && !rows {
@@ -48,7 +55,43 @@ input == 3 {
     }
 }
 
+input == 4 {
+    split($0, parts, ":")
+    text = substr($0, length(parts[1]) + length(parts[2]) + 3)
+    sub(/^[ \t]*(class|struct|namespace)[ \t]+(CORVEX_[A-Z_]*EXPORT[ \t]+)?/, "", text)
+    match(text, /^[A-Za-z0-9_:]*/)
+    name = substr(text, 1, RLENGTH)
+    sub(/.*::/, "", name)
+    if (name != "")
+        declared[name] = declared[name] "\n" room(parts[1])
+}
+
+input == 5 {
+    split($0, parts, ":")
+    text = substr($0, length(parts[1]) + length(parts[2]) + 3)
+    sub(/\(.*/, "", text)
+    sub(/.*[ *&]/, "", text)
+    count = split(text, names, "::")
+    for (i = 1; i < count && !(names[i] in declared); i++)
+        ;
+    here = room(parts[1])
+    if (i == count || here == "" || index(declared[names[i]] "\n", "\n" here "\n"))
+        next
+    member = names[i] "::" names[count]
+    if (member in excepted)
+        used[member] = 1
+    else if ((names[i] "::*") in excepted)
+        used[names[i] "::*"] = 1
+    else {
+        split(declared[names[i]], rooms, "\n")
+        complain(parts[1] ":" parts[2] ": " here " defines " member ", which " rooms[2] " declares")
+    }
+}
+
 END {
+    for (member in excepted)
+        if (!(member in used) && !problems)
+            complain("the page lists " member " as an exception, but its room declares it or nobody defines it")
     for (i = 1; i <= files; i++)
         if (!(sources[i] in state))
             visit(sources[i])

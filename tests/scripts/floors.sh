@@ -33,6 +33,19 @@ expect "an include of a higher layer" \
   "1-libs/corvex/low/Up.cpp:2: low (layer 0) includes corvex/two/deep/C.h of layer 1"
 rm "$tree/libs/corvex/low/Up.cpp"
 
+file libs/corvex/low/D.h 'class CORVEX_EXPORT D' '{' '    static bool isUp();' '    struct Inner' '    {' '    };' '};' 'class Later;'
+file libs/corvex/mid/D.cpp 'Common::List<int> *D::isUp(' '    int a)' 'D::Inner::Inner()' 'void Later::f()' 'const int x = D::isUp();' '    D::isUp();'
+expect "members that are defined in another room" \
+  "1-libs/corvex/mid/D.cpp:1: mid defines D::isUp, which low declares
+libs/corvex/mid/D.cpp:3: mid defines D::Inner, which low declares"
+# shellcheck disable=SC2016
+sed -i '$a | `D::*` | `mid` | a reason |' "$tree/docs/architecture.md"
+expect "members that the page lists" "0-floors: 7 files, 4 includes between them: each layer uses only itself and lower layers"
+rm "$tree"/libs/corvex/*/D.*
+expect "an exception too many" "1-the page lists D::* as an exception, but its room declares it or nobody defines it"
+# shellcheck disable=SC2016
+sed -i '/D::/d' "$tree/docs/architecture.md"
+
 file libs/corvex/low/R1.h '#pragma once' '#include "corvex/low/R2.h"'
 file libs/corvex/low/R2.h '#include "R3.h"'
 file libs/corvex/low/R3.h '#include "../low/R1.h"'

@@ -3,6 +3,7 @@
 
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/TableFactory.h"
+#include "corvex/core/private/ViewMaker.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -319,6 +320,11 @@ GraphicsItem *DesignerFactory::createGraphicsItem(const QString &className, Desi
     IDesignerFactory *factory = object ? m_graphicsItems.value(className) : nullptr;
     return make("graphics item", className,
                 [&] { return factory ? factory->createGraphicsItem(className, object) : nullptr; });
+}
+
+ObjectView *DesignerFactory::createObjectView(const QString &className, DesignerObject *object)
+{
+    return ViewMaker::make ? ViewMaker::make(className, object) : nullptr;
 }
 
 PropertyEditor *DesignerFactory::createEditor(const QString &editorName, QWidget *parent) const

@@ -9,7 +9,9 @@
 #include "corvex/core/properties/IdentifierProperty.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
 #include "corvex/project/files/FileNameRules.h"
+#include "corvex/project/private/ImageAdder.h"
 #include "corvex/values/text/ValueConversion.h"
 
 #include <QDir>
@@ -222,6 +224,13 @@ DesignerObject *ImageResource::createImageElement(const QString &name, const QSi
     element->changePropertyValue(element->getProperty(u"position"), ValueConversion::toString(position));
     element->setDisableValidation(false);
     return element;
+}
+
+bool ImageResource::addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, const QPointF &position,
+                                      QWidget *parentWidget)
+{
+    return screen && screen->project() && ImageAdder::add
+           && ImageAdder::add(urls, screen, position, parentWidget);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -60,9 +60,7 @@ public:
 
     /*! Adds local image files to the project of \a screen, with an element for each at \a position, as one
         step of the history. Existing images of the project are reused. Reports files that are not images or
-        have invalid names to the user. Returns false if nothing was added. Defined in the module of the
-        commands.
-    */
+        have invalid names to the user. Returns false if nothing was added. */
     static bool addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, const QPointF &position,
                                   QWidget *parentWidget = nullptr);
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The functions of the value records that search the model. The records themselves do not know it.
+// What the records of values find in the model.
 #include "corvex/core/ItemList.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
-#include "corvex/values/expressions/GeneralDataInfo.h"
-#include "corvex/values/records/DependentInfo.h"
-#include "corvex/values/records/IdentifierInfo.h"
+#include "corvex/values/private/ModelLookup.h"
 #include "corvex/values/records/ObjectLinkInfo.h"
 #include "corvex/variables/ProjectVariable.h"
 
@@ -15,20 +13,6 @@ using namespace Qt::StringLiterals;
 namespace Halvane::Corvex::Designer {
 
 namespace {
-
-//! The number of siblings of \a object with the name \a name, excluding the object. The siblings of an
-//! element are all elements of its screen; those of other objects are in the same list.
-qsizetype siblingsNamed(const DesignerObject *object, const QString &name)
-{
-    const bool isElement = object->isKindOfClass(Element::kindName());
-    if (isElement && object->screen()) {
-        const QList<DesignerObject *> namesakes = object->screen()->elementIndex().named(name);
-        return std::count_if(namesakes.begin(), namesakes.end(),
-                             [object](const DesignerObject *namesake) { return namesake != object; });
-    }
-    const SharedProperty list = object->listProperty();
-    return list ? list->listItemCount(name) - (list->itemList()->bears(object, name) ? 1 : 0) : 0;
-}
 
 bool isOneOf(const DesignerObject *object, const QStringList &classNames)
 {
@@ -58,60 +42,58 @@ DesignerObject *findByName(const SharedProperty &list, const QString &name)
     return screen ? static_cast<DesignerObject *>(screen->getElement(name)) : list->getListItem(name);
 }
 
-} // namespace
-
-bool IdentifierInfo::isUnique(const DesignerObject *object) const
+class ModelSearch final : public ModelLookup
 {
-    return !object || siblingsNamed(object, m_name) == 0;
-}
+public:
+    ModelSearch() { provide(this); }
 
-QString IdentifierInfo::generateUniqueId(const DesignerObject *object, const QString &base, int number)
-{
-    QString name = generateId(base, number);
-    while (object && !name.isEmpty() && siblingsNamed(object, name) > 0) {
-        name = generateId(base, ++number);
+    //! Elements have all elements of their screen for siblings, other objects those in their list.
+    qsizetype siblingsNamed(const DesignerObject &object, const QString &name) const override
+    {
+        if (object.screen() && object.isKindOfClass(Element::kindName())) {
+            const QList<DesignerObject *> bearers = object.screen()->elementIndex().named(name);
+            return std::ranges::count_if(
+                bearers, [&object](const DesignerObject *bearer) { return bearer != &object; });
+        }
+        const SharedProperty list = object.listProperty();
+        return list ? list->listItemCount(name) - (list->itemList()->bears(&object, name) ? 1 : 0) : 0;
     }
-    return name;
-}
 
-void DependentInfo::updateProperties(const QString &text)
-{
-    bool isIdentifier = false;
-    const IdentifierInfo info(text, &isIdentifier);
-    m_objectId = isIdentifier ? info.name() : text;
-    m_properties.removeIf([](const SharedProperty &property) {
-        return !property || !property->parentObject() || !property->parentObject()->project();
-    });
-}
-
-ProjectVariable *GeneralDataInfo::toVariable(Project *project) const
-{
-    const bool isVariable = project && valueType() == VariableValue;
-    return isVariable ? kindCast<ProjectVariable>(project->variables()->getListItem(value())) : nullptr;
-}
-
-DesignerObject *GeneralDataInfo::toProcess(Screen *screen) const
-{
-    return screen && valueType() == ObjectValue ? screen->getElement(objectName().section(u'.', -1))
-                                                : nullptr;
-}
-
-QList<DesignerObject *> ObjectLinkInfo::findLinks(const DesignerObject *from, bool anyObject) const
-{
-    QList<DesignerObject *> found;
-    if (!from) {
-        return found;
+    bool isInProject(const SharedProperty &property) const override
+    {
+        return property && property->parentObject() && property->parentObject()->project();
     }
-    for (const SharedProperty &list : listsInScope(from, m_scopeType)) {
-        const QList<DesignerObject *> candidates =
-            anyObject ? list->listItems(list->id() == "elements"_L1) : QList{findByName(list, m_objectId)};
-        for (DesignerObject *candidate : candidates) {
-            if (candidate && isOneOf(candidate, m_filterType)) {
-                found.append(candidate);
+
+    ProjectVariable *variable(const Project &project, const QString &name) const override
+    {
+        return kindCast<ProjectVariable>(project.variables()->getListItem(name));
+    }
+
+    DesignerObject *element(const Screen &screen, const QString &name) const override
+    {
+        return screen.getElement(name);
+    }
+
+    QList<DesignerObject *> targets(const ObjectLinkInfo &link, const DesignerObject &from,
+                                    bool anyObject) const override
+    {
+        QList<DesignerObject *> found;
+        for (const SharedProperty &list : listsInScope(&from, link.scopeType())) {
+            const QList<DesignerObject *> candidates = anyObject
+                                                           ? list->listItems(list->id() == "elements"_L1)
+                                                           : QList{findByName(list, link.objectId())};
+            for (DesignerObject *candidate : candidates) {
+                if (candidate && isOneOf(candidate, link.filterType())) {
+                    found.append(candidate);
+                }
             }
         }
+        return found;
     }
-    return found;
-}
+};
+
+const ModelSearch modelSearch; // provides itself
+
+} // namespace
 
 } // namespace Halvane::Corvex::Designer

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/graphics/GraphicsItem.h"
 
-#include "corvex/core/DesignerFactory.h"
 #include "corvex/core/properties/TransformOriginProperty.h"
 #include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/editing/graphics/CanvasScene.h"
@@ -364,13 +363,6 @@ void GraphicsItem::resizeLeft(const QRectF &rect, const QPointF &point, QSizeF &
                               double minimum)
 {
     resizeAt(QQuickItem::Left, rect, point, size, position, minimum);
-}
-
-ObjectView *DesignerFactory::createObjectView(const QString &className, DesignerObject *object)
-{
-    std::unique_ptr<GraphicsItem> item(instance() ? instance()->createGraphicsItem(className, object)
-                                                  : nullptr);
-    return item && item->initialize() ? item.release() : nullptr;
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -4,6 +4,7 @@
 #include "corvex/common/TextHelper.h"
 #include "corvex/values/expressions/ExpressionCode.h"
 #include "corvex/values/expressions/ExpressionRules.h"
+#include "corvex/values/private/ModelLookup.h"
 #include "corvex/values/text/ObjectPath.h"
 
 #include <QColor>
@@ -334,6 +335,19 @@ bool GeneralDataInfo::isSameDataType(EnumHelper::VariableType variableType, Data
 EnumHelper::VariableType GeneralDataInfo::variableType(DataType dataType)
 {
     return dataType <= CommandData ? pairings[dataType].written : EnumHelper::NoVariable;
+}
+
+ProjectVariable *GeneralDataInfo::toVariable(Project *project) const
+{
+    return project && valueType() == VariableValue ? ModelLookup::instance().variable(*project, value())
+                                                   : nullptr;
+}
+
+DesignerObject *GeneralDataInfo::toProcess(Screen *screen) const
+{
+    return screen && valueType() == ObjectValue
+               ? ModelLookup::instance().element(*screen, objectName().section(u'.', -1))
+               : nullptr;
 }
 
 } // namespace Halvane::Corvex::Designer

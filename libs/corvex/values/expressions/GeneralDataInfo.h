@@ -134,8 +134,6 @@ public:
     //! \return false if the term contains no name.
     bool removeObject();
 
-    // These two walk the model. They are compiled in the module "project", on a higher layer.
-
     //! The variable that the term names; null if \a project has none.
     ProjectVariable *toVariable(Project *project) const;
     //! The element that the term names; null if \a screen has none.

@@ -12,8 +12,6 @@ namespace Halvane::Corvex::Designer {
 class DesignerProperty;
 
 //! An object, by its identifier, and the properties that depend on it.
-//!
-//! updateProperties() is defined in the module "project", where the model is known.
 class CORVEX_EXPORT DependentInfo
 {
 public:

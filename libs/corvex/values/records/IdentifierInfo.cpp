@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/values/records/IdentifierInfo.h"
 
+#include "corvex/values/private/ModelLookup.h"
 #include "corvex/values/text/GroupText.h"
 
 #include <array>
@@ -96,6 +97,20 @@ QString IdentifierInfo::toString() const
 QString IdentifierInfo::generateId(const QString &base, int number)
 {
     return base.isEmpty() ? QString() : base + QString::number(number);
+}
+
+bool IdentifierInfo::isUnique(const DesignerObject *object) const
+{
+    return !object || ModelLookup::instance().siblingsNamed(*object, m_name) == 0;
+}
+
+QString IdentifierInfo::generateUniqueId(const DesignerObject *object, const QString &base, int number)
+{
+    QString name = generateId(base, number);
+    while (object && !name.isEmpty() && ModelLookup::instance().siblingsNamed(*object, name) > 0) {
+        name = generateId(base, ++number);
+    }
+    return name;
 }
 
 } // namespace Halvane::Corvex::Designer

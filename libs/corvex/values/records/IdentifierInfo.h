@@ -13,8 +13,6 @@ class DesignerObject;
 
 /*! The name of an object, its class, and the scope in which the name is known ("Project", "Screen"). Any name
     can be stored; the validators of the model check it.
-
-    isUnique() and generateUniqueId() are defined in the module "project", where the model is known.
 */
 class CORVEX_EXPORT IdentifierInfo
 {

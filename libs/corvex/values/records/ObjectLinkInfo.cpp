@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/values/records/ObjectLinkInfo.h"
 
+#include "corvex/values/private/ModelLookup.h"
 #include "corvex/values/text/GroupText.h"
 
 #include <QStringTokenizer>
@@ -83,6 +84,11 @@ QString ObjectLinkInfo::toString() const
         GroupText::appendEntry(text, u"scopeType", m_scopeType);
     }
     return text;
+}
+
+QList<DesignerObject *> ObjectLinkInfo::findLinks(const DesignerObject *from, bool anyObject) const
+{
+    return from ? ModelLookup::instance().targets(*this, *from, anyObject) : QList<DesignerObject *>();
 }
 
 } // namespace Halvane::Corvex::Designer

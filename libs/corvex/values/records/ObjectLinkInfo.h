@@ -12,8 +12,6 @@ namespace Halvane::Corvex::Designer {
 class DesignerObject;
 
 //! A reference to an object by its identifier, with the scope to search and the accepted classes.
-//!
-//! findLinks() is defined in the module "project", where the model is known.
 class CORVEX_EXPORT ObjectLinkInfo
 {
 public:

@@ -12,6 +12,7 @@
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/files/FileNameRules.h"
+#include "corvex/project/private/ImageAdder.h"
 
 #include <QFileInfo>
 #include <QImageReader>
@@ -79,15 +80,9 @@ bool push(AddImagesAndElements *command, Project *project, QWidget *parentWidget
     return false;
 }
 
-} // namespace
-
-bool ImageResource::addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, const QPointF &position,
-                                      QWidget *parentWidget)
+bool addImages(const QList<QUrl> &urls, Screen *screen, const QPointF &position, QWidget *parentWidget)
 {
-    Project *project = screen ? screen->project() : nullptr;
-    if (!project) {
-        return false;
-    }
+    Project *project = screen->project();
     ImageNames names(project);
     QStringList refused;
     QMap<ImageResource *, QString> images;
@@ -106,7 +101,8 @@ bool ImageResource::addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, c
             names.add(name, digest);
             images.insert(makeResource(name), path);
         }
-        DesignerObject *element = createImageElement(name, QImageReader(path).size(), position);
+        DesignerObject *element =
+            ImageResource::createImageElement(name, QImageReader(path).size(), position);
         if (element) {
             QString elementName;
             do {
@@ -124,5 +120,9 @@ bool ImageResource::addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, c
     }
     return push(new AddImagesAndElements(images, elements, screen), project, parentWidget);
 }
+
+[[maybe_unused]] const bool isProvided = (ImageAdder::add = &addImages) != nullptr;
+
+} // namespace
 
 } // namespace Halvane::Corvex::Designer
