@@ -48,11 +48,14 @@ protected:
         all.sort();
         return all;
     }
-    const Problem *find(ProblemCode code) const
+    //! Null if there is none. Without an object, the problem may be anywhere.
+    const Problem *find(ProblemCode code, const DesignerObject *object = nullptr, const char *id = "") const
     {
         for (qsizetype row = 0; row < list->count(); ++row) {
-            if (list->at(row).code == code) {
-                return &list->at(row);
+            const Problem &problem = list->at(row);
+            if (problem.code == code
+                && (!object || (problem.source == object && problem.property == QLatin1StringView(id)))) {
+                return &problem;
             }
         }
         return nullptr;
@@ -65,13 +68,13 @@ protected:
         }
         return texts;
     }
-    void applyAndUndo(const ProblemFix &fix, ProblemCode code);
+    void applyAndUndo(const ProblemFix &fix, const Problem &problem);
 
     std::optional<ProblemList> list;
 };
 
 //! The fix solves the problem and causes no other; undo restores everything.
-void ProblemFixTest::applyAndUndo(const ProblemFix &fix, ProblemCode code)
+void ProblemFixTest::applyAndUndo(const ProblemFix &fix, const Problem &problem)
 {
     SCOPED_TRACE(qPrintable(fix.text));
     const QStringList before = messages();
@@ -80,7 +83,7 @@ void ProblemFixTest::applyAndUndo(const ProblemFix &fix, ProblemCode code)
     ASSERT_TRUE(command);
     ASSERT_TRUE(stack().push(command.release())) << qPrintable(stack().errorString());
     list->update();
-    EXPECT_FALSE(find(code));
+    EXPECT_FALSE(find(problem.code, problem.source, problem.property.toLatin1().constData()));
     for (const QString &message : messages()) {
         EXPECT_TRUE(before.contains(message)) << qPrintable(message);
     }
@@ -100,6 +103,7 @@ TEST_F(ProblemFixTest, SolvesTheProblemAndCanBeUndone)
     add(property(group, "elements"), "Rectangle", "member2");
     add(project->variables(), "BACnetObject", "bacnet1");
     add(project->variables(), "BACnetObject", "bacnet2");
+    add(project->variables(), "BACnetDevice", "device1");
     for (const char *name : {"bacnet1", "bacnet2"}) {
         force(variable(name), "bacnetObjName", u"name"_s);
     }
@@ -124,13 +128,13 @@ TEST_F(ProblemFixTest, SolvesTheProblemAndCanBeUndone)
     };
     using enum ProblemCode;
     const Case cases[] = {
-        {rectangle, "id", id("1 rect"), NameFormat, {u"Rename to \"Rectangle_1_rect\""_s}},
+        {rectangle, "id", id("1 rect"), NameFormat, {u"Rename to \"rectangle_1_rect\""_s}},
         {rectangle, "id", id("while"), NameReserved, {u"Rename to \"while1\""_s}},
         {rectangle, "id", id("speed"), NameTaken, {u"Rename to \"speed1\""_s}},
         {element("rectangle2"), "id", id("rectangle1"), NameTaken, {u"Rename to \"rectangle2\""_s}},
         {rectangle, "opacity", u"500"_s, AppearanceRange, {u"Set to 100, the largest value"_s}},
         {rectangle, "opacity", u"-5"_s, AppearanceRange, {u"Set to 10, the smallest value"_s}},
-        {element("pwmOutput1"), "channel", u"0"_s, ValueRange, {u"Set to 1, the smallest value"_s}},
+        {variable("device1"), "netNumber", u"-1"_s, ValueRange, {u"Set to 0, the smallest value"_s}},
         {group, "indexes", u"member1"_s, GroupOrder, {u"List all members"_s}},
         {project->configurationObject(),
          "enablePassword",
@@ -170,12 +174,13 @@ TEST_F(ProblemFixTest, SolvesTheProblemAndCanBeUndone)
                      << ProblemKind::of(code).word << ' ' << id << ' ' << qPrintable(value));
         const QString good = property(object, id)->valueString();
         force(object, id, value);
-        const Problem *problem = find(code);
+        const Problem *problem = find(code, object, id);
         ASSERT_TRUE(problem) << qPrintable(messages().join(u'\n'));
-        const QList<ProblemFix> fixes = ProblemFix::of(*problem);
+        const Problem solved = *problem;
+        const QList<ProblemFix> fixes = ProblemFix::of(solved);
         EXPECT_EQ(textsOf(fixes), texts);
         for (const ProblemFix &fix : fixes) {
-            ASSERT_NO_FATAL_FAILURE(applyAndUndo(fix, code));
+            ASSERT_NO_FATAL_FAILURE(applyAndUndo(fix, solved));
         }
         force(object, id, good);
     }
@@ -186,9 +191,10 @@ TEST_F(ProblemFixTest, DeletesALogThatNothingFeeds)
     list->update();
     const Problem *problem = find(ProblemCode::LogUnfed);
     ASSERT_TRUE(problem);
-    const QList<ProblemFix> fixes = ProblemFix::of(*problem);
+    const Problem solved = *problem;
+    const QList<ProblemFix> fixes = ProblemFix::of(solved);
     ASSERT_EQ(textsOf(fixes), QStringList{u"Delete the log"_s});
-    applyAndUndo(fixes.first(), ProblemCode::LogUnfed);
+    applyAndUndo(fixes.first(), solved);
 }
 
 //! Two elements with the same name: references mean the other one, and the group still knows its member.

@@ -254,7 +254,7 @@ MaybePlan switchedOff(const Place &place)
 
 MaybePlan deleted(const Place &place)
 {
-    return Plan{Plan::Delete, place.object.idProperty(), {}, {place.object.getIdName()}};
+    return Plan{Plan::Delete, place.object.idProperty(), {}, {}};
 }
 
 //! A channel of the device that no element of the class on the screen uses.

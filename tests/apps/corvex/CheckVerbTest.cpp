@@ -326,9 +326,9 @@ TEST(CheckVerb, CountsApprovedProblemsApart)
         << qPrintable(after.out);
     const QJsonArray problems = sandbox.run({u"check"_s, pump, u"--json"_s}).json()[u"problems"_s].toArray();
     ASSERT_EQ(problems.size(), 2);
-    EXPECT_TRUE(problems[1][u"approved"_s].toBool());
-    EXPECT_EQ(problems[1][u"reason"_s].toString(), u"thin"_s);
-    EXPECT_EQ(problems[1][u"fixes"_s].toArray(), QJsonArray{u"Set to 10, the smallest value"_s});
+    EXPECT_TRUE(problems[0][u"approved"_s].toBool());
+    EXPECT_EQ(problems[0][u"reason"_s].toString(), u"thin"_s);
+    EXPECT_EQ(problems[0][u"fixes"_s].toArray(), QJsonArray{u"Set to 10, the smallest value"_s});
     EXPECT_TRUE(sandbox.run({u"build"_s, pump, u"-o"_s, u"built"_s})
                     .error.contains(u"Errors prevent a build even if they are approved."_s));
 
