@@ -123,6 +123,8 @@ TEST_F(ProblemApprovalsTest, GoWithTheirObjectUntilItComesBack)
     EXPECT_TRUE(fading().isApproved);
     save();
     EXPECT_TRUE(fileText().contains("Main.rectangle1"));
+    ASSERT_TRUE(project->createFileCopy(folder.path(), u"Copy"_s)) << qPrintable(project->fileError());
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"Copy/Approvals.jsonl"_s)));
 }
 
 TEST_F(ProblemApprovalsTest, OfAnotherProgramOrAVersionControlAreNotLost)

@@ -118,6 +118,10 @@ TEST_F(ProblemFixTest, SolvesTheProblemAndCanBeUndone)
     GeneralDataList misspelled;
     misspelled << GeneralDataInfo(GeneralDataInfo::VariableValue, GeneralDataInfo::NumberData, u"sped"_s);
 
+    force(project->configurationObject(), "alarmOutputs", u"OUTPUT, OUTPUT, OUTPUT"_s);
+    DesignerObject *alarm = addTo(main, "AlarmOutput");
+    force(addTo(main, "AlarmOutput"), "channel", u"2"_s);
+
     struct Case
     {
         DesignerObject *object;
@@ -129,12 +133,25 @@ TEST_F(ProblemFixTest, SolvesTheProblemAndCanBeUndone)
     using enum ProblemCode;
     const Case cases[] = {
         {rectangle, "id", id("1 rect"), NameFormat, {u"Rename to \"rectangle_1_rect\""_s}},
+        {rectangle,
+         "id",
+         IdentifierInfo(QString(300, u'a'), {}, {}).toString(),
+         NameLength,
+         {u"Rename to \"%1\""_s.arg(QString(240, u'a'))}},
         {rectangle, "id", id("while"), NameReserved, {u"Rename to \"while1\""_s}},
         {rectangle, "id", id("speed"), NameTaken, {u"Rename to \"speed1\""_s}},
         {element("rectangle2"), "id", id("rectangle1"), NameTaken, {u"Rename to \"rectangle2\""_s}},
         {rectangle, "opacity", u"500"_s, AppearanceRange, {u"Set to 100, the largest value"_s}},
         {rectangle, "opacity", u"-5"_s, AppearanceRange, {u"Set to 10, the smallest value"_s}},
         {variable("device1"), "netNumber", u"-1"_s, ValueRange, {u"Set to 0, the smallest value"_s}},
+        {project->configurationObject(),
+         "displayBrightness",
+         u"500"_s,
+         ValueInvalid,
+         {u"Reset to the default"_s}},
+        {variable("speed"), "value", u"fast"_s, NumberUnreadable, {u"Reset to the default"_s}},
+        {alarm, "channel", u"2"_s, ChannelShared, {u"Assign channel 1"_s}},
+        {alarm, "channel", u"7"_s, ChannelMissing, {u"Assign channel 1"_s}},
         {group, "indexes", u"member1"_s, GroupOrder, {u"List all members"_s}},
         {project->configurationObject(),
          "enablePassword",

@@ -172,4 +172,32 @@ TEST_F(ProblemListTest, FollowsChangesOfAnyValue)
     EXPECT_GT(list->count(), 40);
 }
 
+TEST_F(ProblemListTest, ChecksWhileTheEventLoopIsIdle)
+{
+    DesignerObject *element = anyElement(u"VisualElement"_s);
+    QSignalSpy current(&*list, &ProblemList::currentChanged);
+    element->changePropertyValue(element->getProperty(u"opacity"), u"500"_s);
+    EXPECT_FALSE(list->isCurrent());
+    ASSERT_TRUE(current.wait());
+    EXPECT_TRUE(list->isCurrent());
+    const QList<Problem> found = list->problemsOf(*element->getProperty(u"opacity"));
+    ASSERT_EQ(found.size(), 1);
+    EXPECT_EQ(found.first().code, ProblemCode::AppearanceRange);
+    // The path is that of the present name.
+    element->changePropertyValue(element->idProperty(), named(element, u"renamed"_s));
+    EXPECT_EQ(list->problemsOf(element).first().path(), element->objectPath());
+}
+
+TEST_F(ProblemListTest, OutlivesItsProject)
+{
+    ASSERT_GT(list->count(), 0);
+    project.reset();
+    EXPECT_EQ(list->count(), 0);
+    EXPECT_EQ(list->project(), nullptr);
+    list->checkAll();
+    list->update();
+    EXPECT_TRUE(list->isCurrent());
+    EXPECT_EQ(rows, QStringList());
+}
+
 } // namespace Halvane::Corvex::Designer::Test
