@@ -167,7 +167,7 @@ TEST_F(LargeEditTest, AllModelsFollow)
 {
     open();
     selectAny();
-    for (int step = 0; step < 60; ++step) {
+    for (int step = 0; step < 40; ++step) {
         edit();
     }
     ASSERT_NO_FATAL_FAILURE(check());

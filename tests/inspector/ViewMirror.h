@@ -90,6 +90,9 @@ private:
         if (value.canConvert<QObject *>()) {
             return QString::number(quintptr(value.value<QObject *>()));
         }
+        if (value.canConvert<QString>()) {
+            return value.toString();
+        }
         QString text;
         QDebug(&text) << value;
         return text;

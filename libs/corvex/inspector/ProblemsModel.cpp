@@ -138,11 +138,11 @@ void ProblemsModel::valueChanged(const SharedProperty &property, const QString &
     const QList<int> roles{Qt::DisplayRole, PathRole};
     const DesignerObject *renamed = property->parentObject();
     if (!renamed->childObjects().isEmpty()) {
-        emit dataChanged(index(0, PlaceColumn), index(rowCount() - 1, PlaceColumn), roles);
+        emit dataChanged(index(0, MessageColumn), index(rowCount() - 1, PlaceColumn), roles);
         return;
     }
     for (const qsizetype row : m_problems.rowsOf(renamed)) {
-        emit dataChanged(index(int(row), PlaceColumn), index(int(row), PlaceColumn), roles);
+        emit dataChanged(index(int(row), MessageColumn), index(int(row), PlaceColumn), roles);
     }
 }
 
