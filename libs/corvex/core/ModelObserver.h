@@ -11,20 +11,21 @@ class ModelObservers;
 /*! Follows all changes of one project in a single place. An index or a view of the whole model needs no
     connection for each object.
 
-    Add an observer to Project::observers(). The project does not own it: it leaves when it is destroyed, and
-    is released when the project is destroyed. All operations do nothing in the base.
+    Add an observer to Project::observers(). The project does not own it: it is removed when it is destroyed,
+    and released when the project is destroyed. In the base class all operations do nothing.
 
     - Operations named "aboutTo..." run before the model changes. Their counterparts run right after
       the change, before the after-hook and the signal of the object. Both get the same arguments.
-    - A "list" is the list property or the object property that holds the child; the index of the child of an
-      object property is 0.
-    - An object comes and goes with everything below it. What changes inside it on the way is not reported, so
-      read it in inserted() or replaced(), and forget it in aboutToRemove() or aboutToReplace().
-    - Validity that changes while an object comes or goes is reported when that is over and indexes are good
+    - A "list" is the list property or the object property that contains the child; the index of the child of
+      an object property is 0.
+    - An object is inserted and removed with everything below it. Changes inside it during the operation are
+      not reported, so read it in inserted() or replaced(), and forget it in aboutToRemove() or
+      aboutToReplace().
+    - Changes of validity during an insertion or a removal are reported afterwards, when indexes are valid
       again.
-    - Nothing is reported while a project is loaded: between projectAboutToLoad() and projectLoaded().
+    - Nothing is reported while a project is being loaded, between projectAboutToLoad() and projectLoaded().
 
-    An observer must not change the model, and debug builds assert that. It may add and remove observers,
+    An observer must not change the model; debug builds assert that. It may add and remove observers,
     including itself; an added observer is notified from the next operation on.
 */
 class CORVEX_EXPORT ModelObserver

@@ -138,7 +138,7 @@ QUrl fileOf(const QString &className)
 
 bool writeDocument(const QString &className, const QString &text)
 {
-    // The engine reads types from files alone.
+    // The engine reads types only from files.
     if (folderOfBoxes().isEmpty()) {
         static const Common::TemporaryFolder folder(u"corvex-classes"_s);
         folderOfBoxes() = QDir::cleanPath(folder.filePath(QString()));
