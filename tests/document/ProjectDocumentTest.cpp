@@ -413,7 +413,7 @@ TEST_F(ProjectDocumentTest, ATableIsImportedWholeOrNotAtAll)
         QString problem;
     } wrong[] = {
         {"level,NumberVariable,1\n", u"line 2003: "_s},
-        {"Main,StringVariable,1\n", u"line 2003: "_s}, // shows when all are there
+        {"Main,StringVariable,1\n", u"line 2003: "_s}, // detected when all rows are read
     };
     for (const auto &[row, problem] : wrong) {
         job = document->importVariables(table + row);

@@ -132,7 +132,7 @@ TEST(UndoStackTest, ARunEndsByItself)
     EXPECT_TRUE(QTest::qWaitFor([&stack] { return stack.count() == 1; }));
     EXPECT_FALSE(stack.isInRun());
 
-    // And before anything else.
+    // Also before anything else.
     EXPECT_TRUE(run("Nudge") && run("Wheel") && stack.push(new Step) && run("Nudge"));
     EXPECT_EQ(texts(), u"Nudge Nudge Wheel "_s);
     stack.undo();

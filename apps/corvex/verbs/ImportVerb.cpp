@@ -155,7 +155,7 @@ ExitCode take(ProjectFile &file, VariableImport &import, const Call &call)
     return code;
 }
 
-//! Shows on a terminal how far it is.
+//! Shows the progress on a terminal.
 VariableImport compared(const QByteArray &table, const Project &project, QChar separator, const Call &call)
 {
     VariableImport import(project);

@@ -82,7 +82,7 @@ private:
     void conclude();
 
     Progress m_progress;
-    std::deque<std::variant<Work, Piece>> m_parts; //!< that have not begun
+    std::deque<std::variant<Work, Piece>> m_parts; //!< that have not started
     std::unique_ptr<QThread> m_thread;
     Piece m_piece;
     QTimer m_timer; //!< for reports or slices
@@ -123,7 +123,7 @@ public:
             });
     }
 
-    //! For jobs of several parts, which put the result here before they succeed.
+    //! For jobs with several parts, which store the result here before they succeed.
     const std::shared_ptr<std::optional<Result>> &resultPlace() const { return m_result; }
 
     //! Takes the result of a job that succeeded; nothing for any other job, and nothing the second time.

@@ -19,10 +19,9 @@ using Common::Job;
 using Common::LocalizationHelper;
 using Common::Progress;
 
-//! Changes in one command: so few that a slice is not exceeded, and enough to keep the number of commands
-//! small.
+//! The number of changes per command: small enough for a slice, and large enough for few commands.
 constexpr qsizetype changesAtOnce = 16;
-//! Lines of an error; a table of another kind has thousands of them.
+//! The maximum number of lines in an error; a wrong table has thousands of them.
 constexpr qsizetype mostLines = 100;
 
 QString textOf(QList<CsvText::Problem> problems)
@@ -42,8 +41,9 @@ QString textOf(QList<CsvText::Problem> problems)
 
 } // namespace
 
-/*! Goes through a table in small steps: first compares all rows, and then, if nothing is wrong, takes them
-   over in a gesture of the document. The gesture is rolled back if the run goes before it is complete. */
+//! Imports a table in small steps: first compares all rows, and then, if there are no errors, applies the
+//! changes in a gesture of the document. The gesture is rolled back if the run is deleted before it is
+//! complete.
 class ProjectDocument::ImportRun
 {
     Q_DISABLE_COPY_MOVE(ImportRun)
@@ -125,7 +125,7 @@ private:
         return isDone;
     }
 
-    //! The name of a new variable is compared with all others only now.
+    //! The names of new variables can only be compared with all others now.
     Job::Next commit(QString &error, std::optional<ImportResult> &result)
     {
         QList<CsvText::Problem> problems;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Drawing all screens as a job of ProjectDocument.
+// Draws all screens as a job of ProjectDocument.
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/common/files/FileSync.h"
@@ -28,8 +28,8 @@ using Common::LocalizationHelper;
 using Common::Progress;
 using Common::FileSync::reason;
 
-/*! Draws the screens of a project of its own one by one. The pictures wait beside the folder that they are
-   for, so that all of them get there or none. */
+//! Draws the screens of its own copy of a project one by one. The pictures are stored beside the folder until
+//! all of them can be moved into it.
 class PictureRun
 {
     Q_DISABLE_COPY_MOVE(PictureRun)
@@ -39,14 +39,14 @@ public:
         : m_folder(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()))
     { }
 
-    //! In another thread: takes a copy of the project.
+    //! Runs in another thread: copies the project.
     bool copy(const Project &project, QThread *thread, Progress &progress, QString &error)
     {
         m_project = ProjectCopy::make(project, thread, progress, error);
         return m_project != nullptr;
     }
 
-    //! A screen is drawn and its picture is written in the step after that.
+    //! Draws a screen; the next step writes its picture.
     Job::Next draw(Progress &progress, QString &error)
     {
         if (!m_workshop && !begin(progress, error)) {
@@ -73,7 +73,7 @@ public:
         return Job::Next::More;
     }
 
-    //! In another thread: brings the pictures to their place. Empty, with an error, when that fails.
+    //! Runs in another thread: moves the pictures into the folder. Empty, with an error, on failure.
     QStringList deliver(const Progress &progress, QString &error) const
     {
         QStringList paths;
@@ -138,8 +138,8 @@ private:
     QString m_folder;
     std::unique_ptr<Project> m_project;
     std::unique_ptr<Common::TemporaryFolder> m_workshop;
-    QStringList m_names; //!< of the pictures of the screens that are drawn, in their order
-    QImage m_picture;    //!< the last of them, until it is written
+    QStringList m_names; //!< of the pictures drawn so far, in order
+    QImage m_picture;    //!< the last picture, until it is written
 };
 
 } // namespace
@@ -159,7 +159,7 @@ std::unique_ptr<ProjectDocument::RenderJob> ProjectDocument::renderScreens(const
     job->addInSlices([run, reader = job.get(), document = QPointer<ProjectDocument>(this)](Progress &progress,
                                                                                            QString &error) {
         if (document) {
-            document->removeReader(reader); // The copy does not care about edits.
+            document->removeReader(reader); // edits do not affect the copy
         }
         return run->draw(progress, error);
     });

@@ -57,11 +57,11 @@ public:
     bool commitGesture();
     //! Restores project and history to the start of the gesture.
     bool rollBackGesture();
-    /*! Pushes a command that is part of a run: the steps of an arrow key or of the wheel. All commands of one
-       text make one step of the history. A run ends by itself after a pause, and before anything else that
-       the user does: another command, undo, redo, save, a new selection, a job. */
+    //! Pushes a command that is part of a run: the steps of an arrow key or of the wheel. All commands with
+    //! the same text form one step of the history. A run ends after a pause, and before anything else that
+    //! the user does: another command, undo, redo, save, a new selection, a job.
     bool pushInRun(const QString &text, UndoCommand *command);
-    //! In milliseconds, in place of UndoStack::runPause.
+    //! In milliseconds; replaces UndoStack::runPause.
     void setRunPause(int pause) { m_runPause = pause; }
 
     // The file.
@@ -93,8 +93,7 @@ public:
     QList<DesignerObject *> selection() const;
     void select(const QList<DesignerObject *> &objects);
 
-    // Jobs. During a gesture they are not started, and the result is null. A cancelled job leaves nothing
-    // behind.
+    // Jobs. During a gesture they are not started, and the result is null. A cancelled job changes nothing.
     using CheckJob = Common::ResultJob<QList<Problem>>;
     //! Searches for problems. An edit cancels the job.
     std::unique_ptr<CheckJob> check(const ConfigurationContainer &models);
@@ -110,15 +109,16 @@ public:
         qsizetype unchangedVariables = 0;
     };
     using ImportJob = Common::ResultJob<ImportResult>;
-    /*! Takes over a table of variables as VariableImport reads it, in one step of the history. It fails, and
-       nothing is taken over, if a line is wrong or a value is not valid; the error then names all those
-       lines. A null \a separator is found by the first line. Edits are refused until the job is finished or
-       cancelled. */
+    /*! Imports a table of variables in the form of VariableImport, in one step of the history. If a line is
+        wrong or a value is invalid, it fails and changes nothing; the error lists all those lines. A null \a
+        separator is detected in the first line. Edits are refused until the job has finished or was
+        cancelled.
+    */
     std::unique_ptr<ImportJob> importVariables(const QByteArray &table, QChar separator = {});
     using RenderJob = Common::ResultJob<QStringList>;
-    /*! Draws all screens as the canvas shows them, to "NAME.png" in \a folder, which is made if it is
-       missing. Other files stay there. The result is the paths of the pictures. It works with a copy of the
-       project, and an edit before the copy is complete cancels it. Needs a QApplication. */
+    //! Draws all screens as the canvas shows them, to "NAME.png" in \a folder, which is created if necessary.
+    //! Other files are kept. The result contains the paths of the pictures. The job works on a copy of the
+    //! project; an edit before the copy is complete cancels it. Needs a QApplication.
     std::unique_ptr<RenderJob> renderScreens(const QString &folder);
 
 signals:

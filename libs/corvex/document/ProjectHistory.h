@@ -63,7 +63,7 @@ public:
     bool beginGesture(const QString &text);
     bool commitGesture();
     bool rollBackGesture();
-    // The same for a run, see UndoStack. It ends by itself, so an undo may follow at once.
+    // The same for a run, see UndoStack. It ends by itself, so an undo may follow immediately.
     bool pushInRun(const QString &text, UndoCommand *command, int pause = UndoStack::runPause);
     void endRun();
     //! Called before each change on any of the stacks, see UndoStack.

@@ -41,8 +41,8 @@ public:
         PathRole,
         ValidRole,  //!< whether it is valid, including everything in it
         ErrorsRole, //!< the reasons if it is invalid: texts for the user, "title of the property: reason"
-        //! The number of the worst Severity among the problems of the object itself; approved problems do not
-        //! count. Invalid if there are none. See setProblems().
+        //! The number of the worst Severity among the object's own problems, ignoring approved ones. Invalid
+        //! if there are none. See setProblems().
         SeverityRole,
     };
     Q_ENUM(Role)
@@ -51,7 +51,7 @@ public:
     explicit ObjectTreeModel(ProjectDocument &document, QObject *parent = nullptr);
     ~ObjectTreeModel() override;
 
-    //! Sets the list that SeverityRole reads; null for none. Not owned.
+    //! Sets the list for SeverityRole; may be null. Not owned.
     void setProblems(const ProblemList *problems);
 
     //! Null for a list.

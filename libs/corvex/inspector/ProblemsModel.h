@@ -11,8 +11,8 @@ namespace Halvane::Corvex::Designer {
 
 class ProblemList;
 
-/*! The problems of a ProblemList as a table: message, and place. It sorts nothing; problems come in the order
-    in which they were found. Put a proxy between the model and a view to sort or filter them. */
+//! The problems of a ProblemList as a table with message and place, in the order in which they were found. To
+//! sort or filter them, put a proxy between the model and a view.
 class CORVEX_EXPORT ProblemsModel
     : public QAbstractTableModel
     , private ModelObserver
@@ -26,22 +26,22 @@ public:
         SeverityNameRole,                //!< "error", "warning" or "hint"
         CodeRole,                        //!< the stable word, such as "name.taken"
         MessageRole,
-        PathRole,     //!< of the object, as ProjectPath reads it
+        PathRole,     //!< of the object, in the form of ProjectPath
         PropertyRole, //!< the id of the property; empty for a problem of the whole object
         ObjectRole,   //!< DesignerObject *; null for a problem of the file
         CureRole,     //!< what the user can do about problems of this kind
-        ApprovedRole, //!< whether somebody knows of it and wants it so
-        FixesRole,    //!< the texts of fixes(). Takes time, so ask when the user opens a menu.
+        ApprovedRole, //!< whether the problem is known and intended
+        FixesRole,    //!< the texts of fixes(); slow, so use it when the user opens a menu
     };
     Q_ENUM(Role)
 
-    //! The list must live as long as the model is used.
+    //! The list must outlive the model.
     explicit ProblemsModel(ProblemList &problems, QObject *parent = nullptr);
     ~ProblemsModel() override;
 
-    //! The row must be there, and the reference is good until the list changes.
+    //! The row must exist. The reference is valid until the list changes.
     const Problem &problem(int row) const;
-    //! What the project offers to solve the problem. Push the command that a fix makes.
+    //! The fixes that the project offers. Push the command that a fix creates.
     QList<ProblemFix> fixes(int row) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;

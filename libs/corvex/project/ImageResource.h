@@ -58,9 +58,9 @@ public:
     static DesignerObject *createImageElement(const QString &name, const QSizeF &size,
                                               const QPointF &position);
 
-    /*! Adds local image files to the project of \a screen, with an element for each at \a position, as one
-        step of the history. Existing images of the project are reused. Reports files that are not images or
-        have invalid names to the user. Returns false if nothing was added. */
+    //! Adds local image files to the project of \a screen, with an element for each at \a position, as one
+    //! step of the history. Existing images of the project are reused. Reports files that are not images or
+    //! have invalid names to the user. Returns false if nothing was added.
     static bool addImagesFromUrls(const QList<QUrl> &urls, Screen *screen, const QPointF &position,
                                   QWidget *parentWidget = nullptr);
 

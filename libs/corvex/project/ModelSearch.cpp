@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the records of values find in the model.
+// The functions that value records need from the model.
 #include "corvex/core/ItemList.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
@@ -47,7 +47,8 @@ class ModelSearch final : public ModelLookup
 public:
     ModelSearch() { provide(this); }
 
-    //! Elements have all elements of their screen for siblings, other objects those in their list.
+    //! The siblings of an element are all elements of its screen; those of other objects are in the same
+    //! list.
     qsizetype siblingsNamed(const DesignerObject &object, const QString &name) const override
     {
         if (object.screen() && object.isKindOfClass(Element::kindName())) {

@@ -20,7 +20,7 @@ namespace {
 
 QTextStream out(stdout);
 
-//! "Opacity = 100": what all columns of the row show.
+//! "Opacity = 100": the texts of all columns in the row.
 QString textOf(const QModelIndex &row)
 {
     QStringList cells;
@@ -39,7 +39,7 @@ void print(const QAbstractItemModel &model, const QModelIndex &parent = {}, int 
     }
 }
 
-//! Prints the model, and from then on each change of a row.
+//! Prints the model, and then each change of a row.
 void follow(const QAbstractItemModel &model, const QString &title)
 {
     using Model = QAbstractItemModel;
@@ -64,7 +64,8 @@ void follow(const QAbstractItemModel &model, const QString &title)
 
 } // namespace
 
-//! inspect PROJECT PATH: shows a project and the properties of one object while it makes the edits it reads.
+//! inspect PROJECT PATH: shows a project and the properties of one object while it makes the edits that it
+//! reads.
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");

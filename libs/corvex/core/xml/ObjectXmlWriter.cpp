@@ -223,7 +223,7 @@ void ObjectXmlWriter::closeObject(const DesignerObject *object, int level)
     closeTag(object->className(), level);
 }
 
-//! Up to the value of the property, or its list or object.
+//! Writes the start up to the value of the property, or its list or object.
 void ObjectXmlWriter::openProperty(const DesignerProperty &property, int level)
 {
     startLine(level);

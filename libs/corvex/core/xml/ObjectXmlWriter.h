@@ -51,12 +51,12 @@ public:
     bool writeProperties(const DesignerObject *object);
     QString errorString() const { return m_error; }
 
-    //! Ends the writing with an error soon after the progress is cancelled; null for nobody. Not owned.
+    //! Stops the writing with an error soon after the progress is cancelled. May be null. Not owned.
     void setProgress(const Common::Progress *progress) { m_progress = progress; }
-    /*! The same as write(), in pieces of less than a millisecond: call writePiece() until it is false.
-       Nothing that is written may change meanwhile. What is incomplete shows when it is reached. */
+    //! The same as write(), in pieces of less than a millisecond: call writePiece() until it returns false.
+    //! The object must not change meanwhile. Missing parts are only detected when they are reached.
     void begin(const DesignerObject *object);
-    //! False when all is written, or with an errorString().
+    //! Returns false when everything is written, or with an errorString().
     bool writePiece();
 
     //! Whether every object property has its object, and every class with a form of its own returns one. \a
@@ -72,14 +72,14 @@ private:
     void writeObject(const DesignerObject *object, int level);
     void writeOwnProperties(const DesignerObject *object, int level);
     void writeDeclaration();
-    //! False when the object is nested too deeply to be read again.
+    //! Returns false if the object is nested too deeply to be read again.
     bool openObject(const DesignerObject *object, int level);
     void closeObject(const DesignerObject *object, int level);
     void openProperty(const DesignerProperty &property, int level);
     void openPiece(const DesignerObject *object, int level);
     void writeStep();
     void writeNextProperty();
-    //! False, with an error, when the property has no complete object.
+    //! Returns false, with an error, if the property has no complete object.
     bool requireObject(const DesignerProperty &property);
     void writeElement(const QDomElement &element, int level);
     void writeContent(const QDomElement &element);
@@ -97,13 +97,13 @@ private:
     void deliver(QByteArrayView bytes);
     bool isPart() const { return !m_device; }
 
-    //! An object of which writePiece() has written a part.
+    //! An object that writePiece() has written in part.
     struct Frame
     {
         const DesignerObject *object;
         int level;
-        qsizetype property = 0; //!< the next one, or that of the list
-        qsizetype item = -1;    //!< the next one of the list; -1 outside of a list
+        qsizetype property = 0; //!< the next property, or the property with the list
+        qsizetype item = -1;    //!< the next item in the list; -1 outside of a list
     };
 
     QIODevice *m_device; //!< null for a part of a list, which remains in the buffer

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Writing in pieces, for a thread that has other things to do in between.
+// Writes in pieces, so that the thread can process events in between.
 #include "corvex/core/ItemList.h"
 #include "corvex/core/private/DesignerObjectData.h"
 #include "corvex/core/xml/ObjectXmlWriter.h"

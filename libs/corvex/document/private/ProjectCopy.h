@@ -15,17 +15,17 @@ namespace Halvane::Corvex::Designer {
 
 class Project;
 
-//! Projects that are made in one thread and used in another.
+//! Projects that are created in one thread and used in another.
 class ProjectCopy
 {
 public:
-    //! Null, with a text for the user, when none can be made.
+    //! Null, with a text for the user, on failure.
     static std::unique_ptr<Project> makeEmpty(QString &error);
-    /*! A copy of \a project that finds the same images, for \a thread. Nobody changes the project meanwhile.
-       Null, with a text for the user, after a failure or when \a progress is cancelled. */
+    //! A copy of \a project that uses the same images, for \a thread. The project must not change meanwhile.
+    //! Null, with a text for the user, on failure or if \a progress is cancelled.
     static std::unique_ptr<Project> make(const Project &project, QThread *thread, Common::Progress &progress,
                                          QString &error);
-    //! In the thread that has the project so far.
+    //! Call it in the thread that currently owns the project.
     static void handOver(Project &project, QThread *thread);
 };
 

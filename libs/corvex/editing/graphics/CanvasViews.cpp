@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The views of objects, which the factory of core hands out.
+// The views of objects that the factory in core returns.
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/private/ViewMaker.h"
 #include "corvex/editing/graphics/GraphicsItem.h"

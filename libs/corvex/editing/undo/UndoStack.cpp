@@ -91,7 +91,7 @@ bool UndoStack::pushInRun(const QString &text, UndoCommand *command, int pause)
     m_runTimer.start(pause, this);
     const bool isDone = collect(std::move(step));
     if (isDone && !canUndo()) {
-        // Actions may undo the run although it is not in the history yet.
+        // Actions may undo the run even though it is not in the history yet.
         emit canUndoChanged(true);
     }
     return isDone;

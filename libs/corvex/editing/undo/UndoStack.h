@@ -63,7 +63,7 @@ public:
     //! that name. Until then the history is unchanged and cannot move. Returns false, with an error, during
     //! another gesture.
     bool beginGesture(const QString &text);
-    //! Whether a gesture waits for its end. A run does not: see pushInRun().
+    //! Whether a gesture has begun and not ended. A run does not count: see pushInRun().
     bool hasGesture() const { return m_gesture && !isInRun(); }
     //! Whether the current gesture or run has changed anything.
     bool hasChangedInGesture() const;
@@ -72,17 +72,18 @@ public:
     //! Restores model and history to the start of the gesture. Returns false if there is no gesture.
     bool rollBackGesture();
 
-    //! A run ends when nothing is added to it for so long.
+    //! A run ends when nothing is added to it for this time.
     static constexpr int runPause = 700; // milliseconds
     /*! Does a command that is part of a run, such as the steps of an arrow key or of the wheel. All commands
-       of one text make one step of the history. A run ends by itself after a pause, and before any other
-       command, an undo or a redo. Nobody has to wait for it. Within a gesture the command belongs to the
-       gesture. */
+        with the same text form one step of the history. A run ends after a pause, and before any other
+        command, an undo or a redo; it needs no explicit end. Within a gesture the command belongs to the
+        gesture.
+    */
     bool pushInRun(const QString &text, UndoCommand *command, int pause = runPause);
     //! Ends the run now, if there is one.
     void endRun();
     bool isInRun() const { return m_runTimer.isActive(); }
-    //! The text of the gesture or the run that goes on; empty without one.
+    //! The text of the current gesture or run; empty if there is none.
     QString gestureText() const;
 
     //! Deletes the objects that commands have named for deletion, except those that are back in the model.
@@ -142,7 +143,7 @@ private:
     int m_previousIndex = 0;
     int m_currentIndex = 0;
     bool m_hasFailed = false;
-    std::unique_ptr<Gesture> m_gesture; //!< or the run that goes on
+    std::unique_ptr<Gesture> m_gesture; //!< the current gesture or run
     QBasicTimer m_runTimer;             //!< active during a run
     Gate m_gate;
     bool m_isStartSaved = true;

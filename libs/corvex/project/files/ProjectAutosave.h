@@ -33,7 +33,7 @@ public:
     static constexpr int longestInterval = 120;
 
     explicit ProjectAutosave(Project *project);
-    //! Completes a run that goes on.
+    //! Completes an active run.
     ~ProjectAutosave() override;
 
     //! Restarts the timer with the minutes in the user's setting "autoIntervalTime". Without a valid setting
@@ -95,7 +95,7 @@ private:
     bool m_isRunning = false;
     bool m_isPaused = false;
     QString m_archive;
-    std::shared_ptr<AutosaveRun> m_work; //!< of the job, null without one
+    std::shared_ptr<AutosaveRun> m_work; //!< of the job; null without a job
     std::unique_ptr<Common::Job> m_job;
 };
 

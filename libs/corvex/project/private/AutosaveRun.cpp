@@ -16,11 +16,11 @@ namespace {
 using Common::Job;
 using Common::LocalizationHelper;
 
-//! After so many edits in the way the rest is written at once, or a long drag would put the autosave off for
-//! ever.
+//! After this many interruptions by edits the rest is written at once; otherwise a long drag could postpone
+//! the autosave indefinitely.
 constexpr int mostRestarts = 100;
 
-//! Notes that anything has changed that a file of the project holds.
+//! Records whether anything has changed that a project file contains.
 class ChangeWatch final : public ModelObserver
 {
 public:

@@ -15,8 +15,8 @@ namespace Halvane::Corvex::Designer {
 class ModelObserver;
 class Project;
 
-/*! One autosave: writes the project into a temporary folder, in small pieces, and packs that folder. When the
-    project changes between two pieces, the writing begins again. */
+//! One autosave: writes the project into a temporary folder, in small pieces, and packs that folder. If the
+//! project changes between two pieces, the writing starts over.
 class AutosaveRun
 {
     Q_DISABLE_COPY_MOVE(AutosaveRun)
@@ -25,12 +25,12 @@ public:
     AutosaveRun(Project &project, const QString &archive);
     ~AutosaveRun();
 
-    //! In the thread of the project.
+    //! Call it in the thread of the project.
     Common::Job::Next write(Common::Progress &progress, QString &error);
-    //! In any thread, once the project is written. Nothing is left of an archive that fails.
+    //! Call it in any thread after the project was written. A failed archive is deleted.
     bool pack(Common::Progress &progress, QString &error);
     bool isPacked() const { return m_isPacked; }
-    //! Calls \a restarted whenever the writing begins, with the project as it is at that moment.
+    //! Calls \a restarted whenever the writing starts, with the project in its current state.
     void onRestart(std::function<void()> restarted) { m_restarted = std::move(restarted); }
 
 private:
@@ -46,7 +46,7 @@ private:
     std::optional<ProjectResources> m_resources;
     std::function<void()> m_restarted;
     int m_restarts = 0;
-    bool m_hasChanged = true; //!< since the writing has begun
+    bool m_hasChanged = true; //!< since the writing has started
     bool m_isPacked = false;
 };
 

@@ -51,7 +51,7 @@ bool ProjectResources::copyTo(const QString &folder, QString *error, const Commo
             return false;
         }
         const QString copy = target.filePath(file.name);
-        // Two resources with one name show one file.
+        // Two resources with the same name share one file.
         if (!QFileInfo(file.path).isFile() || QFileInfo::exists(copy)) {
             continue;
         }

@@ -13,21 +13,20 @@ namespace Halvane::Corvex::Designer {
 
 class Project;
 
-//! The files that belong to a project beside its own: those of its images, its preview, and the
-//! problems that the user has approved.
+//! The files of a project besides the project file: its images, its preview, and the approved problems.
 class ProjectResources
 {
 public:
-    //! Takes down what the project names now. After that the project is not needed.
+    //! Records the files that the project currently uses. The project is not needed afterwards.
     explicit ProjectResources(const Project &project);
 
-    //! Copies the files that exist to their places in \a folder. Stops with an error when \a progress, which
-    //! may be null, is cancelled.
+    //! Copies the existing files to their places in \a folder. Stops with an error if \a progress, which may
+    //! be null, is cancelled.
     bool copyTo(const QString &folder, QString *error, const Common::Progress *progress = nullptr) const;
 
     static QString imagesFolder();
     static QString approvalsFile();
-    //! The names of all files that are no images.
+    //! The names of all files that are not images.
     static QStringList otherFiles();
 
 private:

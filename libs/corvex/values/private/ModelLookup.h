@@ -16,8 +16,8 @@ class Project;
 class ProjectVariable;
 class Screen;
 
-//! What value records ask the model, which is on a higher layer. The model provides it when the library is
-//! loaded.
+//! The functions that value records need from the model, which is on a higher layer and provides them when
+//! the library is loaded.
 class ModelLookup
 {
     Q_DISABLE_COPY_MOVE(ModelLookup)
@@ -25,11 +25,11 @@ class ModelLookup
 public:
     virtual ~ModelLookup() = default;
 
-    //! How many siblings of the object, itself left out, have that name.
+    //! The number of siblings with that name, excluding the object.
     virtual qsizetype siblingsNamed(const DesignerObject &object, const QString &name) const = 0;
     //! Whether the object of the property is in a project.
     virtual bool isInProject(const QSharedPointer<DesignerProperty> &property) const = 0;
-    // Null without one of that name.
+    // Null if there is none with that name.
     virtual ProjectVariable *variable(const Project &project, const QString &name) const = 0;
     virtual DesignerObject *element(const Screen &screen, const QString &name) const = 0;
     //! See ObjectLinkInfo::findLinks().

@@ -11,9 +11,8 @@ namespace Halvane::Corvex::Designer {
 
 class DesignerObject;
 
-/*! The name of an object, its class, and the scope in which the name is known ("Project", "Screen"). Any name
-    can be stored; the validators of the model check it.
-*/
+//! The name of an object, its class, and the scope in which the name is known ("Project", "Screen"). Any name
+//! can be stored; the validators of the model check it.
 class CORVEX_EXPORT IdentifierInfo
 {
 public:

@@ -90,7 +90,7 @@ bool isOuterBlank(QStringView text, qsizetype index)
     return (index == 0 || index == text.size() - 1) && text[index].isSpace();
 }
 
-//! Whether there is nothing to escape, as in nearly all names.
+//! Whether there is nothing to escape, as in almost all names.
 bool isPlainName(QStringView text)
 {
     return std::ranges::all_of(text, [](QChar character) {

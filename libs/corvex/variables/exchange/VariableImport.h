@@ -34,12 +34,12 @@ public:
     //! is detected in the first line. The table can be imported if there are no problems.
     VariableImport(const QByteArray &csv, const DesignerObject &project, QChar separator = {});
 
-    // The same in steps.
+    // The same in several steps.
     explicit VariableImport(const DesignerObject &project);
-    //! Splits the table into rows. It does not look at the project, so it may run in another thread.
+    //! Splits the table into rows. Does not use the project, so it may run in another thread.
     void begin(const QByteArray &csv, QChar separator = {});
     qsizetype rowCount() const { return m_rows.size(); }
-    //! Compares the next row; false when there was none.
+    //! Compares the next row. Returns false if there was none.
     bool readRow();
 
     const QList<Change> &changes() const { return m_changes; }

@@ -15,7 +15,7 @@ class CORVEX_EXPORT ImportVariables : public ModelCommand
 public:
     //! Takes the new variables of \a import, which was created for the project with the list \a variables.
     ImportVariables(const SharedProperty &variables, VariableImport &import);
-    //! Takes over a part of an import.
+    //! Applies a part of an import.
     ImportVariables(const SharedProperty &variables, const QList<VariableImport::Change> &changes,
                     std::vector<std::unique_ptr<DesignerObject>> additions);
 };
