@@ -191,7 +191,7 @@ TEST_F(ProblemFixTest, SolvesTheProblemAndCanBeUndone)
                      << ProblemKind::of(code).word << ' ' << id << ' ' << qPrintable(value));
         const QString good = property(object, id)->valueString();
         force(object, id, value);
-        const Problem *problem = find(code, object, id);
+        const Problem *problem = find(code, object, code == PasswordEmpty ? "password" : id);
         ASSERT_TRUE(problem) << qPrintable(messages().join(u'\n'));
         const Problem solved = *problem;
         const QList<ProblemFix> fixes = ProblemFix::of(solved);
