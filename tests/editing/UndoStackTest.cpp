@@ -150,6 +150,31 @@ TEST(UndoStackTest, ARunEndsByItself)
     EXPECT_EQ(texts(), u"Drag"_s);
 }
 
+TEST(UndoStackTest, AGestureDoesNotEndWhileItsCommandIsDone)
+{
+    //! Does what receivers of a command's signals may do.
+    class Meddling : public Step
+    {
+    public:
+        void redo() override
+        {
+            stack->endRun();
+            isEnded = stack->commitGesture() || stack->rollBackGesture() || stack->isOpen();
+            Step::redo();
+        }
+        UndoStack *stack = nullptr;
+        bool isEnded = false;
+    };
+    UndoStack stack;
+    auto *command = new Meddling;
+    command->stack = &stack;
+    ASSERT_TRUE(stack.pushInRun(u"Move"_s, command));
+    EXPECT_FALSE(command->isEnded);
+    stack.endRun();
+    EXPECT_EQ(stack.count(), 1);
+    EXPECT_EQ(command->done, 1);
+}
+
 TEST(UndoStackTest, AFailedMacroIsUndoneAsAWhole)
 {
     UndoStack stack;

@@ -100,7 +100,6 @@ bool UndoStack::pushInRun(const QString &text, UndoCommand *command, int pause)
 void UndoStack::endRun()
 {
     if (isInRun()) {
-        m_runTimer.stop();
         commitGesture();
     }
 }
@@ -147,10 +146,14 @@ void UndoStack::addCandidate(DesignerObject *candidate)
 bool UndoStack::collect(std::unique_ptr<UndoCommand> command)
 {
     const QPointer<DesignerObject> candidate = command->deletionCandidate();
+    // Receivers of its signals may try to end the gesture.
+    const bool wasBusy = m_gesture->isBusy();
+    m_gesture->setBusy(true);
     const UndoCommand::Start start = command->start();
     if (start == UndoCommand::Start::Later) {
         command->redo();
     }
+    m_gesture->setBusy(wasBusy);
     if (start == UndoCommand::Start::Failed || command->isObsolete()) {
         m_errorString = command->errorString();
         return false;
@@ -189,6 +192,9 @@ bool UndoStack::hasChangedInGesture() const
 
 bool UndoStack::commitGesture()
 {
+    if (m_gesture && m_gesture->isBusy()) {
+        return false;
+    }
     m_runTimer.stop();
     const std::unique_ptr<Gesture> gesture = std::move(m_gesture);
     if (std::unique_ptr<UndoCommand> command = gesture ? gesture->takeCommand() : nullptr) {
@@ -199,6 +205,9 @@ bool UndoStack::commitGesture()
 
 bool UndoStack::rollBackGesture()
 {
+    if (m_gesture && m_gesture->isBusy()) {
+        return false;
+    }
     m_runTimer.stop();
     const std::unique_ptr<Gesture> gesture = std::move(m_gesture);
     if (gesture) {

@@ -27,6 +27,9 @@ public:
     void add(std::unique_ptr<UndoCommand> command);
     const QString &text() const { return m_text; }
     bool isEmpty() const { return m_commands.empty(); }
+    //! Whether a command is being done. The gesture must not end before it is added.
+    bool isBusy() const { return m_isBusy; }
+    void setBusy(bool isBusy) { m_isBusy = isBusy; }
     //! Undoes all commands.
     void rollBack();
     //! All commands as one, which is already done. Null if the gesture is empty.
@@ -41,6 +44,7 @@ private:
 
     QString m_text;
     Commands m_commands;
+    bool m_isBusy = false;
     QHash<const DesignerProperty *, Run> m_runs; //!< since the last command that did more than set one value
 };
 
