@@ -89,6 +89,24 @@ TEST_F(ProblemApprovalsTest, AreCountedApartAndSavedInOrder)
     EXPECT_FALSE(QFile::exists(project->approvalsPath()));
 }
 
+TEST_F(ProblemApprovalsTest, KeepWhatOthersWrote)
+{
+    approvals->approve(fading());
+    ASSERT_TRUE(approvals->save());
+    const QByteArray ours = fileText();
+    const QByteArray theirs = R"({"code":"log.unfed","message":"m","object":"history"})"
+                              "\n";
+    writeFile(ours + theirs);
+    approvals->approve(problemOf(variable("history"), ProblemCode::LogUnfed));
+    ASSERT_TRUE(approvals->save());
+    EXPECT_TRUE(fileText().contains(theirs));
+    EXPECT_EQ(fileText().count('\n'), 3);
+    writeFile(fileText().replace(ours, ""));
+    ASSERT_TRUE(approvals->save());
+    EXPECT_FALSE(approvals->isApproved(fading()));
+    EXPECT_EQ(fileText().count('\n'), 2);
+}
+
 TEST_F(ProblemApprovalsTest, FollowNames)
 {
     set(element("pwmOutput1"), "channel", u"1"_s);

@@ -10,6 +10,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 #include <map>
@@ -122,22 +123,34 @@ public:
         load();
         emit m_approvals.changed();
     }
-    void projectSaved() override { save(); }
+    void projectSaved() override
+    {
+        if (!save()) {
+            emit m_approvals.saveFailed(m_error);
+        }
+    }
     void projectAboutToBeDestroyed() override { m_project = nullptr; }
 
 private:
     using ByMessage = std::multimap<QString, Approval>;
 
     bool readFile(QByteArray &bytes);
+    bool addLine(const QByteArray &line);
+    bool takeOver(const QByteArray &contents);
     bool write(const QByteArray &bytes);
     bool fail(const QString &english, const QString &reason = {});
+    bool failAt(int line)
+    {
+        return fail(u"Line %2 of the file \"%1\" is not an approval. Correct or delete the line."_s,
+                    QString::number(line));
+    }
     QByteArray contents() const;
 
     Project *m_project;
     ProblemApprovals &m_approvals;
     ByMessage m_all;
     QByteArray m_known; //!< the contents of the file
-    QString m_path;     //!< of the file that was last read or written
+    QString m_path;     //!< where it was read or written last
     QString m_error;
     bool m_isUnreadable = false;
 };
@@ -160,7 +173,8 @@ bool ProblemApprovals::Follower::readFile(QByteArray &bytes)
                                   : file.errorString());
     }
     bytes = file.readAll();
-    return true;
+    return file.error() == QFileDevice::NoError
+           || fail(u"The file \"%1\" cannot be read: %2"_s, file.errorString());
 }
 
 void ProblemApprovals::Follower::load()
@@ -176,18 +190,53 @@ void ProblemApprovals::Follower::load()
         if (line.trimmed().isEmpty()) {
             continue;
         }
-        std::optional<Approval> approval = read(line);
-        if (!approval) {
+        if (!addLine(line)) {
             m_isUnreadable = true;
-            fail(u"Line %2 of the file \"%1\" is not an approval. Correct or delete the line."_s,
-                 QString::number(number));
+            failAt(number);
             m_all.clear();
             return;
         }
+    }
+}
+
+bool ProblemApprovals::Follower::addLine(const QByteArray &line)
+{
+    std::optional<Approval> approval = read(line);
+    if (approval) {
         approval->object = ProjectPath::find(*m_project, approval->path).object;
         approval->isResolved = approval->object;
         m_all.emplace(approval->message, *approval);
     }
+    return approval.has_value();
+}
+
+//! Adds and removes what others have added to the file and removed from it since it was read. Only adds the
+//! lines of a file that was never read, as after a recovery.
+bool ProblemApprovals::Follower::takeOver(const QByteArray &contents)
+{
+    const QList<QByteArray> theirs = contents.split('\n');
+    const QList<QByteArray> known =
+        m_path == m_project->approvalsPath() ? m_known.split('\n') : QList<QByteArray>();
+    const QSet<QByteArray> inFile(theirs.begin(), theirs.end());
+    const QSet<QByteArray> before(known.begin(), known.end());
+    QSet<QByteArray> ours;
+    for (const auto &[message, approval] : m_all) {
+        ours.insert(written(approval).chopped(1));
+    }
+    std::erase_if(m_all, [&](const auto &entry) {
+        const QByteArray line = written(entry.second).chopped(1);
+        return before.contains(line) && !inFile.contains(line);
+    });
+    for (qsizetype i = 0; i < theirs.size(); ++i) {
+        const QByteArray &line = theirs[i];
+        const bool isNew = !line.trimmed().isEmpty() && !before.contains(line) && !ours.contains(line);
+        if (isNew && !addLine(line)) {
+            return failAt(int(i) + 1);
+        }
+    }
+    m_known = contents;
+    m_path = m_project->approvalsPath();
+    return true;
 }
 
 QByteArray ProblemApprovals::Follower::contents() const
@@ -214,12 +263,13 @@ bool ProblemApprovals::Follower::save()
     if (!m_project || m_project->approvalsPath().isEmpty() || m_isUnreadable) {
         return !m_isUnreadable;
     }
-    const QByteArray lines = contents();
-    if (lines == m_known && m_path == m_project->approvalsPath()) {
-        return true;
-    }
     m_error.clear();
-    if (!write(lines)) {
+    QByteArray inFile;
+    if (!readFile(inFile) || (inFile != m_known && !takeOver(inFile))) {
+        return false;
+    }
+    const QByteArray lines = contents();
+    if (lines != m_known && !write(lines)) {
         return false;
     }
     m_known = lines;

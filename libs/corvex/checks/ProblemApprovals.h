@@ -22,7 +22,8 @@ class Project;
     moved, the approval and the names in its message are updated. A deleted object takes its approvals with
     it; undo restores them. Approvals of objects that the project does not have remain in the file unchanged.
 
-    The file is written when the project is saved. A file that cannot be read is never overwritten.
+    The file is written when the project is saved. What others have added to it or removed from it meanwhile
+    is kept. A file that cannot be read is never overwritten.
 */
 class CORVEX_EXPORT ProblemApprovals : public QObject
 {
@@ -55,6 +56,8 @@ public:
 signals:
     //! The set of approved problems has changed.
     void changed();
+    //! The project was saved, but the approvals could not be written.
+    void saveFailed(const QString &reason);
 
 private:
     class Follower;

@@ -29,6 +29,9 @@ class Project;
     When an object leaves the project, its problems are removed within the same operation. Therefore a slot
     must not change the model, and must not call update(). The list follows one project; if that is destroyed
     first, the list becomes empty.
+
+    Checking an object writes to its properties. Call update() before another thread reads the project, for
+    example before a job of ProjectDocument. No edit runs beside such a job, so nothing is marked meanwhile.
 */
 class CORVEX_EXPORT ProblemList : public QObject
 {
