@@ -56,9 +56,10 @@ void Job::startNext()
         m_timer.start(0);
         return;
     }
-    auto work = std::get<Work>(std::move(part));
-    m_thread.reset(QThread::create([this, work = std::move(work)] { m_isDone = work(m_progress, m_error); }));
-    connect(m_thread.get(), &QThread::finished, this, &Job::endPart);
+    // The connection keeps the work, so that it is destroyed in this thread with all that it holds.
+    const auto work = std::make_shared<Work>(std::get<Work>(std::move(part)));
+    m_thread.reset(QThread::create([this, work = work.get()] { m_isDone = (*work)(m_progress, m_error); }));
+    connect(m_thread.get(), &QThread::finished, this, [this, work] { endPart(); });
     m_timer.start(reportInterval);
     m_thread->start();
     if (!m_thread->isRunning() && !m_thread->isFinished()) {
