@@ -473,6 +473,10 @@ TEST_F(ProjectDocumentTest, AllScreensAreDrawnOrNone)
     auto job = document->renderScreens(path(u"file/pictures"_s));
     EXPECT_EQ(outcomeOf(*job), Job::Outcome::Failed);
     EXPECT_FALSE(job->errorString().isEmpty());
+    document->project().screens()->listItems().constLast()->setIdName(u"../../report"_s);
+    job = document->renderScreens(target);
+    EXPECT_EQ(outcomeOf(*job), Job::Outcome::Failed);
+    EXPECT_TRUE(job->errorString().contains(u"../../report"_s)) << qPrintable(job->errorString());
 }
 
 } // namespace Halvane::Corvex::Designer

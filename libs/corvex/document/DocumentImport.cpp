@@ -164,8 +164,10 @@ std::unique_ptr<ProjectDocument::ImportJob> ProjectDocument::importVariables(con
         return nullptr;
     }
     auto job = std::make_unique<ImportJob>();
-    addReader(job.get(), LocalizationHelper::coreString(
-                             u"Variables are being imported. Wait for the end, or cancel the import."_s));
+    addReader(job.get(),
+              LocalizationHelper::coreString(
+                  u"Variables are being imported. Wait for the end, or cancel the import."_s),
+              true);
     auto run = std::make_shared<ImportRun>(*this);
     job->addInThread([run, table, separator](Progress &progress, QString &) {
         progress.begin(LocalizationHelper::coreString(u"Reading the table"_s));

@@ -91,18 +91,24 @@ bool ProjectDocument::isFree(QString &reason)
     return true;
 }
 
-//! Refuses to read the project during a gesture.
+//! Refuses to read the project during a gesture, in the middle of an edit, and while a job edits it.
 bool ProjectDocument::mayRead()
 {
+    for (const Reader &reader : std::as_const(m_readers)) {
+        if (reader.edits && reader.job && reader.job->isRunning()) {
+            return result(false, reader.refusal);
+        }
+    }
     m_history->endRun();
+    const UndoStack *stack = m_project->undoStack();
     return result(
-        !m_project->undoStack()->hasGesture(),
+        !stack->hasGesture() && !stack->isInRun(),
         LocalizationHelper::coreString(u"An edit is not finished yet. Finish or cancel it first."_s));
 }
 
-void ProjectDocument::addReader(Common::Job *job, const QString &refusal)
+void ProjectDocument::addReader(Common::Job *job, const QString &refusal, bool edits)
 {
-    m_readers.append({job, refusal});
+    m_readers.append({job, refusal, edits});
 }
 
 void ProjectDocument::removeReader(const Common::Job *job)

@@ -59,6 +59,15 @@ public:
             return Job::Next::Done;
         }
         auto *screen = static_cast<Screen *>(m_project->screens()->getListItemAtIndex(int(m_names.size())));
+        const QString name = screen->getIdName() + u".png"_s;
+        // A project's file may contain any text as a name.
+        if (QFileInfo(name).fileName() != name || m_names.contains(name)) {
+            error =
+                LocalizationHelper::coreString(
+                    u"The name of the screen \"%1\" cannot be the name of a picture. Rename the screen."_s)
+                    .arg(screen->getIdName());
+            return Job::Next::Failed;
+        }
         m_picture = CanvasScene(screen).picture();
         if (m_picture.isNull()) {
             error =
@@ -68,7 +77,7 @@ public:
                     .arg(screen->getIdName());
             return Job::Next::Failed;
         }
-        m_names.append(screen->getIdName() + u".png"_s);
+        m_names.append(name);
         progress.advance();
         return Job::Next::More;
     }

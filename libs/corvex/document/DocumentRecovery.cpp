@@ -78,7 +78,7 @@ bool ProjectDocument::recover()
     }
     m_project->setFileFields(parent, sub, file); // the images check their files again
     m_history->setUnsaved();
-    m_isComplete = true;
+    m_isComplete = m_isComplete && !losesParts();
     setRecovery(false);
     m_ownsAutosave = true;
     onHistoryChanged();

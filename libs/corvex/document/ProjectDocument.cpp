@@ -21,12 +21,6 @@ namespace {
 
 using Common::LocalizationHelper;
 
-bool losesParts(const Project &project)
-{
-    return std::ranges::any_of(project.readNotes(),
-                               [](const ReadNote &note) { return note.kind == ReadNote::Dropped; });
-}
-
 } // namespace
 
 ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *parent)
@@ -34,7 +28,7 @@ ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *pare
     , m_project(std::move(project))
     , m_history(std::make_unique<ProjectHistory>(*m_project))
     , m_watch(std::make_unique<FileWatch>())
-    , m_isComplete(!losesParts(*m_project))
+    , m_isComplete(!losesParts())
 {
     m_history->setGate([this](QString &reason) { return m_isOwnEdit || isFree(reason); });
     connect(m_history.get(), &ProjectHistory::changed, this, &ProjectDocument::onHistoryChanged);
@@ -75,6 +69,13 @@ ProjectDocument::~ProjectDocument()
     if (ownsAutosave) {
         QFile::remove(archive);
     }
+}
+
+//! Whether a save would lose something that was in the file.
+bool ProjectDocument::losesParts() const
+{
+    return std::ranges::any_of(m_project->readNotes(),
+                               [](const ReadNote &note) { return note.kind == ReadNote::Dropped; });
 }
 
 bool ProjectDocument::result(bool isDone, const QString &error)
@@ -209,6 +210,7 @@ bool ProjectDocument::save(Overwrite overwrite)
     m_isComplete = true;
     m_watch->watch(m_project->fullFilePath());
     m_watch->accept();
+    m_project->autosave().cancel(); // It would bring the file from before back if it failed.
     removeAutosave();
     updateModified();
     return result(true, {});
@@ -226,7 +228,7 @@ bool ProjectDocument::reload()
     }
     select({});
     const bool isLoaded = m_project->loadFile(path);
-    m_isComplete = !losesParts(*m_project);
+    m_isComplete = !losesParts();
     m_watch->accept();
     onHistoryChanged();
     return result(isLoaded, m_project->fileError());

@@ -131,11 +131,12 @@ private:
     bool isFree(QString &reason);
     bool mayRead();
     //! An edit cancels the job, or is refused with \a refusal.
-    void addReader(Common::Job *job, const QString &refusal = {});
+    void addReader(Common::Job *job, const QString &refusal = {}, bool edits = false);
     void removeReader(const Common::Job *job);
     bool result(bool isDone, const QString &error);
     bool canOverwrite();
     bool canLoad(const QString &path);
+    bool losesParts() const;
     bool writeMissingFile();
     void onHistoryChanged();
     void updateModified();
@@ -149,6 +150,7 @@ private:
     {
         QPointer<Common::Job> job;
         QString refusal; //!< of edits; empty if an edit cancels the job
+        bool edits = false;
     };
     std::unique_ptr<Project> m_project;
     std::unique_ptr<ProjectHistory> m_history;
