@@ -6,6 +6,8 @@
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -32,6 +34,17 @@ bool hasWord(const QString &text, const QString &name)
     return false;
 }
 
+//! All values in the text of an element, one per line.
+QString valuesIn(const QByteArray &xml)
+{
+    static const QRegularExpression value(uR"x(\bvalue="([^"]*)")x"_s);
+    QStringList values;
+    for (const QRegularExpressionMatch &match : value.globalMatch(QString::fromUtf8(xml))) {
+        values.append(match.captured(1));
+    }
+    return values.join(u'\n');
+}
+
 } // namespace
 
 KeptMentions::KeptMentions(const Project &project, const QSet<const DesignerObject *> &leftOut)
@@ -54,7 +67,7 @@ void KeptMentions::read(const DesignerObject &object, const QSet<const DesignerO
         for (const KeptItem &kept : list ? list->keptItems() : QList<KeptItem>()) {
             const QString owner = object.ownerObject() ? object.objectPath() + u'.' : QString();
             const QString name = kept.name.isEmpty() ? u"<%1>"_s.arg(kept.className) : kept.name;
-            m_kept.append({owner + name, screen ? screen : object.screen(), QString::fromUtf8(kept.xml)});
+            m_kept.append({owner + name, screen ? screen : object.screen(), valuesIn(kept.xml)});
         }
     }
     for (const DesignerObject *child : object.childObjects()) {
