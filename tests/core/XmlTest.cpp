@@ -468,7 +468,7 @@ TEST_F(Xml, HostileBytesEndWithAnErrorAndAPlace)
         const char *word;
     } cases[] = {
         {"", "cut off"},
-        {"screen 1", "no XML"},
+        {"screen 1", "not XML"},
         {"<Node>\n <Properties>\n  <Property name='nodes'><List><Node><Properties>", "cut off"},
         {"<Node><Properties><Property name='te", "cut off"},
         {"<Nothing/>", "\"Nothing\""},
