@@ -190,7 +190,7 @@ TEST_F(ReferenceTest, AnElementTakesPrecedenceOverAScreenWithItsName)
 
 TEST_F(ReferenceTest, TheIndexFollowsInsertedAndRemovedObjects)
 {
-    ReferenceIndex::of(project.get());
+    const ReferenceIndex &index = ReferenceIndex::of(project.get());
     DesignerObject *late = make(QStringLiteral("Rectangle"), QStringLiteral("late1"));
     ASSERT_TRUE(set(late, "xBinding", QStringLiteral("0306rectangle1.x")));
     const auto referrers = [this] {
@@ -210,8 +210,11 @@ TEST_F(ReferenceTest, TheIndexFollowsInsertedAndRemovedObjects)
     EXPECT_EQ(referrers(), QStringList());
     ASSERT_TRUE(other->addListPropertyItem(other->elements(), late));
     EXPECT_EQ(referrers(), QStringList());
+    EXPECT_TRUE(index.mentioning(main, QStringLiteral("rectangle1")).isEmpty())
+        << "Many screens have elements of the same name.";
     ASSERT_TRUE(set(late, "xBinding", QStringLiteral("0306Main.rectangle1.x")));
     EXPECT_EQ(referrers(), QStringList{QStringLiteral("late1")});
+    EXPECT_EQ(index.mentioning(main, QStringLiteral("rectangle1")).size(), 1);
 
     delete other->takeListPropertyItem(other->elements(), late);
     EXPECT_EQ(referrers(), QStringList());

@@ -95,6 +95,8 @@ DesignerObject *EditMarks::take()
         }
         return object;
     }
+    m_objects.squeeze(); // A check of the whole project has filled it.
+    m_stack.squeeze();
     return nullptr;
 }
 

@@ -4,10 +4,18 @@
 #include "corvex/editing/references/ReferenceScanner.h"
 #include "corvex/editing/references/ReferenceTarget.h"
 #include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
 
 #include <algorithm>
 
 namespace Halvane::Corvex::Designer {
+
+namespace {
+
+//! The scope of elements that are mentioned from elsewhere.
+constexpr char elsewhere = 0;
+
+} // namespace
 
 bool ReferenceIndex::Entry::operator<(const Entry &other) const
 {
@@ -38,13 +46,16 @@ QList<ReferenceIndex::Entry> ReferenceIndex::entriesOf(const Mention &mention, c
         return {{nullptr, mention.path, property}};
     }
     QList<Entry> entries;
-    // A path may begin with the name of another screen, so its names are indexed for all screens.
-    const bool isKnownEverywhere = mention.kinds != NamedKind::Element || mention.path.contains(u'.');
-    for (const QStringView segment : QStringView(mention.path).split(u'.')) {
-        entries.append({screen, segment.toString(), property});
-        if (isKnownEverywhere) {
-            entries.append({nullptr, segment.toString(), property});
+    const QStringList names = mention.path.split(u'.');
+    const bool mayBeNoElement = mention.kinds != NamedKind::Element || names.size() > 1;
+    for (const QString &name : names) {
+        entries.append({screen ? static_cast<const void *>(screen) : &elsewhere, name, property});
+        if (mayBeNoElement || !screen) {
+            entries.append({nullptr, name, property});
         }
+    }
+    for (qsizetype i = 1; screen && i < names.size(); ++i) {
+        entries.append({&elsewhere, names.first() + u'.' + names.at(i), property});
     }
     if (mention.kinds.testAnyFlags(NamedKind::Image)) {
         entries.append({nullptr, mention.path, property});
@@ -149,11 +160,17 @@ void ReferenceIndex::projectAboutToBeDestroyed()
     delete this;
 }
 
-void ReferenceIndex::find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const
+void ReferenceIndex::find(const Screen *screen, const QString &name, QSet<SharedProperty> &found) const
 {
-    if (scope) {
-        find(nullptr, name, found);
+    findIn(screen, name, found);
+    if (screen) {
+        findIn(&elsewhere, name, found);
+        findIn(&elsewhere, screen->getIdName() + u'.' + name, found);
     }
+}
+
+void ReferenceIndex::findIn(const void *scope, const QString &name, QSet<SharedProperty> &found) const
+{
     const auto isFound = [&](const Entry &entry) { return entry.scope == scope && entry.name == name; };
     for (auto entry = m_entries.lower_bound({scope, name, {}}); entry != m_entries.end() && isFound(*entry);
          ++entry) {

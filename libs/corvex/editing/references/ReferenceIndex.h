@@ -47,7 +47,10 @@ private:
 
     struct Entry
     {
-        const Screen *scope; //!< the screen of an element; null for names known everywhere
+        /*! The screen whose properties mention the name; null for names of variables, screens and images. A
+           scope of its own is for elements that are mentioned from elsewhere: by name outside of all screens,
+           and as "screen.name" in paths, which may begin with the name of another screen. */
+        const void *scope;
         QString name;
         SharedProperty property;
 
@@ -61,8 +64,9 @@ private:
     static bool sharesName(const Mention &mention, const QSet<QStringView> &names);
     //! For all properties of the object and of everything below it.
     void updateAll(const DesignerObject *object, bool add);
-    //! Adds the matches in the scope and those known everywhere.
-    void find(const Screen *scope, const QString &name, QSet<SharedProperty> &found) const;
+    //! Adds the properties that may refer to an element of the screen, or to something else without a screen.
+    void find(const Screen *screen, const QString &name, QSet<SharedProperty> &found) const;
+    void findIn(const void *scope, const QString &name, QSet<SharedProperty> &found) const;
 
     std::set<Entry> m_entries;
     bool m_isBuilt = false;
