@@ -10,7 +10,8 @@ namespace Halvane::Corvex::Common {
 
 std::size_t Processors::count()
 {
-    return std::max(std::thread::hardware_concurrency(), 1U);
+    static const std::size_t processors = std::max(std::thread::hardware_concurrency(), 1U); // reads a file
+    return processors;
 }
 
 void Processors::run(std::size_t most, const std::function<void()> &work)

@@ -19,7 +19,7 @@ QString textOf(const QmlBinding &binding)
     return text;
 }
 
-//! Beyond this number the check discards all shapes and parses new texts again.
+//! Beyond this number the check forgets all shapes and parses them again.
 constexpr qsizetype mostShapes = 20'000;
 
 } // namespace
@@ -58,9 +58,9 @@ void CodeCheck::look(const DesignerProperty &property)
     int place = 0;
     for (const QmlBinding &binding : property.qmlBindings()) {
         if (isPlain || binding.name.isEmpty() || !isPlainCode(binding.code)) {
-            const qsizetype shape = m_shapes.of(qmlShape(textOf(binding)));
-            if (shape >= m_readShapes || m_wrongShapes.contains(shape)) {
-                m_uses.append({&property, shape, place, isPlain});
+            const QString shape = qmlShape(textOf(binding));
+            if (m_correctShapes.isEmpty() || !m_correctShapes.contains(digestOf(shape))) {
+                m_uses.append({&property, m_shapes.of(shape), place, isPlain});
             }
         }
         ++place;
@@ -82,18 +82,18 @@ void CodeCheck::join(Check &later)
     m_plainNames += other.m_plainNames;
 }
 
-void CodeCheck::readShapes()
-{
-    const QStringList unread = m_shapes.texts().sliced(m_readShapes);
-    for (const qsizetype index : CodeReader::errors(unread).keys()) {
-        m_wrongShapes.insert(m_readShapes + index);
-    }
-    m_readShapes = m_shapes.count();
-}
-
 void CodeCheck::finish(const Project &)
 {
-    readShapes();
+    const TextNumbers shapes = std::exchange(m_shapes, {});
+    const QHash<qsizetype, QString> wrongShapes = CodeReader::errors(shapes.texts());
+    if (m_correctShapes.size() + shapes.count() > mostShapes) {
+        m_correctShapes.clear();
+    }
+    for (qsizetype shape = 0; shape < shapes.count(); ++shape) {
+        if (!wrongShapes.contains(shape)) {
+            m_correctShapes.insert(digestOf(shapes.texts().at(shape)));
+        }
+    }
     // Not every text of a wrong shape is wrong itself, so each is parsed for its own message.
     struct Suspect
     {
@@ -103,7 +103,7 @@ void CodeCheck::finish(const Project &)
     QList<Suspect> suspects;
     TextNumbers texts;
     for (const auto &[property, shape, place, isPlain] : std::exchange(m_uses, {})) {
-        if (m_wrongShapes.contains(shape)) {
+        if (wrongShapes.contains(shape)) {
             // Check the next object with such a property, too, because it may be checked later.
             m_plainNames.remove(isPlain ? property->id() : QString());
             const QmlBindings bindings = property->qmlBindings();
@@ -117,11 +117,6 @@ void CodeCheck::finish(const Project &)
             report(*source, ProblemCode::CodeUnreadable, {messages.value(text)});
             reported = source;
         }
-    }
-    if (m_shapes.count() > mostShapes) {
-        m_shapes = {};
-        m_wrongShapes.clear();
-        m_readShapes = 0;
     }
 }
 

@@ -10,7 +10,7 @@ namespace Halvane::Corvex::Designer {
 
 //! Parses the bindings that properties of screens and elements generate, as the device will. Of similar texts
 //! only one is parsed, and texts that are always correct are skipped. A problem is reported at the source of
-//! the binding: the property with the user's input. The check remembers what it has parsed.
+//! the binding: the property with the user's input. The check remembers what it has found to be correct.
 class CodeCheck : public PropertyCheck
 {
 public:
@@ -42,11 +42,12 @@ private:
         QStringList m_texts;
     };
 
-    void readShapes();
+    //! Stands for a text that was parsed. Two texts with the same digest are not to be expected.
+    using Digest = std::pair<size_t, size_t>;
+    static Digest digestOf(const QString &text) { return {qHash(text, 1), qHash(text, 2)}; }
 
-    TextNumbers m_shapes;
-    qsizetype m_readShapes = 0;    //!< the number of parsed shapes
-    QSet<qsizetype> m_wrongShapes; //!< of those
+    TextNumbers m_shapes; //!< not parsed yet
+    QSet<Digest> m_correctShapes;
     QList<Use> m_uses;
     QSet<QString> m_plainNames; //!< of properties with plain values, which were checked already
 };

@@ -93,10 +93,12 @@ DesignerObject *EditMarks::take()
         for (auto child = children.crbegin(); child != children.crend(); ++child) {
             markBelow(*child);
         }
+        if (m_objects.isEmpty()) { // Release the memory that a check of the whole project needed.
+            m_objects.squeeze();
+            m_stack = {};
+        }
         return object;
     }
-    m_objects.squeeze(); // A check of the whole project has filled it.
-    m_stack.squeeze();
     return nullptr;
 }
 
