@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/checks/ProblemList.h"
 #include "corvex/document/ProjectDocument.h"
+#include "corvex/editing/commands/Commands.h"
 #include "corvex/editing/commands/images/DeleteImage.h"
 #include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/editing/commands/variables/AddVariable.h"
@@ -359,13 +361,18 @@ TEST_F(ProjectDocumentTest, AProjectCannotBeEditedWhileAJobReadsIt)
     ASSERT_EQ(outcomeOf(*check), Job::Outcome::Done);
     EXPECT_FALSE(check->takeResult()->isEmpty()) << "the model is unknown";
 
+    ProblemList problems(document->project(), *models);
     auto build = document->build();
+    problems.update();
+    EXPECT_FALSE(problems.isCurrent()) << "checking writes to the model, too";
     const QString before = text();
+    EXPECT_FALSE(Commands::changeOf({{level(), u"edit of a build"_s}}).reason.isEmpty());
     EXPECT_FALSE(describe(u"edit of a build"_s));
     EXPECT_FALSE(document->undo());
     EXPECT_FALSE(document->errorString().isEmpty());
     EXPECT_EQ(text(), before);
     ASSERT_EQ(outcomeOf(*build), Job::Outcome::Done) << qPrintable(build->errorString());
+    EXPECT_TRUE(QTest::qWaitFor([&problems] { return problems.isCurrent(); }));
     std::optional<ProjectDocument::BuildFolder> built = build->takeResult();
     const QString place = **built;
     EXPECT_TRUE(QFile::exists(place + u"/project/Project.kdproj.zip"_s));

@@ -29,6 +29,12 @@ DesignerObject *make(const char *className)
     return object;
 }
 
+struct ClosedGate : EditGate
+{
+    bool mayEdit(QString &reason) override { return reason = u"A build runs."_s, false; }
+    bool mayValidate() const override { return false; }
+};
+
 //! A command with configurable answers that counts its calls.
 class Step : public UndoCommand
 {
@@ -103,7 +109,8 @@ TEST(UndoStackTest, AGestureCommitsCommandsThatAreDone)
     ASSERT_TRUE(stack.beginGesture(u"Drag"_s));
     auto *step = new Step;
     ASSERT_TRUE(stack.push(step));
-    stack.setGate([](QString &reason) { return reason = u"A build runs."_s, false; });
+    ClosedGate gate;
+    stack.setGate(&gate);
     EXPECT_FALSE(stack.push(new Step));
     EXPECT_EQ(stack.errorString(), u"A build runs."_s);
     EXPECT_TRUE(stack.commitGesture());

@@ -13,6 +13,7 @@
 #include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/editing/references/ReferenceChanges.h"
 #include "corvex/editing/references/ReferenceForm.h"
+#include "corvex/editing/undo/UndoStack.h"
 #include "corvex/editing/words/Suggestion.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/DeviceChannels.h"
@@ -409,6 +410,10 @@ std::unique_ptr<UndoCommand> commandFor(const Plan &plan)
 
 QList<ProblemFix> ProblemFix::of(const Problem &problem)
 {
+    Project *project = problem.source ? problem.source->project() : nullptr;
+    if (!project || !project->undoStack()->mayEdit()) {
+        return {};
+    }
     QList<ProblemFix> fixes;
     for (const Row &row : rows) {
         const auto planned = row.code == problem.code ? plannedFix(row, problem) : std::nullopt;

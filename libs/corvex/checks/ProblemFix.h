@@ -20,7 +20,8 @@ struct CORVEX_EXPORT ProblemFix
     std::function<std::unique_ptr<UndoCommand>()> makeCommand;
 
     //! The fixes for the current state of the problem, the best one first. The search for similar names is
-    //! slow, so call it on request of the user. The project must outlive the fixes.
+    //! slow, so call it on request of the user. The project must outlive the fixes. The search tries values
+    //! on properties; if the gate of the history refuses edits, there are no fixes.
     static QList<ProblemFix> of(const Problem &problem);
     //! The texts of all fixes for that kind of problem, with placeholders: "Rename to "%1"". English.
     static QStringList texts(ProblemCode code);

@@ -30,8 +30,8 @@ class Project;
     must not change the model, and must not call update(). The list follows one project; if that is destroyed
     first, the list becomes empty.
 
-    Checking an object writes to its properties. Call update() before another thread reads the project, for
-    example before a job of ProjectDocument. No edit runs beside such a job, so nothing is marked meanwhile.
+    Checking an object writes to its properties. It waits while another thread reads the project, for example
+    a job of ProjectDocument, as the gate of the history says.
 */
 class CORVEX_EXPORT ProblemList : public QObject
 {
@@ -68,7 +68,8 @@ public:
 
     //! Whether nothing is marked.
     bool isCurrent() const;
-    //! Checks everything that is marked now. For a build, and for programs without an event loop.
+    //! Checks everything that is marked now. For programs without an event loop, and for results that are
+    //! needed at once. Does nothing while another thread reads the project.
     void update();
     //! Marks the whole project, for example when files of images have changed.
     void checkAll();

@@ -160,7 +160,7 @@ std::unique_ptr<ProjectDocument::ImportJob> ProjectDocument::importVariables(con
                                                                              QChar separator)
 {
     QString reason;
-    if (!mayRead() || !result(isFree(reason), reason)) {
+    if (!mayRead() || !result(mayEdit(reason), reason)) {
         return nullptr;
     }
     auto job = std::make_unique<ImportJob>();

@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QThread>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -74,9 +76,12 @@ bool ProjectDocument::canLoad(const QString &path)
     return result(isRead, trial ? trial->fileError() : error);
 }
 
-//! Whether the project may be changed. Cancels the jobs that an edit cancels.
-bool ProjectDocument::isFree(QString &reason)
+//! Cancels the jobs that an edit cancels.
+bool ProjectDocument::mayEdit(QString &reason)
 {
+    if (m_isOwnEdit) {
+        return true;
+    }
     m_readers.removeIf([](const Reader &reader) { return !reader.job || !reader.job->isRunning(); });
     for (const Reader &reader : std::as_const(m_readers)) {
         if (!reader.refusal.isEmpty()) {
@@ -91,6 +96,13 @@ bool ProjectDocument::isFree(QString &reason)
     return true;
 }
 
+bool ProjectDocument::mayValidate() const
+{
+    return std::ranges::none_of(m_readers, [](const Reader &reader) {
+        return !reader.edits && reader.job && reader.job->isRunning();
+    });
+}
+
 //! Refuses to read the project during a gesture, in the middle of an edit, and while a job edits it.
 bool ProjectDocument::mayRead()
 {
@@ -100,6 +112,7 @@ bool ProjectDocument::mayRead()
         }
     }
     m_history->endRun();
+    m_project->hasElement({}); // The project counts the names on first use, which must not be in two threads.
     const UndoStack *stack = m_project->undoStack();
     return result(
         !stack->hasGesture() && !stack->isInRun(),

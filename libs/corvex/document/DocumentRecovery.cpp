@@ -47,7 +47,7 @@ bool ProjectDocument::recover()
     if (!m_hasRecovery) {
         return result(false, LocalizationHelper::coreString(u"There is no autosave file of this project."_s));
     }
-    if (!isFree(error)) {
+    if (!mayEdit(error)) {
         return result(false, error);
     }
     const Common::TemporaryFolder folder(u"corvex-recovery"_s);

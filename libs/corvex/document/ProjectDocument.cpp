@@ -30,7 +30,7 @@ ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *pare
     , m_watch(std::make_unique<FileWatch>())
     , m_isComplete(!losesParts())
 {
-    m_history->setGate([this](QString &reason) { return m_isOwnEdit || isFree(reason); });
+    m_history->setGate(this);
     connect(m_history.get(), &ProjectHistory::changed, this, &ProjectDocument::onHistoryChanged);
     connect(m_history.get(), &ProjectHistory::moved, this, [this](const UndoCommand *command) {
         // selectedItems() does not change the command.
@@ -122,7 +122,7 @@ bool ProjectDocument::beginGesture(const QString &text)
 
 bool ProjectDocument::commitGesture()
 {
-    if (QString reason; !isFree(reason)) {
+    if (QString reason; !mayEdit(reason)) {
         return result(false, reason);
     }
     return result(m_history->commitGesture(), m_history->errorString());
@@ -130,7 +130,7 @@ bool ProjectDocument::commitGesture()
 
 bool ProjectDocument::rollBackGesture()
 {
-    if (QString reason; !isFree(reason)) {
+    if (QString reason; !mayEdit(reason)) {
         return result(false, reason);
     }
     return result(m_history->rollBackGesture(), m_history->errorString());
@@ -219,7 +219,7 @@ bool ProjectDocument::save(Overwrite overwrite)
 bool ProjectDocument::reload()
 {
     QString reason;
-    if (!isFree(reason)) {
+    if (!mayEdit(reason)) {
         return result(false, reason);
     }
     const QString path = m_project->fullFilePath();

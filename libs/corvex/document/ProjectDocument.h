@@ -21,7 +21,9 @@ class Project;
 
     On failure operations return false and change nothing, and errorString() gives the reason for the user.
 */
-class CORVEX_EXPORT ProjectDocument : public QObject
+class CORVEX_EXPORT ProjectDocument
+    : public QObject
+    , private EditGate
 {
     Q_OBJECT
 
@@ -128,7 +130,8 @@ signals:
     void changedByOthers();
 
 private:
-    bool isFree(QString &reason);
+    bool mayEdit(QString &reason) override;
+    bool mayValidate() const override;
     bool mayRead();
     //! An edit cancels the job, or is refused with \a refusal.
     void addReader(Common::Job *job, const QString &refusal = {}, bool edits = false);

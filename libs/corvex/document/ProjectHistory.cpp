@@ -54,12 +54,12 @@ ProjectHistory::ProjectHistory(Project &project, QObject *parent)
 ProjectHistory::~ProjectHistory()
 {
     m_project.setHistoryKeeper(nullptr);
-    setGate({});
+    setGate(nullptr);
 }
 
-void ProjectHistory::setGate(UndoStack::Gate gate)
+void ProjectHistory::setGate(EditGate *gate)
 {
-    m_gate = std::move(gate);
+    m_gate = gate;
     current().stack->setGate(m_gate);
 }
 
@@ -265,7 +265,7 @@ bool ProjectHistory::goTo(int position)
 void ProjectHistory::activate(size_t part)
 {
     disconnect(current().stack.get(), nullptr, this, nullptr);
-    current().stack->setGate({});
+    current().stack->setGate(nullptr);
     m_current = part;
     current().stack->setStartSaved(current().stack == m_saved);
     followStack();
@@ -353,7 +353,7 @@ std::shared_ptr<UndoStack> ProjectHistory::historyAfterSave()
 {
     const Stack before = current().stack;
     disconnect(before.get(), nullptr, this, nullptr);
-    before->setGate({});
+    before->setGate(nullptr);
     if (!m_keepsFiles) {
         m_parts = {Part{std::make_shared<UndoStack>()}};
         m_current = 0;

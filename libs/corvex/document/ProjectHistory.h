@@ -67,7 +67,7 @@ public:
     bool pushInRun(const QString &text, UndoCommand *command, int pause = UndoStack::runPause);
     void endRun();
     //! Called before each change on any of the stacks, see UndoStack.
-    void setGate(UndoStack::Gate gate);
+    void setGate(EditGate *gate);
 
 signals:
     //! The position, a text, or the availability of undo or redo has changed.
@@ -118,7 +118,7 @@ private:
     Common::FileStore m_files;
     QString m_error;
     int m_mostEarlierSteps = mostEarlierSteps;
-    UndoStack::Gate m_gate;
+    EditGate *m_gate = nullptr;
     bool m_isMoving = false;
     bool m_keepsFiles = true; //!< the last attempt to keep files succeeded
 };

@@ -3,6 +3,7 @@
 
 #include "corvex/checks/ProblemList.h"
 #include "corvex/checks/private/ProblemRows.h"
+#include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/Project.h"
 
 #include <QCoreApplication>
@@ -17,6 +18,9 @@ namespace {
 constexpr auto slice = 10ms;
 //! The part of a slice for examining objects. The rest is for shared checks.
 constexpr auto lookingTime = 6ms;
+
+//! The time until the next attempt while another thread reads the project.
+constexpr auto pauseWhileRead = 50ms;
 
 using Origin = ProblemRows::Origin;
 
@@ -82,13 +86,13 @@ void ProblemChecker::runSlice()
 {
     run(QDeadlineTimer(slice));
     if (!m_isCurrent) {
-        m_timer.start(0ms);
+        m_timer.start(project()->undoStack()->mayValidate() ? 0ms : pauseWhileRead);
     }
 }
 
 void ProblemChecker::run(QDeadlineTimer deadline)
 {
-    if (!project()) {
+    if (!project() || !project()->undoStack()->mayValidate()) {
         return;
     }
     do {

@@ -11,6 +11,8 @@
 #include "corvex/editing/commands/private/EditedKind.h"
 #include "corvex/editing/commands/private/MoveObjects.h"
 #include "corvex/editing/references/KeptMentions.h"
+#include "corvex/editing/undo/UndoStack.h"
+#include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
 
@@ -27,6 +29,13 @@ using Common::LocalizationHelper;
 PlannedCommand refused(const QString &english, const QString &name)
 {
     return {nullptr, LocalizationHelper::coreString(english).arg(name), {}};
+}
+
+//! Why no value may be tried on the object now, for the user; empty if one may be tried.
+QString gateRefusal(const DesignerObject &object)
+{
+    Project *project = object.project();
+    return !project || project->undoStack()->mayEdit() ? QString() : project->undoStack()->errorString();
 }
 
 //! Why a change to that value is refused; empty if it is accepted, possibly marked as invalid.
@@ -126,6 +135,9 @@ PlannedCommand Commands::renameOf(DesignerObject *object, const QString &name)
     if (object->getIdName() == name) {
         return refused(u"The name is already \"%1\"."_s, name);
     }
+    if (const QString reason = gateRefusal(*object); !reason.isEmpty()) {
+        return {nullptr, reason, {}};
+    }
     return noted(planned(std::unique_ptr<ModelCommand>(kind->renaming(object, name))), {object},
                  u"\"%1\" still mentions \"%2\", because its plug-in is missing. Correct it in the file, or "
                  "install the plug-in and rename again."_s);
@@ -170,6 +182,9 @@ PlannedCommand Commands::changeOf(const QList<RequestedValue> &values)
         }
         if (!property->hasFlag(StoredFlag)) {
             return refused(u"\"%1\" is not stored; it follows from other values."_s, property->name());
+        }
+        if (const QString reason = gateRefusal(*owner); !reason.isEmpty()) {
+            return {nullptr, reason, {}};
         }
         if (const QString reason = refusalOf(*property, value.text); !reason.isEmpty()) {
             return {nullptr, values.size() > 1 ? u"%1: %2"_s.arg(owner->objectPath(), reason) : reason, {}};

@@ -31,7 +31,8 @@ struct RequestedValue
     and images. A project can be renamed. Values of any objects change in one step.
 
     Each function plans one step of the history for the current state of the project and changes nothing. Push
-    the command before you plan the next one.
+    the command before you plan the next one. New names and values are tried on the properties, so planning
+    them asks the gate of the history, as an edit does.
 */
 class CORVEX_EXPORT Commands
 {

@@ -63,8 +63,7 @@ UndoStack::~UndoStack()
 
 bool UndoStack::push(UndoCommand *command)
 {
-    m_errorString.clear();
-    if (m_gate && !m_gate(m_errorString)) {
+    if (!mayEdit()) {
         delete command;
         return false;
     }
@@ -78,8 +77,7 @@ bool UndoStack::pushInRun(const QString &text, UndoCommand *command, int pause)
         return push(command);
     }
     std::unique_ptr<UndoCommand> step(command);
-    m_errorString.clear();
-    if (m_gate && !m_gate(m_errorString)) {
+    if (!mayEdit()) {
         return false;
     }
     if (isInRun() && m_gesture->text() != text) {
@@ -167,13 +165,18 @@ bool UndoStack::collect(std::unique_ptr<UndoCommand> command)
 bool UndoStack::isOpen()
 {
     endRun();
-    m_errorString.clear();
     if (m_gesture) {
         m_errorString = Common::LocalizationHelper::coreString(
                             QStringLiteral("\"%1\" is not finished yet. Finish or cancel it first."))
                             .arg(m_gesture->text());
     }
-    return !m_gesture && (!m_gate || m_gate(m_errorString));
+    return !m_gesture && mayEdit();
+}
+
+bool UndoStack::mayEdit()
+{
+    m_errorString.clear();
+    return !m_gate || m_gate->mayEdit(m_errorString);
 }
 
 bool UndoStack::beginGesture(const QString &text)

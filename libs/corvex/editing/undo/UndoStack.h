@@ -2,13 +2,13 @@
 #pragma once
 
 #include "corvex/common/Export.h"
+#include "corvex/editing/undo/EditGate.h"
 
 #include <QBasicTimer>
 #include <QList>
 #include <QPointer>
 #include <QUndoStack>
 
-#include <functional>
 #include <memory>
 
 namespace Halvane::Corvex::Common {
@@ -48,10 +48,12 @@ public:
     void cleanJunkFiles();
     //! Makes all commands keep these files elsewhere, see UndoCommand::keepFiles().
     bool keepFiles(Common::FileStore &store, QString &error);
-    //! Called before each push and each move. If it returns false, nothing happens and the text gives the
-    //! reason. QUndoStack's own undo() and redo(), which its actions use, do not call the gate.
-    using Gate = std::function<bool(QString &reason)>;
-    void setGate(Gate gate) { m_gate = std::move(gate); }
+    //! Asked before each push and each move; may be null. Not owned. QUndoStack's own undo() and redo(),
+    //! which its actions use, do not ask the gate.
+    void setGate(EditGate *gate) { m_gate = gate; }
+    //! What the gate answers; true without a gate. If an edit is refused, errorString() gives the reason.
+    bool mayEdit();
+    bool mayValidate() const { return !m_gate || m_gate->mayValidate(); }
     //! Whether the history can move now and a gesture can begin; otherwise errorString() gives the reason.
     bool isOpen();
     //! Discards all steps after the current index.
@@ -145,7 +147,7 @@ private:
     bool m_hasFailed = false;
     std::unique_ptr<Gesture> m_gesture; //!< the current gesture or run
     QBasicTimer m_runTimer;             //!< active during a run
-    Gate m_gate;
+    EditGate *m_gate = nullptr;
     bool m_isStartSaved = true;
     bool m_isMoving = false;
     bool m_isDeleteScreen = false;
