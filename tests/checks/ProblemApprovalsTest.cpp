@@ -116,6 +116,9 @@ TEST_F(ProblemApprovalsTest, FollowNames)
     approvals->approve(fading());
     approvals->approve(problemOf(twin, ProblemCode::ChannelShared));
     push(Commands::renameOf(element("pwmOutput1"), u"fan"_s).command.release());
+    DesignerObject *namesake = addTo(other, "PwmOutput"); // takes the name, and another one
+    push(Commands::renameOf(namesake, u"fan"_s).command.release());
+    push(Commands::renameOf(namesake, u"blower"_s).command.release());
     push(Commands::renameOf(element("rectangle1"), u"shade"_s).command.release());
     push(Commands::renameOf(main, u"First"_s).command.release());
     list->update();

@@ -6,6 +6,7 @@
 #include "corvex/core/ModelObserver.h"
 #include "corvex/editing/words/ProjectPath.h"
 #include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -54,6 +55,11 @@ struct Approval
                                    newName);
             message = words.join(u' ');
         }
+    }
+    //! Whether an element of \a screen has the short name in messages about the object.
+    bool seesElementsOf(const Screen *screen) const
+    {
+        return !object || !object->screen() || object->screen() == screen;
     }
     QString presentPath() const { return object && object->project() ? object->objectPath() : path; }
     //! Whether the object is deleted, unless that is undone.
@@ -311,10 +317,14 @@ void ProblemApprovals::Follower::valueChanged(const SharedProperty &property, co
     if (m_all.empty() || property != object->idProperty() || oldName.isEmpty()) {
         return;
     }
+    const Screen *screen = object->screen();
+    const bool isElement = screen && screen != object;
     ByMessage renamed;
     for (auto entry = m_all.begin(); entry != m_all.end();) {
         Approval approval = entry->second;
-        approval.rename(oldName, object->getIdName());
+        if (!isElement || approval.seesElementsOf(screen)) {
+            approval.rename(oldName, object->getIdName());
+        }
         if (approval.message == entry->first) {
             ++entry;
         } else {
