@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionSyntax.h"
-#include "corvex/checks/private/PlainQml.h"
+#include "corvex/checks/private/rules/PlainQml.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/FunctionCall.h"
+#include "corvex/checks/private/rules/FunctionCall.h"
 #include "corvex/values/expressions/ExpressionVocabulary.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionSyntax.h"
 
-#include "corvex/checks/private/NestingDepth.h"
+#include "corvex/checks/private/rules/NestingDepth.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>

@@ -2,7 +2,7 @@
 #include "corvex/checks/ProblemFix.h"
 
 #include "corvex/checks/private/FilledText.h"
-#include "corvex/checks/private/StateSetting.h"
+#include "corvex/checks/private/rules/StateSetting.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/TextHelper.h"
 #include "corvex/core/DesignerFactory.h"

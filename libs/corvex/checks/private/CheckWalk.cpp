@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/private/CheckWalk.h"
 
-#include "corvex/checks/private/CodeCheck.h"
-#include "corvex/checks/private/DeviceCheck.h"
-#include "corvex/checks/private/ExpressionCheck.h"
-#include "corvex/checks/private/FieldbusCheck.h"
-#include "corvex/checks/private/FileCheck.h"
-#include "corvex/checks/private/InvalidValueCheck.h"
-#include "corvex/checks/private/LogCheck.h"
-#include "corvex/checks/private/ModbusCheck.h"
-#include "corvex/checks/private/NumberCheck.h"
-#include "corvex/checks/private/ReferenceCheck.h"
+#include "corvex/checks/private/rules/CodeCheck.h"
+#include "corvex/checks/private/rules/DeviceCheck.h"
+#include "corvex/checks/private/rules/ExpressionCheck.h"
+#include "corvex/checks/private/rules/FieldbusCheck.h"
+#include "corvex/checks/private/rules/FileCheck.h"
+#include "corvex/checks/private/rules/InvalidValueCheck.h"
+#include "corvex/checks/private/rules/LogCheck.h"
+#include "corvex/checks/private/rules/ModbusCheck.h"
+#include "corvex/checks/private/rules/NumberCheck.h"
+#include "corvex/checks/private/rules/ReferenceCheck.h"
 #include "corvex/project/Project.h"
 
 namespace Halvane::Corvex::Designer {

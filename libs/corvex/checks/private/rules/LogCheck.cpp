@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/LogCheck.h"
+#include "corvex/checks/private/rules/LogCheck.h"
 
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/variables/LogVariable.h"

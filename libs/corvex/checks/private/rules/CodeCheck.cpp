@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/CodeCheck.h"
+#include "corvex/checks/private/rules/CodeCheck.h"
 
-#include "corvex/checks/private/CodeReader.h"
-#include "corvex/checks/private/PlainQml.h"
+#include "corvex/checks/private/rules/CodeReader.h"
+#include "corvex/checks/private/rules/PlainQml.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/QmlText.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/ModbusCheck.h"
+#include "corvex/checks/private/rules/ModbusCheck.h"
 
-#include "corvex/checks/private/ValueType.h"
+#include "corvex/checks/private/rules/ValueType.h"
 #include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/project/Project.h"
 #include "corvex/variables/ModbusMap.h"

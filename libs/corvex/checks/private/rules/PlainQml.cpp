@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/PlainQml.h"
+#include "corvex/checks/private/rules/PlainQml.h"
 
 #include <algorithm>
 

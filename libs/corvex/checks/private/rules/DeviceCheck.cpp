@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/DeviceCheck.h"
+#include "corvex/checks/private/rules/DeviceCheck.h"
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/hardware/Configuration.h"

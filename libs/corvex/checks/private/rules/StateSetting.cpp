@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/StateSetting.h"
+#include "corvex/checks/private/rules/StateSetting.h"
 
 #include "corvex/core/properties/ExpressionProperties.h"
 

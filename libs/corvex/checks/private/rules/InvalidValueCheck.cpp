@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/InvalidValueCheck.h"
+#include "corvex/checks/private/rules/InvalidValueCheck.h"
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/ReferenceCheck.h"
+#include "corvex/checks/private/rules/ReferenceCheck.h"
 
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/properties/LinkProperty.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/CodeReader.h"
+#include "corvex/checks/private/rules/CodeReader.h"
 
 #include "corvex/checks/ExpressionSyntax.h"
 #include "corvex/common/Processors.h"

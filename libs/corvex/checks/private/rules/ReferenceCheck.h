@@ -2,7 +2,7 @@
 #pragma once
 
 #include "corvex/checks/Check.h"
-#include "corvex/checks/private/StateSetting.h"
+#include "corvex/checks/private/rules/StateSetting.h"
 #include "corvex/editing/references/ReferenceForm.h"
 
 #include <map>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/NestingDepth.h"
+#include "corvex/checks/private/rules/NestingDepth.h"
 
 #include <QList>
 

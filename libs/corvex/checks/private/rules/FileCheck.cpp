@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/FileCheck.h"
+#include "corvex/checks/private/rules/FileCheck.h"
 
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/Project.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/NumberCheck.h"
+#include "corvex/checks/private/rules/NumberCheck.h"
 
 #include "corvex/variables/NumberVariable.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/ExpressionCheck.h"
+#include "corvex/checks/private/rules/ExpressionCheck.h"
 
-#include "corvex/checks/private/FunctionCall.h"
-#include "corvex/checks/private/ValueType.h"
+#include "corvex/checks/private/rules/FunctionCall.h"
+#include "corvex/checks/private/rules/ValueType.h"
 #include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/editing/references/ReferenceForm.h"
 #include "corvex/project/Project.h"

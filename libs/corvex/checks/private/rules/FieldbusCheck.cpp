@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/FieldbusCheck.h"
+#include "corvex/checks/private/rules/FieldbusCheck.h"
 
 #include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/project/Project.h"

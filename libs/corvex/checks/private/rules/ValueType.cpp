@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/ValueType.h"
+#include "corvex/checks/private/rules/ValueType.h"
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/project/Project.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/checks/private/FunctionCall.h"
+#include "corvex/checks/private/rules/FunctionCall.h"
 
 #include "corvex/common/LocalizationHelper.h"
 
