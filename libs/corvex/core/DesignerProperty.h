@@ -115,8 +115,8 @@ public:
     //! Why the last validation failed, or the last list or object operation was refused; empty otherwise.
     QString errorString() const;
     //! Runs the value validator, then the check of the property's kind, and stores the outcome. Lists and
-    //! objects use the last outcomes of their children; DesignerObject::validate() updates those first. Does
-    //! nothing while validation is disabled on the owner.
+    //! objects use the last outcomes of their children; DesignerObject::validate() updates those first. While
+    //! validation is disabled on the owner, the outcome is always valid.
     bool validate();
 
     //! The value as text: empty for a list; the XML of the child for an object property, or empty without a

@@ -19,7 +19,7 @@ struct ClassRow
     const char *baseName = nullptr; //!< the stem of the names of new objects; null for a class without names
     const char *displayName = nullptr; //!< the name of the class for users
     //! The list in a screen's document for elements of this class and of derived classes; null for the list
-    //! of the base class.
+    //! of the base class. The classes of the device need none, see project/ScreenQml.cpp.
     const char *screenList = nullptr;
     //! A class that the preview supports ("Rectangle") and shows instead of this class and derived classes;
     //! null for that of the base class. Without any, the preview shows a labelled box.

@@ -52,7 +52,7 @@ constexpr ClassRow classes[] = {
     {"Element", nullptr, "element", "Element"},
     {"ElementTemplate", &makeObject<ElementTemplate>, "ElementTemplate", "Element Template"},
     {"FilterElement", &makeObject<FilterElement>, "filterElement", "Filter Element"},
-    {"FunctionElement", nullptr, "functionElememnt", "Function Element", "functions"},
+    {"FunctionElement", nullptr, "functionElememnt", "Function Element"},
     {"GroupElement", &makeObject<GroupElement>, "group", "Group Element"},
     {"HardwareElement", nullptr, "hardwareElement", "Hardware Element"},
     {"ImageResource", &makeObject<ImageResource>, "imageResource", "Image Resource"},

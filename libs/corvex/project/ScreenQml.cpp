@@ -19,16 +19,27 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The lists of the device, in the order of documents. Lists of plug-ins follow.
+//! The lists of the device, in the order of documents, and the class whose elements each holds. Lists that
+//! plug-ins name in their tables follow.
 constexpr struct
 {
+    const char *className;
     const char *name;
     bool holdsSerialPorts = false;
 } deviceLists[] = {
-    {"alarmOutputs"},       {"analogInputs"},         {"digitalIOs"},          {"pwmOutputs"},
-    {"spiPorts"},           {"serialCOMPorts", true}, {"rs485COMPorts", true}, {"thermistorInputs"},
-    {"thermocoupleInputs"}, {"ethernetPorts"},        {"canBusPorts"},         {"i2CBusPorts"},
-    {"functions"},
+    {"AlarmOutput", "alarmOutputs"},
+    {"AnalogInput", "analogInputs"},
+    {"DigitalInputOutput", "digitalIOs"},
+    {"PwmOutput", "pwmOutputs"},
+    {"SPIPort", "spiPorts"},
+    {"SerialCOMPort", "serialCOMPorts", true},
+    {"RS485COMPort", "rs485COMPorts", true},
+    {"ThermistorInput", "thermistorInputs"},
+    {"ThermocoupleInput", "thermocoupleInputs"},
+    {"EthernetPort", "ethernetPorts"},
+    {"CANBusDevice", "canBusPorts"},
+    {"I2CBus", "i2CBusPorts"},
+    {"FunctionElement", "functions"},
 };
 
 //! The index of a device list; for other lists the number of device lists.
@@ -36,6 +47,21 @@ std::ptrdiff_t placeOf(const QString &listName)
 {
     const auto isNamed = [&listName](const auto &list) { return listName == QLatin1StringView(list.name); };
     return std::ranges::find_if(deviceLists, isNamed) - std::begin(deviceLists);
+}
+
+//! Empty for an element that no list holds.
+QString documentListOf(const DesignerObject &element)
+{
+    if (element.isKindOfClass(VisualElement::kindName())) {
+        return {};
+    }
+    const QString named = DesignerFactory::screenListOf(&element);
+    const QStringList classNames = named.isEmpty() ? element.classNames() : QStringList();
+    const auto holds = [&classNames](const auto &list) {
+        return classNames.contains(QLatin1StringView(list.className));
+    };
+    const auto *list = std::ranges::find_if(deviceLists, holds);
+    return list == std::end(deviceLists) ? named : QString::fromLatin1(list->name);
 }
 
 void announceScreen(const DesignerObject *port, const Screen &screen)
@@ -78,10 +104,9 @@ QStringList Screen::elementLists(int indent) const
     QStringList visible;
     QStringList others;
     for (const DesignerObject *item : elements()->listItems()) {
-        const bool isVisible = item->isKindOfClass(VisualElement::kindName());
-        const QString name = isVisible ? QString() : DesignerFactory::screenListOf(item);
+        const QString name = documentListOf(*item);
         if (name.isEmpty()) {
-            (isVisible ? visible : others).append(item->toQml(indent));
+            (item->isKindOfClass(VisualElement::kindName()) ? visible : others).append(item->toQml(indent));
             continue;
         }
         const std::ptrdiff_t place = placeOf(name);

@@ -38,12 +38,12 @@ public:
     //! The object with that name in the scope of the link, of any class.
     DesignerObject *namesake() const;
 
-protected:
-    using TypedProperty::TypedProperty;
-
     QmlBindings convertToBindings() const override;
     //! Whether the object of that name, if there is one, is of a class that the property asks for.
     bool validateValue(QString &error) const override;
+
+protected:
+    using TypedProperty::TypedProperty;
 };
 
 } // namespace Halvane::Corvex::Designer
