@@ -116,8 +116,8 @@ bool DeviceFolder::bring(const QString &source, QString *error)
     if (const QString foreign = foreignEntry(QDir(source).entryList(everything)); !foreign.isEmpty()) {
         return fail(
             error,
-            u"\"%1\" holds \"%2\", which is not part of a build, so nothing was written. Choose a new or "
-            "an empty folder."_s.arg(m_path, foreign));
+            u"\"%1\" contains \"%2\", which is not part of a build, so nothing was written. Choose a new "
+            "or an empty folder."_s.arg(m_path, foreign));
     }
     const QStringList made = missingFolders(m_path);
     if (Common::FileHelper::makeFolder(m_path, error) && bringLocked(source, error)) {

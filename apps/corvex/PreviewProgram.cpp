@@ -45,7 +45,7 @@ bool PreviewProgram::start(const QStringList &arguments)
     if (m_process.waitForStarted()) {
         return true;
     }
-    m_call.failed(u"\"%1\" does not start: %2. Install the program again, with its libraries."_s.arg(
+    m_call.failed(u"\"%1\" cannot be started: %2. Install the program again, with its libraries."_s.arg(
         m_process.program(), m_process.errorString()));
     return false;
 }
@@ -78,7 +78,7 @@ QString PreviewProgram::reasonOfEnd() const
     case SIGSEGV:
     case SIGBUS:
         return u"The preview was stopped %1: it used more than %2 GB of memory, or a script called itself "
-               "without end."_s.arg(where, QString::number(Preview::Bounds::memory / 1024 / 1024 / 1024));
+               "endlessly."_s.arg(where, QString::number(Preview::Bounds::memory / 1024 / 1024 / 1024));
     default:
         return u"The system stopped the preview %1 (%2)."_s.arg(where, QString::number(m_process.exitCode()));
     }

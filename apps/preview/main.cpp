@@ -74,9 +74,10 @@ bool giveUpRights(const QCommandLineParser &parser, const QString &folder)
     }
     const bool isConfined = confine(readable, {boxes});
     if (!isConfined && !parser.isSet(u"trust"_s)) {
-        complain(u"This system cannot confine a program (Linux can, with Landlock), and "
-                 "\"%1\" may contain scripts from anybody. Name the project itself, or add --trust if "
-                 "you trust the author of the build."_s.arg(folder));
+        complain(
+            u"This system cannot confine programs (Linux can, with Landlock), and the scripts in \"%1\" "
+            "may come from anybody. Name the project itself, or add --trust if you trust the author of the "
+            "build."_s.arg(folder));
         return false;
     }
     if (!isConfined) {

@@ -157,7 +157,7 @@ TEST_F(ProblemFixTest, SolvesTheProblemAndCanBeUndone)
          "enablePassword",
          u"true"_s,
          PasswordEmpty,
-         {u"Switch the password off"_s}},
+         {u"Disable the password"_s}},
         {variable("bacnet2"), "objectID", u"5,1"_s, BACnetTaken, {u"Set the identifier to \"5,0\""_s}},
         {element("button1"),
          "visualElement",

@@ -14,10 +14,10 @@ using namespace Qt::StringLiterals;
 TEST(ProblemPage, ListsEveryKindOfProblem)
 {
     QString page =
-        u"# Problems\n\nWhat `corvex check` can find. An error keeps a project from being built; a "
-        "warning and a hint do\nnot. `--json` prints the code words, which stay the same from version "
-        "to version. Programs with a list of\nproblems offer the fixes as edits, which can be undone. Words "
-        "such as \"%1\" stand for names and values.\n"_s;
+        u"# Problems\n\nWhat `corvex check` can find. An error prevents a build; warnings and hints do not. "
+        "`--json` prints\nthe codes, which do not change between versions. Programs that show the problems "
+        "offer the fixes as\nedits, which can be undone. Placeholders such as \"%1\" stand for names and "
+        "values.\n"_s;
     QSet<QByteArray> words;
     for (const ProblemKind &kind : ProblemKind::all()) {
         EXPECT_FALSE(words.contains(kind.word)) << kind.word;

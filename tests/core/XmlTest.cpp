@@ -204,7 +204,7 @@ TEST_F(Xml, UnknownPartsAreReported)
         {"<Property name='nodes'><List><Node/></List><List/></Property>", ReadNote::Dropped, "\"List\""},
         {"<Property name='nodes'><List><Robot/></List></Property>", ReadNote::Kept, "\"Robot\""},
         {"<Property name='percent' value='7'/></Properties><Properties><Property name='percent' value='8'/>",
-         ReadNote::Dropped, "second time"},
+         ReadNote::Dropped, "is repeated"},
         {"</Properties><Properties hue='1'>", ReadNote::Dropped, "\"hue\""},
         {"<Property name='nodes'><List hue='1'/></Property>", ReadNote::Dropped, "\"hue\""},
         {"<Property name='nodes'><List><Node hue='1'/></List></Property>", ReadNote::Dropped, "\"hue\""},
@@ -480,7 +480,7 @@ TEST_F(Xml, HostileBytesEndWithAnErrorAndAPlace)
         {QByteArray("<\0N\0o\0d\0e\0/\0>\0", 14), "UTF-16"},
         {QByteArray("\0<\0N\0o\0d\0e\0/\0>", 14), "UTF-16"},
         {"<!DOCTYPE x [<!ENTITY a 'aa'>]><Node><Properties/></Node>", "entities"},
-        {deep, "deeper"},
+        {deep, "levels deep"},
     };
     for (const auto &[xml, word] : cases) {
         EXPECT_FALSE(read(xml)) << word;

@@ -113,11 +113,11 @@ TEST(XmlTokenizer, ReportsThePlaceOfAnError)
         quint32 column;
         const char *word;
     } cases[] = {
-        {"<a>\n <b\n c='1'\n c='2'/></a>", 4, 2, "here twice"},
+        {"<a>\n <b\n c='1'\n c='2'/></a>", 4, 2, "is repeated"},
         {"<a>\r\n\r <b></c></a>", 3, 7, "does not match"},
-        {"<a x='\xC3\xA4\xC3\xA4' y='<'/>", 1, 14, "does not belong"},
+        {"<a x='\xC3\xA4\xC3\xA4' y='<'/>", 1, 14, "not allowed here"},
         {"<a>\xC3\xA4\xC3\xA4&b;</a>", 1, 6, "not defined"},
-        {"<a>\n&#0;</a>", 2, 1, "number of a character"},
+        {"<a>\n&#0;</a>", 2, 1, "character reference"},
         {"<a>\n  <b c='1'", 2, 3, "cut off"},
         {"<a>\n\xC3\xA4\xFF</a>", 2, 2, "not UTF-8"},
         {"<a/>\n <b/>", 2, 2, "root element"},

@@ -77,8 +77,9 @@ bool Call::hasRightCount() const
         return false;
     }
     if (m_arguments.size() > m_verb.mostArguments) {
-        misused(u"\"%1\" is one argument too many. Put quotes around an argument with spaces."_s.arg(
-            argument(m_verb.mostArguments)));
+        misused(
+            u"\"%1\" is an unexpected argument. Put quotes around an argument that contains spaces."_s.arg(
+                argument(m_verb.mostArguments)));
         return false;
     }
     return true;

@@ -33,7 +33,7 @@ ExitCode run(const Call &call)
 {
     const QString folder = call.value(u"output"_s);
     if (folder.isEmpty()) {
-        return call.misused(u"The folder for the build is missing: corvex build FILE -o DIR."_s);
+        return call.misused(u"Name a folder for the build: corvex build FILE -o DIR."_s);
     }
     const ExitCode code = ProjectBuild::run(call, folder,
                                             call.isSet(u"force"_s) ? ProjectBuild::WithProblems::Build

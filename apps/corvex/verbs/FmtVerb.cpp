@@ -127,7 +127,7 @@ const Verb fmtVerb{
 writes nothing, and the exit code is 1 if the file would change. If the file contains parts that
 this version does not know, only --force writes it, because those parts are lost. Elements whose
 plug-in is missing are kept unchanged. Lines that end with LF alone, for example after a checkout
-with git, keep this line end.)"_s;
+with git, keep this line ending.)"_s;
         },
     .example = "corvex fmt --check examples/PumpStation/PumpStation.kdproj",
     .opensProjects = true,

@@ -95,7 +95,7 @@ void print(const Report &report, bool isWritten, const Call &call)
     for (const auto &[name, className] : report.added) {
         call.terminal().print(Terminal::oneLine(u"%1: new, a %2"_s.arg(name, className)));
     }
-    call.terminal().print(u"%1 values changed, %2 variables added, %3 as they were"_s.arg(
+    call.terminal().print(u"%1 values changed, %2 variables added, %3 unchanged"_s.arg(
         QString::number(report.changed.size()), QString::number(report.added.size()),
         QString::number(report.unchanged)));
 }

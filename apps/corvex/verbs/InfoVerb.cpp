@@ -158,7 +158,7 @@ void printText(const Info &info, Terminal &terminal)
     }
     printSection(u"objects:"_s, classes, terminal);
     printSection(u"images:"_s, images, terminal);
-    printSection(u"classes without a plug-in, kept as they are:"_s, plugins, terminal);
+    printSection(u"classes without a plug-in, kept unchanged:"_s, plugins, terminal);
     printSection(u"ignored in the file (line:column: object):"_s, info.notes, terminal);
 }
 

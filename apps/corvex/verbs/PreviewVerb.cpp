@@ -143,8 +143,8 @@ occurs on the screens. --state reads persistent variables and saved settings fro
 back; the window keeps them by default. A file with any other content is not changed.
 
 The scripts of a build can read only the files of the build. They have no network, cannot start
-programs, and their memory and processor time are limited. On systems without such limits (Linux
-has them, with Landlock), the folder of a build needs --trust; a project does not.)"_s;
+programs, and their memory and processor time are limited. On systems that cannot enforce this
+(Linux can, with Landlock), the folder of a build needs --trust; a project does not.)"_s;
         },
     .example = "corvex preview examples/PumpStation/PumpStation.kdproj --shot out/pictures",
     .opensProjects = true,

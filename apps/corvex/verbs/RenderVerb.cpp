@@ -174,8 +174,8 @@ const Verb renderVerb{
     .summary = "draw a screen as the canvas shows it",
     .details =
         [] {
-            return uR"(Draws a screen of the project, with its values in the design, into a PNG picture of the size of
-the screen. No display is needed. --handles also draws the frame and the handles of an element. It
+            return uR"(Draws a screen of the project, with its design-time values, into a PNG picture of the size of the
+screen. No display is needed. --handles also draws the frame and the handles of an element. It
 takes a path as in "corvex tree", or just the name of an element on this screen. An image is
 drawn as a crossed frame if its file is missing, or if it is a drawing that links to other
 files.)"_s;

@@ -324,7 +324,7 @@ constexpr Row rows[] = {
     {ProblemCode::LinkTarget, "Unset the link", unlinked},
     {ProblemCode::ChannelMissing, channelText, otherChannel},
     {ProblemCode::ChannelShared, channelText, otherChannel},
-    {ProblemCode::PasswordEmpty, "Switch the password off", switchedOff},
+    {ProblemCode::PasswordEmpty, "Disable the password", switchedOff},
     {ProblemCode::BACnetTaken, "Set the identifier to \"%1\"", otherInstance},
     {ProblemCode::LogUnfed, "Delete the log", deleted},
     {ProblemCode::NumberUnreadable, resetText, reset},

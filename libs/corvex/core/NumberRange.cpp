@@ -47,7 +47,7 @@ QString NumberRange::toString() const
     if (std::isinf(maximum)) {
         return std::isinf(minimum) ? QString()
                : isAbove           ? text(u"above %1"_s, minimum)
-                                   : text(u"from %1 on"_s, minimum);
+                                   : text(u"of at least %1"_s, minimum);
     }
     return std::isinf(minimum) ? text(u"up to %1"_s, maximum)
            : isAbove           ? text(u"above %1, up to %2"_s, minimum, maximum)

@@ -25,7 +25,7 @@ struct CORVEX_EXPORT NumberRange
     {
         return !(number < minimum || number > maximum || (isAbove && number == minimum));
     }
-    //! "from 10 to 100", "from 1 on"; empty if the range has no limits. Translated.
+    //! "from 10 to 100", "of at least 1"; empty if the range has no limits. Translated.
     QString toString() const;
 
     friend bool operator==(const NumberRange &, const NumberRange &) = default;

@@ -166,7 +166,7 @@ std::unique_ptr<ProjectDocument::ImportJob> ProjectDocument::importVariables(con
     auto job = std::make_unique<ImportJob>();
     addReader(job.get(),
               LocalizationHelper::coreString(
-                  u"Variables are being imported. Wait for the end, or cancel the import."_s),
+                  u"Variables are being imported. Wait until the import has finished, or cancel it."_s),
               true);
     auto run = std::make_shared<ImportRun>(*this);
     job->addInThread([run, table, separator](Progress &progress, QString &) {

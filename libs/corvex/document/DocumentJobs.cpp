@@ -148,8 +148,9 @@ std::unique_ptr<ProjectDocument::BuildJob> ProjectDocument::build()
         return nullptr;
     }
     auto job = std::make_unique<BuildJob>();
-    addReader(job.get(), LocalizationHelper::coreString(
-                             u"The project is being built. Wait for the end, or cancel the build."_s));
+    addReader(job.get(),
+              LocalizationHelper::coreString(
+                  u"The project is being built. Wait until the build has finished, or cancel it."_s));
     job->startInThread([generator = m_project->newRuntimeGenerator(), project = m_project.get()](
                            Progress &progress, QString &error) mutable -> std::optional<BuildFolder> {
         generator.setProgress(&progress);

@@ -70,11 +70,10 @@ public:
         }
         m_picture = CanvasScene(screen).picture();
         if (m_picture.isNull()) {
-            error =
-                LocalizationHelper::coreString(
-                    u"The screen \"%1\" has no area, or one too large for a picture. Mend the size in the "
-                    "project's configuration."_s)
-                    .arg(screen->getIdName());
+            error = LocalizationHelper::coreString(
+                        u"The screen \"%1\" is empty or too large for a picture. Correct the size in the "
+                        "project's configuration."_s)
+                        .arg(screen->getIdName());
             return Job::Next::Failed;
         }
         m_names.append(name);

@@ -31,7 +31,7 @@ QDateTime ProjectDocument::recoveryTime() const
 bool ProjectDocument::discardRecovery()
 {
     if (!m_hasRecovery) {
-        return result(false, LocalizationHelper::coreString(u"There is no autosave file of this project."_s));
+        return result(false, LocalizationHelper::coreString(u"This project has no autosave file."_s));
     }
     QFile archive(m_project->autosavePath());
     if (!archive.remove() && archive.exists()) {
@@ -45,7 +45,7 @@ bool ProjectDocument::recover()
 {
     QString error;
     if (!m_hasRecovery) {
-        return result(false, LocalizationHelper::coreString(u"There is no autosave file of this project."_s));
+        return result(false, LocalizationHelper::coreString(u"This project has no autosave file."_s));
     }
     if (!mayEdit(error)) {
         return result(false, error);

@@ -116,7 +116,7 @@ void BuildFolder::checkVersion(const QString &tag)
         m_problems.append(
             {configurationFile,
              u"The build was made by version %1, but this preview supports builds up to version %2. It "
-             "may behave differently than the device."_s.arg(version, known)});
+             "may behave differently from the device."_s.arg(version, known)});
     }
 }
 

@@ -15,7 +15,7 @@ namespace Halvane::Corvex::Elements {
 RuntimePropertyList withValue(RuntimePropertyList properties, Common::EnumHelper::VariableType type,
                               Common::EnumHelper::VariableAccessMode access)
 {
-    const RuntimeRow rows[] = {{"value", "Value", type, access, "What the channel has at the moment"}};
+    const RuntimeRow rows[] = {{"value", "Value", type, access, "The current value of the channel"}};
     properties.append(toRuntimeProperties(rows));
     return properties;
 }

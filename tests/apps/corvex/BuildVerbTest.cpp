@@ -128,13 +128,13 @@ TEST_F(BuildVerb, ReplacesNothingButEarlierBuilds)
         QString folder;
         QString error;
     } cases[] = {
-        {u"built"_s, u"\"built\" holds \"project/notes.txt\", which is not part of a build"_s},
-        {u"other"_s, u"\"other\" holds \"letter.txt\", which is not part of a build"_s},
-        {u"beside"_s, u"\"beside\" holds \".hidden\", which is not part of a build"_s},
-        {u"deep"_s, u"\"deep\" holds \"project/sub\", which is not part of a build"_s},
-        {u"code"_s, u"\"code\" holds \"project\", which is not part of a build"_s},
-        {u"aside"_s, u"\"aside\" holds \"project\", which is not part of a build"_s},
-        {u"linked"_s, u"\"linked\" holds \"Project.kdproj.zip\", which is not part of a build"_s},
+        {u"built"_s, u"\"built\" contains \"project/notes.txt\", which is not part of a build"_s},
+        {u"other"_s, u"\"other\" contains \"letter.txt\", which is not part of a build"_s},
+        {u"beside"_s, u"\"beside\" contains \".hidden\", which is not part of a build"_s},
+        {u"deep"_s, u"\"deep\" contains \"project/sub\", which is not part of a build"_s},
+        {u"code"_s, u"\"code\" contains \"project\", which is not part of a build"_s},
+        {u"aside"_s, u"\"aside\" contains \"project\", which is not part of a build"_s},
+        {u"linked"_s, u"\"linked\" contains \"Project.kdproj.zip\", which is not part of a build"_s},
         {u"Pump"_s, u"\"Pump\" is inside the project's own folder"_s},
         {u"into/out"_s, u"\"into/out\" is inside the project's own folder"_s},
         {u"file"_s, u"\"file\" is not a folder."_s},

@@ -40,8 +40,8 @@ TEST(CheckVerb, PrintsEveryProblemOnOneLine)
     const int gauge = other.lineOf(pump, "<Gauge>");
     const int size = other.lineOf(pump, "\"small\"");
     const QStringList expected{
-        u"Main: line %1, column 1: No plug-in knows the class \"Gauge\"; the item is kept as it is."_s.arg(
-            gauge),
+        u"Main: line %1, column 1: No plug-in provides the class \"Gauge\"; the item is kept unchanged."_s
+            .arg(gauge),
         u"Main.bad\\nname: line %1, column 1: The value \"small\" of the property \"size\" cannot be read; "
         u"it "
         "stays \"height: 24; width: 120;\"."_s.arg(size),
@@ -52,7 +52,7 @@ TEST(CheckVerb, PrintsEveryProblemOnOneLine)
         u"allowed. "
         "The first character must be a letter."_s,
         u"Main.late: textBinding: Term 1 of the expression, \"0707alert(1)\", cannot be used in it."_s,
-        u"Main.turned: rotationBinding: The generated code cannot be read by the device: It is nested more "
+        u"Main.turned: rotationBinding: The device cannot read the generated code: It is nested more "
         u"than "
         "1000 levels deep."_s,
     };
@@ -140,8 +140,8 @@ TEST(CheckVerb, ChecksReferencesBetweenParts)
         u"Main.button: pressedState: Cannot find element \"away\" in the screen."_s,
         u"Main.button: pressedState: \"small\" is not a valid value for the property \"size\" of \"box1\"."_s,
         u"Main.button: pressedState: \"box1\" has no property \"hue\"."_s,
-        u"Main.button: pressedState: warning: \"-4\" is out of range for \"radius\" of \"box1\", which takes "
-        "numbers from 0 on."_s,
+        u"Main.button: pressedState: warning: \"-4\" is out of range for \"radius\" of \"box1\", which "
+        "takes numbers of at least 0."_s,
         u"Main.value: textBinding: Cannot find \"gone\" in the project."_s,
         u"Main.element: xBinding: Cannot find element \"box1.box2\" in the screen."_s,
         u"Main.screen: xBinding: Cannot find element \"Main.away\" in the screen."_s,
@@ -185,9 +185,10 @@ TEST(CheckVerb, CombinesTheResultsOfTheThreads)
         all += QByteArray(screen).replace("Main", name);
         const QString path = QString::fromLatin1(name);
         lost.append(path + u".lost: textBinding: Cannot find \"gone\" in the project."_s);
-        unreadable.append(path
-                          + u".deep: rotationBinding: The generated code cannot be read by the device: "
-                            "It is nested more than 1000 levels deep."_s);
+        unreadable.append(
+            path
+            + u".deep: rotationBinding: The device cannot read the generated code: It is nested more than "
+              "1000 levels deep."_s);
     }
     sandbox.write(pump, text.replace(begin, end - begin, all).replace("objectId: Main;", "objectId: S10;"));
     const QStringList expected =

@@ -73,18 +73,19 @@ TEST(CommandLine, RefusesWrongUsage)
         {{u"help"_s, u"me"_s}, u"There is no verb \"me\". \"corvex help\" lists them all."_s},
         {{u"info"_s}, u"\"info\" needs more arguments: corvex info FILE. See \"corvex help info\"."_s},
         {{u"info"_s, u"a"_s, u"b c"_s},
-         u"\"b c\" is one argument too many. Put quotes around an argument with spaces. See \"corvex help info\"."_s},
+         u"\"b c\" is an unexpected argument. Put quotes around an argument that contains spaces. See "
+         "\"corvex help info\"."_s},
         {{u"info"_s, u"--colour"_s, u"x"_s},
          u"Unknown option 'colour'. Put \"--\" before an argument that begins with \"-\". "
          "See \"corvex help info\"."_s},
         {{u"value"_s, u"number"_s, u"1"_s},
-         u"There is no kind of values \"number\". There are bool, int, "_s},
+         u"There is no kind of values \"number\". Available: bool, int, "_s},
         {{u"expr"_s, u"logic"_s, u"1"_s},
-         u"There is no kind of expressions \"logic\". There are general, assign, bool, math, string. "
-         "See \"corvex help expr\"."_s},
+         u"There is no kind of expressions \"logic\". Available: general, assign, bool, math, string. See "
+         "\"corvex help expr\"."_s},
         {{u"expr"_s, u"bool"_s, u"0203t"_s, u"--output"_s, u"text"_s},
-         u"There is no type \"text\". There are raw, string, boolean, integer, float, number, color. "
-         "See \"corvex help expr\"."_s},
+         u"There is no type \"text\". Available: raw, string, boolean, integer, float, number, color. See "
+         "\"corvex help expr\"."_s},
         {{u"expr"_s, u"bool"_s, u"0203t"_s, u"--output"_s}, u"Missing value after '--output'."_s},
     };
     for (const auto &[arguments, error] : cases) {

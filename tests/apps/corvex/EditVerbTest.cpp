@@ -133,7 +133,7 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
         {"set Main.photo.source filterType: ImageResource; objectId: x.png; scopeType: Project;",
          "The file of the image is missing."},
         {"set Main.title.id x", "Use rename to change a name; it updates all references."},
-        {"rename Main.title", "The form of this edit is: rename PATH NAME"},
+        {"rename Main.title", "Usage: rename PATH NAME"},
         {"rename Main.title box1", "The name is not unique. \"Main.box1\" (Rectangle) has this name."},
         {"rename speed s",
          "The name is in the wrong format. Only letters, numbers and underscore are allowed. "
@@ -149,7 +149,7 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
         {"add Text speed", "\"speed\" has no list for an object of the class Text."},
         {"delete Main.title nowhere",
          "There is no object \"nowhere\". \"corvex tree FILE Pump\" shows what exists."},
-        {"group one Main.title", "The form of this edit is: group NAME PATH..."},
+        {"group one Main.title", "Usage: group NAME PATH..."},
         {"group one Main.title Main.title", "At least two elements are required."},
         {"group one Main.title speed", "\"speed\" is a NumberVariable. A group contains elements."},
         {"add-image script",

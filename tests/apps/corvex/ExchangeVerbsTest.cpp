@@ -114,11 +114,11 @@ TEST_F(ExchangeVerbs, ImportAppliesAllOfATableOrNothing)
     };
     const QByteArray exported = sandbox.run({u"export"_s, u"variables"_s, pump}).out.toUtf8();
     const QByteArray before = sandbox.read(pump);
-    EXPECT_EQ(import(exported).out, u"0 values changed, 0 variables added, 4 as they were\n"_s);
+    EXPECT_EQ(import(exported).out, u"0 values changed, 0 variables added, 4 unchanged\n"_s);
     const QByteArray table = "name,class,value\nlevel,,5\nnew1,NumberVariable,1\nspeed,,x\n";
     const QString report = u"level.value: \"62.0\" -> \"5\"\n"
                            "new1: new, a NumberVariable\n"
-                           "1 values changed, 1 variables added, 1 as they were\n"_s;
+                           "1 values changed, 1 variables added, 1 unchanged\n"_s;
     EXPECT_EQ(import(table, {u"--dry-run"_s}).out, report);
     sandbox.write(u"wrong"_s, "name,class,value\nlevel,,x\nMain,NumberVariable,1\nwell,,5\n");
     const ProgramRun all = sandbox.run({u"import"_s, u"variables"_s, pump, u"wrong"_s});

@@ -47,10 +47,10 @@ TEST(ProjectFile, IsRefusedWithPlaceAndReason)
         {u"cut"_s, u"cut:19:"_s},
         {u"text"_s, u"text:1:1: This is not XML."_s},
         {u"latin1"_s, u"latin1:2:10: The bytes here are not UTF-8"_s},
-        {u"utf16"_s, u"utf16:1:1: The text is UTF-16; only UTF-8 is read."_s},
-        {u"root"_s, u"root:1:1: The root element is \"Screen\" where \"Project\" is expected."_s},
+        {u"utf16"_s, u"utf16:1:1: The text is UTF-16; only UTF-8 is supported."_s},
+        {u"root"_s, u"root:1:1: The root element is \"Screen\", but \"Project\" is expected."_s},
         {u"bomb"_s, u"bomb:1:1: Document types and entities are not accepted."_s},
-        {u"deep"_s, u"deep:1:1543: Elements are nested deeper than 512."_s},
+        {u"deep"_s, u"deep:1:1543: Elements are nested more than 512 levels deep."_s},
         {u"huge"_s, u"huge:1:22: A value is longer than 16 MB."_s},
     };
     for (const auto &[file, error] : cases) {
@@ -136,7 +136,7 @@ TEST(FmtVerb, LosesNothingUnlessForced)
     const ProgramRun refused = sandbox.run({u"fmt"_s, pump});
     EXPECT_EQ(refused.code, 1);
     EXPECT_EQ(refused.out, QString());
-    EXPECT_EQ(refused.error, u"Pump/Pump.kdproj:%1:1: Main.title: The property \"shadow\" is not known.\n"
+    EXPECT_EQ(refused.error, u"Pump/Pump.kdproj:%1:1: Main.title: The property \"shadow\" is unknown.\n"
                              "corvex: \"Pump/Pump.kdproj\" contains parts that this version does not know "
                              "and would lose, so it was not "
                              "written. Fix these places, or write anyway with --force.\n"_s.arg(

@@ -155,7 +155,7 @@ TEST_F(PreviewVerb, StopsABuildThatUsesTooMuch)
          "The preview was stopped at \"Main.touched\": it used more than 2 GB"},
         {"import QtQuick 2.0\nCanvas { objectName: 'Main'; width: 20; height: 20; onPaint: getContext('2d')\n"
          "onPainted: save('sent.png') }",
-         "or a script called itself without end"},
+         "or a script called itself endlessly"},
     };
     sandbox.write(u"script"_s, "show Main\npress box\nshot after\n");
     for (const auto &[document, sentence] : documents) {

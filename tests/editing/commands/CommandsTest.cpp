@@ -113,8 +113,10 @@ TEST_F(KindCommands, RefusalsHaveAReason)
     DesignerObject *group = DesignerObject::createFromString(withUnknown);
     ASSERT_TRUE(group && group->setIdName(u"group9"_s));
     ASSERT_TRUE(other->addListPropertyItem(other->elements(), group));
-    EXPECT_EQ(reasonOf(Commands::duplicationOf({group})),
-              u"\"Other.group9\" cannot be duplicated: no plug-in knows \"text1\" in it, a Gauge."_s);
+    EXPECT_EQ(
+        reasonOf(Commands::duplicationOf({group})),
+        u"\"Other.group9\" cannot be duplicated: it contains \"text1\", and no plug-in provides its class "
+        "Gauge."_s);
     QFile::remove(project->imagesPath() + u"/pump.png"_s);
     EXPECT_NE(reasonOf(Commands::duplicationOf({find("pump.png")})), QString());
 }

@@ -134,8 +134,7 @@ TEST_F(ImportVariablesTest, ReportsWhatItCannotImport)
          "line 2: The table is neither in UTF-8 nor in UTF-16 with a byte order mark. Save it "
          "as \"CSV UTF-8\"."},
         {"name\rspeed\r",
-         "line 1: The lines end with only a carriage return. Save the table with the line ends of today's "
-         "systems."},
+         "line 1: The lines end with only a carriage return. Save the table with LF or CRLF line endings."},
         {"name,value\nspeed\n", "line 2: The row has 1 fields for 2 columns."},
         {"name\nspeed\nspeed\n", "line 3: \"speed\" is also in line 2."},
         {"name,value\nnew,1\n", "line 2: \"new\" is not in the project. Give a class to add it."},

@@ -383,7 +383,8 @@ TEST_F(Elements, LinksAndChannelsAreValidated)
     const std::unique_ptr<DesignerObject> left(screen->takeListPropertyItem(screen->elements(), second));
     EXPECT_TRUE(first->isValid());
     set(first, "channel", u"0"_s);
-    EXPECT_EQ(first->getProperty(u"channel")->errorString(), u"channel takes numbers from 1 on, not 0."_s);
+    EXPECT_EQ(first->getProperty(u"channel")->errorString(),
+              u"channel takes numbers of at least 1, not 0."_s);
 
     auto *group = static_cast<GroupElement *>(add("GroupElement", u"group"_s));
     group->addListPropertyItem(group->elements(), make(u"Rectangle"_s, u"member"_s));

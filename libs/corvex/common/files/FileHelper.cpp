@@ -150,8 +150,9 @@ bool FileHelper::variantToFile(const QVariant &value, const QString &path, bool 
     QByteArray bytes;
     if (!VariantStream::write(value, bytes)) {
         if (error) {
-            *error = LocalizationHelper::coreString(u"The file \"%1\" cannot hold a value of its type."_s)
-                         .arg(QDir::toNativeSeparators(path));
+            *error =
+                LocalizationHelper::coreString(u"The value has a type that the file \"%1\" cannot store."_s)
+                    .arg(QDir::toNativeSeparators(path));
         }
         return false;
     }

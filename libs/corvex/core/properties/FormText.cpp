@@ -31,7 +31,7 @@ QString of(const QColor &)
 
 QString example(const QString &text)
 {
-    return text.isEmpty() ? LocalizationHelper::coreString(u"a text of its form"_s)
+    return text.isEmpty() ? LocalizationHelper::coreString(u"a text in the expected format"_s)
                           : LocalizationHelper::coreString(u"a text such as \"%1\""_s).arg(text);
 }
 

@@ -36,8 +36,8 @@ void ReadNoteList::finish()
     for (const Rest &rest : m_rests) {
         if (rest.count > mostNotes + 1) {
             m_notes.append(rest.first);
-            m_notes.last().message +=
-                u" So it is in %1 more places."_s.arg(QString::number(rest.count - mostNotes - 1));
+            m_notes.last().message += u" There are %1 more problems of this kind."_s.arg(
+                QString::number(rest.count - mostNotes - 1));
         } else if (rest.count > mostNotes) {
             m_notes.append(rest.first);
         }

@@ -177,11 +177,11 @@ PlannedCommand Commands::changeOf(const QList<RequestedValue> &values)
             return refused(u"\"%1\" is not a value."_s, property ? property->id() : QString());
         }
         if (property == owner->idProperty() && values.size() > 1) {
-            return refused(u"\"%1\" is a name, and no two objects can have the same. Rename one at a time."_s,
+            return refused(u"\"%1\" is a name, and names must be unique. Rename one object at a time."_s,
                            owner->getIdName());
         }
         if (!property->hasFlag(StoredFlag)) {
-            return refused(u"\"%1\" is not stored; it follows from other values."_s, property->name());
+            return refused(u"\"%1\" is not stored; it is derived from other values."_s, property->name());
         }
         if (const QString reason = gateRefusal(*owner); !reason.isEmpty()) {
             return {nullptr, reason, {}};

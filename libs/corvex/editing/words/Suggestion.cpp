@@ -66,7 +66,7 @@ QString Suggestion::unknown(const QString &what, const QString &name, const QStr
 QString Suggestion::unknown(const QString &what, const QString &name, const QStringList &names)
 {
     return unknown(what, name, names,
-                   LocalizationHelper::coreString(u"There are %1."_s).arg(names.join(u", "_s)));
+                   LocalizationHelper::coreString(u"Available: %1."_s).arg(names.join(u", "_s)));
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -77,7 +77,7 @@ void ChannelsView::rebuild()
         connect(channel, &Channel::roleChanged, m_content, [this] { rebuildSoon(); });
     }
     if (channels.isEmpty()) {
-        form->addRow(new QLabel(tr("The screens seen so far have no inputs or outputs.")));
+        form->addRow(new QLabel(tr("The screens shown so far have no inputs or outputs.")));
     }
     layout()->addWidget(m_content);
 }

@@ -160,11 +160,10 @@ bool Project::writeAgain(QString *error)
 bool Project::renameEntries(const QString &fileName, const QString &subPath, QString *error)
 {
     if (subPath != this->subPath() && needsFolderName(fullFilePath())) {
-        *error =
-            Common::LocalizationHelper::coreString(
-                u"The project file \"%1\" is a link to \"%2\". It would lead nowhere when the folder has "
-                "another name. Make the link relative to its own folder and try again."_s)
-                .arg(fullFilePath(), Common::FileSync::linkTarget(fullFilePath()));
+        *error = Common::LocalizationHelper::coreString(
+                     u"The project file \"%1\" is a link to \"%2\". It would be broken after the folder is "
+                     "renamed. Make the link relative to its own folder and try again."_s)
+                     .arg(fullFilePath(), Common::FileSync::linkTarget(fullFilePath()));
         return false;
     }
     const bool waitsForSave = fileChanges();

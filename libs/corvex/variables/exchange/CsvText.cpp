@@ -183,9 +183,9 @@ QList<Row> read(QStringView text, QList<Problem> &problems, QChar separator)
         }
     }
     if (reader.lineOfLoneReturn() > 0) {
-        problems.append({reader.lineOfLoneReturn(),
-                         u"The lines end with only a carriage return. Save the table with the line ends of "
-                         "today's systems."_s});
+        problems.append(
+            {reader.lineOfLoneReturn(),
+             u"The lines end with only a carriage return. Save the table with LF or CRLF line endings."_s});
         rows.clear();
     }
     return rows;

@@ -77,7 +77,7 @@ void ObjectBuilder::dropAttributes(std::span<const XmlAttribute> attributes)
 {
     for (const XmlAttribute &attribute : attributes) {
         note(ReadNote::Dropped,
-             u"The attribute \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(attribute.name)));
+             u"The attribute \"%1\" is unknown here."_s.arg(XmlTokenizer::excerpt(attribute.name)));
     }
 }
 
@@ -95,7 +95,7 @@ void ObjectBuilder::skip(const QString &message)
 void ObjectBuilder::startElement(QByteArrayView name, std::span<const XmlAttribute> attributes)
 {
     if (m_frames.size() >= XmlLimits::deepestNesting) {
-        m_input.fail(u"Elements are nested deeper than %1."_s.arg(XmlLimits::deepestNesting));
+        m_input.fail(u"Elements are nested more than %1 levels deep."_s.arg(XmlLimits::deepestNesting));
         return;
     }
     if (m_frames.isEmpty()) {
@@ -134,14 +134,14 @@ void ObjectBuilder::openRoot(QByteArrayView name)
 {
     const QString className = QString::fromUtf8(name);
     if (!m_createsRoot && className != m_root->className()) {
-        m_input.fail(u"The root element is \"%1\" where \"%2\" is expected."_s.arg(
-            XmlTokenizer::excerpt(name), m_root->className()));
+        m_input.fail(u"The root element is \"%1\", but \"%2\" is expected."_s.arg(XmlTokenizer::excerpt(name),
+                                                                                  m_root->className()));
         return;
     }
     if (m_createsRoot) {
         m_root = makeObject(className);
         if (!m_root) {
-            m_input.fail(u"No object of the class \"%1\" can be made."_s.arg(XmlTokenizer::excerpt(name)));
+            m_input.fail(u"Cannot create an object of the class \"%1\"."_s.arg(XmlTokenizer::excerpt(name)));
             return;
         }
     }
@@ -170,7 +170,7 @@ void ObjectBuilder::openInObject(const Frame &frame, QByteArrayView name,
         m_frames.last().known = object.known;
         dropAttributes(attributes);
     } else {
-        skip(u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
+        skip(u"The element \"%1\" is unknown here."_s.arg(XmlTokenizer::excerpt(name)));
     }
 }
 
@@ -225,7 +225,7 @@ DesignerProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView name,
                                               bool *isRepeated)
 {
     if (name != "Property") {
-        note(ReadNote::Dropped, u"The element \"%1\" is not known here."_s.arg(XmlTokenizer::excerpt(name)));
+        note(ReadNote::Dropped, u"The element \"%1\" is unknown here."_s.arg(XmlTokenizer::excerpt(name)));
         return nullptr;
     }
     QByteArrayView id;
@@ -243,12 +243,12 @@ DesignerProperty *ObjectBuilder::takeProperty(Frame &frame, QByteArrayView name,
     if (!property || !property->hasFlag(StoredFlag)) {
         note(ReadNote::Dropped, id.isNull()
                                     ? u"A property has no name."_s
-                                    : u"The property \"%1\" is not known."_s.arg(XmlTokenizer::excerpt(id)));
+                                    : u"The property \"%1\" is unknown."_s.arg(XmlTokenizer::excerpt(id)));
         return nullptr;
     }
     if (*isRepeated) {
-        note(ReadNote::Dropped, u"The property \"%1\" is here a second time; the later one counts."_s.arg(
-                                    QString::fromUtf8(id)));
+        note(ReadNote::Dropped,
+             u"The property \"%1\" is repeated; the last value is used."_s.arg(QString::fromUtf8(id)));
     }
     return property;
 }
@@ -304,8 +304,8 @@ void ObjectBuilder::openInProperty(Frame &frame, QByteArrayView name,
     const bool opensList = name == "List" && frame.property->isList();
     const bool opensObject = name == "Object" && frame.property->isObject();
     if ((!opensList && !opensObject) || frame.isAnswered) {
-        skip(u"The element \"%1\" is not known in the property \"%2\"."_s.arg(XmlTokenizer::excerpt(name),
-                                                                              frame.property->id()));
+        skip(u"The element \"%1\" is unknown in the property \"%2\"."_s.arg(XmlTokenizer::excerpt(name),
+                                                                            frame.property->id()));
         return;
     }
     frame.isAnswered = true;
@@ -357,8 +357,8 @@ void ObjectBuilder::openItem(const Frame &frame, QByteArrayView name,
         return;
     }
     qWarning("loadListPropertyFromXml invalid class name %s", qUtf8Printable(XmlTokenizer::excerpt(name)));
-    note(ReadNote::Kept,
-         u"No plug-in knows the class \"%1\"; the item is kept as it is."_s.arg(XmlTokenizer::excerpt(name)));
+    note(ReadNote::Kept, u"No plug-in provides the class \"%1\"; the item is kept unchanged."_s.arg(
+                             XmlTokenizer::excerpt(name)));
     m_recorder.start(className);
     m_recorder.open(name, attributes);
     push(Context::Kept, frame.object, frame.property);
@@ -378,7 +378,7 @@ void ObjectBuilder::openObjectValue(Frame &frame, QByteArrayView name,
         dropAttributes(attributes);
         push(Context::Object, object);
     } else {
-        skip(u"No plug-in knows the class \"%1\"."_s.arg(XmlTokenizer::excerpt(name)));
+        skip(u"No plug-in provides the class \"%1\"."_s.arg(XmlTokenizer::excerpt(name)));
     }
 }
 
@@ -443,7 +443,7 @@ void ObjectBuilder::addItem(const Frame &list, DesignerObject *item)
     const bool isKept = writer.write(item);
     const QString message = u"\"%1\" is not allowed in \"%2\": %3 %4"_s.arg(
         item->getIdName(), list.property->id(), list.property->errorString(),
-        isKept ? u"The item is kept as it is."_s : writer.errorString());
+        isKept ? u"The item is kept unchanged."_s : writer.errorString());
     qWarning("%s", qUtf8Printable(message));
     note(isKept ? ReadNote::Kept : ReadNote::Dropped, message);
     if (isKept) {

@@ -84,7 +84,7 @@ bool XmlInput::deliver(const XmlTokens &tokens)
     if (m_progress) {
         m_progress->advance(qint64(tokens.bytes.size()));
         if (m_progress->isCancelled()) {
-            fail(Common::LocalizationHelper::coreString(u"The reading was cancelled."_s));
+            fail(Common::LocalizationHelper::coreString(u"Reading was cancelled."_s));
             return false;
         }
     }

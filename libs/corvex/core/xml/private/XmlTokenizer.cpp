@@ -103,7 +103,7 @@ bool XmlTokenizer::fill(XmlTokens *tokens)
     m_token = m_next;
     if (!std::exchange(m_isBegun, true)) {
         if (beginsAsUtf16(between(m_next, std::min(m_next + 2, m_end)))) {
-            fail(u"The text is UTF-16; only UTF-8 is read."_s);
+            fail(u"The text is UTF-16; only UTF-8 is supported."_s);
             return false;
         }
         if (between(m_next, m_end).startsWith("\xEF\xBB\xBF")) {
@@ -317,13 +317,13 @@ XmlTokenizer::Outcome XmlTokenizer::checkAttributes(quint32 first)
         }
         for (size_t j = 0; j < i && attributes.size() <= few; ++j) {
             if (attributes[i].name == attributes[j].name) {
-                return malformed("an attribute is here twice"_L1, attributes[i].name.data());
+                return malformed("an attribute is repeated"_L1, attributes[i].name.data());
             }
         }
     }
     std::sort(sorted.begin(), sorted.end());
     if (const auto twice = std::adjacent_find(sorted.begin(), sorted.end()); twice != sorted.end()) {
-        return malformed("an attribute is here twice"_L1, std::max(twice[0].data(), twice[1].data()));
+        return malformed("an attribute is repeated"_L1, std::max(twice[0].data(), twice[1].data()));
     }
     for (XmlAttribute &attribute : attributes) {
         attribute.value = decoded(attribute.value, Content::Value);
@@ -409,7 +409,7 @@ XmlTokenizer::Outcome XmlTokenizer::malformed(QLatin1StringView what, const char
 
 XmlTokenizer::Outcome XmlTokenizer::misplaced(const char *character)
 {
-    return malformed("a character does not belong here"_L1, character);
+    return malformed("a character is not allowed here"_L1, character);
 }
 
 XmlTokenizer::Outcome XmlTokenizer::unexpected()

@@ -64,7 +64,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeOther()
         return misplaced(m_next);
     }
     m_tokenPlace = placeInToken(m_next);
-    return fail(u"The bytes here are not UTF-8, the one encoding that is read."_s);
+    return fail(u"The bytes here are not UTF-8, the only supported encoding."_s);
 }
 
 XmlTokenizer::Outcome XmlTokenizer::takeReference()
@@ -88,7 +88,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeReference()
     const bool isWord =
         name.startsWith('#') ? character != noNumber : !name.isEmpty() && is(name.front(), NameStart);
     return !isWord                ? misplaced(begin + 1)
-           : name.startsWith('#') ? malformed("this is not the number of a character"_L1, begin)
+           : name.startsWith('#') ? malformed("this is not a valid character reference"_L1, begin)
                                   : malformed("this entity is not defined"_L1, begin);
 }
 

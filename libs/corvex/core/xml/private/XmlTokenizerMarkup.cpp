@@ -105,7 +105,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeInstruction()
 XmlTokenizer::Outcome XmlTokenizer::takeDeclaration()
 {
     static constexpr QByteArrayView names[] = {"version", "encoding", "standalone"};
-    constexpr auto what = "the XML declaration is wrong"_L1;
+    constexpr auto what = "the XML declaration is invalid"_L1;
     size_t expected = 0;
     while (*m_next != '?') {
         QByteArrayView name;
@@ -123,10 +123,10 @@ XmlTokenizer::Outcome XmlTokenizer::takeDeclaration()
             return malformed(what, name.data());
         }
         if (known == 0 && value != "1.0") {
-            return fail(u"The text is XML %1; only XML 1.0 is read."_s.arg(excerpt(value)));
+            return fail(u"The text is XML %1; only XML 1.0 is supported."_s.arg(excerpt(value)));
         }
         if (known == 1 && !isUtf8(value)) {
-            return fail(u"The text is declared as %1; only UTF-8 is read."_s.arg(excerpt(value)));
+            return fail(u"The text is declared as %1; only UTF-8 is supported."_s.arg(excerpt(value)));
         }
         expected = known + 1;
     }
@@ -161,7 +161,7 @@ XmlTokenizer::Outcome XmlTokenizer::takePseudoAttribute(QByteArrayView *name, QB
     const bool isWord = !value->isEmpty() && std::all_of(value->begin(), value->end(), [](char c) {
         return is(c, NameCharacter);
     });
-    return isWord ? Outcome::Done : malformed("the XML declaration is wrong"_L1, value->data());
+    return isWord ? Outcome::Done : malformed("the XML declaration is invalid"_L1, value->data());
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -68,7 +68,8 @@ void AddImageFromData::setupCommand(const QImage &image, Project *project, Scree
         setActiveItem(element);
         setSelection({element});
     } else if (screen) {
-        refuse(Common::LocalizationHelper::coreString(u"No plug-in knows elements that show an image."_s));
+        refuse(Common::LocalizationHelper::coreString(
+            u"No plug-in provides an element class that shows images."_s));
     }
 }
 

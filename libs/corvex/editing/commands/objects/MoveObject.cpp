@@ -57,7 +57,7 @@ void MoveObject::setupCommand(const SharedProperty &to, DesignerObject *object, 
     const QString name = object->getIdName();
     if (from == to && !ListOrder::isFree(*to, *object)) {
         refuse(Common::LocalizationHelper::coreString(
-                   u"\"%1\" has a fixed place in its list, which sorts objects of its kind by name."_s)
+                   u"\"%1\" cannot be moved within its list, which sorts objects of this kind by name."_s)
                    .arg(name));
         return;
     }

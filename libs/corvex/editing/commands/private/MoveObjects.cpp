@@ -66,10 +66,10 @@ QString MoveObjects::refusalOf(const DesignerObject &object, const SharedPropert
     if (taken.isEmpty() && screen && screen != object.screen()) {
         taken = takenName(object, *screen);
     }
-    return taken.isEmpty()
-               ? QString()
-               : LocalizationHelper::coreString(u"\"%1\" has a \"%2\" already. Rename one of them first."_s)
-                     .arg(screen ? screen->getIdName() : list->name(), taken);
+    return taken.isEmpty() ? QString()
+                           : LocalizationHelper::coreString(
+                                 u"\"%1\" already contains \"%2\". Rename one of them first."_s)
+                                 .arg(screen ? screen->getIdName() : list->name(), taken);
 }
 
 MoveObjects::MoveObjects(const QList<DesignerObject *> &objects, const SharedProperty &list, qsizetype index)
@@ -102,7 +102,7 @@ MoveObjects::MoveObjects(const QList<DesignerObject *> &objects, const SharedPro
                            && std::all_of(items.cbegin() + (next - ownItems), items.cbegin() + next,
                                           [&all](const DesignerObject *item) { return all.contains(item); });
     if (isInPlace) {
-        refuse(LocalizationHelper::coreString(u"The objects are in this place already."_s));
+        refuse(LocalizationHelper::coreString(u"The objects are already in this place."_s));
         return;
     }
     qsizetype place = next;

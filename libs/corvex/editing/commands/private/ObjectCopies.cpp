@@ -57,9 +57,11 @@ bool ObjectCopies::addPairs(const DesignerObject &original, DesignerObject &copy
         }
         if (property->itemList()->hasKeptItems() && kindCast<Element>(&copy)) {
             const KeptItem &kept = property->itemList()->keptItems().constFirst();
-            m_error = LocalizationHelper::coreString(
-                          u"\"%1\" cannot be duplicated: no plug-in knows \"%2\" in it, a %3."_s)
-                          .arg(original.objectPath(), kept.name, kept.className);
+            m_error =
+                LocalizationHelper::coreString(
+                    u"\"%1\" cannot be duplicated: it contains \"%2\", and no plug-in provides its class "
+                    "%3."_s)
+                    .arg(original.objectPath(), kept.name, kept.className);
             return false;
         }
         for (DesignerObject *item : property->listItems()) {

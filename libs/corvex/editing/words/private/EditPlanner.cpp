@@ -129,7 +129,7 @@ EditCall EditPlanner::read(const QString &line)
     call.words = taken.words;
     call.rest = taken.rest;
     if (call.words.size() < form->fewest || (form->most >= 0 && call.words.size() > form->most)) {
-        call.refusal.message = text(u"The form of this edit is: %1"_s, QLatin1StringView(form->usage));
+        call.refusal.message = text(u"Usage: %1"_s, QLatin1StringView(form->usage));
     }
     return call;
 }
