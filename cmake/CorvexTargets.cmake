@@ -3,8 +3,8 @@
 
 # corvex_precompiled_header()
 #
-# The precompiled header of all rooms, tools and plug-ins: the target corvex_precompiled. It takes as long as
-# a dozen sources, so a separate one for each room would cost more than it saves.
+# The precompiled header of all modules, tools and plug-ins: the target corvex_precompiled. It takes as long as
+# a dozen sources, so a separate one for each module would cost more than it saves.
 function(corvex_precompiled_header)
   file(CONFIGURE OUTPUT pch.cpp CONTENT "")
   add_library(corvex_precompiled OBJECT "${CMAKE_CURRENT_BINARY_DIR}/pch.cpp")
@@ -27,8 +27,8 @@ endfunction()
 
 # corvex_room(NAME LINKS target...)
 #
-# A room is a folder of libs/corvex. It is compiled with only the libraries that its layer may use; the
-# objects of all rooms form the library DesignerCore. The folder may contain sub-folders; files are found
+# A module is a folder of libs/corvex. It is compiled with only the libraries that its layer may use; the
+# objects of all modules form the library DesignerCore. The folder may contain sub-folders; files are found
 # automatically. Sets the target corvex_NAME.
 function(corvex_room name)
   cmake_parse_arguments(ROOM "" "" "LINKS" ${ARGN})

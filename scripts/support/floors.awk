@@ -15,7 +15,7 @@ input == 1 && /^\| *[0-9]+ *\|/ {
     rows++
 }
 
-# | `Class::member` | the room of the definition | the reason |; the member may be "*".
+# | `Class::member` | the module of the definition | the reason |; the member may be "*".
 input == 1 && /^\| *`[A-Za-z0-9_]+::[A-Za-z0-9_*]+` *\|/ {
     split($0, cells, /[|`]/)
     excepted[cells[3]] = 1
@@ -29,8 +29,8 @@ input == 2 && FNR == 1 && !rows {
 input == 2 {
     known[$0] = 1
     sources[++files] = $0
-    if (room($0) == "")
-        complain($0 ": is not in a room of the table of layers")
+    if (module($0) == "")
+        complain($0 ": is not in a module of the table of layers")
 }
 
 input == 3 {
@@ -42,11 +42,11 @@ input == 3 {
     target = resolved(file, included)
     if (target == "")
         next
-    from = room(file)
-    to = room(target)
+    from = module(file)
+    to = module(target)
     includes++
     if (from != "" && to == "")
-        complain(file ":" parts[2] ": includes " included ", which is not in a room of the table of layers")
+        complain(file ":" parts[2] ": includes " included ", which is not in a module of the table of layers")
     else if (from != "" && layers[to] > layers[from])
         complain(file ":" parts[2] ": " from " (layer " layers[from] ") includes " included " of layer " layers[to])
     if (target in known) {
@@ -63,7 +63,7 @@ input == 4 {
     name = substr(text, 1, RLENGTH)
     sub(/.*::/, "", name)
     if (name != "")
-        declared[name] = declared[name] "\n" room(parts[1])
+        declared[name] = declared[name] "\n" module(parts[1])
 }
 
 input == 5 {
@@ -74,7 +74,7 @@ input == 5 {
     count = split(text, names, "::")
     for (i = 1; i < count && !(names[i] in declared); i++)
         ;
-    here = room(parts[1])
+    here = module(parts[1])
     if (i == count || here == "" || index(declared[names[i]] "\n", "\n" here "\n"))
         next
     member = names[i] "::" names[count]
@@ -83,15 +83,15 @@ input == 5 {
     else if ((names[i] "::*") in excepted)
         used[names[i] "::*"] = 1
     else {
-        split(declared[names[i]], rooms, "\n")
-        complain(parts[1] ":" parts[2] ": " here " defines " member ", which " rooms[2] " declares")
+        split(declared[names[i]], modules, "\n")
+        complain(parts[1] ":" parts[2] ": " here " defines " member ", which " modules[2] " declares")
     }
 }
 
 END {
     for (member in excepted)
         if (!(member in used) && !problems)
-            complain("the page lists " member " as an exception, but its room declares it or nobody defines it")
+            complain("the page lists " member " as an exception, but its module declares it or nobody defines it")
     for (i = 1; i <= files; i++)
         if (!(sources[i] in state))
             visit(sources[i])
@@ -106,8 +106,8 @@ function complain(text)
     problems++
 }
 
-# The room of a file: "values" for "libs/corvex/values/X.h", "editing/undo", "plugins", "apps".
-function room(file,    path, names)
+# The module of a file: "values" for "libs/corvex/values/X.h", "editing/undo", "plugins", "apps".
+function module(file,    path, names)
 {
     path = file
     sub(/^libs\/corvex\//, "", path)

@@ -35,14 +35,14 @@ rm "$tree/libs/corvex/low/Up.cpp"
 
 file libs/corvex/low/D.h 'class CORVEX_EXPORT D' '{' '    static bool isUp();' '    struct Inner' '    {' '    };' '};' 'class Later;'
 file libs/corvex/mid/D.cpp 'Common::List<int> *D::isUp(' '    int a)' 'D::Inner::Inner()' 'void Later::f()' 'const int x = D::isUp();' '    D::isUp();'
-expect "members that are defined in another room" \
+expect "members that are defined in another module" \
   "1-libs/corvex/mid/D.cpp:1: mid defines D::isUp, which low declares
 libs/corvex/mid/D.cpp:3: mid defines D::Inner, which low declares"
 # shellcheck disable=SC2016
 sed -i '$a | `D::*` | `mid` | a reason |' "$tree/docs/architecture.md"
 expect "members that the page lists" "0-floors: 7 files, 4 includes between them: each layer uses only itself and lower layers"
 rm "$tree"/libs/corvex/*/D.*
-expect "an exception too many" "1-the page lists D::* as an exception, but its room declares it or nobody defines it"
+expect "an exception too many" "1-the page lists D::* as an exception, but its module declares it or nobody defines it"
 # shellcheck disable=SC2016
 sed -i '/D::/d' "$tree/docs/architecture.md"
 
@@ -55,9 +55,9 @@ rm "$tree"/libs/corvex/low/R?.h
 
 file libs/corvex/lost/L.h ''
 file plugins/p/Q.cpp '#include "corvex/lost/L.h"'
-expect "a room that is not in the table" \
-  "1-libs/corvex/lost/L.h: is not in a room of the table of layers
-plugins/p/Q.cpp:1: includes corvex/lost/L.h, which is not in a room of the table of layers"
+expect "a module that is not in the table" \
+  "1-libs/corvex/lost/L.h: is not in a module of the table of layers
+plugins/p/Q.cpp:1: includes corvex/lost/L.h, which is not in a module of the table of layers"
 
 file docs/architecture.md 'nothing'
 expect "a page without the table" "1-docs/architecture.md has no table of layers"
