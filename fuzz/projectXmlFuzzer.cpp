@@ -83,7 +83,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const std::unique_ptr<DesignerObject> again = read(first);
     Fuzz::require(again != nullptr, "what was written cannot be read", QString::fromUtf8(first));
     const QByteArray second = write(again.get());
-    Fuzz::require(second == first, "written anew", QString::fromUtf8(first + "\n----\n" + second));
+    Fuzz::require(second == first, "written again", QString::fromUtf8(first + "\n----\n" + second));
     Fuzz::require(again->isValid() == object->isValid(), "good as before", QString::fromUtf8(first));
     return 0;
 }

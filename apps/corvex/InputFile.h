@@ -22,7 +22,7 @@ public:
     bool open();
     //! Reads the whole file. Returns false, with errorString(), if it cannot be read or is too large.
     bool readAll(QByteArray &bytes);
-    //! Reads one line including its line end; an empty line means the end of the file. Returns false as
+    //! Reads one line including its line ending; an empty line means the end of the file. Returns false as
     //! above.
     bool readLine(QByteArray &line);
 

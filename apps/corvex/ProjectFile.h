@@ -59,7 +59,7 @@ public:
 
     //! The parts that saving would lose.
     QList<Designer::ReadNote> dropped() const;
-    //! An item whose class no plug-in knows, and the object that owns its list.
+    //! An item whose class no plug-in provides, and the object that owns its list.
     struct Kept
     {
         const Designer::DesignerObject *owner;

@@ -24,8 +24,8 @@ public:
     bool finish();
     //! The line of the first difference, counted from 1; 0 if the texts are equal.
     qint64 differentLine() const { return m_line; }
-    //! Replaces the old file by the new one if they differ. On failure returns false, with errorString(), and
-    //! the old file is unchanged.
+    //! Replaces the old file with the new one if they differ. On failure returns false, with errorString(),
+    //! and the old file is unchanged.
     bool commit();
     //! Whether a file could not be read or written.
     bool hasFailed() const { return m_hasFailed; }

@@ -48,7 +48,7 @@ Designer::QmlBindings conditionToQml(const Designer::DesignerProperty *property)
 Designer::QmlBindings termsToQml(const Designer::DesignerProperty *property);
 
 // QML creators for links to objects outside of the screen's document.
-//! "id: \"name\"" with the identifier name of the target, which is empty if there is none.
+//! "id: \"name\"" with the identifier name of the target; the name is empty without a target.
 Designer::QmlBindings linkNameToQml(const Designer::DesignerProperty *property);
 //! "id: \"qml_name\"" with the document of a screen.
 Designer::QmlBindings screenLinkToQml(const Designer::DesignerProperty *property);

@@ -13,13 +13,13 @@ namespace Halvane::Corvex::Tool {
 
 class Call;
 
-//! Adds to a refusal where the program lists what would be accepted.
+//! Adds to a refusal which command lists the accepted values.
 class Advice
 {
 public:
     //! The message, followed by a sentence that names the helpful list.
     static QString complete(const Designer::EditRefusal &refusal);
-    //! Reports that nothing has that path.
+    //! Reports that the path does not exist.
     static ExitCode notFound(Designer::Project &project, const QString &path, const Call &call);
 };
 

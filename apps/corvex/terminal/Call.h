@@ -27,7 +27,7 @@ public:
     const Verb &verb() const { return m_verb; }
     Terminal &terminal() const { return m_terminal; }
     const QStringList &arguments() const { return m_arguments; }
-    //! Empty if the argument was left out.
+    //! Empty if the argument was omitted.
     QString argument(qsizetype index) const { return m_arguments.value(index); }
     bool isSet(const QString &option) const { return m_parser.isSet(option); }
     QString value(const QString &option) const { return m_parser.value(option); }

@@ -52,7 +52,7 @@ public:
     //! Flushes all output. Returns false, after a message, if the result could not be written.
     bool finish();
 
-    //! The text on one line: control characters, such as line ends and tabs, as C escapes ("\n").
+    //! The text on one line: control characters, such as line endings and tabs, as C escapes ("\n").
     static QString oneLine(QStringView text);
 
 private:

@@ -37,7 +37,7 @@ constexpr struct
     {"color", GeneralDataInfo::ColorOutput},
 };
 
-//! The row with that name; null if there is none.
+//! The row with that name, or null.
 template<class Table>
 const auto *findRow(const Table &table, const QString &name)
 {

@@ -31,8 +31,8 @@ ExitCode refuse(const Call &call, const ProjectFile &file, const QList<ReadNote>
         ExitCode::Problems);
 }
 
-//! Version control may have converted the line ends. That is not a change of the project, so the first line
-//! decides for all.
+//! Version control may have converted the line endings. That is not a change of the project, so the first
+//! line decides for all.
 ObjectXmlWriter::LineEnd lineEndOf(const QString &path)
 {
     constexpr qint64 longestDeclaration = 1024;

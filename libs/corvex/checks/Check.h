@@ -15,8 +15,8 @@ class Project;
 
     The base class defines what a check examines: PropertyCheck, ObjectCheck or ProjectCheck. Its result for a
     property depends only on the object of that property and on the objects that it names. So the part that an
-    edit has changed can be checked again separately, one walk through the project serves all checks, and
-    several threads share the walk: each thread has its own checks, whose results are combined at the end.
+    edit has changed can be checked separately, and one walk through the project serves all checks. Several
+    threads share the walk. Each thread has its own checks, and the results are combined at the end.
 */
 class CORVEX_EXPORT Check
 {

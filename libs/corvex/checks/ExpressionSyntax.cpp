@@ -127,7 +127,7 @@ bool ExpressionSyntax::isOfUnknownType(const QString &error)
 
 // The engine compiles the whole text before it runs any of it, and the first statement is a throw, so any
 // other error comes from the compiler. The engine reports no column and accepts a few texts that are not code
-// ("#FF" at the start of a line). The reader of QML files rejects those, but accepts a line end between
+// ("#FF" at the start of a line). The reader of QML files rejects those, but accepts a line ending between
 // quotes.
 ExpressionSyntax::Result ExpressionSyntax::compile(const QString &code, bool inParentheses)
 {

@@ -15,7 +15,7 @@ namespace Halvane::Corvex::Designer {
 struct CORVEX_EXPORT Problem
 {
     ProblemCode code;
-    QString object;   //!< its path at the time when the problem was found
+    QString object;   //!< its path when the problem was found
     QString property; //!< its id; empty if the problem does not concern a property
     QString message;  //!< translated
     qint64 line = 0;  //!< in the project's file; 0 if unknown

@@ -16,14 +16,14 @@ class Project;
 
     They are stored in a separate file in the folder of the project (Project::approvalsPath()): one JSON
     object per line, ordered by path, so that version control can merge the lines. Keys are "code", "object"
-    (the path), "property", "message" and "reason"; the last is for people.
+    (the path), "property", "message" and "reason"; the reason is for human readers.
 
     An approval refers to one message about one object. When the object or one of its owners is renamed or
     moved, the approval and the names in its message are updated. A deleted object takes its approvals with
     it; undo restores them. Approvals of objects that the project does not have remain in the file unchanged.
 
-    The file is written when the project is saved. What others have added to it or removed from it meanwhile
-    is kept. A file that cannot be read is never overwritten.
+    The file is written when the project is saved. Changes that others have made to it in the meantime are
+    kept. A file that cannot be read is never overwritten.
 */
 class CORVEX_EXPORT ProblemApprovals : public QObject
 {

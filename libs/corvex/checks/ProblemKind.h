@@ -16,7 +16,7 @@ enum class Severity {
     Hint,    //!< It works, but there is a better way.
 };
 
-//! The kind of a problem. ProblemKind has the words for users and programs.
+//! The kind of a problem. ProblemKind has the texts for users and the code for programs.
 enum class ProblemCode {
     FileKept,
     FileDropped,

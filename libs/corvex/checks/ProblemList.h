@@ -58,7 +58,7 @@ public:
     const Problem &at(qsizetype row) const;
     QList<Problem> problems() const;
 
-    // In a time that depends only on the number of problems of the object.
+    // The time depends only on the number of problems of the object.
     //! The problems of the object itself, without those of objects in it. Problems of the file belong to the
     //! project.
     QList<Problem> problemsOf(const DesignerObject *object) const;

@@ -18,7 +18,8 @@ struct CORVEX_COMMON_EXPORT Entry
 
 //! Clause 21, BACnetObjectType.
 CORVEX_COMMON_EXPORT const QList<Entry> &objectTypes();
-//! Clause 21, BACnetPropertyIdentifier, without all, optional and required, which mean several properties.
+//! Clause 21, BACnetPropertyIdentifier, without "all", "optional" and "required", which stand for several
+//! properties.
 CORVEX_COMMON_EXPORT const QList<Entry> &properties();
 //! Clause 20.2.1.4, the numbers of the application tags.
 CORVEX_COMMON_EXPORT const QList<Entry> &dataTypes();

@@ -73,7 +73,7 @@ public:
     //! The display texts of the data types ("real"), by name.
     static const QMap<QString, QString> &getBACnetDataTypeNames();
 
-    //! The enumeration of this class with that name ("InputOutputType"); invalid if there is none.
+    //! The enumeration of this class with that name ("InputOutputType"); invalid for any other name.
     static QMetaEnum metaEnum(const QString &name);
 };
 

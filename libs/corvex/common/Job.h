@@ -17,9 +17,9 @@ class QThread;
 
 namespace Halvane::Corvex::Common {
 
-/*! A long operation that does not block the user interface. It runs in a thread of its own or, if it changes
-    objects of the job's thread, in slices between the events of that thread. It may have several
-    parts of both kinds. Each begins when the part before it has succeeded.
+/*! A long operation that does not block the user interface. It runs in its own thread or, if it changes
+    objects of the job's thread, in slices between the events of that thread. It may have several parts of
+    both kinds. Each part begins when the previous one has succeeded.
 
     All signals are emitted in the job's thread, which needs an event loop; receivers in other threads are
     notified in their own. Deleting a job cancels its work, waits for it and emits nothing. A slot connected
@@ -70,7 +70,7 @@ public:
 
 signals:
     void progressed(const Halvane::Corvex::Common::Progress::State &state);
-    //! Emitted once, whatever the outcome.
+    //! Emitted once, regardless of the outcome.
     void finished();
 
 private:

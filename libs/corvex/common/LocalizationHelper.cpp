@@ -31,7 +31,7 @@ State &state()
     return instance;
 }
 
-//! Reads the table of the locale or, if there is none, that of its language.
+//! Reads the table of the locale or, if it is missing, that of its language.
 bool loadTable(const QString &path, const QString &locale, StringsFile &table, QString *error)
 {
     for (const QString &name : {locale, locale.section(u'_', 0, 0)}) {

@@ -18,8 +18,8 @@ public:
     static void setCurrentLocale(const QString &name);
 
     /*! Sets the folder with the library's own texts: one sub-folder per locale or language ("de_DE", "de"),
-        each with a "Localizable.strings". By default there is none, and texts are English. Returns false, and
-        texts are English, if the table of the current locale exists but cannot be read. A missing table is
+        each with a "Localizable.strings". By default no folder is set and texts are English. Returns false if
+        the table of the current locale exists but cannot be read; texts are then English. A missing table is
         not an error.
     */
     static bool setLocalizationsPath(const QString &path, QString *error = nullptr);

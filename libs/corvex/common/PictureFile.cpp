@@ -38,8 +38,8 @@ bool staysWithin(QStringView reference)
                && isOfDots(QByteArray::fromBase64(target.sliced(data + marker.size()).toLatin1())));
 }
 
-//! The first reference of a drawing to something outside of it; empty if there is none. The bytes may be
-//! anything.
+//! The first reference of a drawing to something outside of it; empty without such a reference. The bytes may
+//! be anything.
 QString linkOf(const QByteArray &drawing)
 {
     QXmlStreamReader reader(drawing);

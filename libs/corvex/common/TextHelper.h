@@ -37,12 +37,12 @@ public:
 
     //! Replaces each "\r\n" and each lone "\r" by "\n".
     static QString normalizeLineEnds(const QString &text);
-    //! Replaces every line end, of whatever kind, by "\r\n".
+    //! Replaces line endings of all kinds with "\r\n".
     static QString toCrLf(const QString &text);
 
-    //! The number at the end of the name; -1 if there is none. The stem is the text before it, so that stem
-    //! and number together give the name: leading zeros belong to the stem, as do all digits before the last
-    //! 18.
+    //! The number at the end of the name; -1 for a name without a number. The stem is the text before it, so
+    //! that stem and number together give the name: leading zeros belong to the stem, as do all digits before
+    //! the last 18.
     static qint64 numberFromString(QStringView name, QString *stem = nullptr);
 
     //! Encrypts with a key that is part of this program. This prevents edits of a build tag by hand and

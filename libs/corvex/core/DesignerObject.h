@@ -170,7 +170,7 @@ public:
     //! Applies to this object and everything below it.
     virtual void setProject(Project *project);
     virtual void setScreen(Screen *screen);
-    //! The object itself or its nearest ancestor that is an "Element" or a "Screen"; null if there is none.
+    //! The object itself or its nearest ancestor that is an "Element" or a "Screen", or null.
     static DesignerObject *rootElement(DesignerObject *object);
     //! All children of its lists and object properties, in the order of the properties.
     QList<DesignerObject *> childObjects() const;

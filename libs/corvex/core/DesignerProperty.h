@@ -150,7 +150,7 @@ public:
     DesignerObject *getListItem(const QString &name, bool recursive = false) const;
     //! Null for an index out of range.
     DesignerObject *getListItemAtIndex(qsizetype index) const;
-    //! -1 if there is none.
+    //! -1 if the list does not contain the item.
     qsizetype getListItemIndex(const QString &name) const;
     qsizetype getListItemIndex(const DesignerObject *object) const;
     bool hasListItem(const QString &name, bool recursive = false) const;

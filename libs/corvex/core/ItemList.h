@@ -94,8 +94,8 @@ public:
     bool isOrderingPaused = false;
     //! False if more than one item may be out of order.
     bool isOrdered = true;
-    //! The index of the item that was inserted or renamed last; -1 if there is none. If isOrdered, it is the
-    //! only item that may be out of order.
+    //! The index of the item that was inserted or renamed last, or -1. If isOrdered, it is the only item that
+    //! may be out of order.
     qsizetype newestIndex = -1;
 
 private:

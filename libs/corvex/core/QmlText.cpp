@@ -28,7 +28,7 @@ void append(QString &text, const QmlBinding &binding, int indent)
 
 QString print(const QmlBindings &bindings, int indent)
 {
-    constexpr qsizetype signs = 3; // colon, blank and line end
+    constexpr qsizetype signs = 3; // colon, blank and line ending
     qsizetype size = 0;
     for (const auto &[name, code, source] : bindings) {
         size += indent + name.size() + code.size() + signs;

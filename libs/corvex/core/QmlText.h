@@ -11,9 +11,9 @@
 namespace Halvane::Corvex::Designer::QmlText {
 
 CORVEX_EXPORT QString tabs(int indent);
-//! Appends "name: code", indented by \a indent tabs, without a line end after it.
+//! Appends "name: code", indented by \a indent tabs, without a line ending after it.
 CORVEX_EXPORT void append(QString &text, const QmlBinding &binding, int indent);
-//! The bindings, one per line, without a line end after the last.
+//! The bindings, one per line, without a line ending after the last.
 CORVEX_EXPORT QString print(const QmlBindings &bindings, int indent);
 //! The code of a block: "{", the lines with one more tab, "}".
 CORVEX_EXPORT QString block(const QStringList &lines);

@@ -43,7 +43,7 @@ public:
 
     bool canUndo() const;
     bool canRedo() const;
-    //! The text of the next step to undo or redo, for the user; empty if there is none.
+    //! The text of the next step to undo or redo, for the user; empty if there is nothing to undo or redo.
     QString undoText() const;
     QString redoText() const;
 
@@ -98,7 +98,7 @@ private:
     Part &current() { return m_parts[m_current]; }
     const Part &current() const { return m_parts[m_current]; }
     const UndoStack &stack() const { return *current().stack; }
-    //! The command to undo, or to redo; null if there is none.
+    //! The command to undo, or to redo; null if there is nothing to undo or redo.
     const QUndoCommand *commandBefore() const;
     const QUndoCommand *commandAfter() const;
     bool refuse(const QString &reason);

@@ -29,7 +29,7 @@ public:
     Configuration *configuration(const QString &model) const;
     //! The model to use for a project made for \a wanted: that model itself, or the first model that \a
     //! wanted lists as compatible, or a model that lists \a wanted. Null, with a text for the user in \a
-    //! error, if there is none.
+    //! error, if no model matches.
     Configuration *match(const Configuration *wanted, QString *error = nullptr) const;
 
 protected:

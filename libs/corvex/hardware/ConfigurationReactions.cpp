@@ -85,7 +85,7 @@ const QList<Configuration::Reaction> &Configuration::reactions()
 struct Configuration::Visibility
 {
     Place property;
-    Place onSwitch; //!< Name if there is none
+    Place onSwitch; //!< Name: without a switch
     bool hasEntries;
 };
 

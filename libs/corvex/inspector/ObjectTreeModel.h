@@ -42,7 +42,7 @@ public:
         ValidRole,  //!< whether it is valid, including everything in it
         ErrorsRole, //!< the reasons if it is invalid: texts for the user, "title of the property: reason"
         //! The number of the worst Severity among the object's own problems, ignoring approved ones. Invalid
-        //! if there are none. See setProblems().
+        //! for an object without problems. See setProblems().
         SeverityRole,
     };
     Q_ENUM(Role)

@@ -29,7 +29,7 @@ public:
 
     //! In the order of the text, parents before children.
     const QList<Object> &objects() const { return m_objects; }
-    //! The path of the innermost object at a line; empty if there is none.
+    //! The path of the innermost object at a line; empty outside of all objects.
     QString pathAt(int line) const;
 
 private:

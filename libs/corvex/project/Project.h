@@ -77,7 +77,7 @@ public:
     //! The transaction for file changes of commands. The next saveFile() commits all of them, and nobody else
     //! can write the project until then. Null, with an error, on failure.
     Common::FileTransaction *beginFileChanges(QString *error);
-    //! The changes that wait for the next save; null if there are none.
+    //! The changes that wait for the next save; null if no change waits.
     Common::FileTransaction *fileChanges() const { return m_folder.changes(); }
     //! Deletes the project's file, its images and its preview, and its folders if they are empty afterwards.
     bool deleteFile() override;

@@ -28,8 +28,8 @@ public:
 
     BACnetPropertyList() = default;
 
-    //! Returns false, with the first problem in \a error and no entries, if the terms are not such a list, if
-    //! there are none, or if they name a property twice.
+    //! Returns false, with the first problem in \a error and no entries, if the terms are empty, are not such
+    //! a list, or name a property twice.
     bool read(const GeneralDataList &terms, QString &error);
     GeneralDataList toTerms() const;
 
@@ -38,7 +38,7 @@ public:
 
     //! The name of a property, or its number in digits if it has no name.
     static QString propertyName(int property);
-    //! The number of the property with that propertyName(); -1 if there is none.
+    //! The number of the property with that propertyName(); -1 for any other name.
     static int propertyNumber(const QString &name);
 
 private:

@@ -108,7 +108,7 @@ private:
 class ParameterCheck
 {
 public:
-    //! The problem of the next parameter; null if there is none.
+    //! The problem of the next parameter; null if the parameter is valid.
     const char *problemOf(const CanParameter &parameter)
     {
         if (m_numbers.contains(parameter.spn)) {

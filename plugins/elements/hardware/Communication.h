@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! Serves BACnet objects and communicates with BACnet devices, which are variables.
+//! Serves BACnet objects and communicates with BACnet devices. Both are variables.
 class BACnetService : public Designer::FunctionElement
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ protected:
     bool initializeProperties() override;
 };
 
-//! Commands to send over Modbus: pairs of the triggering element and the hexadecimal bytes.
+//! Modbus commands: pairs of a triggering element and the hexadecimal bytes to send.
 class ModbusCommands : public Designer::FunctionElement
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! An image of the project, stretched over the frame; a crossed frame if there is none.
+//! An image of the project, stretched over the frame; a crossed frame if the image is missing.
 class GraphicsImage : public Designer::GraphicsRectangle
 {
     CORVEX_CLASS_NAMES(GraphicsImage, Designer::GraphicsRectangle)

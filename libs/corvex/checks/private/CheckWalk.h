@@ -27,8 +27,7 @@ public:
 
     //! Takes the results of \a later, which has the same checks and has walked the following part.
     void join(CheckWalk &later);
-    //! All problems, ordered by check in the order of their addition, and for each check in the order of the
-    //! walk.
+    //! All problems, sorted by the order in which the checks were added, then by the order of the walk.
     QList<Problem> finish(const Project &project);
 
     // For a part of the project that is checked again.

@@ -17,12 +17,12 @@ class Screen;
 class EditMarks : public ModelObserver
 {
 public:
-    //! Is notified of edits within the operations of the model, which it must not change.
+    //! Is notified of edits while the model is being changed. Must not change the model itself.
     class Listener
     {
     public:
         virtual ~Listener() = default;
-        //! An object is marked, and none was before.
+        //! The first object is marked.
         virtual void marked() = 0;
         //! The object leaves the project. It may already be reduced to a DesignerObject.
         virtual void left(const DesignerObject *object) = 0;
@@ -41,8 +41,8 @@ public:
     void markAll();
     void mark(DesignerObject *object);
     void unmark(const DesignerObject *object) { m_objects.remove(object); }
-    //! Takes the next marked object; null if there is none. A call may only mark more objects, so ask
-    //! isEmpty() whether any are left.
+    //! Takes the next marked object. A call may return null after marking more objects; only isEmpty() shows
+    //! whether any are left.
     DesignerObject *take();
     //! Whether the file of the project, or the data read from it, may have changed. The call resets this.
     bool takeFileMark() { return std::exchange(m_isFileMarked, false); }

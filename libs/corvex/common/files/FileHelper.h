@@ -46,8 +46,7 @@ public:
     //! In lower case, without the dot.
     static const QStringList &validImageExtensions();
     //! Whether the file is an image whose contents match its extension. The format is taken from the contents
-    //! ("png", "jpg", "bmp", "gif", "svg"), or empty if it is none of these. Works without an application
-    //! object.
+    //! ("png", "jpg", "bmp", "gif", "svg"), or empty for other formats. Works without an application object.
     static bool isValidImage(const QString &path, QString *format = nullptr);
 
     //! The digest as 32 lower case hexadecimal digits; empty if the file cannot be read.

@@ -74,7 +74,7 @@ public:
     static Recovery recover(const QString &folder);
     //! Whether the folder has a running or interrupted transaction.
     static bool isOpen(const QString &folder);
-    //! Finds the folder that an interrupted transaction renamed from \a folder; empty if there is none.
+    //! Finds the folder that an interrupted transaction renamed from \a folder; empty if nothing is found.
     static QString renamedFrom(const QString &folder);
 
 private:

@@ -18,7 +18,7 @@ struct DesignerObject::Data
     ModelObservers *observers = nullptr; //!< of the project; null outside of projects
     Screen *screen = nullptr;
     ObjectView *view = nullptr;
-    std::unique_ptr<QStringList> validationErrors; //!< null if there are none
+    std::unique_ptr<QStringList> validationErrors; //!< null without errors
     bool mayHaveChildren = false;                  //!< false if no property is a list or an object
     bool isValid = true;
     bool validationErrorSet = false;

@@ -56,7 +56,7 @@ private:
     qsizetype countInBlock() const { return m_block ? m_block->count() : 0; }
 
     QSharedPointer<PropertyBlock> m_block;
-    std::unique_ptr<std::vector<SharedProperty>> m_others; //!< null if there are none
+    std::unique_ptr<std::vector<SharedProperty>> m_others; //!< null if empty
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -27,7 +27,8 @@ public:
     //! these are missing, the stored link defines them itself.
     ObjectLinkInfo checked(const ObjectLinkInfo &link) const;
 
-    //! The object that the checked link names, seen from the owner of the property; null if there is none.
+    //! The object that the checked link names, seen from the owner of the property; null if it does not
+    //! exist.
     DesignerObject *connectLink() const;
     //! The same as an object of that class; null if it is of another one.
     template<class Object>

@@ -11,8 +11,8 @@ namespace Halvane::Corvex::Designer {
 
 /*! The voltage range of an element, from value1 to value2 within limits.
 
-    The element reads an analog input, which its link "analogInput" names and which has a "voltageRange" (the
-    text of a RangeInfo or a ValueRangeInfo). Alternatively the element itself has a "voltageRange".
+    The element reads the analog input that its link "analogInput" names. The input has a "voltageRange" (the
+    text of a RangeInfo or a ValueRangeInfo). Alternatively, the element itself has a "voltageRange".
 */
 class CORVEX_EXPORT ValueRangeProperty : public TypedProperty<ValueRangeInfo>
 {
@@ -33,7 +33,7 @@ public:
 
     //! The scaling between the two values of \a range, limited to the voltages of the input of \a owner. Its
     //! factor is 0 if they differ by less than a thousandth of the voltage range, which no input can resolve.
-    //! Nothing if \a owner knows no voltage range.
+    //! Nothing if \a owner has no voltage range.
     static std::optional<Scaling> scaling(const ValueRangeInfo &range, const DesignerObject *owner);
 
     bool validateValue(QString &error) const override;

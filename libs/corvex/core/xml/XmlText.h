@@ -10,7 +10,7 @@
 namespace Halvane::Corvex::Designer::XmlText {
 
 //! The position of the first character that XML cannot store (a control character, half a surrogate pair,
-//! U+FFFE, U+FFFF); -1 if there is none.
+//! U+FFFE, U+FFFF); -1 if the whole text can be stored.
 CORVEX_EXPORT qsizetype indexOfUnstorable(QStringView text);
 
 //! Why a file cannot store \a value, for the user: such a character, or its size. Empty if it can.
@@ -20,8 +20,8 @@ CORVEX_EXPORT QString storageProblem(const QString &value);
 constexpr qsizetype longestPerUnit = 6;
 
 //! Writes \a text in UTF-8 to \a out, escaped for an attribute in double quotes: markup characters as
-//! entities, line ends and tabs as character references, so that the parser's normalisation preserves them.
-//! Characters that XML cannot store become U+FFFD. Returns the end.
+//! entities, line endings and tabs as character references, so that the parser's normalisation preserves
+//! them. Characters that XML cannot store become U+FFFD. Returns the end.
 CORVEX_EXPORT char *putAttribute(char *out, QStringView text);
 
 //! The number of bytes that putAttribute() writes.

@@ -31,7 +31,7 @@ public:
     //! Positions and sizes are rounded to whole pixels in the coordinates of the parent, angles to whole
     //! degrees. Shift keeps the proportions, and rotates in steps of 15 degrees.
     void moveTo(const QPointF &point, Qt::KeyboardModifiers modifiers);
-    //! A single command for all changes; null if there are none.
+    //! A single command for all changes; null if nothing has changed.
     std::unique_ptr<UndoCommand> command();
     //! Ends the gesture and resets the items to the values in the model. If the command was done, its items
     //! already show those values.

@@ -12,7 +12,7 @@ class CORVEX_EXPORT FramedItem : public GraphicsItem
     CORVEX_CLASS_NAMES(FramedItem, GraphicsItem)
 
 public:
-    //! The framed item that shows an object; null if there is none.
+    //! The framed item that shows an object; null if the object is not shown by one.
     static FramedItem *of(const DesignerObject *object)
     {
         return framed(object ? object->graphicsItem() : nullptr);

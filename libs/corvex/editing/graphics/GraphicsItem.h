@@ -33,7 +33,7 @@ public:
     GraphicsItem(const GraphicsItem &) = default;
     GraphicsItem &operator=(const GraphicsItem &) = default;
 
-    //! The item that shows an object; null if there is none.
+    //! The item that shows an object; null if it is not shown.
     static GraphicsItem *of(const DesignerObject *object);
     //! The item of a graphic in a scene; null for any other graphic.
     static GraphicsItem *of(const QGraphicsItem *graphic);
@@ -72,9 +72,9 @@ public:
     double detectionWidth() const;
 
     // Mouse actions. Points are in scene coordinates unless stated otherwise.
-    //! For items made of points: the number of the point at that position; 0 if there is none.
+    //! For items made of points: the number of the point at that position; 0 if no point is there.
     virtual int getResizePointHandle(const QPointF &point, bool *found = nullptr) const;
-    //! The handle at that position; Center if there is none.
+    //! The handle at that position; Center if no handle is there.
     virtual QQuickItem::TransformOrigin getResizeHandle(const QPointF &point, bool *found = nullptr) const;
     //! Resizes and moves the item. \a size and the position of the top left are in the item's coordinates
     //! before the change, as the functions below compute them. An item that keeps its proportions uses the

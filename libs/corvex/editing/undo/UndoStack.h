@@ -85,7 +85,7 @@ public:
     //! Ends the run now, if there is one.
     void endRun();
     bool isInRun() const { return m_runTimer.isActive(); }
-    //! The text of the current gesture or run; empty if there is none.
+    //! The text of the current gesture or run; empty outside of both.
     QString gestureText() const;
 
     //! Deletes the objects that commands have named for deletion, except those that are back in the model.

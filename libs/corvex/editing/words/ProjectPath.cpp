@@ -99,7 +99,7 @@ QStringList namesBelow(const DesignerObject &owner)
     return names;
 }
 
-//! An element with exactly that name, or else with a similar one; null if there is none.
+//! An element with exactly that name, or else with a similar one, or else null.
 const DesignerObject *nearestElement(const Project &project, const QString &name)
 {
     QStringList names;

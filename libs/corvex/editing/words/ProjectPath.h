@@ -31,9 +31,9 @@ class CORVEX_EXPORT ProjectPath
 public:
     static ProjectPlace find(Project &project, const QString &path);
     //! The list that the path names. For the path of an object, the list of that object that describes \a
-    //! item most specifically. Null if there is none.
+    //! item most specifically. Null if there is no such list.
     static SharedProperty listFor(Project &project, const QString &path, const DesignerObject &item);
-    //! The list of \a owner that describes \a item most specifically. Null if there is none.
+    //! The list of \a owner that describes \a item most specifically. Null if there is no such list.
     static SharedProperty listFor(const DesignerObject &owner, const DesignerObject &item);
     //! Whether a screen, variable, image or element of the project has that name.
     static bool isName(const Project &project, const QString &name);

@@ -33,7 +33,7 @@ signals:
     void completedChanged();
 
 protected:
-    //! Called when all properties are set.
+    //! Called when all properties have been set.
     virtual void start() { }
     //! Never null after start().
     Panel *panel() const { return m_panel; }

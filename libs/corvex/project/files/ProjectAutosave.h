@@ -52,7 +52,7 @@ public:
     //! run has started. finished() reports the result, even if it could not be started.
     bool run();
     bool isRunning() const { return m_isRunning; }
-    //! The current run, for its progress; null if there is none.
+    //! The current run, for its progress; null if no run is active.
     const Common::Job *job() const { return m_job.get(); }
     //! Ends the current run, and restores the previous file before it returns.
     void cancel();

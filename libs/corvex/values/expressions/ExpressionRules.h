@@ -6,8 +6,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! Which terms are allowed in each kind of expression. The term classes use it for themselves, and an
-//! expression uses it for the kind it is checked as.
+//! Which terms are allowed in each kind of expression. The term classes use it to check themselves. An
+//! expression uses it with the kind that it is checked as.
 class CORVEX_EXPORT ExpressionRules
 {
 public:
@@ -17,8 +17,8 @@ public:
     static bool allowsValueType(Kind kind, const GeneralDataInfo &term);
     static bool allowsDataType(Kind kind, const GeneralDataInfo &term);
     static bool allowsValue(Kind kind, const GeneralDataInfo &term);
-    //! Checks value type, data type and value. Accepts a term without a value or a data type if the kind
-    //! knows such terms.
+    //! Checks value type, data type and value. Accepts a term without a value or a data type if the kind has
+    //! such terms.
     static bool allowsUntyped(Kind kind, const GeneralDataInfo &term);
     //! The same, but both types must be set.
     static bool allows(Kind kind, const GeneralDataInfo &term);

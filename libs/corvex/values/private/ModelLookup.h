@@ -29,7 +29,7 @@ public:
     virtual qsizetype siblingsNamed(const DesignerObject &object, const QString &name) const = 0;
     //! Whether the object of the property is in a project.
     virtual bool isInProject(const QSharedPointer<DesignerProperty> &property) const = 0;
-    // Null if there is none with that name.
+    // Null if the name does not exist.
     virtual ProjectVariable *variable(const Project &project, const QString &name) const = 0;
     virtual DesignerObject *element(const Screen &screen, const QString &name) const = 0;
     //! See ObjectLinkInfo::findLinks().

@@ -34,15 +34,15 @@ public:
     //! The first record whose key is not less than the given one, and its index.
     const_iterator from(Key key) const;
     qsizetype placeOf(Key key) const;
-    //! -1 if there is none.
+    //! -1 if no record has that key.
     qsizetype indexOf(Key key) const;
 
     // Ignores a record whose key exists already, including duplicates within a list.
     void add(const Record &record);
     void add(const QList<Record> &records);
 
-    //! Replaces the record at \a index. Returns false and changes nothing if there is none, if the new key is
-    //! incomplete, or if another record has it.
+    //! Replaces the record at \a index. Returns false and changes nothing if the index is out of range, if
+    //! the new key is incomplete, or if another record has it.
     bool replaceAt(qsizetype index, const Record &record);
     //! Returns a default-constructed record if \a index is invalid.
     Record takeAt(qsizetype index);

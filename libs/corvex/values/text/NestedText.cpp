@@ -12,11 +12,11 @@ namespace {
 struct Escape
 {
     QChar character;
-    //! The length of the escape in the text; 0 if there is none.
+    //! The length of the escape in the text; 0 if it is not an escape.
     qsizetype length = 0;
 };
 
-//! The byte of the "%XX" at \a index; -1 if there is none.
+//! The byte of the "%XX" at \a index; -1 for any other text.
 int escapedByte(QStringView text, qsizetype index)
 {
     if (index + 3 > text.size() || text[index] != u'%') {

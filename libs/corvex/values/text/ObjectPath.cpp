@@ -5,7 +5,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The position of the first sequence of whole segments equal to \a name; -1 if there is none.
+//! The position of the first sequence of whole segments equal to \a name; -1 if it does not occur.
 qsizetype indexOfSegments(QStringView path, QStringView name, qsizetype from = 0)
 {
     if (name.isEmpty()) {

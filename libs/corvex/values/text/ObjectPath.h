@@ -17,9 +17,9 @@ public:
     static bool isValid(QStringView path);
     //! Whether the name is a valid path with one segment.
     static bool isSegment(QStringView name) { return isValid(name) && !name.contains(u'.'); }
-    //! The part before the first "."; the whole path if there is none.
+    //! The part before the first "."; the whole path if it has no ".".
     static QStringView firstSegment(QStringView path);
-    //! The part after the last "."; the whole path if there is none.
+    //! The part after the last "."; the whole path if it has no ".".
     static QStringView lastSegment(QStringView path);
     static bool contains(QStringView path, QStringView name);
     //! Replaces every \a oldName in \a path by \a newName. \return whether there was one.

@@ -9,7 +9,7 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The first "|" that is not part of an operator "||"; -1 if there is none.
+//! The first "|" that is not part of an operator "||", or -1.
 qsizetype indexOfSeparator(QStringView text)
 {
     for (qsizetype i = text.indexOf(u'|'); i >= 0; i = text.indexOf(u'|', i + 1)) {

@@ -49,7 +49,7 @@ public:
 
     bool atEnd() const { return m_at == m_text.size(); }
     int line() const { return m_line; }
-    //! The first line that ends with a lone "\r"; 0 if there is none.
+    //! The first line that ends with a lone "\r"; 0 if no line does.
     int lineOfLoneReturn() const { return m_lineOfLoneReturn; }
 
     //! Returns false for a field whose quotes are not closed, or with text after the closing quote.
@@ -70,7 +70,7 @@ public:
         return true;
     }
 
-    //! Returns whether another field follows in this row. Otherwise skips the line end.
+    //! Returns whether another field follows in this row. Otherwise skips the line ending.
     bool readSeparator()
     {
         if (!atEnd() && m_text.at(m_at) == m_separator) {

@@ -7,14 +7,14 @@
 #include <QString>
 #include <QStringList>
 
-/*! Tables in the format of RFC 4180. A field with a separator, a quote or a line end is quoted.
+/*! Tables in the format of RFC 4180. A field with a separator, a quote or a line ending is quoted.
 
     Spreadsheets run fields that begin with "=", "+", "-", "@", a tab or a carriage return as formulas. Such a
     field gets a "'" in front, which reading removes; plain numbers such as "-5" are not changed.
 */
 namespace Halvane::Corvex::Designer::CsvText {
 
-//! One row with its line end, "\r\n".
+//! One row with its line ending, "\r\n".
 CORVEX_EXPORT QString row(const QStringList &fields, QChar separator = u',');
 
 struct CORVEX_EXPORT Row
@@ -33,7 +33,7 @@ struct CORVEX_EXPORT Problem
     QString toString() const;
 };
 
-//! The most frequent of ",", ";" and tab outside of quotes in the first line; "," if there is none.
+//! The most frequent of ",", ";" and tab outside of quotes in the first line; "," by default.
 CORVEX_EXPORT QChar separatorOf(QStringView text);
 
 //! The rows of a text. "\n" also ends a row, and empty lines are skipped. Reports text after a closing quote,

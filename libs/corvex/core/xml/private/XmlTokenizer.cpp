@@ -116,7 +116,7 @@ bool XmlTokenizer::fill(XmlTokens *tokens)
         return false;
     }
     m_isLast = size == 0;
-    // The next chunk shows whether it is the first half of a line end.
+    // The next chunk shows whether it is the first half of a line ending.
     m_isReturnHeld = !m_isLast && m_end > m_next && m_end[-1] == '\r';
     if (m_isReturnHeld) {
         --m_end;

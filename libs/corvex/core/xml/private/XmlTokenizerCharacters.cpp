@@ -112,7 +112,7 @@ XmlTokenizer::Outcome XmlTokenizer::takeUntil(QByteArrayView end, QByteArrayView
     return Outcome::Done;
 }
 
-//! Takes one whitespace character, which may be a line end.
+//! Takes one whitespace character, which may be a line ending.
 void XmlTokenizer::takeBlank()
 {
     const char blank = *m_next++;

@@ -18,7 +18,7 @@ public:
     static GroupElement *groupOf(const SharedProperty &list);
 
     //! The text \a indexes with the names \a without removed, and the names \a with at the place of the first
-    //! removed one or, if there is none, at the end.
+    //! removed one or, if nothing was removed, at the end.
     static QString replaced(const QString &indexes, const QStringList &without, const QStringList &with);
 };
 

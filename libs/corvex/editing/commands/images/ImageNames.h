@@ -18,7 +18,7 @@ class CORVEX_EXPORT ImageNames
 public:
     explicit ImageNames(const Project *project);
 
-    //! The image whose file has that MD5 digest and that extension in lower case; empty if there is none.
+    //! The image whose file has that MD5 digest and that extension in lower case; empty if no image has them.
     QString withContents(const QString &digest, const QString &extension);
     //! \a wanted or, if it is in use by an image or a file, the name with the first free number: "pump2.png".
     //! The returned name counts as used.

@@ -22,7 +22,7 @@ struct EditForm
     const char *usage;
     int fewest; //!< minimum number of words after the name
     int most;   //!< maximum number; -1 for any
-    int given;  //!< the index of the word with the name of the new or renamed object; -1 if there is none
+    int given;  //!< the index of the word with the name of the new or renamed object, or -1
     void (EditPlanner::*plan)(const EditCall &call, EditPlan &plan) const;
 };
 
