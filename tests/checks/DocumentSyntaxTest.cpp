@@ -14,7 +14,7 @@ TEST(DocumentSyntax, ErrorsAreFoundOnTheirLine)
     struct
     {
         QString qml;
-        int line; //!< of the error; 0 if there is none
+        int line; //!< of the error; 0 without an error
     } const cases[] = {
         {u"Screen {\n\tid: a\n\tx: 1\n\tText {\n\t\tid: b\n\t\tx: 1\n\t\ttext: \"\\\"%1\"\n\t}\n}\n"_s, 0},
         {u"Screen {\n\tx: 1\n\ty: 1\n\tx: 2\n}\n"_s, 4},

@@ -48,7 +48,7 @@ protected:
         all.sort();
         return all;
     }
-    //! Null if there is none. Without an object, the problem may be anywhere.
+    //! Null if nothing is found. Without an object, the problem may be anywhere.
     const Problem *find(ProblemCode code, const DesignerObject *object = nullptr, const char *id = "") const
     {
         for (qsizetype row = 0; row < list->count(); ++row) {

@@ -13,7 +13,7 @@ inline QString withoutTexts(QString code)
     return code.replace(text, QStringLiteral("\"\""));
 }
 
-//! The first function call in a generated document that no table contains; empty if there is none.
+//! The first function call in a generated document that no table contains; empty if the tables contain all.
 inline QString foreignCall(const QString &document)
 {
     static const QRegularExpression call(
@@ -33,8 +33,9 @@ inline QString foreignCall(const QString &document)
     return {};
 }
 
-//! The first part of generated code that no table contains; empty if there is none. Texts may contain
-//! anything. Paths that begin with "qml_" are read and assigned, never called. All other words must be known.
+//! The first part of generated code that no table contains; empty if the tables contain all. Texts may
+//! contain anything. Paths that begin with "qml_" are read and assigned, never called. All other words must
+//! be known.
 inline QString foreignCode(QString code)
 {
     using namespace Qt::StringLiterals;

@@ -12,7 +12,7 @@
 class DbcGrammar
 {
 public:
-    //! The first problem of a file, with the rest of the file from there; empty if there is none.
+    //! The first problem of a file, with the rest of the file from there; empty for a valid file.
     static QString problemOf(const QByteArray &bytes)
     {
         DbcGrammar grammar(QString::fromLatin1(bytes));
