@@ -20,7 +20,7 @@ usage() { sed -n '3,/^$/{/^$/d;s/^# \{0,1\}//;p}' "$1"; }
 show_failure() {
   local first
   first=$(grep -n -m 1 -E '^FAILED:|error:|Error' "$1" | cut -d : -f 1 || true)
-  tail -n "+${first:-1}" "$1" | head -n 150 >&2
+  sed -n "${first:-1},$((${first:-1} + 149))p" "$1" >&2
 }
 
 # quietly WHAT LOG COMMAND...: runs a command with its output in the file LOG, and shows the output only if the

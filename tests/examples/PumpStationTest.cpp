@@ -34,7 +34,8 @@ TEST_F(PumpStationTest, LoadsCleanAndSavesTheSameBytes)
     project->validate();
     EXPECT_EQ(faults(*project), QStringList());
     EXPECT_EQ(danglingNames(*project), QStringList());
-    EXPECT_TRUE(saved(*project) == bytesOf(projectFile));
+    EXPECT_TRUE(saved(*project) == bytesOf(projectFile))
+        << "after a change of a class: examples/generate --pump-station examples";
 }
 
 TEST_F(PumpStationTest, EqualsTheOutputOfItsGenerator)

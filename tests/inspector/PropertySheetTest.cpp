@@ -121,7 +121,7 @@ TEST_F(PropertySheetTest, RefusalsSayWhyAndChangeNothing)
         {{element("rectangle1"), element("text1")}, "color", u"no colour"_s, u"Main.rectangle1: "_s},
         {{element("rectangle1")}, "radius", u"x"_s, u"radius takes"_s},
         {{element("rectangle1")}, "id", value(element("rectangle2"), "id"), u""_s},
-        {{element("rectangle1"), element("rectangle2")}, "id", u"name: lamp;"_s, u"one at a time"_s},
+        {{element("rectangle1"), element("rectangle2")}, "id", u"name: lamp;"_s, u"one object"_s},
         {{element("rectangle1")}, "color", u"red\u0001"_s, u""_s},
     };
     for (const auto &[objects, id, value, reason] : cases) {

@@ -30,6 +30,7 @@ void JsonWriter::finish()
 
 void JsonWriter::name(QStringView text)
 {
+    Q_ASSERT(!m_hasEntries.isEmpty() && !m_isTopEnded); // beginObject() is missing
     startValue();
     appendQuoted(text);
     m_text.append(": ");

@@ -37,6 +37,7 @@ public:
 
     void value(QStringView text);
     void value(qint64 number);
+    void value(int number) { value(qint64(number)); }
     void value(bool truth);
     //! Writes the shortest digits that restore the number; NaN and infinity, which JSON lacks, as text.
     void value(double number);

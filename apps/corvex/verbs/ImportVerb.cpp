@@ -53,9 +53,9 @@ struct Report
     qsizetype unchanged;
 };
 
-void printJson(const Report &report, bool isWritten, Terminal &terminal)
+void printJson(const Report &report, bool isWritten, const Call &call)
 {
-    JsonWriter &json = terminal.json();
+    JsonWriter &json = call.json();
     json.beginObject();
     json.name("changed"_L1);
     json.beginArray();
@@ -85,7 +85,7 @@ void printJson(const Report &report, bool isWritten, Terminal &terminal)
 void print(const Report &report, bool isWritten, const Call &call)
 {
     if (call.asJson()) {
-        printJson(report, isWritten, call.terminal());
+        printJson(report, isWritten, call);
         return;
     }
     for (const auto &[object, property, before, after] : report.changed) {

@@ -75,9 +75,9 @@ Info collect(const ProjectFile &file)
     return info;
 }
 
-void printJson(const Info &info, Terminal &terminal)
+void printJson(const Info &info, const Call &call)
 {
-    JsonWriter &json = terminal.json();
+    JsonWriter &json = call.json();
     json.beginObject();
     json.member("name"_L1, info.name);
     json.member("version"_L1, info.version);
@@ -166,7 +166,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
 {
     const Info info = collect(file);
     if (call.asJson()) {
-        printJson(info, call.terminal());
+        printJson(info, call);
     } else {
         printText(info, call.terminal());
     }

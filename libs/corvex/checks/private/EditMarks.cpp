@@ -152,8 +152,8 @@ void EditMarks::resolve(const Name &name)
     for (const SharedProperty &property : ReferenceIndex::of(m_project).mentioning(screen, text)) {
         mark(property->parentObject());
     }
-    const auto markElementsOn = [this, &text](const Screen *on) {
-        for (DesignerObject *element : on->elementIndex().named(text)) {
+    const auto markElementsOn = [this, &name](const Screen *on) {
+        for (DesignerObject *element : on->elementIndex().named(name.text)) {
             mark(element);
         }
     };

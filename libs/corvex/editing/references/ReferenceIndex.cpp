@@ -103,14 +103,16 @@ void ReferenceIndex::valueChanged(const SharedProperty &property, const QString 
     }
     const QList<Mention> before = ReferenceForm::mentions(*property, previousValue);
     const QList<Mention> after = ReferenceForm::mentions(*property);
-    const auto [firstBefore, firstAfter] = std::ranges::mismatch(before, after);
-    const auto [lastBefore, lastAfter] = std::ranges::mismatch(
-        std::ranges::subrange(before.crbegin(), std::make_reverse_iterator(firstBefore)),
-        std::ranges::subrange(after.crbegin(), std::make_reverse_iterator(firstAfter)));
+    // Not the algorithms of std::ranges, because clang 14 cannot compile subranges of these iterators.
+    const auto [firstBefore, firstAfter] =
+        std::mismatch(before.cbegin(), before.cend(), after.cbegin(), after.cend());
+    const auto [lastBefore, lastAfter] =
+        std::mismatch(before.crbegin(), std::make_reverse_iterator(firstBefore), after.crbegin(),
+                      std::make_reverse_iterator(firstAfter));
     QSet<QStringView> removed;
-    for (const Mention &mention : std::ranges::subrange(firstBefore, lastBefore.base())) {
-        update(property, mention, false);
-        for (const QStringView name : QStringView(mention.path).split(u'.')) {
+    for (auto mention = firstBefore; mention < lastBefore.base(); ++mention) {
+        update(property, *mention, false);
+        for (const QStringView name : QStringView(mention->path).split(u'.')) {
             removed.insert(name);
         }
     }

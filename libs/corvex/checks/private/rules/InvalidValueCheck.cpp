@@ -39,7 +39,9 @@ constexpr Row rows[] = {
     {"Configuration"_L1, "screenSize"_L1, ProblemCode::ValueInvalid},
     {"Configuration"_L1, {}, ProblemCode::ChannelSignal},
     {"NumberVariable"_L1, "value"_L1, ProblemCode::NumberUnreadable},
-    {"ProjectVariable"_L1, {}, ProblemCode::FieldbusMap},
+    {"MappingVariable"_L1, {}, ProblemCode::FieldbusMap},
+    {"CANVariable"_L1, "parameterMap"_L1, ProblemCode::FieldbusMap},
+    {"BACnetObject"_L1, "properties"_L1, ProblemCode::FieldbusMap},
 };
 
 ProblemCode nameCode(const DesignerObject &object)
