@@ -58,7 +58,8 @@ void ObjectTree::adopt(Node &node, const SharedProperty &list, const std::vector
         child->section = qsizetype(node.sections.size());
     }
     const std::vector<RowLink *> rows(children.begin(), children.end());
-    node.sections.emplace_back(list).rows.assign(rows);
+    node.sections.push_back(Section{list, {}});
+    node.sections.back().rows.assign(rows);
 }
 
 //! Deletes a row and everything below it.
