@@ -179,6 +179,73 @@ TEST_F(FileTransactionTest, LaterChangesByTheUserAreKept)
     EXPECT_EQ(now.value(u"P/"_s + pump + u".tmp1"_s), "mine too");
 }
 
+TEST_F(FileTransactionTest, ADeletedHiddenFolderLosesNoFile)
+{
+    const auto rename = [](FileTransaction &files) {
+        EXPECT_TRUE(files.move(pump, u"Images/a"_s) && files.move(u"Images/a"_s, motor));
+    };
+    const struct
+    {
+        Change change;
+        QMap<QString, QByteArray> undone; //!< the images after an undo
+        QStringList lost;
+    } cases[] = {
+        {rename, {{pump, "pump"}}, {}},
+        {[](auto &files) { EXPECT_TRUE(files.place(motor, "new")); }, {{pump, "pump"}}, {}},
+        {replacePump, {{pump, "new"}}, {pump}},
+        {[&rename](auto &files) {
+             rename(files);
+             const QString key = files.keepAside("new");
+             EXPECT_TRUE(!files.setAside(motor).isEmpty() && files.bringBack(key, motor));
+         },
+         {{motor, "new"}},
+         {pump}},
+    };
+    const auto images = [this] {
+        QMap<QString, QByteArray> found;
+        for (const QString &name : {pump, motor, u"Images/a"_s}) {
+            if (QFile file(path(u"P/"_s + name)); file.open(QIODevice::ReadOnly)) {
+                found.insert(name, file.readAll());
+            }
+        }
+        return found;
+    };
+    const auto deleteHidden = [this] {
+        EXPECT_EQ(files().value(u"P/.corvex-edit/.gitignore"_s), "*\n");
+        EXPECT_TRUE(QDir(path(u"P/.corvex-edit"_s)).removeRecursively());
+    };
+    for (const auto &[change, undone, lost] : cases) {
+        for (const bool isRenewed : {false, true}) {
+            auto transaction = FileTransaction::begin(path(u"P"_s));
+            change(*transaction);
+            deleteHidden();
+            if (isRenewed) {
+                EXPECT_TRUE(transaction->renew() && transaction->place(u"Images/later"_s, "later"));
+            }
+            transaction.reset();
+            EXPECT_EQ(images(), undone);
+            EXPECT_FALSE(files().contains(u"P/Images/later"_s));
+            QStringList reported;
+            FileTransaction::recover(path(u"P"_s), &reported);
+            EXPECT_EQ(reported, lost);
+            EXPECT_FALSE(FileTransaction::isOpen(path(u"P"_s)));
+            QDir(path(u"P"_s)).removeRecursively();
+            SetUp();
+        }
+        const std::unique_ptr<FileTransaction> saved = FileTransaction::begin(path(u"P"_s));
+        change(*saved);
+        const QMap<QString, QByteArray> done = images();
+        deleteHidden();
+        EXPECT_TRUE(saved->renew() && FileHelper::writeFile(saved->draftPath(), "saved"));
+        EXPECT_TRUE(saved->commit(u"P.proj"_s));
+        EXPECT_EQ(images(), done);
+        EXPECT_EQ(files().value(u"P/P.proj"_s), "saved");
+        EXPECT_FALSE(FileTransaction::isOpen(path(u"P"_s)));
+        QDir(path(u"P"_s)).removeRecursively();
+        SetUp();
+    }
+}
+
 TEST_F(FileTransactionTest, AForeignJournalCannotReachOutsideOfTheFolder)
 {
     write(u"outside/victim"_s, "victim");

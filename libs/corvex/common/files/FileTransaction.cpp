@@ -59,6 +59,12 @@ std::unique_ptr<FileTransaction> FileTransaction::begin(const QString &folder, Q
     return std::unique_ptr<FileTransaction>(new FileTransaction(std::move(journal)));
 }
 
+bool FileTransaction::renew(QString *error)
+{
+    return m_journal->isThere() || FileRecovery(*m_journal).repair()
+           || fail(error, u"Nothing can be written to the folder \"%1\": %2"_s, m_journal->folder());
+}
+
 //! Before a file is first changed, gives its contents a second name, which survives the change.
 bool FileTransaction::keep(const QString &name)
 {
@@ -71,7 +77,7 @@ bool FileTransaction::keep(const QString &name)
     }
     const QString copy = u"old-"_s + newKey();
     return FileSync::link(path, m_journal->privatePath(copy)) && FileSync::sync(m_journal->privatePath())
-           && m_journal->addOld(name, copy);
+           && m_journal->addOld(name, {copy, FileJournal::digestOf(path)});
 }
 
 bool FileTransaction::makeFolderFor(const QString &name)
@@ -131,7 +137,7 @@ QString FileTransaction::setAside(const QString &name)
 bool FileTransaction::bringBack(const QString &key, const QString &name)
 {
     const QString path = m_journal->privatePath(key);
-    return keep(name) && m_journal->addNew(name, FileJournal::digestOf(path))
+    return exists(path) && keep(name) && m_journal->addNew(name, FileJournal::digestOf(path))
            && FileSync::move(path, m_journal->pathOf(name));
 }
 
@@ -246,7 +252,7 @@ bool FileTransaction::isOpen(const QString &folder)
     return FileJournal::exists(folder);
 }
 
-FileTransaction::Recovery FileTransaction::recover(const QString &folder)
+FileTransaction::Recovery FileTransaction::recover(const QString &folder, QStringList *lost)
 {
     if (!isOpen(folder)) {
         return Recovery::Nothing;
@@ -255,9 +261,16 @@ FileTransaction::Recovery FileTransaction::recover(const QString &folder)
     journal.read();
     FileRecovery recovery(journal);
     const bool isCommitted = journal.isCommitted();
-    const bool hasBegun = !journal.oldFiles().isEmpty() || !journal.newFolderNames().isEmpty();
+    const bool hasBegun = !journal.oldFiles().isEmpty() || !journal.newFolderNames().isEmpty()
+                          || !journal.lostFiles().isEmpty();
     if (!(isCommitted ? recovery.finish() : recovery.undo())) {
         return Recovery::Failed;
+    }
+    if (!journal.lostFiles().isEmpty()) {
+        if (lost) {
+            *lost = journal.lostFiles();
+        }
+        journal.remove();
     }
     return isCommitted ? Recovery::Finished : hasBegun ? Recovery::TakenBack : Recovery::Nothing;
 }

@@ -32,6 +32,10 @@ public:
     ~FileTransaction();
     Q_DISABLE_COPY_MOVE(FileTransaction)
 
+    //! Makes the hidden folder again, if another program has deleted it since. The changes can then be
+    //! committed and, as far as the old contents still exist, undone. Files that were set aside are lost.
+    //! Call it before the first change of an edit, and before draftPath().
+    bool renew(QString *error = nullptr);
     //! Creates a file, which must not exist.
     bool place(const QString &name, const QByteArray &bytes, QString *error = nullptr);
     //! Renames a file. The new name must not exist.
@@ -61,6 +65,7 @@ public:
     bool commit(const QString &file, QString *error = nullptr);
     //! Whether it was committed or undone.
     bool isOver() const { return !m_journal; }
+    //! Never removes a new file while old contents are lost. The next recover() reports which.
     void undo();
 
     enum class Recovery {
@@ -70,8 +75,8 @@ public:
         Failed //!< recovery is not possible now
     };
     //! Completes or undoes the transaction of a program that was killed. The folder may have another name
-    //! afterwards.
-    static Recovery recover(const QString &folder);
+    //! afterwards. \a lost gets the names of files whose old contents were lost, see undo().
+    static Recovery recover(const QString &folder, QStringList *lost = nullptr);
     //! Whether the folder has a running or interrupted transaction.
     static bool isOpen(const QString &folder);
     //! Finds the folder that an interrupted transaction renamed from \a folder; empty if nothing is found.

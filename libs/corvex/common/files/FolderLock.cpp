@@ -26,8 +26,7 @@ bool FolderLock::open(const QString &folder)
     return m_file >= 0;
 }
 
-//! During the wait the folder may have been renamed, and another one may have taken its name.
-bool FolderLock::isStillThere(const QString &folder) const
+bool FolderLock::isOn(const QString &folder) const
 {
     struct stat locked = {};
     struct stat named = {};
@@ -42,7 +41,8 @@ bool FolderLock::take(const QString &folder, Kind kind, int milliseconds)
     while (open(folder)) {
         const bool isLocked = flock(m_file, operation) == 0;
         const bool isBusy = !isLocked && (errno == EWOULDBLOCK || errno == EINTR);
-        if (!isBusy && isStillThere(folder)) {
+        // During the wait the folder may have been renamed, and another one may have taken its name.
+        if (!isBusy && isOn(folder)) {
             m_kind = kind;
             m_isReal = isLocked;
             return true;

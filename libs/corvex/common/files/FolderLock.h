@@ -33,12 +33,13 @@ public:
     void release();
 
     Kind kind() const { return m_kind; }
+    //! Whether the path leads to the locked folder. Another program may have replaced it by a new one.
+    bool isOn(const QString &folder) const;
     //! False if the file system does not support locks and only pretended to grant one.
     bool isReal() const { return m_isReal; }
 
 private:
     bool open(const QString &folder);
-    bool isStillThere(const QString &folder) const;
 
     int m_file = -1;
     Kind m_kind = Kind::None;

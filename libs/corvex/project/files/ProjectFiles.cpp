@@ -168,10 +168,13 @@ bool Project::renameEntries(const QString &fileName, const QString &subPath, QSt
     }
     const bool waitsForSave = fileChanges();
     Common::FileTransaction *changes = beginFileChanges(error);
-    const bool isRenamed =
-        changes && (fileName == this->fileName() || changes->move(this->fileName(), fileName, error))
-        && (subPath == this->subPath() || changes->renameFolder(subPath, error));
+    const bool isMoved =
+        changes && (fileName == this->fileName() || changes->move(this->fileName(), fileName, error));
+    const bool isRenamed = isMoved && (subPath == this->subPath() || changes->renameFolder(subPath, error));
     if (waitsForSave) {
+        if (isMoved && !isRenamed && fileName != this->fileName()) {
+            changes->move(fileName, this->fileName());
+        }
         return isRenamed;
     }
     if (!isRenamed) {

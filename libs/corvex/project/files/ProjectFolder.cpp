@@ -80,7 +80,8 @@ bool ProjectFolder::recover(const QString &path, QString *error)
 bool ProjectFolder::endInterrupted(const QString &folder, QString *error)
 {
     m_note.clear();
-    switch (FileTransaction::recover(folder)) {
+    QStringList lost;
+    switch (FileTransaction::recover(folder, &lost)) {
     case FileTransaction::Recovery::Nothing:
         break;
     case FileTransaction::Recovery::Finished:
@@ -97,16 +98,21 @@ bool ProjectFolder::endInterrupted(const QString &folder, QString *error)
                     "be written. Make them writable and open the project again."_s,
                     folder);
     }
+    if (!lost.isEmpty()) {
+        m_note = LocalizationHelper::coreString(
+                     u"Unsaved changes of this project were undone, except for these files, because another "
+                     "program deleted their old contents: \"%1\". Check these files."_s)
+                     .arg(lost.join(u"\", \""_s));
+    }
     return true;
 }
 
 FileTransaction *ProjectFolder::begin(const QString &folder, QString *error)
 {
+    if (!prepare(folder, 0, error)) {
+        return nullptr;
+    }
     if (!m_changes) {
-        if (m_lock.kind() != Kind::Exclusive && !m_lock.take(folder, Kind::Exclusive)) {
-            failToLock(error, folder);
-            return nullptr;
-        }
         m_changes = FileTransaction::begin(folder, error);
         if (m_changes) {
             m_changes->deferRemovals(m_isSaving);
@@ -120,7 +126,7 @@ FileTransaction *ProjectFolder::begin(const QString &folder, QString *error)
 bool ProjectFolder::save(const QString &folder, const QString &file, const std::function<void()> &clean,
                          const Write &write, QString *error)
 {
-    if (!lockToSave(folder, error)) {
+    if (!prepare(folder, timeToSave, error)) {
         return false;
     }
     const bool hadChanges = bool(m_changes);
@@ -142,10 +148,16 @@ bool ProjectFolder::save(const QString &folder, const QString &file, const std::
     return isSaved;
 }
 
-bool ProjectFolder::lockToSave(const QString &folder, QString *error)
+bool ProjectFolder::prepare(const QString &folder, int milliseconds, QString *error)
 {
-    return m_lock.kind() == Kind::Exclusive || m_lock.take(folder, Kind::Exclusive, timeToSave)
-           || failToLock(error, folder);
+    if (!QFileInfo(folder).isDir()) {
+        return fail(error, u"The folder \"%1\" does not exist."_s, folder);
+    }
+    const bool isLocked = m_lock.kind() == Kind::Exclusive && m_lock.isOn(folder);
+    if (!isLocked && !m_lock.take(folder, Kind::Exclusive, milliseconds)) {
+        return failToLock(error, folder);
+    }
+    return !m_changes || m_changes->renew(error);
 }
 
 //! Do not keep others out between two saves.

@@ -54,7 +54,8 @@ public:
 private:
     //! Completes or undoes, according to its journal, the transaction of a killed program.
     bool endInterrupted(const QString &folder, QString *error);
-    bool lockToSave(const QString &folder, QString *error);
+    //! Locks the folder exclusively, and makes sure that waiting changes can be continued.
+    bool prepare(const QString &folder, int milliseconds, QString *error);
     void unlockSaved();
     bool commit(const QString &file, QString *error);
 

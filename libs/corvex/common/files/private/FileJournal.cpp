@@ -21,11 +21,27 @@ namespace {
 
 const QString privateFolder = u".corvex-edit"_s;
 const QString journalName = u"journal"_s;
+const QString ignoreName = u".gitignore"_s;
 
 //! Whether it is a plain file name, not a path.
 bool isSingleName(const QString &name)
 {
     return !name.isEmpty() && name != "."_L1 && name != ".."_L1 && !name.contains(u'/');
+}
+
+QByteArray bytesOf(const QJsonObject &line)
+{
+    return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+}
+
+QJsonObject oldLine(const QString &name, const FileJournal::OldFile &file)
+{
+    return {{u"file"_s, name}, {u"old"_s, file.copy}, {u"digest"_s, file.digest}};
+}
+
+QJsonObject newLine(const QString &name, const QString &digest)
+{
+    return {{u"file"_s, name}, {u"new"_s, digest}};
 }
 
 } // namespace
@@ -55,8 +71,69 @@ bool FileJournal::exists(const QString &folder)
 bool FileJournal::begin()
 {
     m_folderName = QFileInfo(m_folder).fileName();
-    return QDir().mkdir(privatePath()) && append({{u"folder"_s, m_folderName}})
+    return !exists(m_folder) && makeFolder() && append({{u"folder"_s, m_folderName}})
            && FileSync::sync(privatePath()) && FileSync::sync(m_folder);
+}
+
+bool FileJournal::isThere() const
+{
+    return QFileInfo(privatePath(journalName)).isFile();
+}
+
+bool FileJournal::makeFolder() const
+{
+    QFile ignore(privatePath(ignoreName));
+    return exists(m_folder)
+           || (QDir().mkdir(privatePath()) && ignore.open(QIODevice::WriteOnly) && ignore.write("*\n") > 0
+               && ignore.flush());
+}
+
+bool FileJournal::rewrite() const
+{
+    QByteArray bytes;
+    for (const QJsonObject &line : lines()) {
+        bytes += bytesOf(line);
+    }
+    return FileHelper::writeFile(privatePath(journalName), bytes) && FileSync::sync(m_folder);
+}
+
+QList<QJsonObject> FileJournal::lines() const
+{
+    QList<QJsonObject> all;
+    all.append({{u"folder"_s, m_folderName}});
+    for (auto file = m_oldFiles.cbegin(); file != m_oldFiles.cend(); ++file) {
+        all.append(oldLine(file.key(), *file));
+    }
+    for (auto file = m_newFiles.cbegin(); file != m_newFiles.cend(); ++file) {
+        for (const QString &digest : *file) {
+            all.append(newLine(file.key(), digest));
+        }
+    }
+    for (const QString &name : m_madeFolders) {
+        all.append({{u"made"_s, name}});
+    }
+    for (const QString &name : m_newFolderNames) {
+        all.append({{u"renamed"_s, name}});
+    }
+    for (const QString &name : m_lostFiles) {
+        all.append({{u"lost"_s, name}});
+    }
+    return all;
+}
+
+void FileJournal::setLost(const QStringList &names)
+{
+    m_lostFiles += names;
+    m_oldFiles.removeIf(
+        [&names](const auto &file) { return file.value().copy.isEmpty() || names.contains(file.key()); });
+}
+
+void FileJournal::forgetChanges()
+{
+    m_oldFiles.clear();
+    m_newFiles.clear();
+    m_madeFolders.clear();
+    m_newFolderNames.clear();
 }
 
 void FileJournal::read()
@@ -84,7 +161,7 @@ bool FileJournal::staysInside(const QJsonObject &line) const
             return false;
         }
     }
-    for (const QLatin1StringView key : {"file"_L1, "made"_L1}) {
+    for (const QLatin1StringView key : {"file"_L1, "made"_L1, "lost"_L1}) {
         if (line.contains(key) && !isInside(line[key].toString())) {
             return false;
         }
@@ -116,9 +193,11 @@ void FileJournal::take(const QJsonObject &line)
     if (line.contains("folder"_L1)) {
         m_folderName = line["folder"_L1].toString();
     } else if (line.contains("old"_L1)) {
-        m_oldFiles.insert(name, line["old"_L1].toString());
+        m_oldFiles.insert(name, {line["old"_L1].toString(), line["digest"_L1].toString()});
     } else if (line.contains("new"_L1)) {
         m_newFiles[name].append(line["new"_L1].toString());
+    } else if (line.contains("lost"_L1)) {
+        m_lostFiles.append(line["lost"_L1].toString());
     } else if (line.contains("made"_L1)) {
         m_madeFolders.append(line["made"_L1].toString());
     } else if (line.contains("renamed"_L1)) {
@@ -136,7 +215,7 @@ bool FileJournal::append(const QJsonObject &line)
         return false;
     }
     const qint64 size = file.size();
-    const QByteArray bytes = QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+    const QByteArray bytes = bytesOf(line);
     if (!file.seek(size) || file.write(bytes) != bytes.size() || !file.flush() || fsync(file.handle()) != 0) {
         file.resize(size);
         return false;
@@ -145,14 +224,14 @@ bool FileJournal::append(const QJsonObject &line)
     return true;
 }
 
-bool FileJournal::addOld(const QString &name, const QString &copy)
+bool FileJournal::addOld(const QString &name, const OldFile &file)
 {
-    return append({{u"file"_s, name}, {u"old"_s, copy}});
+    return append(oldLine(name, file));
 }
 
 bool FileJournal::addNew(const QString &name, const QString &digest)
 {
-    return append({{u"file"_s, name}, {u"new"_s, digest}});
+    return append(newLine(name, digest));
 }
 
 bool FileJournal::addFolder(const QString &name)

@@ -13,11 +13,18 @@ namespace Halvane::Corvex::Common {
 /*! The journal of a transaction, written before a file is touched. It is in the transaction's hidden folder,
     as one JSON object per line, flushed to the disk before each next step. Beside it are "old-N", a hard link
     to a file before its change, "N", a file that was set aside, "draft", the new project file, and, during a
-    recovery, "again".
+    recovery, "again". A ".gitignore" keeps the folder out of version control.
 */
 class FileJournal
 {
 public:
+    //! A file before its first change.
+    struct OldFile
+    {
+        QString copy;   //!< empty if there was no file
+        QString digest; //!< of the contents
+    };
+
     //! The journal of the files in \a folder.
     explicit FileJournal(const QString &folder);
 
@@ -34,6 +41,16 @@ public:
     static bool exists(const QString &folder);
     //! Starts a new journal, which is not committed.
     bool begin();
+    //! Whether the journal is still in its place.
+    bool isThere() const;
+    //! Creates the hidden folder, if another program has deleted it.
+    bool makeFolder() const;
+    //! Replaces the journal in its place by this one, in one step.
+    bool rewrite() const;
+    //! The old contents of \a names are lost. From now on an undo keeps these files and all new ones.
+    void setLost(const QStringList &names);
+    //! Discards everything but the names of the lost files.
+    void forgetChanges();
     //! Reads the journal. An incomplete last line is ignored, as its step did not happen. Lines that lead out
     //! of the folder are ignored: this program writes none, and the journal may come with a project from
     //! somebody else.
@@ -42,7 +59,7 @@ public:
     bool remove() const;
 
     //! Records that a file is about to change: its copy, or nothing if the file does not exist.
-    bool addOld(const QString &name, const QString &copy);
+    bool addOld(const QString &name, const OldFile &file);
     //! Records the digest of the contents that a file is about to get.
     bool addNew(const QString &name, const QString &digest);
     //! Records that a folder is about to be created.
@@ -55,9 +72,11 @@ public:
     //! The name of the folder when the transaction began, and the names it was to get since.
     const QString &folderName() const { return m_folderName; }
     const QStringList &newFolderNames() const { return m_newFolderNames; }
-    const QHash<QString, QString> &oldFiles() const { return m_oldFiles; }
+    const QHash<QString, OldFile> &oldFiles() const { return m_oldFiles; }
     const QHash<QString, QStringList> &newFiles() const { return m_newFiles; }
     const QStringList &madeFolders() const { return m_madeFolders; }
+    //! The files whose old contents are lost.
+    const QStringList &lostFiles() const { return m_lostFiles; }
     bool isCommitted() const { return !m_file.isEmpty(); }
     const QString &committedFile() const { return m_file; }
     //! The files to remove on commit: digests by name.
@@ -65,6 +84,7 @@ public:
 
 private:
     bool append(const QJsonObject &line);
+    QList<QJsonObject> lines() const;
     void take(const QJsonObject &line);
     bool staysInside(const QJsonObject &line) const;
     bool isInside(const QString &name) const;
@@ -72,9 +92,10 @@ private:
     QString m_folder;
     QString m_folderName;
     QStringList m_newFolderNames;
-    QHash<QString, QString> m_oldFiles;     //!< the copy of each file, by the file's name
+    QHash<QString, OldFile> m_oldFiles;     //!< by the file's name
     QHash<QString, QStringList> m_newFiles; //!< all digests that each file was to get, by the file's name
     QStringList m_madeFolders;
+    QStringList m_lostFiles;
     QString m_file;
     QVariantMap m_removed;
 };

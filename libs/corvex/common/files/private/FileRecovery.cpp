@@ -38,7 +38,8 @@ QString freePath(const QString &path)
 //! Whether the file has the contents that the transaction wrote; another program may have changed it since.
 bool FileRecovery::isOurs(const QString &name) const
 {
-    return m_journal.newFiles().value(name).contains(FileJournal::digestOf(m_journal.pathOf(name)));
+    const QString path = m_journal.pathOf(name);
+    return exists(path) && m_journal.newFiles().value(name).contains(FileJournal::digestOf(path));
 }
 
 bool FileRecovery::bringDraft() const
@@ -73,19 +74,62 @@ bool FileRecovery::finish()
     return std::ranges::all_of(folders, FileSync::sync) && m_journal.remove();
 }
 
+bool FileRecovery::repair()
+{
+    const QHash<QString, FileJournal::OldFile> old = m_journal.oldFiles();
+    QStringList missing;
+    for (auto file = old.cbegin(); file != old.cend(); ++file) {
+        if (!file->copy.isEmpty() && !exists(m_journal.privatePath(file->copy))) {
+            missing.append(file.key());
+        }
+    }
+    if (m_journal.isThere() && missing.isEmpty()) {
+        return true;
+    }
+    if (!m_journal.makeFolder()) {
+        return false;
+    }
+    QHash<QString, QString> pathsByDigest;
+    for (auto file = old.keyBegin(); !missing.isEmpty() && file != old.keyEnd(); ++file) {
+        pathsByDigest.insert(FileJournal::digestOf(m_journal.pathOf(*file)), m_journal.pathOf(*file));
+    }
+    pathsByDigest.remove({}); // files that are missing or cannot be read
+    QStringList lost;
+    for (const QString &name : std::as_const(missing)) {
+        const auto &[copy, digest] = old[name];
+        const QString path = pathsByDigest.value(digest);
+        if (path.isEmpty()) {
+            lost.append(name);
+        } else if (!FileSync::link(path, m_journal.privatePath(copy))) {
+            return false;
+        }
+    }
+    if (!lost.isEmpty()) {
+        m_journal.setLost(lost);
+    }
+    // Without a journal, a recovery would keep all files as they are.
+    return FileSync::sync(m_journal.privatePath()) && m_journal.rewrite();
+}
+
 bool FileRecovery::undo()
 {
-    const QHash<QString, QString> &old = m_journal.oldFiles();
+    if (!QFileInfo(m_journal.folder()).isDir()) {
+        return true; // another program has deleted all files
+    }
+    if (!m_journal.oldFiles().isEmpty() && !repair()) {
+        return false;
+    }
+    const QHash<QString, FileJournal::OldFile> &old = m_journal.oldFiles();
     QSet<QString> folders;
     for (auto file = old.cbegin(); file != old.cend(); ++file) {
         // On a case-insensitive disk this may be another name of a file that is restored below.
-        if (file.value().isEmpty() && isOurs(file.key()) && !QFile::remove(m_journal.pathOf(file.key()))) {
+        if (file->copy.isEmpty() && isOurs(file.key()) && !QFile::remove(m_journal.pathOf(file.key()))) {
             return false;
         }
         folders.insert(QFileInfo(m_journal.pathOf(file.key())).path());
     }
     for (auto file = old.cbegin(); file != old.cend(); ++file) {
-        if (!file.value().isEmpty() && !restore(file.key(), file.value())) {
+        if (!file->copy.isEmpty() && !restore(file.key(), file->copy)) {
             return false;
         }
     }
@@ -97,16 +141,22 @@ bool FileRecovery::undo()
     for (const QString &folder : m_journal.madeFolders()) {
         QDir().rmdir(m_journal.pathOf(folder)); // fails if somebody uses the folder by now, which is fine
     }
-    return renameBack() && m_journal.remove();
+    return renameBack() && endUndo();
+}
+
+bool FileRecovery::endUndo()
+{
+    if (m_journal.lostFiles().isEmpty()) {
+        return m_journal.remove();
+    }
+    m_journal.forgetChanges();
+    return m_journal.rewrite();
 }
 
 bool FileRecovery::restore(const QString &name, const QString &copy) const
 {
     const QString path = m_journal.pathOf(name);
     const QString kept = m_journal.privatePath(copy);
-    if (!exists(kept)) {
-        return true; // removing the journal removes the copy
-    }
     const bool isForeign =
         exists(path) && !isOurs(name) && FileJournal::digestOf(path) != FileJournal::digestOf(kept);
     if (isForeign && !FileSync::move(path, freePath(path))) {

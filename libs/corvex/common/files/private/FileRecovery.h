@@ -17,15 +17,21 @@ public:
         : m_journal(journal)
     { }
 
-    //! Returns false with errno on failure; the journal remains.
+    // These return false with errno on failure; the journal remains.
     bool finish();
+    //! Undoes everything but changes of files whose old contents are lost. If there are any, the journal
+    //! remains with their names.
     bool undo();
+    //! Makes the hidden folder complete again, if another program has deleted it or files in it. Looks for
+    //! old contents in the changed files.
+    bool repair();
 
 private:
     bool isOurs(const QString &name) const;
     bool bringDraft() const;
     bool restore(const QString &name, const QString &copy) const;
     bool renameBack();
+    bool endUndo();
 
     FileJournal &m_journal;
 };
