@@ -47,6 +47,7 @@ protected:
         savePicture(Qt::red, sandbox.path(u"one.png"_s));
         savePicture(Qt::blue, sandbox.path(u"two.png"_s));
         QFile::copy(sandbox.path(u"two.png"_s), sandbox.path(u"two.gif"_s));
+        QFile::copy(sandbox.path(u"two.png"_s), sandbox.path(u".hidden.png"_s));
     }
     ProgramRun edit(const QByteArray &script, const QStringList &options = {}) const
     {
@@ -155,6 +156,10 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
         {"add-image script",
          "\"script\" is not an image format that the device supports: png, jpg, jpeg, bmp, gif, svg."},
         {"add-image two.gif", "\"two.gif\" is an image in the format png. Rename it to \"two.png\"."},
+        {"add-image .hidden.png",
+         "An error occurred. The name of an image cannot begin with a dot or a space: \".hidden.png\"."},
+        {"rename one.png ..png",
+         "An error occurred. The name of an image cannot begin with a dot or a space: \"..png\"."},
         {"add-image missing.png", "There is no file \"missing.png\"."},
         {"add-image Pump", "\"Pump\" is not a file. Name a picture in it."},
         {"replace-image one.png missing.png", "There is no file \"missing.png\"."},

@@ -31,6 +31,7 @@
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/FilterElement.h"
+#include "corvex/project/files/FileNameRules.h"
 #include "corvex/values/records/ListInfo.h"
 
 #include <QFileInfo>
@@ -364,6 +365,10 @@ void EditPlanner::addImages(const EditCall &call, EditPlan &plan) const
             plan.output.append(
                 text(u"\"%1\" was renamed to \"%2\" because the name was in use."_s, file, name));
         }
+        if (const QString error = FileNameRules::imageNameError(name); !error.isEmpty()) {
+            plan.refusal.message = Explanation::ofImageName(name, error);
+            return;
+        }
         DesignerObject *image = make(ImageResource::kindName(), name);
         if (call.words.size() == 1) {
             take(std::make_unique<AddImage>(image, info.absoluteFilePath(), &m_project), plan);
@@ -386,6 +391,7 @@ void EditPlanner::replaceImage(const EditCall &call, EditPlan &plan) const
         plan.refusal.message = reason;
     } else if (item) {
         const QString name = call.words.size() > 2 ? call.words.at(2) : item->getIdName();
+        plan.explain = [name](const QString &error) { return Explanation::ofImageName(name, error); };
         take(std::make_unique<ReplaceImage>(item, QFileInfo(file).absoluteFilePath(), name), plan);
     }
 }

@@ -46,13 +46,24 @@ QString Explanation::ofName(const DesignerObject &object, const QString &name, c
     if (kindCast<Project>(&object)) {
         return reason;
     }
-    if (!kindCast<ImageResource>(&object) && name.size() < 2) {
+    const bool isImage = kindCast<ImageResource>(&object);
+    if (!isImage && name.size() < 2) {
         return LocalizationHelper::coreString(u"%1 Use at least 2 characters."_s).arg(reason);
     }
     const DesignerObject *other = ownerOfName(object, name);
     return other ? LocalizationHelper::coreString(u"%1 \"%2\" (%3) has this name."_s)
                        .arg(reason, other->objectPath(), other->className())
-                 : reason;
+           : isImage ? ofImageName(name, reason)
+                     : reason;
+}
+
+QString Explanation::ofImageName(const QString &name, const QString &reason)
+{
+    return name.startsWith(u'.') || name.startsWith(u' ')
+               ? LocalizationHelper::coreString(
+                     u"%1 The name of an image cannot begin with a dot or a space: \"%2\"."_s)
+                     .arg(reason, name)
+               : reason;
 }
 
 QString Explanation::ofItem(const DesignerObject &item, const SharedProperty &list, const QString &reason)

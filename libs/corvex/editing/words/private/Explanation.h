@@ -14,6 +14,8 @@ class Explanation
 public:
     //! For a name that \a object cannot get, and the reason.
     static QString ofName(const DesignerObject &object, const QString &name, const QString &reason);
+    //! For a name that no image can have, and the reason.
+    static QString ofImageName(const QString &name, const QString &reason);
     //! For an item that a list did not accept, and the reason.
     static QString ofItem(const DesignerObject &item, const SharedProperty &list, const QString &reason);
     //! Why a file is not an image for a project; empty if it is.
