@@ -2,7 +2,10 @@
 #include "corvex/checks/ProblemList.h"
 #include "corvex/document/ProjectDocument.h"
 #include "corvex/editing/commands/Commands.h"
+#include "corvex/editing/commands/RenameProject.h"
 #include "corvex/editing/commands/images/DeleteImage.h"
+#include "corvex/editing/commands/images/RenameImage.h"
+#include "corvex/editing/commands/images/ReplaceImage.h"
 #include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/editing/commands/variables/AddVariable.h"
 #include "corvex/editing/undo/UndoStack.h"
@@ -202,6 +205,93 @@ TEST_F(ProjectDocumentTest, ASaveThatCannotKeepFilesDropsTheHistory)
     ASSERT_TRUE(forgotten.wait());
     EXPECT_FALSE(forgotten.constFirst().constFirst().toString().isEmpty());
     EXPECT_TRUE(describe(u"goes on"_s) && document->undo());
+}
+
+TEST_F(ProjectDocumentTest, AStepWhoseFilesAreGoneStaysDoneAndSavesSucceed)
+{
+    addImage(document->project(), u"a.png"_s);
+    ASSERT_TRUE(document->save());
+    const QString images = path(u"Pumps/Images/"_s);
+    const auto image = [this](const QString &name) {
+        return document->project().imageResources()->getListItem(name);
+    };
+    const auto replaceA = [&] {
+        QImage picture(3, 3, QImage::Format_RGB32);
+        picture.fill(Qt::blue);
+        EXPECT_TRUE(picture.save(path(u"new.png"_s)));
+        return document->push(new ReplaceImage(image(u"a.png"_s), path(u"new.png"_s), u"a.png"_s));
+    };
+    const auto rename = [&](const QString &from, const QString &to) {
+        return document->push(new RenameImage(image(from), to));
+    };
+    const QByteArray old = read(images + u"a.png"_s);
+    ASSERT_TRUE(replaceA() && rename(u"a.png"_s, u"b.png"_s));
+    const QByteArray replaced = read(images + u"b.png"_s);
+    ASSERT_TRUE(QDir(path(u"Pumps/.corvex-edit"_s)).removeRecursively());
+    ASSERT_TRUE(document->undo()) << qPrintable(document->errorString());
+    EXPECT_TRUE(image(u"a.png"_s)->isValid());
+    for (const bool isSaved : {false, true}) {
+        ASSERT_TRUE(!isSaved || document->save()) << qPrintable(document->errorString());
+        EXPECT_FALSE(document->undo());
+        EXPECT_TRUE(document->errorString().contains(u"a.png"_s)) << qPrintable(document->errorString());
+        EXPECT_EQ(document->history().position(), 1);
+        EXPECT_EQ(document->isModified(), !isSaved);
+        EXPECT_EQ(read(images + u"a.png"_s), replaced);
+    }
+    EXPECT_EQ(document->history().redoText(), u"Rename Image Resource \"a.png\""_s);
+    ASSERT_TRUE(document->redo() && document->undo() && document->save());
+
+    // The next opening reports what closing could not undo.
+    write(images + u"a.png"_s, old);
+    ASSERT_TRUE(replaceA() && QDir(path(u"Pumps/.corvex-edit"_s)).removeRecursively());
+    openAgain();
+    EXPECT_TRUE(document->recoveryNote().contains(u"\"Images/a.png\""_s));
+    EXPECT_EQ(read(images + u"a.png"_s), replaced);
+    openAgain();
+    EXPECT_EQ(document->recoveryNote(), QString());
+
+    // The same after the whole folder was deleted.
+    ASSERT_TRUE(rename(u"a.png"_s, u"b.png"_s) && QDir(path(u"Pumps"_s)).removeRecursively());
+    EXPECT_FALSE(document->undo());
+    EXPECT_TRUE(document->save(ProjectDocument::Overwrite::Always)) << qPrintable(document->errorString());
+    writePicture(images + u"b.png"_s);
+    EXPECT_TRUE(rename(u"b.png"_s, u"c.png"_s) && document->save()) << qPrintable(document->errorString());
+    EXPECT_TRUE(document->undo() && document->undo());
+    EXPECT_EQ(filesIn(images), QStringList{u"a.png"_s});
+}
+
+TEST_F(ProjectDocumentTest, AnUndoThatCannotRenameFilesFails)
+{
+    addImage(document->project(), u"a.png"_s);
+    Project &project = document->project();
+    ASSERT_TRUE(document->save() && document->push(new RenameProject(&project, u"Wells"_s))
+                && document->save());
+    write(path(u"Pumps/mine"_s), "mine");
+    EXPECT_FALSE(document->undo());
+    EXPECT_TRUE(document->errorString().contains(u"exists already"_s)) << qPrintable(document->errorString());
+    EXPECT_EQ(project.getIdName(), u"Wells"_s);
+    EXPECT_EQ(document->history().position(), 1);
+    EXPECT_FALSE(document->isModified());
+
+    const auto renameInGesture = [&] {
+        return document->beginGesture(u"Both"_s) && describe(u"new"_s)
+               && document->push(new RenameImage(project.imageResources()->getListItemAtIndex(0), u"b.png"_s))
+               && addVariable(u"more"_s);
+    };
+    const QString before = text();
+    ASSERT_TRUE(renameInGesture() && document->rollBackGesture());
+    EXPECT_EQ(text(), before);
+    EXPECT_TRUE(project.imageResources()->getListItemAtIndex(0)->isValid());
+    ASSERT_TRUE(renameInGesture());
+    const QString after = text();
+    writePicture(path(u"Wells/Images/a.png"_s));
+    EXPECT_FALSE(document->rollBackGesture());
+    EXPECT_TRUE(document->errorString().contains(u"exists already"_s)) << qPrintable(document->errorString());
+    EXPECT_EQ(document->history().undoText(), u"Both"_s) << "what cannot be undone is a step";
+    EXPECT_FALSE(document->history().goTo(0));
+    EXPECT_EQ(text(), after);
+    EXPECT_TRUE(QFile::remove(path(u"Wells/Images/a.png"_s)) && document->undo());
+    EXPECT_EQ(text(), before);
 }
 
 TEST_F(ProjectDocumentTest, ChangesByOtherProgramsAreReportedOnce)

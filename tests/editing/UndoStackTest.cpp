@@ -73,7 +73,57 @@ public:
     bool fails = true;
 };
 
+//! A command that can be done and undone once, unless it is stuck.
+class Reversible : public Step
+{
+public:
+    using Step::Step;
+
+    void undo() override { startUndo(); }
+    void redo() override { count(done == 0 ? 1 : 0); }
+    Start startUndo() override
+    {
+        count(isStuck || done == 0 ? 0 : -1);
+        return isStuck ? Start::Failed : Start::Done;
+    }
+    QString errorString() const override { return isStuck ? u"The file is gone."_s : QString(); }
+
+    bool isStuck = false;
+};
+
 } // namespace
+
+TEST(UndoStackTest, TheIndexStaysAfterACommandThatCannotBeUndone)
+{
+    UndoStack stack;
+    QList<Reversible *> stuck;
+    QList<Reversible *> others;
+    const auto makeBoth = [&](UndoCommand *parent) {
+        stuck.append(new Reversible({}, false, parent));
+        stuck.constLast()->isStuck = true;
+        others.append(new Reversible({}, false, parent));
+    };
+    auto *composite = new UndoCommand;
+    makeBoth(composite);
+    EXPECT_TRUE(stack.push(composite));
+    makeBoth(nullptr);
+    EXPECT_TRUE(stack.beginGesture(u"gesture"_s) && stack.push(stuck[1]) && stack.push(others[1]));
+    EXPECT_TRUE(stack.commitGesture());
+    makeBoth(nullptr);
+    stack.beginMacro(u"macro"_s);
+    EXPECT_TRUE(stack.push(stuck[2]) && stack.push(others[2]));
+    stack.endMacro();
+    for (int index = 3; index > 0; --index) {
+        stack.setIndex(0);
+        EXPECT_EQ(stack.index(), index);
+        EXPECT_EQ(stack.errorString(), u"The file is gone."_s);
+        EXPECT_EQ(others[index - 1]->done, 1) << "it is done again";
+        stuck[index - 1]->isStuck = false;
+        stack.undo();
+        EXPECT_EQ(stack.index(), index - 1);
+        EXPECT_EQ(stuck[index - 1]->done + others[index - 1]->done, 0);
+    }
+}
 
 TEST(UndoStackTest, AFailedCommandIsDroppedWithAllThatDependOnIt)
 {

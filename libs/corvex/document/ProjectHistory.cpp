@@ -90,7 +90,7 @@ bool ProjectHistory::rollBackGesture()
 {
     const bool isDone = current().stack->rollBackGesture();
     emit changed();
-    return isDone || refuse(LocalizationHelper::coreString(u"There is no gesture to cancel."_s));
+    return isDone || refuse(stack().errorString());
 }
 
 bool ProjectHistory::pushInRun(const QString &text, UndoCommand *command, int pause)
@@ -210,16 +210,22 @@ bool ProjectHistory::undo()
     if (!prepare(command)) {
         return false;
     }
+    bool isDone = false;
     {
         const QScopedValueRollback<bool> isMoving(m_isMoving, true);
         while (stack().index() == current().from) {
             activate(m_current - 1);
         }
+        const int before = stack().index();
         current().stack->undo();
+        isDone = stack().index() < before;
+        if (!isDone) {
+            m_error = stack().errorString();
+        }
         settle();
     }
     emit changed();
-    return true;
+    return isDone;
 }
 
 bool ProjectHistory::redo()

@@ -99,6 +99,7 @@ TEST_F(ImageCommandTest, RenamingAlsoRenamesTheFile)
     EXPECT_TRUE(object(u"Pump.png"_s)->isValid());
     stack().undo();
     EXPECT_EQ(files(), QStringList{u"pump.png"_s});
+    EXPECT_TRUE(object(u"pump.png"_s)->isValid());
     // Changing the name as a property does the same.
     IdentifierInfo info = object(u"pump.png"_s)->getIdInfo();
     info.setName(u"motor.png"_s);

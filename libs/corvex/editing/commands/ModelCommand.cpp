@@ -55,17 +55,25 @@ struct ModelCommand::Plan
     {
         for (auto step = steps.begin(); step != steps.end(); ++step) {
             if (!(*step)->redo(reason)) {
-                undoSteps(step);
+                QString ignored; // the first reason counts
+                undoSteps(step, ignored);
                 return false;
             }
         }
         return true;
     }
-    void undoSteps(std::vector<std::unique_ptr<EditStep>>::iterator end)
+    bool undoSteps(std::vector<std::unique_ptr<EditStep>>::iterator end, QString &reason)
     {
-        while (end != steps.begin()) {
-            (*--end)->undo();
+        for (auto step = end; step != steps.begin();) {
+            if (!(*--step)->undo(reason)) {
+                QString ignored;
+                while (++step != end) {
+                    (*step)->redo(ignored);
+                }
+                return false;
+            }
         }
+        return true;
     }
 };
 
@@ -332,15 +340,37 @@ void ModelCommand::undo()
     if (!m_isDone) {
         return;
     }
+    QString error;
     if (childCount() > 0) {
         QUndoCommand::undo();
-    } else if (isValid() && undoOwn() && m_plan) {
+    } else if (isValid() && !undoLeaf(error)) {
+        plan().error = error;
+        return;
+    }
+    m_isDone = false;
+}
+
+UndoCommand::Start ModelCommand::startUndo()
+{
+    if (m_isDone && childCount() == 0) {
+        undo();
+        return m_isDone ? Start::Failed : Start::Done;
+    }
+    const Start start = m_isDone ? UndoCommand::startUndo() : Start::Done;
+    m_isDone = m_isDone && start != Start::Done;
+    return start;
+}
+
+bool ModelCommand::undoLeaf(QString &error)
+{
+    if (undoOwn(error) && m_plan) {
+        m_plan->error.clear();
         undoAll(m_plan->changes);
         if (m_plan->placeChanges) {
             undoAll(*m_plan->placeChanges);
         }
     }
-    m_isDone = false;
+    return error.isEmpty();
 }
 
 bool ModelCommand::redoOwn(QString &error)
@@ -348,12 +378,14 @@ bool ModelCommand::redoOwn(QString &error)
     return !m_plan || m_plan->redoSteps(error);
 }
 
-bool ModelCommand::undoOwn()
+bool ModelCommand::undoOwn(QString &error)
 {
     if (!m_plan) {
         return true;
     }
-    m_plan->undoSteps(m_plan->steps.end());
+    if (!m_plan->undoSteps(m_plan->steps.end(), error)) {
+        return false;
+    }
     return std::all_of(m_plan->steps.begin(), m_plan->steps.end(), [this](const auto &step) {
         const auto *value = dynamic_cast<const SetValueStep *>(step.get());
         return !value || value->change().property != property()

@@ -18,7 +18,8 @@ class EditStep;
 
     If a step fails, the previous steps are undone and no other values change; the command fails, and
     errorString() may give the reason. If a change of another value fails, the rest continues. Doing a command
-    twice, or undoing one that is not done, changes nothing.
+    twice, or undoing one that is not done, changes nothing. If files cannot be restored, an undo changes
+    nothing, and the command remains done.
 */
 class CORVEX_EXPORT ModelCommand : public UndoCommand
 {
@@ -28,6 +29,7 @@ public:
     void redo() override;
     void undo() override;
     Start start() override;
+    Start startUndo() override;
     //! Also returns false for a command with impossible arguments; errorString() has the reason.
     bool isValid() const override;
     DesignerObject *activeItem() const override;
@@ -91,8 +93,8 @@ protected:
     //! Does the command's own steps.
     virtual bool redoOwn(QString &error);
     //! Returns false if the property of the command does not get its old value back; then the changes that
-    //! follow from it are kept, too.
-    virtual bool undoOwn();
+    //! follow from it are kept, too. Also returns false, with an error, if the command remains done.
+    virtual bool undoOwn(QString &error);
     virtual void appendOwnChanges(QList<ValueChange> &changes) const;
 
 private:
@@ -105,6 +107,7 @@ private:
     void placeGroups();
     QList<DesignerObject *> ownSelection() const;
     bool redoLeaf(QString &error);
+    bool undoLeaf(QString &error);
 
     std::unique_ptr<Plan> m_plan; //!< null for a command that only makes its own change
     std::shared_ptr<Edit> m_edit; //!< null for a single command that affects no group

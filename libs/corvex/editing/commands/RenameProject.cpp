@@ -34,8 +34,7 @@ public:
         if (hasFile && !m_project->beginFileChanges(&error)) {
             return false;
         }
-        if (!renameFile(m_oldFileName, m_newName) || !m_project->setIdName(m_newName)) {
-            error = m_project->fileError();
+        if (!rename(m_oldFileName, m_newName, m_newName, error)) {
             return false;
         }
         if (!m_oldVersion.isEmpty()) {
@@ -43,15 +42,29 @@ public:
         }
         return true;
     }
-    void undo() override
+    bool undo(QString &error) override
     {
-        if (renameFile(m_newName, m_oldFileName)) {
-            m_project->setIdName(m_oldName);
+        if (!rename(m_newName, m_oldFileName, m_oldName, error)) {
+            return false;
         }
         m_project->changePropertyValue(m_project->version(), m_oldVersion);
+        return true;
     }
 
 private:
+    bool rename(const QString &fromFile, const QString &toFile, const QString &toName, QString &error)
+    {
+        if (!renameFile(fromFile, toFile)) {
+            error = m_project->fileError();
+            return false;
+        }
+        if (!m_project->setIdName(toName)) {
+            error = m_project->idProperty()->refusalOf(toName);
+            renameFile(toFile, fromFile);
+            return false;
+        }
+        return true;
+    }
     bool renameFile(const QString &from, const QString &to)
     {
         return m_project->fullFilePath().isEmpty() || from == to || m_project->renameFile(from, to);

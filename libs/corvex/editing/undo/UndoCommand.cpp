@@ -63,6 +63,32 @@ UndoCommand::Start UndoCommand::start()
     return childCount() > 0 ? Start::Done : Start::Later;
 }
 
+UndoCommand::Start UndoCommand::startUndo()
+{
+    return startUndoOfChildren(*this);
+}
+
+UndoCommand::Start UndoCommand::startUndo(QUndoCommand &command)
+{
+    auto *own = dynamic_cast<UndoCommand *>(&command);
+    return own ? own->startUndo() : startUndoOfChildren(command);
+}
+
+UndoCommand::Start UndoCommand::startUndoOfChildren(QUndoCommand &command)
+{
+    const auto child = [&command](int i) { return const_cast<QUndoCommand *>(command.child(i)); };
+    for (int i = command.childCount() - 1; i >= 0; --i) {
+        const Start start = startUndo(*child(i));
+        for (int undone = i + 1; start == Start::Failed && undone < command.childCount(); ++undone) {
+            child(undone)->redo();
+        }
+        if (start != Start::Done) {
+            return start;
+        }
+    }
+    return command.childCount() > 0 ? Start::Done : Start::Later;
+}
+
 bool UndoCommand::redoChildren()
 {
     for (int i = 0; i < childCount(); ++i) {

@@ -22,7 +22,8 @@ class UndoStack;
     leaf refers to a property and to the object that owns it. Commands never merge.
 
     A command that fails changes nothing and becomes obsolete, so the stack drops it. If a child of a
-    composite fails, the composite undoes its other children and becomes obsolete, too.
+    composite fails, the composite undoes its other children and becomes obsolete, too. A command that cannot
+   be undone remains done.
 */
 class CORVEX_EXPORT UndoCommand : public QUndoCommand
 {
@@ -33,7 +34,7 @@ public:
     enum class Deletion { None, Screen, Image, Variable };
     enum class Start {
         Done,
-        Later, //!< the command does its work in redo()
+        Later, //!< the command does its work in redo() or undo()
         Failed
     };
 
@@ -49,6 +50,12 @@ public:
     //! The following redo() does nothing. A composite starts its children one by one; a composite with its
     //! own redo() must override this function, too.
     virtual Start start();
+    //! Undoes the command before the index of the stack moves, so that the index stays if this fails. The
+    //! following undo() does nothing. A composite starts with its last child; if a child fails, the ones that
+    //! were undone are done again.
+    virtual Start startUndo();
+    //! The same for any command of Qt, such as a macro.
+    static Start startUndo(QUndoCommand &command);
     // id() and mergeWith() are those of QUndoCommand.
     //! The objects to select on the canvas, without duplicates.
     virtual QList<DesignerObject *> selectedItems();
@@ -103,6 +110,7 @@ private:
     friend class UndoStack;
 
     void undoChildren(int end);
+    static Start startUndoOfChildren(QUndoCommand &command);
 
     SharedProperty m_property;
     UndoCommand *m_parent = nullptr;

@@ -35,6 +35,19 @@ bool keepFilesOf(QUndoCommand *step, Common::FileStore &store, QString &error)
     return isKept;
 }
 
+//! For a macro, the error of its first command that has one.
+QString errorOf(const QUndoCommand *step)
+{
+    if (const auto *command = dynamic_cast<const UndoCommand *>(step)) {
+        return command->errorString();
+    }
+    QString error;
+    for (int i = 0; i < step->childCount() && error.isEmpty(); ++i) {
+        error = errorOf(step->child(i));
+    }
+    return error;
+}
+
 //! A command that cannot be done, so that pushing it has no effect.
 class NoCommand : public QUndoCommand
 {
@@ -213,10 +226,18 @@ bool UndoStack::rollBackGesture()
     }
     m_runTimer.stop();
     const std::unique_ptr<Gesture> gesture = std::move(m_gesture);
-    if (gesture) {
-        gesture->rollBack();
+    if (!gesture) {
+        m_errorString =
+            Common::LocalizationHelper::coreString(QStringLiteral("There is no gesture to cancel."));
+        return false;
     }
-    return gesture != nullptr;
+    if (gesture->rollBack()) {
+        return true;
+    }
+    std::unique_ptr<UndoCommand> step = gesture->takeCommand();
+    m_errorString = step->errorString();
+    append(step.release());
+    return false;
 }
 
 void UndoStack::dropRedo()
@@ -239,9 +260,28 @@ void UndoStack::setStartSaved(bool isSaved)
 
 void UndoStack::undo()
 {
-    if (isOpen()) {
-        QUndoStack::undo();
+    if (isOpen() && canUndo()) {
+        undoTo(index() - 1);
     }
+}
+
+//! Stops after a command that cannot be undone.
+void UndoStack::undoTo(int index)
+{
+    int reached = this->index();
+    while (reached > index) {
+        auto *step = const_cast<QUndoCommand *>(command(reached - 1));
+        const UndoCommand::Start start = UndoCommand::startUndo(*step);
+        if (start == UndoCommand::Start::Failed) {
+            m_errorString = errorOf(step);
+            break;
+        }
+        --reached;
+        if (start == UndoCommand::Start::Later) {
+            QUndoStack::setIndex(reached);
+        }
+    }
+    QUndoStack::setIndex(reached);
 }
 
 void UndoStack::redo()
@@ -257,8 +297,12 @@ void UndoStack::setIndex(int index)
     if (!isOpen()) {
         return;
     }
-    m_hasFailed = false;
     const int before = this->index();
+    if (index < before) {
+        undoTo(std::max(index, 0));
+        return;
+    }
+    m_hasFailed = false;
     {
         const QScopedValueRollback<bool> isMoving(m_isMoving, true);
         QUndoStack::setIndex(index);

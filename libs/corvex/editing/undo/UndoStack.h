@@ -71,7 +71,8 @@ public:
     bool hasChangedInGesture() const;
     //! Returns false if there is no gesture. A gesture without changes adds no step.
     bool commitGesture();
-    //! Restores model and history to the start of the gesture. Returns false if there is no gesture.
+    //! Restores model and history to the start of the gesture. Returns false, with an error, if there is no
+    //! gesture, or if a command cannot be undone; the gesture is then committed.
     bool rollBackGesture();
 
     //! A run ends when nothing is added to it for this time.
@@ -107,8 +108,8 @@ public:
 
 public slots:
     //! Like those of QUndoStack, except that a command that cannot be redone is dropped with all later ones,
-    //! which depend on it; a macro with such a command is undone as a whole. During a gesture nothing moves,
-    //! and errorString() says so.
+    //! which depend on it; a macro with such a command is undone as a whole. The index stays after a command
+    //! that cannot be undone. During a gesture nothing moves. errorString() gives the reason.
     void undo();
     void redo();
     void setIndex(int index);
@@ -133,6 +134,7 @@ private:
     void addCandidate(DesignerObject *candidate);
     void commandFailed(const UndoCommand *command);
     bool undoFailedMacro();
+    void undoTo(int index);
     void commandDeleted(const UndoCommand *command);
     void onIndexChanged(int index);
     const UndoCommand *decidingCommand(int index) const;

@@ -78,7 +78,12 @@ bool EditScript::perform(EditPlan &plan)
     }
     if (const std::optional<int> steps = plan.historySteps) {
         UndoStack *stack = m_project.undoStack();
-        stack->setIndex(stack->index() + *steps);
+        const int index = stack->index() + *steps;
+        stack->setIndex(index);
+        if (stack->index() != index) {
+            m_refusal.message = stack->errorString();
+            return false;
+        }
         m_edits.append({plan.historyText, {}, {}});
     }
     return !plan.command || push(plan);

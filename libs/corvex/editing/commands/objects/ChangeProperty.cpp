@@ -195,7 +195,7 @@ bool ChangeProperty::redoOwn(QString &error)
     return isDone;
 }
 
-bool ChangeProperty::undoOwn()
+bool ChangeProperty::undoOwn(QString &)
 {
     return set(m_before);
 }

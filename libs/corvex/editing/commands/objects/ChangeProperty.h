@@ -29,7 +29,7 @@ public:
 
 protected:
     bool redoOwn(QString &error) override;
-    bool undoOwn() override;
+    bool undoOwn(QString &error) override;
     void appendOwnChanges(QList<ValueChange> &changes) const override;
 
 private:

@@ -22,12 +22,12 @@ bool SortingCommand::redoOwn(QString &error)
     return true;
 }
 
-bool SortingCommand::undoOwn()
+bool SortingCommand::undoOwn(QString &error)
 {
     const SharedProperty list = property();
     list->setOrderingPaused(!m_isSortEnabled);
     const auto resume = qScopeGuard([&list] { list->setOrderingPaused(false); });
-    return ModelCommand::undoOwn();
+    return ModelCommand::undoOwn(error);
 }
 
 } // namespace Halvane::Corvex::Designer

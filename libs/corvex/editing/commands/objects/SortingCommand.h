@@ -18,7 +18,7 @@ public:
 protected:
     using ModelCommand::ModelCommand;
     bool redoOwn(QString &error) override;
-    bool undoOwn() override;
+    bool undoOwn(QString &error) override;
 
 private:
     bool m_isSortEnabled = true;

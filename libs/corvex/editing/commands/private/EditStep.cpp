@@ -44,6 +44,12 @@ bool SetValueStep::redo(QString &error)
     return isDone;
 }
 
+bool SetValueStep::undo(QString &)
+{
+    m_change.undo();
+    return true;
+}
+
 InsertItemStep::InsertItemStep(const SharedProperty &list, DesignerObject *object, qsizetype index)
     : m_list(list)
     , m_object(object)
@@ -65,9 +71,10 @@ bool InsertItemStep::redo(QString &error)
     return true;
 }
 
-void InsertItemStep::undo()
+bool InsertItemStep::undo(QString &)
 {
     take(m_list, m_object);
+    return true;
 }
 
 TakeItemStep::TakeItemStep(const SharedProperty &list, DesignerObject *object)
@@ -90,9 +97,10 @@ bool TakeItemStep::redo(QString &error)
     return true;
 }
 
-void TakeItemStep::undo()
+bool TakeItemStep::undo(QString &)
 {
     insert(m_list, m_object, m_place);
+    return true;
 }
 
 SwapItemsStep::SwapItemsStep(const SharedProperty &list, DesignerObject *first, DesignerObject *second)
@@ -115,9 +123,10 @@ bool SwapItemsStep::redo(QString &error)
     return isDone;
 }
 
-void SwapItemsStep::undo()
+bool SwapItemsStep::undo(QString &)
 {
     m_list->parentObject()->swapListPropertyItems(m_list, m_first, m_second);
+    return true;
 }
 
 bool SortListStep::redo(QString &)

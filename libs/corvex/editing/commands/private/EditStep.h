@@ -28,7 +28,8 @@ public:
     virtual bool isPossible() const = 0;
     //! Returns false, with nothing changed, on failure; \a error may then have a text for the user.
     virtual bool redo(QString &error) = 0;
-    virtual void undo() = 0;
+    //! The same. Only a step that changes files can fail.
+    virtual bool undo(QString &error) = 0;
     //! The value or the list that it changes; null for anything else.
     virtual SharedProperty property() const { return {}; }
     //! Deletes files that were kept for an undo and that no image of the project needs.
@@ -47,7 +48,7 @@ public:
 
     bool isPossible() const override { return m_change.property && m_change.property->parentObject(); }
     bool redo(QString &error) override;
-    void undo() override { m_change.undo(); }
+    bool undo(QString &error) override;
     SharedProperty property() const override { return m_change.property; }
     const ValueChange &change() const { return m_change; }
 
@@ -64,7 +65,7 @@ public:
 
     bool isPossible() const override;
     bool redo(QString &error) override;
-    void undo() override;
+    bool undo(QString &error) override;
     SharedProperty property() const override { return m_list; }
 
 private:
@@ -81,7 +82,7 @@ public:
 
     bool isPossible() const override;
     bool redo(QString &error) override;
-    void undo() override;
+    bool undo(QString &error) override;
     SharedProperty property() const override { return m_list; }
 
 private:
@@ -98,7 +99,7 @@ public:
 
     bool isPossible() const override;
     bool redo(QString &error) override;
-    void undo() override;
+    bool undo(QString &error) override;
 
 private:
     SharedProperty m_list;
@@ -116,7 +117,7 @@ public:
 
     bool isPossible() const override { return m_list && m_list->parentObject(); }
     bool redo(QString &error) override;
-    void undo() override { sort(m_list); }
+    bool undo(QString &error) override { return redo(error); }
 
     //! Lists keep themselves sorted, so there is rarely anything to do.
     static void sort(const SharedProperty &list);

@@ -2,6 +2,7 @@
 #include "corvex/editing/commands/private/FileStep.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileSync.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
 
@@ -80,6 +81,12 @@ QString FileStep::inFolder(const QString &name) const
     return pathOf(name).sliced(m_project->folderPath().size() + 1);
 }
 
+bool FileStep::isAside(const QString &key) const
+{
+    const Common::FileTransaction *files = m_project ? m_project->fileChanges() : nullptr;
+    return files && !key.isEmpty() && exists(files->asidePath(key));
+}
+
 void FileStep::discard(const QString &key) const
 {
     // Without pending changes the last save has deleted it.
@@ -150,6 +157,7 @@ bool PlaceFileStep::place(Common::FileTransaction &files, QString &error)
     m_isMade = files.place(inFolder(name()), bytes, &error);
     if (m_isMade) {
         m_stored.reset();
+        m_key.clear();
     }
     return m_isMade;
 }
@@ -159,12 +167,14 @@ bool PlaceFileStep::keepFiles(Common::FileStore &store, QString &error)
     if (m_key.isEmpty()) {
         return true;
     }
-    m_stored = FileStep::store(m_key, store, error);
-    if (m_stored) {
+    // If another program has deleted it, a redo reads the source again.
+    const bool isLost = !isAside(m_key);
+    m_stored = isLost ? nullptr : FileStep::store(m_key, store, error);
+    if (m_stored || isLost) {
         m_key.clear();
         m_isMade = false;
     }
-    return m_stored != nullptr;
+    return m_stored || isLost;
 }
 
 bool LeaveFileStep::redo(QString &)
@@ -173,19 +183,19 @@ bool LeaveFileStep::redo(QString &)
     return true;
 }
 
-void LeaveFileStep::undo()
+bool LeaveFileStep::undo(QString &error)
 {
-    m_isDone = false;
-    QByteArray bytes;
-    QString error;
-    if (!m_stored || exists(path()) || !m_stored->read(&bytes, &error)) {
-        return;
-    }
-    Common::FileTransaction *files = changes(error);
-    if (files && files->place(inFolder(name()), bytes, &error)) {
+    if (m_stored && !exists(path())) {
+        QByteArray bytes;
+        Common::FileTransaction *files = m_stored->read(&bytes, &error) ? changes(error) : nullptr;
+        if (!files || !files->place(inFolder(name()), bytes, &error)) {
+            return false;
+        }
         m_stored.reset();
         lookAgain(name());
     }
+    m_isDone = false;
+    return true;
 }
 
 bool LeaveFileStep::keepFiles(Common::FileStore &store, QString &error)
@@ -200,13 +210,22 @@ bool LeaveFileStep::keepFiles(Common::FileStore &store, QString &error)
     return m_stored != nullptr;
 }
 
-void PlaceFileStep::undo()
+bool PlaceFileStep::undo(QString &error)
 {
-    m_isDone = false;
-    QString error;
-    Common::FileTransaction *files = m_isMade ? changes(error) : nullptr;
-    m_key = files ? files->setAside(inFolder(name())) : QString();
+    if (m_isMade && exists(path())) {
+        Common::FileTransaction *files = changes(error);
+        m_key = files ? files->setAside(inFolder(name())) : QString();
+        if (m_key.isEmpty()) {
+            error = error.isEmpty()
+                        ? LocalizationHelper::coreString(u"The file \"%1\" cannot be removed: %2"_s)
+                              .arg(path(), Common::FileSync::reason())
+                        : error;
+            return false;
+        }
+    }
     m_isMade = !m_key.isEmpty();
+    m_isDone = false;
+    return true;
 }
 
 void PlaceFileStep::cleanJunkFiles()
@@ -231,10 +250,14 @@ bool RenameFileStep::rename(const QString &from, const QString &to, QString &err
     return files && files->move(inFolder(from), inFolder(to), &error);
 }
 
-void RenameFileStep::undo()
+bool RenameFileStep::undo(QString &error)
 {
-    QString error;
-    rename(m_newName, name(), error);
+    const bool isBack = !exists(pathOf(m_newName)) && exists(path()); // somebody has renamed it
+    if (!isBack && !rename(m_newName, name(), error)) {
+        return false;
+    }
+    lookAgain(name()); // the image had this name before the file had it
+    return true;
 }
 
 ReplaceFileStep::~ReplaceFileStep()
@@ -251,6 +274,14 @@ bool ReplaceFileStep::exchange(QString &error)
     if (!files) {
         return false;
     }
+    m_isOldLost = m_isOldLost || (!m_key.isEmpty() && !isAside(m_key));
+    if (m_isOldLost) {
+        error =
+            LocalizationHelper::coreString(
+                u"The old contents of the file \"%1\" cannot be restored: another program has deleted them."_s)
+                .arg(path());
+        return false;
+    }
     if (m_stored) {
         QByteArray bytes;
         m_key = m_stored->read(&bytes, &error) ? files->keepAside(bytes, &error) : QString();
@@ -261,12 +292,10 @@ bool ReplaceFileStep::exchange(QString &error)
     }
     const bool hasOld = exists(path());
     const QString old = hasOld ? files->setAside(inFolder(name())) : QString();
-    if (hasOld && old.isEmpty()) {
-        return false;
-    }
     const bool hadNone = m_key.isEmpty(); // there was no file before
-    if (!hadNone && !files->bringBack(m_key, inFolder(name()))) {
-        if (hasOld) {
+    if ((hasOld && old.isEmpty()) || (!hadNone && !files->bringBack(m_key, inFolder(name())))) {
+        error = LocalizationHelper::coreString(u"The file \"%1\" cannot be replaced."_s).arg(path());
+        if (!old.isEmpty()) {
             files->bringBack(old, inFolder(name()));
         }
         return false;
@@ -278,7 +307,7 @@ bool ReplaceFileStep::exchange(QString &error)
 
 bool ReplaceFileStep::redo(QString &error)
 {
-    if (m_key.isEmpty() && !m_stored) {
+    if (!isAside(m_key) && !m_stored) {
         QByteArray bytes;
         Common::FileTransaction *files = readFile(m_source, bytes, error) ? changes(error) : nullptr;
         m_key = files ? files->keepAside(bytes, &error) : QString();
@@ -287,17 +316,13 @@ bool ReplaceFileStep::redo(QString &error)
         }
     }
     m_isDone = exchange(error);
-    if (!m_isDone && error.isEmpty()) {
-        error = LocalizationHelper::coreString(u"The file \"%1\" cannot be replaced."_s).arg(path());
-    }
     return m_isDone;
 }
 
-void ReplaceFileStep::undo()
+bool ReplaceFileStep::undo(QString &error)
 {
-    QString error;
-    exchange(error);
-    m_isDone = false;
+    m_isDone = !exchange(error);
+    return !m_isDone;
 }
 
 bool ReplaceFileStep::keepFiles(Common::FileStore &store, QString &error)
@@ -305,11 +330,13 @@ bool ReplaceFileStep::keepFiles(Common::FileStore &store, QString &error)
     if (m_key.isEmpty()) {
         return true;
     }
-    m_stored = FileStep::store(m_key, store, error);
-    if (m_stored) {
+    const bool isLost = !isAside(m_key);
+    m_isOldLost = m_isDone && isLost;
+    m_stored = isLost ? nullptr : FileStep::store(m_key, store, error);
+    if (m_stored || isLost) {
         m_key.clear();
     }
-    return m_stored != nullptr;
+    return m_stored || isLost;
 }
 
 void ReplaceFileStep::cleanJunkFiles()

@@ -37,6 +37,8 @@ protected:
     Common::FileTransaction *changes(QString &error) const;
     //! The path of a file in the images folder of the transaction.
     QString inFolder(const QString &name) const;
+    //! Whether the file that was set aside still exists. Another program may have deleted it.
+    bool isAside(const QString &key) const;
     //! Deletes a file that was set aside.
     void discard(const QString &key) const;
     //! Makes the image with that name check its file again.
@@ -64,7 +66,7 @@ public:
     ~PlaceFileStep() override;
 
     bool redo(QString &error) override;
-    void undo() override;
+    bool undo(QString &error) override;
     void cleanJunkFiles() override;
     bool keepFiles(Common::FileStore &store, QString &error) override;
 
@@ -88,7 +90,7 @@ public:
     using FileStep::FileStep;
 
     bool redo(QString &error) override;
-    void undo() override;
+    bool undo(QString &error) override;
     void cleanJunkFiles() override { removeUnused(name()); }
     bool keepFiles(Common::FileStore &store, QString &error) override;
 
@@ -107,7 +109,7 @@ public:
     { }
 
     bool redo(QString &error) override { return rename(name(), m_newName, error); }
-    void undo() override;
+    bool undo(QString &error) override;
 
 private:
     bool rename(const QString &from, const QString &to, QString &error);
@@ -126,7 +128,7 @@ public:
     ~ReplaceFileStep() override;
 
     bool redo(QString &error) override;
-    void undo() override;
+    bool undo(QString &error) override;
     void cleanJunkFiles() override;
     bool keepFiles(Common::FileStore &store, QString &error) override;
 
@@ -137,6 +139,7 @@ private:
     QString m_key;   //!< of the file with the hidden contents; empty before the first redo
     Stored m_stored; //!< the same, if the project has been saved since
     bool m_isDone = false;
+    bool m_isOldLost = false; //!< another program has deleted the old contents
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -22,18 +22,24 @@ bool AddScreenAndElements::redoOwn(QString &error)
     m_elements->redo();
     if (m_elements->isObsolete()) {
         error = m_elements->errorString();
-        AddScreen::undoOwn();
+        QString ignored;
+        AddScreen::undoOwn(ignored);
         return false;
     }
     return true;
 }
 
-bool AddScreenAndElements::undoOwn()
+bool AddScreenAndElements::undoOwn(QString &error)
 {
-    if (m_elements) {
+    const Start start = m_elements ? m_elements->startUndo() : Start::Done;
+    if (start == Start::Failed) {
+        error = m_elements->errorString();
+        return false;
+    }
+    if (start == Start::Later) {
         m_elements->undo();
     }
-    return AddScreen::undoOwn();
+    return AddScreen::undoOwn(error);
 }
 
 QList<DesignerObject *> AddScreenAndElements::selectedItems()

@@ -22,6 +22,24 @@ SharedProperty propertyOf(const UndoCommand &command)
     return leaf ? leaf->property() : SharedProperty();
 }
 
+//! Undoes the commands before \a end. Returns false, with nothing changed, if one cannot be undone.
+bool undoAll(const Gesture::Commands &commands, Gesture::Commands::const_iterator end)
+{
+    for (auto command = end; command != commands.begin();) {
+        const UndoCommand::Start start = (*--command)->startUndo();
+        if (start == UndoCommand::Start::Failed) {
+            while (++command != end) {
+                (*command)->redo();
+            }
+            return false;
+        }
+        if (start == UndoCommand::Start::Later) {
+            (*command)->undo();
+        }
+    }
+    return true;
+}
+
 class GestureCommand final : public UndoCommand
 {
 public:
@@ -32,18 +50,18 @@ public:
         setText(text);
     }
 
-    void undo() override
+    void undo() override { startUndo(); }
+    Start startUndo() override
     {
-        if (std::exchange(m_isDone, false)) {
-            undoBefore(m_commands.end());
-        }
+        m_isDone = m_isDone && !undoAll(m_commands, m_commands.end());
+        return m_isDone ? Start::Failed : Start::Done;
     }
     void redo() override
     {
         for (auto command = m_commands.begin(); !m_isDone && command != m_commands.end(); ++command) {
             (*command)->redo();
             if ((*command)->isObsolete()) {
-                undoBefore(command);
+                undoAll(m_commands, command);
                 fail();
                 return;
             }
@@ -98,13 +116,6 @@ public:
     }
 
 private:
-    void undoBefore(Gesture::Commands::iterator end)
-    {
-        while (end != m_commands.begin()) {
-            (*--end)->undo();
-        }
-    }
-
     Gesture::Commands m_commands;
     bool m_isDone = true;
 };
@@ -131,13 +142,16 @@ void Gesture::add(std::unique_ptr<UndoCommand> command)
     *run = {last, true};
 }
 
-void Gesture::rollBack()
+bool Gesture::rollBack()
 {
     m_runs.clear();
+    if (!undoAll(m_commands, m_commands.end())) {
+        return false;
+    }
     while (!m_commands.empty()) {
-        m_commands.back()->undo();
         m_commands.pop_back();
     }
+    return true;
 }
 
 std::unique_ptr<UndoCommand> Gesture::takeCommand()

@@ -30,8 +30,8 @@ public:
     //! Whether a command is being done. The gesture must not end before it is added.
     bool isBusy() const { return m_isBusy; }
     void setBusy(bool isBusy) { m_isBusy = isBusy; }
-    //! Undoes all commands.
-    void rollBack();
+    //! Undoes and deletes all commands. Returns false, with nothing changed, if one cannot be undone.
+    bool rollBack();
     //! All commands as one, which is already done. Null if the gesture is empty.
     std::unique_ptr<UndoCommand> takeCommand();
 
