@@ -3,6 +3,7 @@
 #include "corvex/document/ProjectDocument.h"
 #include "corvex/editing/commands/Commands.h"
 #include "corvex/editing/commands/RenameProject.h"
+#include "corvex/editing/commands/images/AddImageFromData.h"
 #include "corvex/editing/commands/images/DeleteImage.h"
 #include "corvex/editing/commands/images/RenameImage.h"
 #include "corvex/editing/commands/images/ReplaceImage.h"
@@ -258,6 +259,31 @@ TEST_F(ProjectDocumentTest, AStepWhoseFilesAreGoneStaysDoneAndSavesSucceed)
     EXPECT_TRUE(rename(u"b.png"_s, u"c.png"_s) && document->save()) << qPrintable(document->errorString());
     EXPECT_TRUE(document->undo() && document->undo());
     EXPECT_EQ(filesIn(images), QStringList{u"a.png"_s});
+}
+
+TEST_F(ProjectDocumentTest, DeletedImageFilesComeBackWithTheNextSaveOrUndo)
+{
+    addImage(document->project(), u"a.png"_s);
+    ASSERT_TRUE(document->save());
+    const QDir images(path(u"Pumps/Images"_s));
+    QImage picture(3, 3, QImage::Format_RGB32);
+    picture.fill(Qt::blue);
+    const auto edit = [&] {
+        DesignerObject *image = document->project().imageResources()->getListItem(u"a.png"_s);
+        return document->push(new RenameImage(image, u"b.png"_s))
+               && document->push(new AddImageFromData(picture, &document->project()));
+    };
+    const auto files = [&images] { return images.entryList(QDir::Files, QDir::Name); };
+    const auto deleteFiles = [&images] { return QDir(images).removeRecursively(); };
+    ASSERT_TRUE(edit() && deleteFiles());
+    ASSERT_TRUE(document->undo() && document->undo()) << qPrintable(document->errorString());
+    EXPECT_EQ(files(), QStringList{u"a.png"_s});
+    EXPECT_TRUE(document->project().imageResources()->listItems().constFirst()->isValid());
+    ASSERT_TRUE(edit() && deleteFiles() && document->save()) << qPrintable(document->errorString());
+    EXPECT_EQ(files(), (QStringList{u"Image Resource.png"_s, u"b.png"_s}));
+    for (const DesignerObject *image : document->project().imageResources()->listItems()) {
+        EXPECT_TRUE(image->isValid());
+    }
 }
 
 TEST_F(ProjectDocumentTest, AnUndoThatCannotRenameFilesFails)

@@ -181,6 +181,7 @@ protected:
     void afterFileFieldsChanged() override;
     bool renameEntries(const QString &fileName, const QString &subPath, QString *error) override;
     bool writeAgain(QString *error) override;
+    void restoreDeletedImages();
     void afterObjectPropertyChanged(const DesignerProperty *property,
                                     const DesignerObject *previousObject) override;
     void afterListItemAdded(const DesignerProperty *property, const DesignerObject *item) override;

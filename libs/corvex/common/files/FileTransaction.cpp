@@ -61,8 +61,46 @@ std::unique_ptr<FileTransaction> FileTransaction::begin(const QString &folder, Q
 
 bool FileTransaction::renew(QString *error)
 {
-    return m_journal->isThere() || FileRecovery(*m_journal).repair()
+    return m_journal->isThere() || repair()
            || fail(error, u"Nothing can be written to the folder \"%1\": %2"_s, m_journal->folder());
+}
+
+bool FileTransaction::repair()
+{
+    if (!FileRecovery(*m_journal).repair()) {
+        return false;
+    }
+    m_copies.clear();
+    for (const FileJournal::OldFile &file : m_journal->oldFiles()) {
+        m_copies.insert(file.digest, file.copy);
+    }
+    for (auto file = m_placed.cbegin(); file != m_placed.cend(); ++file) {
+        const QString path = m_journal->pathOf(file.key());
+        if (FileJournal::digestOf(path) == *file && !keepCopy(path, *file)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+//! Gives contents a second name, unless they have one.
+bool FileTransaction::keepCopy(const QString &path, const QString &digest)
+{
+    if (digest.isEmpty() || m_copies.contains(digest)) {
+        return true;
+    }
+    const QString copy = u"new-"_s + newKey();
+    m_copies.insert(digest, copy);
+    return FileSync::link(path, m_journal->privatePath(copy));
+}
+
+bool FileTransaction::restore(const QString &name)
+{
+    const QString digest = m_placed.value(name);
+    const QString copy = m_journal->privatePath(m_copies.value(digest));
+    const QString path = m_journal->pathOf(name);
+    return !digest.isEmpty() && exists(copy) && !exists(path) && makeFolderFor(name)
+           && FileSync::link(copy, path);
 }
 
 //! Before a file is first changed, gives its contents a second name, which survives the change.
@@ -75,9 +113,10 @@ bool FileTransaction::keep(const QString &name)
     if (!exists(path)) {
         return m_journal->addOld(name, {});
     }
-    const QString copy = u"old-"_s + newKey();
-    return FileSync::link(path, m_journal->privatePath(copy)) && FileSync::sync(m_journal->privatePath())
-           && m_journal->addOld(name, {copy, FileJournal::digestOf(path)});
+    const FileJournal::OldFile old{u"old-"_s + newKey(), FileJournal::digestOf(path)};
+    m_copies.insert(old.digest, old.copy);
+    return FileSync::link(path, m_journal->privatePath(old.copy)) && FileSync::sync(m_journal->privatePath())
+           && m_journal->addOld(name, old);
 }
 
 bool FileTransaction::makeFolderFor(const QString &name)
@@ -130,15 +169,23 @@ QString FileTransaction::keepAside(const QByteArray &bytes, QString *error)
 QString FileTransaction::setAside(const QString &name)
 {
     const QString key = newKey();
-    return keep(name) && FileSync::move(m_journal->pathOf(name), m_journal->privatePath(key)) ? key
-                                                                                              : QString();
+    if (!keep(name) || !FileSync::move(m_journal->pathOf(name), m_journal->privatePath(key))) {
+        return {};
+    }
+    m_placed.remove(name);
+    return key;
 }
 
 bool FileTransaction::bringBack(const QString &key, const QString &name)
 {
     const QString path = m_journal->privatePath(key);
-    return exists(path) && keep(name) && m_journal->addNew(name, FileJournal::digestOf(path))
-           && FileSync::move(path, m_journal->pathOf(name));
+    const QString digest = FileJournal::digestOf(path);
+    if (!exists(path) || !keep(name) || !keepCopy(path, digest) || !m_journal->addNew(name, digest)
+        || !FileSync::move(path, m_journal->pathOf(name))) {
+        return false;
+    }
+    m_placed.insert(name, digest);
+    return true;
 }
 
 void FileTransaction::discard(const QString &key)

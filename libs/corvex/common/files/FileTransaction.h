@@ -3,6 +3,7 @@
 
 #include "corvex/common/Export.h"
 
+#include <QHash>
 #include <QString>
 #include <QVariantMap>
 
@@ -40,6 +41,9 @@ public:
     bool place(const QString &name, const QByteArray &bytes, QString *error = nullptr);
     //! Renames a file. The new name must not exist.
     bool move(const QString &from, const QString &to, QString *error = nullptr);
+    //! Brings back a file that this transaction put into place and that another program has deleted. Returns
+    //! false if its contents are lost, or if it is not such a file.
+    bool restore(const QString &name);
     //! Removes a file; with deferred removals only commit() removes it.
     bool remove(const QString &name);
     //! Renames the folder itself within its parent.
@@ -85,6 +89,8 @@ public:
 private:
     explicit FileTransaction(std::unique_ptr<FileJournal> journal);
     bool keep(const QString &name);
+    bool keepCopy(const QString &path, const QString &digest);
+    bool repair();
     bool makeFolderFor(const QString &name);
     bool givePermissions(const QString &file) const;
     bool syncFolders() const;
@@ -92,6 +98,8 @@ private:
 
     std::unique_ptr<FileJournal> m_journal; //!< null after the end
     QVariantMap m_removed;                  //!< deferred removals: digests by name
+    QHash<QString, QString> m_placed;       //!< digests of the files that it put into place, by name
+    QHash<QString, QString> m_copies; //!< copies of old and new contents in the hidden folder, by digest
     int m_lastKey = 0;
     bool m_defersRemovals = false;
 };

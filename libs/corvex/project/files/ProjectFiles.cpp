@@ -144,6 +144,7 @@ bool Project::saveFile()
 
 bool Project::writeAgain(QString *error)
 {
+    restoreDeletedImages();
     const auto clean = [this] {
         if (m_historyKeeper) {
             m_historyKeeper->aboutToSave();
@@ -155,6 +156,16 @@ bool Project::writeAgain(QString *error)
         return saveToFile(this, path, reason);
     };
     return m_folder.save(folderPath(), fileName(), clean, write, error);
+}
+
+//! The waiting changes still know the contents of image files that another program has deleted since.
+void Project::restoreDeletedImages()
+{
+    for (ImageResource *image : fileChanges() ? images() : QList<ImageResource *>()) {
+        if (fileChanges()->restore(u"%1/%2"_s.arg(ProjectResources::imagesFolder(), image->getIdName()))) {
+            image->updateFileFields();
+        }
+    }
 }
 
 bool Project::renameEntries(const QString &fileName, const QString &subPath, QString *error)

@@ -240,7 +240,10 @@ void PlaceFileStep::cleanJunkFiles()
 bool RenameFileStep::rename(const QString &from, const QString &to, QString &error)
 {
     if (!exists(pathOf(from)) && !exists(pathOf(to))) {
-        return true; // somebody has deleted the file; the image has none under either name
+        Common::FileTransaction *files = project()->fileChanges();
+        if (!files || !files->restore(inFolder(from))) {
+            return true; // another program has deleted the file; the image has none under either name
+        }
     }
     if (exists(pathOf(to)) && from.compare(to, Qt::CaseInsensitive) != 0) {
         error = LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(pathOf(to));
