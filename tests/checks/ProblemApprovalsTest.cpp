@@ -105,6 +105,23 @@ TEST_F(ProblemApprovalsTest, KeepWhatOthersWrote)
     ASSERT_TRUE(approvals->save());
     EXPECT_FALSE(approvals->isApproved(fading()));
     EXPECT_EQ(fileText().count('\n'), 2);
+    approvals->approve(fading()); // the file does not have it yet
+    writeFile(theirs);
+    ASSERT_TRUE(approvals->save());
+    EXPECT_TRUE(approvals->isApproved(fading()));
+
+    // Converted line ends, another order, and a key of another program.
+    writeFile("{\"ticket\":7, " + ours.sliced(1).replace("\n", "\r\n") + theirs);
+    approvals.emplace(*project);
+    approvals->approve(fading(), u"new reason"_s);
+    ASSERT_TRUE(approvals->save());
+    EXPECT_TRUE(fileText().contains("\"reason\":\"new reason\",\"ticket\":7}")) << fileText().toStdString();
+    writeFile("{\"ticket\":7, " + ours.sliced(1).replace("\n", "\r\n"));
+    approvals.emplace(*project);
+    writeFile(theirs);
+    ASSERT_TRUE(approvals->save());
+    EXPECT_FALSE(approvals->isApproved(fading()));
+    EXPECT_EQ(fileText(), theirs);
 }
 
 TEST_F(ProblemApprovalsTest, FollowNames)

@@ -38,6 +38,8 @@ struct Approval
     QString reason;
     bool isResolved = false; //!< the object was found in the project
     QPointer<DesignerObject> object = {};
+    QByteArray line = {};       //!< as in the file; empty for a new approval
+    QJsonObject otherKeys = {}; //!< of that line, which this program does not know
 
     bool isFor(const Problem &problem) const
     {
@@ -71,22 +73,39 @@ std::optional<Approval> read(const QByteArray &line)
 {
     const QJsonObject json = QJsonDocument::fromJson(line).object();
     const auto text = [&json](QLatin1StringView key) { return json.value(key).toString(); };
-    const Approval approval{text("code"_L1), text("object"_L1), text("property"_L1), text("message"_L1),
-                            text("reason"_L1)};
+    Approval approval{text("code"_L1), text("object"_L1), text("property"_L1), text("message"_L1),
+                      text("reason"_L1)};
+    approval.line = line;
+    approval.otherKeys = json;
+    for (const QString &key : {u"code"_s, u"object"_s, u"property"_s, u"message"_s, u"reason"_s}) {
+        approval.otherKeys.remove(key);
+    }
     return approval.code.isEmpty() || approval.path.isEmpty() ? std::nullopt : std::optional(approval);
 }
 
 QByteArray written(const Approval &approval)
 {
-    QJsonObject json{
-        {u"code"_s, approval.code}, {u"object"_s, approval.presentPath()}, {u"message"_s, approval.message}};
+    QJsonObject json = approval.otherKeys;
+    json.insert(u"code"_s, approval.code);
+    json.insert(u"object"_s, approval.presentPath());
+    json.insert(u"message"_s, approval.message);
     if (!approval.property.isEmpty()) {
         json.insert(u"property"_s, approval.property);
     }
     if (!approval.reason.isEmpty()) {
         json.insert(u"reason"_s, approval.reason);
     }
-    return QJsonDocument(json).toJson(QJsonDocument::Compact) + '\n';
+    return QJsonDocument(json).toJson(QJsonDocument::Compact);
+}
+
+//! Without the line ends, which some tools convert.
+QList<QByteArray> linesOf(const QByteArray &contents)
+{
+    QList<QByteArray> lines = contents.split('\n');
+    for (QByteArray &line : lines) {
+        line = line.trimmed();
+    }
+    return lines;
 }
 
 } // namespace
@@ -191,12 +210,9 @@ void ProblemApprovals::Follower::load()
     m_path = m_project->approvalsPath();
     m_isUnreadable = !readFile(m_known);
     int number = 0;
-    for (const QByteArray &line : m_known.split('\n')) {
+    for (const QByteArray &line : linesOf(m_known)) {
         ++number;
-        if (line.trimmed().isEmpty()) {
-            continue;
-        }
-        if (!addLine(line)) {
+        if (!line.isEmpty() && !addLine(line)) {
             m_isUnreadable = true;
             failAt(number);
             m_all.clear();
@@ -220,22 +236,23 @@ bool ProblemApprovals::Follower::addLine(const QByteArray &line)
 //! lines of a file that was never read, as after a recovery.
 bool ProblemApprovals::Follower::takeOver(const QByteArray &contents)
 {
-    const QList<QByteArray> theirs = contents.split('\n');
+    const QList<QByteArray> theirs = linesOf(contents);
     const QList<QByteArray> known =
-        m_path == m_project->approvalsPath() ? m_known.split('\n') : QList<QByteArray>();
+        m_path == m_project->approvalsPath() ? linesOf(m_known) : QList<QByteArray>();
     const QSet<QByteArray> inFile(theirs.begin(), theirs.end());
     const QSet<QByteArray> before(known.begin(), known.end());
     QSet<QByteArray> ours;
     for (const auto &[message, approval] : m_all) {
-        ours.insert(written(approval).chopped(1));
+        ours.insert(written(approval));
+        ours.insert(approval.line);
     }
     std::erase_if(m_all, [&](const auto &entry) {
-        const QByteArray line = written(entry.second).chopped(1);
-        return before.contains(line) && !inFile.contains(line);
+        const QByteArray &line = entry.second.line;
+        return !line.isEmpty() && before.contains(line) && !inFile.contains(line);
     });
     for (qsizetype i = 0; i < theirs.size(); ++i) {
         const QByteArray &line = theirs[i];
-        const bool isNew = !line.trimmed().isEmpty() && !before.contains(line) && !ours.contains(line);
+        const bool isNew = !line.isEmpty() && !before.contains(line) && !ours.contains(line);
         if (isNew && !addLine(line)) {
             return failAt(int(i) + 1);
         }
@@ -259,7 +276,7 @@ QByteArray ProblemApprovals::Follower::contents() const
     });
     QByteArray lines;
     for (const Approval &approval : std::as_const(present)) {
-        lines += written(approval);
+        lines += written(approval) + '\n';
     }
     return lines;
 }
@@ -277,6 +294,9 @@ bool ProblemApprovals::Follower::save()
     const QByteArray lines = contents();
     if (lines != m_known && !write(lines)) {
         return false;
+    }
+    for (auto &[message, approval] : m_all) {
+        approval.line = written(approval);
     }
     m_known = lines;
     m_path = m_project->approvalsPath();
@@ -299,10 +319,17 @@ bool ProblemApprovals::Follower::write(const QByteArray &bytes)
 
 void ProblemApprovals::Follower::add(const Problem &problem, const QString &reason)
 {
+    const Approval *old = find(problem);
+    Approval approval{QString::fromUtf8(problem.kind().word),
+                      problem.path(),
+                      problem.property,
+                      problem.message,
+                      reason,
+                      !problem.source.isNull(),
+                      problem.source};
+    approval.otherKeys = old ? old->otherKeys : QJsonObject();
     remove(problem);
-    m_all.emplace(problem.message,
-                  Approval{QString::fromUtf8(problem.kind().word), problem.path(), problem.property,
-                           problem.message, reason, !problem.source.isNull(), problem.source});
+    m_all.emplace(problem.message, approval);
 }
 
 bool ProblemApprovals::Follower::remove(const Problem &problem)
