@@ -151,8 +151,6 @@ bool FileObject::loadFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.isFile()) {
-        m_readNotes.clear();
-        resetFileFields();
         return finish(info.exists() ? message(u"\"%1\" is not a file."_s, path)
                                     : message(u"The file \"%1\" does not exist."_s, path));
     }

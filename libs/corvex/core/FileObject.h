@@ -31,8 +31,8 @@ public:
     //! Creates the file, and the object's own folder, in the existing folder \a path. Does not overwrite an
     //! existing file.
     virtual bool createFile(const QString &path);
-    //! Reads the file \a path into this object. After a failure the object is incomplete and has no file, so
-    //! that it cannot be saved over a good one.
+    //! Reads the file \a path into this object. If it is missing, nothing changes. After other failures the
+    //! object is incomplete and has no file, so that it cannot be saved over a good one.
     virtual bool loadFile(const QString &path);
     //! Reports the progress of reading, in bytes, and can cancel it, which counts as a failure. May be null.
     //! Not owned.
