@@ -61,6 +61,28 @@ protected:
     {
         return document->push(new AddVariable(make(u"StringVariable"_s, name), &document->project()));
     }
+    bool renameTo(const QString &name)
+    {
+        return document->push(new RenameProject(&document->project(), name));
+    }
+    bool autosave() const
+    {
+        QSignalSpy finished(&document->project().autosave(), &ProjectAutosave::finished);
+        return document->project().autosave().run() && (!finished.isEmpty() || finished.wait());
+    }
+    //! Opens the project as a crash at this moment would leave it.
+    void crash()
+    {
+        auto left = std::make_unique<QTemporaryDir>();
+        for (const QString &name : filesIn(path())) {
+            write(left->filePath(name), read(path(name)));
+        }
+        document.reset();
+        folder.swap(*left);
+        file = path(u"Pumps/Pumps.kdproj"_s);
+        openAgain();
+    }
+    QStringList archives() const { return QDir(path()).entryList({u"*.kdasv*"_s}, QDir::Files); }
     QString text() const { return DesignerObject::toString(&document->project()); }
     static Job::Outcome outcomeOf(Job &job)
     {
@@ -365,16 +387,104 @@ TEST_F(ProjectDocumentTest, AFileThatCannotBeReadAgainChangesNothing)
     EXPECT_EQ(text(), before);
 }
 
+TEST_F(ProjectDocumentTest, ReadingAgainTakesARenameBack)
+{
+    const QString saved = text();
+    ASSERT_TRUE(describe(u"unsaved"_s) && renameTo(u"Zulu"_s));
+    const QString renamed = document->project().fullFilePath();
+    const QString before = text();
+    const QByteArray good = read(renamed);
+    write(renamed, "broken");
+    EXPECT_FALSE(document->reload());
+    EXPECT_EQ(text(), before);
+    EXPECT_TRUE(document->undo() && document->redo() && document->isModified());
+    write(renamed, good);
+    ASSERT_TRUE(document->reload()) << qPrintable(document->errorString());
+    EXPECT_EQ(text(), saved);
+    EXPECT_EQ(document->project().fullFilePath(), file);
+    EXPECT_EQ(document->history().count(), 0);
+    EXPECT_TRUE(describe(u"goes on"_s) && document->save()) << qPrintable(document->errorString());
+    EXPECT_FALSE(QFile::exists(renamed));
+}
+
+TEST_F(ProjectDocumentTest, AnAutosaveBelongsToTheNameOnTheDisk)
+{
+    write(path(u"Pumps.kdproj.kdasv"_s), "older"); // not of this session
+    for (const bool renamesDuringRun : {false, true}) {
+        SCOPED_TRACE(renamesDuringRun);
+        ASSERT_TRUE(describe(u"unsaved"_s));
+        ASSERT_TRUE(addVariable(u"a"_s));
+        if (renamesDuringRun) {
+            ASSERT_TRUE(document->project().autosave().run() && renameTo(u"Zulu"_s));
+            QSignalSpy finished(&document->project().autosave(), &ProjectAutosave::finished);
+            ASSERT_TRUE(finished.wait());
+        } else {
+            ASSERT_TRUE(renameTo(u"Zulu"_s) && autosave());
+        }
+        const QString unsaved = text();
+        crash();
+        ASSERT_TRUE(document->hasRecovery());
+        EXPECT_EQ(document->project().fullFilePath(), file);
+        ASSERT_TRUE(document->recover()) << qPrintable(document->errorString());
+        EXPECT_EQ(text(), unsaved);
+        EXPECT_EQ(document->project().fullFilePath(), path(u"Zulu/Zulu.kdproj"_s));
+        ASSERT_TRUE(document->reload()) << qPrintable(document->errorString());
+        EXPECT_EQ(document->project().fullFilePath(), file);
+        EXPECT_EQ(archives(), QStringList()) << "its edits were discarded";
+    }
+
+    // What the user has not decided about follows a rename.
+    ASSERT_TRUE(describe(u"unsaved"_s) && autosave());
+    const QString unsaved = text();
+    crash();
+    ASSERT_TRUE(renameTo(u"Zulu"_s));
+    const QByteArray undecided = read(path(archives().value(0)));
+    write(path(u"Zulu.kdproj.kdasv"_s), "of a deleted project");
+    ASSERT_TRUE(document->save()) << qPrintable(document->errorString());
+    EXPECT_EQ(read(path(u"Zulu.kdproj.kdasv"_s)), undecided);
+    EXPECT_EQ(archives(), QStringList({u"Zulu.kdproj.kdasv"_s, u"Zulu.kdproj.kdasv1"_s}));
+    file = document->project().fullFilePath();
+    openAgain();
+    ASSERT_TRUE(document->hasRecovery() && renameTo(u"Yard"_s));
+    ASSERT_TRUE(document->recover()) << qPrintable(document->errorString());
+    EXPECT_EQ(level()->valueString(), u"unsaved"_s);
+    ASSERT_TRUE(document->save());
+    EXPECT_EQ(archives(), QStringList(u"Zulu.kdproj.kdasv1"_s));
+}
+
+TEST_F(ProjectDocumentTest, ARenameLeavesNoAutosave)
+{
+    for (const bool isSaved : {false, true}) {
+        ASSERT_TRUE(describe(u"unsaved"_s) && autosave());
+        ASSERT_TRUE(renameTo(u"Zulu"_s));
+        ASSERT_TRUE(!isSaved || document->save());
+        file = isSaved ? document->project().fullFilePath() : file;
+        openAgain();
+        EXPECT_FALSE(document->hasRecovery());
+        EXPECT_EQ(archives(), QStringList());
+    }
+}
+
 TEST_F(ProjectDocumentTest, ADocumentLeavesTheAutosaveOfAnother)
 {
     const auto other = ProjectDocument::load(file);
     ASSERT_EQ(outcomeOf(*other), Job::Outcome::Done);
     auto second = std::make_unique<ProjectDocument>(std::move(*other->takeResult()));
-    ASSERT_TRUE(describe(u"unsaved"_s));
-    QSignalSpy finished(&document->project().autosave(), &ProjectAutosave::finished);
-    ASSERT_TRUE(document->project().autosave().run() && finished.wait());
+    ASSERT_TRUE(describe(u"unsaved"_s) && autosave());
+    const QByteArray ours = read(path(archives().value(0)));
+    ASSERT_TRUE(second->project().addListPropertyItem(second->project().variables(),
+                                                      make(u"StringVariable"_s, u"theirs"_s)));
+    second->project().undoStack()->QUndoStack::push(new QUndoCommand);
+    ASSERT_TRUE(second->project().autosave().run());
     second.reset();
-    EXPECT_TRUE(QFile::exists(document->project().autosavePath()));
+    EXPECT_EQ(read(path(archives().value(0))), ours);
+    EXPECT_FALSE(document->project().autosave().run()) << "nothing was edited";
+
+    QFile::remove(path(archives().value(0)));
+    EXPECT_TRUE(autosave()) << "another document has replaced it with its own, and was closed";
+    write(path(archives().value(0)), "of another document");
+    document.reset();
+    EXPECT_EQ(archives().size(), 1);
 }
 
 TEST_F(ProjectDocumentTest, ItClosesWhileItsAutosaveRuns)
@@ -389,10 +499,6 @@ TEST_F(ProjectDocumentTest, ItClosesWhileItsAutosaveRuns)
 TEST_F(ProjectDocumentTest, RecoveryAfterACrashWaitsForAnAnswer)
 {
     const QString archive = document->project().autosavePath();
-    const auto autosave = [this] {
-        QSignalSpy finished(&document->project().autosave(), &ProjectAutosave::finished);
-        return document->project().autosave().run() && finished.wait();
-    };
     ASSERT_TRUE(describe(u"unsaved"_s));
     addImage(document->project(), u"a.png"_s);
     ASSERT_TRUE(autosave());
@@ -434,6 +540,26 @@ TEST_F(ProjectDocumentTest, RecoveryAfterACrashWaitsForAnAnswer)
     EXPECT_EQ(text(), before);
     EXPECT_TRUE(document->discardRecovery());
     EXPECT_FALSE(QFile::exists(archive));
+}
+
+TEST_F(ProjectDocumentTest, OfTwoAutosavesTheNewerCompleteOneIsOffered)
+{
+    const QString archive = document->project().autosavePath();
+    ASSERT_TRUE(describe(u"older"_s) && autosave());
+    const QByteArray older = read(archive);
+    ASSERT_TRUE(describe(u"newer"_s) && autosave());
+    const QByteArray newer = read(archive);
+    for (const bool isDamaged : {false, true}) {
+        document.reset();
+        write(archive, isDamaged ? newer.first(newer.size() / 2) : newer);
+        write(archive + u".tmp"_s, older);
+        openAgain();
+        ASSERT_TRUE(document->recover()) << qPrintable(document->errorString());
+        EXPECT_EQ(level()->valueString(), isDamaged ? u"older"_s : u"newer"_s);
+        EXPECT_FALSE(QFile::exists(archive + u".tmp"_s));
+        ASSERT_TRUE(document->reload());
+        EXPECT_EQ(archives().size(), isDamaged) << "the damaged one is kept";
+    }
 }
 
 TEST_F(ProjectDocumentTest, ProjectsAreLoadedInAnotherThread)

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/common/zip/ZipHelper.h"
+#include "corvex/editing/commands/variables/AddVariable.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/files/ProjectAutosave.h"
+#include "corvex/project/private/AutosaveRun.h"
 
 #include "ProjectFixture.h"
 
@@ -130,6 +132,36 @@ TEST_F(AutosaveTest, AnEditIsNoticedEvenIfTheIndexIsTheSame)
     edit();
     ASSERT_TRUE(finished.wait());
     EXPECT_EQ(run(), QString()) << "an edit after the project was written is for the next run";
+}
+
+TEST_F(AutosaveTest, TheTimerWaitsForTheEndOfAGesture)
+{
+    ProjectAutosave &autosave = project->autosave();
+    QSettings(u"Halvane"_s, u"Corvex Nova"_s).setValue("autoIntervalTime"_L1, 5);
+    project->startAutoSaveTimer();
+    QSettings(u"Halvane"_s, u"Corvex Nova"_s).clear();
+    QTimerEvent event(autosave.timerId());
+    ASSERT_TRUE(project->undoStack()->beginGesture(u"Drag"_s));
+    project->undoStack()->push(new AddVariable(make(u"StringVariable"_s, u"dragged"_s), project.get()));
+    QCoreApplication::sendEvent(&autosave, &event);
+    EXPECT_FALSE(autosave.isRunning());
+    QSignalSpy finished(&autosave, &ProjectAutosave::finished);
+    ASSERT_TRUE(project->undoStack()->commitGesture());
+    ASSERT_TRUE(finished.wait());
+    EXPECT_TRUE(QFile::exists(archive));
+}
+
+TEST_F(AutosaveTest, AnImageThatIsMovedMeanwhileIsNotLeftOut)
+{
+    Common::Progress progress;
+    QString error;
+    AutosaveRun run(*project, archive);
+    run.onRestart([] {});
+    while (run.write(progress, error) == Common::Job::Next::More) { }
+    ASSERT_TRUE(QFile::rename(path(u"Pumps/Images/a.png"_s), path(u"Pumps/Images/b.png"_s)));
+    EXPECT_FALSE(run.pack(progress, error));
+    EXPECT_TRUE(error.contains(u"a.png"_s)) << qPrintable(error);
+    EXPECT_FALSE(QFile::exists(archive));
 }
 
 TEST_F(AutosaveTest, AFailedRunRestoresTheOldFile)

@@ -6,7 +6,9 @@
 #include "corvex/common/zip/ZipHelper.h"
 #include "corvex/document/ProjectDocument.h"
 #include "corvex/project/Project.h"
+#include "corvex/project/files/FileNameRules.h"
 #include "corvex/project/files/ProjectAutosave.h"
+#include "corvex/values/records/IdentifierInfo.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,96 +20,174 @@ namespace Halvane::Corvex::Designer {
 
 using Common::LocalizationHelper;
 
+namespace {
+
+//! The path of the project file in an unpacked archive; empty if there is none.
+QString projectFileIn(const QString &folder)
+{
+    const QStringList files = QDir(folder).entryList({u"*.kdproj"_s}, QDir::Files);
+    return files.isEmpty() ? QString() : QDir(folder).filePath(files.constFirst());
+}
+
+bool read(const QString &path, QByteArray &bytes, QString &error)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly)) {
+        bytes = file.readAll();
+    }
+    error = file.error() == QFileDevice::NoError ? QString() : file.errorString();
+    return error.isEmpty();
+}
+
+//! Whether both files can be read and are equal.
+bool isSame(const QString &path, const QString &otherPath)
+{
+    QByteArray bytes;
+    QByteArray otherBytes;
+    QString error;
+    return read(path, bytes, error) && read(otherPath, otherBytes, error) && bytes == otherBytes;
+}
+
+//! The images that the project does not have, or has with other contents.
+QStringList newImages(const QDir &recovered, const QDir &present)
+{
+    QStringList names = recovered.entryList(QDir::Files);
+    names.removeIf(
+        [&](const QString &name) { return isSame(recovered.filePath(name), present.filePath(name)); });
+    return names;
+}
+
+//! The name in a project file; empty if it is not a project.
+QString projectNameIn(const QString &file)
+{
+    QString id;
+    QString version;
+    return Project::getFileIdAndVersion(file, &id, &version) ? IdentifierInfo(id).name() : QString();
+}
+
+//! The name of the recovered project, if it is not the one in the file \a saved and nothing else has it by
+//! now; otherwise empty.
+QString nameToTake(const QString &recovered, const QString &saved)
+{
+    const QString name = projectNameIn(recovered);
+    const QDir parent(QFileInfo(QFileInfo(saved).path()).path());
+    const bool isNew = name != projectNameIn(saved) && FileNameRules::projectNameError(name).isEmpty();
+    return isNew && !QFileInfo::exists(parent.filePath(name)) ? name : QString();
+}
+
+} // namespace
+
 QString ProjectDocument::recoveryNote() const
 {
     return m_project->recoveryNote();
 }
 
+bool ProjectDocument::hasRecovery() const
+{
+    return !m_project->autosave().foundArchive().isEmpty();
+}
+
 QDateTime ProjectDocument::recoveryTime() const
 {
-    return m_hasRecovery ? QFileInfo(m_project->autosavePath()).lastModified() : QDateTime();
+    return hasRecovery() ? QFileInfo(m_project->autosave().foundArchive()).lastModified() : QDateTime();
 }
 
 bool ProjectDocument::discardRecovery()
 {
-    if (!m_hasRecovery) {
+    QString error;
+    if (!hasRecovery()) {
         return result(false, LocalizationHelper::coreString(u"This project has no autosave file."_s));
     }
-    QFile archive(m_project->autosavePath());
-    if (!archive.remove() && archive.exists()) {
-        return result(false, archive.errorString());
-    }
-    setRecovery(false);
-    return result(true, {});
+    return result(m_project->autosave().discardArchive(&error), error);
 }
 
 bool ProjectDocument::recover()
 {
     QString error;
-    if (!m_hasRecovery) {
+    if (!hasRecovery()) {
         return result(false, LocalizationHelper::coreString(u"This project has no autosave file."_s));
     }
     if (!mayEdit(error)) {
         return result(false, error);
     }
+    const QString archive = m_project->autosave().foundArchive();
     const Common::TemporaryFolder folder(u"corvex-recovery"_s);
     if (!folder.isValid()) {
         return result(false, folder.errorString());
     }
-    if (!Common::ZipHelper::unzip(m_project->autosavePath(), folder.path(), &error)) {
+    if (!Common::ZipHelper::unzip(archive, folder.path(), &error)) {
         return result(false, error);
     }
+    const QString recovered = projectFileIn(folder.path());
+    if (recovered.isEmpty()) {
+        return result(false,
+                      LocalizationHelper::coreString(u"The autosave file \"%1\" contains no project."_s)
+                          .arg(QDir::toNativeSeparators(archive)));
+    }
+    if (!canLoad(recovered)) {
+        return false;
+    }
+    const QDir images(folder.filePath(QFileInfo(m_project->imagesPath()).fileName()));
+    // Without waiting changes, the files are as they were saved.
+    const bool changesFiles = m_project->fileChanges()
+                              || !newImages(images, m_project->imagesPath()).isEmpty()
+                              || !nameToTake(recovered, m_project->fullFilePath()).isEmpty();
+    if (changesFiles && !m_project->beginFileChanges(&error)) {
+        return result(false, error);
+    }
+    select({});
+    m_project->takeBackFiles();
     const QString path = m_project->fullFilePath();
     const QString parent = m_project->parentPath();
     const QString sub = m_project->subPath();
     const QString file = m_project->fileName();
-    if (!canLoad(folder.filePath(file))) {
-        return false;
-    }
-    select({});
-    if (!m_project->loadFile(folder.filePath(file))) {
-        error = m_project->fileError();
-        m_project->loadFile(path);
-        return result(false, error);
-    }
+    bool isLoaded = m_project->loadFile(recovered);
+    error = m_project->fileError();
     m_project->setFileFields(parent, sub, file);
-    if (!takeRecoveredImages(folder.path())) {
-        error = m_error;
-        m_project->loadFile(path);
+    isLoaded = isLoaded && takeRecoveredImages(images, error)
+               && takeRecoveredName(nameToTake(recovered, path), error);
+    if (!isLoaded) {
+        readFile(path);
         return result(false, error);
     }
-    m_project->setFileFields(parent, sub, file); // the images check their files again
+    m_project->setFileFields(parent, m_project->subPath(), m_project->fileName()); // images check their files
     m_history->setUnsaved();
     m_isComplete = m_isComplete && !losesParts();
-    setRecovery(false);
-    m_ownsAutosave = true;
+    m_project->autosave().adoptArchive();
     onHistoryChanged();
     return result(true, {});
 }
 
 //! Adds the images from the archive to the project's folder. The change can be undone until the next save.
-bool ProjectDocument::takeRecoveredImages(const QString &folder)
+bool ProjectDocument::takeRecoveredImages(const QDir &images, QString &error)
 {
-    const QDir images(QDir(folder).filePath(QFileInfo(m_project->imagesPath()).fileName()));
-    for (const QString &name : images.entryList(QDir::Files)) {
-        QFile recovered(images.filePath(name));
-        QFile present(QDir(m_project->imagesPath()).filePath(name));
-        QString error;
-        const QByteArray bytes = recovered.open(QIODevice::ReadOnly) ? recovered.readAll() : QByteArray();
-        if (recovered.error() != QFileDevice::NoError) {
-            return result(false, recovered.errorString());
-        }
-        if (present.open(QIODevice::ReadOnly) && present.readAll() == bytes) {
-            continue;
-        }
-        const QString inFolder = QDir(m_project->folderPath()).relativeFilePath(present.fileName());
+    const QDir present(m_project->imagesPath());
+    for (const QString &name : newImages(images, present)) {
+        QByteArray bytes;
+        const QString path = present.filePath(name);
+        const QString inFolder = QDir(m_project->folderPath()).relativeFilePath(path);
         Common::FileTransaction *files = m_project->beginFileChanges(&error);
-        if (!files || (present.exists() && files->setAside(inFolder).isEmpty())
+        if (!files || !read(images.filePath(name), bytes, error)
+            || (QFileInfo::exists(path) && files->setAside(inFolder).isEmpty())
             || !files->place(inFolder, bytes, &error)) {
-            return result(false, error);
+            return false;
         }
     }
     return true;
+}
+
+//! Renames folder and file, unless the name is empty. The change can be undone until the next save.
+bool ProjectDocument::takeRecoveredName(const QString &name, QString &error)
+{
+    if (name.isEmpty()) {
+        return true;
+    }
+    if (!m_project->beginFileChanges(&error)) {
+        return false;
+    }
+    const bool isRenamed = m_project->renameFile(QFileInfo(m_project->fileName()).completeBaseName(), name);
+    error = m_project->fileError();
+    return isRenamed;
 }
 
 } // namespace Halvane::Corvex::Designer

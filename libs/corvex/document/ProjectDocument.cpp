@@ -39,16 +39,15 @@ ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *pare
         }
     });
     connect(m_watch.get(), &FileWatch::changed, this, &ProjectDocument::changedByOthers);
-    connect(&m_project->autosave(), &ProjectAutosave::finished, this, [this](const QString &error) {
-        m_ownsAutosave = m_ownsAutosave || error.isEmpty();
+    connect(&m_project->autosave(), &ProjectAutosave::finished, this, [this] {
         if (!isModified()) {
-            removeAutosave(); // the project has been saved meanwhile
+            m_project->autosave().removeArchive(); // the project has been saved meanwhile
         }
     });
     m_watch->watch(m_project->fullFilePath());
     m_watch->accept();
     m_wasModified = isModified();
-    setRecovery(m_project->autosave().findArchive());
+    m_project->autosave().findArchive();
 }
 
 ProjectDocument::~ProjectDocument()
@@ -62,13 +61,8 @@ ProjectDocument::~ProjectDocument()
     m_history.reset();
     ProjectAutosave &autosave = m_project->autosave();
     autosave.disconnect(this);
-    const bool ownsAutosave = m_ownsAutosave || autosave.isRunning();
-    autosave.cancel();
-    const QString archive = m_project->autosavePath();
+    autosave.removeArchive();
     m_project.reset();
-    if (ownsAutosave) {
-        QFile::remove(archive);
-    }
 }
 
 //! Whether a save would lose something that was in the file.
@@ -210,8 +204,6 @@ bool ProjectDocument::save(Overwrite overwrite)
     m_isComplete = true;
     m_watch->watch(m_project->fullFilePath());
     m_watch->accept();
-    m_project->autosave().cancel(); // It would bring the file from before back if it failed.
-    removeAutosave();
     updateModified();
     return result(true, {});
 }
@@ -227,9 +219,17 @@ bool ProjectDocument::reload()
         return false;
     }
     select({});
+    return readFile(path);
+}
+
+bool ProjectDocument::readFile(const QString &path)
+{
     const bool isLoaded = m_project->loadFile(path);
-    m_isComplete = !losesParts();
-    m_watch->accept();
+    if (isLoaded) {
+        m_isComplete = !losesParts();
+        m_watch->watch(m_project->fullFilePath());
+        m_watch->accept();
+    }
     onHistoryChanged();
     return result(isLoaded, m_project->fileError());
 }
@@ -264,19 +264,6 @@ void ProjectDocument::select(const QList<DesignerObject *> &objects)
 void ProjectDocument::dropFromSelection()
 {
     select(selection());
-}
-
-void ProjectDocument::setRecovery(bool hasRecovery)
-{
-    m_hasRecovery = hasRecovery;
-    m_project->autosave().setPaused(hasRecovery);
-}
-
-void ProjectDocument::removeAutosave()
-{
-    if (std::exchange(m_ownsAutosave, false)) {
-        QFile::remove(m_project->autosavePath());
-    }
 }
 
 } // namespace Halvane::Corvex::Designer

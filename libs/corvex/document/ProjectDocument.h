@@ -6,6 +6,7 @@
 #include "corvex/document/ProjectHistory.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QPointer>
 #include <QStringList>
 
@@ -81,10 +82,12 @@ public:
     // The autosave file after a crash. It may be older than the project's file, for example because version
     // control wrote that. There is no autosave until the user has decided; a save does not count as a
     // decision.
-    bool hasRecovery() const { return m_hasRecovery; }
+    bool hasRecovery() const;
     //! The time of the autosave file, for the question to the user.
     QDateTime recoveryTime() const;
-    //! Loads the contents of the autosave file. The project is modified then; its own file is not changed.
+    //! Loads the contents of the autosave file. The project is modified then; its own file is not changed,
+    //! and images and an unsaved new name of the project wait for the next save. If these cannot be written,
+    //! the project is read from its own file again.
     bool recover();
     //! Deletes the autosave file.
     bool discardRecovery();
@@ -144,9 +147,10 @@ private:
     void onHistoryChanged();
     void updateModified();
     void dropFromSelection();
-    bool takeRecoveredImages(const QString &folder);
-    void setRecovery(bool hasRecovery);
-    void removeAutosave();
+    //! Discards all edits and their history.
+    bool readFile(const QString &path);
+    bool takeRecoveredImages(const QDir &images, QString &error);
+    bool takeRecoveredName(const QString &name, QString &error);
 
     class ImportRun;
     struct Reader
@@ -163,8 +167,6 @@ private:
     QString m_error;
     int m_runPause = UndoStack::runPause;
     bool m_isOwnEdit = false; //!< of a job that refuses all others
-    bool m_hasRecovery = false;
-    bool m_ownsAutosave = false; //!< the autosave file belongs to this document
     bool m_wasModified = false;
     bool m_isComplete = true; //!< a save loses nothing from the file
 };

@@ -62,7 +62,8 @@ public:
     //! system. Images are not moved; createFileCopy() copies them. This, loadFile() and saveFile() start a
     //! new undo history.
     bool createFile(const QString &path) override;
-    //! Reads D/P/P.kdproj into this project. Deletes the current contents first.
+    //! Reads D/P/P.kdproj into this project. Deletes the current contents first, and undoes the file changes
+    //! of commands; if these have renamed the project, its current path leads to the file as it was saved.
     bool loadFile(const QString &path) override;
     bool saveFile() override;
     //! Locks the project in the file \a path: prevents others from changing it, or also from reading it
@@ -71,7 +72,10 @@ public:
     bool lockFiles(const QString &path, Common::FolderLock::Kind kind, int milliseconds);
     //! Undoes the file changes of commands since the last save, and releases the lock. The destructor does
     //! the same.
-    void closeFiles() { m_folder.close(); }
+    void closeFiles();
+    //! Undoes the file changes of commands since the last save. Folder and file have their saved names then.
+    //! The history still has the commands, so load the project afterwards.
+    void takeBackFiles();
     //! What opening the project had to complete or undo after an interruption, as a sentence; usually empty.
     const QString &recoveryNote() const { return m_folder.recoveryNote(); }
     //! The transaction for file changes of commands. The next saveFile() commits all of them, and nobody else
@@ -92,7 +96,8 @@ public:
     QString imagesPath() const;
     //! D/P/Approvals.jsonl, the list of approved problems; empty for a project without a file.
     QString approvalsPath() const;
-    //! D/P.kdproj.kdasv, next to the project's folder; empty for a project without a file.
+    //! D/P.kdproj.kdasv, next to the project's folder; empty for a project without a file. Until a rename of
+    //! the project is saved, P is the old name, because the project has that name again after a crash.
     QString autosavePath() const;
     //! Reads the properties "id" and "version" from the file \a path without loading it. Returns false if it
     //! is not a project.
@@ -219,6 +224,9 @@ private:
     ModelObservers m_observers;
     RuntimeGenerator m_runtimeGenerator;
     ProjectFolder m_folder;
+    // The names that folder and file get when the waiting file changes are undone.
+    QString m_savedSubPath;
+    QString m_savedFileName;
     bool m_needsBuildVersion = false;
 };
 

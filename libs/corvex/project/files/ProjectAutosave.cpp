@@ -3,11 +3,14 @@
 
 #include "corvex/common/Job.h"
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/zip/ZipHelper.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/private/AutosaveRun.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QTimerEvent>
 
@@ -22,7 +25,30 @@ QString asideName(const QString &archive)
     return archive + ".tmp"_L1;
 }
 
+//! Keeps a file that is not of this project under a name that no program looks for.
+void moveOutOfTheWay(const QString &path)
+{
+    if (const QFileInfo file(path); file.exists()) {
+        QFile::rename(path, file.dir().filePath(Project::generateUniqueName(file.path(), file.fileName())));
+    }
+}
+
 } // namespace
+
+ProjectAutosave::Written::Written(const QString &archive)
+    : path(archive)
+{
+    if (const QFileInfo file(archive); file.exists()) {
+        time = file.lastModified();
+        size = file.size();
+    }
+}
+
+bool ProjectAutosave::Written::isAt(const QString &otherPath) const
+{
+    const Written other(otherPath);
+    return time.isValid() && other.time == time && other.size == size;
+}
 
 ProjectAutosave::ProjectAutosave(Project *project)
     : m_project(project)
@@ -52,8 +78,17 @@ void ProjectAutosave::start()
 
 void ProjectAutosave::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() == m_timerId) {
-        run();
+    if (event->timerId() == m_timerId && !run()) {
+        m_isDue = m_project->undoStack()->hasChangedInGesture();
+    }
+}
+
+void ProjectAutosave::countEdit()
+{
+    ++m_editCount;
+    if (std::exchange(m_isDue, false)) {
+        QMetaObject::invokeMethod(
+            this, [this] { run(); }, Qt::QueuedConnection);
     }
 }
 
@@ -70,12 +105,38 @@ bool ProjectAutosave::checkStackIsSame() const
 void ProjectAutosave::startOver()
 {
     m_saved = m_beingSaved = historyState();
+    m_isSavedInArchive = false;
+}
+
+void ProjectAutosave::projectSaved(const QString &oldArchive)
+{
+    removeArchive();
+    startOver();
+    const QString archive = m_project->autosavePath();
+    if (archive == oldArchive) {
+        return;
+    }
+    // The project has found its new name free, so archives with that name are of a deleted project.
+    for (const auto &[from, to] :
+         {std::pair(oldArchive, archive), std::pair(asideName(oldArchive), asideName(archive))}) {
+        moveOutOfTheWay(to);
+        QFile::rename(from, to);
+    }
+    if (!m_found.isEmpty() && QFile::exists(archive)) {
+        m_found = archive;
+    }
+}
+
+//! Another document of the same project may have replaced or deleted the archive.
+bool ProjectAutosave::needsRun() const
+{
+    return !checkStackIsSame() || (m_isSavedInArchive && !m_written.isAt(m_written.path));
 }
 
 bool ProjectAutosave::run()
 {
     const QString archive = m_project->autosavePath();
-    if (m_isRunning || m_isPaused || archive.isEmpty() || checkStackIsSame()) {
+    if (m_isRunning || !m_found.isEmpty() || archive.isEmpty() || !needsRun()) {
         return false;
     }
     m_isRunning = true;
@@ -90,14 +151,54 @@ bool ProjectAutosave::run()
     return true;
 }
 
-bool ProjectAutosave::findArchive()
+void ProjectAutosave::findArchive()
 {
     const QString archive = m_project->autosavePath();
-    const bool isLost = !m_isRunning && !archive.isEmpty() && !QFile::exists(archive);
-    if (isLost && QFile::exists(asideName(archive))) {
-        QFile::rename(asideName(archive), archive);
+    const QString aside = asideName(archive);
+    if (m_isRunning || archive.isEmpty()) {
+        return;
     }
-    return QFile::exists(archive);
+    // A program may have been killed before it could remove the older archive.
+    if (QFile::exists(aside)) {
+        if (!Common::ZipHelper::entryNames(archive).isEmpty()) {
+            QFile::remove(aside);
+        } else {
+            moveOutOfTheWay(archive);
+            QFile::rename(aside, archive);
+        }
+    }
+    m_found = QFile::exists(archive) ? archive : QString();
+}
+
+void ProjectAutosave::adoptArchive()
+{
+    m_written = Written(std::exchange(m_found, {}));
+    m_saved = historyState();
+    m_isSavedInArchive = true;
+}
+
+bool ProjectAutosave::discardArchive(QString *error)
+{
+    for (const QString &path : {asideName(m_found), m_found}) {
+        if (QFile file(path); !file.remove() && file.exists()) {
+            *error = Common::LocalizationHelper::coreString(u"The file \"%1\" cannot be deleted."_s)
+                         .arg(QDir::toNativeSeparators(path));
+            return false;
+        }
+    }
+    m_found.clear();
+    return true;
+}
+
+void ProjectAutosave::removeArchive()
+{
+    cancel();
+    for (const QString &path : {m_written.path, asideName(m_written.path)}) {
+        if (m_written.isAt(path)) {
+            QFile::remove(path);
+        }
+    }
+    m_written = Written();
 }
 
 //! After a crash the file that was set aside may be the only one; keep it then.
@@ -129,12 +230,19 @@ void ProjectAutosave::startJob()
         });
     m_job->addInThread(
         [work = m_work](Common::Progress &progress, QString &error) { return work->pack(progress, error); });
-    connect(m_job.get(), &Common::Job::finished, this, [this] {
-        const QString error = m_job->errorString();
-        m_job.reset();
-        conclude(error);
-    });
+    connect(m_job.get(), &Common::Job::finished, this, &ProjectAutosave::concludeJob);
     m_job->start();
+}
+
+void ProjectAutosave::concludeJob()
+{
+    const QString error = m_job->errorString();
+    m_job.reset();
+    if (!error.isEmpty() && historyState() != m_beingSaved) {
+        startJob(); // An edit may have moved the images while they were packed.
+    } else {
+        conclude(error);
+    }
 }
 
 void ProjectAutosave::cancel()
@@ -174,6 +282,8 @@ void ProjectAutosave::conclude(const QString &error)
     const QString aside = asideName(m_archive);
     if (error.isEmpty()) {
         m_saved = m_beingSaved;
+        m_written = Written(m_archive);
+        m_isSavedInArchive = true;
         QFile::remove(aside);
     } else if (!QFile::exists(m_archive)) {
         QFile::rename(aside, m_archive);

@@ -3,6 +3,7 @@
 
 #include "corvex/common/Export.h"
 
+#include <QDateTime>
 #include <QObject>
 
 #include <memory>
@@ -22,7 +23,10 @@ class Project;
     A run is a job: it writes the project into a temporary folder, in slices between events, and packs that
     folder in another thread. The user can continue to edit; the archive contains one state of the project.
     Meanwhile the previous autosave file has the name D/P.kdproj.kdasv.tmp. It is deleted when the new file is
-    complete and restored on failure.
+    complete and restored on failure. P is the name of the project as it was last saved.
+
+    Several documents and programs may have the same project open. Each one only deletes the archive that it
+    has written itself, and writes another one if its own was replaced or deleted.
 */
 class CORVEX_EXPORT ProjectAutosave : public QObject
 {
@@ -44,9 +48,16 @@ public:
     //! In milliseconds, 0 without a timer.
     int interval() const { return m_interval; }
 
-    //! Whether there is an autosave file. After a crash this may be the one that was set aside; it gets its
-    //! name back.
-    bool findArchive();
+    // The archive of an earlier session, after a crash. Nothing is autosaved until it was adopted or
+    // discarded.
+    //! Looks for it. It may be the one that was set aside, which gets its name back.
+    void findArchive();
+    //! Its path; empty if there is none.
+    const QString &foundArchive() const { return m_found; }
+    //! The project has the contents of the archive now, so it is handled as if written by this object.
+    void adoptArchive();
+    //! Deletes it.
+    bool discardArchive(QString *error);
 
     //! Called by the timer: starts a run, unless nothing has changed or a run is active. Returns whether a
     //! run has started. finished() reports the result, even if it could not be started.
@@ -56,13 +67,16 @@ public:
     const Common::Job *job() const { return m_job.get(); }
     //! Ends the current run, and restores the previous file before it returns.
     void cancel();
-    //! While paused nothing is saved, because the previous file is still needed.
-    void setPaused(bool isPaused) { m_isPaused = isPaused; }
+    //! Cancels an active run, and deletes the archive that this object has written.
+    void removeArchive();
     //! Whether the undo history is unchanged since the project was last autosaved, loaded or saved.
     bool checkStackIsSame() const;
     //! The project is equal to its file: no autosave is needed until the next edit.
     void startOver();
-    void countEdit() { ++m_editCount; }
+    //! The same after a save. Another session's archive follows if the project has a new name; \a oldArchive
+    //! is its path from before.
+    void projectSaved(const QString &oldArchive);
+    void countEdit();
 
 signals:
     //! For the status indicator.
@@ -80,7 +94,19 @@ private:
         quint64 editCount = 0;
         bool operator==(const HistoryState &other) const = default;
     };
+    //! Identifies the archive that this object has written. A run of another document may have set it aside.
+    struct Written
+    {
+        explicit Written(const QString &archive = {});
+        bool isAt(const QString &otherPath) const;
+
+        QString path;
+        QDateTime time;
+        qint64 size = 0;
+    };
     HistoryState historyState() const;
+    bool needsRun() const;
+    void concludeJob();
     QString moveAside();
     void startJob();
     void complete();
@@ -93,8 +119,11 @@ private:
     HistoryState m_saved;
     HistoryState m_beingSaved;
     bool m_isRunning = false;
-    bool m_isPaused = false;
-    QString m_archive;
+    bool m_isDue = false;            //!< when the current gesture ends
+    bool m_isSavedInArchive = false; //!< m_saved is not a state of the project's file
+    QString m_archive;               //!< of the last run
+    QString m_found;
+    Written m_written;
     std::shared_ptr<AutosaveRun> m_work; //!< of the job; null without a job
     std::unique_ptr<Common::Job> m_job;
 };

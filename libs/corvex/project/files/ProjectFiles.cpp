@@ -75,33 +75,64 @@ bool Project::createFile(const QString &path)
 bool Project::lockFiles(const QString &path, Common::FolderLock::Kind kind, int milliseconds)
 {
     QString error;
+    takeBackFiles();
     m_folder.lock(path, kind, milliseconds, &error);
     return finish(error);
 }
 
+void Project::closeFiles()
+{
+    takeBackFiles();
+    m_folder.close();
+}
+
+void Project::takeBackFiles()
+{
+    if (!fileChanges()) {
+        return;
+    }
+    m_folder.takeBack();
+    // If the folder could not get its old name back, the file is in the renamed folder.
+    for (const QString &sub : {m_savedSubPath, subPath()}) {
+        if (QFileInfo(createFullFilePath(parentPath(), sub, m_savedFileName)).isFile()) {
+            setFileFields(parentPath(), sub, m_savedFileName);
+            break;
+        }
+    }
+}
+
 Common::FileTransaction *Project::beginFileChanges(QString *error)
 {
+    if (!fileChanges()) {
+        m_savedSubPath = subPath();
+        m_savedFileName = fileName();
+    }
     return m_folder.begin(folderPath(), error);
 }
 
 bool Project::loadFile(const QString &path)
 {
     QString error;
-    m_folder.takeBack();
-    if (!m_folder.recover(path, &error)) {
+    const QFileInfo given(path);
+    const bool isOwn = path == fullFilePath() || (given.isFile() && given == QFileInfo(fullFilePath()));
+    takeBackFiles();
+    const QString file = isOwn ? fullFilePath() : path;
+    if (!m_folder.recover(file, &error)) {
         return finish(error);
     }
-    const bool isFile = QFileInfo(path).isFile();
-    if (isFile) {
-        m_observers.beginLoad();
-        Common::SafeFile::removeAbandoned(QFileInfo(path).absolutePath());
-        clearContents();
+    if (!QFileInfo(file).isFile()) {
+        return FileObject::loadFile(file);
     }
-    const bool done = FileObject::loadFile(path) && updateProjectProperties();
-    if (isFile) {
-        m_observers.endLoad();
-    }
+    m_autosave->cancel(); // It would write the project while it is incomplete.
+    m_observers.beginLoad();
+    Common::SafeFile::removeAbandoned(QFileInfo(file).absolutePath());
+    clearContents();
+    const bool done = FileObject::loadFile(file) && updateProjectProperties();
+    m_observers.endLoad();
     createUndoStack();
+    if (done) {
+        m_autosave->removeArchive();
+    }
     return done;
 }
 
@@ -127,6 +158,7 @@ void Project::clearContents()
 bool Project::saveFile()
 {
     const QString oldDesignerVersion = m_designerVersion->valueString();
+    const QString oldArchive = autosavePath();
     changePropertyValue(m_designerVersion, buildVersion());
     if (!FileObject::saveFile()) {
         changePropertyValue(m_designerVersion, oldDesignerVersion);
@@ -135,10 +167,10 @@ bool Project::saveFile()
     m_observers.call(&ModelObserver::projectSaved);
     if (m_historyKeeper) {
         setUndoStack(m_historyKeeper->historyAfterSave());
-        m_autosave->startOver();
     } else {
         createUndoStack();
     }
+    m_autosave->projectSaved(oldArchive);
     return true;
 }
 
@@ -212,6 +244,7 @@ bool Project::deleteFile()
     if (!FileObject::deleteFile()) {
         return false;
     }
+    m_autosave->removeArchive();
     QStringList left;
     for (const QString &file : std::as_const(files)) {
         if (QFileInfo(file).isFile() && !QFile::remove(file)) {
@@ -313,7 +346,8 @@ QString Project::approvalsPath() const
 
 QString Project::autosavePath() const
 {
-    return fullFilePath().isEmpty() ? QString() : u"%1/%2.kdasv"_s.arg(parentPath(), fileName());
+    const QString &savedName = fileChanges() ? m_savedFileName : fileName();
+    return fullFilePath().isEmpty() ? QString() : u"%1/%2.kdasv"_s.arg(parentPath(), savedName);
 }
 
 bool Project::getFileIdAndVersion(const QString &path, QString *id, QString *version)

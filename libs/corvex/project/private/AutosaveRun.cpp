@@ -7,6 +7,8 @@
 #include "corvex/core/ModelObserver.h"
 #include "corvex/project/Project.h"
 
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -70,7 +72,8 @@ bool AutosaveRun::restart(QString &error)
     m_hasChanged = false;
     ++m_restarts;
     m_restarted();
-    m_file = std::make_unique<QFile>(m_folder.filePath(m_project.fileName()));
+    // The user may rename the project while it is written.
+    m_file = std::make_unique<QFile>(m_folder.filePath(QFileInfo(m_archive).completeBaseName()));
     if (!m_file->open(QIODevice::WriteOnly | QIODevice::Truncate)) {
         error = LocalizationHelper::coreString(u"The file \"%1\" cannot be written: %2"_s)
                     .arg(m_file->fileName(), m_file->errorString());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
 #include "corvex/common/Job.h"
 #include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/core/xml/ObjectXmlWriter.h"
@@ -17,7 +18,7 @@ class Project;
 
 //! One autosave: writes the project into a temporary folder, in small pieces, and packs that folder. If the
 //! project changes between two pieces, the writing starts over.
-class AutosaveRun
+class CORVEX_EXPORT AutosaveRun
 {
     Q_DISABLE_COPY_MOVE(AutosaveRun)
 

@@ -33,12 +33,19 @@ ProjectResources::ProjectResources(const Project &project)
 {
     for (const DesignerObject *item : project.imageResources()->listItems()) {
         const auto *image = static_cast<const ImageResource *>(item);
-        m_files.append({image->filePath(), u"%1/%2"_s.arg(imagesFolder(), image->fileName())});
+        add(image->filePath(), u"%1/%2"_s.arg(imagesFolder(), image->fileName()));
     }
     if (const QString folder = project.folderPath(); !folder.isEmpty()) {
         for (const QString &name : otherFiles()) {
-            m_files.append({QDir(folder).filePath(name), name});
+            add(QDir(folder).filePath(name), name);
         }
+    }
+}
+
+void ProjectResources::add(const QString &path, const QString &name)
+{
+    if (QFileInfo(path).isFile()) {
+        m_files.append({path, name});
     }
 }
 
@@ -52,7 +59,7 @@ bool ProjectResources::copyTo(const QString &folder, QString *error, const Commo
         }
         const QString copy = target.filePath(file.name);
         // Two resources with the same name share one file.
-        if (!QFileInfo(file.path).isFile() || QFileInfo::exists(copy)) {
+        if (QFileInfo::exists(copy)) {
             continue;
         }
         QDir().mkdir(QFileInfo(copy).path());

@@ -17,11 +17,11 @@ class Project;
 class ProjectResources
 {
 public:
-    //! Records the files that the project currently uses. The project is not needed afterwards.
+    //! Records the existing files that the project currently uses. The project is not needed afterwards.
     explicit ProjectResources(const Project &project);
 
-    //! Copies the existing files to their places in \a folder. Stops with an error if \a progress, which may
-    //! be null, is cancelled.
+    //! Copies these files to their places in \a folder. Stops with an error if one of them has been moved or
+    //! deleted, or if \a progress, which may be null, is cancelled.
     bool copyTo(const QString &folder, QString *error, const Common::Progress *progress = nullptr) const;
 
     static QString imagesFolder();
@@ -30,6 +30,8 @@ public:
     static QStringList otherFiles();
 
 private:
+    void add(const QString &path, const QString &name);
+
     struct File
     {
         QString path;
