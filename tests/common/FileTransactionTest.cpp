@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/common/files/FileStamp.h"
+#include "corvex/common/files/FileStore.h"
 #include "corvex/common/files/FileSync.h"
 #include "corvex/common/files/FileTransaction.h"
 #include "corvex/common/files/FolderLock.h"
@@ -165,6 +166,19 @@ TEST_F(FileTransactionTest, ALinkStaysALink)
     EXPECT_TRUE(transaction->commit(u"Q.proj"_s));
     EXPECT_EQ(target(u"Q.proj"_s), u"../elsewhere/P.proj"_s);
     EXPECT_EQ(files().value(u"elsewhere/P.proj"_s), "saved");
+}
+
+TEST_F(FileTransactionTest, AStoreWithoutItsFolderMakesANewOne)
+{
+    FileStore store;
+    QString error;
+    const std::unique_ptr<StoredFile> first = store.keep(path(u"P/P.proj"_s), &error);
+    ASSERT_TRUE(QDir(QFileInfo(first->path()).path()).removeRecursively());
+    const std::unique_ptr<StoredFile> second = store.keep(path(u"P/P.proj"_s), &error);
+    QByteArray bytes;
+    EXPECT_TRUE(second && second->read(&bytes, &error)) << qPrintable(error);
+    EXPECT_EQ(bytes, "old");
+    EXPECT_FALSE(first->read(&bytes, &error));
 }
 
 TEST_F(FileTransactionTest, LaterChangesByTheUserAreKept)

@@ -6,6 +6,7 @@
 #include "corvex/common/files/TemporaryFolder.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -42,7 +43,8 @@ bool StoredFile::read(QByteArray *bytes, QString *error) const
 
 std::unique_ptr<StoredFile> FileStore::keep(const QString &path, QString *error)
 {
-    if (!m_folder) {
+    // Programs that tidy up may delete temporary folders.
+    if (!m_folder || !QFileInfo(m_folder->path()).isDir()) {
         auto folder = std::make_shared<TemporaryFolder>(u"corvex-kept"_s);
         if (!folder->isValid()) {
             *error = LocalizationHelper::coreString(u"The folder \"%1\" cannot be created: %2"_s)

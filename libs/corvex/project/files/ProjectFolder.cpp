@@ -179,7 +179,7 @@ bool ProjectFolder::commit(const QString &file, QString *error)
 
 bool ProjectFolder::keepChanges(const QString &file, QString *error)
 {
-    const bool isKept = !m_changes || commit(file, error);
+    const bool isKept = !m_changes || (m_changes->renew(error) && commit(file, error));
     m_changes.reset();
     unlockSaved();
     return isKept;
