@@ -139,6 +139,22 @@ TEST_F(ProjectDocumentTest, AGestureIsOneStepOrNone)
     EXPECT_EQ(modified.size(), 6);
 }
 
+TEST_F(ProjectDocumentTest, AReceiverOfAnUndoMayPush)
+{
+    ASSERT_TRUE(describe(u"first"_s));
+    bool isPushed = false;
+    QObject::connect(&document->project(), &Project::userModified, document.get(), [&] {
+        if (!std::exchange(isPushed, true)) {
+            EXPECT_TRUE(describe(u"instead"_s)); // deletes the command that was undone
+        }
+    });
+    document->undo();
+    EXPECT_TRUE(isPushed);
+    EXPECT_EQ(level()->valueString(), u"instead"_s);
+    EXPECT_TRUE(document->undo());
+    EXPECT_EQ(level()->valueString(), QString());
+}
+
 TEST_F(ProjectDocumentTest, ARunIsOneStepForWhateverEndsIt)
 {
     ProjectHistory &history = document->history();

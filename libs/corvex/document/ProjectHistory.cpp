@@ -284,7 +284,12 @@ void ProjectHistory::followStack()
     current().stack->setGate(m_gate);
     connect(stack, &UndoStack::indexChanged, this, &ProjectHistory::onIndexChanged);
     connect(stack, &UndoStack::aboutToPush, this, &ProjectHistory::dropLaterParts);
-    connect(stack, &UndoStack::moved, this, &ProjectHistory::moved);
+    connect(stack, &UndoStack::moved, this, [this, stack](const UndoCommand *command) {
+        // Another receiver may have pushed a command, which deletes this one.
+        if (stack->lastMoved() == command) {
+            emit moved(command);
+        }
+    });
 }
 
 //! At the saved state, switches to the history in which index 0 means saved.

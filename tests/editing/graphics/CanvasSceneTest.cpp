@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/Commands.h"
 #include "corvex/editing/commands/groups/GroupCommand.h"
 #include "corvex/editing/commands/groups/SplitGroup.h"
 #include "corvex/editing/commands/groups/UngroupCommand.h"
@@ -10,6 +11,7 @@
 #include "corvex/editing/commands/objects/MoveObject.h"
 #include "corvex/editing/commands/objects/RemoveObject.h"
 #include "corvex/editing/commands/objects/SwapItems.h"
+#include "corvex/editing/commands/screens/DeleteScreen.h"
 #include "corvex/editing/graphics/CanvasScene.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/elements/VisualElement.h"
@@ -430,6 +432,28 @@ TEST_F(CanvasSceneTest, TheHistorySelectsTheEditedElements)
             check(*pushed, done);
         }
     }
+}
+
+TEST_F(CanvasSceneTest, FollowsAScreenThatLeavesTheProjectAndReturns)
+{
+    show();
+    UndoStack &stack = *project->undoStack();
+    const auto follows = [&] {
+        DesignerObject *late = add(screen, "Rectangle", "late", {0, 0, 10, 10});
+        const bool isShown = late->graphicsItem() && box->graphicsItem();
+        delete screen->takeListPropertyItem(screen->elements(), late);
+        return isShown;
+    };
+    ASSERT_TRUE(stack.push(new DeleteScreen(screen)));
+    stack.undo();
+    EXPECT_TRUE(follows());
+    DesignerObject *second = make("Screen", "Second");
+    ASSERT_TRUE(project->addListPropertyItem(project->screens(), second));
+    PlannedCommand moved = Commands::moveOf({second}, project->screens(), 0);
+    ASSERT_TRUE(moved && stack.push(moved.command.release()));
+    moved = Commands::moveOf({screen}, project->screens(), 0);
+    ASSERT_TRUE(moved && stack.push(moved.command.release()));
+    EXPECT_TRUE(follows());
 }
 
 TEST_F(CanvasSceneTest, MembersOfRotatedGroupsFollowTheMouse)

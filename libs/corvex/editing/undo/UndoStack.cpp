@@ -355,6 +355,9 @@ void UndoStack::commandDeleted(const UndoCommand *command)
     if (m_lastPushed == command) {
         m_lastPushed = nullptr;
     }
+    if (m_lastMoved == command) {
+        m_lastMoved = nullptr;
+    }
 }
 
 void UndoStack::startOver()
@@ -450,8 +453,9 @@ void UndoStack::onIndexChanged(int index)
     while (last && !dynamic_cast<const UndoCommand *>(last)) {
         last = last->childCount() > 0 ? last->child(0) : nullptr;
     }
+    m_lastMoved = static_cast<const UndoCommand *>(last);
     if (last) {
-        emit moved(static_cast<const UndoCommand *>(last));
+        emit moved(m_lastMoved);
     }
 }
 

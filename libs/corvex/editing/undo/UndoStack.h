@@ -114,11 +114,14 @@ public slots:
     void redo();
     void setIndex(int index);
 
+    //! The command of the last moved(). While receivers of that signal push, that of the newest one.
+    const UndoCommand *lastMoved() const { return m_lastMoved; }
+
 signals:
     void activeItemChanged(Halvane::Corvex::Designer::DesignerObject *item);
     void savedChanged(bool saved);
     //! A command was done or undone; of several commands, the last one. Not emitted when a new history
-    //! begins.
+    //! begins. If an earlier receiver pushes, the command may be deleted already; see lastMoved().
     void moved(const Halvane::Corvex::Designer::UndoCommand *command);
     //! A command is about to be pushed, which discards the redo steps.
     void aboutToPush();
@@ -141,7 +144,8 @@ private:
 
     QList<QPointer<DesignerObject>> m_deletionCandidates;
     const UndoCommand *m_lastPushed = nullptr; //!< null once it is deleted
-    QUndoCommand *m_failedMacro = nullptr;     //!< while the index moves
+    const UndoCommand *m_lastMoved = nullptr;
+    QUndoCommand *m_failedMacro = nullptr; //!< while the index moves
     QString m_errorString;
     QPointer<DesignerObject> m_activeItem;
     int m_previousIndex = 0;

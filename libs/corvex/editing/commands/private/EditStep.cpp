@@ -28,7 +28,10 @@ bool take(const SharedProperty &list, HeldObject &object)
     if (!list->parentObject()->takeListPropertyItem(list, object.get())) {
         return false;
     }
-    object.get()->resetGraphicsItem();
+    // The view of the owner has removed the item. A screen is shown by itself, so it keeps its view.
+    if (list->parentObject()->graphicsItem()) {
+        object.get()->resetGraphicsItem();
+    }
     object.setOut(true);
     return true;
 }
