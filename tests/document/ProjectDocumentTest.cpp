@@ -324,6 +324,34 @@ TEST_F(ProjectDocumentTest, DeletedImageFilesComeBackWithTheNextSaveOrUndo)
     }
 }
 
+TEST_F(ProjectDocumentTest, ADeletedImageComesBackWithItsOwnFile)
+{
+    addImage(document->project(), u"a.png"_s);
+    ASSERT_TRUE(document->save());
+    const QString place = path(u"Pumps/Images/a.png"_s);
+    const QByteArray original = read(place);
+    QImage picture(3, 3, QImage::Format_RGB32);
+    picture.fill(Qt::blue);
+    const auto images = [this] { return document->project().imageResources()->listItems(); };
+    const auto deleteImage = [&] { return document->push(new DeleteImage(images().constFirst())); };
+    const auto addOther = [&] {
+        return document->push(new AddImageFromData(picture, &document->project()))
+               && document->push(new RenameImage(images().constFirst(), u"a.png"_s));
+    };
+    ASSERT_TRUE(deleteImage() && document->save());
+    ASSERT_TRUE(addOther() && deleteImage() && document->save()) << qPrintable(document->errorString());
+    EXPECT_FALSE(QFile::exists(place));
+    ASSERT_TRUE(document->history().goTo(0)) << qPrintable(document->errorString());
+    EXPECT_TRUE(read(place) == original);
+    ASSERT_TRUE(document->history().goTo(3)) << "the name is free for the other image";
+    EXPECT_FALSE(read(place) == original);
+    ASSERT_TRUE(document->history().goTo(1));
+    write(place, "of another program");
+    EXPECT_FALSE(document->undo());
+    EXPECT_TRUE(document->errorString().contains(u"exists already"_s)) << qPrintable(document->errorString());
+    EXPECT_EQ(read(place), "of another program");
+}
+
 TEST_F(ProjectDocumentTest, AnUndoThatCannotRenameFilesFails)
 {
     addImage(document->project(), u"a.png"_s);

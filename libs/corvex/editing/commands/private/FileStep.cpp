@@ -76,6 +76,17 @@ Common::FileTransaction *FileStep::changes(QString &error) const
     return m_project->beginFileChanges(&error);
 }
 
+QString FileStep::existsAlready() const
+{
+    return LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(path());
+}
+
+QString FileStep::cannotBeRemoved() const
+{
+    return LocalizationHelper::coreString(u"The file \"%1\" cannot be removed: %2"_s)
+        .arg(path(), Common::FileSync::reason());
+}
+
 QString FileStep::inFolder(const QString &name) const
 {
     return pathOf(name).sliced(m_project->folderPath().size() + 1);
@@ -150,7 +161,7 @@ bool PlaceFileStep::place(Common::FileTransaction &files, QString &error)
     if (exists(path())) {
         const bool isSame = hasContents(path(), bytes);
         if (!isSame) {
-            error = LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(path());
+            error = existsAlready();
         }
         return isSame;
     }
@@ -177,37 +188,89 @@ bool PlaceFileStep::keepFiles(Common::FileStore &store, QString &error)
     return m_stored || isLost;
 }
 
-bool LeaveFileStep::redo(QString &)
+bool LeaveFileStep::redo(QString &error)
 {
+    if (m_isSaved && exists(path())) {
+        Common::FileTransaction *files = changes(error);
+        m_key = files ? files->setAside(inFolder(name())) : QString();
+        if (m_key.isEmpty()) {
+            error = error.isEmpty() ? cannotBeRemoved() : error;
+            return false;
+        }
+    }
     m_isDone = true;
     return true;
 }
 
 bool LeaveFileStep::undo(QString &error)
 {
-    if (m_stored && !exists(path())) {
-        QByteArray bytes;
-        Common::FileTransaction *files = m_stored->read(&bytes, &error) ? changes(error) : nullptr;
+    if (isAside(m_key)) {
+        Common::FileTransaction *files = exists(path()) ? nullptr : changes(error);
+        if (!files || !files->bringBack(m_key, inFolder(name()))) {
+            error = error.isEmpty() ? existsAlready() : error;
+            return false;
+        }
+    } else if (m_stored && !placeStored(error)) {
+        return false;
+    }
+    m_key.clear();
+    m_isDone = false;
+    lookAgain(name());
+    return true;
+}
+
+//! Another program may have restored the file.
+bool LeaveFileStep::placeStored(QString &error)
+{
+    QByteArray bytes;
+    if (!m_stored->read(&bytes, &error)) {
+        return false;
+    }
+    if (exists(path()) && !hasContents(path(), bytes)) {
+        error = existsAlready();
+        return false;
+    }
+    if (!exists(path())) {
+        Common::FileTransaction *files = changes(error);
         if (!files || !files->place(inFolder(name()), bytes, &error)) {
             return false;
         }
-        m_stored.reset();
-        lookAgain(name());
     }
-    m_isDone = false;
+    m_stored.reset();
     return true;
 }
 
 bool LeaveFileStep::keepFiles(Common::FileStore &store, QString &error)
 {
-    if (!m_isDone || isUsed(name()) || !exists(path())) {
+    if (!m_isDone) {
         return true;
     }
-    m_stored = store.keep(path(), &error);
-    if (m_stored) {
+    if (isAside(m_key)) {
+        m_stored = FileStep::store(m_key, store, error);
+        m_key = m_stored ? QString() : m_key;
+        return m_stored != nullptr;
+    }
+    if (m_isSaved || isUsed(name())) {
+        return true;
+    }
+    if (exists(path())) {
+        m_stored = store.keep(path(), &error);
+        if (!m_stored) {
+            return false;
+        }
         removeUnused(name());
     }
-    return m_stored != nullptr;
+    m_isSaved = true;
+    return true;
+}
+
+void LeaveFileStep::cleanJunkFiles()
+{
+    if (!m_key.isEmpty()) {
+        discard(m_key);
+    } else if (!m_isSaved || !m_isDone) {
+        removeUnused(name());
+    }
 }
 
 bool PlaceFileStep::undo(QString &error)
@@ -216,10 +279,7 @@ bool PlaceFileStep::undo(QString &error)
         Common::FileTransaction *files = changes(error);
         m_key = files ? files->setAside(inFolder(name())) : QString();
         if (m_key.isEmpty()) {
-            error = error.isEmpty()
-                        ? LocalizationHelper::coreString(u"The file \"%1\" cannot be removed: %2"_s)
-                              .arg(path(), Common::FileSync::reason())
-                        : error;
+            error = error.isEmpty() ? cannotBeRemoved() : error;
             return false;
         }
     }

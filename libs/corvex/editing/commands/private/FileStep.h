@@ -41,6 +41,9 @@ protected:
     bool isAside(const QString &key) const;
     //! Deletes a file that was set aside.
     void discard(const QString &key) const;
+    //! Errors for the user about the file of the step.
+    QString existsAlready() const;
+    QString cannotBeRemoved() const;
     //! Makes the image with that name check its file again.
     void lookAgain(const QString &name) const;
 
@@ -83,7 +86,8 @@ private:
     bool m_isDone = false;
 };
 
-//! Keeps the file of a deleted image until the project is saved without it.
+//! Keeps the file of a deleted image until the project is saved without it. After that save the name is free
+//! for other steps, also after an undo and a redo.
 class LeaveFileStep : public FileStep
 {
 public:
@@ -91,12 +95,16 @@ public:
 
     bool redo(QString &error) override;
     bool undo(QString &error) override;
-    void cleanJunkFiles() override { removeUnused(name()); }
+    void cleanJunkFiles() override;
     bool keepFiles(Common::FileStore &store, QString &error) override;
 
 private:
+    bool placeStored(QString &error);
+
     Stored m_stored; //!< the file, after a save deleted it
+    QString m_key;   //!< of the file that a later redo has set aside
     bool m_isDone = false;
+    bool m_isSaved = false; //!< a save has deleted the file, so a file with its name belongs to other steps
 };
 
 //! Renames a file via a third name, so that names may differ only in case.
