@@ -72,16 +72,19 @@ std::unique_ptr<QQmlEngine> makeEngine()
 {
     static std::mutex mutex;
     const std::lock_guard lock(mutex);
-    return std::make_unique<QQmlEngine>();
+    auto engine = std::make_unique<QQmlEngine>();
+    engine->setOutputWarningsToStandardError(false);
+    return engine;
 }
+
+//! An engine keeps 2 KB of each document until its thread returns to an event loop, which it may not have.
+constexpr int documentsOfEngine = 1000;
 
 } // namespace
 
 ExpressionSyntax::ExpressionSyntax()
     : m_engine(makeEngine())
-{
-    m_engine->setOutputWarningsToStandardError(false);
-}
+{ }
 
 ExpressionSyntax::~ExpressionSyntax() = default;
 
@@ -103,6 +106,9 @@ ExpressionSyntax::Result ExpressionSyntax::checkDocument(const QString &qml)
     // first.
     if (const Result nesting = checkNestingOfLines(qml); !nesting.valid) {
         return nesting;
+    }
+    if (++m_documentCount % documentsOfEngine == 0) {
+        m_engine = makeEngine();
     }
     static const QRegularExpression imports(u"^import [^\n]*"_s, QRegularExpression::MultilineOption);
     QQmlComponent component(m_engine.get());

@@ -42,6 +42,7 @@ private:
     bool isOfUnknownType(const QString &error);
 
     std::unique_ptr<QQmlEngine> m_engine;
+    int m_documentCount = 0;
     QString m_unknownType; //!< the end of the engine's error about an unknown type, after the name of the
                            //!< type
 };
