@@ -147,6 +147,40 @@ TEST_F(FileTransactionTest, ARenamedFolderGetsItsOldName)
               (QStringList{u"Mine/Images/pump.png"_s, u"Mine/Images/tank.png"_s, u"Mine/P.proj"_s}));
 }
 
+TEST_F(FileTransactionTest, AnUndoThatFailsHalfwayLeavesAllChanges)
+{
+    const QMap<QString, QByteArray> before = files();
+    const auto visible = [this] {
+        QMap<QString, QByteArray> found = files();
+        found.removeIf([](const auto &file) { return file.key().contains(u".corvex-edit"_s); });
+        return found;
+    };
+    for (const bool isCommitted : {false, true}) {
+        auto changes = FileTransaction::begin(path(u"P"_s));
+        replacePump(*changes);
+        EXPECT_TRUE(changes->move(u"Images/tank.png"_s, motor) && changes->place(u"More/x"_s, "x")
+                    && changes->move(u"P.proj"_s, u"Q.proj"_s) && changes->renameFolder(u"Q"_s));
+        write(u"P/other"_s, "takes the old name");
+        const QMap<QString, QByteArray> changed = visible();
+        changes->undo();
+        EXPECT_FALSE(changes->isOver());
+        EXPECT_EQ(visible(), changed);
+        EXPECT_TRUE(QDir(path(u"P"_s)).removeRecursively() && changes->renew());
+        if (isCommitted) {
+            write(changes->draftPath().sliced(m_top.path().size() + 1), "saved");
+            EXPECT_TRUE(changes->commit(u"Q.proj"_s));
+            EXPECT_EQ(files(), (QMap<QString, QByteArray>{{u"Q/Q.proj"_s, "saved"},
+                                                          {u"Q/More/x"_s, "x"},
+                                                          {u"Q/"_s + pump, "new"},
+                                                          {u"Q/"_s + motor, "tank"}}));
+        } else {
+            changes->undo();
+            EXPECT_TRUE(changes->isOver());
+            EXPECT_EQ(files(), before);
+        }
+    }
+}
+
 TEST_F(FileTransactionTest, ALinkStaysALink)
 {
     const auto target = [this](const QString &name) { return FileSync::linkTarget(path(u"P/"_s + name)); };

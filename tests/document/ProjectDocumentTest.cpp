@@ -451,6 +451,40 @@ TEST_F(ProjectDocumentTest, ReadingAgainTakesARenameBack)
     EXPECT_FALSE(QFile::exists(renamed));
 }
 
+TEST_F(ProjectDocumentTest, ASaveAfterAFailedReloadLasts)
+{
+    addImage(document->project(), u"a.png"_s);
+    ASSERT_TRUE(document->save());
+    DesignerObject *image = document->project().imageResources()->getListItem(u"a.png"_s);
+    ASSERT_TRUE(document->push(new RenameImage(image, u"b.png"_s)) && renameTo(u"Zulu"_s));
+    write(path(u"Pumps/Pumps.kdproj"_s), "another project has the old name");
+    const QString renamed = document->project().fullFilePath();
+    EXPECT_FALSE(document->reload());
+    EXPECT_TRUE(document->errorString().contains(u"are kept"_s)) << qPrintable(document->errorString());
+    EXPECT_EQ(document->project().fullFilePath(), renamed);
+    ASSERT_TRUE(describe(u"later"_s) && document->save()) << qPrintable(document->errorString());
+    EXPECT_EQ(read(path(u"Pumps/Pumps.kdproj"_s)), "another project has the old name");
+
+    const QString saved = text();
+    file = renamed;
+    EXPECT_TRUE(QDir(path(u"Pumps"_s)).removeRecursively());
+    openAgain();
+    EXPECT_EQ(text(), saved);
+    EXPECT_EQ(document->recoveryNote(), QString());
+    EXPECT_TRUE(document->project().imageResources()->listItems().constFirst()->isValid());
+}
+
+TEST_F(ProjectDocumentTest, ASaveFirstEndsAnInterruptedOne)
+{
+    write(path(u"Pumps/.corvex-edit/draft"_s), "of a program that was killed");
+    write(path(u"Pumps/.corvex-edit/journal"_s),
+          "{\"folder\":\"Pumps\"}\n{\"file\":\"Pumps.kdproj\",\"removed\":{}}\n");
+    ASSERT_TRUE(describe(u"ours"_s) && document->save()) << qPrintable(document->errorString());
+    const QString saved = text();
+    openAgain();
+    EXPECT_EQ(text(), saved);
+}
+
 TEST_F(ProjectDocumentTest, AnAutosaveBelongsToTheNameOnTheDisk)
 {
     write(path(u"Pumps.kdproj.kdasv"_s), "older"); // not of this session

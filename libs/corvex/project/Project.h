@@ -74,7 +74,8 @@ public:
     //! the same.
     void closeFiles();
     //! Undoes the file changes of commands since the last save. Folder and file have their saved names then.
-    //! The history still has the commands, so load the project afterwards.
+    //! The history still has the commands, so load the project afterwards. If the changes cannot be undone,
+    //! they all remain and wait for a save.
     void takeBackFiles();
     //! What opening the project had to complete or undo after an interruption, as a sentence; usually empty.
     const QString &recoveryNote() const { return m_folder.recoveryNote(); }

@@ -46,7 +46,10 @@ FileTransaction::FileTransaction(std::unique_ptr<FileJournal> journal)
 
 FileTransaction::~FileTransaction()
 {
-    undo();
+    if (m_journal) {
+        // If this fails, the journal remains and the next opening tries again.
+        FileRecovery(*m_journal).undo();
+    }
 }
 
 std::unique_ptr<FileTransaction> FileTransaction::begin(const QString &folder, QString *error)
@@ -61,7 +64,7 @@ std::unique_ptr<FileTransaction> FileTransaction::begin(const QString &folder, Q
 
 bool FileTransaction::renew(QString *error)
 {
-    return m_journal->isThere() || repair()
+    return ((m_journal->isThere() || repair()) && FileRecovery(*m_journal).redo())
            || fail(error, u"Nothing can be written to the folder \"%1\": %2"_s, m_journal->folder());
 }
 
@@ -90,8 +93,11 @@ bool FileTransaction::keepCopy(const QString &path, const QString &digest)
         return true;
     }
     const QString copy = u"new-"_s + newKey();
+    if (!FileSync::link(path, m_journal->privatePath(copy))) {
+        return false;
+    }
     m_copies.insert(digest, copy);
-    return FileSync::link(path, m_journal->privatePath(copy));
+    return true;
 }
 
 bool FileTransaction::restore(const QString &name)
@@ -288,10 +294,41 @@ bool FileTransaction::commit(const QString &file, QString *error)
 
 void FileTransaction::undo()
 {
-    if (const std::unique_ptr<FileJournal> journal = std::move(m_journal)) {
-        // If this fails, the journal remains and the next opening tries again.
-        FileRecovery(*journal).undo();
+    if (!m_journal || (QFileInfo(m_journal->folder()).isDir() && !keepPresent())) {
+        return;
     }
+    const QString folder = m_journal->folder();
+    FileRecovery recovery(*m_journal);
+    // Once the folder is renamed back or the journal is gone, only the hidden folder can be left.
+    if (recovery.undo() || m_journal->folder() != folder || !m_journal->isThere()) {
+        m_journal.reset();
+    } else {
+        recovery.redo(); // if this fails, renew() tries again
+    }
+}
+
+//! Prepares an undo that fails halfway: notes the present contents of the changed files.
+bool FileTransaction::keepPresent()
+{
+    if (!m_journal->isThere() && !repair()) {
+        return false;
+    }
+    if (!m_journal->presentFiles().isEmpty()) {
+        return true; // an undo has failed halfway already
+    }
+    QHash<QString, FileJournal::OldFile> present;
+    for (auto name = m_journal->oldFiles().keyBegin(); name != m_journal->oldFiles().keyEnd(); ++name) {
+        const QString path = m_journal->pathOf(*name);
+        const QString digest = FileJournal::digestOf(path);
+        if (!keepCopy(path, digest)) {
+            return false;
+        }
+        if (!digest.isEmpty() || !exists(path)) {
+            present.insert(*name, {m_copies.value(digest), digest});
+        }
+    }
+    m_journal->setPresentFiles(present);
+    return true;
 }
 
 bool FileTransaction::isOpen(const QString &folder)

@@ -29,7 +29,7 @@ class CORVEX_COMMON_EXPORT FileTransaction
 public:
     //! Begins a transaction in \a folder; null, with a reason for the user, if the folder is not writable.
     static std::unique_ptr<FileTransaction> begin(const QString &folder, QString *error = nullptr);
-    //! Undoes all changes unless they were committed.
+    //! Undoes all changes unless they were committed. What cannot be undone now, recover() undoes later.
     ~FileTransaction();
     Q_DISABLE_COPY_MOVE(FileTransaction)
 
@@ -69,7 +69,8 @@ public:
     bool commit(const QString &file, QString *error = nullptr);
     //! Whether it was committed or undone.
     bool isOver() const { return !m_journal; }
-    //! Never removes a new file while old contents are lost. The next recover() reports which.
+    //! If not everything can be undone, all changes stay in place and can be continued; isOver() tells. Never
+    //! removes a new file while old contents are lost. The next recover() reports which.
     void undo();
 
     enum class Recovery {
@@ -91,6 +92,7 @@ private:
     bool keep(const QString &name);
     bool keepCopy(const QString &path, const QString &digest);
     bool repair();
+    bool keepPresent();
     bool makeFolderFor(const QString &name);
     bool givePermissions(const QString &file) const;
     bool syncFolders() const;

@@ -91,13 +91,10 @@ void Project::takeBackFiles()
     if (!fileChanges()) {
         return;
     }
-    m_folder.takeBack();
-    // If the folder could not get its old name back, the file is in the renamed folder.
-    for (const QString &sub : {m_savedSubPath, subPath()}) {
-        if (QFileInfo(createFullFilePath(parentPath(), sub, m_savedFileName)).isFile()) {
-            setFileFields(parentPath(), sub, m_savedFileName);
-            break;
-        }
+    const QString saved = QFileInfo(createFullFilePath(parentPath(), m_savedSubPath, m_savedFileName)).path();
+    const QString own = m_folder.takeBack({saved, folderPath()});
+    if (!fileChanges() && !own.isEmpty() && QFileInfo(QDir(own).filePath(m_savedFileName)).isFile()) {
+        setFileFields(parentPath(), own == saved ? m_savedSubPath : subPath(), m_savedFileName);
     }
 }
 
@@ -220,10 +217,11 @@ bool Project::renameEntries(const QString &fileName, const QString &subPath, QSt
         }
         return isRenamed;
     }
-    if (!isRenamed) {
+    const bool isKept = isRenamed && m_folder.keepChanges(fileName, error);
+    if (!isKept) {
         m_folder.takeBack();
     }
-    return isRenamed && m_folder.keepChanges(fileName, error);
+    return isKept;
 }
 
 bool Project::deleteFile()

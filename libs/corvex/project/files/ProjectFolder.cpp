@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -31,6 +33,16 @@ bool failToLock(QString *error, const QString &folder)
                 folder);
 }
 
+bool failToTakeBack(QString *error)
+{
+    const QString text =
+        u"The unsaved file changes of the project cannot be undone, because its files cannot be written or "
+        "another folder has its old name. The changes are kept. Make the files writable, free the name and "
+        "try again, or save the project."_s;
+    *error = LocalizationHelper::coreString(text);
+    return false;
+}
+
 //! The folder of the file. An interrupted edit may have left it under another name.
 QString folderOf(const QString &path)
 {
@@ -43,6 +55,9 @@ QString folderOf(const QString &path)
 
 bool ProjectFolder::lock(const QString &path, Kind kind, int milliseconds, QString *error)
 {
+    if (m_changes) {
+        return failToTakeBack(error);
+    }
     close();
     const QString folder = folderOf(path);
     if (!QFileInfo(folder).isDir()) {
@@ -68,6 +83,9 @@ bool ProjectFolder::lock(const QString &path, Kind kind, int milliseconds, QStri
 
 bool ProjectFolder::recover(const QString &path, QString *error)
 {
+    if (m_changes) {
+        return failToTakeBack(error);
+    }
     const QString folder = folderOf(path);
     if (m_lock.kind() != Kind::None || !FileTransaction::isOpen(folder)) {
         return true;
@@ -157,7 +175,9 @@ bool ProjectFolder::prepare(const QString &folder, int milliseconds, QString *er
     if (!isLocked && !m_lock.take(folder, Kind::Exclusive, milliseconds)) {
         return failToLock(error, folder);
     }
-    return !m_changes || m_changes->renew(error);
+    // A journal of somebody else would later replace what is written now.
+    return m_changes ? m_changes->renew(error)
+                     : !FileTransaction::isOpen(folder) || endInterrupted(folder, error);
 }
 
 //! Do not keep others out between two saves.
@@ -180,15 +200,23 @@ bool ProjectFolder::commit(const QString &file, QString *error)
 bool ProjectFolder::keepChanges(const QString &file, QString *error)
 {
     const bool isKept = !m_changes || (m_changes->renew(error) && commit(file, error));
-    m_changes.reset();
     unlockSaved();
     return isKept;
 }
 
-void ProjectFolder::takeBack()
+QString ProjectFolder::takeBack(const QStringList &folders)
 {
-    m_changes.reset();
+    if (m_changes) {
+        m_changes->undo();
+        if (m_changes->isOver()) {
+            m_changes.reset();
+        }
+    }
+    // Another program may have given one of the names to another project.
+    const auto own =
+        std::ranges::find_if(folders, [this](const QString &folder) { return m_lock.isOn(folder); });
     unlockSaved();
+    return own == folders.end() ? QString() : *own;
 }
 
 void ProjectFolder::close()

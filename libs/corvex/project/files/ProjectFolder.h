@@ -25,10 +25,11 @@ public:
     Q_DISABLE_COPY_MOVE(ProjectFolder)
 
     //! Locks the folder of the file \a path until close(), and completes or undoes an interrupted transaction
-    //! there. Returns false, with an error, if others hold the lock for longer than \a milliseconds.
+    //! there. Returns false, with an error, if others hold the lock for longer than \a milliseconds, or if
+    //! there are waiting changes.
     bool lock(const QString &path, Kind kind, int milliseconds, QString *error);
     //! Completes or undoes an interrupted transaction in the folder of the file \a path, unless somebody is
-    //! using it. Returns false, with an error, if that is impossible.
+    //! using it. Returns false, with an error, if that is impossible, or if there are waiting changes.
     bool recover(const QString &path, QString *error);
     //! What lock() or recover() has completed or undone, as a sentence; empty if nothing.
     const QString &recoveryNote() const { return m_note; }
@@ -44,17 +45,19 @@ public:
     //! files that only an undo needs.
     bool save(const QString &folder, const QString &file, const std::function<void()> &clean,
               const Write &write, QString *error);
-    //! Commits the waiting changes without a save of \a file.
+    //! Commits the waiting changes without a save of \a file. On failure they still wait.
     bool keepChanges(const QString &file, QString *error);
-    //! Undoes the waiting changes but keeps the lock.
-    void takeBack();
+    //! Undoes the waiting changes but keeps the lock. If they cannot be undone, they still wait. Returns the
+    //! one of \a folders, the names that the folder may have afterwards, that leads to it, or nothing.
+    QString takeBack(const QStringList &folders = {});
     //! Undoes the waiting changes and releases the lock.
     void close();
 
 private:
     //! Completes or undoes, according to its journal, the transaction of a killed program.
     bool endInterrupted(const QString &folder, QString *error);
-    //! Locks the folder exclusively, and makes sure that waiting changes can be continued.
+    //! Locks the folder exclusively, and makes sure that waiting changes can be continued, and that no
+    //! interrupted transaction is left.
     bool prepare(const QString &folder, int milliseconds, QString *error);
     void unlockSaved();
     bool commit(const QString &file, QString *error);

@@ -75,6 +75,10 @@ public:
     const QHash<QString, OldFile> &oldFiles() const { return m_oldFiles; }
     const QHash<QString, QStringList> &newFiles() const { return m_newFiles; }
     const QStringList &madeFolders() const { return m_madeFolders; }
+    //! The changed files as they were before an undo that failed halfway. The journal does not record this:
+    //! a recovery undoes the rest.
+    const QHash<QString, OldFile> &presentFiles() const { return m_presentFiles; }
+    void setPresentFiles(const QHash<QString, OldFile> &files) { m_presentFiles = files; }
     //! The files whose old contents are lost.
     const QStringList &lostFiles() const { return m_lostFiles; }
     bool isCommitted() const { return !m_file.isEmpty(); }
@@ -94,6 +98,7 @@ private:
     QStringList m_newFolderNames;
     QHash<QString, OldFile> m_oldFiles;     //!< by the file's name
     QHash<QString, QStringList> m_newFiles; //!< all digests that each file was to get, by the file's name
+    QHash<QString, OldFile> m_presentFiles;
     QStringList m_madeFolders;
     QStringList m_lostFiles;
     QString m_file;

@@ -149,8 +149,48 @@ bool FileRecovery::endUndo()
     if (m_journal.lostFiles().isEmpty()) {
         return m_journal.remove();
     }
-    m_journal.forgetChanges();
-    return m_journal.rewrite();
+    FileJournal rest = m_journal;
+    rest.forgetChanges();
+    return rest.rewrite();
+}
+
+bool FileRecovery::redo()
+{
+    const QHash<QString, FileJournal::OldFile> present = m_journal.presentFiles();
+    // On a case-insensitive disk a removed file may be another name of one that is put into place below.
+    for (auto file = present.cbegin(); file != present.cend(); ++file) {
+        const QString path = m_journal.pathOf(file.key());
+        if (file->copy.isEmpty() && exists(path) && isUndone(file.key()) && !QFile::remove(path)) {
+            return false;
+        }
+    }
+    for (auto file = present.cbegin(); file != present.cend(); ++file) {
+        const QString path = m_journal.pathOf(file.key());
+        const QString kept = m_journal.privatePath(file->copy);
+        const bool hasFolder = QFileInfo(QFileInfo(path).path()).isDir();
+        if (!file->copy.isEmpty() && exists(kept) && FileJournal::digestOf(path) != file->digest
+            && isUndone(file.key())
+            && ((!hasFolder && !QDir().mkdir(QFileInfo(path).path())) || !put(file->copy, path))) {
+            return false;
+        }
+    }
+    m_journal.setPresentFiles({});
+    return true;
+}
+
+//! Whether the file is as an undo leaves it; otherwise another program has changed it since.
+bool FileRecovery::isUndone(const QString &name) const
+{
+    const QString path = m_journal.pathOf(name);
+    return !exists(path) || FileJournal::digestOf(path) == m_journal.oldFiles().value(name).digest;
+}
+
+//! Replaces a file, in one step, by a kept one, which remains.
+bool FileRecovery::put(const QString &copy, const QString &path) const
+{
+    const QString again = m_journal.privatePath(u"again"_s);
+    QFile::remove(again);
+    return FileSync::link(m_journal.privatePath(copy), again) && FileSync::replace(again, path);
 }
 
 bool FileRecovery::restore(const QString &name, const QString &copy) const
@@ -162,9 +202,7 @@ bool FileRecovery::restore(const QString &name, const QString &copy) const
     if (isForeign && !FileSync::move(path, freePath(path))) {
         return false;
     }
-    const QString again = m_journal.privatePath(u"again"_s);
-    QFile::remove(again);
-    return FileSync::link(kept, again) && FileSync::replace(again, path);
+    return put(copy, path);
 }
 
 //! Also returns false if another folder has the old name by now.

@@ -22,6 +22,8 @@ public:
     //! Undoes everything but changes of files whose old contents are lost. If there are any, the journal
     //! remains with their names.
     bool undo();
+    //! Brings the files into the state before an undo that failed halfway, see FileJournal::presentFiles().
+    bool redo();
     //! Makes the hidden folder complete again, if another program has deleted it or files in it. Looks for
     //! old contents in the changed files.
     bool repair();
@@ -30,6 +32,8 @@ private:
     bool isOurs(const QString &name) const;
     bool bringDraft() const;
     bool restore(const QString &name, const QString &copy) const;
+    bool put(const QString &copy, const QString &path) const;
+    bool isUndone(const QString &name) const;
     bool renameBack();
     bool endUndo();
 
