@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How ProjectDocument handles the autosave file after a crash.
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/common/files/FileTransaction.h"
 #include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/common/zip/ZipHelper.h"
@@ -22,21 +23,11 @@ using Common::LocalizationHelper;
 
 namespace {
 
-//! The path of the project file in an unpacked archive; empty if there is none.
+//! The path of the project file in an unpacked archive; empty if the archive does not contain one.
 QString projectFileIn(const QString &folder)
 {
     const QStringList files = QDir(folder).entryList({u"*.kdproj"_s}, QDir::Files);
     return files.isEmpty() ? QString() : QDir(folder).filePath(files.constFirst());
-}
-
-bool read(const QString &path, QByteArray &bytes, QString &error)
-{
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly)) {
-        bytes = file.readAll();
-    }
-    error = file.error() == QFileDevice::NoError ? QString() : file.errorString();
-    return error.isEmpty();
 }
 
 //! Whether both files can be read and are equal.
@@ -44,8 +35,8 @@ bool isSame(const QString &path, const QString &otherPath)
 {
     QByteArray bytes;
     QByteArray otherBytes;
-    QString error;
-    return read(path, bytes, error) && read(otherPath, otherBytes, error) && bytes == otherBytes;
+    return Common::FileHelper::readFile(path, &bytes) && Common::FileHelper::readFile(otherPath, &otherBytes)
+           && bytes == otherBytes;
 }
 
 //! The images that the project does not have, or has with other contents.
@@ -167,7 +158,7 @@ bool ProjectDocument::takeRecoveredImages(const QDir &images, QString &error)
         const QString path = present.filePath(name);
         const QString inFolder = QDir(m_project->folderPath()).relativeFilePath(path);
         Common::FileTransaction *files = m_project->beginFileChanges(&error);
-        if (!files || !read(images.filePath(name), bytes, error)
+        if (!files || !Common::FileHelper::readFile(images.filePath(name), &bytes, &error)
             || (QFileInfo::exists(path) && files->setAside(inFolder).isEmpty())
             || !files->place(inFolder, bytes, &error)) {
             return false;

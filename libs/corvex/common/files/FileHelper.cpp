@@ -135,6 +135,20 @@ QString FileHelper::writeError(const QFileDevice &file)
     return text == QFile().errorString() ? LocalizationHelper::coreString(u"The disk is full."_s) : text;
 }
 
+bool FileHelper::readFile(const QString &path, QByteArray *bytes, QString *error)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly)) {
+        *bytes = file.readAll();
+    }
+    const bool isRead = file.error() == QFileDevice::NoError;
+    if (!isRead && error) {
+        *error = LocalizationHelper::coreString(QStringLiteral("The file \"%1\" cannot be read: %2"))
+                     .arg(path, file.errorString());
+    }
+    return isRead;
+}
+
 bool FileHelper::writeFile(const QString &path, const QByteArray &bytes, QString *error)
 {
     SafeFile file(path);

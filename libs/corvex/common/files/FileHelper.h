@@ -32,6 +32,8 @@ public:
     //! Why a write failed. QFileDevice has no text for a full disk.
     static QString writeError(const QFileDevice &file);
 
+    //! Reads the whole file. On failure returns false, with a text for the user.
+    static bool readFile(const QString &path, QByteArray *bytes, QString *error = nullptr);
     //! Replaces the file in one step, see SafeFile.
     static bool writeFile(const QString &path, const QByteArray &bytes, QString *error = nullptr);
 

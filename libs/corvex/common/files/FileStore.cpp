@@ -29,16 +29,7 @@ QString StoredFile::path() const
 
 bool StoredFile::read(QByteArray *bytes, QString *error) const
 {
-    QFile file(path());
-    if (file.open(QIODevice::ReadOnly)) {
-        *bytes = file.readAll();
-    }
-    if (file.error() == QFileDevice::NoError) {
-        return true;
-    }
-    *error = LocalizationHelper::coreString(u"The file \"%1\" cannot be read: %2"_s)
-                 .arg(path(), file.errorString());
-    return false;
+    return FileHelper::readFile(path(), bytes, error);
 }
 
 std::unique_ptr<StoredFile> FileStore::keep(const QString &path, QString *error)

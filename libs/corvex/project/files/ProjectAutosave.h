@@ -52,7 +52,7 @@ public:
     // discarded.
     //! Looks for it. It may be the one that was set aside, which gets its name back.
     void findArchive();
-    //! Its path; empty if there is none.
+    //! The path of that archive; empty if none was found.
     const QString &foundArchive() const { return m_found; }
     //! The project has the contents of the archive now, so it is handled as if written by this object.
     void adoptArchive();

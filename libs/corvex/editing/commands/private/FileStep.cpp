@@ -2,6 +2,7 @@
 #include "corvex/editing/commands/private/FileStep.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileHelper.h"
 #include "corvex/common/files/FileSync.h"
 #include "corvex/project/ImageResource.h"
 #include "corvex/project/Project.h"
@@ -21,20 +22,6 @@ bool exists(const QString &path)
 {
     const QFileInfo info(path);
     return info.exists() || info.isSymLink();
-}
-
-bool readFile(const QString &path, QByteArray &bytes, QString &error)
-{
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly)) {
-        bytes = file.readAll();
-    }
-    if (file.error() != QFileDevice::NoError) {
-        error = LocalizationHelper::coreString(u"The file \"%1\" cannot be read: %2"_s)
-                    .arg(path, file.errorString());
-        return false;
-    }
-    return true;
 }
 
 bool hasContents(const QString &path, const QByteArray &bytes)
@@ -132,7 +119,7 @@ bool PlaceFileStep::readSource(QByteArray &bytes, QString &error) const
         return m_stored->read(&bytes, &error);
     }
     bytes = m_bytes;
-    return m_source.isEmpty() || readFile(m_source, bytes, error);
+    return m_source.isEmpty() || Common::FileHelper::readFile(m_source, &bytes, &error);
 }
 
 bool PlaceFileStep::redo(QString &error)
@@ -372,7 +359,8 @@ bool ReplaceFileStep::redo(QString &error)
 {
     if (!isAside(m_key) && !m_stored) {
         QByteArray bytes;
-        Common::FileTransaction *files = readFile(m_source, bytes, error) ? changes(error) : nullptr;
+        Common::FileTransaction *files =
+            Common::FileHelper::readFile(m_source, &bytes, &error) ? changes(error) : nullptr;
         m_key = files ? files->keepAside(bytes, &error) : QString();
         if (m_key.isEmpty()) {
             return false;
