@@ -135,13 +135,13 @@ TEST_F(FileTransactionTest, ARenamedFolderGetsItsOldName)
                     && files.renameFolder(u"Q"_s));
     };
     crash(change);
-    EXPECT_EQ(FileTransaction::renamedFrom(path(u"P"_s)), path(u"Q"_s));
+    EXPECT_EQ(FileTransaction::findRenamed(path(u"P"_s)), path(u"Q"_s));
     EXPECT_EQ(FileTransaction::recover(path(u"Q"_s)), FileTransaction::Recovery::TakenBack);
     EXPECT_EQ(files(), before);
     // Unless the user has renamed it since.
     crash(change);
     ASSERT_TRUE(QDir().rename(path(u"Q"_s), path(u"Mine"_s)));
-    EXPECT_EQ(FileTransaction::renamedFrom(path(u"P"_s)), QString());
+    EXPECT_EQ(FileTransaction::findRenamed(path(u"P"_s)), QString());
     EXPECT_EQ(FileTransaction::recover(path(u"Mine"_s)), FileTransaction::Recovery::TakenBack);
     EXPECT_EQ(files().keys(),
               (QStringList{u"Mine/Images/pump.png"_s, u"Mine/Images/tank.png"_s, u"Mine/P.proj"_s}));

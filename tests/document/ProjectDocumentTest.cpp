@@ -71,7 +71,7 @@ protected:
         return document->project().autosave().run() && (!finished.isEmpty() || finished.wait());
     }
     //! Opens the project as a crash at this moment would leave it.
-    void crash()
+    void crash(const QString &openedPath = u"Pumps/Pumps.kdproj"_s)
     {
         auto left = std::make_unique<QTemporaryDir>();
         for (const QString &name : filesIn(path())) {
@@ -79,7 +79,7 @@ protected:
         }
         document.reset();
         folder.swap(*left);
-        file = path(u"Pumps/Pumps.kdproj"_s);
+        file = path(openedPath);
         openAgain();
     }
     QStringList archives() const { return QDir(path()).entryList({u"*.kdasv*"_s}, QDir::Files); }
@@ -528,6 +528,42 @@ TEST_F(ProjectDocumentTest, AnAutosaveBelongsToTheNameOnTheDisk)
     EXPECT_EQ(level()->valueString(), u"unsaved"_s);
     ASSERT_TRUE(document->save());
     EXPECT_EQ(archives(), QStringList(u"Zulu.kdproj.kdasv1"_s));
+
+    // Another program deletes the journal of the unsaved rename.
+    ASSERT_TRUE(renameTo(u"Zulu"_s) && describe(u"newer"_s) && autosave());
+    ASSERT_TRUE(QDir(path(u"Zulu/.corvex-edit"_s)).removeRecursively());
+    crash(u"Zulu/Zulu.kdproj"_s);
+    ASSERT_TRUE(document->recover()) << qPrintable(document->errorString());
+    EXPECT_EQ(level()->valueString(), u"newer"_s);
+}
+
+TEST_F(ProjectDocumentTest, AnUnsavedRenameReservesTheOldName)
+{
+    const auto openOther = [this](const QString &name) {
+        std::unique_ptr<Project> other = makeProject(name);
+        EXPECT_EQ(other->createFile(path()), name != "Pumps"_L1);
+        return other;
+    };
+    ASSERT_TRUE(renameTo(u"Zulu"_s));
+    const QString error = u"The name \"Pumps\" is not free. The folder \"%1\" has it again when its unsaved "
+                          "changes are undone. Save these changes, or use another name."_s.arg(path(u"Zulu"_s));
+    EXPECT_EQ(openOther(u"Pumps"_s)->fileError(), error);
+    const auto fans = openOther(u"Fans"_s);
+    EXPECT_FALSE(fans->renameFile(u"Fans"_s, u"Pumps"_s));
+    EXPECT_EQ(fans->fileError(), error);
+    EXPECT_FALSE(fans->createFileCopy(path(), u"Pumps"_s));
+    EXPECT_EQ(fans->fileError(), error);
+    ASSERT_TRUE(renameTo(u"Pumps"_s) && renameTo(u"Zulu"_s)) << qPrintable(document->errorString());
+
+    write(path(u"Pumps/Pumps.kdproj"_s), "copied by another program");
+    document.reset();
+    std::unique_ptr<Project> interrupted = makeEmptyProject();
+    EXPECT_FALSE(interrupted->loadFile(path(u"Zulu/Pumps.kdproj"_s)));
+    EXPECT_TRUE(interrupted->fileError().contains(
+        u"the project's name is \"Pumps\", and another folder has this name."_s));
+    ASSERT_TRUE(QDir(path()).rename(u"Pumps"_s, u"Copy"_s));
+    openAgain();
+    EXPECT_EQ(archives(), QStringList());
 }
 
 TEST_F(ProjectDocumentTest, ARenameLeavesNoAutosave)

@@ -55,7 +55,8 @@ FileTransaction::~FileTransaction()
 std::unique_ptr<FileTransaction> FileTransaction::begin(const QString &folder, QString *error)
 {
     auto journal = std::make_unique<FileJournal>(QDir(folder).absolutePath());
-    if (recover(folder) == Recovery::Failed || !journal->begin()) {
+    recover(folder);
+    if (!journal->begin()) {
         fail(error, u"Nothing can be written to the folder \"%1\": %2"_s, folder);
         return {};
     }
@@ -229,6 +230,9 @@ bool FileTransaction::renameFolder(const QString &name, QString *error)
 {
     const QFileInfo folder(m_journal->folder());
     const QString target = folder.dir().filePath(name);
+    if (findRenamed(target) != folder.filePath() && !mayTakeName(target, error)) {
+        return false;
+    }
     if (!m_journal->addRenaming(name) || !FileSync::move(folder.filePath(), target)) {
         return fail(error, u"The folder \"%1\" cannot be renamed: %2"_s, folder.filePath());
     }
@@ -348,7 +352,7 @@ FileTransaction::Recovery FileTransaction::recover(const QString &folder, QStrin
     const bool hasBegun = !journal.oldFiles().isEmpty() || !journal.newFolderNames().isEmpty()
                           || !journal.lostFiles().isEmpty();
     if (!(isCommitted ? recovery.finish() : recovery.undo())) {
-        return Recovery::Failed;
+        return !isCommitted && recovery.isNameTaken() ? Recovery::NameTaken : Recovery::Failed;
     }
     if (!journal.lostFiles().isEmpty()) {
         if (lost) {
@@ -359,7 +363,14 @@ FileTransaction::Recovery FileTransaction::recover(const QString &folder, QStrin
     return isCommitted ? Recovery::Finished : hasBegun ? Recovery::TakenBack : Recovery::Nothing;
 }
 
-QString FileTransaction::renamedFrom(const QString &folder)
+QString FileTransaction::nameBefore(const QString &folder)
+{
+    FileJournal journal(QDir(folder).absolutePath());
+    journal.read();
+    return journal.folderName();
+}
+
+QString FileTransaction::findRenamed(const QString &folder)
 {
     const QFileInfo wanted(QDir(folder).absolutePath());
     const QFileInfoList siblings = wanted.dir().entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
@@ -374,6 +385,20 @@ QString FileTransaction::renamedFrom(const QString &folder)
         }
     }
     return {};
+}
+
+bool FileTransaction::mayTakeName(const QString &folder, QString *error)
+{
+    const QString renamed = findRenamed(folder);
+    if (renamed.isEmpty()) {
+        return true;
+    }
+    const QString text =
+        u"The name \"%1\" is not free. The folder \"%2\" has it again when its unsaved changes are undone. "
+        "Save these changes, or use another name."_s;
+    *error = LocalizationHelper::coreString(text).arg(QFileInfo(folder).fileName(),
+                                                      QDir::toNativeSeparators(renamed));
+    return false;
 }
 
 } // namespace Halvane::Corvex::Common

@@ -46,7 +46,7 @@ public:
     bool restore(const QString &name);
     //! Removes a file; with deferred removals only commit() removes it.
     bool remove(const QString &name);
-    //! Renames the folder itself within its parent.
+    //! Renames the folder itself within its parent. Fails unless mayTakeName().
     bool renameFolder(const QString &name, QString *error = nullptr);
 
     // Files that are out of sight but can be restored. Each is identified by the key that these operations
@@ -77,15 +77,22 @@ public:
         Nothing,  //!< there was no transaction
         Finished, //!< completed a committed transaction
         TakenBack,
-        Failed //!< recovery is not possible now
+        NameTaken, //!< cannot undo the renaming, because another folder has nameBefore() now
+        Failed     //!< recovery is not possible now
     };
     //! Completes or undoes the transaction of a program that was killed. The folder may have another name
     //! afterwards. \a lost gets the names of files whose old contents were lost, see undo().
     static Recovery recover(const QString &folder, QStringList *lost = nullptr);
     //! Whether the folder has a running or interrupted transaction.
     static bool isOpen(const QString &folder);
-    //! Finds the folder that an interrupted transaction renamed from \a folder; empty if nothing is found.
-    static QString renamedFrom(const QString &folder);
+    //! The name of the folder when its running or interrupted transaction began.
+    static QString nameBefore(const QString &folder);
+    //! Finds the folder that a running or interrupted transaction renamed from \a folder; empty if nothing is
+    //! found.
+    static QString findRenamed(const QString &folder);
+    //! Whether a new folder may have this path. Returns false, with the reason, if undoing the transaction of
+    //! another folder needs it.
+    static bool mayTakeName(const QString &folder, QString *error);
 
 private:
     explicit FileTransaction(std::unique_ptr<FileJournal> journal);

@@ -33,6 +33,15 @@ void moveOutOfTheWay(const QString &path)
     }
 }
 
+//! The archive at \a to, if there is one, is not of this project.
+void moveArchive(const QString &from, const QString &to)
+{
+    for (const auto &[old, present] : {std::pair(from, to), std::pair(asideName(from), asideName(to))}) {
+        moveOutOfTheWay(present);
+        QFile::rename(old, present);
+    }
+}
+
 } // namespace
 
 ProjectAutosave::Written::Written(const QString &archive)
@@ -117,11 +126,7 @@ void ProjectAutosave::projectSaved(const QString &oldArchive)
         return;
     }
     // The project has found its new name free, so archives with that name are of a deleted project.
-    for (const auto &[from, to] :
-         {std::pair(oldArchive, archive), std::pair(asideName(oldArchive), asideName(archive))}) {
-        moveOutOfTheWay(to);
-        QFile::rename(from, to);
-    }
+    moveArchive(oldArchive, archive);
     if (!m_found.isEmpty() && QFile::exists(archive)) {
         m_found = archive;
     }
@@ -136,7 +141,7 @@ bool ProjectAutosave::needsRun() const
 bool ProjectAutosave::run()
 {
     const QString archive = m_project->autosavePath();
-    if (m_isRunning || !m_found.isEmpty() || archive.isEmpty() || !needsRun()) {
+    if (m_isRunning || !foundArchive().isEmpty() || archive.isEmpty() || !needsRun()) {
         return false;
     }
     m_isRunning = true;
@@ -158,6 +163,12 @@ void ProjectAutosave::findArchive()
     if (m_isRunning || archive.isEmpty()) {
         return;
     }
+    // Without the journal of an unsaved renaming, only the project file knows the name that it was saved with.
+    const QDir parent(m_project->parentPath());
+    const QString savedName = m_project->getIdName();
+    if (!QFile::exists(archive) && !QFile::exists(aside) && !parent.exists(savedName)) {
+        moveArchive(parent.filePath(u"%1.kdproj.kdasv"_s.arg(savedName)), archive);
+    }
     // A program may have been killed before it could remove the older archive.
     if (QFile::exists(aside)) {
         if (!Common::ZipHelper::entryNames(archive).isEmpty()) {
@@ -168,6 +179,11 @@ void ProjectAutosave::findArchive()
         }
     }
     m_found = QFile::exists(archive) ? archive : QString();
+}
+
+QString ProjectAutosave::foundArchive() const
+{
+    return QFile::exists(m_found) ? m_found : QString();
 }
 
 void ProjectAutosave::adoptArchive()

@@ -50,10 +50,11 @@ public:
 
     // The archive of an earlier session, after a crash. Nothing is autosaved until it was adopted or
     // discarded.
-    //! Looks for it. It may be the one that was set aside, which gets its name back.
+    //! Looks for it. It may be the one that was set aside, or have the name from before an unsaved renaming
+    //! that nothing else recorded. It gets its right name then.
     void findArchive();
-    //! The path of that archive; empty if none was found.
-    const QString &foundArchive() const { return m_found; }
+    //! The path of that archive; empty if none was found, or if another program has deleted it since.
+    QString foundArchive() const;
     //! The project has the contents of the archive now, so it is handled as if written by this object.
     void adoptArchive();
     //! Deletes it.

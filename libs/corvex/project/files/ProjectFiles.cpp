@@ -57,6 +57,9 @@ bool Project::createFile(const QString &path)
     if (const QString error = FileNameRules::projectNameError(getIdName()); !error.isEmpty()) {
         return finish(error);
     }
+    if (QString error; !Common::FileTransaction::mayTakeName(QDir(path).filePath(getIdName()), &error)) {
+        return finish(error);
+    }
     const QString oldVersion = m_version->valueString();
     const QString oldDesignerVersion = m_designerVersion->valueString();
     updateBuildVersion();
@@ -271,6 +274,10 @@ bool Project::createFileCopy(const QString &parentPath, const QString &name)
         return finish(
             Common::LocalizationHelper::coreString(u"The folder \"%1\" exists already."_s).arg(folder));
     }
+    QString error;
+    if (!Common::FileTransaction::mayTakeName(folder, &error)) {
+        return finish(error);
+    }
     // Build the copy in a temporary folder beside its final place, and rename it when it is complete.
     const Common::TemporaryFolder workshop(parentPath, u".corvex-copy"_s);
     const QString draft = workshop.filePath(copyName);
@@ -278,7 +285,6 @@ bool Project::createFileCopy(const QString &parentPath, const QString &name)
         return finish(Common::LocalizationHelper::coreString(u"The folder \"%1\" cannot be created: %2"_s)
                           .arg(folder, workshop.errorString()));
     }
-    QString error;
     if (copyName == getIdName() ? writeContents(draft, createFileName(), &error)
                                 : writeRenamed(draft, copyName, &error)) {
         if (!Common::FileSync::syncAll(draft) || !Common::FileSync::move(draft, folder)

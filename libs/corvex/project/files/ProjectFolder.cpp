@@ -47,7 +47,7 @@ bool failToTakeBack(QString *error)
 QString folderOf(const QString &path)
 {
     const QString folder = QFileInfo(path).absolutePath();
-    const QString renamed = QFileInfo(path).exists() ? QString() : FileTransaction::renamedFrom(folder);
+    const QString renamed = QFileInfo(path).exists() ? QString() : FileTransaction::findRenamed(folder);
     return renamed.isEmpty() ? folder : renamed;
 }
 
@@ -109,11 +109,18 @@ bool ProjectFolder::endInterrupted(const QString &folder, QString *error)
         m_note = LocalizationHelper::coreString(
             u"An interrupted edit of this project was undone. The project is as it was last saved."_s);
         break;
+    case FileTransaction::Recovery::NameTaken:
+        fail(error,
+             u"An edit of the project in \"%1\" was interrupted and cannot be undone, because the project's "
+             "name is \"%2\", and another folder has this name. Rename one of the two folders and open the "
+             "project again."_s,
+             folder);
+        *error = error->arg(FileTransaction::nameBefore(folder));
+        return false;
     case FileTransaction::Recovery::Failed:
         return fail(error,
                     u"An edit of the project in \"%1\" was interrupted and cannot be undone, because its "
-                    u"files cannot "
-                    "be written. Make them writable and open the project again."_s,
+                    "files cannot be written. Make them writable and open the project again."_s,
                     folder);
     }
     if (!lost.isEmpty()) {

@@ -205,19 +205,32 @@ bool FileRecovery::restore(const QString &name, const QString &copy) const
     return put(copy, path);
 }
 
-//! Also returns false if another folder has the old name by now.
-bool FileRecovery::renameBack()
+//! The path that an undo gives the folder; empty if it has its old name, or one that the user chose.
+QString FileRecovery::pathBefore() const
 {
     const QFileInfo folder(m_journal.folder());
-    const QString before = folder.dir().filePath(m_journal.folderName());
-    if (before == folder.filePath() || !m_journal.newFolderNames().contains(folder.fileName())) {
-        return true; // the folder has its old name, or one that the user chose
+    const bool isRenamed = folder.fileName() != m_journal.folderName()
+                           && m_journal.newFolderNames().contains(folder.fileName());
+    return isRenamed ? folder.dir().filePath(m_journal.folderName()) : QString();
+}
+
+bool FileRecovery::isNameTaken() const
+{
+    const QString before = pathBefore();
+    return !before.isEmpty() && exists(before);
+}
+
+bool FileRecovery::renameBack()
+{
+    const QString before = pathBefore();
+    if (before.isEmpty()) {
+        return true;
     }
-    if (!FileSync::move(folder.filePath(), before)) {
+    if (!FileSync::move(m_journal.folder(), before)) {
         return false;
     }
     m_journal.setFolder(before);
-    return FileSync::sync(folder.path());
+    return FileSync::sync(QFileInfo(before).path());
 }
 
 } // namespace Halvane::Corvex::Common

@@ -22,6 +22,8 @@ public:
     //! Undoes everything but changes of files whose old contents are lost. If there are any, the journal
     //! remains with their names.
     bool undo();
+    //! Whether undo() cannot give the folder its old name, because another folder has it.
+    bool isNameTaken() const;
     //! Brings the files into the state before an undo that failed halfway, see FileJournal::presentFiles().
     bool redo();
     //! Makes the hidden folder complete again, if another program has deleted it or files in it. Looks for
@@ -34,6 +36,7 @@ private:
     bool restore(const QString &name, const QString &copy) const;
     bool put(const QString &copy, const QString &path) const;
     bool isUndone(const QString &name) const;
+    QString pathBefore() const;
     bool renameBack();
     bool endUndo();
 
