@@ -12,8 +12,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <functional>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -58,7 +60,7 @@ protected:
         if (child == 0) {
             const std::unique_ptr<FileTransaction> files = FileTransaction::begin(path(u"P"_s));
             change(*files);
-            _exit(0);
+            _exit(HasFailure());
         }
         int status = 0;
         ASSERT_EQ(waitpid(child, &status, 0), child);
@@ -225,6 +227,79 @@ TEST_F(FileTransactionTest, LaterChangesByTheUserAreKept)
     EXPECT_EQ(now.value(u"P/"_s + motor), "mine");
     EXPECT_EQ(now.value(u"P/"_s + pump), "pump");
     EXPECT_EQ(now.value(u"P/"_s + pump + u".tmp1"_s), "mine too");
+}
+
+TEST_F(FileTransactionTest, ChangedFilesOfTheUserAreNotUndone)
+{
+    const QMap<QString, QByteArray> before = files();
+    const auto edit = [this](const QString &name) {
+        ASSERT_TRUE(QFile::remove(path(u"P/"_s + name)));
+        write(u"P/"_s + name, "mine");
+    };
+    // Another program writes the file between two changes.
+    const struct
+    {
+        Change change;
+        QString kept; //!< where its contents are after an undo
+    } cases[] = {
+        {[&](auto &files) {
+             EXPECT_TRUE(files.move(pump, motor));
+             edit(motor);
+             EXPECT_TRUE(files.move(motor, pump));
+         },
+         pump + u".tmp1"_s},
+        {[&](auto &files) {
+             EXPECT_TRUE(files.move(pump, motor));
+             edit(motor);
+             EXPECT_TRUE(files.move(motor, u"Images/m2.png"_s));
+         },
+         u"Images/m2.png"_s},
+        {[&](auto &files) {
+             QString key = files.keepAside("new");
+             EXPECT_TRUE(files.exchange(key, pump));
+             edit(pump);
+             EXPECT_TRUE(files.exchange(key, pump));
+             files.discard(key);
+         },
+         pump + u".tmp1"_s},
+    };
+    for (const auto &[change, kept] : cases) {
+        QMap<QString, QByteArray> expected = before;
+        expected.insert(u"P/"_s + kept, "mine");
+        crash(change);
+        EXPECT_EQ(FileTransaction::recover(path(u"P"_s)), FileTransaction::Recovery::TakenBack);
+        EXPECT_EQ(files(), expected);
+        ASSERT_TRUE(QFile::remove(path(u"P/"_s + kept)));
+    }
+}
+
+TEST_F(FileTransactionTest, WithoutRoomForItsJournalNothingChanges)
+{
+    const QMap<QString, QByteArray> before = files();
+    const QString tank = u"Images/tank.png"_s;
+    for (qint64 room = 0; room < 500; room += 20) {
+        SCOPED_TRACE(room);
+        crash([&](FileTransaction &files) {
+            const auto limitFiles = [](rlim_t size) {
+                rlimit limit = {};
+                getrlimit(RLIMIT_FSIZE, &limit);
+                limit.rlim_cur = size;
+                EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+            };
+            EXPECT_TRUE(files.move(pump, motor));
+            QString key = files.keepAside("new");
+            std::signal(SIGXFSZ, SIG_IGN);
+            limitFiles(rlim_t(QFileInfo(path(u"P/.corvex-edit/journal"_s)).size() + room));
+            const bool isMoved = files.move(tank, u"Images/t"_s);
+            const bool isReplaced = files.exchange(key, motor);
+            limitFiles(RLIM_INFINITY);
+            EXPECT_EQ(QFile::exists(path(u"P/"_s + tank)), !isMoved);
+            EXPECT_EQ(this->files().value(u"P/"_s + motor), isReplaced ? "new" : "pump");
+            EXPECT_TRUE(files.place(u"more"_s, "more"));
+        });
+        EXPECT_EQ(FileTransaction::recover(path(u"P"_s)), FileTransaction::Recovery::TakenBack);
+        EXPECT_EQ(files(), before);
+    }
 }
 
 TEST_F(FileTransactionTest, ADeletedHiddenFolderLosesNoFile)

@@ -3,6 +3,7 @@
 #include "corvex/document/ProjectDocument.h"
 #include "corvex/editing/commands/Commands.h"
 #include "corvex/editing/commands/RenameProject.h"
+#include "corvex/editing/commands/images/AddImage.h"
 #include "corvex/editing/commands/images/AddImageFromData.h"
 #include "corvex/editing/commands/images/DeleteImage.h"
 #include "corvex/editing/commands/images/RenameImage.h"
@@ -352,6 +353,31 @@ TEST_F(ProjectDocumentTest, ADeletedImageComesBackWithItsOwnFile)
     EXPECT_EQ(read(place), "of another program");
 }
 
+TEST_F(ProjectDocumentTest, ADeletedImageWhoseFileAnotherImageTakesComesBack)
+{
+    ImageResource *image = addImage(document->project(), u"a.png"_s);
+    ASSERT_TRUE(document->save());
+    const QString place = path(u"Pumps/Images/a.png"_s);
+    const QByteArray original = read(place);
+    QImage picture(3, 3, QImage::Format_RGB32);
+    ASSERT_TRUE(picture.save(path(u"other.png"_s)));
+    write(path(u"same.png"_s), original);
+    const auto taken = [this] { return document->project().imageResources()->listItems().constFirst(); };
+    for (const int savedStep : {4, 2}) {
+        ASSERT_TRUE(document->push(new DeleteImage(image)));
+        ASSERT_TRUE(document->push(
+            new AddImage(make(u"ImageResource"_s, u"a.png"_s), path(u"same.png"_s), &document->project())));
+        ASSERT_TRUE(savedStep != 2 || document->save());
+        ASSERT_TRUE(document->push(new ReplaceImage(taken(), path(u"other.png"_s), u"a.png"_s)));
+        ASSERT_TRUE(document->push(new DeleteImage(taken())) && document->save());
+        ASSERT_TRUE(document->history().goTo(0)) << qPrintable(document->errorString());
+        EXPECT_TRUE(read(place) == original);
+        ASSERT_TRUE(document->save());
+        openAgain();
+        image = static_cast<ImageResource *>(taken());
+    }
+}
+
 TEST_F(ProjectDocumentTest, AnUndoThatCannotRenameFilesFails)
 {
     addImage(document->project(), u"a.png"_s);
@@ -545,8 +571,9 @@ TEST_F(ProjectDocumentTest, AnUnsavedRenameReservesTheOldName)
         return other;
     };
     ASSERT_TRUE(renameTo(u"Zulu"_s));
-    const QString error = u"The name \"Pumps\" is not free. The folder \"%1\" has it again when its unsaved "
-                          "changes are undone. Save these changes, or use another name."_s.arg(path(u"Zulu"_s));
+    const QString error =
+        u"The name \"Pumps\" is not free. The folder \"%1\" has it again when its unsaved "
+        "changes are undone. Save these changes, or use another name."_s.arg(path(u"Zulu"_s));
     EXPECT_EQ(openOther(u"Pumps"_s)->fileError(), error);
     const auto fans = openOther(u"Fans"_s);
     EXPECT_FALSE(fans->renameFile(u"Fans"_s, u"Pumps"_s));

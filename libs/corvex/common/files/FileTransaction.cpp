@@ -13,6 +13,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cerrno>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -156,49 +157,108 @@ bool FileTransaction::place(const QString &name, const QByteArray &bytes, QStrin
 
 bool FileTransaction::move(const QString &from, const QString &to, QString *error)
 {
-    const QString key = keep(to) ? setAside(from) : QString();
-    if (!key.isEmpty() && bringBack(key, to)) {
-        return true;
+    const QString key = newKey();
+    const QString oldPath = m_journal->pathOf(from);
+    const QString path = m_journal->pathOf(to);
+    const QString aside = m_journal->privatePath(key);
+    // On a case-insensitive disk both may be names of one file.
+    if (exists(oldPath) && keep(to) && keep(from) && noteAside(key, from) && expect(to, oldPath)
+        && FileSync::move(oldPath, aside)) {
+        if (FileSync::move(aside, path)) {
+            m_placed.remove(from);
+            m_placed.insert(to, FileJournal::digestOf(path));
+            return true;
+        }
+        const int reason = errno;
+        FileSync::move(aside, oldPath);
+        errno = reason;
     }
-    fail(error, u"The file \"%1\" cannot be renamed: %2"_s, m_journal->pathOf(from));
-    if (!key.isEmpty()) {
-        bringBack(key, from);
+    return fail(error, u"The file \"%1\" cannot be renamed: %2"_s, oldPath);
+}
+
+bool FileTransaction::undoMove(const QString &from, const QString &to)
+{
+    if (!FileSync::move(m_journal->pathOf(to), m_journal->pathOf(from))) {
+        return false;
     }
-    return false;
+    m_placed.insert(from, m_placed.take(to));
+    return true;
 }
 
 QString FileTransaction::keepAside(const QByteArray &bytes, QString *error)
 {
     const QString key = newKey();
-    return FileHelper::writeFile(m_journal->privatePath(key), bytes, error) ? key : QString();
+    if (!FileHelper::writeFile(m_journal->privatePath(key), bytes, error)) {
+        return {};
+    }
+    m_ownDigests.insert(FileJournal::digestOf(m_journal->privatePath(key)));
+    return key;
+}
+
+//! Whether another program has written these contents.
+bool FileTransaction::isForeign(const QString &digest) const
+{
+    return !m_ownDigests.contains(digest) && !m_journal->knows(digest);
+}
+
+//! Prepares that the file gets the contents of the one at \a path. An undo may delete them, unless another
+//! program has written them.
+bool FileTransaction::expect(const QString &name, const QString &path)
+{
+    const QString digest = FileJournal::digestOf(path);
+    return keepCopy(path, digest) && (isForeign(digest) || m_journal->addNew(name, digest));
+}
+
+//! Prepares that the file is set aside.
+bool FileTransaction::noteAside(const QString &key, const QString &name)
+{
+    return !isForeign(FileJournal::digestOf(m_journal->pathOf(name))) || m_journal->addForeign(key, name);
+}
+
+bool FileTransaction::exchange(QString &key, const QString &name)
+{
+    // Everything that needs space on the disk comes first.
+    const QString path = m_journal->pathOf(name);
+    const QString given = m_journal->privatePath(key);
+    const QString taken = exists(path) ? newKey() : QString();
+    const QString aside = m_journal->privatePath(taken);
+    if ((!key.isEmpty() && !exists(given)) || !keep(name) || (!taken.isEmpty() && !noteAside(taken, name))
+        || (!key.isEmpty() && !expect(name, given)) || (!taken.isEmpty() && !FileSync::move(path, aside))) {
+        return false;
+    }
+    if (!key.isEmpty() && !FileSync::move(given, path)) {
+        const int reason = errno;
+        if (!taken.isEmpty()) {
+            FileSync::move(aside, path);
+        }
+        errno = reason;
+        return false;
+    }
+    m_placed.remove(name);
+    if (!key.isEmpty()) {
+        m_placed.insert(name, FileJournal::digestOf(path));
+    }
+    key = taken;
+    return true;
 }
 
 QString FileTransaction::setAside(const QString &name)
 {
-    const QString key = newKey();
-    if (!keep(name) || !FileSync::move(m_journal->pathOf(name), m_journal->privatePath(key))) {
-        return {};
-    }
-    m_placed.remove(name);
-    return key;
+    QString key;
+    return exchange(key, name) ? key : QString();
 }
 
 bool FileTransaction::bringBack(const QString &key, const QString &name)
 {
-    const QString path = m_journal->privatePath(key);
-    const QString digest = FileJournal::digestOf(path);
-    if (!exists(path) || !keep(name) || !keepCopy(path, digest) || !m_journal->addNew(name, digest)
-        || !FileSync::move(path, m_journal->pathOf(name))) {
-        return false;
-    }
-    m_placed.insert(name, digest);
-    return true;
+    QString taken = key;
+    return !key.isEmpty() && !exists(m_journal->pathOf(name)) && exchange(taken, name);
 }
 
 void FileTransaction::discard(const QString &key)
 {
-    // While removals are deferred, the file is removed with the transaction.
-    if (!key.isEmpty() && !m_defersRemovals) {
+    // While removals are deferred, the file is removed with the transaction. One that another program has
+    // written gets a visible name then.
+    if (!key.isEmpty() && !m_defersRemovals && !m_journal->foreignFiles().contains(key)) {
         QFile::remove(m_journal->privatePath(key));
     }
 }

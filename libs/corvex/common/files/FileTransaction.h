@@ -4,6 +4,7 @@
 #include "corvex/common/Export.h"
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QVariantMap>
 
@@ -41,6 +42,8 @@ public:
     bool place(const QString &name, const QByteArray &bytes, QString *error = nullptr);
     //! Renames a file. The new name must not exist.
     bool move(const QString &from, const QString &to, QString *error = nullptr);
+    //! Reverses a move() that was the last operation. Needs no space on the disk.
+    bool undoMove(const QString &from, const QString &to);
     //! Brings back a file that this transaction put into place and that another program has deleted. Returns
     //! false if its contents are lost, or if it is not such a file.
     bool restore(const QString &name);
@@ -54,6 +57,9 @@ public:
     QString setAside(const QString &name);
     QString keepAside(const QByteArray &bytes, QString *error = nullptr);
     bool bringBack(const QString &key, const QString &name);
+    //! Puts the file with the \a key into place, and sets aside the one that is there: \a key is its key
+    //! afterwards. Either may be missing, with an empty key.
+    bool exchange(QString &key, const QString &name);
     void discard(const QString &key);
     //! The current path of the file with that key.
     QString asidePath(const QString &key) const;
@@ -64,6 +70,8 @@ public:
     void deferRemovals(bool isDeferred);
     //! Returns false, with the reason, if \a file is write-protected.
     bool mayReplace(const QString &file, QString *error = nullptr) const;
+    //! Whether an operation of this transaction has put the present file into place.
+    bool hasPlaced(const QString &name) const { return m_placed.contains(name); }
     //! Replaces \a file by the draft, with the permissions of \a file, and carries out deferred removals. On
     //! failure returns false; everything is as before and can still be undone, unless isOver().
     bool commit(const QString &file, QString *error = nullptr);
@@ -97,6 +105,9 @@ public:
 private:
     explicit FileTransaction(std::unique_ptr<FileJournal> journal);
     bool keep(const QString &name);
+    bool isForeign(const QString &digest) const;
+    bool expect(const QString &name, const QString &path);
+    bool noteAside(const QString &key, const QString &name);
     bool keepCopy(const QString &path, const QString &digest);
     bool repair();
     bool keepPresent();
@@ -108,6 +119,7 @@ private:
     std::unique_ptr<FileJournal> m_journal; //!< null after the end
     QVariantMap m_removed;                  //!< deferred removals: digests by name
     QHash<QString, QString> m_placed;       //!< digests of the files that it put into place, by name
+    QSet<QString> m_ownDigests;             //!< of the contents that keepAside() has written
     QHash<QString, QString> m_copies; //!< copies of old and new contents in the hidden folder, by digest
     int m_lastKey = 0;
     bool m_defersRemovals = false;

@@ -163,7 +163,8 @@ void ProjectAutosave::findArchive()
     if (m_isRunning || archive.isEmpty()) {
         return;
     }
-    // Without the journal of an unsaved renaming, only the project file knows the name that it was saved with.
+    // Without the journal of an unsaved renaming, only the project file knows the name that it was saved
+    // with.
     const QDir parent(m_project->parentPath());
     const QString savedName = m_project->getIdName();
     if (!QFile::exists(archive) && !QFile::exists(aside) && !parent.exists(savedName)) {

@@ -215,8 +215,9 @@ bool Project::renameEntries(const QString &fileName, const QString &subPath, QSt
         changes && (fileName == this->fileName() || changes->move(this->fileName(), fileName, error));
     const bool isRenamed = isMoved && (subPath == this->subPath() || changes->renameFolder(subPath, error));
     if (waitsForSave) {
-        if (isMoved && !isRenamed && fileName != this->fileName()) {
-            changes->move(fileName, this->fileName());
+        const bool isHalf = isMoved && !isRenamed && fileName != this->fileName();
+        if (isHalf && !changes->undoMove(this->fileName(), fileName)) {
+            setFileFields(parentPath(), this->subPath(), fileName);
         }
         return isRenamed;
     }

@@ -11,6 +11,7 @@
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <cerrno>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -32,6 +33,16 @@ bool isSingleName(const QString &name)
 QByteArray bytesOf(const QJsonObject &line)
 {
     return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+}
+
+//! A line that could not be written completely must not become a part of the next one.
+bool removeHalfLine(QFile &file)
+{
+    const qint64 size = file.size();
+    if (size == 0 || (file.seek(size - 1) && file.read(1) == "\n")) {
+        return true;
+    }
+    return file.seek(0) && file.resize(file.readAll().lastIndexOf('\n') + 1);
 }
 
 QJsonObject oldLine(const QString &name, const FileJournal::OldFile &file)
@@ -109,6 +120,9 @@ QList<QJsonObject> FileJournal::lines() const
             all.append(newLine(file.key(), digest));
         }
     }
+    for (auto file = m_foreignFiles.cbegin(); file != m_foreignFiles.cend(); ++file) {
+        all.append({{u"foreign"_s, file.key()}, {u"file"_s, *file}});
+    }
     for (const QString &name : m_madeFolders) {
         all.append({{u"made"_s, name}});
     }
@@ -130,6 +144,7 @@ void FileJournal::setLost(const QStringList &names)
 
 void FileJournal::forgetChanges()
 {
+    m_foreignFiles.clear();
     m_oldFiles.clear();
     m_newFiles.clear();
     m_madeFolders.clear();
@@ -155,7 +170,7 @@ void FileJournal::read()
 
 bool FileJournal::staysInside(const QJsonObject &line) const
 {
-    for (const QLatin1StringView key : {"folder"_L1, "renamed"_L1, "old"_L1}) {
+    for (const QLatin1StringView key : {"folder"_L1, "renamed"_L1, "old"_L1, "foreign"_L1}) {
         const QString name = line[key].toString();
         if (line.contains(key) && !isSingleName(name) && (key != "old"_L1 || !name.isEmpty())) {
             return false;
@@ -194,8 +209,12 @@ void FileJournal::take(const QJsonObject &line)
         m_folderName = line["folder"_L1].toString();
     } else if (line.contains("old"_L1)) {
         m_oldFiles.insert(name, {line["old"_L1].toString(), line["digest"_L1].toString()});
+        m_digests.insert(line["digest"_L1].toString());
     } else if (line.contains("new"_L1)) {
         m_newFiles[name].append(line["new"_L1].toString());
+        m_digests.insert(line["new"_L1].toString());
+    } else if (line.contains("foreign"_L1)) {
+        m_foreignFiles.insert(line["foreign"_L1].toString(), name);
     } else if (line.contains("lost"_L1)) {
         m_lostFiles.append(line["lost"_L1].toString());
     } else if (line.contains("made"_L1)) {
@@ -211,17 +230,25 @@ void FileJournal::take(const QJsonObject &line)
 bool FileJournal::append(const QJsonObject &line)
 {
     QFile file(privatePath(journalName));
-    if (!file.open(QIODevice::ReadWrite)) {
+    // Without a buffer, which would be written again after a failure.
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || !removeHalfLine(file)) {
         return false;
     }
     const qint64 size = file.size();
     const QByteArray bytes = bytesOf(line);
-    if (!file.seek(size) || file.write(bytes) != bytes.size() || !file.flush() || fsync(file.handle()) != 0) {
-        file.resize(size);
+    if (!file.seek(size) || file.write(bytes) != bytes.size() || fsync(file.handle()) != 0) {
+        const int reason = errno;
+        file.resize(size); // if this fails, the next line tries again
+        errno = reason;
         return false;
     }
     take(line);
     return true;
+}
+
+bool FileJournal::addForeign(const QString &key, const QString &name)
+{
+    return append({{u"foreign"_s, key}, {u"file"_s, name}});
 }
 
 bool FileJournal::addOld(const QString &name, const OldFile &file)

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QJsonObject>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
@@ -13,7 +14,8 @@ namespace Halvane::Corvex::Common {
 /*! The journal of a transaction, written before a file is touched. It is in the transaction's hidden folder,
     as one JSON object per line, flushed to the disk before each next step. Beside it are "old-N", a hard link
     to a file before its change, "N", a file that was set aside, "draft", the new project file, and, during a
-    recovery, "again". A ".gitignore" keeps the folder out of version control.
+    recovery, "again". Files that another program has written leave the folder at the end. A ".gitignore"
+   keeps the folder out of version control.
 */
 class FileJournal
 {
@@ -62,6 +64,8 @@ public:
     bool addOld(const QString &name, const OldFile &file);
     //! Records the digest of the contents that a file is about to get.
     bool addNew(const QString &name, const QString &digest);
+    //! Records that a file is about to be set aside whose contents another program has written.
+    bool addForeign(const QString &key, const QString &name);
     //! Records that a folder is about to be created.
     bool addFolder(const QString &name);
     //! Records that the folder itself is about to be renamed.
@@ -74,6 +78,10 @@ public:
     const QStringList &newFolderNames() const { return m_newFolderNames; }
     const QHash<QString, OldFile> &oldFiles() const { return m_oldFiles; }
     const QHash<QString, QStringList> &newFiles() const { return m_newFiles; }
+    //! Names of files, by the keys under which they were set aside.
+    const QHash<QString, QString> &foreignFiles() const { return m_foreignFiles; }
+    //! Whether these are the contents of a file before or after a change.
+    bool knows(const QString &digest) const { return m_digests.contains(digest); }
     const QStringList &madeFolders() const { return m_madeFolders; }
     //! The changed files as they were before an undo that failed halfway. The journal does not record this:
     //! a recovery undoes the rest.
@@ -99,6 +107,8 @@ private:
     QHash<QString, OldFile> m_oldFiles;     //!< by the file's name
     QHash<QString, QStringList> m_newFiles; //!< all digests that each file was to get, by the file's name
     QHash<QString, OldFile> m_presentFiles;
+    QHash<QString, QString> m_foreignFiles;
+    QSet<QString> m_digests; //!< of m_oldFiles and m_newFiles
     QStringList m_madeFolders;
     QStringList m_lostFiles;
     QString m_file;

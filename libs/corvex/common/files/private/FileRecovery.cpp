@@ -71,7 +71,7 @@ bool FileRecovery::finish()
             folders.insert(QFileInfo(path).path());
         }
     }
-    return std::ranges::all_of(folders, FileSync::sync) && m_journal.remove();
+    return std::ranges::all_of(folders, FileSync::sync) && showForeign() && m_journal.remove();
 }
 
 bool FileRecovery::repair()
@@ -144,8 +144,27 @@ bool FileRecovery::undo()
     return renameBack() && endUndo();
 }
 
+//! Brings the files that another program has written out of the hidden folder, under free names.
+bool FileRecovery::showForeign() const
+{
+    const QHash<QString, QString> &files = m_journal.foreignFiles();
+    for (auto file = files.cbegin(); file != files.cend(); ++file) {
+        const QString aside = m_journal.privatePath(file.key());
+        const QString path = m_journal.pathOf(*file);
+        const bool hasFolder = QFileInfo(QFileInfo(path).path()).isDir();
+        const QString visible = hasFolder ? path : m_journal.pathOf(QFileInfo(path).fileName());
+        if (exists(aside) && !FileSync::move(aside, freePath(visible))) {
+            return false;
+        }
+    }
+    return true;
+}
+
 bool FileRecovery::endUndo()
 {
+    if (!showForeign()) {
+        return false;
+    }
     if (m_journal.lostFiles().isEmpty()) {
         return m_journal.remove();
     }
@@ -209,8 +228,8 @@ bool FileRecovery::restore(const QString &name, const QString &copy) const
 QString FileRecovery::pathBefore() const
 {
     const QFileInfo folder(m_journal.folder());
-    const bool isRenamed = folder.fileName() != m_journal.folderName()
-                           && m_journal.newFolderNames().contains(folder.fileName());
+    const bool isRenamed =
+        folder.fileName() != m_journal.folderName() && m_journal.newFolderNames().contains(folder.fileName());
     return isRenamed ? folder.dir().filePath(m_journal.folderName()) : QString();
 }
 

@@ -39,6 +39,7 @@ private:
     QString pathBefore() const;
     bool renameBack();
     bool endUndo();
+    bool showForeign() const;
 
     FileJournal &m_journal;
 };

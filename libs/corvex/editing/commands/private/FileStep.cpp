@@ -185,8 +185,17 @@ bool LeaveFileStep::redo(QString &error)
             return false;
         }
     }
+    m_digest = Common::FileHelper::md5(path());
     m_isDone = true;
     return true;
+}
+
+//! Whether other steps have used the name since.
+bool LeaveFileStep::isTaken() const
+{
+    const Common::FileTransaction *files = project() ? project()->fileChanges() : nullptr;
+    return isUsed(name())
+           || (files && files->hasPlaced(inFolder(name())) && Common::FileHelper::md5(path()) != m_digest);
 }
 
 bool LeaveFileStep::undo(QString &error)
@@ -237,10 +246,11 @@ bool LeaveFileStep::keepFiles(Common::FileStore &store, QString &error)
         m_key = m_stored ? QString() : m_key;
         return m_stored != nullptr;
     }
-    if (m_isSaved || isUsed(name())) {
+    if (m_isSaved) {
         return true;
     }
-    if (exists(path())) {
+    // A step that takes the name finds the file and leaves it at its undo.
+    if (exists(path()) && !isTaken()) {
         m_stored = store.keep(path(), &error);
         if (!m_stored) {
             return false;
@@ -340,17 +350,11 @@ bool ReplaceFileStep::exchange(QString &error)
         }
         m_stored.reset();
     }
-    const bool hasOld = exists(path());
-    const QString old = hasOld ? files->setAside(inFolder(name())) : QString();
-    const bool hadNone = m_key.isEmpty(); // there was no file before
-    if ((hasOld && old.isEmpty()) || (!hadNone && !files->bringBack(m_key, inFolder(name())))) {
-        error = LocalizationHelper::coreString(u"The file \"%1\" cannot be replaced."_s).arg(path());
-        if (!old.isEmpty()) {
-            files->bringBack(old, inFolder(name()));
-        }
+    if (!files->exchange(m_key, inFolder(name()))) {
+        error = LocalizationHelper::coreString(u"The file \"%1\" cannot be replaced: %2"_s)
+                    .arg(path(), Common::FileSync::reason());
         return false;
     }
-    m_key = old;
     lookAgain(name());
     return true;
 }

@@ -100,11 +100,14 @@ public:
 
 private:
     bool placeStored(QString &error);
+    bool isTaken() const;
 
-    Stored m_stored; //!< the file, after a save deleted it
-    QString m_key;   //!< of the file that a later redo has set aside
+    Stored m_stored;  //!< the file, after a save deleted it
+    QString m_key;    //!< of the file that a later redo has set aside
+    QString m_digest; //!< of the contents that it left
     bool m_isDone = false;
-    bool m_isSaved = false; //!< a save has deleted the file, so a file with its name belongs to other steps
+    bool m_isSaved = false; //!< a save has deleted the file, or another step has taken it, so that a file
+                            //!< with its name belongs to other steps
 };
 
 //! Renames a file via a third name, so that names may differ only in case.
