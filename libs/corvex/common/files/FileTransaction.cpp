@@ -161,19 +161,22 @@ bool FileTransaction::move(const QString &from, const QString &to, QString *erro
     const QString oldPath = m_journal->pathOf(from);
     const QString path = m_journal->pathOf(to);
     const QString aside = m_journal->privatePath(key);
-    // On a case-insensitive disk both may be names of one file.
-    if (exists(oldPath) && keep(to) && keep(from) && noteAside(key, from) && expect(to, oldPath)
-        && FileSync::move(oldPath, aside)) {
-        if (FileSync::move(aside, path)) {
-            m_placed.remove(from);
-            m_placed.insert(to, FileJournal::digestOf(path));
-            return true;
-        }
+    // On a case-insensitive disk both may be names of one file, which then needs a third name.
+    const bool isDirect = !exists(path);
+    bool isMoved = exists(oldPath) && keep(to) && keep(from) && (isDirect || noteAside(key, from))
+                   && expect(to, oldPath) && FileSync::move(oldPath, isDirect ? path : aside);
+    if (isMoved && !isDirect && !FileSync::move(aside, path)) {
         const int reason = errno;
         FileSync::move(aside, oldPath);
         errno = reason;
+        isMoved = false;
     }
-    return fail(error, u"The file \"%1\" cannot be renamed: %2"_s, oldPath);
+    if (!isMoved) {
+        return fail(error, u"The file \"%1\" cannot be renamed: %2"_s, oldPath);
+    }
+    m_placed.remove(from);
+    m_placed.insert(to, FileJournal::digestOf(path));
+    return true;
 }
 
 bool FileTransaction::undoMove(const QString &from, const QString &to)
