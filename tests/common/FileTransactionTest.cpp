@@ -273,6 +273,26 @@ TEST_F(FileTransactionTest, ChangedFilesOfTheUserAreNotUndone)
     }
 }
 
+TEST_F(FileTransactionTest, AFailedCommitCanBeUndoneOrRepeated)
+{
+    const QMap<QString, QByteArray> before = files();
+    for (const bool isRepeated : {false, true}) {
+        auto changes = FileTransaction::begin(path(u"P"_s));
+        ASSERT_TRUE(changes->move(pump, motor) && FileHelper::writeFile(changes->draftPath(), "saved"));
+        // The file cannot be replaced.
+        ASSERT_TRUE(QFile::rename(path(u"P/P.proj"_s), path(u"aside"_s))
+                    && QDir().mkdir(path(u"P/P.proj"_s)));
+        EXPECT_FALSE(changes->commit(u"P.proj"_s));
+        EXPECT_FALSE(changes->isOver());
+        ASSERT_TRUE(QDir().rmdir(path(u"P/P.proj"_s))
+                    && QFile::rename(path(u"aside"_s), path(u"P/P.proj"_s)));
+        EXPECT_EQ(isRepeated && changes->commit(u"P.proj"_s), isRepeated);
+        changes.reset();
+        EXPECT_EQ(files().value(u"P/P.proj"_s), isRepeated ? "saved" : "old");
+        EXPECT_TRUE(isRepeated || files() == before);
+    }
+}
+
 TEST_F(FileTransactionTest, WithoutRoomForItsJournalNothingChanges)
 {
     const QMap<QString, QByteArray> before = files();

@@ -378,6 +378,35 @@ TEST_F(ProjectDocumentTest, ADeletedImageWhoseFileAnotherImageTakesComesBack)
     }
 }
 
+TEST_F(ProjectDocumentTest, OnlyTheFileOfADeletedImageIsDeleted)
+{
+    const QString place = path(u"Pumps/Images/a.png"_s);
+    const QString draft = path(u"Pumps/.corvex-edit/draft"_s);
+    const auto deleteImage = [this] {
+        return document->push(
+            new DeleteImage(document->project().imageResources()->listItems().constFirst()));
+    };
+    addImage(document->project(), u"a.png"_s);
+    ASSERT_TRUE(document->save() && deleteImage());
+    write(place, "of another program");
+    ASSERT_TRUE(document->save());
+    EXPECT_EQ(read(place), "of another program");
+    ASSERT_TRUE(document->undo() && document->save() && deleteImage());
+    addImage(document->project(), u"b.png"_s); // begins the changes
+    ASSERT_TRUE(document->project().beginFileChanges(nullptr) && QDir().mkdir(draft));
+    EXPECT_FALSE(document->save());
+    ASSERT_TRUE(QDir().rmdir(draft) && document->save()) << qPrintable(document->errorString());
+    EXPECT_FALSE(QFile::exists(place)) << "the first save failed";
+
+    // A recovery would not find files outside of the project.
+    ASSERT_TRUE(QDir().rename(path(u"Pumps/Images"_s), path(u"Shared"_s))
+                && QFile::link(u"../Shared"_s, path(u"Pumps/Images"_s)));
+    QImage picture(3, 3, QImage::Format_RGB32);
+    EXPECT_FALSE(document->push(new AddImageFromData(picture, &document->project())));
+    EXPECT_TRUE(document->errorString().contains(u"Copy the folder into it."_s))
+        << qPrintable(document->errorString());
+}
+
 TEST_F(ProjectDocumentTest, AnUndoThatCannotRenameFilesFails)
 {
     addImage(document->project(), u"a.png"_s);

@@ -353,10 +353,16 @@ bool FileTransaction::commit(const QString &file, QString *error)
     if (!givePermissions(file) || !syncFolders() || !m_journal->addCommit(file, m_removed)) {
         return fail(error, u"The folder \"%1\" cannot be written to: %2"_s, m_journal->folder());
     }
-    const std::unique_ptr<FileJournal> journal = std::move(m_journal);
-    FileRecovery recovery(*journal);
-    return recovery.finish()
-           || fail(error, u"The file \"%1\" cannot be written: %2"_s, journal->pathOf(file));
+    const QString path = m_journal->pathOf(file);
+    FileRecovery recovery(*m_journal);
+    const bool isFinished = recovery.finish();
+    const int reason = errno;
+    // Once the draft is in place, recover() can only complete the rest.
+    if (recovery.isDraftInPlace() || !m_journal->withdrawCommit()) {
+        m_journal.reset();
+    }
+    errno = reason;
+    return isFinished || fail(error, u"The file \"%1\" cannot be written: %2"_s, path);
 }
 
 void FileTransaction::undo()
@@ -409,6 +415,10 @@ FileTransaction::Recovery FileTransaction::recover(const QString &folder, QStrin
         return Recovery::Nothing;
     }
     FileJournal journal(QDir(folder).absolutePath());
+    if (!journal.isThere()) {
+        journal.remove(); // an end that could not remove the hidden folder
+        return Recovery::Nothing;
+    }
     journal.read();
     FileRecovery recovery(journal);
     const bool isCommitted = journal.isCommitted();

@@ -70,8 +70,6 @@ public:
     void deferRemovals(bool isDeferred);
     //! Returns false, with the reason, if \a file is write-protected.
     bool mayReplace(const QString &file, QString *error = nullptr) const;
-    //! Whether an operation of this transaction has put the present file into place.
-    bool hasPlaced(const QString &name) const { return m_placed.contains(name); }
     //! Replaces \a file by the draft, with the permissions of \a file, and carries out deferred removals. On
     //! failure returns false; everything is as before and can still be undone, unless isOver().
     bool commit(const QString &file, QString *error = nullptr);

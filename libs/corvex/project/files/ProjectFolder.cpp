@@ -87,11 +87,17 @@ bool ProjectFolder::recover(const QString &path, QString *error)
         return failToTakeBack(error);
     }
     const QString folder = folderOf(path);
-    if (m_lock.kind() != Kind::None || !FileTransaction::isOpen(folder)) {
+    if (!FileTransaction::isOpen(folder)) {
         return true;
     }
-    const bool isEnded = !m_lock.take(folder, Kind::Exclusive) || endInterrupted(folder, error);
-    m_lock.release();
+    const bool isOurs = m_lock.kind() == Kind::Exclusive && m_lock.isOn(folder);
+    if (!isOurs && (m_lock.kind() != Kind::None || !m_lock.take(folder, Kind::Exclusive))) {
+        return true; // somebody is using it
+    }
+    const bool isEnded = endInterrupted(folder, error);
+    if (!isOurs) {
+        m_lock.release();
+    }
     return isEnded;
 }
 
@@ -183,8 +189,12 @@ bool ProjectFolder::prepare(const QString &folder, int milliseconds, QString *er
         return failToLock(error, folder);
     }
     // A journal of somebody else would later replace what is written now.
-    return m_changes ? m_changes->renew(error)
-                     : !FileTransaction::isOpen(folder) || endInterrupted(folder, error);
+    const bool isReady = m_changes ? m_changes->renew(error)
+                                   : !FileTransaction::isOpen(folder) || endInterrupted(folder, error);
+    if (!isReady) {
+        unlockSaved();
+    }
+    return isReady;
 }
 
 //! Do not keep others out between two saves.

@@ -55,6 +55,11 @@ QJsonObject newLine(const QString &name, const QString &digest)
     return {{u"file"_s, name}, {u"new"_s, digest}};
 }
 
+QJsonObject commitLine(const QString &file, const QVariantMap &removed)
+{
+    return {{u"file"_s, file}, {u"removed"_s, QJsonObject::fromVariantMap(removed)}};
+}
+
 } // namespace
 
 FileJournal::FileJournal(const QString &folder)
@@ -273,7 +278,20 @@ bool FileJournal::addRenaming(const QString &name)
 
 bool FileJournal::addCommit(const QString &file, const QVariantMap &removed)
 {
-    return append({{u"file"_s, file}, {u"removed"_s, QJsonObject::fromVariantMap(removed)}});
+    return append(commitLine(file, removed));
+}
+
+bool FileJournal::withdrawCommit()
+{
+    QFile journal(privatePath(journalName));
+    const QByteArray commit = bytesOf(commitLine(m_file, m_removed));
+    if (!journal.open(QIODevice::ReadWrite | QIODevice::Unbuffered)
+        || !journal.resize(journal.size() - commit.size()) || fsync(journal.handle()) != 0) {
+        return false;
+    }
+    m_file.clear();
+    m_removed.clear();
+    return true;
 }
 
 bool FileJournal::remove() const

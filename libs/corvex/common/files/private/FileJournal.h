@@ -72,6 +72,8 @@ public:
     bool addRenaming(const QString &name);
     //! Records that from now on a recovery completes the transaction and no longer undoes it.
     bool addCommit(const QString &file, const QVariantMap &removed);
+    //! Removes the commit, which must be the last line.
+    bool withdrawCommit();
 
     //! The name of the folder when the transaction began, and the names it was to get since.
     const QString &folderName() const { return m_folderName; }

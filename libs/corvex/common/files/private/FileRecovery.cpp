@@ -42,19 +42,20 @@ bool FileRecovery::isOurs(const QString &name) const
     return exists(path) && m_journal.newFiles().value(name).contains(FileJournal::digestOf(path));
 }
 
-bool FileRecovery::bringDraft() const
+bool FileRecovery::bringDraft()
 {
     const QString draft = m_journal.privatePath(u"draft"_s);
+    const QString path = m_journal.pathOf(m_journal.committedFile());
     // A link would become the project's file, wherever it leads.
     if (!QFileInfo(draft).isFile() || QFileInfo(draft).isSymLink()) {
-        return true; // already in place
-    }
-    const QString path = m_journal.pathOf(m_journal.committedFile());
-    if (QFileInfo(path).isSymLink()) {
+        m_isDraftInPlace = true; // by an earlier call
+    } else if (QFileInfo(path).isSymLink()) {
         QFile file(draft);
-        return file.open(QIODevice::ReadOnly) && FileHelper::writeFile(path, file.readAll());
+        m_isDraftInPlace = file.open(QIODevice::ReadOnly) && FileHelper::writeFile(path, file.readAll());
+    } else {
+        m_isDraftInPlace = FileSync::replace(draft, path);
     }
-    return FileSync::replace(draft, path) && FileSync::sync(m_journal.folder());
+    return m_isDraftInPlace && FileSync::sync(m_journal.folder());
 }
 
 bool FileRecovery::finish()

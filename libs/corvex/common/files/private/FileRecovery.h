@@ -19,6 +19,8 @@ public:
 
     // These return false with errno on failure; the journal remains.
     bool finish();
+    //! Whether finish() has replaced the committed file.
+    bool isDraftInPlace() const { return m_isDraftInPlace; }
     //! Undoes everything but changes of files whose old contents are lost. If there are any, the journal
     //! remains with their names.
     bool undo();
@@ -32,7 +34,7 @@ public:
 
 private:
     bool isOurs(const QString &name) const;
-    bool bringDraft() const;
+    bool bringDraft();
     bool restore(const QString &name, const QString &copy) const;
     bool put(const QString &copy, const QString &path) const;
     bool isUndone(const QString &name) const;
@@ -42,6 +44,7 @@ private:
     bool showForeign() const;
 
     FileJournal &m_journal;
+    bool m_isDraftInPlace = false;
 };
 
 } // namespace Halvane::Corvex::Common

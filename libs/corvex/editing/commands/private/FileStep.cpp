@@ -48,18 +48,28 @@ bool FileStep::isUsed(const QString &name) const
     return m_project && m_project->imageResources()->hasListItem(name);
 }
 
-void FileStep::removeUnused(const QString &name) const
+void FileStep::removeUnused(const QString &digest) const
 {
     QString error;
-    if (const QString path = pathOf(name); !path.isEmpty() && exists(path) && !isUsed(name)) {
+    if (!path().isEmpty() && exists(path()) && !isUsed(m_name) && Common::FileHelper::md5(path()) == digest) {
         if (Common::FileTransaction *files = changes(error)) {
-            files->remove(inFolder(name));
+            files->remove(inFolder(m_name));
         }
     }
 }
 
 Common::FileTransaction *FileStep::changes(QString &error) const
 {
+    const QString images = QFileInfo(m_project->imagesPath()).canonicalFilePath();
+    const QString folder = QFileInfo(m_project->folderPath()).canonicalFilePath();
+    if (!images.isEmpty() && !images.startsWith(folder + u'/')) {
+        error =
+            LocalizationHelper::coreString(
+                u"The folder \"%1\" is a link to \"%2\". Images can only be changed inside the project. Copy "
+                "the folder into it."_s)
+                .arg(m_project->imagesPath(), images);
+        return nullptr;
+    }
     return m_project->beginFileChanges(&error);
 }
 
@@ -154,6 +164,7 @@ bool PlaceFileStep::place(Common::FileTransaction &files, QString &error)
     }
     m_isMade = files.place(inFolder(name()), bytes, &error);
     if (m_isMade) {
+        m_digest = Common::FileHelper::md5(path());
         m_stored.reset();
         m_key.clear();
     }
@@ -188,14 +199,6 @@ bool LeaveFileStep::redo(QString &error)
     m_digest = Common::FileHelper::md5(path());
     m_isDone = true;
     return true;
-}
-
-//! Whether other steps have used the name since.
-bool LeaveFileStep::isTaken() const
-{
-    const Common::FileTransaction *files = project() ? project()->fileChanges() : nullptr;
-    return isUsed(name())
-           || (files && files->hasPlaced(inFolder(name())) && Common::FileHelper::md5(path()) != m_digest);
 }
 
 bool LeaveFileStep::undo(QString &error)
@@ -246,16 +249,17 @@ bool LeaveFileStep::keepFiles(Common::FileStore &store, QString &error)
         m_key = m_stored ? QString() : m_key;
         return m_stored != nullptr;
     }
-    if (m_isSaved) {
-        return true;
-    }
-    // A step that takes the name finds the file and leaves it at its undo.
-    if (exists(path()) && !isTaken()) {
+    // A step that takes the name finds the file and leaves it at its undo. Other programs may have written
+    // it.
+    const bool isOurs = exists(path()) && !isUsed(name()) && Common::FileHelper::md5(path()) == m_digest;
+    if (isOurs && !m_isSaved) {
         m_stored = store.keep(path(), &error);
         if (!m_stored) {
             return false;
         }
-        removeUnused(name());
+    }
+    if (isOurs && m_stored) {
+        removeUnused(m_digest); // also after a save that failed
     }
     m_isSaved = true;
     return true;
@@ -266,7 +270,7 @@ void LeaveFileStep::cleanJunkFiles()
     if (!m_key.isEmpty()) {
         discard(m_key);
     } else if (!m_isSaved || !m_isDone) {
-        removeUnused(name());
+        removeUnused(m_digest);
     }
 }
 
@@ -290,7 +294,7 @@ void PlaceFileStep::cleanJunkFiles()
     if (!m_key.isEmpty()) {
         discard(m_key);
     } else if (m_isMade) {
-        removeUnused(name());
+        removeUnused(m_digest);
     }
 }
 

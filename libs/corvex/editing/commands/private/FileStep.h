@@ -32,7 +32,9 @@ protected:
     QString pathOf(const QString &name) const;
     //! Whether an image of the project shows that file.
     bool isUsed(const QString &name) const;
-    void removeUnused(const QString &name) const;
+    //! Removes the file if no image shows it, unless another program has written it since: \a digest is that
+    //! of the contents that the step left.
+    void removeUnused(const QString &digest) const;
     //! The transaction for file changes, which is started if necessary; null, with an error, on failure.
     Common::FileTransaction *changes(QString &error) const;
     //! The path of a file in the images folder of the transaction.
@@ -81,6 +83,7 @@ private:
     QString m_source;
     QByteArray m_bytes;
     QString m_key;         //!< of the file that is set aside while the step is undone
+    QString m_digest;      //!< of the file that it made
     Stored m_stored;       //!< the same, if the project has been saved since
     bool m_isMade = false; //!< created by this step, so that it may be removed
     bool m_isDone = false;
@@ -100,7 +103,6 @@ public:
 
 private:
     bool placeStored(QString &error);
-    bool isTaken() const;
 
     Stored m_stored;  //!< the file, after a save deleted it
     QString m_key;    //!< of the file that a later redo has set aside
