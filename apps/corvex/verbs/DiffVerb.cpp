@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/words/ProjectDiff.h"
+#include "corvex/editing/words/ReadableValue.h"
 #include "corvex/project/Project.h"
 
 #include "ProjectFile.h"
@@ -16,7 +17,22 @@ namespace {
 
 using Designer::Project;
 using Designer::ProjectDiff;
+using Designer::ReadableValue;
 using Difference = ProjectDiff::Difference;
+
+//! Values in the form that people write, unless these look alike.
+Difference readable(Difference difference)
+{
+    if (difference.oldProperty) {
+        const QString before = ReadableValue::print(*difference.oldProperty);
+        const QString after = ReadableValue::print(*difference.newProperty);
+        if (before != after) {
+            difference.before = before;
+            difference.after = after;
+        }
+    }
+    return difference;
+}
 
 QString lineOf(const Difference &difference)
 {
@@ -58,7 +74,8 @@ void print(const QList<Difference> &differences, const Call &call)
         return;
     }
     for (const Difference &difference : differences) {
-        call.terminal().print(Terminal::oneLine(lineOf(difference)));
+        call.terminal().print(
+            Terminal::oneLine(lineOf(call.isSet(u"raw"_s) ? difference : readable(difference))));
     }
 }
 
@@ -131,7 +148,8 @@ ExitCode run(const Call &call)
 QList<QCommandLineOption> options()
 {
     return {QCommandLineOption(u"git"_s, u"Accept the arguments that git passes, and exit with 0 for any two "
-                                         "projects that can be read."_s)};
+                                         "projects that can be read."_s),
+            rawOption()};
 }
 
 } // namespace
@@ -144,7 +162,8 @@ const Verb diffVerb{
         [] {
             return uR"(Compares two projects object by object; objects with the same name in the same list are the
 same object. Prints one line for everything that was added, removed, renamed or moved, and for
-every changed value. In JSON each has "kind", "class", "path" and, where both sides exist,
+every changed value. Values are in the form that people write; --raw prints the stored texts, and
+so does JSON. There each has "kind", "class", "path" and, where both sides exist,
 "old" and "new". If both files exist, an image with the same name and other contents counts as
 changed. The exit code is 0 if the projects are equal and 1 if they differ.
 

@@ -90,7 +90,7 @@ const Verb editVerb{
             return uR"(Reads one edit per line from SCRIPT, or from standard input, and saves the project when all
 have succeeded. If any line is wrong, the project stays unchanged and every wrong line is
 reported. Each edit also updates what depends on it, such as the references to a renamed object.
-    set PATH VALUE                   a value: the rest of the line as it is, or in quotes
+    set PATH VALUE                   a value: the rest of the line as it is, or in quotes; PATH = VALUE
     add CLASS TO [NAME]              a new object in a screen, a group, a list or the project
     delete PATH...                   objects, and all references to them
     rename PATH NAME                 anything that has a name
@@ -100,6 +100,14 @@ reported. Each edit also updates what depends on it, such as the references to a
     model NAME                       another device model
     filter NAME PATH...              a filter that lists these elements
     undo [N], redo [N], print PATH
+A value has the form that "corvex tree" prints, or the stored form. Expressions:
+    set Main.bar.yBinding = max(0, 100 - level * 2)
+    set Main.title.textBinding = concat("Level ", level, " %")
+    set Main.lamp.visibleBinding = level > limit and not acknowledged
+    set Main.button.pressed = alarm = false; Main.lamp.color = #2E8B57
+    set Main.logic.logicExpression = when level > 90 do alarm = true when level < 80 do alarm = false
+Others: 120 x 40, 10, 20, 0 to 100, #C62828, bold 24px "DejaVu Sans", pump.png,
+{ lamp.color: red; lamp.visible: true }.
 Empty lines and lines that start with "#" are ignored. Errors that only follow from another wrong
 line are not reported.)"_s;
         },

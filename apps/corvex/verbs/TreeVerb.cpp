@@ -2,6 +2,7 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/editing/words/ProjectPath.h"
+#include "corvex/editing/words/ReadableValue.h"
 #include "corvex/project/Project.h"
 
 #include "ProjectFile.h"
@@ -46,12 +47,17 @@ bool isShown(const DesignerProperty &property)
     return property.hasFlag(StoredFlag) && !property.isList() && !property.isObject();
 }
 
+QString textOf(const DesignerProperty &property, const Call &call)
+{
+    return call.isSet(u"raw"_s) ? property.valueString() : ReadableValue::print(property);
+}
+
 //! "Text label1": one line for each object, indented below its owner.
 class TextPrinter
 {
 public:
-    explicit TextPrinter(Terminal &terminal)
-        : m_terminal(terminal)
+    explicit TextPrinter(const Call &call)
+        : m_call(call)
     { }
 
     //! The next object is printed with its values.
@@ -66,7 +72,7 @@ public:
         }
         for (const SharedProperty &property : object.properties()) {
             if (isShown(*property)) {
-                print(u"%1 = %2"_s.arg(property->id(), property->valueString()));
+                print(u"%1 = %2"_s.arg(property->id(), textOf(*property, m_call)));
             }
         }
     }
@@ -79,10 +85,10 @@ public:
 private:
     void print(const QString &text)
     {
-        m_terminal.print(QString(2 * m_depth, u' ') + Terminal::oneLine(text));
+        m_call.terminal().print(QString(2 * m_depth, u' ') + Terminal::oneLine(text));
     }
 
-    Terminal &m_terminal;
+    const Call &m_call;
     qsizetype m_depth = 0;
     bool m_showsValues = false;
 };
@@ -145,7 +151,7 @@ void printObject(const DesignerObject &object, bool withValues, const Call &call
         walk(object, printer);
         return;
     }
-    TextPrinter printer(call.terminal());
+    TextPrinter printer(call);
     if (withValues) {
         printer.showValues();
     }
@@ -165,14 +171,14 @@ void printList(const ItemList &list, const Call &call)
         json.endObject();
         return;
     }
-    TextPrinter printer(call.terminal());
+    TextPrinter printer(call);
     walkItems(list, printer);
 }
 
 void printValue(const DesignerProperty &property, const Call &call)
 {
     if (!call.asJson()) {
-        call.terminal().print(property.valueString());
+        call.terminal().print(textOf(property, call));
         return;
     }
     JsonWriter &json = call.json();
@@ -217,11 +223,13 @@ the top down, joined with ".", and may end with the id of a property. "Main" sho
 "Main.pump1" shows its element pump1 with its properties and everything below it, and
 "Main.pump1.position" prints only that value. Elements in a group appear below the group. The
 path of a variable or an image is its name. The id of a list ("screens") shows the contents of
-the list. In JSON each object has "class", "name", "properties" and "children".)"_s;
+the list. Values are in the form that people write and "corvex edit" reads; --raw prints the stored
+texts, and so does JSON. There each object has "class", "name", "properties" and "children".)"_s;
         },
     .example = "corvex tree examples/PumpStation/PumpStation.kdproj",
     .mostArguments = 2,
     .opensProjects = true,
+    .options = [] { return QList<QCommandLineOption>{rawOption()}; },
     .run = onProject<run>,
 };
 

@@ -51,6 +51,9 @@ extern const Verb treeVerb;
 extern const Verb usesVerb;
 extern const Verb valueVerb;
 
+//! --raw, for verbs that print values.
+QCommandLineOption rawOption();
+
 //! All verbs, in the order of the help page.
 const QList<const Verb *> &allVerbs();
 //! Null if there is no such verb.

@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "verbs/Verb.h"
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Tool {
+
+QCommandLineOption rawOption()
+{
+    return QCommandLineOption(u"raw"_s, u"Print values as they are stored in the file."_s);
+}
 
 const QList<const Verb *> &allVerbs()
 {

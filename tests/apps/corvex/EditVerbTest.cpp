@@ -91,9 +91,9 @@ delete Main.title Main.box3 boxes Other rate two.png
     const ProgramRun done = edit(QByteArray(script).replace(" boxes Other", " Main.boxes Other")
                                  + "undo 2\nredo\nprint Main.press.visualElement\n");
     EXPECT_EQ(done.error, QString());
-    EXPECT_EQ(done.out, u"filterType: VisualElement; objectId: tank; scopeType: Screen;\n"_s);
+    EXPECT_EQ(done.out, u"tank\n"_s);
     EXPECT_EQ(done.code, 0);
-    EXPECT_EQ(tree(u"Main.tank.position"_s), u"x: 10; y: 20;"_s);
+    EXPECT_EQ(tree(u"Main.tank.position"_s), u"10, 20"_s);
     EXPECT_EQ(sandbox.run({u"fmt"_s, pump, u"--check"_s}).code, 0);
 
     // Back to a project without images.
@@ -119,7 +119,7 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
          "There is no property \"Main.nothing.text\". \"corvex tree FILE Main\" shows what exists."},
         {"set Main.titel.text x",
          "There is no property \"Main.titel.text\". Did you mean \"Main.title.text\"?"},
-        {"set Main.title.position far", "position takes a text such as \"x: 0; y: 0;\", not \"far\"."},
+        {"set Main.title.position far", "position takes a position such as 10, 20, not \"far\"."},
         {"set Main.title.opacity much", "opacity takes a number from 10 to 100, not \"much\"."},
         {"set Main.title.visible maybe", "visible takes true or false, not \"maybe\"."},
         {"set Main.box1 far", "\"Main.box1\" is an object, but a property is needed, such as "
@@ -266,9 +266,7 @@ added Text Main.note
                    "group trio First.note First.press\n")
                   .error,
               QString());
-    EXPECT_EQ(
-        sandbox.run({u"diff"_s, old, pump}).out,
-        uR"(changed defaultScreen: filterType: Screen; objectId: Main; scopeType: Project; -> filterType: Screen; objectId: First; scopeType: Project;
+    EXPECT_EQ(sandbox.run({u"diff"_s, old, pump}).out, uR"(changed defaultScreen: Main -> First
 renamed Main: Main -> First
 renamed Main.pair: pair -> couple
 changed Main.pair.title.text: new -> old

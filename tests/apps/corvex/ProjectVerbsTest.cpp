@@ -106,13 +106,13 @@ TEST(TreeVerb, ShowsObjectsAndValues)
         QString path;
         QString out; //!< its first line
     } cases[] = {
-        {u"Main.group1.box1.position"_s, u"x: 10; y: 20.5;"_s},
+        {u"Main.group1.box1.position"_s, u"10, 20.5"_s},
         {u"Main.group1"_s, u"GroupElement group1"_s},
         {u"Main.title.text"_s, u"Pump %1 \"A\""_s},
         {u"speed.id"_s, u"filterType: NumberVariable; name: speed; scopeType: Project;"_s},
         {u"pump.png"_s, u"ImageResource pump.png"_s},
         {u"pump.png.id"_s, u"filterType: ImageResource; name: pump.png; scopeType: Project;"_s},
-        {u"configuration.screenSize"_s, u"height: 272; width: 480;"_s},
+        {u"configuration.screenSize"_s, u"480 x 272"_s},
         {u"VTR 50-K.displayBrightness"_s, u"100"_s},
         {u"variables"_s, u"NumberVariable speed"_s},
         {u"designerVersion"_s, u"4.0.0"_s},

@@ -2,6 +2,7 @@
 // Edits in words as seen by programs other than the command line. The tests of the command line check each
 // edit and the texts of all refusals.
 #include "corvex/editing/words/EditScript.h"
+#include "corvex/editing/words/ProjectPath.h"
 
 #include "editing/commands/CommandFixture.h"
 
@@ -55,6 +56,100 @@ TEST_F(EditScriptTest, APlanChangesNothingUntilItsCommandIsPushed)
     }
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(stack().count(), 1);
+}
+
+TEST_F(EditScriptTest, ValuesAreReadAndPrintedAsPeopleWriteThem)
+{
+    EditScript script(*project, [] { return false; });
+    const struct
+    {
+        QString path;
+        QString given;
+        QString printed; //!< empty: as given
+        QString stored;  //!< empty: not compared
+    } values[] = {
+        {u"text1.textBinding"_s,
+         u"concat(\"Level \", speed)"_s,
+         {},
+         u"<0502concat><0207TGV2ZWwg><0101,><0406speed><0101)>"_s},
+        {u"text1.textBinding"_s, u"\"Level\""_s, {}, u"0207TGV2ZWw="_s},
+        {u"text1.textBinding"_s,
+         u"<0403on><0101?><0207YQ==><0101:><0207Yg==>"_s,
+         u"on ? \"a\" : \"b\""_s,
+         {}},
+        {u"text1.textBinding"_s, u"\"0403on\""_s, u"on"_s, u"0403on"_s},
+        {u"text1.colorBinding"_s, u"on ? \"red\" : \"green\""_s, {}, {}},
+        {u"text1.colorBinding"_s, u"#C62828"_s, {}, u"0208FFC62828"_s},
+        {u"rectangle1.visibleBinding"_s,
+         u"speed > 10 and not Main.text1.visible"_s,
+         u"speed > 10 and Main.text1.visible == false"_s,
+         {}},
+        {u"rectangle1.xBinding"_s,
+         u"getLogMax(history) + rectangle2.x * 2"_s,
+         {},
+         u"<0502getLogMax><040Ahistory><0101)><0101+><0306rectangle2.x><0101*><02042>"_s},
+        {u"button1.pressed"_s,
+         u"on = true; history = speed"_s,
+         {},
+         u"<0403on><02031><0406history><0406speed>"_s},
+        {u"propertyTrigger1.dataValues"_s,
+         u"speed, rectangle1.visible"_s,
+         {},
+         u"<0406speed><0303rectangle1.visible>"_s},
+        {u"logicBuilder1.logicExpression"_s,
+         u"when on do speed = 1 when speed > 2 do on = false"_s,
+         {},
+         u"0403on|<0406speed><02041>, <0406speed><0101>><02042>|<0403on><02030>"_s},
+        {u"checkButton1.checkedState"_s,
+         u"{ text1.text: \"a; b\"; text1.size: 30 x 20; image1.opacity: 40 }"_s,
+         {},
+         {}},
+        {u"action1.propertyChanges"_s, u"{ text1.color: red }"_s, u"{ text1.color: #FF0000 }"_s,
+         u"elementName: text1; propertyName: color; valueString: I0ZGRkYwMDAw;"_s},
+        {u"image1.source"_s, u"pump.png"_s, {}, {}},
+        {u"rectangle1.size"_s, u"120 x 40"_s, {}, u"height: 40; width: 120;"_s},
+        {u"rectangle1.position"_s, u"x: 3; y: 4;"_s, u"3, 4"_s, {}},
+        {u"text1.font"_s, u"bold 24px \"DejaVu Sans\""_s, {}, {}},
+    };
+    for (const auto &[path, given, printed, stored] : values) {
+        for (const QString &sign : {u"="_s, QString()}) {
+            const QString line = u"set Main.%1 %2 %3"_s.arg(path, sign, given);
+            EditPlan plan = script.plan(line);
+            ASSERT_FALSE(plan.isRefused()) << qPrintable(line + u'\n' + plan.refusal.message);
+            EXPECT_EQ(bool(plan.command), !sign.isEmpty()) << qPrintable(line);
+            EXPECT_TRUE(!plan.command || stack().push(plan.command.release()))
+                << qPrintable(stack().errorString());
+        }
+        EXPECT_EQ(script.plan(u"print Main."_s + path).output,
+                  QStringList(printed.isEmpty() ? given : printed));
+        const SharedProperty property = ProjectPath::find(*project, u"Main."_s + path).property;
+        EXPECT_TRUE(stored.isEmpty() || property->valueString() == stored)
+            << qPrintable(property->valueString());
+    }
+
+    const struct
+    {
+        QString line;
+        QString message; //!< a part of it
+    } refusals[] = {
+        {u"set Main.text1.textBinding concat(\"Level \", sped)"_s, u"Did you mean \"speed\"?"_s},
+        {u"set Main.text1.textBinding concat(\"Level \", speed"_s,
+         u"At the end: The expression is incomplete."_s},
+        {u"set Main.text1.textBinding speed > 3 ? \"a\" : \"b\""_s, u"Only a boolean variable"_s},
+        {u"set Main.rectangle1.visibleBinding on and rectangle2.visble"_s, u"\"rectangle2.visible\""_s},
+        {u"set Main.checkButton1.checkedState { text1.text }"_s, u"{ element.property: value"_s},
+        {u"set Main.checkButton1.checkedState { text1.textBinding: sped }"_s,
+         u"text1.textBinding: At \"sped\""_s},
+        {u"set Main.logicBuilder1.logicExpression when on and do speed = 1"_s, u"incomplete"_s},
+    };
+    for (const auto &[line, message] : refusals) {
+        const EditPlan plan = script.plan(line);
+        EXPECT_TRUE(plan.refusal.message.contains(message))
+            << qPrintable(line + u'\n' + plan.refusal.message);
+    }
+    EXPECT_FALSE(stack().push(script.plan(u"set Main.rectangle1.size 120"_s).command.release()));
+    EXPECT_TRUE(stack().errorString().contains(u"a size such as 120 x 40"_s))
+        << qPrintable(stack().errorString());
 }
 
 } // namespace Halvane::Corvex::Designer::Test

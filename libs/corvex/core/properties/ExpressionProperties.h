@@ -4,6 +4,7 @@
 #include "corvex/common/Export.h"
 #include "corvex/core/properties/TypedProperty.h"
 #include "corvex/values/expressions/ConditionInfo.h"
+#include "corvex/values/expressions/ExpressionPurpose.h"
 #include "corvex/values/expressions/GeneralDataInfo.h"
 #include "corvex/values/expressions/GeneralDataList.h"
 #include "corvex/values/expressions/PropertyChangeInfo.h"
@@ -42,6 +43,11 @@ class CORVEX_EXPORT GeneralDataListProperty : public TypedProperty<GeneralDataLi
 
 public:
     using TypedProperty::TypedProperty;
+
+    //! How \a terms are used if they are the value. The editor determines it, and for a color whether the
+    //! terms select one.
+    ExpressionPurpose purpose(const GeneralDataList &terms) const;
+    ExpressionPurpose purpose() const { return purpose(value()); }
 };
 
 //! Two comparisons of a value; in QML the function that evaluates them.

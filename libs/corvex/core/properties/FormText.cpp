@@ -29,6 +29,21 @@ QString of(const QColor &)
     return LocalizationHelper::coreString(u"a color such as \"#FF8800\" or \"red\""_s);
 }
 
+QString of(const QFont &)
+{
+    return LocalizationHelper::coreString(u"a font such as bold 24px \"DejaVu Sans\""_s);
+}
+
+QString of(const QPointF &)
+{
+    return LocalizationHelper::coreString(u"a position such as 10, 20"_s);
+}
+
+QString of(const QSizeF &)
+{
+    return LocalizationHelper::coreString(u"a size such as 120 x 40"_s);
+}
+
 QString example(const QString &text)
 {
     return text.isEmpty() ? LocalizationHelper::coreString(u"a text in the expected format"_s)

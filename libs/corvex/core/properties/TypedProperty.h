@@ -105,10 +105,7 @@ protected:
 
     QString formText() const override
     {
-        if constexpr (
-            std::is_same_v<
-                Value,
-                int> || std::is_same_v<Value, double> || std::is_same_v<Value, bool> || std::is_same_v<Value, QColor>) {
+        if constexpr (FormText::HasForm<Value>) {
             return FormText::of(m_value);
         } else {
             return DesignerProperty::formText();

@@ -8,6 +8,7 @@
 
 namespace Halvane::Corvex::Designer {
 
+class DesignerProperty;
 class Project;
 
 /*! The differences between two projects: added, removed, renamed and moved objects, and changed values.
@@ -29,6 +30,9 @@ public:
         QString className;
         QString before; //!< the old value, name or position; for an object of an unknown class, its XML
         QString after;
+        // For a changed value its property on both sides, which the projects own; otherwise null.
+        const DesignerProperty *oldProperty = nullptr;
+        const DesignerProperty *newProperty = nullptr;
     };
 
     ProjectDiff(const Project &before, const Project &after);

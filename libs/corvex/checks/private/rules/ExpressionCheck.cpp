@@ -15,10 +15,6 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The editor of an expression determines its purpose.
-constexpr auto conditionEditor = "VerticalBooleanExpressionEditor"_L1;
-constexpr auto assignmentEditor = "PropertyChangesEditor"_L1;
-
 //! Whether a value of one type can be converted to the other. For a constant text the value is checked.
 bool canHold(ValueType target, ValueType type, const GeneralDataInfo &source)
 {
@@ -80,9 +76,9 @@ void ExpressionCheck::look(const DesignerProperty &property)
             return;
         }
         lookAtTerms(property, terms);
-        if (property.editor() == assignmentEditor) {
+        if (const ExpressionPurpose purpose = expression->purpose(); purpose.isAssignment()) {
             lookAtAssignments(property, terms);
-        } else if (property.editor() == conditionEditor) {
+        } else if (purpose.kind == GeneralDataList::BoolExpression) {
             lookAtCondition(property, terms);
         }
         return;

@@ -4,6 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerFactory.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/editing/commands/ChangeConfiguration.h"
 #include "corvex/editing/commands/Commands.h"
 #include "corvex/editing/commands/CompositeCommand.h"
@@ -22,6 +23,7 @@
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/editing/words/EditLine.h"
 #include "corvex/editing/words/ProjectPath.h"
+#include "corvex/editing/words/ReadableValue.h"
 #include "corvex/editing/words/Suggestion.h"
 #include "corvex/editing/words/private/Explanation.h"
 #include "corvex/hardware/Configuration.h"
@@ -32,6 +34,7 @@
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/FilterElement.h"
 #include "corvex/project/files/FileNameRules.h"
+#include "corvex/values/expressions/ExpressionText.h"
 #include "corvex/values/records/ListInfo.h"
 
 #include <QFileInfo>
@@ -61,6 +64,21 @@ template<class... Arguments>
 void refuse(EditPlan &plan, const QString &english, const Arguments &...arguments)
 {
     plan.refusal = {text(english, arguments...)};
+}
+
+//! The value of a "set", behind an optional "=". A single word may be in quotes, except in an expression,
+//! where these make it a text.
+QString valueIn(const EditCall &call, const DesignerProperty &property)
+{
+    QString rest = call.rest;
+    QStringList words = call.words.sliced(1);
+    if (words.size() > 1 && words.first() == u'=' && rest.startsWith(u'=')) {
+        words.removeFirst();
+        rest = rest.sliced(1).trimmed();
+    }
+    const bool isText = propertyCast<GeneralDataListProperty>(&property) && !words.isEmpty()
+                        && !ExpressionText::isStored(words.first());
+    return words.size() == 1 && !isText ? words.first() : rest;
 }
 
 DesignerObject *make(const QString &className, const QString &name)
@@ -211,11 +229,21 @@ void EditPlanner::set(const EditCall &call, EditPlan &plan) const
     } else if (!property->hasFlag(StoredFlag)) {
         refuse(plan, u"\"%1\" cannot be set; it depends on other values."_s, path);
     } else {
-        const QString value = call.words.size() == 2 ? call.words.at(1) : call.rest;
-        plan.defaultReason = text(u"\"%1\" does not accept \"%2\"."_s, path, value);
-        if (property->valueString() != value) {
-            take(std::make_unique<ChangeProperty>(property, value, false), plan);
-        }
+        setValue(property, call, plan);
+    }
+}
+
+void EditPlanner::setValue(const SharedProperty &property, const EditCall &call, EditPlan &plan) const
+{
+    const QString &path = call.words.first();
+    const ReadableValue::Reading value = ReadableValue::read(*property, valueIn(call, *property));
+    if (!value.error.isEmpty()) {
+        refuse(plan, u"\"%1\": %2"_s, path, value.error);
+        return;
+    }
+    plan.defaultReason = text(u"\"%1\" does not accept \"%2\"."_s, path, value.stored);
+    if (property->valueString() != value.stored) {
+        take(std::make_unique<ChangeProperty>(property, value.stored, false), plan);
     }
 }
 
@@ -488,7 +516,7 @@ void EditPlanner::print(const EditCall &call, EditPlan &plan) const
     } else if (property->isList()) {
         plan.output.append(property->listItemNames().join(u", "_s));
     } else {
-        plan.output.append(property->valueString());
+        plan.output.append(ReadableValue::print(*property));
     }
 }
 

@@ -63,6 +63,7 @@ private:
 
     // The edits.
     void set(const EditCall &call, EditPlan &plan) const;
+    void setValue(const SharedProperty &property, const EditCall &call, EditPlan &plan) const;
     void add(const EditCall &call, EditPlan &plan) const;
     void remove(const EditCall &call, EditPlan &plan) const;
     void rename(const EditCall &call, EditPlan &plan) const;

@@ -140,7 +140,8 @@ void ProjectComparison::compareObjects(const DesignerObject &before, const Desig
         } else if (property->hasFlag(StoredFlag) && property->valueString() != other->valueString()
                    && (property != before.idProperty() || !before.listProperty())) {
             m_differences.append({ProjectDiff::Changed, pathOf(*property), before.className(),
-                                  property->valueString(), other->valueString()});
+                                  property->valueString(), other->valueString(), property.data(),
+                                  other.data()});
         }
     }
 }

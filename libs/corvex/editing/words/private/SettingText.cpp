@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/words/private/SettingText.h"
+
+#include "corvex/values/text/ObjectPath.h"
+#include "corvex/values/text/ReadableText.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+bool needsQuotes(const QString &value)
+{
+    const auto isSpecial = [](QChar c) { return c == u';' || c == u'}' || !c.isPrint(); };
+    return value.isEmpty() || value.front() == u'"' || value != value.trimmed()
+           || std::ranges::any_of(value, isSpecial);
+}
+
+//! The setting at \a place, which is moved behind it.
+std::optional<SettingText> takeSetting(QStringView text, qsizetype &place)
+{
+    const qsizetype colon = text.indexOf(u':', place);
+    if (colon < 0) {
+        return {};
+    }
+    const QString path = text.sliced(place, colon - place).trimmed().toString();
+    SettingText setting;
+    setting.property = ObjectPath::lastSegment(path).toString();
+    setting.element = path.chopped(std::min(path.size(), setting.property.size() + 1));
+    place = colon + 1;
+    while (place < text.size() && text[place].isSpace()) {
+        ++place;
+    }
+    if (place < text.size() && text[place] == u'"') {
+        setting.value = ReadableText::takeQuoted(text, place);
+        return setting.value.isNull() || setting.element.isEmpty() ? std::nullopt : std::optional(setting);
+    }
+    const qsizetype begin = place;
+    while (place < text.size() && text[place] != u';') {
+        ++place;
+    }
+    setting.value = text.sliced(begin, place - begin).trimmed().toString();
+    return setting.element.isEmpty() ? std::nullopt : std::optional(setting);
+}
+
+} // namespace
+
+QString SettingText::print(const QList<SettingText> &settings)
+{
+    QStringList parts;
+    for (const auto &[element, property, value] : settings) {
+        if (!ObjectPath::isValid(element) || !ObjectPath::isSegment(property)) {
+            return {};
+        }
+        parts +=
+            u"%1.%2: %3"_s.arg(element, property, needsQuotes(value) ? ReadableText::quoted(value) : value);
+    }
+    return parts.isEmpty() ? u"{ }"_s : u"{ %1 }"_s.arg(parts.join(u"; "_s));
+}
+
+std::optional<QList<SettingText>> SettingText::read(const QString &text)
+{
+    const QString trimmed = text.trimmed();
+    if (trimmed.size() < 2 || trimmed.front() != u'{' || trimmed.back() != u'}') {
+        return {};
+    }
+    const QString inside = trimmed.sliced(1, trimmed.size() - 2);
+    QList<SettingText> settings;
+    qsizetype place = 0;
+    const auto skipBlanks = [&] {
+        while (place < inside.size() && inside.at(place).isSpace()) {
+            ++place;
+        }
+        return place < inside.size();
+    };
+    while (skipBlanks()) {
+        const std::optional<SettingText> setting = takeSetting(inside, place);
+        if (!setting || (skipBlanks() && inside.at(place) != u';')) {
+            return {};
+        }
+        settings.append(*setting);
+        ++place;
+    }
+    return settings;
+}
+
+} // namespace Halvane::Corvex::Designer

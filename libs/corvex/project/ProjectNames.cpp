@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/project/ProjectNames.h"
+
+#include "corvex/project/Project.h"
+#include "corvex/project/Screen.h"
+#include "corvex/project/elements/Element.h"
+#include "corvex/values/text/ObjectPath.h"
+#include "corvex/variables/ProjectVariable.h"
+
+#include <algorithm>
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Info = GeneralDataInfo;
+using Common::EnumHelper;
+
+//! The type of terms for values of that type.
+Info::DataType termType(EnumHelper::VariableType type)
+{
+    for (int data = Info::BooleanData; data < Info::CommandData && type != EnumHelper::NoVariable; ++data) {
+        if (Info::isSameDataType(type, Info::DataType(data))) {
+            return Info::DataType(data);
+        }
+    }
+    return Info::NoData;
+}
+
+//! The value of a number variable can become an integer or a real number at any time.
+Info::DataType termType(const ProjectVariable &variable)
+{
+    const Info::DataType type = termType(variable.variableType());
+    return type == Info::IntegerData || type == Info::FloatData ? Info::NumberData : type;
+}
+
+} // namespace
+
+//! The element with that path, seen from the screen of the expression.
+const Element *ProjectNames::element(const QString &path) const
+{
+    if (const Element *found = m_screen ? m_screen->getElement(path) : nullptr) {
+        return found;
+    }
+    const QString first = ObjectPath::firstSegment(path).toString();
+    const DesignerObject *screen = m_project.screens()->getListItem(first);
+    return screen && first != path
+               ? static_cast<const Screen *>(screen)->getElement(path.sliced(first.size() + 1))
+               : nullptr;
+}
+
+std::optional<Info> ProjectNames::find(const QString &path) const
+{
+    const DesignerObject *variable = m_project.variables()->getListItem(path);
+    if (variable) {
+        return Info(Info::VariableValue, termType(static_cast<const ProjectVariable &>(*variable)), path);
+    }
+    const QString id = ObjectPath::lastSegment(path).toString();
+    const Element *owner = id == path ? nullptr : element(path.chopped(id.size() + 1));
+    if (!owner) {
+        return {};
+    }
+    const RuntimePropertyList properties = owner->runtimeProperties();
+    const auto property = std::ranges::find(properties, id, &RuntimeProperty::property);
+    return property == properties.end()
+               ? std::nullopt
+               : std::optional(Info(Info::ObjectValue, termType(property->type()), path));
+}
+
+QStringList ProjectNames::candidates(const QString &path) const
+{
+    const QString id = ObjectPath::lastSegment(path).toString();
+    const QString place = path.chopped(std::min(path.size(), id.size() + 1));
+    QStringList names;
+    if (const Element *owner = place.isEmpty() ? nullptr : element(place)) {
+        for (const RuntimeProperty &property : owner->runtimeProperties()) {
+            names.append(place + u'.' + property.property());
+        }
+        return names;
+    }
+    names = m_project.variables()->listItemNames();
+    for (const QString &name : m_screen ? m_screen->getElementNames() : QStringList()) {
+        names.append(place.isEmpty() ? name : name + u'.' + id);
+    }
+    return names;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/values/expressions/ExpressionText.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/values/expressions/ExpressionGrammar.h"
+#include "corvex/values/private/ExpressionPrinter.h"
+#include "corvex/values/private/ExpressionReader.h"
+#include "corvex/values/private/ExpressionWords.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Common::LocalizationHelper;
+using Info = GeneralDataInfo;
+using Token = ExpressionToken;
+using Words = ExpressionWords;
+
+constexpr ExpressionPurpose conditionPurpose{GeneralDataList::BoolExpression};
+constexpr ExpressionPurpose assignmentPurpose{GeneralDataList::AssignExpression};
+
+//! Why the terms have no code, with the place of the reason.
+ExpressionText::Error obstacle(const ExpressionReader &reader, const ExpressionPurpose &purpose)
+{
+    const GeneralDataList &terms = reader.terms();
+    const auto at = [&reader](qsizetype term, const QString &english) {
+        const auto [position, length] = reader.placeOf(term);
+        return ExpressionText::Error{position, length, LocalizationHelper::coreString(english), {}};
+    };
+    for (qsizetype i = 0; i < terms.count(); ++i) {
+        if (!ExpressionRules::allows(Words::grammarKind(purpose), terms.at(i))) {
+            return at(i, u"This cannot be used in this expression."_s);
+        }
+    }
+    if (purpose.isAssignment()) {
+        return terms.count() % 2 == 0 ? at(0, u"The values cannot be converted to those of their targets."_s)
+                                      : at(terms.count(), u"The last assignment has no value."_s);
+    }
+    const qsizetype misplaced = ExpressionGrammar::firstMisplaced(Words::grammarKind(purpose),
+                                                                  QList<Info>(terms.begin(), terms.end()));
+    if (misplaced == terms.count()) {
+        return at(misplaced, u"The expression is incomplete."_s);
+    }
+    if (misplaced >= 0) {
+        const bool isOperator = terms.at(misplaced).valueType() == Info::OperatorValue;
+        return at(misplaced, isOperator ? u"A value is missing before this."_s
+                                        : u"An operator is missing before this."_s);
+    }
+    for (qsizetype i = 1; i < terms.count(); ++i) {
+        const Info &condition = terms.at(i - 1);
+        const bool isNamed =
+            condition.valueType() == Info::ObjectValue || condition.valueType() == Info::VariableValue;
+        if (ExpressionGrammar::isOperator(terms.at(i), u'?')
+            && (!isNamed || condition.dataType() != Info::BooleanData)) {
+            return at(i - 1,
+                      u"Only a boolean variable or property can be before \"?\". Set a boolean variable "
+                      "to the comparison first, and use it here."_s);
+        }
+    }
+    for (qsizetype i = 0; i < terms.count(); ++i) {
+        GeneralDataList single({terms.at(i)});
+        if (single.toQmlString(purpose.output, purpose.kind).isEmpty()
+            && terms.at(i).valueType() != Info::OperatorValue
+            && terms.at(i).valueType() != Info::FunctionValue) {
+            return at(i, u"This cannot be converted to the result of the expression."_s);
+        }
+    }
+    return at(0, u"The device has no code for this expression."_s);
+}
+
+} // namespace
+
+bool ExpressionText::isStored(const QString &text)
+{
+    return text.startsWith(u'<') || (text.size() > 1 && text.front() == u'0' && text[1].isDigit());
+}
+
+ExpressionText::Reading ExpressionText::read(const QString &text, const ExpressionPurpose &purpose,
+                                             const ExpressionNames &names)
+{
+    ExpressionReader reader(text, purpose, names);
+    reader.read();
+    const GeneralDataList &terms = reader.terms();
+    const bool hasCode =
+        terms.isEmpty() || purpose.isTermList
+        || (terms.isComplete(purpose.kind) && !terms.toQmlString(purpose.output, purpose.kind).isEmpty());
+    if (!reader.error() && !hasCode) {
+        return {terms, obstacle(reader, purpose)};
+    }
+    return {terms, reader.error()};
+}
+
+QString ExpressionText::print(const GeneralDataList &terms, const ExpressionPurpose &purpose,
+                              const ExpressionNames &names)
+{
+    const QString text = ExpressionPrinter(purpose, names).print(terms);
+    ExpressionReader reader(text, purpose, names);
+    reader.read();
+    return isStored(text) || reader.error() || reader.terms() != terms ? QString() : text;
+}
+
+ExpressionText::RuleReading ExpressionText::readRules(const QString &text, const ExpressionNames &names)
+{
+    RuleReading reading;
+    const auto fail = [&reading](const Token &token, const QString &english) {
+        reading.rules.clear();
+        reading.error = {token.position, token.length, LocalizationHelper::coreString(english), {}};
+        return reading;
+    };
+    const QString form = u"Rules have the form \"when condition do target = source\"."_s;
+    ExpressionLexer lexer(text);
+    Token token = lexer.next(true);
+    TextPair rule;
+    const auto isWord = [&token](QLatin1StringView word) {
+        return token.type == Token::Name && !token.isQuoted && token.text == word;
+    };
+    while (token.type != Token::End) {
+        if (!isWord(Words::ruleBegin)) {
+            return fail(token, form);
+        }
+        for (const QLatin1StringView end : {Words::ruleEffect, Words::ruleBegin}) {
+            const bool isCondition = end == Words::ruleEffect;
+            const qsizetype begin = token.position + token.length;
+            do {
+                token = lexer.next(true);
+            } while (token.type != Token::End && !isWord(Words::ruleBegin) && !isWord(Words::ruleEffect));
+            if ((isCondition || token.type != Token::End) && !isWord(end)) {
+                return fail(token, form);
+            }
+            const Reading part = read(text.sliced(begin, token.position - begin),
+                                      isCondition ? conditionPurpose : assignmentPurpose, names);
+            if (part.error) {
+                reading.rules.clear();
+                reading.error = part.error;
+                reading.error->position += begin;
+                return reading;
+            }
+            (isCondition ? rule.first : rule.second) = part.terms.toString();
+        }
+        reading.rules.append(rule);
+    }
+    return reading;
+}
+
+QString ExpressionText::printRules(const PairList &rules, const ExpressionNames &names)
+{
+    QStringList parts;
+    for (const TextPair &rule : rules) {
+        const QString condition = print(GeneralDataList(rule.first), conditionPurpose, names);
+        const QString effect = print(GeneralDataList(rule.second), assignmentPurpose, names);
+        if (condition.isNull() || effect.isNull()) {
+            return {};
+        }
+        parts += u"%1 %2 %3 %4"_s.arg(Words::ruleBegin, condition, Words::ruleEffect, effect);
+    }
+    return parts.isEmpty() ? u""_s : parts.join(u' ');
+}
+
+} // namespace Halvane::Corvex::Designer

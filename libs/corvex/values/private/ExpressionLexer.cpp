@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/values/private/ExpressionLexer.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/values/expressions/ExpressionVocabulary.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Common::LocalizationHelper;
+using Token = ExpressionToken;
+
+constexpr struct
+{
+    char16_t letter;
+    char16_t character;
+} escapes[] = {{u'n', u'\n'}, {u't', u'\t'}, {u'r', u'\r'}, {u'"', u'"'}, {u'\'', u'\''}, {u'\\', u'\\'}};
+
+bool beginsName(QChar c)
+{
+    return c.isLetter() || c == u'_';
+}
+
+bool continuesName(QChar c)
+{
+    return c.isLetterOrNumber() || c == u'_';
+}
+
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+bool isHexDigit(QChar c)
+{
+    return isDigit(c) || (c.toUpper() >= u'A' && c.toUpper() <= u'F');
+}
+
+//! The longest sign first.
+const QStringList &signs()
+{
+    static const QStringList sorted = [] {
+        QStringList all = ExpressionVocabulary::mathOperators() + ExpressionVocabulary::booleanOperators();
+        all += {u"="_s, u";"_s};
+        all.removeDuplicates();
+        std::ranges::stable_sort(all, std::greater(), &QString::size);
+        return all;
+    }();
+    return sorted;
+}
+
+} // namespace
+
+Token ExpressionLexer::token(Token::Type type, qsizetype begin, const QString &text) const
+{
+    return {type, text, begin, m_place - begin};
+}
+
+Token ExpressionLexer::wrong(qsizetype begin, const QString &message)
+{
+    return {Token::Wrong, LocalizationHelper::coreString(message), begin,
+            std::max<qsizetype>(m_place - begin, 1)};
+}
+
+Token ExpressionLexer::next(bool operandDue)
+{
+    while (at().isSpace()) {
+        ++m_place;
+    }
+    const QChar c = at();
+    const bool isSigned = operandDue && c == u'-' && (isDigit(at(1)) || (at(1) == u'.' && isDigit(at(2))));
+    if (m_place >= m_text.size()) {
+        return token(Token::End, m_place, {});
+    }
+    if (c == u'"' || c == u'\'') {
+        return takeQuoted();
+    }
+    if (isSigned || isDigit(c) || (c == u'.' && isDigit(at(1)))) {
+        return takeNumber();
+    }
+    if (c == u'#') {
+        return takeColor();
+    }
+    return beginsName(c) ? takeName() : takeSign();
+}
+
+Token ExpressionLexer::takeQuoted()
+{
+    const qsizetype begin = m_place;
+    const QChar quote = at();
+    QString text;
+    for (++m_place; m_place < m_text.size(); ++m_place) {
+        const QChar c = at();
+        if (c == quote) {
+            ++m_place;
+            Token taken = token(quote == u'"' ? Token::Text : Token::Name, begin, text);
+            taken.isQuoted = true;
+            return taken;
+        }
+        if (c != u'\\') {
+            text.append(c);
+            continue;
+        }
+        ++m_place;
+        const char16_t letter = at().unicode();
+        const auto *escape =
+            std::ranges::find_if(escapes, [letter](const auto &row) { return row.letter == letter; });
+        if (escape != std::end(escapes)) {
+            text.append(QChar(escape->character));
+            continue;
+        }
+        // A code unit: \u and four digits.
+        bool ok = false;
+        const ushort unit = letter == u'u' ? m_text.sliced(m_place + 1)
+                                                 .first(std::min<qsizetype>(4, m_text.size() - m_place - 1))
+                                                 .toUShort(&ok, 16)
+                                           : 0;
+        if (!ok || m_place + 4 >= m_text.size()) {
+            return wrong(m_place - 1, u"This is not an escape. Write \\\\ for a backslash."_s);
+        }
+        text.append(QChar(unit));
+        m_place += 4;
+    }
+    return wrong(begin, u"The closing quote is missing."_s);
+}
+
+qsizetype ExpressionLexer::skipDigits()
+{
+    const qsizetype begin = m_place;
+    while (isDigit(at())) {
+        ++m_place;
+    }
+    return m_place - begin;
+}
+
+Token ExpressionLexer::takeNumber()
+{
+    const qsizetype begin = m_place;
+    if (at() == u'0' && at(1) == u'x') {
+        m_place += 2;
+        while (isHexDigit(at())) {
+            ++m_place;
+        }
+        return token(Token::Hex, begin, m_text.sliced(begin + 2, m_place - begin - 2).toString());
+    }
+    if (at() == u'-') {
+        ++m_place;
+    }
+    skipDigits();
+    if (at() == u'.') {
+        ++m_place;
+        skipDigits();
+    }
+    const qsizetype exponentSign = at(1) == u'-' || at(1) == u'+' ? 1 : 0;
+    if (at().toLower() == u'e' && isDigit(at(1 + exponentSign))) {
+        m_place += 1 + exponentSign;
+        skipDigits();
+    }
+    const QString digits = m_text.sliced(begin, m_place - begin).toString();
+    if (at() == u'f' || at() == u'n') {
+        const Token::Type type = at() == u'f' ? Token::Float : Token::Decimal;
+        ++m_place;
+        return continuesName(at()) ? wrong(begin, u"This is not a number."_s) : token(type, begin, digits);
+    }
+    return continuesName(at())
+               ? wrong(begin, u"This is not a number, and a name cannot begin with a digit."_s)
+               : token(Token::Number, begin, digits);
+}
+
+Token ExpressionLexer::takeColor()
+{
+    const qsizetype begin = m_place++;
+    while (isHexDigit(at())) {
+        ++m_place;
+    }
+    const QString digits = m_text.sliced(begin + 1, m_place - begin - 1).toString().toUpper();
+    if ((digits.size() != 6 && digits.size() != 8) || continuesName(at())) {
+        return wrong(begin, u"This is not a color. Write #RRGGBB or #AARRGGBB."_s);
+    }
+    return token(Token::Color, begin, (digits.size() == 6 ? u"#FF"_s : u"#"_s) + digits);
+}
+
+Token ExpressionLexer::takeName()
+{
+    const qsizetype begin = m_place;
+    do {
+        ++m_place;
+    } while (continuesName(at()) || (at() == u'.' && beginsName(at(1))));
+    return token(Token::Name, begin, m_text.sliced(begin, m_place - begin).toString());
+}
+
+Token ExpressionLexer::takeSign()
+{
+    const qsizetype begin = m_place;
+    if (m_text.sliced(m_place).startsWith(u"::")) {
+        m_place += 2;
+        while (continuesName(at())) {
+            ++m_place;
+        }
+        return token(Token::Annotation, begin, m_text.sliced(begin + 2, m_place - begin - 2).toString());
+    }
+    for (const QString &sign : signs()) {
+        if (m_text.sliced(m_place).startsWith(sign)) {
+            m_place += sign.size();
+            return token(Token::Sign, begin, sign);
+        }
+    }
+    return wrong(begin, u"This character has no meaning here. Texts are in double quotes."_s);
+}
+
+QString ExpressionLexer::quoted(const QString &text, QChar quote)
+{
+    QString result(quote);
+    for (const QChar c : text) {
+        const auto *escape =
+            std::ranges::find_if(escapes, [c](const auto &row) { return row.character == c.unicode(); });
+        const bool isOtherQuote = (c == u'"' || c == u'\'') && c != quote;
+        if (escape != std::end(escapes) && !isOtherQuote) {
+            result += u'\\';
+            result += QChar(escape->letter);
+        } else if (!c.isPrint() || c.isSurrogate()) {
+            result += u"\\u%1"_s.arg(c.unicode(), 4, 16, QChar(u'0'));
+        } else {
+            result += c;
+        }
+    }
+    return result + quote;
+}
+
+bool ExpressionLexer::isPlainName(QStringView path)
+{
+    for (const QStringView segment : path.split(u'.')) {
+        if (segment.isEmpty() || !beginsName(segment.front())
+            || !std::ranges::all_of(segment, continuesName)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace Halvane::Corvex::Designer

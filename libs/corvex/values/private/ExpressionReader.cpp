@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/values/private/ExpressionReader.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/values/private/ExpressionWords.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Info = GeneralDataInfo;
+using Words = ExpressionWords;
+using Token = ExpressionToken;
+
+//! A path has a property of an element at its end; a name without "." is that of a variable.
+Info::ValueType valueTypeOf(const QString &path)
+{
+    return path.contains(u'.') ? Info::ObjectValue : Info::VariableValue;
+}
+
+} // namespace
+
+bool ExpressionReader::fail(const Token &token, const QString &english, const QString &name)
+{
+    m_error = {token.position, token.length, Common::LocalizationHelper::coreString(english), name};
+    return false;
+}
+
+bool ExpressionReader::add(const Token &token, Info::ValueType valueType, Info::DataType dataType,
+                           const QString &value)
+{
+    if (m_isSeparatorDue) {
+        return fail(token, formOfSeparators());
+    }
+    m_isSeparatorDue = m_purpose.separatesTerms();
+    m_terms.append(valueType, dataType, value);
+    m_places.append({token.position, token.length});
+    return true;
+}
+
+bool ExpressionReader::isOperandDue() const
+{
+    return m_terms.isEmpty() || m_purpose.separatesTerms()
+           || !ExpressionGrammar::endsOperand(Words::grammarKind(m_purpose), m_terms.at(m_terms.count() - 1));
+}
+
+void ExpressionReader::read()
+{
+    for (;;) {
+        const Token token = m_lexer.next(isOperandDue());
+        m_end = token.position;
+        if (token.type == Token::End) {
+            if (m_negates) {
+                fail(token, u"A value is missing after \"not\"."_s);
+            }
+            return;
+        }
+        if (!take(token)) {
+            return;
+        }
+    }
+}
+
+bool ExpressionReader::take(const Token &token)
+{
+    const bool isParenthesis = token.type == Token::Sign && token.text == u'(';
+    const bool negatesName = m_negates && token.type == Token::Name;
+    if (m_negates && !isParenthesis && !negatesName) {
+        return fail(token, u"\"not\" needs a name or a parenthesis."_s);
+    }
+    if (m_isNegated && !endNegation(token)) {
+        return false;
+    }
+    switch (token.type) {
+    case Token::Name:
+        return (token.isQuoted ? takeName(token) : takeWord(token)) && (!negatesName || endNegation(token));
+    case Token::Text:
+        return addConstant(token, Info::StringData);
+    case Token::Number: {
+        bool isInteger = false;
+        const qlonglong number = token.text.toLongLong(&isInteger);
+        isInteger = isInteger && QString::number(number) == token.text;
+        return addConstant(token, isInteger ? Info::IntegerData : Info::FloatData);
+    }
+    case Token::Float:
+        return addConstant(token, Info::FloatData);
+    case Token::Decimal:
+        return addConstant(token, Info::NumberData);
+    case Token::Color:
+        return addConstant(token, Info::ColorData);
+    case Token::Hex:
+        return add(token, Info::ConstantValue, Info::HexData, token.text.toUpper());
+    case Token::Sign:
+        return takeSign(token);
+    case Token::Annotation:
+        return fail(token, u"A type follows a name directly, as in \"level::number\"."_s);
+    case Token::Wrong:
+        m_error = {token.position, token.length, token.text, {}};
+        return false;
+    case Token::End:
+        break;
+    }
+    return false;
+}
+
+bool ExpressionReader::takeWord(const Token &token)
+{
+    if (token.text == Words::negation) {
+        return beginNegation(token);
+    }
+    const bool isCall = Words::isFunction(token.text) && m_lexer.peek(true).text == u'('
+                        && m_lexer.peek(true).type == Token::Sign;
+    if (isCall) {
+        return takeCall(token);
+    }
+    if (const Words::Word *word = Words::find(token.text)) {
+        return add(token, word->valueType, word->dataType, word->value);
+    }
+    if (Words::isMathValue(token.text)) {
+        return addConstant(token, Info::FloatData);
+    }
+    return takeName(token);
+}
+
+bool ExpressionReader::takeName(const Token &token)
+{
+    const Token next = m_lexer.peek(false);
+    if (next.type == Token::Annotation && next.position == token.position + token.length) {
+        m_lexer.next(false);
+        const std::optional<Info::DataType> type = Words::typeNamed(next.text);
+        return type ? add(token, valueTypeOf(token.text), *type, token.text)
+                    : fail(next, u"This is not a type. Types are boolean, integer, float, number, string, "
+                                 "color, log, device, reference and none."_s);
+    }
+    const std::optional<Info> found = m_names.find(token.text);
+    if (!found && next.type == Token::Sign && next.text == u'(') {
+        return fail(token, u"There is no such function."_s, token.text);
+    }
+    const Info previous = m_terms.isEmpty() ? Info() : m_terms.at(m_terms.count() - 1);
+    const Info term = found ? Words::inContext(*found, previous) : Info();
+    return found ? add(token, term.valueType(), term.dataType(), term.value())
+                 : fail(token, u"The project has no such variable or property."_s, token.text);
+}
+
+bool ExpressionReader::takeCall(const Token &token)
+{
+    const Token parenthesis = m_lexer.next(true);
+    if (Words::isWholeCall(token.text)) {
+        const Token end = m_lexer.next(true);
+        if (end.type != Token::Sign || end.text != u')') {
+            return fail(end, u"This function has no arguments. Write \")\"."_s);
+        }
+    } else {
+        m_open.append(false);
+    }
+    Token whole = token;
+    whole.length = parenthesis.position + parenthesis.length - token.position;
+    return add(whole, Info::FunctionValue, Info::FunctionData, token.text);
+}
+
+//! "not" becomes a comparison with false, which binds less than the operators of numbers and comparisons.
+bool ExpressionReader::beginNegation(const Token &token)
+{
+    static const QStringList looser{u"&&"_s, u"||"_s, u"("_s, u","_s, u"?"_s, u":"_s};
+    const bool isFree = m_terms.isEmpty() || isOperandDue();
+    const Info last = m_terms.isEmpty() ? Info() : m_terms.at(m_terms.count() - 1);
+    if (!isFree || (last.valueType() == Info::OperatorValue && !looser.contains(last.value()))) {
+        return fail(token, u"Put \"not\" and its value in parentheses."_s);
+    }
+    m_negates = true;
+    return true;
+}
+
+//! Called with the operand of "not", and with the token that follows it.
+bool ExpressionReader::endNegation(const Token &token)
+{
+    if (m_negates) {
+        m_negates = false;
+        m_isNegated = true;
+        return add(token, Info::OperatorValue, Info::OperatorData, u"=="_s)
+               && add(token, Info::ConstantValue, Info::BooleanData, u"false"_s);
+    }
+    static const QStringList looser{u"&&"_s, u"||"_s, u")"_s, u","_s, u"?"_s, u":"_s};
+    const Words::Word *word =
+        token.type == Token::Name && !token.isQuoted ? Words::find(token.text) : nullptr;
+    const QString sign = word ? QString(word->value) : token.text;
+    m_isNegated = false;
+    const bool isOperator = token.type == Token::Sign || (word && word->valueType == Info::OperatorValue);
+    return !isOperator || looser.contains(sign)
+           || fail(token, u"Put \"not\" and its value in parentheses."_s);
+}
+
+bool ExpressionReader::takeSign(const Token &token)
+{
+    if (token.text == u'=' || token.text == u';' || (token.text == u',' && m_purpose.isTermList)) {
+        return takeSeparator(token);
+    }
+    if (token.text == u'(') {
+        m_open.append(std::exchange(m_negates, false));
+    }
+    if (!add(token, Info::OperatorValue, Info::OperatorData, token.text)) {
+        return false;
+    }
+    if (token.text == u')' && !m_open.isEmpty() && m_open.takeLast()) {
+        m_negates = true;
+        return endNegation(token);
+    }
+    return true;
+}
+
+QString ExpressionReader::formOfSeparators() const
+{
+    return m_purpose.isTermList ? u"Write \",\" between two values."_s
+                                : u"Assignments have the form \"target = source; target = source\"."_s;
+}
+
+//! The signs between terms are no terms; they stand where the terms require them.
+bool ExpressionReader::takeSeparator(const Token &token)
+{
+    if (!m_purpose.separatesTerms()) {
+        return fail(token, token.text == u'='
+                               ? u"Write \"==\" to compare. Assignments are not possible here."_s
+                               : u"This is one expression, without \";\"."_s);
+    }
+    if (!m_isSeparatorDue || token.text != Words::separator(m_purpose, m_terms.count() % 2 == 0)) {
+        return fail(token, formOfSeparators());
+    }
+    m_isSeparatorDue = false;
+    return true;
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/values/text/ReadableText.h"
+
+#include "corvex/values/private/ExpressionLexer.h"
+#include "corvex/values/records/BorderInfo.h"
+#include "corvex/values/records/RangeInfo.h"
+#include "corvex/values/text/ValueConversion.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPointF>
+#include <QRegularExpression>
+#include <QSizeF>
+
+#include <cmath>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+namespace {
+
+using Conversion = ValueConversion;
+
+//! Two numbers with \a separator, a pattern, between them.
+std::optional<QPointF> readPair(const QString &text, const QString &separator)
+{
+    const QRegularExpression form(u"^\\s*(\\S+?)\\s*(?:%1)\\s*(\\S+)\\s*$"_s.arg(separator));
+    const QRegularExpressionMatch match = form.match(text);
+    bool isFirst = false;
+    bool isSecond = false;
+    const QPointF pair(Conversion::toReal(match.captured(1), &isFirst),
+                       Conversion::toReal(match.captured(2), &isSecond));
+    return isFirst && isSecond ? std::optional(pair) : std::nullopt;
+}
+
+QString printPair(double first, QLatin1StringView separator, double second)
+{
+    return Conversion::toString(first) + separator + Conversion::toString(second);
+}
+
+QString shortColor(const QColor &color)
+{
+    const QString name = Conversion::toString(color);
+    return color.alpha() == 255 ? u'#' + name.sliced(3) : name;
+}
+
+//! A style that a font has or lacks, by its word.
+struct FontStyle
+{
+    QLatin1StringView word;
+    bool (QFont::*has)() const;
+    void (QFont::*set)(bool);
+};
+
+constexpr FontStyle fontStyles[] = {
+    {"bold"_L1, &QFont::bold, &QFont::setBold},
+    {"italic"_L1, &QFont::italic, &QFont::setItalic},
+    {"underline"_L1, &QFont::underline, &QFont::setUnderline},
+    {"overline"_L1, &QFont::overline, &QFont::setOverline},
+    {"strikeout"_L1, &QFont::strikeOut, &QFont::setStrikeOut},
+};
+
+bool readFontSize(QStringView word, QFont &font)
+{
+    bool isNumber = false;
+    const QStringView digits = word.chopped(std::min<qsizetype>(word.size(), 2));
+    if (word.endsWith("px"_L1)) {
+        const int pixels = digits.toInt(&isNumber);
+        font.setPixelSize(std::max(pixels, 1));
+        return isNumber && pixels > 0;
+    }
+    const double points = Conversion::toReal(digits, &isNumber);
+    const bool isSize = word.endsWith("pt"_L1) && isNumber && points > 0;
+    if (isSize) {
+        font.setPointSizeF(points);
+    }
+    return isSize;
+}
+
+bool readFontWord(QStringView word, QFont &font)
+{
+    for (const FontStyle &style : fontStyles) {
+        if (word == style.word) {
+            (font.*style.set)(true);
+            return true;
+        }
+    }
+    return readFontSize(word, font);
+}
+
+} // namespace
+
+QString ReadableText::fromSize(const QString &stored)
+{
+    bool ok = false;
+    const QSizeF size = Conversion::toSize(stored, &ok);
+    return ok ? printPair(size.width(), " x "_L1, size.height()) : QString();
+}
+
+QString ReadableText::toSize(const QString &text)
+{
+    const std::optional<QPointF> pair = readPair(text, u"[xX×]"_s);
+    return pair ? Conversion::toString(QSizeF(pair->x(), pair->y())) : QString();
+}
+
+QString ReadableText::fromPoint(const QString &stored)
+{
+    bool ok = false;
+    const QPointF point = Conversion::toPoint(stored, &ok);
+    return ok ? printPair(point.x(), ", "_L1, point.y()) : QString();
+}
+
+QString ReadableText::toPoint(const QString &text)
+{
+    const std::optional<QPointF> pair = readPair(text, u","_s);
+    return pair ? Conversion::toString(*pair) : QString();
+}
+
+QString ReadableText::fromRange(const QString &stored)
+{
+    bool ok = false;
+    const RangeInfo range(stored, &ok);
+    return ok ? printPair(range.minimum(), " to "_L1, range.maximum()) : QString();
+}
+
+QString ReadableText::toRange(const QString &text)
+{
+    const std::optional<QPointF> pair = readPair(text, u"\\bto\\b"_s);
+    return pair ? RangeInfo(pair->x(), pair->y()).toString() : QString();
+}
+
+QString ReadableText::fromBorder(const QString &stored)
+{
+    bool ok = false;
+    const BorderInfo border(stored, &ok);
+    return ok && border.color().isValid() ? u"%1 %2"_s.arg(border.width()).arg(shortColor(border.color()))
+                                          : QString();
+}
+
+QString ReadableText::toBorder(const QString &text)
+{
+    const QStringList words = text.simplified().split(u' ');
+    bool isWidth = false;
+    bool isColor = words.size() == 1;
+    const int width = Conversion::toInt(words.first(), &isWidth);
+    const QColor color = isColor ? QColor(Qt::black) : Conversion::toColor(words.at(1), &isColor);
+    return isWidth && isColor && words.size() <= 2 ? BorderInfo(width, color).toString() : QString();
+}
+
+QString ReadableText::fromColor(const QString &stored)
+{
+    bool ok = false;
+    const QColor color = Conversion::toColor(stored, &ok);
+    return ok ? shortColor(color) : QString();
+}
+
+QString ReadableText::toColor(const QString &text)
+{
+    bool ok = false;
+    const QColor color = Conversion::toColor(text.trimmed(), &ok);
+    return ok ? Conversion::toString(color) : QString();
+}
+
+QString ReadableText::fromFont(const QString &stored)
+{
+    bool ok = false;
+    const QFont font = Conversion::toFont(stored, &ok);
+    QStringList words;
+    for (const FontStyle &style : fontStyles) {
+        if ((font.*style.has)()) {
+            words.append(style.word);
+        }
+    }
+    if (font.pixelSize() > 0) {
+        words.append(u"%1px"_s.arg(font.pixelSize()));
+    } else if (font.pointSizeF() > 0) {
+        words.append(Conversion::toString(font.pointSizeF()) + u"pt"_s);
+    }
+    words.append(quoted(font.family()));
+    const QString text = words.join(u' ');
+    // A font with spacings has no short form.
+    return ok && toFont(text) == stored ? text : QString();
+}
+
+QString ReadableText::toFont(const QString &text)
+{
+    QFont font;
+    bool hasFamily = false;
+    bool hasSize = false;
+    qsizetype place = 0;
+    while (place < text.size()) {
+        if (text.at(place).isSpace()) {
+            ++place;
+            continue;
+        }
+        if (text.at(place) == u'"') {
+            const QString family = takeQuoted(text, place);
+            if (hasFamily || family.isNull()) {
+                return {};
+            }
+            font.setFamily(family);
+            hasFamily = true;
+            continue;
+        }
+        const qsizetype begin = place;
+        while (place < text.size() && !text.at(place).isSpace()) {
+            ++place;
+        }
+        const QStringView word = QStringView(text).sliced(begin, place - begin);
+        const bool isSize = word.front().isDigit();
+        if ((isSize && hasSize) || !readFontWord(word, font)) {
+            return {};
+        }
+        hasSize = hasSize || isSize;
+    }
+    return hasFamily && hasSize ? Conversion::toString(font) : QString();
+}
+
+QString ReadableText::quoted(const QString &text)
+{
+    return ExpressionLexer::quoted(text, u'"');
+}
+
+QString ReadableText::takeQuoted(QStringView text, qsizetype &place)
+{
+    const ExpressionToken token = ExpressionLexer(text.sliced(place)).next(true);
+    if (token.type != ExpressionToken::Text) {
+        return {};
+    }
+    place += token.position + token.length;
+    return token.text.isNull() ? u""_s : token.text;
+}
+
+} // namespace Halvane::Corvex::Designer
