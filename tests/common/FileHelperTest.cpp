@@ -157,13 +157,6 @@ TEST_F(FileHelperTest, RemoveDirectoryRefuses)
     qputenv("HOME", home);
 }
 
-TEST_F(FileHelperTest, TemporaryLocationBelongsToTheUser)
-{
-    const QFileInfo info(FileHelper::getStandardTemporatyLocation());
-    EXPECT_TRUE(info.isDir() && info.isWritable());
-    EXPECT_TRUE(info.absoluteFilePath().startsWith(QDir::tempPath()));
-}
-
 TEST_F(FileHelperTest, TemporaryFoldersOfKilledProgramsAreRemoved)
 {
     const auto count = [] { return QDir::temp().entryList({u"corvex-kept-test-*"_s}, QDir::Dirs).size(); };
@@ -303,11 +296,4 @@ TEST_F(FileHelperTest, ImagesMatchTheirExtension)
         EXPECT_EQ(FileHelper::isValidImage(path(row.name), &format), row.valid) << row.name.toStdString();
         EXPECT_EQ(format, row.format) << row.name.toStdString();
     }
-}
-
-TEST_F(FileHelperTest, Md5)
-{
-    put(path(u"a"_s), "abc");
-    EXPECT_EQ(FileHelper::md5(path(u"a"_s)), u"900150983cd24fb0d6963f7d28e17f72"_s);
-    EXPECT_EQ(FileHelper::md5(path(u"missing"_s)), QString());
 }

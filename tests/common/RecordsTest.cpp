@@ -7,16 +7,6 @@
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Common;
 
-TEST(EnumHelper, EveryVariableTypeHasAText)
-{
-    const QMetaEnum types = EnumHelper::metaEnum(u"VariableType"_s);
-    for (int i = 0; i < types.keyCount(); ++i) {
-        EXPECT_FALSE(EnumHelper::getVariableTypeNames().value(QString::fromLatin1(types.key(i))).isEmpty());
-    }
-    EXPECT_EQ(EnumHelper::getVariableTypeNames().size(), types.keyCount());
-    EXPECT_FALSE(EnumHelper::metaEnum(u"NoSuchType"_s).isValid());
-}
-
 TEST(EnumHelper, BACnetTables)
 {
     // Numbers on both sides of each gap in the standard.

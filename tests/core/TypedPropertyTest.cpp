@@ -307,25 +307,3 @@ TEST(TypedProperty, ZeroKeepsItsSign)
         EXPECT_EQ(subject.property->valueString(), text);
     }
 }
-
-TEST(TypedProperty, ACastToAnotherKindIsEmpty)
-{
-    const Subject number = make<IntegerProperty>(7);
-    EXPECT_EQ(propertyCast<IntegerProperty>(number.property), number.property.data());
-    EXPECT_EQ(propertyCast<RealProperty>(number.property), nullptr);
-    EXPECT_EQ(valueAs<IntegerProperty>(number.property), 7);
-    EXPECT_EQ(valueAs<StringProperty>(number.property), QString());
-    EXPECT_EQ(valueAs<IntegerProperty>(SharedProperty()), 0);
-}
-
-TEST(TypedProperty, EqualFontsAreShared)
-{
-    const auto fontOf = [](const Subject &subject) { return valueAs<FontProperty>(subject.property); };
-    const Subject one = make<FontProperty>(QFont());
-    const Subject other = make<FontProperty>(QFont());
-    ASSERT_TRUE(one.read(QLatin1StringView(arial)) && other.read(QLatin1StringView(arial)));
-    EXPECT_TRUE(fontOf(one).isCopyOf(fontOf(other)));
-    ASSERT_TRUE(other.read(QString(QLatin1StringView(arial)).replace(u"true"_s, u"false"_s)));
-    EXPECT_TRUE(fontOf(one).bold());
-    EXPECT_FALSE(fontOf(other).bold());
-}

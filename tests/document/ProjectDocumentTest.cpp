@@ -407,6 +407,40 @@ TEST_F(ProjectDocumentTest, OnlyTheFileOfADeletedImageIsDeleted)
         << qPrintable(document->errorString());
 }
 
+TEST_F(ProjectDocumentTest, PicturesOfOtherProgramsSurviveUndoAndRecovery)
+{
+    const QString images = path(u"Pumps/Images"_s);
+    const auto find = [&images](const QByteArray &bytes) {
+        const QStringList files = filesIn(images);
+        return std::ranges::any_of(files,
+                                   [&](const QString &name) { return read(images + u'/' + name) == bytes; });
+    };
+    ImageResource *image = addImage(document->project(), u"a.png"_s);
+    write(path(u"b.png"_s), read(image->filePath()) + "b");
+    ASSERT_TRUE(document->save() && document->push(new ReplaceImage(image, path(u"b.png"_s), u"a.png"_s))
+                && document->save());
+    write(images + u"/a.png"_s, "after the save");
+    ASSERT_TRUE(document->undo() && document->save());
+    document.reset();
+    EXPECT_TRUE(find("after the save"));
+
+    openAgain();
+    ASSERT_TRUE(describe(u"unsaved"_s) && autosave());
+    write(images + u"/a.png"_s, "after the autosave");
+    QFile picture(images + u"/a.png"_s);
+    ASSERT_TRUE(
+        picture.open(QIODevice::ReadWrite)
+        && picture.setFileTime(QDateTime::currentDateTime().addSecs(60), QFile::FileModificationTime));
+    picture.close();
+    write(path(u"copy"_s), read(path(u"Pumps.kdproj.kdasv"_s)));
+    document.reset();
+    write(path(u"Pumps.kdproj.kdasv"_s), read(path(u"copy"_s)));
+    openAgain();
+    ASSERT_TRUE(document->recover() && document->save()) << qPrintable(document->errorString());
+    document.reset();
+    EXPECT_TRUE(find("after the autosave"));
+}
+
 TEST_F(ProjectDocumentTest, AnUndoThatCannotRenameFilesFails)
 {
     addImage(document->project(), u"a.png"_s);

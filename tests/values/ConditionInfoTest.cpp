@@ -31,13 +31,3 @@ TEST(ConditionInfo, TextForm)
         EXPECT_FALSE(ok) << qPrintable(bad);
     }
 }
-
-TEST(ConditionInfo, Operators)
-{
-    QStringList operators;
-    for (const QString &name : ConditionInfo::validConditions()) {
-        operators << ConditionInfo::conditionToOperator(name);
-    }
-    EXPECT_EQ(operators, (QStringList{u""_s, u">"_s, u">="_s, u"<"_s, u"<="_s}));
-    EXPECT_EQ(ConditionInfo::conditionToOperator(u"gt"_s), QString());
-}

@@ -446,15 +446,3 @@ TEST(GeneralDataInfo, ReplacesTheNameInATerm)
     EXPECT_FALSE(term.replaceObject(u"x"_s));
     EXPECT_EQ(Info(term.toString()), term);
 }
-
-TEST(GeneralDataInfo, ValuesAsVariants)
-{
-    EXPECT_EQ(constant(Info::BooleanData, u"true"_s).toVariant(), QVariant(true));
-    EXPECT_EQ(constant(Info::IntegerData, u"-5"_s).toVariant(), QVariant(qlonglong(-5)));
-    EXPECT_EQ(constant(Info::FloatData, u"-Infinity"_s).toVariant().toDouble(),
-              -std::numeric_limits<double>::infinity());
-    EXPECT_EQ(constant(Info::ColorData, u"#80FF0000"_s).toVariant().value<QColor>(), QColor(255, 0, 0, 128));
-    EXPECT_FALSE(constant(Info::IntegerData, u"five"_s).toVariant().isValid());
-    EXPECT_FALSE(Info().toVariant().isValid());
-    EXPECT_EQ(variable(Info::IntegerData, u"speed"_s).toVariant(), QVariant(u"speed"_s));
-}

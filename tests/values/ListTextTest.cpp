@@ -63,17 +63,6 @@ TEST(ListInfo, Text)
     EXPECT_EQ(ListInfo().toString(), QString());
 }
 
-TEST(ListInfo, AnEmptyListAcceptsEveryCall)
-{
-    ListInfo list;
-    EXPECT_FALSE(list.insert(1, u"x"_s));
-    EXPECT_FALSE(list.replace(0, u"y"_s));
-    EXPECT_EQ(list.takeFirst() + list.takeLast() + list.first() + list.last(), QString());
-    list.removeFirst();
-    list.removeLast();
-    EXPECT_FALSE(list.startsWith(QString()) || list.endsWith(QString()));
-}
-
 TEST(MapInfo, Text)
 {
     const struct

@@ -93,16 +93,6 @@ TEST(PropertyList, Replace)
     EXPECT_EQ(list[0].valueString(), u"kept"_s);
 }
 
-TEST(PropertyList, TakeAndClear)
-{
-    PropertyList list = sample();
-    EXPECT_EQ(list.take(4), PropertyChangeInfo());
-    EXPECT_EQ(list.take(u"b"_s).size(), 2);
-    list.clear(u"c"_s);
-    EXPECT_EQ(list.take(u"x"_s).size(), 0);
-    EXPECT_EQ(pairs(list), u"a.x"_s);
-}
-
 TEST(PropertyList, ThousandsInRandomOrderBehaveLikeAMap)
 {
     NastyText random(7);

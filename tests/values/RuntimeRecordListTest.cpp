@@ -104,14 +104,3 @@ TYPED_TEST(RuntimeLists, Similar)
     other << readOnly;
     EXPECT_FALSE(this->m_list.isSimilar(other));
 }
-
-TEST(RuntimeProperties, SimilarWithTheSameDefault)
-{
-    const RuntimeAutoSettingProperty speed(u"speed"_s, EnumHelper::NumberVariable, EnumHelper::ReadOnly,
-                                           u"1"_s);
-    RuntimeAutoSettingProperty other = speed;
-    other.setDescription(u"rpm"_s);
-    EXPECT_TRUE(speed.isSimilar(other));
-    other.setDefaultValue(QString());
-    EXPECT_FALSE(speed.isSimilar(other));
-}

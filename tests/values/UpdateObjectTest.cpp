@@ -85,13 +85,3 @@ TEST(UpdateObjectList, ReadsBackWhatItPrints)
         }
     }
 }
-
-TEST(UpdateObjectList, Valid)
-{
-    UpdateObjectList list;
-    EXPECT_TRUE(list.isValid());
-    list << UpdateObjectInfo(u"name: a"_s);
-    EXPECT_TRUE(list.isValid());
-    list << UpdateObjectInfo(u"screen: b"_s);
-    EXPECT_FALSE(list.isValid());
-}

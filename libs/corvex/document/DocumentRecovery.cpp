@@ -102,6 +102,7 @@ bool ProjectDocument::recover()
         return result(false, error);
     }
     const QString archive = m_project->autosave().foundArchive();
+    const QDateTime archived = recoveryTime();
     const Common::TemporaryFolder folder(u"corvex-recovery"_s);
     if (!folder.isValid()) {
         return result(false, folder.errorString());
@@ -135,7 +136,7 @@ bool ProjectDocument::recover()
     bool isLoaded = m_project->loadFile(recovered);
     error = m_project->fileError();
     m_project->setFileFields(parent, sub, file);
-    isLoaded = isLoaded && takeRecoveredImages(images, error)
+    isLoaded = isLoaded && takeRecoveredImages(images, archived, error)
                && takeRecoveredName(nameToTake(recovered, path), error);
     if (!isLoaded) {
         readFile(path);
@@ -150,15 +151,22 @@ bool ProjectDocument::recover()
 }
 
 //! Adds the images from the archive to the project's folder. The change can be undone until the next save.
-bool ProjectDocument::takeRecoveredImages(const QDir &images, QString &error)
+bool ProjectDocument::takeRecoveredImages(const QDir &images, const QDateTime &archived, QString &error)
 {
     const QDir present(m_project->imagesPath());
     for (const QString &name : newImages(images, present)) {
         QByteArray bytes;
         const QString path = present.filePath(name);
         const QString inFolder = QDir(m_project->folderPath()).relativeFilePath(path);
-        Common::FileTransaction *files = m_project->beginFileChanges(&error);
-        if (!files || !Common::FileHelper::readFile(images.filePath(name), &bytes, &error)
+        Common::FileTransaction *files = m_project->beginImageChanges(&error);
+        if (!files || !Common::FileHelper::readFile(images.filePath(name), &bytes, &error)) {
+            return false;
+        }
+        // A file that is newer than the archive was written by another program since, and is kept.
+        const QFileInfo file(path);
+        const bool isNewer = file.exists() && file.lastModified() > archived;
+        const QString kept = isNewer ? Project::generateUniqueName(present.path(), name) : QString();
+        if ((isNewer && !files->move(inFolder, QFileInfo(inFolder).dir().filePath(kept), &error))
             || (QFileInfo::exists(path) && files->setAside(inFolder).isEmpty())
             || !files->place(inFolder, bytes, &error)) {
             return false;

@@ -149,7 +149,7 @@ private:
     void dropFromSelection();
     //! Discards all edits and their history.
     bool readFile(const QString &path);
-    bool takeRecoveredImages(const QDir &images, QString &error);
+    bool takeRecoveredImages(const QDir &images, const QDateTime &archived, QString &error);
     bool takeRecoveredName(const QString &name, QString &error);
 
     class ImportRun;

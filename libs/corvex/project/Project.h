@@ -82,6 +82,11 @@ public:
     //! The transaction for file changes of commands. The next saveFile() commits all of them, and nobody else
     //! can write the project until then. Null, with an error, on failure.
     Common::FileTransaction *beginFileChanges(QString *error);
+    //! The same for changes of images, which must be inside the project.
+    Common::FileTransaction *beginImageChanges(QString *error);
+    //! Returns false, with an error, if the images folder is a link out of the project, where a recovery
+    //! would not find it.
+    bool mayChangeImages(QString *error) const;
     //! The changes that wait for the next save; null if no change waits.
     Common::FileTransaction *fileChanges() const { return m_folder.changes(); }
     //! Deletes the project's file, its images and its preview, and its folders if they are empty afterwards.

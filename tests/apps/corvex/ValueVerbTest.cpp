@@ -89,12 +89,6 @@ TEST(ValueVerb, PrintsOnlyWhatItAccepts)
     EXPECT_EQ(bad.code, 1);
 }
 
-TEST(ValueVerb, PrintsJson)
-{
-    const QJsonObject good{{u"kind"_s, u"string"_s}, {u"valid"_s, true}, {u"text"_s, u"\"\\\t\u0001\nä😀"_s}};
-    EXPECT_EQ(corvex({u"value"_s, u"--json"_s, u"string"_s, u"\"\\\t\u0001\nä😀"_s}).json(), QJsonValue(good));
-}
-
 TEST(ExprVerb, PrintsTheCodeOrTheReasonAgainstIt)
 {
     struct Case

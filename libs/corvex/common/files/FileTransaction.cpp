@@ -213,20 +213,23 @@ bool FileTransaction::expect(const QString &name, const QString &path)
 }
 
 //! Prepares that the file is set aside.
-bool FileTransaction::noteAside(const QString &key, const QString &name)
+bool FileTransaction::noteAside(const QString &key, const QString &name, const QString &expected)
 {
-    return !isForeign(FileJournal::digestOf(m_journal->pathOf(name))) || m_journal->addForeign(key, name);
+    const QString digest = FileJournal::digestOf(m_journal->pathOf(name));
+    const bool isExpected = expected.isEmpty() ? !isForeign(digest) : digest == expected;
+    return isExpected || m_journal->addForeign(key, name);
 }
 
-bool FileTransaction::exchange(QString &key, const QString &name)
+bool FileTransaction::exchange(QString &key, const QString &name, const QString &expected)
 {
     // Everything that needs space on the disk comes first.
     const QString path = m_journal->pathOf(name);
     const QString given = m_journal->privatePath(key);
     const QString taken = exists(path) ? newKey() : QString();
     const QString aside = m_journal->privatePath(taken);
-    if ((!key.isEmpty() && !exists(given)) || !keep(name) || (!taken.isEmpty() && !noteAside(taken, name))
-        || (!key.isEmpty() && !expect(name, given)) || (!taken.isEmpty() && !FileSync::move(path, aside))) {
+    if ((!key.isEmpty() && !exists(given)) || !keep(name)
+        || (!taken.isEmpty() && !noteAside(taken, name, expected)) || (!key.isEmpty() && !expect(name, given))
+        || (!taken.isEmpty() && !FileSync::move(path, aside))) {
         return false;
     }
     if (!key.isEmpty() && !FileSync::move(given, path)) {
@@ -245,10 +248,10 @@ bool FileTransaction::exchange(QString &key, const QString &name)
     return true;
 }
 
-QString FileTransaction::setAside(const QString &name)
+QString FileTransaction::setAside(const QString &name, const QString &expected)
 {
     QString key;
-    return exchange(key, name) ? key : QString();
+    return exchange(key, name, expected) ? key : QString();
 }
 
 bool FileTransaction::bringBack(const QString &key, const QString &name)
@@ -434,6 +437,11 @@ FileTransaction::Recovery FileTransaction::recover(const QString &folder, QStrin
         journal.remove();
     }
     return isCommitted ? Recovery::Finished : hasBegun ? Recovery::TakenBack : Recovery::Nothing;
+}
+
+QString FileTransaction::digestOf(const QString &path)
+{
+    return FileJournal::digestOf(path);
 }
 
 QString FileTransaction::nameBefore(const QString &folder)

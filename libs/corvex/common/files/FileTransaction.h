@@ -53,13 +53,15 @@ public:
     bool renameFolder(const QString &name, QString *error = nullptr);
 
     // Files that are out of sight but can be restored. Each is identified by the key that these operations
-    // return; the key is empty on failure.
-    QString setAside(const QString &name);
+    // return; the key is empty on failure. A file that another program has written gets a visible name at the
+    // end of the transaction: one with contents that no operation has seen or, if \a expected is not empty,
+    // one with another digest.
+    QString setAside(const QString &name, const QString &expected = {});
     QString keepAside(const QByteArray &bytes, QString *error = nullptr);
     bool bringBack(const QString &key, const QString &name);
     //! Puts the file with the \a key into place, and sets aside the one that is there: \a key is its key
     //! afterwards. Either may be missing, with an empty key.
-    bool exchange(QString &key, const QString &name);
+    bool exchange(QString &key, const QString &name, const QString &expected = {});
     void discard(const QString &key);
     //! The current path of the file with that key.
     QString asidePath(const QString &key) const;
@@ -91,6 +93,8 @@ public:
     static Recovery recover(const QString &folder, QStringList *lost = nullptr);
     //! Whether the folder has a running or interrupted transaction.
     static bool isOpen(const QString &folder);
+    //! Identifies the contents of a file, or the target of a link. Empty for a missing file.
+    static QString digestOf(const QString &path);
     //! The name of the folder when its running or interrupted transaction began.
     static QString nameBefore(const QString &folder);
     //! Finds the folder that a running or interrupted transaction renamed from \a folder; empty if nothing is
@@ -105,7 +109,7 @@ private:
     bool keep(const QString &name);
     bool isForeign(const QString &digest) const;
     bool expect(const QString &name, const QString &path);
-    bool noteAside(const QString &key, const QString &name);
+    bool noteAside(const QString &key, const QString &name, const QString &expected = {});
     bool keepCopy(const QString &path, const QString &digest);
     bool repair();
     bool keepPresent();

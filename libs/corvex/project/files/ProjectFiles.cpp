@@ -110,6 +110,25 @@ Common::FileTransaction *Project::beginFileChanges(QString *error)
     return m_folder.begin(folderPath(), error);
 }
 
+bool Project::mayChangeImages(QString *error) const
+{
+    const QString images = QFileInfo(imagesPath()).canonicalFilePath();
+    if (images.isEmpty() || images.startsWith(QFileInfo(folderPath()).canonicalFilePath() + u'/')) {
+        return true;
+    }
+    *error =
+        Common::LocalizationHelper::coreString(
+            u"The folder \"%1\" is a link to \"%2\". Images can only be changed inside the project. Copy "
+            "the folder into it."_s)
+            .arg(imagesPath(), images);
+    return false;
+}
+
+Common::FileTransaction *Project::beginImageChanges(QString *error)
+{
+    return mayChangeImages(error) ? beginFileChanges(error) : nullptr;
+}
+
 bool Project::loadFile(const QString &path)
 {
     QString error;

@@ -51,7 +51,8 @@ bool FileStep::isUsed(const QString &name) const
 void FileStep::removeUnused(const QString &digest) const
 {
     QString error;
-    if (!path().isEmpty() && exists(path()) && !isUsed(m_name) && Common::FileHelper::md5(path()) == digest) {
+    if (!path().isEmpty() && exists(path()) && !isUsed(m_name)
+        && Common::FileTransaction::digestOf(path()) == digest) {
         if (Common::FileTransaction *files = changes(error)) {
             files->remove(inFolder(m_name));
         }
@@ -60,17 +61,7 @@ void FileStep::removeUnused(const QString &digest) const
 
 Common::FileTransaction *FileStep::changes(QString &error) const
 {
-    const QString images = QFileInfo(m_project->imagesPath()).canonicalFilePath();
-    const QString folder = QFileInfo(m_project->folderPath()).canonicalFilePath();
-    if (!images.isEmpty() && !images.startsWith(folder + u'/')) {
-        error =
-            LocalizationHelper::coreString(
-                u"The folder \"%1\" is a link to \"%2\". Images can only be changed inside the project. Copy "
-                "the folder into it."_s)
-                .arg(m_project->imagesPath(), images);
-        return nullptr;
-    }
-    return m_project->beginFileChanges(&error);
+    return m_project->beginImageChanges(&error);
 }
 
 QString FileStep::existsAlready() const
@@ -164,7 +155,7 @@ bool PlaceFileStep::place(Common::FileTransaction &files, QString &error)
     }
     m_isMade = files.place(inFolder(name()), bytes, &error);
     if (m_isMade) {
-        m_digest = Common::FileHelper::md5(path());
+        m_digest = Common::FileTransaction::digestOf(path());
         m_stored.reset();
         m_key.clear();
     }
@@ -188,15 +179,18 @@ bool PlaceFileStep::keepFiles(Common::FileStore &store, QString &error)
 
 bool LeaveFileStep::redo(QString &error)
 {
+    if (!project()->mayChangeImages(&error)) {
+        return false;
+    }
     if (m_isSaved && exists(path())) {
         Common::FileTransaction *files = changes(error);
-        m_key = files ? files->setAside(inFolder(name())) : QString();
+        m_key = files ? files->setAside(inFolder(name()), m_digest) : QString();
         if (m_key.isEmpty()) {
             error = error.isEmpty() ? cannotBeRemoved() : error;
             return false;
         }
     }
-    m_digest = Common::FileHelper::md5(path());
+    m_digest = Common::FileTransaction::digestOf(path());
     m_isDone = true;
     return true;
 }
@@ -251,7 +245,8 @@ bool LeaveFileStep::keepFiles(Common::FileStore &store, QString &error)
     }
     // A step that takes the name finds the file and leaves it at its undo. Other programs may have written
     // it.
-    const bool isOurs = exists(path()) && !isUsed(name()) && Common::FileHelper::md5(path()) == m_digest;
+    const bool isOurs =
+        exists(path()) && !isUsed(name()) && Common::FileTransaction::digestOf(path()) == m_digest;
     if (isOurs && !m_isSaved) {
         m_stored = store.keep(path(), &error);
         if (!m_stored) {
@@ -278,7 +273,7 @@ bool PlaceFileStep::undo(QString &error)
 {
     if (m_isMade && exists(path())) {
         Common::FileTransaction *files = changes(error);
-        m_key = files ? files->setAside(inFolder(name())) : QString();
+        m_key = files ? files->setAside(inFolder(name()), m_digest) : QString();
         if (m_key.isEmpty()) {
             error = error.isEmpty() ? cannotBeRemoved() : error;
             return false;
@@ -354,11 +349,12 @@ bool ReplaceFileStep::exchange(QString &error)
         }
         m_stored.reset();
     }
-    if (!files->exchange(m_key, inFolder(name()))) {
+    if (!files->exchange(m_key, inFolder(name()), m_isDone ? m_newDigest : m_oldDigest)) {
         error = LocalizationHelper::coreString(u"The file \"%1\" cannot be replaced: %2"_s)
                     .arg(path(), Common::FileSync::reason());
         return false;
     }
+    (m_isDone ? m_oldDigest : m_newDigest) = Common::FileTransaction::digestOf(path());
     lookAgain(name());
     return true;
 }

@@ -149,8 +149,10 @@ private:
     bool exchange(QString &error);
 
     QString m_source;
-    QString m_key;   //!< of the file with the hidden contents; empty before the first redo
-    Stored m_stored; //!< the same, if the project has been saved since
+    QString m_key;       //!< of the file with the hidden contents; empty before the first redo
+    QString m_oldDigest; //!< of the contents that an undo puts into place
+    QString m_newDigest; //!< of those that a redo puts into place
+    Stored m_stored;     //!< the same, if the project has been saved since
     bool m_isDone = false;
     bool m_isOldLost = false; //!< another program has deleted the old contents
 };
