@@ -40,6 +40,7 @@ extern const Verb editVerb;
 extern const Verb exportVerb;
 extern const Verb exprVerb;
 extern const Verb fmtVerb;
+extern const Verb functionsVerb;
 extern const Verb helpVerb;
 extern const Verb importVerb;
 extern const Verb infoVerb;

@@ -2,62 +2,13 @@
 #include "corvex/checks/private/rules/FunctionCall.h"
 
 #include "corvex/common/LocalizationHelper.h"
-
-#include <algorithm>
-#include <limits>
+#include "corvex/values/expressions/ExpressionFunction.h"
 
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
 namespace {
-
-constexpr qsizetype any = std::numeric_limits<qsizetype>::max();
-
-struct Function
-{
-    QLatin1StringView name;
-    qsizetype fewest;
-    qsizetype most;
-    bool takesLog = false;
-};
-
-//! All functions with arguments, as on the device.
-constexpr Function functions[] = {
-    {"abs"_L1, 1, 1},
-    {"acos"_L1, 1, 1},
-    {"asin"_L1, 1, 1},
-    {"atan"_L1, 1, 1},
-    {"atan2"_L1, 2, 2},
-    {"ceil"_L1, 1, 1},
-    {"cos"_L1, 1, 1},
-    {"exp"_L1, 1, 1},
-    {"floor"_L1, 1, 1},
-    {"log"_L1, 1, 1},
-    {"max"_L1, 1, any},
-    {"min"_L1, 1, any},
-    {"pow"_L1, 2, 2},
-    {"round"_L1, 1, 1},
-    {"sin"_L1, 1, 1},
-    {"sqrt"_L1, 1, 1},
-    {"tan"_L1, 1, 1},
-    {"getValueAt"_L1, 2, 2, true},
-    {"getLogCount"_L1, 1, 1, true},
-    {"getLogMax"_L1, 1, 1, true},
-    {"getLogMin"_L1, 1, 1, true},
-    {"getLogAvg"_L1, 1, 1, true},
-    {"poly"_L1, 2, any},
-    {"concat"_L1, 1, any},
-    {"split"_L1, 2, 3},
-    {"replace"_L1, 3, 3},
-    {"replaceFirst"_L1, 3, 3},
-    {"replaceLast"_L1, 3, 3},
-    {"subString"_L1, 2, 3},
-    {"toLowerCase"_L1, 1, 1},
-    {"toUpperCase"_L1, 1, 1},
-    {"trim"_L1, 1, 1},
-    {"length"_L1, 1, 1},
-};
 
 bool isOperator(const GeneralDataInfo &term, QLatin1StringView sign)
 {
@@ -69,7 +20,7 @@ bool isOperator(const GeneralDataInfo &term, QLatin1StringView sign)
 QString FunctionCall::wanted() const
 {
     using Common::LocalizationHelper;
-    if (most == any) {
+    if (most == ExpressionFunction::anyNumber) {
         return LocalizationHelper::coreString(u"%1 or more arguments"_s).arg(fewest);
     }
     if (fewest < most) {
@@ -100,11 +51,10 @@ QList<FunctionCall> FunctionCall::of(const GeneralDataList &expression)
     };
     for (qsizetype i = 0; i < expression.count(); ++i) {
         const GeneralDataInfo &term = expression.at(i);
-        const auto *function =
-            term.valueType() == GeneralDataInfo::FunctionValue
-                ? std::ranges::find(functions, term.value(), [](const Function &row) { return row.name; })
-                : std::end(functions);
-        const bool isCall = function != std::end(functions);
+        const ExpressionFunction *function = term.valueType() == GeneralDataInfo::FunctionValue
+                                                 ? ExpressionFunction::find(term.value())
+                                                 : nullptr;
+        const bool isCall = function && function->most > 0;
         const bool closes = isOperator(term, ")"_L1) && !open.isEmpty();
         const bool separates = isOperator(term, ","_L1) && !open.isEmpty() && open.constLast().call >= 0;
         if (closes) {
@@ -115,7 +65,7 @@ QList<FunctionCall> FunctionCall::of(const GeneralDataList &expression)
             ++calls[open.constLast().call].argumentCount;
         }
         if (isCall) {
-            calls.append({term.value(), function->fewest, function->most, function->takesLog});
+            calls.append({term.value(), function->fewest, function->most, function->takesLog()});
             open.append({calls.size() - 1, i + 1});
         } else if (isOperator(term, "("_L1)) {
             open.append({-1, i + 1});
