@@ -90,7 +90,8 @@ const Verb editVerb{
             return uR"(Reads one edit per line from SCRIPT, or from standard input, and saves the project when all
 have succeeded. If any line is wrong, the project stays unchanged and every wrong line is
 reported. Each edit also updates what depends on it, such as the references to a renamed object.
-    set PATH VALUE                   a value: the rest of the line as it is, or in quotes; PATH = VALUE
+    set PATH VALUE                   a value: the rest of the line as it is, or in quotes; "" clears
+                                     it; PATH = VALUE does the same
     add CLASS TO [NAME]              a new object in a screen, a group, a list or the project
     delete PATH...                   objects, and all references to them
     rename PATH NAME                 anything that has a name

@@ -38,10 +38,10 @@ TEST(CommandLine, PrintsItsVersionAndItsVerbs)
     EXPECT_EQ(version.out, u"corvex " CORVEX_VERSION "\n"_s);
     EXPECT_EQ(version.code, 0);
 
-    const QStringList verbs{u"new"_s,         u"info"_s,    u"tree"_s,   u"uses"_s,    u"diff"_s,
-                            u"edit"_s,        u"rename"_s,  u"check"_s,  u"approve"_s, u"fmt"_s,
-                            u"build"_s,       u"preview"_s, u"render"_s, u"export"_s,  u"import"_s,
-                            u"config-dump"_s, u"value"_s,   u"expr"_s,   u"help"_s};
+    const QStringList verbs{u"new"_s,         u"info"_s,    u"tree"_s,   u"uses"_s,      u"diff"_s,
+                            u"edit"_s,        u"rename"_s,  u"check"_s,  u"approve"_s,   u"fmt"_s,
+                            u"build"_s,       u"preview"_s, u"render"_s, u"export"_s,    u"import"_s,
+                            u"config-dump"_s, u"value"_s,   u"expr"_s,   u"functions"_s, u"help"_s};
     const ProgramRun list = corvex({u"help"_s});
     EXPECT_EQ(list.code, 0);
     for (const QString &verb : verbs) {

@@ -107,6 +107,14 @@ TEST_F(EditScriptTest, ValuesAreReadAndPrintedAsPeopleWriteThem)
         {u"action1.propertyChanges"_s, u"{ text1.color: red }"_s, u"{ text1.color: #FF0000 }"_s,
          u"elementName: text1; propertyName: color; valueString: I0ZGRkYwMDAw;"_s},
         {u"image1.source"_s, u"pump.png"_s, {}, {}},
+        {u"checkButton1.checkedState"_s,
+         u"{ text1.textBinding: \"on\"; text1.text: on; text1.name: x }"_s,
+         {},
+         {}},
+        {u"checkButton1.checkedState"_s,
+         u"{ text1.textBinding: concat(\"a; b\", speed); text1.text: \"\" }"_s,
+         {},
+         {}},
         {u"rectangle1.size"_s, u"120 x 40"_s, {}, u"height: 40; width: 120;"_s},
         {u"rectangle1.position"_s, u"x: 3; y: 4;"_s, u"3, 4"_s, {}},
         {u"text1.font"_s, u"bold 24px \"DejaVu Sans\""_s, {}, {}},
@@ -127,6 +135,14 @@ TEST_F(EditScriptTest, ValuesAreReadAndPrintedAsPeopleWriteThem)
             << qPrintable(property->valueString());
     }
 
+    for (const char16_t *line : {u"set Main.text1.textBinding \"\"", u"set Main.text1.colorBinding =",
+                                 u"set Main.text1.text = ", u"set Main.image1.source"}) {
+        EditPlan plan = script.plan(QString::fromUtf16(line));
+        ASSERT_TRUE(plan.isRefused() || !plan.command || stack().push(plan.command.release()));
+        EXPECT_FALSE(plan.isRefused()) << qPrintable(plan.refusal.message);
+    }
+    EXPECT_EQ(value(element("text1"), "textBinding") + value(element("text1"), "text"), QString());
+
     const struct
     {
         QString line;
@@ -141,6 +157,8 @@ TEST_F(EditScriptTest, ValuesAreReadAndPrintedAsPeopleWriteThem)
         {u"set Main.checkButton1.checkedState { text1.textBinding: sped }"_s,
          u"text1.textBinding: At \"sped\""_s},
         {u"set Main.logicBuilder1.logicExpression when on and do speed = 1"_s, u"incomplete"_s},
+        {u"set Main.logicBuilder1.logicExpression when(on) speed = 1"_s, u"Rules have the form"_s},
+        {u"set Main.logicBuilder1.logicExpression wen on do speed = 1"_s, u"Rules have the form"_s},
     };
     for (const auto &[line, message] : refusals) {
         const EditPlan plan = script.plan(line);

@@ -51,6 +51,9 @@ QString described(const ExpressionText::Error &error, const QString &text, const
 
 Reading readExpression(const DesignerProperty &property, const QString &text)
 {
+    if (text.trimmed() == "\"\""_L1) {
+        return {u""_s, {}}; // no expression, as for any other kind of value
+    }
     const auto &typed = static_cast<const GeneralDataListProperty &>(property);
     const ProjectNames names = namesFor(property);
     const auto readFor = [&](const GeneralDataList &terms) {
@@ -120,7 +123,11 @@ std::optional<QList<SettingText>> readSettings(const DesignerProperty &property,
         return {};
     }
     for (SettingText &setting : *settings) {
-        if (const SharedProperty target = targetOf(property, setting)) {
+        const SharedProperty target = targetOf(property, setting);
+        if (!target || !propertyCast<GeneralDataListProperty>(target)) {
+            setting.value = SettingText::unquoted(setting.value); // in an expression, quotes make a text
+        }
+        if (target) {
             const Reading value = ReadableValue::read(*target, setting.value);
             if (!value.error.isEmpty()) {
                 error = u"%1.%2: %3"_s.arg(setting.element, setting.property, value.error);
@@ -135,9 +142,10 @@ std::optional<QList<SettingText>> readSettings(const DesignerProperty &property,
 QString printSettings(const DesignerProperty &property, QList<SettingText> settings)
 {
     for (SettingText &setting : settings) {
-        if (const SharedProperty target = targetOf(property, setting)) {
-            setting.value = ReadableValue::print(*target, setting.value);
-        }
+        const SharedProperty target = targetOf(property, setting);
+        const bool isExpression = target && propertyCast<GeneralDataListProperty>(target);
+        const QString value = target ? ReadableValue::print(*target, setting.value) : setting.value;
+        setting.value = isExpression && !value.isEmpty() ? value : SettingText::quoted(value);
     }
     return SettingText::print(settings);
 }
@@ -240,7 +248,7 @@ bool isGroupStored(const QString &text)
 
 bool areRulesStored(const QString &text)
 {
-    return !text.trimmed().startsWith("when "_L1);
+    return isExpressionStored(text) || text.startsWith(u'|') || text.startsWith(u',');
 }
 
 bool isNeverStored(const QString &)

@@ -72,7 +72,7 @@ QString valueIn(const EditCall &call, const DesignerProperty &property)
 {
     QString rest = call.rest;
     QStringList words = call.words.sliced(1);
-    if (words.size() > 1 && words.first() == u'=' && rest.startsWith(u'=')) {
+    if (!words.isEmpty() && words.first() == u'=' && rest.startsWith(u'=')) {
         words.removeFirst();
         rest = rest.sliced(1).trimmed();
     }

@@ -30,23 +30,31 @@ std::optional<SettingText> takeSetting(QStringView text, qsizetype &place)
     SettingText setting;
     setting.property = ObjectPath::lastSegment(path).toString();
     setting.element = path.chopped(std::min(path.size(), setting.property.size() + 1));
-    place = colon + 1;
-    while (place < text.size() && text[place].isSpace()) {
-        ++place;
+    qsizetype end = colon + 1;
+    while (end < text.size() && text[end] != u';') {
+        // A quote that is not closed is a part of the value.
+        qsizetype behind = end;
+        const bool isText = text[end] == u'"' && !ReadableText::takeQuoted(text, behind).isNull();
+        end = isText ? behind : end + 1;
     }
-    if (place < text.size() && text[place] == u'"') {
-        setting.value = ReadableText::takeQuoted(text, place);
-        return setting.value.isNull() || setting.element.isEmpty() ? std::nullopt : std::optional(setting);
-    }
-    const qsizetype begin = place;
-    while (place < text.size() && text[place] != u';') {
-        ++place;
-    }
-    setting.value = text.sliced(begin, place - begin).trimmed().toString();
+    setting.value = text.sliced(colon + 1, end - colon - 1).trimmed().toString();
+    place = end;
     return setting.element.isEmpty() ? std::nullopt : std::optional(setting);
 }
 
 } // namespace
+
+QString SettingText::quoted(const QString &value)
+{
+    return needsQuotes(value) ? ReadableText::quoted(value) : value;
+}
+
+QString SettingText::unquoted(const QString &value)
+{
+    qsizetype place = 0;
+    const QString text = value.startsWith(u'"') ? ReadableText::takeQuoted(value, place) : QString();
+    return !text.isNull() && place == value.size() ? text : value;
+}
 
 QString SettingText::print(const QList<SettingText> &settings)
 {
@@ -55,8 +63,7 @@ QString SettingText::print(const QList<SettingText> &settings)
         if (!ObjectPath::isValid(element) || !ObjectPath::isSegment(property)) {
             return {};
         }
-        parts +=
-            u"%1.%2: %3"_s.arg(element, property, needsQuotes(value) ? ReadableText::quoted(value) : value);
+        parts += u"%1.%2: %3"_s.arg(element, property, value);
     }
     return parts.isEmpty() ? u"{ }"_s : u"{ %1 }"_s.arg(parts.join(u"; "_s));
 }
