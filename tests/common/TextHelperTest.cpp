@@ -92,13 +92,6 @@ TEST(TextHelper, NaturalOrder)
     EXPECT_FALSE(TextHelper::naturalLess(u"a1", u"a1"));
 }
 
-TEST(TextHelper, FileNameOrder)
-{
-    expectSorted({u".png"_s, u"a.jpg"_s, u"A.png"_s, u"a.png"_s, u"a1.png"_s, u"a2.jpg"_s, u"a10.jpg"_s,
-                  u"b"_s, u"b.tar.gz"_s},
-                 TextHelper::sortFileNames);
-}
-
 TEST(TextHelper, LineEnds)
 {
     const QString mixed = u"a\r\nb\rc\n\n\r\r\nd"_s;

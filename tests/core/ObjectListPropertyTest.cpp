@@ -174,16 +174,4 @@ TEST(ObjectListProperty, InsertsByBinarySearchAndSortsALoadedListOnce)
     EXPECT_EQ(loaded.names(), grown.names());
 }
 
-TEST(ObjectListProperty, SwapsItemsThatAreNotSorted)
-{
-    for (const OrderRule rule : {OrderRule::InsertionOrder, OrderRule::NaturalOrder}) {
-        Owner owner(rule);
-        owner.add(u"a"_s);
-        owner.add(u"b"_s);
-        EXPECT_TRUE(owner.swapListPropertyItems(owner.list, owner.list->getListItemAtIndex(0),
-                                                owner.list->getListItemAtIndex(1)));
-        EXPECT_EQ(owner.names(), rule == OrderRule::InsertionOrder ? u"b a"_s : u"a b"_s);
-    }
-}
-
 } // namespace Halvane::Corvex::Designer::Test

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/project/Screen.h"
-
 #include "ExampleTest.h"
 #include "ProjectGenerator.h"
 
@@ -32,15 +30,6 @@ protected:
     }
 };
 
-qsizetype elementCount(const Project &project)
-{
-    qsizetype count = 0;
-    for (const DesignerObject *screen : project.screens()->listItems()) {
-        count += static_cast<const Screen *>(screen)->getElementNames().size();
-    }
-    return count;
-}
-
 } // namespace
 
 TEST_F(ProjectGeneratorTest, CreatesAValidProjectThatReloadsUnchanged)
@@ -56,27 +45,6 @@ TEST_F(ProjectGeneratorTest, CreatesAValidProjectThatReloadsUnchanged)
     EXPECT_EQ(faults(*loaded), QStringList());
     EXPECT_EQ(danglingNames(*loaded), QStringList());
     EXPECT_TRUE(saved(*loaded) == bytesOf(project->fullFilePath()));
-}
-
-TEST_F(ProjectGeneratorTest, DependsOnlyOnItsArguments)
-{
-    constexpr ProjectSize size{5, 40, 200};
-    const QByteArray bytes = saved(*generate(size, 7));
-    EXPECT_TRUE(saved(*generate(size, 7)) == bytes);
-    EXPECT_FALSE(saved(*generate(size, 8)) == bytes);
-}
-
-TEST_F(ProjectGeneratorTest, CreatesExactlyTheRequestedCounts)
-{
-    constexpr ProjectSize sizes[] = {{1, 8, 1}, {1, 9, 400}, {3, 30, 10}, {7, 8, 7}, {30, 1'000, 1'000}};
-    for (const ProjectSize &size : sizes) {
-        for (const quint64 seed : {1, 2, 3}) {
-            const std::unique_ptr<Project> project = generate(size, seed);
-            EXPECT_EQ(project->screens()->listItemCount(), size.screens);
-            EXPECT_EQ(project->variables()->listItemCount(), size.variables);
-            EXPECT_EQ(elementCount(*project), size.elements);
-        }
-    }
 }
 
 TEST_F(ProjectGeneratorTest, ReportsImpossibleCounts)

@@ -428,21 +428,3 @@ TEST(GeneralDataInfo, RenamesWholeNames)
     }
 }
 
-TEST(GeneralDataInfo, ReplacesTheNameInATerm)
-{
-    Info term = element(Info::ColorData, u"Main.group1.rect1.color"_s);
-    EXPECT_EQ(term.objectName(), u"Main.group1.rect1");
-    EXPECT_TRUE(term.containsScreenObject(u"Main"_s));
-    EXPECT_FALSE(term.containsScreenObject(u"group1"_s));
-    EXPECT_FALSE(term.replaceScreenObject(u"group1"_s, u"x"_s));
-    EXPECT_TRUE(term.replaceScreenObject(u"Main"_s, u"Alarms"_s));
-    EXPECT_EQ(term.value(), u"Alarms.group1.rect1.color");
-    EXPECT_TRUE(term.replaceObject(u"rect2"_s));
-    EXPECT_EQ(term.value(), u"rect2.color");
-    EXPECT_TRUE(term.removeObject());
-    EXPECT_EQ(term, element(Info::ColorData, QString()));
-    EXPECT_FALSE(term.isValid(true));
-    EXPECT_FALSE(term.removeObject());
-    EXPECT_FALSE(term.replaceObject(u"x"_s));
-    EXPECT_EQ(Info(term.toString()), term);
-}

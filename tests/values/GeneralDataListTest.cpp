@@ -89,20 +89,6 @@ TEST(GeneralDataList, ListOperations)
     EXPECT_FALSE(none.startsWith(Info()) || none.endsWith(Info()));
 }
 
-//! The sanitizers detect references that outlive their list.
-TEST(GeneralDataList, AppendsToTemporaryLists)
-{
-    const GeneralDataInfo term(GeneralDataInfo::ConstantValue, GeneralDataInfo::IntegerData, u"7"_s);
-    const GeneralDataList &held = GeneralDataList() << term << term;
-    EXPECT_EQ(held.count(), 2);
-    for (const GeneralDataInfo &each : GeneralDataList() << term) {
-        EXPECT_EQ(each, term);
-    }
-    GeneralDataList list;
-    (list << term) << term;
-    EXPECT_EQ(list.count(), 2);
-}
-
 TEST(GeneralDataList, ChecksTermsAsTheGivenKind)
 {
     struct Case

@@ -196,12 +196,3 @@ TEST_F(PreviewVerb, RefusesABuildThatCannotBeConfined)
 }
 #endif
 
-TEST_F(PreviewVerb, RunsTheTourOfThePumpStation)
-{
-    const QString folder = QStringLiteral(CORVEX_EXAMPLES "/PumpStation/");
-    const ProgramRun tour = preview(folder + u"PumpStation.kdproj"_s,
-                                    {u"--script"_s, folder + u"tour.preview"_s, u"--shot"_s, u"out"_s});
-    EXPECT_EQ(tour.out, u"out/flooded.png\nout/settings.png\nout/trends.png\n"_s);
-    EXPECT_EQ(tour.error, QString());
-    EXPECT_EQ(tour.code, 0);
-}

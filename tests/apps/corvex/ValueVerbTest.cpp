@@ -75,20 +75,6 @@ TEST(ValueVerb, AcceptsTheExampleOfEachKind)
     }
 }
 
-TEST(ValueVerb, PrintsOnlyWhatItAccepts)
-{
-    const ProgramRun good = corvex({u"value"_s, u"int"_s, u"-26"_s});
-    EXPECT_EQ(good.out, u"-26\n"_s);
-    EXPECT_EQ(good.error, QString());
-    EXPECT_EQ(good.code, 0);
-    const ProgramRun bad = corvex({u"value"_s, u"point"_s, u"%1 \"a\""_s});
-    EXPECT_EQ(bad.out, QString());
-    EXPECT_EQ(
-        bad.error,
-        u"corvex: \"%1 \"a\"\" is not a value of the kind \"point\". An example is \"x: 10; y: 20.5;\".\n"_s);
-    EXPECT_EQ(bad.code, 1);
-}
-
 TEST(ExprVerb, PrintsTheCodeOrTheReasonAgainstIt)
 {
     struct Case
