@@ -427,4 +427,3 @@ TEST(GeneralDataInfo, RenamesWholeNames)
             << qPrintable(oldName);
     }
 }
-

@@ -195,4 +195,3 @@ TEST_F(PreviewVerb, RefusesABuildThatCannotBeConfined)
     }
 }
 #endif
-
