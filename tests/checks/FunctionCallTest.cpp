@@ -4,7 +4,6 @@
 #include "corvex/values/expressions/ExpressionText.h"
 #include "corvex/values/expressions/ExpressionVocabulary.h"
 
-#include <QCoreApplication>
 #include <QJSEngine>
 #include <QSet>
 
@@ -54,10 +53,6 @@ TEST(FunctionCall, EveryFunctionOfExpressionsHasAnExampleWithItsValue)
     {
         std::optional<GeneralDataInfo> find(const QString &) const override { return {}; }
     };
-    int argc = 1;
-    char program[] = "test";
-    char *argv[] = {program, nullptr};
-    const QCoreApplication application(argc, argv);
     QJSEngine engine;
     QStringList names;
     for (const ExpressionFunction &function : ExpressionFunction::all()) {

@@ -36,7 +36,8 @@ Info::DataType termType(const ProjectVariable &variable)
 
 } // namespace
 
-//! The element with that path, seen from the screen of the expression.
+//! The element with that path, which may begin with its screen. The code of a screen only reaches its own
+//! elements.
 const Element *ProjectNames::element(const QString &path) const
 {
     if (const Element *found = m_screen ? m_screen->getElement(path) : nullptr) {
@@ -44,9 +45,9 @@ const Element *ProjectNames::element(const QString &path) const
     }
     const QString first = ObjectPath::firstSegment(path).toString();
     const DesignerObject *screen = m_project.screens()->getListItem(first);
-    return screen && first != path
-               ? static_cast<const Screen *>(screen)->getElement(path.sliced(first.size() + 1))
-               : nullptr;
+    const bool isReached = screen && first != path && (!m_screen || screen == m_screen);
+    return isReached ? static_cast<const Screen *>(screen)->getElement(path.sliced(first.size() + 1))
+                     : nullptr;
 }
 
 std::optional<Info> ProjectNames::find(const QString &path) const
@@ -62,9 +63,12 @@ std::optional<Info> ProjectNames::find(const QString &path) const
     }
     const RuntimePropertyList properties = owner->runtimeProperties();
     const auto property = std::ranges::find(properties, id, &RuntimeProperty::property);
-    return property == properties.end()
-               ? std::nullopt
-               : std::optional(Info(Info::ObjectValue, termType(property->type()), path));
+    if (property == properties.end()) {
+        return {};
+    }
+    // On its own screen, the name of an element identifies it.
+    const QString name = m_screen ? owner->getIdName() + u'.' + id : path;
+    return Info(Info::ObjectValue, termType(property->type()), name);
 }
 
 QStringList ProjectNames::candidates(const QString &path) const

@@ -13,7 +13,9 @@ class Project;
 class Screen;
 
 /*! The variables of a project and the properties of its elements, as readable expressions name them:
-    "level", "lamp.visible" for an element of the same screen, "Main.lamp.visible" for one of any screen.
+    "level", "lamp.visible" for an element. A path may lead through groups and begin with the screen
+    ("Main.group1.lamp.visible"). On a screen, only its own elements can be named, and the term has the
+   element's name alone; elsewhere the path needs the screen and remains.
 */
 class CORVEX_EXPORT ProjectNames : public ExpressionNames
 {

@@ -112,6 +112,16 @@ SharedProperty targetOf(const DesignerProperty &property, const SettingText &set
     return element ? element->getProperty(setting.property) : SharedProperty();
 }
 
+//! Reduces a path that begins with the screen to the name of the element.
+void leaveScreen(const DesignerProperty &property, SettingText &setting)
+{
+    const Screen *screen = property.parentObject()->screen();
+    const QString prefix = screen ? screen->getIdName() + u'.' : QString();
+    if (screen && setting.element.startsWith(prefix) && !screen->hasElement(setting.element)) {
+        setting.element.remove(0, prefix.size());
+    }
+}
+
 //! The settings, each with the stored form of its value.
 std::optional<QList<SettingText>> readSettings(const DesignerProperty &property, const QString &text,
                                                QString &error)
@@ -123,18 +133,22 @@ std::optional<QList<SettingText>> readSettings(const DesignerProperty &property,
         return {};
     }
     for (SettingText &setting : *settings) {
+        leaveScreen(property, setting);
         const SharedProperty target = targetOf(property, setting);
-        if (!target || !propertyCast<GeneralDataListProperty>(target)) {
+        if (!target) {
+            const QString path = setting.element + u'.' + setting.property;
+            error = Suggestion::unknown(u"property"_s, path, namesFor(property).candidates(path), {});
+            return {};
+        }
+        if (!propertyCast<GeneralDataListProperty>(target)) {
             setting.value = SettingText::unquoted(setting.value); // in an expression, quotes make a text
         }
-        if (target) {
-            const Reading value = ReadableValue::read(*target, setting.value);
-            if (!value.error.isEmpty()) {
-                error = u"%1.%2: %3"_s.arg(setting.element, setting.property, value.error);
-                return {};
-            }
-            setting.value = value.stored;
+        const Reading value = ReadableValue::read(*target, setting.value);
+        if (!value.error.isEmpty()) {
+            error = u"%1.%2: %3"_s.arg(setting.element, setting.property, value.error);
+            return {};
         }
+        setting.value = value.stored;
     }
     return settings;
 }

@@ -78,7 +78,8 @@ QString valueIn(const EditCall &call, const DesignerProperty &property)
     }
     const bool isText = propertyCast<GeneralDataListProperty>(&property) && !words.isEmpty()
                         && !ExpressionText::isStored(words.first());
-    return words.size() == 1 && !isText ? words.first() : rest;
+    const bool isQuoted = words.size() == 1 && rest.startsWith(u'"') && rest.endsWith(u'"');
+    return isQuoted && !isText ? words.first() : rest;
 }
 
 DesignerObject *make(const QString &className, const QString &name)

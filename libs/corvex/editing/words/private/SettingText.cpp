@@ -32,9 +32,11 @@ std::optional<SettingText> takeSetting(QStringView text, qsizetype &place)
     setting.element = path.chopped(std::min(path.size(), setting.property.size() + 1));
     qsizetype end = colon + 1;
     while (end < text.size() && text[end] != u';') {
-        // A quote that is not closed is a part of the value.
+        // A quote behind a word ("5\" pipe"), or one that is not closed, is a part of the value.
+        const QStringView before = text.sliced(colon, end - colon).trimmed();
         qsizetype behind = end;
-        const bool isText = text[end] == u'"' && !ReadableText::takeQuoted(text, behind).isNull();
+        const bool isText = text[end] == u'"' && !before.last(1).front().isLetterOrNumber()
+                            && !ReadableText::takeQuoted(text, behind).isNull();
         end = isText ? behind : end + 1;
     }
     setting.value = text.sliced(colon + 1, end - colon - 1).trimmed().toString();
