@@ -6,7 +6,6 @@
 #include "corvex/core/QmlBinding.h"
 #include "corvex/core/properties/ExpressionProperties.h"
 
-#include "elements/Rows.h"
 #include "elements/Statements.h"
 #include "elements/Validators.h"
 
@@ -64,8 +63,8 @@ void replaceByExpression(QmlBinding &binding, const DesignerObject *owner)
 
 bool bindingValidator(const DesignerProperty *property, QString &error)
 {
-    const GeneralDataList &expression = expressionOf(*property);
     const auto &typed = static_cast<const GeneralDataListProperty &>(*property);
+    const GeneralDataList &expression = typed.value();
     const ExpressionPurpose purpose = typed.purpose();
     if (acceptExpression(expression, purpose.kind, !codeOf(expression, purpose).isEmpty(), error)) {
         return true;

@@ -34,7 +34,7 @@ ProjectNames namesFor(const DesignerProperty &property)
     return ProjectNames(*owner->project(), owner->screen());
 }
 
-//! "At "levl": There is no such variable. Did you mean "level"?"
+//! The error with its place and the nearest name.
 QString described(const ExpressionText::Error &error, const QString &text, const ProjectNames &names)
 {
     const QString place =
@@ -171,13 +171,15 @@ Reading readStates(const DesignerProperty &property, const QString &text)
     if (!settings) {
         return reading;
     }
+    // Settings of one element in a row are one update.
     UpdateObjectList updates;
-    for (const auto &[element, id, value] : *settings) {
-        const bool continues = updates.count() > 0 && updates.at(updates.count() - 1).name() == element;
-        UpdateObjectInfo update = continues ? updates.takeLast() : UpdateObjectInfo();
-        update.setName(element);
-        PropertyInfoList values = update.propertyValues();
-        values.append(PropertyInfo(id, value));
+    for (auto setting = settings->cbegin(); setting != settings->cend();) {
+        UpdateObjectInfo update;
+        PropertyInfoList values;
+        update.setName(setting->element);
+        for (; setting != settings->cend() && setting->element == update.name(); ++setting) {
+            values.append(PropertyInfo(setting->property, setting->value));
+        }
         update.setPropertyValues(values);
         updates.append(update);
     }

@@ -26,7 +26,6 @@ QString ExpressionPrinter::printedConstant(const Info &term) const
     const QString &value = term.value();
     switch (term.dataType()) {
     case Info::BooleanData:
-        return value;
     case Info::IntegerData:
         return value;
     case Info::FloatData:

@@ -9,10 +9,9 @@
 #include <QColor>
 #include <QFont>
 #include <QPointF>
-#include <QRegularExpression>
 #include <QSizeF>
 
-#include <cmath>
+#include <initializer_list>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -23,16 +22,23 @@ namespace {
 
 using Conversion = ValueConversion;
 
-//! Two numbers with \a separator, a pattern, between them.
-std::optional<QPointF> readPair(const QString &text, const QString &separator)
+//! Two numbers with one of the separators between them.
+std::optional<QPointF> readPair(QStringView text, std::initializer_list<QStringView> separators)
 {
-    const QRegularExpression form(u"^\\s*(\\S+?)\\s*(?:%1)\\s*(\\S+)\\s*$"_s.arg(separator));
-    const QRegularExpressionMatch match = form.match(text);
-    bool isFirst = false;
-    bool isSecond = false;
-    const QPointF pair(Conversion::toReal(match.captured(1), &isFirst),
-                       Conversion::toReal(match.captured(2), &isSecond));
-    return isFirst && isSecond ? std::optional(pair) : std::nullopt;
+    for (const QStringView separator : separators) {
+        const qsizetype place = text.indexOf(separator);
+        bool isFirst = false;
+        bool isSecond = false;
+        if (place > 0) {
+            const QPointF pair(
+                Conversion::toReal(text.first(place).trimmed(), &isFirst),
+                Conversion::toReal(text.sliced(place + separator.size()).trimmed(), &isSecond));
+            if (isFirst && isSecond) {
+                return pair;
+            }
+        }
+    }
+    return {};
 }
 
 QString printPair(double first, QLatin1StringView separator, double second)
@@ -101,7 +107,7 @@ QString ReadableText::fromSize(const QString &stored)
 
 QString ReadableText::toSize(const QString &text)
 {
-    const std::optional<QPointF> pair = readPair(text, u"[xX×]"_s);
+    const std::optional<QPointF> pair = readPair(text, {u"x", u"X", u"×"});
     return pair ? Conversion::toString(QSizeF(pair->x(), pair->y())) : QString();
 }
 
@@ -114,7 +120,7 @@ QString ReadableText::fromPoint(const QString &stored)
 
 QString ReadableText::toPoint(const QString &text)
 {
-    const std::optional<QPointF> pair = readPair(text, u","_s);
+    const std::optional<QPointF> pair = readPair(text, {u","});
     return pair ? Conversion::toString(*pair) : QString();
 }
 
@@ -127,7 +133,7 @@ QString ReadableText::fromRange(const QString &stored)
 
 QString ReadableText::toRange(const QString &text)
 {
-    const std::optional<QPointF> pair = readPair(text, u"\\bto\\b"_s);
+    const std::optional<QPointF> pair = readPair(text, {u" to "});
     return pair ? RangeInfo(pair->x(), pair->y()).toString() : QString();
 }
 

@@ -33,9 +33,9 @@ std::optional<SettingText> takeSetting(QStringView text, qsizetype &place)
     qsizetype end = colon + 1;
     while (end < text.size() && text[end] != u';') {
         // A quote behind a word ("5\" pipe"), or one that is not closed, is a part of the value.
-        const QStringView before = text.sliced(colon, end - colon).trimmed();
         qsizetype behind = end;
-        const bool isText = text[end] == u'"' && !before.last(1).front().isLetterOrNumber()
+        const bool isText = text[end] == u'"'
+                            && !text.sliced(colon, end - colon).trimmed().back().isLetterOrNumber()
                             && !ReadableText::takeQuoted(text, behind).isNull();
         end = isText ? behind : end + 1;
     }
