@@ -119,7 +119,8 @@ QStringList assignments(const DesignerObject *owner, const QString &name,
         return {};
     }
     QStringList statements;
-    for (const QmlBinding &assigned : assignedBy(element->className(), values)) {
+    const QmlBindings bindings = assignedBy(element->className(), values);
+    for (const QmlBinding &assigned : bindings) {
         statements.append(u"%1.%2 = %3;"_s.arg(object, assigned.name, assigned.code));
     }
     return statements;
