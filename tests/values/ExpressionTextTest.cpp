@@ -120,6 +120,9 @@ TEST(ExpressionTextTest, ErrorsHaveAPlaceAndAReason)
         {u"level + not", 8, "parentheses"},
         {u"random(2)", 7, "no arguments"},
         {u"trim(title)", 0, "cannot be used"},
+        {u"level > 2 and !alarm", 14, "Write \"not\""},
+        {u"level <> 2", 6, "Write \"!=\""},
+        {u"level\u00d72", 5, "Write \"*\""},
     };
     for (const auto &[text, position, message] : cases) {
         const QString given = QString::fromUtf16(text);
@@ -155,6 +158,15 @@ TEST(ExpressionTextTest, RulesHaveAConditionAndAnEffect)
                                   u"when alarm when alarm do level = 0", u"do level = 0"}) {
         EXPECT_TRUE(ExpressionText::readRules(QString::fromUtf16(wrong), names).error)
             << qPrintable(QString::fromUtf16(wrong));
+    }
+    const QString foreign = u"when !alarm do level = 0"_s;
+    const ExpressionText::RuleReading refused = ExpressionText::readRules(foreign, names);
+    ASSERT_TRUE(refused.error);
+    EXPECT_EQ(refused.error->position, foreign.indexOf(u'!'));
+    EXPECT_TRUE(refused.error->message.contains(u"\"not\""_s)) << qPrintable(refused.error->message);
+    for (const char16_t *wrong :
+         {u"when alarm do level = $", u"when alarm do title = \"a", u"!", u"when alarm do title = \"\\q\""}) {
+        EXPECT_TRUE(ExpressionText::readRules(QString::fromUtf16(wrong), names).error);
     }
 }
 

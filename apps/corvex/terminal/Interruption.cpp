@@ -12,18 +12,24 @@ namespace {
 volatile std::sig_atomic_t isNoted = 0;
 volatile std::sig_atomic_t nothing = -1; //!< descriptor of an empty file
 
-void note(int)
+} // namespace
+
+void Interruption::note(int)
 {
     const int before = errno;
     isNoted = 1;
+    // A second signal ends the program at once.
+    struct sigaction action = {};
+    action.sa_handler = SIG_DFL;
+    for (const int number : signalNumbers) {
+        sigaction(number, &action, nullptr);
+    }
     // A read that starts later is not interrupted by a signal, so let it hit the end of input.
     if (nothing >= 0) {
         dup2(nothing, STDIN_FILENO);
     }
     errno = before;
 }
-
-} // namespace
 
 Interruption::Interruption()
 {

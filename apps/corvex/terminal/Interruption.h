@@ -7,7 +7,8 @@
 namespace Halvane::Corvex::Tool {
 
 //! While it exists, Ctrl+C and similar signals are recorded instead of ending the program, so that work in a
-//! project folder can be completed or undone. Blocked reads return and standard input ends.
+//! project folder can be completed or undone. Blocked reads return and standard input ends. A second signal
+//! ends the program.
 class Interruption
 {
 public:
@@ -20,6 +21,7 @@ public:
 
 private:
     static constexpr std::array signalNumbers{SIGINT, SIGTERM, SIGHUP};
+    static void note(int);
     std::array<struct sigaction, signalNumbers.size()> m_before{};
 };
 

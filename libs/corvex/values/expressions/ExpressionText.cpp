@@ -125,12 +125,16 @@ ExpressionText::RuleReading ExpressionText::readRules(const QString &text, const
             const qsizetype begin = token.position + token.length;
             do {
                 token = lexer.next(true);
-            } while (token.type != Token::End && !isWord(Words::ruleBegin) && !isWord(Words::ruleEffect));
-            if ((isCondition || token.type != Token::End) && !isWord(end)) {
+            } while (token.type != Token::End && token.type != Token::Wrong && !isWord(Words::ruleBegin)
+                     && !isWord(Words::ruleEffect));
+            // A wrong token belongs to the part, which reports it.
+            const bool isWrong = token.type == Token::Wrong;
+            if (!isWrong && (isCondition || token.type != Token::End) && !isWord(end)) {
                 return fail(token, form);
             }
-            const Reading part = read(text.sliced(begin, token.position - begin),
-                                      isCondition ? conditionPurpose : assignmentPurpose, names);
+            const Reading part =
+                read(isWrong ? text.sliced(begin) : text.sliced(begin, token.position - begin),
+                     isCondition ? conditionPurpose : assignmentPurpose, names);
             if (part.error) {
                 reading.rules.clear();
                 reading.error = part.error;

@@ -21,6 +21,15 @@ constexpr struct
     char16_t character;
 } escapes[] = {{u'n', u'\n'}, {u't', u'\t'}, {u'r', u'\r'}, {u'"', u'"'}, {u'\'', u'\''}, {u'\\', u'\\'}};
 
+//! Signs of other languages, and what to write instead.
+constexpr struct
+{
+    QStringView sign;
+    QLatin1StringView replacement;
+} foreignSigns[] = {{u"<>", "!="_L1},    {u"=>", ">="_L1},     {u"=<", "<="_L1},     {u"**", "pow(x, y)"_L1},
+                    {u"!", "not"_L1},    {u"\u2260", "!="_L1}, {u"\u2265", ">="_L1}, {u"\u2264", "<="_L1},
+                    {u"\u00d7", "*"_L1}, {u"\u00f7", "/"_L1},  {u"\u2212", "-"_L1}};
+
 bool beginsName(QChar c)
 {
     return c.isLetter() || c == u'_';
@@ -61,9 +70,11 @@ Token ExpressionLexer::token(Token::Type type, qsizetype begin, const QString &t
     return {type, text, begin, m_place - begin};
 }
 
-Token ExpressionLexer::wrong(qsizetype begin, const QString &message)
+//! Takes at least one character, so that every loop over tokens ends.
+Token ExpressionLexer::wrong(qsizetype begin, const QString &english)
 {
-    return {Token::Wrong, LocalizationHelper::coreString(message), begin,
+    m_place = std::clamp(m_place, std::min(begin + 1, m_text.size()), m_text.size());
+    return {Token::Wrong, LocalizationHelper::coreString(english), begin,
             std::max<qsizetype>(m_place - begin, 1)};
 }
 
@@ -204,11 +215,20 @@ Token ExpressionLexer::takeSign()
         }
         return token(Token::Annotation, begin, m_text.sliced(begin + 2, m_place - begin - 2).toString());
     }
-    for (const QString &sign : signs()) {
-        if (m_text.sliced(m_place).startsWith(sign)) {
-            m_place += sign.size();
-            return token(Token::Sign, begin, sign);
-        }
+    const auto follows = [this](const auto &sign) { return m_text.sliced(m_place).startsWith(sign); };
+    const auto known = std::ranges::find_if(signs(), follows);
+    const auto *foreign =
+        std::ranges::find_if(foreignSigns, [&](const auto &row) { return follows(row.sign); });
+    const bool isKnown = known != signs().end();
+    if (foreign != std::end(foreignSigns) && (!isKnown || foreign->sign.size() > known->size())) {
+        m_place += foreign->sign.size();
+        Token taken = wrong(begin, u"Write \"%1\" instead."_s);
+        taken.text = taken.text.arg(foreign->replacement);
+        return taken;
+    }
+    if (isKnown) {
+        m_place += known->size();
+        return token(Token::Sign, begin, *known);
     }
     return wrong(begin, u"This character has no meaning here. Texts are in double quotes."_s);
 }

@@ -53,7 +53,7 @@ private:
         return m_place + offset < m_text.size() ? m_text[m_place + offset] : QChar();
     }
     ExpressionToken token(ExpressionToken::Type type, qsizetype begin, const QString &text) const;
-    ExpressionToken wrong(qsizetype begin, const QString &message);
+    ExpressionToken wrong(qsizetype begin, const QString &english);
     ExpressionToken takeQuoted();
     ExpressionToken takeNumber();
     ExpressionToken takeColor();
