@@ -34,7 +34,11 @@ ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *pare
     connect(m_history.get(), &ProjectHistory::changed, this, &ProjectDocument::onHistoryChanged);
     connect(m_history.get(), &ProjectHistory::moved, this, [this](const UndoCommand *command) {
         // selectedItems() does not change the command.
-        if (const auto items = const_cast<UndoCommand *>(command)->selectedItems(); !items.isEmpty()) {
+        const QList<DesignerObject *> items = const_cast<UndoCommand *>(command)->selectedItems();
+        // An edit of some of the selected objects does not deselect the others.
+        const QList<DesignerObject *> all = selection();
+        const QSet<DesignerObject *> selected(all.cbegin(), all.cend());
+        if (!std::ranges::all_of(items, [&](DesignerObject *item) { return selected.contains(item); })) {
             select(items);
         }
     });
