@@ -5,6 +5,7 @@
 #include "corvex/editing/graphics/GraphicsItemGroup.h"
 #include "corvex/editing/graphics/GraphicsRectangle.h"
 #include "corvex/editing/graphics/ScreenRectangle.h"
+#include "corvex/editors/Editors.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/ImageResource.h"
@@ -87,67 +88,6 @@ constexpr ItemRow items[] = {
      }},
 };
 
-constexpr const char *editors[] = {
-    "PropertyEditor",
-    "AutosaveObjectEditor",
-    "AddressMapEditor",
-    "BACObjIdEditor",
-    "BACDeviceEditor",
-    "BACnetPropertiesEditor",
-    "BooleanEditor",
-    "BorderEditor",
-    "CANVariableEditor",
-    "ChannelEditor",
-    "ColorEditor",
-    "ColorListEditor",
-    "CompatibleModelsEditor",
-    "DeviceModelEditor",
-    "DigitalChannelEditor",
-    "DigitalIOEditor",
-    "ElementPropertyChangesEditor",
-    "EnumEditor",
-    "ErrorFlagsEditor",
-    "FontEditor",
-    "GradientStopsEditor",
-    "IdentifierEditor",
-    "ImageSourceEditor",
-    "IntegerEditor",
-    "IOErrorFlagsEditor",
-    "ItemsOrderEditor",
-    "KeepRatioEditor",
-    "LargeNumberEditor",
-    "LinkEditor",
-    "MACAddressEditor",
-    "NetworkAddressEditor",
-    "NumberEditor",
-    "ObjectEditor",
-    "OpacityEditor",
-    "OriginalLocationEditor",
-    "PlainTextEditor",
-    "PointEditor",
-    "PropertyChangesEditor",
-    "RangeEditor",
-    "ReadOnlyLineEditor",
-    "RealEditor",
-    "ScaleEditor",
-    "ScreenColorEditor",
-    "ScreenOrientationEditor",
-    "ScreenSizeEditor",
-    "SingleLineEditor",
-    "SizeEditor",
-    "TransformOriginEditor",
-    "ValueRangeEditor",
-    "VerticalBooleanExpressionEditor",
-    "VerticalMathExpressionEditor",
-    "VerticalStringExpressionEditor",
-    "SerialRS485Editor",
-    "SPIChipSelectEditor",
-    "ProjectPasswordEditor",
-    "SerialCOMPortsEditor",
-    "StringAddressMapEditor",
-};
-static_assert(std::size(editors) == 57);
-
 } // namespace
 
 CoreFactory::CoreFactory(QObject *parent)
@@ -164,13 +104,14 @@ Template *CoreFactory::createTemplate(const QString &className, QObject *parent)
     return object->initialize() ? static_cast<Template *>(object.release()) : nullptr;
 }
 
+PropertyEditor *CoreFactory::createEditor(const QString &editorName, QWidget *parent)
+{
+    return Editors::create(editorName, parent);
+}
+
 QStringList CoreFactory::editorNames() const
 {
-    QStringList names;
-    for (const char *editor : editors) {
-        names.append(QString::fromLatin1(editor));
-    }
-    return names;
+    return Editors::names();
 }
 
 QStringList CoreFactory::templateNames() const

@@ -19,6 +19,7 @@ class CORVEX_EXPORT CoreFactory
 public:
     explicit CoreFactory(QObject *parent = nullptr);
 
+    PropertyEditor *createEditor(const QString &editorName, QWidget *parent) override;
     Template *createTemplate(const QString &className, QObject *parent) override;
 
     QStringList editorNames() const override;

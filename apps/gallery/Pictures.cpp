@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "Pictures.h"
+
+#include "corvex/editors/Editors.h"
+#include "corvex/editors/PropertyEditor.h"
+#include "corvex/editors/PropertyPanel.h"
+#include "corvex/widgets/Theme.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Gallery {
+
+using namespace Designer;
+
+namespace {
+
+constexpr int panelWidth = 340;
+
+QLabel *caption(const QString &text)
+{
+    auto *label = new QLabel(text);
+    Theme::setTextColor(label, &Theme::muted);
+    return label;
+}
+
+} // namespace
+
+Pictures::Pictures(Stage &stage, const QString &folder)
+    : m_stage(stage)
+    , m_folder(folder)
+{ }
+
+QStringList Pictures::draw()
+{
+    if (!QDir().mkpath(m_folder)) {
+        return {u"%1: The folder cannot be created."_s.arg(m_folder)};
+    }
+    drawPanels();
+    drawEditors();
+    return m_errors;
+}
+
+void Pictures::save(QWidget &widget, const QString &name)
+{
+    widget.ensurePolished();
+    QApplication::processEvents();
+    const QString path = m_folder + u'/' + name + ".png"_L1;
+    if (!widget.grab().save(path)) {
+        m_errors.append(u"%1: The picture cannot be written."_s.arg(path));
+    }
+}
+
+//! The panel of an object of each class, in full height.
+void Pictures::drawPanels()
+{
+    const QMap<QString, DesignerObject *> objects = m_stage.objects();
+    for (auto object = objects.begin(); object != objects.end(); ++object) {
+        m_stage.document().select({object.value()});
+        PropertyPanel panel(m_stage.document());
+        panel.resize(panelWidth, 4000);
+        panel.show();
+        panel.resize(panelWidth, panel.widget()->height());
+        save(panel, "panel-"_L1 + object.key());
+    }
+}
+
+//! Each editor with the first property that uses it.
+void Pictures::drawEditors()
+{
+    QSet<QString> drawn;
+    const QMap<QString, DesignerObject *> objects = m_stage.objects();
+    for (auto object = objects.begin(); object != objects.end(); ++object) {
+        PropertySheet sheet(m_stage.document().project());
+        sheet.setObjects({object.value()});
+        for (int row = 0; row < sheet.rowCount(); ++row) {
+            const QString name = Editors::nameFor(sheet.row(row));
+            if (!drawn.contains(name)) {
+                drawn.insert(name);
+                drawEditor(name, object.key(), sheet.row(row).id);
+            }
+        }
+    }
+    for (const QString &name : Editors::names()) {
+        if (!drawn.contains(name)) {
+            m_errors.append(u"%1: No property uses this editor."_s.arg(name));
+        }
+    }
+}
+
+//! The editor with a value, with values that differ, and with an error.
+void Pictures::drawEditor(const QString &name, const QString &className, const QString &id)
+{
+    QWidget page;
+    auto *layout = new QVBoxLayout(&page);
+    PropertySheet sheet(m_stage.document().project());
+    DesignerObject *first = m_stage.objects().value(className);
+    sheet.setObjects({first});
+    const auto add = [&](const QString &state, PropertySheet &shown) {
+        layout->addWidget(caption(u"%1: %2"_s.arg(name, state)));
+        PropertyEditor *editor = Editors::createFor(shown.row(shown.rowOf(id)), &page);
+        editor->setProperty(&shown, id);
+        layout->addWidget(editor);
+        return editor;
+    };
+    add(u"a value"_s, sheet);
+
+    PropertySheet several(m_stage.document().project());
+    DesignerObject *second = m_stage.another(className);
+    if (second) {
+        several.setObjects({first, second});
+        if (several.rowOf(id) >= 0) {
+            add(u"two objects"_s, several);
+        }
+    }
+    add(u"refused"_s, sheet)->refuse(u"This is what a refused entry looks like."_s);
+    page.resize(panelWidth, page.sizeHint().height());
+    page.show();
+    save(page, "editor-"_L1 + name);
+}
+
+} // namespace Halvane::Corvex::Gallery

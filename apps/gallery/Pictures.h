@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Stage.h"
+
+#include <QStringList>
+
+namespace Halvane::Corvex::Gallery {
+
+//! Draws the pictures of the gallery into a folder, with the style and the palette of the application.
+class Pictures
+{
+public:
+    Pictures(Stage &stage, const QString &folder);
+
+    //! Draws all. Returns what could not be drawn, one line each.
+    QStringList draw();
+
+private:
+    void drawPanels();
+    void drawEditors();
+    void drawEditor(const QString &name, const QString &className, const QString &id);
+    void save(QWidget &widget, const QString &name);
+
+    Stage &m_stage;
+    QString m_folder;
+    QStringList m_errors;
+};
+
+} // namespace Halvane::Corvex::Gallery

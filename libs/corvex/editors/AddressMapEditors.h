@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editors/PropertyEditor.h"
+
+namespace Halvane::Corvex::Designer {
+
+class CORVEX_EXPORT AddressMapEditor : public PropertyEditor
+{
+    Q_OBJECT
+
+public:
+    using PropertyEditor::PropertyEditor;
+};
+
+class CORVEX_EXPORT StringAddressMapEditor : public PropertyEditor
+{
+    Q_OBJECT
+
+public:
+    using PropertyEditor::PropertyEditor;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editors/PropertyEditor.h"
+
+namespace Halvane::Corvex::Designer {
+
+class CORVEX_EXPORT BACObjIdEditor : public PropertyEditor
+{
+    Q_OBJECT
+
+public:
+    using PropertyEditor::PropertyEditor;
+};
+
+class CORVEX_EXPORT BACDeviceEditor : public PropertyEditor
+{
+    Q_OBJECT
+
+public:
+    using PropertyEditor::PropertyEditor;
+};
+
+class CORVEX_EXPORT BACnetPropertiesEditor : public PropertyEditor
+{
+    Q_OBJECT
+
+public:
+    using PropertyEditor::PropertyEditor;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editors/PropertyEditor.h"
+
+namespace Halvane::Corvex::Designer {
+
+class CORVEX_EXPORT FontEditor : public PropertyEditor
+{
+    Q_OBJECT
+
+public:
+    using PropertyEditor::PropertyEditor;
+};
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editors/PropertyEditor.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/undo/UndoCommand.h"
+#include "corvex/editing/words/ReadableValue.h"
+#include "corvex/widgets/KdLineEdit.h"
+#include "corvex/widgets/Theme.h"
+#include "corvex/widgets/WheelGuard.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
+
+PropertyEditor::PropertyEditor(QWidget *parent)
+    : QWidget(parent)
+    , m_layout(new QVBoxLayout(this))
+    , m_fields(new QHBoxLayout)
+{
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(2);
+    m_fields->setSpacing(Theme::gap);
+    m_layout->addLayout(m_fields);
+}
+
+PropertyEditor::~PropertyEditor() = default;
+
+void PropertyEditor::setProperty(PropertySheet *sheet, const QString &id)
+{
+    if (m_sheet && m_sheet != sheet) {
+        disconnect(m_sheet, nullptr, this, nullptr);
+    }
+    m_hasEntry = false;
+    m_refusal.clear();
+    m_row.id = id;
+    if (m_sheet != sheet) {
+        m_sheet = sheet;
+        if (sheet) {
+            connect(sheet, &PropertySheet::dataChanged, this, [this](const QModelIndex &first) {
+                if (m_sheet->row(first.row()).id == m_row.id) { // the sheet reports rows one by one
+                    update(m_sheet->row(first.row()));
+                }
+            });
+            connect(sheet, &PropertySheet::modelReset, this, [this] {
+                m_hasEntry = false; // it was meant for the objects before
+                follow();
+            });
+            connect(sheet, &PropertySheet::rowsInserted, this, &PropertyEditor::follow);
+            connect(sheet, &PropertySheet::rowsRemoved, this, &PropertyEditor::follow);
+        }
+    }
+    follow();
+}
+
+QList<SharedProperty> PropertyEditor::properties() const
+{
+    const int row = m_sheet ? m_sheet->rowOf(m_row.id) : -1;
+    return row < 0 ? QList<SharedProperty>() : m_sheet->properties(row);
+}
+
+//! Shows the row of the sheet, if there is one.
+void PropertyEditor::follow()
+{
+    const int row = m_sheet ? m_sheet->rowOf(m_row.id) : -1;
+    setEnabled(row >= 0);
+    if (row >= 0) {
+        update(m_sheet->row(row));
+    }
+}
+
+void PropertyEditor::update(const SheetRow &row)
+{
+    m_row = row;
+    if (!m_hasFields) {
+        m_hasFields = true;
+        createFields();
+    }
+    updateAccess();
+    if (!m_hasEntry) {
+        m_refusal.clear();
+        showRow();
+    }
+    setError(m_refusal.isEmpty() ? m_row.error : m_refusal);
+    if (m_row.isVisible == m_isHiddenByRow) {
+        m_isHiddenByRow = !m_row.isVisible;
+        setHidden(m_isHiddenByRow);
+    }
+}
+
+//! Names, descriptions and read-only state for people and for screen readers.
+void PropertyEditor::updateAccess()
+{
+    const QString error = errorString();
+    const QString description = error.isEmpty() ? m_row.description : error;
+    setToolTip(description);
+    for (const Field &field : m_parts) {
+        if (field.widget) {
+            field.widget->setAccessibleName(field.part.isEmpty() ? m_row.title
+                                                                 : m_row.title + u", "_s + field.part);
+            field.widget->setAccessibleDescription(description);
+            if (auto *line = qobject_cast<QLineEdit *>(field.widget)) {
+                line->setReadOnly(m_row.isReadOnly); // so that the text can be copied
+            } else {
+                field.widget->setEnabled(!m_row.isReadOnly);
+            }
+        }
+    }
+}
+
+QString PropertyEditor::errorString() const
+{
+    return m_refusal.isEmpty() ? m_row.error : m_refusal;
+}
+
+void PropertyEditor::setError(const QString &text)
+{
+    if (!m_errorLabel && !text.isEmpty()) {
+        m_errorLabel = new QLabel(this);
+        m_errorLabel->setWordWrap(true);
+        m_errorLabel->setTextFormat(Qt::PlainText);
+        m_errorLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        m_errorLabel->setObjectName(u"error"_s);
+        Theme::setTextColor(m_errorLabel, &Theme::error);
+        m_layout->addWidget(m_errorLabel);
+    }
+    for (const Field &field : m_parts) {
+        if (auto *line = qobject_cast<KdLineEdit *>(field.widget)) {
+            line->setInvalid(!text.isEmpty());
+        }
+    }
+    if (m_errorLabel && (m_errorLabel->text() != text || m_errorLabel->isHidden() != text.isEmpty())) {
+        m_errorLabel->setText(text);
+        m_errorLabel->setVisible(!text.isEmpty());
+        updateAccess();
+        emit heightChanged();
+    }
+}
+
+UndoCommand *PropertyEditor::createUpdateCommand()
+{
+    m_notes.clear();
+    if (!m_hasEntry || m_row.isReadOnly) {
+        return nullptr;
+    }
+    PlannedCommand planned = plan();
+    m_notes = planned.notes;
+    if (!planned && !planned.reason.isEmpty()) {
+        refuse(planned.reason);
+        return nullptr;
+    }
+    // Until the command is pushed, the field keeps the text. If there is none, the field may show the same
+    // value in another spelling.
+    m_hasEntry = false;
+    m_refusal.clear();
+    if (!planned) {
+        showRow();
+    }
+    setError(m_row.error);
+    return planned.command.release();
+}
+
+PlannedCommand PropertyEditor::plan() const
+{
+    QList<RequestedValue> values;
+    for (const SharedProperty &property : properties()) {
+        const Entry entry = entryFor(*property);
+        if (!entry.error.isEmpty()) {
+            return {nullptr, entry.error, {}};
+        }
+        values.append({property, entry.text});
+    }
+    return Commands::changeOf(values);
+}
+
+void PropertyEditor::refuse(const QString &reason)
+{
+    m_hasEntry = true;
+    m_refusal = reason;
+    setError(reason);
+}
+
+void PropertyEditor::restore()
+{
+    m_hasEntry = false;
+    m_refusal.clear();
+    if (m_hasFields) {
+        showRow();
+    }
+    setError(m_row.error);
+}
+
+void PropertyEditor::scrub(double) { }
+
+void PropertyEditor::createFields()
+{
+    m_text = addLine();
+}
+
+void PropertyEditor::showRow()
+{
+    const QList<SharedProperty> all = properties();
+    m_text->setPlaceholderText(m_row.isMixed ? mixedText() : QString());
+    m_text->setShownText(
+        m_row.isMixed || all.isEmpty() ? QString() : ReadableValue::print(*all.constFirst(), m_row.value));
+}
+
+PropertyEditor::Entry PropertyEditor::entryFor(const DesignerProperty &property) const
+{
+    const ReadableValue::Reading reading = ReadableValue::read(property, m_text->text());
+    return {reading.stored, reading.error};
+}
+
+void PropertyEditor::prepareField(QWidget *field, const QString &part)
+{
+    WheelGuard::protect(field);
+    m_parts.push_back({field, part});
+    if (!focusProxy()) {
+        setFocusProxy(field);
+    }
+}
+
+void PropertyEditor::addField(QWidget *field, const QString &part, int stretch)
+{
+    prepareField(field, part);
+    m_fields->addWidget(field, stretch);
+}
+
+KdLineEdit *PropertyEditor::addLine(const QString &part, int stretch)
+{
+    auto *line = prepareLine(new KdLineEdit(this), part);
+    m_fields->addWidget(line, stretch);
+    return line;
+}
+
+KdLineEdit *PropertyEditor::prepareLine(KdLineEdit *line, const QString &part)
+{
+    prepareField(line, part);
+    connect(line, &KdLineEdit::edited, this, &PropertyEditor::markEdited);
+    connect(line, &KdLineEdit::entered, this, &PropertyEditor::completeEntry);
+    connect(line, &KdLineEdit::restored, this, &PropertyEditor::restore);
+    return line;
+}
+
+void PropertyEditor::markEdited()
+{
+    m_hasEntry = true;
+}
+
+void PropertyEditor::completeEntry()
+{
+    m_hasEntry = true;
+    emit entered();
+}
+
+void PropertyEditor::completeStep()
+{
+    m_hasEntry = true;
+    emit stepped();
+}
+
+QString PropertyEditor::mixedText()
+{
+    return LocalizationHelper::coreString(u"Mixed"_s);
+}
+
+} // namespace Halvane::Corvex::Designer

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editors/private/PanelRow.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editors/Editors.h"
+#include "corvex/editors/PropertyEditor.h"
+#include "corvex/editors/private/RowTitle.h"
+#include "corvex/widgets/Theme.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QLayout>
+#include <QMenu>
+#include <QPainter>
+#include <QStyleOption>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
+
+namespace {
+
+constexpr int resetWidth = 22;
+constexpr double titleShare = 0.4;
+constexpr int widestTitle = 200;
+
+} // namespace
+
+PanelRow::PanelRow(PropertySheet &sheet, const SheetRow &row, QWidget *parent)
+    : QWidget(parent)
+    , m_sheet(sheet)
+    , m_editorName(Editors::nameFor(row))
+    , m_kind(row.kind)
+    , m_editor(Editors::createFor(row, this))
+{
+    m_title = new RowTitle(m_editor, this);
+    m_reset = new QToolButton(this);
+    m_reset->setAutoRaise(true);
+    m_reset->setText(u"\u21BA"_s);
+    m_reset->setFocusPolicy(Qt::NoFocus);
+    connect(m_reset, &QToolButton::clicked, this, &PanelRow::resetRequested);
+    connect(m_editor, &PropertyEditor::heightChanged, this, &PanelRow::heightChanged);
+    m_editor->setProperty(&sheet, row.id);
+    showRow(row);
+}
+
+bool PanelRow::fits(const SheetRow &row) const
+{
+    return m_kind == row.kind && m_editorName == Editors::nameFor(row);
+}
+
+void PanelRow::showRow(const SheetRow &row)
+{
+    m_title->setTitle(row.title, !row.isDefault, row.isReadOnly);
+    m_title->setToolTip(row.description);
+    m_reset->setVisible(!row.isDefault && !row.isReadOnly);
+    const QString reset = LocalizationHelper::coreString(u"Reset \"%1\" to its default"_s).arg(row.title);
+    m_reset->setToolTip(reset);
+    m_reset->setAccessibleName(reset);
+}
+
+int PanelRow::titleWidth(int width)
+{
+    return std::min(widestTitle, int(width * titleShare));
+}
+
+int PanelRow::heightFor(int width) const
+{
+    const int fields = m_editor->isWide() ? width - 2 * Theme::margin
+                                          : width - titleWidth(width) - 2 * Theme::margin - resetWidth;
+    const int needed = m_editor->layout()->hasHeightForWidth()
+                           ? m_editor->layout()->totalHeightForWidth(fields)
+                           : m_editor->sizeHint().height();
+    return (m_editor->isWide() ? Theme::fieldHeight(this) : 0) + std::max(needed, Theme::fieldHeight(this))
+           + Theme::gap;
+}
+
+void PanelRow::resizeEvent(QResizeEvent *)
+{
+    const int line = Theme::fieldHeight(this);
+    const int left = titleWidth(width());
+    const int right = width() - Theme::margin - resetWidth;
+    m_reset->setGeometry(right, 0, resetWidth, line);
+    if (m_editor->isWide()) {
+        m_title->setGeometry(Theme::margin, 0, right - Theme::margin, line);
+        m_editor->setGeometry(Theme::margin, line, width() - 2 * Theme::margin, height() - line - Theme::gap);
+    } else {
+        m_title->setGeometry(Theme::margin, 0, left - Theme::margin, line);
+        m_editor->setGeometry(left, 0, right - left, height() - Theme::gap);
+    }
+}
+
+void PanelRow::contextMenuEvent(QContextMenuEvent *event)
+{
+    const int row = m_sheet.rowOf(m_editor->propertyId());
+    if (row < 0) {
+        return;
+    }
+    QMenu menu(this);
+    QAction *copy = menu.addAction(LocalizationHelper::coreString(u"Copy Value"_s), this, [this, row] {
+        QGuiApplication::clipboard()->setText(m_sheet.copy({row}));
+    });
+    copy->setEnabled(!m_sheet.row(row).isMixed);
+    QAction *reset = menu.addAction(LocalizationHelper::coreString(u"Reset to Default"_s), this,
+                                    &PanelRow::resetRequested);
+    reset->setEnabled(!m_sheet.row(row).isDefault && !m_sheet.row(row).isReadOnly);
+    menu.exec(event->globalPos());
+}
+
+PanelHeader::PanelHeader(const QString &title, QWidget *parent)
+    : QAbstractButton(parent)
+{
+    setText(title);
+    setCheckable(true);
+    setChecked(true);
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(title);
+}
+
+QSize PanelHeader::sizeHint() const
+{
+    return {0, Theme::fieldHeight(this) + Theme::margin};
+}
+
+void PanelHeader::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setPen(Theme::line(palette()));
+    painter.drawLine(0, 0, width(), 0);
+
+    QStyleOption arrow;
+    arrow.initFrom(this);
+    arrow.rect = QRect(Theme::margin - 2, (height() - 12) / 2, 12, 12);
+    style()->drawPrimitive(isChecked() ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight,
+                           &arrow, &painter, this);
+    QFont bold = font();
+    bold.setWeight(QFont::DemiBold);
+    painter.setFont(bold);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(rect().adjusted(Theme::margin + 16, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
+    if (hasFocus()) {
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+} // namespace Halvane::Corvex::Designer
