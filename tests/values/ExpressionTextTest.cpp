@@ -69,8 +69,11 @@ TEST(ExpressionTextTest, ReadsWhatPeopleWriteAndPrintsItBack)
          u"level >= Main.lamp.x and alarm == false"},
         {List::BoolExpression, Info::BooleanOutput, u"not (alarm or 'and')",
          u"<0101(><0403alarm><0101||><0403and><0101)><0101==><02030>", u"(alarm or 'and') == false"},
-        {List::StringExpression, Info::StringOutput, u"concat(\"Level \\\"\\u00b0\", level)",
+        {List::StringExpression, Info::StringOutput, u"concat(\"Level \\\"\\u{b0}\", level)",
          u"<0502concat><0207TGV2ZWwgIsKw><0101,><0406level><0101)>", u"concat(\"Level \\\"°\", level)"},
+        {List::StringExpression, Info::StringOutput, u"concat(\"\\ud83d\\ude00\\u{1F600}\", '\\u0061larm')",
+         u"<0502concat><02078J+YgPCfmIA=><0101,><0403alarm><0101)>",
+         u"concat(\"\U0001F600\U0001F600\", alarm)"},
         {List::GeneralExpression, Info::ColorOutput, u"#c62828", u"0208FFC62828", u"#C62828"},
         {List::GeneralExpression, Info::RawOutput, u"0x1a2B", u"02091A2B", u"0x1A2B"},
         {List::GeneralExpression, Info::RawOutput, u"", u"", nullptr},
@@ -109,6 +112,16 @@ TEST(ExpressionTextTest, ErrorsHaveAPlaceAndAReason)
         {u"level + * 2", 8, "value is missing"},
         {u"level ) 2", 6, "value is missing"},
         {u"(level > 2) ? 1 : 0", 10, "Only a boolean"},
+        {u"2 + (alarm) ? 1 : 0", 4, "Omit the parentheses"},
+        {u"max(1 2)", 6, "\",\" or an operator"},
+        {u"max(1, (1 2))", 10, "An operator is missing"},
+        {u"\"\\u 123\"", 1, "not an escape"},
+        {u"\"\\u{}\"", 1, "not an escape"},
+        {u"\"\\u{110000}\"", 1, "not an escape"},
+        {u"\"\\ud83d\"", 0, "half of a character"},
+        {u"not max(1, 2)", 4, "boolean name"},
+        {u"not not alarm", 4, "boolean name"},
+        {u"not PI", 4, "boolean name"},
         {u"level = 2", 6, "=="},
         {u"'level", 0, "closing quote"},
         {u"level + 2x", 8, "not a number"},
@@ -153,7 +166,24 @@ TEST(ExpressionTextTest, RulesHaveAConditionAndAnEffect)
               u"<0406level><0101>><0204A><0101&&><0407title><0101==><0207d2hlbiB4IGRv>|<0403alarm><02031>"
               "<0406level><02040>, 0403alarm|<0403alarm><02030>"_s);
     EXPECT_EQ(ExpressionText::printRules(reading.rules, names), known);
-    EXPECT_EQ(ExpressionText::printRules(PairList(u"|"_s), names), u"when  do "_s);
+    EXPECT_TRUE(ExpressionText::printRules(PairList(u"|"_s), names).isNull());
+    const struct
+    {
+        const char16_t *text;
+        const char *message; //!< a part of it
+    } incomplete[] = {
+        {u"when do alarm = true", "condition after \"when\""},
+        {u"when alarm do", "assignment after \"do\""},
+        {u"when alarm do when alarm do level = 0", "assignment after \"do\""},
+        {u"when alarm do alarm = not alarm", "Only a single value or name"},
+        {u"when alarm do level = level + 1", "Only a single value or name"},
+        {u"when alarm do level = max(1, 2)", "Only a single value or name"},
+    };
+    for (const auto &[rules, message] : incomplete) {
+        const auto error = ExpressionText::readRules(QString::fromUtf16(rules), names).error;
+        EXPECT_TRUE(error && error->message.contains(QLatin1StringView(message)))
+            << qPrintable(QString::fromUtf16(rules));
+    }
     for (const char16_t *wrong : {u"level > 10", u"when alarm", u"when alarm do level = 0 do alarm = true",
                                   u"when alarm when alarm do level = 0", u"do level = 0"}) {
         EXPECT_TRUE(ExpressionText::readRules(QString::fromUtf16(wrong), names).error)

@@ -90,4 +90,33 @@ TEST(ReadableTextTest, ShortFormsStandForStoredOnes)
     }
 }
 
+TEST(ReadableTextTest, QuotesKeepAnyTextOnALine)
+{
+    const struct
+    {
+        QString text;
+        QString quoted; //!< null: needs no quotes
+    } cases[] = {
+        {u"Pump 1: C:\\dir \U0001F600"_s, {}},
+        {u""_s, {}},
+        {u"5\" pipe"_s, u"\"5\\\" pipe\""_s},
+        {u"two\nlines\u2028"_s, u"\"two\\nlines\\u2028\""_s},
+        {u" x"_s, u"\" x\""_s},
+        {u"= 5"_s, u"\"= 5\""_s},
+    };
+    for (const auto &[text, quoted] : cases) {
+        QString error;
+        EXPECT_EQ(ReadableText::needsQuotes(text), !quoted.isNull()) << qPrintable(text);
+        EXPECT_TRUE(quoted.isNull() || ReadableText::quoted(text) == quoted)
+            << qPrintable(ReadableText::quoted(text));
+        EXPECT_EQ(ReadableText::unquoted(ReadableText::quoted(text), error), text);
+        EXPECT_EQ(error, QString());
+    }
+    QString error;
+    EXPECT_EQ(ReadableText::unquoted(u"\"a\" and \"b\""_s, error), u"\"a\" and \"b\""_s);
+    EXPECT_EQ(error, QString());
+    ReadableText::unquoted(u"\"C:\\dir\""_s, error);
+    EXPECT_FALSE(error.isEmpty());
+}
+
 } // namespace Halvane::Corvex::Designer

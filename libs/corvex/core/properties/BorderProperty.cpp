@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/properties/BorderProperty.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/properties/ValidationError.h"
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
@@ -34,6 +37,11 @@ bool BorderProperty::validateValue(QString &error) const
         return ValidationError::set(error, "The border width must be less than or equal to %1 px.", limit);
     }
     return value().color().isValid() || ValidationError::set(error, ValidationError::invalidColor);
+}
+
+QString BorderProperty::formText() const
+{
+    return Common::LocalizationHelper::coreString(u"a border such as 2 #C62828"_s);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/properties/RangeProperty.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/properties/ValidationError.h"
 
 #include <algorithm>
@@ -41,6 +42,11 @@ bool RangeProperty::validateValue(QString &error) const
     const auto rule = std::find_if(rules.begin(), rules.end() - 1,
                                    [&style](const Rule &row) { return style == row.style; });
     return rule->holds(value().minimum(), value().maximum()) || ValidationError::set(error, rule->sentence);
+}
+
+QString RangeProperty::formText() const
+{
+    return Common::LocalizationHelper::coreString(u"a range such as 0 to 100"_s);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -24,6 +24,8 @@ public:
 
 protected:
     using TypedProperty::TypedProperty;
+
+    QString formText() const override;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -21,6 +21,29 @@ using Words = ExpressionWords;
 constexpr ExpressionPurpose conditionPurpose{GeneralDataList::BoolExpression};
 constexpr ExpressionPurpose assignmentPurpose{GeneralDataList::AssignExpression};
 
+//! Whether a term at that place would be an argument of a call.
+bool isInCall(const GeneralDataList &terms, qsizetype place)
+{
+    QList<bool> open; // for each open bracket: whether it is that of a call
+    for (qsizetype i = 0; i < place; ++i) {
+        const Info &term = terms.at(i);
+        if (ExpressionGrammar::isOperator(term, u'(')) {
+            open.append(false);
+        } else if (term.valueType() == Info::FunctionValue && !Words::isWholeCall(term.value())) {
+            open.append(true);
+        } else if (ExpressionGrammar::isOperator(term, u')') && !open.isEmpty()) {
+            open.removeLast();
+        }
+    }
+    return !open.isEmpty() && open.constLast();
+}
+
+bool isBooleanName(const Info &term)
+{
+    return (term.valueType() == Info::ObjectValue || term.valueType() == Info::VariableValue)
+           && term.dataType() == Info::BooleanData;
+}
+
 //! Why the terms have no code, with the place of the reason.
 ExpressionText::Error obstacle(const ExpressionReader &reader, const ExpressionPurpose &purpose)
 {
@@ -46,18 +69,22 @@ ExpressionText::Error obstacle(const ExpressionReader &reader, const ExpressionP
     if (misplaced >= 0) {
         const bool isOperator = terms.at(misplaced).valueType() == Info::OperatorValue;
         return at(misplaced, isOperator ? u"A value is missing before this."_s
-                                        : u"An operator is missing before this."_s);
+                             : isInCall(terms, misplaced)
+                                 ? u"A \",\" or an operator is missing before this."_s
+                                 : u"An operator is missing before this."_s);
     }
     for (qsizetype i = 1; i < terms.count(); ++i) {
-        const Info &condition = terms.at(i - 1);
-        const bool isNamed =
-            condition.valueType() == Info::ObjectValue || condition.valueType() == Info::VariableValue;
-        if (ExpressionGrammar::isOperator(terms.at(i), u'?')
-            && (!isNamed || condition.dataType() != Info::BooleanData)) {
-            return at(i - 1,
-                      u"Only a boolean variable or property can be before \"?\". Set a boolean variable "
-                      "to the comparison first, and use it here."_s);
+        if (!ExpressionGrammar::isOperator(terms.at(i), u'?') || isBooleanName(terms.at(i - 1))) {
+            continue;
         }
+        const bool isEnclosed = i > 2 && ExpressionGrammar::isOperator(terms.at(i - 1), u')')
+                                && isBooleanName(terms.at(i - 2))
+                                && ExpressionGrammar::isOperator(terms.at(i - 3), u'(');
+        if (isEnclosed) {
+            return at(i - 3, u"Omit the parentheses. A single boolean name must be before \"?\"."_s);
+        }
+        return at(i - 1, u"Only a boolean variable or property can be before \"?\". Set a boolean variable "
+                         "to the comparison first, and use it here."_s);
     }
     for (qsizetype i = 0; i < terms.count(); ++i) {
         GeneralDataList single({terms.at(i)});
@@ -141,6 +168,10 @@ ExpressionText::RuleReading ExpressionText::readRules(const QString &text, const
                 reading.error->position += begin;
                 return reading;
             }
+            if (part.terms.isEmpty()) {
+                return fail(token, isCondition ? u"The condition after \"when\" is missing."_s
+                                               : u"The assignment after \"do\" is missing."_s);
+            }
             (isCondition ? rule.first : rule.second) = part.terms.toString();
         }
         reading.rules.append(rule);
@@ -154,7 +185,7 @@ QString ExpressionText::printRules(const PairList &rules, const ExpressionNames 
     for (const TextPair &rule : rules) {
         const QString condition = print(GeneralDataList(rule.first), conditionPurpose, names);
         const QString effect = print(GeneralDataList(rule.second), assignmentPurpose, names);
-        if (condition.isNull() || effect.isNull()) {
+        if (condition.isEmpty() || effect.isEmpty()) {
             return {};
         }
         parts += u"%1 %2 %3 %4"_s.arg(Words::ruleBegin, condition, Words::ruleEffect, effect);

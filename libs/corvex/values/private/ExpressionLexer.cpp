@@ -107,6 +107,9 @@ Token ExpressionLexer::takeQuoted()
     QString text;
     for (++m_place; m_place < m_text.size(); ++m_place) {
         const QChar c = at();
+        if (c == quote && !QStringView(text).isValidUtf16()) {
+            return wrong(begin, u"The text contains half of a character. Write \\u{1F600} for an emoji."_s);
+        }
         if (c == quote) {
             ++m_place;
             Token taken = token(quote == u'"' ? Token::Text : Token::Name, begin, text);
@@ -125,19 +128,33 @@ Token ExpressionLexer::takeQuoted()
             text.append(QChar(escape->character));
             continue;
         }
-        // A code unit: \u and four digits.
-        bool ok = false;
-        const ushort unit = letter == u'u' ? m_text.sliced(m_place + 1)
-                                                 .first(std::min<qsizetype>(4, m_text.size() - m_place - 1))
-                                                 .toUShort(&ok, 16)
-                                           : 0;
-        if (!ok || m_place + 4 >= m_text.size()) {
+        const std::optional<char32_t> character = letter == u'u' ? takeCodePoint() : std::nullopt;
+        if (!character) {
             return wrong(m_place - 1, u"This is not an escape. Write \\\\ for a backslash."_s);
         }
-        text.append(QChar(unit));
-        m_place += 4;
+        text.append(QStringView(QChar::fromUcs4(*character)));
     }
     return wrong(begin, u"The closing quote is missing."_s);
+}
+
+//! The character of an escape: "u" and four digits, or up to six in braces. Moves to the last of them.
+std::optional<char32_t> ExpressionLexer::takeCodePoint()
+{
+    const bool isBraced = at(1) == u'{';
+    const qsizetype most = isBraced ? 6 : 4;
+    const qsizetype begin = m_place + (isBraced ? 2 : 1);
+    qsizetype end = begin;
+    while (end < m_text.size() && end - begin < most && isHexDigit(m_text[end])) {
+        ++end;
+    }
+    const bool isComplete =
+        isBraced ? end > begin && end < m_text.size() && m_text[end] == u'}' : end - begin == most;
+    const char32_t character = isComplete ? m_text.sliced(begin, end - begin).toUInt(nullptr, 16) : 0;
+    if (!isComplete || character > QChar::LastValidCodePoint) {
+        return {};
+    }
+    m_place = isBraced ? end : end - 1;
+    return character;
 }
 
 qsizetype ExpressionLexer::skipDigits()
@@ -233,17 +250,30 @@ Token ExpressionLexer::takeSign()
     return wrong(begin, u"This character has no meaning here. Texts are in double quotes."_s);
 }
 
+bool ExpressionLexer::isPrintable(char32_t c)
+{
+    const QChar::Category category = QChar::category(c);
+    return QChar::isPrint(c) && category != QChar::Separator_Line && category != QChar::Separator_Paragraph;
+}
+
 QString ExpressionLexer::quoted(const QString &text, QChar quote)
 {
     QString result(quote);
-    for (const QChar c : text) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool isPair = c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        if (isPair && isPrintable(QChar::surrogateToUcs4(c, text.at(i + 1)))) {
+            result += c;
+            result += text.at(++i);
+            continue;
+        }
         const auto *escape =
             std::ranges::find_if(escapes, [c](const auto &row) { return row.character == c.unicode(); });
         const bool isOtherQuote = (c == u'"' || c == u'\'') && c != quote;
         if (escape != std::end(escapes) && !isOtherQuote) {
             result += u'\\';
             result += QChar(escape->letter);
-        } else if (!c.isPrint() || c.isSurrogate()) {
+        } else if (!isPrintable(c.unicode())) {
             result += u"\\u%1"_s.arg(c.unicode(), 4, 16, QChar(u'0'));
         } else {
             result += c;

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace Halvane::Corvex::Designer {
 
 //! A word, a sign or a constant in the text of a readable expression.
@@ -44,6 +46,8 @@ public:
 
     //! The text in quotes, with escapes. Everything that is not printable is escaped.
     static QString quoted(const QString &text, QChar quote);
+    //! Whether the character can be on a line of text without an escape.
+    static bool isPrintable(char32_t c);
     //! Whether the name can be written without quotes; it may still be a word of the language.
     static bool isPlainName(QStringView path);
 
@@ -55,6 +59,7 @@ private:
     ExpressionToken token(ExpressionToken::Type type, qsizetype begin, const QString &text) const;
     ExpressionToken wrong(qsizetype begin, const QString &english);
     ExpressionToken takeQuoted();
+    std::optional<char32_t> takeCodePoint();
     ExpressionToken takeNumber();
     ExpressionToken takeColor();
     ExpressionToken takeName();

@@ -20,6 +20,10 @@ Info::ValueType valueTypeOf(const QString &path)
     return path.contains(u'.') ? Info::ObjectValue : Info::VariableValue;
 }
 
+const QString formOfSources =
+    u"Only a single value or name can be assigned, no expression. Rules such as \"when x do y = true\" can "
+    "choose what to assign."_s;
+
 } // namespace
 
 bool ExpressionReader::fail(const Token &token, const QString &english, const QString &name)
@@ -32,7 +36,9 @@ bool ExpressionReader::add(const Token &token, Info::ValueType valueType, Info::
                            const QString &value)
 {
     if (m_isSeparatorDue) {
-        return fail(token, formOfSeparators());
+        const bool isCalculated =
+            m_purpose.isAssignment() && valueType == Info::OperatorValue && m_terms.count() % 2 == 0;
+        return fail(token, isCalculated ? formOfSources : formOfSeparators());
     }
     m_isSeparatorDue = m_purpose.separatesTerms();
     m_terms.append(valueType, dataType, value);
@@ -66,9 +72,9 @@ void ExpressionReader::read()
 bool ExpressionReader::take(const Token &token)
 {
     const bool isParenthesis = token.type == Token::Sign && token.text == u'(';
-    const bool negatesName = m_negates && token.type == Token::Name;
+    const bool negatesName = m_negates && isNegatable(token);
     if (m_negates && !isParenthesis && !negatesName) {
-        return fail(token, u"\"not\" needs a name or a parenthesis."_s);
+        return fail(token, u"\"not\" needs a boolean name, or a condition in parentheses."_s);
     }
     if (m_isNegated && !endNegation(token)) {
         return false;
@@ -105,14 +111,32 @@ bool ExpressionReader::take(const Token &token)
     return false;
 }
 
+bool ExpressionReader::isCall(const Token &name) const
+{
+    if (!Words::isFunction(name.text)) {
+        return false;
+    }
+    const Token next = m_lexer.peek(true);
+    return next.type == Token::Sign && next.text == u'(';
+}
+
+//! Whether "not" can be before the token.
+bool ExpressionReader::isNegatable(const Token &token) const
+{
+    if (token.type != Token::Name || token.isQuoted) {
+        return token.type == Token::Name;
+    }
+    const Words::Word *word = Words::find(token.text);
+    return word ? word->dataType == Info::BooleanData
+                : token.text != Words::negation && !Words::isMathValue(token.text) && !isCall(token);
+}
+
 bool ExpressionReader::takeWord(const Token &token)
 {
     if (token.text == Words::negation) {
         return beginNegation(token);
     }
-    const bool isCall = Words::isFunction(token.text) && m_lexer.peek(true).text == u'('
-                        && m_lexer.peek(true).type == Token::Sign;
-    if (isCall) {
+    if (isCall(token)) {
         return takeCall(token);
     }
     if (const Words::Word *word = Words::find(token.text)) {
@@ -146,6 +170,9 @@ bool ExpressionReader::takeName(const Token &token)
 
 bool ExpressionReader::takeCall(const Token &token)
 {
+    if (m_purpose.isAssignment()) {
+        return fail(token, formOfSources);
+    }
     const Token parenthesis = m_lexer.next(true);
     if (Words::isWholeCall(token.text)) {
         const Token end = m_lexer.next(true);
@@ -163,6 +190,9 @@ bool ExpressionReader::takeCall(const Token &token)
 //! "not" becomes a comparison with false, which binds less than the operators of numbers and comparisons.
 bool ExpressionReader::beginNegation(const Token &token)
 {
+    if (m_purpose.isAssignment()) {
+        return fail(token, formOfSources);
+    }
     static const QStringList looser{u"&&"_s, u"||"_s, u"("_s, u","_s, u"?"_s, u":"_s};
     const bool isFree = m_terms.isEmpty() || isOperandDue();
     const Info last = m_terms.isEmpty() ? Info() : m_terms.at(m_terms.count() - 1);

@@ -34,6 +34,8 @@ private:
     bool takeName(const ExpressionToken &token);
     bool takeSign(const ExpressionToken &token);
     bool takeCall(const ExpressionToken &token);
+    bool isCall(const ExpressionToken &name) const;
+    bool isNegatable(const ExpressionToken &token) const;
     bool beginNegation(const ExpressionToken &token);
     bool endNegation(const ExpressionToken &token);
     bool takeSeparator(const ExpressionToken &token);

@@ -11,6 +11,7 @@
 #include <QPointF>
 #include <QSizeF>
 
+#include <algorithm>
 #include <initializer_list>
 #include <optional>
 
@@ -227,6 +228,29 @@ QString ReadableText::toFont(const QString &text)
 QString ReadableText::quoted(const QString &text)
 {
     return ExpressionLexer::quoted(text, u'"');
+}
+
+bool ReadableText::needsQuotes(const QString &text)
+{
+    const auto isSpecial = [](QChar c) {
+        return c == u'"' || !(c.isSurrogate() || ExpressionLexer::isPrintable(c.unicode()));
+    };
+    return text != text.trimmed() || text.startsWith(u'=') || std::ranges::any_of(text, isSpecial);
+}
+
+QString ReadableText::unquoted(const QString &text, QString &error)
+{
+    if (text.size() < 2 || !text.startsWith(u'"') || !text.endsWith(u'"')) {
+        return text;
+    }
+    const ExpressionToken token = ExpressionLexer(text).next(true);
+    if (token.type == ExpressionToken::Wrong) {
+        error = token.text;
+    }
+    if (token.type != ExpressionToken::Text || token.length != text.size()) {
+        return text;
+    }
+    return token.text.isNull() ? u""_s : token.text;
 }
 
 QString ReadableText::takeQuoted(QStringView text, qsizetype &place)
