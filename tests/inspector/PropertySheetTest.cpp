@@ -34,7 +34,7 @@ protected:
     static QList<int> roles()
     {
         QList<int> all{Qt::DisplayRole, Qt::EditRole};
-        for (int role = PropertySheet::IdRole; role <= PropertySheet::EditorParametersRole; ++role) {
+        for (int role = PropertySheet::IdRole; role <= PropertySheet::ReadableRole; ++role) {
             all.append(role);
         }
         return all;
@@ -105,6 +105,48 @@ TEST_F(PropertySheetTest, SeveralObjectsShareRowsAndCommands)
     ASSERT_TRUE(set(element("image1"), "opacity", u"20"_s));
     EXPECT_EQ(mirror.changes, 0) << "another object";
     EXPECT_EQ(mirror.lines(), ViewMirror::linesOf(*sheet, roles()));
+}
+
+TEST_F(PropertySheetTest, PeopleReadAndEnterTheReadableForm)
+{
+    DesignerObject *const text = element("text1");
+    sheet->setObjects({text});
+    ViewMirror mirror(*sheet, roles());
+    const struct
+    {
+        const char *id;
+        QString entered;
+        QString stored;
+        QString readable; //!< empty: as entered
+    } cases[] = {
+        {"textBinding", u"concat(\"v \", speed)"_s, u"<0502concat><0207diA=><0101,><0406speed><0101)>"_s, {}},
+        {"textBinding", u"0406speed"_s, u"0406speed"_s, u"speed"_s},
+        {"size", u"50x20"_s, u"height: 20; width: 50;"_s, u"50 x 20"_s},
+        {"text", u"\"a\\nb\""_s, u"a\nb"_s, {}},
+        {"opacity", u"40"_s, u"40"_s, {}},
+    };
+    for (const auto &[id, entered, stored, readable] : cases) {
+        ASSERT_TRUE(push(sheet->enter(rowOf(id), entered))) << id;
+        EXPECT_EQ(row(id).value, stored);
+        const QModelIndex index = sheet->index(rowOf(id), PropertySheet::ValueColumn);
+        EXPECT_EQ(index.data(PropertySheet::ReadableRole).toString(),
+                  readable.isEmpty() ? entered : readable);
+        EXPECT_EQ(sheet->copy({rowOf(id)}).contains(stored), stored != u"a\nb"_s);
+    }
+    EXPECT_EQ(mirror.lines(), ViewMirror::linesOf(*sheet, roles()));
+    DesignerObject *speed = document->project().variables()->getListItem(u"speed"_s);
+    ASSERT_TRUE(push(Commands::renameOf(speed, u"rate"_s)));
+    EXPECT_EQ(sheet->readable(rowOf("textBinding")), u"rate"_s);
+    EXPECT_EQ(mirror.lines(), ViewMirror::linesOf(*sheet, roles())) << "the rename is reported";
+
+    const PlannedCommand refused = sheet->enter(rowOf("textBinding"), u"concat(\"v \", rat)"_s);
+    EXPECT_EQ(refused.command, nullptr);
+    EXPECT_TRUE(refused.reason.startsWith(u"At \"rat\": "_s)) << qPrintable(refused.reason);
+    sheet->setObjects({text, element("rectangle1")});
+    EXPECT_TRUE(row("size").isMixed);
+    EXPECT_EQ(sheet->readable(rowOf("size")), QString());
+    ASSERT_TRUE(push(sheet->enter(rowOf("size"), u"7 x 8"_s)));
+    EXPECT_EQ(sheet->readable(rowOf("size")), u"7 x 8"_s);
 }
 
 TEST_F(PropertySheetTest, RefusalsSayWhyAndChangeNothing)

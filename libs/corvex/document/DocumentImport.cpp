@@ -3,6 +3,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/document/ProjectDocument.h"
 #include "corvex/editing/commands/variables/ImportVariables.h"
+#include "corvex/editing/words/ReadableValue.h"
 #include "corvex/project/Project.h"
 
 #include <QScopedValueRollback>
@@ -61,7 +62,11 @@ public:
         }
     }
 
-    void begin(const QByteArray &table, QChar separator) { m_import.begin(table, separator); }
+    void begin(const QByteArray &table, QChar separator)
+    {
+        m_import.setFieldReader(ReadableValue::fieldReader(m_document->project()));
+        m_import.begin(table, separator);
+    }
 
     Job::Next compare(Progress &progress, QString &error)
     {

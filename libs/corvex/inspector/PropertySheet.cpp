@@ -3,6 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/ModelObservers.h"
+#include "corvex/editing/words/ReadableValue.h"
 #include "corvex/inspector/private/DefaultValues.h"
 #include "corvex/inspector/private/SheetLine.h"
 #include "corvex/inspector/private/SheetObjects.h"
@@ -33,7 +34,7 @@ struct Field
     QList<int> roles() const
     {
         return isTitle   ? QList<int>{role, Qt::DisplayRole}
-               : isValue ? QList<int>{role, Qt::DisplayRole, Qt::EditRole}
+               : isValue ? QList<int>{role, Qt::DisplayRole, Qt::EditRole, PropertySheet::ReadableRole}
                          : QList<int>{role};
     }
 };
@@ -120,6 +121,12 @@ QList<DesignerObject *> PropertySheet::objects() const
 const SheetRow &PropertySheet::row(int row) const
 {
     return m_rows.at(size_t(row))->shown;
+}
+
+QString PropertySheet::readable(int row) const
+{
+    const SheetRow &shown = this->row(row);
+    return shown.isMixed ? QString() : ReadableValue::print(*m_rows.at(size_t(row))->first(), shown.value);
 }
 
 int PropertySheet::rowOf(const QString &id) const
@@ -240,6 +247,19 @@ PlannedCommand PropertySheet::set(int row, const QString &text) const
     return Commands::changeOf(values);
 }
 
+PlannedCommand PropertySheet::enter(int row, const QString &text) const
+{
+    QList<RequestedValue> values;
+    for (const SharedProperty &property : properties(row)) {
+        const ReadableValue::Reading reading = ReadableValue::read(*property, text);
+        if (!reading.error.isEmpty()) {
+            return {nullptr, reading.error, {}};
+        }
+        values.append({property, reading.stored});
+    }
+    return Commands::changeOf(values);
+}
+
 PlannedCommand PropertySheet::reset(int row) const
 {
     QList<RequestedValue> values;
@@ -308,6 +328,8 @@ QVariant PropertySheet::data(const QModelIndex &index, int role) const
         return index.column() == TitleColumn ? row.title : row.value;
     case Qt::EditRole:
         return index.column() == ValueColumn ? row.value : QVariant();
+    case ReadableRole:
+        return readable(index.row());
     case Qt::ToolTipRole:
         return row.error.isEmpty() ? row.description : row.error;
     default:
@@ -331,6 +353,7 @@ QHash<int, QByteArray> PropertySheet::roleNames() const
     for (const Field &field : fields()) {
         names.insert(field.role, field.name);
     }
+    names.insert(ReadableRole, "readable");
     return names;
 }
 

@@ -59,7 +59,8 @@ class CORVEX_EXPORT PropertySheet
 
 public:
     enum Column { TitleColumn, ValueColumn, ColumnCount };
-    //! The members of SheetRow. Title and value are also the display text of their columns.
+    //! The members of SheetRow, and the readable form. Title and value are also the display text of their
+    //! columns.
     enum Role {
         IdRole = Qt::UserRole + 1,
         TitleRole,
@@ -75,6 +76,7 @@ public:
         ReadOnlyRole,
         EditorRole,
         EditorParametersRole,
+        ReadableRole, //!< readable()
     };
     Q_ENUM(Role)
 
@@ -88,6 +90,14 @@ public:
 
     //! The row must exist.
     const SheetRow &row(int row) const;
+    /*! The value in the form that people write, such as `level > 10 and pump.visible`; empty if the values
+        differ. It is made at each call, so rows that nobody shows cost nothing.
+
+        It changes with the value, and a rename changes the values that contain the name. If an object that
+        the value names appears or disappears without such a change, the next call gives another form, and
+        both forms are read as the same value.
+    */
+    QString readable(int row) const;
     //! -1 if the sheet has no row with that id.
     int rowOf(const QString &id) const;
     //! The property of the row in each object.
@@ -95,7 +105,11 @@ public:
 
     // Edits. Each plans one command for all objects and changes nothing. Push it before the next edit. If the
     // objects have these values already, there is neither a command nor a reason.
+    //! Sets the stored form.
     PlannedCommand set(int row, const QString &text) const;
+    //! Sets what a person has typed: the readable or the stored form. The reason for a refusal says what is
+    //! wrong, and where in the text.
+    PlannedCommand enter(int row, const QString &text) const;
     //! Sets each object to the value of a new object of its class.
     PlannedCommand reset(int row) const;
     //! Sets the values in a copied text, for the rows that the sheet has and may change.

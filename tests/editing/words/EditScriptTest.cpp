@@ -113,12 +113,15 @@ TEST_F(EditScriptTest, ValuesAreReadAndPrintedAsPeopleWriteThem)
         {u"image1.source"_s, u"pump.png"_s, {}, {}},
         {u"checkButton1.checkedState"_s,
          u"{ text1.textBinding: \"on\"; text1.text: 5\" by 3\" pipe; text1.opacity: 40 }"_s,
-         {},
+         u"{ text1.textBinding: \"on\"; text1.text: \"5\\\" by 3\\\" pipe\"; text1.opacity: 40 }"_s,
          {}},
         {u"checkButton1.checkedState"_s,
          u"{ text1.textBinding: concat(\"a; b\", speed); text1.text: \"\" }"_s,
          {},
          {}},
+        {u"text1.text"_s, u"\"two\\nlines \\\"\\u00b0\""_s, u"\"two\\nlines \\\"°\""_s, u"two\nlines \"°"_s},
+        {u"text1.text"_s, u"\"plain\""_s, u"plain"_s, u"plain"_s},
+        {u"text1.text"_s, u"C:\\new"_s, {}, u"C:\\new"_s},
         {u"rectangle1.size"_s, u"120 x 40"_s, {}, u"height: 40; width: 120;"_s},
         {u"rectangle1.position"_s, u"x: 3; y: 4;"_s, u"3, 4"_s, {}},
         {u"text1.font"_s, u"bold 24px \"DejaVu Sans\""_s, {}, {}},
@@ -165,6 +168,7 @@ TEST_F(EditScriptTest, ValuesAreReadAndPrintedAsPeopleWriteThem)
         {u"set Main.text1.textBinding Other.text1.text"_s, u"no such variable or property"_s},
         {u"set Main.logicBuilder1.logicExpression when on and do speed = 1"_s, u"incomplete"_s},
         {u"set Main.logicBuilder1.logicExpression when(on) speed = 1"_s, u"Rules have the form"_s},
+        {u"set Main.text1.text \"C:\\dir\""_s, u"not an escape"_s},
         {u"set Main.logicBuilder1.logicExpression wen on do speed = 1"_s, u"Rules have the form"_s},
     };
     for (const auto &[line, message] : refusals) {
@@ -172,9 +176,30 @@ TEST_F(EditScriptTest, ValuesAreReadAndPrintedAsPeopleWriteThem)
         EXPECT_TRUE(plan.refusal.message.contains(message))
             << qPrintable(line + u'\n' + plan.refusal.message);
     }
-    EXPECT_FALSE(stack().push(script.plan(u"set Main.rectangle1.size 120"_s).command.release()));
-    EXPECT_TRUE(stack().errorString().contains(u"a size such as 120 x 40"_s))
-        << qPrintable(stack().errorString());
+    for (const auto &[property, form] : {std::pair(u"size"_s, u"a size such as 120 x 40"_s),
+                                         std::pair(u"border"_s, u"a border such as 2 #C62828"_s)}) {
+        EditPlan plan = script.plan(u"set Main.rectangle1.%1 none at all"_s.arg(property));
+        EXPECT_FALSE(stack().push(plan.command.release()));
+        EXPECT_TRUE(stack().errorString().contains(form)) << qPrintable(stack().errorString());
+    }
+}
+
+TEST_F(EditScriptTest, ChangesHaveTheNamesOfBeforeAndAfter)
+{
+    EditScript script(*project);
+    ASSERT_EQ(script.run(u"set Main.text1.textBinding = concat(speed, rectangle1.x)"_s),
+              EditScript::Result::Done);
+    EXPECT_EQ(script.edits().constLast().changes.constFirst().readableAfter, QString());
+    script.setReportsReadable(true);
+    ASSERT_EQ(script.run(u"rename speed rate"_s), EditScript::Result::Done);
+    QStringList lines;
+    for (const EditScript::Change &change : script.edits().constLast().changes) {
+        lines.append(u"%1: %2 -> %3"_s.arg(change.property, change.readableBefore, change.readableAfter));
+    }
+    EXPECT_TRUE(lines.contains(
+        u"Main.text1.textBinding: concat(speed, rectangle1.x) -> concat(rate, rectangle1.x)"_s))
+        << qPrintable(lines.join(u'\n'));
+    EXPECT_TRUE(lines.contains(u"rate.id: speed -> rate"_s)) << qPrintable(lines.join(u'\n'));
 }
 
 } // namespace Halvane::Corvex::Designer::Test

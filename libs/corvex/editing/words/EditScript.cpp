@@ -4,6 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/editing/words/ProjectPath.h"
+#include "corvex/editing/words/ReadableValue.h"
 #include "corvex/editing/words/private/EditPlanner.h"
 #include "corvex/editing/words/private/Explanation.h"
 #include "corvex/project/Project.h"
@@ -92,10 +93,15 @@ bool EditScript::perform(EditPlan &plan)
 bool EditScript::push(EditPlan &plan)
 {
     ModelCommand *command = plan.command.release();
-    // Removed objects are identified by their earlier paths.
+    // Removed objects are identified by their earlier paths, and earlier values contain earlier names.
     QHash<const DesignerProperty *, QString> paths;
+    QHash<std::pair<const DesignerProperty *, QString>, QString> readable;
     for (const ValueChange &change : command->valueChanges()) {
         paths.insert(change.property.data(), pathOf(change.property));
+        if (m_reportsReadable) {
+            readable.insert({change.property.data(), change.before},
+                            ReadableValue::print(*change.property, change.before));
+        }
     }
     UndoStack *stack = m_project.undoStack();
     if (!stack->push(command)) {
@@ -112,7 +118,14 @@ bool EditScript::push(EditPlan &plan)
     for (const auto &[property, before, after] : command->valueChanges()) {
         const DesignerObject *owner = property->parentObject();
         const bool isInModel = owner && owner->project();
-        changes.append({isInModel ? pathOf(property) : paths.value(property.data()), before, after});
+        Change change{isInModel ? pathOf(property) : paths.value(property.data()), before, after, {}, {}};
+        if (m_reportsReadable) {
+            const auto known = readable.constFind({property.data(), before});
+            change.readableBefore =
+                known == readable.cend() ? ReadableValue::print(*property, before) : *known;
+            change.readableAfter = ReadableValue::print(*property, after);
+        }
+        changes.append(change);
     }
     std::ranges::stable_sort(changes, {}, &Change::property);
     m_edits.append({command->text(), partsOf(*command), changes});

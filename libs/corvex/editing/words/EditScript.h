@@ -33,6 +33,9 @@ public:
         QString property; //!< its path
         QString before;
         QString after;
+        // The forms that people write; empty without setReportsReadable().
+        QString readableBefore;
+        QString readableAfter;
     };
     //! A completed edit.
     struct Edit
@@ -52,6 +55,9 @@ public:
     explicit EditScript(Project &project, std::function<bool()> loadModels = {});
     ~EditScript();
     Q_DISABLE_COPY_MOVE(EditScript)
+
+    //! From now on, changes also have their readable forms, which takes time.
+    void setReportsReadable(bool reports) { m_reportsReadable = reports; }
 
     //! Plans the edit of a line for the current state of the project. Changes nothing.
     EditPlan plan(const QString &line) const;
@@ -75,7 +81,8 @@ private:
     QList<Edit> m_edits;
     QStringList m_output;
     bool m_hasFailed = false;
-    bool m_isLost = false;  //!< the current position in the history depends on failed lines
+    bool m_isLost = false; //!< the current position in the history depends on failed lines
+    bool m_reportsReadable = false;
     QSet<QString> m_unmade; //!< names that failed lines would have assigned
 };
 

@@ -6,6 +6,7 @@
 #include "corvex/core/properties/ColorProperties.h"
 #include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/core/properties/FontProperty.h"
+#include "corvex/core/properties/IdentifierProperty.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/core/properties/RangeProperty.h"
 #include "corvex/core/properties/ShapeProperties.h"
@@ -25,37 +26,49 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
+struct ReadableForm;
+
 using Common::LocalizationHelper;
 using Reading = ReadableValue::Reading;
 
-ProjectNames namesFor(const DesignerProperty &property)
+//! A property, and the project whose names its value can contain.
+struct Place
 {
-    const DesignerObject *owner = property.parentObject();
-    return ProjectNames(*owner->project(), owner->screen());
-}
+    const DesignerProperty &property;
+    const Project &project;
+
+    const Screen *screen() const { return property.parentObject()->screen(); }
+    ProjectNames names() const { return ProjectNames(project, screen()); }
+};
+
+class NoNames : public ExpressionNames
+{
+public:
+    std::optional<GeneralDataInfo> find(const QString &) const override { return {}; }
+};
 
 //! The error with its place and the nearest name.
-QString described(const ExpressionText::Error &error, const QString &text, const ProjectNames &names)
+QString described(const ExpressionText::Error &error, const QString &text, const ProjectNames *names)
 {
     const QString place =
         error.length > 0
             ? LocalizationHelper::coreString(u"At \"%1\": "_s).arg(text.sliced(error.position, error.length))
             : LocalizationHelper::coreString(u"At the end: "_s);
-    const QString near = error.unknownName.isEmpty()
+    const QString near = error.unknownName.isEmpty() || !names
                              ? QString()
-                             : Suggestion::nearest(error.unknownName, names.candidates(error.unknownName));
+                             : Suggestion::nearest(error.unknownName, names->candidates(error.unknownName));
     const QString advice =
         near.isEmpty() ? QString() : LocalizationHelper::coreString(u" Did you mean \"%1\"?"_s).arg(near);
     return place + error.message + advice;
 }
 
-Reading readExpression(const DesignerProperty &property, const QString &text)
+Reading readExpression(const Place &place, const QString &text)
 {
     if (text.trimmed() == "\"\""_L1) {
         return {u""_s, {}}; // no expression, as for any other kind of value
     }
-    const auto &typed = static_cast<const GeneralDataListProperty &>(property);
-    const ProjectNames names = namesFor(property);
+    const auto &typed = static_cast<const GeneralDataListProperty &>(place.property);
+    const ProjectNames names = place.names();
     const auto readFor = [&](const GeneralDataList &terms) {
         return ExpressionText::read(text, typed.purpose(terms), names);
     };
@@ -64,58 +77,58 @@ Reading readExpression(const DesignerProperty &property, const QString &text)
     if (reading.error && typed.purpose(reading.terms).kind != typed.purpose({}).kind) {
         reading = readFor(reading.terms);
     }
-    return reading.error ? Reading{{}, described(*reading.error, text, names)}
+    return reading.error ? Reading{{}, described(*reading.error, text, &names)}
                          : Reading{reading.terms.toString(), {}};
 }
 
-QString printExpression(const DesignerProperty &property, const QString &stored)
+QString printExpression(const Place &place, const QString &stored)
 {
     bool ok = false;
     const GeneralDataList terms(stored, &ok);
-    const auto &typed = static_cast<const GeneralDataListProperty &>(property);
-    return ok ? ExpressionText::print(terms, typed.purpose(terms), namesFor(property)) : QString();
+    const auto &typed = static_cast<const GeneralDataListProperty &>(place.property);
+    return ok ? ExpressionText::print(terms, typed.purpose(terms), place.names()) : QString();
 }
 
-Reading readRules(const DesignerProperty &property, const QString &text)
+Reading readRules(const Place &place, const QString &text)
 {
-    const ProjectNames names = namesFor(property);
+    const ProjectNames names = place.names();
     const ExpressionText::RuleReading reading = ExpressionText::readRules(text, names);
-    return reading.error ? Reading{{}, described(*reading.error, text, names)}
+    return reading.error ? Reading{{}, described(*reading.error, text, &names)}
                          : Reading{reading.rules.toString(), {}};
 }
 
-QString printRules(const DesignerProperty &property, const QString &stored)
+QString printRules(const Place &place, const QString &stored)
 {
     bool ok = false;
     const PairList rules(stored, &ok);
-    return ok ? ExpressionText::printRules(rules, namesFor(property)) : QString();
+    return ok ? ExpressionText::printRules(rules, place.names()) : QString();
 }
 
-Reading readLink(const DesignerProperty &property, const QString &text)
+Reading readLink(const Place &place, const QString &text)
 {
-    const auto &link = static_cast<const LinkProperty &>(property);
+    const auto &link = static_cast<const LinkProperty &>(place.property);
     ObjectLinkInfo changed = link.checked(link.value());
     changed.setObjectId(text.trimmed());
     return {changed.toString(), {}};
 }
 
-QString printLink(const DesignerProperty &, const QString &stored)
+QString printLink(const Place &, const QString &stored)
 {
     return ObjectLinkInfo(stored).objectId();
 }
 
 //! The property that a state sets; null if the screen has no such element or property.
-SharedProperty targetOf(const DesignerProperty &property, const SettingText &setting)
+SharedProperty targetOf(const Place &place, const SettingText &setting)
 {
-    const Screen *screen = property.parentObject()->screen();
+    const Screen *screen = place.screen();
     const Element *element = screen ? screen->getElement(setting.element) : nullptr;
     return element ? element->getProperty(setting.property) : SharedProperty();
 }
 
 //! Reduces a path that begins with the screen to the name of the element.
-void leaveScreen(const DesignerProperty &property, SettingText &setting)
+void leaveScreen(const Place &place, SettingText &setting)
 {
-    const Screen *screen = property.parentObject()->screen();
+    const Screen *screen = place.screen();
     const QString prefix = screen ? screen->getIdName() + u'.' : QString();
     if (screen && setting.element.startsWith(prefix) && !screen->hasElement(setting.element)) {
         setting.element.remove(0, prefix.size());
@@ -123,8 +136,7 @@ void leaveScreen(const DesignerProperty &property, SettingText &setting)
 }
 
 //! The settings, each with the stored form of its value.
-std::optional<QList<SettingText>> readSettings(const DesignerProperty &property, const QString &text,
-                                               QString &error)
+std::optional<QList<SettingText>> readSettings(const Place &place, const QString &text, QString &error)
 {
     std::optional<QList<SettingText>> settings = SettingText::read(text);
     if (!settings) {
@@ -133,15 +145,12 @@ std::optional<QList<SettingText>> readSettings(const DesignerProperty &property,
         return {};
     }
     for (SettingText &setting : *settings) {
-        leaveScreen(property, setting);
-        const SharedProperty target = targetOf(property, setting);
+        leaveScreen(place, setting);
+        const SharedProperty target = targetOf(place, setting);
         if (!target) {
             const QString path = setting.element + u'.' + setting.property;
-            error = Suggestion::unknown(u"property"_s, path, namesFor(property).candidates(path), {});
+            error = Suggestion::unknown(u"property"_s, path, place.names().candidates(path), {});
             return {};
-        }
-        if (!propertyCast<GeneralDataListProperty>(target)) {
-            setting.value = SettingText::unquoted(setting.value); // in an expression, quotes make a text
         }
         const Reading value = ReadableValue::read(*target, setting.value);
         if (!value.error.isEmpty()) {
@@ -153,21 +162,28 @@ std::optional<QList<SettingText>> readSettings(const DesignerProperty &property,
     return settings;
 }
 
-QString printSettings(const DesignerProperty &property, QList<SettingText> settings)
+const ReadableForm *formOf(const DesignerProperty &property);
+QString printBare(const DesignerProperty &property, const QString &stored);
+
+QString printSettings(const Place &place, QList<SettingText> settings)
 {
     for (SettingText &setting : settings) {
-        const SharedProperty target = targetOf(property, setting);
+        const SharedProperty target = targetOf(place, setting);
         const bool isExpression = target && propertyCast<GeneralDataListProperty>(target);
-        const QString value = target ? ReadableValue::print(*target, setting.value) : setting.value;
-        setting.value = isExpression && !value.isEmpty() ? value : SettingText::quoted(value);
+        const bool isPlain = !target || !formOf(*target);
+        const QString value = target ? printBare(*target, setting.value) : setting.value;
+        const bool isQuoted =
+            isExpression ? value.isEmpty()
+                         : SettingText::needsQuotes(value) || (isPlain && ReadableText::needsQuotes(value));
+        setting.value = isQuoted ? ReadableText::quoted(value) : value;
     }
     return SettingText::print(settings);
 }
 
-Reading readStates(const DesignerProperty &property, const QString &text)
+Reading readStates(const Place &place, const QString &text)
 {
     Reading reading;
-    const auto settings = readSettings(property, text, reading.error);
+    const auto settings = readSettings(place, text, reading.error);
     if (!settings) {
         return reading;
     }
@@ -187,7 +203,7 @@ Reading readStates(const DesignerProperty &property, const QString &text)
     return reading;
 }
 
-QString printStates(const DesignerProperty &property, const QString &stored)
+QString printStates(const Place &place, const QString &stored)
 {
     QList<SettingText> settings;
     for (const UpdateObjectInfo &update : UpdateObjectList(stored)) {
@@ -195,13 +211,13 @@ QString printStates(const DesignerProperty &property, const QString &stored)
             settings.append({update.name(), value.propName(), value.propValue()});
         }
     }
-    return printSettings(property, settings);
+    return printSettings(place, settings);
 }
 
-Reading readChanges(const DesignerProperty &property, const QString &text)
+Reading readChanges(const Place &place, const QString &text)
 {
     Reading reading;
-    const auto settings = readSettings(property, text, reading.error);
+    const auto settings = readSettings(place, text, reading.error);
     if (settings) {
         PropertyList changes;
         for (const auto &[element, id, value] : *settings) {
@@ -212,24 +228,37 @@ Reading readChanges(const DesignerProperty &property, const QString &text)
     return reading;
 }
 
-QString printChanges(const DesignerProperty &property, const QString &stored)
+QString printChanges(const Place &place, const QString &stored)
 {
     QList<SettingText> settings;
     for (const PropertyChangeInfo &change : PropertyList(stored)) {
         settings.append({change.elementName(), change.propertyName(), change.valueString()});
     }
-    return printSettings(property, settings);
+    return printSettings(place, settings);
+}
+
+//! The name; the class and the scope do not change.
+Reading readName(const Place &place, const QString &text)
+{
+    IdentifierInfo changed = static_cast<const IdentifierProperty &>(place.property).value();
+    changed.setName(text.trimmed());
+    return {changed.toString(), {}};
+}
+
+QString printName(const Place &, const QString &stored)
+{
+    return IdentifierInfo(stored).name();
 }
 
 template<QString (*convert)(const QString &)>
-Reading readShort(const DesignerProperty &, const QString &text)
+Reading readShort(const Place &, const QString &text)
 {
     const QString stored = convert(text);
     return {stored.isNull() ? text : stored, {}};
 }
 
 template<QString (*convert)(const QString &)>
-QString printShort(const DesignerProperty &, const QString &stored)
+QString printShort(const Place &, const QString &stored)
 {
     return convert(stored);
 }
@@ -257,6 +286,13 @@ bool isLinkStored(const QString &text)
     return ok;
 }
 
+bool isNameStored(const QString &text)
+{
+    bool ok = false;
+    const IdentifierInfo identifier(text, &ok);
+    return ok;
+}
+
 bool isGroupStored(const QString &text)
 {
     return !text.startsWith(u'{');
@@ -277,14 +313,15 @@ struct ReadableForm
 {
     bool (*isIts)(const DesignerProperty &property);
     bool (*isStored)(const QString &text); //!< whether the text is in the stored form
-    Reading (*read)(const DesignerProperty &property, const QString &text);
-    QString (*print)(const DesignerProperty &property, const QString &stored); //!< null: has no readable form
+    Reading (*read)(const Place &place, const QString &text);
+    QString (*print)(const Place &place, const QString &stored); //!< null: has no readable form
 };
 
 constexpr ReadableForm forms[] = {
     {&isOfKind<GeneralDataListProperty>, &isExpressionStored, &readExpression, &printExpression},
     {&hasRules, &areRulesStored, &readRules, &printRules},
     {&isOfKind<LinkProperty>, &isLinkStored, &readLink, &printLink},
+    {&isOfKind<IdentifierProperty>, &isNameStored, &readName, &printName},
     {&isOfKind<UpdateObjectListProperty>, &isGroupStored, &readStates, &printStates},
     {&isOfKind<PropertyChangeListProperty>, &isGroupStored, &readChanges, &printChanges},
     {&isOfKind<SizeProperty>, &isNeverStored, &readShort<ReadableText::toSize>,
@@ -306,26 +343,92 @@ const ReadableForm *formOf(const DesignerProperty &property)
 {
     const auto *form =
         std::ranges::find_if(forms, [&property](const ReadableForm &row) { return row.isIts(property); });
-    return form == std::end(forms) || !property.parentObject()->project() ? nullptr : form;
+    return form == std::end(forms) ? nullptr : form;
+}
+
+//! Removes the quotes around the whole text. In an expression they make a text, unless they contain a stored
+//! expression.
+bool removeQuotes(const DesignerProperty &property, QString &text, QString &error)
+{
+    const QString inside = ReadableText::unquoted(text, error);
+    const bool isExpression = propertyCast<GeneralDataListProperty>(&property);
+    if (!isExpression || (inside != text && ExpressionText::isStored(inside))) {
+        text = inside;
+        return error.isEmpty();
+    }
+    error.clear();
+    return true;
+}
+
+Reading readUnquoted(const Place &place, const QString &text)
+{
+    const ReadableForm *form = formOf(place.property);
+    return form && !form->isStored(text) ? form->read(place, text) : Reading{text, {}};
+}
+
+Reading readAt(const Place &place, QString text)
+{
+    QString error;
+    return removeQuotes(place.property, text, error) ? readUnquoted(place, text) : Reading{{}, error};
+}
+
+QString printBare(const DesignerProperty &property, const QString &stored)
+{
+    const ReadableForm *form = formOf(property);
+    const Project *project = property.parentObject()->project();
+    if (!form || !project || stored.isEmpty()) {
+        return stored;
+    }
+    const Place place{property, *project};
+    const QString text = form->print(place, stored);
+    if (text.isNull() || form->isStored(text)) {
+        return stored;
+    }
+    const Reading again = readAt(place, text);
+    return again.error.isEmpty() && again.stored == stored ? text : stored;
 }
 
 } // namespace
 
 Reading ReadableValue::read(const DesignerProperty &property, const QString &text)
 {
-    const ReadableForm *form = formOf(property);
-    return form && !form->isStored(text) ? form->read(property, text) : Reading{text, {}};
+    const Project *project = property.parentObject()->project();
+    return project ? readAt({property, *project}, text) : Reading{text, {}};
+}
+
+VariableImport::FieldReader ReadableValue::fieldReader(const Project &project)
+{
+    return [&project](const DesignerProperty &property, const QString &field, QString &error) {
+        const Reading reading = readUnquoted({property, project}, field);
+        error = reading.error;
+        return reading.stored;
+    };
+}
+
+Reading ReadableValue::readExpression(const QString &text, const ExpressionPurpose &purpose,
+                                      const ProjectNames *names)
+{
+    const NoNames none;
+    const ExpressionText::Reading reading =
+        names ? ExpressionText::read(text, purpose, *names) : ExpressionText::read(text, purpose, none);
+    return reading.error ? Reading{{}, described(*reading.error, text, names)}
+                         : Reading{reading.terms.toString(), {}};
+}
+
+QString ReadableValue::printExpression(const GeneralDataList &terms, const ExpressionPurpose &purpose,
+                                       const ProjectNames *names)
+{
+    const NoNames none;
+    const QString text =
+        names ? ExpressionText::print(terms, purpose, *names) : ExpressionText::print(terms, purpose, none);
+    return text.isNull() ? terms.toString() : text;
 }
 
 QString ReadableValue::print(const DesignerProperty &property, const QString &stored)
 {
-    const ReadableForm *form = formOf(property);
-    const QString text = form && !stored.isEmpty() ? form->print(property, stored) : QString();
-    if (text.isNull() || form->isStored(text)) {
-        return stored;
-    }
-    const Reading again = form->read(property, text);
-    return again.error.isEmpty() && again.stored == stored ? text : stored;
+    const bool isPlain = !formOf(property) && property.parentObject()->project();
+    return isPlain && ReadableText::needsQuotes(stored) ? ReadableText::quoted(stored)
+                                                        : printBare(property, stored);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -73,7 +73,7 @@ void SheetLine::validityChanged(size_t place)
 
 SheetRow SheetLine::summary() const
 {
-    const DesignerProperty &first = *m_cells[m_first].property;
+    const DesignerProperty &first = *this->first();
     SheetRow row;
     row.id = m_id;
     row.kind = m_kind;

@@ -30,6 +30,8 @@ public:
         return place < m_cells.size() ? m_cells[place].property : SharedProperty();
     }
     QList<SharedProperty> properties() const;
+    //! There must be at least one.
+    const SharedProperty &first() const { return m_cells[m_first].property; }
 
     //! \a defaultText is null if there is no default.
     void add(size_t place, const SharedProperty &property, const QString &defaultText);

@@ -175,14 +175,15 @@ SharedProperty VariableImport::propertyOf(const DesignerObject &variable, qsizet
 
 //! The field in the form that the property reads.
 QString VariableImport::textOf(const DesignerObject &variable, const SharedProperty &property,
-                               const QString &field) const
+                               const QString &field, QString &error) const
 {
     static const QRegularExpression commaNumber(u"^[+-]?[0-9]*,[0-9]+$"_s);
     const bool isNumber = (property->id() == "value"_L1 && NumberVariable::holdsNumber(variable))
                           || dynamic_cast<const RealProperty *>(property.data());
-    return m_separator != u',' && isNumber && commaNumber.match(field).hasMatch()
-               ? QString(field).replace(u',', u'.')
-               : field;
+    if (m_separator != u',' && isNumber && commaNumber.match(field).hasMatch()) {
+        return QString(field).replace(u',', u'.');
+    }
+    return m_fieldReader ? m_fieldReader(*property, field, error) : field;
 }
 
 //! Sets a property to the field of a column. If the class lacks the property, the field must be empty.
@@ -199,12 +200,17 @@ bool VariableImport::set(const Record &record, DesignerObject &copy, qsizetype c
     if (before == field) {
         return true;
     }
-    QString text = textOf(copy, property, field);
-    if (field.isEmpty()) {
-        if (isDefault(copy, property, before)) {
-            return true;
-        }
+    QString text;
+    QString error;
+    if (!field.isEmpty()) {
+        text = textOf(copy, property, field, error);
+    } else if (isDefault(copy, property, before)) {
+        return true;
+    } else {
         text = m_defaults.value(copy.className())->getProperty(id)->valueString();
+    }
+    if (!error.isEmpty()) {
+        return fail(record, u"%1.%2: %3"_s.arg(record.name, id, error));
     }
     const DesignerObject::Change change = copy.changeValue(property, text);
     if (change != DesignerObject::Change::Done && change != DesignerObject::Change::Unchanged) {

@@ -7,6 +7,7 @@
 
 #include <QHash>
 
+#include <functional>
 #include <vector>
 
 namespace Halvane::Corvex::Designer {
@@ -30,9 +31,17 @@ public:
         QString after;
     };
 
+    //! Reads a field that differs from the stored text of its property into the text to store. Sets the
+    //! error, for the user, if it cannot be read. The property may belong to a copy outside of the project.
+    using FieldReader =
+        std::function<QString(const DesignerProperty &property, const QString &field, QString &error)>;
+
     //! Compares the table \a csv with the variables of \a project, which is not changed. A null \a separator
     //! is detected in the first line. The table can be imported if there are no problems.
     VariableImport(const QByteArray &csv, const DesignerObject &project, QChar separator = {});
+
+    //! For tables whose fields have other forms than the stored one. Call it first.
+    void setFieldReader(FieldReader reader) { m_fieldReader = std::move(reader); }
 
     // The same in several steps.
     explicit VariableImport(const DesignerObject &project);
@@ -65,12 +74,13 @@ private:
     void add(const Record &record);
     SharedProperty propertyOf(const DesignerObject &variable, qsizetype column) const;
     bool isDefault(const DesignerObject &variable, const SharedProperty &property, const QString &text);
-    QString textOf(const DesignerObject &variable, const SharedProperty &property,
-                   const QString &field) const;
+    QString textOf(const DesignerObject &variable, const SharedProperty &property, const QString &field,
+                   QString &error) const;
     bool set(const Record &record, DesignerObject &copy, qsizetype column);
     bool fail(const Record &record, const QString &problem);
 
     const DesignerObject &m_project;
+    FieldReader m_fieldReader;
     QChar m_separator;
     QList<CsvText::Row> m_rows; //!< without the names of the columns
     qsizetype m_nextRow = 0;

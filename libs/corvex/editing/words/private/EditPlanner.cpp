@@ -4,7 +4,6 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/editing/commands/ChangeConfiguration.h"
 #include "corvex/editing/commands/Commands.h"
 #include "corvex/editing/commands/CompositeCommand.h"
@@ -34,7 +33,6 @@
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/FilterElement.h"
 #include "corvex/project/files/FileNameRules.h"
-#include "corvex/values/expressions/ExpressionText.h"
 #include "corvex/values/records/ListInfo.h"
 
 #include <QFileInfo>
@@ -66,20 +64,11 @@ void refuse(EditPlan &plan, const QString &english, const Arguments &...argument
     plan.refusal = {text(english, arguments...)};
 }
 
-//! The value of a "set", behind an optional "=". A single word may be in quotes, except in an expression,
-//! where these make it a text.
-QString valueIn(const EditCall &call, const DesignerProperty &property)
+//! The value of a "set", behind an optional "=".
+QString valueIn(const EditCall &call)
 {
-    QString rest = call.rest;
-    QStringList words = call.words.sliced(1);
-    if (!words.isEmpty() && words.first() == u'=' && rest.startsWith(u'=')) {
-        words.removeFirst();
-        rest = rest.sliced(1).trimmed();
-    }
-    const bool isText = propertyCast<GeneralDataListProperty>(&property) && !words.isEmpty()
-                        && !ExpressionText::isStored(words.first());
-    const bool isQuoted = words.size() == 1 && rest.startsWith(u'"') && rest.endsWith(u'"');
-    return isQuoted && !isText ? words.first() : rest;
+    const bool hasSign = call.words.value(1) == u'=' && call.rest.startsWith(u'=');
+    return hasSign ? call.rest.sliced(1).trimmed() : call.rest;
 }
 
 DesignerObject *make(const QString &className, const QString &name)
@@ -237,7 +226,7 @@ void EditPlanner::set(const EditCall &call, EditPlan &plan) const
 void EditPlanner::setValue(const SharedProperty &property, const EditCall &call, EditPlan &plan) const
 {
     const QString &path = call.words.first();
-    const ReadableValue::Reading value = ReadableValue::read(*property, valueIn(call, *property));
+    const ReadableValue::Reading value = ReadableValue::read(*property, valueIn(call));
     if (!value.error.isEmpty()) {
         refuse(plan, u"\"%1\": %2"_s, path, value.error);
         return;

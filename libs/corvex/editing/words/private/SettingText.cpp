@@ -12,13 +12,6 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-bool needsQuotes(const QString &value)
-{
-    const auto isSpecial = [](QChar c) { return c == u';' || c == u'}' || !c.isPrint(); };
-    return value.isEmpty() || value.front() == u'"' || value != value.trimmed()
-           || std::ranges::any_of(value, isSpecial);
-}
-
 //! The setting at \a place, which is moved behind it.
 std::optional<SettingText> takeSetting(QStringView text, qsizetype &place)
 {
@@ -46,16 +39,13 @@ std::optional<SettingText> takeSetting(QStringView text, qsizetype &place)
 
 } // namespace
 
-QString SettingText::quoted(const QString &value)
+bool SettingText::needsQuotes(const QString &value)
 {
-    return needsQuotes(value) ? ReadableText::quoted(value) : value;
-}
-
-QString SettingText::unquoted(const QString &value)
-{
-    qsizetype place = 0;
-    const QString text = value.startsWith(u'"') ? ReadableText::takeQuoted(value, place) : QString();
-    return !text.isNull() && place == value.size() ? text : value;
+    const auto isSpecial = [](QChar c) {
+        return c == u';' || c == u'}' || !(c.isPrint() || c.isSurrogate());
+    };
+    return value.isEmpty() || value.front() == u'"' || value != value.trimmed()
+           || std::ranges::any_of(value, isSpecial);
 }
 
 QString SettingText::print(const QList<SettingText> &settings)

@@ -15,10 +15,8 @@ struct SettingText
     QString property;
     QString value; //!< as it is written, with quotes if there are any
 
-    //! The value in quotes, if it needs them.
-    static QString quoted(const QString &value);
-    //! The value without the quotes around it, if there are any.
-    static QString unquoted(const QString &value);
+    //! Whether the value cannot stand for itself between ":" and ";".
+    static bool needsQuotes(const QString &value);
     //! `{ lamp.color: #C62828; lamp.text: "a; b" }`. Null if a name cannot be written.
     static QString print(const QList<SettingText> &settings);
     //! Nothing if the text does not have this form.
