@@ -20,6 +20,7 @@
 #include "corvex/values/records/ValueRangeInfo.h"
 #include "corvex/values/runtime/PropertyInfoList.h"
 #include "corvex/values/runtime/PropertyList.h"
+#include "corvex/values/text/ReadableText.h"
 
 namespace Halvane::Corvex::Tool {
 
@@ -61,20 +62,22 @@ const QList<ValueKind> &valueKinds()
         {"int", "-26", canonical<int>},
         {"real", "1.5", canonical<double>},
         {"string", "Pump 1", canonical<QString>},
-        {"color", "#80FF0000", canonical<QColor>},
+        {"color", "#80FF0000", canonical<QColor>, &ReadableText::fromColor, &ReadableText::toColor},
         {"colorlist", "[#FFFF0000,#FF00FF00]", canonical<QList<QColor>>},
         {"font",
          "bold: false; family: U2Fucw==; italic: false; letterSpacing: 0; overline: false; pointSize: 12; "
          "strikeout: false; underline: false; wordSpacing: 0;",
-         canonical<QFont>},
-        {"point", "x: 10; y: 20.5;", canonical<QPointF>},
-        {"size", "height: 20; width: 40;", canonical<QSizeF>},
+         canonical<QFont>, &ReadableText::fromFont, &ReadableText::toFont},
+        {"point", "x: 10; y: 20.5;", canonical<QPointF>, &ReadableText::fromPoint, &ReadableText::toPoint},
+        {"size", "height: 20; width: 40;", canonical<QSizeF>, &ReadableText::fromSize, &ReadableText::toSize},
         {"polygon", "x: 0; y: 0; | x: 10; y: 0;", canonical<QPolygonF>},
         {"polygonlist", "[x: 0; y: 0; | x: 10; y: 0;], [x: 5; y: 5;]", canonical<QList<QPolygonF>>},
         {"gradient", "0, #FFFF0000 | 1, #FF0000FF", canonical<QGradientStops>},
         {"group", "color: #FF000000; width: 2;", canonicalGroup},
-        {"border", "color: #FF000000; width: 2;", canonical<BorderInfo>},
-        {"range", "maximum: 100; minimum: 0;", canonical<RangeInfo>},
+        {"border", "color: #FF000000; width: 2;", canonical<BorderInfo>, &ReadableText::fromBorder,
+         &ReadableText::toBorder},
+        {"range", "maximum: 100; minimum: 0;", canonical<RangeInfo>, &ReadableText::fromRange,
+         &ReadableText::toRange},
         {"valuerange", "value1: 0, value2: 50, min: 0, max: 100", canonical<ValueRangeInfo>},
         {"senderror", "busy: false, offline: true", canonical<SendErrorInfo>},
         {"receiveerror", "name: false, value: true, type: false, dataFlow: false",

@@ -15,6 +15,10 @@ struct ValueKind
     const char *example; //!< a text that is accepted
     //! The text as it would be saved; nothing if the text is invalid.
     std::optional<QString> (*canonical)(const QString &text);
+    // The short form that people write, if the kind has one: from and to the stored text. They return a null
+    // text if the given one is invalid or the value has no short form.
+    QString (*toReadable)(const QString &stored) = nullptr;
+    QString (*fromReadable)(const QString &text) = nullptr;
 };
 
 //! All kinds, in the order of the help page.

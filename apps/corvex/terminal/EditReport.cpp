@@ -34,6 +34,8 @@ void printJson(const QList<EditScript::Edit> &edits, bool isSaved, const Call &c
             json.member("property"_L1, change.property);
             json.member("old"_L1, change.before);
             json.member("new"_L1, change.after);
+            json.member("oldReadable"_L1, change.readableBefore);
+            json.member("newReadable"_L1, change.readableAfter);
             json.endObject();
         }
         json.endArray();
@@ -43,6 +45,16 @@ void printJson(const QList<EditScript::Edit> &edits, bool isSaved, const Call &c
     json.endObject();
 }
 
+QString lineOf(const EditScript::Change &change, bool isRaw)
+{
+    const QString form = u"%1: %2 -> %3"_s;
+    // Values can differ although people would write them alike.
+    return isRaw || change.readableBefore == change.readableAfter
+               ? Terminal::oneLine(form.arg(change.property, change.before, change.after))
+               : Terminal::readableLine(
+                   form.arg(change.property, change.readableBefore, change.readableAfter));
+}
+
 void print(const QList<EditScript::Edit> &edits, const Call &call)
 {
     for (const auto &[text, parts, changes] : edits) {
@@ -50,14 +62,18 @@ void print(const QList<EditScript::Edit> &edits, const Call &call)
         for (const QString &part : parts) {
             call.terminal().print(u"  "_s + Terminal::oneLine(part));
         }
-        for (const auto &[property, before, after] : changes) {
-            call.terminal().print(u"  "_s
-                                  + Terminal::oneLine(u"%1: %2 -> %3"_s.arg(property, before, after)));
+        for (const EditScript::Change &change : changes) {
+            call.terminal().print(u"  "_s + lineOf(change, call.isSet(u"raw"_s)));
         }
     }
 }
 
 } // namespace
+
+void EditReport::prepare(EditScript &script, const Call &call)
+{
+    script.setReportsReadable(call.asJson() || (call.isSet(u"dry-run"_s) && !call.isSet(u"raw"_s)));
+}
 
 ExitCode EditReport::finish(EditScript &script, const ProjectFile &file, const Call &call)
 {

@@ -16,8 +16,11 @@ class ProjectFile;
 class EditReport
 {
 public:
+    //! Call it before the first edit.
+    static void prepare(Designer::EditScript &script, const Call &call);
     //! Saves the project. Undoes all edits instead for --dry-run, or if saving fails. A dry run prints the
     //! edits and every value that changed, as lines or JSON; otherwise they are printed only with --json.
+    //! Values are in the readable form; with --raw in the stored one.
     static ExitCode finish(Designer::EditScript &script, const ProjectFile &file, const Call &call);
 };
 

@@ -129,7 +129,9 @@ static bool turnsText(QChar character)
     return in(0x202A, 0x202E) || in(0x2066, 0x2069);
 }
 
-QString Terminal::oneLine(QStringView text)
+namespace {
+
+QString escaped(QStringView text, bool escapesBackslash)
 {
     static constexpr struct
     {
@@ -142,7 +144,7 @@ QString Terminal::oneLine(QStringView text)
     for (const QChar character : text) {
         const auto *escape = std::ranges::find(escapes, character.unicode(),
                                                [](const auto &entry) { return entry.character; });
-        if (escape != std::end(escapes)) {
+        if (escape != std::end(escapes) && (escapesBackslash || character != u'\\')) {
             line += u'\\';
             line += QLatin1Char(escape->letter);
         } else if (character.category() == QChar::Other_Control || character == QChar::LineSeparator
@@ -153,6 +155,18 @@ QString Terminal::oneLine(QStringView text)
         }
     }
     return line;
+}
+
+} // namespace
+
+QString Terminal::oneLine(QStringView text)
+{
+    return escaped(text, true);
+}
+
+QString Terminal::readableLine(QStringView text)
+{
+    return escaped(text, false);
 }
 
 } // namespace Halvane::Corvex::Tool

@@ -54,6 +54,8 @@ public:
 
     //! The text on one line: control characters, such as line endings and tabs, as C escapes ("\n").
     static QString oneLine(QStringView text);
+    //! The same for a text with readable values, whose backslashes already begin escapes.
+    static QString readableLine(QStringView text);
 
 private:
     void writeError(QStringView line);

@@ -23,13 +23,11 @@ using Difference = ProjectDiff::Difference;
 //! Values in the form that people write, unless these look alike.
 Difference readable(Difference difference)
 {
-    if (difference.oldProperty) {
-        const QString before = ReadableValue::print(*difference.oldProperty);
-        const QString after = ReadableValue::print(*difference.newProperty);
-        if (before != after) {
-            difference.before = before;
-            difference.after = after;
-        }
+    const QString before = ReadableValue::print(*difference.oldProperty);
+    const QString after = ReadableValue::print(*difference.newProperty);
+    if (before != after) {
+        difference.before = before;
+        difference.after = after;
     }
     return difference;
 }
@@ -74,8 +72,9 @@ void print(const QList<Difference> &differences, const Call &call)
         return;
     }
     for (const Difference &difference : differences) {
-        call.terminal().print(
-            Terminal::oneLine(lineOf(call.isSet(u"raw"_s) ? difference : readable(difference))));
+        const bool isReadable = difference.oldProperty && !call.isSet(u"raw"_s);
+        call.terminal().print(isReadable ? Terminal::readableLine(lineOf(readable(difference)))
+                                         : Terminal::oneLine(lineOf(difference)));
     }
 }
 

@@ -66,6 +66,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     }
     const Interruption interruption; // an interrupted edit would leave image files behind
     EditScript script(file.project(), [&call] { return Installation::loadModels(call) != nullptr; });
+    EditReport::prepare(script, call);
     const ExitCode code = edit(script, lines, call);
     return code == ExitCode::Done ? EditReport::finish(script, file, call) : code;
 }
@@ -76,7 +77,7 @@ QList<QCommandLineOption> options()
         QCommandLineOption(u"dry-run"_s,
                            u"Save nothing; show every change, including those that follow from an edit."_s),
         QCommandLineOption(u"atomic"_s, u"Accepted for compatibility; edits are always all or nothing."_s),
-        QCommandLineOption(u"force"_s, u"Save even if parts of the file are lost."_s)};
+        QCommandLineOption(u"force"_s, u"Save even if parts of the file are lost."_s), rawOption()};
 }
 
 } // namespace

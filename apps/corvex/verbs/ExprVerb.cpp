@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/ExpressionSyntax.h"
+#include "corvex/editing/words/ReadableValue.h"
 #include "corvex/editing/words/Suggestion.h"
+#include "corvex/project/ProjectNames.h"
+#include "corvex/values/expressions/ExpressionText.h"
 #include "corvex/values/expressions/GeneralDataList.h"
 
+#include "ProjectFile.h"
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
 #include "terminal/Terminal.h"
@@ -94,19 +98,14 @@ struct Translation
 {
     QString code;
     QString problem; //!< for the user; empty on success
+    // The expression as in project files, and as people write it.
+    QString stored = {};
+    QString readable = {};
 };
 
-Translation translate(const QString &text, GeneralDataList::InfoType kind, GeneralDataInfo::OutputType output,
-                      const QString &kindName)
+Translation translate(const GeneralDataList &expression, const QString &text, GeneralDataList::InfoType kind,
+                      GeneralDataInfo::OutputType output, const QString &kindName)
 {
-    bool ok = false;
-    const GeneralDataList expression(text, &ok);
-    if (!ok) {
-        return {
-            {},
-            u"\"%1\" is not an expression. Terms look like \"0406speed\", several like \"<0406speed><0101+>"
-            "<02041>\"."_s.arg(text)};
-    }
     const QString code = expression.toQmlString(output, kind);
     if (code.isEmpty() && !expression.isEmpty()) {
         return {{},
@@ -126,9 +125,35 @@ Translation translate(const QString &text, GeneralDataList::InfoType kind, Gener
     return {code, {}};
 }
 
+//! Reads either form. \a names is null without a project.
+Translation translate(const QString &text, const ExpressionPurpose &purpose, const QString &kindName,
+                      const ProjectNames *names)
+{
+    ReadableValue::Reading reading{text, {}};
+    if (!text.isEmpty() && !ExpressionText::isStored(text)) {
+        reading = ReadableValue::readExpression(text, purpose, names);
+    }
+    if (!reading.error.isEmpty()) {
+        return {{},
+                u"\"%1\" is not an expression of the kind \"%2\": %3"_s.arg(text, kindName, reading.error)};
+    }
+    bool ok = false;
+    const GeneralDataList expression(reading.stored, &ok);
+    if (!ok) {
+        return {{},
+                u"\"%1\" is not an expression. Terms look like \"0406speed\", several like \"<0406speed>"
+                "<0101+><02041>\"."_s.arg(text)};
+    }
+    Translation result = translate(expression, text, purpose.kind, purpose.output, kindName);
+    result.stored = expression.toString();
+    result.readable = ReadableValue::printExpression(expression, purpose, names);
+    return result;
+}
+
 QList<QCommandLineOption> options()
 {
-    return {QCommandLineOption(u"output"_s,
+    return {QCommandLineOption(u"forms"_s, u"Print the expression, too, as people write it and as stored."_s),
+            QCommandLineOption(u"output"_s,
                                u"The result type of the code: %1."_s.arg(namesOf(outputs).join(", "_L1)),
                                u"TYPE"_s, u"raw"_s)};
 }
@@ -144,7 +169,15 @@ ExitCode run(const Call &call)
     if (!output) {
         return call.misused(Suggestion::unknown(u"type"_s, outputName, namesOf(outputs)));
     }
-    const auto [code, problem] = translate(call.argument(1), kind->type, output->type, call.argument(0));
+    ProjectFile file;
+    const bool hasProject = !call.argument(2).isEmpty();
+    if (hasProject && !file.open(call, ProjectFile::Use::Read, 2)) {
+        return ExitCode::File;
+    }
+    const std::optional<ProjectNames> names =
+        hasProject ? std::optional<ProjectNames>(std::in_place, file.project()) : std::nullopt;
+    const auto [code, problem, stored, readable] =
+        translate(call.argument(1), {kind->type, output->type}, call.argument(0), names ? &*names : nullptr);
     if (call.asJson()) {
         JsonWriter &json = call.json();
         json.beginObject();
@@ -152,8 +185,14 @@ ExitCode run(const Call &call)
         json.member("output"_L1, outputName);
         json.member("valid"_L1, problem.isEmpty());
         json.member("code"_L1, code);
+        json.member("stored"_L1, stored);
+        json.member("readable"_L1, readable);
         json.endObject();
     } else if (problem.isEmpty() || !code.isEmpty()) {
+        if (call.isSet(u"forms"_s)) {
+            call.terminal().print(readable);
+            call.terminal().print(Terminal::oneLine(stored));
+        }
         call.terminal().print(code);
     }
     return problem.isEmpty() ? ExitCode::Done : call.failed(problem, ExitCode::Problems);
@@ -163,17 +202,20 @@ ExitCode run(const Call &call)
 
 const Verb exprVerb{
     .name = "expr",
-    .arguments = "KIND TEXT [--output TYPE]",
+    .arguments = "KIND TEXT [FILE] [--output TYPE]",
     .summary = "translate an expression into JavaScript",
     .details =
         [] {
-            return uR"(Prints the JavaScript that the device gets for the expression TEXT, which is written as in
-project files. KIND is the purpose of the expression: %1. An expression that cannot
-be translated, or not into complete JavaScript, gives exit code 1.)"_s.arg(namesOf(kinds).join(", "_L1));
+            return uR"(Prints the JavaScript that the device gets for the expression TEXT. People write
+"level * 2", project files contain "<0406level><0101*><02042>"; both are accepted. The types of names are
+those of the project FILE. Without FILE a name needs its type: "level::number". KIND is the purpose
+of the expression: %1. An expression that cannot be translated, or not into complete
+JavaScript, gives exit code 1.)"_s.arg(namesOf(kinds).join(", "_L1));
         },
-    .example = "corvex expr math \"<0406speed><0101*><02042>\"",
+    .example = "corvex expr math \"wellLevel * 2\" examples/PumpStation/PumpStation.kdproj",
     .fewestArguments = 2,
-    .mostArguments = 2,
+    .mostArguments = 3,
+    .opensProjects = true,
     .options = options,
     .run = run,
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/commands/variables/ImportVariables.h"
 #include "corvex/editing/undo/UndoStack.h"
+#include "corvex/editing/words/ReadableValue.h"
 #include "corvex/editing/words/Suggestion.h"
 #include "corvex/project/Project.h"
 #include "corvex/variables/exchange/VariableImport.h"
@@ -32,14 +33,16 @@ struct Report
         QString property;
         QString before;
         QString after;
+        QString readableBefore;
+        QString readableAfter;
     };
 
     explicit Report(const VariableImport &import)
         : unchanged(import.unchangedCount())
     {
         for (const auto &[property, after] : import.changes()) {
-            changed.append(
-                {property->parentObject()->getIdName(), property->id(), property->valueString(), after});
+            changed.append({property->parentObject()->getIdName(), property->id(), property->valueString(),
+                            after, ReadableValue::print(*property), ReadableValue::print(*property, after)});
         }
         for (const auto &variable : import.additions()) {
             added.append({variable->getIdName(), variable->className()});
@@ -59,12 +62,14 @@ void printJson(const Report &report, bool isWritten, const Call &call)
     json.beginObject();
     json.name("changed"_L1);
     json.beginArray();
-    for (const auto &[object, property, before, after] : report.changed) {
+    for (const Report::Value &value : report.changed) {
         json.beginObject();
-        json.member("object"_L1, object);
-        json.member("property"_L1, property);
-        json.member("before"_L1, before);
-        json.member("after"_L1, after);
+        json.member("object"_L1, value.object);
+        json.member("property"_L1, value.property);
+        json.member("before"_L1, value.before);
+        json.member("after"_L1, value.after);
+        json.member("beforeReadable"_L1, value.readableBefore);
+        json.member("afterReadable"_L1, value.readableAfter);
         json.endObject();
     }
     json.endArray();
@@ -82,15 +87,29 @@ void printJson(const Report &report, bool isWritten, const Call &call)
     json.endObject();
 }
 
+QString quoted(const QString &text)
+{
+    return text.startsWith(u'"') ? text : u'"' + text + u'"';
+}
+
+QString lineOf(const Report::Value &value, bool isRaw)
+{
+    const QString form = u"%1.%2: %3 -> %4"_s;
+    return isRaw || value.readableBefore == value.readableAfter
+               ? Terminal::oneLine(
+                   u"%1.%2: \"%3\" -> \"%4\""_s.arg(value.object, value.property, value.before, value.after))
+               : Terminal::readableLine(form.arg(value.object, value.property, quoted(value.readableBefore),
+                                                 quoted(value.readableAfter)));
+}
+
 void print(const Report &report, bool isWritten, const Call &call)
 {
     if (call.asJson()) {
         printJson(report, isWritten, call);
         return;
     }
-    for (const auto &[object, property, before, after] : report.changed) {
-        call.terminal().print(
-            Terminal::oneLine(u"%1.%2: \"%3\" -> \"%4\""_s.arg(object, property, before, after)));
+    for (const Report::Value &value : report.changed) {
+        call.terminal().print(lineOf(value, call.isSet(u"raw"_s)));
     }
     for (const auto &[name, className] : report.added) {
         call.terminal().print(Terminal::oneLine(u"%1: new, a %2"_s.arg(name, className)));
@@ -159,6 +178,7 @@ ExitCode take(ProjectFile &file, VariableImport &import, const Call &call)
 VariableImport compared(const QByteArray &table, const Project &project, QChar separator, const Call &call)
 {
     VariableImport import(project);
+    import.setFieldReader(ReadableValue::fieldReader(project));
     const QString activity = u"Comparing %1"_s.arg(call.argument(2));
     Common::Progress *progress = call.terminal().showProgress(activity);
     import.begin(table, separator);
@@ -206,7 +226,8 @@ QList<QCommandLineOption> options()
                                u"CHAR"_s),
             QCommandLineOption({u"n"_s, u"dry-run"_s}, u"Save nothing; show what would change."_s),
             QCommandLineOption(u"force"_s, u"Accept invalid values, and save even if parts of "
-                                           "the file are lost."_s)};
+                                           "the file are lost."_s),
+            rawOption()};
 }
 
 } // namespace
@@ -218,8 +239,9 @@ const Verb importVerb{
     .details =
         [] {
             return uR"(Reads a table in the form that "corvex export variables" prints. Updates the variables in the
-table and adds the new ones, all or nothing, and prints each changed value. Every column except
-"name" may be omitted. An empty field means the default value. Variables that are not in the
+table and adds the new ones, all or nothing, and prints each changed value. Fields can have the
+form that people write and "corvex edit" reads, or the stored form; --raw prints the stored texts,
+and JSON has both. Every column except "name" may be omitted. An empty field means the default value. Variables that are not in the
 table are not changed. CSV may be "-" for standard input.
 
 The table may be in UTF-8 or UTF-16, with commas, semicolons or tabs between the columns. Unless

@@ -31,6 +31,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
     }
     const Interruption interruption;
     EditScript script(file.project());
+    EditReport::prepare(script, call);
     const QString line = u"rename %1 %2"_s.arg(quoted(call.argument(1)), quoted(call.argument(2)));
     if (script.run(line) != EditScript::Result::Done) {
         return call.failed(Advice::complete(script.refusal()), ExitCode::Problems);
@@ -41,7 +42,7 @@ ExitCode run(const Call &call, const ProjectFile &file)
 QList<QCommandLineOption> options()
 {
     return {QCommandLineOption(u"dry-run"_s, u"Save nothing; show every change that follows."_s),
-            QCommandLineOption(u"force"_s, u"Save even if parts of the file are lost."_s)};
+            QCommandLineOption(u"force"_s, u"Save even if parts of the file are lost."_s), rawOption()};
 }
 
 } // namespace

@@ -72,7 +72,8 @@ public:
         }
         for (const SharedProperty &property : object.properties()) {
             if (isShown(*property)) {
-                print(u"%1 = %2"_s.arg(property->id(), textOf(*property, m_call)));
+                const QString line = u"%1 = %2"_s.arg(property->id(), textOf(*property, m_call));
+                printLine(m_call.isSet(u"raw"_s) ? Terminal::oneLine(line) : Terminal::readableLine(line));
             }
         }
     }
@@ -83,10 +84,8 @@ public:
     }
 
 private:
-    void print(const QString &text)
-    {
-        m_call.terminal().print(QString(2 * m_depth, u' ') + Terminal::oneLine(text));
-    }
+    void print(const QString &text) { printLine(Terminal::oneLine(text)); }
+    void printLine(const QString &line) { m_call.terminal().print(QString(2 * m_depth, u' ') + line); }
 
     const Call &m_call;
     qsizetype m_depth = 0;

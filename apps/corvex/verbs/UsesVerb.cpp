@@ -4,6 +4,7 @@
 #include "corvex/editing/references/ReferenceScanner.h"
 #include "corvex/editing/references/ReferenceTarget.h"
 #include "corvex/editing/words/ProjectPath.h"
+#include "corvex/editing/words/ReadableValue.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 
@@ -27,6 +28,8 @@ struct Use
 {
     QString property; //!< its path
     QString text;     //!< the name as written there, including the way to it: "Main.group1.pump1"
+    //! Null for an element whose plug-in is missing.
+    SharedProperty source = {};
 };
 
 //! \a name is the name of the target.
@@ -39,7 +42,7 @@ QList<Use> usesOf(const ReferenceTarget &target, const QString &name)
         const qsizetype before = known.size();
         known.insert({path, use.path});
         if (known.size() > before) {
-            uses.append({path, use.path});
+            uses.append({path, use.path, use.property});
         }
     }
     if (target.isValid()) {
@@ -85,11 +88,26 @@ QStringList unusedIn(Project &project)
     return paths;
 }
 
+QString lineOf(const Use &use, const Call &call)
+{
+    const QString form = u"%1: %2"_s;
+    if (use.source && call.isSet(u"raw"_s)) {
+        return Terminal::oneLine(form.arg(use.property, use.source->valueString()));
+    }
+    return use.source && call.isSet(u"values"_s)
+               ? Terminal::readableLine(form.arg(use.property, ReadableValue::print(*use.source)))
+               : Terminal::oneLine(form.arg(use.property, use.text));
+}
+
 ExitCode printUses(const QList<Use> &uses, const Call &call)
 {
     if (!call.asJson()) {
+        QString previous;
         for (const Use &use : uses) {
-            call.terminal().print(Terminal::oneLine(u"%1: %2"_s.arg(use.property, use.text)));
+            const QString line = lineOf(use, call);
+            if (line != std::exchange(previous, line)) { // a value may contain several names of the object
+                call.terminal().print(line);
+            }
         }
         return ExitCode::Done;
     }
@@ -101,6 +119,10 @@ ExitCode printUses(const QList<Use> &uses, const Call &call)
         json.beginObject();
         json.member("property"_L1, use.property);
         json.member("text"_L1, use.text);
+        if (use.source) {
+            json.member("value"_L1, use.source->valueString());
+            json.member("readable"_L1, ReadableValue::print(*use.source));
+        }
         json.endObject();
     }
     json.endArray();
@@ -150,13 +172,18 @@ const Verb usesVerb{
         [] {
             return uR"(Prints where the object NAME, or an element in it, is used: in links, expressions, states of
 buttons and address maps. Each line shows the property, as a path that "corvex tree" accepts, and
-the name as written there. For an element whose plug-in is missing it prints the path. NAME is a
+the name as written there; --values prints the whole value, and --raw its stored text. For an element whose plug-in is missing it prints the path. NAME is a
 path, or the name of elements on any screen. Without NAME, prints the screens, variables and
 images that are not used.)"_s;
         },
     .example = "corvex uses examples/PumpStation/PumpStation.kdproj wellLevel",
     .mostArguments = 2,
     .opensProjects = true,
+    .options =
+        [] {
+            return QList<QCommandLineOption>{
+                QCommandLineOption(u"values"_s, u"Print the values that contain the name."_s), rawOption()};
+        },
     .run = onProject<run>,
 };
 

@@ -221,7 +221,8 @@ TEST_F(EditVerb, ADryRunShowsWhatFollows)
     const QByteArray before = sandbox.read(pump);
     const ProgramRun run = edit("rename Main.box1 tank\n", {u"--dry-run"_s});
     EXPECT_THAT(run.out.toStdString(), HasSubstr("Change Name\n"));
-    EXPECT_THAT(run.out.toStdString(),
+    EXPECT_THAT(run.out.toStdString(), HasSubstr("  Main.press.visualElement: box1 -> tank\n"));
+    EXPECT_THAT(edit("rename Main.box1 tank\n", {u"--dry-run"_s, u"--raw"_s}).out.toStdString(),
                 HasSubstr("  Main.press.visualElement: filterType: VisualElement; objectId: box1; scopeType: "
                           "Screen; -> filterType: VisualElement; objectId: tank; scopeType: Screen;\n"));
     EXPECT_EQ(run.code, 0);
@@ -234,9 +235,11 @@ Delete Project Variable "speed", Delete Elements and Filters
   Main.both.elements: title -> 
 )"_s);
     EXPECT_EQ(sandbox.read(pump), before);
-    const QJsonObject json = edit("set Main.title.text new\n", {u"--json"_s}).json().toObject();
-    EXPECT_EQ(json[u"edits"_s][0][u"changes"_s][0][u"new"_s].toString(), u"new"_s);
-    EXPECT_EQ(tree(u"Main.title.text"_s), u"new"_s);
+    const QJsonObject json = edit("set Main.title.text new \"one\"\n", {u"--json"_s}).json().toObject();
+    const QJsonValue change = json[u"edits"_s][0][u"changes"_s][0];
+    EXPECT_EQ(change[u"new"_s].toString(), u"new \"one\""_s);
+    EXPECT_EQ(change[u"newReadable"_s].toString(), u"\"new \\\"one\\\"\""_s);
+    EXPECT_EQ(tree(u"Main.title.text"_s), change[u"newReadable"_s].toString());
 }
 
 TEST_F(EditVerb, RenameAndDiff)
@@ -276,7 +279,7 @@ added GroupElement First.trio
 )"_s);
     sandbox.write(old, sandbox.read(pump).replace("name: VTR 50-K", "name: VTR 50-S"));
     const ProgramRun models = sandbox.run({u"diff"_s, old, pump});
-    EXPECT_EQ(models.out, u"changed VTR 50-S.id: name: VTR 50-S; -> name: VTR 50-K;\n"_s);
+    EXPECT_EQ(models.out, u"changed VTR 50-S.id: VTR 50-S -> VTR 50-K\n"_s);
     EXPECT_EQ(models.code, 1);
     // git's own arguments, and an image with the same name and other contents.
     const QStringList hash{u"0000000"_s, u"100644"_s};

@@ -141,6 +141,20 @@ TEST_F(ExchangeVerbs, ImportAppliesAllOfATableOrNothing)
     EXPECT_EQ(import(table).out, report);
     EXPECT_THAT(sandbox.run({u"export"_s, u"variables"_s, pump}).out.toStdString(),
                 testing::HasSubstr("\r\nlevel,NumberVariable,5,false"));
+    const QByteArray readable = "name,class,holdingRegMap,value\n"
+                                "map,,\"40001, level, 40002, speed\",\nwho,,,\"\"\"Ann\"\"\"\n"
+                                "new2,MappingVariable,\"40001, level\",\n";
+    EXPECT_EQ(import(readable, {u"--dry-run"_s}).out,
+              u"map.holdingRegMap: \"40001, level\" -> \"40001, level, 40002, speed\"\n"
+              "who.value: \"a \\\"b\\\"\\nc\" -> \"\\\"Ann\\\"\"\n"
+              "new2: new, a MappingVariable\n"
+              "2 values changed, 1 variables added, 0 unchanged\n"_s);
+    EXPECT_EQ(import(readable).code, 0);
+    EXPECT_EQ(sandbox.run({u"tree"_s, pump, u"new2.holdingRegMap"_s, u"--raw"_s}).out,
+              u"<02049C41><0406level>\n"_s);
+    EXPECT_THAT(import("name,holdingRegMap\nmap,\"40001, levl\"\n").error.toStdString(),
+                testing::HasSubstr("t.csv: line 2: map.holdingRegMap: At \"levl\": The project has no such "
+                                   "variable or property. Did you mean \"level\"?"));
     const QJsonValue forced = import("name,value\nlevel,16777216.0\n", {u"--force"_s, u"--json"_s}).json();
     EXPECT_EQ(forced[u"changed"_s][0][u"after"_s], QJsonValue(u"16777216.0"_s));
     EXPECT_TRUE(forced[u"written"_s].toBool());

@@ -108,10 +108,10 @@ TEST(TreeVerb, ShowsObjectsAndValues)
     } cases[] = {
         {u"Main.group1.box1.position"_s, u"10, 20.5"_s},
         {u"Main.group1"_s, u"GroupElement group1"_s},
-        {u"Main.title.text"_s, u"Pump %1 \"A\""_s},
-        {u"speed.id"_s, u"filterType: NumberVariable; name: speed; scopeType: Project;"_s},
+        {u"Main.title.text"_s, u"\"Pump %1 \\\"A\\\"\\n2\""_s},
+        {u"speed.id"_s, u"speed"_s},
         {u"pump.png"_s, u"ImageResource pump.png"_s},
-        {u"pump.png.id"_s, u"filterType: ImageResource; name: pump.png; scopeType: Project;"_s},
+        {u"pump.png.id"_s, u"pump.png"_s},
         {u"configuration.screenSize"_s, u"480 x 272"_s},
         {u"VTR 50-K.displayBrightness"_s, u"100"_s},
         {u"variables"_s, u"NumberVariable speed"_s},
@@ -136,7 +136,8 @@ TEST(TreeVerb, ShowsObjectsAndValues)
                     HasSubstr("Did you mean \"Main.title\"?"));
     }
     const ProgramRun title = sandbox.run({u"tree"_s, pump, u"Main.title"_s});
-    EXPECT_THAT(title.out.toStdString(), HasSubstr("\n  text = Pump %1 \"A\"\\n2\n"));
+    EXPECT_THAT(title.out.toStdString(), HasSubstr("\n  text = \"Pump %1 \\\"A\\\"\\n2\"\n"));
+    EXPECT_EQ(sandbox.run({u"tree"_s, pump, u"Main.title.text"_s, u"--raw"_s}).out, u"Pump %1 \"A\"\n2\n"_s);
 }
 
 TEST(UsesVerb, ShowsWhereAThingIsUsed)
@@ -164,9 +165,12 @@ TEST(UsesVerb, ShowsWhereAThingIsUsed)
         {{u"gone"_s}, u"Main.title.yBinding: gone\n"_s},
         {{u"Pump.Main.press"_s}, QString()},
         {{u"press"_s}, QString()},
+        {{u"speed"_s, u"--values"_s}, u"Main.title.textBinding: speed + speed\n"_s},
+        {{u"speed"_s, u"--raw"_s}, u"Main.title.textBinding: <0406speed><0101+><0406speed>\n"_s},
         {{u"gone"_s, u"--json"_s},
          u"{\n  \"uses\": [\n    {\n      \"property\": \"Main.title.yBinding\",\n      \"text\": "
-         "\"gone\"\n    }\n  ]\n}\n"_s},
+         "\"gone\",\n      \"value\": \"0306gone.y\",\n      \"readable\": \"gone.y::number\"\n"
+         "    }\n  ]\n}\n"_s},
         {{}, u"idle\n"_s},
         {{u"--json"_s}, u"{\n  \"unused\": [\n    \"idle\"\n  ]\n}\n"_s},
     };

@@ -75,6 +75,17 @@ TEST(ValueVerb, AcceptsTheExampleOfEachKind)
     }
 }
 
+TEST(ValueVerb, ReadsAndPrintsWhatPeopleWrite)
+{
+    EXPECT_EQ(corvex({u"value"_s, u"size"_s, u"120 x 40"_s}).out, u"height: 40; width: 120;\n"_s);
+    EXPECT_EQ(corvex({u"value"_s, u"--readable"_s, u"border"_s, u"width: 2; color: red"_s}).out,
+              u"2 #FF0000\n"_s);
+    EXPECT_EQ(corvex({u"value"_s, u"--readable"_s, u"int"_s, u"07"_s}).out, u"7\n"_s);
+    EXPECT_EQ(corvex({u"expr"_s, u"--forms"_s, u"bool"_s, u"not on::boolean"_s}).out,
+              u"on::boolean == false\n<0403on><0101==><02030>\n"
+              "qmlViewer.getVariableValue(\"on\") == false\n"_s);
+}
+
 TEST(ExprVerb, PrintsTheCodeOrTheReasonAgainstIt)
 {
     struct Case
@@ -107,6 +118,12 @@ TEST(ExprVerb, PrintsTheCodeOrTheReasonAgainstIt)
          u"raw"_s,
          u"qmlViewer.setVariableValue(\"speed\", 3, 11);"_s,
          {}},
+        {u"math"_s, u"speed::number * -2"_s, u"raw"_s, speed + u" * -2"_s, {}},
+        {u"math"_s,
+         u"speed * 2"_s,
+         u"raw"_s,
+         {},
+         u"\"speed * 2\" is not an expression of the kind \"math\": At \"speed\": "_s},
         {u"assign"_s,
          u"0304r.x"_s,
          u"raw"_s,
