@@ -80,7 +80,12 @@ public:
     using Step::Step;
 
     void undo() override { startUndo(); }
-    void redo() override { count(done == 0 ? 1 : 0); }
+    void redo() override { start(); }
+    Start start() override
+    {
+        count(isStuck || done == 1 ? 0 : 1);
+        return isStuck ? Start::Failed : Start::Done;
+    }
     Start startUndo() override
     {
         count(isStuck || done == 0 ? 0 : -1);
@@ -93,35 +98,47 @@ public:
 
 } // namespace
 
-TEST(UndoStackTest, TheIndexStaysAfterACommandThatCannotBeUndone)
+TEST(UndoStackTest, TheIndexStaysAtACommandThatCannotBeUndoneOrRedone)
 {
     UndoStack stack;
-    QList<Reversible *> stuck;
+    QList<Reversible *> firsts;
     QList<Reversible *> others;
     const auto makeBoth = [&](UndoCommand *parent) {
-        stuck.append(new Reversible({}, false, parent));
-        stuck.constLast()->isStuck = true;
+        firsts.append(new Reversible({}, false, parent));
         others.append(new Reversible({}, false, parent));
     };
     auto *composite = new UndoCommand;
     makeBoth(composite);
     EXPECT_TRUE(stack.push(composite));
     makeBoth(nullptr);
-    EXPECT_TRUE(stack.beginGesture(u"gesture"_s) && stack.push(stuck[1]) && stack.push(others[1]));
+    EXPECT_TRUE(stack.beginGesture(u"gesture"_s) && stack.push(firsts[1]) && stack.push(others[1]));
     EXPECT_TRUE(stack.commitGesture());
     makeBoth(nullptr);
     stack.beginMacro(u"macro"_s);
-    EXPECT_TRUE(stack.push(stuck[2]) && stack.push(others[2]));
+    EXPECT_TRUE(stack.push(firsts[2]) && stack.push(others[2]));
     stack.endMacro();
     for (int index = 3; index > 0; --index) {
+        firsts[index - 1]->isStuck = true;
         stack.setIndex(0);
         EXPECT_EQ(stack.index(), index);
         EXPECT_EQ(stack.errorString(), u"The file is gone."_s);
         EXPECT_EQ(others[index - 1]->done, 1) << "it is done again";
-        stuck[index - 1]->isStuck = false;
+        firsts[index - 1]->isStuck = false;
         stack.undo();
         EXPECT_EQ(stack.index(), index - 1);
-        EXPECT_EQ(stuck[index - 1]->done + others[index - 1]->done, 0);
+        EXPECT_EQ(firsts[index - 1]->done + others[index - 1]->done, 0);
+    }
+    for (int index = 0; index < 3; ++index) {
+        others[index]->isStuck = true;
+        stack.setIndex(3);
+        EXPECT_EQ(stack.index(), index);
+        EXPECT_EQ(stack.count(), 3) << "all steps remain";
+        EXPECT_EQ(stack.errorString(), u"The file is gone."_s);
+        EXPECT_EQ(firsts[index]->done, 0) << "it is undone again";
+        others[index]->isStuck = false;
+        stack.redo();
+        EXPECT_EQ(stack.index(), index + 1);
+        EXPECT_EQ(firsts[index]->done + others[index]->done, 2);
     }
 }
 

@@ -245,12 +245,14 @@ bool ProjectHistory::redo()
             activate(m_current + 1);
         }
         const int before = stack().index();
+        const int steps = stack().count();
         current().stack->redo();
         isDone = stack().index() > before;
         if (!isDone) {
-            // The stack has dropped it, so later steps are invalid.
             m_error = stack().errorString();
-            dropLaterParts();
+        }
+        if (stack().count() < steps) {
+            dropLaterParts(); // They depend on the steps that the stack has dropped.
         }
         settle();
     }

@@ -297,24 +297,30 @@ QList<DesignerObject *> ModelCommand::selectedItems()
 
 void ModelCommand::redo()
 {
-    if (m_isDone) {
-        return;
-    }
-    QString error;
-    m_isDone =
-        childCount() > 0 ? !(m_plan && m_plan->isRefused) && redoChildren() : isValid() && redoLeaf(error);
-    if (!error.isEmpty()) {
-        plan().error = error;
-    }
-    if (!m_isDone) {
+    if (!redoAny()) {
         fail();
     }
 }
 
 UndoCommand::Start ModelCommand::start()
 {
-    redo();
-    return m_isDone ? Start::Done : Start::Failed;
+    return redoAny() ? Start::Done : Start::Failed;
+}
+
+bool ModelCommand::redoAny()
+{
+    if (m_isDone) {
+        return true;
+    }
+    QString error;
+    m_isDone =
+        childCount() > 0 ? !(m_plan && m_plan->isRefused) && redoChildren() : isValid() && redoLeaf(error);
+    if (m_isDone && m_plan) {
+        m_plan->error.clear();
+    } else if (!error.isEmpty()) {
+        plan().error = error;
+    }
+    return m_isDone;
 }
 
 bool ModelCommand::redoLeaf(QString &error)

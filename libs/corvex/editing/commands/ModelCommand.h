@@ -106,6 +106,7 @@ private:
     void noteForGroups(const SharedProperty &property);
     void placeGroups();
     QList<DesignerObject *> ownSelection() const;
+    bool redoAny();
     bool redoLeaf(QString &error);
     bool undoLeaf(QString &error);
 

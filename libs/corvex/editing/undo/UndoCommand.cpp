@@ -50,17 +50,39 @@ void UndoCommand::redo()
 
 UndoCommand::Start UndoCommand::start()
 {
-    for (int i = 0; i < childCount(); ++i) {
-        auto *command = const_cast<UndoCommand *>(childCommand(i));
-        const Start start = command ? command->start() : Start::Later;
+    return startChildren(*this);
+}
+
+UndoCommand::Start UndoCommand::start(QUndoCommand &command)
+{
+    auto *own = dynamic_cast<UndoCommand *>(&command);
+    return own ? own->start() : startChildren(command);
+}
+
+bool UndoCommand::startNow(QUndoCommand &command)
+{
+    const Start start = UndoCommand::start(command);
+    if (start == Start::Later) {
+        command.redo();
+    }
+    const bool isDone = start != Start::Failed && !command.isObsolete();
+    command.setObsolete(false);
+    return isDone;
+}
+
+UndoCommand::Start UndoCommand::startChildren(QUndoCommand &command)
+{
+    for (int i = 0; i < command.childCount(); ++i) {
+        // The children belong to the command, but QUndoCommand only returns const pointers.
+        const Start start = UndoCommand::start(*const_cast<QUndoCommand *>(command.child(i)));
         if (start == Start::Failed) {
-            undoChildren(i);
+            undoChildren(command, i);
         }
         if (start != Start::Done) {
             return start;
         }
     }
-    return childCount() > 0 ? Start::Done : Start::Later;
+    return command.childCount() > 0 ? Start::Done : Start::Later;
 }
 
 UndoCommand::Start UndoCommand::startUndo()
@@ -92,20 +114,18 @@ UndoCommand::Start UndoCommand::startUndoOfChildren(QUndoCommand &command)
 bool UndoCommand::redoChildren()
 {
     for (int i = 0; i < childCount(); ++i) {
-        // The children are ours, but QUndoCommand only returns const pointers.
-        const_cast<QUndoCommand *>(child(i))->redo();
-        if (child(i)->isObsolete()) {
-            undoChildren(i);
+        if (!startNow(*const_cast<QUndoCommand *>(child(i)))) {
+            undoChildren(*this, i);
             return false;
         }
     }
     return true;
 }
 
-void UndoCommand::undoChildren(int end)
+void UndoCommand::undoChildren(QUndoCommand &command, int end)
 {
     while (--end >= 0) {
-        const_cast<QUndoCommand *>(child(end))->undo();
+        const_cast<QUndoCommand *>(command.child(end))->undo();
     }
 }
 

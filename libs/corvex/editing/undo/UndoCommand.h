@@ -21,9 +21,10 @@ class UndoStack;
     A command with children is a composite: it does nothing itself and answers queries from its children. A
     leaf refers to a property and to the object that owns it. Commands never merge.
 
-    A command that fails changes nothing and becomes obsolete, so the stack drops it. If a child of a
-    composite fails, the composite undoes its other children and becomes obsolete, too. A command that cannot
-   be undone remains done.
+    A command that fails changes nothing. If a child of a composite fails, the composite undoes its other
+    children and fails, too. A command that cannot be undone remains done. One that cannot be redone remains
+    undone, and later steps are kept, if it does its work in start(); a failed redo() makes it obsolete, and
+    the stack drops it with all later steps.
 */
 class CORVEX_EXPORT UndoCommand : public QUndoCommand
 {
@@ -46,10 +47,16 @@ public:
 
     void undo() override;
     void redo() override;
-    //! Does the command before it is pushed, so that a command that fails does not delete the redo history.
-    //! The following redo() does nothing. A composite starts its children one by one; a composite with its
-    //! own redo() must override this function, too.
+    //! Does the command before it is pushed, so that a command that fails does not delete the redo history,
+    //! and before the index of the stack moves to redo it, so that the index stays if this fails. Starting it
+    //! again is another attempt. The following redo() does nothing. A composite starts its children one by
+    //! one; a composite with its own redo() must override this function, too.
     virtual Start start();
+    //! The same for any command of Qt, such as a macro.
+    static Start start(QUndoCommand &command);
+    //! Does a command now, whether it does its work in start() or in redo(). Returns false, with nothing
+    //! changed, if it fails; it can be tried again.
+    static bool startNow(QUndoCommand &command);
     //! Undoes the command before the index of the stack moves, so that the index stays if this fails. The
     //! following undo() does nothing. A composite starts with its last child; if a child fails, the ones that
     //! were undone are done again.
@@ -109,7 +116,8 @@ protected:
 private:
     friend class UndoStack;
 
-    void undoChildren(int end);
+    static void undoChildren(QUndoCommand &command, int end);
+    static Start startChildren(QUndoCommand &command);
     static Start startUndoOfChildren(QUndoCommand &command);
 
     SharedProperty m_property;

@@ -160,12 +160,9 @@ bool UndoStack::collect(std::unique_ptr<UndoCommand> command)
     // Receivers of its signals may try to end the gesture.
     const bool wasBusy = m_gesture->isBusy();
     m_gesture->setBusy(true);
-    const UndoCommand::Start start = command->start();
-    if (start == UndoCommand::Start::Later) {
-        command->redo();
-    }
+    const bool isDone = UndoCommand::startNow(*command);
     m_gesture->setBusy(wasBusy);
-    if (start == UndoCommand::Start::Failed || command->isObsolete()) {
+    if (!isDone) {
         m_errorString = command->errorString();
         return false;
     }
@@ -279,6 +276,9 @@ void UndoStack::undoTo(int index)
         --reached;
         if (start == UndoCommand::Start::Later) {
             QUndoStack::setIndex(reached);
+            if (this->index() != reached) {
+                return; // a receiver has pushed a command
+            }
         }
     }
     QUndoStack::setIndex(reached);
@@ -297,12 +297,40 @@ void UndoStack::setIndex(int index)
     if (!isOpen()) {
         return;
     }
-    const int before = this->index();
-    if (index < before) {
+    if (index < this->index()) {
         undoTo(std::max(index, 0));
-        return;
+    } else {
+        redoTo(std::min(index, count()));
     }
+}
+
+//! Stops before a command that cannot be redone.
+void UndoStack::redoTo(int index)
+{
     m_hasFailed = false;
+    int reached = this->index();
+    while (reached < index && canRedo()) {
+        auto *step = const_cast<QUndoCommand *>(command(reached));
+        const UndoCommand::Start start = UndoCommand::start(*step);
+        if (start == UndoCommand::Start::Failed) {
+            m_errorString = errorOf(step);
+            break;
+        }
+        ++reached;
+        if (start == UndoCommand::Start::Later) {
+            moveForward(reached);
+            if (m_hasFailed || this->index() != reached) {
+                return; // it was dropped, or a receiver has pushed a command
+            }
+        }
+    }
+    moveForward(reached);
+}
+
+//! The redo() of commands that have been started does nothing; one of the others may fail.
+void UndoStack::moveForward(int index)
+{
+    const int before = this->index();
     {
         const QScopedValueRollback<bool> isMoving(m_isMoving, true);
         QUndoStack::setIndex(index);

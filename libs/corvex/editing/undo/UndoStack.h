@@ -107,9 +107,10 @@ public:
     DesignerObject *activeItem() const;
 
 public slots:
-    //! Like those of QUndoStack, except that a command that cannot be redone is dropped with all later ones,
-    //! which depend on it; a macro with such a command is undone as a whole. The index stays after a command
-    //! that cannot be undone. During a gesture nothing moves. errorString() gives the reason.
+    //! Like those of QUndoStack, except that the index stays after a command that cannot be undone and before
+    //! one that cannot be redone, and all steps remain for another attempt; a macro with such a command does
+    //! not move as a whole. A command that fails in its own redo() is dropped with all later ones, which
+    //! depend on it. During a gesture nothing moves. errorString() gives the reason.
     void undo();
     void redo();
     void setIndex(int index);
@@ -138,6 +139,8 @@ private:
     void commandFailed(const UndoCommand *command);
     bool undoFailedMacro();
     void undoTo(int index);
+    void redoTo(int index);
+    void moveForward(int index);
     void commandDeleted(const UndoCommand *command);
     void onIndexChanged(int index);
     const UndoCommand *decidingCommand(int index) const;

@@ -19,8 +19,7 @@ bool AddScreenAndElements::redoOwn(QString &error)
     if (!m_elements) {
         return true;
     }
-    m_elements->redo();
-    if (m_elements->isObsolete()) {
+    if (!startNow(*m_elements)) {
         error = m_elements->errorString();
         QString ignored;
         AddScreen::undoOwn(ignored);

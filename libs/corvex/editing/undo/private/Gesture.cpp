@@ -58,17 +58,21 @@ public:
     }
     void redo() override
     {
+        if (start() == Start::Failed) {
+            fail();
+        }
+    }
+    Start start() override
+    {
         for (auto command = m_commands.begin(); !m_isDone && command != m_commands.end(); ++command) {
-            (*command)->redo();
-            if ((*command)->isObsolete()) {
+            if (!startNow(**command)) {
                 undoAll(m_commands, command);
-                fail();
-                return;
+                return Start::Failed;
             }
         }
         m_isDone = true;
+        return Start::Done;
     }
-    Start start() override { return Start::Done; }
     bool isValid() const override { return m_commands.front()->isValid(); }
     bool changesFiles() const override
     {
