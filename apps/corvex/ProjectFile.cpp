@@ -144,9 +144,6 @@ bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
     if (m_project) {
         m_project->setProgress(call.terminal().showProgress(u"Reading %1"_s.arg(m_path)));
     }
-    if (use == Use::Change) {
-        m_stamp = Common::FileStamp::of(file);
-    }
     const bool isLoaded = m_project && m_project->loadFile(file);
     call.terminal().endProgress();
     if (isLoaded) {
@@ -161,7 +158,7 @@ bool ProjectFile::open(const Call &call, Use use, qsizetype argument)
 bool ProjectFile::isUnchanged(const Call &call) const
 {
     // A renamed project has moved its file.
-    if (Common::FileStamp::of(m_project->fullFilePath()) == m_stamp) {
+    if (Common::FileStamp::of(m_project->fullFilePath()) == m_project->fileStamp()) {
         return true;
     }
     call.failed(u"Another program changed \"%1\" after it was opened, so nothing "

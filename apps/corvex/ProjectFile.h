@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/common/files/FileStamp.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/xml/ObjectXmlReader.h"
 
@@ -71,7 +70,6 @@ private:
     bool takeStandardInput(QString &file, Use use, const Call &call);
 
     QString m_path;
-    Common::FileStamp m_stamp;                        //!< of the file when it was opened
     std::unique_ptr<Common::TemporaryFolder> m_input; //!< holds the project from standard input
     std::unique_ptr<Designer::Project> m_project;
     std::unique_ptr<Designer::ProblemApprovals> m_approvals;

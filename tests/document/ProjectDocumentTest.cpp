@@ -323,6 +323,14 @@ TEST_F(ProjectDocumentTest, DeletedImageFilesComeBackWithTheNextSaveOrUndo)
     for (const DesignerObject *image : document->project().imageResources()->listItems()) {
         EXPECT_TRUE(image->isValid());
     }
+    // Another program replaces the whole folder.
+    DesignerObject *image = document->project().imageResources()->getListItem(u"b.png"_s);
+    ASSERT_TRUE(document->push(new RenameImage(image, u"c.png"_s))
+                && QDir().rename(path(u"Pumps"_s), path(u"Old"_s)));
+    write(file, read(path(u"Old/Pumps.kdproj"_s)));
+    write(images.filePath(u"b.png"_s), read(path(u"Old/Images/c.png"_s)));
+    EXPECT_TRUE(document->save(ProjectDocument::Overwrite::Always)) << qPrintable(document->errorString());
+    EXPECT_EQ(files(), (QStringList{u"b.png"_s, u"c.png"_s}));
 }
 
 TEST_F(ProjectDocumentTest, ADeletedImageComesBackWithItsOwnFile)
@@ -437,8 +445,39 @@ TEST_F(ProjectDocumentTest, PicturesOfOtherProgramsSurviveUndoAndRecovery)
     write(path(u"Pumps.kdproj.kdasv"_s), read(path(u"copy"_s)));
     openAgain();
     ASSERT_TRUE(document->recover() && document->save()) << qPrintable(document->errorString());
+    EXPECT_EQ(read(images + u"/a1.png"_s), "after the autosave");
+
+    // The file was missing when it was replaced, so an undo leaves none.
+    ASSERT_TRUE(QFile::remove(images + u"/a.png"_s));
+    image = static_cast<ImageResource *>(document->project().imageResources()->getListItem(u"a.png"_s));
+    ASSERT_TRUE(document->push(new ReplaceImage(image, path(u"b.png"_s), u"a.png"_s)) && document->save()
+                && document->undo() && document->save());
+    for (const bool isSaved : {false, true}) {
+        write(images + u"/a.png"_s, "after the undo");
+        ASSERT_TRUE(document->redo() && (!isSaved || document->save()))
+            << qPrintable(document->errorString());
+        EXPECT_TRUE(isSaved || document->undo());
+    }
     document.reset();
-    EXPECT_TRUE(find("after the autosave"));
+    EXPECT_TRUE(find("after the undo"));
+}
+
+TEST_F(ProjectDocumentTest, ARedoThatFailsOnceKeepsAllLaterSteps)
+{
+    DesignerObject *image = addImage(document->project(), u"a.png"_s);
+    ASSERT_TRUE(document->save() && document->push(new RenameImage(image, u"b.png"_s)) && describe(u"x"_s)
+                && document->save() && describe(u"y"_s));
+    const QString last = text();
+    ASSERT_TRUE(document->history().goTo(0)) << qPrintable(document->errorString());
+    const QString before = text();
+    writePicture(path(u"Pumps/Images/b.png"_s));
+    EXPECT_FALSE(document->redo());
+    EXPECT_TRUE(document->errorString().contains(u"exists already"_s)) << qPrintable(document->errorString());
+    EXPECT_EQ(text(), before);
+    EXPECT_EQ(document->history().position(), 0);
+    ASSERT_TRUE(QFile::remove(path(u"Pumps/Images/b.png"_s)) && document->history().goTo(3));
+    EXPECT_EQ(text(), last);
+    EXPECT_TRUE(document->save() && document->history().goTo(0)) << qPrintable(document->errorString());
 }
 
 TEST_F(ProjectDocumentTest, AnUndoThatCannotRenameFilesFails)
@@ -495,6 +534,31 @@ TEST_F(ProjectDocumentTest, ChangesByOtherProgramsAreReportedOnce)
     ASSERT_TRUE(document->save(ProjectDocument::Overwrite::Always));
     EXPECT_FALSE(document->isModified());
     EXPECT_TRUE(document->save());
+}
+
+TEST_F(ProjectDocumentTest, WhatOthersWriteDuringALoadOrASaveIsNotOverwritten)
+{
+    const QByteArray ours = read(file);
+    std::unique_ptr<Project> loaded = makeEmptyProject();
+    ASSERT_TRUE(loaded->loadFile(file));
+    write(file, ours + '\n');
+    open(std::move(loaded));
+    EXPECT_TRUE(changedByOthers->wait());
+    ASSERT_TRUE(describe(u"a"_s));
+    EXPECT_FALSE(document->save());
+    ASSERT_TRUE(document->save(ProjectDocument::Overwrite::Always) && describe(u"b"_s));
+
+    Common::FolderLock lock(path(u"Pumps"_s), Common::FolderLock::Kind::Exclusive);
+    const std::unique_ptr<QThread> other(QThread::create([&] {
+        QThread::msleep(200); // the save is waiting
+        write(file, ours);
+        lock.release();
+    }));
+    other->start();
+    EXPECT_FALSE(document->save());
+    other->wait();
+    EXPECT_EQ(read(file), ours);
+    EXPECT_TRUE(lock.take(path(u"Pumps"_s), Common::FolderLock::Kind::Exclusive, 0)) << "it is free again";
 }
 
 TEST_F(ProjectDocumentTest, AFileThatCannotBeReadAgainChangesNothing)
@@ -568,7 +632,10 @@ TEST_F(ProjectDocumentTest, ASaveFirstEndsAnInterruptedOne)
     write(path(u"Pumps/.corvex-edit/draft"_s), "of a program that was killed");
     write(path(u"Pumps/.corvex-edit/journal"_s),
           "{\"folder\":\"Pumps\"}\n{\"file\":\"Pumps.kdproj\",\"removed\":{}}\n");
-    ASSERT_TRUE(describe(u"ours"_s) && document->save()) << qPrintable(document->errorString());
+    ASSERT_TRUE(describe(u"ours"_s));
+    EXPECT_FALSE(document->save());
+    EXPECT_EQ(read(file), "of a program that was killed");
+    ASSERT_TRUE(document->save(ProjectDocument::Overwrite::Always)) << qPrintable(document->errorString());
     const QString saved = text();
     openAgain();
     EXPECT_EQ(text(), saved);

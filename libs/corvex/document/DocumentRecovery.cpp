@@ -6,6 +6,7 @@
 #include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/common/zip/ZipHelper.h"
 #include "corvex/document/ProjectDocument.h"
+#include "corvex/editing/commands/images/ImageNames.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/files/FileNameRules.h"
 #include "corvex/project/files/ProjectAutosave.h"
@@ -154,6 +155,7 @@ bool ProjectDocument::recover()
 bool ProjectDocument::takeRecoveredImages(const QDir &images, const QDateTime &archived, QString &error)
 {
     const QDir present(m_project->imagesPath());
+    ImageNames freeNames(m_project.get());
     for (const QString &name : newImages(images, present)) {
         QByteArray bytes;
         const QString path = present.filePath(name);
@@ -165,7 +167,7 @@ bool ProjectDocument::takeRecoveredImages(const QDir &images, const QDateTime &a
         // A file that is newer than the archive was written by another program since, and is kept.
         const QFileInfo file(path);
         const bool isNewer = file.exists() && file.lastModified() > archived;
-        const QString kept = isNewer ? Project::generateUniqueName(present.path(), name) : QString();
+        const QString kept = isNewer ? freeNames.freeName(name) : QString();
         if ((isNewer && !files->move(inFolder, QFileInfo(inFolder).dir().filePath(kept), &error))
             || (QFileInfo::exists(path) && files->setAside(inFolder).isEmpty())
             || !files->place(inFolder, bytes, &error)) {

@@ -48,8 +48,7 @@ ProjectDocument::ProjectDocument(std::unique_ptr<Project> project, QObject *pare
             m_project->autosave().removeArchive(); // the project has been saved meanwhile
         }
     });
-    m_watch->watch(m_project->fullFilePath());
-    m_watch->accept();
+    watchFile();
     m_wasModified = isModified();
     m_project->autosave().findArchive();
 }
@@ -196,20 +195,29 @@ bool ProjectDocument::save(Overwrite overwrite)
     if (!stack->isOpen()) {
         return result(false, stack->errorString());
     }
-    if (overwrite == Overwrite::Never && !canOverwrite()) {
-        return false;
-    }
     if (overwrite == Overwrite::Always && !writeMissingFile()) {
         return false;
     }
-    if (!m_project->saveFile()) {
+    // The lock keeps other programs from writing the file between the check and the end of the save.
+    if (!m_project->lockForSave()) {
         return result(false, m_project->fileError());
     }
-    m_isComplete = true;
+    const bool isSaved = (overwrite == Overwrite::Always || canOverwrite())
+                         && result(m_project->saveFile(), m_project->fileError());
+    m_project->unlockAfterSave();
+    if (isSaved) {
+        m_isComplete = true;
+        watchFile();
+        updateModified();
+    }
+    return isSaved;
+}
+
+//! Watches the file for changes of what was last read or written.
+void ProjectDocument::watchFile()
+{
     m_watch->watch(m_project->fullFilePath());
-    m_watch->accept();
-    updateModified();
-    return result(true, {});
+    m_watch->accept(m_project->fileStamp());
 }
 
 bool ProjectDocument::reload()
@@ -231,8 +239,7 @@ bool ProjectDocument::readFile(const QString &path)
     const bool isLoaded = m_project->loadFile(path);
     if (isLoaded) {
         m_isComplete = !losesParts();
-        m_watch->watch(m_project->fullFilePath());
-        m_watch->accept();
+        watchFile();
     }
     onHistoryChanged();
     return result(isLoaded, m_project->fileError());

@@ -144,6 +144,7 @@ private:
     bool canLoad(const QString &path);
     bool losesParts() const;
     bool writeMissingFile();
+    void watchFile();
     void onHistoryChanged();
     void updateModified();
     void dropFromSelection();

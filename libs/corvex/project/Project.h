@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/Export.h"
+#include "corvex/common/files/FileStamp.h"
 #include "corvex/core/FileObject.h"
 #include "corvex/core/ModelObservers.h"
 #include "corvex/project/files/ProjectFolder.h"
@@ -66,6 +67,14 @@ public:
     //! of commands; if these have renamed the project, its current path leads to the file as it was saved.
     bool loadFile(const QString &path) override;
     bool saveFile() override;
+    //! Keeps other programs from writing the project until unlockAfterSave(), so that they cannot change the
+    //! file between a look at it and saveFile(). Completes or undoes an interrupted save of another program,
+    //! which may change the file. Returns false if others hold the lock for too long.
+    bool lockForSave();
+    void unlockAfterSave();
+    //! The project's file as it was when it was last read or written. A change by another program during the
+    //! reading counts as a later one.
+    const Common::FileStamp &fileStamp() const { return m_fileStamp; }
     //! Locks the project in the file \a path: prevents others from changing it, or also from reading it
     //! (exclusive). Call it before loading; the lock is held until closeFiles(). Returns false if others hold
     //! a lock for longer than \a milliseconds.
@@ -233,6 +242,7 @@ private:
     // The names that folder and file get when the waiting file changes are undone.
     QString m_savedSubPath;
     QString m_savedFileName;
+    Common::FileStamp m_fileStamp;
     bool m_needsBuildVersion = false;
 };
 

@@ -128,6 +128,11 @@ TEST_F(ImageCommandTest, RenamingAlsoRenamesTheFile)
     EXPECT_FALSE(stack().push(new RenameImage(object(u"pump.png"_s), u"taken.png"_s)));
     EXPECT_EQ(shown(u"taken.png"_s), QColor(Qt::black));
     EXPECT_EQ(source("image1"), u"pump.png"_s);
+    push(new AddImage(make(u"ImageResource"_s, u"PUMP.png"_s), picture(u"sea.png"_s, Qt::cyan),
+                      project.get()));
+    push(new DeleteImage(object(u"pump.png"_s)));
+    EXPECT_FALSE(stack().push(new RenameImage(object(u"PUMP.png"_s), u"pump.png"_s)));
+    EXPECT_TRUE(stack().errorString().endsWith(u"exists already."_s)) << qPrintable(stack().errorString());
 }
 
 TEST_F(ImageCommandTest, UndoOfAReplacementRestoresTheOldImage)

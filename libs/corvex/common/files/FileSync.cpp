@@ -12,6 +12,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Halvane::Corvex::Common::FileSync {
@@ -104,6 +105,15 @@ bool link(const QString &from, const QString &to)
 {
     return ::link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0
            || (FileHelper::copyFile(from, to) && sync(to));
+}
+
+bool isSame(const QString &first, const QString &second)
+{
+    struct stat one = {};
+    struct stat other = {};
+    return lstat(QFile::encodeName(first).constData(), &one) == 0
+           && lstat(QFile::encodeName(second).constData(), &other) == 0 && one.st_dev == other.st_dev
+           && one.st_ino == other.st_ino;
 }
 
 QString linkTarget(const QString &path)

@@ -25,6 +25,9 @@ CORVEX_COMMON_EXPORT bool exchange(const QString &first, const QString &second);
 //! Creates a hard link or, if the file system has none, a synced copy.
 CORVEX_COMMON_EXPORT bool link(const QString &from, const QString &to);
 
+//! Whether both paths name one file, as two spellings do on a case-insensitive disk. Does not follow links.
+CORVEX_COMMON_EXPORT bool isSame(const QString &first, const QString &second);
+
 //! The target of a symbolic link exactly as stored, possibly relative; empty for other files.
 CORVEX_COMMON_EXPORT QString linkTarget(const QString &path);
 

@@ -213,14 +213,14 @@ bool FileTransaction::expect(const QString &name, const QString &path)
 }
 
 //! Prepares that the file is set aside.
-bool FileTransaction::noteAside(const QString &key, const QString &name, const QString &expected)
+bool FileTransaction::noteAside(const QString &key, const QString &name, const Digest &expected)
 {
     const QString digest = FileJournal::digestOf(m_journal->pathOf(name));
-    const bool isExpected = expected.isEmpty() ? !isForeign(digest) : digest == expected;
+    const bool isExpected = expected ? digest == *expected : !isForeign(digest);
     return isExpected || m_journal->addForeign(key, name);
 }
 
-bool FileTransaction::exchange(QString &key, const QString &name, const QString &expected)
+bool FileTransaction::exchange(QString &key, const QString &name, const Digest &expected)
 {
     // Everything that needs space on the disk comes first.
     const QString path = m_journal->pathOf(name);
@@ -248,7 +248,7 @@ bool FileTransaction::exchange(QString &key, const QString &name, const QString 
     return true;
 }
 
-QString FileTransaction::setAside(const QString &name, const QString &expected)
+QString FileTransaction::setAside(const QString &name, const Digest &expected)
 {
     QString key;
     return exchange(key, name, expected) ? key : QString();

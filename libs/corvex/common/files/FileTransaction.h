@@ -9,6 +9,7 @@
 #include <QVariantMap>
 
 #include <memory>
+#include <optional>
 
 namespace Halvane::Corvex::Common {
 
@@ -54,14 +55,15 @@ public:
 
     // Files that are out of sight but can be restored. Each is identified by the key that these operations
     // return; the key is empty on failure. A file that another program has written gets a visible name at the
-    // end of the transaction: one with contents that no operation has seen or, if \a expected is not empty,
-    // one with another digest.
-    QString setAside(const QString &name, const QString &expected = {});
+    // end of the transaction: one with contents that no operation has seen or, with \a expected, one with
+    // another digest than that. An empty digest expects no file.
+    using Digest = std::optional<QString>;
+    QString setAside(const QString &name, const Digest &expected = {});
     QString keepAside(const QByteArray &bytes, QString *error = nullptr);
     bool bringBack(const QString &key, const QString &name);
     //! Puts the file with the \a key into place, and sets aside the one that is there: \a key is its key
     //! afterwards. Either may be missing, with an empty key.
-    bool exchange(QString &key, const QString &name, const QString &expected = {});
+    bool exchange(QString &key, const QString &name, const Digest &expected = {});
     void discard(const QString &key);
     //! The current path of the file with that key.
     QString asidePath(const QString &key) const;
@@ -109,7 +111,7 @@ private:
     bool keep(const QString &name);
     bool isForeign(const QString &digest) const;
     bool expect(const QString &name, const QString &path);
-    bool noteAside(const QString &key, const QString &name, const QString &expected = {});
+    bool noteAside(const QString &key, const QString &name, const Digest &expected = {});
     bool keepCopy(const QString &path, const QString &digest);
     bool repair();
     bool keepPresent();

@@ -31,10 +31,11 @@ void FileWatch::watch(const QString &path)
     }
 }
 
-void FileWatch::accept()
+void FileWatch::accept(const FileStamp &stamp)
 {
     m_look.reset();
-    m_known = m_told = FileStamp::of(m_path);
+    m_known = m_told = stamp;
+    m_pause.start();
 }
 
 void FileWatch::look()

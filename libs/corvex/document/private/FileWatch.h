@@ -20,8 +20,8 @@ public:
     //! Watches the file with that path, which may be a new name of the current file.
     void watch(const QString &path);
     const QString &path() const { return m_path; }
-    //! Accepts the current contents as known.
-    void accept();
+    //! Accepts these contents as known. If the file has others already, that is reported soon.
+    void accept(const Common::FileStamp &stamp);
     //! Whether the contents have changed since; reads the whole file.
     bool isChanged() const { return !(Common::FileStamp::of(m_path) == m_known); }
 

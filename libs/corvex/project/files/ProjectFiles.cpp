@@ -70,6 +70,7 @@ bool Project::createFile(const QString &path)
         return false;
     }
     m_folder.close(); // the next one is another folder
+    m_fileStamp = Common::FileStamp::of(fullFilePath());
     m_observers.call(&ModelObserver::projectSaved);
     createUndoStack();
     return true;
@@ -81,6 +82,18 @@ bool Project::lockFiles(const QString &path, Common::FolderLock::Kind kind, int 
     takeBackFiles();
     m_folder.lock(path, kind, milliseconds, &error);
     return finish(error);
+}
+
+bool Project::lockForSave()
+{
+    QString error;
+    m_folder.lockForSave(folderPath(), &error);
+    return finish(error);
+}
+
+void Project::unlockAfterSave()
+{
+    m_folder.unlockAfterSave();
 }
 
 void Project::closeFiles()
@@ -146,6 +159,7 @@ bool Project::loadFile(const QString &path)
     m_observers.beginLoad();
     Common::SafeFile::removeAbandoned(QFileInfo(file).absolutePath());
     clearContents();
+    m_fileStamp = Common::FileStamp::of(file);
     const bool done = FileObject::loadFile(file) && updateProjectProperties();
     m_observers.endLoad();
     createUndoStack();
@@ -183,6 +197,7 @@ bool Project::saveFile()
         changePropertyValue(m_designerVersion, oldDesignerVersion);
         return false;
     }
+    m_fileStamp = Common::FileStamp::of(fullFilePath());
     m_observers.call(&ModelObserver::projectSaved);
     if (m_historyKeeper) {
         setUndoStack(m_historyKeeper->historyAfterSave());
@@ -195,8 +210,8 @@ bool Project::saveFile()
 
 bool Project::writeAgain(QString *error)
 {
-    restoreDeletedImages();
     const auto clean = [this] {
+        restoreDeletedImages();
         if (m_historyKeeper) {
             m_historyKeeper->aboutToSave();
         } else {

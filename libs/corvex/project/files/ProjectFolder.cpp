@@ -184,23 +184,39 @@ bool ProjectFolder::prepare(const QString &folder, int milliseconds, QString *er
     if (!QFileInfo(folder).isDir()) {
         return fail(error, u"The folder \"%1\" does not exist."_s, folder);
     }
+    return keepOthersOut(folder, milliseconds, error) && (!m_changes || m_changes->renew(error));
+}
+
+bool ProjectFolder::keepOthersOut(const QString &folder, int milliseconds, QString *error)
+{
     const bool isLocked = m_lock.kind() == Kind::Exclusive && m_lock.isOn(folder);
     if (!isLocked && !m_lock.take(folder, Kind::Exclusive, milliseconds)) {
         return failToLock(error, folder);
     }
     // A journal of somebody else would later replace what is written now.
-    const bool isReady = m_changes ? m_changes->renew(error)
-                                   : !FileTransaction::isOpen(folder) || endInterrupted(folder, error);
+    const bool isReady = m_changes || !FileTransaction::isOpen(folder) || endInterrupted(folder, error);
     if (!isReady) {
         unlockSaved();
     }
     return isReady;
 }
 
+bool ProjectFolder::lockForSave(const QString &folder, QString *error)
+{
+    m_isLockedForSave = !QFileInfo(folder).isDir() || keepOthersOut(folder, timeToSave, error);
+    return m_isLockedForSave;
+}
+
+void ProjectFolder::unlockAfterSave()
+{
+    m_isLockedForSave = false;
+    unlockSaved();
+}
+
 //! Do not keep others out between two saves.
 void ProjectFolder::unlockSaved()
 {
-    if (!m_changes && !m_isLockedForCaller) {
+    if (!m_changes && !m_isLockedForCaller && !m_isLockedForSave) {
         m_lock.release();
     }
 }

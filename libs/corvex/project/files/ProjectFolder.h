@@ -40,6 +40,12 @@ public:
     //! Null if there are no changes.
     Common::FileTransaction *changes() const { return m_changes.get(); }
 
+    //! Keeps others out of \a folder, so that a save can depend on the state of its files, until
+    //! unlockAfterSave(). Completes or undoes an interrupted transaction there. Returns false, with an error,
+    //! if that is impossible, or if others hold the lock for too long. Does nothing if there is no folder.
+    bool lockForSave(const QString &folder, QString *error);
+    void unlockAfterSave();
+
     using Write = std::function<bool(const QString &path, QString *error)>;
     //! Writes the file and commits all changes with it. After the file was written, \a clean removes the
     //! files that only an undo needs.
@@ -56,14 +62,16 @@ public:
 private:
     //! Completes or undoes, according to its journal, the transaction of a killed program.
     bool endInterrupted(const QString &folder, QString *error);
-    //! Locks the folder exclusively, and makes sure that waiting changes can be continued, and that no
-    //! interrupted transaction is left.
+    //! Locks the folder exclusively, and makes sure that no interrupted transaction is left.
+    bool keepOthersOut(const QString &folder, int milliseconds, QString *error);
+    //! The same, and makes sure that waiting changes can be continued.
     bool prepare(const QString &folder, int milliseconds, QString *error);
     void unlockSaved();
     bool commit(const QString &file, QString *error);
 
     Common::FolderLock m_lock;
     bool m_isLockedForCaller = false;
+    bool m_isLockedForSave = false;
     bool m_isSaving = false;
     std::unique_ptr<Common::FileTransaction> m_changes;
     QString m_note;

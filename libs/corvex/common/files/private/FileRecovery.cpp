@@ -154,7 +154,8 @@ bool FileRecovery::showForeign() const
         const QString path = m_journal.pathOf(*file);
         const bool hasFolder = QFileInfo(QFileInfo(path).path()).isDir();
         const QString visible = hasFolder ? path : m_journal.pathOf(QFileInfo(path).fileName());
-        if (exists(aside) && !FileSync::move(aside, freePath(visible))) {
+        const bool isVisible = FileJournal::digestOf(aside) == FileJournal::digestOf(visible);
+        if (exists(aside) && !isVisible && !FileSync::move(aside, freePath(visible))) {
             return false;
         }
     }

@@ -38,13 +38,14 @@ QString ImageNames::withContents(const QString &digest, const QString &extension
 QString ImageNames::freeName(const QString &wanted)
 {
     const qsizetype dot = wanted.lastIndexOf(u'.');
+    const QString suffix = dot < 0 ? QString() : wanted.sliced(dot);
     QString stem;
-    qint64 number = Common::TextHelper::numberFromString(QStringView(wanted).first(dot), &stem);
+    qint64 number = Common::TextHelper::numberFromString(QStringView(wanted).chopped(suffix.size()), &stem);
     QString name = wanted;
     while (m_names.contains(name.toLower())
            || QFileInfo::exists(u"%1/%2"_s.arg(m_project->imagesPath(), name))) {
         number = std::max<qint64>(number + 1, 1);
-        name = u"%1%2.%3"_s.arg(stem, QString::number(number), wanted.sliced(dot + 1));
+        name = u"%1%2%3"_s.arg(stem, QString::number(number), suffix);
     }
     m_names.insert(name.toLower());
     return name;

@@ -126,14 +126,17 @@ bool PlaceFileStep::readSource(QByteArray &bytes, QString &error) const
 bool PlaceFileStep::redo(QString &error)
 {
     Common::FileTransaction *files = changes(error);
-    m_isDone = files && (bringBack(*files) || place(*files, error));
+    const bool isKept = isAside(m_key) && !exists(path());
+    m_isDone = files && (isKept ? bringBack(*files, error) : place(*files, error));
     return m_isDone;
 }
 
 //! A file that was placed before replaces the source, which may no longer exist.
-bool PlaceFileStep::bringBack(Common::FileTransaction &files)
+bool PlaceFileStep::bringBack(Common::FileTransaction &files, QString &error)
 {
-    if (m_key.isEmpty() || exists(path()) || !files.bringBack(m_key, inFolder(name()))) {
+    if (!files.bringBack(m_key, inFolder(name()))) {
+        error = LocalizationHelper::coreString(u"The file \"%1\" cannot be written: %2"_s)
+                    .arg(path(), Common::FileSync::reason());
         return false;
     }
     m_key.clear();
@@ -190,7 +193,10 @@ bool LeaveFileStep::redo(QString &error)
             return false;
         }
     }
-    m_digest = Common::FileTransaction::digestOf(path());
+    // A redo may find a file that another program has written since.
+    if (!m_digest) {
+        m_digest = Common::FileTransaction::digestOf(path());
+    }
     m_isDone = true;
     return true;
 }
@@ -254,7 +260,7 @@ bool LeaveFileStep::keepFiles(Common::FileStore &store, QString &error)
         }
     }
     if (isOurs && m_stored) {
-        removeUnused(m_digest); // also after a save that failed
+        removeUnused(*m_digest); // also after a save that failed
     }
     m_isSaved = true;
     return true;
@@ -264,8 +270,8 @@ void LeaveFileStep::cleanJunkFiles()
 {
     if (!m_key.isEmpty()) {
         discard(m_key);
-    } else if (!m_isSaved || !m_isDone) {
-        removeUnused(m_digest);
+    } else if (m_digest && (!m_isSaved || !m_isDone)) {
+        removeUnused(*m_digest);
     }
 }
 
@@ -301,7 +307,9 @@ bool RenameFileStep::rename(const QString &from, const QString &to, QString &err
             return true; // another program has deleted the file; the image has none under either name
         }
     }
-    if (exists(pathOf(to)) && from.compare(to, Qt::CaseInsensitive) != 0) {
+    const bool isOtherCase =
+        from.compare(to, Qt::CaseInsensitive) == 0 && Common::FileSync::isSame(pathOf(from), pathOf(to));
+    if (exists(pathOf(to)) && !isOtherCase) {
         error = LocalizationHelper::coreString(u"The file \"%1\" exists already."_s).arg(pathOf(to));
         return false;
     }
@@ -349,12 +357,19 @@ bool ReplaceFileStep::exchange(QString &error)
         }
         m_stored.reset();
     }
+    const QString before = Common::FileTransaction::digestOf(path());
     if (!files->exchange(m_key, inFolder(name()), m_isDone ? m_newDigest : m_oldDigest)) {
         error = LocalizationHelper::coreString(u"The file \"%1\" cannot be replaced: %2"_s)
                     .arg(path(), Common::FileSync::reason());
         return false;
     }
-    (m_isDone ? m_oldDigest : m_newDigest) = Common::FileTransaction::digestOf(path());
+    // Later calls may find contents that another program has written since.
+    if (!m_oldDigest) {
+        m_oldDigest = before;
+    }
+    if (!m_newDigest) {
+        m_newDigest = Common::FileTransaction::digestOf(path());
+    }
     lookAgain(name());
     return true;
 }
@@ -369,6 +384,7 @@ bool ReplaceFileStep::redo(QString &error)
         if (m_key.isEmpty()) {
             return false;
         }
+        m_newDigest.reset(); // the source may have changed
     }
     m_isDone = exchange(error);
     return m_isDone;

@@ -7,6 +7,8 @@
 
 #include <QPointer>
 
+#include <optional>
+
 namespace Halvane::Corvex::Designer {
 
 class Project;
@@ -24,6 +26,7 @@ public:
 
 protected:
     Project *project() const { return m_project; }
+    using Digest = std::optional<QString>; //!< empty for a missing file, null while unknown
     using Stored = std::unique_ptr<Common::StoredFile>;
     //! Copies a file that was set aside, because a save deletes it. Null, with an error, on failure.
     Stored store(const QString &key, Common::FileStore &files, QString &error) const;
@@ -77,7 +80,7 @@ public:
 
 private:
     bool readSource(QByteArray &bytes, QString &error) const;
-    bool bringBack(Common::FileTransaction &files);
+    bool bringBack(Common::FileTransaction &files, QString &error);
     bool place(Common::FileTransaction &files, QString &error);
 
     QString m_source;
@@ -104,9 +107,9 @@ public:
 private:
     bool placeStored(QString &error);
 
-    Stored m_stored;  //!< the file, after a save deleted it
-    QString m_key;    //!< of the file that a later redo has set aside
-    QString m_digest; //!< of the contents that it left
+    Stored m_stored; //!< the file, after a save deleted it
+    QString m_key;   //!< of the file that a later redo has set aside
+    Digest m_digest; //!< of the contents that it left
     bool m_isDone = false;
     bool m_isSaved = false; //!< a save has deleted the file, or another step has taken it, so that a file
                             //!< with its name belongs to other steps
@@ -149,10 +152,10 @@ private:
     bool exchange(QString &error);
 
     QString m_source;
-    QString m_key;       //!< of the file with the hidden contents; empty before the first redo
-    QString m_oldDigest; //!< of the contents that an undo puts into place
-    QString m_newDigest; //!< of those that a redo puts into place
-    Stored m_stored;     //!< the same, if the project has been saved since
+    QString m_key;      //!< of the file with the hidden contents; empty before the first redo
+    Digest m_oldDigest; //!< of the contents before the first redo
+    Digest m_newDigest; //!< of those that a redo puts into place
+    Stored m_stored;    //!< of the hidden contents, if the project has been saved since
     bool m_isDone = false;
     bool m_isOldLost = false; //!< another program has deleted the old contents
 };
