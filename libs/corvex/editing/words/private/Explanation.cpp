@@ -61,8 +61,8 @@ QString Explanation::ofImageName(const QString &name, const QString &reason)
 {
     return name.startsWith(u'.') || name.startsWith(u' ')
                ? LocalizationHelper::coreString(
-                     u"%1 The name of an image cannot begin with a dot or a space: \"%2\"."_s)
-                     .arg(reason, name)
+                     u"The name of an image cannot begin with a dot or a space: \"%1\"."_s)
+                     .arg(name)
                : reason;
 }
 
