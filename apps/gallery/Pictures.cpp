@@ -40,6 +40,7 @@ QStringList Pictures::draw()
     if (!QDir().mkpath(m_folder)) {
         return {u"%1: The folder cannot be created."_s.arg(m_folder)};
     }
+    drawIcons();
     drawPanels();
     drawEditors();
     return m_errors;

@@ -17,6 +17,7 @@ public:
     QStringList draw();
 
 private:
+    void drawIcons();
     void drawPanels();
     void drawEditors();
     void drawEditor(const QString &name, const QString &className, const QString &id);

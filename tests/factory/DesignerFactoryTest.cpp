@@ -3,6 +3,7 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/factory/CoreFactory.h"
 #include "corvex/templates/Template.h"
+#include "corvex/widgets/IconSet.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -80,7 +81,10 @@ TEST(DesignerFactoryTest, AnInstanceNeedsAPathAndHasTheLibrarysClasses)
     }
     const std::unique_ptr<Template> made(factory->createTemplate(u"ElementTemplate"_s));
     EXPECT_TRUE(made);
-    EXPECT_FALSE(factory->getObjectIcon(u"Screen"_s).isNull());
+    EXPECT_EQ(factory->getObjectIcon(u"Robot"_s).deviceIndependentSize(), QSizeF(16, 16)) << "a letter";
+    for (const QString &name : factory->objectNames() + factory->creatableNames()) {
+        EXPECT_FALSE(IconSet::objectIcon({name}).isNull()) << qPrintable(name);
+    }
 
     const Warnings warnings;
     EXPECT_FALSE(factory->createObject({}));

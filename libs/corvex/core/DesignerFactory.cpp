@@ -3,6 +3,7 @@
 
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/TableFactory.h"
+#include "corvex/core/private/IconMaker.h"
 #include "corvex/core/private/ViewMaker.h"
 
 #include <QCoreApplication>
@@ -54,32 +55,27 @@ QStringList sortedKeys(const QHash<QString, IDesignerFactory *> &registry)
     return keys;
 }
 
-//! The icon colours of the kinds of objects, most derived kinds first.
-struct KindColor
-{
-    const char *className;
-    QRgb color;
-};
-constexpr KindColor kindColors[] = {
-    {"ProjectVariable", 0xFF2E7D32}, {"HardwareElement", 0xFFB71C1C}, {"FunctionElement", 0xFF6A1B9A},
-    {"FilterElement", 0xFF546E7A},   {"BasicAction", 0xFFEF6C00},     {"VisualElement", 0xFF1565C0},
-    {"Screen", 0xFF00838F},          {"ImageResource", 0xFFAD1457},   {"Project", 0xFF37474F},
-};
-constexpr QRgb otherKindColor = 0xFF757575;
 constexpr int iconSize = 16;
 
-QPixmap drawIcon(const QString &className, QRgb color)
+//! The first letter of the class in a box, for a class without an icon.
+QPixmap drawLetter(const QString &className)
 {
     QPixmap icon(iconSize, iconSize);
     icon.fill(Qt::transparent);
     QPainter painter(&icon);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgba(color));
+    painter.setBrush(QColor(Qt::gray).darker(130));
     painter.drawRoundedRect(icon.rect(), 3, 3);
     painter.setPen(Qt::white);
     painter.drawText(icon.rect(), Qt::AlignCenter, className.left(1));
     return icon;
+}
+
+QPixmap drawIcon(const QStringList &classNames)
+{
+    const QPixmap icon = IconMaker::make ? IconMaker::make(classNames) : QPixmap();
+    return icon.isNull() ? drawLetter(classNames.constLast()) : icon;
 }
 
 //! The result of \a call, which runs code of a plug-in. Library code does not throw, but a plug-in may: then
@@ -414,19 +410,12 @@ void DesignerFactory::setFontFamilies(const QStringList &families)
 
 QPixmap DesignerFactory::getObjectIcon(const QString &className) const
 {
-    return qGuiApp ? drawIcon(className, otherKindColor) : QPixmap();
+    return qGuiApp ? drawIcon({className}) : QPixmap();
 }
 
 QPixmap DesignerFactory::getObjectIcon(const DesignerObject *object) const
 {
-    if (!object || !qGuiApp) {
-        return {};
-    }
-    const auto kind =
-        std::find_if(std::begin(kindColors), std::end(kindColors), [object](const KindColor &entry) {
-            return object->isKindOfClass(QString::fromLatin1(entry.className));
-        });
-    return drawIcon(object->className(), kind == std::end(kindColors) ? otherKindColor : kind->color);
+    return object && qGuiApp ? drawIcon(object->classNames()) : QPixmap();
 }
 
 } // namespace Halvane::Corvex::Designer

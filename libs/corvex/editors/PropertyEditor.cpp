@@ -96,8 +96,11 @@ void PropertyEditor::update(const SheetRow &row)
 void PropertyEditor::updateAccess()
 {
     const QString error = errorString();
-    const QString description = error.isEmpty() ? m_row.description : error;
+    QString description = error.isEmpty() ? m_row.description : error;
     setToolTip(description);
+    if (error.isEmpty() && !m_hint.isEmpty()) {
+        description = description.isEmpty() ? m_hint : description + u'\n' + m_hint;
+    }
     for (const Field &field : m_parts) {
         if (field.widget) {
             field.widget->setAccessibleName(field.part.isEmpty() ? m_row.title
@@ -117,28 +120,51 @@ QString PropertyEditor::errorString() const
     return m_refusal.isEmpty() ? m_row.error : m_refusal;
 }
 
+//! Shows a text beneath the fields, or nothing. Returns whether anything changed.
+bool PropertyEditor::showMessage(QLabel *&label, const QString &text, QColor (*role)(const QPalette &palette))
+{
+    if (!label && !text.isEmpty()) {
+        label = new QLabel(this);
+        label->setWordWrap(true);
+        label->setTextFormat(Qt::PlainText);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setObjectName(&label == &m_errorLabel ? u"error"_s : u"hint"_s);
+        Theme::setTextColor(label, role);
+        m_layout->addWidget(label);
+    }
+    if (!label || (label->text() == text && label->isHidden() == text.isEmpty())) {
+        return false;
+    }
+    label->setText(text);
+    label->setVisible(!text.isEmpty());
+    return true;
+}
+
 void PropertyEditor::setError(const QString &text)
 {
-    if (!m_errorLabel && !text.isEmpty()) {
-        m_errorLabel = new QLabel(this);
-        m_errorLabel->setWordWrap(true);
-        m_errorLabel->setTextFormat(Qt::PlainText);
-        m_errorLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        m_errorLabel->setObjectName(u"error"_s);
-        Theme::setTextColor(m_errorLabel, &Theme::error);
-        m_layout->addWidget(m_errorLabel);
-    }
     for (const Field &field : m_parts) {
         if (auto *line = qobject_cast<KdLineEdit *>(field.widget)) {
             line->setInvalid(!text.isEmpty());
         }
     }
-    if (m_errorLabel && (m_errorLabel->text() != text || m_errorLabel->isHidden() != text.isEmpty())) {
-        m_errorLabel->setText(text);
-        m_errorLabel->setVisible(!text.isEmpty());
+    const bool isErrorNew = showMessage(m_errorLabel, text, &Theme::error);
+    const bool isHintNew = showMessage(m_hintLabel, text.isEmpty() ? m_hint : QString(),
+                                       m_isWarning ? &Theme::warning : &Theme::muted);
+    if (isErrorNew || isHintNew) {
         updateAccess();
         emit heightChanged();
     }
+}
+
+void PropertyEditor::setHint(const QString &text, bool isWarning)
+{
+    if (m_isWarning != isWarning && m_hintLabel) {
+        delete m_hintLabel; // the next one has the other color
+        m_hintLabel = nullptr;
+    }
+    m_hint = text;
+    m_isWarning = isWarning;
+    setError(errorString());
 }
 
 UndoCommand *PropertyEditor::createUpdateCommand()

@@ -124,6 +124,9 @@ protected:
     //! The same for a step of the wheel or an arrow key.
     void completeStep();
 
+    //! Advice on the value, in a line beneath the fields; empty for none. An error replaces it.
+    void setHint(const QString &text, bool isWarning = false);
+
     //! The text for values that differ.
     static QString mixedText();
     //! A parameter of the editor, from the row of the property.
@@ -136,6 +139,7 @@ private:
     void follow();
     void update(const SheetRow &row);
     void setError(const QString &text);
+    bool showMessage(QLabel *&label, const QString &text, QColor (*role)(const QPalette &palette));
     void updateAccess();
 
     struct Field
@@ -148,9 +152,12 @@ private:
     QVBoxLayout *m_layout;
     QHBoxLayout *m_fields;
     QLabel *m_errorLabel = nullptr; //!< created with the first error
+    QLabel *m_hintLabel = nullptr;  //!< the same with the first hint
     std::vector<Field> m_parts;
     QPointer<KdLineEdit> m_text; //!< of this class as an editor
     QString m_refusal;
+    QString m_hint;
+    bool m_isWarning = false;
     QStringList m_notes;
     bool m_hasFields = false;
     bool m_hasEntry = false;

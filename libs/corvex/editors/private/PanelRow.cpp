@@ -5,6 +5,7 @@
 #include "corvex/editors/Editors.h"
 #include "corvex/editors/PropertyEditor.h"
 #include "corvex/editors/private/RowTitle.h"
+#include "corvex/widgets/IconSet.h"
 #include "corvex/widgets/Theme.h"
 
 #include <QClipboard>
@@ -40,7 +41,7 @@ PanelRow::PanelRow(PropertySheet &sheet, const SheetRow &row, QWidget *parent)
     m_title = new RowTitle(m_editor, this);
     m_reset = new QToolButton(this);
     m_reset->setAutoRaise(true);
-    m_reset->setText(u"\u21BA"_s);
+    m_reset->setIcon(IconSet::icon(IconSet::Reset));
     m_reset->setFocusPolicy(Qt::NoFocus);
     connect(m_reset, &QToolButton::clicked, this, &PanelRow::resetRequested);
     connect(m_editor, &PropertyEditor::heightChanged, this, &PanelRow::heightChanged);
