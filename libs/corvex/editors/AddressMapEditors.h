@@ -1,24 +1,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/editors/PropertyEditor.h"
+#include "corvex/editors/TermTableEditor.h"
 
 namespace Halvane::Corvex::Designer {
 
-class CORVEX_EXPORT AddressMapEditor : public PropertyEditor
+//! The Modbus registers of one kind ("RegType"): address and source of each, with what follows from the kind.
+class CORVEX_EXPORT AddressMapEditor : public TermTableEditor
 {
     Q_OBJECT
 
 public:
-    using PropertyEditor::PropertyEditor;
+    using TermTableEditor::TermTableEditor;
+
+protected:
+    const std::vector<TermColumn> &columns() const override;
+    QHash<int, QString> conflicts() const override;
 };
 
-class CORVEX_EXPORT StringAddressMapEditor : public PropertyEditor
+//! The same for virtual strings.
+class CORVEX_EXPORT StringAddressMapEditor : public AddressMapEditor
 {
     Q_OBJECT
 
 public:
-    using PropertyEditor::PropertyEditor;
+    using AddressMapEditor::AddressMapEditor;
 };
 
 } // namespace Halvane::Corvex::Designer

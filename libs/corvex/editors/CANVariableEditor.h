@@ -1,16 +1,32 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/editors/PropertyEditor.h"
+#include "corvex/editors/TermTableEditor.h"
 
 namespace Halvane::Corvex::Designer {
 
-class CORVEX_EXPORT CANVariableEditor : public PropertyEditor
+class CanBitsView;
+
+//! A J1939 parameter group: its number, priority and source address, the table of its parameters, and the
+//! eight data bytes as a picture in which overlapping bits are red.
+class CORVEX_EXPORT CANVariableEditor : public TermTableEditor
 {
     Q_OBJECT
 
 public:
-    using PropertyEditor::PropertyEditor;
+    using TermTableEditor::TermTableEditor;
+
+protected:
+    const std::vector<TermColumn> &columns() const override;
+    qsizetype headSize() const override;
+    void createMore(QVBoxLayout *layout) override;
+    void showMore() override;
+    QHash<int, QString> conflicts() const override;
+    Entry entryFor(const DesignerProperty &property) const override;
+
+private:
+    QList<KdLineEdit *> m_head;
+    CanBitsView *m_bits = nullptr;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -14,33 +14,23 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-struct AddressRange
-{
-    int first;
-    int last;
-};
+constexpr int open = std::numeric_limits<int>::max();
 
-constexpr AddressRange rangeOf(ModbusMap::RegisterKind kind)
-{
-    constexpr int open = std::numeric_limits<int>::max();
-    switch (kind) {
-    case ModbusMap::Coil:
-        return {1, 9999};
-    case ModbusMap::DiscreteInput:
-        return {10001, 19999};
-    case ModbusMap::InputRegister:
-        return {30001, 39999};
-    case ModbusMap::HoldingRegister:
-        return {40001, 49999};
-    case ModbusMap::VirtualRegister:
-        return {0, open};
-    case ModbusMap::VirtualString:
-        return {5000, open};
-    }
-    return {0, open};
-}
+constexpr std::array<ModbusMap::Registers, 6> kinds{{
+    {ModbusMap::Coil, u"coilMap", u"coil", u"read/write", u"1", u"bit", 1, 1, 9999},
+    {ModbusMap::DiscreteInput, u"discreteInputMap", u"discrete input", u"read", u"1", u"bit", 10001, 10001,
+     19999},
+    {ModbusMap::InputRegister, u"inputRegMap", u"input register", u"read", u"16", u"int16", 30001, 30001,
+     39999},
+    {ModbusMap::HoldingRegister, u"holdingRegMap", u"holding register", u"read/write", u"16", u"int16", 40001,
+     40001, 49999},
+    {ModbusMap::VirtualRegister, u"virtualRegMap", u"virtual register", u"read/write", u"", u"number", 0, 0,
+     open},
+    {ModbusMap::VirtualString, u"virtualStringMap", u"virtual string", u"read/write", u"", u"string", 0, 5000,
+     open},
+}};
 
-bool readAddress(const GeneralDataInfo &term, AddressRange range, int &address)
+bool readAddress(const GeneralDataInfo &term, const ModbusMap::Registers &range, int &address)
 {
     bool isNumber = false;
     address = term.value().toInt(&isNumber);
@@ -56,12 +46,6 @@ bool isSource(const GeneralDataInfo &term)
                || term.valueType() == GeneralDataInfo::ObjectValue);
 }
 
-//! Five digits, the usual form of an address.
-QString addressText(int address)
-{
-    return QString::number(address).rightJustified(5, u'0');
-}
-
 QStringList repeatedIn(const GeneralDataList &terms)
 {
     QMap<int, int> counts;
@@ -73,13 +57,28 @@ QStringList repeatedIn(const GeneralDataList &terms)
     QStringList repeated;
     for (const auto &[address, count] : counts.asKeyValueRange()) {
         if (count > 1) {
-            repeated.append(addressText(address));
+            repeated.append(ModbusMap::addressText(address));
         }
     }
     return repeated;
 }
 
 } // namespace
+
+const std::array<ModbusMap::Registers, 6> &ModbusMap::registers()
+{
+    return kinds;
+}
+
+const ModbusMap::Registers &ModbusMap::registers(RegisterKind kind)
+{
+    return *std::ranges::find(kinds, kind, &Registers::kind);
+}
+
+QString ModbusMap::addressText(int address)
+{
+    return QString::number(address).rightJustified(5, u'0');
+}
 
 bool ModbusMap::read(const GeneralDataList &terms, QString &error)
 {
@@ -93,7 +92,7 @@ bool ModbusMap::read(const GeneralDataList &terms, QString &error)
     for (qsizetype i = 0; i < terms.count(); i += 2) {
         const GeneralDataInfo &source = terms.at(i + 1);
         int address = 0;
-        if (!readAddress(terms.at(i), rangeOf(m_kind), address)) {
+        if (!readAddress(terms.at(i), registers(m_kind), address)) {
             const QString text = terms.at(i).value();
             return ValidationError::set(error, "Data value at %1 is undefined",
                                         text.isEmpty() ? QString::number(i / 2 + 1) : text);

@@ -6,6 +6,8 @@
 
 #include <QList>
 
+#include <array>
+
 namespace Halvane::Corvex::Designer {
 
 /*! The registers of one kind that the device offers over Modbus, each bound to a variable or a property of an
@@ -26,6 +28,25 @@ public:
         VirtualRegister = 7,
         VirtualString = 8,
     };
+
+    //! What all registers of a kind have in common.
+    struct Registers
+    {
+        RegisterKind kind;
+        const char16_t *property; //!< the id of the map's property
+        const char16_t *title;    //!< "holding register"
+        const char16_t *access;   //!< of a master: "read" or "read/write"
+        const char16_t
+            *width;           //!< in bits on the wire; empty for virtual registers, which are not on the wire
+        const char16_t *type; //!< on the wire: "bit", "int16"
+        int base;             //!< the address that is sent as 0
+        int first;            //!< the lowest address
+        int last;
+    };
+    static const std::array<Registers, 6> &registers();
+    static const Registers &registers(RegisterKind kind);
+    //! Five digits, the usual form of an address.
+    static QString addressText(int address);
 
     struct Entry
     {

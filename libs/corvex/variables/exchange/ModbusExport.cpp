@@ -12,25 +12,6 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-constexpr struct
-{
-    const char16_t *map;
-    ModbusMap::RegisterKind kind;
-    const char16_t *title;
-    const char16_t *access;
-    const char16_t *width; //!< in bits on the wire; virtual registers are not part of the protocol
-    const char16_t *type;  //!< on the wire
-    int first;             //!< the address that is sent as 0
-} maps[] = {
-    {u"coilMap", ModbusMap::Coil, u"coil", u"read/write", u"1", u"bit", 1},
-    {u"discreteInputMap", ModbusMap::DiscreteInput, u"discrete input", u"read", u"1", u"bit", 10001},
-    {u"inputRegMap", ModbusMap::InputRegister, u"input register", u"read", u"16", u"int16", 30001},
-    {u"holdingRegMap", ModbusMap::HoldingRegister, u"holding register", u"read/write", u"16", u"int16",
-     40001},
-    {u"virtualRegMap", ModbusMap::VirtualRegister, u"virtual register", u"read/write", u"", u"number", 0},
-    {u"virtualStringMap", ModbusMap::VirtualString, u"virtual string", u"read/write", u"", u"string", 0},
-};
-
 QString typeName(GeneralDataInfo::DataType type)
 {
     switch (type) {
@@ -60,7 +41,7 @@ Exported ModbusExport::write(const DesignerObject &project)
     Exported exported;
     for (const DesignerObject *variable :
          project.getListItemsInListPropertyOfType(u"variables"_s, u"MappingVariable"_s)) {
-        for (const auto &[id, kind, title, access, width, type, first] : maps) {
+        for (const auto &[kind, id, title, access, width, type, base, first, last] : ModbusMap::registers()) {
             ModbusMap map(kind);
             QString error;
             const SharedProperty terms = variable->getProperty(id);
@@ -72,11 +53,11 @@ Exported ModbusExport::write(const DesignerObject &project)
                                          repeated.isEmpty() ? QString() : u": "_s + repeated.join(u", "_s)));
             }
             for (const auto &[address, source] : map.entries()) {
-                table += CsvText::row(
-                    {variable->getIdName(), QString::fromUtf16(title),
-                     QString::number(address).rightJustified(5, u'0'), QString::number(address - first),
-                     QString::fromUtf16(access), QString::fromUtf16(width), QString::fromUtf16(type),
-                     *width ? u"1"_s : QString(), source.value(), typeName(source.dataType())});
+                table += CsvText::row({variable->getIdName(), QString::fromUtf16(title),
+                                       ModbusMap::addressText(address), QString::number(address - base),
+                                       QString::fromUtf16(access), QString::fromUtf16(width),
+                                       QString::fromUtf16(type), *width ? u"1"_s : QString(), source.value(),
+                                       typeName(source.dataType())});
             }
         }
     }
