@@ -20,7 +20,7 @@ constexpr int bytes = 8;
 constexpr int bitsPerByte = 8;
 constexpr int rowHeight = 16;
 constexpr int firstHue = 210;
-constexpr int goldenAngle = 137; //!< degrees, so that neighbours differ
+constexpr int nextHue = 100; //!< degrees, so that neighbours differ
 
 } // namespace
 
@@ -84,7 +84,7 @@ void CanBitsView::paintEvent(QPaintEvent *)
         if (parts.size() > 1) {
             color = Theme::error(palette());
         } else if (!parts.isEmpty()) {
-            color = QColor::fromHsl((firstHue + parts.first() * goldenAngle) % 360, 110, lightness);
+            color = QColor::fromHsl((firstHue + parts.first() * nextHue) % 360, 110, lightness);
         }
         painter.fillRect(bitRect(bit), color);
         painter.setPen(Theme::line(palette()));
