@@ -5,8 +5,8 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/QmlBinding.h"
 #include "corvex/core/properties/ExpressionProperties.h"
+#include "corvex/values/expressions/ValueCode.h"
 
-#include "elements/Statements.h"
 #include "elements/Validators.h"
 
 #include <QHash>
@@ -25,7 +25,7 @@ constexpr auto suffix = "Binding"_L1;
 QString codeOf(const GeneralDataList &expression, const ExpressionPurpose &purpose)
 {
     const bool isTooLong = purpose.output == GeneralDataInfo::ColorOutput && expression.count() > 1;
-    return isTooLong ? QString() : completeCode(expression, purpose.output, purpose.kind);
+    return isTooLong ? QString() : ValueCode::of(expression, purpose);
 }
 
 //! The property with the expression for the property \a name; null if \a owner has none.
@@ -66,10 +66,10 @@ bool bindingValidator(const DesignerProperty *property, QString &error)
     const auto &typed = static_cast<const GeneralDataListProperty &>(*property);
     const GeneralDataList &expression = typed.value();
     const ExpressionPurpose purpose = typed.purpose();
-    if (acceptExpression(expression, purpose.kind, !codeOf(expression, purpose).isEmpty(), error)) {
+    if (acceptExpression(expression, purpose, !codeOf(expression, purpose).isEmpty(), error)) {
         return true;
     }
-    if (expression.count() > 1 && typed.purpose({}).output == GeneralDataInfo::ColorOutput) {
+    if (expression.count() > 1 && purpose.isColor && ValueCode::misfit(expression, purpose) < 0) {
         error = Common::LocalizationHelper::coreString(
             u"A color is a single term, or a boolean term selects one of two texts, as in "
             "hot ? \"red\" : \"green\"."_s);

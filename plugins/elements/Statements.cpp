@@ -8,6 +8,7 @@
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
 #include "corvex/values/expressions/GeneralDataList.h"
+#include "corvex/values/expressions/ValueCode.h"
 #include "corvex/values/records/ObjectLinkInfo.h"
 #include "corvex/values/text/ObjectPath.h"
 
@@ -70,10 +71,9 @@ QmlBindings handler(const DesignerProperty *property, const QStringList &stateme
     return {name, QmlText::block(statements)};
 }
 
-QmlBindings expressionToQml(const DesignerProperty *property, GeneralDataInfo::OutputType output,
-                            GeneralDataList::InfoType kind)
+QmlBindings expressionToQml(const DesignerProperty *property, const ExpressionPurpose &purpose)
 {
-    const QString code = completeCode(expressionOf(*property), output, kind);
+    const QString code = ValueCode::of(expressionOf(*property), purpose);
     return code.isEmpty() ? QmlBindings() : QmlBindings(property->id(), code);
 }
 
@@ -160,12 +160,12 @@ QmlBindings assignmentsToQml(const DesignerProperty *property)
 
 QmlBindings mathToQml(const DesignerProperty *property)
 {
-    return expressionToQml(property, GeneralDataInfo::NumberOutput, GeneralDataList::MathExpression);
+    return expressionToQml(property, {GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput});
 }
 
 QmlBindings conditionToQml(const DesignerProperty *property)
 {
-    return expressionToQml(property, GeneralDataInfo::RawOutput, GeneralDataList::BoolExpression);
+    return expressionToQml(property, {GeneralDataList::BoolExpression});
 }
 
 QmlBindings termsToQml(const DesignerProperty *property)

@@ -7,6 +7,7 @@
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
 #include "corvex/values/expressions/GeneralDataList.h"
+#include "corvex/values/expressions/ValueCode.h"
 #include "corvex/values/text/PairList.h"
 
 #include "elements/Rows.h"
@@ -66,13 +67,14 @@ bool logicValidator(const DesignerProperty *property, QString &error)
     return true;
 }
 
-bool acceptExpression(const GeneralDataList &expression, GeneralDataList::InfoType kind, bool hasCode,
+bool acceptExpression(const GeneralDataList &expression, const ExpressionPurpose &purpose, bool hasCode,
                       QString &error)
 {
     if (expression.isEmpty() || hasCode) {
         return true;
     }
-    const QString obstacle = expression.obstacle(kind);
+    const QString obstacle = ValueCode::misfit(expression, purpose) < 0 ? expression.obstacle(purpose.kind)
+                                                                        : ValueCode::explanation(purpose);
     error = obstacle.isEmpty() ? translated("The terms of the expression do not fit together.") : obstacle;
     return false;
 }
@@ -81,8 +83,8 @@ template<GeneralDataList::InfoType kind>
 bool codeValidator(const DesignerProperty *property, QString &error)
 {
     const GeneralDataList &expression = expressionOf(*property);
-    const QString code = completeCode(expression, GeneralDataInfo::RawOutput, kind);
-    return acceptExpression(expression, kind, !code.isEmpty(), error);
+    constexpr ExpressionPurpose purpose{kind};
+    return acceptExpression(expression, purpose, !ValueCode::of(expression, purpose).isEmpty(), error);
 }
 
 template bool codeValidator<GeneralDataList::AssignExpression>(const DesignerProperty *, QString &);

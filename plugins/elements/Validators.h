@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "corvex/values/expressions/GeneralDataList.h"
+#include "corvex/values/expressions/ExpressionPurpose.h"
 
 #include <QString>
 
@@ -15,9 +15,8 @@ namespace Halvane::Corvex::Elements {
 bool linkTargetValidator(const Designer::DesignerProperty *property, QString &error);
 //! The rules of a logic builder: all conditions and assignments must be translatable expressions.
 bool logicValidator(const Designer::DesignerProperty *property, QString &error);
-//! Accepts an expression that is empty or has code. Otherwise \a error gives the reason, for an expression of
-//! that kind.
-bool acceptExpression(const Designer::GeneralDataList &expression, Designer::GeneralDataList::InfoType kind,
+//! Accepts an expression that is empty or has code. Otherwise \a error gives the reason.
+bool acceptExpression(const Designer::GeneralDataList &expression, const Designer::ExpressionPurpose &purpose,
                       bool hasCode, QString &error);
 //! A condition, a number or assignments that can be translated.
 template<Designer::GeneralDataList::InfoType kind>

@@ -79,6 +79,25 @@ TEST(ExpressionTextTest, ReadsWhatPeopleWriteAndPrintsItBack)
         {List::GeneralExpression, Info::RawOutput, u"", u"", nullptr},
         {List::AssignExpression, Info::RawOutput, u"lamp.color = #80FF0000; level = -26",
          u"<0308lamp.color><020880FF0000><0406level><0204-1A>", nullptr},
+        {List::MathExpression, Info::NumberOutput, u"010 + level xor -007",
+         u"<0204A><0101+><0406level><0101^><0204-7>", u"10 + level xor -7"},
+        // In a text, "+" would join the numbers.
+        {List::StringExpression, Info::StringOutput, u"concat(title, level * 1.8 + 32, \"x\" + level + 1)",
+         u"<0502concat><0407title><0101,><0406level><0101*><02051.8><0101-><0204-20><0101,><0207eA==><0101+>"
+         "<0406level><0101+><02041><0101)>",
+         u"concat(title, level * 1.8 - -32, \"x\" + level + 1)"},
+        {List::StringExpression, Info::StringOutput,
+         u"(level + 0) * 2 + -level + (alarm ? 1 : 2) + length(title) + (title) + 3",
+         u"<0101(><0406level><0101-><02040><0101)><0101*><02042><0101-><0406level><0101-><0101-><0101(>"
+         "<0403alarm><0101?><02041><0101:><02042><0101)><0101-><0101-><0502length><0407title><0101)><0101+>"
+         "<0101(><0407title><0101)><0101+><02043>",
+         u"(level - 0) * 2 - level - -(alarm ? 1 : 2) - -length(title) + (title) + 3"},
+        {List::StringExpression, Info::StringOutput, u"level + (alarm ? \"on\" : 1)",
+         u"<0406level><0101+><0101(><0403alarm><0101?><0207b24=><0101:><02041><0101)>", nullptr},
+        {List::BoolExpression, Info::RawOutput, u"lamp.color == #1D3040 or #80FF0000 != lamp.color",
+         u"<0308lamp.color><0101==><0207IzFkMzA0MA==><0101||><0207IzgwZmYwMDAw><0101!=><0308lamp.color>",
+         u"lamp.color == \"#1d3040\" or \"#80ff0000\" != lamp.color"},
+        {List::BoolExpression, Info::RawOutput, u"1", u"02041", nullptr},
         {List::MathExpression, Info::NumberOutput, u"gone::number + 'a b'::log",
          u"<0406gone><0101+><040Aa b>", nullptr},
     };
@@ -134,6 +153,9 @@ TEST(ExpressionTextTest, ErrorsHaveAPlaceAndAReason)
         {u"random(2)", 7, "no arguments"},
         {u"trim(title)", 0, "cannot be used"},
         {u"level > 2 and !alarm", 14, "Write \"not\""},
+        {u"0 < level < 100", 10, "0 < level and level < 100"},
+        {u"0 == level == 100", 11, "two values"},
+        {u"level ^ 2", 6, "pow(x, y)"},
         {u"level <> 2", 6, "Write \"!=\""},
         {u"level\u00d72", 5, "Write \"*\""},
     };

@@ -113,6 +113,10 @@ constexpr ProblemKind kinds[] = {
      "\"%1\" needs a log variable as its first argument, but has something else here.",
      "The first argument of a log function is not a log variable.",
      "Use a log variable of the project as the first argument."},
+    {ProblemCode::ExpressionColor, Warning, "expression.color", "The color \"%1\" never equals \"%2\".",
+     "A color of an element is compared with something else than a text such as \"#1d3040\". In a comparison "
+     "with \"==\", the color becomes such a text; \"===\" never finds it equal.",
+     "Use \"==\" and a text with lower-case letters, or compare the value that decides the color."},
     {ProblemCode::NumberUnreadable, Error, "number.unreadable",
      "\"%1\" is not a number that the device supports.",
      "A number variable contains a text. The device gets no value for it.",
@@ -125,6 +129,11 @@ constexpr ProblemKind kinds[] = {
     {ProblemCode::StateProperty, Error, "state.property", "\"%1\" has no property \"%2\".",
      "A state or an action sets a property that the element does not have.",
      "Correct the property; \"corvex tree\" lists those of an element."},
+    {ProblemCode::StateIgnored, Warning, "state.ignored", "The device does not set \"%1\" of \"%2\" here.",
+     "A state or an action sets an expression, a handler or another property that the device cannot change. "
+     "The "
+     "build leaves it out.",
+     "Set the plain property instead, such as \"text\" instead of \"textBinding\"."},
     {ProblemCode::StateValue, Error, "state.value",
      "\"%1\" is not a valid value for the property \"%2\" of \"%3\".",
      "A state or an action sets a value that is not valid for the property.", "Set a valid value."},

@@ -121,7 +121,8 @@ TEST(CheckVerb, ChecksReferencesBetweenParts)
                                      "propertyValues: propName%3A hue%3B propValue%3A red%3B; | "
                                      "name: box1; propertyValues: propName%3A opacity%3B "
                                      "propValue%3A 0%3B; | name: box1; propertyValues: "
-                                     "propName%3A radius%3B propValue%3A -4%3B;"))
+                                     "propName%3A radius%3B propValue%3A -4%3B; | name: box1; "
+                                     "propertyValues: propName%3A xBinding%3B propValue%3A 0406speed%3B;"))
             + Sandbox::object("CheckButton", "check",
                               toBox + Sandbox::value("variable", link("BooleanVariable", "speed", "Project")))
             + Sandbox::object("Action", "action",
@@ -142,6 +143,7 @@ TEST(CheckVerb, ChecksReferencesBetweenParts)
         u"Main.button: pressedState: \"box1\" has no property \"hue\"."_s,
         u"Main.button: pressedState: warning: \"-4\" is out of range for \"radius\" of \"box1\", which "
         "takes numbers of at least 0."_s,
+        u"Main.button: pressedState: warning: The device does not set \"xBinding\" of \"box1\" here."_s,
         u"Main.value: textBinding: Cannot find \"gone\" in the project."_s,
         u"Main.element: xBinding: Cannot find element \"box1.box2\" in the screen."_s,
         u"Main.screen: xBinding: Cannot find element \"Main.away\" in the screen."_s,
@@ -236,7 +238,11 @@ TEST(CheckVerb, ChecksTheDeviceAndTheFieldbuses)
                                   + Sandbox::value("yBinding", "<0502getLogMax><0406speed><0101)>")
                                   + Sandbox::value("rotationBinding", "<0502getValueAt><0101)>"))
             + Sandbox::object("Text", "compared",
-                              Sandbox::value("visibleBinding", "<0101(><0407word><0101)><0101==><0207YQ==>")),
+                              Sandbox::value("visibleBinding", "<0101(><0407word><0101)><0101==><0207YQ==>"))
+            + Sandbox::object("Text", "dyed",
+                              Sandbox::value("visibleBinding", "<0308box1.color><0101==><0208FF1D3040>"))
+            + Sandbox::object("Text", "dyedWell",
+                              Sandbox::value("visibleBinding", "<0308box1.color><0101==><0207IzFkMzA0MA==>")),
         variable("NumberVariable", "speed", "value", "1") + variable("StringVariable", "word", "value", "a")
             + variable("LogVariable", "history", "interval", "100")
             + variable("BACnetDevice", "panel", "bacnetType", "BACnetIP")
@@ -272,6 +278,7 @@ warning expression.fieldbus Main.shown.xBinding
 warning expression.log Main.shown.yBinding
 warning expression.arguments Main.shown.rotationBinding
 warning expression.condition Main.shown.visibleBinding
+warning expression.color Main.dyed.visibleBinding
 warning log.unfed history.)"_s);
     EXPECT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 1);
 

@@ -86,6 +86,16 @@ TEST_F(PreviewVerb, ReportsExpectedAndActualValues)
 TEST_F(PreviewVerb, InspectsTheScreensForCheck)
 {
     EXPECT_EQ(sandbox.run({u"check"_s, pump, u"--screens"_s}).code, 0);
+
+    // Constants are converted to the type of their property, which QML does not do.
+    sandbox.write(u"edits"_s, "set Main.title.visibleBinding = 1\nset Main.title.colorBinding = \"red\"\n"
+                              "add Text Main seen\nset Main.seen.visibleBinding = title.color == #FF0000\n"
+                              "set Main.title.textBinding = concat(\"T \", speed * 1.8 + 32)\n");
+    EXPECT_EQ(sandbox.run({u"edit"_s, pump, u"edits"_s}).code, 0);
+    EXPECT_EQ(sandbox.run({u"check"_s, pump, u"--screens"_s}).code, 0);
+    sandbox.write(u"script"_s, "expect Main.seen.visible true\nexpect Main.title.text \"T 44.6\"\n");
+    EXPECT_EQ(preview(pump, {u"--script"_s, u"script"_s}).out, QString());
+
     sandbox.write(pump, sandbox.read(pump).replace("0406speed", "0406none"));
     const ProgramRun check = sandbox.run({u"check"_s, pump, u"--screens"_s});
     EXPECT_EQ(check.out, u"Main.title: textBinding: Cannot find \"none\" in the project.\n"

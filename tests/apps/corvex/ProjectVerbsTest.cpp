@@ -148,7 +148,7 @@ TEST(UsesVerb, ShowsWhereAThingIsUsed)
     };
     sandbox.makeProject(
         Sandbox::object("Text", "title",
-                        Sandbox::value("textBinding", "<0406speed><0101+><0406speed>")
+                        Sandbox::value("textBinding", "<0406speed><0101*><0406speed>")
                             + Sandbox::value("xBinding", "0306Main.box.x")
                             + Sandbox::value("yBinding", "0306gone.y"))
             + Sandbox::object("Rectangle", "box", Sandbox::value("xBinding", "0406speedy"))
@@ -165,8 +165,8 @@ TEST(UsesVerb, ShowsWhereAThingIsUsed)
         {{u"gone"_s}, u"Main.title.yBinding: gone\n"_s},
         {{u"Pump.Main.press"_s}, QString()},
         {{u"press"_s}, QString()},
-        {{u"speed"_s, u"--values"_s}, u"Main.title.textBinding: speed + speed\n"_s},
-        {{u"speed"_s, u"--raw"_s}, u"Main.title.textBinding: <0406speed><0101+><0406speed>\n"_s},
+        {{u"speed"_s, u"--values"_s}, u"Main.title.textBinding: speed * speed\n"_s},
+        {{u"speed"_s, u"--raw"_s}, u"Main.title.textBinding: <0406speed><0101*><0406speed>\n"_s},
         {{u"gone"_s, u"--json"_s},
          u"{\n  \"uses\": [\n    {\n      \"property\": \"Main.title.yBinding\",\n      \"text\": "
          "\"gone\",\n      \"value\": \"0306gone.y\",\n      \"readable\": \"gone.y::number\"\n"

@@ -25,10 +25,10 @@ constexpr EditorPurpose editorPurposes[] = {
     {"PropertyChangesEditor"_L1, {Kinds::AssignExpression, Outputs::RawOutput}},
 };
 
-constexpr ExpressionPurpose color{Kinds::GeneralExpression, Outputs::ColorOutput};
+constexpr ExpressionPurpose color{Kinds::GeneralExpression, Outputs::ColorOutput, false, true};
 //! A color is a single term, converted to a color. In any other expression all terms would become colors: a
 //! condition, for example, would be a color and always true. Only texts that name colors can be selected.
-constexpr ExpressionPurpose colorSelection{Kinds::StringExpression, Outputs::RawOutput};
+constexpr ExpressionPurpose colorSelection{Kinds::StringExpression, Outputs::RawOutput, false, true};
 constexpr ExpressionPurpose termList{Kinds::GeneralExpression, Outputs::RawOutput, true};
 
 bool isSelection(const GeneralDataList &terms)

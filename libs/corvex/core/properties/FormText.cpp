@@ -31,7 +31,7 @@ QString of(const QColor &)
 
 QString of(const QFont &)
 {
-    return LocalizationHelper::coreString(u"a font such as bold 24px \"DejaVu Sans\""_s);
+    return LocalizationHelper::coreString(u"a font with a whole size, such as bold 24px \"DejaVu Sans\""_s);
 }
 
 QString of(const QPointF &)

@@ -16,6 +16,7 @@
 #include "corvex/project/ProjectNames.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
+#include "corvex/project/elements/StateTarget.h"
 #include "corvex/values/text/ReadableText.h"
 
 #include <algorithm>
@@ -135,6 +136,15 @@ void leaveScreen(const Place &place, SettingText &setting)
     }
 }
 
+QString unsettable(const DesignerProperty &target)
+{
+    const SharedProperty plain = StateTarget::replacedBy(target);
+    const QString advice =
+        plain ? LocalizationHelper::coreString(u" They can set \"%1\"."_s).arg(plain->id()) : QString();
+    return LocalizationHelper::coreString(u"States and actions cannot set \"%1\"."_s).arg(target.id())
+           + advice;
+}
+
 //! The settings, each with the stored form of its value.
 std::optional<QList<SettingText>> readSettings(const Place &place, const QString &text, QString &error)
 {
@@ -150,6 +160,10 @@ std::optional<QList<SettingText>> readSettings(const Place &place, const QString
         if (!target) {
             const QString path = setting.element + u'.' + setting.property;
             error = Suggestion::unknown(u"property"_s, path, place.names().candidates(path), {});
+            return {};
+        }
+        if (!StateTarget::canBeSet(*target) || target == target->parentObject()->idProperty()) {
+            error = unsettable(*target);
             return {};
         }
         const Reading value = ReadableValue::read(*target, setting.value);
@@ -346,18 +360,13 @@ const ReadableForm *formOf(const DesignerProperty &property)
     return form == std::end(forms) ? nullptr : form;
 }
 
-//! Removes the quotes around the whole text. In an expression they make a text, unless they contain a stored
-//! expression.
+//! Removes the quotes around the whole text, except in an expression, where they make a text.
 bool removeQuotes(const DesignerProperty &property, QString &text, QString &error)
 {
-    const QString inside = ReadableText::unquoted(text, error);
-    const bool isExpression = propertyCast<GeneralDataListProperty>(&property);
-    if (!isExpression || (inside != text && ExpressionText::isStored(inside))) {
-        text = inside;
-        return error.isEmpty();
+    if (!propertyCast<GeneralDataListProperty>(&property)) {
+        text = ReadableText::unquoted(text, error);
     }
-    error.clear();
-    return true;
+    return error.isEmpty();
 }
 
 Reading readUnquoted(const Place &place, const QString &text)

@@ -11,6 +11,7 @@ struct ExpressionPurpose
     GeneralDataList::InfoType kind = GeneralDataList::GeneralExpression;
     GeneralDataInfo::OutputType output = GeneralDataInfo::RawOutput;
     bool isTermList = false; //!< the terms are values of their own, such as the data that a trigger observes
+    bool isColor = false;    //!< the value is a color
 
     bool isAssignment() const { return kind == GeneralDataList::AssignExpression; }
     //! Whether a sign, which is no term, is between any two terms.

@@ -3,6 +3,8 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/values/expressions/ExpressionGrammar.h"
+#include "corvex/values/expressions/ValueCode.h"
+#include "corvex/values/private/ExpressionMeaning.h"
 #include "corvex/values/private/ExpressionPrinter.h"
 #include "corvex/values/private/ExpressionReader.h"
 #include "corvex/values/private/ExpressionWords.h"
@@ -44,6 +46,12 @@ bool isBooleanName(const Info &term)
            && term.dataType() == Info::BooleanData;
 }
 
+bool hasCalls(const ExpressionPurpose &purpose)
+{
+    return purpose.kind == GeneralDataList::MathExpression
+           || purpose.kind == GeneralDataList::StringExpression;
+}
+
 //! Why the terms have no code, with the place of the reason.
 ExpressionText::Error obstacle(const ExpressionReader &reader, const ExpressionPurpose &purpose)
 {
@@ -57,6 +65,10 @@ ExpressionText::Error obstacle(const ExpressionReader &reader, const ExpressionP
             return at(i, u"This cannot be used in this expression."_s);
         }
     }
+    if (const qsizetype misfit = ValueCode::misfit(terms, purpose); misfit >= 0) {
+        const auto [position, length] = reader.placeOf(misfit);
+        return {position, length, ValueCode::explanation(purpose), {}};
+    }
     if (purpose.isAssignment()) {
         return terms.count() % 2 == 0 ? at(0, u"The values cannot be converted to those of their targets."_s)
                                       : at(terms.count(), u"The last assignment has no value."_s);
@@ -65,6 +77,12 @@ ExpressionText::Error obstacle(const ExpressionReader &reader, const ExpressionP
                                                                   QList<Info>(terms.begin(), terms.end()));
     if (misplaced == terms.count()) {
         return at(misplaced, u"The expression is incomplete."_s);
+    }
+    if (misplaced >= 0 && terms.at(misplaced).valueType() == Info::FunctionValue && !hasCalls(purpose)) {
+        return at(misplaced, purpose.isColor
+                                 ? u"Functions cannot give a color. Write a color, a name, or a boolean name "
+                                   "that selects one of two texts, as in hot ? \"red\" : \"green\"."_s
+                                 : u"Functions cannot be called here."_s);
     }
     if (misplaced >= 0) {
         const bool isOperator = terms.at(misplaced).valueType() == Info::OperatorValue;
@@ -101,7 +119,11 @@ ExpressionText::Error obstacle(const ExpressionReader &reader, const ExpressionP
 
 bool ExpressionText::isStored(const QString &text)
 {
-    return text.startsWith(u'<') || (text.size() > 1 && text.front() == u'0' && text[1].isDigit());
+    const auto isType = [&text](qsizetype place) {
+        return text.at(place) == u'0'
+               && ExpressionRules::isHexadecimal(QStringView(text).sliced(place + 1, 1));
+    };
+    return text.startsWith(u'<') || (text.size() > 3 && isType(0) && isType(2));
 }
 
 ExpressionText::Reading ExpressionText::read(const QString &text, const ExpressionPurpose &purpose,
@@ -110,11 +132,15 @@ ExpressionText::Reading ExpressionText::read(const QString &text, const Expressi
     ExpressionReader reader(text, purpose, names);
     reader.read();
     const GeneralDataList &terms = reader.terms();
-    const bool hasCode =
-        terms.isEmpty() || purpose.isTermList
-        || (terms.isComplete(purpose.kind) && !terms.toQmlString(purpose.output, purpose.kind).isEmpty());
+    const bool hasCode = terms.isEmpty() || purpose.isTermList || !ValueCode::of(terms, purpose).isEmpty();
     if (!reader.error() && !hasCode) {
         return {terms, obstacle(reader, purpose)};
+    }
+    const qsizetype chained = reader.error() ? -1 : ExpressionMeaning::chained(terms);
+    if (chained >= 0) {
+        const auto [position, length] = reader.placeOf(chained);
+        const QString advice = u"Compare two values at a time, as in \"0 < level and level < 100\"."_s;
+        return {terms, Error{position, length, LocalizationHelper::coreString(advice), {}}};
     }
     return {terms, reader.error()};
 }

@@ -23,6 +23,8 @@ public:
 /*! Expressions as people write them: `level > 10 and pump.visible`, `concat("Level ", level)`.
 
     - Operators are those of the terms; `and`, `or` and `not` can replace `&&`, `||` and `== false`.
+    - In a text, `+` joins texts, and adds two numbers: `a + b` is then stored as `a - -b`. `xor` is the
+      exclusive or.
     - Constants: `12`, `2.5`, `true`, `"text"`, `#C62828`, `PI`. A whole number of the type float is `12f`,
       one of the type number `12n`. Hexadecimal data are `0x1A2B`.
     - Names stand for themselves. A name that is a word of the language or has other characters than letters,
@@ -65,7 +67,7 @@ public:
     //! Null if a part has no readable form.
     static QString printRules(const PairList &rules, const ExpressionNames &names);
 
-    //! Whether the text is meant as the stored form: it begins with "<", or with "0" and another digit.
+    //! Whether the text is meant as the stored form: it begins with "<", or with two numbers of types.
     static bool isStored(const QString &text);
 };
 

@@ -26,9 +26,18 @@ constexpr struct
 {
     QStringView sign;
     QLatin1StringView replacement;
-} foreignSigns[] = {{u"<>", "!="_L1},    {u"=>", ">="_L1},     {u"=<", "<="_L1},     {u"**", "pow(x, y)"_L1},
-                    {u"!", "not"_L1},    {u"\u2260", "!="_L1}, {u"\u2265", ">="_L1}, {u"\u2264", "<="_L1},
-                    {u"\u00d7", "*"_L1}, {u"\u00f7", "/"_L1},  {u"\u2212", "-"_L1}};
+} foreignSigns[] = {{u"<>", "!="_L1},
+                    {u"=>", ">="_L1},
+                    {u"=<", "<="_L1},
+                    {u"**", "pow(x, y)"_L1},
+                    {u"^", "pow(x, y)\" or \"xor"_L1},
+                    {u"!", "not"_L1},
+                    {u"\u2260", "!="_L1},
+                    {u"\u2265", ">="_L1},
+                    {u"\u2264", "<="_L1},
+                    {u"\u00d7", "*"_L1},
+                    {u"\u00f7", "/"_L1},
+                    {u"\u2212", "-"_L1}};
 
 bool beginsName(QChar c)
 {
@@ -57,6 +66,7 @@ const QStringList &signs()
         QStringList all = ExpressionVocabulary::mathOperators() + ExpressionVocabulary::booleanOperators();
         all += {u"="_s, u";"_s};
         all.removeDuplicates();
+        all.removeOne(u"^"_s); // it has a word, as most people read it as a power
         std::ranges::stable_sort(all, std::greater(), &QString::size);
         return all;
     }();

@@ -2,6 +2,7 @@
 #include "corvex/values/private/ExpressionReader.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/values/private/ExpressionMeaning.h"
 #include "corvex/values/private/ExpressionWords.h"
 
 using namespace Qt::StringLiterals;
@@ -23,6 +24,16 @@ Info::ValueType valueTypeOf(const QString &path)
 const QString formOfSources =
     u"Only a single value or name can be assigned, no expression. Rules such as \"when x do y = true\" can "
     "choose what to assign."_s;
+
+QString withoutLeadingZeros(QString number)
+{
+    const qsizetype first = number.startsWith(u'-') ? 1 : 0;
+    qsizetype end = first;
+    while (end + 1 < number.size() && number.at(end) == u'0' && number.at(end + 1).isDigit()) {
+        ++end;
+    }
+    return number.remove(first, end - first);
+}
 
 } // namespace
 
@@ -61,12 +72,63 @@ void ExpressionReader::read()
             if (m_negates) {
                 fail(token, u"A value is missing after \"not\"."_s);
             }
+            adaptToMeaning();
             return;
         }
         if (!take(token)) {
             return;
         }
     }
+}
+
+void ExpressionReader::adaptToMeaning()
+{
+    if (m_error || !m_terms.isComplete(m_purpose.kind)) {
+        return;
+    }
+    if (m_purpose.kind == GeneralDataList::BoolExpression) {
+        ExpressionMeaning::compareColors(m_terms);
+    } else if (m_purpose.kind == GeneralDataList::StringExpression) {
+        addNumbers();
+    }
+}
+
+//! In an expression for a text, "a + b" becomes "a - -b", which converts both to numbers.
+void ExpressionReader::addNumbers()
+{
+    const QList<qsizetype> sums = ExpressionMeaning::sums(m_terms);
+    if (sums.isEmpty()) {
+        return;
+    }
+    GeneralDataList terms;
+    QList<std::pair<qsizetype, qsizetype>> places;
+    auto sum = sums.cbegin();
+    bool isSubtracted = false;
+    const auto addTerm = [&](const Info &term, qsizetype i) {
+        terms.append(term);
+        places.append(m_places.at(i));
+    };
+    const Info minus(Info::OperatorValue, Info::OperatorData, u"-"_s);
+    for (qsizetype i = 0; i < m_terms.count(); ++i) {
+        Info term = m_terms.at(i);
+        const QString value = term.value();
+        const bool isNumber = term.valueType() == Info::ConstantValue && !value.front().isLetter();
+        if (std::exchange(isSubtracted, false)) {
+            if (ExpressionGrammar::isOperator(term, u'-')) {
+                continue; // "a + -b" is "a - b"
+            }
+            if (!isNumber) {
+                addTerm(minus, i);
+            } else if (value != u'0') {
+                term.setValue(value.startsWith(u'-') ? value.sliced(1) : u'-' + value);
+            }
+        }
+        isSubtracted = sum != sums.cend() && *sum == i;
+        addTerm(isSubtracted ? minus : term, i);
+        sum += isSubtracted ? 1 : 0;
+    }
+    m_terms = terms;
+    m_places = places;
 }
 
 bool ExpressionReader::take(const Token &token)
@@ -86,9 +148,10 @@ bool ExpressionReader::take(const Token &token)
         return addConstant(token, Info::StringData);
     case Token::Number: {
         bool isInteger = false;
-        const qlonglong number = token.text.toLongLong(&isInteger);
-        isInteger = isInteger && QString::number(number) == token.text;
-        return addConstant(token, isInteger ? Info::IntegerData : Info::FloatData);
+        const QString digits = withoutLeadingZeros(token.text);
+        const qlonglong number = digits.toLongLong(&isInteger);
+        isInteger = isInteger && QString::number(number) == digits;
+        return add(token, Info::ConstantValue, isInteger ? Info::IntegerData : Info::FloatData, digits);
     }
     case Token::Float:
         return addConstant(token, Info::FloatData);

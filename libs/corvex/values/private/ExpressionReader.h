@@ -39,6 +39,8 @@ private:
     bool beginNegation(const ExpressionToken &token);
     bool endNegation(const ExpressionToken &token);
     bool takeSeparator(const ExpressionToken &token);
+    void adaptToMeaning();
+    void addNumbers();
     QString formOfSeparators() const;
     bool add(const ExpressionToken &token, GeneralDataInfo::ValueType valueType,
              GeneralDataInfo::DataType dataType, const QString &value);

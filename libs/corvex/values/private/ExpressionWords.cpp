@@ -19,6 +19,7 @@ using Vocabulary = ExpressionVocabulary;
 constexpr ExpressionWords::Word keywords[] = {
     {"and"_L1, Info::OperatorValue, Info::OperatorData, "&&"_L1},
     {"or"_L1, Info::OperatorValue, Info::OperatorData, "||"_L1},
+    {"xor"_L1, Info::OperatorValue, Info::OperatorData, "^"_L1},
     {"true"_L1, Info::ConstantValue, Info::BooleanData, "true"_L1},
     {"false"_L1, Info::ConstantValue, Info::BooleanData, "false"_L1},
     {"NaN"_L1, Info::ConstantValue, Info::FloatData, "NaN"_L1},

@@ -78,10 +78,10 @@ bool readFontSize(QStringView word, QFont &font)
         font.setPixelSize(std::max(pixels, 1));
         return isNumber && pixels > 0;
     }
-    const double points = Conversion::toReal(digits, &isNumber);
+    const int points = digits.toInt(&isNumber); // stored without fractions
     const bool isSize = word.endsWith("pt"_L1) && isNumber && points > 0;
     if (isSize) {
-        font.setPointSizeF(points);
+        font.setPointSize(points);
     }
     return isSize;
 }
@@ -182,8 +182,8 @@ QString ReadableText::fromFont(const QString &stored)
     }
     if (font.pixelSize() > 0) {
         words.append(u"%1px"_s.arg(font.pixelSize()));
-    } else if (font.pointSizeF() > 0) {
-        words.append(Conversion::toString(font.pointSizeF()) + u"pt"_s);
+    } else if (font.pointSize() > 0) {
+        words.append(u"%1pt"_s.arg(font.pointSize()));
     }
     words.append(quoted(font.family()));
     const QString text = words.join(u' ');

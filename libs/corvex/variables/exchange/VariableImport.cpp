@@ -5,6 +5,7 @@
 #include "corvex/core/properties/BasicProperties.h"
 #include "corvex/variables/NumberVariable.h"
 
+#include <QLocale>
 #include <QRegularExpression>
 #include <QStringDecoder>
 
@@ -177,9 +178,14 @@ SharedProperty VariableImport::propertyOf(const DesignerObject &variable, qsizet
 QString VariableImport::textOf(const DesignerObject &variable, const SharedProperty &property,
                                const QString &field, QString &error) const
 {
-    static const QRegularExpression commaNumber(u"^[+-]?[0-9]*,[0-9]+$"_s);
+    static const QRegularExpression commaNumber(u"^[+-]?[0-9]*,[0-9]+([eE][+-]?[0-9]+)?$"_s);
+    static const QRegularExpression wholeWithExponent(u"^[+-]?[0-9]+[eE][+-]?[0-9]+$"_s);
     const bool isNumber = (property->id() == "value"_L1 && NumberVariable::holdsNumber(variable))
                           || dynamic_cast<const RealProperty *>(property.data());
+    if (isNumber && wholeWithExponent.match(field).hasMatch()) {
+        // Without a point, a variable takes only digits.
+        return QString::number(field.toDouble(), 'f', QLocale::FloatingPointShortest);
+    }
     if (m_separator != u',' && isNumber && commaNumber.match(field).hasMatch()) {
         return QString(field).replace(u',', u'.');
     }

@@ -6,6 +6,7 @@
 #include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/editing/references/ReferenceForm.h"
 #include "corvex/project/Project.h"
+#include "corvex/values/expressions/ValueCode.h"
 #include "corvex/values/text/PairList.h"
 #include "corvex/values/text/ValueConversion.h"
 
@@ -54,6 +55,17 @@ bool isAlone(Iterator term, Iterator end, QLatin1StringView parenthesis)
         return !isOperator(other) || other.value() != parenthesis;
     });
     return next == end || (isOperator(*next) && (next->value() == "&&"_L1 || next->value() == "||"_L1));
+}
+
+//! Whether a color of an element can equal the value.
+bool canEqualColor(const GeneralDataInfo &other, ValueType type)
+{
+    bool isName = false;
+    const QColor color = ValueConversion::toColor(other.value(), &isName);
+    return (type != ValueType::Color && type != ValueType::Text)
+           || (other.valueType() == GeneralDataInfo::ConstantValue && type == ValueType::Text && isName
+               && ValueCode::comparable(color) == other.value())
+           || other.valueType() == GeneralDataInfo::ObjectValue;
 }
 
 } // namespace
@@ -141,12 +153,37 @@ void ExpressionCheck::lookAtAssignments(const DesignerProperty &property, const 
 
 void ExpressionCheck::lookAtCondition(const DesignerProperty &property, const GeneralDataList &terms)
 {
+    lookAtColors(property, terms);
     const QList<GeneralDataInfo> list = terms.toList();
     for (auto term = list.cbegin(); term != list.cend(); ++term) {
         const ValueType type = valueTypeOf(*term, m_project);
         if ((type == ValueType::Text || type == ValueType::Color) && isAlone(term + 1, list.cend(), ")"_L1)
             && isAlone(std::make_reverse_iterator(term), list.crend(), "("_L1)) {
             report(property, ProblemCode::ExpressionCondition, {term->value(), valueTypeName(type)});
+        }
+    }
+}
+
+//! Looks for comparisons of a color of an element that are never true.
+void ExpressionCheck::lookAtColors(const DesignerProperty &property, const GeneralDataList &terms)
+{
+    static const QStringList equalities{u"=="_s, u"==="_s, u"!="_s, u"!=="_s};
+    const auto isColor = [this](const GeneralDataInfo &term) {
+        return term.valueType() == GeneralDataInfo::ObjectValue
+               && valueTypeOf(term, m_project) == ValueType::Color;
+    };
+    for (qsizetype i = 1; i + 1 < terms.count(); ++i) {
+        const QString &sign = terms.at(i).value();
+        const bool isFirst = isColor(terms.at(i - 1));
+        if (!isOperator(terms.at(i)) || !equalities.contains(sign)
+            || (!isFirst && !isColor(terms.at(i + 1)))) {
+            continue;
+        }
+        const GeneralDataInfo &color = terms.at(isFirst ? i - 1 : i + 1);
+        const GeneralDataInfo &other = terms.at(isFirst ? i + 1 : i - 1);
+        const bool isStrict = sign.size() > 2 && other.valueType() == GeneralDataInfo::ConstantValue;
+        if (isStrict || !canEqualColor(other, valueTypeOf(other, m_project))) {
+            report(property, ProblemCode::ExpressionColor, {color.value(), other.value()});
         }
     }
 }

@@ -26,6 +26,7 @@ private:
     void lookAtCall(const DesignerProperty &property, const FunctionCall &call);
     void lookAtAssignments(const DesignerProperty &property, const GeneralDataList &terms);
     void lookAtCondition(const DesignerProperty &property, const GeneralDataList &terms);
+    void lookAtColors(const DesignerProperty &property, const GeneralDataList &terms);
 
     const Project &m_project;
 };

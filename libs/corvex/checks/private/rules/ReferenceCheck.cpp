@@ -6,6 +6,7 @@
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
+#include "corvex/project/elements/StateTarget.h"
 #include "corvex/values/text/ObjectPath.h"
 
 #include <QSet>
@@ -136,6 +137,8 @@ void ReferenceCheck::checkSetting(const DesignerProperty &property, const StateS
     // The name of an element cannot change at run time.
     if (!target || target == model->idProperty()) {
         report(property, ProblemCode::StateProperty, {elementName, id});
+    } else if (!StateTarget::canBeSet(*target)) {
+        report(property, ProblemCode::StateIgnored, {id, elementName});
     } else if (!target->canRead(value)) {
         report(property, ProblemCode::StateValue, {value, id, elementName});
     } else if (const NumberRange range = StateSetting::rangeOf(*target); !range.contains(numberOf(value))) {

@@ -25,10 +25,10 @@ std::optional<SettingText> takeSetting(QStringView text, qsizetype &place)
     setting.element = path.chopped(std::min(path.size(), setting.property.size() + 1));
     qsizetype end = colon + 1;
     while (end < text.size() && text[end] != u';') {
-        // A quote behind a word ("5\" pipe"), or one that is not closed, is a part of the value.
+        // A quote directly after a letter or digit (5" pipe), or one that is not closed, is a part of the
+        // value.
         qsizetype behind = end;
-        const bool isText = text[end] == u'"'
-                            && !text.sliced(colon, end - colon).trimmed().back().isLetterOrNumber()
+        const bool isText = text[end] == u'"' && !text[end - 1].isLetterOrNumber()
                             && !ReadableText::takeQuoted(text, behind).isNull();
         end = isText ? behind : end + 1;
     }
