@@ -40,7 +40,10 @@ void drawWell(PanelScreen &screen)
     screen.closeGroup();
     screen.closeGroup();
     screen.text("levelText", {32, 392, 224, 48}, "Well 62.5 %", large)
-        .bind("textBinding", "concat('Well ', subString(wellLevel, 0, 4), ' %')");
+        .bind("textBinding", "wellLevel")
+        .set("decimals", u"1"_s)
+        .set("prefix", u"Well "_s)
+        .set("suffix", u" %"_s);
 }
 
 //! The text for a pump, with its number for "#".
@@ -75,9 +78,14 @@ void drawDischarge(PanelScreen &screen)
         .set("transformOrigin", u"Bottom"_s)
         .bind("rotationBinding", "max(-120, min(120, pressure * 24 - 120))");
     screen.text("pressureText", {568, 288, 176, 40}, "4.25 bar", large)
-        .bind("textBinding", "concat(subString(pressure, 0, 4), ' bar')");
+        .bind("textBinding", "pressure")
+        .set("decimals", u"2"_s)
+        .set("suffix", u" bar"_s);
     screen.text("flowText", {552, 344, 208, 32}, "Flow 132.5 m\u00b3/h", centered)
-        .bind("textBinding", "concat('Flow ', subString(flow, 0, 5), ' m\u00b3/h')");
+        .bind("textBinding", "flow")
+        .set("decimals", u"1"_s)
+        .set("prefix", u"Flow "_s)
+        .set("suffix", u" m\u00b3/h"_s);
 }
 
 //! The channels of the device. Inputs only count while they deliver a signal: 0 is a broken wire.

@@ -126,9 +126,10 @@ ElementHandle PanelScreen::function(const char *className, const char *name)
 
 ElementHandle PanelScreen::channel(const char *className, const char *name, int number)
 {
-    if (qstrcmp(className, "DigitalInputOutput") == 0) {
-        m_builder.declare(utf8(name) + ".value"_L1, GeneralDataInfo::BooleanData);
-    }
+    const bool isSwitched =
+        qstrcmp(className, "DigitalInputOutput") == 0 || qstrcmp(className, "AlarmOutput") == 0;
+    m_builder.declare(utf8(name) + ".value"_L1,
+                      isSwitched ? GeneralDataInfo::BooleanData : GeneralDataInfo::FloatData);
     return add(className, name).set("channel", QString::number(number));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "elements/visual/Text.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/ColorProperties.h"
@@ -11,6 +12,7 @@
 
 #include "elements/BoundQml.h"
 #include "elements/Rows.h"
+#include "elements/visual/NumberFormat.h"
 
 using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
@@ -25,15 +27,28 @@ QmlBindings alignmentToQml(const DesignerProperty *property)
     return {property->id(), u"Text."_s + property->valueString()};
 }
 
+//! The text, or its expression with the format of numbers.
+QmlBindings textToQml(const DesignerProperty *property)
+{
+    QmlBindings bindings = boundToQml(property);
+    for (QmlBinding &binding : bindings) {
+        if (binding.source && binding.source != property) {
+            binding.code = NumberFormat::of(*property->parentObject()).apply(binding.code);
+        }
+    }
+    return bindings;
+}
+
 } // namespace
 
 bool Text::initializeProperties()
 {
+    static const QString numbers = Common::LocalizationHelper::coreString(u"Numbers"_s);
     static const PropertyTable table{
         row<StringProperty>("text", "Text", QString())
             .rank(2)
             .editor("PlainTextEditor")
-            .qml(&boundToQml)
+            .qml(&textToQml)
             .allowInvalid(),
         bindingRow("textBinding", "Text (Expression)", "VerticalStringExpressionEditor").rank(3),
         row<FontProperty>("font", "Font", QFont(u"DejaVu Sans"_s, 12)).rank(4),
@@ -50,6 +65,34 @@ bool Text::initializeProperties()
             .rank(9)
             .editor("EnumEditor")
             .qml(&alignmentToQml),
+        row<IntegerProperty>("decimals", "Decimals", NumberFormat::allDecimals)
+            .flags(notAtRuntime)
+            .rank(50)
+            .parameter("group", numbers)
+            .parameter("minimum", NumberFormat::allDecimals)
+            .parameter("maximum", NumberFormat::mostDecimals)
+            .description(
+                "The digits after the decimal mark of a number that the expression gives. -1 leaves the "
+                "number as it is."),
+        row<EnumProperty>("thousands", "Thousands Separator",
+                          EnumInfo(QMetaEnum::fromType<Thousands>(), None))
+            .flags(notAtRuntime)
+            .rank(51)
+            .editor("EnumEditor")
+            .parameter("group", numbers)
+            .description("What separates groups of three digits. With a point, the decimal mark is a comma."),
+        row<StringProperty>("prefix", "Prefix", QString())
+            .flags(notAtRuntime)
+            .rank(52)
+            .editor("SingleLineEditor")
+            .parameter("group", numbers)
+            .description("The text before a number that the expression gives."),
+        row<StringProperty>("suffix", "Suffix", QString())
+            .flags(notAtRuntime)
+            .rank(53)
+            .editor("SingleLineEditor")
+            .parameter("group", numbers)
+            .description("The text after a number that the expression gives, such as its unit."),
     };
     return StandardVisual::initializeProperties() && addProperties(table);
 }

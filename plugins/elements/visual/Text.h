@@ -25,6 +25,9 @@ public:
         AlignBottom = Qt::AlignBottom
     };
     Q_ENUM(VerticalAlignment)
+    //! What separates groups of three digits. With a point, the decimal mark is a comma.
+    enum Thousands { None, Comma, Point, Blank, Apostrophe };
+    Q_ENUM(Thousands)
 
     Designer::RuntimePropertyList runtimeProperties() const override;
 

@@ -16,6 +16,7 @@
 #include "support/Model.h"
 #include "support/QmlSyntax.h"
 
+#include <QJSEngine>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -163,6 +164,59 @@ TEST_F(Elements, ExpressionsReplacePlainValues)
     }
     EXPECT_EQ(sources.join(u' '), u"x<xBinding y<position visible<visibleBinding text<textBinding "
                                   "color<colorBinding width<size height<size"_s);
+}
+
+TEST_F(Elements, NumbersOfATextAreFormattedOnTheDevice)
+{
+    DesignerObject *text = add("Text", u"label"_s);
+    set(text, "textBinding", u"0406speed"_s);
+    const struct
+    {
+        int decimals;
+        QString thousands;
+        QString prefix;
+        QString suffix;
+        QString value; //!< of the variable, as JavaScript
+        QString shown;
+    } cases[] = {
+        {1, u"None"_s, {}, u" °C"_s, u"72.25"_s, u"72.3 °C"_s},
+        {1, u"None"_s, u"T "_s, {}, u"-72.25"_s, u"T -72.3"_s},
+        {0, u"None"_s, {}, {}, u"2.5"_s, u"3"_s},
+        {2, u"None"_s, {}, {}, u"-0.004"_s, u"0.00"_s},
+        {3, u"None"_s, {}, {}, u"5"_s, u"5.000"_s},
+        {-1, u"None"_s, {}, u" %1 \"\\%2"_s, u"0.1"_s, u"0.1 %1 \"\\%2"_s},
+        {1, u"Comma"_s, {}, {}, u"1234567.89"_s, u"1,234,567.9"_s},
+        {1, u"Point"_s, {}, {}, u"-123456.75"_s, u"-123.456,8"_s},
+        {-1, u"Blank"_s, {}, {}, u"1234.56789"_s, u"1\u00a0234.56789"_s},
+        {-1, u"Apostrophe"_s, {}, {}, u"1000"_s, u"1'000"_s},
+        {2, u"Comma"_s, {}, {}, u"999"_s, u"999.00"_s},
+        {0, u"Comma"_s, {}, {}, u"1e20"_s, u"100,000,000,000,000,000,000"_s},
+        {2, u"Point"_s, u"~"_s, {}, u"1.5e+300"_s, u"~1,5e+300"_s},
+        {1, u"Comma"_s, u"T "_s, u" °C"_s, u"\"1234.5\""_s, u"1234.5"_s},
+        {1, u"Comma"_s, u"T "_s, u" °C"_s, u"NaN"_s, u"NaN"_s},
+        {1, u"Comma"_s, u"T "_s, u" °C"_s, u"-Infinity"_s, u"-Infinity"_s},
+        {1, u"Comma"_s, u"T "_s, u" °C"_s, u"undefined"_s, u"undefined"_s},
+    };
+    for (const auto &[decimals, thousands, prefix, suffix, value, shown] : cases) {
+        set(text, "decimals", QString::number(decimals));
+        set(text, "thousands", thousands);
+        set(text, "prefix", prefix);
+        set(text, "suffix", suffix);
+        const QString code = line(text, "text").mid(u"text: "_s.size());
+        QJSEngine device;
+        device.evaluate(u"var qmlViewer = {getVariableValue: function(n) { return %1; }}"_s.arg(value));
+        EXPECT_EQ(device.evaluate(code).toString(), shown) << qPrintable(code);
+    }
+    text->changePropertyValue(text->getProperty(u"decimals"_s), u"21"_s);
+    EXPECT_EQ(text->getProperty(u"decimals"_s)->valueString(), u"1"_s) << "a limit of toFixed";
+    EXPECT_EQ(line(text, "suffix"), QString()) << "the device knows no such property";
+
+    // In the preview, as on the device.
+    set(text, "textBinding", u"0306label.x"_s);
+    set(text, "decimals", u"1"_s);
+    const QString qml = screen->toQml(0);
+    EXPECT_EQ(qmlSyntaxErrors(qml), QString()) << qPrintable(qml);
+    EXPECT_EQ(problemsInPreview(qml), QStringList()) << qPrintable(qml);
 }
 
 TEST_F(Elements, StatesAndActionsBecomeAssignmentsToExistingElements)
