@@ -88,6 +88,15 @@ Token ExpressionLexer::wrong(qsizetype begin, const QString &english)
             std::max<qsizetype>(m_place - begin, 1)};
 }
 
+bool ExpressionLexer::isBefore(QStringView sign, bool afterBlanks) const
+{
+    QStringView rest = m_text.sliced(m_place);
+    while (afterBlanks && !rest.isEmpty() && rest.front().isSpace()) {
+        rest = rest.sliced(1);
+    }
+    return rest.startsWith(sign);
+}
+
 Token ExpressionLexer::next(bool operandDue)
 {
     while (at().isSpace()) {

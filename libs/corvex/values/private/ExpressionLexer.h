@@ -41,8 +41,8 @@ public:
 
     //! \a operandDue: a sign before a digit belongs to the number.
     ExpressionToken next(bool operandDue);
-    //! The next token, which is not taken.
-    ExpressionToken peek(bool operandDue) const { return ExpressionLexer(*this).next(operandDue); }
+    //! Whether the rest of the text begins with \a sign, after blanks or at once.
+    bool isBefore(QStringView sign, bool afterBlanks) const;
 
     //! The text in quotes, with escapes. Everything that is not printable is escaped.
     static QString quoted(const QString &text, QChar quote);

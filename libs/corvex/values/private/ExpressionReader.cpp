@@ -176,11 +176,7 @@ bool ExpressionReader::take(const Token &token)
 
 bool ExpressionReader::isCall(const Token &name) const
 {
-    if (!Words::isFunction(name.text)) {
-        return false;
-    }
-    const Token next = m_lexer.peek(true);
-    return next.type == Token::Sign && next.text == u'(';
+    return m_lexer.isBefore(u"(", true) && Words::isFunction(name.text);
 }
 
 //! Whether "not" can be before the token.
@@ -213,16 +209,15 @@ bool ExpressionReader::takeWord(const Token &token)
 
 bool ExpressionReader::takeName(const Token &token)
 {
-    const Token next = m_lexer.peek(false);
-    if (next.type == Token::Annotation && next.position == token.position + token.length) {
-        m_lexer.next(false);
+    if (m_lexer.isBefore(u"::", false)) {
+        const Token next = m_lexer.next(false);
         const std::optional<Info::DataType> type = Words::typeNamed(next.text);
         return type ? add(token, valueTypeOf(token.text), *type, token.text)
                     : fail(next, u"This is not a type. Types are boolean, integer, float, number, string, "
                                  "color, log, device, reference and none."_s);
     }
     const std::optional<Info> found = m_names.find(token.text);
-    if (!found && next.type == Token::Sign && next.text == u'(') {
+    if (!found && m_lexer.isBefore(u"(", true)) {
         return fail(token, u"There is no such function."_s, token.text);
     }
     const Info previous = m_terms.isEmpty() ? Info() : m_terms.at(m_terms.count() - 1);
