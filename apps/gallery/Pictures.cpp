@@ -43,6 +43,7 @@ QStringList Pictures::draw()
     drawIcons();
     drawPanels();
     drawEditors();
+    drawReferences();
     return m_errors;
 }
 

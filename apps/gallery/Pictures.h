@@ -20,6 +20,7 @@ private:
     void drawIcons();
     void drawPanels();
     void drawEditors();
+    void drawReferences();
     void drawEditor(const QString &name, const QString &className, const QString &id);
     void save(QWidget &widget, const QString &name);
 

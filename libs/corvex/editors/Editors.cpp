@@ -107,6 +107,18 @@ struct KindRow
 
 constexpr KindRow kinds[] = {
     {"StringProperty", "SingleLineEditor"},
+    {"MapProperty", "SingleLineEditor"},
+    {"PointListProperty", "SingleLineEditor"},
+    {"PolygonListProperty", "SingleLineEditor"},
+    {"EnumProperty", "EnumEditor"},
+    {"ColorListProperty", "ColorListEditor"},
+    {"ListValueProperty", "ItemsOrderEditor"},
+    {"GeneralDataProperty", "SingleLineEditor"},
+    {"GeneralDataListProperty", "VerticalStringExpressionEditor"}, // terms are read as the property uses them
+    {"UpdateObjectProperty", "ElementPropertyChangesEditor"},
+    {"UpdateObjectListProperty", "ElementPropertyChangesEditor"},
+    {"PropertyChangeProperty", "PropertyChangesEditor"},
+    {"PropertyChangeListProperty", "PropertyChangesEditor"},
 };
 
 } // namespace

@@ -45,6 +45,9 @@ bool PropertyTrigger::initializeProperties()
             .references(Form::CommaNames)
             .validator(&actionsValidator)
             .qml(&actionsToQml)
+            .editor("ItemsOrderEditor")
+            .parameter("scopeType", u"Screen"_s)
+            .parameter("filterType", u"BasicAction"_s)
             .allowInvalid(),
     };
     return FunctionElement::initializeProperties() && addProperties(table);

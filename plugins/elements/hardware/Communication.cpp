@@ -7,6 +7,7 @@
 #include "elements/Statements.h"
 #include "elements/Validators.h"
 
+using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
 namespace Halvane::Corvex::Elements {
@@ -17,10 +18,14 @@ bool BACnetService::initializeProperties()
         row<ListValueProperty>("bacNetObjectList", "BACnet Objects", ListInfo())
             .rank(1)
             .references(Form::Names)
+            .parameter("scopeType", u"Project"_s)
+            .parameter("filterType", u"BACnetObject"_s)
             .allowInvalid(),
         row<ListValueProperty>("bacNetDevices", "BACnet Devices", ListInfo())
             .rank(2)
             .references(Form::Names)
+            .parameter("scopeType", u"Project"_s)
+            .parameter("filterType", u"BACnetDevice"_s)
             .allowInvalid(),
     };
     return FunctionElement::initializeProperties() && addProperties(table);
@@ -32,6 +37,8 @@ bool ModbusCommands::initializeProperties()
         row<ListValueProperty>("commands", "Commands", ListInfo())
             .rank(1)
             .references(Form::NamePairs)
+            .parameter("scopeType", u"Project"_s)
+            .parameter("filterType", u"MappingVariable"_s)
             .allowInvalid(),
     };
     return FunctionElement::initializeProperties() && addProperties(table);

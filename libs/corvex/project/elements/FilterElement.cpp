@@ -4,6 +4,8 @@
 #include "corvex/core/PropertyTable.h"
 #include "corvex/core/properties/CollectionProperties.h"
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Designer {
 
 bool FilterElement::initializeProperties()
@@ -12,6 +14,8 @@ bool FilterElement::initializeProperties()
         row<ListValueProperty>("elements", "Elements", ListInfo())
             .rank(1)
             .references(Form::Names)
+            .parameter("scopeType", u"Screen"_s)
+            .parameter("filterType", u"Element"_s)
             .allowInvalid(),
     };
     return Element::initializeProperties() && addProperties(table);
