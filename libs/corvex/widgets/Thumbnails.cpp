@@ -27,11 +27,15 @@ QPixmap Thumbnails::of(const ImageResource &image, int edge, qreal devicePixelRa
     if (file.isFile() && Common::PictureFile::problem(file.filePath()).isEmpty()) {
         QImageReader reader(file.filePath());
         const QSize size = reader.size();
-        if (size.width() > pixels || size.height() > pixels) {
-            reader.setScaledSize(size.scaled(pixels, pixels, Qt::KeepAspectRatio).expandedTo({1, 1}));
+        const bool isTooLarge = size.width() > edge || size.height() > edge;
+        if (isTooLarge || reader.format().startsWith("svg")) {
+            const QSize shown = isTooLarge ? size.scaled(edge, edge, Qt::KeepAspectRatio) : size;
+            reader.setScaledSize((QSizeF(shown) * devicePixelRatio).toSize().expandedTo({1, 1}));
         }
         thumbnail = QPixmap::fromImageReader(&reader);
-        thumbnail.setDevicePixelRatio(devicePixelRatio);
+        if (reader.scaledSize().isValid()) {
+            thumbnail.setDevicePixelRatio(devicePixelRatio);
+        }
     }
     QPixmapCache::insert(key, thumbnail);
     return thumbnail;
