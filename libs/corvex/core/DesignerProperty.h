@@ -129,6 +129,9 @@ public:
     //! Why the property would refuse \a text, for the user; empty if it would accept it. The value is not
     //! changed.
     QString refusalOf(const QString &text);
+    //! The texts that the property takes, in words that complete "It takes ...": "a number from 10 to 100, in
+    //! ms", "true or false". Translated.
+    QString acceptedForm() const;
     bool equalsObjectValue(const DesignerObject *object) const { return objectValue() == object; }
     bool equalsListItems(const QList<DesignerObject *> &items) const;
 
@@ -200,7 +203,8 @@ protected:
     //! The value of a numeric property, otherwise NaN.
     virtual double number() const;
     virtual bool hasPlainForm() const { return false; }
-    //! The texts that the property accepts, for example "a whole number". Translated.
+    //! The same for the kind, without range and unit: "a whole number". By default an example: that of the
+    //! row (editor parameter "example"), or the initial value. Translated.
     virtual QString formText() const;
     //! The result of a validation.
     struct Outcome

@@ -77,8 +77,10 @@ bool DesignerProperty::isInRange(QString &error) const
     if (m_isInitial || descriptor().range.contains(number())) {
         return true;
     }
-    error = Common::LocalizationHelper::coreString(u"%1 takes numbers %2, not %3."_s)
-                .arg(id(), descriptor().range.toString(), convertToValueString());
+    const NumberRange &range = descriptor().range;
+    error = Common::LocalizationHelper::coreString(range.choices.isEmpty() ? u"%1 takes numbers %2, not %3."_s
+                                                                           : u"%1 takes %2, not %3."_s)
+                .arg(id(), range.toString(), convertToValueString());
     return false;
 }
 
@@ -104,15 +106,26 @@ QString DesignerProperty::refusalOf(const QString &text)
     if (isRead) {
         return outcome.reason;
     }
-    const QString range = descriptor().range.toString();
-    const QString form = range.isEmpty() ? formText() : u"%1 %2"_s.arg(formText(), range);
     return Common::LocalizationHelper::coreString(u"%1 takes %2, not \"%3\"."_s)
-        .arg(id(), form, text.size() > longestQuote ? text.first(longestQuote) + u'\u2026' : text);
+        .arg(id(), acceptedForm(), text.size() > longestQuote ? text.first(longestQuote) + u'\u2026' : text);
+}
+
+QString DesignerProperty::acceptedForm() const
+{
+    const NumberRange &range = descriptor().range;
+    if (!range.choices.isEmpty()) {
+        return range.toString();
+    }
+    const QString limits = range.toString();
+    const QString unit = editorParameter(u"suffix"_s).toString().trimmed();
+    const QString form = limits.isEmpty() ? formText() : u"%1 %2"_s.arg(formText(), limits);
+    return unit.isEmpty() ? form : Common::LocalizationHelper::coreString(u"%1, in %2"_s).arg(form, unit);
 }
 
 QString DesignerProperty::formText() const
 {
-    const QString initial = descriptor().initialText;
+    const QString example = editorParameter(u"example"_s).toString();
+    const QString initial = example.isEmpty() ? descriptor().initialText : example;
     return FormText::example(initial.isEmpty() ? convertToValueString() : initial);
 }
 

@@ -36,6 +36,9 @@ NumberRange NumberRange::of(const QVariantMap &editorParameters)
     take(u"minimum"_s, range.minimum);
     take(u"maximum"_s, range.maximum);
     range.isAbove = take(u"above"_s, range.minimum);
+    for (const QVariant &number : editorParameters.value(u"values"_s).toList()) {
+        range.choices.append(number.toDouble());
+    }
     return range;
 }
 
@@ -44,6 +47,16 @@ QString NumberRange::toString() const
     const auto text = [](const QString &english, auto... numbers) {
         return Common::LocalizationHelper::coreString(english).arg(numberText(numbers)...);
     };
+    if (!choices.isEmpty()) {
+        QStringList numbers;
+        for (const double choice : choices) {
+            numbers.append(numberText(choice));
+        }
+        const QString last = numbers.takeLast();
+        return numbers.isEmpty()
+                   ? last
+                   : Common::LocalizationHelper::coreString(u"%1 or %2"_s).arg(numbers.join(u", "_s), last);
+    }
     if (std::isinf(maximum)) {
         return std::isinf(minimum) ? QString()
                : isAbove           ? text(u"above %1"_s, minimum)

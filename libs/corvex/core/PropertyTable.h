@@ -37,9 +37,13 @@ public:
     PropertyRow &editor(const char *editorName);
     PropertyRow &parameter(const char *key, const QVariant &value);
     PropertyRow &tooltip(const char *text);
+    //! What the property is for, in one sentence with the unit. Help pages and panels show it.
     PropertyRow &description(const char *text);
     //! For a text with placeholders that the caller has translated and filled.
     PropertyRow &description(const QString &text);
+    //! A value that users may copy, in the form in which people write it. Only needed if that of the kind is
+    //! no good example.
+    PropertyRow &example(const char *text) { return parameter("example", PropertyRow::text(text)); }
     //! Keeps invalid values and marks them.
     PropertyRow &allowInvalid();
     //! Not shown in the property panel until the object shows it.

@@ -52,6 +52,9 @@ class CORVEX_EXPORT StringProperty : public TypedProperty<QString>
 
 public:
     using TypedProperty::TypedProperty;
+
+protected:
+    QString formText() const override;
 };
 
 } // namespace Halvane::Corvex::Designer

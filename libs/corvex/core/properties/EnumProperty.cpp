@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/properties/EnumProperty.h"
 
-#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/properties/ValidationError.h"
-
-using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
@@ -20,7 +17,7 @@ QString EnumProperty::formText() const
     for (int i = 0; i < value().enumerator().keyCount(); ++i) {
         keys.append(value().key(i));
     }
-    return Common::LocalizationHelper::coreString(u"one of %1"_s).arg(keys.join(u", "_s));
+    return FormText::oneOf(keys);
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/properties/ExpressionProperties.h"
 
+#include "corvex/common/LocalizationHelper.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -48,6 +50,28 @@ ExpressionPurpose GeneralDataListProperty::purpose(const GeneralDataList &terms)
     }
     // Other expressions replace a value, the color; the rest are lists.
     return !id().endsWith("Binding"_L1) ? termList : isSelection(terms) ? colorSelection : color;
+}
+
+QString GeneralDataListProperty::formText() const
+{
+    const auto text = [](const QString &english) { return Common::LocalizationHelper::coreString(english); };
+    const ExpressionPurpose empty = purpose({});
+    if (empty.isTermList) {
+        const QString example = editorParameter(u"example"_s).toString();
+        return text(u"values such as %1"_s).arg(example.isEmpty() ? u"level, lamp.visible"_s : example);
+    }
+    switch (empty.kind) {
+    case Kinds::BoolExpression:
+        return text(u"a condition such as level > limit"_s);
+    case Kinds::MathExpression:
+        return text(u"a number or an expression such as level * 2"_s);
+    case Kinds::StringExpression:
+        return text(u"an expression with a text such as concat(\"Level \", level)"_s);
+    case Kinds::AssignExpression:
+        return text(u"assignments such as alarm = false; Main.lamp.visible = true"_s);
+    default:
+        return text(u"a color, or a selection such as alarm ? \"red\" : \"green\""_s);
+    }
 }
 
 } // namespace Halvane::Corvex::Designer

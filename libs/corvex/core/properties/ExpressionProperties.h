@@ -48,6 +48,10 @@ public:
     //! terms select one.
     ExpressionPurpose purpose(const GeneralDataList &terms) const;
     ExpressionPurpose purpose() const { return purpose(value()); }
+
+protected:
+    //! Says what the terms result in.
+    QString formText() const override;
 };
 
 //! Two comparisons of a value; in QML the function that evaluates them.

@@ -2,6 +2,7 @@
 #include "corvex/core/properties/FormText.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/values/expressions/UpdateObjectList.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,6 +43,41 @@ QString of(const QPointF &)
 QString of(const QSizeF &)
 {
     return LocalizationHelper::coreString(u"a size such as 120 x 40"_s);
+}
+
+QString of(const RangeInfo &)
+{
+    return LocalizationHelper::coreString(u"a range such as 0 to 100"_s);
+}
+
+QString of(const BorderInfo &)
+{
+    return LocalizationHelper::coreString(u"a width and a color such as 2 #C62828"_s);
+}
+
+QString of(const ListInfo &)
+{
+    return LocalizationHelper::coreString(u"names such as pump1 | pump2"_s);
+}
+
+QString of(const MapInfo &)
+{
+    return LocalizationHelper::coreString(u"keys and values such as \"key: 1; value: On;\""_s);
+}
+
+QString of(const UpdateObjectList &)
+{
+    return LocalizationHelper::coreString(u"values such as { lamp.color: #C62828; lamp.visible: true }"_s);
+}
+
+QString of(const PropertyList &)
+{
+    return of(UpdateObjectList());
+}
+
+QString oneOf(const QStringList &words)
+{
+    return LocalizationHelper::coreString(u"one of %1"_s).arg(words.join(u", "_s));
 }
 
 QString example(const QString &text)

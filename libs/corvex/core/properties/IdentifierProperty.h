@@ -44,6 +44,7 @@ public:
 
 protected:
     using TypedProperty::TypedProperty;
+    QString formText() const override;
 };
 
 } // namespace Halvane::Corvex::Designer

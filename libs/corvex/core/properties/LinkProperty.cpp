@@ -55,4 +55,13 @@ bool LinkProperty::validateValue(QString &error) const
     return false;
 }
 
+QString LinkProperty::formText() const
+{
+    const QStringList classes = checked(value()).filterType();
+    return classes.isEmpty()
+               ? Common::LocalizationHelper::coreString(u"the name of an object"_s)
+               : Common::LocalizationHelper::coreString(u"the name of an object of the class %1"_s)
+                     .arg(classes.join(u" or "_s));
+}
+
 } // namespace Halvane::Corvex::Designer

@@ -45,6 +45,8 @@ public:
 
 protected:
     using TypedProperty::TypedProperty;
+    //! Names the classes of the target.
+    QString formText() const override;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -49,4 +49,9 @@ QString TransformOriginProperty::enumToString(QQuickItem::TransformOrigin origin
     return index < names.size() ? QString(names[index]) : QString();
 }
 
+QString TransformOriginProperty::formText() const
+{
+    return FormText::oneOf(QStringList(names.begin(), names.end()));
+}
+
 } // namespace Halvane::Corvex::Designer

@@ -44,6 +44,8 @@ public:
 
 protected:
     using TypedProperty::TypedProperty;
+    //! Lists the names.
+    QString formText() const override;
 };
 
 } // namespace Halvane::Corvex::Designer
