@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/DesignerFactory.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/TableFactory.h"
 #include "corvex/core/private/IconMaker.h"
@@ -235,6 +236,13 @@ void DesignerFactory::readClassRows(const IDesignerFactory *factory)
         if (row.preview) {
             m_previews.insert(className, QString::fromUtf8(row.preview));
         }
+        if (row.description) {
+            m_descriptions.insert(className,
+                                  Common::LocalizationHelper::coreString(QString::fromUtf8(row.description)));
+        }
+        if (row.sample) {
+            m_samples.insert(className, row.sample);
+        }
     }
 }
 
@@ -300,6 +308,20 @@ DesignerObject *DesignerFactory::createObject(const QString &className, QObject 
 DesignerObject *DesignerFactory::createUnowned(const QString &className) const
 {
     return makeObject(className, nullptr);
+}
+
+DesignerObject *DesignerFactory::createSample(const QString &className) const
+{
+    if (canCreateObject(className)) {
+        return makeObject(className, nullptr);
+    }
+    const auto sample = m_samples.value(className);
+    return sample ? make("sample", className,
+                         [sample]() -> DesignerObject * {
+                             std::unique_ptr<DesignerObject> object(sample(nullptr));
+                             return object->initialize() ? object.release() : nullptr;
+                         })
+                  : nullptr;
 }
 
 DesignerObject *DesignerFactory::makeObject(const QString &className, QObject *parent) const

@@ -72,6 +72,12 @@ public:
         return m_classesByDisplay.value(displayName);
     }
 
+    //! What objects of the class are for, in one sentence; empty if its factory does not say.
+    QString descriptionForClass(const QString &className) const { return m_descriptions.value(className); }
+    //! An object that shows what the class has: as createUnowned(), but also for an abstract class whose
+    //! factory makes samples. Null if there is none. The caller owns it.
+    DesignerObject *createSample(const QString &className) const;
+
     // The names of an object's class in the tables; the class name itself without a factory or an entry.
     static QString baseNameOf(const DesignerObject *object);
     static QString displayNameOf(const DesignerObject *object);
@@ -118,8 +124,10 @@ private:
     QMap<QString, QString> m_classesByBase;
     QMap<QString, QString> m_displayNames;
     QMap<QString, QString> m_classesByDisplay;
-    QHash<QString, QString> m_screenLists; //!< by class name
-    QHash<QString, QString> m_previews;    //!< by class name
+    QHash<QString, QString> m_screenLists;                    //!< by class name
+    QHash<QString, QString> m_previews;                       //!< by class name
+    QHash<QString, QString> m_descriptions;                   //!< by class name
+    QHash<QString, DesignerObject *(*)(QObject *)> m_samples; //!< of abstract classes, by name
     QStringList m_fontFamilies;
     QStringList m_pluginErrors;
 };

@@ -84,7 +84,9 @@ bool DesignerObject::initialize()
 bool DesignerObject::initializeProperties()
 {
     static const PropertyTable table{
-        row<IdentifierProperty>("id", "Name", IdentifierInfo()).rank(0),
+        row<IdentifierProperty>("id", "Name", IdentifierInfo())
+            .description("The name by which other objects refer to this one.")
+            .rank(0),
     };
     if (!addProperties(table)) {
         return false;

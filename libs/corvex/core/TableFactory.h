@@ -9,7 +9,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! A class that a factory creates. Texts are UTF-8; the display name is translated.
+//! A class that a factory creates. Texts are UTF-8; the display name and the description are
+//! translated.
 struct ClassRow
 {
     using Make = DesignerObject *(*)(QObject *parent);
@@ -24,6 +25,10 @@ struct ClassRow
     //! A class that the preview supports ("Rectangle") and shows instead of this class and derived classes;
     //! null for that of the base class. Without any, the preview shows a labelled box.
     const char *preview = nullptr;
+    //! What objects of the class are for, in one sentence for users.
+    const char *description = nullptr;
+    //! For an abstract class: makes an object that only describes the class.
+    Make sample = nullptr;
 };
 
 //! A class of canvas items that a factory creates.

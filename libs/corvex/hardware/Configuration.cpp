@@ -119,58 +119,94 @@ bool Configuration::initializeProperties()
     using Rules = ConfigurationRules;
     static const PropertyTable table{
         row<IdentifierProperty>("id", "Device Model", IdentifierInfo())
+            .description("The device model for which the project is made.")
             .rank(0)
             .flags(deviceFlags)
             .editor("DeviceModelEditor"),
         device<IntegerProperty>(10, "displayBrightness", "Display Brightness", 100)
+            .description("The brightness of the display, in percent.")
             .parameter("minimum", 0)
             .parameter("maximum", 100)
             .parameter("suffix", u"%"_s)
             .parameter("showSlider", true)
             .validator(byText<Rules::displayBrightness>),
         device<SizeProperty>(11, "screenSize", "Device Screen Size", QSizeF(0, 0))
+            .description("The width and the height of the display, in pixels.")
             .editor("ScreenSizeEditor")
             .parameter("noArrows", true)
             .validator(byText<Rules::screenSize>),
-        device<IntegerProperty>(12, "colorDepth", "Color Depth", 32, storedFlags),
+        device<IntegerProperty>(12, "colorDepth", "Color Depth", 32, storedFlags)
+            .description("The number of bits with which the display stores the color of a pixel."),
         channels(13, "analogInputs", "Analog Input Channels", "ReadOnlyLineEditor")
+            .description("The use of each analog input: INPUT or UNUSED.")
+            .example("INPUT, UNUSED")
             .validator(byText<Rules::analogInputs>),
         channels(14, "alarmOutputs", "Alarm Output Channels", "ReadOnlyLineEditor")
+            .description("The use of each alarm output: OUTPUT or UNUSED.")
+            .example("OUTPUT, UNUSED")
             .validator(byText<Rules::alarmOutputs>),
-        device<StringProperty>(15, "pwmFrequency", "PWM Output Frequency", QString(), plainFlags),
+        device<StringProperty>(15, "pwmFrequency", "PWM Output Frequency", QString(), plainFlags)
+            .description("The frequency of each PWM output, in hertz.")
+            .example("1000, 1000"),
         channels(16, "pwmOutputs", "PWM Output Channels", "ReadOnlyLineEditor")
+            .description("The use of each PWM output: OUTPUT or UNUSED, or RECEIVE, SEND or DIRECTION if "
+                         "RS485 shares its line.")
+            .example("OUTPUT, UNUSED")
             .validator(besideRS485<Rules::pwmOutputs>),
         channels(17, "serialCOMPorts", "Serial COM Ports", "SerialCOMPortsEditor")
+            .example("COMTYPE, UNUSED")
             .description("       VTR38K does not have dedicated RS485 port.Hardware extension is need to "
                          "support this feature.\n\n       Enable RS485 and choose the PWM/Digital channel to "
                          "start using this feature.")
             .validator(byText<Rules::serialCOMPorts>),
-        channels(18, "canbusPorts", "CAN Bus Ports", "ReadOnlyLineEditor"),
+        channels(18, "canbusPorts", "CAN Bus Ports", "ReadOnlyLineEditor")
+            .description("The use of each CAN port: COMTYPE or UNUSED.")
+            .example("COMTYPE, UNUSED"),
         channels(19, "digitalInputOutputs", "Digital Input/Output Channels", "DigitalIOEditor")
+            .description("The use of each digital channel: INPUT, OUTPUT or UNUSED, or DIRECTION if RS485 "
+                         "shares its line.")
+            .example("INPUT, OUTPUT, UNUSED")
             .hidden()
             .validator(besideRS485<Rules::digitalInputOutputs>),
-        device<BooleanProperty>(20, "enableRS485", "Enable RS485", false),
+        device<BooleanProperty>(20, "enableRS485", "Enable RS485", false)
+            .description("Whether the device communicates over RS485."),
         channels(21, "serialRS485Ports", "RS485 Channel settings", "SerialRS485Editor")
+            .description("The use of each line of the RS485 port: RECEIVE, SEND, DIRECTION or UNUSED.")
+            .example("RECEIVE, SEND, DIRECTION, UNUSED")
             .hidden()
             .validator(Designer::serialRS485Ports),
-        device<BooleanProperty>(22, "enableSPIChipSelect", "Enable SPI CS", false),
-        channels(23, "SPIChipSelect", "SPI CS settings", "SPIChipSelectEditor").hidden(),
-        device<BooleanProperty>(24, "enablePassword", "Enable Retrieve Password", false),
+        device<BooleanProperty>(22, "enableSPIChipSelect", "Enable SPI CS", false)
+            .description("Whether a digital channel selects the chip for SPI."),
+        channels(23, "SPIChipSelect", "SPI CS settings", "SPIChipSelectEditor")
+            .description("The digital channels, in which CSPIN marks the one that selects the chip for SPI.")
+            .example("UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, UNUSED, CSPIN")
+            .hidden(),
+        device<BooleanProperty>(24, "enablePassword", "Enable Retrieve Password", false)
+            .description("Whether the device asks for a password before the project is retrieved from it."),
         device<StringProperty>(25, "password", "Password :", QString())
+            .description("The password for retrieving the project from the device.")
+            .example("secret")
             .editor("ProjectPasswordEditor")
             .hidden()
             .validator(Designer::password<&Configuration::enablePassword>),
-        device<BooleanProperty>(26, "enableUpload", "Enable Upload Password", false),
+        device<BooleanProperty>(26, "enableUpload", "Enable Upload Password", false)
+            .description("Whether the device asks for a password before a project is loaded onto it."),
         device<StringProperty>(27, "uploadPassword", "Password :", QString())
+            .description("The password for loading a project onto the device.")
+            .example("secret")
             .editor("ProjectPasswordEditor")
             .hidden()
             .validator(Designer::password<&Configuration::enableUpload>),
         row<StringProperty>("compatibleModels", "Compatible Models", QString())
+            .description("The other device models that can run the project.")
+            .example("VTR 50-S|VTR 70-CE")
             .rank(28)
             .flags(plainFlags)
             .editor("CompatibleModelsEditor"),
-        device<StringProperty>(29, "description", "Description", QString(), storedFlags),
-        device<StringProperty>(30, "url", "URL", QString(), storedFlags),
+        device<StringProperty>(29, "description", "Description", QString(), storedFlags)
+            .description("What the device model offers, in a few words."),
+        device<StringProperty>(30, "url", "URL", QString(), storedFlags)
+            .description("The web page about the device model."),
     };
     return FileObject::initializeProperties() && addProperties(table);
 }

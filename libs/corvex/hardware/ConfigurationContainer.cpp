@@ -35,6 +35,7 @@ bool ConfigurationContainer::initializeProperties()
 {
     static const PropertyTable table{
         row<ObjectListProperty>("configurations", "Device Models", OrderRule::NaturalOrder)
+            .description("The installed device models.")
             .filter({"Configuration"}),
     };
     if (!DirectoryObject::initializeProperties() || !addProperties(table)) {

@@ -52,15 +52,18 @@ bool ImageResource::initializeProperties()
 {
     static const PropertyTable table{
         row<IdentifierProperty>("id", "Name", IdentifierInfo())
+            .description("The file name of the image, with its extension.")
             .rank(0)
             .validator(nameValidator)
             .allowInvalid(),
         row<StringProperty>("originalLocation", "Original Location", QString())
+            .description("The path of the file from which the image was added.")
             .flags(4 | 8)
             .rank(1)
             .editor("OriginalLocationEditor")
             .allowInvalid(),
         row<StringProperty>("imageFile", "Image File", QString())
+            .description("The image file in the folder of the project.")
             .flags(0)
             .rank(2)
             .validator(imageFileValidator)

@@ -89,30 +89,42 @@ bool Project::initializeProperties()
 {
     static const PropertyTable table{
         row<IdentifierProperty>("id", "Name", IdentifierInfo())
+            .description("The name of the project, and of its folder and its file.")
             .rank(0)
             .validator(&nameValidator)
             .allowInvalid(),
         row<StringProperty>("version", "Build Version", QString())
+            .description("The tag of the build, made from the name of the project and the version of the "
+                         "program; the program writes it.")
             .flags(1)
             .rank(10)
             .editor("ReadOnlyLineEditor"),
-        row<StringProperty>("designerVersion", "Designer Version", QString()).flags(1).rank(11),
+        row<StringProperty>("designerVersion", "Designer Version", QString())
+            .description("The version of the program that last saved the project.")
+            .flags(1)
+            .rank(11),
         row<ObjectProperty>("configuration", "Configuration", nullptr)
+            .description("The device model of the project with its screen, channels, ports and passwords.")
             .flags(1 | 4 | 8 | 128)
             .rank(12)
             .filter({"Configuration"})
             .allowInvalid(),
         row<ObjectListProperty>("imageResources", "Image Resources", OrderRule::FileNameOrder)
+            .description("The images that elements can show.")
             .rank(13)
             .filter({"ImageResource"}),
         row<ObjectListProperty>("variables", "Project Variables", OrderRule::NaturalOrder)
+            .description("The variables that expressions, elements and the device read and write.")
             .rank(14)
             .filter({"ProjectVariable"}),
         row<ObjectListProperty>("screens", "Screens", OrderRule::InsertionOrder)
+            .description("The screens of the project, of which the device shows one at a time.")
             .rank(15)
             .filter({"Screen"})
             .validator(&PropertyValidators::projectScreensValidator),
         row<LinkProperty>("defaultScreen", "Default Screen", ObjectLinkInfo({}, u"Project"_s, u"Screen"_s))
+            .description(
+                "The screen that the device shows first; if it is not set, the first screen of the project.")
             .flags(15)
             .rank(16)
             .parameter("scopeType", u"Project"_s)

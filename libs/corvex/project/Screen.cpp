@@ -58,25 +58,32 @@ bool Screen::initializeProperties()
     constexpr int notStored = RuntimeFlag | EditableFlag | StateFlag;
     static const PropertyTable table{
         row<IdentifierProperty>("id", "Name", IdentifierInfo())
+            .description("The name by which links and expressions refer to the screen.")
             .rank(0)
             .flags(15)
             .allowInvalid()
             .validator(&PropertyValidators::identifierElementValidator),
         row<SizeProperty>("size", "Screen Size", sizeWithoutProject)
+            .description("The width and the height of the screen, in pixels; they follow the device model "
+                         "and the orientation.")
             .rank(2)
             .flags(notStored)
             .editor("ScreenSizeEditor")
             .parameter("noArrows", true)
             .allowInvalid(),
         row<ColorProperty>("color", "Color", QColor(Qt::white))
+            .description("The color of the background.")
             .rank(3)
             .editor("ScreenColorEditor")
             .allowInvalid(),
         row<IntegerProperty>("orientation", "Orientation", 0)
+            .description("The angle by which the contents are turned on the display, in degrees.")
             .rank(4)
             .editor("ScreenOrientationEditor")
+            .parameter("values", QVariantList{0, 90, 180, 270})
             .allowInvalid(),
         row<RealProperty>("scale", "Scale", 100.0)
+            .description("The size at which the contents are drawn, in percent.")
             .rank(5)
             .flags(RuntimeFlag | StateFlag)
             .editor("ScaleEditor")
@@ -86,12 +93,14 @@ bool Screen::initializeProperties()
             .qml(&percentToQml)
             .allowInvalid(),
         row<ObjectListProperty>("elements", "Elements", OrderRule::KindOrder)
+            .description("The elements of the screen.")
             .rank(6)
             .flags(StoredFlag | RuntimeFlag | ListFlag)
             .filter({"Element"})
             .validator(&PropertyValidators::screenElementsValidator)
             .allowInvalid(),
         row<ObjectListProperty>("filters", "Filters", OrderRule::NaturalOrder)
+            .description("The filters of the screen; each lists some of its elements.")
             .rank(7)
             .filter({"FilterElement"})
             .allowInvalid(),

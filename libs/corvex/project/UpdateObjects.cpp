@@ -27,7 +27,9 @@ ObjectView *UpdateObjects::createGraphicsItem()
 bool UpdateObjects::initializeProperties()
 {
     static const PropertyTable table{
-        row<ObjectListProperty>("objects", "Objects", OrderRule::InsertionOrder).rank(1),
+        row<ObjectListProperty>("objects", "Objects", OrderRule::InsertionOrder)
+            .description("The objects whose values are updated.")
+            .rank(1),
     };
     return DesignerObject::initializeProperties() && addProperties(table);
 }

@@ -19,6 +19,8 @@ bool AutoSettingVariable::initializeProperties()
     static const PropertyTable table{
         fixedPersistence(false),
         row<StringProperty>("typeOfObject", "Object Type", QString())
+            .description("The class of the elements whose properties are saved.")
+            .example("Rectangle")
             .rank(12)
             .allowInvalid()
             .editor("AutosaveObjectEditor"),
@@ -34,6 +36,8 @@ SharedProperty AutoSettingVariable::initializeValueProperty()
 {
     static const PropertyRow prototype =
         row<GeneralDataListProperty>("value", "Value List", GeneralDataList())
+            .description("The properties of elements whose values the device saves and restores.")
+            .example("Main.lamp.color")
             .rank(10)
             .flags(3)
             .allowInvalid();

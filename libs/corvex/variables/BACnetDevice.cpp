@@ -60,22 +60,57 @@ bool BACnetDevice::initializeProperties()
 {
     static const PropertyTable table{
         fixedPersistence(false),
-        numberRow("objIdentifier", "Device Identifier", 0, largestDevice).rank(12),
-        enumRow("bacnetType", "BACnet Type", "BACnetType").rank(13),
-        numberRow("netNumber", "Network Number", 0, largestNumber).rank(14),
-        numberRow("portNumber", "Port Number", usualPort, largestNumber).rank(15),
-        switchRow("isLocal", "Local Host", true).rank(16),
-        switchRow("isFixed", "Static Address", true).rank(17).hidden(),
-        textRow("macAddress", "MAC Address").rank(18).editor("MACAddressEditor").hidden(),
-        textRow("ethernetIP", "Ethernet IP").rank(19).editor("NetworkAddressEditor").hidden(),
+        numberRow("objIdentifier", "Device Identifier", 0, largestDevice)
+            .description("The instance number by which other BACnet devices address the device.")
+            .rank(12),
+        enumRow("bacnetType", "BACnet Type", "BACnetType")
+            .description("The network of the device: BACnet/IP, or BACnet MS/TP on a serial line.")
+            .rank(13),
+        numberRow("netNumber", "Network Number", 0, largestNumber)
+            .description(
+                "The number of the BACnet network to which the device belongs; 0 is the local network.")
+            .rank(14),
+        numberRow("portNumber", "Port Number", usualPort, largestNumber)
+            .description("The UDP port on which the device communicates over BACnet/IP.")
+            .example("47809")
+            .rank(15),
+        switchRow("isLocal", "Local Host", true)
+            .description("Whether the device is this panel, and not another device in the network.")
+            .rank(16),
+        switchRow("isFixed", "Static Address", true)
+            .description("Whether the other device has a fixed IP address.")
+            .rank(17)
+            .hidden(),
+        textRow("macAddress", "MAC Address")
+            .description("The MS/TP address of the other device.")
+            .example("12")
+            .rank(18)
+            .editor("MACAddressEditor")
+            .hidden(),
+        textRow("ethernetIP", "Ethernet IP")
+            .description("The IP address of the other device.")
+            .example("192.168.0.20")
+            .rank(19)
+            .editor("NetworkAddressEditor")
+            .hidden(),
         textRow("reqProps", "Device Properties", Common::BACDeviceInfo().toString())
+            .description(
+                "The name, description, location, vendor and timeouts of the device for the BACnet network.")
+            .example("apduTimeout: 3000; description: ; location: ; modelName: ; numberOfApduRetries: 3; "
+                     "objectName: ; vendorIdentifier: 0; vendorName: ;")
             .rank(20)
             .editor("BACDeviceEditor")
             .hidden(),
-        switchRow("upgradable", "Device Sofware Upgrade Enable", false).rank(21),
-        switchRow("logDownloadable", "Log Download Enable", false).rank(22),
+        switchRow("upgradable", "Device Sofware Upgrade Enable", false)
+            .description("Whether the software of the panel can be upgraded over BACnet.")
+            .rank(21),
+        switchRow("logDownloadable", "Log Download Enable", false)
+            .description("Whether the logs of the panel can be downloaded over BACnet.")
+            .rank(22),
         switchRow("pwdEnabled", "Password enabled", false).rank(23).hidden().description(passwordDescription),
         textRow("password", "Password :")
+            .description("The password for upgrading the software and downloading logs.")
+            .example("secret")
             .rank(24)
             .editor("ProjectPasswordEditor")
             .hidden()

@@ -54,15 +54,23 @@ bool BACnetObject::initializeProperties()
     static const PropertyTable table{
         fixedPersistence(false),
         row<StringProperty>("objectID", "Object Identifier", u"0,0"_s)
+            .description("The type and the instance of the object, each as its BACnet number.")
+            .example("2,1")
             .rank(12)
             .allowInvalid()
             .editor("BACObjIdEditor")
             .validator(&validateIdentifier),
         row<StringProperty>("bacnetObjName", "Object Name", QString())
+            .description("The name of the object, which is unique among the objects of the device.")
+            .example("Level")
             .rank(13)
             .allowInvalid()
             .validator(&validateName),
         row<GeneralDataListProperty>("properties", "Property List", GeneralDataList())
+            .description("The properties of the object, each with its data type and the variable or constant "
+                         "that is its value.")
+            .example("\"present-value\", \"real\", level, \"description\", \"character-string\", \"Level of "
+                     "the tank\"")
             .rank(14)
             .allowInvalid()
             .editor("BACnetPropertiesEditor")

@@ -17,7 +17,10 @@ QVariant BooleanVariable::typedValue(QStringView text)
 SharedProperty BooleanVariable::initializeValueProperty()
 {
     static const PropertyRow prototype =
-        row<BooleanProperty>("value", "Variable Value", false).rank(10).allowInvalid();
+        row<BooleanProperty>("value", "Variable Value", false)
+            .description("The value that the variable has when the device starts.")
+            .rank(10)
+            .allowInvalid();
     return prototype.make(this);
 }
 

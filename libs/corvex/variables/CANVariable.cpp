@@ -21,6 +21,9 @@ bool CANVariable::initializeProperties()
     static const PropertyTable table{
         fixedPersistence(false),
         row<GeneralDataListProperty>("parameterMap", "Parameter Map", GeneralDataList())
+            .description("The parameter group (PGN, priority, source address) and its parameters (SPN, unit, "
+                         "place in the message, offset, range, scaling).")
+            .example("61444, 3, 0, 190, \"rpm\", 4, 1, 16, 0f, 0f, 8031.875, 0.125")
             .rank(12)
             .allowInvalid()
             .editor("CANVariableEditor")

@@ -16,7 +16,10 @@ QVariant ColorVariable::typedValue(QStringView text)
 SharedProperty ColorVariable::initializeValueProperty()
 {
     static const PropertyRow prototype =
-        row<ColorProperty>("value", "Variable Value", QColor(Qt::black)).rank(10).allowInvalid();
+        row<ColorProperty>("value", "Variable Value", QColor(Qt::black))
+            .description("The color that the variable has when the device starts.")
+            .rank(10)
+            .allowInvalid();
     return prototype.make(this);
 }
 

@@ -20,7 +20,10 @@ QVariant DeviceVariable::typedValue(const QString &text)
 SharedProperty DeviceVariable::initializeValueProperty()
 {
     static const PropertyRow prototype =
-        row<MapProperty>("value", "Variable Value", MapInfo()).rank(10).allowInvalid();
+        row<MapProperty>("value", "Variable Value", MapInfo())
+            .description("The values that the device exchanges, by their keys.")
+            .rank(10)
+            .allowInvalid();
     return prototype.make(this);
 }
 

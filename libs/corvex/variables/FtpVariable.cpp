@@ -16,11 +16,28 @@ bool FtpVariable::initializeProperties()
     };
     static const PropertyTable table{
         fixedPersistence(true),
-        text("host", "Host").rank(12),
-        enumRow("type", "Type", "FtpType").rank(13),
-        text("user", "User").rank(14).hidden(),
-        text("password", "Password").rank(15).editor("ProjectPasswordEditor").hidden(),
-        text("remotePath", "Remote Path").rank(16),
+        text("host", "Host")
+            .description("The name or the IP address of the server that receives the files.")
+            .example("ftp.example.com")
+            .rank(12),
+        enumRow("type", "Type", "FtpType")
+            .description("The protocol of the upload; FTPS and SFTP are encrypted.")
+            .rank(13),
+        text("user", "User")
+            .description("The name of the user at the server.")
+            .example("operator")
+            .rank(14)
+            .hidden(),
+        text("password", "Password")
+            .description("The password of the user at the server.")
+            .example("secret")
+            .rank(15)
+            .editor("ProjectPasswordEditor")
+            .hidden(),
+        text("remotePath", "Remote Path")
+            .description("The folder of the server into which the files are put.")
+            .example("logs/pump1")
+            .rank(16),
         row<IntegerProperty>("fileCount", "Upload file count", 5)
             .rank(17)
             .allowInvalid()
@@ -29,7 +46,10 @@ bool FtpVariable::initializeProperties()
             .parameter("singelStep", 1)
             .description("Data logged is split into mutiple files if logged with 'Save and Reset' option "
                          "provided in the Log Variable.\n\nUploads the most recent set of Log files."),
-        row<BooleanProperty>("fileRemove", "Delete after upload", true).rank(18).allowInvalid(),
+        row<BooleanProperty>("fileRemove", "Delete after upload", true)
+            .description("Whether the device deletes a file after it was uploaded.")
+            .rank(18)
+            .allowInvalid(),
     };
     if (!ProjectVariable::initializeProperties() || !addProperties(table)) {
         return false;
@@ -45,7 +65,10 @@ bool FtpVariable::initializeProperties()
 SharedProperty FtpVariable::initializeValueProperty()
 {
     static const PropertyRow prototype =
-        row<StringProperty>("value", "Ftp Value", QString()).rank(10).allowInvalid();
+        row<StringProperty>("value", "Ftp Value", QString())
+            .description("The text that the variable has when the device starts.")
+            .rank(10)
+            .allowInvalid();
     return prototype.make(this);
 }
 

@@ -17,12 +17,18 @@ bool LogVariable::initializeProperties()
     static const PropertyTable table{
         fixedPersistence(false),
         integer("maxDataPoints", "Maximum data points", 10000)
+            .description("The number of values after which the log is full.")
             .rank(12)
             .editor("RepeatTimerEditor")
             .parameter("minimum", 5)
             .parameter("maximum", 100000),
-        enumRow("behavior", "Roll-Over Behavior", "RollOverBehavior").rank(13),
+        enumRow("behavior", "Roll-Over Behavior", "RollOverBehavior")
+            .description("What a full log does: overwrite the oldest value, stop, or save its values to a "
+                         "file and begin again.")
+            .rank(13),
         integer("interval", "Interval", 5000)
+            .description("The time between two samples, in milliseconds.")
+            .example("10000")
             .rank(14)
             .parameter("minimum", 3000)
             .parameter("maximum", std::numeric_limits<int>::max())

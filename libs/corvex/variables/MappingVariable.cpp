@@ -35,12 +35,36 @@ QString MappingVariable::toQml(int) const
 bool MappingVariable::initializeProperties()
 {
     static const PropertyTable table{
-        mapRow<ModbusMap::Coil>("coilMap", "Coil Map (00001 - 09999)").rank(12),
-        mapRow<ModbusMap::DiscreteInput>("discreteInputMap", "Discrete Input Map (10001 - 19999)").rank(13),
-        mapRow<ModbusMap::InputRegister>("inputRegMap", "Input Regiseter Map (30001 - 39999)").rank(14),
-        mapRow<ModbusMap::HoldingRegister>("holdingRegMap", "Holding Register Map (40001 - 49999)").rank(15),
-        mapRow<ModbusMap::VirtualRegister>("virtualRegMap", "Virtual Register Map").rank(16),
-        mapRow<ModbusMap::VirtualString>("virtualStringMap", "Virtual String Map (5000 and above)").rank(17),
+        mapRow<ModbusMap::Coil>("coilMap", "Coil Map (00001 - 09999)")
+            .description("The coils that a Modbus master can read and write: each address with the variable "
+                         "or property behind it.")
+            .example("1, alarm, 2, Main.lamp.visible")
+            .rank(12),
+        mapRow<ModbusMap::DiscreteInput>("discreteInputMap", "Discrete Input Map (10001 - 19999)")
+            .description("The discrete inputs that a Modbus master can read: each address with the variable "
+                         "or property behind it.")
+            .example("10001, alarm")
+            .rank(13),
+        mapRow<ModbusMap::InputRegister>("inputRegMap", "Input Regiseter Map (30001 - 39999)")
+            .description("The input registers that a Modbus master can read: each address with the variable "
+                         "or property behind it.")
+            .example("30001, level, 30002, limit")
+            .rank(14),
+        mapRow<ModbusMap::HoldingRegister>("holdingRegMap", "Holding Register Map (40001 - 49999)")
+            .description("The holding registers that a Modbus master can read and write: each address with "
+                         "the variable or property behind it.")
+            .example("40001, limit")
+            .rank(15),
+        mapRow<ModbusMap::VirtualRegister>("virtualRegMap", "Virtual Register Map")
+            .description("Registers outside of the four Modbus tables: each address with the variable or "
+                         "property behind it.")
+            .example("50001, level")
+            .rank(16),
+        mapRow<ModbusMap::VirtualString>("virtualStringMap", "Virtual String Map (5000 and above)")
+            .description("Texts that a Modbus master can read and write: each address with the variable or "
+                         "property behind it.")
+            .example("5000, message")
+            .rank(17),
     };
     if (!DeviceVariable::initializeProperties() || !addProperties(table)) {
         return false;

@@ -76,11 +76,15 @@ bool NumberVariable::isWithinLimits(const QString &text, QString &error)
 
 const PropertyRow &NumberVariable::numberRow()
 {
-    static const PropertyRow prototype = row<StringProperty>("value", "Variable Value", u"0"_s)
-                                             .rank(10)
-                                             .allowInvalid()
-                                             .editor("LargeNumberEditor")
-                                             .validator(&validateNumber);
+    static const PropertyRow prototype =
+        row<StringProperty>("value", "Variable Value", u"0"_s)
+            .description("The number that the variable has when the device starts; it is a floating point "
+                         "number if it is written with a point.")
+            .example("20.5")
+            .rank(10)
+            .allowInvalid()
+            .editor("LargeNumberEditor")
+            .validator(&validateNumber);
     return prototype;
 }
 

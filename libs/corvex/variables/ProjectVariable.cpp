@@ -59,6 +59,7 @@ bool ProjectVariable::initializeProperties()
 {
     static const PropertyTable idTable{
         row<IdentifierProperty>("id", "Name", IdentifierInfo())
+            .description("The name by which expressions and elements refer to the variable.")
             .rank(0)
             .flags(15)
             .allowInvalid()
@@ -84,7 +85,10 @@ bool ProjectVariable::initializeProperties()
 SharedProperty ProjectVariable::initializeValueProperty()
 {
     static const PropertyRow prototype =
-        row<StringProperty>("value", "Variable Value", QString()).rank(10).allowInvalid();
+        row<StringProperty>("value", "Variable Value", QString())
+            .description("The value that the variable has when the device starts.")
+            .rank(10)
+            .allowInvalid();
     return prototype.make(this);
 }
 

@@ -8,10 +8,12 @@ namespace Halvane::Corvex::Designer {
 
 SharedProperty StringVariable::initializeValueProperty()
 {
-    static const PropertyRow prototype = row<StringProperty>("value", "Variable Value", QString())
-                                             .rank(10)
-                                             .allowInvalid()
-                                             .editor("PlainTextEditor");
+    static const PropertyRow prototype =
+        row<StringProperty>("value", "Variable Value", QString())
+            .description("The text that the variable has when the device starts.")
+            .rank(10)
+            .allowInvalid()
+            .editor("PlainTextEditor");
     return prototype.make(this);
 }
 

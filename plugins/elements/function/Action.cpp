@@ -14,6 +14,7 @@ bool Action::initializeProperties()
 {
     static const PropertyTable table{
         row<PropertyChangeListProperty>("propertyChanges", "Property Changes", PropertyList())
+            .description("The values that the action sets, each with its element and property.")
             .rank(1)
             .needsPictures()
             .flags(ordinary)

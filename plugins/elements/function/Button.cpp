@@ -12,10 +12,18 @@ namespace Halvane::Corvex::Elements {
 bool Button::initializeProperties()
 {
     static const PropertyTable table{
-        visualElementRow("visualElement", "Visual Element").rank(1),
-        stateRow("normalState", "Normal State").rank(2).statesOf("visualElement").needsPictures(),
-        stateRow("pressedState", "Pressed State").rank(3).statesOf("visualElement").needsPictures(),
-        expressionRow("pressed", "When Pressed", "PropertyChangesEditor")
+        visualElementRow("visualElement", "Visual Element", "The visual element that the operator touches.")
+            .rank(1),
+        stateRow("normalState", "Normal State", "The values that are set when the touch ends.")
+            .rank(2)
+            .statesOf("visualElement")
+            .needsPictures(),
+        stateRow("pressedState", "Pressed State", "The values that are set when the touch begins.")
+            .rank(3)
+            .statesOf("visualElement")
+            .needsPictures(),
+        expressionRow("pressed", "When Pressed", "The assignments that are made when the element is touched.",
+                      "PropertyChangesEditor")
             .rank(4)
             .validator(&codeValidator<GeneralDataList::AssignExpression>)
             .qml(&assignmentsToQml),

@@ -39,7 +39,8 @@ QmlBindings logToQml(const DesignerProperty *property)
 bool DataLogging::initializeProperties()
 {
     static const PropertyTable table{
-        projectLinkRow("variable", "Log Variable", "LogVariable")
+        projectLinkRow("variable", "Log Variable", "The log variable whose value is recorded at each sample.",
+                       "LogVariable")
             .rank(1)
             .validator(&linkTargetValidator)
             .qml(&logToQml),

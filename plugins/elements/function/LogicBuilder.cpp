@@ -53,6 +53,8 @@ bool LogicBuilder::initializeProperties()
 {
     static const PropertyTable table{
         row<StringProperty>("logicExpression", "Rules", QString())
+            .description("Rules: while a condition is true, its assignments are made whenever a value in "
+                         "them changes.")
             .rank(1)
             .references(Form::Expressions)
             .editor("VerticalBooleanExpressionEditor")

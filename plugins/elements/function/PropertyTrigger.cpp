@@ -32,15 +32,19 @@ QmlBindings actionsToQml(const DesignerProperty *property)
 bool PropertyTrigger::initializeProperties()
 {
     static const PropertyTable table{
-        expressionRow("dataValues", "Data Values", "PropertyEditor")
+        expressionRow("dataValues", "Data Values",
+                      "The variables and properties whose changes start the actions.", "PropertyEditor")
             .rank(1)
             .validator(&termsValidator)
             .qml(&termsToQml),
-        expressionRow("condition", "Condition", "VerticalBooleanExpressionEditor")
+        expressionRow("condition", "Condition", "The condition that must be true for the actions to run.",
+                      "VerticalBooleanExpressionEditor")
             .rank(2)
             .validator(&codeValidator<GeneralDataList::BoolExpression>)
             .qml(&conditionToQml),
         row<StringProperty>("actionScheduler", "Actions", QString())
+            .description("The actions of the screen that run, in this order.")
+            .example("blink")
             .rank(3)
             .references(Form::CommaNames)
             .validator(&actionsValidator)

@@ -12,8 +12,9 @@ namespace Halvane::Corvex::Elements {
 bool ScreenLoader::initializeProperties()
 {
     static const PropertyTable table{
-        visualElementRow("visualElement", "Visual Element").rank(1),
-        projectLinkRow("screen", "Screen", "Screen")
+        visualElementRow("visualElement", "Visual Element", "The visual element that the operator touches.")
+            .rank(1),
+        projectLinkRow("screen", "Screen", "The screen that is shown after the touch.", "Screen")
             .rank(2)
             .validator(&linkTargetValidator)
             .qml(&screenLinkToQml),

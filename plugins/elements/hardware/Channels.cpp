@@ -23,7 +23,9 @@ RuntimePropertyList withValue(RuntimePropertyList properties, Common::EnumHelper
 bool AlarmOutput::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow().rank(1).validator(&PropertyValidators::channelValidator),
+        channelRow("The number of the alarm output on the device, counted from 1.")
+            .rank(1)
+            .validator(&PropertyValidators::channelValidator),
         initialConditionRow().rank(2),
     };
     return SwitchedOutput::initializeProperties() && addProperties(table);
@@ -32,7 +34,7 @@ bool AlarmOutput::initializeProperties()
 bool DigitalInputOutput::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow()
+        channelRow("The number of the digital channel on the device, counted from 1.")
             .rank(1)
             .editor("DigitalChannelEditor")
             .validator(&PropertyValidators::digitalChannelValidator),
@@ -44,7 +46,9 @@ bool DigitalInputOutput::initializeProperties()
 bool PwmOutput::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow().rank(1).validator(&PropertyValidators::pwmChannelValidator),
+        channelRow("The number of the PWM output on the device, counted from 1.")
+            .rank(1)
+            .validator(&PropertyValidators::pwmChannelValidator),
         initialNumberRow().rank(2),
     };
     return AnalogOutput::initializeProperties() && addProperties(table);
@@ -53,8 +57,10 @@ bool PwmOutput::initializeProperties()
 bool AnalogInput::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow().rank(1),
+        channelRow("The number of the analog input on the device, counted from 1.").rank(1),
         row<RangeProperty>("voltageRange", "Voltage Range", RangeInfo(0, 10))
+            .description("The voltages at the input that correspond to the ends of its scale, in volts.")
+            .example("0 to 5")
             .rank(2)
             .parameter("rangeStyle", u"MinMax"_s)
             .parameter("suffix", u" V"_s)
@@ -66,7 +72,7 @@ bool AnalogInput::initializeProperties()
 bool ThermistorInput::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow().rank(1),
+        channelRow("The number of the thermistor input on the device, counted from 1.").rank(1),
     };
     return MeasuringInput::initializeProperties() && addProperties(table);
 }
@@ -74,7 +80,7 @@ bool ThermistorInput::initializeProperties()
 bool ThermocoupleInput::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow().rank(1),
+        channelRow("The number of the thermocouple input on the device, counted from 1.").rank(1),
     };
     return MeasuringInput::initializeProperties() && addProperties(table);
 }

@@ -16,12 +16,16 @@ bool BACnetService::initializeProperties()
 {
     static const PropertyTable table{
         row<ListValueProperty>("bacNetObjectList", "BACnet Objects", ListInfo())
+            .description("The variables that describe the BACnet objects of the panel.")
+            .example("point1 | point2")
             .rank(1)
             .references(Form::Names)
             .parameter("scopeType", u"Project"_s)
             .parameter("filterType", u"BACnetObject"_s)
             .allowInvalid(),
         row<ListValueProperty>("bacNetDevices", "BACnet Devices", ListInfo())
+            .description("The variables that describe the BACnet devices with which the panel communicates.")
+            .example("panel1")
             .rank(2)
             .references(Form::Names)
             .parameter("scopeType", u"Project"_s)
@@ -35,6 +39,9 @@ bool ModbusCommands::initializeProperties()
 {
     static const PropertyTable table{
         row<ListValueProperty>("commands", "Commands", ListInfo())
+            .description("The commands to send: the name of the element that starts each, and its bytes in "
+                         "hexadecimal digits.")
+            .example("blink|010300000002")
             .rank(1)
             .references(Form::NamePairs)
             .parameter("scopeType", u"Project"_s)
@@ -47,7 +54,8 @@ bool ModbusCommands::initializeProperties()
 bool SPICommunication::initializeProperties()
 {
     static const PropertyTable table{
-        expressionRow("dataValues", "Data Values", "VerticalMathExpressionEditor")
+        expressionRow("dataValues", "Data Values", "The values that are sent, in this order.",
+                      "PropertyEditor")
             .rank(1)
             .validator(&termsValidator)
             .qml(&termsToQml),

@@ -13,7 +13,7 @@ namespace Halvane::Corvex::Elements {
 bool CANBusDevice::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow().rank(1),
+        channelRow("The number of the CAN port on the device, counted from 1.").rank(1),
     };
     return HardwareElement::initializeProperties() && addProperties(table);
 }
@@ -21,7 +21,7 @@ bool CANBusDevice::initializeProperties()
 bool EthernetPort::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow().rank(1),
+        channelRow("The number of the Ethernet port on the device, counted from 1.").rank(1),
     };
     return HardwareElement::initializeProperties() && addProperties(table);
 }
@@ -29,7 +29,7 @@ bool EthernetPort::initializeProperties()
 bool I2CBus::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow().rank(1),
+        channelRow("The number of the I2C bus on the device, counted from 1.").rank(1),
     };
     return HardwareElement::initializeProperties() && addProperties(table);
 }
@@ -37,7 +37,11 @@ bool I2CBus::initializeProperties()
 bool RS485COMPort::initializeProperties()
 {
     static const PropertyTable table{
-        projectLinkRow("mapping", "Address Map", "MappingVariable").rank(1).qml(&linkNameToQml),
+        projectLinkRow("mapping", "Address Map",
+                       "The Modbus map variable with the registers that a master can read and write.",
+                       "MappingVariable")
+            .rank(1)
+            .qml(&linkNameToQml),
     };
     return HardwareElement::initializeProperties() && addProperties(table);
 }
@@ -45,7 +49,7 @@ bool RS485COMPort::initializeProperties()
 bool SPIPort::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow().rank(1),
+        channelRow("The number of the SPI port on the device, counted from 1.").rank(1),
     };
     return HardwareElement::initializeProperties() && addProperties(table);
 }
@@ -53,8 +57,14 @@ bool SPIPort::initializeProperties()
 bool SerialCOMPort::initializeProperties()
 {
     static const PropertyTable table{
-        channelRow().rank(1).validator(&PropertyValidators::channelValidator),
-        projectLinkRow("mapping", "Address Map", "MappingVariable").rank(2).qml(&linkNameToQml),
+        channelRow("The number of the serial port on the device, counted from 1.")
+            .rank(1)
+            .validator(&PropertyValidators::channelValidator),
+        projectLinkRow("mapping", "Address Map",
+                       "The Modbus map variable with the registers that a master can read and write.",
+                       "MappingVariable")
+            .rank(2)
+            .qml(&linkNameToQml),
     };
     return HardwareElement::initializeProperties() && addProperties(table);
 }

@@ -32,14 +32,19 @@ QmlBindings sourceToQml(const DesignerProperty *property)
 bool Image::initializeProperties()
 {
     static const PropertyTable table{
-        projectLinkRow("source", "Source", "ImageResource")
+        projectLinkRow("source", "Source", "The image of the project that is shown.", "ImageResource")
             .rank(2)
             .needsPictures()
             .editor("ImageSourceEditor")
             .validator(&linkTargetValidator)
             .qml(&sourceToQml),
-        row<SizeProperty>("size", "Size", QSizeF(100, 100)).rank(3).allowInvalid(),
+        row<SizeProperty>("size", "Size", QSizeF(100, 100))
+            .description("The width and the height at which the image is drawn, in pixels.")
+            .rank(3)
+            .allowInvalid(),
         row<BooleanProperty>("keepRatio", "Keep Proportions", true)
+            .description(
+                "Whether the canvas keeps the proportions of width and height when the image is resized.")
             .rank(4)
             .flags(notAtRuntime)
             .editor("KeepRatioEditor"),

@@ -17,11 +17,24 @@ namespace Halvane::Corvex::Elements {
 bool Rectangle::initializeProperties()
 {
     static const PropertyTable table{
-        row<SizeProperty>("size", "Size", QSizeF(100, 60)).rank(2).allowInvalid(),
-        row<ColorProperty>("color", "Color", QColor(Qt::white)).rank(3).qml(&boundToQml),
-        bindingRow("colorBinding", "Color (Expression)", "PropertyEditor").rank(4),
-        row<BorderProperty>("border", "Border", BorderInfo(1, Qt::black)).rank(5).allowInvalid(),
+        row<SizeProperty>("size", "Size", QSizeF(100, 60))
+            .description("The width and the height of the rectangle, in pixels.")
+            .rank(2)
+            .allowInvalid(),
+        row<ColorProperty>("color", "Color", QColor(Qt::white))
+            .description("The color of the area.")
+            .rank(3)
+            .qml(&boundToQml),
+        bindingRow("colorBinding", "Color (Expression)",
+                   "A color that follows values; while it is set, it replaces the fixed color.",
+                   "PropertyEditor")
+            .rank(4),
+        row<BorderProperty>("border", "Border", BorderInfo(1, Qt::black))
+            .description("The width of the border, in pixels, and its color.")
+            .rank(5)
+            .allowInvalid(),
         row<IntegerProperty>("radius", "Corner Radius", 0)
+            .description("How far the corners are rounded, in pixels.")
             .rank(6)
             .parameter("minimum", 0)
             .parameter("suffix", QStringLiteral(" px"))

@@ -21,16 +21,27 @@ bool StandardVisual::initializeProperties()
         PropertyRow::redescribe(getProperty(u"position")).qml(&boundToQml),
         PropertyRow::redescribe(getProperty(u"rotation")).qml(&boundToQml),
         PropertyRow::redescribe(getProperty(u"visible")).qml(&boundToQml),
-        bindingRow("xBinding", "Position X (Expression)", "VerticalMathExpressionEditor")
+        bindingRow("xBinding", "Position X (Expression)",
+                   "An expression for the distance from the left, in pixels; while it is set, it replaces "
+                   "the fixed position.",
+                   "VerticalMathExpressionEditor")
             .rank(60)
             .parameter("group", group),
-        bindingRow("yBinding", "Position Y (Expression)", "VerticalMathExpressionEditor")
+        bindingRow("yBinding", "Position Y (Expression)",
+                   "An expression for the distance from the top, in pixels; while it is set, it replaces the "
+                   "fixed position.",
+                   "VerticalMathExpressionEditor")
             .rank(61)
             .parameter("group", group),
-        bindingRow("rotationBinding", "Rotation (Expression)", "VerticalMathExpressionEditor")
+        bindingRow("rotationBinding", "Rotation (Expression)",
+                   "An expression for the clockwise angle, in degrees; while it is set, it replaces the "
+                   "fixed angle.",
+                   "VerticalMathExpressionEditor")
             .rank(62)
             .parameter("group", group),
-        bindingRow("visibleBinding", "Visible (Expression)", "VerticalBooleanExpressionEditor")
+        bindingRow("visibleBinding", "Visible (Expression)",
+                   "A condition: the element is shown while it is true; it replaces the fixed setting.",
+                   "VerticalBooleanExpressionEditor")
             .rank(63)
             .parameter("group", group),
     };

@@ -46,22 +46,39 @@ bool Text::initializeProperties()
     static const QString numbers = Common::LocalizationHelper::coreString(u"Numbers"_s);
     static const PropertyTable table{
         row<StringProperty>("text", "Text", QString())
+            .description("The text that is shown; it may have several lines.")
             .rank(2)
             .editor("PlainTextEditor")
             .qml(&textToQml)
             .allowInvalid(),
-        bindingRow("textBinding", "Text (Expression)", "VerticalStringExpressionEditor").rank(3),
-        row<FontProperty>("font", "Font", QFont(u"DejaVu Sans"_s, 12)).rank(4),
-        row<ColorProperty>("color", "Color", QColor(Qt::black)).rank(5).qml(&boundToQml),
-        bindingRow("colorBinding", "Color (Expression)", "PropertyEditor").rank(6),
-        row<SizeProperty>("size", "Size", QSizeF(120, 24)).rank(7).allowInvalid(),
+        bindingRow("textBinding", "Text (Expression)",
+                   "An expression whose text is shown; while it is set, it replaces the fixed text.",
+                   "VerticalStringExpressionEditor")
+            .rank(3),
+        row<FontProperty>("font", "Font", QFont(u"DejaVu Sans"_s, 12))
+            .description("The family, the size and the style of the letters.")
+            .rank(4),
+        row<ColorProperty>("color", "Color", QColor(Qt::black))
+            .description("The color of the letters.")
+            .rank(5)
+            .qml(&boundToQml),
+        bindingRow("colorBinding", "Color (Expression)",
+                   "A color that follows values; while it is set, it replaces the fixed color.",
+                   "PropertyEditor")
+            .rank(6),
+        row<SizeProperty>("size", "Size", QSizeF(120, 24))
+            .description("The width and the height of the area in which the text is placed, in pixels.")
+            .rank(7)
+            .allowInvalid(),
         row<EnumProperty>("horizontalAlignment", "Horizontal Alignment",
                           EnumInfo(QMetaEnum::fromType<HorizontalAlignment>(), AlignLeft))
+            .description("Where lines begin and end between the left and the right edge of the area.")
             .rank(8)
             .editor("EnumEditor")
             .qml(&alignmentToQml),
         row<EnumProperty>("verticalAlignment", "Vertical Alignment",
                           EnumInfo(QMetaEnum::fromType<VerticalAlignment>(), AlignVCenter))
+            .description("Where the lines are placed between the top and the bottom edge of the area.")
             .rank(9)
             .editor("EnumEditor")
             .qml(&alignmentToQml),

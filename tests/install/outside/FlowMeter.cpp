@@ -25,7 +25,8 @@ protected:
     bool initializeProperties() override
     {
         static const PropertyTable table{
-            row<IntegerProperty>("litres", "Litres per Minute", 12),
+            row<IntegerProperty>("litres", "Litres per Minute", 12)
+                .description("The flow at which the lamp lights, in litres per minute."),
             row<LinkProperty>("visualElement", "Lamp",
                               ObjectLinkInfo(QString(), u"Screen"_s, u"VisualElement"_s))
                 .flags(OrdinaryFlags.toInt())
@@ -41,8 +42,13 @@ protected:
 };
 
 //! Screens have a list of these elements, and a preview shows them as buttons.
-constexpr ClassRow classes[] = {
-    {"FlowMeter", &makeObject<FlowMeter>, "flowMeter", "Flow Meter", "flowMeters", "Button"}};
+constexpr ClassRow classes[] = {{.className = "FlowMeter",
+                                 .make = &makeObject<FlowMeter>,
+                                 .baseName = "flowMeter",
+                                 .displayName = "Flow Meter",
+                                 .screenList = "flowMeters",
+                                 .preview = "Button",
+                                 .description = "Lights a lamp at a certain flow."}};
 
 class FlowFactory
     : public QObject

@@ -59,6 +59,8 @@ bool Element::initializeProperties()
 {
     static const PropertyTable table{
         row<IdentifierProperty>("id", "Name", IdentifierInfo())
+            .description(
+                "The name by which expressions and other elements of the screen refer to this element.")
             .rank(0)
             .flags(15)
             .allowInvalid()

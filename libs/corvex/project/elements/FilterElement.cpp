@@ -12,6 +12,8 @@ bool FilterElement::initializeProperties()
 {
     static const PropertyTable table{
         row<ListValueProperty>("elements", "Elements", ListInfo())
+            .description("The names of the elements that the filter lists.")
+            .example("lamp | button")
             .rank(1)
             .references(Form::Names)
             .parameter("scopeType", u"Screen"_s)

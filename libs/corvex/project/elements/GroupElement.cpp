@@ -18,12 +18,15 @@ bool GroupElement::initializeProperties()
 {
     static const PropertyTable table{
         row<ListValueProperty>("indexes", "Indexes", ListInfo())
+            .description("The names of the members in the order in which they are drawn, the lowest first.")
+            .example("caption | lamp")
             .rank(2)
             .editor("ItemsOrderEditor")
             .references(Form::Names)
             .validator(&PropertyValidators::groupIndexesValidator)
             .allowInvalid(),
         row<ObjectListProperty>("elements", "Elements", OrderRule::InsertionOrder)
+            .description("The elements of the group.")
             .rank(3)
             .flags(StoredFlag | RuntimeFlag | ListFlag)
             .filter({"Element"})

@@ -38,6 +38,8 @@ bool VisualElement::initializeProperties()
     static const QString group = Common::LocalizationHelper::coreString(u"Appearance"_s);
     static const PropertyTable table{
         row<PointProperty>("position", "Position", QPointF())
+            .description("The place of the top left corner on the screen, or in the group, in pixels from "
+                         "the left and the top.")
             .rank(1)
             .flags(15)
             .tooltip("Position (0, 0) is top left of screen.")
@@ -53,10 +55,13 @@ bool VisualElement::initializeProperties()
             .qml(&percentToQml)
             .allowInvalid(),
         row<TransformOriginProperty>("transformOrigin", "Transform Origin", QQuickItem::Center)
+            .description("The point of the element that stays in place when it is rotated or scaled.")
             .rank(51)
             .parameter("group", group)
             .tooltip("Controls the point about which simple transforms like scale apply."),
         row<RealProperty>("rotation", "Rotation (Clockwise)", 0.0)
+            .description("The angle by which the element is turned clockwise, in degrees.")
+            .example("45")
             .rank(52)
             .parameter("group", group)
             .parameter("minimum", 0)
@@ -66,6 +71,9 @@ bool VisualElement::initializeProperties()
             .parameter("suffix", u"\u00B0"_s)
             .allowInvalid(),
         row<RealProperty>("scale", "Scale", 100.0)
+            .description("The size at which the element is drawn, in percent of its own size; a negative "
+                         "scale also mirrors it.")
+            .example("150")
             .rank(53)
             .parameter("group", group)
             .editor("ScaleEditor")
@@ -75,6 +83,7 @@ bool VisualElement::initializeProperties()
             .qml(&percentToQml)
             .allowInvalid(),
         row<IntegerProperty>("z", "Layer", 0)
+            .description("The layer of the element; elements on a higher layer cover those on a lower one.")
             .rank(54)
             .parameter("group", group)
             .parameter("minimum", 0)
@@ -83,6 +92,7 @@ bool VisualElement::initializeProperties()
             .parameter("singleStep", 1)
             .allowInvalid(),
         row<BooleanProperty>("visible", "Visible", true)
+            .description("Whether the element is shown and reacts to touches.")
             .rank(55)
             .parameter("group", group)
             .tooltip("When set to invisible the visual element will become unclickable."),
