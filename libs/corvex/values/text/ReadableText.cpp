@@ -47,6 +47,17 @@ QString printPair(double first, QLatin1StringView separator, double second)
     return Conversion::toString(first) + separator + Conversion::toString(second);
 }
 
+//! Also reads the long names of colors, which the stored form does not have, and "transparent".
+QColor readColor(const QString &text, bool &ok)
+{
+    if (!text.startsWith(u'#')) {
+        const QColor named(text);
+        ok = named.isValid();
+        return named;
+    }
+    return Conversion::toColor(text, &ok);
+}
+
 QString shortColor(const QColor &color)
 {
     const QString name = Conversion::toString(color);
@@ -152,7 +163,7 @@ QString ReadableText::toBorder(const QString &text)
     bool isWidth = false;
     bool isColor = words.size() == 1;
     const int width = Conversion::toInt(words.first(), &isWidth);
-    const QColor color = isColor ? QColor(Qt::black) : Conversion::toColor(words.at(1), &isColor);
+    const QColor color = isColor ? QColor(Qt::black) : readColor(words.at(1), isColor);
     return isWidth && isColor && words.size() <= 2 ? BorderInfo(width, color).toString() : QString();
 }
 
@@ -166,7 +177,7 @@ QString ReadableText::fromColor(const QString &stored)
 QString ReadableText::toColor(const QString &text)
 {
     bool ok = false;
-    const QColor color = Conversion::toColor(text.trimmed(), &ok);
+    const QColor color = readColor(text.trimmed(), ok);
     return ok ? Conversion::toString(color) : QString();
 }
 

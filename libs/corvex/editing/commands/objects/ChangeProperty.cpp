@@ -77,7 +77,7 @@ ChangeProperty::ChangeProperty(const SharedProperty &property, const QString &va
     }
     setupCommand();
     notePending(property, m_after);
-    m_isFileMissing = notifyFileMissing();
+    m_missingImage = findMissingImage();
 }
 
 //! If a name is also a file name, the only child is a command that renames both.
@@ -135,21 +135,21 @@ void ChangeProperty::followName()
         && (owner()->isKindOfClass(u"HardwareElement"_s) || owner()->isKindOfClass(u"FunctionElement"_s));
 }
 
-bool ChangeProperty::notifyFileMissing() const
+QString ChangeProperty::findMissingImage() const
 {
     const Project *project = owner()->project();
     if (!project || !property()->needsPictures()) {
-        return false;
+        return {};
     }
     for (const Mention &mention : ReferenceForm::mentions(*property(), m_after)) {
         if (mention.kinds.testFlag(NamedKind::Image) && !meansOtherObject(mention, owner())
             && !isFileThere(project, mention.path)) {
             qDebug().noquote() << u"%1: the file of the image \"%2\" is missing."_s.arg(owner()->objectPath(),
                                                                                         mention.path);
-            return true;
+            return mention.path;
         }
     }
-    return false;
+    return {};
 }
 
 //! Why the object cannot get the new name. The rules are checked each time, because previous commands in a
@@ -165,13 +165,18 @@ QString ChangeProperty::nameError() const
 
 bool ChangeProperty::isValid() const
 {
-    return !m_isFileMissing && ModelCommand::isValid() && nameError().isEmpty();
+    return m_missingImage.isNull() && ModelCommand::isValid() && nameError().isEmpty();
 }
 
 QString ChangeProperty::errorString() const
 {
-    if (m_isFileMissing) {
-        return Common::LocalizationHelper::coreString(u"The file of the image is missing."_s);
+    if (!m_missingImage.isNull()) {
+        const bool isKnown = owner()->project()->imageResources()->hasListItem(m_missingImage);
+        return Common::LocalizationHelper::coreString(
+                   isKnown
+                       ? u"The file of the image \"%1\" is missing. Replace it, or choose another image."_s
+                       : u"The project has no image \"%1\". Add it first, or choose another one."_s)
+            .arg(m_missingImage);
     }
     const QString error = nameError();
     return error.isEmpty() ? ModelCommand::errorString() : error;

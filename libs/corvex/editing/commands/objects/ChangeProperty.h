@@ -37,13 +37,13 @@ private:
     bool renamesFile();
     void followLinkedElement();
     void followName();
-    bool notifyFileMissing() const;
+    QString findMissingImage() const;
     QString nameError() const;
     bool set(const QString &value);
 
     QString m_before;
     QString m_after;
-    bool m_isFileMissing = false;
+    QString m_missingImage; //!< an image in the new value that has no file
     bool m_sortsList = false;
 };
 
