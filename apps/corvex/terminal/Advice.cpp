@@ -21,7 +21,7 @@ QString placeOf(const EditRefusal &refusal)
     case EditRefusal::Edits:
         return u"\"corvex help edit\" lists them."_s;
     case EditRefusal::Classes:
-        return u"--plugins DIR loads other plug-ins with more classes."_s;
+        return u"\"corvex classes\" lists them; --plugins DIR loads other plug-ins with more."_s;
     case EditRefusal::Models:
         return u"\"corvex new --list-models\" lists them."_s;
     case EditRefusal::Contents:

@@ -16,11 +16,13 @@ using Designer::EditScript;
 
 namespace {
 
-void printJson(const QList<EditScript::Edit> &edits, bool isSaved, const Call &call)
+void printJson(const QList<EditScript::Edit> &edits, const QStringList &doubts, bool isSaved,
+               const Call &call)
 {
     JsonWriter &json = call.json();
     json.beginObject();
     json.member("saved"_L1, isSaved);
+    json.member("warnings"_L1, doubts);
     json.name("edits"_L1);
     json.beginArray();
     for (const auto &[text, parts, changes] : edits) {
@@ -81,13 +83,17 @@ ExitCode EditReport::finish(EditScript &script, const ProjectFile &file, const C
     for (const QString &output : script.takeOutput()) {
         call.terminal().print(output);
     }
+    const QStringList doubts = script.invalidValues();
+    for (const QString &doubt : call.asJson() ? QStringList() : doubts) {
+        call.terminal().printError(Terminal::oneLine(u"warning: "_s + doubt));
+    }
     const bool isTrial = call.isSet(u"dry-run"_s);
     const ExitCode code = isTrial || edits.isEmpty() ? ExitCode::Done : file.save(call);
     if (isTrial || code != ExitCode::Done) {
         script.undoAll();
     }
     if (call.asJson()) {
-        printJson(edits, !isTrial && code == ExitCode::Done, call);
+        printJson(edits, doubts, !isTrial && code == ExitCode::Done, call);
     } else if (isTrial) {
         print(edits, call);
     }

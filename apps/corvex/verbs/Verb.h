@@ -34,6 +34,7 @@ struct Verb
 extern const Verb approveVerb;
 extern const Verb buildVerb;
 extern const Verb checkVerb;
+extern const Verb classesVerb;
 extern const Verb configDumpVerb;
 extern const Verb diffVerb;
 extern const Verb editVerb;

@@ -13,9 +13,9 @@ QCommandLineOption rawOption()
 const QList<const Verb *> &allVerbs()
 {
     static const QList<const Verb *> verbs{
-        &newVerb,    &infoVerb,       &treeVerb,  &usesVerb,  &diffVerb,      &editVerb,   &renameVerb,
-        &checkVerb,  &approveVerb,    &fmtVerb,   &buildVerb, &previewVerb,   &renderVerb, &exportVerb,
-        &importVerb, &configDumpVerb, &valueVerb, &exprVerb,  &functionsVerb, &helpVerb,
+        &newVerb,    &infoVerb,       &treeVerb,  &usesVerb,  &diffVerb,    &editVerb,      &renameVerb,
+        &checkVerb,  &approveVerb,    &fmtVerb,   &buildVerb, &previewVerb, &renderVerb,    &exportVerb,
+        &importVerb, &configDumpVerb, &valueVerb, &exprVerb,  &classesVerb, &functionsVerb, &helpVerb,
     };
     return verbs;
 }

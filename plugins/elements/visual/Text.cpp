@@ -103,13 +103,15 @@ bool Text::initializeProperties()
             .rank(52)
             .editor("SingleLineEditor")
             .parameter("group", numbers)
-            .description("The text before a number that the expression gives."),
+            .description("The text before a number that the expression gives.")
+            .example("p:"),
         row<StringProperty>("suffix", "Suffix", QString())
             .flags(notAtRuntime)
             .rank(53)
             .editor("SingleLineEditor")
             .parameter("group", numbers)
-            .description("The text after a number that the expression gives, such as its unit."),
+            .description("The text after a number that the expression gives, such as its unit.")
+            .example("bar"),
     };
     return StandardVisual::initializeProperties() && addProperties(table);
 }

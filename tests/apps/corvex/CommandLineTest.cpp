@@ -38,10 +38,10 @@ TEST(CommandLine, PrintsItsVersionAndItsVerbs)
     EXPECT_EQ(version.out, u"corvex " CORVEX_VERSION "\n"_s);
     EXPECT_EQ(version.code, 0);
 
-    const QStringList verbs{u"new"_s,         u"info"_s,    u"tree"_s,   u"uses"_s,      u"diff"_s,
-                            u"edit"_s,        u"rename"_s,  u"check"_s,  u"approve"_s,   u"fmt"_s,
-                            u"build"_s,       u"preview"_s, u"render"_s, u"export"_s,    u"import"_s,
-                            u"config-dump"_s, u"value"_s,   u"expr"_s,   u"functions"_s, u"help"_s};
+    const QStringList verbs{
+        u"new"_s,    u"info"_s,        u"tree"_s,  u"uses"_s,  u"diff"_s,    u"edit"_s,      u"rename"_s,
+        u"check"_s,  u"approve"_s,     u"fmt"_s,   u"build"_s, u"preview"_s, u"render"_s,    u"export"_s,
+        u"import"_s, u"config-dump"_s, u"value"_s, u"expr"_s,  u"classes"_s, u"functions"_s, u"help"_s};
     const ProgramRun list = corvex({u"help"_s});
     EXPECT_EQ(list.code, 0);
     for (const QString &verb : verbs) {
@@ -86,6 +86,11 @@ TEST(CommandLine, RefusesWrongUsage)
         {{u"expr"_s, u"bool"_s, u"0203t"_s, u"--output"_s, u"text"_s},
          u"There is no type \"text\". Available: raw, string, boolean, integer, float, number, color. See "
          "\"corvex help expr\"."_s},
+        {{u"classes"_s, u"Rectangel"_s},
+         u"There is no class \"Rectangel\"; did you mean \"Rectangle\"? \"corvex classes\" lists them all."_s},
+        {{u"classes"_s, u"Rectangle.sise"_s},
+         u"There is no property \"sise\"; did you mean \"size\"? \"corvex classes Rectangle\" shows those of "
+         "the class."_s},
         {{u"expr"_s, u"bool"_s, u"0203t"_s, u"--output"_s}, u"Missing value after '--output'."_s},
     };
     for (const auto &[arguments, error] : cases) {

@@ -132,15 +132,16 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
         {"set Main.size height: 1; width: 1;", "\"Main.size\" cannot be set; it depends on other values."},
         {"set Main.title.text \xff", "The script is not in UTF-8. Save it in UTF-8."},
         {"set Main.photo.source filterType: ImageResource; objectId: x.png; scopeType: Project;",
-         "The file of the image is missing."},
+         "The project has no image \"x.png\". Add it first, or choose another one."},
         {"set Main.title.id x", "Use rename to change a name; it updates all references."},
         {"rename Main.title", "Usage: rename PATH NAME"},
         {"rename Main.title box1", "The name is not unique. \"Main.box1\" (Rectangle) has this name."},
         {"rename speed s",
          "The name is in the wrong format. Only letters, numbers and underscore are allowed. "
          "The first character must be a letter. Use at least 2 characters."},
-        {"add Nothing Main",
-         "There is no class \"Nothing\". --plugins DIR loads other plug-ins with more classes."},
+        {"add Nothing Main", "There is no class \"Nothing\". \"corvex classes\" lists them; --plugins DIR "
+                             "loads other plug-ins with "
+                             "more."},
         {"add Rectangle Main box1", "This cannot be added. There is already a \"box1\" in \"Main\". "
                                     "Rename one of the two first."},
         {"move Main.box1 Main.box1", "\"Main.box1\" has no list for an object of the class Rectangle."},
@@ -213,6 +214,16 @@ TEST_F(EditVerb, AnInterruptedScriptIsUndone)
               u"corvex: Interrupted: \"%1\" was not changed.\n"_s.arg(pump));
     EXPECT_EQ(sandbox.read(pump), before);
     EXPECT_EQ(sandbox.files(u"Pump"_s), QStringList{u"Pump.kdproj"_s});
+}
+
+TEST_F(EditVerb, WarnsOfInvalidValuesThatTheProjectKeeps)
+{
+    const QByteArray script = "set Main.title.opacity 300\nset Main.title.opacity 50\nset Main.box1.z 5000\n";
+    const ProgramRun run = edit(script, {u"--dry-run"_s});
+    EXPECT_EQ(run.error, u"warning: Main.box1.z: z takes numbers from 0 to 1000, not 5000.\n"_s);
+    EXPECT_EQ(run.code, 0);
+    const QJsonValue json = edit(script, {u"--json"_s}).json();
+    EXPECT_EQ(json[u"warnings"_s].toArray().size(), 1);
 }
 
 TEST_F(EditVerb, ADryRunShowsWhatFollows)

@@ -100,6 +100,11 @@ TEST(JsonOutcome, IsOneObjectForEveryVerbAndEveryOutcome)
         {u"expr math 02041"_s, 0, u"code"_s},
         {u"expr math 02041+"_s, 1, u"errors"_s},
         {u"expr meth 02041"_s, 2, u"errors"_s},
+        {u"classes"_s, 0, u"classes"_s},
+        {u"classes Rectangle"_s, 0, u"classes"_s},
+        {u"classes Rectangle.sise"_s, 2, u"errors"_s},
+        {u"functions"_s, 0, u"functions"_s},
+        {u"functions sqr"_s, 2, u"errors"_s},
     };
     for (const auto &[call, code, member] : cases) {
         const QString line = call.contains(u"%1"_s) ? call.arg(pump) : call;

@@ -25,6 +25,8 @@ struct CORVEX_EXPORT EditPlan
 
     //! The object that the command adds. Undo the command if its name turns out to be invalid.
     const DesignerObject *added = nullptr;
+    //! The property that the command sets; null for other edits.
+    SharedProperty changed;
     //! For the user, if the model gives no reason for a refusal.
     QString defaultReason;
     //! Adds advice to a reason of the model; may be null.

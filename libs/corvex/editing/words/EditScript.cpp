@@ -127,6 +127,9 @@ bool EditScript::push(EditPlan &plan)
         }
         changes.append(change);
     }
+    if (plan.changed) {
+        m_changed.insert(plan.changed);
+    }
     std::ranges::stable_sort(changes, {}, &Change::property);
     m_edits.append({command->text(), partsOf(*command), changes});
     return true;
@@ -146,6 +149,19 @@ EditScript::Result EditScript::noteFailure(const EditCall &call)
     }
     m_hasFailed = true;
     return follows ? Result::Follows : Result::Failed;
+}
+
+QStringList EditScript::invalidValues() const
+{
+    QStringList lines;
+    for (const SharedProperty &property : m_changed) {
+        const DesignerObject *owner = property->parentObject();
+        if (owner && owner->project() == &m_project && !property->isValid()) {
+            lines.append(u"%1: %2"_s.arg(pathOf(property), property->errorString()));
+        }
+    }
+    lines.sort();
+    return lines;
 }
 
 void EditScript::undoAll()

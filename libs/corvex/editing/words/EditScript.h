@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/Export.h"
+#include "corvex/core/DesignerProperty.h"
 #include "corvex/editing/words/EditPlan.h"
 
 #include <QList>
@@ -67,6 +68,9 @@ public:
     const QList<Edit> &edits() const { return m_edits; }
     //! The output of all lines since the last call, including failed ones.
     QStringList takeOutput() { return std::exchange(m_output, {}); }
+    //! The values that the edits set and that the project keeps although they are invalid, with the reasons:
+    //! "Main.lamp.opacity: opacity takes numbers from 10 to 100, not 300." Sorted.
+    QStringList invalidValues() const;
     //! Permanently undoes all edits, including the files that they added.
     void undoAll();
 
@@ -79,6 +83,7 @@ private:
     std::unique_ptr<EditPlanner> m_planner;
     EditRefusal m_refusal;
     QList<Edit> m_edits;
+    QSet<SharedProperty> m_changed; //!< by "set"
     QStringList m_output;
     bool m_hasFailed = false;
     bool m_isLost = false; //!< the current position in the history depends on failed lines

@@ -177,7 +177,7 @@ std::optional<QList<SettingText>> readSettings(const Place &place, const QString
 }
 
 const ReadableForm *formOf(const DesignerProperty &property);
-QString printBare(const DesignerProperty &property, const QString &stored);
+QString printBare(const Place &place, const QString &stored);
 
 QString printSettings(const Place &place, QList<SettingText> settings)
 {
@@ -185,7 +185,7 @@ QString printSettings(const Place &place, QList<SettingText> settings)
         const SharedProperty target = targetOf(place, setting);
         const bool isExpression = target && propertyCast<GeneralDataListProperty>(target);
         const bool isPlain = !target || !formOf(*target);
-        const QString value = target ? printBare(*target, setting.value) : setting.value;
+        const QString value = target ? printBare({*target, place.project}, setting.value) : setting.value;
         const bool isQuoted =
             isExpression ? value.isEmpty()
                          : SettingText::needsQuotes(value) || (isPlain && ReadableText::needsQuotes(value));
@@ -381,14 +381,12 @@ Reading readAt(const Place &place, QString text)
     return removeQuotes(place.property, text, error) ? readUnquoted(place, text) : Reading{{}, error};
 }
 
-QString printBare(const DesignerProperty &property, const QString &stored)
+QString printBare(const Place &place, const QString &stored)
 {
-    const ReadableForm *form = formOf(property);
-    const Project *project = property.parentObject()->project();
-    if (!form || !project || stored.isEmpty()) {
+    const ReadableForm *form = formOf(place.property);
+    if (!form || stored.isEmpty()) {
         return stored;
     }
-    const Place place{property, *project};
     const QString text = form->print(place, stored);
     if (text.isNull() || form->isStored(text)) {
         return stored;
@@ -435,9 +433,14 @@ QString ReadableValue::printExpression(const GeneralDataList &terms, const Expre
 
 QString ReadableValue::print(const DesignerProperty &property, const QString &stored)
 {
-    const bool isPlain = !formOf(property) && property.parentObject()->project();
-    return isPlain && ReadableText::needsQuotes(stored) ? ReadableText::quoted(stored)
-                                                        : printBare(property, stored);
+    const Project *project = property.parentObject()->project();
+    return project ? print(property, stored, *project) : stored;
+}
+
+QString ReadableValue::print(const DesignerProperty &property, const QString &stored, const Project &project)
+{
+    return !formOf(property) && ReadableText::needsQuotes(stored) ? ReadableText::quoted(stored)
+                                                                  : printBare({property, project}, stored);
 }
 
 } // namespace Halvane::Corvex::Designer

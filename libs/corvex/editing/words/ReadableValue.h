@@ -44,6 +44,8 @@ public:
     //! an expression are looked up, so the form can change with the objects that the value names. For an
     //! object outside of a project it is the stored form.
     static QString print(const DesignerProperty &property, const QString &stored);
+    //! The same for an object that need not be in the project whose names its value contains.
+    static QString print(const DesignerProperty &property, const QString &stored, const Project &project);
     static QString print(const DesignerProperty &property) { return print(property, property.valueString()); }
 };
 

@@ -231,9 +231,13 @@ void EditPlanner::setValue(const SharedProperty &property, const EditCall &call,
         refuse(plan, u"\"%1\": %2"_s, path, value.error);
         return;
     }
-    plan.defaultReason = text(u"\"%1\" does not accept \"%2\"."_s, path, value.stored);
+    const bool isHidden = !property->editorParameters().value(u"visible"_s, true).toBool();
+    plan.defaultReason = isHidden ? text(u"\"%1\" is always %2 in objects of the class %3."_s, path,
+                                         property->valueString(), property->parentObject()->className())
+                                  : text(u"\"%1\" does not accept \"%2\"."_s, path, value.stored);
     if (property->valueString() != value.stored) {
         take(std::make_unique<ChangeProperty>(property, value.stored, false), plan);
+        plan.changed = property;
     }
 }
 
