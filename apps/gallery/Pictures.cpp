@@ -44,6 +44,7 @@ QStringList Pictures::draw()
     drawPanels();
     drawEditors();
     drawReferences();
+    drawExpressions();
     return m_errors;
 }
 

@@ -21,6 +21,7 @@ private:
     void drawPanels();
     void drawEditors();
     void drawReferences();
+    void drawExpressions();
     void drawEditor(const QString &name, const QString &className, const QString &id);
     void save(QWidget &widget, const QString &name);
 

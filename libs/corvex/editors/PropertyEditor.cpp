@@ -37,6 +37,7 @@ void PropertyEditor::setProperty(PropertySheet *sheet, const QString &id)
     }
     m_hasEntry = false;
     m_refusal.clear();
+    m_elsewhere.clear();
     m_row.id = id;
     if (m_sheet != sheet) {
         m_sheet = sheet;
@@ -57,8 +58,38 @@ void PropertyEditor::setProperty(PropertySheet *sheet, const QString &id)
     follow();
 }
 
+void PropertyEditor::setElsewhere(const SharedProperty &property, const SheetRow &row)
+{
+    setProperty(nullptr, row.id);
+    m_elsewhere = property;
+    setEnabled(true);
+    update(row);
+}
+
+std::optional<QString> PropertyEditor::takeEntry()
+{
+    if (!m_hasEntry || !m_elsewhere || m_row.isReadOnly) {
+        return {};
+    }
+    const Entry entry = entryFor(*m_elsewhere);
+    const QString reason = entry.error.isEmpty() ? m_elsewhere->refusalOf(entry.text) : entry.error;
+    if (!reason.isEmpty()) {
+        refuse(reason);
+        return {};
+    }
+    m_hasEntry = false;
+    SheetRow row = m_row;
+    row.value = entry.text;
+    row.error.clear();
+    update(row);
+    return entry.text;
+}
+
 QList<SharedProperty> PropertyEditor::properties() const
 {
+    if (m_elsewhere) {
+        return {m_elsewhere};
+    }
     const int row = m_sheet ? m_sheet->rowOf(m_row.id) : -1;
     return row < 0 ? QList<SharedProperty>() : m_sheet->properties(row);
 }

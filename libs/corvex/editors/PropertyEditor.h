@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
+
 class QHBoxLayout;
 class QLabel;
 class QVBoxLayout;
@@ -39,6 +41,13 @@ public:
     //! Edits the row with that id. The editor continues when the sheet gets other objects that have such a
     //! row, and is hidden while it has none.
     void setProperty(PropertySheet *sheet, const QString &id);
+    /*! Edits a value for \a property that is stored elsewhere, such as in a state of a button. \a row describes
+        the property and holds the value. The owner stores what takeEntry() returns after entered().
+    */
+    void setElsewhere(const SharedProperty &property, const SheetRow &row);
+    //! The stored text of the entry for setElsewhere(). Nothing if there is no entry, or if the property
+    //! refuses it; the editor shows the reason then.
+    std::optional<QString> takeEntry();
     PropertySheet *sheet() const { return m_sheet; }
     const QString &propertyId() const { return m_row.id; }
     //! The row as it is shown.
@@ -148,6 +157,7 @@ private:
         QString part;
     };
     QPointer<PropertySheet> m_sheet;
+    SharedProperty m_elsewhere; //!< the property of a value that is stored elsewhere
     SheetRow m_row;
     QVBoxLayout *m_layout;
     QHBoxLayout *m_fields;
