@@ -3,22 +3,69 @@
 
 #include "corvex/editors/PropertyEditor.h"
 
+class QToolButton;
+
 namespace Halvane::Corvex::Designer {
 
-class CORVEX_EXPORT ElementPropertyChangesEditor : public PropertyEditor
+class ChangesTable;
+class ExpressionEdit;
+
+/*! Edits what a state, an action or a press of a button changes: as a table with a line for each change, or
+   as readable text. Each value has the editor of its property.
+*/
+class CORVEX_EXPORT ChangesEditor : public PropertyEditor
 {
     Q_OBJECT
 
 public:
-    using PropertyEditor::PropertyEditor;
+    explicit ChangesEditor(QWidget *parent = nullptr);
+
+    bool isWide() const override { return true; }
+    //! Adds a line that sets the property of the element to its current value, or updates the line that it
+    //! has. For a canvas that the user changes while a state is recorded.
+    void record(const DesignerObject *object, const QString &property);
+    //! Returns false if the other view cannot show the whole value; the editor shows the reason.
+    bool showAsText(bool isText);
+
+signals:
+    //! The user wants changes on the canvas to be recorded with record(), or no longer. The button is hidden
+    //! while nobody receives this.
+    void recordingRequested(bool isOn);
+
+protected:
+    void createFields() override;
+    void showRow() override;
+    PlannedCommand plan() const override;
+    Entry entryFor(const DesignerProperty &property) const override;
+    void connectNotify(const QMetaMethod &signal) override;
+    void disconnectNotify(const QMetaMethod &signal) override;
+
+private:
+    void showView(bool isText);
+
+    ChangesTable *m_table = nullptr;
+    ExpressionEdit *m_text = nullptr;
+    QToolButton *m_asText = nullptr;
+    QToolButton *m_record = nullptr;
+    bool m_wantsText = false; //!< the user has chosen the text
 };
 
-class CORVEX_EXPORT PropertyChangesEditor : public PropertyEditor
+//! The changes of a state: element, property and value.
+class CORVEX_EXPORT ElementPropertyChangesEditor : public ChangesEditor
 {
     Q_OBJECT
 
 public:
-    using PropertyEditor::PropertyEditor;
+    using ChangesEditor::ChangesEditor;
+};
+
+//! The changes of an action, or assignments.
+class CORVEX_EXPORT PropertyChangesEditor : public ChangesEditor
+{
+    Q_OBJECT
+
+public:
+    using ChangesEditor::ChangesEditor;
 };
 
 } // namespace Halvane::Corvex::Designer

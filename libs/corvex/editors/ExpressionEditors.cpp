@@ -5,16 +5,17 @@
 #include "corvex/core/ModelObserver.h"
 #include "corvex/core/ModelObservers.h"
 #include "corvex/editing/words/ReadableValue.h"
+#include "corvex/editors/changes/RulesDialog.h"
 #include "corvex/editors/expressions/ExpressionBuilder.h"
 #include "corvex/editors/expressions/ExpressionDialog.h"
 #include "corvex/editors/expressions/private/ExpressionCalculator.h"
 #include "corvex/editors/expressions/private/ExpressionEdit.h"
 #include "corvex/project/Project.h"
+#include "corvex/widgets/IconSet.h"
 #include "corvex/widgets/Theme.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QSet>
 #include <QTimer>
 #include <QToolButton>
@@ -95,21 +96,14 @@ void ExpressionEditor::createFields()
     });
 
     m_open = new QToolButton(this);
-    m_open->setText(u"\u0192"_s);
+    m_open->setIcon(IconSet::icon(IconSet::Open));
+    m_open->setAutoRaise(true);
     m_open->setFixedSize(Theme::fieldHeight(this), Theme::fieldHeight(this));
     m_open->setFocusPolicy(Qt::TabFocus);
     m_open->setToolTip(LocalizationHelper::coreString(u"Open the expression builder (F4)"_s));
     addField(m_open, LocalizationHelper::coreString(u"expression builder"_s));
     fields()->setAlignment(m_open, Qt::AlignTop);
     connect(m_open, &QToolButton::clicked, this, &ExpressionEditor::openBuilder);
-
-    m_result = new QLabel(this);
-    m_result->setTextFormat(Qt::PlainText);
-    m_result->setObjectName(u"result"_s);
-    m_result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_result->hide();
-    Theme::setTextColor(m_result, &Theme::muted);
-    layout()->addWidget(m_result);
     m_watch = std::make_unique<Watch>(*this);
 }
 
@@ -120,9 +114,8 @@ void ExpressionEditor::showRow()
     m_built.clear();
     m_edit->setScope(scope);
     m_edit->setPlaceholderText(row().isMixed ? mixedText() : QString());
-    m_edit->setShownText(row().isMixed || all.isEmpty() ? QString()
-                                                        : ReadableValue::print(*all.constFirst(), row().value));
-    m_open->setVisible(!scope.hasRules());
+    m_edit->setShownText(
+        row().isMixed || all.isEmpty() ? QString() : ReadableValue::print(*all.constFirst(), row().value));
     showResult();
     emit heightChanged();
 }
@@ -143,17 +136,11 @@ void ExpressionEditor::showResult()
         if (!m_calculator) {
             m_calculator = ExpressionCalculator::shared();
         }
-        shown = m_calculator->valueOf(scope, terms, purpose)
-                    .described(ExpressionScope::typeOf(purpose, terms));
+        shown =
+            m_calculator->valueOf(scope, terms, purpose).described(ExpressionScope::typeOf(purpose, terms));
     }
     m_watch->follow(shown.isEmpty() || !scope.owner() ? nullptr : scope.owner()->project(), terms);
-    m_result->setText(shown);
-    m_result->setToolTip(LocalizationHelper::coreString(
-        u"The type of the result, and its value with the initial values of the variables"_s));
-    if (m_result->isHidden() != shown.isEmpty()) {
-        m_result->setHidden(shown.isEmpty());
-        emit heightChanged();
-    }
+    setHint(shown);
 }
 
 PropertyEditor::Entry ExpressionEditor::entryFor(const DesignerProperty &property) const
@@ -178,30 +165,63 @@ void ExpressionEditor::keyPressEvent(QKeyEvent *event)
 void ExpressionEditor::openBuilder()
 {
     const QList<SharedProperty> all = properties();
-    if (m_dialog || all.isEmpty() || row().isReadOnly || m_edit->scope().hasRules()) {
+    if (m_dialog || all.isEmpty() || row().isReadOnly) {
         return;
     }
-    m_dialog = new ExpressionDialog(all.constFirst(), this);
-    m_dialog->setAttribute(Qt::WA_DeleteOnClose);
-    m_dialog->setWindowTitle(row().title);
-    if (hasEntry() && m_built.isNull()) {
-        m_dialog->builder()->setText(m_edit->toPlainText());
+    if (m_edit->scope().hasRules()) {
+        openRules(all.constFirst());
     } else {
-        m_dialog->builder()->setStored(m_built.isNull() ? row().value : m_built);
+        openExpressionBuilder(all.constFirst());
     }
-    connect(m_dialog, &QDialog::accepted, this, &ExpressionEditor::takeFromBuilder);
-    if (sheet()) {
-        connect(sheet(), &PropertySheet::modelAboutToBeReset, m_dialog, &ExpressionDialog::discard);
-    }
-    m_dialog->open();
 }
 
-void ExpressionEditor::takeFromBuilder()
+void ExpressionEditor::open(QDialog *dialog)
 {
-    const QString text = m_dialog->builder()->text();
+    m_dialog = dialog;
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(row().title);
+    if (sheet()) { // for other objects it would be wrong
+        connect(sheet(), &PropertySheet::modelAboutToBeReset, dialog,
+                [dialog] { dialog->done(QDialog::Rejected); });
+    }
+    dialog->open();
+}
+
+void ExpressionEditor::openExpressionBuilder(const SharedProperty &property)
+{
+    auto *dialog = new ExpressionDialog(property, this);
+    if (hasEntry() && m_built.isNull()) {
+        dialog->builder()->setText(m_edit->toPlainText());
+    } else {
+        dialog->builder()->setStored(m_built.isNull() ? row().value : m_built);
+    }
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog] { take(dialog->builder()->text(), dialog->builder()->stored()); });
+    open(dialog);
+}
+
+void ExpressionEditor::openRules(const SharedProperty &property)
+{
+    const Entry entry = hasEntry() ? entryFor(*property) : Entry{row().value, {}};
+    auto *dialog = new RulesDialog(property, this);
+    if (!entry.error.isEmpty() || !dialog->setStored(entry.text)) {
+        delete dialog;
+        refuse(entry.error.isEmpty()
+                   ? LocalizationHelper::coreString(u"The rules have parts without a readable form."_s)
+                   : entry.error);
+        return;
+    }
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog] { take(m_edit->scope().print(dialog->stored()), dialog->stored()); });
+    open(dialog);
+}
+
+//! An entry from a dialog; \a text is null if it has no readable form.
+void ExpressionEditor::take(const QString &text, const QString &stored)
+{
     m_edit->setFocus();
     m_edit->replaceText(0, m_edit->toPlainText().size(), text);
-    m_built = text.isNull() ? m_dialog->builder()->stored() : QString();
+    m_built = text.isNull() ? stored : QString();
     completeEntry();
 }
 

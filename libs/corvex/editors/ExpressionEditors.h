@@ -5,16 +5,16 @@
 
 #include <memory>
 
+class QDialog;
 class QToolButton;
 
 namespace Halvane::Corvex::Designer {
 
 class ExpressionCalculator;
-class ExpressionDialog;
 class ExpressionEdit;
 
-/*! Edits an expression as readable text, with completion. Beneath it are the type of the result and its value
-    today, with the initial values of the variables. A button, F4 and Ctrl+E open the builder.
+/*! Edits an expression or rules as readable text, with completion. Beneath it are the type of the result and
+    its value today, with the initial values of the variables. A button, F4 and Ctrl+E open the builder.
 */
 class CORVEX_EXPORT ExpressionEditor : public PropertyEditor
 {
@@ -38,13 +38,15 @@ protected:
 private:
     class Watch;
     void showResult();
-    void takeFromBuilder();
+    void openExpressionBuilder(const SharedProperty &property);
+    void openRules(const SharedProperty &property);
+    void open(QDialog *dialog);
+    void take(const QString &text, const QString &stored);
 
     ExpressionEdit *m_edit = nullptr;
     QToolButton *m_open = nullptr;
-    QLabel *m_result = nullptr;
     QString m_built; //!< the stored form of an entry from the builder that has no readable form
-    QPointer<ExpressionDialog> m_dialog;
+    QPointer<QDialog> m_dialog;
     std::shared_ptr<ExpressionCalculator> m_calculator;
     std::unique_ptr<Watch> m_watch;
 };

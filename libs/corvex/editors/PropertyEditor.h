@@ -41,8 +41,8 @@ public:
     //! Edits the row with that id. The editor continues when the sheet gets other objects that have such a
     //! row, and is hidden while it has none.
     void setProperty(PropertySheet *sheet, const QString &id);
-    /*! Edits a value for \a property that is stored elsewhere, such as in a state of a button. \a row describes
-        the property and holds the value. The owner stores what takeEntry() returns after entered().
+    /*! Edits a value for \a property that is stored elsewhere, such as in a state of a button. \a row
+       describes the property and holds the value. The owner stores what takeEntry() returns after entered().
     */
     void setElsewhere(const SharedProperty &property, const SheetRow &row);
     //! The stored text of the entry for setElsewhere(). Nothing if there is no entry, or if the property

@@ -280,10 +280,10 @@ QString ExpressionBuilder::errorString() const
     if (!showsText()) {
         return error->message;
     }
-    const QString place =
-        error->length > 0 ? LocalizationHelper::coreString(u"At \"%1\": "_s)
-                                .arg(m_edit->toPlainText().sliced(error->position, error->length))
-                          : LocalizationHelper::coreString(u"At the end: "_s);
+    const QString place = error->length > 0
+                              ? LocalizationHelper::coreString(u"At \"%1\": "_s)
+                                    .arg(m_edit->toPlainText().sliced(error->position, error->length))
+                              : LocalizationHelper::coreString(u"At the end: "_s);
     return place + error->message;
 }
 
@@ -312,11 +312,11 @@ bool ExpressionBuilder::showAsText(bool isText)
         const QString text = m_state->scope.print(terms.toString());
         if (text.isNull()) {
             const qsizetype term = m_state->scope.firstUnreadable(terms);
-            refuse(term < 0 ? LocalizationHelper::coreString(
-                                  u"These terms have no readable form in this order."_s)
-                            : LocalizationHelper::coreString(u"Term %1, \"%2\", has no readable form. Change or "
-                                                             "remove it first."_s)
-                                  .arg(QString::number(term + 1), TermsModel::described(terms.at(term))));
+            refuse(term < 0
+                       ? LocalizationHelper::coreString(u"These terms have no readable form in this order."_s)
+                       : LocalizationHelper::coreString(u"Term %1, \"%2\", has no readable form. Change or "
+                                                        "remove it first."_s)
+                             .arg(QString::number(term + 1), TermsModel::described(terms.at(term))));
             return false;
         }
         m_edit->setShownText(text);
@@ -350,10 +350,11 @@ void ExpressionBuilder::onChanged()
             const bool hasCode = terms.isEmpty() || !state.scope.codeOf(terms).isEmpty();
             if (!obstacle.isEmpty() || !hasCode) {
                 state.reading.error = ExpressionText::Error{
-                    0, 0,
-                    obstacle.isEmpty() ? LocalizationHelper::coreString(
-                                             u"The device has no code for this expression."_s)
-                                       : obstacle,
+                    0,
+                    0,
+                    obstacle.isEmpty()
+                        ? LocalizationHelper::coreString(u"The device has no code for this expression."_s)
+                        : obstacle,
                     {}};
             }
         }

@@ -87,10 +87,10 @@ void ExpressionDialog::reject()
         discard();
         return;
     }
-    auto *question = new QMessageBox(
-        QMessageBox::Question, windowTitle(),
-        LocalizationHelper::coreString(u"Discard the changes to the expression?"_s),
-        QMessageBox::Discard | QMessageBox::Cancel, this);
+    auto *question =
+        new QMessageBox(QMessageBox::Question, windowTitle(),
+                        LocalizationHelper::coreString(u"Discard the changes to the expression?"_s),
+                        QMessageBox::Discard | QMessageBox::Cancel, this);
     question->setAttribute(Qt::WA_DeleteOnClose);
     question->setDefaultButton(QMessageBox::Cancel);
     connect(question, &QMessageBox::buttonClicked, this, [this, question](QAbstractButton *button) {

@@ -21,7 +21,8 @@ void CompletionDelegate::paint(QPainter *painter, const QStyleOptionViewItem &op
 
     const bool isSelected = shown.state.testFlag(QStyle::State_Selected);
     const QRect area = shown.rect.adjusted(Theme::gap, 0, -Theme::gap, 0);
-    const int nameWidth = std::min(shown.fontMetrics.horizontalAdvance(name), area.width() * 2 / 3);
+    const int nameWidth =
+        std::min(shown.fontMetrics.horizontalAdvance(name) + Theme::gap, area.width() * 2 / 3);
     painter->save();
     painter->setPen(shown.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
     painter->drawText(area, Qt::AlignVCenter | Qt::AlignLeft,

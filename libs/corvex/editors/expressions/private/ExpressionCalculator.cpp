@@ -4,8 +4,10 @@
 #include "corvex/checks/private/rules/NestingDepth.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/preview/Watchdog.h"
+#include "corvex/values/expressions/ValueCode.h"
 #include "corvex/values/private/ExpressionLexer.h"
 
+#include <QColor>
 #include <QFile>
 #include <QJSEngine>
 
@@ -43,6 +45,8 @@ QVariant typedValue(Info::DataType type, const QString &text)
     case Info::FloatData:
     case Info::NumberData:
         return text.toDouble();
+    case Info::ColorData:
+        return ValueCode::comparable(QColor(text));
     default:
         return text;
     }
@@ -132,9 +136,7 @@ ExpressionCalculator::Result ExpressionCalculator::valueOf(const ExpressionScope
             return {};
         }
     }
-    const QString code = terms.isComplete(purpose.kind) || terms.count() == 1
-                             ? terms.toQmlString(purpose.output, purpose.kind)
-                             : QString();
+    const QString code = ValueCode::of(terms, purpose);
     return code.isEmpty() || findTooDeepNesting(code) >= 0 ? Result() : run(code, variables, elements);
 }
 

@@ -32,7 +32,8 @@ struct WordRow
     QLatin1StringView type;
 };
 
-constexpr WordRow operandWords[] = {{"true"_L1, "boolean"_L1}, {"false"_L1, "boolean"_L1}, {"not"_L1, "boolean"_L1}};
+constexpr WordRow operandWords[] = {
+    {"true"_L1, "boolean"_L1}, {"false"_L1, "boolean"_L1}, {"not"_L1, "boolean"_L1}};
 constexpr QLatin1StringView operatorWords[] = {"and"_L1, "or"_L1, "when"_L1, "do"_L1};
 
 } // namespace
@@ -120,8 +121,8 @@ void ExpressionCompletions::filter(const QString &text, quint32 types, bool oper
     m_showsMembers = !place.isEmpty();
     m_rows.clear();
     const QString folded = text.toCaseFolded();
-    // What fits and begins with the text, what fits, other names that begin with it, and the rest.
-    std::vector<quint32> groups[6];
+    // First by the type, then by whether the name begins with the text, then names of the project.
+    std::vector<quint32> groups[12];
     const Names &names = m_showsMembers ? m_members : m_names;
     for (quint32 i = 0; i < names.size(); ++i) {
         const Name &name = names[i];
@@ -130,7 +131,8 @@ void ExpressionCompletions::filter(const QString &text, quint32 types, bool oper
             continue;
         }
         const int fit = name.types == untyped ? 1 : (name.types & types) != 0 ? 0 : 2;
-        groups[2 * fit + (found > 0 ? 1 : 0)].push_back(i);
+        const bool isOfLanguage = name.kind == Kind::Function || name.kind == Kind::Word;
+        groups[4 * fit + (found > 0 ? 2 : 0) + (isOfLanguage ? 1 : 0)].push_back(i);
     }
     for (const std::vector<quint32> &group : groups) {
         m_rows.insert(m_rows.end(), group.begin(), group.end());

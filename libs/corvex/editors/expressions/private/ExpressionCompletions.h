@@ -52,8 +52,8 @@ private:
 
     ExpressionScope m_scope;
     Names m_names;
-    Names m_members;      //!< of the element or screen before the last "."
-    QString m_place;      //!< its path, with the "."
+    Names m_members; //!< of the element or screen before the last "."
+    QString m_place; //!< its path, with the "."
     bool m_isRead = false;
     bool m_showsMembers = false;
     std::vector<quint32> m_rows; //!< indexes of the shown names

@@ -12,7 +12,6 @@
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QListView>
-#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QTextLayout>
@@ -57,12 +56,14 @@ ExpressionEdit::ExpressionEdit(Shape shape, QWidget *parent)
         QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         policy.setHeightForWidth(true);
         setSizePolicy(policy);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setMinimumHeight(Theme::fieldHeight(this));
     }
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (toPlainText() != m_shownText || m_hasEntry) {
             m_hasEntry = true;
             setExtraSelections({});
-            updateGeometry();
+            fitHeight();
             emit edited();
         }
     });
@@ -83,7 +84,7 @@ void ExpressionEdit::setShownText(const QString &text)
     setExtraSelections({});
     if (toPlainText() != text) {
         setPlainText(text);
-        updateGeometry();
+        fitHeight();
     }
 }
 
@@ -120,8 +121,9 @@ QString ExpressionEdit::pathBeforeCursor() const
     const QString text = toPlainText();
     const qsizetype end = textCursor().position();
     qsizetype begin = end;
-    while (begin > 0 && (text.at(begin - 1).isLetterOrNumber() || text.at(begin - 1) == u'_'
-                         || text.at(begin - 1) == u'.')) {
+    while (begin > 0
+           && (text.at(begin - 1).isLetterOrNumber() || text.at(begin - 1) == u'_'
+               || text.at(begin - 1) == u'.')) {
         --begin;
     }
     while (begin < end && (text.at(begin).isDigit() || text.at(begin) == u'.')) {
@@ -235,7 +237,9 @@ void ExpressionEdit::accept(const QModelIndex &completion)
     }
     m_completer->popup()->hide();
     replaceText(textCursor().position() - path.size(), path.size(),
-                isCall ? name + u'(' : isMember ? name + u'.' : name);
+                isCall     ? name + u'('
+                : isMember ? name + u'.'
+                           : name);
     if (isMember) {
         updateCompleter(true);
     }
@@ -251,7 +255,6 @@ bool ExpressionEdit::takePopupKey(QKeyEvent *event)
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-    case Qt::Key_Tab:
         if (current.isValid()) {
             accept(current);
             return true;
@@ -349,14 +352,15 @@ void ExpressionEdit::changeEvent(QEvent *event)
     }
 }
 
-int ExpressionEdit::heightForWidth(int width) const
+//! The lines of the text in a field of that width; one more than are shown if there are more.
+int ExpressionEdit::linesFor(int width) const
 {
-    const int frames = 2 * frameWidth();
-    const double inside = std::max(20, width - frames - 2 * textMargin);
+    const double inside = std::max(20, width - 2 * frameWidth() - 2 * textMargin);
     QTextOption option;
     option.setWrapMode(wordWrapMode());
     int lines = 0;
-    for (QTextBlock block = document()->begin(); block.isValid() && lines < mostLines; block = block.next()) {
+    for (QTextBlock block = document()->begin(); block.isValid() && lines <= mostLines;
+         block = block.next()) {
         QTextLayout layout(block.text(), font());
         layout.setTextOption(option);
         layout.beginLayout();
@@ -367,8 +371,43 @@ int ExpressionEdit::heightForWidth(int width) const
         layout.endLayout();
         lines += layout.lineCount() == 0 ? 1 : 0;
     }
-    const int height = std::clamp(lines, 1, mostLines) * fontMetrics().lineSpacing();
-    return std::max(Theme::fieldHeight(this), height + frames + 2 * textMargin);
+    return lines;
+}
+
+int ExpressionEdit::heightForWidth(int width) const
+{
+    const int height = std::clamp(linesFor(width), 1, mostLines) * fontMetrics().lineSpacing();
+    return std::max(Theme::fieldHeight(this), height + 2 * frameWidth() + 2 * textMargin);
+}
+
+//! An entry shows its text without scrolling, unless it is long.
+void ExpressionEdit::fitHeight()
+{
+    if (m_shape == Shape::Entry) {
+        setVerticalScrollBarPolicy(linesFor(width()) > mostLines ? Qt::ScrollBarAsNeeded
+                                                                 : Qt::ScrollBarAlwaysOff);
+        setMinimumHeight(heightForWidth(width()));
+        updateGeometry();
+    }
+}
+
+void ExpressionEdit::resizeEvent(QResizeEvent *event)
+{
+    QPlainTextEdit::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width()) {
+        fitHeight();
+    }
+}
+
+bool ExpressionEdit::focusNextPrevChild(bool next)
+{
+    // The tabulator takes a name from the list first.
+    const bool isListed = next && m_completer && m_completer->popup()->isVisible();
+    if (isListed && m_completer->popup()->currentIndex().isValid()) {
+        accept(m_completer->popup()->currentIndex());
+        return true;
+    }
+    return QPlainTextEdit::focusNextPrevChild(next);
 }
 
 QSize ExpressionEdit::sizeHint() const

@@ -56,12 +56,16 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void createCompleter();
     void updateCompleter(bool isWanted);
     void accept(const QModelIndex &completion);
     bool takePopupKey(QKeyEvent *event);
+    int linesFor(int width) const;
+    void fitHeight();
     QString pathBeforeCursor() const;
     bool isInText() const;
 

@@ -21,14 +21,15 @@ constexpr struct
 {
     QStringView sign;
     QStringView replacement;
-} signs[] = {{u"=", u"=="},      {u"<>", u"!="},     {u"=>", u">="},     {u"=<", u"<="},     {u"!", u"not "},
-             {u"\u2260", u"!="}, {u"\u2265", u">="}, {u"\u2264", u"<="}, {u"\u00d7", u"*"}, {u"\u00f7", u"/"},
-             {u"\u2212", u"-"}};
+} signs[] = {{u"=", u"=="},     {u"<>", u"!="},     {u"=>", u">="},     {u"=<", u"<="},
+             {u"!", u"not "},   {u"\u2260", u"!="}, {u"\u2265", u">="}, {u"\u2264", u"<="},
+             {u"\u00d7", u"*"}, {u"\u00f7", u"/"},  {u"\u2212", u"-"}};
 
 ExpressionFix fixWith(qsizetype position, qsizetype length, const QString &text)
 {
-    return {position, length, text,
-            LocalizationHelper::coreString(length > 0 ? u"Use \"%1\""_s : u"Add \"%1\""_s).arg(text.trimmed())};
+    return {
+        position, length, text,
+        LocalizationHelper::coreString(length > 0 ? u"Use \"%1\""_s : u"Add \"%1\""_s).arg(text.trimmed())};
 }
 
 //! The parentheses that are open at the end.
@@ -52,8 +53,9 @@ std::optional<ExpressionFix> ExpressionFix::of(const ExpressionScope &scope, con
             ExpressionWords::needsQuotes(name) ? ExpressionLexer::quoted(name, u'\'') : name;
         return fixWith(error.position, error.length, written);
     }
-    const QString wrong = text.sliced(std::min(error.position, text.size())).first(
-        std::min(error.length, text.size() - std::min(error.position, text.size())));
+    const QString wrong =
+        text.sliced(std::min(error.position, text.size()))
+            .first(std::min(error.length, text.size() - std::min(error.position, text.size())));
     const auto *sign = std::ranges::find_if(signs, [&wrong](const auto &row) { return row.sign == wrong; });
     if (sign != std::end(signs) && (wrong != u'=' || !scope.purposeOf({}).separatesTerms())) {
         return fixWith(error.position, error.length, sign->replacement.toString());
@@ -62,7 +64,8 @@ std::optional<ExpressionFix> ExpressionFix::of(const ExpressionScope &scope, con
         return fixWith(text.size(), 0, wrong.first(1));
     }
     const ExpressionTokens tokens(text);
-    const bool isUnfinished = tokens.all().isEmpty() || ExpressionTokens::precedesOperand(tokens.all().constLast());
+    const bool isUnfinished =
+        tokens.all().isEmpty() || ExpressionTokens::precedesOperand(tokens.all().constLast());
     const qsizetype open = openParentheses(tokens);
     if (error.length == 0 && open > 0 && !isUnfinished) {
         return fixWith(text.size(), 0, QString(open, u')'));

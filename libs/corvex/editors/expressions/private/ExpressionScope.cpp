@@ -2,12 +2,14 @@
 #include "corvex/editors/expressions/private/ExpressionScope.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/QmlBinding.h"
 #include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/editing/words/Suggestion.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
 #include "corvex/values/expressions/ExpressionRules.h"
+#include "corvex/values/expressions/ValueCode.h"
 #include "corvex/values/text/ObjectPath.h"
 #include "corvex/values/text/PairList.h"
 #include "corvex/variables/ProjectVariable.h"
@@ -49,6 +51,9 @@ constexpr TypeWord typeWords[] = {
 //! The word for the results of an expression.
 QLatin1StringView resultWord(const ExpressionPurpose &purpose)
 {
+    if (purpose.isColor) {
+        return "color"_L1;
+    }
     switch (purpose.kind) {
     case GeneralDataList::BoolExpression:
         return "boolean"_L1;
@@ -57,8 +62,26 @@ QLatin1StringView resultWord(const ExpressionPurpose &purpose)
     case GeneralDataList::StringExpression:
         return "text"_L1;
     default:
-        return purpose.output == Info::ColorOutput ? "color"_L1 : QLatin1StringView();
+        return {};
     }
+}
+
+//! The value of a property that only the device has, such as "width" of a size: what the code of the element
+//! sets it to, if that is a number or a truth value.
+QString boundValue(const DesignerObject &element, const QString &id)
+{
+    for (const SharedProperty &property : element.properties()) {
+        const QmlBindings bindings =
+            property->isList() || property->isObject() ? QmlBindings() : property->qmlBindings();
+        for (const QmlBinding &binding : bindings) {
+            bool isNumber = false;
+            binding.code.toDouble(&isNumber);
+            if (binding.name == id && (isNumber || binding.code == "true"_L1 || binding.code == "false"_L1)) {
+                return binding.code;
+            }
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -97,8 +120,10 @@ ExpressionPurpose ExpressionScope::purposeOf(const GeneralDataList &terms) const
 ExpressionScope::Reading ExpressionScope::read(const QString &text) const
 {
     if (!isValid()) {
-        return {{}, {}, ExpressionText::Error{0, 0, LocalizationHelper::coreString(
-                                                        u"The object is not in a project."_s), {}}};
+        return {{},
+                {},
+                ExpressionText::Error{
+                    0, 0, LocalizationHelper::coreString(u"The object is not in a project."_s), {}}};
     }
     if (m_hasRules) {
         const ExpressionText::RuleReading reading = ExpressionText::readRules(text, names());
@@ -124,7 +149,9 @@ QString ExpressionScope::print(const QString &stored) const
         return ok ? ExpressionText::printRules(rules, names()) : QString();
     }
     const GeneralDataList terms(stored, &ok);
-    return !ok ? QString() : terms.isEmpty() ? u""_s : ExpressionText::print(terms, purposeOf(terms), names());
+    return !ok               ? QString()
+           : terms.isEmpty() ? u""_s
+                             : ExpressionText::print(terms, purposeOf(terms), names());
 }
 
 qsizetype ExpressionScope::firstUnreadable(const GeneralDataList &terms) const
@@ -157,17 +184,24 @@ QString ExpressionScope::codeOf(const GeneralDataList &terms) const
         }
         return codes.join(u'\n');
     }
-    return terms.isComplete(purpose.kind) ? terms.toQmlString(purpose.output, purpose.kind) : QString();
+    return purpose.isAssignment() ? terms.toQmlString(purpose.output, purpose.kind)
+                                  : ValueCode::of(terms, purpose);
 }
 
 ExpressionScope::Part ExpressionScope::readPart(const QString &text) const
 {
+    if (!isValid()) {
+        return {};
+    }
+    // A single name has its own type.
+    constexpr ExpressionPurpose general{GeneralDataList::GeneralExpression};
+    const ExpressionText::Reading single = ExpressionText::read(text, general, names());
+    if (!single.error && single.terms.count() == 1) {
+        return {single.terms, general};
+    }
     const Reading whole = m_hasRules || text.trimmed().isEmpty() ? Reading() : read(text);
     if (!whole.error && !whole.terms.isEmpty()) {
         return {whole.terms, purposeOf(whole.terms)};
-    }
-    if (!isValid()) {
-        return {};
     }
     static constexpr ExpressionPurpose others[] = {
         {GeneralDataList::BoolExpression},
@@ -225,9 +259,9 @@ QString ExpressionScope::valueOf(const GeneralDataInfo &term) const
     }
     const DesignerObject *element =
         term.valueType() == Info::ObjectValue ? elementNamed(term.objectName()) : nullptr;
-    const SharedProperty property =
-        element ? element->getProperty(ObjectPath::lastSegment(term.value()).toString()) : SharedProperty();
-    return property ? property->valueString() : QString();
+    const QString id = ObjectPath::lastSegment(term.value()).toString();
+    const SharedProperty property = element ? element->getProperty(id) : SharedProperty();
+    return property ? property->valueString() : element ? boundValue(*element, id) : QString();
 }
 
 QString ExpressionScope::nameOf(GeneralDataInfo::DataType type)

@@ -4,6 +4,9 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/values/expressions/ExpressionVocabulary.h"
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -21,16 +24,19 @@ struct KindWord
 };
 
 constexpr KindWord kinds[] = {
-    {u"constant", Info::ConstantValue, Info::IntegerData}, {u"variable", Info::VariableValue, Info::NumberData},
-    {u"property", Info::ObjectValue, Info::NumberData},    {u"operator", Info::OperatorValue, Info::OperatorData},
-    {u"function", Info::FunctionValue, Info::FunctionData}, {u"command", Info::CommandValue, Info::CommandData},
+    {u"constant", Info::ConstantValue, Info::IntegerData},
+    {u"variable", Info::VariableValue, Info::NumberData},
+    {u"property", Info::ObjectValue, Info::NumberData},
+    {u"operator", Info::OperatorValue, Info::OperatorData},
+    {u"function", Info::FunctionValue, Info::FunctionData},
+    {u"command", Info::CommandValue, Info::CommandData},
     {u"empty", Info::NoValue, Info::NoData},
 };
 
 //! By the number of the type.
-constexpr const char16_t *types[] = {u"none",  u"operator",    u"function", u"boolean", u"integer",
-                                     u"float", u"number",      u"string",   u"color",   u"hexadecimal",
-                                     u"log",   u"device",      u"reference", u"command"};
+constexpr const char16_t *types[] = {u"none",  u"operator", u"function",  u"boolean", u"integer",
+                                     u"float", u"number",   u"string",    u"color",   u"hexadecimal",
+                                     u"log",   u"device",   u"reference", u"command"};
 
 QString word(const char16_t *english)
 {
@@ -159,8 +165,8 @@ bool TermsModel::setData(const QModelIndex &index, const QVariant &value, int ro
     const QString text = value.toString();
     Info term = m_terms.at(index.row());
     if (index.column() == KindColumn) {
-        const auto *kind = std::ranges::find_if(
-            kinds, [&text](const KindWord &row) { return word(row.word) == text; });
+        const auto *kind =
+            std::ranges::find_if(kinds, [&text](const KindWord &row) { return word(row.word) == text; });
         if (kind == std::end(kinds) || kind->kind == term.valueType()) {
             return false;
         }
@@ -174,8 +180,7 @@ bool TermsModel::setData(const QModelIndex &index, const QVariant &value, int ro
         term.setDataType(Info::DataType(type - std::begin(types)));
     } else {
         term.setValue(text);
-        const bool isName =
-            term.valueType() == Info::VariableValue || term.valueType() == Info::ObjectValue;
+        const bool isName = term.valueType() == Info::VariableValue || term.valueType() == Info::ObjectValue;
         if (const std::optional<Info> known = isName ? m_scope.find(text) : std::nullopt) {
             term = *known; // with the type of the name
         }
