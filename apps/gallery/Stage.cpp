@@ -8,6 +8,8 @@
 #include "corvex/project/elements/Element.h"
 #include "corvex/variables/ProjectVariable.h"
 
+#include "Specimen.h"
+
 #include <QDirIterator>
 #include <QFile>
 
@@ -71,6 +73,7 @@ bool Stage::open(QString &error)
             add(name);
         }
     }
+    add(Examples::Specimen::kindName());
     return true;
 }
 
@@ -90,7 +93,12 @@ DesignerObject *Stage::add(const QString &className)
 {
     Project &project = m_document->project();
     auto *screen = static_cast<Screen *>(project.screens()->getListItemAtIndex(0));
-    std::unique_ptr<DesignerObject> object(DesignerFactory::instance()->createUnowned(className));
+    std::unique_ptr<DesignerObject> object;
+    if (className == Examples::Specimen::kindName()) {
+        object.reset(Examples::Specimen::create(u"specimen"_s));
+    } else {
+        object.reset(DesignerFactory::instance()->createUnowned(className));
+    }
     if (!object) {
         return nullptr;
     }

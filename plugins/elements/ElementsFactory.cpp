@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "elements/ElementsFactory.h"
 
+#include "elements/editors/ConditionEditor.h"
+#include "elements/editors/TimeEditors.h"
 #include "elements/function/Action.h"
 #include "elements/function/Button.h"
 #include "elements/function/CheckButton.h"
@@ -17,6 +19,9 @@
 #include "elements/visual/Image.h"
 #include "elements/visual/Rectangle.h"
 #include "elements/visual/Text.h"
+
+#include <algorithm>
+#include <iterator>
 
 using namespace Halvane::Corvex::Designer;
 
@@ -167,10 +172,45 @@ constexpr ItemRow items[] = {
     {"GraphicsText", &makeItem<GraphicsText>},
 };
 
+//! An editor for properties of elements.
+struct EditorRow
+{
+    const char *name;
+    PropertyEditor *(*make)(QWidget *parent);
+};
+
+template<class Editor>
+PropertyEditor *makeEditor(QWidget *parent)
+{
+    return new Editor(parent);
+}
+
+constexpr EditorRow editors[] = {
+    {"ConditionEditor", &makeEditor<ConditionEditor>},
+    {"RepeatTimerEditor", &makeEditor<RepeatTimerEditor>},
+    {"StartDelayEditor", &makeEditor<StartDelayEditor>},
+};
+
 } // namespace
 
 ElementsFactory::ElementsFactory()
     : TableFactory(classes, items)
 { }
+
+PropertyEditor *ElementsFactory::createEditor(const QString &editorName, QWidget *parent)
+{
+    const auto row = std::ranges::find_if(
+        editors, [&](const EditorRow &known) { return editorName == QLatin1StringView(known.name); });
+    return row == std::end(editors) ? nullptr : row->make(parent);
+}
+
+QStringList ElementsFactory::editorNames() const
+{
+    QStringList names;
+    for (const EditorRow &row : editors) {
+        names.append(QString::fromLatin1(row.name));
+    }
+    return names;
+}
 
 } // namespace Halvane::Corvex::Elements

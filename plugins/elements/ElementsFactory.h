@@ -7,7 +7,7 @@
 
 namespace Halvane::Corvex::Elements {
 
-//! The root object of the plug-in: creates the standard elements.
+//! The root object of the plug-in: creates the standard elements and their editors.
 class ElementsFactory
     : public QObject
     , public Designer::TableFactory
@@ -18,6 +18,9 @@ class ElementsFactory
 
 public:
     ElementsFactory();
+
+    Designer::PropertyEditor *createEditor(const QString &editorName, QWidget *parent) override;
+    QStringList editorNames() const override;
 };
 
 } // namespace Halvane::Corvex::Elements

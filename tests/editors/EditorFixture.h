@@ -51,6 +51,10 @@ protected:
     {
         return object->getProperty(QString::fromLatin1(id))->valueString();
     }
+    DesignerObject *variable(const char *name) const
+    {
+        return document->project().variables()->getListItem(QString::fromLatin1(name));
+    }
     template<class Field>
     static Field *field(const PropertyEditor *editor)
     {

@@ -5,6 +5,8 @@
 #include "corvex/editing/undo/UndoCommand.h"
 #include "corvex/editors/PropertyEditor.h"
 
+#include <QPointer>
+
 namespace Halvane::Corvex::Designer {
 
 EditorHistory::EditorHistory(ProjectDocument &document, QObject *parent)
@@ -29,11 +31,19 @@ void EditorHistory::push(PropertyEditor *editor, bool isStep)
         return;
     }
     const QString text = command->text();
+    const QPointer<PropertyEditor> guard(editor); // the edit may remove the row
     const bool isPushed = isStep ? m_document.pushInRun(text, command) : m_document.push(command);
+    if (!guard) {
+        return;
+    }
     if (!isPushed) {
         editor->refuse(m_document.errorString());
-    } else if (!editor->notes().isEmpty()) {
-        emit noted(editor->notes());
+        return;
+    }
+    const QStringList notes = editor->notes();
+    editor->restore(); // the row does not change if the values differ before and after the edit
+    if (!notes.isEmpty()) {
+        emit noted(notes);
     }
 }
 

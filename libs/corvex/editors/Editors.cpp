@@ -21,6 +21,8 @@
 #include <algorithm>
 #include <iterator>
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Designer {
 
 namespace {
@@ -147,6 +149,11 @@ QString Editors::nameFor(const SheetRow &row)
     const auto kind = std::ranges::find_if(
         kinds, [&](const KindRow &known) { return row.kind == QLatin1StringView(known.kind); });
     return kind == std::end(kinds) ? row.editor : QString::fromLatin1(kind->editor);
+}
+
+bool Editors::isSecret(const SheetRow &row)
+{
+    return row.editor == "ProjectPasswordEditor"_L1;
 }
 
 PropertyEditor *Editors::createFor(const SheetRow &row, QWidget *parent)

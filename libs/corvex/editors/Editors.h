@@ -21,6 +21,8 @@ public:
 
     //! The editor for a row: the one that it names, or the one for its kind if it only names the base class.
     static QString nameFor(const SheetRow &row);
+    //! Whether the value of the row must not be seen: it is neither copied nor searched for.
+    static bool isSecret(const SheetRow &row);
     //! Creates the editor for a row, through the factory of the application if there is one, so that editors
     //! of plug-ins are found. A row with an unknown editor gets the base class, which edits every kind.
     static PropertyEditor *createFor(const SheetRow &row, QWidget *parent);

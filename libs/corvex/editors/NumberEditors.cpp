@@ -51,11 +51,12 @@ PropertyEditor::Entry LargeNumberEditor::stored(const Arithmetic::Result &result
         text += isFloating && !text.contains(u'.') ? u".0"_s : QString();
     }
     if (!NumberVariable::typedValue(text).isValid()) {
-        return {{},
-                LocalizationHelper::coreString(
-                    u"%1 takes a number, not \"%2\". Whole numbers go up to 2147483647; with a decimal point, "
-                    "numbers go up to 16777215."_s)
-                    .arg(row().id, typed.isEmpty() ? text : typed)};
+        return {
+            {},
+            LocalizationHelper::coreString(
+                u"%1 takes a number, not \"%2\". Whole numbers go up to 2147483647; with a decimal point, "
+                "numbers go up to 16777215."_s)
+                .arg(row().id, typed.isEmpty() ? text : typed)};
     }
     return {text, {}};
 }

@@ -20,7 +20,7 @@ using Common::LocalizationHelper;
 
 namespace {
 
-constexpr int charactersBesideSlider = 7;
+constexpr int widthBesideSlider = 72;
 constexpr double millisecondStep = 100;
 constexpr int mostPositions = 100'000;
 
@@ -108,7 +108,7 @@ void NumericEditor::showSlider()
         connect(m_slider, &KdSlider::dragCancelled, this, &NumericEditor::gestureCancelled);
         connect(m_slider, &KdSlider::stepRequested, this, &NumericEditor::takeSteps);
     }
-    m_line->setMaximumWidth(isShown ? m_line->widthFor(charactersBesideSlider) : QWIDGETSIZE_MAX);
+    m_line->setMaximumWidth(isShown ? widthBesideSlider : QWIDGETSIZE_MAX);
     fields()->setStretchFactor(m_line, isShown ? 0 : 1);
     if (!m_slider) {
         return;

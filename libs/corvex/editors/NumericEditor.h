@@ -15,8 +15,8 @@ class KdSlider;
 /*! The base of all editors of one number: a field that calculates, with its unit, and a slider if the row has
     the parameter "showSlider".
 
-    The parameters "minimum", "maximum", "above", "singleStep" and "suffix" (the unit) are those of the row. With
-    the unit "ms", the field also takes times such as "5 s" or "1 min 30 s".
+    The parameters "minimum", "maximum", "above", "singleStep" and "suffix" (the unit) are those of the row.
+   With the unit "ms", the field also takes times such as "5 s" or "1 min 30 s".
 */
 class CORVEX_EXPORT NumericEditor : public PropertyEditor
 {
@@ -35,8 +35,8 @@ protected:
 
     //! The unit of a row without the parameter "suffix".
     virtual QString ownUnit() const { return {}; }
-    //! The stored text of a number that was typed or calculated. \a own is the text of the property, \a typed is
-    //! empty for a step.
+    //! The stored text of a number that was typed or calculated. \a own is the text of the property, \a typed
+    //! is empty for a step.
     virtual Entry stored(const Arithmetic::Result &result, const QString &own, const QString &typed) const;
     //! Whether the value is a whole number.
     bool isWhole() const;

@@ -12,9 +12,9 @@ namespace Halvane::Corvex::Designer {
 
 class KdNumberEdit;
 
-/*! The base of editors of two numbers, such as width and height: a field for each. An entry in one field changes
-    that number of every object and keeps the other. Both fields calculate, and take both numbers in the readable
-    form of the value ("120 x 40").
+/*! The base of editors of two numbers, such as width and height: a field for each. An entry in one field
+   changes that number of every object and keeps the other. Both fields calculate, and take both numbers in
+   the readable form of the value ("120 x 40").
 */
 class CORVEX_EXPORT PairEditor : public PropertyEditor
 {

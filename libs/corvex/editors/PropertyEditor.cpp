@@ -10,6 +10,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPlainTextEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -139,6 +140,8 @@ void PropertyEditor::updateAccess()
             field.widget->setAccessibleDescription(description);
             if (auto *line = qobject_cast<QLineEdit *>(field.widget)) {
                 line->setReadOnly(m_row.isReadOnly); // so that the text can be copied
+            } else if (auto *text = qobject_cast<QPlainTextEdit *>(field.widget)) {
+                text->setReadOnly(m_row.isReadOnly);
             } else {
                 field.widget->setEnabled(!m_row.isReadOnly);
             }

@@ -186,13 +186,14 @@ private:
         for (const Arithmetic::Unit &known : m_units) {
             words.append(known.word);
         }
-        m_error = !english.isEmpty() ? LocalizationHelper::coreString(english)
-                  : words.isEmpty()
-                      ? LocalizationHelper::coreString(
-                            u"This is neither a number nor a calculation such as 2 * 48 + 6."_s)
-                      : LocalizationHelper::coreString(
-                            u"This is neither a number nor a calculation such as 2 * 48 + 6. Units are: %1."_s)
-                            .arg(words.join(u", "_s));
+        m_error =
+            !english.isEmpty() ? LocalizationHelper::coreString(english)
+            : words.isEmpty()
+                ? LocalizationHelper::coreString(
+                    u"This is neither a number nor a calculation such as 2 * 48 + 6."_s)
+                : LocalizationHelper::coreString(
+                      u"This is neither a number nor a calculation such as 2 * 48 + 6. Units are: %1."_s)
+                      .arg(words.join(u", "_s));
         m_place = m_text.size();
     }
 

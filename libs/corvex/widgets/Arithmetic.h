@@ -26,9 +26,9 @@ public:
     struct Result
     {
         double number = 0;
-        QString error;          //!< for the user; empty if the text could be read
-        bool isPlain = false;   //!< the text is a single number, without a unit
-        bool isChange = false;  //!< the text changes the number that is there
+        QString error = {};    //!< for the user; empty if the text could be read
+        bool isPlain = false;  //!< the text is a single number, without a unit
+        bool isChange = false; //!< the text changes the number that is there
     };
 
     static Result evaluate(const QString &text, double current, const QList<Unit> &units = {});

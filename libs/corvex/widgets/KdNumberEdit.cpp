@@ -43,23 +43,15 @@ void KdNumberEdit::setSign(const QString &sign)
 void KdNumberEdit::updateMargins()
 {
     const auto room = [this](const QString &text) {
-        return text.isEmpty() ? 0 : fontMetrics().horizontalAdvance(text) + Theme::gap;
+        return text.isEmpty() ? 0 : fontMetrics().horizontalAdvance(text) + edge;
     };
     setTextMargins(room(m_sign), 0, room(m_unit), 0);
     update();
 }
 
-int KdNumberEdit::widthFor(int characters) const
-{
-    return fontMetrics().horizontalAdvance(QString(characters, u'0')) + textMargins().left()
-           + textMargins().right() + 2 * edge;
-}
-
 double KdNumberEdit::stepFactor(Qt::KeyboardModifiers modifiers)
 {
-    return modifiers & Qt::ShiftModifier     ? fine
-           : modifiers & Qt::ControlModifier ? coarse
-                                             : 1.0;
+    return modifiers & Qt::ShiftModifier ? fine : modifiers & Qt::ControlModifier ? coarse : 1.0;
 }
 
 double KdNumberEdit::stepsOf(const QWheelEvent &event)

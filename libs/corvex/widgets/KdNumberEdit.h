@@ -6,8 +6,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! A line for a number, with its unit in the field. The arrow keys and the wheel ask for steps: with Shift for
-    small ones, with Ctrl for large ones. The owner evaluates what the user has typed, for example with
+/*! A line for a number, with its unit in the field. The arrow keys and the wheel ask for steps: with Shift
+   for small ones, with Ctrl for large ones. The owner evaluates what the user has typed, for example with
     Arithmetic, and changes the number.
 */
 class CORVEX_EXPORT KdNumberEdit : public KdLineEdit
@@ -24,8 +24,6 @@ public:
     void setSign(const QString &sign);
     //! Without steps, the arrow keys and the wheel do nothing.
     void setHasSteps(bool hasSteps) { m_hasSteps = hasSteps; }
-    //! The width for a number of that many characters with its unit.
-    int widthFor(int characters) const;
 
     //! By how much the pressed keys multiply a step.
     static double stepFactor(Qt::KeyboardModifiers modifiers);

@@ -7,9 +7,9 @@
 
 namespace Halvane::Corvex::Designer {
 
-/*! A field of several lines for a value that exists elsewhere, as KdLineEdit is for one line. It grows with its
-    text up to some lines. Enter begins a new line; Ctrl+Enter, Tab and a click elsewhere complete an entry,
-    Escape restores the shown text.
+/*! A field of several lines for a value that exists elsewhere, as KdLineEdit is for one line. It grows with
+   its text up to some lines. Enter begins a new line; Ctrl+Enter, Tab and a click elsewhere complete an
+   entry, Escape restores the shown text.
 */
 class CORVEX_EXPORT KdTextEdit : public QPlainTextEdit
 {

@@ -73,6 +73,7 @@ int PanelRow::heightFor(int width) const
 {
     const int fields = m_editor->isWide() ? width - 2 * Theme::margin
                                           : width - titleWidth(width) - 2 * Theme::margin - resetWidth;
+    m_editor->layout()->activate(); // layouts in it keep their old sizes otherwise
     const int needed = m_editor->layout()->hasHeightForWidth()
                            ? m_editor->layout()->totalHeightForWidth(fields)
                            : m_editor->sizeHint().height();
@@ -105,7 +106,7 @@ void PanelRow::contextMenuEvent(QContextMenuEvent *event)
     QAction *copy = menu.addAction(LocalizationHelper::coreString(u"Copy Value"_s), this, [this, row] {
         QGuiApplication::clipboard()->setText(m_sheet.copy({row}));
     });
-    copy->setEnabled(!m_sheet.row(row).isMixed);
+    copy->setEnabled(!m_sheet.row(row).isMixed && !Editors::isSecret(m_sheet.row(row)));
     QAction *reset = menu.addAction(LocalizationHelper::coreString(u"Reset to Default"_s), this,
                                     &PanelRow::resetRequested);
     reset->setEnabled(!m_sheet.row(row).isDefault && !m_sheet.row(row).isReadOnly);

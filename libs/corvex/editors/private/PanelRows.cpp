@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editors/private/PanelRows.h"
 
+#include "corvex/editors/Editors.h"
 #include "corvex/editors/PropertyEditor.h"
 #include "corvex/editors/private/PanelRow.h"
 #include "corvex/widgets/Theme.h"
@@ -60,7 +61,8 @@ bool PanelRows::isShown(int row) const
         return text.contains(m_filter, Qt::CaseInsensitive);
     };
     return shown.isVisible
-           && (m_filter.isEmpty() || contains(shown.title) || contains(shown.id) || contains(shown.value));
+           && (m_filter.isEmpty() || contains(shown.title) || contains(shown.id)
+               || (contains(shown.value) && !Editors::isSecret(shown)));
 }
 
 int PanelRows::estimate() const

@@ -2,6 +2,7 @@
 #include "corvex/editors/private/RowTitle.h"
 
 #include "corvex/editors/PropertyEditor.h"
+#include "corvex/widgets/KdNumberEdit.h"
 #include "corvex/widgets/Theme.h"
 
 #include <QApplication>
@@ -16,8 +17,6 @@ namespace Halvane::Corvex::Designer {
 namespace {
 
 constexpr double pixelsPerStep = 4;
-constexpr double fine = 0.1;
-constexpr double coarse = 10;
 
 } // namespace
 
@@ -79,15 +78,12 @@ void RowTitle::mouseMoveEvent(QMouseEvent *event)
         grabKeyboard();
         emit m_editor->gestureBegan();
     }
-    const double factor = event->modifiers() & Qt::ShiftModifier     ? fine
-                          : event->modifiers() & Qt::ControlModifier ? coarse
-                                                                     : 1.0;
     m_rest += (event->pos().x() - m_lastX) / pixelsPerStep;
     m_lastX = event->pos().x();
     const double steps = std::trunc(m_rest);
     if (steps != 0) {
         m_rest -= steps;
-        m_editor->scrub(steps * factor);
+        m_editor->scrub(steps * KdNumberEdit::stepFactor(event->modifiers()));
     }
 }
 
