@@ -3,13 +3,15 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerObject.h"
-#include "corvex/editors/private/LockButton.h"
 #include "corvex/values/records/RangeInfo.h"
 #include "corvex/values/records/ValueRangeInfo.h"
 #include "corvex/values/text/ValueConversion.h"
+#include "corvex/widgets/IconSet.h"
 #include "corvex/widgets/KdNumberEdit.h"
+#include "corvex/widgets/Theme.h"
 
 #include <QHBoxLayout>
+#include <QToolButton>
 
 #include <cmath>
 #include <numeric>
@@ -50,10 +52,16 @@ void SizeEditor::createFields()
     if (!hasLock()) {
         return;
     }
-    m_lock = new LockButton(this);
+    m_lock = new QToolButton(this);
+    m_lock->setAutoRaise(true);
+    m_lock->setCheckable(true);
+    m_lock->setFixedHeight(Theme::fieldHeight(this));
+    m_lock->setFocusPolicy(Qt::TabFocus); // a click leaves the entry of a field open
+    setLocked(false);
     addField(m_lock, LocalizationHelper::coreString(u"keep the ratio"_s));
     m_lock->setToolTip(LocalizationHelper::coreString(u"Width and height keep their ratio"_s));
-    connect(m_lock, &LockButton::clicked, this, [this] {
+    connect(m_lock, &QToolButton::clicked, this, [this](bool isLocked) {
+        setLocked(isLocked);
         if (!locks().isEmpty()) {
             m_changesLock = true;
             completeEntry();
@@ -78,8 +86,14 @@ void SizeEditor::showLock()
 {
     const int row = sheet()->rowOf(lockId);
     if (m_lock && row >= 0) {
-        m_lock->setChecked(sheet()->row(row).value == "true"_L1);
+        setLocked(sheet()->row(row).value == "true"_L1);
     }
+}
+
+void SizeEditor::setLocked(bool isLocked)
+{
+    m_lock->setChecked(isLocked);
+    m_lock->setIcon(IconSet::icon(isLocked ? IconSet::Lock : IconSet::Unlock));
 }
 
 void SizeEditor::showRow()

@@ -4,9 +4,9 @@
 #include "corvex/editors/ChoiceEditors.h"
 #include "corvex/editors/PairEditor.h"
 
-namespace Halvane::Corvex::Designer {
+class QToolButton;
 
-class LockButton;
+namespace Halvane::Corvex::Designer {
 
 /*! Width and height, with a lock for their ratio. If the objects have a property "keepRatio", the lock shows
    and changes it; otherwise it belongs to the editor.
@@ -33,8 +33,9 @@ protected:
 private:
     QList<SharedProperty> locks() const;
     void showLock();
+    void setLocked(bool isLocked);
 
-    LockButton *m_lock = nullptr;
+    QToolButton *m_lock = nullptr;
     bool m_changesLock = false; //!< the entry is that of the lock
 };
 

@@ -3,6 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editing/words/ReadableValue.h"
+#include "corvex/widgets/IconSet.h"
 #include "corvex/widgets/KdLineEdit.h"
 #include "corvex/widgets/KdTextEdit.h"
 #include "corvex/widgets/Theme.h"
@@ -11,8 +12,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QLabel>
-#include <QStyle>
 #include <QToolButton>
 #include <QUrl>
 
@@ -100,7 +99,7 @@ void OriginalLocationEditor::createFields()
 {
     ReadOnlyLineEditor::createFields();
     m_folder = new QToolButton(this);
-    m_folder->setIcon(style()->standardIcon(QStyle::SP_DirOpenIcon));
+    m_folder->setIcon(IconSet::icon(IconSet::Folder));
     m_folder->setFixedHeight(Theme::fieldHeight(this));
     m_folder->setToolTip(LocalizationHelper::coreString(u"Show in folder"_s));
     fields()->addWidget(m_folder); // it serves read-only rows, too
@@ -135,7 +134,8 @@ void ProjectPasswordEditor::createFields()
     m_line->setEchoMode(QLineEdit::Password);
     m_line->setInputMethodHints(Qt::ImhSensitiveData | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
     m_show = new QToolButton(this);
-    m_show->setText(LocalizationHelper::coreString(u"Show"_s));
+    m_show->setIcon(IconSet::icon(IconSet::Eye));
+    m_show->setToolTip(LocalizationHelper::coreString(u"Show while pressed"_s));
     m_show->setFixedHeight(Theme::fieldHeight(this));
     m_show->setFocusPolicy(Qt::TabFocus); // a click leaves the entry open
     fields()->addWidget(m_show);          // it serves read-only rows, too
@@ -157,23 +157,16 @@ void ProjectPasswordEditor::showRow()
 //! Only while the user types, so that a glance at the panel does not tell how good the password is.
 void ProjectPasswordEditor::showStrength()
 {
-    const bool isShown = m_line->hasEntry() && !m_line->text().isEmpty();
-    if (isShown && !m_strength) {
-        m_strength = new QLabel(this);
-        Theme::setTextColor(m_strength, &Theme::muted);
-        fields()->insertWidget(1, m_strength);
-    }
-    if (m_strength) {
+    QString hint;
+    if (m_line->hasEntry() && !m_line->text().isEmpty()) {
         const Strength strength = strengthOf(m_line->text());
-        m_strength->setVisible(isShown);
-        m_strength->setText(LocalizationHelper::coreString(strength == Strength::Weak   ? u"weak"_s
-                                                           : strength == Strength::Fair ? u"fair"_s
-                                                                                        : u"strong"_s));
-        const QString advice = LocalizationHelper::coreString(
-            u"A strong password has 12 characters of several kinds, or is a sentence of 16."_s);
-        m_strength->setToolTip(advice);
-        m_strength->setAccessibleDescription(advice);
+        hint = LocalizationHelper::coreString(
+            strength == Strength::Strong ? u"This password is strong."_s
+            : strength == Strength::Fair
+                ? u"This password is fair. A strong one has 12 characters of several kinds, or 16."_s
+                : u"This password is weak. Use at least 8 different characters."_s);
     }
+    setHint(hint);
 }
 
 PropertyEditor::Entry ProjectPasswordEditor::entryFor(const DesignerProperty &) const

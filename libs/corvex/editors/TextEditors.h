@@ -3,7 +3,6 @@
 
 #include "corvex/editors/PropertyEditor.h"
 
-class QLabel;
 class QToolButton;
 
 namespace Halvane::Corvex::Designer {
@@ -88,7 +87,6 @@ private:
 
     KdLineEdit *m_line = nullptr;
     QToolButton *m_show = nullptr;
-    QLabel *m_strength = nullptr; //!< created when the user types
 };
 
 } // namespace Halvane::Corvex::Designer
