@@ -72,19 +72,24 @@ void Pictures::drawPanels()
     }
 }
 
-//! Each editor with the first property that uses it.
+//! Each editor with the first property that uses it, if possible one that panels show at first.
 void Pictures::drawEditors()
 {
     QSet<QString> drawn;
     const QMap<QString, DesignerObject *> objects = m_stage.objects();
-    for (auto object = objects.begin(); object != objects.end(); ++object) {
-        PropertySheet sheet(m_stage.document().project());
-        sheet.setObjects({object.value()});
-        for (int row = 0; row < sheet.rowCount(); ++row) {
-            const QString name = Editors::nameFor(sheet.row(row));
-            if (!drawn.contains(name)) {
-                drawn.insert(name);
-                drawEditor(name, object.key(), sheet.row(row).id);
+    for (const bool showsHidden : {false, true}) {
+        for (auto object = objects.begin(); object != objects.end(); ++object) {
+            PropertySheet sheet(m_stage.document().project());
+            sheet.setObjects({object.value()});
+            for (int row = 0; row < sheet.rowCount(); ++row) {
+                const QString name = Editors::nameFor(sheet.row(row));
+                if (!drawn.contains(name) && (showsHidden || sheet.row(row).isVisible)) {
+                    drawn.insert(name);
+                    if (showsHidden) {
+                        sheet.properties(row).constFirst()->setEditorParameter(u"visible"_s, true);
+                    }
+                    drawEditor(name, object.key(), sheet.row(row).id);
+                }
             }
         }
     }
