@@ -167,6 +167,9 @@ void ProjectPasswordEditor::showStrength()
                 : u"This password is weak. Use at least 8 different characters."_s);
     }
     setHint(hint);
+    if (!hint.isEmpty()) {
+        refuse({}); // an error of the value, such as that it is empty, no longer applies
+    }
 }
 
 PropertyEditor::Entry ProjectPasswordEditor::entryFor(const DesignerProperty &) const
