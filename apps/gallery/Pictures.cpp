@@ -85,9 +85,6 @@ void Pictures::drawEditors()
                 const QString name = Editors::nameFor(sheet.row(row));
                 if (!drawn.contains(name) && (showsHidden || sheet.row(row).isVisible)) {
                     drawn.insert(name);
-                    if (showsHidden) {
-                        sheet.properties(row).constFirst()->setEditorParameter(u"visible"_s, true);
-                    }
                     drawEditor(name, object.key(), sheet.row(row).id);
                 }
             }
@@ -113,6 +110,7 @@ void Pictures::drawEditor(const QString &name, const QString &className, const Q
         PropertyEditor *editor = Editors::createFor(shown.row(shown.rowOf(id)), &page);
         editor->setProperty(&shown, id);
         layout->addWidget(editor);
+        editor->show(); // also if the panel hides the row
         return editor;
     };
     add(u"a value"_s, sheet);
