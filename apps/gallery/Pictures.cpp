@@ -42,6 +42,7 @@ QStringList Pictures::draw()
     }
     drawIcons();
     drawPanels();
+    drawColorPopups();
     drawEditors();
     drawReferences();
     drawExpressions();

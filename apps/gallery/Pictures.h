@@ -19,6 +19,7 @@ public:
 private:
     void drawIcons();
     void drawPanels();
+    void drawColorPopups();
     void drawEditors();
     void drawReferences();
     void drawExpressions();

@@ -3,46 +3,148 @@
 
 #include "corvex/editors/PropertyEditor.h"
 
+#include <QColor>
+
+#include <memory>
+
+class QToolButton;
+
 namespace Halvane::Corvex::Designer {
 
-class CORVEX_EXPORT ColorEditor : public PropertyEditor
+class ColorEdit;
+class ColorPicker;
+class ColorStrip;
+class GradientBar;
+class TextContrast;
+
+//! The base of editors with a field for a color.
+class CORVEX_EXPORT ColorFieldEditor : public PropertyEditor
 {
     Q_OBJECT
 
 public:
     using PropertyEditor::PropertyEditor;
+
+    //! Enters a color, such as one that was picked on the canvas.
+    void enterColor(const QColor &color);
+
+signals:
+    //! The user wants to pick a color elsewhere. Only offered while something is connected, which passes the
+    //! color to enterColor().
+    void colorRequested();
+
+protected:
+    //! Creates the field; \a part is that of its text.
+    ColorEdit *createColorEdit(const QString &part = {});
+    ColorEdit *colorEdit() const { return m_edit; }
+    //! The colors that the picker offers first.
+    virtual QList<QColor> usedColors() const;
+
+private:
+    void preparePicker(ColorPicker *picker);
+
+    ColorEdit *m_edit = nullptr;
 };
 
-class CORVEX_EXPORT ScreenColorEditor : public PropertyEditor
+//! A color. For the color of a text, as the parameter "isTextColor" says, it shows when the text is hard to
+//! read on what lies beneath it.
+class CORVEX_EXPORT ColorEditor : public ColorFieldEditor
 {
     Q_OBJECT
 
 public:
-    using PropertyEditor::PropertyEditor;
+    explicit ColorEditor(QWidget *parent = nullptr);
+    ~ColorEditor() override;
+
+protected:
+    void createFields() override;
+    void showRow() override;
+    Entry entryFor(const DesignerProperty &property) const override;
+
+private:
+    void showContrast();
+
+    std::unique_ptr<TextContrast> m_contrast; //!< only for the color of a text
 };
 
-class CORVEX_EXPORT ColorListEditor : public PropertyEditor
+//! The color of a screen: the picker offers the colors of the other screens first.
+class CORVEX_EXPORT ScreenColorEditor : public ColorEditor
 {
     Q_OBJECT
 
 public:
-    using PropertyEditor::PropertyEditor;
+    using ColorEditor::ColorEditor;
+
+protected:
+    QList<QColor> usedColors() const override;
 };
 
-class CORVEX_EXPORT GradientStopsEditor : public PropertyEditor
+//! Several colors: one is selected and can be changed, moved and removed.
+class CORVEX_EXPORT ColorListEditor : public ColorFieldEditor
 {
     Q_OBJECT
 
 public:
-    using PropertyEditor::PropertyEditor;
+    using ColorFieldEditor::ColorFieldEditor;
+
+protected:
+    void createFields() override;
+    void showRow() override;
+    Entry entryFor(const DesignerProperty &property) const override;
+
+private:
+    void showSelected();
+    void add();
+
+    ColorStrip *m_strip = nullptr;
+    QToolButton *m_add = nullptr;
+    QToolButton *m_remove = nullptr;
 };
 
-class CORVEX_EXPORT BorderEditor : public PropertyEditor
+//! The stops of a gradient: they can be dragged on a bar, added by a double click, and removed by the Delete
+//! key or by dragging them away. The selected stop has a position and a color.
+class CORVEX_EXPORT GradientStopsEditor : public ColorFieldEditor
 {
     Q_OBJECT
 
 public:
-    using PropertyEditor::PropertyEditor;
+    using ColorFieldEditor::ColorFieldEditor;
+
+protected:
+    void createFields() override;
+    void showRow() override;
+    Entry entryFor(const DesignerProperty &property) const override;
+
+private:
+    void showSelected();
+
+    GradientBar *m_bar = nullptr;
+    KdLineEdit *m_position = nullptr;
+};
+
+//! The width and the color of a border.
+class CORVEX_EXPORT BorderEditor : public ColorFieldEditor
+{
+    Q_OBJECT
+
+public:
+    using ColorFieldEditor::ColorFieldEditor;
+
+    bool canScrub() const override { return true; }
+    void scrub(double steps) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
+    void createFields() override;
+    void showRow() override;
+    Entry entryFor(const DesignerProperty &property) const override;
+
+private:
+    void step(int steps);
+    void takeStep(int steps);
+
+    KdLineEdit *m_width = nullptr;
+    int m_steps = 0; //!< added to the width of each object
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -108,6 +108,7 @@ struct KindRow
 };
 
 constexpr KindRow kinds[] = {
+    {"ColorListProperty", "ColorListEditor"},
     {"StringProperty", "SingleLineEditor"},
     {"MapProperty", "SingleLineEditor"},
     {"PointListProperty", "SingleLineEditor"},

@@ -61,6 +61,7 @@ bool Text::initializeProperties()
         row<ColorProperty>("color", "Color", QColor(Qt::black))
             .description("The color of the letters.")
             .rank(5)
+            .parameter("isTextColor", true)
             .qml(&boundToQml),
         bindingRow("colorBinding", "Color (Expression)",
                    "A color that follows values; while it is set, it replaces the fixed color.",

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editors/ColorEditors.h"
+
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/words/ReadableValue.h"
+#include "corvex/editors/private/TextContrast.h"
+#include "corvex/editors/private/UsedColors.h"
+#include "corvex/project/Project.h"
+#include "corvex/values/text/ValueConversion.h"
+#include "corvex/widgets/ColorEdit.h"
+#include "corvex/widgets/ColorPicker.h"
+#include "corvex/widgets/ColorSwatch.h"
+#include "corvex/widgets/KdLineEdit.h"
+
+#include <QHBoxLayout>
+#include <QMetaMethod>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
+
+ColorEdit *ColorFieldEditor::createColorEdit(const QString &part)
+{
+    m_edit = new ColorEdit(this);
+    prepareLine(m_edit->line(), part);
+    prepareField(m_edit->swatch(), LocalizationHelper::coreString(u"picker"_s));
+    connect(m_edit, &ColorEdit::pickerOpens, this, &ColorFieldEditor::preparePicker);
+    connect(m_edit, &ColorEdit::chosen, this, [this] { completeEntry(); });
+    connect(m_edit, &ColorEdit::stepped, this, [this] { completeStep(); });
+    connect(m_edit, &ColorEdit::dragBegan, this, &ColorFieldEditor::gestureBegan);
+    connect(m_edit, &ColorEdit::dragEnded, this, &ColorFieldEditor::gestureEnded);
+    connect(m_edit, &ColorEdit::dragCancelled, this, &ColorFieldEditor::gestureCancelled);
+    return m_edit;
+}
+
+void ColorFieldEditor::enterColor(const QColor &color)
+{
+    m_edit->enterColor(color);
+}
+
+void ColorFieldEditor::preparePicker(ColorPicker *picker)
+{
+    picker->offer(LocalizationHelper::coreString(u"In this project"_s), usedColors());
+    if (isSignalConnected(QMetaMethod::fromSignal(&ColorFieldEditor::colorRequested))) {
+        picker->offerPicking();
+        connect(picker, &ColorPicker::pickRequested, this, &ColorFieldEditor::colorRequested);
+    }
+}
+
+QList<QColor> ColorFieldEditor::usedColors() const
+{
+    const QList<SharedProperty> all = properties();
+    const DesignerObject *object = all.isEmpty() ? nullptr : all.constFirst()->parentObject();
+    return object ? UsedColors::near(*object) : QList<QColor>();
+}
+
+ColorEditor::ColorEditor(QWidget *parent)
+    : ColorFieldEditor(parent)
+{ }
+
+ColorEditor::~ColorEditor() = default;
+
+void ColorEditor::createFields()
+{
+    fields()->addWidget(createColorEdit());
+}
+
+void ColorEditor::showRow()
+{
+    const QList<SharedProperty> all = properties();
+    const bool isMixed = row().isMixed || all.isEmpty();
+    colorEdit()->line()->setPlaceholderText(row().isMixed ? mixedText() : QString());
+    colorEdit()->setColor(isMixed ? QColor() : ValueConversion::toColor(row().value),
+                          isMixed ? QString() : ReadableValue::print(*all.constFirst(), row().value));
+    showContrast();
+}
+
+void ColorEditor::showContrast()
+{
+    const QList<SharedProperty> all = properties();
+    std::optional<double> contrast;
+    if (all.size() == 1 && parameter("isTextColor").toBool()) {
+        const DesignerObject *text = all.constFirst()->parentObject();
+        if (!m_contrast) {
+            m_contrast = std::make_unique<TextContrast>([this] { showContrast(); });
+        }
+        m_contrast->follow(*text);
+        contrast = TextContrast::of(*text, ValueConversion::toColor(row().value));
+    }
+    const bool isLow = contrast && *contrast < TextContrast::enough;
+    setHint(isLow
+                ? LocalizationHelper::coreString(
+                      u"Hard to read: the contrast with what is beneath the text is %1 to 1. Aim for 4.5."_s)
+                      .arg(std::floor(*contrast * 10) / 10) // a contrast of 4.46 is not 4.5
+                : QString(),
+            true);
+}
+
+PropertyEditor::Entry ColorEditor::entryFor(const DesignerProperty &property) const
+{
+    const QString text = colorEdit()->line()->text();
+    if (!text.trimmed().isEmpty() && !colorEdit()->entry().isValid()) {
+        return {{}, ColorEdit::refusalOf(text)};
+    }
+    const ReadableValue::Reading reading = ReadableValue::read(property, text);
+    return {reading.stored, reading.error};
+}
+
+QList<QColor> ScreenColorEditor::usedColors() const
+{
+    QList<QColor> colors;
+    const QList<SharedProperty> all = properties();
+    const Project *project = all.isEmpty() ? nullptr : all.constFirst()->parentObject()->project();
+    if (project) {
+        colors = UsedColors::ofScreens(*project);
+        for (const QColor &color : ColorEditor::usedColors()) {
+            if (!colors.contains(color)) {
+                colors.append(color);
+            }
+        }
+    }
+    return colors;
+}
+
+} // namespace Halvane::Corvex::Designer
