@@ -110,7 +110,8 @@ TEST_F(ColorEditorsTest, ADragInThePickerIsOneStepAndEscapeTakesItBack)
     DesignerObject *second = element("rectangle2");
     PropertyEditor *editor = edit({first, second}, "color");
     const QString before = text();
-    ColorPicker *picker = openPicker(editor);
+    QTest::keyClick(field<KdLineEdit>(editor), Qt::Key_Down, Qt::AltModifier);
+    auto *picker = field<ColorPicker>(editor);
     ASSERT_TRUE(picker && picker->isVisible());
     QWidget *plane = part(picker, u"Hue and saturation"_s);
     const auto drag = [plane] {

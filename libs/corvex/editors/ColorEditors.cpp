@@ -3,6 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editing/words/ReadableValue.h"
+#include "corvex/editors/private/ModelWatch.h"
 #include "corvex/editors/private/TextContrast.h"
 #include "corvex/editors/private/UsedColors.h"
 #include "corvex/project/Project.h"
@@ -56,12 +57,6 @@ QList<QColor> ColorFieldEditor::usedColors() const
     return object ? UsedColors::near(*object) : QList<QColor>();
 }
 
-ColorEditor::ColorEditor(QWidget *parent)
-    : ColorFieldEditor(parent)
-{ }
-
-ColorEditor::~ColorEditor() = default;
-
 void ColorEditor::createFields()
 {
     fields()->addWidget(createColorEdit());
@@ -83,10 +78,11 @@ void ColorEditor::showContrast()
     std::optional<double> contrast;
     if (all.size() == 1 && parameter("isTextColor").toBool()) {
         const DesignerObject *text = all.constFirst()->parentObject();
-        if (!m_contrast) {
-            m_contrast = std::make_unique<TextContrast>([this] { showContrast(); });
+        if (!m_watch) {
+            m_watch = new ModelWatch(&TextContrast::dependsOn, this);
+            connect(m_watch, &ModelWatch::changed, this, &ColorEditor::showContrast);
         }
-        m_contrast->follow(*text);
+        m_watch->follow(text->project());
         contrast = TextContrast::of(*text, ValueConversion::toColor(row().value));
     }
     const bool isLow = contrast && *contrast < TextContrast::enough;

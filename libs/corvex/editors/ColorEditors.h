@@ -5,17 +5,14 @@
 
 #include <QColor>
 
-#include <memory>
-
-class QToolButton;
-
 namespace Halvane::Corvex::Designer {
 
 class ColorEdit;
 class ColorPicker;
 class ColorStrip;
+class FieldButton;
 class GradientBar;
-class TextContrast;
+class ModelWatch;
 
 //! The base of editors with a field for a color.
 class CORVEX_EXPORT ColorFieldEditor : public PropertyEditor
@@ -53,8 +50,7 @@ class CORVEX_EXPORT ColorEditor : public ColorFieldEditor
     Q_OBJECT
 
 public:
-    explicit ColorEditor(QWidget *parent = nullptr);
-    ~ColorEditor() override;
+    using ColorFieldEditor::ColorFieldEditor;
 
 protected:
     void createFields() override;
@@ -64,7 +60,7 @@ protected:
 private:
     void showContrast();
 
-    std::unique_ptr<TextContrast> m_contrast; //!< only for the color of a text
+    ModelWatch *m_watch = nullptr; //!< only for the color of a text
 };
 
 //! The color of a screen: the picker offers the colors of the other screens first.
@@ -97,8 +93,8 @@ private:
     void add();
 
     ColorStrip *m_strip = nullptr;
-    QToolButton *m_add = nullptr;
-    QToolButton *m_remove = nullptr;
+    FieldButton *m_add = nullptr;
+    FieldButton *m_remove = nullptr;
 };
 
 //! The stops of a gradient: they can be dragged on a bar, added by a double click, and removed by the Delete

@@ -2,15 +2,14 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editors/ColorEditors.h"
 #include "corvex/editors/private/ColorStrip.h"
+#include "corvex/editors/private/FieldButton.h"
 #include "corvex/values/text/ValueConversion.h"
 #include "corvex/widgets/ColorEdit.h"
 #include "corvex/widgets/ColorSwatch.h"
-#include "corvex/widgets/IconSet.h"
 #include "corvex/widgets/KdLineEdit.h"
 #include "corvex/widgets/Theme.h"
 
 #include <QHBoxLayout>
-#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -18,26 +17,13 @@ namespace Halvane::Corvex::Designer {
 
 using Common::LocalizationHelper;
 
-namespace {
-
-QToolButton *button(IconSet::Icon icon, const QString &text, QWidget *parent)
-{
-    auto *made = new QToolButton(parent);
-    made->setAutoRaise(true);
-    made->setIcon(IconSet::icon(icon));
-    made->setToolTip(text);
-    return made;
-}
-
-} // namespace
-
 void ColorListEditor::createFields()
 {
     const QString addText = LocalizationHelper::coreString(u"add a color"_s);
     const QString removeText = LocalizationHelper::coreString(u"remove the selected color"_s);
     m_strip = new ColorStrip(this);
-    m_add = button(IconSet::Add, addText, this);
-    m_remove = button(IconSet::Remove, removeText, this);
+    m_add = new FieldButton(IconSet::Add, addText, this);
+    m_remove = new FieldButton(IconSet::Remove, removeText, this);
     auto *rows = new QVBoxLayout;
     rows->setSpacing(Theme::gap);
     auto *first = new QHBoxLayout;
@@ -55,8 +41,8 @@ void ColorListEditor::createFields()
     connect(m_strip, &ColorStrip::selectionChanged, this, &ColorListEditor::showSelected);
     connect(m_strip, &ColorStrip::changed, this, [this] { completeEntry(); });
     connect(m_strip, &ColorStrip::restored, this, &ColorListEditor::restore);
-    connect(m_add, &QToolButton::clicked, this, &ColorListEditor::add);
-    connect(m_remove, &QToolButton::clicked, m_strip, &ColorStrip::removeSelected);
+    connect(m_add, &FieldButton::clicked, this, &ColorListEditor::add);
+    connect(m_remove, &FieldButton::clicked, m_strip, &ColorStrip::removeSelected);
 }
 
 void ColorListEditor::showRow()

@@ -108,7 +108,6 @@ struct KindRow
 };
 
 constexpr KindRow kinds[] = {
-    {"ColorListProperty", "ColorListEditor"},
     {"StringProperty", "SingleLineEditor"},
     {"MapProperty", "SingleLineEditor"},
     {"PointListProperty", "SingleLineEditor"},

@@ -4,13 +4,12 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/editing/words/ReadableValue.h"
+#include "corvex/editors/private/FieldButton.h"
 #include "corvex/values/text/ReadableText.h"
 #include "corvex/values/text/ValueConversion.h"
-#include "corvex/widgets/IconSet.h"
 #include "corvex/widgets/KdLineEdit.h"
 
 #include <QHBoxLayout>
-#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -22,12 +21,11 @@ void FontEditor::createFields()
 {
     m_line = addLine();
     connect(m_line, &KdLineEdit::edited, this, [this] { m_change = nullptr; });
-    m_open = new QToolButton(this);
-    m_open->setIcon(IconSet::icon(IconSet::More));
-    m_open->setToolTip(LocalizationHelper::coreString(u"Choose family, size and style"_s));
-    m_open->setFocusPolicy(Qt::StrongFocus);
+    m_open = new FieldButton(IconSet::More,
+                             LocalizationHelper::coreString(u"Choose family, size and style"_s), this);
+    m_open->openFrom(m_line);
     addField(m_open, LocalizationHelper::coreString(u"family, size and style"_s));
-    connect(m_open, &QToolButton::clicked, this, &FontEditor::openPicker);
+    connect(m_open, &FieldButton::clicked, this, &FontEditor::openPicker);
     if (const DesignerFactory *factory = DesignerFactory::instance()) {
         connect(factory, &DesignerFactory::fontsChanged, this, &FontEditor::showMissing);
     }

@@ -4,9 +4,9 @@
 #include "corvex/editors/PropertyEditor.h"
 #include "corvex/widgets/FontPicker.h"
 
-class QToolButton;
-
 namespace Halvane::Corvex::Designer {
+
+class FieldButton;
 
 //! A font as text, `bold 24px "DejaVu Sans"`, with a popup for its parts. Of several objects, the popup only
 //! changes the part that the user touches.
@@ -27,7 +27,7 @@ private:
     void showMissing();
 
     KdLineEdit *m_line = nullptr;
-    QToolButton *m_open = nullptr;
+    FieldButton *m_open = nullptr;
     QPointer<FontPicker> m_picker; //!< while it is open
     FontPicker::Change m_change;   //!< what was chosen in the popup
 };

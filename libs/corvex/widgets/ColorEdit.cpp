@@ -10,6 +10,7 @@
 
 #include <QCompleter>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +31,7 @@ ColorEdit::ColorEdit(QWidget *parent)
     setFocusProxy(m_line);
     m_swatch->setToolTip(LocalizationHelper::coreString(u"Choose a color"_s));
     connect(m_swatch, &ColorSwatch::clicked, this, &ColorEdit::openPicker);
+    m_line->installEventFilter(this);
     connect(m_line, &KdLineEdit::edited, this, &ColorEdit::complete);
 }
 
@@ -86,6 +88,19 @@ void ColorEdit::complete()
     names->setCaseSensitivity(Qt::CaseInsensitive);
     m_line->setCompleter(names);
     connect(names, qOverload<const QString &>(&QCompleter::activated), m_line, &KdLineEdit::entered);
+}
+
+bool ColorEdit::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_line && event->type() == QEvent::KeyPress && m_swatch->isEnabled()) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        const bool isAltDown = key->key() == Qt::Key_Down && key->modifiers().testFlag(Qt::AltModifier);
+        if (isAltDown || key->key() == Qt::Key_F4) {
+            openPicker();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 QString ColorEdit::refusalOf(const QString &text)

@@ -36,6 +36,9 @@ public:
     //! Why the text is not a color, with a name that is similar.
     static QString refusalOf(const QString &text);
 
+    //! Alt+Down and F4 in the line open the picker.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 signals:
     //! The picker was created and is about to open. Receivers can offer colors.
     void pickerOpens(Halvane::Corvex::Designer::ColorPicker *picker);

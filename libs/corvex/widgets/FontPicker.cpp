@@ -4,7 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/widgets/IconSet.h"
-#include "corvex/widgets/KdLineEdit.h"
+#include "corvex/widgets/SearchLine.h"
 #include "corvex/widgets/Theme.h"
 
 #include <QComboBox>
@@ -154,11 +154,9 @@ FontPicker::~FontPicker() = default;
 
 void FontPicker::addFamilies(QBoxLayout *layout)
 {
-    auto *search = new QLineEdit(this);
-    search->setPlaceholderText(LocalizationHelper::coreString(u"Search fonts"_s));
-    search->setAccessibleName(search->placeholderText());
+    auto *search = new SearchLine(this);
+    search->setView(m_families);
     search->addAction(IconSet::icon(IconSet::Search), QLineEdit::LeadingPosition);
-    search->setClearButtonEnabled(true);
     m_found->setSourceModel(new QStringListModel(allFamilies(), m_found));
     m_found->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_families->setModel(m_found);
@@ -169,8 +167,12 @@ void FontPicker::addFamilies(QBoxLayout *layout)
     m_families->setAccessibleName(LocalizationHelper::coreString(u"Families"_s));
     layout->addWidget(search);
     layout->addWidget(m_families);
-    connect(search, &QLineEdit::textChanged, m_found, &QSortFilterProxyModel::setFilterFixedString);
-    connect(search, &QLineEdit::returnPressed, this, [this] { chooseFamily(m_found->index(0, 0), true); });
+    connect(search, &SearchLine::textChanged, this, [this](const QString &text) {
+        m_found->setFilterFixedString(text);
+        m_families->setCurrentIndex(m_found->index(0, 0));
+    });
+    connect(search, &SearchLine::chosen, this,
+            [this](const QModelIndex &index) { chooseFamily(index, true); });
     connect(m_families, &QListView::clicked, this,
             [this](const QModelIndex &index) { chooseFamily(index, false); });
     connect(m_families, &QListView::activated, this,

@@ -8,8 +8,6 @@
 #include "corvex/project/elements/GroupElement.h"
 #include "corvex/values/text/ValueConversion.h"
 
-#include <QTimer>
-
 #include <algorithm>
 #include <cmath>
 
@@ -27,6 +25,13 @@ double luminance(const QColor &color)
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+//! Between opaque colors.
+double contrast(const QColor &first, const QColor &second)
+{
+    const auto [darker, lighter] = std::minmax({luminance(first), luminance(second)});
+    return (lighter + 0.05) / (darker + 0.05);
 }
 
 QColor blended(const QColor &top, double opacity, const QColor &beneath)
@@ -116,25 +121,11 @@ private:
 
 } // namespace
 
-TextContrast::TextContrast(std::function<void()> changed)
-    : m_changed(std::move(changed))
-    , m_isPending(std::make_shared<bool>(false))
-{ }
-
-TextContrast::~TextContrast() = default;
-
-void TextContrast::follow(const DesignerObject &text)
+bool TextContrast::dependsOn(const DesignerProperty &property)
 {
-    if (m_screen != text.screen() && text.project()) {
-        m_screen = text.screen();
-        text.project()->observers().add(this);
-    }
-}
-
-double TextContrast::between(const QColor &first, const QColor &second)
-{
-    const auto [darker, lighter] = std::minmax({luminance(first), luminance(second)});
-    return (lighter + 0.05) / (darker + 0.05);
+    static const QStringList ids{u"position"_s, u"size"_s,    u"color"_s, u"colorBinding"_s,
+                                 u"visible"_s,  u"opacity"_s, u"z"_s};
+    return ids.contains(property.id());
 }
 
 std::optional<double> TextContrast::of(const DesignerObject &text, const QColor &color)
@@ -154,46 +145,8 @@ std::optional<double> TextContrast::of(const DesignerObject &text, const QColor 
     if (!painting.paint(screen->elements(), center) || !painting.color()) {
         return {};
     }
-    return between(blended(color, realOf(text, u"opacity", 100) / 100, *painting.color()), *painting.color());
-}
-
-void TextContrast::report(const SharedProperty &property)
-{
-    const DesignerObject *object = property->parentObject();
-    if (!object || object->screen() != m_screen || std::exchange(*m_isPending, true)) {
-        return;
-    }
-    QTimer::singleShot(0, [this, pending = std::weak_ptr(m_isPending)] {
-        if (const auto alive = pending.lock()) {
-            *alive = false;
-            m_changed();
-        }
-    });
-}
-
-void TextContrast::valueChanged(const SharedProperty &property, const QString &)
-{
-    report(property);
-}
-
-void TextContrast::inserted(const SharedProperty &list, qsizetype, DesignerObject *)
-{
-    report(list);
-}
-
-void TextContrast::removed(const SharedProperty &list, qsizetype, DesignerObject *)
-{
-    report(list);
-}
-
-void TextContrast::moved(const SharedProperty &list, qsizetype, qsizetype)
-{
-    report(list);
-}
-
-void TextContrast::reordered(const SharedProperty &list)
-{
-    report(list);
+    return contrast(blended(color, realOf(text, u"opacity", 100) / 100, *painting.color()),
+                    *painting.color());
 }
 
 } // namespace Halvane::Corvex::Designer
