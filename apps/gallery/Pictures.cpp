@@ -91,6 +91,9 @@ void Pictures::drawEditors()
             }
         }
     }
+    // The base is an editor for kinds of plug-ins. Sheets have no rows for objects.
+    drawn.insert(u"PropertyEditor"_s);
+    drawn.insert(u"ObjectEditor"_s);
     for (const QString &name : Editors::names()) {
         if (!drawn.contains(name)) {
             m_errors.append(u"%1: No property uses this editor."_s.arg(name));

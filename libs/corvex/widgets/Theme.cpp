@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/widgets/Theme.h"
 
+#include "corvex/widgets/private/ThemeStyle.h"
+
 #include <QApplication>
 #include <QEvent>
-#include <QStyleFactory>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -112,7 +113,7 @@ QPalette Theme::palette(Kind kind)
 
 void Theme::apply(Kind kind)
 {
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new ThemeStyle); // owned by the application
     QApplication::setPalette(palette(kind));
 }
 
@@ -134,6 +135,11 @@ QColor Theme::warning(const QPalette &palette)
 QColor Theme::muted(const QPalette &palette)
 {
     return palette.color(QPalette::PlaceholderText);
+}
+
+QColor Theme::frame(const QPalette &palette)
+{
+    return chosen(palette, 0xA2A9B3, 0x5F6771);
 }
 
 QColor Theme::line(const QPalette &palette)

@@ -29,6 +29,8 @@ public:
     static QColor warning(const QPalette &palette);
     //! For text of less importance, such as units and hints.
     static QColor muted(const QPalette &palette);
+    //! For the frames of fields and check boxes.
+    static QColor frame(const QPalette &palette);
     //! For thin lines between areas.
     static QColor line(const QPalette &palette);
 

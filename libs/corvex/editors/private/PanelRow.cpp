@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QStyleOption>
+#include <QTextDocument>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -57,7 +58,10 @@ bool PanelRow::fits(const SheetRow &row) const
 void PanelRow::showRow(const SheetRow &row)
 {
     m_title->setTitle(row.title, !row.isDefault, row.isReadOnly);
-    m_title->setToolTip(row.description);
+    // The title may be cut off. A description with markup stays alone, or it would be shown as plain text.
+    m_title->setToolTip(Qt::mightBeRichText(row.description) ? row.description
+                        : row.description.isEmpty()          ? row.title
+                                                             : row.title + u'\n' + row.description);
     m_reset->setVisible(!row.isDefault && !row.isReadOnly);
     const QString reset = LocalizationHelper::coreString(u"Reset \"%1\" to its default"_s).arg(row.title);
     m_reset->setToolTip(reset);
@@ -128,6 +132,12 @@ QSize PanelHeader::sizeHint() const
     return {0, Theme::fieldHeight(this) + Theme::margin};
 }
 
+void PanelHeader::focusInEvent(QFocusEvent *event)
+{
+    m_showsFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    QAbstractButton::focusInEvent(event);
+}
+
 void PanelHeader::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -144,7 +154,7 @@ void PanelHeader::paintEvent(QPaintEvent *)
     painter.setFont(bold);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(rect().adjusted(Theme::margin + 16, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
-    if (hasFocus()) {
+    if (hasFocus() && m_showsFocus) {
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }

@@ -59,6 +59,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+
+private:
+    bool m_showsFocus = false; //!< only when it came by key
 };
 
 } // namespace Halvane::Corvex::Designer
