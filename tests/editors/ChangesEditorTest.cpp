@@ -137,6 +137,11 @@ TEST_F(ChangesEditorTest, RulesHaveADialog)
     dialog->accept();
     EXPECT_TRUE(dialog->isVisible()) << "without an effect";
     enter(dialog, u"line 2, effect"_s, u"on = false"_s);
+    dialog->resize(400, 10); // the rules scroll, and none covers another
+    QApplication::processEvents();
+    const auto *upper = named<QPlainTextEdit>(dialog, u"line 1, effect"_s);
+    const auto *lower = named<QPlainTextEdit>(dialog, u"line 2, condition"_s);
+    EXPECT_GE(lower->mapTo(dialog, QPoint()).y(), upper->mapTo(dialog, upper->rect().bottomLeft()).y());
     dialog->accept();
     EXPECT_EQ(value(logic, "logicExpression"), stored + u", <0406speed><0101<><02041>|<0403on><02030>"_s);
     ASSERT_TRUE(document->undo());

@@ -25,6 +25,7 @@ RulesDialog::RulesDialog(const SharedProperty &property, QWidget *parent)
 {
     auto *page = new QWidget;
     auto *lines = new QVBoxLayout(page);
+    lines->setSizeConstraint(QLayout::SetMinimumSize); // the area scrolls instead of squeezing the rules
     lines->setContentsMargins(0, 0, Theme::margin, 0);
     lines->addWidget(m_table);
     lines->addStretch();
@@ -50,9 +51,6 @@ RulesDialog::RulesDialog(const SharedProperty &property, QWidget *parent)
         connect(shortcut, &QShortcut::activated, this, &RulesDialog::accept);
     }
     connect(m_table, &ChangesTable::entered, this, [this] { m_problem->setText(problem()); });
-    // The area scrolls instead of squeezing the rules.
-    connect(m_table, &ChangesTable::heightChanged, page,
-            [page] { page->setMinimumHeight(page->layout()->totalSizeHint().height()); });
     resize(640, 420);
     m_table->setFocus();
 }

@@ -88,15 +88,17 @@ void ChangeRow::createNames(QBoxLayout *layout)
 
 ExpressionEdit *ChangeRow::addExpression(QBoxLayout *layout, const ExpressionPurpose &purpose)
 {
-    auto *edit = new ExpressionEdit(ExpressionEdit::Shape::Entry, this);
+    auto *edit = new ExpressionEdit(ExpressionEdit::Shape::Line, this);
     edit->setScope(ExpressionScope(m_property, purpose));
     connect(edit, &ExpressionEdit::edited, this, &ChangeRow::edited);
+    // Queued, because the field may be in a layout that is just being arranged.
+    connect(edit, &ExpressionEdit::heightChanged, this, &ChangeRow::heightChanged, Qt::QueuedConnection);
     connect(edit, &ExpressionEdit::restored, this, &ChangeRow::restored);
     connect(edit, &ExpressionEdit::entered, this, [this, edit] {
         takeExpression(edit);
         emit entered();
     });
-    layout->addWidget(edit, 1);
+    layout->addWidget(edit, 1, Qt::AlignTop);
     m_fields.append(edit);
     return edit;
 }

@@ -52,12 +52,13 @@ ExpressionEdit::ExpressionEdit(Shape shape, QWidget *parent)
     setTabChangesFocus(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    if (shape == Shape::Entry) {
+    if (shape != Shape::Page) {
         QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        policy.setHeightForWidth(true);
+        policy.setHeightForWidth(shape == Shape::Entry);
         setSizePolicy(policy);
         setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setMinimumHeight(Theme::fieldHeight(this));
+        setMaximumHeight(shape == Shape::Line ? minimumHeight() : QWIDGETSIZE_MAX);
     }
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (toPlainText() != m_shownText || m_hasEntry) {
@@ -283,7 +284,7 @@ void ExpressionEdit::keyPressEvent(QKeyEvent *event)
         event->ignore(); // accepts a dialog
         return;
     }
-    if (m_shape == Shape::Entry && isEnter && !event->modifiers().testFlag(Qt::ShiftModifier)) {
+    if (m_shape != Shape::Page && isEnter && !event->modifiers().testFlag(Qt::ShiftModifier)) {
         if (m_hasEntry) {
             emit entered();
         } else {
@@ -292,7 +293,7 @@ void ExpressionEdit::keyPressEvent(QKeyEvent *event)
         return;
     }
     if (event->key() == Qt::Key_Escape) {
-        if (m_shape == Shape::Entry && m_hasEntry) {
+        if (m_shape != Shape::Page && m_hasEntry) {
             setShownText(m_shownText);
             selectAll();
             emit restored();
@@ -315,7 +316,7 @@ void ExpressionEdit::keyPressEvent(QKeyEvent *event)
 
 bool ExpressionEdit::event(QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride && !m_hasEntry && m_shape == Shape::Entry) {
+    if (event->type() == QEvent::ShortcutOverride && !m_hasEntry && m_shape != Shape::Page) {
         const auto *key = static_cast<QKeyEvent *>(event);
         if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
             event->ignore(); // belongs to the history of the project
@@ -328,7 +329,7 @@ bool ExpressionEdit::event(QEvent *event)
 void ExpressionEdit::focusInEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusInEvent(event);
-    if (m_shape == Shape::Entry
+    if (m_shape != Shape::Page
         && (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)) {
         selectAll();
     }
@@ -338,7 +339,7 @@ void ExpressionEdit::focusOutEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusOutEvent(event);
     // A menu or another window leaves the entry open.
-    if (m_shape == Shape::Entry && m_hasEntry && event->reason() != Qt::PopupFocusReason
+    if (m_shape != Shape::Page && m_hasEntry && event->reason() != Qt::PopupFocusReason
         && event->reason() != Qt::ActiveWindowFocusReason) {
         emit entered();
     }
@@ -383,11 +384,18 @@ int ExpressionEdit::heightForWidth(int width) const
 //! An entry shows its text without scrolling, unless it is long.
 void ExpressionEdit::fitHeight()
 {
-    if (m_shape == Shape::Entry) {
-        setVerticalScrollBarPolicy(linesFor(width()) > mostLines ? Qt::ScrollBarAsNeeded
-                                                                 : Qt::ScrollBarAlwaysOff);
-        setMinimumHeight(heightForWidth(width()));
-        updateGeometry();
+    if (m_shape == Shape::Page) {
+        return;
+    }
+    updateGeometry();
+    if (!isVisible()) {
+        return; // a field gets its width when it is shown
+    }
+    setVerticalScrollBarPolicy(linesFor(width()) > mostLines ? Qt::ScrollBarAsNeeded
+                                                             : Qt::ScrollBarAlwaysOff);
+    if (m_shape == Shape::Line && maximumHeight() != heightForWidth(width())) {
+        setFixedHeight(heightForWidth(width()));
+        emit heightChanged();
     }
 }
 

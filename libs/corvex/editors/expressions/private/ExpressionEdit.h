@@ -16,6 +16,7 @@ class ExpressionHighlighter;
 
     As an entry, the field is as high as its text, Enter completes it and Shift+Enter begins a new line. It
     shows a value until the user types, and keeps what the user types until it is accepted or restored.
+    A line is an entry for a place that scrolls: its height is fixed, and changes with the text.
     As a page, Enter begins a new line.
 */
 class ExpressionEdit : public QPlainTextEdit
@@ -23,7 +24,7 @@ class ExpressionEdit : public QPlainTextEdit
     Q_OBJECT
 
 public:
-    enum class Shape { Entry, Page };
+    enum class Shape { Entry, Line, Page };
     explicit ExpressionEdit(Shape shape, QWidget *parent = nullptr);
 
     void setScope(const ExpressionScope &scope);
@@ -49,6 +50,8 @@ signals:
     void edited();
     void entered();
     void restored();
+    //! The fixed height of a line.
+    void heightChanged();
 
 protected:
     bool event(QEvent *event) override;
