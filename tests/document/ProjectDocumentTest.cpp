@@ -687,6 +687,53 @@ TEST_F(ProjectDocumentTest, AnAutosaveBelongsToTheNameOnTheDisk)
     EXPECT_EQ(level()->valueString(), u"newer"_s);
 }
 
+TEST_F(ProjectDocumentTest, TheFolderOfACopyKeepsItsNameWhenARenameIsUndone)
+{
+    const QByteArray original = read(file);
+    document.reset();
+    for (const bool hasOriginal : {true, false}) {
+        ASSERT_TRUE(QDir(path()).rename(u"Pumps"_s, u"Wells"_s));
+        if (hasOriginal) {
+            write(path(u"Pumps/Pumps.kdproj"_s), original);
+        }
+        file = path(u"Wells/Pumps.kdproj"_s);
+        openAgain();
+        const QString before = text();
+        const auto isAt = [this](const QString &name) {
+            const Project &project = document->project();
+            return project.fullFilePath() == path(u"Wells/%1.kdproj"_s.arg(name))
+                   && QFileInfo(project.fullFilePath()).isFile() && project.getIdName() == name;
+        };
+        for (const bool savesBetween : {false, true}) {
+            SCOPED_TRACE(u"%1 %2"_s.arg(hasOriginal).arg(savesBetween).toStdString());
+            ASSERT_TRUE(renameTo(u"Wells"_s) && isAt(u"Wells"_s));
+            for (int i = 0; i < 2; ++i) {
+                ASSERT_TRUE(!savesBetween || document->save()) << qPrintable(document->errorString());
+                ASSERT_TRUE(document->undo() && isAt(u"Pumps"_s)) << qPrintable(document->errorString());
+                EXPECT_EQ(text(), before);
+                ASSERT_TRUE(!savesBetween || document->save()) << qPrintable(document->errorString());
+                ASSERT_TRUE(document->redo() && isAt(u"Wells"_s)) << qPrintable(document->errorString());
+            }
+            ASSERT_TRUE(document->history().goTo(0) && isAt(u"Pumps"_s));
+        }
+        ASSERT_TRUE(document->beginGesture(u"Both"_s) && describe(u"new"_s) && renameTo(u"Wells"_s));
+        ASSERT_TRUE(document->rollBackGesture() && isAt(u"Pumps"_s)) << qPrintable(document->errorString());
+        EXPECT_EQ(text(), before);
+
+        ASSERT_TRUE(document->save() && renameTo(u"Wells"_s) && autosave());
+        crash(u"Wells/Pumps.kdproj"_s);
+        EXPECT_TRUE(isAt(u"Pumps"_s));
+        ASSERT_TRUE(document->recover() && isAt(u"Wells"_s)) << qPrintable(document->errorString());
+        ASSERT_TRUE(document->reload() && isAt(u"Pumps"_s)) << qPrintable(document->errorString());
+        EXPECT_EQ(QFileInfo::exists(path(u"Pumps"_s)), hasOriginal);
+        document.reset();
+        if (hasOriginal) {
+            EXPECT_EQ(read(path(u"Pumps/Pumps.kdproj"_s)), original);
+            ASSERT_TRUE(QDir(path(u"Wells"_s)).removeRecursively());
+        }
+    }
+}
+
 TEST_F(ProjectDocumentTest, AnUnsavedRenameReservesTheOldName)
 {
     const auto openOther = [this](const QString &name) {

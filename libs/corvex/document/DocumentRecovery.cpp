@@ -58,13 +58,16 @@ QString projectNameIn(const QString &file)
 }
 
 //! The name of the recovered project, if it is not the one in the file \a saved and nothing else has it by
-//! now; otherwise empty.
+//! now; otherwise empty. The folder only gets it if folder and file have the same name.
 QString nameToTake(const QString &recovered, const QString &saved)
 {
     const QString name = projectNameIn(recovered);
-    const QDir parent(QFileInfo(QFileInfo(saved).path()).path());
+    const QFileInfo file(saved);
+    const QFileInfo folder(file.path());
     const bool isNew = name != projectNameIn(saved) && FileNameRules::projectNameError(name).isEmpty();
-    return isNew && !QFileInfo::exists(parent.filePath(name)) ? name : QString();
+    const bool isTaken = file.dir().exists(u"%1.%2"_s.arg(name, file.suffix()))
+                         || (folder.fileName() == file.completeBaseName() && folder.dir().exists(name));
+    return isNew && !isTaken ? name : QString();
 }
 
 } // namespace

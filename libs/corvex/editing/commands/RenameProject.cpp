@@ -2,6 +2,7 @@
 #include "corvex/editing/commands/RenameProject.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileTransaction.h"
 #include "corvex/editing/commands/private/EditStep.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/files/FileNameRules.h"
@@ -14,27 +15,34 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! Renames the folder and the file, even if their names differ from the project's, as in a copy.
+//! Renames the file, and the folder if it has the same name. As in a copy, they may differ from the
+//! project's.
 class RenameProjectStep : public EditStep
 {
 public:
     RenameProjectStep(Project *project, const QString &newName)
         : m_project(project)
         , m_oldName(project->getIdName())
-        , m_oldFileName(QFileInfo(project->fileName()).completeBaseName())
         , m_newName(newName)
         , m_oldVersion(project->version()->valueString())
     { }
 
     bool isPossible() const override { return m_project; }
-    bool changesFiles() const override { return m_project && !m_project->fullFilePath().isEmpty(); }
+    bool changesFiles() const override { return m_project && hasFile(); }
     bool redo(QString &error) override
     {
-        const bool hasFile = !m_project->fullFilePath().isEmpty();
-        if (hasFile && !m_project->beginFileChanges(&error)) {
+        if (hasFile() && !m_project->beginFileChanges(&error)) {
             return false;
         }
-        if (!rename(m_oldFileName, m_newName, m_newName, error)) {
+        m_oldFolder = m_project->subPath();
+        m_oldFile = m_project->fileName();
+        if (!renameFiles(error)) {
+            return false;
+        }
+        if (!m_project->setIdName(m_newName)) {
+            QString reason;
+            restoreFiles(reason);
+            error = m_project->idProperty()->refusalOf(m_newName);
             return false;
         }
         if (!m_oldVersion.isEmpty()) {
@@ -44,7 +52,13 @@ public:
     }
     bool undo(QString &error) override
     {
-        if (!rename(m_newName, m_oldFileName, m_oldName, error)) {
+        if (!restoreFiles(error)) {
+            return false;
+        }
+        if (!m_project->setIdName(m_oldName)) {
+            QString reason;
+            renameFiles(reason);
+            error = m_project->idProperty()->refusalOf(m_oldName);
             return false;
         }
         m_project->changePropertyValue(m_project->version(), m_oldVersion);
@@ -52,27 +66,41 @@ public:
     }
 
 private:
-    bool rename(const QString &fromFile, const QString &toFile, const QString &toName, QString &error)
+    bool hasFile() const { return !m_project->fullFilePath().isEmpty(); }
+    bool renameFiles(QString &error)
     {
-        if (!renameFile(fromFile, toFile)) {
-            error = m_project->fileError();
+        return rename(QFileInfo(m_oldFile).completeBaseName(), m_newName, error);
+    }
+    //! Renames back what redo() has renamed. Before, the folder of a copy may already have had the new name.
+    bool restoreFiles(QString &error)
+    {
+        const QString file = m_project->fileName();
+        if (m_project->subPath() != m_oldFolder) {
+            return rename(m_newName, QFileInfo(m_oldFile).completeBaseName(), error);
+        }
+        if (!hasFile() || file == m_oldFile) {
+            return true;
+        }
+        Common::FileTransaction *changes = m_project->beginFileChanges(&error);
+        if (!changes || !changes->move(file, m_oldFile, &error)) {
             return false;
         }
-        if (!m_project->setIdName(toName)) {
-            error = m_project->idProperty()->refusalOf(toName);
-            renameFile(toFile, fromFile);
-            return false;
-        }
+        m_project->setFileFields(m_project->parentPath(), m_oldFolder, m_oldFile);
         return true;
     }
-    bool renameFile(const QString &from, const QString &to)
+    bool rename(const QString &from, const QString &to, QString &error)
     {
-        return m_project->fullFilePath().isEmpty() || from == to || m_project->renameFile(from, to);
+        if (!hasFile() || from == to || m_project->renameFile(from, to)) {
+            return true;
+        }
+        error = m_project->fileError();
+        return false;
     }
 
     QPointer<Project> m_project;
     QString m_oldName;
-    QString m_oldFileName;
+    QString m_oldFolder; //!< its name
+    QString m_oldFile;   //!< its name
     QString m_newName;
     QString m_oldVersion;
 };
