@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The text and file forms of DesignerObject, based on ObjectXmlReader and ObjectXmlWriter.
-#include "corvex/common/files/SafeFile.h"
 #include "corvex/core/private/DesignerObjectData.h"
 #include "corvex/core/xml/ObjectXmlReader.h"
 #include "corvex/core/xml/ObjectXmlWriter.h"
@@ -131,23 +130,7 @@ bool DesignerObject::loadFromFile(DesignerObject *object, const QString &path, b
 
 bool DesignerObject::saveToFile(const DesignerObject *object, const QString &path, QString *error)
 {
-    QString problem;
-    bool done = false;
-    if (!ObjectXmlWriter::isComplete(object, false, &problem)) {
-        problem = u"\"%1\" contains no object, so nothing is written."_s.arg(problem);
-    } else if (Common::SafeFile file(path); file.openForWriting(&problem)) {
-        ObjectXmlWriter writer(&file, ObjectXmlWriter::LineEnd::Windows);
-        // A failed file has the better error message.
-        const bool isRefused = !writer.write(object) && file.error() == QFileDevice::NoError;
-        done = !isRefused && file.commit(&problem);
-        if (isRefused) {
-            problem = writer.errorString();
-        }
-    }
-    if (error) {
-        *error = problem;
-    }
-    return done;
+    return ObjectXmlWriter::save(object, path, error);
 }
 
 } // namespace Halvane::Corvex::Designer

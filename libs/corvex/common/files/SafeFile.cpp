@@ -132,10 +132,14 @@ void SafeFile::cancelWriting()
     QFile::close();
 }
 
-bool SafeFile::commit(QString *error)
+bool SafeFile::commit(QString *error, FileStamp *stamp)
 {
     if (m_failure.isEmpty() && (m_draft.isEmpty() || !flush())) {
         m_failure = FileHelper::writeError(*this);
+    }
+    // The rename keeps the number of the file.
+    if (m_failure.isEmpty() && stamp) {
+        *stamp = FileStamp::of(m_draft);
     }
     if (m_failure.isEmpty() && !moveDraft()) {
         m_failure = FileSync::reason();

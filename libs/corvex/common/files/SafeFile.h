@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/Export.h"
+#include "corvex/common/files/FileStamp.h"
 
 #include <QFile>
 
@@ -32,8 +33,8 @@ public:
     //! Discards the new file. commit() is no longer needed.
     void cancelWriting();
     //! Flushes and renames the file. If anything has failed since the file was opened, returns false and the
-    //! target is unchanged.
-    bool commit(QString *error = nullptr);
+    //! target is unchanged. \a stamp gets the stamp of what was written, whoever replaces it later.
+    bool commit(QString *error = nullptr, FileStamp *stamp = nullptr);
 
     //! Removes the drafts that killed programs have left in a folder.
     static void removeAbandoned(const QString &folder);

@@ -4,6 +4,7 @@
 #include "corvex/common/Processors.h"
 #include "corvex/common/Progress.h"
 #include "corvex/common/files/FileHelper.h"
+#include "corvex/common/files/SafeFile.h"
 #include "corvex/core/ItemList.h"
 #include "corvex/core/private/DesignerObjectData.h"
 #include "corvex/core/xml/XmlLimits.h"
@@ -103,6 +104,28 @@ bool ObjectXmlWriter::writeProperties(const DesignerObject *object)
     QString missing;
     return noteMissing(hasAllChildren(object, m_allProperties, &missing), missing)
            && writeDocument(object, &ObjectXmlWriter::writeOwnProperties);
+}
+
+bool ObjectXmlWriter::save(const DesignerObject *object, const QString &path, QString *error,
+                           Common::FileStamp *stamp)
+{
+    QString problem;
+    bool done = false;
+    if (!isComplete(object, false, &problem)) {
+        problem = u"\"%1\" contains no object, so nothing is written."_s.arg(problem);
+    } else if (Common::SafeFile file(path); file.openForWriting(&problem)) {
+        ObjectXmlWriter writer(&file, LineEnd::Windows);
+        // A failed file has the better error message.
+        const bool isRefused = !writer.write(object) && file.error() == QFileDevice::NoError;
+        done = !isRefused && file.commit(&problem, stamp);
+        if (isRefused) {
+            problem = writer.errorString();
+        }
+    }
+    if (error) {
+        *error = problem;
+    }
+    return done;
 }
 
 bool ObjectXmlWriter::noteMissing(bool isComplete, const QString &missing)

@@ -14,6 +14,7 @@ class QDomElement;
 class QIODevice;
 
 namespace Halvane::Corvex::Common {
+class FileStamp;
 class Progress;
 } // namespace Halvane::Corvex::Common
 
@@ -58,6 +59,11 @@ public:
     void begin(const DesignerObject *object);
     //! Returns false when everything is written, or with an errorString().
     bool writePiece();
+
+    //! Writes the file \a path with the line ends of Windows, see DesignerObject::saveToFile(). \a stamp gets
+    //! the stamp of what was written. Both may be null.
+    static bool save(const DesignerObject *object, const QString &path, QString *error = nullptr,
+                     Common::FileStamp *stamp = nullptr);
 
     //! Whether every object property has its object, and every class with a form of its own returns one. \a
     //! missing names the place without one.

@@ -5,6 +5,7 @@
 #include "corvex/common/files/FileSync.h"
 #include "corvex/common/files/SafeFile.h"
 #include "corvex/common/files/TemporaryFolder.h"
+#include "corvex/core/xml/ObjectXmlWriter.h"
 #include "corvex/editing/undo/HistoryKeeper.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/ImageResource.h"
@@ -197,7 +198,6 @@ bool Project::saveFile()
         changePropertyValue(m_designerVersion, oldDesignerVersion);
         return false;
     }
-    m_fileStamp = Common::FileStamp::of(fullFilePath());
     m_observers.call(&ModelObserver::projectSaved);
     if (m_historyKeeper) {
         setUndoStack(m_historyKeeper->historyAfterSave());
@@ -218,10 +218,17 @@ bool Project::writeAgain(QString *error)
             undoStack()->cleanJunkFiles();
         }
     };
-    const auto write = [this](const QString &path, QString *reason) {
-        return saveToFile(this, path, reason);
+    // Another program may write the file right after the save, so the stamp is not read from there.
+    Common::FileStamp written;
+    const auto write = [this, &written](const QString &path, QString *reason) {
+        return ObjectXmlWriter::save(this, path, reason, &written);
     };
-    return m_folder.save(folderPath(), fileName(), clean, write, error);
+    if (!m_folder.save(folderPath(), fileName(), clean, write, error)) {
+        return false;
+    }
+    // With image changes, the contents are copied to the file that a link leads to.
+    m_fileStamp = QFileInfo(fullFilePath()).isSymLink() ? Common::FileStamp::of(fullFilePath()) : written;
+    return true;
 }
 
 //! The waiting changes still know the contents of image files that another program has deleted since.
