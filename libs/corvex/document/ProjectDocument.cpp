@@ -184,7 +184,9 @@ bool ProjectDocument::writeMissingFile()
     if (file.isEmpty() || QFileInfo::exists(file)) {
         return true;
     }
-    return result(Common::FileHelper::makeFolder(m_project->folderPath(), &error)
+    const QString folder = m_project->folderPath();
+    return result((QFileInfo::exists(folder) || Common::FileTransaction::mayTakeName(folder, &error))
+                      && Common::FileHelper::makeFolder(folder, &error)
                       && DesignerObject::saveToFile(m_project.get(), file, &error),
                   error);
 }
