@@ -658,8 +658,10 @@ TEST_F(ProjectDocumentTest, AnAutosaveBelongsToTheNameOnTheDisk)
         EXPECT_EQ(document->project().fullFilePath(), path(u"Zulu/Zulu.kdproj"_s));
         ASSERT_TRUE(document->reload()) << qPrintable(document->errorString());
         EXPECT_EQ(document->project().fullFilePath(), file);
-        EXPECT_EQ(archives(), QStringList()) << "its edits were discarded";
+        EXPECT_EQ(archives(), QStringList(u"Pumps.kdproj.kdasv.tmp1"_s)) << "its edits were discarded";
     }
+    EXPECT_EQ(read(path(u"Pumps.kdproj.kdasv.tmp1"_s)), "older");
+    ASSERT_TRUE(QFile::remove(path(u"Pumps.kdproj.kdasv.tmp1"_s)));
 
     // What the user has not decided about follows a rename.
     ASSERT_TRUE(describe(u"unsaved"_s) && autosave());
@@ -741,11 +743,17 @@ TEST_F(ProjectDocumentTest, AnUnsavedRenameReservesTheOldName)
         EXPECT_EQ(other->createFile(path()), name != "Pumps"_L1);
         return other;
     };
+    const auto other = ProjectDocument::load(file);
+    ASSERT_EQ(outcomeOf(*other), Job::Outcome::Done);
+    auto second = std::make_unique<ProjectDocument>(std::move(*other->takeResult()));
     ASSERT_TRUE(renameTo(u"Zulu"_s));
     const QString error =
         u"The name \"Pumps\" is not free. The folder \"%1\" has it again when its unsaved "
         "changes are undone. Save these changes, or use another name."_s.arg(path(u"Zulu"_s));
     EXPECT_EQ(openOther(u"Pumps"_s)->fileError(), error);
+    EXPECT_FALSE(second->save(ProjectDocument::Overwrite::Always));
+    EXPECT_EQ(second->errorString(), error);
+    second.reset();
     const auto fans = openOther(u"Fans"_s);
     EXPECT_FALSE(fans->renameFile(u"Fans"_s, u"Pumps"_s));
     EXPECT_EQ(fans->fileError(), error);
@@ -797,6 +805,27 @@ TEST_F(ProjectDocumentTest, ADocumentLeavesTheAutosaveOfAnother)
     write(path(archives().value(0)), "of another document");
     document.reset();
     EXPECT_EQ(archives().size(), 1);
+}
+
+TEST_F(ProjectDocumentTest, ARecoveryTakesTheArchiveThatTheUserWasAskedAbout)
+{
+    ASSERT_TRUE(describe(u"unsaved"_s) && autosave());
+    const QString unsaved = text();
+    crash();
+    const QString archive = document->project().autosavePath();
+    const QString kept = archive + u".tmp1"_s;
+    ASSERT_TRUE(QFile::rename(archive, kept));
+    write(archive, "of another session");
+    ASSERT_TRUE(document->recover()) << qPrintable(document->errorString());
+    EXPECT_EQ(text(), unsaved);
+    ASSERT_TRUE(describe(u"more"_s) && autosave());
+    EXPECT_EQ(read(kept), "of another session");
+    EXPECT_EQ(archives().size(), 2);
+    crash();
+    write(document->project().autosavePath(), "of another session");
+    EXPECT_FALSE(document->hasRecovery() || document->discardRecovery());
+    ASSERT_TRUE(describe(u"saved"_s) && autosave() && document->save());
+    EXPECT_EQ(archives(), QStringList({u"Pumps.kdproj.kdasv.tmp1"_s, u"Pumps.kdproj.kdasv.tmp2"_s}));
 }
 
 TEST_F(ProjectDocumentTest, ItClosesWhileItsAutosaveRuns)

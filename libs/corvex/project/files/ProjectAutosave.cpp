@@ -14,6 +14,8 @@
 #include <QSettings>
 #include <QTimerEvent>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
@@ -25,7 +27,7 @@ QString asideName(const QString &archive)
     return archive + ".tmp"_L1;
 }
 
-//! Keeps a file that is not of this project under a name that no program looks for.
+//! Keeps a file that is not of this session under a name that no program opens.
 void moveOutOfTheWay(const QString &path)
 {
     if (const QFileInfo file(path); file.exists()) {
@@ -44,7 +46,7 @@ void moveArchive(const QString &from, const QString &to)
 
 } // namespace
 
-ProjectAutosave::Written::Written(const QString &archive)
+ProjectAutosave::Archive::Archive(const QString &archive)
     : path(archive)
 {
     if (const QFileInfo file(archive); file.exists()) {
@@ -53,10 +55,23 @@ ProjectAutosave::Written::Written(const QString &archive)
     }
 }
 
-bool ProjectAutosave::Written::isAt(const QString &otherPath) const
+bool ProjectAutosave::Archive::isAt(const QString &otherPath) const
 {
-    const Written other(otherPath);
+    const Archive other(otherPath);
     return time.isValid() && other.time == time && other.size == size;
+}
+
+QString ProjectAutosave::Archive::find() const
+{
+    if (!time.isValid() || isAt(path)) {
+        return time.isValid() ? path : QString();
+    }
+    const QFileInfo own(path);
+    const QFileInfoList files = own.dir().entryInfoList(QDir::Files);
+    const auto found = std::ranges::find_if(files, [&](const QFileInfo &file) {
+        return file.fileName().startsWith(own.fileName()) && isAt(file.filePath());
+    });
+    return found == files.end() ? QString() : found->filePath();
 }
 
 ProjectAutosave::ProjectAutosave(Project *project)
@@ -127,8 +142,8 @@ void ProjectAutosave::projectSaved(const QString &oldArchive)
     }
     // The project has found its new name free, so archives with that name are of a deleted project.
     moveArchive(oldArchive, archive);
-    if (!m_found.isEmpty() && QFile::exists(archive)) {
-        m_found = archive;
+    if (m_found.isAt(archive)) {
+        m_found.path = archive;
     }
 }
 
@@ -179,43 +194,39 @@ void ProjectAutosave::findArchive()
             QFile::rename(aside, archive);
         }
     }
-    m_found = QFile::exists(archive) ? archive : QString();
+    m_found = Archive(archive);
 }
 
 QString ProjectAutosave::foundArchive() const
 {
-    return QFile::exists(m_found) ? m_found : QString();
+    return m_found.find();
 }
 
 void ProjectAutosave::adoptArchive()
 {
-    m_written = Written(std::exchange(m_found, {}));
+    m_written = std::exchange(m_found, Archive());
     m_saved = historyState();
     m_isSavedInArchive = true;
 }
 
 bool ProjectAutosave::discardArchive(QString *error)
 {
-    for (const QString &path : {asideName(m_found), m_found}) {
-        if (QFile file(path); !file.remove() && file.exists()) {
-            *error = Common::LocalizationHelper::coreString(u"The file \"%1\" cannot be deleted."_s)
-                         .arg(QDir::toNativeSeparators(path));
-            return false;
-        }
+    if (QFile file(m_found.find()); file.exists() && !file.remove()) {
+        *error = Common::LocalizationHelper::coreString(u"The file \"%1\" cannot be deleted."_s)
+                     .arg(QDir::toNativeSeparators(file.fileName()));
+        return false;
     }
-    m_found.clear();
+    m_found = Archive();
     return true;
 }
 
 void ProjectAutosave::removeArchive()
 {
     cancel();
-    for (const QString &path : {m_written.path, asideName(m_written.path)}) {
-        if (m_written.isAt(path)) {
-            QFile::remove(path);
-        }
+    if (QFile file(m_written.find()); file.exists()) {
+        file.remove();
     }
-    m_written = Written();
+    m_written = Archive();
 }
 
 //! After a crash the file that was set aside may be the only one; keep it then.
@@ -225,7 +236,10 @@ QString ProjectAutosave::moveAside()
     if (!QFile::exists(m_archive)) {
         return {};
     }
-    QFile::remove(aside);
+    if (m_written.isAt(aside)) {
+        QFile::remove(aside);
+    }
+    moveOutOfTheWay(aside);
     if (QFile file(m_archive); !file.rename(aside)) {
         return Common::LocalizationHelper::coreString(u"The file \"%1\" cannot be renamed: %2"_s)
             .arg(m_archive, file.errorString());
@@ -299,9 +313,12 @@ void ProjectAutosave::conclude(const QString &error)
     const QString aside = asideName(m_archive);
     if (error.isEmpty()) {
         m_saved = m_beingSaved;
-        m_written = Written(m_archive);
+        if (const QString older = m_written.find(); !older.isEmpty() && older != m_archive) {
+            QFile::remove(older);
+        }
+        moveOutOfTheWay(aside);
+        m_written = Archive(m_archive);
         m_isSavedInArchive = true;
-        QFile::remove(aside);
     } else if (!QFile::exists(m_archive)) {
         QFile::rename(aside, m_archive);
     }

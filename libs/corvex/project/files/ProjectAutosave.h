@@ -26,7 +26,8 @@ class Project;
     complete and restored on failure. P is the name of the project as it was last saved.
 
     Several documents and programs may have the same project open. Each one only deletes the archive that it
-    has written itself, and writes another one if its own was replaced or deleted.
+    has written itself, and writes another one if its own was replaced or deleted. An archive of another one
+    that is in the way gets a free name that begins with its own.
 */
 class CORVEX_EXPORT ProjectAutosave : public QObject
 {
@@ -53,7 +54,8 @@ public:
     //! Looks for it. It may be the one that was set aside, or have the name from before an unsaved renaming
     //! that nothing else recorded. It gets its right name then.
     void findArchive();
-    //! The path of that archive; empty if none was found, or if another program has deleted it since.
+    //! The present path of that archive, to which another program may have moved it; empty if none was found,
+    //! or if it was deleted since.
     QString foundArchive() const;
     //! The project has the contents of the archive now, so it is handled as if written by this object.
     void adoptArchive();
@@ -95,11 +97,13 @@ private:
         quint64 editCount = 0;
         bool operator==(const HistoryState &other) const = default;
     };
-    //! Identifies the archive that this object has written. A run of another document may have set it aside.
-    struct Written
+    //! Identifies an archive. A run of another document may have moved it.
+    struct Archive
     {
-        explicit Written(const QString &archive = {});
+        explicit Archive(const QString &archive = {});
         bool isAt(const QString &otherPath) const;
+        //! Its present path; empty if it no longer exists.
+        QString find() const;
 
         QString path;
         QDateTime time;
@@ -123,8 +127,8 @@ private:
     bool m_isDue = false;            //!< when the current gesture ends
     bool m_isSavedInArchive = false; //!< m_saved is not a state of the project's file
     QString m_archive;               //!< of the last run
-    QString m_found;
-    Written m_written;
+    Archive m_found;
+    Archive m_written;
     std::shared_ptr<AutosaveRun> m_work; //!< of the job; null without a job
     std::unique_ptr<Common::Job> m_job;
 };
