@@ -240,6 +240,17 @@ TEST_F(ColorEditorsTest, ABorderChangesInParts)
     EXPECT_EQ(value(second, "border"), u"color: #FF00FF00; width: 7;"_s);
 }
 
+TEST_F(ColorEditorsTest, ABorderThatIsStoredElsewhereKeepsItsOtherPart)
+{
+    const PropertyEditor *shown = edit({element("rectangle1")}, "border");
+    SheetRow row = shown->row();
+    row.value = u"color: #FF0000FF; width: 9;"_s;
+    BorderEditor editor;
+    editor.setElsewhere(element("rectangle1")->getProperty(u"border"_s), row);
+    editor.enterColor(Qt::red);
+    EXPECT_EQ(editor.takeEntry(), u"color: #FFFF0000; width: 9;"_s);
+}
+
 TEST_F(ColorEditorsTest, StopsOfAGradientAreMovedAddedAndRemoved)
 {
     DesignerObject *rainbow = addRainbow();

@@ -108,7 +108,7 @@ void BACObjIdEditor::showRow()
 PropertyEditor::Entry BACObjIdEditor::entryFor(const DesignerProperty &property) const
 {
     // What was not entered keeps the value of the object.
-    const auto known = BACnetObject::readIdentifier(property.valueString());
+    const auto known = BACnetObject::readIdentifier(valueOf(property));
     const int type = m_type->currentIndex() >= 0 ? m_type->currentData().toInt() : known ? known->type : 0;
     bool isNumber = false;
     const int instance = m_instance->text().isEmpty() && known
@@ -152,7 +152,7 @@ void BACDeviceEditor::showRow()
 
 PropertyEditor::Entry BACDeviceEditor::entryFor(const DesignerProperty &property) const
 {
-    BACDeviceInfo info(property.valueString());
+    BACDeviceInfo info(valueOf(property));
     for (qsizetype i = 0; i < m_lines.size(); ++i) {
         const DeviceField &field = deviceFields[i];
         if (row().isMixed && !m_lines.at(i)->hasEntry()) {

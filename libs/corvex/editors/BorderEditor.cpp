@@ -24,11 +24,6 @@ namespace {
 constexpr int widest = 100;
 constexpr int coarse = 10;
 
-BorderInfo borderOf(const DesignerProperty &property)
-{
-    return BorderInfo(property.valueString());
-}
-
 } // namespace
 
 void BorderEditor::createFields()
@@ -46,12 +41,12 @@ void BorderEditor::showRow()
     if (all.isEmpty()) {
         return;
     }
-    const BorderInfo first = borderOf(*all.constFirst());
-    const bool sharesWidth = std::ranges::all_of(all, [&first](const SharedProperty &property) {
-        return borderOf(*property).width() == first.width();
+    const BorderInfo first(valueOf(*all.constFirst()));
+    const bool sharesWidth = std::ranges::all_of(all, [this, &first](const SharedProperty &property) {
+        return BorderInfo(valueOf(*property)).width() == first.width();
     });
-    const bool sharesColor = std::ranges::all_of(all, [&first](const SharedProperty &property) {
-        return borderOf(*property).color() == first.color();
+    const bool sharesColor = std::ranges::all_of(all, [this, &first](const SharedProperty &property) {
+        return BorderInfo(valueOf(*property)).color() == first.color();
     });
     m_width->setPlaceholderText(sharesWidth ? QString() : mixedText());
     m_width->setShownText(sharesWidth ? u"%1 px"_s.arg(first.width()) : QString());
@@ -62,7 +57,7 @@ void BorderEditor::showRow()
 //! Only what was entered replaces the part of each object.
 PropertyEditor::Entry BorderEditor::entryFor(const DesignerProperty &property) const
 {
-    BorderInfo border = borderOf(property);
+    BorderInfo border(valueOf(property));
     if (m_width->hasEntry()) {
         QString text = m_width->text().trimmed();
         if (text.endsWith("px"_L1)) {
@@ -98,7 +93,7 @@ void BorderEditor::takeStep(int steps)
 {
     const QList<SharedProperty> all = properties();
     if (m_width->placeholderText().isEmpty() && !all.isEmpty()) {
-        const int width = std::clamp(borderOf(*all.constFirst()).width() + steps, 0, widest);
+        const int width = std::clamp(BorderInfo(valueOf(*all.constFirst())).width() + steps, 0, widest);
         m_width->enterText(QString::number(width));
     } else {
         m_steps = steps;

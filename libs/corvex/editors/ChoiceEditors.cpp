@@ -96,7 +96,7 @@ void BooleanEditor::showRow()
 PropertyEditor::Entry BooleanEditor::entryFor(const DesignerProperty &property) const
 {
     return m_box->checkState() == Qt::PartiallyChecked
-               ? Entry{property.valueString(), {}}
+               ? Entry{valueOf(property), {}}
                : Entry{ValueConversion::toString(m_box->isChecked()), {}};
 }
 
@@ -131,7 +131,7 @@ void EnumEditor::showRow()
 
 PropertyEditor::Entry EnumEditor::entryFor(const DesignerProperty &property) const
 {
-    return {m_keys.value(m_box->currentIndex(), property.valueString()), {}};
+    return {m_keys.value(m_box->currentIndex(), valueOf(property)), {}};
 }
 
 void TransformOriginEditor::createFields()
@@ -164,7 +164,7 @@ void TransformOriginEditor::showRow()
 
 PropertyEditor::Entry TransformOriginEditor::entryFor(const DesignerProperty &property) const
 {
-    return {m_chosen.isEmpty() ? property.valueString() : m_chosen, {}};
+    return {m_chosen.isEmpty() ? valueOf(property) : m_chosen, {}};
 }
 
 void ScreenOrientationEditor::createFields()
@@ -195,7 +195,7 @@ void ScreenOrientationEditor::showRow()
 
 PropertyEditor::Entry ScreenOrientationEditor::entryFor(const DesignerProperty &property) const
 {
-    return {m_turns->checkedId() < 0 ? property.valueString() : QString::number(m_turns->checkedId()), {}};
+    return {m_turns->checkedId() < 0 ? valueOf(property) : QString::number(m_turns->checkedId()), {}};
 }
 
 void FlagsEditor::createFields()
@@ -203,7 +203,7 @@ void FlagsEditor::createFields()
     auto *list = new QVBoxLayout;
     list->setSpacing(0);
     fields()->addLayout(list, 1);
-    for (const Flag &flag : flagsOf(properties().constFirst()->valueString())) {
+    for (const Flag &flag : flagsOf(valueOf(*properties().constFirst()))) {
         auto *box = new QCheckBox(wordsFor(flag.key), this);
         box->setMinimumHeight(Theme::fieldHeight(this));
         prepareField(box, box->text());
@@ -221,7 +221,7 @@ void FlagsEditor::showRow()
     QMap<QString, bool> isOn;
     QMap<QString, bool> isMixed;
     for (const SharedProperty &property : properties()) {
-        for (const Flag &flag : flagsOf(property->valueString())) {
+        for (const Flag &flag : flagsOf(valueOf(*property))) {
             isMixed[flag.key] = isMixed[flag.key] || isOn.value(flag.key, flag.isOn) != flag.isOn;
             isOn[flag.key] = flag.isOn;
         }
@@ -237,7 +237,7 @@ void FlagsEditor::showRow()
 //! Only the flag that the user has clicked changes; the others may differ between the objects.
 PropertyEditor::Entry FlagsEditor::entryFor(const DesignerProperty &property) const
 {
-    QList<Flag> flags = flagsOf(property.valueString());
+    QList<Flag> flags = flagsOf(valueOf(property));
     const auto clicked = std::ranges::find(flags, m_clicked, &Flag::key);
     if (clicked != flags.end()) {
         clicked->isOn = m_boxes.value(m_clicked)->isChecked();

@@ -41,7 +41,7 @@ void FontEditor::showRow()
     m_line->setPlaceholderText(row().isMixed ? mixedText() : QString());
     m_line->setShownText(row().isMixed ? QString() : ReadableValue::print(*all.constFirst(), row().value));
     if (m_picker) {
-        m_picker->setFont(ValueConversion::toFont(all.constFirst()->valueString()));
+        m_picker->setFont(ValueConversion::toFont(valueOf(*all.constFirst())));
     }
     showMissing();
 }
@@ -64,7 +64,7 @@ void FontEditor::openPicker()
         return;
     }
     m_picker = new FontPicker(m_open);
-    m_picker->setFont(ValueConversion::toFont(all.constFirst()->valueString()));
+    m_picker->setFont(ValueConversion::toFont(valueOf(*all.constFirst())));
     connect(m_picker, &FontPicker::changed, this, [this](const FontPicker::Change &change, bool isStep) {
         m_change = change;
         if (isStep) {
@@ -79,7 +79,7 @@ void FontEditor::openPicker()
 PropertyEditor::Entry FontEditor::entryFor(const DesignerProperty &property) const
 {
     if (m_change) {
-        QFont font = ValueConversion::toFont(property.valueString());
+        QFont font = ValueConversion::toFont(valueOf(property));
         m_change(font);
         return {ValueConversion::toString(font), {}};
     }

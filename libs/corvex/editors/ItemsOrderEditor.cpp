@@ -76,7 +76,7 @@ void ItemsOrderEditor::createFields()
 
 QStringList ItemsOrderEditor::itemsOf(const DesignerProperty &property) const
 {
-    const QString text = property.valueString();
+    const QString text = valueOf(property);
     return property.references() == Form::CommaNames ? text.split(comma, Qt::SkipEmptyParts)
                                                      : ListInfo(text).toList();
 }

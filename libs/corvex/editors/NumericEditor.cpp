@@ -162,7 +162,7 @@ double NumericEditor::withStep(double number) const
 
 PropertyEditor::Entry NumericEditor::entryFor(const DesignerProperty &property) const
 {
-    const QString own = property.valueString();
+    const QString own = valueOf(property);
     if (m_dragged) {
         return stored({.number = *m_dragged}, own, {});
     }

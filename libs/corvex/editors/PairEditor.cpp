@@ -42,7 +42,7 @@ void PairEditor::showRow()
     std::array<std::optional<double>, 2> common;
     std::array<bool, 2> isMixed{};
     for (const SharedProperty &property : properties()) {
-        const std::optional<Pair> pair = read(property->valueString());
+        const std::optional<Pair> pair = read(valueOf(*property));
         for (size_t place = 0; place < m_lines.size() && pair; ++place) {
             isMixed[place] = isMixed[place] || (common[place] && *common[place] != (*pair)[place]);
             common[place] = (*pair)[place];
@@ -63,7 +63,7 @@ void PairEditor::showRow()
 
 PropertyEditor::Entry PairEditor::entryFor(const DesignerProperty &property) const
 {
-    const QString own = property.valueString();
+    const QString own = valueOf(property);
     const Pair held = read(own).value_or(Pair{});
     Pair changed = held;
     for (size_t place = 0; place < m_lines.size(); ++place) {

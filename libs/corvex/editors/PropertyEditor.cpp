@@ -269,6 +269,11 @@ void PropertyEditor::showRow()
         m_row.isMixed || all.isEmpty() ? QString() : ReadableValue::print(*all.constFirst(), m_row.value));
 }
 
+QString PropertyEditor::valueOf(const DesignerProperty &property) const
+{
+    return m_elsewhere ? m_row.value : property.valueString();
+}
+
 PropertyEditor::Entry PropertyEditor::entryFor(const DesignerProperty &property) const
 {
     const ReadableValue::Reading reading = ReadableValue::read(property, m_text->text());

@@ -112,6 +112,9 @@ protected:
     virtual void showRow();
     //! What the user has entered, for one of properties().
     virtual Entry entryFor(const DesignerProperty &property) const;
+    //! The stored value that is edited for one of properties(). It is not that of the property if the value
+    //! is stored elsewhere.
+    QString valueOf(const DesignerProperty &property) const;
     //! The command for the entry; by default a change of all values to their entries.
     virtual PlannedCommand plan() const;
 
