@@ -30,7 +30,8 @@ void ExpressionHighlighter::setPalette(const QPalette &palette)
 void ExpressionHighlighter::highlightBlock(const QString &text)
 {
     const QColor constants = m_palette.color(QPalette::LinkVisited);
-    for (const Token &token : ExpressionTokens(text).all()) {
+    const ExpressionTokens tokens(text);
+    for (const Token &token : tokens.all()) {
         QTextCharFormat format;
         switch (token.type) {
         case Token::Name:
