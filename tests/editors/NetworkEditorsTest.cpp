@@ -13,9 +13,9 @@ class NetworkEditorsTest : public EditorFixture
 {
 protected:
     //! A device on another host, whose addresses are shown.
-    DesignerObject *addDevice(const char *type)
+    DesignerObject *addDevice(const char *type, const char *name = "device1")
     {
-        DesignerObject *device = add(document->project().variables(), "BACnetDevice", "device1");
+        DesignerObject *device = add(document->project().variables(), "BACnetDevice", name);
         EXPECT_TRUE(push(Commands::changeOf({{device->getProperty(u"isLocal"_s), u"false"_s}})));
         device->getProperty(u"bacnetType"_s)
             ->parentObject()
@@ -82,6 +82,19 @@ TEST_F(NetworkEditorsTest, AnAddressIsTypedSteppedAndPasted)
     QTest::keyClick(line, Qt::Key_Delete);
     QTest::keyClick(line, Qt::Key_Return); // no address
     EXPECT_EQ(value(device, "ethernetIP"), QString());
+}
+
+TEST_F(NetworkEditorsTest, SeveralDevicesShowMixedUntilTheyAreTheSame)
+{
+    DesignerObject *first = addDevice("BACnetIP", "device1");
+    DesignerObject *second = addDevice("BACnetIP", "device2");
+    ASSERT_TRUE(push(Commands::changeOf({{second->getProperty(u"ethernetIP"_s), u"10.0.0.7"_s}})));
+    PropertyEditor *editor = edit({first, second}, "ethernetIP");
+    EXPECT_EQ(field<KdAddressEdit>(editor)->placeholderText(), u"Mixed"_s);
+    type(u"10.0.0.8"_s);
+    EXPECT_EQ(value(first, "ethernetIP"), u"10.0.0.8"_s);
+    EXPECT_EQ(value(second, "ethernetIP"), u"10.0.0.8"_s);
+    EXPECT_EQ(field<KdAddressEdit>(editor)->placeholderText(), u"0.0.0.0"_s);
 }
 
 TEST_F(NetworkEditorsTest, ADeviceOnASerialBusHasAStation)

@@ -20,6 +20,7 @@ int MACAddressEditor::kind() const
 void NetworkAddressEditor::createFields()
 {
     m_address = new KdAddressEdit(KdAddressEdit::Kind(kind()), this);
+    m_example = m_address->placeholderText();
     prepareLine(m_address);
     fields()->addWidget(m_address, 1);
     connect(m_address, &KdAddressEdit::stepped, this, [this] { completeStep(); });
@@ -27,9 +28,7 @@ void NetworkAddressEditor::createFields()
 
 void NetworkAddressEditor::showRow()
 {
-    if (row().isMixed) {
-        m_address->setPlaceholderText(mixedText());
-    }
+    m_address->setPlaceholderText(row().isMixed ? mixedText() : m_example);
     // Keeps the octet that the user changes by steps.
     const int place = m_address->cursorPosition();
     m_address->setShownText(row().value);

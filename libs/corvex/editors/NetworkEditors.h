@@ -24,6 +24,7 @@ protected:
 
 private:
     KdAddressEdit *m_address = nullptr;
+    QString m_example; //!< of an address, in an empty field
 };
 
 //! The address of a device on its network: six octets, or the number of a station on a serial bus.
