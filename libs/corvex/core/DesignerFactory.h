@@ -75,7 +75,7 @@ public:
     //! What objects of the class are for, in one sentence; empty if its factory does not say.
     QString descriptionForClass(const QString &className) const { return m_descriptions.value(className); }
     //! An object that shows what the class has: as createUnowned(), but also for an abstract class whose
-    //! factory makes samples. Null if there is none. The caller owns it.
+    //! factory makes samples. Null for any other class. The caller owns it.
     DesignerObject *createSample(const QString &className) const;
 
     // The names of an object's class in the tables; the class name itself without a factory or an entry.

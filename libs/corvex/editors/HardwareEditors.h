@@ -38,7 +38,7 @@ protected:
     QList<int> channels() const;
     //! The use of a channel in the menu, without its users; empty in this class.
     virtual QString useOf(int channel) const;
-    //! The model of the project; null if there is none.
+    //! The device model of the project; null if it has none.
     const Configuration *configuration() const;
 
 private:
@@ -90,7 +90,7 @@ protected:
     virtual QString channelTitle(int channel) const;
     //! Who else needs the channel, for the user.
     virtual QStringList usersOf(int channel) const = 0;
-    //! The model whose channels are edited; null if there is none.
+    //! The device model whose channels are edited; null without objects.
     const Configuration *configuration() const;
     //! The elements of that class on all screens with that channel, as paths.
     QStringList elementsOn(const QString &className, int channel) const;

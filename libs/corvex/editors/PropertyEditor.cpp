@@ -213,8 +213,8 @@ UndoCommand *PropertyEditor::createUpdateCommand()
         refuse(planned.reason);
         return nullptr;
     }
-    // Until the command is pushed, the field keeps the text. If there is none, the field may show the same
-    // value in another spelling.
+    // The field keeps the text until the command is pushed. Without a command, the value is the same, perhaps
+    // in another spelling.
     m_hasEntry = false;
     m_refusal.clear();
     if (!planned) {

@@ -35,7 +35,7 @@ public:
     //! The colors that were chosen last, the latest first.
     static QList<QColor> recentColors();
 
-    //! A text that people write: a name, #RRGGBB, or #AARRGGBB. Invalid if it is none of them.
+    //! A text that people write: a name, #RRGGBB, or #AARRGGBB. Invalid for any other text.
     static QColor read(const QString &text);
     static QString print(const QColor &color);
 

@@ -33,7 +33,7 @@ public:
     //! Discards the new file. commit() is no longer needed.
     void cancelWriting();
     //! Flushes and renames the file. If anything has failed since the file was opened, returns false and the
-    //! target is unchanged. \a stamp gets the stamp of what was written, whoever replaces it later.
+    //! target is unchanged. \a stamp is that of the written file, even if another program replaces it.
     bool commit(QString *error = nullptr, FileStamp *stamp = nullptr);
 
     //! Removes the drafts that killed programs have left in a folder.

@@ -18,7 +18,7 @@ class CORVEX_EXPORT ValueCode
 public:
     //! Empty if the terms are incomplete, cannot be translated, or contain a misfit.
     static QString of(const GeneralDataList &terms, const ExpressionPurpose &purpose);
-    //! The index of a constant that would be the value, but has another type; -1 if there is none.
+    //! The index of a constant that is the value but has the wrong type; -1 if all types fit.
     static qsizetype misfit(const GeneralDataList &terms, const ExpressionPurpose &purpose);
     //! What a misfit is not, for the user.
     static QString explanation(const ExpressionPurpose &purpose);

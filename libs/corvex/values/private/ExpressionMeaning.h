@@ -17,7 +17,7 @@ public:
     */
     static QList<qsizetype> sums(const GeneralDataList &terms);
     //! The place of a comparison whose first value is the result of a comparison, as in "0 < a < 9"; -1 if
-    //! there is none.
+    //! no comparison is chained.
     static qsizetype chained(const GeneralDataList &terms);
     //! Replaces the colors that are compared with a color of an element by the texts that these equal.
     static void compareColors(GeneralDataList &terms);

@@ -39,7 +39,7 @@ public:
     //! Whether the text cannot stand for itself on a line: it has quotes, a line break or another character
     //! that is not printable, or blanks or "=" at its ends.
     static bool needsQuotes(const QString &text);
-    //! The text in the quotes around all of \a text; \a text itself if there are none. \a error is set, for
+    //! The contents of a text in quotes; a text without quotes stays as it is. \a error is set, for
     //! the user, if an escape is wrong.
     static QString unquoted(const QString &text, QString &error);
     //! The text that begins with a quote at \a place, which is moved behind the closing one. Null if there is

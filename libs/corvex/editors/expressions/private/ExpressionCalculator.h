@@ -28,7 +28,7 @@ public:
 
     struct Result
     {
-        QString value;   //!< in the readable form; empty if there is none
+        QString value;   //!< in the readable form; empty if it is unknown
         QString problem; //!< why there is no value, for the user
 
         //! One line with the type, such as "= 72.5 (number)".

@@ -41,7 +41,7 @@ public:
     QString print(const QString &stored) const;
     //! The number of the first term that has no readable form, from 0; -1 if each of them has one.
     qsizetype firstUnreadable(const GeneralDataList &terms) const;
-    //! The code on the device; empty if there is none.
+    //! The code for the device; empty if the terms cannot be translated.
     QString codeOf(const GeneralDataList &terms) const;
 
     //! A part of an expression with its own purpose, the first one that fits; no terms if none does.

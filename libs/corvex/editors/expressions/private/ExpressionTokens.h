@@ -17,7 +17,7 @@ public:
 
     //! Without the end. A token that is no token of the language is of the type "wrong".
     const QList<ExpressionToken> &all() const { return m_tokens; }
-    //! The index of the token around \a position, or directly before it; -1 if there is none.
+    //! The index of the token around \a position, or directly before it; -1 if it touches no token.
     qsizetype at(qsizetype position) const;
     //! The number of tokens that end before \a position.
     qsizetype countBefore(qsizetype position) const;
