@@ -40,10 +40,11 @@ void EditorHistory::push(PropertyEditor *editor, bool isStep)
         editor->refuse(m_document.errorString());
         return;
     }
-    const QStringList notes = editor->notes();
-    editor->restore(); // the row does not change if the values differ before and after the edit
-    if (!notes.isEmpty()) {
-        emit noted(notes);
+    if (editor->sheet()) {
+        editor->sheet()->flush(); // before the next key is pressed
+    }
+    if (!editor->notes().isEmpty()) {
+        emit noted(editor->notes());
     }
 }
 

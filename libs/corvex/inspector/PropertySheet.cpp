@@ -238,6 +238,27 @@ void PropertySheet::refresh(SheetLine &line)
     }
 }
 
+//! A view may show parts of values that differ. A report for each object would be quadratic.
+void PropertySheet::reportLater()
+{
+    if (!std::exchange(m_isReportDue, true)) {
+        QMetaObject::invokeMethod(this, &PropertySheet::flush, Qt::QueuedConnection);
+    }
+}
+
+void PropertySheet::flush()
+{
+    if (!std::exchange(m_isReportDue, false)) {
+        return;
+    }
+    const auto value = std::ranges::find_if(fields(), &Field::isValue);
+    for (int row = 0; row < int(m_rows.size()); ++row) {
+        if (std::exchange(m_rows[size_t(row)]->isReportDue, false)) {
+            emit dataChanged(index(row, ValueColumn), index(row, ValueColumn), value->roles());
+        }
+    }
+}
+
 PlannedCommand PropertySheet::set(int row, const QString &text) const
 {
     QList<RequestedValue> values;
@@ -369,8 +390,13 @@ void PropertySheet::valueChanged(const SharedProperty &property, const QString &
 {
     const size_t *place = m_objects->placeOf(property->parentObject());
     if (SheetLine *line = place ? lineOf(property, *place) : nullptr) {
+        const bool wasMixed = line->shown.isMixed;
         line->valueChanged(*place, previousValue);
         refresh(*line);
+        line->isReportDue = wasMixed && line->shown.isMixed;
+        if (line->isReportDue) {
+            reportLater();
+        }
     }
 }
 

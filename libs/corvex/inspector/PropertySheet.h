@@ -47,9 +47,10 @@ struct CORVEX_EXPORT SheetRow
 
     Everything except the value, such as title and editor, is taken from the first object.
 
-    The sheet follows values, validity and descriptors, and reports exactly the changed rows and roles. An
-    object that leaves the project is removed from the sheet, and added again if it returns. An edit of
-    another object costs one table lookup.
+    The sheet follows values, validity and descriptors, and reports exactly the changed rows and roles. Values
+    that differ before and after a change are reported once when the event loop runs, however many of them
+    have changed. An object that leaves the project is removed from the sheet, and added again if it returns.
+   An edit of another object costs one table lookup.
 */
 class CORVEX_EXPORT PropertySheet
     : public QAbstractTableModel
@@ -117,6 +118,9 @@ public:
     //! The values of rows as text: a JSON object with ids and values. Rows with different values are skipped.
     QString copy(const QList<int> &rows) const;
 
+    //! Reports now what would be reported when the event loop runs.
+    void flush();
+
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
@@ -142,12 +146,14 @@ private:
     std::vector<SheetLine *> wantedRows() const;
     void arrange();
     void refresh(SheetLine &line);
+    void reportLater();
 
     Project &m_project;
     std::unique_ptr<SheetObjects> m_objects;
     std::unique_ptr<DefaultValues> m_defaults;
     std::vector<std::unique_ptr<SheetLine>> m_lines; //!< of all properties, common or not
     std::vector<SheetLine *> m_rows;
+    bool m_isReportDue = false;
 };
 
 } // namespace Halvane::Corvex::Designer

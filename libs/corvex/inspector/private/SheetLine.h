@@ -43,6 +43,8 @@ public:
 
     //! The row in the sheet, while this line is one of its rows.
     SheetRow shown;
+    //! Values that differ have changed and still differ; the views are not informed yet.
+    bool isReportDue = false;
 
 private:
     struct Cell
