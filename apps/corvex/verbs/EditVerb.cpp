@@ -102,8 +102,9 @@ reported. Each edit also updates what depends on it, such as the references to a
     model NAME                       another device model
     filter NAME PATH...              a filter that lists these elements
     undo [N], redo [N], print PATH
-A value has the form that "corvex tree" prints, or the stored form. Expressions ("corvex functions"
-lists what they can call):
+"corvex classes CLASS" lists the properties of a class, each with a line that sets it. A value has
+the form that "corvex tree" prints, or the stored form. Expressions ("corvex functions" lists what
+they can call):
     set Main.bar.yBinding = max(0, 100 - level * 2)
     set Main.title.textBinding = concat("Level ", level, " %")
     set Main.lamp.visibleBinding = level > limit and not acknowledged

@@ -82,7 +82,7 @@ TEST(ValueVerb, ReadsAndPrintsWhatPeopleWrite)
               u"2 #FF0000\n"_s);
     EXPECT_EQ(corvex({u"value"_s, u"--readable"_s, u"int"_s, u"07"_s}).out, u"7\n"_s);
     EXPECT_EQ(corvex({u"expr"_s, u"--forms"_s, u"bool"_s, u"not on::boolean"_s}).out,
-              u"on::boolean == false\n<0403on><0101==><02030>\n"
+              u"not on::boolean\n<0403on><0101==><02030>\n"
               "qmlViewer.getVariableValue(\"on\") == false\n"_s);
 }
 

@@ -11,10 +11,10 @@ namespace {
 
 //! Indexed by the numbers of the enumeration. Its meta-object also has the names, but its library is not
 //! linked.
-constexpr std::array names{"TopLeft"_L1, "Top"_L1,        "TopRight"_L1, "Left"_L1,       "Center"_L1,
-                           "Right"_L1,   "BottomLeft"_L1, "Bottom"_L1,   "BottomRight"_L1};
+constexpr std::array origins{"TopLeft"_L1, "Top"_L1,        "TopRight"_L1, "Left"_L1,       "Center"_L1,
+                             "Right"_L1,   "BottomLeft"_L1, "Bottom"_L1,   "BottomRight"_L1};
 static_assert(QQuickItem::TopLeft == 0 && QQuickItem::Center == 4
-              && QQuickItem::BottomRight == int(names.size()) - 1);
+              && QQuickItem::BottomRight == int(origins.size()) - 1);
 
 } // namespace
 
@@ -36,22 +36,27 @@ QmlBindings QmlForm<QQuickItem::TransformOrigin>::bindings(const DesignerPropert
 
 QQuickItem::TransformOrigin TransformOriginProperty::stringToEnum(const QString &name, bool *ok)
 {
-    const auto found = std::find(names.begin(), names.end(), name);
+    const auto found = std::find(origins.begin(), origins.end(), name);
     if (ok) {
-        *ok = found != names.end();
+        *ok = found != origins.end();
     }
-    return found != names.end() ? QQuickItem::TransformOrigin(found - names.begin()) : QQuickItem::Center;
+    return found != origins.end() ? QQuickItem::TransformOrigin(found - origins.begin()) : QQuickItem::Center;
+}
+
+QStringList TransformOriginProperty::names()
+{
+    return {origins.begin(), origins.end()};
 }
 
 QString TransformOriginProperty::enumToString(QQuickItem::TransformOrigin origin)
 {
     const auto index = size_t(origin);
-    return index < names.size() ? QString(names[index]) : QString();
+    return index < origins.size() ? QString(origins[index]) : QString();
 }
 
 QString TransformOriginProperty::formText() const
 {
-    return FormText::oneOf(QStringList(names.begin(), names.end()));
+    return FormText::oneOf(names());
 }
 
 } // namespace Halvane::Corvex::Designer

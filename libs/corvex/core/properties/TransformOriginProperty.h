@@ -39,6 +39,7 @@ public:
 
     //! Center, with ok false, for an unknown name.
     static QQuickItem::TransformOrigin stringToEnum(const QString &name, bool *ok = nullptr);
+    static QStringList names();
     //! Empty for an invalid number.
     static QString enumToString(QQuickItem::TransformOrigin origin);
 

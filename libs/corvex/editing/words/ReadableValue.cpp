@@ -4,12 +4,14 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/properties/BorderProperty.h"
 #include "corvex/core/properties/ColorProperties.h"
+#include "corvex/core/properties/EnumProperty.h"
 #include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/core/properties/FontProperty.h"
 #include "corvex/core/properties/IdentifierProperty.h"
 #include "corvex/core/properties/LinkProperty.h"
 #include "corvex/core/properties/RangeProperty.h"
 #include "corvex/core/properties/ShapeProperties.h"
+#include "corvex/core/properties/TransformOriginProperty.h"
 #include "corvex/editing/words/Suggestion.h"
 #include "corvex/editing/words/private/SettingText.h"
 #include "corvex/project/Project.h"
@@ -17,9 +19,13 @@
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
 #include "corvex/project/elements/StateTarget.h"
+#include "corvex/values/text/EnumWords.h"
 #include "corvex/values/text/ReadableText.h"
 
+#include <QMetaEnum>
+
 #include <algorithm>
+#include <type_traits>
 
 using namespace Qt::StringLiterals;
 
@@ -264,6 +270,28 @@ QString printName(const Place &, const QString &stored)
     return IdentifierInfo(stored).name();
 }
 
+//! A key, or the words that a panel shows for it.
+template<class Kind>
+Reading readChoice(const Place &place, const QString &text)
+{
+    QStringList keys;
+    if constexpr (std::is_same_v<Kind, EnumProperty>) {
+        const QMetaEnum words = static_cast<const EnumProperty &>(place.property).value().enumerator();
+        for (int i = 0; i < words.keyCount(); ++i) {
+            keys.append(QString::fromLatin1(words.key(i)));
+        }
+    } else {
+        keys = Kind::names();
+    }
+    return {EnumWords::keyOf(text, keys), {}};
+}
+
+//! The key, which does not depend on the user's language.
+QString printChoice(const Place &, const QString &stored)
+{
+    return stored;
+}
+
 template<QString (*convert)(const QString &)>
 Reading readShort(const Place &, const QString &text)
 {
@@ -338,6 +366,8 @@ constexpr ReadableForm forms[] = {
     {&isOfKind<IdentifierProperty>, &isNameStored, &readName, &printName},
     {&isOfKind<UpdateObjectListProperty>, &isGroupStored, &readStates, &printStates},
     {&isOfKind<PropertyChangeListProperty>, &isGroupStored, &readChanges, &printChanges},
+    {&isOfKind<EnumProperty>, &isNeverStored, &readChoice<EnumProperty>, &printChoice},
+    {&isOfKind<TransformOriginProperty>, &isNeverStored, &readChoice<TransformOriginProperty>, &printChoice},
     {&isOfKind<SizeProperty>, &isNeverStored, &readShort<ReadableText::toSize>,
      &printShort<ReadableText::fromSize>},
     {&isOfKind<PointProperty>, &isNeverStored, &readShort<ReadableText::toPoint>,

@@ -171,8 +171,9 @@ constexpr ValueForm forms[] = {
      "all other kinds.",
      "set Main.caption.text = Pump 1\nset Main.caption.text = \"two\\nlines\"\nset Main.caption.text = \"\""},
     {"choice", &isChoice, &sampleChoice, "",
-     "One of the words that the property lists, as it is written there.",
-     "set Main.caption.horizontalAlignment = AlignRight"},
+     "One of the words that the property lists, or what a panel shows for it, such as `Right` for "
+     "`AlignRight`.",
+     "set Main.caption.horizontalAlignment = AlignRight\nset Main.caption.horizontalAlignment = Right"},
     {"color", &isOfKind<ColorProperty>, nullptr, "#C62828",
      "`#`, then two hexadecimal digits each for red, green and blue. Two digits before these make the color "
      "transparent, from `00` to `FF` for opaque. Words such as `red`, `darkgreen` and `transparent` are "

@@ -93,6 +93,23 @@ void ExpressionPrinter::append(const Info &term, const QString &text)
     m_last = term;
 }
 
+//! Whether a name is compared with false, in a place where "not" can be.
+bool ExpressionPrinter::isNegated(const GeneralDataList &terms, qsizetype place) const
+{
+    const auto isOperator = [&terms](qsizetype at, const QStringList &signs) {
+        return at < 0 || at >= terms.count()
+               || (terms.at(at).valueType() == Info::OperatorValue && signs.contains(terms.at(at).value()));
+    };
+    static const QStringList before{u"&&"_s, u"||"_s, u"("_s, u","_s, u"?"_s, u":"_s};
+    static const QStringList after{u"&&"_s, u"||"_s, u")"_s, u","_s, u"?"_s, u":"_s};
+    static const Info no(Info::ConstantValue, Info::BooleanData, u"false"_s);
+    const Info &name = terms.at(place);
+    const bool isName = name.valueType() == Info::VariableValue || name.valueType() == Info::ObjectValue;
+    return isName && name.dataType() == Info::BooleanData && place + 2 < terms.count()
+           && isOperator(place + 1, {u"=="_s}) && terms.at(place + 2) == no && isOperator(place - 1, before)
+           && isOperator(place + 3, after);
+}
+
 QString ExpressionPrinter::print(const GeneralDataList &terms)
 {
     m_text = u""_s;
@@ -103,7 +120,13 @@ QString ExpressionPrinter::print(const GeneralDataList &terms)
             return {};
         }
         if (!m_purpose.separatesTerms()) {
-            append(term, text);
+            if (isNegated(terms, i)) {
+                append(term, Words::negation + u' ' + text);
+                m_last = terms.at(i + 2);
+                i += 2;
+            } else {
+                append(term, text);
+            }
             continue;
         }
         m_last = term;

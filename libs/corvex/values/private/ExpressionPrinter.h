@@ -22,6 +22,7 @@ private:
     QString printed(const GeneralDataInfo &term) const;
     QString printedConstant(const GeneralDataInfo &term) const;
     QString printedName(const GeneralDataInfo &term) const;
+    bool isNegated(const GeneralDataList &terms, qsizetype place) const;
     void append(const GeneralDataInfo &term, const QString &text);
 
     const ExpressionPurpose &m_purpose;

@@ -46,4 +46,17 @@ QString EnumWords::of(const QString &key)
     return Common::LocalizationHelper::coreString(row == std::end(keys) ? split(key) : QString(row->words));
 }
 
+QString EnumWords::keyOf(const QString &text, const QStringList &keys)
+{
+    if (keys.contains(text)) {
+        return text;
+    }
+    const QString words = text.simplified();
+    const auto key = std::ranges::find_if(keys, [&words](const QString &known) {
+        return of(known).compare(words, Qt::CaseInsensitive) == 0
+               || known.compare(words, Qt::CaseInsensitive) == 0;
+    });
+    return key == keys.cend() ? text : *key;
+}
+
 } // namespace Halvane::Corvex::Designer
