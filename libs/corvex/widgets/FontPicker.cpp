@@ -4,10 +4,10 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/widgets/IconSet.h"
+#include "corvex/widgets/KdComboBox.h"
 #include "corvex/widgets/SearchLine.h"
 #include "corvex/widgets/Theme.h"
 
-#include <QComboBox>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -126,7 +126,7 @@ FontPicker::FontPicker(QWidget *field)
     , m_found(new QSortFilterProxyModel(this))
     , m_families(new QListView(this))
     , m_size(new QSpinBox(this))
-    , m_unit(new QComboBox(this))
+    , m_unit(new KdComboBox(this))
     , m_letters(spacingBox(LocalizationHelper::coreString(u"Letter spacing"_s), this))
     , m_words(spacingBox(LocalizationHelper::coreString(u"Word spacing"_s), this))
     , m_sample(new QLabel(this))

@@ -8,7 +8,6 @@
 #include <functional>
 
 class QBoxLayout;
-class QComboBox;
 class QDoubleSpinBox;
 class QLabel;
 class QListView;
@@ -18,6 +17,7 @@ class QToolButton;
 
 namespace Halvane::Corvex::Designer {
 
+class KdComboBox;
 //! A popup that chooses a font: the family by a sample, size, style and spacings. Families that the device
 //! lacks, as DesignerFactory::fontFamilies() says, have a mark.
 class CORVEX_EXPORT FontPicker : public PopupFrame
@@ -55,7 +55,7 @@ private:
     QSortFilterProxyModel *m_found;
     QListView *m_families;
     QSpinBox *m_size;
-    QComboBox *m_unit;
+    KdComboBox *m_unit;
     QList<QToolButton *> m_styles;
     QDoubleSpinBox *m_letters;
     QDoubleSpinBox *m_words;

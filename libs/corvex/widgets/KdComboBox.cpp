@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/widgets/KdComboBox.h"
 
+#include "corvex/widgets/AccessibleValue.h"
+
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 
@@ -12,6 +14,9 @@ KdComboBox::KdComboBox(QWidget *parent)
     // A long item must not widen the panel.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(4);
+    const auto describe = [this] { AccessibleValue::set(this, currentText(), QAccessible::ComboBox); };
+    describe(); // Qt passes the text as the name
+    connect(this, &QComboBox::currentIndexChanged, this, describe);
     connect(this, &QComboBox::activated, this, [this](int index) {
         if (m_isStepping) {
             emit stepped(index);

@@ -4,8 +4,12 @@
 #include "corvex/widgets/Theme.h"
 
 #include <QFocusEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyleOptionFrame>
+#include <QTextDocument>
+#include <QToolTip>
 
 namespace Halvane::Corvex::Designer {
 
@@ -48,6 +52,27 @@ void KdLineEdit::complete()
     if (m_hasEntry) {
         emit entered();
     }
+}
+
+bool KdLineEdit::isCut() const
+{
+    constexpr int padding = 2; // on both sides of the text, in every style
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QRect room = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+    const QMargins margins = textMargins();
+    return fontMetrics().horizontalAdvance(displayText())
+           > room.width() - margins.left() - margins.right() - 2 * padding;
+}
+
+bool KdLineEdit::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && echoMode() == Normal && isCut()) {
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), Qt::convertFromPlainText(text()),
+                           this);
+        return true;
+    }
+    return QLineEdit::event(event);
 }
 
 void KdLineEdit::keyPressEvent(QKeyEvent *event)

@@ -41,6 +41,8 @@ signals:
     void restored();
 
 protected:
+    //! A text that is wider than the field is its tool tip, unless it has another one.
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
@@ -48,6 +50,7 @@ protected:
 
 private:
     void complete();
+    bool isCut() const;
 
     QString m_shownText;
     bool m_hasEntry = false;

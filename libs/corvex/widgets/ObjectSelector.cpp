@@ -4,12 +4,12 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerFactory.h"
 #include "corvex/core/DesignerObject.h"
+#include "corvex/widgets/KdComboBox.h"
 #include "corvex/widgets/ObjectListModel.h"
 #include "corvex/widgets/SearchLine.h"
 #include "corvex/widgets/Theme.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
@@ -90,7 +90,7 @@ ObjectSelector::ObjectSelector(QWidget *parent)
     : QFrame(parent, Qt::Popup)
     , m_model(new ObjectListModel(this))
     , m_search(new SearchLine(this))
-    , m_classes(new QComboBox(this))
+    , m_classes(new KdComboBox(this))
     , m_list(new QListView(this))
     , m_empty(new QLabel(this))
     , m_offers(new QHBoxLayout)

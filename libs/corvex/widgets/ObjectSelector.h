@@ -6,13 +6,13 @@
 #include <QFrame>
 #include <QModelIndex>
 
-class QComboBox;
 class QHBoxLayout;
 class QLabel;
 class QListView;
 
 namespace Halvane::Corvex::Designer {
 
+class KdComboBox;
 class DesignerObject;
 class ObjectListModel;
 class SearchLine;
@@ -59,7 +59,7 @@ private:
 
     ObjectListModel *m_model;
     SearchLine *m_search;
-    QComboBox *m_classes;
+    KdComboBox *m_classes;
     QListView *m_list;
     QLabel *m_empty;
     QHBoxLayout *m_offers;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/widgets/private/ColorField.h"
 
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/widgets/AccessibleValue.h"
 #include "corvex/widgets/ColorSwatch.h"
 #include "corvex/widgets/Theme.h"
 
@@ -10,7 +12,11 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
 
 namespace {
 
@@ -19,6 +25,7 @@ constexpr double largeStep = 0.1;
 constexpr int barHeight = 16;
 constexpr int planeWidth = 216;
 constexpr int planeHeight = 120;
+constexpr double hundred = 100;
 constexpr double edge = 3; //!< space for the frame of the focus
 
 QPointF clamped(const QPointF &place)
@@ -34,6 +41,7 @@ ColorField::ColorField(Kind kind, QWidget *parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    AccessibleValue::set(this, {});
 }
 
 QSize ColorField::sizeHint() const
@@ -56,6 +64,17 @@ void ColorField::setColor(const QColor &color, double hue)
         m_place = {color.alphaF(), 0.5};
         break;
     }
+    refresh();
+}
+
+void ColorField::refresh()
+{
+    const QString across = QString::number(qRound(m_place.x() * hundred));
+    const QString down = QString::number(qRound((1 - m_place.y()) * hundred));
+    AccessibleValue::set(
+        this, m_kind == HueAndSaturation
+                  ? LocalizationHelper::coreString(u"Hue %1 %, saturation %2 %"_s).arg(across, down)
+                  : across + u" %"_s);
     update();
 }
 
@@ -125,7 +144,7 @@ void ColorField::moveTo(const QPointF &point)
 {
     m_place = clamped({(point.x() - area().left()) / area().width(),
                        m_kind == HueAndSaturation ? (point.y() - area().top()) / area().height() : 0.5});
-    update();
+    refresh();
     emit dragged();
 }
 
@@ -159,7 +178,7 @@ void ColorField::step(double right, double down)
     const QPointF moved = clamped(m_place + QPointF(right, m_kind == HueAndSaturation ? down : 0));
     if (moved != m_place) {
         m_place = moved;
-        update();
+        refresh();
         emit stepped();
     }
 }

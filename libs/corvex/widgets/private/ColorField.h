@@ -47,6 +47,7 @@ protected:
 
 private:
     QRectF area() const;
+    void refresh();
     void moveTo(const QPointF &point);
     void step(double right, double down);
     QBrush fill() const;
