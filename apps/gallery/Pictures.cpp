@@ -33,7 +33,18 @@ QLabel *caption(const QString &text)
 Pictures::Pictures(Stage &stage, const QString &folder)
     : m_stage(stage)
     , m_folder(folder)
-{ }
+{
+    serve(m_requests);
+}
+
+void Pictures::serve(EditorRequests &requests) const
+{
+    const auto ignore = [] {};
+    QObject::connect(&requests, &EditorRequests::objectRequested, &m_stage.document(), ignore);
+    QObject::connect(&requests, &EditorRequests::newObjectRequested, &m_stage.document(), ignore);
+    QObject::connect(&requests, &EditorRequests::colorRequested, &m_stage.document(), ignore);
+    QObject::connect(&requests, &EditorRequests::recordingRequested, &m_stage.document(), ignore);
+}
 
 QStringList Pictures::draw()
 {
@@ -66,6 +77,7 @@ void Pictures::drawPanels()
     for (auto object = objects.begin(); object != objects.end(); ++object) {
         m_stage.document().select({object.value()});
         PropertyPanel panel(m_stage.document());
+        serve(panel.requests());
         panel.resize(panelWidth, 4000);
         panel.show();
         panel.resize(panelWidth, panel.widget()->height());
@@ -112,6 +124,7 @@ void Pictures::drawEditor(const QString &name, const QString &className, const Q
     const auto add = [&](const QString &state, PropertySheet &shown) {
         layout->addWidget(caption(u"%1: %2"_s.arg(name, state)));
         PropertyEditor *editor = Editors::createFor(shown.row(shown.rowOf(id)), &page);
+        editor->setRequests(&m_requests);
         editor->setProperty(&shown, id);
         layout->addWidget(editor);
         editor->show(); // also if the panel hides the row

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/editors/EditorRequests.h"
+
 #include "Stage.h"
 
 #include <QStringList>
@@ -25,9 +27,12 @@ private:
     void drawExpressions();
     void drawEditor(const QString &name, const QString &className, const QString &id);
     void save(QWidget &widget, const QString &name);
+    //! Serves all requests, so that editors offer them.
+    void serve(Designer::EditorRequests &requests) const;
 
     Stage &m_stage;
     QString m_folder;
+    Designer::EditorRequests m_requests;
     QStringList m_errors;
 };
 

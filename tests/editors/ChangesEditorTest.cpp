@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/editing/words/ReadableValue.h"
 #include "corvex/editors/ChangesEditors.h"
 #include "corvex/editors/changes/RulesDialog.h"
 #include "corvex/values/expressions/UpdateObjectList.h"
@@ -8,6 +9,7 @@
 #include "EditorFixture.h"
 
 #include <QLabel>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -139,6 +141,11 @@ TEST_F(ChangesEditorTest, RulesHaveADialog)
     enter(dialog, u"line 2, effect"_s, u"on = false"_s);
     dialog->resize(400, 10); // the rules scroll, and none covers another
     QApplication::processEvents();
+    dialog->reject();
+    auto *question = dialog->findChild<QMessageBox *>();
+    ASSERT_TRUE(question) << "the second rule would be lost";
+    question->button(QMessageBox::Cancel)->click();
+    EXPECT_TRUE(dialog->isVisible());
     const auto *upper = named<QPlainTextEdit>(dialog, u"line 1, effect"_s);
     const auto *lower = named<QPlainTextEdit>(dialog, u"line 2, condition"_s);
     EXPECT_GE(lower->mapTo(dialog, QPoint()).y(), upper->mapTo(dialog, upper->rect().bottomLeft()).y());
@@ -146,24 +153,62 @@ TEST_F(ChangesEditorTest, RulesHaveADialog)
     EXPECT_EQ(value(logic, "logicExpression"), stored + u", <0406speed><0101<><02041>|<0403on><02030>"_s);
     ASSERT_TRUE(document->undo());
     EXPECT_EQ(value(logic, "logicExpression"), stored);
+    RulesDialog unchanged(logic->getProperty(u"logicExpression"_s));
+    ASSERT_TRUE(unchanged.setStored(stored));
+    unchanged.show();
+    unchanged.reject();
+    EXPECT_FALSE(unchanged.isVisible());
 }
 
-TEST_F(ChangesEditorTest, RecordingAddsALineOrUpdatesIt)
+TEST_F(ChangesEditorTest, ALinkInAStateIsThatOfTheState)
 {
     DesignerObject *button = element("button1");
+    DesignerObject *image = element("image1");
+    const SharedProperty state = button->getProperty(u"pressedState"_s);
+    ASSERT_TRUE(push(Commands::changeOf({{image->getProperty(u"source"_s), u"objectId: pump.png;"_s}})));
+    const QString settings = u"{ image1.source: \"\"; rectangle1.size: 10 x 20 }"_s;
+    ASSERT_TRUE(push(Commands::changeOf({{state, ReadableValue::read(*state, settings).stored}})));
     ChangesEditor *editor = changes(button, "pressedState");
+    const DesignerObject *requested = nullptr;
+    QObject::connect(&panel->requests(), &EditorRequests::objectRequested, panel.get(),
+                     [&](const DesignerObject *object) { requested = object; });
+    auto *goTo = named<QToolButton>(editor, u"image1.source, go to"_s);
+    ASSERT_TRUE(goTo);
+    EXPECT_FALSE(goTo->isEnabled()) << "the element has a picture, the state has none";
+    enter(editor, u"image1.source"_s, u"pump.png"_s);
+    EXPECT_TRUE(goTo->isEnabled());
+    goTo->click();
+    EXPECT_TRUE(requested);
+    EXPECT_EQ(named<KdLineEdit>(editor, u"rectangle1.size, width"_s)->text(), u"10"_s);
+}
+
+TEST_F(ChangesEditorTest, ARecordingGoesOnWhileOtherObjectsAreSelected)
+{
+    DesignerObject *button = element("button1");
     DesignerObject *rectangle = element("rectangle1");
-    editor->record(rectangle, u"radius"_s);
-    ASSERT_TRUE(push(Commands::changeOf({{rectangle->getProperty(u"radius"_s), u"9"_s}})));
-    editor = changes(button, "pressedState"); // the edit has selected the rectangle
-    editor->record(rectangle, u"radius"_s);
+    EXPECT_FALSE(changes(button, "pressedState")->findChildren<QToolButton *>().constLast()->isVisible());
+    QSignalSpy requested(&panel->requests(), &EditorRequests::recordingRequested);
+    auto *record = named<QToolButton>(changes(button, "pressedState"), u", Record"_s);
+    ASSERT_TRUE(record);
+    record->click();
+    ASSERT_EQ(requested.size(), 1);
+    EXPECT_EQ(panel->requests().recorded(), button->getProperty(u"pressedState"_s));
+    for (const QString &radius : {u"8"_s, u"9"_s}) {
+        ASSERT_TRUE(push(Commands::changeOf({{rectangle->getProperty(u"radius"_s), radius}})));
+        ASSERT_TRUE(push(ChangesEditor::recordOf(panel->requests().recorded(), rectangle, u"radius"_s)));
+    }
     const UpdateObjectList updates(value(button, "pressedState"));
     ASSERT_EQ(updates.count(), 1);
     EXPECT_EQ(updates.at(0).propertyValues().count(), 1);
     EXPECT_EQ(updates.at(0).propertyValues().at(0).propValue(), u"9"_s);
-    editor = changes(button, "pressed");
-    editor->record(rectangle, u"radius"_s);
+    record = named<QToolButton>(changes(button, "pressedState"), u"Pressed State, Record"_s);
+    ASSERT_TRUE(record && record->isChecked());
+    record->click();
+    EXPECT_FALSE(panel->requests().recorded());
+
+    ASSERT_TRUE(push(ChangesEditor::recordOf(button->getProperty(u"pressed"_s), rectangle, u"radius"_s)));
     EXPECT_EQ(value(button, "pressed"), u"<0304rectangle1.radius><02049>"_s);
+    EXPECT_FALSE(ChangesEditor::recordOf(rectangle->getProperty(u"size"_s), rectangle, u"radius"_s));
 }
 
 TEST_F(ChangesEditorTest, WhatTheTableCannotShowIsText)

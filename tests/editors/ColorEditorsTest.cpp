@@ -156,15 +156,20 @@ TEST_F(ColorEditorsTest, ThePickerOffersWhatIsInUse)
     EXPECT_EQ(value(element("rectangle1"), "color"), u"#FF123456"_s);
     picker->close();
 
-    auto *colors = qobject_cast<ColorFieldEditor *>(editor);
-    QSignalSpy requested(colors, &ColorFieldEditor::colorRequested);
+    EditorRequests::ColorAnswer answer;
+    QObject::connect(&panel->requests(), &EditorRequests::colorRequested, panel.get(),
+                     [&](const EditorRequests::ColorAnswer &given) { answer = given; });
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     picker = openPicker(editor);
     ASSERT_TRUE(picker->findChild<QToolButton *>());
     picker->findChild<QToolButton *>()->click();
-    EXPECT_EQ(requested.count(), 1);
-    colors->enterColor(QColor(1, 2, 3));
+    ASSERT_TRUE(answer);
+    answer(QColor(1, 2, 3));
     EXPECT_EQ(value(element("rectangle1"), "color"), u"#FF010203"_s);
+    edit({element("rectangle2")}, "color");
+    answer(Qt::red);
+    EXPECT_EQ(value(element("rectangle1"), "color"), u"#FF010203"_s) << "the answer is too late";
+    EXPECT_NE(value(element("rectangle2"), "color"), u"#FFFF0000"_s);
 
     editor = edit({main}, "color");
     type(u"navy"_s);
@@ -225,14 +230,18 @@ TEST_F(ColorEditorsTest, ABorderChangesInParts)
     EXPECT_EQ(value(second, "border"), u"color: #FF0000FF; width: 4;"_s);
     type(u"7 px"_s, Qt::Key_Tab);
     EXPECT_EQ(value(second, "border"), u"color: #FF0000FF; width: 7;"_s);
-    EXPECT_EQ(width->text(), u"7 px"_s);
+    EXPECT_EQ(width->text(), u"7"_s);
     width->setFocus();
-    for (const QString &refused : {u"101"_s, u"1.5"_s, u"wide"_s}) {
+    type(u"+=2 * 3"_s);
+    EXPECT_EQ(value(first, "border"), u"color: #FF000000; width: 13;"_s);
+    type(u"7"_s);
+    for (const QString &refused : {u"101"_s, u"15 / 10"_s, u"wide"_s}) {
         type(refused);
-        EXPECT_EQ(editor->errorString(), u"The width takes 0 to 100 whole pixels."_s);
+        EXPECT_TRUE(editor->errorString().contains(refused == "wide"_L1 ? u"neither a number"_s
+                                                                        : u"0 to 100 whole pixels"_s));
         EXPECT_EQ(width->text(), refused);
         QTest::keyClick(width, Qt::Key_Escape);
-        EXPECT_EQ(width->text(), u"7 px"_s);
+        EXPECT_EQ(width->text(), u"7"_s);
     }
     part(editor, u", color"_s)->setFocus();
     type(u"lime"_s);
@@ -268,7 +277,7 @@ TEST_F(ColorEditorsTest, StopsOfAGradientAreMovedAddedAndRemoved)
     type(u"100"_s);
     EXPECT_EQ(editor->errorString(), u"Duplicate position values found."_s);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    type(u"25 %"_s);
+    type(u"-=100 / 4"_s);
     EXPECT_EQ(value(rainbow, "gradient"), u"0, #FFFFFFFF | 0.25, #FFFF0000 | 1, #FF000000"_s);
     bar->setFocus();
     QTest::keyClick(bar, Qt::Key_Right, Qt::ShiftModifier);

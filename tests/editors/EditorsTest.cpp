@@ -13,6 +13,7 @@ class EditorsTest : public EditorFixture
 TEST_F(EditorsTest, NoPropertyOfAnyClassFallsBackToTheBase)
 {
     const DesignerFactory *factory = DesignerFactory::instance();
+    const QStringList editors = factory->editorNames();
     qsizetype count = 0;
     for (const QString &className : factory->creatableNames()) {
         const std::unique_ptr<DesignerObject> object(factory->createUnowned(className));
@@ -26,6 +27,7 @@ TEST_F(EditorsTest, NoPropertyOfAnyClassFallsBackToTheBase)
             row.editor = property->editor();
             const QString name = Editors::nameFor(row);
             EXPECT_NE(name, u"PropertyEditor"_s) << qPrintable(className + u'.' + property->id());
+            EXPECT_TRUE(editors.contains(name)) << qPrintable(name + u": no factory creates it"_s);
             ++count;
         }
     }

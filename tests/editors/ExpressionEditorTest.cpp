@@ -68,7 +68,7 @@ TEST_F(ExpressionEditorTest, ReadableTextBecomesTheStoredExpressionAndItsValueIs
     };
     const Case cases[] = {
         {"rectangle1", "xBinding", u"speed * 2"_s, u"<0406speed><0101*><02042>"_s, u"= 25 (number)"_s},
-        {"rectangle1", "visibleBinding", u"speed > 10 and on == false"_s,
+        {"rectangle1", "visibleBinding", u"speed > 10 and not on"_s,
          u"<0406speed><0101>><0204A><0101&&><0403on><0101==><02030>"_s, u"= true (boolean)"_s},
         {"text1", "textBinding", u"concat(\"a\", speed)"_s,
          u"<0502concat><0207YQ==><0101,><0406speed><0101)>"_s, u"= \"a12.5\" (text)"_s},

@@ -177,6 +177,52 @@ TEST_F(NumberEditorsTest, ScrubbingAddsToEachObjectAndWholeNumbersCollectFineSte
     EXPECT_EQ(value(rectangle, "radius"), u"0"_s);
 }
 
+TEST_F(NumberEditorsTest, DraggingTheTitleIsOneStepOfTheHistory)
+{
+    DesignerObject *rectangle = element("rectangle1");
+    struct Case
+    {
+        const char *id;
+        Qt::KeyboardModifiers modifiers;
+        bool isKept;
+        QString expected;
+    };
+    const Case cases[] = {
+        {"rotation", Qt::NoModifier, true, u"25"_s},       {"rotation", Qt::ShiftModifier, true, u"16"_s},
+        {"rotation", Qt::ControlModifier, true, u"115"_s}, {"rotation", Qt::NoModifier, false, u"15"_s},
+        {"radius", Qt::ShiftModifier, true, u"1"_s},
+    };
+    set(rectangle, "rotation", u"15"_s);
+    for (const auto &[id, modifiers, isKept, expected] : cases) {
+        const PropertyEditor *editor = edit({rectangle}, id);
+        QWidget *title = nullptr;
+        for (QWidget *part : editor->parentWidget()->findChildren<QWidget *>()) {
+            title = part->cursor().shape() == Qt::SizeHorCursor ? part : title;
+        }
+        ASSERT_TRUE(title) << id;
+        const auto send = [&, keys = modifiers](QEvent::Type type, int x) {
+            QMouseEvent event(type, QPointF(x, 5), title->mapToGlobal(QPointF(x, 5)), Qt::LeftButton,
+                              Qt::LeftButton, keys);
+            QApplication::sendEvent(title, &event);
+        };
+        const QString before = text();
+        send(QEvent::MouseButtonPress, 5);
+        for (const int x : {7, 20, 30, 45}) { // 10 steps of 4 pixels
+            send(QEvent::MouseMove, x);
+        }
+        if (!isKept) {
+            EXPECT_EQ(value(rectangle, id), u"25"_s);
+            QTest::keyClick(title, Qt::Key_Escape);
+        }
+        send(QEvent::MouseButtonRelease, 45);
+        EXPECT_EQ(value(rectangle, id), expected) << id << int(modifiers);
+        if (isKept) {
+            ASSERT_TRUE(document->undo());
+        }
+        EXPECT_EQ(text(), before);
+    }
+}
+
 TEST_F(NumberEditorsTest, NumbersOfVariablesKeepTheirType)
 {
     DesignerObject *speed = variable("speed");

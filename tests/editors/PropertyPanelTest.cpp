@@ -63,6 +63,21 @@ TEST_F(PropertyPanelTest, SeveralObjectsShowMixedAndChangeTogether)
     EXPECT_EQ(field<KdLineEdit>(editor)->placeholderText(), u"Mixed"_s);
 }
 
+TEST_F(PropertyPanelTest, PartsOfMixedValuesFollowTheHistory)
+{
+    DesignerObject *first = element("rectangle1");
+    DesignerObject *second = element("rectangle2");
+    ASSERT_TRUE(push(Commands::changeOf({{first->getProperty(u"size"_s), u"height: 20; width: 10;"_s},
+                                         {second->getProperty(u"size"_s), u"height: 30; width: 10;"_s}})));
+    const auto *width = field<KdLineEdit>(edit({first, second}, "size"));
+    type(u"+=5"_s);
+    EXPECT_EQ(width->text(), u"15"_s);
+    EXPECT_FALSE(width->hasEntry());
+    ASSERT_TRUE(document->undo());
+    QApplication::processEvents();
+    EXPECT_EQ(width->text(), u"10"_s);
+}
+
 TEST_F(PropertyPanelTest, AnEntryBelongsToTheObjectsItWasMadeFor)
 {
     edit({element("rectangle1")}, "size");

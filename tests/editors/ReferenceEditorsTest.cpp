@@ -54,12 +54,13 @@ TEST_F(ReferenceEditorsTest, ATakenNameIsExplainedWhileTypingAndAFreeOneIsOffere
     };
     QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(line, u"text1"_s);
-    EXPECT_TRUE(hint().contains(u"The name is not unique."_s)) << qPrintable(hint());
+    EXPECT_EQ(editor->errorString(), u"The name is not unique."_s);
     EXPECT_TRUE(hint().contains(u"\"text2\""_s)) << qPrintable(hint());
     QTest::keyClick(line, Qt::Key_Return);
     EXPECT_EQ(rectangle->getIdName(), u"rectangle1"_s);
     EXPECT_EQ(line->text(), u"text1"_s);
-    emit editor->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly)->linkActivated(u"text2"_s);
+    emit editor->findChild<QLabel *>(u"hint"_s)->linkActivated(u"text2"_s);
+    QApplication::processEvents();
     EXPECT_EQ(rectangle->getIdName(), u"text2"_s);
     EXPECT_EQ(hint(), QString());
     type(u"9 lives"_s, Qt::Key_Escape);
@@ -75,7 +76,7 @@ TEST_F(ReferenceEditorsTest, ARenamingUpdatesAndCountsItsUses)
     PropertyEditor *editor = edit({element("rectangle1")}, "id");
     QTest::keyClick(field<KdLineEdit>(editor), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(field<KdLineEdit>(editor), u"tank"_s);
-    EXPECT_TRUE(editor->findChild<QLabel *>()->text().contains(u"one place"_s));
+    EXPECT_TRUE(editor->findChild<QLabel *>(u"hint"_s)->text().contains(u"one place"_s));
     QTest::keyClick(field<KdLineEdit>(editor), Qt::Key_Tab);
     EXPECT_TRUE(value(button, "visualElement").contains(u"objectId: tank;"_s));
     ASSERT_TRUE(document->undo());
@@ -106,7 +107,7 @@ TEST_F(ReferenceEditorsTest, ALinkIsTypedChosenFollowedAndCleared)
     EXPECT_TRUE(value(button, "visualElement").contains(u"objectId: rectangle2;"_s));
 
     const DesignerObject *requested = nullptr;
-    QObject::connect(panel.get(), &PropertyPanel::objectRequested, panel.get(),
+    QObject::connect(&panel->requests(), &EditorRequests::objectRequested, panel.get(),
                      [&](const DesignerObject *object) { requested = object; });
     QToolButton *goTo = nullptr;
     for (QToolButton *tool : editor->findChildren<QToolButton *>()) {
@@ -137,11 +138,20 @@ TEST_F(ReferenceEditorsTest, AnImageIsChosenWithItsThumbnailAndANewOneCanBeReque
     ASSERT_TRUE(selector);
     EXPECT_EQ(names, QStringList{u"pump.png"_s});
     EXPECT_FALSE(selector->model().index(0).data(Qt::DecorationRole).value<QPixmap>().isNull());
-    QSignalSpy requested(panel.get(), &PropertyPanel::newObjectRequested);
+    const qsizetype buttons = selector->findChildren<QPushButton *>().size();
+    selector->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QString wanted;
+    QObject::connect(&panel->requests(), &EditorRequests::newObjectRequested, panel.get(),
+                     [&](const QString &className, const EditorRequests::ObjectAnswer &answer) {
+                         wanted = className;
+                         answer(document->project().imageResources()->getListItem(u"pump.png"_s));
+                     });
+    selector = open(editor, names);
+    ASSERT_TRUE(selector);
+    EXPECT_EQ(selector->findChildren<QPushButton *>().size(), buttons + 1) << "someone makes new ones now";
     selector->findChildren<QPushButton *>().constLast()->click();
-    ASSERT_EQ(requested.size(), 1);
-    EXPECT_EQ(requested.at(0).at(0), u"ImageResource"_s);
-    type(u"pump.png"_s);
+    EXPECT_EQ(wanted, u"ImageResource"_s);
     EXPECT_TRUE(value(image, "source").contains(u"objectId: pump.png;"_s));
     EXPECT_TRUE(std::ranges::any_of(editor->findChildren<QLabel *>(), [](const QLabel *label) {
         return label->isVisible() && !label->pixmap(Qt::ReturnByValue).isNull();

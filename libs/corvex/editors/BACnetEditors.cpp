@@ -6,10 +6,10 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editors/private/TermTable.h"
 #include "corvex/variables/BACnetObject.h"
+#include "corvex/widgets/KdComboBox.h"
 #include "corvex/widgets/KdLineEdit.h"
 #include "corvex/widgets/Theme.h"
 
-#include <QComboBox>
 #include <QFormLayout>
 
 using namespace Qt::StringLiterals;
@@ -79,15 +79,15 @@ const QStringList *dataTypeNames()
 
 void BACObjIdEditor::createFields()
 {
-    m_type = new QComboBox(this);
+    m_type = new KdComboBox(this);
     for (const BACnetTables::Entry &type : BACnetTables::objectTypes()) {
         m_type->addItem(BACnetTables::displayText(type.name), type.number);
     }
     m_type->setMinimumContentsLength(8);
-    m_type->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     addField(m_type, LocalizationHelper::coreString(u"type"_s), 3);
     m_instance = addLine(LocalizationHelper::coreString(u"instance"_s), 2);
-    connect(m_type, &QComboBox::activated, this, &BACObjIdEditor::completeEntry);
+    connect(m_type, &KdComboBox::chosen, this, &BACObjIdEditor::completeEntry);
+    connect(m_type, &KdComboBox::stepped, this, &BACObjIdEditor::completeStep);
 }
 
 void BACObjIdEditor::showRow()

@@ -3,9 +3,9 @@
 
 #include "corvex/editors/TermTableEditor.h"
 
-class QComboBox;
-
 namespace Halvane::Corvex::Designer {
+
+class KdComboBox;
 
 //! The identifier of a BACnet object: its type, by name, and its instance.
 class CORVEX_EXPORT BACObjIdEditor : public PropertyEditor
@@ -21,7 +21,7 @@ protected:
     Entry entryFor(const DesignerProperty &property) const override;
 
 private:
-    QComboBox *m_type = nullptr;
+    KdComboBox *m_type = nullptr;
     KdLineEdit *m_instance = nullptr;
 };
 

@@ -2,13 +2,11 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/properties/BorderProperty.h"
 #include "corvex/editors/ColorEditors.h"
-#include "corvex/values/text/ValueConversion.h"
+#include "corvex/widgets/Arithmetic.h"
 #include "corvex/widgets/ColorEdit.h"
-#include "corvex/widgets/KdLineEdit.h"
+#include "corvex/widgets/KdNumberEdit.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -22,15 +20,28 @@ using Common::LocalizationHelper;
 namespace {
 
 constexpr int widest = 100;
-constexpr int coarse = 10;
+
+const QList<Arithmetic::Unit> &pixels()
+{
+    static const QList<Arithmetic::Unit> units{{u"px"_s, 1}};
+    return units;
+}
 
 } // namespace
 
 void BorderEditor::createFields()
 {
-    m_width = addLine(LocalizationHelper::coreString(u"width"_s), 0);
-    m_width->setFixedWidth(m_width->fontMetrics().horizontalAdvance(u"100 px"_s) + 16);
-    m_width->installEventFilter(this);
+    m_width = new KdNumberEdit(this);
+    m_width->setUnit(pixels().constFirst().word);
+    m_width->setFixedWidth(m_width->fontMetrics().horizontalAdvance(u"100 px"_s) + 22);
+    prepareLine(m_width, LocalizationHelper::coreString(u"width"_s));
+    fields()->addWidget(m_width);
+    connect(m_width, &KdNumberEdit::stepRequested, this, [this](double steps) {
+        if (!m_width->hasEntry()) {
+            takeSteps(steps);
+            completeStep();
+        }
+    });
     fields()->addWidget(createColorEdit(LocalizationHelper::coreString(u"color"_s)), 1);
 }
 
@@ -49,7 +60,7 @@ void BorderEditor::showRow()
         return BorderInfo(valueOf(*property)).color() == first.color();
     });
     m_width->setPlaceholderText(sharesWidth ? QString() : mixedText());
-    m_width->setShownText(sharesWidth ? u"%1 px"_s.arg(first.width()) : QString());
+    m_width->setShownText(sharesWidth ? QString::number(first.width()) : QString());
     colorEdit()->line()->setPlaceholderText(sharesColor ? QString() : mixedText());
     colorEdit()->setColor(sharesColor ? first.color() : QColor());
 }
@@ -59,16 +70,14 @@ PropertyEditor::Entry BorderEditor::entryFor(const DesignerProperty &property) c
 {
     BorderInfo border(valueOf(property));
     if (m_width->hasEntry()) {
-        QString text = m_width->text().trimmed();
-        if (text.endsWith("px"_L1)) {
-            text.chop(2);
+        const Arithmetic::Result result = Arithmetic::evaluate(m_width->text(), border.width(), pixels());
+        if (!result.error.isEmpty()) {
+            return {{}, result.error};
         }
-        bool isNumber = false;
-        const int width = ValueConversion::toInt(text.trimmed(), &isNumber);
-        if (!isNumber || width < 0 || width > widest) {
+        if (result.number < 0 || result.number > widest || result.number != std::trunc(result.number)) {
             return {{}, LocalizationHelper::coreString(u"The width takes 0 to 100 whole pixels."_s)};
         }
-        border.setWidth(width);
+        border.setWidth(int(result.number));
     } else if (m_steps != 0) {
         border.setWidth(std::clamp(border.width() + m_steps, 0, widest));
     }
@@ -84,48 +93,21 @@ PropertyEditor::Entry BorderEditor::entryFor(const DesignerProperty &property) c
 
 void BorderEditor::scrub(double steps)
 {
-    takeStep(int(std::copysign(std::max(1.0, std::abs(steps)), steps)));
+    takeSteps(steps);
     completeEntry();
 }
 
 //! The next width is in the field if the objects have the same one, so that a refused width can be seen.
-void BorderEditor::takeStep(int steps)
+void BorderEditor::takeSteps(double steps)
 {
+    const int change = int(std::copysign(std::max(1.0, std::trunc(std::abs(steps))), steps));
     const QList<SharedProperty> all = properties();
     if (m_width->placeholderText().isEmpty() && !all.isEmpty()) {
-        const int width = std::clamp(BorderInfo(valueOf(*all.constFirst())).width() + steps, 0, widest);
+        const int width = std::clamp(BorderInfo(valueOf(*all.constFirst())).width() + change, 0, widest);
         m_width->enterText(QString::number(width));
     } else {
-        m_steps = steps;
+        m_steps = change;
     }
-}
-
-void BorderEditor::step(int steps)
-{
-    if (!row().isReadOnly && !m_width->hasEntry()) {
-        takeStep(steps);
-        completeStep();
-    }
-}
-
-bool BorderEditor::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_width && event->type() == QEvent::KeyPress) {
-        const auto *key = static_cast<QKeyEvent *>(event);
-        const int size = key->modifiers() & Qt::ControlModifier ? coarse : 1;
-        if (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down) {
-            step(key->key() == Qt::Key_Up ? size : -size);
-            return true;
-        }
-    }
-    if (watched == m_width && event->type() == QEvent::Wheel && m_width->hasFocus()) {
-        const int delta = static_cast<QWheelEvent *>(event)->angleDelta().y();
-        if (delta != 0) {
-            step(delta > 0 ? 1 : -1);
-        }
-        return true;
-    }
-    return PropertyEditor::eventFilter(watched, event);
 }
 
 } // namespace Halvane::Corvex::Designer

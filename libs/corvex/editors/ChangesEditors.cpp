@@ -9,7 +9,6 @@
 #include "corvex/widgets/Theme.h"
 
 #include <QHBoxLayout>
-#include <QMetaMethod>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -59,11 +58,11 @@ void ChangesEditor::createFields()
     };
     m_asText = addButton(u"Text"_s, u"Edit the changes as text"_s);
     m_record = addButton(u"Record"_s, u"Note what is changed on the canvas"_s);
-    m_record->setVisible(isSignalConnected(QMetaMethod::fromSignal(&ChangesEditor::recordingRequested)));
     buttons->addStretch();
     fields()->addLayout(buttons);
     connect(m_asText, &QToolButton::clicked, this, [this](bool isText) { showAsText(isText); });
-    connect(m_record, &QToolButton::toggled, this, &ChangesEditor::recordingRequested);
+    connect(m_record, &QToolButton::clicked, this,
+            [this](bool isOn) { requests()->setRecorded(isOn ? properties().value(0) : SharedProperty()); });
 }
 
 void ChangesEditor::showView(bool isText)
@@ -78,6 +77,10 @@ void ChangesEditor::showView(bool isText)
 void ChangesEditor::showRow()
 {
     const QList<SharedProperty> all = properties();
+    const bool canRecord = requests() && requests()->isServed(EditorRequests::Recording) && all.size() == 1;
+    m_record->setVisible(canRecord);
+    m_record->setChecked(canRecord && requests()->recorded() == all.constFirst());
+    m_table->setRequests(requests());
     if (all.isEmpty()) {
         return;
     }
@@ -135,52 +138,38 @@ PropertyEditor::Entry ChangesEditor::entryFor(const DesignerProperty &property) 
     return {writing.stored, writing.error};
 }
 
-void ChangesEditor::record(const DesignerObject *object, const QString &property)
+PlannedCommand ChangesEditor::recordOf(const SharedProperty &changes, const DesignerObject *object,
+                                       const QString &property)
 {
-    const QList<SharedProperty> all = properties();
     const SharedProperty recorded = object ? object->getProperty(property) : SharedProperty();
-    if (all.isEmpty() || !recorded || row().isReadOnly) {
-        return;
+    const std::optional<ChangeLines::Form> form = changes ? ChangeLines::formOf(*changes) : std::nullopt;
+    std::optional<QList<ChangeLine>> lines =
+        form ? ChangeLines::read(*changes, changes->valueString()) : std::nullopt;
+    if (!recorded || !lines || form == ChangeLines::Form::Rules) {
+        return {nullptr, LocalizationHelper::coreString(u"The change cannot be recorded here."_s), {}};
     }
-    const std::optional<ChangeLines::Form> form = ChangeLines::formOf(*all.constFirst());
     ChangeLine line{object->getIdName(), property, recorded->valueString()};
-    if (form == ChangeLines::Form::Assignments || form == ChangeLines::Form::Rules) {
-        const ExpressionScope scope(all.constFirst());
+    if (form == ChangeLines::Form::Assignments) {
         const QString path = object->getIdName() + u'.' + property;
-        const std::optional<GeneralDataInfo> term = scope.find(path);
-        if (!term || form == ChangeLines::Form::Rules) {
-            return; // the device cannot set it
+        const std::optional<GeneralDataInfo> term = ExpressionScope(changes).find(path);
+        if (!term) {
+            return {
+                nullptr, LocalizationHelper::coreString(u"The device cannot set \"%1\"."_s).arg(path), {}};
         }
         const bool isText = term->dataType() == GeneralDataInfo::StringData;
         line = ChangeLine{path, {}, isText ? ExpressionLexer::quoted(line.value, u'"') : line.value};
     }
-    QList<ChangeLine> lines = ChangeLines::read(*all.constFirst(), row().value).value_or(QList<ChangeLine>());
-    const auto known = std::ranges::find_if(lines, [&line](const ChangeLine &old) {
+    const auto known = std::ranges::find_if(*lines, [&line](const ChangeLine &old) {
         return old.target == line.target && old.property == line.property;
     });
-    if (known == lines.end()) {
-        lines.append(line);
+    if (known == lines->end()) {
+        lines->append(line);
     } else {
         *known = line;
     }
-    m_wantsText = false;
-    m_table->showLines(all.constFirst(), row().title, lines);
-    showView(false);
-    completeEntry();
-}
-
-void ChangesEditor::connectNotify(const QMetaMethod &signal)
-{
-    if (m_record && signal == QMetaMethod::fromSignal(&ChangesEditor::recordingRequested)) {
-        m_record->show();
-    }
-}
-
-void ChangesEditor::disconnectNotify(const QMetaMethod &)
-{
-    if (m_record) {
-        m_record->setVisible(isSignalConnected(QMetaMethod::fromSignal(&ChangesEditor::recordingRequested)));
-    }
+    const ChangeLines::Writing writing = ChangeLines::write(*changes, *lines);
+    return writing.error.isEmpty() ? Commands::changeOf({{changes, writing.stored}})
+                                   : PlannedCommand{nullptr, writing.error, {}};
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -21,24 +21,18 @@ public:
     explicit ChangesEditor(QWidget *parent = nullptr);
 
     bool isWide() const override { return true; }
-    //! Adds a line that sets the property of the element to its current value, or updates the line that it
-    //! has. For a canvas that the user changes while a state is recorded.
-    void record(const DesignerObject *object, const QString &property);
+    //! Adds a line to \a changes that sets the property of the element to its current value, or updates the
+    //! line that it has. For changes on the canvas while EditorRequests::recorded() is set.
+    static PlannedCommand recordOf(const SharedProperty &changes, const DesignerObject *object,
+                                   const QString &property);
     //! Returns false if the other view cannot show the whole value; the editor shows the reason.
     bool showAsText(bool isText);
-
-signals:
-    //! The user wants changes on the canvas to be recorded with record(), or no longer. The button is hidden
-    //! while nobody receives this.
-    void recordingRequested(bool isOn);
 
 protected:
     void createFields() override;
     void showRow() override;
     PlannedCommand plan() const override;
     Entry entryFor(const DesignerProperty &property) const override;
-    void connectNotify(const QMetaMethod &signal) override;
-    void disconnectNotify(const QMetaMethod &signal) override;
 
 private:
     void showView(bool isText);

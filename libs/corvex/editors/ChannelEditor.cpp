@@ -13,6 +13,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
@@ -42,8 +43,8 @@ void ChannelEditor::createFields()
 {
     m_line = addLine();
     m_line->installEventFilter(this);
-    m_count = new HintLabel(&Theme::muted, this);
-    m_count->setWordWrap(false);
+    m_count = new QLabel(this);
+    Theme::setTextColor(m_count, &Theme::muted);
     fields()->addWidget(m_count);
     auto *choose = new FieldButton(IconSet::More,
                                    LocalizationHelper::coreString(u"Show all channels (Alt+Down)"_s), this);
@@ -71,7 +72,7 @@ void ChannelEditor::showRow()
     const bool isKnown = kind && configuration();
     m_choose->setVisible(isKnown);
     const QList<int> available = channels();
-    m_count->setHint(isKnown ? LocalizationHelper::coreString(u"of %1"_s).arg(available.size()) : QString());
+    m_count->setText(isKnown ? LocalizationHelper::coreString(u"of %1"_s).arg(available.size()) : QString());
     QString warning;
     if (isKnown && !row().isMixed && !available.contains(row().value.toInt())) {
         const QString model = configuration()->getIdName();
@@ -80,7 +81,7 @@ void ChannelEditor::showRow()
                                       : LocalizationHelper::coreString(u"Of the %2, %1 has no channel %3."_s)
                                             .arg(model, name, row().value);
     }
-    setHint(warning, true);
+    setHint(warning, Hint::Warning);
     if (isKnown) {
         m_watch->follow(properties().constFirst()->parentObject()->project());
     }

@@ -8,6 +8,7 @@
 #include "corvex/editors/private/OriginPicture.h"
 #include "corvex/values/text/EnumWords.h"
 #include "corvex/values/text/ValueConversion.h"
+#include "corvex/widgets/AccessibleValue.h"
 #include "corvex/widgets/KdComboBox.h"
 #include "corvex/widgets/Theme.h"
 
@@ -123,6 +124,7 @@ void EnumEditor::showRow()
         m_box->clear();
         for (const QString &key : std::as_const(m_keys)) {
             m_box->addItem(EnumWords::of(key));
+            m_box->setItemData(m_box->count() - 1, key, Qt::ToolTipRole); // as scripts and files have it
         }
     }
     m_box->setPlaceholderText(row().isMixed ? mixedText() : row().value);
@@ -160,6 +162,7 @@ void TransformOriginEditor::showRow()
     const QQuickItem::TransformOrigin origin = TransformOriginProperty::stringToEnum(row().value, &isKnown);
     m_picture->setPoint(isKnown ? int(origin) : -1);
     m_name->setText(row().isMixed ? mixedText() : EnumWords::of(row().value));
+    AccessibleValue::set(m_picture, m_name->text());
 }
 
 PropertyEditor::Entry TransformOriginEditor::entryFor(const DesignerProperty &property) const

@@ -14,7 +14,6 @@
 #include "corvex/widgets/KdLineEdit.h"
 
 #include <QHBoxLayout>
-#include <QMetaMethod>
 
 using namespace Qt::StringLiterals;
 
@@ -36,18 +35,21 @@ ColorEdit *ColorFieldEditor::createColorEdit(const QString &part)
     return m_edit;
 }
 
-void ColorFieldEditor::enterColor(const QColor &color)
-{
-    m_edit->enterColor(color);
-}
-
 void ColorFieldEditor::preparePicker(ColorPicker *picker)
 {
     picker->offer(LocalizationHelper::coreString(u"In this project"_s), usedColors());
-    if (isSignalConnected(QMetaMethod::fromSignal(&ColorFieldEditor::colorRequested))) {
+    if (requests() && requests()->isServed(EditorRequests::Color)) {
         picker->offerPicking();
-        connect(picker, &ColorPicker::pickRequested, this, &ColorFieldEditor::colorRequested);
+        connect(picker, &ColorPicker::pickRequested, this, [this] {
+            const auto use = [this](const QColor &color) { enterColor(color); };
+            emit requests()->colorRequested(answerFor<const QColor &>(use));
+        });
     }
+}
+
+void ColorFieldEditor::enterColor(const QColor &color)
+{
+    m_edit->enterColor(color);
 }
 
 QList<QColor> ColorFieldEditor::usedColors() const
@@ -91,7 +93,7 @@ void ColorEditor::showContrast()
                       u"Hard to read: the contrast with what is beneath the text is %1 to 1. Aim for 4.5."_s)
                       .arg(std::floor(*contrast * 10) / 10) // a contrast of 4.46 is not 4.5
                 : QString(),
-            true);
+            Hint::Warning);
 }
 
 PropertyEditor::Entry ColorEditor::entryFor(const DesignerProperty &property) const

@@ -12,6 +12,7 @@ class ColorPicker;
 class ColorStrip;
 class FieldButton;
 class GradientBar;
+class KdNumberEdit;
 class ModelWatch;
 
 //! The base of editors with a field for a color.
@@ -24,11 +25,6 @@ public:
 
     //! Enters a color, such as one that was picked on the canvas.
     void enterColor(const QColor &color);
-
-signals:
-    //! The user wants to pick a color elsewhere. Only offered while something is connected, which passes the
-    //! color to enterColor().
-    void colorRequested();
 
 protected:
     //! Creates the field; \a part is that of its text.
@@ -115,7 +111,7 @@ private:
     void showSelected();
 
     GradientBar *m_bar = nullptr;
-    KdLineEdit *m_position = nullptr;
+    KdNumberEdit *m_position = nullptr;
 };
 
 //! The width and the color of a border.
@@ -128,7 +124,6 @@ public:
 
     bool canScrub() const override { return true; }
     void scrub(double steps) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
     void createFields() override;
@@ -136,10 +131,9 @@ protected:
     Entry entryFor(const DesignerProperty &property) const override;
 
 private:
-    void step(int steps);
-    void takeStep(int steps);
+    void takeSteps(double steps);
 
-    KdLineEdit *m_width = nullptr;
+    KdNumberEdit *m_width = nullptr;
     int m_steps = 0; //!< added to the width of each object
 };
 

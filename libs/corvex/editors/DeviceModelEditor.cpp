@@ -16,6 +16,7 @@
 #include "corvex/widgets/Theme.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
@@ -161,7 +162,10 @@ void DeviceModelEditor::ask()
     }
     markEdited();
     if (!m_question) {
-        m_question = new HintLabel(&Theme::warning, this);
+        m_question = new QLabel(this);
+        m_question->setWordWrap(true);
+        m_question->setTextFormat(Qt::PlainText);
+        Theme::setTextColor(m_question, &Theme::warning);
         auto *rows = static_cast<QVBoxLayout *>(layout());
         rows->insertWidget(1, m_question);
         m_buttons = new QWidget(this);
@@ -190,9 +194,9 @@ void DeviceModelEditor::ask()
     const QStringList lines = consequences();
     const QString first =
         LocalizationHelper::coreString(u"The model changes from %1 to %2:"_s).arg(m_line->shownText(), model);
-    m_question->setTextFormat(Qt::PlainText);
-    m_question->setHint(lines.isEmpty() ? first.chopped(1) + u'.'
+    m_question->setText(lines.isEmpty() ? first.chopped(1) + u'.'
                                         : first + u"\n\u2022 "_s + lines.join(u"\n\u2022 "_s));
+    m_question->show();
     m_buttons->show();
     emit heightChanged();
     m_confirm->setFocus(Qt::OtherFocusReason);
@@ -200,7 +204,8 @@ void DeviceModelEditor::ask()
 
 void DeviceModelEditor::closeQuestion()
 {
-    if (m_question && m_question->setHint({})) {
+    if (m_question && !m_question->isHidden()) {
+        m_question->hide();
         m_buttons->hide();
         emit heightChanged();
     }

@@ -54,7 +54,7 @@ void FontEditor::showMissing()
                 : LocalizationHelper::coreString(
                       u"The device does not have the font \"%1\" and shows another one."_s)
                       .arg(family),
-            true);
+            Hint::Warning);
 }
 
 void FontEditor::openPicker()

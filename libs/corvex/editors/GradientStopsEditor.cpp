@@ -4,9 +4,10 @@
 #include "corvex/editors/ColorEditors.h"
 #include "corvex/editors/private/GradientBar.h"
 #include "corvex/values/text/ValueConversion.h"
+#include "corvex/widgets/Arithmetic.h"
 #include "corvex/widgets/ColorEdit.h"
 #include "corvex/widgets/ColorSwatch.h"
-#include "corvex/widgets/KdLineEdit.h"
+#include "corvex/widgets/KdNumberEdit.h"
 #include "corvex/widgets/Theme.h"
 
 #include <QHBoxLayout>
@@ -19,6 +20,16 @@ namespace Halvane::Corvex::Designer {
 
 using Common::LocalizationHelper;
 
+namespace {
+
+const QList<Arithmetic::Unit> &percent()
+{
+    static const QList<Arithmetic::Unit> units{{u"%"_s, 1}};
+    return units;
+}
+
+} // namespace
+
 void GradientStopsEditor::createFields()
 {
     auto *rows = new QVBoxLayout;
@@ -30,8 +41,15 @@ void GradientStopsEditor::createFields()
     rows->addWidget(m_bar);
     auto *line = new QHBoxLayout;
     line->setSpacing(Theme::gap);
-    m_position = prepareLine(new KdLineEdit(this), LocalizationHelper::coreString(u"position"_s));
-    m_position->setFixedWidth(m_position->fontMetrics().horizontalAdvance(u"100 %"_s) + 16);
+    m_position = new KdNumberEdit(this);
+    m_position->setUnit(percent().constFirst().word);
+    m_position->setFixedWidth(m_position->fontMetrics().horizontalAdvance(u"100 %"_s) + 22);
+    prepareLine(m_position, LocalizationHelper::coreString(u"position"_s));
+    connect(m_position, &KdNumberEdit::stepRequested, this, [this](double steps) {
+        if (!m_position->hasEntry()) {
+            m_bar->moveSelectedBy(steps);
+        }
+    });
     line->addWidget(m_position);
     line->addWidget(createColorEdit(LocalizationHelper::coreString(u"color"_s)), 1);
     rows->addLayout(line);
@@ -61,7 +79,7 @@ void GradientStopsEditor::showSelected()
 {
     const int selected = m_bar->selected();
     const QGradientStop stop = selected >= 0 ? m_bar->stops().at(selected) : QGradientStop(0, QColor());
-    m_position->setShownText(selected >= 0 ? u"%1 %"_s.arg(qRound(stop.first * 100)) : QString());
+    m_position->setShownText(selected >= 0 ? QString::number(qRound(stop.first * 100)) : QString());
     m_position->setEnabled(selected >= 0);
     colorEdit()->setColor(stop.second);
     colorEdit()->setEnabled(selected >= 0);
@@ -73,16 +91,15 @@ PropertyEditor::Entry GradientStopsEditor::entryFor(const DesignerProperty &) co
     if (m_bar->selected() >= 0) {
         QGradientStop &stop = stops[m_bar->selected()];
         if (m_position->hasEntry()) {
-            QString text = m_position->text().trimmed();
-            if (text.endsWith(u'%')) {
-                text.chop(1);
+            const Arithmetic::Result result =
+                Arithmetic::evaluate(m_position->text(), qRound(stop.first * 100), percent());
+            if (!result.error.isEmpty()) {
+                return {{}, result.error};
             }
-            bool isNumber = false;
-            const int position = ValueConversion::toInt(text.trimmed(), &isNumber);
-            if (!isNumber || position < 0 || position > 100) {
+            if (result.number < 0 || result.number > 100) {
                 return {{}, LocalizationHelper::coreString(u"The position takes 0 to 100 %."_s)};
             }
-            stop.first = position / 100.0;
+            stop.first = qRound(result.number) / 100.0;
         }
         if (colorEdit()->line()->hasEntry()) {
             stop.second = colorEdit()->entry();

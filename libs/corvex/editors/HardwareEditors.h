@@ -13,7 +13,6 @@ class QToolButton;
 namespace Halvane::Corvex::Designer {
 
 class Configuration;
-class HintLabel;
 class ModelWatch;
 
 //! The channel of a hardware element. A menu shows the channels that the project's device model has, and the
@@ -48,7 +47,7 @@ private:
 
     KdLineEdit *m_line = nullptr;
     QToolButton *m_choose = nullptr;
-    HintLabel *m_count = nullptr; //!< the number of channels
+    QLabel *m_count = nullptr; //!< the number of channels
     ModelWatch *m_watch = nullptr;
 };
 
@@ -179,7 +178,7 @@ private:
 
     KdLineEdit *m_line = nullptr;
     QToolButton *m_choose = nullptr;
-    HintLabel *m_question = nullptr;
+    QLabel *m_question = nullptr;
     QWidget *m_buttons = nullptr;
     QPushButton *m_confirm = nullptr;
     bool m_isConfirmed = false;

@@ -5,14 +5,10 @@
 #include "corvex/editing/references/ReferenceTarget.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/editors/ReferenceEditors.h"
-#include "corvex/editors/private/FieldButton.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
 #include "corvex/widgets/KdLineEdit.h"
-#include "corvex/widgets/Theme.h"
-
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -62,13 +58,14 @@ QString freeNameLike(const DesignerObject *object, const QString &name)
 void IdentifierEditor::createFields()
 {
     m_line = addLine();
-    m_hint = new HintLabel(&Theme::muted, this);
-    static_cast<QVBoxLayout *>(layout())->insertWidget(1, m_hint);
     connect(m_line, &KdLineEdit::edited, this, &IdentifierEditor::explain);
-    connect(m_hint, &QLabel::linkActivated, this, [this](const QString &name) {
-        m_line->enterText(name);
-        completeEntry();
-    });
+}
+
+//! The link is a free name.
+void IdentifierEditor::followOffer(const QString &link)
+{
+    m_line->enterText(link);
+    completeEntry();
 }
 
 DesignerObject *IdentifierEditor::object() const
@@ -84,9 +81,7 @@ void IdentifierEditor::showRow()
     m_line->setShownText(shown ? shown->getIdName() : QString());
     m_line->setPlaceholderText(shown ? QString()
                                      : LocalizationHelper::coreString(u"Each object has its own name"_s));
-    if (m_hint->setHint({})) {
-        emit heightChanged();
-    }
+    setHint({});
 }
 
 //! Says what the typed name would do.
@@ -94,17 +89,18 @@ void IdentifierEditor::explain()
 {
     const DesignerObject *edited = object();
     const QString name = m_line->text().trimmed();
+    QString error;
     QString hint;
+    Hint kind = Hint::Advice;
     if (edited && edited->project() && name != edited->getIdName() && !row().isReadOnly
         && edited->project()->undoStack()->mayEdit()) {
-        const QString error = PropertyValidators::nameError(edited, name);
+        error = PropertyValidators::nameError(edited, name);
         if (!error.isEmpty()) {
-            hint = error.toHtmlEscaped();
             const QString offer = freeNameLike(edited, name);
             if (!offer.isEmpty() && offer != name && PropertyValidators::nameError(edited, offer).isEmpty()) {
-                hint += u"<br>"_s
-                        + LocalizationHelper::coreString(u"<a href=\"%1\">Use \"%1\"</a>, which is free."_s)
-                              .arg(offer.toHtmlEscaped());
+                kind = Hint::Offer;
+                hint = LocalizationHelper::coreString(u"<a href=\"%1\">Use \"%1\"</a>, which is free."_s)
+                           .arg(offer.toHtmlEscaped());
             }
         } else {
             m_uses = m_uses < 0 ? usesOf(edited) : m_uses;
@@ -115,9 +111,8 @@ void IdentifierEditor::explain()
                              .arg(m_uses);
         }
     }
-    if (m_hint->setHint(hint)) {
-        emit heightChanged();
-    }
+    setHint(hint, kind);
+    refuse(error);
 }
 
 PlannedCommand IdentifierEditor::plan() const

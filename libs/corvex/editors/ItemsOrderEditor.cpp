@@ -9,6 +9,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QListWidget>
 #include <QSet>
 #include <QVBoxLayout>
@@ -41,7 +42,8 @@ void ItemsOrderEditor::createFields()
 
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(Theme::gap);
-    m_count = new HintLabel(&Theme::muted, this);
+    m_count = new QLabel(this);
+    Theme::setTextColor(m_count, &Theme::muted);
     buttons->addWidget(m_count, 1);
     buttons->addStretch(1);
     const auto addButton = [&](FieldButton *button, const QString &part, auto act) {
@@ -117,7 +119,7 @@ void ItemsOrderEditor::showRow()
     for (QToolButton *button : m_changers) {
         button->setVisible(canAdd());
     }
-    m_count->setHint(row().isMixed     ? mixedText()
+    m_count->setText(row().isMixed     ? mixedText()
                      : items.isEmpty() ? LocalizationHelper::coreString(u"The list is empty."_s)
                                        : QString());
     const int rows = std::clamp(int(items.size()), fewestRows, mostRows);

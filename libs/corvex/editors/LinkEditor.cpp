@@ -17,6 +17,7 @@
 #include "corvex/widgets/Thumbnails.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QSet>
 #include <QVBoxLayout>
 
@@ -28,13 +29,13 @@ using Common::LocalizationHelper;
 
 namespace {
 
-//! The value as a link, with the scope and the classes that the property allows.
-ObjectLinkInfo linkOf(const DesignerProperty &property)
+//! A value of the property as a link, with the scope and the classes that the property allows.
+ObjectLinkInfo linkOf(const DesignerProperty &property, const QString &value)
 {
     if (const auto *link = propertyCast<LinkProperty>(&property)) {
-        return link->checked(link->value());
+        return link->checked(ObjectLinkInfo(value));
     }
-    return {property.valueString(), property.editorParameter(u"scopeType"_s).toString(),
+    return {value, property.editorParameter(u"scopeType"_s).toString(),
             property.editorParameter(u"filterType"_s).toStringList()};
 }
 
@@ -53,7 +54,7 @@ void LinkEditor::createFields()
     connect(m_choose, &QToolButton::clicked, this, &LinkEditor::choose);
     connect(m_goTo, &QToolButton::clicked, this, [this] {
         if (DesignerObject *object = target()) {
-            emit objectRequested(object);
+            emit requests()->objectRequested(object);
         }
     });
     m_watch = new ModelWatch([](const DesignerProperty &property) { return property.id() == "id"_L1; }, this);
@@ -72,6 +73,7 @@ void LinkEditor::showRow()
         row().isMixed || all.isEmpty() ? QString() : ReadableValue::print(*all.constFirst(), row().value));
     m_goTo->setAccessibleName(LocalizationHelper::coreString(u"%1, go to"_s).arg(row().title));
     m_goTo->setEnabled(target());
+    m_goTo->setVisible(requests() && requests()->isServed(EditorRequests::Object));
     if (!all.isEmpty()) {
         m_watch->follow(all.constFirst()->parentObject()->project());
     }
@@ -92,7 +94,7 @@ QList<DesignerObject *> LinkEditor::candidates() const
         if (screens.contains(owner->screen())) {
             continue;
         }
-        const QList<DesignerObject *> reached = linkOf(*property).findLinks(owner, true);
+        const QList<DesignerObject *> reached = linkOf(*property, valueOf(*property)).findLinks(owner, true);
         if (screens.isEmpty()) {
             found = reached;
         } else {
@@ -113,7 +115,7 @@ DesignerObject *LinkEditor::target() const
     if (row().isMixed || all.isEmpty()) {
         return nullptr;
     }
-    const ObjectLinkInfo link = linkOf(*all.constFirst());
+    const ObjectLinkInfo link = linkOf(*all.constFirst(), row().value);
     return link.isValid() ? link.findLinks(all.constFirst()->parentObject(), false).value(0) : nullptr;
 }
 
@@ -125,7 +127,8 @@ QString LinkEditor::nameOf(const DesignerObject *object) const
 QStringList LinkEditor::newClasses() const
 {
     const QList<SharedProperty> all = properties();
-    QStringList classes = all.isEmpty() ? QStringList() : linkOf(*all.constFirst()).filterType();
+    QStringList classes =
+        all.isEmpty() ? QStringList() : linkOf(*all.constFirst(), valueOf(*all.constFirst())).filterType();
     const DesignerFactory *factory = DesignerFactory::instance();
     classes.removeIf([factory](const QString &name) { return !factory || !factory->canCreateObject(name); });
     return classes;
@@ -144,8 +147,10 @@ void LinkEditor::choose()
     if (row().isMixed || !row().value.isEmpty()) {
         m_selector->offerNothing(LocalizationHelper::coreString(u"None"_s));
     }
-    for (const QString &className : newClasses()) {
-        m_selector->offerNew(className);
+    if (requests() && requests()->isServed(EditorRequests::NewObject)) {
+        for (const QString &className : newClasses()) {
+            m_selector->offerNew(className);
+        }
     }
     const auto enter = [this](const QString &name) {
         m_line->enterText(name);
@@ -154,7 +159,10 @@ void LinkEditor::choose()
     connect(m_selector, &ObjectSelector::chosen, this,
             [this, enter](const DesignerObject *object) { enter(nameOf(object)); });
     connect(m_selector, &ObjectSelector::nothingChosen, this, [enter] { enter({}); });
-    connect(m_selector, &ObjectSelector::newObjectRequested, this, &PropertyEditor::newObjectRequested);
+    connect(m_selector, &ObjectSelector::newObjectRequested, this, [this, enter](const QString &className) {
+        const auto use = [this, enter](const DesignerObject *object) { enter(nameOf(object)); };
+        emit requests()->newObjectRequested(className, answerFor<const DesignerObject *>(use));
+    });
     m_selector->openAt(this);
 }
 
@@ -186,7 +194,8 @@ void ImageSourceEditor::createFields()
     m_thumbnail = new QLabel(m_picture);
     m_thumbnail->setFixedHeight(2 * Theme::fieldHeight(this));
     line->addWidget(m_thumbnail);
-    m_size = new HintLabel(&Theme::muted, m_picture);
+    m_size = new QLabel(m_picture);
+    Theme::setTextColor(m_size, &Theme::muted);
     line->addWidget(m_size, 1);
     static_cast<QVBoxLayout *>(layout())->insertWidget(1, m_picture);
 }
@@ -199,7 +208,7 @@ void ImageSourceEditor::showRow()
         image ? Thumbnails::of(*image, m_thumbnail->height(), devicePixelRatioF()) : QPixmap();
     m_thumbnail->setPixmap(picture);
     const QSize size = image && !picture.isNull() ? Thumbnails::sizeOf(*image) : QSize();
-    m_size->setHint(size.isValid() ? LocalizationHelper::coreString(u"%1 x %2 pixels"_s)
+    m_size->setText(size.isValid() ? LocalizationHelper::coreString(u"%1 x %2 pixels"_s)
                                          .arg(QString::number(size.width()), QString::number(size.height()))
                                    : QString());
     if (m_picture->isHidden() != picture.isNull()) {

@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QTextDocumentFragment>
 
 using namespace Qt::StringLiterals;
 
@@ -130,22 +131,33 @@ void PropertyEditor::updateAccess()
     const QString error = errorString();
     QString description = error.isEmpty() ? m_row.description : error;
     setToolTip(description);
-    if (error.isEmpty() && !m_hint.isEmpty()) {
-        description = description.isEmpty() ? m_hint : description + u'\n' + m_hint;
+    const QString hint =
+        m_hintKind == Hint::Offer ? QTextDocumentFragment::fromHtml(m_hint).toPlainText() : m_hint;
+    if (error.isEmpty() && !hint.isEmpty()) {
+        description = description.isEmpty() ? hint : description + u'\n' + hint;
+    }
+    for (const auto &[label, text] : {std::pair(m_errorLabel, error), std::pair(m_hintLabel, hint)}) {
+        if (label) {
+            label->setAccessibleName(m_row.title + u": "_s + text);
+        }
     }
     for (const Field &field : m_parts) {
         if (field.widget) {
-            field.widget->setAccessibleName(field.part.isEmpty() ? m_row.title
-                                                                 : m_row.title + u", "_s + field.part);
-            field.widget->setAccessibleDescription(description);
-            if (auto *line = qobject_cast<QLineEdit *>(field.widget)) {
-                line->setReadOnly(m_row.isReadOnly); // so that the text can be copied
-            } else if (auto *text = qobject_cast<QPlainTextEdit *>(field.widget)) {
-                text->setReadOnly(m_row.isReadOnly);
-            } else {
-                field.widget->setEnabled(!m_row.isReadOnly);
-            }
+            updateAccess(field, description);
         }
+    }
+}
+
+void PropertyEditor::updateAccess(const Field &field, const QString &description) const
+{
+    field.widget->setAccessibleName(field.part.isEmpty() ? m_row.title : m_row.title + u", "_s + field.part);
+    field.widget->setAccessibleDescription(description);
+    if (auto *line = qobject_cast<QLineEdit *>(field.widget)) {
+        line->setReadOnly(m_row.isReadOnly); // so that the text can be copied
+    } else if (auto *text = qobject_cast<QPlainTextEdit *>(field.widget)) {
+        text->setReadOnly(m_row.isReadOnly);
+    } else {
+        field.widget->setEnabled(!m_row.isReadOnly);
     }
 }
 
@@ -154,16 +166,23 @@ QString PropertyEditor::errorString() const
     return m_refusal.isEmpty() ? m_row.error : m_refusal;
 }
 
-//! Shows a text beneath the fields, or nothing. Returns whether anything changed.
-bool PropertyEditor::showMessage(QLabel *&label, const QString &text, QColor (*role)(const QPalette &palette))
+//! Shows a text in a label, which may be null, or hides it. Returns whether anything changed.
+bool PropertyEditor::showMessage(QLabel *&label, const QString &text)
 {
     if (!label && !text.isEmpty()) {
+        const bool isError = &label == &m_errorLabel;
+        const bool hasLinks = !isError && m_hintKind == Hint::Offer;
         label = new QLabel(this);
+        label->setObjectName(isError ? u"error"_s : u"hint"_s);
         label->setWordWrap(true);
-        label->setTextFormat(Qt::PlainText);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        label->setObjectName(&label == &m_errorLabel ? u"error"_s : u"hint"_s);
-        Theme::setTextColor(label, role);
+        label->setTextFormat(hasLinks ? Qt::RichText : Qt::PlainText);
+        label->setTextInteractionFlags(hasLinks ? Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard
+                                                : Qt::TextInteractionFlags(Qt::TextSelectableByMouse));
+        Theme::setTextColor(label, isError                       ? &Theme::error
+                                   : m_hintKind == Hint::Warning ? &Theme::warning
+                                                                 : &Theme::muted);
+        connect(label, &QLabel::linkActivated, this, &PropertyEditor::followOffer,
+                Qt::QueuedConnection); // the link may remove the label
         m_layout->addWidget(label);
     }
     if (!label || (label->text() == text && label->isHidden() == text.isEmpty())) {
@@ -181,24 +200,46 @@ void PropertyEditor::setError(const QString &text)
             line->setInvalid(!text.isEmpty());
         }
     }
-    const bool isErrorNew = showMessage(m_errorLabel, text, &Theme::error);
-    const bool isHintNew = showMessage(m_hintLabel, text.isEmpty() ? m_hint : QString(),
-                                       m_isWarning ? &Theme::warning : &Theme::muted);
+    const bool isErrorNew = showMessage(m_errorLabel, text);
+    const bool hasHint = text.isEmpty() || m_hintKind == Hint::Offer;
+    const bool isHintNew = showMessage(m_hintLabel, hasHint ? m_hint : QString());
     if (isErrorNew || isHintNew) {
         updateAccess();
         emit heightChanged();
     }
 }
 
-void PropertyEditor::setHint(const QString &text, bool isWarning)
+void PropertyEditor::setHint(const QString &text, Hint kind)
 {
-    if (m_isWarning != isWarning && m_hintLabel) {
-        delete m_hintLabel; // the next one has the other color
-        m_hintLabel = nullptr;
+    if (m_hintKind != kind && m_hintLabel) {
+        delete m_hintLabel;
+        m_hintLabel = nullptr; // the next one looks different
     }
     m_hint = text;
-    m_isWarning = isWarning;
+    m_hintKind = kind;
     setError(errorString());
+}
+
+void PropertyEditor::followOffer(const QString &) { }
+
+void PropertyEditor::setRequests(EditorRequests *requests)
+{
+    if (m_requests == requests) {
+        return;
+    }
+    if (m_requests) {
+        disconnect(m_requests, nullptr, this, nullptr);
+    }
+    m_requests = requests;
+    const auto update = [this] {
+        if (m_hasFields && !m_hasEntry) {
+            showRow();
+        }
+    };
+    if (requests) {
+        connect(requests, &EditorRequests::changed, this, update);
+    }
+    update();
 }
 
 UndoCommand *PropertyEditor::createUpdateCommand()
@@ -284,6 +325,7 @@ void PropertyEditor::prepareField(QWidget *field, const QString &part)
 {
     WheelGuard::protect(field);
     m_parts.push_back({field, part});
+    updateAccess(m_parts.back(), m_row.description);
     if (!focusProxy()) {
         setFocusProxy(field);
     }

@@ -3,11 +3,13 @@
 
 #include "corvex/common/Export.h"
 #include "corvex/editing/commands/Commands.h"
+#include "corvex/editors/EditorRequests.h"
 #include "corvex/inspector/PropertySheet.h"
 
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 
 class QHBoxLayout;
@@ -48,6 +50,8 @@ public:
     //! The stored text of the entry for setElsewhere(). Nothing if there is no entry, or if the property
     //! refuses it; the editor shows the reason then.
     std::optional<QString> takeEntry();
+    //! Passes the requests of this editor to \a requests; null if there is nobody who could serve them.
+    void setRequests(EditorRequests *requests);
     PropertySheet *sheet() const { return m_sheet; }
     const QString &propertyId() const { return m_row.id; }
     //! The row as it is shown.
@@ -90,10 +94,6 @@ signals:
     void gestureEnded();
     //! The user has given up the gesture; the value before it must be restored.
     void gestureCancelled();
-    //! The user wants to go to the object.
-    void objectRequested(Halvane::Corvex::Designer::DesignerObject *object);
-    //! The user wants a new object of the class, to use it as the value.
-    void newObjectRequested(const QString &className);
     //! The height that the editor needs may have changed.
     void heightChanged();
 
@@ -103,6 +103,12 @@ protected:
     {
         QString text;
         QString error;
+    };
+
+    enum class Hint {
+        Advice,
+        Warning,
+        Offer, //!< with links, as HTML; also shown beside an error
     };
 
     //! Creates the fields with addField() and addLine(). Called once, before the first showRow().
@@ -137,7 +143,23 @@ protected:
     void completeStep();
 
     //! Advice on the value, in a line beneath the fields; empty for none. An error replaces it.
-    void setHint(const QString &text, bool isWarning = false);
+    void setHint(const QString &text, Hint kind = Hint::Advice);
+    //! The user has clicked a link of an offer.
+    virtual void followOffer(const QString &link);
+
+    //! Null if nobody serves requests. Editors show what they offer in showRow(), which is called again when
+    //! that changes.
+    EditorRequests *requests() const { return m_requests; }
+    //! Passes an answer to \a take if the editor still exists and edits the same values.
+    template<class Value>
+    std::function<void(Value)> answerFor(std::function<void(Value)> take)
+    {
+        return [editor = QPointer(this), asked = properties(), take = std::move(take)](Value value) {
+            if (editor && editor->properties() == asked) {
+                take(value);
+            }
+        };
+    }
 
     //! The text for values that differ.
     static QString mixedText();
@@ -148,18 +170,20 @@ protected:
     }
 
 private:
-    void follow();
-    void update(const SheetRow &row);
-    void setError(const QString &text);
-    bool showMessage(QLabel *&label, const QString &text, QColor (*role)(const QPalette &palette));
-    void updateAccess();
-
     struct Field
     {
         QPointer<QWidget> widget;
         QString part;
     };
+    void follow();
+    void update(const SheetRow &row);
+    void setError(const QString &text);
+    bool showMessage(QLabel *&label, const QString &text);
+    void updateAccess();
+    void updateAccess(const Field &field, const QString &description) const;
+
     QPointer<PropertySheet> m_sheet;
+    QPointer<EditorRequests> m_requests;
     SharedProperty m_elsewhere; //!< the property of a value that is stored elsewhere
     SheetRow m_row;
     QVBoxLayout *m_layout;
@@ -170,7 +194,7 @@ private:
     QPointer<KdLineEdit> m_text; //!< of this class as an editor
     QString m_refusal;
     QString m_hint;
-    bool m_isWarning = false;
+    Hint m_hintKind = Hint::Advice;
     QStringList m_notes;
     bool m_hasFields = false;
     bool m_hasEntry = false;

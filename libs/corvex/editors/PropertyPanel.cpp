@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editors/PropertyPanel.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/document/ProjectDocument.h"
 #include "corvex/editors/EditorHistory.h"
 #include "corvex/editors/PropertyEditor.h"
@@ -8,25 +9,27 @@
 
 #include <QEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
 
 PropertyPanel::PropertyPanel(ProjectDocument &document, QWidget *parent)
     : QScrollArea(parent)
     , m_document(document)
     , m_sheet(document.project())
     , m_history(new EditorHistory(document, this))
-    , m_rows(new PanelRows(m_sheet))
+    , m_rows(new PanelRows(m_sheet, m_requests))
 {
     setWidget(m_rows);
     setWidgetResizable(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::ClickFocus); // a click beside the rows completes an entry
+    setAccessibleName(LocalizationHelper::coreString(u"Properties"_s));
     connect(m_history, &EditorHistory::noted, this, &PropertyPanel::noted);
-    connect(m_rows, &PanelRows::created, this, [this](PropertyEditor *editor) {
-        m_history->add(editor);
-        connect(editor, &PropertyEditor::objectRequested, this, &PropertyPanel::objectRequested);
-        connect(editor, &PropertyEditor::newObjectRequested, this, &PropertyPanel::newObjectRequested);
-    });
+    connect(m_rows, &PanelRows::created, m_history, &EditorHistory::add);
     connect(m_rows, &PanelRows::planned, this, [this](const std::shared_ptr<PlannedCommand> &planned) {
         if (planned->command) {
             m_document.push(planned->command.release());

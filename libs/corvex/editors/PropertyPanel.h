@@ -2,6 +2,7 @@
 #pragma once
 
 #include "corvex/common/Export.h"
+#include "corvex/editors/EditorRequests.h"
 #include "corvex/inspector/PropertySheet.h"
 
 #include <QScrollArea>
@@ -31,6 +32,8 @@ public:
     ~PropertyPanel() override;
 
     PropertySheet &sheet() { return m_sheet; }
+    //! What the editors of the panel want from the window.
+    EditorRequests &requests() { return m_requests; }
     //! Only shows rows with this text in title, id or value; case is ignored. Remains for other selections.
     void setFilter(const QString &text);
     const QString &filter() const { return m_filter; }
@@ -41,8 +44,6 @@ public:
     QSize sizeHint() const override;
 
 signals:
-    void objectRequested(Halvane::Corvex::Designer::DesignerObject *object);
-    void newObjectRequested(const QString &className);
     //! Notes for the user about an edit that was made.
     void noted(const QStringList &notes);
 
@@ -55,6 +56,7 @@ private:
 
     ProjectDocument &m_document;
     PropertySheet m_sheet;
+    EditorRequests m_requests;
     EditorHistory *m_history;
     PanelRows *m_rows;
     QString m_filter;

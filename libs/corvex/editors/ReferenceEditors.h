@@ -11,7 +11,6 @@ class QToolButton;
 
 namespace Halvane::Corvex::Designer {
 
-class HintLabel;
 class ModelWatch;
 class ObjectSelector;
 
@@ -28,6 +27,7 @@ protected:
     void createFields() override;
     void showRow() override;
     PlannedCommand plan() const override;
+    void followOffer(const QString &link) override;
 
 private:
     void explain();
@@ -35,7 +35,6 @@ private:
     DesignerObject *object() const;
 
     KdLineEdit *m_line = nullptr;
-    HintLabel *m_hint = nullptr;
     qsizetype m_uses = -1; //!< places that name the object; -1 before they are counted
 };
 
@@ -108,7 +107,7 @@ protected:
 private:
     QWidget *m_picture = nullptr; //!< thumbnail and size, beneath the line
     QLabel *m_thumbnail = nullptr;
-    HintLabel *m_size = nullptr;
+    QLabel *m_size = nullptr;
 };
 
 //! The class of the elements whose settings the device saves. The user chooses an element of that class.
@@ -156,7 +155,7 @@ private:
     void complete(bool isStep);
 
     QListWidget *m_list = nullptr;
-    HintLabel *m_count = nullptr;
+    QLabel *m_count = nullptr;
     QList<QToolButton *> m_changers; //!< the buttons that add and remove
     bool m_isShowing = false;
 };

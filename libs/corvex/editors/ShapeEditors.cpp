@@ -68,11 +68,13 @@ void SizeEditor::createFields()
             m_changesLock = false;
         }
     });
-    connect(sheet(), &PropertySheet::dataChanged, this, [this](const QModelIndex &first) {
-        if (sheet()->row(first.row()).id == lockId) {
-            showLock();
-        }
-    });
+    if (sheet()) {
+        connect(sheet(), &PropertySheet::dataChanged, this, [this](const QModelIndex &first) {
+            if (sheet()->row(first.row()).id == lockId) {
+                showLock();
+            }
+        });
+    }
 }
 
 //! The properties of the objects that say whether they keep their ratio.
@@ -84,7 +86,7 @@ QList<SharedProperty> SizeEditor::locks() const
 
 void SizeEditor::showLock()
 {
-    const int row = sheet()->rowOf(lockId);
+    const int row = sheet() ? sheet()->rowOf(lockId) : -1;
     if (m_lock && row >= 0) {
         setLocked(sheet()->row(row).value == "true"_L1);
     }
@@ -147,11 +149,13 @@ void SizeEditor::adjust(const Pair &own, size_t place, Pair &changed) const
 void KeepRatioEditor::createFields()
 {
     BooleanEditor::createFields();
-    connect(sheet(), &PropertySheet::dataChanged, this, [this](const QModelIndex &first) {
-        if (sheet()->row(first.row()).id == "size"_L1 && !hasEntry()) {
-            showRow();
-        }
-    });
+    if (sheet()) {
+        connect(sheet(), &PropertySheet::dataChanged, this, [this](const QModelIndex &first) {
+            if (sheet()->row(first.row()).id == "size"_L1 && !hasEntry()) {
+                showRow();
+            }
+        });
+    }
 }
 
 QString KeepRatioEditor::note() const

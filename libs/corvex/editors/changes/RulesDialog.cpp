@@ -3,6 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editors/changes/private/ChangesTable.h"
+#include "corvex/widgets/DiscardQuestion.h"
 #include "corvex/widgets/Theme.h"
 
 #include <QDialogButtonBox>
@@ -33,6 +34,7 @@ RulesDialog::RulesDialog(const SharedProperty &property, QWidget *parent)
     area->setWidget(page);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
     m_problem->setTextFormat(Qt::PlainText);
     m_problem->setWordWrap(true);
     m_problem->setObjectName(u"error"_s);
@@ -60,6 +62,7 @@ bool RulesDialog::setStored(const QString &stored)
     const std::optional<QList<ChangeLine>> lines = ChangeLines::read(*m_property, stored);
     if (lines) {
         m_stored = stored;
+        m_shown = stored;
         m_table->showLines(m_property, LocalizationHelper::coreString(u"Rules"_s), *lines);
     }
     return lines.has_value();
@@ -73,6 +76,22 @@ QString RulesDialog::problem()
         m_stored = writing.stored;
     }
     return writing.error;
+}
+
+void RulesDialog::discard()
+{
+    QDialog::reject();
+}
+
+void RulesDialog::reject()
+{
+    m_table->complete();
+    if (m_table->lines() == ChangeLines::read(*m_property, m_shown)) {
+        discard();
+    } else {
+        DiscardQuestion::open(this, LocalizationHelper::coreString(u"Discard the changes to the rules?"_s),
+                              [this] { discard(); });
+    }
 }
 
 void RulesDialog::accept()

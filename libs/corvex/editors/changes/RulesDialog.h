@@ -25,6 +25,10 @@ public:
     QString stored() const { return m_stored; }
 
     void accept() override;
+    //! Asks first if rules were changed.
+    void reject() override;
+    //! Closes without a question.
+    void discard();
 
 private:
     QString problem();
@@ -33,6 +37,7 @@ private:
     ChangesTable *m_table;
     QLabel *m_problem;
     QString m_stored;
+    QString m_shown; //!< the rules at the beginning
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editors/private/ColorStrip.h"
 
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/values/text/ReadableText.h"
+#include "corvex/values/text/ValueConversion.h"
+#include "corvex/widgets/AccessibleValue.h"
 #include "corvex/widgets/ColorSwatch.h"
 #include "corvex/widgets/Theme.h"
 
@@ -10,13 +14,18 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
 
 ColorStrip::ColorStrip(QWidget *parent)
     : QWidget(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    refresh();
 }
 
 QSize ColorStrip::sizeHint() const
@@ -28,20 +37,31 @@ void ColorStrip::setColors(const QList<QColor> &colors)
 {
     m_colors = colors;
     m_selected = colors.isEmpty() ? -1 : std::clamp(m_selected, 0, int(colors.size()) - 1);
+    refresh();
+}
+
+void ColorStrip::refresh()
+{
+    AccessibleValue::set(
+        this, m_selected < 0
+                  ? m_text
+                  : LocalizationHelper::coreString(u"%1 of %2: %3"_s)
+                        .arg(QString::number(m_selected + 1), QString::number(m_colors.size()),
+                             ReadableText::fromColor(ValueConversion::toString(m_colors.at(m_selected)))));
     update();
 }
 
 void ColorStrip::setText(const QString &text)
 {
     m_text = text;
-    update();
+    refresh();
 }
 
 void ColorStrip::select(int index)
 {
     if (index >= 0 && index < m_colors.size() && index != m_selected) {
         m_selected = index;
-        update();
+        refresh();
         emit selectionChanged();
     }
 }
@@ -62,7 +82,7 @@ void ColorStrip::moveSelected(int to)
         m_colors.move(m_selected, to);
         m_selected = to;
         m_isMoved = true;
-        update();
+        refresh();
     }
 }
 

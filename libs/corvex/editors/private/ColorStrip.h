@@ -47,6 +47,7 @@ private:
     QRectF cell(int index) const;
     int indexAt(double x) const;
     void moveSelected(int to);
+    void refresh();
 
     QList<QColor> m_colors;
     QString m_text;

@@ -41,23 +41,4 @@ bool FieldButton::eventFilter(QObject *, QEvent *event)
     return false;
 }
 
-HintLabel::HintLabel(Role role, QWidget *parent)
-    : QLabel(parent)
-{
-    setWordWrap(true);
-    setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    hide();
-    Theme::setTextColor(this, role);
-}
-
-bool HintLabel::setHint(const QString &hint)
-{
-    if (text() == hint) {
-        return false;
-    }
-    setText(hint);
-    setVisible(!hint.isEmpty());
-    return true;
-}
-
 } // namespace Halvane::Corvex::Designer

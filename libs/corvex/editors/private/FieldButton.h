@@ -3,7 +3,6 @@
 
 #include "corvex/widgets/IconSet.h"
 
-#include <QLabel>
 #include <QToolButton>
 
 namespace Halvane::Corvex::Designer {
@@ -19,18 +18,6 @@ public:
 
     QSize sizeHint() const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
-};
-
-//! A text beneath a field that helps with the entry. Hidden while it is empty.
-class HintLabel : public QLabel
-{
-public:
-    using Role = QColor (*)(const QPalette &palette);
-
-    HintLabel(Role role, QWidget *parent);
-
-    //! Returns whether this changes what the label shows, and thus perhaps its height.
-    bool setHint(const QString &text);
 };
 
 } // namespace Halvane::Corvex::Designer

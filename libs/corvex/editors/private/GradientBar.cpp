@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editors/private/GradientBar.h"
 
+#include "corvex/common/LocalizationHelper.h"
+#include "corvex/values/text/ReadableText.h"
+#include "corvex/values/text/ValueConversion.h"
+#include "corvex/widgets/AccessibleValue.h"
 #include "corvex/widgets/ColorSwatch.h"
 #include "corvex/widgets/Theme.h"
 
@@ -11,7 +15,11 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Designer {
+
+using Common::LocalizationHelper;
 
 namespace {
 
@@ -33,6 +41,7 @@ GradientBar::GradientBar(QWidget *parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    refresh();
 }
 
 QSize GradientBar::sizeHint() const
@@ -101,20 +110,34 @@ void GradientBar::setStops(const QGradientStops &stops)
     m_stops = stops;
     std::ranges::stable_sort(m_stops, {}, &QGradientStop::first);
     m_selected = stops.isEmpty() ? -1 : std::clamp(m_selected, 0, int(stops.size()) - 1);
+    refresh();
+}
+
+void GradientBar::refresh()
+{
+    QString words = m_text;
+    if (m_selected >= 0) {
+        const auto &[position, color] = m_stops.at(m_selected);
+        words = LocalizationHelper::coreString(u"%1 of %2: %3 at %4 %"_s)
+                    .arg(QString::number(m_selected + 1), QString::number(m_stops.size()),
+                         ReadableText::fromColor(ValueConversion::toString(color)),
+                         QString::number(hundredths(position)));
+    }
+    AccessibleValue::set(this, words);
     update();
 }
 
 void GradientBar::setText(const QString &text)
 {
     m_text = text;
-    update();
+    refresh();
 }
 
 void GradientBar::select(int index)
 {
     if (index >= 0 && index < m_stops.size() && index != m_selected) {
         m_selected = index;
-        update();
+        refresh();
         emit selectionChanged();
     }
 }
@@ -125,7 +148,7 @@ void GradientBar::insert(const QGradientStop &stop)
     const auto place = std::ranges::lower_bound(m_stops, stop.first, {}, &QGradientStop::first);
     m_selected = int(place - m_stops.begin());
     m_stops.insert(m_selected, stop);
-    update();
+    refresh();
 }
 
 void GradientBar::add(double position)
@@ -134,7 +157,7 @@ void GradientBar::add(double position)
         return;
     }
     insert({position, colorAt(position)});
-    update();
+    refresh();
     emit selectionChanged();
     emit changed();
 }
@@ -156,7 +179,7 @@ bool GradientBar::moveSelected(double position)
         return false;
     }
     insert({position, m_stops.takeAt(m_selected).second});
-    update();
+    refresh();
     return true;
 }
 
@@ -226,7 +249,7 @@ void GradientBar::mouseMoveEvent(QMouseEvent *event)
     } else if (m_isAway || !moveSelected(position)) {
         return;
     }
-    update();
+    refresh();
     emit dragged();
 }
 
@@ -248,14 +271,15 @@ void GradientBar::mouseDoubleClickEvent(QMouseEvent *event)
 }
 
 //! Moves the selected stop, over others if they are in the way.
-void GradientBar::step(int hundredthsToMove)
+void GradientBar::moveSelectedBy(double hundredthsToMove)
 {
     if (m_selected < 0) {
         return;
     }
     const int direction = hundredthsToMove > 0 ? 1 : -1;
+    const int distance = direction * std::max(1, int(std::abs(hundredthsToMove)));
     const int start = hundredths(m_stops.at(m_selected).first);
-    for (int target = std::clamp(start + hundredthsToMove, 0, hundred);
+    for (int target = std::clamp(start + distance, 0, hundred);
          target >= 0 && target <= hundred && target != start; target += direction) {
         if (moveSelected(target / double(hundred))) {
             emit stepped();
@@ -269,9 +293,9 @@ void GradientBar::keyPressEvent(QKeyEvent *event)
     const int size = event->modifiers() & Qt::ShiftModifier ? largeStep : 1;
     switch (event->key()) {
     case Qt::Key_Left:
-        return step(-size);
+        return moveSelectedBy(-size);
     case Qt::Key_Right:
-        return step(size);
+        return moveSelectedBy(size);
     case Qt::Key_Up:
         return select(m_selected - 1);
     case Qt::Key_Down:

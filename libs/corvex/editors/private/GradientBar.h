@@ -24,6 +24,8 @@ public:
     //! -1 without stops.
     int selected() const { return m_selected; }
     void setText(const QString &text);
+    //! To the next free place at least that far, with the signal of a step.
+    void moveSelectedBy(double hundredths);
 
     QSize sizeHint() const override;
 
@@ -56,11 +58,11 @@ private:
     int stopAt(const QPointF &point) const;
     QColor colorAt(double position) const;
     void select(int index);
+    void refresh();
     void insert(const QGradientStop &stop);
     void add(double position);
     void removeSelected();
     bool moveSelected(double position);
-    void step(int hundredths);
 
     QGradientStops m_stops;
     QString m_text;

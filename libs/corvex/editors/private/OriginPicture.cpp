@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editors/private/OriginPicture.h"
 
+#include "corvex/widgets/AccessibleValue.h"
 #include "corvex/widgets/Theme.h"
 
 #include <QKeyEvent>
@@ -29,6 +30,7 @@ OriginPicture::OriginPicture(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setCursor(Qt::PointingHandCursor);
+    AccessibleValue::set(this, {});
 }
 
 void OriginPicture::setPoint(int point)

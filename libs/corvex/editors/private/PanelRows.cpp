@@ -17,9 +17,10 @@ constexpr int spareRows = 2;
 
 } // namespace
 
-PanelRows::PanelRows(PropertySheet &sheet, QWidget *parent)
+PanelRows::PanelRows(PropertySheet &sheet, EditorRequests &requests, QWidget *parent)
     : QWidget(parent)
     , m_sheet(sheet)
+    , m_requests(requests)
 {
     connect(&sheet, &PropertySheet::modelReset, this, &PanelRows::rebuild);
     connect(&sheet, &PropertySheet::rowsInserted, this, &PanelRows::rebuild);
@@ -136,6 +137,7 @@ PanelRow *PanelRows::rowFor(const Line &line)
     if (!row) {
         const QString id = line.id;
         row = new PanelRow(m_sheet, m_sheet.row(m_sheet.rowOf(id)), this);
+        row->editor()->setRequests(&m_requests);
         connect(row, &PanelRow::heightChanged, this, [this, row = row, id] {
             const auto changed = std::ranges::find(m_lines, id, &Line::id);
             if (changed != m_lines.end()) {

@@ -11,6 +11,7 @@
 
 namespace Halvane::Corvex::Designer {
 
+class EditorRequests;
 class PanelHeader;
 class PanelRow;
 class PropertyEditor;
@@ -22,8 +23,8 @@ class PanelRows : public QWidget
     Q_OBJECT
 
 public:
-    //! The sheet must outlive the rows.
-    explicit PanelRows(PropertySheet &sheet, QWidget *parent = nullptr);
+    //! Sheet and requests must outlive the rows.
+    PanelRows(PropertySheet &sheet, EditorRequests &requests, QWidget *parent = nullptr);
     ~PanelRows() override;
 
     void setFilter(const QString &text);
@@ -63,6 +64,7 @@ private:
     int estimate() const;
 
     PropertySheet &m_sheet;
+    EditorRequests &m_requests;
     std::vector<Line> m_lines;
     QHash<QString, PanelRow *> m_rows; //!< by id; also rows that are not shown now, for the next selection
     QHash<QString, PanelHeader *> m_headers;

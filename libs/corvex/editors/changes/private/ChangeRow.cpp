@@ -62,10 +62,10 @@ ChangeRow::ChangeRow(const SharedProperty &property, ChangeLines::Form form, QWi
 
 void ChangeRow::createNames(QBoxLayout *layout)
 {
-    const auto addName = [&](auto names) {
+    const auto addName = [&](int share, auto names) {
         auto *line = new NameLine(names, this);
         makeColumn(line);
-        layout->addWidget(line, 3, Qt::AlignTop);
+        layout->addWidget(line, share, Qt::AlignTop);
         m_fields.append(line);
         connect(line, &KdLineEdit::edited, this, &ChangeRow::edited);
         connect(line, &KdLineEdit::restored, this, &ChangeRow::restored);
@@ -75,15 +75,15 @@ void ChangeRow::createNames(QBoxLayout *layout)
         });
         return line;
     };
-    m_target = addName([this] { return elementNames(); });
+    m_target = addName(columns[0], [this] { return elementNames(); });
     m_target->setPlaceholderText(LocalizationHelper::coreString(u"element"_s));
-    m_name = addName([this] { return propertyNames(); });
+    m_name = addName(columns[1], [this] { return propertyNames(); });
     m_name->setPlaceholderText(LocalizationHelper::coreString(u"property"_s));
     m_valueHolder = new QWidget(this);
     makeColumn(m_valueHolder);
     auto *values = new QHBoxLayout(m_valueHolder);
     values->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_valueHolder, 4);
+    layout->addWidget(m_valueHolder, columns[2]);
 }
 
 ExpressionEdit *ChangeRow::addExpression(QBoxLayout *layout, const ExpressionPurpose &purpose)
@@ -195,6 +195,14 @@ void ChangeRow::setLine(const ChangeLine &line)
     }
     m_first->setShownText(line.target);
     m_second->setShownText(line.value);
+}
+
+void ChangeRow::setRequests(EditorRequests *requests)
+{
+    m_requests = requests;
+    if (m_value) {
+        m_value->setRequests(requests);
+    }
 }
 
 void ChangeRow::setNumber(const QString &title, int number)
@@ -314,6 +322,7 @@ void ChangeRow::showValue()
         return;
     }
     m_value = Editors::createFor(row, m_valueHolder);
+    m_value->setRequests(m_requests);
     m_value->setElsewhere(target, row);
     const auto take = [this] {
         if (takeValue()) {

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/editors/EditorRequests.h"
 #include "corvex/editors/changes/private/ChangeLines.h"
 
+#include <QPointer>
 #include <QWidget>
 
 class QBoxLayout;
@@ -21,9 +23,13 @@ class ChangeRow : public QWidget
     Q_OBJECT
 
 public:
+    //! The shares of the columns of a line with names: element, property, value.
+    static constexpr int columns[] = {3, 3, 4};
+
     ChangeRow(const SharedProperty &property, ChangeLines::Form form, QWidget *parent);
 
     void setLine(const ChangeLine &line);
+    void setRequests(EditorRequests *requests);
     //! What has been completed in the fields.
     const ChangeLine &line() const { return m_line; }
     //! Completes what the user has typed, without a signal.
@@ -69,6 +75,7 @@ private:
     KdLineEdit *m_target = nullptr;
     KdLineEdit *m_name = nullptr;
     QWidget *m_valueHolder = nullptr;
+    QPointer<EditorRequests> m_requests;
     PropertyEditor *m_value = nullptr; //!< null while the property is unknown
     KdLineEdit *m_text = nullptr;      //!< of the value of an unknown property
 };

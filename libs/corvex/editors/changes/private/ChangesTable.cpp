@@ -7,6 +7,8 @@
 #include "corvex/widgets/IconSet.h"
 #include "corvex/widgets/Theme.h"
 
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -36,11 +38,13 @@ QList<ChangeLine> sorted(QList<ChangeLine> lines)
 ChangesTable::ChangesTable(QWidget *parent)
     : QWidget(parent)
     , m_layout(new QVBoxLayout(this))
+    , m_headings(createHeadings())
     , m_add(new QPushButton(this))
     , m_more(new QPushButton(this))
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(Theme::gap);
+    m_layout->addWidget(m_headings);
     for (QPushButton *button : {m_add, m_more}) {
         button->setAutoDefault(false);
         button->setFixedHeight(Theme::fieldHeight(this));
@@ -52,6 +56,32 @@ ChangesTable::ChangesTable(QWidget *parent)
     connect(m_more, &QPushButton::clicked, this, [this] { addRows(m_rest.size()); });
     m_more->hide();
     setFocusProxy(m_add);
+}
+
+//! The titles of the columns of lines with names. Expressions have words between them instead.
+QWidget *ChangesTable::createHeadings()
+{
+    auto *headings = new QWidget(this);
+    auto *layout = new QHBoxLayout(headings);
+    layout->setContentsMargins(0, 0, Theme::fieldHeight(this) + Theme::gap, 0);
+    layout->setSpacing(Theme::gap);
+    size_t column = 0;
+    for (const QString &title : {u"Element"_s, u"Property"_s, u"Value"_s}) {
+        auto *label = new QLabel(LocalizationHelper::coreString(title), headings);
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        Theme::setTextColor(label, &Theme::muted);
+        layout->addWidget(label, ChangeRow::columns[column++]);
+    }
+    headings->hide();
+    return headings;
+}
+
+void ChangesTable::setRequests(EditorRequests *requests)
+{
+    m_requests = requests;
+    for (ChangeRow *row : std::as_const(m_rows)) {
+        row->setRequests(requests);
+    }
 }
 
 void ChangesTable::showLines(const SharedProperty &property, const QString &title,
@@ -105,9 +135,10 @@ ChangeRow *ChangesTable::addRow(const ChangeLine &line)
 {
     auto *row = new ChangeRow(m_property, m_form, this);
     m_rows.append(row);
+    row->setRequests(m_requests);
     row->setNumber(m_title, int(m_rows.size()));
     row->setLine(line);
-    m_layout->insertWidget(int(m_rows.size() - 1), row);
+    m_layout->insertWidget(int(m_rows.size()), row);
     row->show();
     connect(row, &ChangeRow::edited, this, [this] {
         emit edited();
@@ -143,6 +174,8 @@ void ChangesTable::number()
     for (qsizetype i = 0; i < m_rows.size(); ++i) {
         m_rows.at(i)->setNumber(m_title, int(i + 1));
     }
+    const bool hasNames = m_form == ChangeLines::Form::States || m_form == ChangeLines::Form::Changes;
+    m_headings->setVisible(hasNames && !m_rows.isEmpty());
 }
 
 QList<ChangeLine> ChangesTable::lines() const
@@ -184,6 +217,7 @@ void ChangesTable::addLine()
         line.target = typed->value().objectId();
     }
     ChangeRow *row = addRow(line);
+    number();
     emit heightChanged();
     row->beginEditing();
 }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/editors/EditorRequests.h"
 #include "corvex/editors/changes/private/ChangeLines.h"
 
+#include <QPointer>
 #include <QWidget>
 
 class QPushButton;
@@ -24,6 +26,8 @@ public:
     //! Shows the value of \a property, whose title is \a title. Fields that show the same lines already are
     //! kept, with lines that are not complete.
     void showLines(const SharedProperty &property, const QString &title, const QList<ChangeLine> &lines);
+    //! For the editors of the values; may be null.
+    void setRequests(EditorRequests *requests);
     //! What has been completed in the fields, with lines that lack a part.
     QList<ChangeLine> lines() const;
     //! Completes what the user has typed, without a signal.
@@ -50,13 +54,16 @@ private:
     void remove(ChangeRow *row);
     void clear();
     void number();
+    QWidget *createHeadings();
 
     SharedProperty m_property;
     ChangeLines::Form m_form = ChangeLines::Form::States;
     QString m_title;
     QList<ChangeRow *> m_rows;
     QList<ChangeLine> m_rest; //!< lines without fields
+    QPointer<EditorRequests> m_requests;
     QVBoxLayout *m_layout;
+    QWidget *m_headings;
     QPushButton *m_add;
     QPushButton *m_more;
 };
