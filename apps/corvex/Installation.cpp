@@ -105,8 +105,10 @@ ConfigurationContainer *Installation::loadModels(const Call &call)
         call.terminal().complain(message);
     }
     if (!loaded || HardwareConfigurations::instance()->installed()->configurations().isEmpty()) {
-        call.failed(u"\"%1/Configurations\" contains no device models. Install the program again, or name "
-                    "another folder with --configurations."_s.arg(home));
+        call.failed(
+            u"\"%1/Configurations\" contains no device models. Install the program again, or name "
+            "another folder with --configurations; it has a folder \"Configurations\" with one folder "
+            "for each model."_s.arg(home));
         return nullptr;
     }
     return HardwareConfigurations::instance()->installed();

@@ -72,7 +72,8 @@ constexpr ClassRow classes[] = {
      .make = &makeObject<DataLogging>,
      .baseName = "dataLogging",
      .displayName = "Data Logging",
-     .description = "Records the value of a log variable while the screen is shown."},
+     .description = "Records the value of a log variable while its screen is shown; the first sample is "
+                    "taken each time the screen appears, after the start delay of the log."},
     {.className = "DigitalInputOutput",
      .make = &makeObject<DigitalInputOutput>,
      .baseName = "digitalInputOutput",
@@ -98,7 +99,8 @@ constexpr ClassRow classes[] = {
      .make = &makeObject<LogicBuilder>,
      .baseName = "logicBuilder",
      .displayName = "Logic Builder",
-     .description = "Makes assignments while conditions are true."},
+     .description = "Makes assignments while conditions are true and its screen is shown. Rules have no "
+                    "delays; the controller that writes the variables provides them."},
     {.className = "ModbusCommands",
      .make = &makeObject<ModbusCommands>,
      .baseName = "modbusCommands",
@@ -109,12 +111,14 @@ constexpr ClassRow classes[] = {
      .baseName = "numberSpinner",
      .displayName = "Number Spinner",
      .description =
-         "Steps a number variable up and down when the operator touches one of two visual elements."},
+         "Lets the operator enter a number: touching one of two visual elements steps a number variable up "
+         "or down."},
     {.className = "PropertyTrigger",
      .make = &makeObject<PropertyTrigger>,
      .baseName = "propertyTrigger",
      .displayName = "Property Trigger",
-     .description = "Runs actions when a value has changed and a condition is true."},
+     .description = "Runs actions when a value has changed and a condition is true, while its screen is "
+                    "shown."},
     {.className = "PwmOutput",
      .make = &makeObject<PwmOutput>,
      .baseName = "pwmOutput",

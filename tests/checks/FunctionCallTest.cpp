@@ -49,9 +49,14 @@ TEST(FunctionCall, ArgumentsAreCountedByTheParenthesesAroundThem)
 
 TEST(FunctionCall, EveryFunctionOfExpressionsHasAnExampleWithItsValue)
 {
-    class NoNames : public ExpressionNames
+    class Names : public ExpressionNames
     {
-        std::optional<GeneralDataInfo> find(const QString &) const override { return {}; }
+        std::optional<GeneralDataInfo> find(const QString &path) const override
+        {
+            using Info = GeneralDataInfo;
+            return path == "history"_L1 ? std::optional(Info(Info::VariableValue, Info::LogData, path))
+                                        : std::nullopt;
+        }
     };
     QJSEngine engine;
     QStringList names;
@@ -62,9 +67,9 @@ TEST(FunctionCall, EveryFunctionOfExpressionsHasAnExampleWithItsValue)
         const ExpressionPurpose purpose =
             isText ? ExpressionPurpose{GeneralDataList::StringExpression, GeneralDataInfo::StringOutput}
                    : ExpressionPurpose{GeneralDataList::MathExpression, GeneralDataInfo::NumberOutput};
-        const ExpressionText::Reading reading = ExpressionText::read(text, purpose, NoNames());
+        const ExpressionText::Reading reading = ExpressionText::read(text, purpose, Names());
         EXPECT_FALSE(reading.error) << qPrintable(text + u": "_s + reading.error->message);
-        EXPECT_EQ(ExpressionText::print(reading.terms, purpose, NoNames()), text);
+        EXPECT_EQ(ExpressionText::print(reading.terms, purpose, Names()), text);
         const QString code = reading.terms.toQmlString(purpose.output, purpose.kind);
         const QString value = QString::fromUtf16(function.value);
         EXPECT_TRUE(value.isEmpty() || code.contains(u"qmlViewer"_s)

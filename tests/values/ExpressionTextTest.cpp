@@ -18,6 +18,10 @@ using List = GeneralDataList;
 class Names : public ExpressionNames
 {
 public:
+    Traits traitsOf(const QString &path) const override
+    {
+        return {path == "lamp.opacity"_L1 ? 1.0 : 0, path == "lamp.id"_L1};
+    }
     std::optional<Info> find(const QString &path) const override
     {
         static const QHash<QString, Info::DataType> types{
@@ -25,6 +29,7 @@ public:
             {u"and"_s, Info::BooleanData},         {u"history"_s, Info::LogData},
             {u"title"_s, Info::StringData},        {u"lamp.visible"_s, Info::BooleanData},
             {u"Main.lamp.x"_s, Info::IntegerData}, {u"lamp.color"_s, Info::ColorData},
+            {u"lamp.opacity"_s, Info::NumberData}, {u"lamp.id"_s, Info::StringData},
         };
         const auto type = types.constFind(path);
         return type == types.cend()
@@ -101,6 +106,15 @@ TEST(ExpressionTextTest, ReadsWhatPeopleWriteAndPrintsItBack)
         {List::BoolExpression, Info::RawOutput, u"lamp.color == #1D3040 or #80FF0000 != lamp.color",
          u"<0308lamp.color><0101==><0207IzFkMzA0MA==><0101||><0207IzgwZmYwMDAw><0101!=><0308lamp.color>",
          u"lamp.color == \"#1d3040\" or \"#80ff0000\" != lamp.color"},
+        {List::BoolExpression, Info::RawOutput, u"(lamp.color) != (\"red\")",
+         u"<0101(><0308lamp.color><0101)><0101!=><0101(><0207I2ZmMDAwMA==><0101)>",
+         u"(lamp.color) != (\"#ff0000\")"},
+        // In a text, constants are texts and booleans are 0 and 1.
+        {List::StringExpression, Info::StringOutput, u"(alarm) != (true) and not level and not alarm ? 1 : 2",
+         u"<0101(><0403alarm><0101)><0101!=><0101(><02041><0101)><0101&&><0406level><0101==><02040><0101&&>"
+         "<0403alarm><0101==><02030><0101?><02041><0101:><02042>",
+         u"(alarm) != (1) and level == 0 and alarm == false ? 1 : 2"},
+        {List::StringExpression, Info::StringOutput, u"level + \"\" * 2 + 2 * \"3\"", nullptr, nullptr},
         {List::BoolExpression, Info::RawOutput, u"1", u"02041", nullptr},
         {List::MathExpression, Info::NumberOutput, u"gone::number + 'a b'::log",
          u"<0406gone><0101+><040Aa b>", nullptr},
@@ -155,7 +169,7 @@ TEST(ExpressionTextTest, ErrorsHaveAPlaceAndAReason)
         {u"2 == not alarm", 5, "parentheses"},
         {u"level + not", 8, "parentheses"},
         {u"random(2)", 7, "no arguments"},
-        {u"trim(title)", 0, "cannot be used"},
+        {u"trim(title)", 0, "only be used in text expressions"},
         {u"level > 2 and !alarm", 14, "Write \"not\""},
         {u"0 < level < 100", 10, "0 < level and level < 100"},
         {u"0 == level == 100", 11, "two values"},
@@ -171,6 +185,55 @@ TEST(ExpressionTextTest, ErrorsHaveAPlaceAndAReason)
         EXPECT_EQ(reading.error->position, position) << qPrintable(given);
         EXPECT_TRUE(reading.error->message.contains(QString::fromUtf8(message)))
             << qPrintable(given) << ": " << qPrintable(reading.error->message);
+    }
+}
+
+TEST(ExpressionTextTest, OperationsThatTheDeviceUnderstandsDifferentlyAreRefused)
+{
+    struct Case
+    {
+        List::InfoType kind;
+        const char16_t *text;
+        const char *message; //!< a part of it; null if the text is accepted
+    };
+    using enum List::InfoType;
+    const Case cases[] = {
+        {StringExpression, u"concat(level === 3)", "Write \"==\""},
+        {StringExpression, u"concat(alarm !== true)", "Write \"!=\""},
+        {StringExpression, u"alarm === alarm ? 1 : 2", "Write \"==\""},
+        {StringExpression, u"concat(title === \"a\", title == true)", nullptr},
+        {StringExpression, u"concat(level == true)", "1 for true"},
+        {StringExpression, u"concat(alarm == \"true\")", "without quotes"},
+        {StringExpression, u"concat(false or alarm)", "counts as true"},
+        {StringExpression, u"concat(title > 5)", "mode - 0"},
+        {StringExpression, u"concat((alarm ? 5 : 6) > level, level > 5, title - 0 > 5)", nullptr},
+        {StringExpression, u"concat((alarm ? 5 : 6) > 10)", "mode - 0"},
+        {StringExpression, u"level * \"high\"", "not a number"},
+        {MathExpression, u"title == \"open\" and not alarm ? 5 : 6", "cannot use texts"},
+        {MathExpression, u"(title == title) * 2", "cannot use texts"},
+        {MathExpression, u"level + \"abc\"", "cannot use texts"},
+        {MathExpression, u"(title == 5) + (title > \"5\")", nullptr},
+        {MathExpression, u"(level == true) * 2", "level == 1"},
+        {BoolExpression, u"level > \"high\"", "a number with a text"},
+        {BoolExpression, u"level == true", "level == 1"},
+        {BoolExpression, u"(alarm) == (\"true\")", "without quotes"},
+        {BoolExpression, u"alarm == title", "a boolean value with a text"},
+        {BoolExpression, u"(title == 2) == alarm or title == \"2\" and level == \"2\" or not level", nullptr},
+        {BoolExpression, u"alarm == 2", "same type"},
+        {BoolExpression, u"alarm === 1", "Write \"==\""},
+        {BoolExpression, u"(lamp.color) === #FF0000", "Write \"==\""},
+        {BoolExpression, u"level == #FF0000", "a color with a number"},
+        {BoolExpression, u"50 <= (lamp.opacity) and alarm", "Write 0.5 for 50 %"},
+        {BoolExpression, u"lamp.opacity == 1 and level > 50", nullptr},
+        {AssignExpression, u"level = 50; lamp.opacity = 50", "Write 0.5 for 50 %"},
+        {AssignExpression, u"lamp.id = \"a\"", "only be read"},
+    };
+    for (const auto &[kind, text, message] : cases) {
+        const auto error = ExpressionText::read(QString::fromUtf16(text), {kind}, names).error;
+        EXPECT_EQ(error.has_value(), message != nullptr)
+            << qPrintable(QString::fromUtf16(text)) << (error ? qPrintable(error->message) : "");
+        EXPECT_TRUE(!message || (error && error->message.contains(QLatin1StringView(message))))
+            << qPrintable(QString::fromUtf16(text)) << ": " << (error ? qPrintable(error->message) : "");
     }
 }
 

@@ -42,7 +42,8 @@ QList<QCommandLineOption> Call::optionsOf(const Verb &verb)
     if (verb.opensProjects) {
         options.append({
             QCommandLineOption(u"plugins"_s, u"Load the element plug-ins from DIR."_s, u"DIR"_s),
-            QCommandLineOption(u"configurations"_s, u"Read the device models from DIR."_s, u"DIR"_s),
+            QCommandLineOption(u"configurations"_s,
+                               u"Read the device models from the folders in DIR/Configurations."_s, u"DIR"_s),
         });
     }
     options.append(QCommandLineOption({u"h"_s, u"help"_s}, u"Show this page."_s));

@@ -85,7 +85,7 @@ ExitCode EditReport::finish(EditScript &script, const ProjectFile &file, const C
     }
     const QStringList doubts = script.invalidValues();
     for (const QString &doubt : call.asJson() ? QStringList() : doubts) {
-        call.terminal().printError(Terminal::oneLine(u"warning: "_s + doubt));
+        call.terminal().printError(Terminal::readableLine(u"warning: "_s + doubt));
     }
     const bool isTrial = call.isSet(u"dry-run"_s);
     const ExitCode code = isTrial || edits.isEmpty() ? ExitCode::Done : file.save(call);

@@ -58,7 +58,7 @@ void Terminal::complain(QStringView text)
     if (m_json) {
         m_errors.append(message);
     }
-    writeError(u"corvex: %1"_s.arg(oneLine(message)));
+    writeError(u"corvex: %1"_s.arg(readableLine(message)));
 }
 
 void Terminal::printError(QStringView text)

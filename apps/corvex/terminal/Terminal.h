@@ -54,7 +54,7 @@ public:
 
     //! The text on one line: control characters, such as line endings and tabs, as C escapes ("\n").
     static QString oneLine(QStringView text);
-    //! The same for a text with readable values, whose backslashes already begin escapes.
+    //! The same for a message, and for readable values, whose backslashes already begin escapes.
     static QString readableLine(QStringView text);
 
 private:

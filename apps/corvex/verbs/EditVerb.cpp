@@ -40,7 +40,7 @@ ExitCode edit(EditScript &script, InputFile &lines, const Call &call)
                                          : u"The script is not in UTF-8. Save it in UTF-8."_s;
             ++failures;
             call.terminal().printError(
-                Terminal::oneLine(u"%1:%2: %3"_s.arg(lines.path(), QString::number(number), error)));
+                Terminal::readableLine(u"%1:%2: %3"_s.arg(lines.path(), QString::number(number), error)));
         }
     }
     if (Interruption::isWanted()) {

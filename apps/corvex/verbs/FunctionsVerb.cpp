@@ -28,6 +28,7 @@ void printJson(const QList<ExpressionFunction> &functions, const Call &call)
         json.member("arguments"_L1, QString(function.arguments));
         json.member("result"_L1, QString(function.result));
         json.member("description"_L1, function.description());
+        json.member("usableIn"_L1, function.usableIn());
         json.member("example"_L1, QString::fromUtf16(function.example));
         json.member("value"_L1, QString::fromUtf16(function.value));
         json.endObject();
@@ -42,6 +43,7 @@ void printOne(const ExpressionFunction &function, Terminal &terminal)
     const QString value = QString::fromUtf16(function.value);
     terminal.print(function.signature());
     terminal.print(function.description());
+    terminal.print(u"Usable in %1."_s.arg(function.usableIn()));
     terminal.print(value.isEmpty() ? u"Example: %1"_s.arg(example)
                                    : u"Example: %1 is %2"_s.arg(example, value));
 }
@@ -62,7 +64,12 @@ ExitCode run(const Call &call)
     } else if (chosen) {
         printOne(*chosen, call.terminal());
     } else {
+        QString kinds;
         for (const ExpressionFunction &function : ExpressionFunction::all()) {
+            if (const QString own = function.usableIn(); own != kinds) {
+                kinds = own;
+                call.terminal().print(u"In %1:"_s.arg(kinds));
+            }
             call.terminal().print(u"%1  %2"_s.arg(function.signature(), -52).arg(function.description()));
         }
     }

@@ -90,6 +90,9 @@ ExitCode create(const QString &path, const Configuration &model, const Call &cal
     const QString file = u"%1/%2"_s.arg(QDir::cleanPath(path), project->createFileName());
     if (!call.asJson()) {
         call.terminal().print(file);
+        call.terminal().printError(
+            u"The screen \"%1\" is still empty. Add an element: echo \"add Text %1 title\" | corvex edit %2"_s
+                .arg(screenName, file));
         return ExitCode::Done;
     }
     JsonWriter &json = call.json();

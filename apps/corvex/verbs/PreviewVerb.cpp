@@ -132,7 +132,8 @@ and so on. A script has one command per line:
     show Settings               show a screen
     press Settings.remote       touch an element and release it
     hold NAME, release          touch an element; release it later
-    set wellLevel 40            a variable, or a property: Overview.levelInput.value
+    set wellLevel 40            a variable, or a property, such as the value of an input of the
+                                device: Overview.levelInput.value
     wait 5000                   advance the clock by milliseconds, without a delay
     expect Main.label1.text "40"
     expect screen Settings

@@ -2,6 +2,7 @@
 #include "corvex/checks/ProblemFix.h"
 
 #include "corvex/checks/private/FilledText.h"
+#include "corvex/checks/private/rules/ExpressionPart.h"
 #include "corvex/checks/private/rules/StateSetting.h"
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/TextHelper.h"
@@ -18,8 +19,10 @@
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/DeviceChannels.h"
 #include "corvex/project/Project.h"
+#include "corvex/project/ProjectNames.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
+#include "corvex/values/private/ExpressionPercent.h"
 #include "corvex/values/records/ListInfo.h"
 #include "corvex/variables/BACnetObject.h"
 
@@ -142,6 +145,24 @@ MaybePlan clampedSetting(const Place &place)
         }
     }
     return {};
+}
+
+//! The expression with the fraction that a percentage means.
+MaybePlan divided(const Place &place)
+{
+    const ProjectNames names(*place.object.project(), place.object.screen());
+    QStringList words;
+    const QString text = ExpressionPart::changed(*place.property, [&](ExpressionPart &part) {
+        for (const ExpressionPercent &percent : ExpressionPercent::of(part.terms, part.purpose, names)) {
+            const QStringList own = percent.words(part.terms);
+            const Problem same = Problem::at(*place.property, ProblemCode::ExpressionPercent, own);
+            if (same.message == place.problem.message) {
+                words = {own.at(2), own.at(1)};
+                part.terms.replace(percent.term, percent.fraction);
+            }
+        }
+    });
+    return words.isEmpty() ? std::nullopt : setting(place.property, text, words);
 }
 
 //! The value that the property has in a new object.
@@ -327,6 +348,7 @@ constexpr Row rows[] = {
     {ProblemCode::PasswordEmpty, "Disable the password", switchedOff},
     {ProblemCode::BACnetTaken, "Set the identifier to \"%1\"", otherInstance},
     {ProblemCode::LogUnfed, "Delete the log", deleted},
+    {ProblemCode::ExpressionPercent, respellText, divided},
     {ProblemCode::NumberUnreadable, resetText, reset},
     {ProblemCode::ReferenceElement, linkText, relinked},
     {ProblemCode::ReferenceElement, respellText, respelled},

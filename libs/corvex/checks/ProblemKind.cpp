@@ -117,6 +117,18 @@ constexpr ProblemKind kinds[] = {
      "A color of an element is compared with something else than a text such as \"#1d3040\". In a comparison "
      "with \"==\", the color becomes such a text; \"===\" never finds it equal.",
      "Use \"==\" and a text with lower-case letters, or compare the value that decides the color."},
+    {ProblemCode::ExpressionMeaning, Warning, "expression.meaning", "At \"%1\": %2",
+     "An operation combines values of types that do not fit, so its result is not what the expression says. "
+     "An expression for a text has all constants as texts, one for a number has all texts as numbers.",
+     "Follow the advice in the message. \"corvex expr\" prints the code of an expression."},
+    {ProblemCode::ExpressionPercent, Warning, "expression.percent",
+     "On the device, \"%1\" is a fraction of 1, not a percentage. Write %2 for %3 %.",
+     "Opacity and scale are percentages in the project and fractions on the device. Expressions, rules and "
+     "assignments use the value on the device.",
+     "Divide the constant by 100."},
+    {ProblemCode::ExpressionTarget, Warning, "expression.target", "\"%1\" can only be read.",
+     "An assignment sets a property that the device does not change.",
+     "Assign another property or a variable."},
     {ProblemCode::NumberUnreadable, Error, "number.unreadable",
      "\"%1\" is not a number that the device supports.",
      "A number variable contains a text. The device gets no value for it.",

@@ -119,12 +119,16 @@ constexpr ClassRow classes[] = {
      .make = &makeObject<LogVariable>,
      .baseName = "logVariable",
      .displayName = "Log Variable",
-     .description = "A number that is recorded at regular intervals."},
+     .description = "A number that is recorded at regular intervals. A DataLogging element on a screen feeds "
+                    "it while the screen is shown."},
     {.className = "MappingVariable",
      .make = &makeObject<MappingVariable>,
      .baseName = "mappingVariable",
      .displayName = "Modbus Map Variable",
-     .description = "The Modbus registers that the panel offers, with the variable or property behind each."},
+     .description = "The Modbus registers that the panel offers, with the variable or property behind each. "
+                    "The panel is "
+                    "the server; a controller reads and writes the registers. A register holds a whole "
+                    "number of 16 bits, without scaling."},
     {.className = "NumberVariable",
      .make = &makeObject<NumberVariable>,
      .baseName = "numberVariable",

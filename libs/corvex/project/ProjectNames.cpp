@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Designer {
 
 namespace {
@@ -69,6 +71,22 @@ std::optional<Info> ProjectNames::find(const QString &path) const
     // On its own screen, the name of an element identifies it.
     const QString name = m_screen ? owner->getIdName() + u'.' + id : path;
     return Info(Info::ObjectValue, termType(property->type()), name);
+}
+
+ExpressionNames::Traits ProjectNames::traitsOf(const QString &path) const
+{
+    const QString id = ObjectPath::lastSegment(path).toString();
+    const Element *owner = id == path ? nullptr : element(path.chopped(id.size() + 1));
+    if (!owner) {
+        return {};
+    }
+    const RuntimePropertyList properties = owner->runtimeProperties();
+    const auto property = std::ranges::find(properties, id, &RuntimeProperty::property);
+    const SharedProperty stored = owner->getProperty(id);
+    const QVariantMap parameters = stored ? stored->editorParameters() : QVariantMap();
+    const bool isPercentage = parameters.value(u"isPercentage"_s).toBool();
+    return {isPercentage ? parameters.value(u"maximum"_s).toDouble() / 100 : 0.0,
+            property != properties.end() && property->accessMode() == EnumHelper::ReadOnly};
 }
 
 QStringList ProjectNames::candidates(const QString &path) const

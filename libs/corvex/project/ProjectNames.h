@@ -27,6 +27,7 @@ public:
     { }
 
     std::optional<GeneralDataInfo> find(const QString &path) const override;
+    Traits traitsOf(const QString &path) const override;
     //! What an unknown \a path can mean, for a suggestion: properties of the element, if the path begins with
     //! one, otherwise variables and elements.
     QStringList candidates(const QString &path) const;

@@ -90,6 +90,7 @@ bool Screen::initializeProperties()
             .parameter("minimum", -500)
             .parameter("maximum", 500)
             .parameter("showSlider", true)
+            .parameter("isPercentage", true)
             .qml(&percentToQml)
             .allowInvalid(),
         row<ObjectListProperty>("elements", "Elements", OrderRule::KindOrder)

@@ -231,7 +231,10 @@ TEST(CheckVerb, ChecksTheDeviceAndTheFieldbuses)
             + Sandbox::object("Rectangle", "frame",
                               Sandbox::value("opacity", "300") + Sandbox::value("radius", "-5"))
             + Sandbox::object("Button", "button",
-                              box + Sandbox::value("pressed", "<0406speed><0407word><0406speed><0207MTI=>"))
+                              box
+                                  + Sandbox::value("pressed",
+                                                   "<0406speed><0407word><0406speed><0207MTI=>"
+                                                   "<0306box1.opacity><020432><0307box1.id><0407word>"))
             + Sandbox::object("Text", "shown",
                               Sandbox::value("visibleBinding", "0407word")
                                   + Sandbox::value("xBinding", "0406map")
@@ -239,6 +242,8 @@ TEST(CheckVerb, ChecksTheDeviceAndTheFieldbuses)
                                   + Sandbox::value("rotationBinding", "<0502getValueAt><0101)>"))
             + Sandbox::object("Text", "compared",
                               Sandbox::value("visibleBinding", "<0101(><0407word><0101)><0101==><0207YQ==>"))
+            + Sandbox::object("Text", "meant",
+                              Sandbox::value("textBinding", "<0502concat><0406speed><0101==><02031><0101)>"))
             + Sandbox::object("Text", "dyed",
                               Sandbox::value("visibleBinding", "<0308box1.color><0101==><0208FF1D3040>"))
             + Sandbox::object("Text", "dyedWell",
@@ -273,11 +278,14 @@ error channel.missing Main.net.channel
 error bacnet.taken other.objectID
 warning can.overlap oil.parameterMap
 warning modbus.type map.coilMap
+warning expression.percent Main.button.pressed
+warning expression.target Main.button.pressed
 warning expression.type Main.button.pressed
 warning expression.fieldbus Main.shown.xBinding
 warning expression.log Main.shown.yBinding
 warning expression.arguments Main.shown.rotationBinding
 warning expression.condition Main.shown.visibleBinding
+warning expression.meaning Main.meant.textBinding
 warning expression.color Main.dyed.visibleBinding
 warning log.unfed history.)"_s);
     EXPECT_EQ(sandbox.run({u"build"_s, pump, u"-o"_s, u"out"_s}).code, 1);

@@ -83,6 +83,55 @@ TEST_F(PreviewVerb, ReportsExpectedAndActualValues)
               u"cut:1: The line contains a NUL character.\n"_s);
 }
 
+//! The panel shows what people mean, in expressions of all kinds.
+TEST_F(PreviewVerb, EvaluatesOperationsAsTheyAreWritten)
+{
+    const struct
+    {
+        const char *binding;
+        QByteArray expression;
+        const char *first;  //!< with on false, level 5 and mode "open"
+        const char *second; //!< with on true, level 0 and mode "shut"
+    } cases[] = {
+        {"text", "not on and not ack ? 1 : 2", "1", "2"},
+        {"text", "on == true and level < 3 and not ack ? \"T\" : \"F\"", "F", "T"},
+        {"text", "on != ack ? \"T\" : \"F\"", "F", "T"},
+        {"text", "(on) != (true) and mode == \"open\" and not ack ? \"T\" : \"F\"", "T", "F"},
+        {"text", "not level and not ack ? \"T\" : \"F\"", "F", "T"},
+        {"text", "not (level > 3) and mode != name and not ack ? \"T\" : \"F\"", "F", "T"},
+        {"text", "concat(not on, true == on)", "truefalse", "falsetrue"},
+        {"text", "concat(level == 5, mode == name)", "truetrue", "falsefalse"},
+        {"color", "not on and not ack ? \"green\" : (\"red\")", "#FF008000", "#FFFF0000"},
+        {"visible", "not on and not ack", "true", "false"},
+        {"visible", "on == true and on != ack", "false", "true"},
+        {"visible", "mode == \"open\" and mode == name and (level) == (5)", "true", "false"},
+        {"visible", "title.color == #FF112233 and not ack", "true", "true"},
+        {"x", "not on and not ack ? 5 : 6", "5", "6"},
+        {"x", "(on == true) * 90 + (on != ack) * 5 + (not level) * 3 + (level == 5)", "1", "98"},
+    };
+    QByteArray edits = "add BooleanVariable Pump on\nadd BooleanVariable Pump ack\n"
+                       "add NumberVariable Pump level\nadd StringVariable Pump mode\n"
+                       "add StringVariable Pump name1\nset Main.title.color = #112233\n"
+                       "set name1.value = open\n";
+    QByteArray before = "set on false\nset level 5\nset mode open\n";
+    QByteArray after = "set on true\nset level 0\nset mode shut\n";
+    int number = 0;
+    for (const auto &[binding, expression, first, second] : cases) {
+        const QByteArray element = "Main.shown" + QByteArray::number(++number);
+        const QByteArray id = QByteArray(element).replace("Main.", "");
+        edits += "add Text Main " + id + "\nset " + element + '.' + binding
+                 + "Binding = " + QByteArray(expression).replace("name", "name1") + '\n';
+        before += "expect " + element + '.' + binding + ' ' + first + '\n';
+        after += "expect " + element + '.' + binding + ' ' + second + '\n';
+    }
+    sandbox.write(u"edits"_s, edits);
+    const ProgramRun edit = sandbox.run({u"edit"_s, pump, u"edits"_s});
+    ASSERT_EQ(edit.code, 0) << qPrintable(edit.error);
+    EXPECT_EQ(sandbox.run({u"check"_s, pump, u"--screens"_s}).out, QString());
+    sandbox.write(u"script"_s, before + after);
+    EXPECT_EQ(preview(pump, {u"--script"_s, u"script"_s}).out, QString());
+}
+
 TEST_F(PreviewVerb, InspectsTheScreensForCheck)
 {
     EXPECT_EQ(sandbox.run({u"check"_s, pump, u"--screens"_s}).code, 0);

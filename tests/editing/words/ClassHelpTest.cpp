@@ -110,11 +110,12 @@ QString referencePage()
         page += u"\n### Kind: %1\n\n%2\n"_s.arg(form.name(), form.explanation());
         page += u'\n' + code(form.edits());
     }
-    page += u"\n## Functions\n\n| Function | Result | Example | Its value |\n|---|---|---|---|\n"_s;
+    page +=
+        u"\n## Functions\n\n| Function | Result | Usable in | Example | Its value |\n|---|---|---|---|---|\n"_s;
     for (const ExpressionFunction &function : ExpressionFunction::all()) {
-        page += u"| `%1` | %2 | `%3` | %4 |\n"_s.arg(function.signature(), function.description(),
-                                                     QString::fromUtf16(function.example),
-                                                     inCode(QString::fromUtf16(function.value)));
+        page += u"| `%1` | %2 | %3 | `%4` | %5 |\n"_s.arg(
+            function.signature(), function.description(), function.usableIn(),
+            QString::fromUtf16(function.example), inCode(QString::fromUtf16(function.value)));
     }
     return page;
 }

@@ -129,6 +129,10 @@ PropertyHelp PropertyHelp::of(const DesignerProperty &property, const QString &p
     help.kind = form.name();
     help.takes = holdsObjects ? objectsIn(property) : property.acceptedForm();
     help.description = plainText(property.description());
+    if (property.editorParameter(u"isPercentage"_s).toBool()) {
+        help.description += Common::LocalizationHelper::coreString(
+            u" Expressions, rules and assignments use the value on the device, a fraction of 1: 0.5 is 50 %."_s);
+    }
     if (!holdsObjects && !propertyCast<IdentifierProperty>(&property)) {
         help.initialValue = ReadableValue::print(property, property.valueString(), project);
     }

@@ -158,7 +158,10 @@ constexpr ValueForm forms[] = {
      "set Main.lamp.rotation = 22.5"},
     {"rules", &areRules, nullptr, "when level > limit do alarm = true when level <= limit do alarm = false",
      "Each rule is `when`, a condition, `do`, and assignments that are separated by semicolons. Rules follow "
-     "one another without a separator.",
+     "one another without a separator. Conditions have no arithmetic and no functions; a helper "
+     "element with a number expression, such as `helper.x`, can provide a calculated value. A new value is a "
+     "single value, variable or property, no calculation. `lamp.opacity` and `lamp.scale` are fractions: 0.5 "
+     "is 50 %.",
      "set Main.logic.logicExpression = when level > limit do alarm = true; message = \"High\" when level <= "
      "limit do alarm = false"},
     {"names", &areNames, nullptr, "lamp | caption",
@@ -201,17 +204,23 @@ constexpr ValueForm forms[] = {
      "An expression that is true or false. The names of variables stand for their values; the property of an "
      "element is written as `lamp.visible`, or `Settings.lamp.visible` on another screen. Numbers are "
      "compared with `<`, `<=`, `>`, `>=`, `==` and `!=`; conditions are combined with `and`, `or`, `not` and "
-     "parentheses.",
+     "parentheses. A condition has no arithmetic and no functions. `lamp.opacity` and `lamp.scale` are "
+     "fractions: 0.5 is 50 %.",
      "set Main.lamp.visibleBinding = level > limit and not alarm"},
     {"number expression", &isExpression<GeneralDataList::MathExpression>, nullptr, "level * 2",
      "Numbers, variables and properties, combined with `+`, `-`, `*`, `/`, `%` and parentheses, and "
-     "functions such as `max(0, level)`, which \"corvex functions\" lists. `condition ? a : b` selects one "
-     "of two values by a boolean variable.",
+     "functions such as `max(0, level)`, which \"corvex functions\" lists. `alarm ? a : b` selects one "
+     "of two values by a boolean variable. Texts cannot be compared here. `lamp.opacity` and `lamp.scale` "
+     "are "
+     "fractions: 0.5 is 50 %.",
      "set Main.lamp.xBinding = max(0, 100 - level * 2)"},
     {"text expression", &isExpression<GeneralDataList::StringExpression>, nullptr,
      "concat(\"Level \", level)",
      "Texts in double quotes, variables and properties. `concat` joins texts and numbers; further functions "
-     "take texts apart. `condition ? a : b` selects one of two texts by a boolean variable.",
+     "take texts apart. `alarm ? a : b` selects one of two texts by a boolean variable. Calculations use "
+     "`+`, `-`, `*`, "
+     "`/` and `%`; the functions of numbers, such as `round`, cannot be used. A Text can show a number with "
+     "its properties `decimals`, `prefix` and `suffix`.",
      "set Main.caption.textBinding = concat(\"Level \", level, \" %\")\nset Main.caption.textBinding = alarm "
      "? \"High\" : \"Normal\""},
     {"color expression", &isExpression<GeneralDataList::GeneralExpression>, nullptr,
@@ -221,9 +230,12 @@ constexpr ValueForm forms[] = {
      "set Main.lamp.colorBinding = alarm ? \"red\" : \"#2E8B57\""},
     {"assignments", &isExpression<GeneralDataList::AssignExpression>, nullptr,
      "alarm = false; Main.lamp.visible = true",
-     "A variable or a property, `=`, and its new value, which is an expression of its type. Several "
-     "assignments are separated by semicolons. Properties of elements are written with the name of their "
-     "screen.",
+     "A variable or a property, `=`, and its new value: a single value, variable or property, no "
+     "calculation. "
+     "Several assignments are separated by semicolons. A CheckButton switches a boolean variable at each "
+     "touch; a NumberSpinner adds to a number variable. `lamp.opacity` and `lamp.scale` are fractions: 0.5 "
+     "is "
+     "50 %.",
      "set Main.button.pressed = alarm = false; Main.lamp.color = #2E8B57"},
     {"list of values", &isTermList, nullptr, "level, limit",
      "Numbers, texts in quotes, variables and properties, separated by commas. The property says what "

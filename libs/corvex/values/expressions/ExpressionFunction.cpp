@@ -2,6 +2,7 @@
 #include "corvex/values/expressions/ExpressionFunction.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/values/expressions/ExpressionKinds.h"
 
 #include <algorithm>
 
@@ -47,15 +48,15 @@ const QList<ExpressionFunction> &ExpressionFunction::all()
          u"The polynomial of x with these coefficients; the first one is the constant.", u"poly(2, 1, 0, 3)",
          u"13"},
         {"getValueAt"_L1, "log: log, index: number"_L1, "number"_L1, 2, 2,
-         u"A value of a log; the newest one has the index 0.", u"getValueAt(history::log, 0)", u""},
+         u"A value of a log; the newest one has the index 0.", u"getValueAt(history, 0)", u""},
         {"getLogCount"_L1, "log: log"_L1, "number"_L1, 1, 1, u"The number of values in a log.",
-         u"getLogCount(history::log)", u""},
+         u"getLogCount(history)", u""},
         {"getLogMax"_L1, "log: log"_L1, "number"_L1, 1, 1, u"The greatest value in a log.",
-         u"getLogMax(history::log)", u""},
+         u"getLogMax(history)", u""},
         {"getLogMin"_L1, "log: log"_L1, "number"_L1, 1, 1, u"The smallest value in a log.",
-         u"getLogMin(history::log)", u""},
+         u"getLogMin(history)", u""},
         {"getLogAvg"_L1, "log: log"_L1, "number"_L1, 1, 1, u"The mean of the values in a log.",
-         u"getLogAvg(history::log)", u""},
+         u"getLogAvg(history)", u""},
         {"concat"_L1, "text: text, ..."_L1, "text"_L1, 1, anyNumber, u"All texts, one after the other.",
          u"concat(\"Level \", 5, \" %\")", u"Level 5 %"},
         {"split"_L1, "text: text, separator: text, index: number"_L1, "text"_L1, 2, 3,
@@ -99,6 +100,12 @@ QString ExpressionFunction::signature() const
 QString ExpressionFunction::description() const
 {
     return Common::LocalizationHelper::coreString(QString::fromUtf16(sentence));
+}
+
+QString ExpressionFunction::usableIn() const
+{
+    const GeneralDataInfo term(GeneralDataInfo::FunctionValue, GeneralDataInfo::FunctionData, QString(name));
+    return ExpressionKinds::of(term).join(Common::LocalizationHelper::coreString(u" and "_s));
 }
 
 } // namespace Halvane::Corvex::Designer

@@ -29,6 +29,8 @@ struct CORVEX_EXPORT ExpressionFunction
     //! "max(x: number, ...): number"
     QString signature() const;
     QString description() const; //!< translated
+    //! The kinds of expressions that can call it: "number expressions (such as xBinding)". Translated.
+    QString usableIn() const;
 
     //! All functions, those of numbers first.
     static const QList<ExpressionFunction> &all();

@@ -3,8 +3,10 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/values/expressions/ExpressionGrammar.h"
+#include "corvex/values/expressions/ExpressionKinds.h"
 #include "corvex/values/expressions/ValueCode.h"
 #include "corvex/values/private/ExpressionMeaning.h"
+#include "corvex/values/private/ExpressionPercent.h"
 #include "corvex/values/private/ExpressionPrinter.h"
 #include "corvex/values/private/ExpressionReader.h"
 #include "corvex/values/private/ExpressionWords.h"
@@ -52,6 +54,22 @@ bool hasCalls(const ExpressionPurpose &purpose)
            || purpose.kind == GeneralDataList::StringExpression;
 }
 
+//! In which kinds of expressions the term can be used instead.
+QString usableElsewhere(const Info &term, const ExpressionPurpose &purpose)
+{
+    const QStringList kinds = ExpressionKinds::of(term);
+    if (kinds.isEmpty() || purpose.isAssignment()) {
+        return LocalizationHelper::coreString(u"This cannot be used in this expression."_s);
+    }
+    const QString advice = purpose.kind == GeneralDataList::BoolExpression
+                               ? u" Calculate it in a number expression of a helper element, such as "
+                                 u"helper.xBinding, and compare "
+                                 "helper.x here."_s
+                               : QString();
+    return LocalizationHelper::coreString(u"This can only be used in %1.%2"_s)
+        .arg(kinds.join(LocalizationHelper::coreString(u" and "_s)), LocalizationHelper::coreString(advice));
+}
+
 //! Why the terms have no code, with the place of the reason.
 ExpressionText::Error obstacle(const ExpressionReader &reader, const ExpressionPurpose &purpose)
 {
@@ -62,7 +80,8 @@ ExpressionText::Error obstacle(const ExpressionReader &reader, const ExpressionP
     };
     for (qsizetype i = 0; i < terms.count(); ++i) {
         if (!ExpressionRules::allows(Words::grammarKind(purpose), terms.at(i))) {
-            return at(i, u"This cannot be used in this expression."_s);
+            const auto [position, length] = reader.placeOf(i);
+            return {position, length, usableElsewhere(terms.at(i), purpose), {}};
         }
     }
     if (const qsizetype misfit = ValueCode::misfit(terms, purpose); misfit >= 0) {
@@ -101,8 +120,10 @@ ExpressionText::Error obstacle(const ExpressionReader &reader, const ExpressionP
         if (isEnclosed) {
             return at(i - 3, u"Omit the parentheses. A single boolean name must be before \"?\"."_s);
         }
-        return at(i - 1, u"Only a boolean variable or property can be before \"?\". Set a boolean variable "
-                         "to the comparison first, and use it here."_s);
+        return at(i - 1,
+                  u"Only a boolean variable or property can be before \"?\". Set a boolean variable in "
+                  "two rules of a LogicBuilder, and use it here: when level > 90 do isHigh = true when "
+                  "level <= 90 do isHigh = false."_s);
     }
     for (qsizetype i = 0; i < terms.count(); ++i) {
         GeneralDataList single({terms.at(i)});
@@ -113,6 +134,39 @@ ExpressionText::Error obstacle(const ExpressionReader &reader, const ExpressionP
         }
     }
     return at(0, u"The device has no code for this expression."_s);
+}
+
+//! What the device does with the terms, if that is not what they say.
+std::optional<ExpressionText::Error> misunderstanding(const ExpressionReader &reader,
+                                                      const ExpressionPurpose &purpose,
+                                                      const ExpressionNames &names)
+{
+    const GeneralDataList &terms = reader.terms();
+    const auto at = [&reader](qsizetype term, const QString &message) {
+        const auto [position, length] = reader.placeOf(term);
+        return ExpressionText::Error{position, length, message, {}};
+    };
+    if (!purpose.separatesTerms() && terms.isComplete(purpose.kind)) {
+        if (const qsizetype chained = ExpressionMeaning::chained(terms); chained >= 0) {
+            return at(chained, LocalizationHelper::coreString(
+                                   u"Compare two values at a time, as in \"0 < level and level < 100\"."_s));
+        }
+        if (const auto fault = ExpressionMeaning::fault(terms, purpose.kind)) {
+            return at(fault->term, fault->reason);
+        }
+    }
+    for (qsizetype i = 0; i < terms.count() && purpose.isAssignment(); i += 2) {
+        if (terms.at(i).valueType() == Info::ObjectValue && names.traitsOf(terms.at(i).value()).isReadOnly) {
+            return at(i, LocalizationHelper::coreString(
+                             u"This can only be read. Assign another property or a variable."_s));
+        }
+    }
+    for (const ExpressionPercent &percent : ExpressionPercent::of(terms, purpose, names)) {
+        return at(percent.term, LocalizationHelper::coreString(
+                                    u"On the device, this property is a fraction of 1. Write %1 for %2 %."_s)
+                                    .arg(percent.fraction.value(), terms.at(percent.term).value()));
+    }
+    return {};
 }
 
 } // namespace
@@ -136,11 +190,8 @@ ExpressionText::Reading ExpressionText::read(const QString &text, const Expressi
     if (!reader.error() && !hasCode) {
         return {terms, obstacle(reader, purpose)};
     }
-    const qsizetype chained = reader.error() ? -1 : ExpressionMeaning::chained(terms);
-    if (chained >= 0) {
-        const auto [position, length] = reader.placeOf(chained);
-        const QString advice = u"Compare two values at a time, as in \"0 < level and level < 100\"."_s;
-        return {terms, Error{position, length, LocalizationHelper::coreString(advice), {}}};
+    if (!reader.error()) {
+        return {terms, misunderstanding(reader, purpose, names)};
     }
     return {terms, reader.error()};
 }

@@ -18,11 +18,22 @@ public:
     //! The term for a variable ("level") or for a property of an element ("lamp.visible",
     //! "Main.lamp.visible"), with its types; empty if the name is unknown.
     virtual std::optional<GeneralDataInfo> find(const QString &path) const = 0;
+
+    //! How the device treats a property of an element.
+    struct Traits
+    {
+        //! For a property that is a percentage in the project and a fraction on the device, the largest
+        //! fraction; otherwise 0.
+        double largestFraction = 0;
+        bool isReadOnly = false;
+    };
+    virtual Traits traitsOf(const QString &) const { return {}; }
 };
 
 /*! Expressions as people write them: `level > 10 and pump.visible`, `concat("Level ", level)`.
 
-    - Operators are those of the terms; `and`, `or` and `not` can replace `&&`, `||` and `== false`.
+    - Operators are those of the terms; `and`, `or` and `not` can replace `&&`, `||` and `== false`. In a
+      text, true and false are compared as 1 and 0.
     - In a text, `+` joins texts, and adds two numbers: `a + b` is then stored as `a - -b`. `xor` is the
       exclusive or.
     - Constants: `12`, `2.5`, `true`, `"text"`, `#C62828`, `PI`. A whole number of the type float is `12f`,

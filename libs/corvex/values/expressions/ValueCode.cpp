@@ -31,14 +31,22 @@ bool isColor(const Info &constant)
     return ok;
 }
 
-//! Whether the term is the whole value, or one of those from which "?" selects.
+//! Whether the term is the whole value, or one of those from which "?" selects, also in parentheses.
 bool isResult(const GeneralDataList &terms, qsizetype index)
 {
     const auto isSign = [&terms](qsizetype place, QChar sign) {
-        return ExpressionGrammar::isOperator(terms.at(place), sign);
+        return place >= 0 && place < terms.count() && ExpressionGrammar::isOperator(terms.at(place), sign);
     };
-    return (index == 0 || isSign(index - 1, u'?') || isSign(index - 1, u':'))
-           && (index + 1 == terms.count() || isSign(index + 1, u':'));
+    qsizetype before = index - 1;
+    while (isSign(before, u'(')) {
+        --before;
+    }
+    qsizetype after = index + 1;
+    while (isSign(after, u')')) {
+        ++after;
+    }
+    return (before < 0 || isSign(before, u'?') || isSign(before, u':'))
+           && (after == terms.count() || isSign(after, u':'));
 }
 
 bool isCondition(const ExpressionPurpose &purpose)

@@ -3,9 +3,7 @@
 
 #include "corvex/values/expressions/ExpressionFunction.h"
 #include "corvex/values/expressions/ExpressionGrammar.h"
-#include "corvex/values/expressions/ValueCode.h"
 #include "corvex/values/private/ExpressionWords.h"
-#include "corvex/values/text/ValueConversion.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -182,23 +180,6 @@ qsizetype ExpressionMeaning::chained(const GeneralDataList &terms)
         }
     }
     return -1;
-}
-
-void ExpressionMeaning::compareColors(GeneralDataList &terms)
-{
-    const auto isOfElement = [&terms](qsizetype place) {
-        return terms.at(place).valueType() == Info::ObjectValue
-               && terms.at(place).dataType() == Info::ColorData;
-    };
-    for (qsizetype i = 1; i + 1 < terms.count(); ++i) {
-        const qsizetype constant = isOfElement(i - 1) ? i + 1 : i - 1;
-        const Info &color = terms.at(constant);
-        if (isAnyOf(terms.at(i), {"=="_L1, "!="_L1}) && (isOfElement(i - 1) || isOfElement(i + 1))
-            && color.valueType() == Info::ConstantValue && color.dataType() == Info::ColorData) {
-            terms.replace(constant, Info::ConstantValue, Info::StringData,
-                          ValueCode::comparable(ValueConversion::toColor(color.value())));
-        }
-    }
 }
 
 } // namespace Halvane::Corvex::Designer

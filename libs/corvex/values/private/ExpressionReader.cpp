@@ -86,9 +86,8 @@ void ExpressionReader::adaptToMeaning()
     if (m_error || !m_terms.isComplete(m_purpose.kind)) {
         return;
     }
-    if (m_purpose.kind == GeneralDataList::BoolExpression) {
-        ExpressionMeaning::compareColors(m_terms);
-    } else if (m_purpose.kind == GeneralDataList::StringExpression) {
+    ExpressionMeaning::adaptConstants(m_terms, m_purpose.kind);
+    if (m_purpose.kind == GeneralDataList::StringExpression) {
         addNumbers();
     }
 }
@@ -112,7 +111,8 @@ void ExpressionReader::addNumbers()
     for (qsizetype i = 0; i < m_terms.count(); ++i) {
         Info term = m_terms.at(i);
         const QString value = term.value();
-        const bool isNumber = term.valueType() == Info::ConstantValue && !value.front().isLetter();
+        const bool isNumber = term.valueType() == Info::ConstantValue && term.dataType() != Info::StringData
+                              && !value.front().isLetter();
         if (std::exchange(isSubtracted, false)) {
             if (ExpressionGrammar::isOperator(term, u'-')) {
                 continue; // "a + -b" is "a - b"

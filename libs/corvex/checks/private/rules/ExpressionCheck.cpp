@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/checks/private/rules/ExpressionCheck.h"
 
+#include "corvex/checks/private/rules/ExpressionPart.h"
 #include "corvex/checks/private/rules/FunctionCall.h"
 #include "corvex/checks/private/rules/ValueType.h"
 #include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/editing/references/ReferenceForm.h"
 #include "corvex/project/Project.h"
+#include "corvex/project/ProjectNames.h"
 #include "corvex/values/expressions/ValueCode.h"
-#include "corvex/values/text/PairList.h"
+#include "corvex/values/private/ExpressionMeaning.h"
+#include "corvex/values/private/ExpressionOperations.h"
+#include "corvex/values/private/ExpressionPercent.h"
 #include "corvex/values/text/ValueConversion.h"
 
 using namespace Qt::StringLiterals;
@@ -82,26 +86,36 @@ void ExpressionCheck::look(const DesignerProperty &property)
     if (!property.isValid()) {
         return;
     }
-    if (const auto *expression = propertyCast<GeneralDataListProperty>(&property)) {
-        const GeneralDataList &terms = expression->value();
-        if (terms.isEmpty()) {
-            return;
-        }
+    for (const auto &[terms, purpose] : ExpressionPart::of(property)) {
         lookAtTerms(property, terms);
-        if (const ExpressionPurpose purpose = expression->purpose(); purpose.isAssignment()) {
+        lookAtMeaning(property, terms, purpose);
+        if (purpose.isAssignment()) {
             lookAtAssignments(property, terms);
         } else if (purpose.kind == GeneralDataList::BoolExpression) {
             lookAtCondition(property, terms);
         }
-        return;
     }
-    for (const TextPair &rule : PairList(property.valueString())) {
-        const GeneralDataList condition(rule.first);
-        const GeneralDataList assignments(rule.second);
-        lookAtTerms(property, condition);
-        lookAtTerms(property, assignments);
-        lookAtCondition(property, condition);
-        lookAtAssignments(property, assignments);
+}
+
+//! Looks for operations whose results are not what the expression says.
+void ExpressionCheck::lookAtMeaning(const DesignerProperty &property, const GeneralDataList &terms,
+                                    const ExpressionPurpose &purpose)
+{
+    const ProjectNames names(m_project, property.parentObject()->screen());
+    if (!purpose.separatesTerms() && terms.isComplete(purpose.kind)) {
+        const auto fault = ExpressionMeaning::fault(terms, purpose.kind);
+        if (fault && !fault->isOfColor) {
+            report(property, ProblemCode::ExpressionMeaning, {terms.at(fault->term).value(), fault->reason});
+        }
+    }
+    for (const ExpressionPercent &percent : ExpressionPercent::of(terms, purpose, names)) {
+        report(property, ProblemCode::ExpressionPercent, percent.words(terms));
+    }
+    for (qsizetype i = 0; i < terms.count() && purpose.isAssignment(); i += 2) {
+        if (terms.at(i).valueType() == GeneralDataInfo::ObjectValue
+            && names.traitsOf(terms.at(i).value()).isReadOnly) {
+            report(property, ProblemCode::ExpressionTarget, {terms.at(i).value()});
+        }
     }
 }
 
@@ -168,22 +182,22 @@ void ExpressionCheck::lookAtCondition(const DesignerProperty &property, const Ge
 void ExpressionCheck::lookAtColors(const DesignerProperty &property, const GeneralDataList &terms)
 {
     static const QStringList equalities{u"=="_s, u"==="_s, u"!="_s, u"!=="_s};
-    const auto isColor = [this](const GeneralDataInfo &term) {
-        return term.valueType() == GeneralDataInfo::ObjectValue
-               && valueTypeOf(term, m_project) == ValueType::Color;
-    };
-    for (qsizetype i = 1; i + 1 < terms.count(); ++i) {
-        const QString &sign = terms.at(i).value();
-        const bool isFirst = isColor(terms.at(i - 1));
-        if (!isOperator(terms.at(i)) || !equalities.contains(sign)
-            || (!isFirst && !isColor(terms.at(i + 1)))) {
+    if (!terms.isComplete(GeneralDataList::BoolExpression)) {
+        return;
+    }
+    for (const auto &[place, left, right] : ExpressionOperation::of(terms, GeneralDataList::BoolExpression)) {
+        const QString &sign = terms.at(place).value();
+        const bool isFirst = left.code == OperandType::Color;
+        const ExpressionOperand &color = isFirst ? left : right;
+        const ExpressionOperand &second = isFirst ? right : left;
+        if (!equalities.contains(sign) || color.code != OperandType::Color || color.term < 0
+            || second.term < 0) {
             continue;
         }
-        const GeneralDataInfo &color = terms.at(isFirst ? i - 1 : i + 1);
-        const GeneralDataInfo &other = terms.at(isFirst ? i + 1 : i - 1);
+        const GeneralDataInfo &other = terms.at(second.term);
         const bool isStrict = sign.size() > 2 && other.valueType() == GeneralDataInfo::ConstantValue;
         if (isStrict || !canEqualColor(other, valueTypeOf(other, m_project))) {
-            report(property, ProblemCode::ExpressionColor, {color.value(), other.value()});
+            report(property, ProblemCode::ExpressionColor, {terms.at(color.term).value(), other.value()});
         }
     }
 }

@@ -8,9 +8,10 @@ namespace Halvane::Corvex::Designer {
 struct FunctionCall;
 class GeneralDataInfo;
 class GeneralDataList;
+struct ExpressionPurpose;
 
-//! Checks types in the expressions of screens: assignments, conditions, arguments of functions, and variables
-//! without a value.
+//! Checks types in the expressions of screens: assignments, conditions, operations, arguments of functions,
+//! and variables without a value.
 class ExpressionCheck : public PropertyCheck
 {
 public:
@@ -22,6 +23,8 @@ public:
     void look(const DesignerProperty &property) override;
 
 private:
+    void lookAtMeaning(const DesignerProperty &property, const GeneralDataList &terms,
+                       const ExpressionPurpose &purpose);
     void lookAtTerms(const DesignerProperty &property, const GeneralDataList &terms);
     void lookAtCall(const DesignerProperty &property, const FunctionCall &call);
     void lookAtAssignments(const DesignerProperty &property, const GeneralDataList &terms);
