@@ -110,10 +110,12 @@ TEST(ExpressionTextTest, ReadsWhatPeopleWriteAndPrintsItBack)
          u"<0101(><0308lamp.color><0101)><0101!=><0101(><0207I2ZmMDAwMA==><0101)>",
          u"(lamp.color) != (\"#ff0000\")"},
         // In a text, constants are texts and booleans are 0 and 1.
-        {List::StringExpression, Info::StringOutput, u"(alarm) != (true) and not level and not alarm ? 1 : 2",
+        {List::StringExpression, Info::StringOutput,
+         u"(alarm) != (true) and not level and not alarm and not alarm ? 1 : 2",
          u"<0101(><0403alarm><0101)><0101!=><0101(><02041><0101)><0101&&><0406level><0101==><02040><0101&&>"
+         "<0403alarm><0101==><02040><0101&&>"
          "<0403alarm><0101==><02030><0101?><02041><0101:><02042>",
-         u"(alarm) != (1) and level == 0 and alarm == false ? 1 : 2"},
+         u"(alarm) != (1) and level == 0 and not alarm and not alarm ? 1 : 2"},
         {List::StringExpression, Info::StringOutput, u"level + \"\" * 2 + 2 * \"3\"", nullptr, nullptr},
         {List::BoolExpression, Info::RawOutput, u"1", u"02041", nullptr},
         {List::MathExpression, Info::NumberOutput, u"gone::number + 'a b'::log",

@@ -91,7 +91,7 @@ ExitCode create(const QString &path, const Configuration &model, const Call &cal
     if (!call.asJson()) {
         call.terminal().print(file);
         call.terminal().printError(
-            u"The screen \"%1\" is still empty. Add an element: echo \"add Text %1 title\" | corvex edit %2"_s
+            u"The screen \"%1\" is still empty. Add an element: echo \"add Text %1 title\" | corvex edit \"%2\""_s
                 .arg(screenName, file));
         return ExitCode::Done;
     }

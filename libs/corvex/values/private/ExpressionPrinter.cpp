@@ -103,10 +103,13 @@ bool ExpressionPrinter::isNegated(const GeneralDataList &terms, qsizetype place)
     static const QStringList before{u"&&"_s, u"||"_s, u"("_s, u","_s, u"?"_s, u":"_s};
     static const QStringList after{u"&&"_s, u"||"_s, u")"_s, u","_s, u"?"_s, u":"_s};
     static const Info no(Info::ConstantValue, Info::BooleanData, u"false"_s);
+    static const Info zero(Info::ConstantValue, Info::IntegerData, u"0"_s); // in a text
     const Info &name = terms.at(place);
     const bool isName = name.valueType() == Info::VariableValue || name.valueType() == Info::ObjectValue;
     return isName && name.dataType() == Info::BooleanData && place + 2 < terms.count()
-           && isOperator(place + 1, {u"=="_s}) && terms.at(place + 2) == no && isOperator(place - 1, before)
+           && isOperator(place + 1, {u"=="_s}) && isOperator(place - 1, before)
+           && (terms.at(place + 2) == no
+               || (m_purpose.kind == GeneralDataList::StringExpression && terms.at(place + 2) == zero))
            && isOperator(place + 3, after);
 }
 
