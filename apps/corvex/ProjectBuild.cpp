@@ -2,10 +2,10 @@
 #include "ProjectBuild.h"
 
 #include "corvex/checks/ProjectProblems.h"
+#include "corvex/document/DeviceFolder.h"
 #include "corvex/project/Project.h"
 #include "corvex/runtime/RuntimeGenerator.h"
 
-#include "DeviceFolder.h"
 #include "Installation.h"
 #include "ProjectFile.h"
 #include "terminal/Call.h"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "DeviceFolder.h"
+#include "corvex/document/DeviceFolder.h"
+
 #include "ProjectBuild.h"
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
@@ -39,7 +40,7 @@ ExitCode run(const Call &call)
                                             call.isSet(u"force"_s) ? ProjectBuild::WithProblems::Build
                                                                    : ProjectBuild::WithProblems::Refuse);
     if (code == ExitCode::Done) {
-        report(DeviceFolder(folder).projectPath(), call);
+        report(Designer::DeviceFolder(folder).projectPath(), call);
     }
     return code;
 }

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "corvex/core/DesignerFactory.h"
 #include "corvex/hardware/Configuration.h"
 #include "corvex/hardware/ConfigurationContainer.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/files/FileNameRules.h"
-#include "corvex/values/records/ObjectLinkInfo.h"
+#include "corvex/templates/NewProject.h"
 
 #include "Installation.h"
-#include "ProjectFile.h"
 #include "terminal/Call.h"
 #include "terminal/JsonWriter.h"
 #include "terminal/Terminal.h"
@@ -23,8 +21,6 @@ namespace Halvane::Corvex::Tool {
 using namespace Designer;
 
 namespace {
-
-const QString screenName = u"Main"_s;
 
 ExitCode listModels(const ConfigurationContainer &models, const Call &call)
 {
@@ -50,28 +46,6 @@ ExitCode listModels(const ConfigurationContainer &models, const Call &call)
     return ExitCode::Done;
 }
 
-//! Adds the configuration and one screen, and makes it the default screen.
-bool fill(Project &project, const Configuration &model)
-{
-    std::unique_ptr<DesignerObject> configuration(DesignerObject::createCopy(&model));
-    std::unique_ptr<DesignerObject> screen(DesignerFactory::instance()->createObject(u"Screen"_s));
-    if (!configuration || !screen) {
-        return false;
-    }
-    screen->setParent(nullptr);
-    screen->setIdName(screenName);
-    if (!project.changePropertyObjectValue(project.configuration(), configuration.get(), true)) {
-        return false;
-    }
-    configuration.release();
-    if (!project.addListPropertyItem(project.screens(), screen.get())) {
-        return false;
-    }
-    screen.release();
-    return project.changePropertyValue(project.defaultScreen(),
-                                       ObjectLinkInfo(screenName, u"Project"_s, u"Screen"_s).toString());
-}
-
 ExitCode create(const QString &path, const Configuration &model, const Call &call)
 {
     const QFileInfo folder(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
@@ -79,13 +53,10 @@ ExitCode create(const QString &path, const Configuration &model, const Call &cal
     if (const QString error = FileNameRules::projectNameError(name); !error.isEmpty()) {
         return call.misused(error);
     }
-    const std::unique_ptr<Project> project = ProjectFile::create();
-    if (!project || !project->setIdName(name) || !fill(*project, model)) {
-        return call.failed(u"Cannot create a project for the model \"%1\". Install the program again."_s.arg(
-            model.getIdName()));
-    }
-    if (!project->createFile(folder.path())) {
-        return call.failed(project->fileError());
+    QString error;
+    const std::unique_ptr<Project> project = NewProject::create(folder.path(), name, model, error);
+    if (!project) {
+        return call.failed(error);
     }
     const QString file = u"%1/%2"_s.arg(QDir::cleanPath(path), project->createFileName());
     if (!call.asJson()) {
@@ -99,7 +70,7 @@ ExitCode create(const QString &path, const Configuration &model, const Call &cal
     json.beginObject();
     json.member("file"_L1, file);
     json.member("model"_L1, model.getIdName());
-    json.member("screen"_L1, screenName);
+    json.member("screen"_L1, NewProject::screenName());
     json.endObject();
     return ExitCode::Done;
 }

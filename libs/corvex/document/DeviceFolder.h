@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "corvex/common/Export.h"
+
 #include <QString>
 #include <QStringList>
 
-namespace Halvane::Corvex::Tool {
+namespace Halvane::Corvex::Designer {
 
 /*! The folder that receives a build, in its sub-folder "project".
 
@@ -14,7 +16,7 @@ namespace Halvane::Corvex::Tool {
     Only one build at a time may write to a folder. The next build removes the remains of an interrupted one,
     and restores an earlier build that the interrupted one had already moved away.
 */
-class DeviceFolder
+class CORVEX_EXPORT DeviceFolder
 {
 public:
     explicit DeviceFolder(const QString &path)
@@ -40,4 +42,4 @@ private:
     QString m_path;
 };
 
-} // namespace Halvane::Corvex::Tool
+} // namespace Halvane::Corvex::Designer

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "DeviceFolder.h"
+#include "corvex/document/DeviceFolder.h"
 
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/common/files/FileSync.h"
@@ -21,7 +21,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Halvane::Corvex::Tool {
+namespace Halvane::Corvex::Designer {
 
 namespace {
 
@@ -231,4 +231,4 @@ bool DeviceFolder::replace(const QString &source, QString *error) const
            || fail(error, u"The folder \"%1\" cannot be written to: %2"_s.arg(m_path, FileSync::reason()));
 }
 
-} // namespace Halvane::Corvex::Tool
+} // namespace Halvane::Corvex::Designer
