@@ -183,6 +183,17 @@ QString ProjectHistory::redoText() const
     return command ? command->actionText() : QString();
 }
 
+QString ProjectHistory::stepText(int step) const
+{
+    for (const Part &part : m_parts) {
+        if (step < part.size()) {
+            return part.stack->command(part.from + step)->actionText();
+        }
+        step -= part.size();
+    }
+    return {};
+}
+
 bool ProjectHistory::refuse(const QString &reason)
 {
     m_error = reason;

@@ -46,6 +46,8 @@ public:
     //! The text of the next step to undo or redo, for the user; empty if there is nothing to undo or redo.
     QString undoText() const;
     QString redoText() const;
+    //! The text of the step from position \a step to the next one.
+    QString stepText(int step) const;
 
     // These return false and change nothing if there is nothing to do or a command fails; errorString() gives
     // the reason.

@@ -63,7 +63,7 @@ CanvasScene::CanvasScene(Screen *screen, QObject *parent)
 CanvasScene::~CanvasScene()
 {
     // Items that are deleted now would report changes of the selection.
-    disconnect(this, &QGraphicsScene::selectionChanged, this, nullptr);
+    blockSignals(true);
 }
 
 Screen *CanvasScene::screen() const
@@ -182,17 +182,22 @@ void CanvasScene::select(FramedItem *item, bool adds)
     }
 }
 
-QImage CanvasScene::picture()
+QImage CanvasScene::picture(Contents contents)
 {
     const GraphicsItem *item = GraphicsItem::of(m_screen);
     const QRectF area = item ? item->graphic()->mapRectToScene(item->frame()) : QRectF();
     QImage image(area.size().toSize(), QImage::Format_ARGB32_Premultiplied);
     if (!image.isNull()) {
         outline();
+        const bool showsBounding = m_bounding->isVisible();
+        m_outline->setVisible(contents == WithSelection);
+        m_bounding->setVisible(contents == WithSelection && showsBounding);
         image.fill(Qt::transparent);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::TextAntialiasing);
         render(&painter, image.rect(), area);
+        m_outline->setVisible(true);
+        m_bounding->setVisible(showsBounding);
     }
     return image;
 }

@@ -41,8 +41,9 @@ public:
     void outlineLater();
     bool isGestureActive() const { return m_gesture || m_crop; }
     void cancelGesture();
-    //! The whole screen, with the selection; null if its size does not allow a picture.
-    QImage picture();
+    enum Contents { Plain, WithSelection };
+    //! The whole screen; null if its size does not allow a picture.
+    QImage picture(Contents contents = WithSelection);
     //! The cursor for the action that the mouse would start at a point of the scene.
     Qt::CursorShape cursorAt(const QPointF &point) const;
 
