@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+namespace Halvane::Corvex::Nova {
+
+//! The settings of the user, shared by all windows and programs. A setting that cannot be read has its
+//! default.
+class UserSettings
+{
+public:
+    enum class Look { Desktop, Light, Dark };
+    static Look look();
+    static void setLook(Look look);
+
+    //! The language of the window ("de"); empty for that of the desktop.
+    static QString language();
+    static void setLanguage(const QString &language);
+
+    //! The place of the window and of its panels, in the forms of QWidget and QMainWindow; empty at first.
+    static QByteArray windowGeometry();
+    static QByteArray windowState();
+    static void setWindowPlace(const QByteArray &geometry, const QByteArray &state);
+
+    //! The projects that the user opened, the last one first: paths of .kdproj files, which may be gone.
+    static QStringList recentProjects();
+    static void addRecentProject(const QString &path);
+    static void removeRecentProject(const QString &path);
+    static constexpr int mostRecentProjects = 12;
+
+    //! The keys that the user chose for an action, in the form of QKeySequence; null without a choice, empty
+    //! for none.
+    static QString keysOf(const QString &actionId);
+    static void setKeysOf(const QString &actionId, const QString &keys);
+};
+
+} // namespace Halvane::Corvex::Nova

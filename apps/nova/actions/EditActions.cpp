@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "corvex/editing/commands/Commands.h"
+
+#include "actions/Action.h"
+#include "canvas/CanvasView.h"
+#include "project/Workspace.h"
+#include "window/MainWindow.h"
+
+namespace Halvane::Corvex::Nova {
+
+using Designer::Commands;
+using Designer::IconSet;
+
+namespace {
+
+void undo(MainWindow &window)
+{
+    if (!window.workspace()->document().undo()) {
+        window.workspace()->reportFailure();
+    }
+}
+
+void redo(MainWindow &window)
+{
+    if (!window.workspace()->document().redo()) {
+        window.workspace()->reportFailure();
+    }
+}
+
+void selectAll(MainWindow &window)
+{
+    window.workspace()->document().select(window.canvas()->selectableObjects());
+}
+
+} // namespace
+
+std::span<const Action> editActions()
+{
+    static const Action actions[] = {
+        {"edit.undo", "&Undo", "Undo the last edit.", "Ctrl+Z", IconSet::Undo, Need::Undo, undo},
+        {"edit.redo", "&Redo", "Do the undone edit again.", "Ctrl+Shift+Z; Ctrl+Y", IconSet::Redo, Need::Redo,
+         redo},
+        separator,
+        {"edit.copies", "D&uplicate", "Add copies of the selected objects.", "Ctrl+D", IconSet::Copies,
+         Need::Object,
+         [](MainWindow &window) {
+             Workspace &workspace = *window.workspace();
+             workspace.push(Commands::duplicationOf(workspace.document().selection()));
+         }},
+        {"edit.delete", "&Delete", "Delete the selected objects and all references to them.", "Del",
+         IconSet::Delete, Need::Object,
+         [](MainWindow &window) {
+             Workspace &workspace = *window.workspace();
+             workspace.push(Commands::deletionOf(workspace.document().selection()));
+         }},
+        separator,
+        {"edit.selectAll", "Select &all", "Select all elements of the screen.", "Ctrl+A", -1, Need::Screen,
+         selectAll},
+        {"edit.selectNone", "Select &nothing", "Select the screen itself.", "Ctrl+Shift+A", -1, Need::Screen,
+         [](MainWindow &window) { window.workspace()->document().select({}); }},
+    };
+    return actions;
+}
+
+} // namespace Halvane::Corvex::Nova

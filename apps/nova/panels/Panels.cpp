@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "panels/Panels.h"
+
+#include "panels/HistoryPanel.h"
+#include "panels/ObjectsPanel.h"
+#include "panels/PalettePanel.h"
+#include "panels/ProblemsPanel.h"
+#include "panels/PropertiesPanel.h"
+#include "panels/ScreensPanel.h"
+
+namespace Halvane::Corvex::Nova {
+
+namespace {
+
+template<class Panel>
+QWidget *create(Workspace &workspace)
+{
+    return new Panel(workspace);
+}
+
+constexpr PanelRow rows[] = {
+    {"panel.screens", "Screens", Qt::LeftDockWidgetArea, nullptr, create<ScreensPanel>},
+    {"panel.objects", "Objects", Qt::LeftDockWidgetArea, nullptr, create<ObjectsPanel>},
+    {"panel.palette", "Palette", Qt::LeftDockWidgetArea, "panel.objects", create<PalettePanel>},
+    {"panel.properties", "Properties", Qt::RightDockWidgetArea, nullptr, create<PropertiesPanel>},
+    {"panel.problems", "Problems", Qt::BottomDockWidgetArea, nullptr, create<ProblemsPanel>},
+    {"panel.history", "History", Qt::BottomDockWidgetArea, "panel.problems", create<HistoryPanel>},
+};
+
+} // namespace
+
+std::span<const PanelRow> panelRows()
+{
+    return rows;
+}
+
+} // namespace Halvane::Corvex::Nova

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "project/NewElement.h"
+
+#include "corvex/core/DesignerFactory.h"
+#include "corvex/editing/commands/objects/AddObject.h"
+#include "corvex/project/Screen.h"
+#include "corvex/project/elements/VisualElement.h"
+#include "corvex/values/text/ValueConversion.h"
+
+#include <QMimeData>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Halvane::Corvex::Nova {
+
+using namespace Designer;
+
+std::unique_ptr<UndoCommand> NewElement::command(Screen &screen, const QString &className,
+                                                 const QPointF &place)
+{
+    DesignerObject *object = DesignerFactory::instance()->createObject(className);
+    if (!object) {
+        return nullptr;
+    }
+    object->setParent(nullptr);
+    object->setIdName(screen.uniqueElementName(object->baseName()));
+    const SharedProperty position = object->getProperty(u"position");
+    if (const auto *element = kindCast<VisualElement>(object); element && position) {
+        const QSizeF size = element->boundingRect().size();
+        const QSizeF space = ValueConversion::toSize(screen.size()->valueString()) - size;
+        const QPointF corner = place - QPointF(size.width() / 2, size.height() / 2);
+        const QPointF inside(qRound(std::clamp(corner.x(), 0.0, std::max(0.0, space.width()))),
+                             qRound(std::clamp(corner.y(), 0.0, std::max(0.0, space.height()))));
+        object->changePropertyValue(position, ValueConversion::toString(inside));
+    }
+    return std::make_unique<AddObject>(screen.elements(), object, true);
+}
+
+QString NewElement::mimeType()
+{
+    return u"application/x-corvex-class"_s;
+}
+
+QMimeData *NewElement::dragged(const QString &className)
+{
+    auto *data = new QMimeData;
+    data->setData(mimeType(), className.toUtf8());
+    return data;
+}
+
+QString NewElement::classOf(const QMimeData &data)
+{
+    return QString::fromUtf8(data.data(mimeType()));
+}
+
+} // namespace Halvane::Corvex::Nova
