@@ -56,7 +56,7 @@ PropertiesPanel::PropertiesPanel(Workspace &workspace, QWidget *parent)
     layout->addLayout(head);
     layout->addWidget(m_rows, 1);
     connect(m_filter, &QLineEdit::textChanged, m_rows, &PropertyPanel::setFilter);
-    connect(m_rows, &PropertyPanel::objectRequested, &workspace, &Workspace::reveal);
+    connect(&m_rows->requests(), &EditorRequests::objectRequested, &workspace, &Workspace::reveal);
     connect(m_rows, &PropertyPanel::noted, &workspace, &Workspace::noted);
     connect(&workspace.document(), &ProjectDocument::selectionChanged, this,
             &PropertiesPanel::describeSelection);
