@@ -4,6 +4,7 @@
 #include "corvex/variables/CanParameterMap.h"
 #include "corvex/variables/exchange/CsvText.h"
 #include "corvex/variables/exchange/DbcExport.h"
+#include "corvex/variables/exchange/DbcFile.h"
 #include "corvex/variables/exchange/EdeExport.h"
 #include "corvex/variables/exchange/ModbusExport.h"
 #include "corvex/variables/exchange/VariableExport.h"
@@ -176,6 +177,13 @@ TEST_F(ExportTest, CanGroupsAsADatabase)
         QStringList(
             {u"empty.parameterMap: At least one SPN required"_s,
              u"tank: The unit \"\u00b0C \u03a9\" of SPN 96 has characters that the file format does not support."_s}));
+    // What is exported can be imported.
+    const DbcFile file(bytes);
+    EXPECT_TRUE(file.problems().isEmpty());
+    ASSERT_EQ(file.messages().size(), 3);
+    EXPECT_EQ(file.messages().at(2).toMap(0).parameters(),
+              (QList<CanParameter>{{96, u"\u00b0C ?"_s, 8, 8, 1, -0.5, -4e-7, 1e20, 1e-7}}));
+    EXPECT_EQ(file.messages().at(0).content.at(1).obstacle, u"\"SPN190\" has the same SPN."_s);
 
     // The grammar distinguishes good from bad files.
     for (const auto &[good, bad] :
