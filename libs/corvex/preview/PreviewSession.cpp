@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QMetaMethod>
+#include <QMetaProperty>
 #include <QQmlComponent>
 #include <QQmlProperty>
 
@@ -26,7 +28,11 @@ PreviewSession::PreviewSession(QObject *parent)
     , m_settings(m_state)
     , m_panel(std::make_unique<Panel>())
     , m_frame(std::make_unique<QQuickItem>())
-{ }
+{
+    connect(&m_panel->variables(), &VariableStore::changed, this,
+            [this](const Variable *variable) { emit valueChanged(variable->name()); });
+    connect(this, &PreviewSession::screenChanged, this, &PreviewSession::reportProperty);
+}
 
 PreviewSession::~PreviewSession()
 {
@@ -265,6 +271,33 @@ QObject *PreviewSession::find(QStringView path) const
         }
     }
     return nullptr;
+}
+
+std::optional<QString> PreviewSession::valueOf(const QString &name)
+{
+    if (const Variable *variable = m_panel->variables().find(name)) {
+        return variable->text();
+    }
+    const qsizetype point = name.lastIndexOf(u'.');
+    const QObject *element = point > 0 ? find(QStringView(name).first(point)) : nullptr;
+    const int place =
+        element ? element->metaObject()->indexOfProperty(name.sliced(point + 1).toUtf8().constData()) : -1;
+    if (place < 0) {
+        return {};
+    }
+    const QMetaProperty property = element->metaObject()->property(place);
+    if (property.hasNotifySignal()) {
+        static const QMetaMethod slot =
+            staticMetaObject.method(staticMetaObject.indexOfSlot("reportProperty()"));
+        connect(element, property.notifySignal(), this, slot, Qt::UniqueConnection);
+    }
+    const QVariant value = property.read(element);
+    return value.canConvert<QString>() ? std::optional(Variable::textOf(value)) : std::nullopt;
+}
+
+void PreviewSession::reportProperty()
+{
+    emit valueChanged({});
 }
 
 QQuickItem *PreviewSession::touchedItem(QObject *element) const

@@ -10,6 +10,8 @@
 #include <QQmlComponent>
 #include <QQuickItem>
 
+#include <optional>
+
 namespace Halvane::Corvex::Preview {
 
 //! Runs a build. Shows one screen at a time in an item for a window, and logs all problems. Needs a GUI
@@ -55,13 +57,20 @@ public:
     //! The item itself, or the item that a function element works with; null if the element cannot be
     //! touched.
     QQuickItem *touchedItem(QObject *element) const;
+    //! The value of a variable, "speed", or of a property of an element on the current screen,
+    //! "Main.lamp.visible", as a text: "true", "1.5", "abc", "#FFC62828". Nothing if it has no such text.
+    std::optional<QString> valueOf(const QString &name);
     //! In coordinates of the frame.
     QPointF middleOf(const QQuickItem *item) const;
 
 signals:
     void screenChanged();
+    //! A value of valueOf() has changed. The name is empty if it is a property that was asked for, or a
+    //! property of a new screen.
+    void valueChanged(const QString &name);
 
 private:
+    Q_SLOT void reportProperty();
     void addVariables();
     void addVariable(const QString &name, const QVariantMap &record);
     void restoreState();
