@@ -261,8 +261,10 @@ QList<DesignerObject *> ProjectDocument::selection() const
 void ProjectDocument::select(const QList<DesignerObject *> &objects)
 {
     QList<QPointer<DesignerObject>> selected;
+    QSet<const DesignerObject *> known;
     for (DesignerObject *object : objects) {
-        if (object && object->project() == m_project.get() && !selected.contains(object)) {
+        if (object && object->project() == m_project.get() && !known.contains(object)) {
+            known.insert(object);
             selected.append(object);
         }
     }
