@@ -101,6 +101,7 @@ void PropertySheet::setObjects(const QList<DesignerObject *> &objects)
     m_rows.clear();
     m_lines.clear();
     *m_objects = {};
+    m_expectedCount = size_t(objects.size());
     for (DesignerObject *object : objects) {
         if (object && object->project() == &m_project && !m_objects->contains(object)) {
             addProperties(m_objects->append(object));
@@ -140,26 +141,36 @@ QList<SharedProperty> PropertySheet::properties(int row) const
     return m_rows.at(size_t(row))->properties();
 }
 
-void PropertySheet::addProperty(size_t place, const SharedProperty &property)
+//! \a className is that of the object. \a expected is the number of the line that is probably that of the
+//! property, and then that of the next property.
+void PropertySheet::addProperty(size_t place, SharedProperty property, const QString &className,
+                                size_t &expected)
 {
     if (!isInSheets(*property)) {
         return;
     }
-    const QString kind = property->className();
-    auto line = std::ranges::find_if(m_lines, [&](const std::unique_ptr<SheetLine> &known) {
+    const auto fits = [&property, kind = property->className()](const std::unique_ptr<SheetLine> &known) {
         return known->id() == property->id() && known->kind() == kind;
-    });
-    if (line == m_lines.end()) {
-        line = m_lines.insert(line, std::make_unique<SheetLine>(property->id(), kind));
+    };
+    if (expected >= m_lines.size() || !fits(m_lines[expected])) {
+        expected = size_t(std::ranges::find_if(m_lines, fits) - m_lines.begin());
     }
-    (*line)->add(place, property, m_defaults->of(*property));
+    if (expected == m_lines.size()) {
+        m_lines.push_back(
+            std::make_unique<SheetLine>(property->id(), property->className(), m_expectedCount, *m_defaults));
+    }
+    m_lines[expected]->add(place, std::move(property), className);
+    ++expected;
 }
 
 //! Adds the object at that place to the lines. The rows are updated later.
 void PropertySheet::addProperties(size_t place)
 {
-    for (const SharedProperty &property : m_objects->at(place)->properties()) {
-        addProperty(place, property);
+    const DesignerObject *object = m_objects->at(place);
+    const QString className = object->className();
+    size_t expected = 0; // objects of a class have their properties in the same order
+    for (SharedProperty property : object->properties()) {
+        addProperty(place, std::move(property), className, expected);
     }
 }
 
@@ -415,7 +426,8 @@ void PropertySheet::descriptorChanged(const SharedProperty &property)
         if (SheetLine *line = lineOf(property, *place)) {
             line->remove(*place);
         }
-        addProperty(*place, property);
+        size_t expected = 0;
+        addProperty(*place, property, property->parentObject()->className(), expected);
         arrange();
     }
 }

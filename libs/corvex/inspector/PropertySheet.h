@@ -140,7 +140,7 @@ private:
     void projectAboutToLoad() override;
     void projectAboutToBeDestroyed() override;
 
-    void addProperty(size_t place, const SharedProperty &property);
+    void addProperty(size_t place, SharedProperty property, const QString &className, size_t &expected);
     void addProperties(size_t place);
     SheetLine *lineOf(const SharedProperty &property, size_t place) const;
     std::vector<SheetLine *> wantedRows() const;
@@ -154,6 +154,7 @@ private:
     std::vector<std::unique_ptr<SheetLine>> m_lines; //!< of all properties, common or not
     std::vector<SheetLine *> m_rows;
     bool m_isReportDue = false;
+    size_t m_expectedCount = 0; //!< of objects
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -2,6 +2,7 @@
 #include "corvex/inspector/private/SheetLine.h"
 
 #include "corvex/core/DesignerObject.h"
+#include "corvex/inspector/private/DefaultValues.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,34 +19,70 @@ QList<SharedProperty> SheetLine::properties() const
     return all;
 }
 
-void SheetLine::count(const Cell &cell, const QString &value, qsizetype by)
+void SheetLine::count(const QString &value, qsizetype by)
 {
-    qsizetype &number = m_values[value];
-    number += by;
-    if (number == 0) {
-        m_values.remove(value);
+    if (value != m_runValue) {
+        countRun();
+        m_runValue = value;
     }
-    m_changed += cell.defaultText.isNull() || value == cell.defaultText ? 0 : by;
+    m_runLength += by;
 }
 
-void SheetLine::add(size_t place, const SharedProperty &property, const QString &defaultText)
+void SheetLine::countRun()
+{
+    if (m_runLength != 0) {
+        qsizetype &number = m_values[m_runValue];
+        number += m_runLength;
+        if (number == 0) {
+            m_values.remove(m_runValue);
+        }
+        m_runLength = 0;
+    }
+}
+
+bool SheetLine::isChanged(const DesignerProperty &property, const QString &value, const QString &className)
+{
+    if (!property.hasFlag(StoredFlag)) {
+        return false;
+    }
+    if (m_defaultClass != className) {
+        m_defaultClass = className;
+        m_defaultText = m_defaults.of(property);
+    }
+    return !m_defaultText.isNull() && value != m_defaultText;
+}
+
+void SheetLine::setChanged(Cell &cell, bool isChanged)
+{
+    m_changed += int(isChanged) - int(cell.isChanged);
+    cell.isChanged = isChanged;
+}
+
+void SheetLine::add(size_t place, SharedProperty property, const QString &className)
 {
     if (place >= m_cells.size()) {
         m_cells.resize(place + 1);
     }
     Cell &cell = m_cells[place];
-    cell = {property, defaultText, !property->editorParameters().value(u"visible"_s, true).toBool()};
+    cell.property = std::move(property);
+    const QVariantMap &parameters = cell.property->editorParameters();
+    cell.isHidden = !parameters.isEmpty() && !parameters.value(u"visible"_s, true).toBool();
     m_first = m_count == 0 ? place : std::min(m_first, place);
     ++m_count;
     m_hidden += cell.isHidden ? 1 : 0;
-    count(cell, property->valueString(), 1);
-    validityChanged(place);
+    const QString value = cell.property->valueString();
+    count(value, 1);
+    setChanged(cell, isChanged(*cell.property, value, className));
+    if (!cell.property->isValid()) {
+        m_invalid.insert(place);
+    }
 }
 
 void SheetLine::remove(size_t place)
 {
     Cell &cell = m_cells[place];
-    count(cell, cell.property->valueString(), -1);
+    count(cell.property->valueString(), -1);
+    setChanged(cell, false);
     m_hidden -= cell.isHidden ? 1 : 0;
     m_invalid.erase(place);
     cell = {};
@@ -57,9 +94,11 @@ void SheetLine::remove(size_t place)
 
 void SheetLine::valueChanged(size_t place, const QString &previousValue)
 {
-    const Cell &cell = m_cells[place];
-    count(cell, previousValue, -1);
-    count(cell, cell.property->valueString(), 1);
+    Cell &cell = m_cells[place];
+    const QString value = cell.property->valueString();
+    count(previousValue, -1);
+    count(value, 1);
+    setChanged(cell, isChanged(*cell.property, value, cell.property->parentObject()->className()));
 }
 
 void SheetLine::validityChanged(size_t place)
@@ -71,8 +110,9 @@ void SheetLine::validityChanged(size_t place)
     }
 }
 
-SheetRow SheetLine::summary() const
+SheetRow SheetLine::summary()
 {
+    countRun();
     const DesignerProperty &first = *this->first();
     SheetRow row;
     row.id = m_id;
