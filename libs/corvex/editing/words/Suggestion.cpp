@@ -15,18 +15,24 @@ using Common::LocalizationHelper;
 
 namespace {
 
-//! The edit distance: the number of letters to insert, remove or replace.
-qsizetype distance(QStringView a, QStringView b)
+//! The edit distance: the number of letters to insert, remove or replace. Gives up at \a limit. \a row is
+//! working memory.
+qsizetype distance(QStringView a, QStringView b, qsizetype limit, std::vector<qsizetype> &row)
 {
-    std::vector<qsizetype> row(size_t(b.size()) + 1);
+    row.resize(size_t(b.size()) + 1);
     std::iota(row.begin(), row.end(), 0);
     for (qsizetype i = 0; i < a.size(); ++i) {
         qsizetype diagonal = std::exchange(row[0], i + 1);
+        qsizetype least = row[0];
         for (qsizetype j = 0; j < b.size(); ++j) {
             const auto at = size_t(j) + 1;
-            const qsizetype changed = diagonal + (a.at(i) == b.at(j) ? 0 : 1);
+            const qsizetype changed = diagonal + (a.at(i) == b.at(j).toLower() ? 0 : 1);
             diagonal = row[at];
             row[at] = std::min({changed, row[at] + 1, row[at - 1] + 1});
+            least = std::min(least, row[at]);
+        }
+        if (least >= limit) {
+            return limit;
         }
     }
     return row.back();
@@ -39,11 +45,13 @@ QString Suggestion::nearest(const QString &text, const QStringList &names)
     constexpr qsizetype mostSlips = 4;
     qsizetype least = std::clamp<qsizetype>(text.size() / 2, 1, mostSlips) + 1;
     QString found;
+    std::vector<qsizetype> row;
+    const QString lower = text.toLower();
     for (const QString &name : names) {
         if (name == text || std::abs(text.size() - name.size()) >= least) {
             continue;
         }
-        const qsizetype between = distance(text.toLower(), name.toLower());
+        const qsizetype between = distance(lower, name, least, row);
         if (between < least) {
             least = between;
             found = name;
