@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/core/properties/ExpressionProperties.h"
-#include "corvex/editors/TermTableEditor.h"
+#include "corvex/editors/CANVariableEditor.h"
 #include "corvex/widgets/CellTable.h"
 #include "corvex/widgets/KdLineEdit.h"
 #include "corvex/widgets/KdTableView.h"
+#include "corvex/widgets/SearchLine.h"
 
 #include "EditorFixture.h"
 
 #include <QClipboard>
+#include <QDialog>
+#include <QLabel>
 
 using namespace Qt::StringLiterals;
 
@@ -111,6 +114,50 @@ TEST_F(TermTableEditorTest, ACanVariableHasItsGroupAndItsParameters)
     EXPECT_TRUE(value(object, "parameterMap").startsWith(u"<0204F004>"_s));
     type(u"300000"_s);
     EXPECT_TRUE(editor->errorString().contains(u"0 to 262143"_s)) << qPrintable(editor->errorString());
+}
+
+TEST_F(TermTableEditorTest, AMessageOfACanDatabaseBecomesOneStep)
+{
+    KdTableView *view = open("CANVariable", "engine", "parameterMap");
+    auto *can = qobject_cast<CANVariableEditor *>(editor);
+    ASSERT_TRUE(can);
+    const QString path = folder.filePath(u"engine.dbc"_s);
+    can->importFrom(path);
+    EXPECT_TRUE(editor->errorString().contains(path)) << qPrintable(editor->errorString());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("BO_ 100 Short: 8 X\n"
+               "BO_ 2365193470 EngineTemperature: 8 X\n SG_ Coolant : 0|8@1+ (1,-40) [-40|210] \"deg\" X\n"
+               "BO_ 2364540158 EEC1: 8 X\n SG_ Speed : 24|16@1+ (0.125,0) [0|8031.875] \"rpm\" X\n"
+               " SG_ Torque : 16|8@1- (1,0) [0|1] \"\" X\nBA_ \"SPN\" SG_ 2364540158 Speed 190;\n");
+    file.close();
+    const QString before = text();
+    can->importFrom(path);
+    auto *dialog = editor->findChild<QDialog *>();
+    ASSERT_TRUE(dialog);
+    QApplication::setActiveWindow(dialog);
+    auto *search = dialog->findChild<SearchLine *>();
+    const auto *note = dialog->findChild<QLabel *>(u"note"_s);
+    QTest::keyClick(search, Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible()) << "a message that cannot be used";
+    EXPECT_TRUE(note->text().contains(u"11 bits"_s)) << qPrintable(note->text());
+    QTest::keyClicks(search, u"190"_s);
+    EXPECT_TRUE(note->text().contains(u"1 of 2 signals"_s)) << qPrintable(note->text());
+    QTest::keyClick(search, Qt::Key_Return);
+    EXPECT_EQ(table(view)->rowCount(), 1);
+    EXPECT_EQ(table(view)->index(0, 4).data().toString(), u"16"_s);
+    EXPECT_TRUE(value(object, "parameterMap").startsWith(u"<0204F004><02043><02040><0204BE>"_s));
+    EXPECT_TRUE(editor->row().error.isEmpty()) << qPrintable(editor->row().error);
+    ASSERT_TRUE(document->undo());
+    EXPECT_EQ(text(), before);
+    ASSERT_TRUE(document->redo());
+
+    open("CANVariable", "other", "parameterMap");
+    static_cast<CANVariableEditor *>(editor)->importFrom(path);
+    dialog = editor->findChildren<QDialog *>().constLast();
+    QTest::keyClicks(dialog->findChild<SearchLine *>(), u"eec1"_s);
+    note = dialog->findChild<QLabel *>(u"note"_s);
+    EXPECT_TRUE(note->text().contains(u"61444 is also in engine"_s)) << qPrintable(note->text());
 }
 
 TEST_F(TermTableEditorTest, BACnetPropertiesHaveNamesNumbersAndConstants)

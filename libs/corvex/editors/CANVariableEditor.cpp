@@ -2,12 +2,19 @@
 #include "corvex/editors/CANVariableEditor.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/common/files/FileHelper.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/editors/private/CanBitsView.h"
+#include "corvex/editors/private/DbcDialog.h"
 #include "corvex/editors/private/TermTable.h"
+#include "corvex/project/Project.h"
+#include "corvex/variables/CANVariable.h"
 #include "corvex/widgets/KdLineEdit.h"
 #include "corvex/widgets/Theme.h"
 
+#include <QFileDialog>
 #include <QFormLayout>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +31,9 @@ constexpr int dataBits = 64;
 //! The columns that the picture shows.
 enum Column { SpnColumn, UnitColumn, ByteColumn, BitColumn, LengthColumn };
 
-//! A number of the group, in the order of its terms.
+//! The numbers of the group, in the order of its terms.
+enum Place { PgnPlace, PriorityPlace, SourcePlace };
+
 struct HeadField
 {
     const char *title;
@@ -88,6 +97,10 @@ void CANVariableEditor::createMore(QVBoxLayout *layout)
         form->addRow(title, m_head.constLast());
     }
     layout->insertLayout(1, form);
+    auto *import = new QPushButton(LocalizationHelper::coreString(u"Import…"_s));
+    import->setToolTip(LocalizationHelper::coreString(u"Take a message of a CAN database (DBC)"_s));
+    connect(import, &QPushButton::clicked, this, &CANVariableEditor::chooseFile);
+    addTool(import);
     m_bits = new CanBitsView(this);
     m_bits->setAccessibleName(LocalizationHelper::coreString(u"Data bytes"_s));
     layout->addWidget(m_bits);
@@ -135,6 +148,65 @@ QHash<int, QString> CANVariableEditor::conflicts() const
         }
     }
     return conflicts;
+}
+
+void CANVariableEditor::chooseFile()
+{
+    auto *dialog = new QFileDialog(this, LocalizationHelper::coreString(u"Import from a CAN Database"_s));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters({LocalizationHelper::coreString(u"CAN databases (*.dbc *.DBC)"_s),
+                            LocalizationHelper::coreString(u"All files (*)"_s)});
+    connect(dialog, &QFileDialog::fileSelected, this, &CANVariableEditor::importFrom);
+    dialog->open();
+}
+
+void CANVariableEditor::importFrom(const QString &file)
+{
+    QByteArray bytes;
+    if (QString error; !Common::FileHelper::readFile(file, &bytes, &error)) {
+        refuse(error);
+        return;
+    }
+    const DbcFile database(bytes);
+    if (database.messages().isEmpty()) {
+        refuse(
+            LocalizationHelper::coreString(
+                u"%1 has no messages. Choose a CAN database: a text file with lines such as \"BO_ 2364540158 "
+                "EEC1: 8 Engine\"."_s)
+                .arg(file));
+        return;
+    }
+    auto *dialog = new DbcDialog(
+        database, [this](int pgn) { return othersWith(pgn); }, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        if (const DbcMessage *message = dialog->message()) {
+            enterTerms(message->toMap(table()->headTerm(SourcePlace).value().toInt()).toTerms());
+        }
+    });
+    if (sheet()) { // for other objects it would be wrong
+        connect(sheet(), &PropertySheet::modelAboutToBeReset, dialog, &QDialog::reject);
+    }
+    dialog->open();
+}
+
+QStringList CANVariableEditor::othersWith(int pgn) const
+{
+    const QList<SharedProperty> all = properties();
+    const DesignerObject *own = all.isEmpty() ? nullptr : all.constFirst()->parentObject();
+    QStringList names;
+    if (own && own->project()) {
+        for (const DesignerObject *other :
+             own->project()->getListItemsInListPropertyOfType(u"variables"_s, CANVariable::kindName())) {
+            const auto terms =
+                valueAs<GeneralDataListProperty>(static_cast<const CANVariable *>(other)->parameterMap());
+            if (other != own && terms.count() > 0 && terms.at(PgnPlace).value().toInt() == pgn) {
+                names.append(other->getIdName());
+            }
+        }
+    }
+    return names;
 }
 
 PropertyEditor::Entry CANVariableEditor::entryFor(const DesignerProperty &property) const

@@ -8,13 +8,18 @@ namespace Halvane::Corvex::Designer {
 class CanBitsView;
 
 //! A J1939 parameter group: its number, priority and source address, the table of its parameters, and the
-//! eight data bytes as a picture in which overlapping bits are red.
+//! eight data bytes as a picture in which overlapping bits are red. A message of a CAN database can replace
+//! it.
 class CORVEX_EXPORT CANVariableEditor : public TermTableEditor
 {
     Q_OBJECT
 
 public:
     using TermTableEditor::TermTableEditor;
+
+    //! Lets the user choose a message of a CAN database (DBC), which becomes one entry. Shows the reason if
+    //! the file cannot be used.
+    void importFrom(const QString &file);
 
 protected:
     const std::vector<TermColumn> &columns() const override;
@@ -25,6 +30,10 @@ protected:
     Entry entryFor(const DesignerProperty &property) const override;
 
 private:
+    void chooseFile();
+    //! The other variables with the parameter group.
+    QStringList othersWith(int pgn) const;
+
     QList<KdLineEdit *> m_head;
     CanBitsView *m_bits = nullptr;
 };

@@ -44,18 +44,16 @@ void TermTableEditor::createFields()
     auto *tools = new QHBoxLayout(m_tools);
     tools->setContentsMargins(0, 0, 0, 0);
     tools->setSpacing(Theme::gap);
-    const auto addTool = [&](const QString &text, const QString &key, void (KdTableView::*action)()) {
+    tools->addStretch(1);
+    const auto addAction = [&](const QString &text, const QString &key, void (KdTableView::*action)()) {
         auto *button = new QPushButton(LocalizationHelper::coreString(text));
         button->setToolTip(LocalizationHelper::coreString(u"Key: %1"_s).arg(key));
-        button->setAccessibleName(row().title + u", "_s + button->text());
-        button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, m_view, action);
-        tools->addWidget(button);
+        addTool(button);
     };
-    addTool(u"Add"_s, u"Insert"_s, &KdTableView::addRow);
-    addTool(u"Delete"_s, u"Delete"_s, &KdTableView::deleteSelectedRows);
-    addTool(u"Fill Down"_s, u"Ctrl+D"_s, &KdTableView::fillDown);
-    tools->addStretch(1);
+    addAction(u"Add"_s, u"Insert"_s, &KdTableView::addRow);
+    addAction(u"Delete"_s, u"Delete"_s, &KdTableView::deleteSelectedRows);
+    addAction(u"Fill Down"_s, u"Ctrl+D"_s, &KdTableView::fillDown);
     layout->addWidget(m_tools);
     createMore(layout);
 
@@ -86,6 +84,20 @@ void TermTableEditor::showRow()
 PropertyEditor::Entry TermTableEditor::entryFor(const DesignerProperty &) const
 {
     return {m_table->terms().toString(), m_table->error()};
+}
+
+void TermTableEditor::addTool(QPushButton *button)
+{
+    button->setAccessibleName(row().title + u", "_s + button->text());
+    button->setAutoDefault(false);
+    auto *tools = static_cast<QHBoxLayout *>(m_tools->layout());
+    tools->insertWidget(tools->count() - 1, button); // before the stretch
+}
+
+void TermTableEditor::enterTerms(const GeneralDataList &terms)
+{
+    m_table->setTerms(terms);
+    emit m_table->entered();
 }
 
 void TermTableEditor::createMore(QVBoxLayout *) { }

@@ -5,10 +5,12 @@
 
 #include <vector>
 
+class QPushButton;
 class QVBoxLayout;
 
 namespace Halvane::Corvex::Designer {
 
+class GeneralDataList;
 class KdTableView;
 class TermTable;
 struct TermColumn;
@@ -36,6 +38,10 @@ protected:
     virtual QHash<int, QString> conflicts() const;
 
     TermTable *table() const { return m_table; }
+    //! Buttons beneath the table.
+    void addTool(QPushButton *button);
+    //! Replaces all terms, as one entry.
+    void enterTerms(const GeneralDataList &terms);
 
     void createFields() override;
     void showRow() override;
