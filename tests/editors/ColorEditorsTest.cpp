@@ -211,6 +211,7 @@ TEST_F(ColorEditorsTest, TextThatIsHardToReadHasAHint)
         set(object, id, to);
         document->select({label}); // an edit selects what it changed
         editor = panel->reveal(u"color"_s);
+        QApplication::processEvents();
         EXPECT_EQ(hint(editor).isEmpty(), expected.isEmpty()) << id << ' ' << qPrintable(to);
         EXPECT_TRUE(hint(editor).contains(expected)) << qPrintable(hint(editor));
     }

@@ -71,7 +71,16 @@ void ColorEditor::showRow()
     colorEdit()->line()->setPlaceholderText(row().isMixed ? mixedText() : QString());
     colorEdit()->setColor(isMixed ? QColor() : ValueConversion::toColor(row().value),
                           isMixed ? QString() : ReadableValue::print(*all.constFirst(), row().value));
-    showContrast();
+    if (all.size() == 1 && parameter("isTextColor").toBool()) {
+        if (!m_watch) {
+            m_watch = new ModelWatch(&TextContrast::dependsOn, this);
+            connect(m_watch, &ModelWatch::changed, this, &ColorEditor::showContrast);
+        }
+        m_watch->follow(all.constFirst()->parentObject()->project());
+        m_watch->report(); // looking at all elements of the screen must not delay the panel
+    } else {
+        setHint({}, Hint::Warning);
+    }
 }
 
 void ColorEditor::showContrast()
@@ -79,13 +88,7 @@ void ColorEditor::showContrast()
     const QList<SharedProperty> all = properties();
     std::optional<double> contrast;
     if (all.size() == 1 && parameter("isTextColor").toBool()) {
-        const DesignerObject *text = all.constFirst()->parentObject();
-        if (!m_watch) {
-            m_watch = new ModelWatch(&TextContrast::dependsOn, this);
-            connect(m_watch, &ModelWatch::changed, this, &ColorEditor::showContrast);
-        }
-        m_watch->follow(text->project());
-        contrast = TextContrast::of(*text, ValueConversion::toColor(row().value));
+        contrast = TextContrast::of(*all.constFirst()->parentObject(), ValueConversion::toColor(row().value));
     }
     const bool isLow = contrast && *contrast < TextContrast::enough;
     setHint(isLow

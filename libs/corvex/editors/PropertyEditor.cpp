@@ -150,8 +150,13 @@ void PropertyEditor::updateAccess()
 
 void PropertyEditor::updateAccess(const Field &field, const QString &description) const
 {
-    field.widget->setAccessibleName(field.part.isEmpty() ? m_row.title : m_row.title + u", "_s + field.part);
-    field.widget->setAccessibleDescription(description);
+    const QString name = field.part.isEmpty() ? m_row.title : m_row.title + u", "_s + field.part;
+    if (field.widget->accessibleName() != name) { // setting it informs screen readers
+        field.widget->setAccessibleName(name);
+    }
+    if (field.widget->accessibleDescription() != description) {
+        field.widget->setAccessibleDescription(description);
+    }
     if (auto *line = qobject_cast<QLineEdit *>(field.widget)) {
         line->setReadOnly(m_row.isReadOnly); // so that the text can be copied
     } else if (auto *text = qobject_cast<QPlainTextEdit *>(field.widget)) {

@@ -5,15 +5,21 @@
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QStyleOptionComboBox>
+
+#include <algorithm>
 
 namespace Halvane::Corvex::Designer {
+
+namespace {
+
+constexpr int fewestLetters = 4;
+
+} // namespace
 
 KdComboBox::KdComboBox(QWidget *parent)
     : QComboBox(parent)
 {
-    // A long item must not widen the panel.
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(4);
     const auto describe = [this] { AccessibleValue::set(this, currentText(), QAccessible::ComboBox); };
     describe(); // Qt passes the text as the name
     connect(this, &QComboBox::currentIndexChanged, this, describe);
@@ -24,6 +30,17 @@ KdComboBox::KdComboBox(QWidget *parent)
             emit chosen(index);
         }
     });
+}
+
+//! Not setSizeAdjustPolicy(), which creates the list that opens: a panel has many boxes.
+QSize KdComboBox::sizeHint() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QSize icon = iconSize() + QSize(4, 2);
+    const QSize contents(fewestLetters * fontMetrics().horizontalAdvance(u'X') + icon.width(),
+                         std::max(fontMetrics().height() + 2, icon.height()));
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
 }
 
 void KdComboBox::keyPressEvent(QKeyEvent *event)

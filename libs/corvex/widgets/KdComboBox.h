@@ -16,6 +16,10 @@ class CORVEX_EXPORT KdComboBox : public QComboBox
 public:
     explicit KdComboBox(QWidget *parent = nullptr);
 
+    //! A long item does not widen the panel.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
 signals:
     //! The user has chosen an item from the list, even if it is the same.
     void chosen(int index);

@@ -27,6 +27,8 @@ public:
 
     //! Follows that project from now on.
     void follow(Project *project);
+    //! Reports a change, like one of the project.
+    void report();
 
 signals:
     void changed();
@@ -36,8 +38,6 @@ private:
     void inserted(const SharedProperty &list, qsizetype index, DesignerObject *object) override;
     void removed(const SharedProperty &list, qsizetype index, DesignerObject *object) override;
     void projectAboutToBeDestroyed() override;
-
-    void report();
 
     Filter m_concerns;
     Project *m_project = nullptr; //!< only compared

@@ -40,11 +40,6 @@ PanelRow::PanelRow(PropertySheet &sheet, const SheetRow &row, QWidget *parent)
     , m_editor(Editors::createFor(row, this))
 {
     m_title = new RowTitle(m_editor, this);
-    m_reset = new QToolButton(this);
-    m_reset->setAutoRaise(true);
-    m_reset->setIcon(IconSet::icon(IconSet::Reset));
-    m_reset->setFocusPolicy(Qt::NoFocus);
-    connect(m_reset, &QToolButton::clicked, this, &PanelRow::resetRequested);
     connect(m_editor, &PropertyEditor::heightChanged, this, &PanelRow::heightChanged);
     m_editor->setProperty(&sheet, row.id);
     showRow(row);
@@ -62,10 +57,33 @@ void PanelRow::showRow(const SheetRow &row)
     m_title->setToolTip(Qt::mightBeRichText(row.description) ? row.description
                         : row.description.isEmpty()          ? row.title
                                                              : row.title + u'\n' + row.description);
-    m_reset->setVisible(!row.isDefault && !row.isReadOnly);
-    const QString reset = LocalizationHelper::coreString(u"Reset \"%1\" to its default"_s).arg(row.title);
-    m_reset->setToolTip(reset);
-    m_reset->setAccessibleName(reset);
+    if (!row.isDefault && !row.isReadOnly) {
+        showReset(LocalizationHelper::coreString(u"Reset \"%1\" to its default"_s).arg(row.title));
+    } else if (m_reset) {
+        m_reset->hide();
+    }
+}
+
+void PanelRow::showReset(const QString &text)
+{
+    if (!m_reset) {
+        m_reset = new QToolButton(this);
+        m_reset->setAutoRaise(true);
+        m_reset->setIcon(IconSet::icon(IconSet::Reset));
+        m_reset->setFocusPolicy(Qt::NoFocus);
+        connect(m_reset, &QToolButton::clicked, this, &PanelRow::resetRequested);
+        placeReset();
+    }
+    m_reset->setToolTip(text);
+    m_reset->setAccessibleName(text);
+    m_reset->show();
+}
+
+void PanelRow::placeReset()
+{
+    if (m_reset) {
+        m_reset->setGeometry(width() - Theme::margin - resetWidth, 0, resetWidth, Theme::fieldHeight(this));
+    }
 }
 
 int PanelRow::titleWidth(int width)
@@ -90,7 +108,7 @@ void PanelRow::resizeEvent(QResizeEvent *)
     const int line = Theme::fieldHeight(this);
     const int left = titleWidth(width());
     const int right = width() - Theme::margin - resetWidth;
-    m_reset->setGeometry(right, 0, resetWidth, line);
+    placeReset();
     if (m_editor->isWide()) {
         m_title->setGeometry(Theme::margin, 0, right - Theme::margin, line);
         m_editor->setGeometry(Theme::margin, line, width() - 2 * Theme::margin, height() - line - Theme::gap);

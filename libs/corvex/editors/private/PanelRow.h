@@ -39,12 +39,15 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
+    void showReset(const QString &text);
+    void placeReset();
+
     PropertySheet &m_sheet;
     QString m_editorName;
     QString m_kind;
     RowTitle *m_title;
     PropertyEditor *m_editor;
-    QToolButton *m_reset;
+    QToolButton *m_reset = nullptr; //!< created with the first value that is not the default
 };
 
 //! The header of a group in a property panel. A click opens or closes the group.

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -74,12 +75,20 @@ public:
     //! Paints the elements of the list in the order of their layers. Returns whether the text was reached.
     bool paint(const SharedProperty &list, const QPointF &point)
     {
-        QList<DesignerObject *> elements = list->listItems();
-        std::ranges::stable_sort(elements, {},
-                                 [](const DesignerObject *element) { return realOf(*element, u"z", 0); });
-        return std::ranges::any_of(elements, [&](const DesignerObject *element) {
+        // A screen may have many elements; only a few are at the point.
+        std::vector<Layer> layers;
+        for (const DesignerObject *element : list->listItems()) {
             const auto *visual = kindCast<VisualElement>(element);
-            return element == &m_text || (visual && paintElement(*visual, point));
+            const bool isReached = element == &m_text || kindCast<GroupElement>(element)
+                                   || (visual && visual->boundingRect().contains(point));
+            if (isReached) {
+                layers.push_back({realOf(*element, u"z", 0), element});
+            }
+        }
+        std::ranges::stable_sort(layers, {}, &Layer::z);
+        return std::ranges::any_of(layers, [&](const Layer &layer) {
+            const auto *visual = kindCast<VisualElement>(layer.element);
+            return layer.element == &m_text || (visual && paintElement(*visual, point));
         });
     }
 
@@ -87,6 +96,13 @@ public:
     const std::optional<QColor> &color() const { return m_color; }
 
 private:
+    struct Layer
+    {
+        double z;
+        const DesignerObject *element;
+    };
+
+    //! An element at the point, or a group.
     bool paintElement(const VisualElement &element, const QPointF &point)
     {
         if (const auto *group = kindCast<GroupElement>(&element)) {
@@ -94,7 +110,7 @@ private:
         }
         const SharedProperty fill = element.getProperty(u"color");
         const bool isText = fill && fill->editorParameters().value(u"isTextColor"_s).toBool();
-        if (!isText && isVisible(element) && element.boundingRect().contains(point)) {
+        if (!isText && isVisible(element)) {
             const auto *color = propertyCast<ColorProperty>(fill);
             const SharedProperty binding = element.getProperty(u"colorBinding");
             if (!color || (binding && !binding->valueString().isEmpty())) {
