@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/document/LiveValues.h"
 #include "corvex/editors/ExpressionEditors.h"
 #include "corvex/editors/expressions/ExpressionDialog.h"
+#include "corvex/preview/PreviewSession.h"
 
 #include "EditorFixture.h"
 
@@ -94,6 +96,46 @@ TEST_F(ExpressionEditorTest, TheValueFollowsTheVariable)
     ASSERT_TRUE(push(Commands::changeOf({{speed()->getProperty(u"value"_s), u"7"_s}})));
     QApplication::processEvents();
     EXPECT_EQ(result(editor), u"= 8 (number)"_s);
+}
+
+TEST_F(ExpressionEditorTest, TheValuesOfARunningPreviewAreShown)
+{
+    const auto build = document->build();
+    ASSERT_TRUE(build);
+    QSignalSpy finished(build.get(), &Common::Job::finished);
+    ASSERT_TRUE(finished.wait());
+    const auto running = build->takeResult();
+    ASSERT_TRUE(running) << qPrintable(build->errorString());
+    Preview::PreviewSession session;
+    QString problem;
+    ASSERT_TRUE(session.open(**running, &problem)) << qPrintable(problem);
+    LiveValues &live = LiveValues::of(document->project());
+    QObject::connect(&session, &Preview::PreviewSession::valueChanged, &live, &LiveValues::changed);
+
+    PropertyEditor *editor = edit({element("rectangle1")}, "xBinding");
+    type(u"speed + rectangle2.width"_s);
+    ExpressionBuilder builder(element("rectangle1")->getProperty(u"xBinding"_s));
+    builder.setText(u"speed + rectangle2.width"_s);
+    const auto expectBoth = [&](double sum, const char *when) {
+        QApplication::processEvents();
+        EXPECT_EQ(result(editor), u"= %1 (number)"_s.arg(sum)) << when;
+        EXPECT_EQ(result(&builder), u"= %1 (number)"_s.arg(sum)) << when;
+    };
+    const double width = session.find(u"Main.rectangle2")->property("width").toDouble();
+    expectBoth(width, "from the project");
+    live.setReader([&session](const QString &name) { return session.valueOf(name); });
+    session.panel().variables().find(u"speed"_s)->setValue(5);
+    expectBoth(width + 5, "a variable");
+    session.find(u"Main.rectangle2")->setProperty("width", 77);
+    expectBoth(82, "a property");
+    ASSERT_TRUE(session.showScreen(u"Other"_s));
+    expectBoth(width + 5, "the element is on another screen");
+    QAbstractItemModel *values = builder.findChildren<QTableView *>().constLast()->model();
+    ASSERT_TRUE(values->setData(values->index(0, 2), u"1"_s));
+    EXPECT_EQ(result(&builder), u"= %1 (number)"_s.arg(width + 1)) << "an entered value";
+    ASSERT_TRUE(values->setData(values->index(0, 2), QString()));
+    live.setReader({});
+    expectBoth(width, "the preview has ended");
 }
 
 TEST_F(ExpressionEditorTest, AWrongTextStaysWithItsErrorUntilEscape)
@@ -225,6 +267,18 @@ TEST_F(ExpressionEditorTest, TextAndTermsAreTwoViewsAndNothingIsLostBetweenThem)
     EXPECT_EQ(builder.stored(), u"<0406speed><0101+><02045>"_s);
     ASSERT_TRUE(builder.showAsText(true));
     EXPECT_EQ(builder.text(), u"speed + 5"_s);
+
+    builder.setText(u"speed+\n5"_s);
+    ASSERT_TRUE(builder.showAsText(false));
+    ASSERT_TRUE(builder.showAsText(true));
+    EXPECT_EQ(builder.text(), u"speed+\n5"_s) << "the form of the user";
+    ASSERT_TRUE(builder.showAsText(false));
+    QTest::keyClick(terms, Qt::Key_Down);
+    QTest::keyClick(terms, Qt::Key_Delete);
+    ASSERT_TRUE(builder.showAsText(true));
+    EXPECT_EQ(builder.text(), u"speed 5"_s);
+    QTest::keyClick(builder.findChild<QPlainTextEdit *>(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(builder.text(), u"speed+\n5"_s);
 
     builder.setText(u"speed + sped"_s);
     EXPECT_FALSE(builder.showAsText(false));

@@ -4,6 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/ModelObserver.h"
 #include "corvex/core/ModelObservers.h"
+#include "corvex/document/LiveValues.h"
 #include "corvex/editing/words/ReadableValue.h"
 #include "corvex/editors/changes/RulesDialog.h"
 #include "corvex/editors/expressions/ExpressionBuilder.h"
@@ -31,24 +32,37 @@ class ExpressionEditor::Watch : public ModelObserver
 {
 public:
     explicit Watch(ExpressionEditor &editor)
-        : m_editor(editor)
-    { }
+    {
+        // Many values may change at once.
+        m_refresh.setSingleShot(true);
+        QObject::connect(&m_refresh, &QTimer::timeout, &editor, &ExpressionEditor::showResult);
+    }
 
-    void follow(Project *project, const GeneralDataList &terms)
+    void follow(const ExpressionScope &scope, const GeneralDataList &terms)
     {
         m_names.clear();
+        m_live.clear();
         for (const GeneralDataInfo &term : terms) {
             if (const QString name = term.objectName(); !name.isEmpty()) {
                 m_names.insert(name.section(u'.', -1));
+                m_live.insert(scope.liveNameOf(term));
             }
         }
+        Project *project = scope.owner() && !m_names.isEmpty() ? scope.owner()->project() : nullptr;
         if (m_project != project) {
             if (m_project) {
                 m_project->observers().remove(this);
             }
             m_project = project;
+            QObject::disconnect(m_changes);
             if (project) {
                 project->observers().add(this);
+                m_changes = QObject::connect(&LiveValues::of(*project), &LiveValues::changed, &m_refresh,
+                                             [this](const QString &name) {
+                                                 if (name.isEmpty() || m_live.contains(name)) {
+                                                     m_refresh.start();
+                                                 }
+                                             });
             }
         }
     }
@@ -58,13 +72,15 @@ private:
     {
         const DesignerObject *owner = m_names.isEmpty() ? nullptr : property->parentObject();
         if (owner && m_names.contains(owner->getIdName())) {
-            QTimer::singleShot(0, &m_editor, &ExpressionEditor::showResult);
+            m_refresh.start();
         }
     }
 
-    ExpressionEditor &m_editor;
     QPointer<Project> m_project;
-    QSet<QString> m_names;
+    QSet<QString> m_names; //!< of variables and elements
+    QSet<QString> m_live;  //!< in LiveValues
+    QMetaObject::Connection m_changes;
+    QTimer m_refresh;
 };
 
 ExpressionEditor::ExpressionEditor(QWidget *parent)
@@ -139,7 +155,7 @@ void ExpressionEditor::showResult()
         shown =
             m_calculator->valueOf(scope, terms, purpose).described(ExpressionScope::typeOf(purpose, terms));
     }
-    m_watch->follow(shown.isEmpty() || !scope.owner() ? nullptr : scope.owner()->project(), terms);
+    m_watch->follow(scope, shown.isEmpty() ? GeneralDataList() : terms);
     setHint(shown);
 }
 

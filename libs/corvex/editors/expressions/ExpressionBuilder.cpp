@@ -19,6 +19,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTableView>
+#include <QTimer>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -69,6 +70,7 @@ struct ExpressionBuilder::State
     ExpressionScope::Reading reading; //!< of the text or the terms
     QString refusal;                  //!< of another view
     std::optional<ExpressionFix> fix;
+    QTimer refresh; //!< of the values
 };
 
 ExpressionBuilder::ExpressionBuilder(const SharedProperty &property, QWidget *parent)
@@ -94,6 +96,12 @@ ExpressionBuilder::ExpressionBuilder(std::unique_ptr<State> state, QWidget *pare
     static_cast<QVBoxLayout *>(layout())->addLayout(lower, 2);
     setFocusProxy(m_edit);
     onChanged();
+    if (LiveValues *values = m_state->scope.liveValues()) {
+        // Many values may change at once.
+        m_state->refresh.setSingleShot(true);
+        connect(&m_state->refresh, &QTimer::timeout, this, &ExpressionBuilder::showValues);
+        connect(values, &LiveValues::changed, &m_state->refresh, qOverload<>(&QTimer::start));
+    }
 }
 
 ExpressionBuilder::~ExpressionBuilder() = default;
@@ -198,8 +206,9 @@ QWidget *ExpressionBuilder::createTestValues()
     table->horizontalHeader()->resizeSection(TestValues::TypeColumn, 70);
     table->setMinimumHeight(5 * Theme::fieldHeight(this));
     table->setAccessibleName(LocalizationHelper::coreString(u"Test values"_s));
-    connect(m_values, &TestValues::valueEntered, this, &ExpressionBuilder::showPart);
-    lines->addWidget(heading(LocalizationHelper::coreString(u"Try it with these values"_s), this));
+    connect(m_values, &TestValues::valueEntered, this, &ExpressionBuilder::showValues);
+    m_valuesTitle = heading({}, this);
+    lines->addWidget(m_valuesTitle);
     lines->addWidget(table);
     return widget;
 }
@@ -312,14 +321,19 @@ bool ExpressionBuilder::showAsText(bool isText)
         const QString text = m_state->scope.print(terms.toString());
         if (text.isNull()) {
             const qsizetype term = m_state->scope.firstUnreadable(terms);
-            refuse(term < 0
-                       ? LocalizationHelper::coreString(u"These terms have no readable form in this order."_s)
-                       : LocalizationHelper::coreString(u"Term %1, \"%2\", has no readable form. Change or "
-                                                        "remove it first."_s)
-                             .arg(QString::number(term + 1), TermsModel::described(terms.at(term))));
+            refuse(
+                term < 0
+                    ? LocalizationHelper::coreString(u"These terms have no readable form in this order. "_s)
+                          + errorString()
+                    : LocalizationHelper::coreString(u"Term %1, \"%2\", has no readable form. Change or "
+                                                     "remove it first."_s)
+                          .arg(QString::number(term + 1), TermsModel::described(terms.at(term))));
             return false;
         }
-        m_edit->setShownText(text);
+        // The user's own form remains if its terms are the same; otherwise Ctrl+Z restores it.
+        if (terms != m_state->scope.read(m_edit->toPlainText()).terms) {
+            m_edit->replaceText(0, m_edit->toPlainText().size(), text);
+        }
         m_pages->setCurrentWidget(m_edit);
     }
     m_asText->setChecked(isText);
@@ -363,8 +377,18 @@ void ExpressionBuilder::onChanged()
     m_code->setPlainText(state.reading.error ? QString() : state.scope.codeOf(state.reading.terms));
     showProblem();
     showCall();
-    showPart();
+    showValues();
     emit changed();
+}
+
+//! The values and what follows from them.
+void ExpressionBuilder::showValues()
+{
+    m_values->refresh();
+    m_valuesTitle->setText(LocalizationHelper::coreString(
+        m_values->isLive() ? u"Values of the running project, or what you enter"_s
+                           : u"Try it with these values"_s));
+    showPart();
 }
 
 void ExpressionBuilder::showProblem()
@@ -395,7 +419,7 @@ void ExpressionBuilder::showCall()
     m_call->setVisible(function);
 }
 
-//! The selected part, the name at the cursor, or the whole expression: its type and value.
+//! The selected part or the whole expression: its type and value.
 void ExpressionBuilder::showPart()
 {
     const ExpressionScope &scope = m_state->scope;

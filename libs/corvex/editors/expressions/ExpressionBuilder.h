@@ -27,6 +27,7 @@ struct ExpressionFix;
 
 /*! Edits an expression as text or as a list of its terms. Beneath it are what is wrong with it and how to
     correct that, the type and value of the selected part, values to try it with, and the code for the device.
+    The values are those of the running project (LiveValues), if there are any, or else those of the project.
 
     The builder changes nothing: its owner reads stored() or text().
 */
@@ -72,6 +73,7 @@ private:
     void showProblem();
     void showCall();
     void showPart();
+    void showValues();
     void refuse(const QString &reason);
     void applyFix();
 
@@ -85,6 +87,7 @@ private:
     QLabel *m_problem = nullptr;
     QPushButton *m_fix = nullptr;
     TestValues *m_values = nullptr;
+    QLabel *m_valuesTitle = nullptr;
     QLabel *m_partText = nullptr;
     QLabel *m_partValue = nullptr;
     QPlainTextEdit *m_code = nullptr;

@@ -247,10 +247,37 @@ const DesignerObject *ExpressionScope::elementNamed(const QString &path) const
                : nullptr;
 }
 
+LiveValues *ExpressionScope::liveValues() const
+{
+    return isValid() ? &LiveValues::of(*m_owner->project()) : nullptr;
+}
+
+QString ExpressionScope::liveNameOf(const GeneralDataInfo &term) const
+{
+    if (term.valueType() != Info::ObjectValue) {
+        return term.valueType() == Info::VariableValue ? term.value() : QString();
+    }
+    const DesignerObject *element = elementNamed(term.objectName());
+    const Screen *screen = element ? element->screen() : nullptr;
+    return screen ? u"%1.%2.%3"_s.arg(screen->getIdName(), element->getIdName(),
+                                      ObjectPath::lastSegment(term.value()))
+                  : QString();
+}
+
+std::optional<QString> ExpressionScope::liveValueOf(const GeneralDataInfo &term) const
+{
+    const LiveValues *values = liveValues();
+    const QString name = values && values->hasReader() ? liveNameOf(term) : QString();
+    return name.isEmpty() ? std::nullopt : values->valueOf(name);
+}
+
 QString ExpressionScope::valueOf(const GeneralDataInfo &term) const
 {
     if (!isValid()) {
         return {};
+    }
+    if (const std::optional<QString> live = liveValueOf(term)) {
+        return *live;
     }
     if (term.valueType() == Info::VariableValue) {
         const DesignerObject *item = m_owner->project()->variables()->getListItem(term.value());

@@ -3,6 +3,7 @@
 
 #include "corvex/core/DesignerObject.h"
 #include "corvex/core/DesignerProperty.h"
+#include "corvex/document/LiveValues.h"
 #include "corvex/project/ProjectNames.h"
 
 #include <QPointer>
@@ -57,8 +58,15 @@ public:
 
     std::optional<GeneralDataInfo> find(const QString &path) const;
     const DesignerObject *owner() const { return m_owner; }
-    //! The value of a variable or property of an element in the project; a null text if it has none.
+    //! The value of a variable or property of an element: of the running project, or else in the project; a
+    //! null text if it has none.
     QString valueOf(const GeneralDataInfo &term) const;
+    //! Whether that is a value of the running project.
+    bool isLive(const GeneralDataInfo &term) const { return liveValueOf(term).has_value(); }
+    //! The name of the variable or property in LiveValues; empty for other terms.
+    QString liveNameOf(const GeneralDataInfo &term) const;
+    //! Null without a project.
+    LiveValues *liveValues() const;
     //! The element with that name, which begins with the screen if the expression is not on a screen.
     const DesignerObject *elementNamed(const QString &path) const;
 
@@ -74,6 +82,7 @@ public:
 
 private:
     ProjectNames names() const;
+    std::optional<QString> liveValueOf(const GeneralDataInfo &term) const;
 
     SharedProperty m_property;
     QPointer<DesignerObject> m_owner;

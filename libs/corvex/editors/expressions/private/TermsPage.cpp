@@ -74,6 +74,10 @@ TermsPage::TermsPage(QWidget *parent)
     m_table->installEventFilter(this);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TermsPage::selectionChanged);
+    // The keys work on the current row.
+    connect(m_model, &TermsModel::modelReset, this, [this] {
+        m_table->selectionModel()->setCurrentIndex(m_model->index(0, 0), QItemSelectionModel::NoUpdate);
+    });
 
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(Theme::gap);

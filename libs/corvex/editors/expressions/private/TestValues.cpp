@@ -33,6 +33,20 @@ void TestValues::follow(const ExpressionScope &scope, const GeneralDataList &ter
     }
 }
 
+void TestValues::refresh()
+{
+    if (!m_names.isEmpty()) {
+        emit dataChanged(index(0, ValueColumn), index(rowCount() - 1, ValueColumn));
+    }
+}
+
+bool TestValues::isLive() const
+{
+    return std::ranges::any_of(m_names, [this](const GeneralDataInfo &name) {
+        return !m_given.contains(name.value()) && m_scope.isLive(name);
+    });
+}
+
 int TestValues::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : int(m_names.size());

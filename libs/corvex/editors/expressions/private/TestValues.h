@@ -8,8 +8,8 @@
 
 namespace Halvane::Corvex::Designer {
 
-//! The names in an expression with the values that it is tried with: those of the project, or what the user
-//! enters. Nothing is changed in the project.
+//! The names in an expression with the values that it is tried with: those of the running project, those of
+//! the project, or what the user enters. Nothing is changed in the project.
 class TestValues : public QAbstractTableModel
 {
     Q_OBJECT
@@ -22,6 +22,10 @@ public:
     void follow(const ExpressionScope &scope, const GeneralDataList &terms);
     //! The entered values, by name.
     const QHash<QString, QString> &given() const { return m_given; }
+    //! Shows the values again, after a change.
+    void refresh();
+    //! Whether one of the values is that of the running project.
+    bool isLive() const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
