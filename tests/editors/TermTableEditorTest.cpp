@@ -158,6 +158,9 @@ TEST_F(TermTableEditorTest, AMessageOfACanDatabaseBecomesOneStep)
     QTest::keyClicks(dialog->findChild<SearchLine *>(), u"eec1"_s);
     note = dialog->findChild<QLabel *>(u"note"_s);
     EXPECT_TRUE(note->text().contains(u"61444 is also in engine"_s)) << qPrintable(note->text());
+
+    PropertyEditor *both = edit({variable("engine"), variable("other")}, "parameterMap");
+    EXPECT_FALSE(both->findChild<KdLineEdit *>()->isEnabled()) << "its entry would replace both tables";
 }
 
 TEST_F(TermTableEditorTest, BACnetPropertiesHaveNamesNumbersAndConstants)

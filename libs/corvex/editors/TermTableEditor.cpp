@@ -76,8 +76,8 @@ void TermTableEditor::showRow()
         m_table->setProject(all.constFirst()->parentObject()->project());
         m_table->setTerms(valueAs<GeneralDataListProperty>(all.constFirst().get()));
         m_table->setConflicts(conflicts());
-        showMore();
     }
+    showMore();
     emit heightChanged();
 }
 

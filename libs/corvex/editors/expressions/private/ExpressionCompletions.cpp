@@ -9,6 +9,7 @@
 #include "corvex/values/expressions/ExpressionVocabulary.h"
 
 #include <algorithm>
+#include <bit>
 
 using namespace Qt::StringLiterals;
 
@@ -185,6 +186,7 @@ QString ExpressionCompletions::detailOf(const Name &name) const
         return value.isEmpty() ? type : u"%1 = %2"_s.arg(type, value);
     }
     case Kind::Word:
+        return ExpressionScope::nameOf(Info::DataType(std::countr_zero(name.types)));
     case Kind::Operator:
         break;
     }
