@@ -63,7 +63,7 @@ ExitCode create(const QString &path, const Configuration &model, const Call &cal
         call.terminal().print(file);
         call.terminal().printError(
             u"The screen \"%1\" is still empty. Add an element: echo \"add Text %1 title\" | corvex edit \"%2\""_s
-                .arg(screenName, file));
+                .arg(NewProject::screenName(), file));
         return ExitCode::Done;
     }
     JsonWriter &json = call.json();
