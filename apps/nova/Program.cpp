@@ -11,6 +11,7 @@
 #include "project/Workspace.h"
 #include "window/DesktopLook.h"
 #include "window/MainWindow.h"
+#include "window/WindowDialogs.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -107,6 +108,7 @@ int Program::run()
     if (const QString reason = load(); !reason.isEmpty()) {
         return fail(reason, File);
     }
+    const WindowDialogs dialogs;
     MainWindow window(*HardwareConfigurations::instance()->installed());
     window.show();
     const QString wanted = parser.value(screen);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "actions/Action.h"
 #include "actions/CommandPalette.h"
+#include "actions/KeysDialog.h"
 #include "window/MainWindow.h"
 
 namespace Halvane::Corvex::Nova {
@@ -17,6 +18,13 @@ std::span<const Action> helpActions()
          IconSet::Search,
          {},
          [](MainWindow &window) { CommandPalette::open(window); }},
+        {"help.keys",
+         "&Keys…",
+         "Change the keys of actions.",
+         "",
+         -1,
+         {},
+         [](MainWindow &window) { KeysDialog(window.actions(), &window).exec(); }},
         {"help.about",
          "&About",
          "Show the version of the program.",

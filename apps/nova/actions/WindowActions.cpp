@@ -11,6 +11,8 @@
 #include <QMenuBar>
 #include <QToolBar>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Nova {
@@ -105,7 +107,11 @@ void WindowActions::update()
 {
     const Needs state = m_window.state();
     for (QAction *action : std::as_const(m_actions)) {
-        const Action &row = *m_rows.value(action);
+        const Action *found = m_rows.value(action);
+        if (!found) {
+            continue;
+        }
+        const Action &row = *found;
         action->setEnabled((row.needs & ~state) == Needs());
         if (row.isOn) {
             action->setChecked(row.isOn(m_window));
@@ -113,10 +119,30 @@ void WindowActions::update()
     }
 }
 
+void WindowActions::add(QAction *action)
+{
+    m_actions.append(action);
+    m_byId.insert(action->objectName(), action);
+}
+
 void WindowActions::setKeys(QAction *action, const QString &keys)
 {
     UserSettings::setKeysOf(action->objectName(), keys);
-    action->setShortcuts(keysOf(*m_rows.value(action)));
+    const Action *row = m_rows.value(action);
+    action->setShortcuts(row ? keysOf(*row) : QKeySequence::listFromString(keys, QKeySequence::PortableText));
+}
+
+bool WindowActions::hasOwnKeys(const QAction *action)
+{
+    return !UserSettings::keysOf(action->objectName()).isNull();
+}
+
+QAction *WindowActions::userOf(const QKeySequence &keys, const QAction *except) const
+{
+    const auto user = std::ranges::find_if(m_actions, [&](const QAction *action) {
+        return action != except && action->shortcuts().contains(keys);
+    });
+    return keys.isEmpty() || user == m_actions.end() ? nullptr : *user;
 }
 
 QString WindowActions::tipOf(const QAction *action)

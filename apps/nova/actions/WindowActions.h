@@ -31,8 +31,14 @@ public:
     const QList<QAction *> &all() const { return m_actions; }
     //! Enables the actions that can run now, and updates those that are on or off.
     void update();
+    //! Adds an action that the table does not have, such as one that shows a panel.
+    void add(QAction *action);
     //! Replaces the keys of an action and remembers them for all windows; null restores those of the table.
     void setKeys(QAction *action, const QString &keys);
+    //! Whether the user has replaced the keys.
+    static bool hasOwnKeys(const QAction *action);
+    //! The other action with one of the keys; null if they are free.
+    QAction *userOf(const QKeySequence &keys, const QAction *except) const;
 
     //! The sentence about the action, and its text without the mnemonic.
     static QString tipOf(const QAction *action);

@@ -2,11 +2,13 @@
 #include "panels/Panels.h"
 
 #include "panels/HistoryPanel.h"
+#include "panels/ImagesPanel.h"
 #include "panels/ObjectsPanel.h"
 #include "panels/PalettePanel.h"
 #include "panels/ProblemsPanel.h"
 #include "panels/PropertiesPanel.h"
 #include "panels/ScreensPanel.h"
+#include "panels/VariablesPanel.h"
 
 namespace Halvane::Corvex::Nova {
 
@@ -23,8 +25,10 @@ constexpr PanelRow rows[] = {
     {"panel.objects", "Objects", Qt::LeftDockWidgetArea, nullptr, create<ObjectsPanel>},
     {"panel.palette", "Palette", Qt::LeftDockWidgetArea, "panel.objects", create<PalettePanel>},
     {"panel.properties", "Properties", Qt::RightDockWidgetArea, nullptr, create<PropertiesPanel>},
-    {"panel.problems", "Problems", Qt::BottomDockWidgetArea, nullptr, create<ProblemsPanel>},
-    {"panel.history", "History", Qt::BottomDockWidgetArea, "panel.problems", create<HistoryPanel>},
+    {"panel.images", "Images", Qt::LeftDockWidgetArea, "panel.objects", create<ImagesPanel>},
+    {"panel.variables", "Variables", Qt::BottomDockWidgetArea, nullptr, create<VariablesPanel>},
+    {"panel.problems", "Problems", Qt::BottomDockWidgetArea, "panel.variables", create<ProblemsPanel>},
+    {"panel.history", "History", Qt::BottomDockWidgetArea, "panel.variables", create<HistoryPanel>},
 };
 
 } // namespace

@@ -102,6 +102,12 @@ bool Workspace::push(std::unique_ptr<UndoCommand> command)
     return true;
 }
 
+void Workspace::follow(std::unique_ptr<Common::Job> job)
+{
+    m_job = std::move(job);
+    emit jobStarted(m_job.get());
+}
+
 void Workspace::reportFailure()
 {
     emit refused(m_document.errorString());

@@ -54,11 +54,14 @@ public:
     //! Pushes the command. Emits noted() or refused().
     bool push(Designer::PlannedCommand planned);
     bool push(std::unique_ptr<Designer::UndoCommand> command);
+    //! Owns the job until it has finished, and shows its progress.
+    void follow(std::unique_ptr<Common::Job> job);
     //! Reports a failure of the document to the user.
     void reportFailure();
 
 signals:
     void screenChanged();
+    void jobStarted(Halvane::Corvex::Common::Job *job);
     //! Notes for the user about an edit that was made.
     void noted(const QStringList &notes);
     //! An edit was refused; the text is for the user.
@@ -84,6 +87,7 @@ private:
     Designer::ProblemsModel m_problemsModel;
     Designer::ObjectTreeModel m_tree;
     QPointer<Designer::Screen> m_screen;
+    std::unique_ptr<Common::Job> m_job;
     QString m_screenName; //!< while the project is being loaded
 };
 

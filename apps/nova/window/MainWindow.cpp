@@ -27,6 +27,7 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -80,7 +81,7 @@ MainWindow::MainWindow(const ConfigurationContainer &models)
     resize(firstSize);
     resizeDocks({m_docks.value(u"panel.screens"_s), m_docks.value(u"panel.properties"_s)},
                 {leftWidth, rightWidth}, Qt::Horizontal);
-    resizeDocks({m_docks.value(u"panel.screens"_s), m_docks.value(u"panel.problems"_s)},
+    resizeDocks({m_docks.value(u"panel.screens"_s), m_docks.value(u"panel.variables"_s)},
                 {screensHeight, bottomHeight}, Qt::Vertical);
     m_firstState = saveState();
     restoreGeometry(UserSettings::windowGeometry());
@@ -100,6 +101,9 @@ CanvasView *MainWindow::canvas() const
 void MainWindow::makeDocks()
 {
     setDockNestingEnabled(true);
+    auto *view = menuBar()->findChild<QMenu *>(u"view"_s);
+    view->addSeparator();
+    m_panelsMenu = view->addMenu(LocalizationHelper::coreString(u"&Panels"_s));
     for (const PanelRow &row : panelRows()) {
         auto *dock = new QDockWidget(LocalizationHelper::coreString(QString::fromUtf8(row.title)));
         dock->setObjectName(QLatin1StringView(row.id));
@@ -114,6 +118,11 @@ void MainWindow::makeDocks()
             first->raise();
         }
         m_docks.insert(dock->objectName(), dock);
+        QAction *toggle = dock->toggleViewAction();
+        toggle->setObjectName(dock->objectName());
+        toggle->setStatusTip(LocalizationHelper::coreString(u"Show or hide this panel."_s));
+        m_panelsMenu->addAction(toggle);
+        m_actions->add(toggle);
     }
 }
 
@@ -124,6 +133,7 @@ void MainWindow::fillDocks()
         dock->setWidget(row.create(*m_workspace));
         dock->show();
     }
+    m_panelsMenu->setEnabled(true);
     restoreState(m_firstState);
     restoreState(UserSettings::windowState());
 }
@@ -134,6 +144,7 @@ void MainWindow::emptyDocks()
         delete dock->widget();
         dock->hide();
     }
+    m_panelsMenu->setEnabled(false);
 }
 
 QWidget *MainWindow::panel(const QString &id) const
@@ -185,6 +196,7 @@ void MainWindow::connectWorkspace()
     connect(workspace, &Workspace::refused, this, [this](const QString &reason) {
         KdMessageBox::ask(this, {KdMessageBox::Warning, reason, {}, {}, {}});
     });
+    connect(workspace, &Workspace::jobStarted, m_files->progress(), &JobProgress::follow);
     connect(workspace, &Workspace::screenChanged, this, &MainWindow::updateActions);
     connect(&document, &ProjectDocument::selectionChanged, this, &MainWindow::updateActions);
     connect(&document, &ProjectDocument::modifiedChanged, this, &MainWindow::updateTitle);

@@ -10,6 +10,7 @@
 
 class QDockWidget;
 class QLabel;
+class QMenu;
 class QStackedWidget;
 
 namespace Halvane::Corvex::Designer {
@@ -39,7 +40,7 @@ public:
 
     const Designer::ConfigurationContainer &models() const { return m_models; }
     ProjectFiles &files() const { return *m_files; }
-    const WindowActions &actions() const { return *m_actions; }
+    WindowActions &actions() const { return *m_actions; }
     //! Null on the welcome page.
     Workspace *workspace() const { return m_workspace.get(); }
     //! Null on the welcome page.
@@ -79,6 +80,7 @@ private:
     WelcomePage *m_welcome = nullptr;
     CanvasPage *m_canvas = nullptr;
     QHash<QString, QDockWidget *> m_docks;
+    QMenu *m_panelsMenu = nullptr;
     QLabel *m_problems;
     Designer::ZoomBox *m_zoom;
     QByteArray m_firstState; //!< the layout of the panels before the user has changed it
