@@ -22,10 +22,12 @@ namespace Halvane::Corvex::Preview {
 
 namespace {
 
-Exit printProblems(const ProblemLog &log)
+//! \a places are those in the script; the last ones may be missing.
+Exit printProblems(const ProblemLog &log, const QStringList &places)
 {
-    for (const PanelProblem &problem : log.problems()) {
-        complain(problem.toString());
+    for (qsizetype i = 0; i < log.problems().size(); ++i) {
+        const QString place = places.value(i);
+        complain(log.problems().at(i).toString() + (place.isEmpty() ? QString() : u" (%1)"_s.arg(place)));
     }
     return log.problems().isEmpty() ? Exit::Done : Exit::Problems;
 }
@@ -67,7 +69,8 @@ Exit shootAll(PreviewSession &session, PanelWindow &window, const QString &folde
     return Exit::Done;
 }
 
-Exit runScript(PreviewSession &session, PanelWindow &window, const QString &scriptFile, const QString &folder)
+Exit runScript(PreviewSession &session, PanelWindow &window, const QString &scriptFile, const QString &folder,
+               QStringList &problemPlaces)
 {
     QFile file(scriptFile);
     QByteArray text;
@@ -88,6 +91,9 @@ Exit runScript(PreviewSession &session, PanelWindow &window, const QString &scri
     for (const QString &failure : failures) {
         print(u"%1:%2"_s.arg(scriptFile, failure));
     }
+    for (const int line : script.problemLines()) {
+        problemPlaces.append(line > 0 ? u"%1:%2"_s.arg(scriptFile, QString::number(line)) : QString());
+    }
     return failures.isEmpty() ? Exit::Done : Exit::Problems;
 }
 
@@ -103,9 +109,10 @@ void append(const QList<PanelProblem> &problems, QJsonArray &entries)
 Exit runUnattended(PreviewSession &session, const QString &scriptFile, const QString &folder)
 {
     PanelWindow window(session);
+    QStringList places;
     const Exit result = scriptFile.isEmpty() ? shootAll(session, window, folder)
-                                             : runScript(session, window, scriptFile, folder);
-    const Exit problems = printProblems(session.panel().problems());
+                                             : runScript(session, window, scriptFile, folder, places);
+    const Exit problems = printProblems(session.panel().problems(), places);
     return result == Exit::Done ? problems : result;
 }
 

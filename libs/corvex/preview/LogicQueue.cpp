@@ -46,7 +46,7 @@ void LogicQueue::flush()
         if (round < mostRounds) {
             entry.reaction->react();
         } else if (round == mostRounds) {
-            emit isEndless(entry.element);
+            emit isEndless(entry.element, entry.reaction->cause());
         }
     }
     m_isFlushing = false;

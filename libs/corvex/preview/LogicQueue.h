@@ -14,6 +14,8 @@ class Reaction
 public:
     virtual ~Reaction() = default;
     virtual void react() = 0;
+    //! What a user must know if the reaction does not end; may be empty.
+    virtual QString cause() const { return {}; }
 };
 
 //! Collects the elements whose values have changed, and lets each react once to all changes. A reaction may
@@ -30,8 +32,9 @@ public:
     void flush();
 
 signals:
-    //! \a element keeps triggering itself. It stays inactive until something else wakes it.
-    void isEndless(QObject *element);
+    //! \a element keeps triggering itself. It stays inactive until something else wakes it. \a cause may be
+    //! empty.
+    void isEndless(QObject *element, const QString &cause);
 
 private:
     struct Entry

@@ -29,9 +29,10 @@ Panel::Panel(QObject *parent)
     m_engine.setOutputWarningsToStandardError(false);
     m_guard.guard(m_engine);
     connect(&m_clock, &Clock::ticked, &m_logic, &LogicQueue::flush);
-    connect(&m_logic, &LogicQueue::isEndless, this, [this](QObject *element) {
+    connect(&m_logic, &LogicQueue::isEndless, this, [this](QObject *element, const QString &cause) {
         report(element, u"Its rules trigger themselves endlessly. They are stopped until another value "
-                        "changes."_s);
+                        "changes."_s
+                            + cause);
     });
 }
 

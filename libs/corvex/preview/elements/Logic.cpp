@@ -3,6 +3,8 @@
 
 #include "corvex/preview/Panel.h"
 
+using namespace Qt::StringLiterals;
+
 namespace Halvane::Corvex::Preview {
 
 void Action::execute()
@@ -29,6 +31,18 @@ void LogicBuilder::setConditions(const QVariantList &conditions)
 void LogicBuilder::react()
 {
     perform([this] { emit evaluate(); });
+}
+
+//! The rules that made the last assignments.
+QString LogicBuilder::cause() const
+{
+    QStringList numbers;
+    for (qsizetype i = 0; i < m_conditions.size(); ++i) {
+        if (m_conditions.at(i).toBool()) {
+            numbers.append(QString::number(i + 1));
+        }
+    }
+    return numbers.isEmpty() ? QString() : u" Rules that are true: %1."_s.arg(numbers.join(u", "_s));
 }
 
 void PropertyTrigger::start()

@@ -37,6 +37,7 @@ public:
     const QVariantList &conditions() const { return m_conditions; }
     void setConditions(const QVariantList &conditions);
     void react() override;
+    QString cause() const override;
 
 signals:
     void conditionsChanged();

@@ -73,9 +73,14 @@ QStringList PreviewScript::run(const QString &text)
     QStringList failures;
     m_session.settle();
     int number = 0;
+    const auto noteProblems = [this, &number] {
+        m_problemLines.resize(m_session.panel().problems().problems().size(), number);
+    };
+    noteProblems();
     for (const QString &line : text.split(u'\n')) {
         ++number;
         const QString failure = runLine(line.trimmed());
+        noteProblems();
         if (!failure.isEmpty()) {
             failures.append(u"%1: %2"_s.arg(QString::number(number), failure));
         }
@@ -171,7 +176,8 @@ QString PreviewScript::hold(const QString &name, const QString &)
         return u"Nothing reacts to a touch on \"%1\"."_s.arg(name);
     }
     return touched == target ? QString()
-                             : u"\"%1\" receives the touch on \"%2\"."_s.arg(Panel::pathOf(touched), name);
+                             : u"\"%1\" receives the touch on \"%2\". Press that instead."_s.arg(
+                                 Panel::pathOf(touched), name);
 }
 
 QString PreviewScript::release(const QString &, const QString &)

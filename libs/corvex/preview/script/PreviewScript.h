@@ -30,6 +30,8 @@ public:
 
     //! Runs all lines. Returns one text per failure, with its line, the expected and the actual value.
     QStringList run(const QString &text);
+    //! For each problem of the panel, the line during which it first occurred; 0 before the first line.
+    const QList<int> &problemLines() const { return m_problemLines; }
 
 private:
     // Each returns an error, or an empty text.
@@ -50,6 +52,7 @@ private:
     PreviewSession &m_session;
     PanelWindow &m_window;
     std::function<bool(const QString &)> m_shoot;
+    QList<int> m_problemLines;
 };
 
 } // namespace Halvane::Corvex::Preview
