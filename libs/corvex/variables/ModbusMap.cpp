@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/variables/ModbusMap.h"
 
+#include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/properties/ValidationError.h"
 
 #include <QMap>
@@ -109,6 +110,32 @@ bool ModbusMap::read(const GeneralDataList &terms, QString &error)
     }
     m_entries = entries;
     return true;
+}
+
+QString ModbusMap::detail(const GeneralDataList &terms)
+{
+    using Common::LocalizationHelper;
+    QString error;
+    if (read(terms, error)) {
+        return {};
+    }
+    if (!m_repeated.isEmpty()) {
+        return u": "_s + m_repeated.join(u", "_s);
+    }
+    const Registers &range = registers(m_kind);
+    for (qsizetype i = 0; i < terms.count(); i += 2) {
+        int address = 0;
+        if (!readAddress(terms.at(i), range, address)) {
+            return range.last == open
+                       ? LocalizationHelper::coreString(u": addresses begin at %1"_s).arg(range.first)
+                       : LocalizationHelper::coreString(u": addresses go from %1 to %2"_s)
+                             .arg(addressText(range.first), addressText(range.last));
+        }
+        if (terms.count() % 2 != 0 && (i + 1 == terms.count() || !isSource(terms.at(i + 1)))) {
+            return LocalizationHelper::coreString(u": %1 has no variable"_s).arg(addressText(address));
+        }
+    }
+    return {};
 }
 
 GeneralDataList ModbusMap::toTerms() const

@@ -64,6 +64,9 @@ public:
     //! false, with the first problem in \a error and no entries, if an entry is incomplete, lacks an address
     //! of this kind or a source, or repeats an address.
     bool read(const GeneralDataList &terms, QString &error);
+    //! What the error of read() does not say, to be put behind it: the repeated addresses, the address
+    //! without a variable, or the valid addresses. Translated; empty if there is nothing to add.
+    QString detail(const GeneralDataList &terms);
     //! If addresses are repeated, lists all of them, in five digits.
     const QStringList &repeatedAddresses() const { return m_repeated; }
     GeneralDataList toTerms() const;

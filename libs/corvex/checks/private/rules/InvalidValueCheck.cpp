@@ -110,13 +110,8 @@ QString detail(const DesignerProperty &property, ProblemCode code)
     if (code == ProblemCode::FieldbusMap
         && property.parentObject()->isKindOfClass(MappingVariable::kindName())) {
         ModbusMap map(ModbusMap::RegisterKind(property.editorParameter(u"RegType"_s).toInt()));
-        QString error;
         const auto *terms = dynamic_cast<const GeneralDataListProperty *>(&property);
-        if (terms) {
-            map.read(terms->value(), error);
-        }
-        const QStringList &repeated = map.repeatedAddresses();
-        return repeated.isEmpty() ? QString() : u": "_s + repeated.join(u", "_s);
+        return terms ? map.detail(terms->value()) : QString();
     }
     return {};
 }
