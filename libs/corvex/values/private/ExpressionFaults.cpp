@@ -69,6 +69,12 @@ bool isNumeric(const QString &text)
     return ok;
 }
 
+bool isComparison(const QString &sign)
+{
+    static const QStringList signs{u"=="_s, u"!="_s, u"<"_s, u"<="_s, u">"_s, u">="_s, u"==="_s, u"!=="_s};
+    return signs.contains(sign);
+}
+
 //! Finds what is wrong with an operation.
 class Judge
 {
@@ -218,14 +224,25 @@ std::optional<Info> adapted(const List &terms, List::InfoType kind, const Operan
                : std::nullopt;
 }
 
+//! Saves most expressions the search for operations.
+bool compares(const List &terms)
+{
+    return std::any_of(terms.begin(), terms.end(), [](const Info &term) {
+        return term.valueType() == Info::OperatorValue && isComparison(term.value());
+    });
+}
+
 } // namespace
 
 void ExpressionMeaning::adaptConstants(List &terms, List::InfoType kind)
 {
+    if (!compares(terms)) {
+        return;
+    }
     for (const auto &[sign, left, right] : ExpressionOperation::of(terms, kind)) {
         const QString operation = terms.at(sign).value();
         const bool isEquality = operation == "=="_L1 || operation == "!="_L1;
-        if (!isEquality && !operation.startsWith(u'<') && !operation.startsWith(u'>')) {
+        if (!isComparison(operation)) {
             continue;
         }
         const std::optional<Info> first = adapted(terms, kind, left, right, isEquality);
@@ -247,6 +264,9 @@ std::optional<Fault> ExpressionMeaning::fault(const List &terms, List::InfoType 
             && !isNumeric(term.value())) {
             return Fault{i, Common::LocalizationHelper::coreString(adviceForTexts)};
         }
+    }
+    if (kind != List::StringExpression && !compares(terms)) {
+        return {};
     }
     for (const ExpressionOperation &operation : ExpressionOperation::of(terms, kind)) {
         if (std::optional<Fault> fault = Judge(terms, kind, operation).fault()) {
