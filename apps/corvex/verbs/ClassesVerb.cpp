@@ -17,6 +17,7 @@ namespace {
 
 using Designer::ClassHelp;
 using Designer::PropertyHelp;
+using Designer::RuntimeHelp;
 using Designer::Suggestion;
 using Designer::ValueForm;
 
@@ -45,6 +46,17 @@ void printJson(const QList<ClassHelp> &classes, const Call &call)
             json.member("description"_L1, property.description);
             json.member("edit"_L1, property.line);
             json.member("definedBy"_L1, property.definedBy);
+            json.endObject();
+        }
+        json.endArray();
+        json.name("runtime"_L1);
+        json.beginArray();
+        for (const RuntimeHelp &property : help.runtime) {
+            json.beginObject();
+            json.member("id"_L1, property.id);
+            json.member("type"_L1, property.type);
+            json.member("description"_L1, property.description);
+            json.member("readOnly"_L1, property.isReadOnly);
             json.endObject();
         }
         json.endArray();
@@ -97,6 +109,15 @@ void printClass(const ClassHelp &help, Terminal &terminal)
             terminal.print(source == help.className ? u"Properties:"_s : u"From %1:"_s.arg(source));
         }
         printProperty(property, terminal);
+    }
+    if (!help.runtime.isEmpty()) {
+        terminal.print({});
+        terminal.print(u"On the device, for expressions, rules and assignments:"_s);
+    }
+    for (const RuntimeHelp &property : help.runtime) {
+        terminal.print(u"  %1: %2%3 (%4)"_s.arg(property.id, property.type,
+                                                property.isReadOnly ? u", read only"_s : QString(),
+                                                property.description));
     }
 }
 
@@ -178,7 +199,8 @@ const Verb classesVerb{
         [] {
             return uR"(Lists all classes, each below the class that it derives from. With CLASS, also shows its
 properties: what each takes, its default, what it is for, and a line of "corvex edit" that sets it.
-With CLASS.PROPERTY, shows this property and explains how its values are written. The lines belong
+Elements also have properties on the device, which expressions, rules and assignments use. With
+CLASS.PROPERTY, shows this property and explains how its values are written. The lines belong
 to a project "Plant" with a screen "Main"; docs/reference.md lists its other objects.)"_s;
         },
     .example = "corvex classes Rectangle.size",

@@ -92,8 +92,11 @@ const Verb editVerb{
 have succeeded. If any line is wrong, the project stays unchanged and every wrong line is
 reported. Each edit also updates what depends on it, such as the references to a renamed object.
     set PATH VALUE                   a value: the rest of the line as it is, or in quotes; "" clears
-                                     it; PATH = VALUE does the same
-    add CLASS TO [NAME]              a new object in a screen, a group, a list or the project
+                                     it. The path of a variable means its value. The word set may
+                                     be omitted: PATH = VALUE
+    add CLASS TO [NAME]              a new object in a screen, a group, a list or the project; values
+                                     may follow: add Text Main title { text: Boiler; position: 20, 8 }
+    copy PATH [NAME]                 a copy in the same place, with everything in it
     delete PATH...                   objects, and all references to them
     rename PATH NAME                 anything that has a name
     group NAME PATH...               elements of one screen; ungroup PATH; split PATH MEMBER...

@@ -136,9 +136,7 @@ TEST_F(EditVerb, OneBadLinePreventsAllEdits)
         {"set Main.title.id x", "Use rename to change a name; it updates all references."},
         {"rename Main.title", "Usage: rename PATH NAME"},
         {"rename Main.title box1", "The name is not unique. \"Main.box1\" (Rectangle) has this name."},
-        {"rename speed s",
-         "The name is in the wrong format. Only letters, numbers and underscore are allowed. "
-         "The first character must be a letter. Use at least 2 characters."},
+        {"rename speed s", "\"s\" is too short. A name has at least 2 characters."},
         {"add Nothing Main", "There is no class \"Nothing\". \"corvex classes\" lists them; --plugins DIR "
                              "loads other plug-ins with "
                              "more."},

@@ -77,7 +77,20 @@ QString pageOf(const ClassHelp &help)
         }
     }
     const QString head = u"\n| Property | Takes | Default | Meaning | Example |\n|---|---|---|---|---|\n"_s;
-    return rows.isEmpty() ? page : page + head + rows;
+    page += rows.isEmpty() ? QString() : head + rows;
+    QString runtime;
+    for (const RuntimeHelp &property : help.runtime) {
+        if (property.definedBy == help.className) {
+            runtime += u"| `%1` | %2%3 | %4 |\n"_s.arg(property.id, property.type,
+                                                       property.isReadOnly ? u", read only"_s : QString(),
+                                                       cell(property.description));
+        }
+    }
+    return runtime.isEmpty() ? page
+                             : page
+                                   + u"\nOn the device, for expressions, rules and assignments:\n\n| Name | "
+                                     "Type | Meaning |\n|---|---|---|\n"_s
+                                   + runtime;
 }
 
 QString referencePage()

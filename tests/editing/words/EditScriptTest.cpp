@@ -128,6 +128,8 @@ TEST_F(EditScriptTest, ValuesAreReadAndPrintedAsPeopleWriteThem)
         {u"rectangle1.size"_s, u"120 x 40"_s, {}, u"height: 40; width: 120;"_s},
         {u"rectangle1.position"_s, u"x: 3; y: 4;"_s, u"3, 4"_s, {}},
         {u"text1.font"_s, u"bold 24px \"DejaVu Sans\""_s, {}, {}},
+        {u"text1.font"_s, u"italic 8pt"_s, u"italic 8pt \"DejaVu Sans\""_s, {}},
+        {u"text1.font"_s, u"12px Noto Sans"_s, u"12px \"Noto Sans\""_s, {}},
     };
     for (const auto &[path, given, printed, stored] : values) {
         for (const QString &sign : {u"="_s, QString()}) {
@@ -179,6 +181,14 @@ TEST_F(EditScriptTest, ValuesAreReadAndPrintedAsPeopleWriteThem)
         {u"set Main.logicBuilder1.logicExpression when on and do speed = 1"_s, u"incomplete"_s},
         {u"set Main.logicBuilder1.logicExpression when(on) speed = 1"_s, u"Rules have the form"_s},
         {u"set Main.text1.text \"C:\\dir\""_s, u"not an escape"_s},
+        {u"set Main.rectangle1.height 30"_s, u"Here, set \"size\""_s},
+        {u"set Main.rectangle1.addedToScene true"_s, u"exists only on the device"_s},
+        {u"copy Main.text1 rectangle1"_s, u"\"Main.rectangle1\" (Rectangle) has this name"_s},
+        {u"copy Main.text1 text1"_s, u"not unique"_s},
+        {u"copy Main.text1 t"_s, u"\"t\" is too short"_s},
+        {u"add Text Main { text: a }"_s, u"Name the object"_s},
+        {u"add Text Main title { text }"_s, u"{ property: value"_s},
+        {u"sped = 5"_s, u"There is no property \"sped\""_s},
         {u"set Main.logicBuilder1.logicExpression wen on do speed = 1"_s, u"Rules have the form"_s},
     };
     for (const auto &[line, message] : refusals) {
@@ -193,6 +203,47 @@ TEST_F(EditScriptTest, ValuesAreReadAndPrintedAsPeopleWriteThem)
         EXPECT_FALSE(stack().push(plan.command.release()));
         EXPECT_TRUE(stack().errorString().contains(form)) << qPrintable(stack().errorString());
     }
+}
+
+TEST_F(EditScriptTest, ObjectsAreCopiedAndAddedWithTheirValues)
+{
+    EditScript script(*project);
+    const QString before = text();
+    const int steps = stack().count();
+    const auto run = [&script](const char16_t *line) { return script.run(QString::fromUtf16(line)); };
+    EXPECT_EQ(run(u"add Text Main title { text: \"a; b\"; position: 20, 8; xBinding: title.y + 1 }"),
+              EditScript::Result::Done)
+        << qPrintable(script.refusal().message);
+    EXPECT_EQ(value(element("title"), "text"), u"a; b"_s);
+    EXPECT_EQ(value(element("title"), "position"), u"x: 20; y: 8;"_s);
+    EXPECT_EQ(run(u"copy Main.title heading"), EditScript::Result::Done)
+        << qPrintable(script.refusal().message);
+    EXPECT_EQ(value(element("heading"), "xBinding"), u"<0306heading.y><0101+><02041>"_s);
+    EXPECT_EQ(run(u"copy Main.title"), EditScript::Result::Done);
+    EXPECT_EQ(value(element("title1"), "text"), u"a; b"_s);
+    EXPECT_EQ(stack().count(), steps + 3);
+    const QString added = text();
+    EXPECT_EQ(run(u"add Text Main late { text: b; size: big }"), EditScript::Result::Failed);
+    EXPECT_TRUE(script.refusal().message.contains(u"a size such as"_s));
+    EXPECT_EQ(text(), added);
+    stack().setIndex(steps);
+    EXPECT_EQ(text(), before);
+}
+
+TEST_F(EditScriptTest, TheNameOfAVariableMeansItsValue)
+{
+    EditScript script(*project);
+    for (const QString &line :
+         {u"speed = 5"_s, u"set speed 6"_s, u"speed.value = 7"_s, u"set speed = 8 "_s}) {
+        EXPECT_EQ(script.run(line), EditScript::Result::Done) << qPrintable(script.refusal().message);
+        EXPECT_EQ(value(variable("speed"), "value"), line.trimmed().last(1));
+    }
+    EXPECT_TRUE(script.takeOutput().isEmpty());
+    EXPECT_EQ(script.run(u"set Main.text1.prefix = Level "_s), EditScript::Result::Done);
+    EXPECT_TRUE(script.takeOutput().value(0).contains(u"Put the value in quotes"_s));
+    EXPECT_TRUE(script.invalidValues().isEmpty());
+    EXPECT_EQ(script.run(u"speed = fast"_s), EditScript::Result::Done);
+    EXPECT_TRUE(script.invalidValues().value(0).contains(u"\"fast\" is not a number"_s));
 }
 
 TEST_F(EditScriptTest, ChangesHaveTheNamesOfBeforeAndAfter)

@@ -2,6 +2,7 @@
 #include "corvex/editing/commands/Commands.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/PropertyValidators.h"
 #include "corvex/core/xml/XmlText.h"
 #include "corvex/editing/commands/CompositeCommand.h"
 #include "corvex/editing/commands/objects/ChangeProperty.h"
@@ -143,7 +144,20 @@ PlannedCommand Commands::renameOf(DesignerObject *object, const QString &name)
                  "install the plug-in and rename again."_s);
 }
 
+PlannedCommand Commands::copyOf(DesignerObject *object, const QString &name)
+{
+    const QString reason = object && name != object->getIdName()
+                               ? PropertyValidators::nameError(object, name)
+                               : LocalizationHelper::coreString(u"The name is not unique."_s);
+    return reason.isEmpty() ? copies({object}, name) : PlannedCommand{nullptr, reason, {}};
+}
+
 PlannedCommand Commands::duplicationOf(const QList<DesignerObject *> &objects)
+{
+    return copies(objects, {});
+}
+
+PlannedCommand Commands::copies(const QList<DesignerObject *> &objects, const QString &name)
 {
     for (const DesignerObject *object : objects) {
         const EditedKind *kind = EditedKind::of(object);
@@ -151,7 +165,7 @@ PlannedCommand Commands::duplicationOf(const QList<DesignerObject *> &objects)
             return refused(u"\"%1\" cannot be duplicated."_s, object ? object->objectPath() : QString());
         }
     }
-    return planned(std::make_unique<DuplicateObjects>(objects));
+    return planned(std::make_unique<DuplicateObjects>(objects, name));
 }
 
 PlannedCommand Commands::moveOf(const QList<DesignerObject *> &objects, const SharedProperty &list,

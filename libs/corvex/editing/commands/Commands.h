@@ -51,6 +51,8 @@ public:
         image gets a file of its own.
     */
     static PlannedCommand duplicationOf(const QList<DesignerObject *> &objects);
+    //! Copies one object, with everything in it, under a new name.
+    static PlannedCommand copyOf(DesignerObject *object, const QString &name);
     /*! Moves the objects, in list order, into a list of the same project, before its item \a index; -1 means
         the end. Items that the list sorts keep their sorted places.
 
@@ -61,6 +63,9 @@ public:
     //! Sets values of properties, with all consequences. Values that do not change are skipped. Refused if a
     //! property does not accept its value. A name must be changed separately.
     static PlannedCommand changeOf(const QList<RequestedValue> &values);
+
+private:
+    static PlannedCommand copies(const QList<DesignerObject *> &objects, const QString &name);
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -8,6 +8,7 @@
 #include "corvex/editing/words/ReadableValue.h"
 #include "corvex/editing/words/ValueForm.h"
 #include "corvex/project/Project.h"
+#include "corvex/project/elements/Element.h"
 
 #include <QRegularExpression>
 
@@ -151,6 +152,40 @@ bool PropertyHelp::isAlike(const PropertyHelp &other) const
     return facts(*this) == facts(other);
 }
 
+QList<RuntimeHelp> RuntimeHelp::of(const DesignerObject &object)
+{
+    struct Row
+    {
+        Common::EnumHelper::VariableType type;
+        const char16_t *words;
+    };
+    static constexpr Row rows[] = {
+        {Common::EnumHelper::BooleanVariable, u"true or false"},
+        {Common::EnumHelper::IntegerVariable, u"a whole number"},
+        {Common::EnumHelper::FloatVariable, u"a number"},
+        {Common::EnumHelper::NumberVariable, u"a number"},
+        {Common::EnumHelper::StringVariable, u"a text"},
+        {Common::EnumHelper::ColorVariable, u"a color"},
+    };
+    QList<RuntimeHelp> helps;
+    const auto *element = kindCast<Element>(&object);
+    for (const RuntimeProperty &known : element ? element->runtimeProperties() : RuntimePropertyList()) {
+        const auto *row = std::ranges::find(rows, known.type(), &Row::type);
+        if (row == std::end(rows)) {
+            continue; // objects, which expressions cannot use
+        }
+        const SharedProperty stored = object.getProperty(known.property());
+        const bool isPercentage = stored && stored->editorParameter(u"isPercentage"_s).toBool();
+        const QString meaning = known.description().isEmpty() ? known.displayName() : known.description();
+        helps.append({known.property(),
+                      Common::LocalizationHelper::coreString(QString::fromUtf16(row->words)),
+                      isPercentage ? Common::LocalizationHelper::coreString(u"%1: 0.5 is 50 %"_s).arg(meaning)
+                                   : meaning,
+                      known.accessMode() == Common::EnumHelper::ReadOnly, object.className()});
+    }
+    return helps;
+}
+
 QStringList ClassHelp::names()
 {
     const DesignerFactory *factory = DesignerFactory::instance();
@@ -196,8 +231,16 @@ std::optional<ClassHelp> ClassHelp::of(const QString &className)
     for (PropertyHelp &property : help->properties) {
         property.definedBy = className;
     }
+    help->runtime = RuntimeHelp::of(*object);
     for (const QString &base : std::as_const(help->bases)) { // the farthest one last
         const std::unique_ptr<DesignerObject> baseObject(factory->createSample(base));
+        const QList<RuntimeHelp> inheritedAtRuntime =
+            baseObject ? RuntimeHelp::of(*baseObject) : QList<RuntimeHelp>();
+        for (RuntimeHelp &property : help->runtime) {
+            const bool isInherited = std::ranges::find(inheritedAtRuntime, property.id, &RuntimeHelp::id)
+                                     != inheritedAtRuntime.cend();
+            property.definedBy = isInherited ? base : property.definedBy;
+        }
         const QList<PropertyHelp> inherited =
             baseObject ? propertiesOf(*baseObject, sample) : QList<PropertyHelp>();
         for (PropertyHelp &property : help->properties) {
@@ -209,6 +252,9 @@ std::optional<ClassHelp> ClassHelp::of(const QString &className)
     }
     std::ranges::stable_sort(help->properties, {}, [&](const PropertyHelp &property) {
         return help->bases.indexOf(property.definedBy); // -1 for the class itself
+    });
+    std::ranges::stable_sort(help->runtime, {}, [&](const RuntimeHelp &property) {
+        return help->bases.indexOf(property.definedBy);
     });
     return help;
 }

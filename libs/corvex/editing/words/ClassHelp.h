@@ -11,6 +11,7 @@
 
 namespace Halvane::Corvex::Designer {
 
+class DesignerObject;
 class DesignerProperty;
 class Project;
 
@@ -33,6 +34,18 @@ struct CORVEX_EXPORT PropertyHelp
     bool isAlike(const PropertyHelp &other) const;
 };
 
+//! A property that elements have on the device, where expressions, rules and assignments use it.
+struct CORVEX_EXPORT RuntimeHelp
+{
+    QString id;
+    QString type; //!< "a number"
+    QString description;
+    bool isReadOnly;
+    QString definedBy; //!< the class that adds it
+
+    static QList<RuntimeHelp> of(const DesignerObject &object);
+};
+
 /*! What users want to know about a class, taken from its row and those of its properties.
 
     The edits belong to a project with the objects of sampleProject(). They are examples to copy.
@@ -46,6 +59,7 @@ struct CORVEX_EXPORT ClassHelp
     QString line;      //!< an edit that adds an object; empty if no edit does
     //! Those of the class itself first, then those of the base classes, each in the order of the panel.
     QList<PropertyHelp> properties;
+    QList<RuntimeHelp> runtime; //!< in the same order of classes
 
     //! All classes of the factory, sorted.
     static QStringList names();

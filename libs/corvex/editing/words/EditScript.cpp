@@ -2,12 +2,15 @@
 #include "corvex/editing/words/EditScript.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/core/properties/ExpressionProperties.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/editing/words/ProjectPath.h"
 #include "corvex/editing/words/ReadableValue.h"
 #include "corvex/editing/words/private/EditPlanner.h"
 #include "corvex/editing/words/private/Explanation.h"
 #include "corvex/project/Project.h"
+#include "corvex/variables/ModbusMap.h"
+#include "corvex/variables/NumberVariable.h"
 
 #include <algorithm>
 
@@ -37,6 +40,15 @@ QStringList partsOf(const QUndoCommand &command)
     return parts;
 }
 
+//! What the text of a validator does not say.
+QString detailOf(const DesignerProperty &property)
+{
+    const auto *terms = propertyCast<GeneralDataListProperty>(&property);
+    const QVariant kind = property.editorParameter(u"RegType"_s);
+    return terms && kind.isValid() ? ModbusMap(ModbusMap::RegisterKind(kind.toInt())).detail(terms->value())
+                                   : QString();
+}
+
 } // namespace
 
 EditScript::EditScript(Project &project, std::function<bool()> loadModels)
@@ -62,12 +74,38 @@ EditScript::Result EditScript::run(const QString &line)
     } else if (!call.form) {
         return Result::Done;
     } else if (!m_isLost) {
-        EditPlan plan = m_planner->plan(call);
-        if (perform(plan)) {
+        EditPlan plan = call.settings.isEmpty() ? m_planner->plan(call) : EditPlan();
+        if (call.settings.isEmpty() ? perform(plan) : addWithValues(call)) {
             return Result::Done;
         }
     }
     return noteFailure(call);
+}
+
+//! Adds an object and sets its values, in one step.
+bool EditScript::addWithValues(const EditCall &call)
+{
+    UndoStack *stack = m_project.undoStack();
+    const QString title = Common::LocalizationHelper::coreString(u"Add %1"_s).arg(call.givenName());
+    if (!stack->beginGesture(title)) {
+        m_refusal.message = stack->errorString();
+        return false;
+    }
+    const qsizetype edits = m_edits.size();
+    EditPlan addition = m_planner->plan(call);
+    const DesignerObject *added = addition.added;
+    bool isDone = perform(addition);
+    for (auto setting = call.settings.cbegin(); isDone && setting != call.settings.cend(); ++setting) {
+        EditPlan value =
+            plan(u"set \"%1.%2\" = %3"_s.arg(added->objectPath(), setting->property, setting->value));
+        isDone = perform(value);
+    }
+    if (isDone) {
+        return stack->commitGesture();
+    }
+    m_edits.resize(edits);
+    stack->rollBackGesture();
+    return false;
 }
 
 bool EditScript::perform(EditPlan &plan)
@@ -157,7 +195,14 @@ QStringList EditScript::invalidValues() const
     for (const SharedProperty &property : m_changed) {
         const DesignerObject *owner = property->parentObject();
         if (owner && owner->project() == &m_project && !property->isValid()) {
-            lines.append(u"%1: %2"_s.arg(pathOf(property), property->errorString()));
+            lines.append(u"%1: %2%3"_s.arg(pathOf(property), property->errorString(), detailOf(*property)));
+        }
+        const auto *variable = kindCast<ProjectVariable>(owner);
+        if (variable && property == variable->value() && property->isValid()
+            && NumberVariable::lacksNumber(*variable)) {
+            lines.append(Common::LocalizationHelper::coreString(
+                             u"%1: \"%2\" is not a number that the device supports."_s)
+                             .arg(pathOf(property), property->valueString()));
         }
     }
     lines.sort();

@@ -23,7 +23,8 @@ struct EditCall;
     done. EditLine defines the words, ProjectPath the paths. Empty lines and lines that begin with "#" are
     ignored.
 
-    Each line is one step in the project's history, except undo and redo.
+    Each line is one step in the project's history, except undo and redo. An "add" with values is one step,
+    too.
 */
 class CORVEX_EXPORT EditScript
 {
@@ -60,7 +61,8 @@ public:
     //! From now on, changes also have their readable forms, which takes time.
     void setReportsReadable(bool reports) { m_reportsReadable = reports; }
 
-    //! Plans the edit of a line for the current state of the project. Changes nothing.
+    //! Plans the edit of a line for the current state of the project. Changes nothing. For an "add" with
+    //! values, it plans only the addition.
     EditPlan plan(const QString &line) const;
     //! Does the edit. On failure the project is unchanged, and refusal() gives the reason.
     Result run(const QString &line);
@@ -77,6 +79,7 @@ public:
 private:
     bool perform(EditPlan &plan);
     bool push(EditPlan &plan);
+    bool addWithValues(const EditCall &call);
     Result noteFailure(const EditCall &call);
 
     Project &m_project;

@@ -292,6 +292,14 @@ QString printChoice(const Place &, const QString &stored)
     return stored;
 }
 
+//! A text without a family keeps that of the value.
+Reading readFont(const Place &place, const QString &text)
+{
+    const QFont &held = static_cast<const FontProperty &>(place.property).value();
+    const QString stored = ReadableText::toFont(text, held.family());
+    return {stored.isNull() ? text : stored, {}};
+}
+
 template<QString (*convert)(const QString &)>
 Reading readShort(const Place &, const QString &text)
 {
@@ -378,8 +386,7 @@ constexpr ReadableForm forms[] = {
      &printShort<ReadableText::fromBorder>},
     {&isOfKind<ColorProperty>, &isNeverStored, &readShort<ReadableText::toColor>,
      &printShort<ReadableText::fromColor>},
-    {&isOfKind<FontProperty>, &isNeverStored, &readShort<ReadableText::toFont>,
-     &printShort<ReadableText::fromFont>},
+    {&isOfKind<FontProperty>, &isNeverStored, &readFont, &printShort<ReadableText::fromFont>},
 };
 
 //! Null if values of the kind are only written as they are stored.

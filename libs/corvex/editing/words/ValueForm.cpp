@@ -184,8 +184,9 @@ constexpr ValueForm forms[] = {
      "set Main.lamp.color = #C62828\nset Main.lamp.color = #80C62828\nset Main.lamp.color = darkgreen"},
     {"font", &isOfKind<FontProperty>, nullptr, "bold 24px \"DejaVu Sans\"",
      "Any of the words `bold`, `italic`, `underline`, `overline` and `strikeout`, then the size in pixels "
-     "(`px`) or points (`pt`), then the family in quotes.",
-     "set Main.caption.font = bold 24px \"DejaVu Sans\"\nset Main.caption.font = 12pt \"DejaVu Sans\""},
+     "(`px`) or points (`pt`), then the family in quotes. Without a family, the font keeps its own.",
+     "set Main.caption.font = bold 24px\nset Main.caption.font = bold 24px \"DejaVu Sans\"\nset "
+     "Main.caption.font = 12pt \"DejaVu Sans\""},
     {"size", &isOfKind<SizeProperty>, nullptr, "120 x 40",
      "The width and the height, with an `x` between them.", "set Main.lamp.size = 120 x 40"},
     {"position", &isOfKind<PointProperty>, nullptr, "10, 20",

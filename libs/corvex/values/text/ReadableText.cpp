@@ -202,9 +202,10 @@ QString ReadableText::fromFont(const QString &stored)
     return ok && toFont(text) == stored ? text : QString();
 }
 
-QString ReadableText::toFont(const QString &text)
+QString ReadableText::toFont(const QString &text, const QString &family)
 {
     QFont font;
+    font.setFamily(family);
     bool hasFamily = false;
     bool hasSize = false;
     qsizetype place = 0;
@@ -214,11 +215,11 @@ QString ReadableText::toFont(const QString &text)
             continue;
         }
         if (text.at(place) == u'"') {
-            const QString family = takeQuoted(text, place);
-            if (hasFamily || family.isNull()) {
+            const QString quoted = takeQuoted(text, place);
+            if (hasFamily || quoted.isNull()) {
                 return {};
             }
-            font.setFamily(family);
+            font.setFamily(quoted);
             hasFamily = true;
             continue;
         }
@@ -228,12 +229,17 @@ QString ReadableText::toFont(const QString &text)
         }
         const QStringView word = QStringView(text).sliced(begin, place - begin);
         const bool isSize = word.front().isDigit();
+        if (hasSize && !hasFamily && word.front().isUpper() && !text.contains(u'"')) {
+            font.setFamily(text.sliced(begin).trimmed());
+            hasFamily = true;
+            break;
+        }
         if ((isSize && hasSize) || !readFontWord(word, font)) {
             return {};
         }
         hasSize = hasSize || isSize;
     }
-    return hasFamily && hasSize ? Conversion::toString(font) : QString();
+    return (hasFamily || !family.isEmpty()) && hasSize ? Conversion::toString(font) : QString();
 }
 
 QString ReadableText::quoted(const QString &text)

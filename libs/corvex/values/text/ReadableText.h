@@ -32,7 +32,9 @@ public:
     static QString toColor(const QString &text);
     //! `bold italic 24px "DejaVu Sans"`: styles, the size in "px" or "pt", and the family.
     static QString fromFont(const QString &stored);
-    static QString toFont(const QString &text);
+    //! The family may also be without quotes, at the end. \a family is used if the text has none.
+    static QString toFont(const QString &text, const QString &family);
+    static QString toFont(const QString &text) { return toFont(text, {}); }
 
     //! The text between double quotes, with escapes like those of JSON.
     static QString quoted(const QString &text);

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Designer {
 
-DuplicateObjects::DuplicateObjects(const QList<DesignerObject *> &objects)
+DuplicateObjects::DuplicateObjects(const QList<DesignerObject *> &objects, const QString &name)
 {
     const QList<DesignerObject *> originals =
         ObjectSelection::inListOrder(ObjectSelection::outermost(objects));
@@ -19,7 +19,7 @@ DuplicateObjects::DuplicateObjects(const QList<DesignerObject *> &objects)
         refuse(Common::LocalizationHelper::coreString(u"There is nothing to duplicate."_s));
         return;
     }
-    ObjectCopies copies(originals);
+    ObjectCopies copies(originals, name);
     if (!copies.error().isEmpty()) {
         refuse(copies.error());
         return;

@@ -9,8 +9,9 @@ namespace Halvane::Corvex::Designer {
 class DuplicateObjects : public CompositeCommand
 {
 public:
-    //! All objects must be of kinds that can be added, and in one project.
-    explicit DuplicateObjects(const QList<DesignerObject *> &objects);
+    //! All objects must be of kinds that can be added, and in one project. \a name is that of the first copy;
+    //! if it is empty, a free name is found.
+    explicit DuplicateObjects(const QList<DesignerObject *> &objects, const QString &name = {});
 };
 
 } // namespace Halvane::Corvex::Designer

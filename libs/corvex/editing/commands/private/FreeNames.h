@@ -19,6 +19,8 @@ public:
     //! A name for a copy in the list of \a original: the stem of its name with the first free number. If the
     //! original's name is invalid, the stem is the base name of its class.
     QString nameForCopyOf(const DesignerObject &original);
+    //! No copy gets this name.
+    void reserve(const QString &name) { m_given.insert(name); }
 
 private:
     QString numbered(const DesignerObject &original, const QString &stem);

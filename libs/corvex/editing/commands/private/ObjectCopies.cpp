@@ -16,16 +16,17 @@ namespace Halvane::Corvex::Designer {
 
 using Common::LocalizationHelper;
 
-ObjectCopies::ObjectCopies(const QList<DesignerObject *> &originals)
+ObjectCopies::ObjectCopies(const QList<DesignerObject *> &originals, const QString &name)
 {
     FreeNames names;
+    names.reserve(name);
     for (const DesignerObject *original : originals) {
         const qsizetype firstPair = m_pairs.size();
         if (!copy(*original)) {
             m_copies.clear();
             return;
         }
-        nameCopies(firstPair, names);
+        nameCopies(firstPair, firstPair == 0 ? name : QString(), names);
     }
     for (const Pair &pair : std::as_const(m_pairs)) {
         followReferences(pair);
@@ -74,9 +75,9 @@ bool ObjectCopies::addPairs(const DesignerObject &original, DesignerObject &copy
     return true;
 }
 
-//! Names the copy of the pair \a firstPair and, if it is an element, the elements in it. Elements of a copied
-//! screen keep their names.
-void ObjectCopies::nameCopies(qsizetype firstPair, FreeNames &names)
+//! Names the copy of the pair \a firstPair, with \a wanted unless it is empty, and, if it is an element, the
+//! elements in it. Elements of a copied screen keep their names.
+void ObjectCopies::nameCopies(qsizetype firstPair, const QString &wanted, FreeNames &names)
 {
     const DesignerObject *root = m_pairs.at(firstPair).original;
     const ReferenceTarget target(root);
@@ -85,7 +86,8 @@ void ObjectCopies::nameCopies(qsizetype firstPair, FreeNames &names)
     for (qsizetype i = firstPair; i < m_pairs.size(); ++i) {
         const auto &[original, copy] = m_pairs.at(i);
         if (i == firstPair || (kindCast<Element>(root) && kindCast<Element>(original))) {
-            const QString name = names.nameForCopyOf(*original);
+            const QString name =
+                i == firstPair && !wanted.isEmpty() ? wanted : names.nameForCopyOf(*original);
             family.newNames.insert(original->getIdName(), name);
             copy->setDisableValidation(true);
             copy->setIdName(name);

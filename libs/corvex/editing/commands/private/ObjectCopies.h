@@ -19,8 +19,9 @@ struct Mention;
 class ObjectCopies
 {
 public:
-    //! No original may be inside another one.
-    explicit ObjectCopies(const QList<DesignerObject *> &originals);
+    //! No original may be inside another one. \a name is that of the first copy; if it is empty, a free name
+    //! is found.
+    explicit ObjectCopies(const QList<DesignerObject *> &originals, const QString &name = {});
 
     //! Why there are no copies; empty on success.
     const QString &error() const { return m_error; }
@@ -42,7 +43,7 @@ private:
 
     bool copy(const DesignerObject &original);
     bool addPairs(const DesignerObject &original, DesignerObject &copy);
-    void nameCopies(qsizetype firstPair, FreeNames &names);
+    void nameCopies(qsizetype firstPair, const QString &wanted, FreeNames &names);
     Family &familyOf(const ReferenceTarget &target);
     void followReferences(const Pair &pair) const;
     void follow(Mention &mention, const DesignerObject *owner) const;

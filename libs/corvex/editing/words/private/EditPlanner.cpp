@@ -4,6 +4,7 @@
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/common/files/FileHelper.h"
 #include "corvex/core/DesignerFactory.h"
+#include "corvex/core/properties/BasicProperties.h"
 #include "corvex/editing/commands/ChangeConfiguration.h"
 #include "corvex/editing/commands/Commands.h"
 #include "corvex/editing/commands/CompositeCommand.h"
@@ -34,6 +35,8 @@
 #include "corvex/project/elements/FilterElement.h"
 #include "corvex/project/files/FileNameRules.h"
 #include "corvex/values/records/ListInfo.h"
+#include "corvex/values/text/ObjectPath.h"
+#include "corvex/variables/ProjectVariable.h"
 
 #include <QFileInfo>
 
@@ -93,7 +96,9 @@ const QList<EditForm> &EditPlanner::forms()
 {
     static const QList<EditForm> table{
         {"set", "set PATH VALUE", 1, -1, -1, &EditPlanner::set},
-        {"add", "add CLASS TO [NAME]", 2, 3, 2, &EditPlanner::add},
+        {"add", "add CLASS TO [NAME], or add CLASS TO NAME { property: value; property: value }", 2, 3, 2,
+         &EditPlanner::add},
+        {"copy", "copy PATH [NAME]", 1, 2, 1, &EditPlanner::copy},
         {"delete", "delete PATH...", 1, -1, -1, &EditPlanner::remove},
         {"rename", "rename PATH NAME", 2, 2, 1, &EditPlanner::rename},
         {"group", "group NAME PATH...", 3, -1, 0, &EditPlanner::group},
@@ -112,21 +117,43 @@ const QList<EditForm> &EditPlanner::forms()
     return table;
 }
 
+const EditForm *EditPlanner::formNamed(const QString &name)
+{
+    const auto form =
+        std::ranges::find(forms(), name, [](const EditForm &known) { return QLatin1StringView(known.name); });
+    return form == forms().cend() ? nullptr : &*form;
+}
+
 EditCall EditPlanner::read(const QString &line)
 {
     EditCall call;
-    const QString trimmed = line.trimmed();
+    QString trimmed = line.trimmed();
     if (trimmed.isEmpty() || trimmed.startsWith(u'#')) {
         return call;
+    }
+    call.endsWithBlank = line.endsWith(u' ') || line.endsWith(u'\t');
+    const qsizetype brace = trimmed.indexOf(u'{');
+    if (brace > 0 && trimmed.startsWith("add "_L1) && trimmed.endsWith(u'}')) {
+        const auto settings = SettingText::readOfOne(trimmed.sliced(brace));
+        if (!settings) {
+            call.refusal.message = text(u"Values have the form \"{ property: value; property: value }\"."_s);
+            return call;
+        }
+        call.settings = *settings;
+        trimmed = trimmed.first(brace).trimmed();
     }
     EditLine taken;
     if (!taken.read(trimmed, call.refusal.message)) {
         return call;
     }
-    const QString name = taken.words.takeFirst();
-    const auto form =
-        std::ranges::find(forms(), name, [](const EditForm &known) { return QLatin1StringView(known.name); });
-    if (form == forms().cend()) {
+    QString name = taken.words.takeFirst();
+    if (!formNamed(name) && taken.words.value(0) == u'=') { // "PATH = VALUE"
+        taken.words.prepend(name);
+        taken.rest.prepend("= "_L1);
+        name = u"set"_s;
+    }
+    const EditForm *form = formNamed(name);
+    if (!form) {
         QStringList names;
         for (const EditForm &known : forms()) {
             names.append(QString::fromLatin1(known.name));
@@ -134,11 +161,14 @@ EditCall EditPlanner::read(const QString &line)
         call.refusal = {Suggestion::unknown(u"edit"_s, name, names, {}), EditRefusal::Edits};
         return call;
     }
-    call.form = &*form;
+    call.form = form;
     call.words = taken.words;
     call.rest = taken.rest;
     if (call.words.size() < form->fewest || (form->most >= 0 && call.words.size() > form->most)) {
         call.refusal.message = text(u"Usage: %1"_s, QLatin1StringView(form->usage));
+    } else if (!call.settings.isEmpty() && call.givenName().isEmpty()) {
+        call.refusal.message =
+            text(u"Name the object, so that its values can be set: add CLASS TO NAME { ... }"_s);
     }
     return call;
 }
@@ -206,13 +236,48 @@ SharedProperty EditPlanner::listFor(const QString &path, const DesignerObject &i
     return list;
 }
 
+//! Null, with the reason, if the path is not that of a property. The path of a variable means its value.
+SharedProperty EditPlanner::propertyToSet(const QString &path, EditPlan &plan) const
+{
+    const auto [object, property] = ProjectPath::find(m_project, path);
+    const auto *variable = property ? nullptr : kindCast<ProjectVariable>(object);
+    if (variable && variable->value()
+        && variable->value()->editorParameters().value(u"visible"_s, true).toBool()) {
+        return variable->value();
+    }
+    if (property) {
+        return property;
+    }
+    plan.refusal = ProjectPath::refusal(m_project, path, ProjectPath::Property);
+    const QString id = ObjectPath::lastSegment(path).toString();
+    const ProjectPlace place =
+        ProjectPath::find(m_project, path.chopped(std::min(path.size(), id.size() + 1)));
+    const auto *owner = place.property ? nullptr : kindCast<Element>(place.object);
+    const RuntimePropertyList known = owner ? owner->runtimeProperties() : RuntimePropertyList();
+    if (std::ranges::find(known, id, &RuntimeProperty::property) != known.end()) {
+        const QString stored = id == u'x' || id == u'y'                ? u"position"_s
+                               : id == "width"_L1 || id == "height"_L1 ? u"size"_s
+                                                                       : QString();
+        refuse(plan,
+               stored.isEmpty()
+                   ? u"\"%1\" exists only on the device, where expressions, rules and assignments "
+                     "use it."_s
+                   : u"\"%1\" exists only on the device, where expressions, rules and assignments "
+                     "use it. Here, set \"%2\"."_s.arg(u"%1"_s, stored),
+               path);
+    }
+    return {};
+}
+
 void EditPlanner::set(const EditCall &call, EditPlan &plan) const
 {
     const QString &path = call.words.first();
-    const auto [object, property] = ProjectPath::find(m_project, path);
+    const SharedProperty property = propertyToSet(path, plan);
+    const DesignerObject *object = property ? property->parentObject() : nullptr;
     if (!property) {
-        plan.refusal = ProjectPath::refusal(m_project, path, ProjectPath::Property);
-    } else if (property->isList() || property->isObject()) {
+        return;
+    }
+    if (property->isList() || property->isObject()) {
         refuse(plan, u"\"%1\" contains objects. Use add, delete and move."_s, path);
     } else if (property == object->idProperty()) {
         refuse(plan, u"Use rename to change a name; it updates all references."_s);
@@ -230,6 +295,12 @@ void EditPlanner::setValue(const SharedProperty &property, const EditCall &call,
     if (!value.error.isEmpty()) {
         refuse(plan, u"\"%1\": %2"_s, path, value.error);
         return;
+    }
+    const bool isText = propertyCast<StringProperty>(property) && kindCast<Element>(property->parentObject());
+    if (call.endsWithBlank && isText && !valueIn(call).endsWith(u'"')) {
+        plan.output.append(
+            text(u"%1: The blank at the end is not part of the value. Put the value in quotes to keep it."_s,
+                 path));
     }
     const bool isHidden = !property->editorParameters().value(u"visible"_s, true).toBool();
     plan.defaultReason = isHidden ? text(u"\"%1\" is always %2 in objects of the class %3."_s, path,
@@ -283,6 +354,23 @@ void EditPlanner::add(const EditCall &call, EditPlan &plan) const
     } else {
         take(std::make_unique<AddObject>(list, item, false), plan);
     }
+}
+
+void EditPlanner::copy(const EditCall &call, EditPlan &plan) const
+{
+    DesignerObject *original = object(call.words.first(), plan);
+    const QString name = call.words.value(1);
+    if (!original) {
+        return;
+    }
+    if (name.isEmpty()) {
+        take(Commands::duplicationOf({original}), plan);
+        return;
+    }
+    plan.explain = [original, name](const QString &reason) {
+        return Explanation::ofName(*original, name, reason);
+    };
+    take(Commands::copyOf(original, name), plan);
 }
 
 void EditPlanner::remove(const EditCall &call, EditPlan &plan) const

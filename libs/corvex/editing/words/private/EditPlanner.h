@@ -3,6 +3,7 @@
 
 #include "corvex/core/DesignerProperty.h"
 #include "corvex/editing/words/EditPlan.h"
+#include "corvex/editing/words/private/SettingText.h"
 
 #include <QList>
 #include <QString>
@@ -32,6 +33,8 @@ struct EditCall
     const EditForm *form = nullptr; //!< null if the line has no edit
     QStringList words;              //!< the words after the name of the edit
     QString rest;                   //!< the line after the first of the words, unchanged
+    QList<SettingText> settings;    //!< the values of an added object
+    bool endsWithBlank = false;     //!< blanks at the end of the line, which were dropped
     EditRefusal refusal;            //!< why the line is invalid
 
     bool movesHistory() const;
@@ -54,7 +57,9 @@ private:
     friend struct EditCall;
 
     static const QList<EditForm> &forms();
+    static const EditForm *formNamed(const QString &name);
 
+    SharedProperty propertyToSet(const QString &path, EditPlan &plan) const;
     DesignerObject *object(const QString &path, EditPlan &plan) const;
     bool objects(const QStringList &paths, QList<DesignerObject *> &found, EditPlan &plan) const;
     SharedProperty listFor(const QString &path, const DesignerObject &item, EditPlan &plan) const;
@@ -65,6 +70,7 @@ private:
     void set(const EditCall &call, EditPlan &plan) const;
     void setValue(const SharedProperty &property, const EditCall &call, EditPlan &plan) const;
     void add(const EditCall &call, EditPlan &plan) const;
+    void copy(const EditCall &call, EditPlan &plan) const;
     void remove(const EditCall &call, EditPlan &plan) const;
     void rename(const EditCall &call, EditPlan &plan) const;
     void group(const EditCall &call, EditPlan &plan) const;

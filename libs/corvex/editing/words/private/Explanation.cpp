@@ -48,7 +48,8 @@ QString Explanation::ofName(const DesignerObject &object, const QString &name, c
     }
     const bool isImage = kindCast<ImageResource>(&object);
     if (!isImage && name.size() < 2) {
-        return LocalizationHelper::coreString(u"%1 Use at least 2 characters."_s).arg(reason);
+        return LocalizationHelper::coreString(u"\"%1\" is too short. A name has at least 2 characters."_s)
+            .arg(name);
     }
     const DesignerObject *other = ownerOfName(object, name);
     return other ? LocalizationHelper::coreString(u"%1 \"%2\" (%3) has this name."_s)

@@ -34,7 +34,34 @@ std::optional<SettingText> takeSetting(QStringView text, qsizetype &place)
     }
     setting.value = text.sliced(colon + 1, end - colon - 1).trimmed().toString();
     place = end;
-    return setting.element.isEmpty() ? std::nullopt : std::optional(setting);
+    return setting;
+}
+
+std::optional<QList<SettingText>> readAll(const QString &text, bool haveElements)
+{
+    const QString trimmed = text.trimmed();
+    if (trimmed.size() < 2 || trimmed.front() != u'{' || trimmed.back() != u'}') {
+        return {};
+    }
+    const QString inside = trimmed.sliced(1, trimmed.size() - 2);
+    QList<SettingText> settings;
+    qsizetype place = 0;
+    const auto skipBlanks = [&] {
+        while (place < inside.size() && inside.at(place).isSpace()) {
+            ++place;
+        }
+        return place < inside.size();
+    };
+    while (skipBlanks()) {
+        const std::optional<SettingText> setting = takeSetting(inside, place);
+        if (!setting || setting->element.isEmpty() == haveElements
+            || (skipBlanks() && inside.at(place) != u';')) {
+            return {};
+        }
+        settings.append(*setting);
+        ++place;
+    }
+    return settings;
 }
 
 } // namespace
@@ -62,28 +89,12 @@ QString SettingText::print(const QList<SettingText> &settings)
 
 std::optional<QList<SettingText>> SettingText::read(const QString &text)
 {
-    const QString trimmed = text.trimmed();
-    if (trimmed.size() < 2 || trimmed.front() != u'{' || trimmed.back() != u'}') {
-        return {};
-    }
-    const QString inside = trimmed.sliced(1, trimmed.size() - 2);
-    QList<SettingText> settings;
-    qsizetype place = 0;
-    const auto skipBlanks = [&] {
-        while (place < inside.size() && inside.at(place).isSpace()) {
-            ++place;
-        }
-        return place < inside.size();
-    };
-    while (skipBlanks()) {
-        const std::optional<SettingText> setting = takeSetting(inside, place);
-        if (!setting || (skipBlanks() && inside.at(place) != u';')) {
-            return {};
-        }
-        settings.append(*setting);
-        ++place;
-    }
-    return settings;
+    return readAll(text, true);
+}
+
+std::optional<QList<SettingText>> SettingText::readOfOne(const QString &text)
+{
+    return readAll(text, false);
 }
 
 } // namespace Halvane::Corvex::Designer

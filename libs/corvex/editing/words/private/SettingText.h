@@ -11,7 +11,7 @@ namespace Halvane::Corvex::Designer {
 //! One value that a state or an action sets.
 struct SettingText
 {
-    QString element;
+    QString element; //!< empty in the values of one object
     QString property;
     QString value; //!< as it is written, with quotes if there are any
 
@@ -21,6 +21,8 @@ struct SettingText
     static QString print(const QList<SettingText> &settings);
     //! Nothing if the text does not have this form.
     static std::optional<QList<SettingText>> read(const QString &text);
+    //! The same for values of one object: `{ color: #C62828; text: "a; b" }`.
+    static std::optional<QList<SettingText>> readOfOne(const QString &text);
 };
 
 } // namespace Halvane::Corvex::Designer
