@@ -216,12 +216,18 @@ TEST_F(EditScriptTest, ObjectsAreCopiedAndAddedWithTheirValues)
         << qPrintable(script.refusal().message);
     EXPECT_EQ(value(element("title"), "text"), u"a; b"_s);
     EXPECT_EQ(value(element("title"), "position"), u"x: 20; y: 8;"_s);
+    EXPECT_EQ(run(u"add CheckButton Main check { checkedState: { title.text: a; title.opacity: 40 }; "
+                  u"variable: on }"),
+              EditScript::Result::Done)
+        << qPrintable(script.refusal().message);
+    EXPECT_EQ(script.plan(u"print Main.check.checkedState"_s).output.value(0),
+              u"{ title.text: a; title.opacity: 40 }"_s);
     EXPECT_EQ(run(u"copy Main.title heading"), EditScript::Result::Done)
         << qPrintable(script.refusal().message);
     EXPECT_EQ(value(element("heading"), "xBinding"), u"<0306heading.y><0101+><02041>"_s);
     EXPECT_EQ(run(u"copy Main.title"), EditScript::Result::Done);
     EXPECT_EQ(value(element("title1"), "text"), u"a; b"_s);
-    EXPECT_EQ(stack().count(), steps + 3);
+    EXPECT_EQ(stack().count(), steps + 4);
     const QString added = text();
     EXPECT_EQ(run(u"add Text Main late { text: b; size: big }"), EditScript::Result::Failed);
     EXPECT_TRUE(script.refusal().message.contains(u"a size such as"_s));

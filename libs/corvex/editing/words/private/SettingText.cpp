@@ -12,8 +12,8 @@ namespace Halvane::Corvex::Designer {
 
 namespace {
 
-//! The setting at \a place, which is moved behind it.
-std::optional<SettingText> takeSetting(QStringView text, qsizetype &place)
+//! The setting at \a place, which is moved behind it. If \a nests, a value can have braces around semicolons.
+std::optional<SettingText> takeSetting(QStringView text, qsizetype &place, bool nests)
 {
     const qsizetype colon = text.indexOf(u':', place);
     if (colon < 0) {
@@ -24,7 +24,9 @@ std::optional<SettingText> takeSetting(QStringView text, qsizetype &place)
     setting.property = ObjectPath::lastSegment(path).toString();
     setting.element = path.chopped(std::min(path.size(), setting.property.size() + 1));
     qsizetype end = colon + 1;
-    while (end < text.size() && text[end] != u';') {
+    int depth = 0;
+    while (end < text.size() && (text[end] != u';' || depth > 0)) {
+        depth += !nests ? 0 : text[end] == u'{' ? 1 : text[end] == u'}' ? -1 : 0;
         // A quote directly after a letter or digit (5" pipe), or one that is not closed, is a part of the
         // value.
         qsizetype behind = end;
@@ -53,7 +55,7 @@ std::optional<QList<SettingText>> readAll(const QString &text, bool haveElements
         return place < inside.size();
     };
     while (skipBlanks()) {
-        const std::optional<SettingText> setting = takeSetting(inside, place);
+        const std::optional<SettingText> setting = takeSetting(inside, place, !haveElements);
         if (!setting || setting->element.isEmpty() == haveElements
             || (skipBlanks() && inside.at(place) != u';')) {
             return {};
