@@ -44,8 +44,9 @@ void EditorRequests::connectNotify(const QMetaMethod &signal)
 
 void EditorRequests::disconnectNotify(const QMetaMethod &signal)
 {
-    if (signal != QMetaMethod::fromSignal(&EditorRequests::changed)) { // its receiver may be half destroyed
-        emit changed();
+    // Later, because a receiver that is being destroyed holds locks here.
+    if (signal != QMetaMethod::fromSignal(&EditorRequests::changed)) {
+        QMetaObject::invokeMethod(this, &EditorRequests::changed, Qt::QueuedConnection);
     }
 }
 
