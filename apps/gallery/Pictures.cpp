@@ -62,8 +62,11 @@ QStringList Pictures::draw()
 
 void Pictures::save(QWidget &widget, const QString &name)
 {
+    constexpr int rounds = 3; // a layout may show a scroll bar, which changes the layout
     widget.ensurePolished();
-    QApplication::processEvents();
+    for (int round = 0; round < rounds; ++round) {
+        QApplication::processEvents();
+    }
     const QString path = m_folder + u'/' + name + ".png"_L1;
     if (!widget.grab().save(path)) {
         m_errors.append(u"%1: The picture cannot be written."_s.arg(path));
@@ -80,6 +83,7 @@ void Pictures::drawPanels()
         serve(panel.requests());
         panel.resize(panelWidth, 4000);
         panel.show();
+        QApplication::processEvents(); // fields in tables take their height
         panel.resize(panelWidth, panel.widget()->height());
         save(panel, "panel-"_L1 + object.key());
     }

@@ -8,11 +8,14 @@
 
 #include "EditorFixture.h"
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QToolButton>
+#include <QToolTip>
 
 using namespace Qt::StringLiterals;
 
@@ -80,6 +83,26 @@ TEST_F(ChangesEditorTest, ALineOfAStateHasTheEditorOfItsProperty)
         ASSERT_TRUE(document->undo());
     }
     EXPECT_EQ(editor->row().value, QString());
+}
+
+TEST_F(ChangesEditorTest, ALineIsAsHighAsItsTextAndACutNameIsAToolTip)
+{
+    DesignerObject *action = element("action1");
+    const SharedProperty stored = action->getProperty(u"propertyChanges"_s);
+    const QString setting = u"{ text1.text: a text that is much too long for a single line }"_s;
+    ASSERT_TRUE(push(Commands::changeOf({{stored, ReadableValue::read(*stored, setting).stored}})));
+    ASSERT_TRUE(push(Commands::renameOf(element("text1"), u"aTextWithAVeryLongNameInAState"_s)));
+    ChangesEditor *editor = changes(action, "propertyChanges");
+    QApplication::processEvents();
+    const auto *text = named<QPlainTextEdit>(editor, u".text"_s);
+    EXPECT_GE(text->height(), 2 * text->fontMetrics().height());
+    const auto *add = named<QPushButton>(editor, u"Add Line"_s);
+    EXPECT_GE(add->mapTo(editor, QPoint()).y(), text->mapTo(editor, text->rect().bottomLeft()).y());
+    auto *name = named<KdLineEdit>(editor, u"line 1, element"_s);
+    QHelpEvent event(QEvent::ToolTip, QPoint(), QPoint());
+    QApplication::sendEvent(name, &event);
+    EXPECT_EQ(QToolTip::text(), Qt::convertFromPlainText(name->text()));
+    QToolTip::hideText();
 }
 
 TEST_F(ChangesEditorTest, TheTextIsAnotherViewThatLosesNothing)

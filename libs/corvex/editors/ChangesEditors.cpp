@@ -44,8 +44,11 @@ void ChangesEditor::createFields()
     connect(m_text, &ExpressionEdit::entered, this, &ChangesEditor::completeEntry);
     connect(m_text, &ExpressionEdit::restored, this, &ChangesEditor::restore);
 
-    auto *buttons = new QVBoxLayout;
+    auto *buttons = new QHBoxLayout;
     buttons->setSpacing(Theme::gap);
+    buttons->setContentsMargins(0, Theme::gap / 2, 0, 0);
+    m_table->moveTools(buttons);
+    buttons->addStretch();
     const auto addButton = [&](const QString &text, const QString &help) {
         auto *button = new QToolButton(this);
         button->setText(LocalizationHelper::coreString(text));
@@ -58,8 +61,7 @@ void ChangesEditor::createFields()
     };
     m_asText = addButton(u"Text"_s, u"Edit the changes as text"_s);
     m_record = addButton(u"Record"_s, u"Note what is changed on the canvas"_s);
-    buttons->addStretch();
-    fields()->addLayout(buttons);
+    static_cast<QVBoxLayout *>(layout())->insertLayout(1, buttons);
     connect(m_asText, &QToolButton::clicked, this, [this](bool isText) { showAsText(isText); });
     connect(m_record, &QToolButton::clicked, this,
             [this](bool isOn) { requests()->setRecorded(isOn ? properties().value(0) : SharedProperty()); });
@@ -69,6 +71,7 @@ void ChangesEditor::showView(bool isText)
 {
     m_text->setVisible(isText);
     m_table->setVisible(!isText);
+    m_table->setToolsVisible(!isText);
     m_asText->setChecked(isText);
     setFocusProxy(isText ? static_cast<QWidget *>(m_text) : m_table);
     emit heightChanged();

@@ -95,6 +95,8 @@ class CORVEX_EXPORT FlagsEditor : public PropertyEditor
 public:
     using PropertyEditor::PropertyEditor;
 
+    bool isWide() const override { return true; } // the words for a flag are sentences
+
 protected:
     void createFields() override;
     void showRow() override;

@@ -188,7 +188,7 @@ bool PropertyEditor::showMessage(QLabel *&label, const QString &text)
                                                                  : &Theme::muted);
         connect(label, &QLabel::linkActivated, this, &PropertyEditor::followOffer,
                 Qt::QueuedConnection); // the link may remove the label
-        m_layout->addWidget(label);
+        m_layout->insertWidget(isError && m_hintLabel ? m_layout->indexOf(m_hintLabel) : -1, label);
     }
     if (!label || (label->text() == text && label->isHidden() == text.isEmpty())) {
         return false;

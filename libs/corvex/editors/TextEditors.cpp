@@ -3,6 +3,7 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editing/words/ReadableValue.h"
+#include "corvex/editors/private/FieldButton.h"
 #include "corvex/widgets/IconSet.h"
 #include "corvex/widgets/KdLineEdit.h"
 #include "corvex/widgets/KdTextEdit.h"
@@ -98,10 +99,7 @@ void ReadOnlyLineEditor::showRow()
 void OriginalLocationEditor::createFields()
 {
     ReadOnlyLineEditor::createFields();
-    m_folder = new QToolButton(this);
-    m_folder->setIcon(IconSet::icon(IconSet::Folder));
-    m_folder->setFixedHeight(Theme::fieldHeight(this));
-    m_folder->setToolTip(LocalizationHelper::coreString(u"Show in folder"_s));
+    m_folder = new FieldButton(IconSet::Folder, LocalizationHelper::coreString(u"Show in folder"_s), this);
     fields()->addWidget(m_folder); // it serves read-only rows, too
     connect(m_folder, &QToolButton::clicked, this, &OriginalLocationEditor::showInFolder);
 }
@@ -133,10 +131,7 @@ void ProjectPasswordEditor::createFields()
     m_line = addLine();
     m_line->setEchoMode(QLineEdit::Password);
     m_line->setInputMethodHints(Qt::ImhSensitiveData | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
-    m_show = new QToolButton(this);
-    m_show->setIcon(IconSet::icon(IconSet::Eye));
-    m_show->setToolTip(LocalizationHelper::coreString(u"Show while pressed"_s));
-    m_show->setFixedHeight(Theme::fieldHeight(this));
+    m_show = new FieldButton(IconSet::Eye, LocalizationHelper::coreString(u"Show while pressed"_s), this);
     m_show->setFocusPolicy(Qt::TabFocus); // a click leaves the entry open
     fields()->addWidget(m_show);          // it serves read-only rows, too
     connect(m_show, &QToolButton::pressed, this, [this] { m_line->setEchoMode(QLineEdit::Normal); });

@@ -2,6 +2,7 @@
 #include "corvex/widgets/KdComboBox.h"
 
 #include "corvex/widgets/AccessibleValue.h"
+#include "corvex/widgets/Theme.h"
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -40,7 +41,8 @@ QSize KdComboBox::sizeHint() const
     const QSize icon = iconSize() + QSize(4, 2);
     const QSize contents(fewestLetters * fontMetrics().horizontalAdvance(u'X') + icon.width(),
                          std::max(fontMetrics().height() + 2, icon.height()));
-    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
+    const QSize needed = style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
+    return {needed.width(), Theme::fieldHeight(this)};
 }
 
 void KdComboBox::keyPressEvent(QKeyEvent *event)

@@ -16,7 +16,7 @@ class CORVEX_EXPORT KdComboBox : public QComboBox
 public:
     explicit KdComboBox(QWidget *parent = nullptr);
 
-    //! A long item does not widen the panel.
+    //! A long item does not widen the panel. As high as the other fields.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 

@@ -27,8 +27,6 @@ using Common::LocalizationHelper;
 namespace {
 
 constexpr int resetWidth = 22;
-constexpr double titleShare = 0.4;
-constexpr int widestTitle = 200;
 
 } // namespace
 
@@ -40,7 +38,12 @@ PanelRow::PanelRow(PropertySheet &sheet, const SheetRow &row, QWidget *parent)
     , m_editor(Editors::createFor(row, this))
 {
     m_title = new RowTitle(m_editor, this);
-    connect(m_editor, &PropertyEditor::heightChanged, this, &PanelRow::heightChanged);
+    connect(m_editor, &PropertyEditor::heightChanged, this, [this] {
+        emit heightChanged();
+        if (m_editor->isWide() && !std::exchange(m_isSettleDue, true)) {
+            QMetaObject::invokeMethod(this, &PanelRow::settle, Qt::QueuedConnection);
+        }
+    });
     m_editor->setProperty(&sheet, row.id);
     showRow(row);
 }
@@ -86,15 +89,18 @@ void PanelRow::placeReset()
     }
 }
 
-int PanelRow::titleWidth(int width)
+void PanelRow::setTitleWidth(int width)
 {
-    return std::min(widestTitle, int(width * titleShare));
+    if (m_titleWidth != width) {
+        m_titleWidth = width;
+        place();
+    }
 }
 
 int PanelRow::heightFor(int width) const
 {
-    const int fields = m_editor->isWide() ? width - 2 * Theme::margin
-                                          : width - titleWidth(width) - 2 * Theme::margin - resetWidth;
+    const int fields =
+        m_editor->isWide() ? width - 2 * Theme::margin : width - m_titleWidth - Theme::margin - resetWidth;
     m_editor->layout()->activate(); // layouts in it keep their old sizes otherwise
     const int needed = m_editor->layout()->hasHeightForWidth()
                            ? m_editor->layout()->totalHeightForWidth(fields)
@@ -103,10 +109,30 @@ int PanelRow::heightFor(int width) const
            + Theme::gap;
 }
 
+//! A field inside other fields has a new height: the layouts around it take it over, the inner ones first.
+void PanelRow::settle()
+{
+    m_isSettleDue = false;
+    const QList<QWidget *> parts = m_editor->findChildren<QWidget *>();
+    for (auto part = parts.crbegin(); part != parts.crend(); ++part) {
+        if (QLayout *layout = (*part)->layout()) {
+            layout->invalidate();
+            layout->activate();
+        }
+    }
+    m_editor->layout()->invalidate();
+    emit heightChanged();
+}
+
 void PanelRow::resizeEvent(QResizeEvent *)
 {
+    place();
+}
+
+void PanelRow::place()
+{
     const int line = Theme::fieldHeight(this);
-    const int left = titleWidth(width());
+    const int left = m_titleWidth;
     const int right = width() - Theme::margin - resetWidth;
     placeReset();
     if (m_editor->isWide()) {

@@ -27,8 +27,8 @@ public:
     void showRow(const SheetRow &row);
     //! The height that the row needs for that width.
     int heightFor(int width) const;
-    //! The width of the titles in a panel of that width.
-    static int titleWidth(int width);
+    //! The width of the column of titles.
+    void setTitleWidth(int width);
 
 signals:
     void resetRequested();
@@ -41,6 +41,8 @@ protected:
 private:
     void showReset(const QString &text);
     void placeReset();
+    void place();
+    void settle();
 
     PropertySheet &m_sheet;
     QString m_editorName;
@@ -48,6 +50,8 @@ private:
     RowTitle *m_title;
     PropertyEditor *m_editor;
     QToolButton *m_reset = nullptr; //!< created with the first value that is not the default
+    int m_titleWidth = 0;
+    bool m_isSettleDue = false;
 };
 
 //! The header of a group in a property panel. A click opens or closes the group.

@@ -15,6 +15,11 @@ namespace {
 //! Rows below the view that exist too, so that the Tab key reaches them.
 constexpr int spareRows = 2;
 
+// The column of titles, in shares of the width.
+constexpr double narrowestTitles = 0.3;
+constexpr double widestTitles = 0.48;
+constexpr double muchTooLong = 1.25;
+
 } // namespace
 
 PanelRows::PanelRows(PropertySheet &sheet, EditorRequests &requests, QWidget *parent)
@@ -45,12 +50,14 @@ void PanelRows::setView(int width, int top, int height)
     m_top = top;
     m_viewHeight = height;
     if (width != this->width()) {
+        resize(width, this->height());
+        measureTitles();
         for (Line &line : m_lines) {
             if (PanelRow *row = m_rows.value(line.id)) {
+                row->setTitleWidth(titleWidth(width));
                 line.height = row->heightFor(width);
             }
         }
-        resize(width, this->height());
     }
     createVisible();
 }
@@ -71,10 +78,33 @@ int PanelRows::estimate() const
     return Theme::fieldHeight(this) + Theme::gap;
 }
 
+int PanelRows::titleWidth(int width) const
+{
+    return std::clamp(m_longestTitle + Theme::margin + 2 * Theme::gap, int(width * narrowestTitles),
+                      int(width * widestTitles));
+}
+
+//! The longest title decides, except those that would be cut anyway or are above a wide editor.
+void PanelRows::measureTitles()
+{
+    QFont bold = font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    const int most = int(width() * widestTitles) - Theme::margin - 2 * Theme::gap;
+    m_longestTitle = 0;
+    for (int row = 0; row < m_sheet.rowCount(); ++row) {
+        const int title = isShown(row) ? metrics.horizontalAdvance(m_sheet.row(row).title) : 0;
+        if (title <= most * muchTooLong) {
+            m_longestTitle = std::max(m_longestTitle, std::min(title, most));
+        }
+    }
+}
+
 //! Lists the lines again. Existing rows are kept.
 void PanelRows::rebuild()
 {
     m_lines.clear();
+    measureTitles();
     QString group;
     for (int row = 0; row < m_sheet.rowCount(); ++row) {
         if (!isShown(row)) {
@@ -93,6 +123,7 @@ void PanelRows::rebuild()
             }
             if (known) {
                 known->showRow(shown);
+                known->setTitleWidth(titleWidth(width()));
             }
             m_lines.push_back({shown.id, group, known ? known->heightFor(width()) : estimate()});
         }
@@ -138,10 +169,12 @@ PanelRow *PanelRows::rowFor(const Line &line)
         const QString id = line.id;
         row = new PanelRow(m_sheet, m_sheet.row(m_sheet.rowOf(id)), this);
         row->editor()->setRequests(&m_requests);
+        row->setTitleWidth(titleWidth(width()));
         connect(row, &PanelRow::heightChanged, this, [this, row = row, id] {
             const auto changed = std::ranges::find(m_lines, id, &Line::id);
-            if (changed != m_lines.end()) {
-                changed->height = row->heightFor(width());
+            const int height = row->heightFor(width());
+            if (changed != m_lines.end() && changed->height != height) {
+                changed->height = height;
                 place();
             }
         });
@@ -158,7 +191,7 @@ PanelRow *PanelRows::rowFor(const Line &line)
 //! Creates the rows in view, and places all of them.
 void PanelRows::createVisible()
 {
-    int top = 0;
+    int top = Theme::margin;
     int spare = spareRows;
     for (Line &line : m_lines) {
         const bool isAbove = top + line.height < m_top;
@@ -172,13 +205,21 @@ void PanelRows::createVisible()
 
 void PanelRows::place()
 {
-    if (m_isPlacing) {
-        return;
+    constexpr int mostRounds = 3; // a text that wraps knows its height when it has its width
+    m_isPlaceDue = true;
+    for (int round = 0; !m_isPlacing && round < mostRounds && m_isPlaceDue; ++round) {
+        m_isPlaceDue = false;
+        m_isPlacing = true;
+        placeOnce();
+        m_isPlacing = false;
     }
-    m_isPlacing = true;
+}
+
+void PanelRows::placeOnce()
+{
     QSet<const QWidget *> shown;
     const QWidget *previous = nullptr;
-    int top = 0;
+    int top = Theme::margin;
     for (Line &line : m_lines) {
         line.top = top;
         QWidget *widget =
@@ -206,7 +247,6 @@ void PanelRows::place()
         }
     }
     resize(width(), top + Theme::margin);
-    m_isPlacing = false;
 }
 
 PropertyEditor *PanelRows::open(const QString &id)

@@ -62,6 +62,9 @@ private:
     void place();
     void toggle(const QString &group);
     int estimate() const;
+    int titleWidth(int width) const;
+    void measureTitles();
+    void placeOnce();
 
     PropertySheet &m_sheet;
     EditorRequests &m_requests;
@@ -72,7 +75,9 @@ private:
     QString m_filter;
     int m_top = 0;
     int m_viewHeight = 0;
+    int m_longestTitle = 0;
     bool m_isPlacing = false;
+    bool m_isPlaceDue = false;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -298,6 +298,7 @@ void ChangeRow::showValue()
     row.isMixed = false;
     row.isVisible = true;
     row.isReadOnly = false;
+    row.editorParameters.insert(u"showSlider"_s, false); // a line has no room for it
     row.title = m_title + u", "_s + m_line.target + u'.' + m_line.property;
     if (m_value && !row.id.isEmpty() && m_value->propertyId() == row.id
         && m_value->properties() == QList<SharedProperty>{target}) {

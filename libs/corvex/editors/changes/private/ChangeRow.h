@@ -24,7 +24,7 @@ class ChangeRow : public QWidget
 
 public:
     //! The shares of the columns of a line with names: element, property, value.
-    static constexpr int columns[] = {3, 3, 4};
+    static constexpr int columns[] = {4, 3, 4};
 
     ChangeRow(const SharedProperty &property, ChangeLines::Form form, QWidget *parent);
 

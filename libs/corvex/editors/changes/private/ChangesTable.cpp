@@ -45,11 +45,15 @@ ChangesTable::ChangesTable(QWidget *parent)
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(Theme::gap);
     m_layout->addWidget(m_headings);
+    auto *tools = new QHBoxLayout;
+    tools->setSpacing(Theme::gap);
     for (QPushButton *button : {m_add, m_more}) {
         button->setAutoDefault(false);
         button->setFixedHeight(Theme::fieldHeight(this));
-        m_layout->addWidget(button, 0, Qt::AlignLeft);
+        tools->addWidget(button);
     }
+    tools->addStretch();
+    m_layout->addLayout(tools);
     m_layout->addStretch();
     m_add->setIcon(IconSet::icon(IconSet::Add));
     connect(m_add, &QPushButton::clicked, this, &ChangesTable::addLine);
@@ -74,6 +78,19 @@ QWidget *ChangesTable::createHeadings()
     }
     headings->hide();
     return headings;
+}
+
+void ChangesTable::moveTools(QHBoxLayout *layout)
+{
+    layout->addWidget(m_add);
+    layout->addWidget(m_more);
+}
+
+void ChangesTable::setToolsVisible(bool isVisible)
+{
+    m_hasTools = isVisible;
+    m_add->setVisible(isVisible);
+    m_more->setVisible(isVisible && !m_rest.isEmpty());
 }
 
 void ChangesTable::setRequests(EditorRequests *requests)
@@ -126,7 +143,7 @@ void ChangesTable::addRows(qsizetype count)
         addRow(m_rest.takeFirst());
     }
     m_more->setText(LocalizationHelper::coreString(u"Show %1 More"_s).arg(m_rest.size()));
-    m_more->setVisible(!m_rest.isEmpty());
+    m_more->setVisible(m_hasTools && !m_rest.isEmpty());
     number();
     emit heightChanged();
 }

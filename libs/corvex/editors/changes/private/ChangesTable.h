@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QWidget>
 
+class QHBoxLayout;
 class QPushButton;
 class QVBoxLayout;
 
@@ -28,6 +29,9 @@ public:
     void showLines(const SharedProperty &property, const QString &title, const QList<ChangeLine> &lines);
     //! For the editors of the values; may be null.
     void setRequests(EditorRequests *requests);
+    //! Moves the buttons to another layout, which the owner shows.
+    void moveTools(QHBoxLayout *layout);
+    void setToolsVisible(bool isVisible);
     //! What has been completed in the fields, with lines that lack a part.
     QList<ChangeLine> lines() const;
     //! Completes what the user has typed, without a signal.
@@ -66,6 +70,7 @@ private:
     QWidget *m_headings;
     QPushButton *m_add;
     QPushButton *m_more;
+    bool m_hasTools = true;
 };
 
 } // namespace Halvane::Corvex::Designer
