@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// corvex-preview FOLDER [--audit] [--shot DIR] [--script FILE] [--state FILE] [--temporary DIR] [--trust]:
-// runs a build on the desktop. Opens a window unless an option makes it run unattended.
+// corvex-preview FOLDER [--audit] [--shot DIR] [--script FILE] [--state FILE] [--temporary DIR] [--report]
+// [--trust]: runs a build on the desktop. Opens a window unless an option makes it run unattended.
 #include "corvex/common/files/TemporaryFolder.h"
 #include "corvex/preview/Bounds.h"
 #include "corvex/preview/OutsideThread.h"
@@ -10,6 +10,7 @@
 #include "Confinement.h"
 #include "Output.h"
 #include "Unattended.h"
+#include "ValueReport.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -40,9 +41,11 @@ bool needsNoWindow(int argc, char **argv)
     });
 }
 
-Exit runInWindow(const QString &folder, const QString &stateFile)
+Exit runInWindow(const QString &folder, const QString &stateFile, bool reportsValues)
 {
     PreviewWindow window;
+    const std::unique_ptr<ValueReport> report =
+        reportsValues ? std::make_unique<ValueReport>(window) : nullptr;
     QString error;
     if (!window.open(folder, stateFile, &error)) {
         complain(error);
@@ -97,7 +100,7 @@ Exit run(const QCommandLineParser &parser, bool isUnattended)
         return Exit::File;
     }
     if (!isUnattended) {
-        return runInWindow(folder, parser.value(u"state"_s));
+        return runInWindow(folder, parser.value(u"state"_s), parser.isSet(u"report"_s));
     }
     PreviewSession session;
     QString error;
@@ -133,6 +136,7 @@ int main(int argc, char **argv)
                        {u"audit"_s, u"Print the problems of the screens as JSON."_s},
                        {u"state"_s, u"The file for persistent variables."_s, u"PATH"_s},
                        {u"temporary"_s, u"A folder for temporary files."_s, u"DIR"_s},
+                       {u"report"_s, u"Print the values of variables when they change, as JSON lines."_s},
                        {u"trust"_s, u"Trust the scripts of the build."_s}});
     parser.addPositionalArgument(u"FOLDER"_s, u"The folder of a build."_s);
     parser.process(*application);

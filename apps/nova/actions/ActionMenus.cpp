@@ -16,8 +16,9 @@ std::span<const ActionMenu> actionMenus()
 std::span<const char *const> toolbarActions()
 {
     static constexpr const char *ids[] = {
-        "file.open",   "file.save", nullptr,        "edit.undo",   "edit.redo", nullptr, "edit.delete",
-        "edit.copies", nullptr,     "view.zoomOut", "view.zoomIn", "view.fit",  nullptr, "project.build",
+        "file.open",   "file.save",   nullptr,       "edit.undo",       "edit.redo",
+        nullptr,       "edit.delete", "edit.copies", nullptr,           "view.zoomOut",
+        "view.zoomIn", "view.fit",    nullptr,       "project.preview", "project.build",
     };
     return ids;
 }

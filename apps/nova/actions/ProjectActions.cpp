@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "actions/Action.h"
 #include "project/ProjectFiles.h"
+#include "project/Workspace.h"
 #include "window/MainWindow.h"
 
 namespace Halvane::Corvex::Nova {
@@ -10,6 +11,14 @@ using Designer::IconSet;
 std::span<const Action> projectActions()
 {
     static const Action actions[] = {
+        {"project.preview", "&Preview", "Run the project in a window. It follows the edits.", "F5",
+         IconSet::Play, Need::Project,
+         [](MainWindow &window) {
+             window.workspace()->setPreviewRunning(!window.workspace()->isPreviewRunning());
+         },
+         [](const MainWindow &window) {
+             return window.workspace() && window.workspace()->isPreviewRunning();
+         }},
         {"project.build", "&Build…", "Write the folder for the device.", "Ctrl+B", IconSet::Build,
          Need::Project | Need::Idle, [](MainWindow &window) { window.files().build(); }},
     };

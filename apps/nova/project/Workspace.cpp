@@ -7,6 +7,8 @@
 #include "corvex/project/elements/Element.h"
 #include "corvex/values/records/ObjectLinkInfo.h"
 
+#include "project/RunningPreview.h"
+
 namespace Halvane::Corvex::Nova {
 
 using namespace Designer;
@@ -106,6 +108,26 @@ void Workspace::follow(std::unique_ptr<Common::Job> job)
 {
     m_job = std::move(job);
     emit jobStarted(m_job.get());
+}
+
+void Workspace::setPreviewRunning(bool runs)
+{
+    if (runs == isPreviewRunning()) {
+        return;
+    }
+    m_preview = runs ? std::make_unique<RunningPreview>(*this) : nullptr;
+    if (m_preview) {
+        connect(
+            m_preview.get(), &RunningPreview::ended, this,
+            [this](const QString &reason) {
+                setPreviewRunning(false);
+                if (!reason.isEmpty()) {
+                    emit refused(reason);
+                }
+            },
+            Qt::QueuedConnection);
+    }
+    emit previewChanged();
 }
 
 void Workspace::reportFailure()

@@ -17,6 +17,8 @@ struct PlannedCommand;
 
 namespace Halvane::Corvex::Nova {
 
+class RunningPreview;
+
 /*! An open project with everything that the parts of its window share: the document, its view models, and
     the screen on the canvas.
 
@@ -56,11 +58,15 @@ public:
     bool push(std::unique_ptr<Designer::UndoCommand> command);
     //! Owns the job until it has finished, and shows its progress.
     void follow(std::unique_ptr<Common::Job> job);
+    //! Starts or ends the preview, which follows the edits.
+    void setPreviewRunning(bool runs);
+    bool isPreviewRunning() const { return m_preview != nullptr; }
     //! Reports a failure of the document to the user.
     void reportFailure();
 
 signals:
     void screenChanged();
+    void previewChanged();
     void jobStarted(Halvane::Corvex::Common::Job *job);
     //! Notes for the user about an edit that was made.
     void noted(const QStringList &notes);
@@ -88,6 +94,7 @@ private:
     Designer::ObjectTreeModel m_tree;
     QPointer<Designer::Screen> m_screen;
     std::unique_ptr<Common::Job> m_job;
+    std::unique_ptr<RunningPreview> m_preview;
     QString m_screenName; //!< while the project is being loaded
 };
 

@@ -198,6 +198,7 @@ void MainWindow::connectWorkspace()
     });
     connect(workspace, &Workspace::jobStarted, m_files->progress(), &JobProgress::follow);
     connect(workspace, &Workspace::screenChanged, this, &MainWindow::updateActions);
+    connect(workspace, &Workspace::previewChanged, this, &MainWindow::updateActions);
     connect(&document, &ProjectDocument::selectionChanged, this, &MainWindow::updateActions);
     connect(&document, &ProjectDocument::modifiedChanged, this, &MainWindow::updateTitle);
     connect(&document.history(), &ProjectHistory::changed, this, &MainWindow::updateActions);

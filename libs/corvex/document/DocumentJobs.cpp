@@ -142,15 +142,17 @@ std::unique_ptr<ProjectDocument::CheckJob> ProjectDocument::check(const Configur
     return job;
 }
 
-std::unique_ptr<ProjectDocument::BuildJob> ProjectDocument::build()
+std::unique_ptr<ProjectDocument::BuildJob> ProjectDocument::build(OnEdit onEdit)
 {
     if (!mayRead()) {
         return nullptr;
     }
     auto job = std::make_unique<BuildJob>();
     addReader(job.get(),
-              LocalizationHelper::coreString(
-                  u"The project is being built. Wait until the build has finished, or cancel it."_s));
+              onEdit == OnEdit::Cancel
+                  ? QString()
+                  : LocalizationHelper::coreString(
+                      u"The project is being built. Wait until the build has finished, or cancel it."_s));
     job->startInThread([generator = m_project->newRuntimeGenerator(), project = m_project.get()](
                            Progress &progress, QString &error) mutable -> std::optional<BuildFolder> {
         generator.setProgress(&progress);

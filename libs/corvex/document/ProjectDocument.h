@@ -105,8 +105,13 @@ public:
     //! The folder of a build, which is deleted with the last copy of the pointer.
     using BuildFolder = std::shared_ptr<const QString>;
     using BuildJob = Common::ResultJob<BuildFolder>;
-    //! Builds the project. Edits are refused until the job has finished or was cancelled.
-    std::unique_ptr<BuildJob> build();
+    //! What an edit during a build does.
+    enum class OnEdit {
+        Refuse, //!< edits are refused until the job has finished or was cancelled
+        Cancel  //!< an edit cancels the job
+    };
+    //! Builds the project.
+    std::unique_ptr<BuildJob> build(OnEdit onEdit = OnEdit::Refuse);
     struct ImportResult
     {
         qsizetype changedValues = 0;

@@ -196,6 +196,7 @@ void PreviewWindow::use(std::unique_ptr<PreviewSession> session)
     connect(m_session.get(), &PreviewSession::screenChanged, this, &PreviewWindow::showScreen);
     showScreen();
     panel->clock().runFreely();
+    emit restarted();
 }
 
 void PreviewWindow::showScreen()

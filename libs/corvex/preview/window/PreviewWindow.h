@@ -29,6 +29,10 @@ public:
     bool open(const QString &folder, const QString &stateFile, QString *error);
     PreviewSession &session() { return *m_session; }
 
+signals:
+    //! The session is another one, because the folder was rebuilt or the user has restarted the panel.
+    void restarted();
+
 private:
     void makeView();
     void makeToolBar();
