@@ -16,13 +16,20 @@ enum class Need {
     Project = 1,
     Screen = 2,
     Element = 4,    //!< a selected element
-    Elements = 8,   //!< several selected elements
     Undo = 16,      //!< a step to undo
     Redo = 32,      //!< a step to redo
-    Group = 64,     //!< a selected group
     Idle = 128,     //!< no job is running
     Modified = 256, //!< unsaved edits
     Object = 512,   //!< a selected object that can be deleted or copied
+    // What can be arranged: Arrangement::Ability, in this order.
+    Align = 1 << 16,
+    Distribute = 1 << 17,
+    Resize = 1 << 18,
+    Group = 1 << 19,
+    Ungroup = 1 << 20,
+    Raise = 1 << 21,
+    Lower = 1 << 22,
+    Flip = 1 << 23,
 };
 Q_DECLARE_FLAGS(Needs, Need)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Needs)

@@ -2,10 +2,10 @@
 #include "window/MainWindow.h"
 
 #include "corvex/common/LocalizationHelper.h"
+#include "corvex/editing/commands/objects/Arrangement.h"
 #include "corvex/editors/PropertyPanel.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
-#include "corvex/project/elements/GroupElement.h"
 #include "corvex/widgets/JobProgress.h"
 #include "corvex/widgets/KdMessageBox.h"
 #include "corvex/widgets/Theme.h"
@@ -32,8 +32,6 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -227,18 +225,14 @@ Needs MainWindow::state() const
     ProjectDocument &document = m_workspace->document();
     const QList<DesignerObject *> elements = m_workspace->selectedElements();
     const QList<DesignerObject *> objects = document.selection();
-    const auto isGroup = [](const DesignerObject *object) {
-        return object->isKindOfClass(GroupElement::kindName());
-    };
     state |= Need::Project;
     state.setFlag(Need::Screen, m_workspace->screen());
     state.setFlag(Need::Element, !elements.isEmpty());
-    state.setFlag(Need::Elements, elements.size() > 1);
-    state.setFlag(Need::Group, std::ranges::any_of(elements, isGroup));
     state.setFlag(Need::Object, !objects.isEmpty() && objects.constFirst() != &m_workspace->project());
     state.setFlag(Need::Undo, document.history().canUndo());
     state.setFlag(Need::Redo, document.history().canRedo());
     state.setFlag(Need::Modified, document.isModified());
+    state |= Needs::fromInt(Arrangement::abilities(elements).toInt() * int(Need::Align));
     return state;
 }
 

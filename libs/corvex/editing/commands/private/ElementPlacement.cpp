@@ -4,8 +4,6 @@
 #include "corvex/project/elements/GroupElement.h"
 #include "corvex/values/text/ValueConversion.h"
 
-#include <QTransform>
-
 #include <array>
 #include <cmath>
 
@@ -73,6 +71,32 @@ QRectF ElementPlacement::actualBoundingRect() const
     turn.rotate(rotation);
     turn.translate(-center.x(), -center.y());
     return turn.mapRect(rect);
+}
+
+QTransform ElementPlacement::outward() const
+{
+    const QPointF fixed = origin();
+    QTransform way;
+    way.translate(position.x() + fixed.x(), position.y() + fixed.y());
+    way.rotate(rotation);
+    way.scale(scale, scale);
+    way.translate(-fixed.x(), -fixed.y());
+    return way;
+}
+
+QRectF ElementPlacement::shownBounds(const DesignerObject *element)
+{
+    const ElementPlacement place = of(element);
+    QRectF own(QPointF(), place.size);
+    if (const auto *group = kindCast<GroupElement>(element)) {
+        own = {};
+        for (const DesignerObject *member : group->elements()->listItems()) {
+            if (kindCast<VisualElement>(member)) {
+                own |= shownBounds(member);
+            }
+        }
+    }
+    return place.outward().mapRect(own);
 }
 
 QPointF ElementPlacement::turned(const QPointF &way) const

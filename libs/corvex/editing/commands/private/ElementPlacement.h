@@ -5,6 +5,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <QString>
+#include <QTransform>
 
 namespace Halvane::Corvex::Designer {
 
@@ -25,6 +26,11 @@ struct ElementPlacement
     QPointF origin() const;
     //! Its bounding rectangle, including the rotation.
     QRectF actualBoundingRect() const;
+    //! From its own coordinates to those of its screen or group.
+    QTransform outward() const;
+    //! The rectangle that an element covers in its screen or group, with its scale and rotation; that of a
+    //! group covers its members.
+    static QRectF shownBounds(const DesignerObject *element);
     //! The position at which its contents appear in the same place as with \a oldSize: the size determines
     //! the point of rotation.
     QPointF positionAfterSize(const QSizeF &oldSize) const;
