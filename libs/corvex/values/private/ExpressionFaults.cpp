@@ -69,12 +69,6 @@ bool isNumeric(const QString &text)
     return ok;
 }
 
-bool isComparison(const QString &sign)
-{
-    static const QStringList signs{u"=="_s, u"!="_s, u"<"_s, u"<="_s, u">"_s, u">="_s, u"==="_s, u"!=="_s};
-    return signs.contains(sign);
-}
-
 //! Finds what is wrong with an operation.
 class Judge
 {
@@ -224,11 +218,14 @@ std::optional<Info> adapted(const List &terms, List::InfoType kind, const Operan
                : std::nullopt;
 }
 
-//! Saves most expressions the search for operations.
-bool compares(const List &terms)
+//! Whether a constant may have to be replaced.
+bool mayAdapt(const List &terms, List::InfoType kind)
 {
-    return std::any_of(terms.begin(), terms.end(), [](const Info &term) {
-        return term.valueType() == Info::OperatorValue && isComparison(term.value());
+    return std::any_of(terms.begin(), terms.end(), [kind](const Info &term) {
+        return kind == List::BoolExpression
+                   ? term.valueType() == Info::ObjectValue && term.dataType() == Info::ColorData
+                   : kind == List::StringExpression && term.valueType() == Info::ConstantValue
+                         && term.dataType() == Info::BooleanData;
     });
 }
 
@@ -236,13 +233,13 @@ bool compares(const List &terms)
 
 void ExpressionMeaning::adaptConstants(List &terms, List::InfoType kind)
 {
-    if (!compares(terms)) {
+    if (!mayAdapt(terms, kind)) {
         return;
     }
     for (const auto &[sign, left, right] : ExpressionOperation::of(terms, kind)) {
         const QString operation = terms.at(sign).value();
         const bool isEquality = operation == "=="_L1 || operation == "!="_L1;
-        if (!isComparison(operation)) {
+        if (!ExpressionOperation::isComparison(operation)) {
             continue;
         }
         const std::optional<Info> first = adapted(terms, kind, left, right, isEquality);
@@ -265,7 +262,7 @@ std::optional<Fault> ExpressionMeaning::fault(const List &terms, List::InfoType 
             return Fault{i, Common::LocalizationHelper::coreString(adviceForTexts)};
         }
     }
-    if (kind != List::StringExpression && !compares(terms)) {
+    if (kind != List::StringExpression && !ExpressionOperation::compares(terms)) {
         return {};
     }
     for (const ExpressionOperation &operation : ExpressionOperation::of(terms, kind)) {

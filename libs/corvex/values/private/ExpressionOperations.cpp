@@ -228,6 +228,19 @@ private:
 
 } // namespace
 
+bool ExpressionOperation::isComparison(const QString &sign)
+{
+    const auto *row = std::ranges::find(ranks, sign, &Rank::sign);
+    return row != std::end(ranks) && row->result == Boolean;
+}
+
+bool ExpressionOperation::compares(const List &terms)
+{
+    return std::any_of(terms.begin(), terms.end(), [](const Info &term) {
+        return term.valueType() == Info::OperatorValue && isComparison(term.value());
+    });
+}
+
 QList<ExpressionOperation> ExpressionOperation::of(const List &terms, List::InfoType kind)
 {
     return OperationReader(terms, kind).read();

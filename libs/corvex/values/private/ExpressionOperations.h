@@ -28,6 +28,9 @@ struct ExpressionOperation
     ExpressionOperand left;
     ExpressionOperand right;
 
+    static bool isComparison(const QString &sign);
+    //! Whether there is a comparison; most expressions have none, and need no search for operations.
+    static bool compares(const GeneralDataList &terms);
     //! All operations of a complete expression, in the order of the code. Does not use recursion: a hostile
     //! text can have any number of parentheses.
     static QList<ExpressionOperation> of(const GeneralDataList &terms, GeneralDataList::InfoType kind);

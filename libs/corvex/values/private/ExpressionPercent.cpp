@@ -3,6 +3,7 @@
 
 #include "corvex/values/private/ExpressionOperations.h"
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -27,15 +28,16 @@ QList<ExpressionPercent> ExpressionPercent::of(const GeneralDataList &terms, con
             found.append({name, constant, Info(Info::ConstantValue, Info::FloatData, fraction)});
         }
     };
+    const bool hasProperty = std::any_of(
+        terms.begin(), terms.end(), [](const Info &term) { return term.valueType() == Info::ObjectValue; });
     if (purpose.isAssignment()) {
         for (qsizetype i = 0; i + 1 < terms.count(); i += 2) {
             look(i, i + 1);
         }
-    } else if (!purpose.isTermList && terms.isComplete(purpose.kind)) {
+    } else if (!purpose.isTermList && hasProperty && ExpressionOperation::compares(terms)
+               && terms.isComplete(purpose.kind)) {
         for (const auto &[sign, left, right] : ExpressionOperation::of(terms, purpose.kind)) {
-            static const QStringList comparisons{u"=="_s, u"==="_s, u"!="_s, u"!=="_s,
-                                                 u"<"_s,  u"<="_s,  u">"_s,  u">="_s};
-            if (comparisons.contains(terms.at(sign).value())) {
+            if (ExpressionOperation::isComparison(terms.at(sign).value())) {
                 look(left.term, right.term);
                 look(right.term, left.term);
             }
