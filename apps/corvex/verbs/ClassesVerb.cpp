@@ -115,9 +115,9 @@ void printClass(const ClassHelp &help, Terminal &terminal)
         terminal.print(u"On the device, for expressions, rules and assignments:"_s);
     }
     for (const RuntimeHelp &property : help.runtime) {
-        terminal.print(u"  %1: %2%3 (%4)"_s.arg(property.id, property.type,
-                                                property.isReadOnly ? u", read only"_s : QString(),
-                                                property.description));
+        terminal.print(u"  %1: %2%3. %4"_s.arg(property.id, property.type,
+                                               property.isReadOnly ? u", read only"_s : QString(),
+                                               property.description));
     }
 }
 

@@ -30,7 +30,8 @@ bool Rectangle::initializeProperties()
                    "PropertyEditor")
             .rank(4),
         row<BorderProperty>("border", "Border", BorderInfo(1, Qt::black))
-            .description("The width of the border, in pixels, and its color.")
+            .description(
+                "The width of the border, in pixels, and its color. It is at most half of the smaller side.")
             .rank(5)
             .allowInvalid(),
         row<IntegerProperty>("radius", "Corner Radius", 0)

@@ -23,7 +23,7 @@ Info::ValueType valueTypeOf(const QString &path)
 
 const QString formOfSources =
     u"Only a single value or name can be assigned, no expression. Rules such as \"when x do y = true\" can "
-    "choose what to assign."_s;
+    "choose what to assign; a CheckButton switches a boolean variable."_s;
 
 QString withoutLeadingZeros(QString number)
 {
