@@ -3,8 +3,11 @@
 
 #include "actions/Action.h"
 #include "canvas/CanvasView.h"
+#include "project/Clipboard.h"
 #include "project/Workspace.h"
 #include "window/MainWindow.h"
+
+#include <QCursor>
 
 namespace Halvane::Corvex::Nova {
 
@@ -32,6 +35,17 @@ void selectAll(MainWindow &window)
     window.workspace()->document().select(window.canvas()->selectableObjects());
 }
 
+//! Without a mouse over the canvas, around the middle of what it shows.
+void pasteHere(MainWindow &window)
+{
+    const CanvasView &view = *window.canvas();
+    const QWidget *viewport = view.viewport();
+    const QPoint mouse = viewport->mapFromGlobal(QCursor::pos());
+    const bool isOver = viewport->rect().contains(mouse);
+    const QPointF point = view.mapToScene(isOver ? mouse : viewport->rect().center());
+    Clipboard::paste(*window.workspace(), point - view.screenArea().topLeft());
+}
+
 } // namespace
 
 std::span<const Action> editActions()
@@ -41,6 +55,16 @@ std::span<const Action> editActions()
         {"edit.redo", "&Redo", "Do the undone edit again.", "Ctrl+Shift+Z; Ctrl+Y", IconSet::Redo, Need::Redo,
          redo},
         separator,
+        {"edit.cut", "Cu&t", "Copy the selected objects to the clipboard and delete them.", "Ctrl+X",
+         IconSet::Cut, Need::Object, [](MainWindow &window) { Clipboard::cut(*window.workspace()); }},
+        {"edit.copy", "&Copy",
+         "Copy the selected objects to the clipboard, with the images and variables that they use.", "Ctrl+C",
+         IconSet::Copy, Need::Object, [](MainWindow &window) { Clipboard::copy(*window.workspace()); }},
+        {"edit.paste", "&Paste", "Add the objects or the picture on the clipboard.", "Ctrl+V", IconSet::Paste,
+         Need::Project, [](MainWindow &window) { Clipboard::paste(*window.workspace()); }},
+        {"edit.pasteHere", "Paste at the &mouse",
+         "Add the objects or the picture on the clipboard around the place of the mouse.", "Ctrl+Shift+V", -1,
+         Need::Screen, pasteHere},
         {"edit.copies", "D&uplicate", "Add copies of the selected objects.", "Ctrl+D", IconSet::Copies,
          Need::Object,
          [](MainWindow &window) {
