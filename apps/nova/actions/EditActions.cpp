@@ -3,11 +3,14 @@
 
 #include "actions/Action.h"
 #include "canvas/CanvasView.h"
+#include "panels/FindPanel.h"
 #include "project/Clipboard.h"
 #include "project/Workspace.h"
 #include "window/MainWindow.h"
 
 #include <QCursor>
+
+using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Nova {
 
@@ -33,6 +36,14 @@ void redo(MainWindow &window)
 void selectAll(MainWindow &window)
 {
     window.workspace()->document().select(window.canvas()->selectableObjects());
+}
+
+template<bool renames>
+void showUses(MainWindow &window)
+{
+    auto *object = window.workspace()->document().selection().constFirst();
+    window.showPanel(u"panel.find"_s);
+    qobject_cast<FindPanel *>(window.panel(u"panel.find"_s))->showUses(object, renames);
 }
 
 //! Without a mouse over the canvas, around the middle of what it shows.
@@ -77,6 +88,15 @@ std::span<const Action> editActions()
              Workspace &workspace = *window.workspace();
              workspace.push(Commands::deletionOf(workspace.document().selection()));
          }},
+        separator,
+        {"edit.find", "&Find…", "Find names, texts, expressions and addresses in the whole project.",
+         "Ctrl+F", IconSet::Search, Need::Project,
+         [](MainWindow &window) { window.showPanel(u"panel.find"_s); }},
+        {"edit.findUses", "Find u&ses", "Show all places that use the selected object.", "Ctrl+Shift+U", -1,
+         Need::Object, showUses<false>},
+        {"edit.rename", "&Rename everywhere…",
+         "Show all places that use the selected object, and rename it there.", "Ctrl+R", -1, Need::Object,
+         showUses<true>},
         separator,
         {"edit.selectAll", "Select &all", "Select all elements of the screen.", "Ctrl+A", -1, Need::Screen,
          selectAll},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panels/Panels.h"
 
+#include "panels/FindPanel.h"
 #include "panels/HistoryPanel.h"
 #include "panels/ImagesPanel.h"
 #include "panels/ObjectsPanel.h"
@@ -29,6 +30,7 @@ constexpr PanelRow rows[] = {
     {"panel.variables", "Variables", Qt::BottomDockWidgetArea, nullptr, create<VariablesPanel>},
     {"panel.problems", "Problems", Qt::BottomDockWidgetArea, "panel.variables", create<ProblemsPanel>},
     {"panel.history", "History", Qt::BottomDockWidgetArea, "panel.variables", create<HistoryPanel>},
+    {"panel.find", "Find", Qt::BottomDockWidgetArea, "panel.variables", create<FindPanel>},
 };
 
 } // namespace

@@ -88,6 +88,17 @@ void PropertiesPanel::describeSelection()
                                : QPixmap());
 }
 
+bool PropertiesPanel::event(QEvent *event)
+{
+    // In the panel, the key of the search finds rows, not places of the project.
+    if (event->type() == QEvent::ShortcutOverride
+        && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find)) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void PropertiesPanel::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Find)) {

@@ -14,6 +14,7 @@
 #include "actions/WindowActions.h"
 #include "canvas/CanvasPage.h"
 #include "canvas/CanvasView.h"
+#include "panels/FindPanel.h"
 #include "panels/Panels.h"
 #include "panels/ProblemsPanel.h"
 #include "panels/PropertiesPanel.h"
@@ -210,8 +211,10 @@ void MainWindow::connectWorkspace()
     m_zoom->setScale(canvas()->scale());
     const auto *problems = qobject_cast<ProblemsPanel *>(panel(u"panel.problems"_s));
     auto *properties = qobject_cast<PropertiesPanel *>(panel(u"panel.properties"_s));
-    connect(problems, &ProblemsPanel::propertyRequested, properties,
-            [properties](const QString &id) { properties->rows().reveal(id); });
+    const auto *places = qobject_cast<FindPanel *>(panel(u"panel.find"_s));
+    const auto revealRow = [properties](const QString &id) { properties->rows().reveal(id); };
+    connect(problems, &ProblemsPanel::propertyRequested, properties, revealRow);
+    connect(places, &FindPanel::propertyRequested, properties, revealRow);
     updateProblems();
 }
 

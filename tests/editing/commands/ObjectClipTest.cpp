@@ -113,10 +113,10 @@ TEST_F(ObjectClipTest, PlacesCopiesWhereTheyAreSeen)
 {
     const QPointF origin = Arrangement::bounds({element("group1")}).topLeft();
     const QString text = copied({element("group1")});
-    for (const double shift : {10, 20, 30}) {
+    for (const int copy : {1, 2, 3}) {
         paste(text, *project, main);
-        EXPECT_EQ(Arrangement::bounds({main->elements()->listItems().constLast()}).topLeft(),
-                  origin + QPointF(shift, shift));
+        EXPECT_EQ(Arrangement::bounds({main->getElement(u"group%1"_s.arg(copy + 1))}).topLeft(),
+                  origin + QPointF(10, 10) * copy);
     }
     paste(text, *project, other);
     EXPECT_EQ(Arrangement::bounds(other->elements()->listItems()).topLeft(), origin);
