@@ -3,6 +3,7 @@
 
 #include "corvex/common/Export.h"
 #include "corvex/core/DesignerProperty.h"
+#include "corvex/editing/graphics/SnapLines.h"
 
 #include <QList>
 #include <QPointF>
@@ -10,6 +11,9 @@
 #include <QQuickItem>
 
 #include <memory>
+#include <optional>
+
+class QGraphicsItem;
 
 namespace Halvane::Corvex::Designer {
 
@@ -28,9 +32,20 @@ public:
                                 const QPointF &start);
     static CanvasGesture turn(const FramedItem &item, const QPointF &start);
 
+    //! From now on edges and middles snap to the targets; a rotation does not. Null ends that.
+    void snapTo(const SnapLines::Targets *targets);
     //! Positions and sizes are rounded to whole pixels in the coordinates of the parent, angles to whole
-    //! degrees. Shift keeps the proportions, and rotates in steps of 15 degrees.
-    void moveTo(const QPointF &point, Qt::KeyboardModifiers modifiers);
+    //! degrees. Shift moves along one axis, keeps the proportions, and rotates in steps of 15 degrees.
+    //! \a tolerance is the largest distance from which something snaps.
+    void moveTo(const QPointF &point, Qt::KeyboardModifiers modifiers, double tolerance = 0);
+    //! What the items are in line with now.
+    const SnapMarks &marks() const { return m_marks; }
+
+    bool isMove() const { return m_kind == Kind::Move; }
+    bool isTurn() const { return m_kind == Kind::Turn; }
+    QList<DesignerObject *> objects() const;
+    //! How far an item has moved, in the coordinates of its parent.
+    QPoint wayOf(const QGraphicsItem &item) const;
     //! A single command for all changes; null if nothing has changed.
     std::unique_ptr<UndoCommand> command();
     //! Ends the gesture and resets the items to the values in the model. If the command was done, its items
@@ -53,8 +68,9 @@ private:
         : m_kind(kind)
         , m_start(start)
     { }
-    void moveItem(FramedItem &item, const Start &start, const QPointF &point) const;
-    void resizeItem(FramedItem &item, const Start &start, const QPointF &point) const;
+    void moveItems(const QPointF &point, bool keepsAxis, double tolerance);
+    void resizeItem(FramedItem &item, const Start &start, const QPointF &point, double tolerance);
+    QPointF snappedCorner(const FramedItem &item, const QPointF &corner, double tolerance) const;
     QString text() const;
     //! The property that moving or rotating changes.
     SharedProperty movedProperty(const DesignerObject &object) const;
@@ -63,6 +79,10 @@ private:
     QPointF m_start;
     QQuickItem::TransformOrigin m_handle = QQuickItem::Center;
     QList<Start> m_items;
+    QRectF m_area; //!< the frames of all items at the start of a move
+    QPointF m_way; //!< of a move
+    std::optional<SnapLines> m_snapLines;
+    SnapMarks m_marks;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -1,23 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/editing/graphics/CanvasScene.h"
 
+#include "corvex/editing/graphics/CanvasState.h"
 #include "corvex/editing/graphics/CropArea.h"
 #include "corvex/editing/graphics/FramePoint.h"
 #include "corvex/editing/graphics/FramedItem.h"
 #include "corvex/editing/graphics/GraphicsBounding.h"
 #include "corvex/editing/graphics/SelectionOutline.h"
+#include "corvex/editing/graphics/private/CanvasMarks.h"
 #include "corvex/editing/undo/UndoCommand.h"
 #include "corvex/editing/undo/UndoStack.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 
-#include <QApplication>
-#include <QGraphicsSceneMouseEvent>
 #include <QImage>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QWidget>
 
 #include <functional>
 
@@ -43,6 +41,7 @@ CanvasScene::CanvasScene(Screen *screen, QObject *parent)
     , m_screen(screen)
     , m_outline(new SelectionOutline)
     , m_bounding(new GraphicsBounding)
+    , m_marks(new CanvasMarks)
 {
     if (screen) {
         screen->setGraphicsItem();
@@ -56,6 +55,7 @@ CanvasScene::CanvasScene(Screen *screen, QObject *parent)
     }
     addItem(m_outline);
     addItem(m_bounding);
+    addItem(m_marks);
     m_bounding->setZValue(m_outline->zValue());
     connect(this, &QGraphicsScene::selectionChanged, this, &CanvasScene::onSelectionChanged);
 }
@@ -89,7 +89,8 @@ const QList<FramedItem *> &CanvasScene::selectedItemsOnCanvas() const
 FramedItem *CanvasScene::singleSelectedItem() const
 {
     const QList<FramedItem *> &items = selectedItemsOnCanvas();
-    return items.size() == 1 ? items.constFirst() : nullptr;
+    return items.size() == 1 && CanvasState::isFree(items.constFirst()->dataObject()) ? items.constFirst()
+                                                                                      : nullptr;
 }
 
 QList<DesignerObject *> CanvasScene::selectedObjects() const
@@ -149,11 +150,25 @@ void CanvasScene::selectItems(const QList<QGraphicsItem *> &items)
     }
 }
 
+QList<DesignerObject *> CanvasScene::objectsAt(const QPointF &point) const
+{
+    QList<DesignerObject *> objects;
+    for (const QGraphicsItem *graphic : items(point)) {
+        const FramedItem *item = FramedItem::of(graphic);
+        if (item && graphic->flags().testFlag(QGraphicsItem::ItemIsSelectable)
+            && CanvasState::isFree(item->dataObject())) {
+            objects.append(item->dataObject());
+        }
+    }
+    return objects;
+}
+
 FramedItem *CanvasScene::innermostAt(const QPointF &point) const
 {
     for (const QGraphicsItem *graphic : items(point)) {
         FramedItem *item = FramedItem::of(graphic);
-        if (item && graphic->flags().testFlag(QGraphicsItem::ItemIsSelectable)) {
+        if (item && graphic->flags().testFlag(QGraphicsItem::ItemIsSelectable)
+            && CanvasState::isFree(item->dataObject())) {
             return item;
         }
     }
@@ -173,15 +188,6 @@ FramedItem *CanvasScene::clickedAt(const QPointF &point) const
     return clicked;
 }
 
-void CanvasScene::select(FramedItem *item, bool adds)
-{
-    if (adds) {
-        item->graphic()->setSelected(!item->graphic()->isSelected());
-    } else if (!item->graphic()->isSelected()) {
-        selectItems({item->graphic()});
-    }
-}
-
 QImage CanvasScene::picture(Contents contents)
 {
     const GraphicsItem *item = GraphicsItem::of(m_screen);
@@ -191,12 +197,14 @@ QImage CanvasScene::picture(Contents contents)
         outline();
         const bool showsBounding = m_bounding->isVisible();
         m_outline->setVisible(contents == WithSelection);
+        m_marks->setVisible(contents == WithSelection);
         m_bounding->setVisible(contents == WithSelection && showsBounding);
         image.fill(Qt::transparent);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::TextAntialiasing);
         render(&painter, image.rect(), area);
         m_outline->setVisible(true);
+        m_marks->setVisible(true);
         m_bounding->setVisible(showsBounding);
     }
     return image;
@@ -218,105 +226,6 @@ Qt::CursorShape CanvasScene::cursorAt(const QPointF &point) const
     return innermostAt(point) ? Qt::SizeAllCursor : Qt::ArrowCursor;
 }
 
-void CanvasScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
-{
-    event->accept();
-    if (event->button() != Qt::LeftButton || isGestureActive()) {
-        return;
-    }
-    const QPointF point = event->scenePos();
-    const bool adds = event->modifiers().testFlag(Qt::ControlModifier);
-    if (const FramedItem *item = singleSelectedItem()) {
-        bool found = false;
-        const QQuickItem::TransformOrigin handle = item->getResizeHandle(point, &found);
-        if (found) {
-            m_gesture = CanvasGesture::resize(*item, handle, point);
-            return;
-        }
-        if (item->isRotationGrip(point)) {
-            m_gesture = CanvasGesture::turn(*item, point);
-            return;
-        }
-    }
-    if (FramedItem *item = clickedAt(point)) {
-        select(item, adds);
-        startMoving(point);
-        return;
-    }
-    if (!adds) {
-        clearSelection();
-    }
-    m_crop = new CropArea;
-    m_crop->setZValue(m_outline->zValue());
-    addItem(m_crop);
-}
-
-void CanvasScene::startMoving(const QPointF &point)
-{
-    const QList<FramedItem *> &items = selectedItemsOnCanvas();
-    if (!items.isEmpty()) {
-        m_gesture = CanvasGesture::move(items, point);
-        m_waitsForDrag = true;
-    }
-}
-
-void CanvasScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
-{
-    event->accept();
-    if (m_crop) {
-        m_crop->setUp(event->buttonDownScenePos(Qt::LeftButton), event->scenePos());
-    } else if (m_gesture) {
-        const QPoint way = event->screenPos() - event->buttonDownScreenPos(Qt::LeftButton);
-        m_waitsForDrag = m_waitsForDrag && way.manhattanLength() < QApplication::startDragDistance();
-        if (!m_waitsForDrag) {
-            m_gesture->moveTo(event->scenePos(), event->modifiers());
-            outline();
-        }
-    } else if (event->widget()) {
-        event->widget()->setCursor(cursorAt(event->scenePos()));
-    }
-}
-
-void CanvasScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
-{
-    event->accept();
-    if (event->button() != Qt::LeftButton) {
-        return;
-    }
-    if (m_crop) {
-        const QRectF area = m_crop->boundingRect();
-        delete std::exchange(m_crop, nullptr);
-        selectTouched(area);
-    } else if (m_gesture) {
-        endGesture();
-    }
-}
-
-void CanvasScene::endGesture()
-{
-    Project *project = screen() ? screen()->project() : nullptr;
-    std::unique_ptr<UndoCommand> command = project ? m_gesture->command() : nullptr;
-    const bool isDone = command && command->isValid() && project->undoStack()->push(command.release());
-    // Reset changes that the model did not accept.
-    releaseGesture(isDone);
-}
-
-void CanvasScene::cancelGesture()
-{
-    delete std::exchange(m_crop, nullptr);
-    releaseGesture(false);
-}
-
-void CanvasScene::releaseGesture(bool isDone)
-{
-    if (m_gesture) {
-        m_gesture->release(isDone);
-        m_gesture.reset();
-        m_waitsForDrag = false;
-        outlineLater();
-    }
-}
-
 void CanvasScene::selectTouched(const QRectF &area)
 {
     QPainterPath path;
@@ -330,28 +239,12 @@ void CanvasScene::selectTouched(const QRectF &area)
     QList<QGraphicsItem *> touched = selectedItems();
     for (QGraphicsItem *graphic : items(area, Qt::IntersectsItemBoundingRect)) {
         const GraphicsItem *item = GraphicsItem::of(graphic);
-        if (item && !graphic->parentItem() && item->dataObject() != m_screen && isTouched(*graphic)) {
+        if (item && !graphic->parentItem() && item->dataObject() != m_screen
+            && CanvasState::isFree(item->dataObject()) && isTouched(*graphic)) {
             touched.append(graphic);
         }
     }
     selectItems(touched);
-}
-
-void CanvasScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
-{
-    event->accept();
-    if (FramedItem *item = innermostAt(event->scenePos())) {
-        select(item, false);
-    }
-}
-
-void CanvasScene::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Escape && isGestureActive()) {
-        cancelGesture();
-    } else {
-        QGraphicsScene::keyPressEvent(event);
-    }
 }
 
 void CanvasScene::onSelectionChanged()
@@ -399,7 +292,8 @@ void CanvasScene::outline()
 {
     m_isOutlineDue = false;
     const QList<FramedItem *> &items = selectedItemsOnCanvas();
-    m_bounding->setRect(m_outline->follow(items, !m_gesture || m_waitsForDrag));
+    const bool hasHandles = (!m_gesture || m_waitsForDrag) && singleSelectedItem();
+    m_bounding->setRect(m_outline->follow(items, hasHandles));
     m_bounding->setVisible(items.size() > 1);
 }
 

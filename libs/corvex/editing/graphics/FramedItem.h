@@ -4,6 +4,8 @@
 #include "corvex/common/Export.h"
 #include "corvex/editing/graphics/GraphicsItem.h"
 
+#include <QGraphicsItem>
+
 namespace Halvane::Corvex::Designer {
 
 //! An item with eight resize handles on its frame and a grip above it for rotation.
@@ -26,6 +28,8 @@ public:
                        const QPointF &position) override;
     void rotateByMouse(double angle) override;
 
+    //! The rectangle around the frame in scene coordinates.
+    QRectF sceneArea() const { return graphic()->mapRectToScene(frame()); }
     //! The middle of a handle in scene coordinates.
     QPointF handlePoint(QQuickItem::TransformOrigin handle) const;
     //! The middle of the grip in scene coordinates.

@@ -4,6 +4,7 @@
 #include "corvex/core/properties/TransformOriginProperty.h"
 #include "corvex/editing/commands/objects/ChangeProperty.h"
 #include "corvex/editing/graphics/CanvasScene.h"
+#include "corvex/editing/graphics/CanvasState.h"
 #include "corvex/editing/graphics/FramePoint.h"
 #include "corvex/values/text/ValueConversion.h"
 
@@ -253,6 +254,9 @@ void GraphicsItem::updateGraphicsItem(const SharedProperty &property)
         std::ranges::find_if(shownProperties, [&](const auto &row) { return row.id == id; });
     if (shown != std::end(shownProperties)) {
         shown->show(*m_graphic, property->valueString());
+        if (id == "visible"_L1 && CanvasState::of(m_dataObject).testFlag(CanvasState::Hidden)) {
+            m_graphic->setVisible(false);
+        }
         if (shown->isPlace) {
             announcePlace();
         }

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "corvex/editing/graphics/SnapLines.h"
+
+#include <QGraphicsItem>
+
+namespace Halvane::Corvex::Designer {
+
+//! Lines and figures above all items: guides while something snaps, and measured distances.
+class CanvasMarks : public QGraphicsItem
+{
+public:
+    CanvasMarks();
+
+    //! \a pixel is the size of a pixel of the view in scene coordinates. Figures have the same size at every
+    //! scale.
+    void show(const SnapMarks &marks, double pixel);
+    const SnapMarks &marks() const { return m_marks; }
+
+    QRectF boundingRect() const override { return m_bounds; }
+    //! Empty, so that the mouse never hits the marks.
+    QPainterPath shape() const override { return {}; }
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+private:
+    void paintFigure(QPainter &painter, const QLineF &distance) const;
+
+    SnapMarks m_marks;
+    double m_pixel = 1;
+    QRectF m_bounds;
+};
+
+} // namespace Halvane::Corvex::Designer
