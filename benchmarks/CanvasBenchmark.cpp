@@ -87,6 +87,7 @@ void dragOnCanvas(benchmark::State &state)
 {
     const std::unique_ptr<Project> project = makeProject();
     CanvasScene scene(fillScreen(*project));
+    scene.setSnapping(SnapGuides());
     measureDragging(state, scene);
 }
 BENCHMARK(dragOnCanvas)->Name("drag/canvas");

@@ -25,6 +25,12 @@ void write(const QString &key, const QVariant &value)
     settings().setValue(key, value);
 }
 
+//! The name of a file may contain characters that have a meaning in keys.
+QString viewKey(const QString &path)
+{
+    return u"views/"_s + QString::fromLatin1(QFileInfo(path).absoluteFilePath().toUtf8().toHex());
+}
+
 //! In the order of UserSettings::Look.
 constexpr const char *looks[] = {"desktop", "light", "dark"};
 
@@ -91,6 +97,30 @@ void UserSettings::removeRecentProject(const QString &path)
     QStringList paths = recentProjects();
     paths.removeAll(path);
     write(u"recentProjects"_s, paths);
+}
+
+QVariantMap UserSettings::viewOf(const QString &path)
+{
+    return read(viewKey(path)).toMap();
+}
+
+void UserSettings::setViewOf(const QString &path, const QVariantMap &view)
+{
+    if (view.isEmpty()) {
+        settings().remove(viewKey(path));
+    } else {
+        write(viewKey(path), view);
+    }
+}
+
+bool UserSettings::hasGrid()
+{
+    return read(u"canvas/grid"_s).toBool();
+}
+
+void UserSettings::setGrid(bool on)
+{
+    write(u"canvas/grid"_s, on);
 }
 
 QString UserSettings::keysOf(const QString &actionId)

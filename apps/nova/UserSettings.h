@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
 namespace Halvane::Corvex::Nova {
 
@@ -30,6 +31,13 @@ public:
     static void addRecentProject(const QString &path);
     static void removeRecentProject(const QString &path);
     static constexpr int mostRecentProjects = 12;
+
+    //! How the user views the project in that file: hidden and locked elements and guides; empty at first.
+    static QVariantMap viewOf(const QString &path);
+    static void setViewOf(const QString &path, const QVariantMap &view);
+    //! Whether the canvas has a grid.
+    static bool hasGrid();
+    static void setGrid(bool on);
 
     //! The keys that the user chose for an action, in the form of QKeySequence; null without a choice, empty
     //! for none.

@@ -64,6 +64,8 @@ struct ActionMenu
 std::span<const ActionMenu> actionMenus();
 //! The ids of the actions in the toolbar; null for a line.
 std::span<const char *const> toolbarActions();
+//! Those in the menu of the canvas, in the same form.
+std::span<const char *const> canvasActions();
 
 std::span<const Action> fileActions();
 std::span<const Action> editActions();

@@ -23,4 +23,13 @@ std::span<const char *const> toolbarActions()
     return ids;
 }
 
+std::span<const char *const> canvasActions()
+{
+    static constexpr const char *ids[] = {"edit.cut",      "edit.copy",    "edit.paste",    "edit.copies",
+                                          "edit.delete",   nullptr,        "arrange.group", "arrange.ungroup",
+                                          "arrange.front", "arrange.back", nullptr,         "view.hide",
+                                          "view.lock"};
+    return ids;
+}
+
 } // namespace Halvane::Corvex::Nova

@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: MIT
+#include "corvex/editing/graphics/CanvasState.h"
 #include "corvex/widgets/ZoomBox.h"
 
 #include "UserSettings.h"
 #include "actions/Action.h"
 #include "canvas/CanvasView.h"
+#include "project/Workspace.h"
 #include "window/MainWindow.h"
+
+#include <algorithm>
 
 namespace Halvane::Corvex::Nova {
 
+using Designer::CanvasState;
+using Designer::DesignerObject;
 using Designer::IconSet;
 using Designer::ZoomBox;
 
@@ -23,6 +29,24 @@ template<UserSettings::Look look>
 bool hasLook(const MainWindow &)
 {
     return UserSettings::look() == look;
+}
+
+template<CanvasState::Flag flag>
+bool isFlagged(const MainWindow &window)
+{
+    const Workspace *workspace = window.workspace();
+    const QList<DesignerObject *> elements =
+        workspace ? workspace->selectedElements() : QList<DesignerObject *>();
+    return !elements.isEmpty() && std::ranges::all_of(elements, [](const DesignerObject *element) {
+        return CanvasState::of(element).testFlag(flag);
+    });
+}
+
+template<CanvasState::Flag flag>
+void toggleFlag(MainWindow &window)
+{
+    Workspace &workspace = *window.workspace();
+    workspace.setFlag(workspace.selectedElements(), flag, !isFlagged<flag>(window));
 }
 
 } // namespace
@@ -42,6 +66,26 @@ std::span<const Action> viewActions()
          [](MainWindow &window) { window.canvas()->fitScreen(); }},
         {"view.fitSelection", "Fit the &selection", "Show the selected elements as large as possible.",
          "Ctrl+2", -1, Need::Element, [](MainWindow &window) { window.canvas()->fitSelection(); }},
+        separator,
+        {"view.grid",
+         "&Grid",
+         "Show a grid on the screen, to which edges snap.",
+         "Ctrl+'",
+         -1,
+         {},
+         [](MainWindow &window) {
+             if (window.workspace()) {
+                 window.workspace()->view().setGrid(!ViewState::hasGrid());
+             }
+         },
+         [](const MainWindow &) { return ViewState::hasGrid(); }},
+        {"view.hide", "&Hide", "Hide the selected elements on the canvas, not on the device.", "Ctrl+H",
+         IconSet::Eye, Need::Element, toggleFlag<CanvasState::Hidden>, isFlagged<CanvasState::Hidden>},
+        {"view.lock", "Loc&k", "Protect the selected elements from the mouse.", "Ctrl+L", IconSet::Lock,
+         Need::Element, toggleFlag<CanvasState::Locked>, isFlagged<CanvasState::Locked>},
+        {"view.showAll", "Show and &unlock all", "Show and unlock all elements of the screen.", "Ctrl+Alt+U",
+         -1, Need::Screen,
+         [](MainWindow &window) { window.workspace()->view().clearFlags(*window.workspace()->screen()); }},
         separator,
         {"view.lookDesktop",
          "Look of the &desktop",

@@ -103,6 +103,17 @@ void WindowActions::fillToolBar(QToolBar &bar) const
     }
 }
 
+void WindowActions::fillMenu(QMenu &menu, std::span<const char *const> ids) const
+{
+    for (const char *id : ids) {
+        if (id) {
+            menu.addAction(action(QLatin1StringView(id)));
+        } else {
+            menu.addSeparator();
+        }
+    }
+}
+
 void WindowActions::update()
 {
     const Needs state = m_window.state();

@@ -24,6 +24,8 @@ public:
 
     void fillMenus(QMenuBar &bar) const;
     void fillToolBar(QToolBar &bar) const;
+    //! Adds the actions with these ids, and a line for null.
+    void fillMenu(QMenu &menu, std::span<const char *const> ids) const;
 
     //! Null if there is no such action.
     QAction *action(const QString &id) const;

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/CanvasPage.h"
 
-#include "corvex/editing/graphics/GraphicsItem.h"
+#include "corvex/editing/graphics/FramedItem.h"
 #include "corvex/widgets/Ruler.h"
 
+#include "canvas/CanvasGuides.h"
 #include "canvas/CanvasView.h"
 #include "project/Workspace.h"
 
-#include <QGraphicsItem>
 #include <QGridLayout>
 
 namespace Halvane::Corvex::Nova {
@@ -36,6 +36,17 @@ CanvasPage::CanvasPage(Workspace &workspace, QWidget *parent)
         m_horizontal->setMark(point ? std::optional(point->x()) : std::nullopt);
         m_vertical->setMark(point ? std::optional(point->y()) : std::nullopt);
     });
+    for (const auto &[ruler, orientation] :
+         {std::pair(m_horizontal, Qt::Horizontal), std::pair(m_vertical, Qt::Vertical)}) {
+        const auto placeOf = [this](const QPoint &global) {
+            return m_view->viewport()->mapFromGlobal(global);
+        };
+        connect(ruler, &Ruler::guideDragged, this, [this, placeOf, orientation](const QPoint &global) {
+            m_view->guides().drag(orientation, placeOf(global));
+        });
+        connect(ruler, &Ruler::guideDropped, this,
+                [this, placeOf](const QPoint &global) { m_view->guides().drop(placeOf(global)); });
+    }
     connect(&workspace.document(), &ProjectDocument::selectionChanged, this, &CanvasPage::markSelection);
     connect(&workspace.document().history(), &ProjectHistory::changed, this, &CanvasPage::markSelection);
     placeRulers();
@@ -61,8 +72,8 @@ void CanvasPage::markSelection()
 {
     QRectF area;
     for (const DesignerObject *object : m_workspace.selectedElements()) {
-        if (const GraphicsItem *item = GraphicsItem::of(object)) {
-            area |= item->graphic()->sceneBoundingRect();
+        if (const FramedItem *item = FramedItem::of(object)) {
+            area |= item->sceneArea();
         }
     }
     m_horizontal->setRange(area.left(), area.right());

@@ -3,7 +3,8 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/editing/commands/Commands.h"
-#include "corvex/editing/graphics/GraphicsItem.h"
+#include "corvex/editing/graphics/CanvasState.h"
+#include "corvex/editing/graphics/FramedItem.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/Element.h"
@@ -11,8 +12,13 @@
 #include "corvex/widgets/Theme.h"
 #include "corvex/widgets/ZoomBox.h"
 
+#include "canvas/CanvasGuides.h"
+#include "canvas/PasteboardShade.h"
+#include "project/DroppedObjects.h"
 #include "project/Workspace.h"
 
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QGraphicsItem>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -33,6 +39,7 @@ namespace {
 //! The free space around the screen, as a part of its size.
 constexpr double pasteboard = 1.0;
 constexpr double fitMargin = 24; // pixels
+constexpr int shadeOpacity = 160;
 constexpr double largestFit = 2;
 constexpr double anglePerStep = 120;
 constexpr double zoomPerStep = 1.2;
@@ -51,7 +58,9 @@ constexpr int largeStep = 10;
 CanvasView::CanvasView(Workspace &workspace, QWidget *parent)
     : QGraphicsView(parent)
     , m_workspace(workspace)
+    , m_guides(new CanvasGuides(*this, workspace))
 {
+    setAcceptDrops(true);
     setFrameShape(NoFrame);
     setMouseTracking(true);
     setTransformationAnchor(NoAnchor);
@@ -60,6 +69,8 @@ CanvasView::CanvasView(Workspace &workspace, QWidget *parent)
     setAccessibleName(LocalizationHelper::coreString(u"Canvas"_s));
     connect(&workspace, &Workspace::screenChanged, this, &CanvasView::showScreen);
     connect(&workspace.document(), &ProjectDocument::selectionChanged, this, &CanvasView::takeSelection);
+    connect(&workspace.document().history(), &ProjectHistory::moved, this, &CanvasView::growPasteboard);
+    connect(&workspace.view(), &ViewState::guidesChanged, this, &CanvasView::takeGuides);
     showScreen();
 }
 
@@ -84,8 +95,17 @@ void CanvasView::showScreen()
                     updatePasteboard();
                 }
             });
+    m_shade = new PasteboardShade;
+    m_scene->addItem(m_shade);
+    m_used = {};
+    for (const DesignerObject *element : screen->elements()->listItems()) {
+        if (const FramedItem *item = FramedItem::of(element)) {
+            m_used |= item->sceneArea();
+        }
+    }
     setScene(m_scene.get());
     updatePasteboard();
+    takeGuides();
     takeSelection();
     if (m_fits) {
         fitScreen();
@@ -96,8 +116,41 @@ void CanvasView::showScreen()
 void CanvasView::updatePasteboard()
 {
     const QRectF area = screenArea();
-    setSceneRect(area.adjusted(-area.width() * pasteboard, -area.height() * pasteboard,
-                               area.width() * pasteboard, area.height() * pasteboard));
+    const double across = area.width() * pasteboard;
+    const double down = area.height() * pasteboard;
+    QRectF whole = area.adjusted(-across, -down, across, down);
+    if (m_used.isValid()) {
+        whole |= m_used.adjusted(-fitMargin, -fitMargin, fitMargin, fitMargin);
+    }
+    setSceneRect(whole);
+    QColor shade = palette().color(QPalette::Mid);
+    shade.setAlpha(shadeOpacity);
+    m_shade->place(area, whole);
+    m_shade->setColor(shade);
+}
+
+//! After an edit, whose elements are selected.
+void CanvasView::growPasteboard()
+{
+    QRectF used = m_used;
+    const QList<DesignerObject *> selected = m_scene ? m_scene->selectedObjects() : QList<DesignerObject *>();
+    for (const DesignerObject *object : selected) {
+        used |= FramedItem::of(object)->sceneArea();
+    }
+    if (used != m_used) {
+        m_used = used;
+        if (!sceneRect().contains(m_used)) {
+            updatePasteboard();
+        }
+    }
+}
+
+void CanvasView::takeGuides()
+{
+    if (m_scene) {
+        m_scene->setSnapping(m_workspace.view().guidesOf(m_workspace.screen()));
+        viewport()->update();
+    }
 }
 
 QRectF CanvasView::screenArea() const
@@ -108,7 +161,12 @@ QRectF CanvasView::screenArea() const
 
 QList<DesignerObject *> CanvasView::selectableObjects() const
 {
-    return m_workspace.screen() ? m_workspace.screen()->elements()->listItems() : QList<DesignerObject *>();
+    QList<DesignerObject *> objects;
+    if (m_workspace.screen()) {
+        objects = m_workspace.screen()->elements()->listItems();
+        objects.removeIf([](const DesignerObject *object) { return !CanvasState::isFree(object); });
+    }
+    return objects;
 }
 
 double CanvasView::scale() const
@@ -152,8 +210,8 @@ void CanvasView::fitSelection()
 {
     QRectF area;
     for (const DesignerObject *object : m_workspace.selectedElements()) {
-        if (const GraphicsItem *item = GraphicsItem::of(object)) {
-            area |= item->graphic()->sceneBoundingRect();
+        if (const FramedItem *item = FramedItem::of(object)) {
+            area |= item->sceneArea();
         }
     }
     fit(area.isEmpty() ? screenArea() : area);
@@ -180,6 +238,60 @@ void CanvasView::drawBackground(QPainter *painter, const QRectF &area)
     painter->fillRect(area, palette().color(QPalette::Mid));
 }
 
+void CanvasView::drawForeground(QPainter *painter, const QRectF &area)
+{
+    m_guides->paint(*painter, area);
+}
+
+void CanvasView::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (!m_scene || m_scene->isGestureActive()) {
+        return;
+    }
+    QList<DesignerObject *> objects;
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        objects = m_scene->objectsAt(mapToScene(event->pos()));
+        const auto isSelected = [](const DesignerObject *object) {
+            return GraphicsItem::of(object)->graphic()->isSelected();
+        };
+        if (std::ranges::none_of(objects, isSelected)) {
+            // A group counts as a whole.
+            DesignerObject *outermost = objects.value(0);
+            while (outermost && objects.contains(outermost->ownerObject())) {
+                outermost = outermost->ownerObject();
+            }
+            m_workspace.document().select(outermost ? QList{outermost} : QList<DesignerObject *>());
+        }
+    }
+    emit menuRequested(event->globalPos(), objects);
+}
+
+void CanvasView::dragEnterEvent(QDragEnterEvent *event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->setAccepted(DroppedObjects::canDrop(*event->mimeData(), m_workspace));
+}
+
+void CanvasView::dragMoveEvent(QDragMoveEvent *event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void CanvasView::dropEvent(QDropEvent *event)
+{
+    if (!m_scene || !DroppedObjects::canDrop(*event->mimeData(), m_workspace)) {
+        return;
+    }
+    const QPointF place = mapToScene(event->position().toPoint());
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    if (DroppedObjects::drop(*event->mimeData(), place, m_scene->objectsAt(place).value(0), m_workspace,
+                             this)) {
+        setFocus(Qt::OtherFocusReason);
+    }
+}
+
 bool CanvasView::moveSelection(const QKeyEvent &event)
 {
     const auto *arrow = std::ranges::find(arrowKeys, event.key(), &ArrowKey::key);
@@ -190,7 +302,7 @@ bool CanvasView::moveSelection(const QKeyEvent &event)
     QList<RequestedValue> values;
     for (const DesignerObject *object : m_scene->selectedObjects()) {
         const SharedProperty position = object->getProperty(u"position");
-        if (position) {
+        if (position && CanvasState::isFree(object)) {
             const QPointF place = ValueConversion::toPoint(position->valueString());
             values.append({position, ValueConversion::toString(place + QPointF(way))});
         }
@@ -223,6 +335,8 @@ void CanvasView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Space && !event->isAutoRepeat() && !(m_scene && m_scene->isGestureActive())) {
         setHand(true);
+    } else if (event->key() == Qt::Key_Escape && m_guides->isDragging()) {
+        m_guides->cancel();
     } else if (!moveSelection(*event)) {
         QGraphicsView::keyPressEvent(event);
     }
@@ -249,13 +363,26 @@ void CanvasView::leaveEvent(QEvent *event)
     QGraphicsView::leaveEvent(event);
 }
 
+//! Elements and handles come before guides.
+bool CanvasView::isFreePlace(const QPoint &place) const
+{
+    return m_scene && m_scene->cursorAt(mapToScene(place)) == Qt::ArrowCursor;
+}
+
 void CanvasView::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::MiddleButton || (m_hasHand && event->button() == Qt::LeftButton)) {
         m_dragged = event->position().toPoint();
         setHand(m_hasHand);
+    } else if (event->button() == Qt::LeftButton && isFreePlace(event->position().toPoint())
+               && m_guides->start(event->position().toPoint())) {
+        event->accept();
     } else {
         QGraphicsView::mousePressEvent(event);
+        // A variable or a hidden element may be selected.
+        if (m_scene && event->button() == Qt::LeftButton && m_scene->selectedObjects().isEmpty()) {
+            giveSelection();
+        }
     }
 }
 
@@ -267,8 +394,14 @@ void CanvasView::mouseMoveEvent(QMouseEvent *event)
         m_dragged = place;
         horizontalScrollBar()->setValue(horizontalScrollBar()->value() - way.x());
         verticalScrollBar()->setValue(verticalScrollBar()->value() - way.y());
+    } else if (m_guides->isDragging()) {
+        m_guides->moveTo(place);
     } else if (!m_hasHand) {
         QGraphicsView::mouseMoveEvent(event);
+        const auto guide = event->buttons() == Qt::NoButton ? m_guides->orientationAt(place) : std::nullopt;
+        if (guide && isFreePlace(place)) {
+            viewport()->setCursor(guide == Qt::Horizontal ? Qt::SplitVCursor : Qt::SplitHCursor);
+        }
     }
     emit mouseMoved(mapToScene(place));
 }
@@ -278,6 +411,8 @@ void CanvasView::mouseReleaseEvent(QMouseEvent *event)
     if (m_dragged && (event->button() == Qt::MiddleButton || event->button() == Qt::LeftButton)) {
         m_dragged.reset();
         setHand(m_hasHand);
+    } else if (m_guides->isDragging()) {
+        m_guides->drop(event->position().toPoint());
     } else {
         QGraphicsView::mouseReleaseEvent(event);
     }
@@ -312,8 +447,8 @@ void CanvasView::scrollContentsBy(int dx, int dy)
 void CanvasView::changeEvent(QEvent *event)
 {
     QGraphicsView::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) {
-        viewport()->update();
+    if (event->type() == QEvent::PaletteChange && m_scene) {
+        updatePasteboard();
     }
 }
 

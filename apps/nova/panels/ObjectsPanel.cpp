@@ -5,7 +5,7 @@
 #include "corvex/core/DesignerObject.h"
 #include "corvex/project/Screen.h"
 
-#include "panels/ObjectDelegate.h"
+#include "panels/StateDelegate.h"
 #include "project/Workspace.h"
 
 #include <QItemSelectionModel>
@@ -25,7 +25,7 @@ ObjectsPanel::ObjectsPanel(Workspace &workspace, QWidget *parent)
     , m_view(new QTreeView)
 {
     m_view->setModel(&workspace.tree());
-    m_view->setItemDelegate(new ObjectDelegate(m_view));
+    m_view->setItemDelegate(new StateDelegate(workspace, m_view));
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setHeaderHidden(true);
     m_view->setUniformRowHeights(true);
@@ -42,6 +42,7 @@ ObjectsPanel::ObjectsPanel(Workspace &workspace, QWidget *parent)
             &ObjectsPanel::giveSelection);
     connect(&workspace.document(), &ProjectDocument::selectionChanged, this, &ObjectsPanel::takeSelection);
     connect(&workspace.tree(), &QAbstractItemModel::modelReset, this, [this] { m_view->expandToDepth(0); });
+    connect(&workspace.view(), &ViewState::flagsChanged, m_view->viewport(), qOverload<>(&QWidget::update));
     takeSelection();
 }
 

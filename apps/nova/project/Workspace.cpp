@@ -21,6 +21,7 @@ Workspace::Workspace(std::unique_ptr<Project> project, const ConfigurationContai
     , m_problems(m_document.project(), models)
     , m_problemsModel(m_problems)
     , m_tree(m_document)
+    , m_view(m_document.project())
 {
     m_problems.setApprovals(&m_approvals);
     m_tree.setProblems(&m_problems);
@@ -71,6 +72,13 @@ QList<DesignerObject *> Workspace::selectedElements() const
     elements.removeIf(
         [](const DesignerObject *object) { return !object->isKindOfClass(Element::kindName()); });
     return elements;
+}
+
+void Workspace::setFlag(const QList<DesignerObject *> &objects, CanvasState::Flag flag, bool on)
+{
+    const QList<DesignerObject *> selection = m_document.selection();
+    m_view.setFlag(objects, flag, on);
+    m_document.select(selection); // the canvas drops hidden elements
 }
 
 bool Workspace::push(PlannedCommand planned)

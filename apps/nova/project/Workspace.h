@@ -9,6 +9,8 @@
 #include "corvex/inspector/ProblemsModel.h"
 #include "corvex/project/Screen.h"
 
+#include "project/ViewState.h"
+
 #include <memory>
 
 namespace Halvane::Corvex::Designer {
@@ -42,6 +44,7 @@ public:
     Designer::ObjectTreeModel &tree() { return m_tree; }
     Designer::ProblemList &problems() { return m_problems; }
     Designer::ProblemsModel &problemsModel() { return m_problemsModel; }
+    ViewState &view() { return m_view; }
     const Designer::ConfigurationContainer &models() const { return m_models; }
 
     //! Null in a project without screens.
@@ -52,6 +55,9 @@ public:
     void reveal(Designer::DesignerObject *object);
     //! The selected elements, in any order; without the screen and without variables.
     QList<Designer::DesignerObject *> selectedElements() const;
+
+    //! Hides, shows, locks or unlocks elements on the canvas; the selection stays.
+    void setFlag(const QList<Designer::DesignerObject *> &objects, Designer::CanvasState::Flag flag, bool on);
 
     //! Pushes the command. Emits noted() or refused().
     bool push(Designer::PlannedCommand planned);
@@ -92,6 +98,7 @@ private:
     Designer::ProblemList m_problems;
     Designer::ProblemsModel m_problemsModel;
     Designer::ObjectTreeModel m_tree;
+    ViewState m_view;
     QPointer<Designer::Screen> m_screen;
     std::unique_ptr<Common::Job> m_job;
     std::unique_ptr<RunningPreview> m_preview;

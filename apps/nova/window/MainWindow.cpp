@@ -6,6 +6,7 @@
 #include "corvex/editors/PropertyPanel.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/Screen.h"
+#include "corvex/widgets/IconSet.h"
 #include "corvex/widgets/JobProgress.h"
 #include "corvex/widgets/KdMessageBox.h"
 #include "corvex/widgets/Theme.h"
@@ -207,6 +208,8 @@ void MainWindow::connectWorkspace()
     connect(&workspace->problems(), &ProblemList::inserted, this, &MainWindow::updateProblems);
     connect(&workspace->problems(), &ProblemList::removed, this, &MainWindow::updateProblems);
     connect(&workspace->problems(), &ProblemList::changed, this, &MainWindow::updateProblems);
+    connect(canvas(), &CanvasView::menuRequested, this, &MainWindow::showCanvasMenu);
+    connect(&workspace->view(), &ViewState::flagsChanged, this, &MainWindow::updateActions);
     connect(canvas(), &CanvasView::scaleChanged, m_zoom, &ZoomBox::setScale);
     m_zoom->setScale(canvas()->scale());
     const auto *problems = qobject_cast<ProblemsPanel *>(panel(u"panel.problems"_s));
@@ -252,6 +255,32 @@ void MainWindow::updateActions()
             },
             Qt::QueuedConnection);
     }
+}
+
+//! The menu deletes itself.
+void MainWindow::showCanvasMenu(const QPoint &place, const QList<DesignerObject *> &objects)
+{
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (!objects.isEmpty()) {
+        QMenu *stack = menu->addMenu(LocalizationHelper::coreString(u"Select here"_s));
+        const QList<DesignerObject *> selection = m_workspace->document().selection();
+        for (DesignerObject *object : objects) {
+            QAction *entry = stack->addAction(IconSet::objectIcon(object->classNames()),
+                                              QString(object->getIdName()).replace(u'&', u"&&"_s), this,
+                                              [this, chosen = QPointer(object)] {
+                                                  if (chosen) {
+                                                      m_workspace->document().select({chosen});
+                                                  }
+                                              });
+            entry->setCheckable(true);
+            entry->setChecked(selection.contains(object));
+        }
+        menu->addSeparator();
+    }
+    m_actions->update();
+    m_actions->fillMenu(*menu, canvasActions());
+    menu->popup(place);
 }
 
 void MainWindow::updateTitle()

@@ -15,6 +15,7 @@ class QStackedWidget;
 
 namespace Halvane::Corvex::Designer {
 class ConfigurationContainer;
+class DesignerObject;
 class Project;
 class ZoomBox;
 } // namespace Halvane::Corvex::Designer
@@ -71,6 +72,7 @@ private:
     void updateTitle();
     void updateProblems();
     void updateActions();
+    void showCanvasMenu(const QPoint &place, const QList<Designer::DesignerObject *> &objects);
 
     const Designer::ConfigurationContainer &m_models;
     ProjectFiles *m_files;

@@ -285,6 +285,11 @@ QMimeData *ObjectTreeModel::mimeData(const QModelIndexList &indexes) const
     return objects.isEmpty() ? nullptr : new DraggedObjects(this, objects);
 }
 
+QList<DesignerObject *> ObjectTreeModel::draggedObjects(const QMimeData *data) const
+{
+    return DraggedObjects::of(data, this);
+}
+
 //! The objects and their new place.
 struct ObjectTreeModel::Drop
 {

@@ -80,6 +80,8 @@ public:
     QMimeData *mimeData(const QModelIndexList &indexes) const override;
     bool canDropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
                          const QModelIndex &parent) const override;
+    //! The objects in data that this model has created, for a drop elsewhere; empty for other data.
+    QList<DesignerObject *> draggedObjects(const QMimeData *data) const;
     //! Moves objects before the row, or to the end of the list for row -1. Copies are always added to the
     //! list of the original.
     bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,

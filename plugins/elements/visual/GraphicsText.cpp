@@ -2,7 +2,11 @@
 #include "elements/visual/GraphicsText.h"
 
 #include "corvex/core/properties/EnumProperty.h"
+#include "corvex/values/expressions/GeneralDataList.h"
 #include "corvex/values/text/ValueConversion.h"
+
+#include "elements/Rows.h"
+#include "elements/visual/NumberFormat.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -17,6 +21,9 @@ namespace {
 //! Font sizes are in points. The device has 96 pixels per inch, whatever the resolution of the designer's
 //! display.
 constexpr double pixelsPerPoint = 96.0 / 72;
+
+//! The properties of NumberFormat.
+const QStringList formatIds{u"decimals"_s, u"thousands"_s, u"prefix"_s, u"suffix"_s};
 
 QFont deviceFont(const QString &text)
 {
@@ -37,16 +44,50 @@ Qt::Alignment alignmentOf(const DesignerProperty &property)
 void GraphicsText::setFrameSize(const QSizeF &size)
 {
     GraphicsRectangle::setFrameSize(size);
-    measure();
+    outdate();
 }
 
-void GraphicsText::measure()
+void GraphicsText::outdate()
 {
     prepareGeometryChange();
+    m_isOutdated = true;
+}
+
+QRectF GraphicsText::boundingRect() const
+{
+    if (m_isOutdated) {
+        measure();
+    }
+    return m_inkRect;
+}
+
+void GraphicsText::measure() const
+{
+    m_isOutdated = false;
+    const QString value = m_sample ? sample() : QString();
+    m_shown = value.isNull() ? m_text : value;
     const int flags = int(m_alignment) | Qt::TextDontClip;
     // Italic letters extend a little beyond the measured rectangle.
-    const QRectF ink = QFontMetricsF(m_font).boundingRect(frame(), flags, m_text).adjusted(-2, -2, 2, 2);
-    m_inkRect = m_text.isEmpty() ? frame() : frame() | ink;
+    const QRectF ink = QFontMetricsF(m_font).boundingRect(frame(), flags, m_shown).adjusted(-2, -2, 2, 2);
+    m_inkRect = m_shown.isEmpty() ? frame() : frame() | ink;
+}
+
+void GraphicsText::bind(const SharedProperty &expression)
+{
+    m_sample.reset();
+    if (!expressionOf(*expression).isEmpty()) {
+        m_sample = std::make_unique<ExpressionSample>(expression);
+        QObject::connect(m_sample.get(), &ExpressionSample::changed, m_sample.get(), [this] {
+            outdate();
+            update();
+        });
+    }
+}
+
+QString GraphicsText::sample() const
+{
+    return m_sample->value(
+        [this](const QString &code) { return NumberFormat::of(*dataObject()).apply(code); });
 }
 
 void GraphicsText::updateGraphicsItem(const SharedProperty &property)
@@ -54,6 +95,8 @@ void GraphicsText::updateGraphicsItem(const SharedProperty &property)
     const QString id = property ? property->id() : QString();
     if (id == "text"_L1) {
         m_text = property->valueString();
+    } else if (id == "textBinding"_L1) {
+        bind(property);
     } else if (id == "font"_L1) {
         m_font = deviceFont(property->valueString());
     } else if (id == "color"_L1) {
@@ -62,19 +105,22 @@ void GraphicsText::updateGraphicsItem(const SharedProperty &property)
         m_alignment = (m_alignment & Qt::AlignVertical_Mask) | alignmentOf(*property);
     } else if (id == "verticalAlignment"_L1) {
         m_alignment = (m_alignment & Qt::AlignHorizontal_Mask) | alignmentOf(*property);
-    } else {
+    } else if (!formatIds.contains(id)) {
         GraphicsRectangle::updateGraphicsItem(property);
         return;
     }
-    measure();
+    outdate();
     update();
 }
 
 void GraphicsText::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
+    if (m_isOutdated) {
+        measure();
+    }
     painter->setFont(m_font);
     painter->setPen(m_color);
-    painter->drawText(frame(), int(m_alignment) | Qt::TextDontClip, m_text);
+    painter->drawText(frame(), int(m_alignment) | Qt::TextDontClip, m_shown);
 }
 
 } // namespace Halvane::Corvex::Elements

@@ -20,60 +20,64 @@ constexpr double padding = 3;            // pixels
 
 } // namespace
 
-CanvasMarks::CanvasMarks()
+class CanvasMarks::Mark : public QGraphicsItem
 {
-    setZValue(std::numeric_limits<double>::max());
-}
+public:
+    using QGraphicsItem::QGraphicsItem;
 
-void CanvasMarks::show(const SnapMarks &marks, double pixel)
-{
-    if (marks == m_marks && pixel == m_pixel) {
-        return;
+    void set(const QLineF &line, bool isDistance, double pixel)
+    {
+        prepareGeometryChange();
+        m_line = line;
+        m_isDistance = isDistance;
+        m_pixel = pixel;
     }
-    prepareGeometryChange();
-    m_marks = marks;
-    m_pixel = pixel;
-    m_bounds = {};
-    for (const QList<QLineF> *lines : {&m_marks.lines, &m_marks.distances}) {
-        for (const QLineF &line : *lines) {
-            const double room = margin * pixel;
-            m_bounds |= QRectF(line.p1(), line.p2()).normalized().adjusted(-room, -room, room, room);
+
+    QRectF boundingRect() const override
+    {
+        const double room = (m_isDistance ? margin : 1) * m_pixel;
+        return QRectF(m_line.p1(), m_line.p2()).normalized().adjusted(-room, -room, room, room);
+    }
+    //! Empty, so that the mouse never hits the marks.
+    QPainterPath shape() const override { return {}; }
+
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *) override
+    {
+        painter->setRenderHint(QPainter::Antialiasing, false);
+        painter->setPen(QPen(markColor, 0));
+        painter->drawLine(m_line);
+        if (m_isDistance) {
+            const QPointF across = isHorizontal() ? QPointF(0, tick) : QPointF(tick, 0);
+            for (const QPointF &end : {m_line.p1(), m_line.p2()}) {
+                painter->drawLine(end - across * m_pixel, end + across * m_pixel);
+            }
+            paintFigure(*painter);
         }
     }
-}
 
-void CanvasMarks::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
-{
-    painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setPen(QPen(markColor, 0));
-    painter->drawLines(m_marks.lines);
-    for (const QLineF &distance : m_marks.distances) {
-        painter->drawLine(distance);
-        const QPointF across = std::abs(distance.dx()) > 0 ? QPointF(0, tick) : QPointF(tick, 0);
-        for (const QPointF &end : {distance.p1(), distance.p2()}) {
-            painter->drawLine(end - across * m_pixel, end + across * m_pixel);
-        }
-    }
-    painter->setRenderHint(QPainter::Antialiasing);
-    for (const QLineF &distance : m_marks.distances) {
-        paintFigure(*painter, distance);
-    }
-}
+private:
+    bool isHorizontal() const { return std::abs(m_line.dx()) > 0; }
+    void paintFigure(QPainter &painter) const;
 
-void CanvasMarks::paintFigure(QPainter &painter, const QLineF &distance) const
+    QLineF m_line;
+    bool m_isDistance = false;
+    double m_pixel = 1;
+};
+
+void CanvasMarks::Mark::paintFigure(QPainter &painter) const
 {
     QFont font;
     font.setPixelSize(figureSize);
-    const QString figure = QLocale().toString(std::round(distance.length() * 10) / 10, 'g', 6);
+    const QString figure = QLocale().toString(std::round(m_line.length() * 10) / 10, 'g', 6);
     const QFontMetricsF metrics(font);
     const QSizeF size(metrics.horizontalAdvance(figure) + 2 * padding, metrics.height());
     QRectF place({}, size);
     // Beside the middle of the line, so that the line of a short distance stays visible.
-    const bool isHorizontal = std::abs(distance.dx()) > 0;
-    place.moveCenter(isHorizontal ? QPointF(0, size.height() / 2 + tick + 1)
-                                  : QPointF(size.width() / 2 + tick + 1, 0));
+    place.moveCenter(isHorizontal() ? QPointF(0, size.height() / 2 + tick + 1)
+                                    : QPointF(size.width() / 2 + tick + 1, 0));
     painter.save();
-    painter.translate(distance.center());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(m_line.center());
     painter.scale(m_pixel, m_pixel);
     painter.setPen(Qt::NoPen);
     painter.setBrush(markColor);
@@ -82,6 +86,35 @@ void CanvasMarks::paintFigure(QPainter &painter, const QLineF &distance) const
     painter.setFont(font);
     painter.drawText(place, Qt::AlignCenter, figure);
     painter.restore();
+}
+
+CanvasMarks::CanvasMarks()
+{
+    setFlag(ItemHasNoContents);
+    setZValue(std::numeric_limits<double>::max());
+}
+
+void CanvasMarks::show(const SnapMarks &marks, double pixel)
+{
+    if (marks == m_marks && pixel == m_pixel) {
+        return;
+    }
+    m_marks = marks;
+    m_pixel = pixel;
+    const qsizetype lines = marks.lines.size();
+    const qsizetype count = lines + marks.distances.size();
+    while (m_items.size() < count) {
+        m_items.append(new Mark(this));
+    }
+    for (qsizetype index = 0; index < m_items.size(); ++index) {
+        Mark *mark = m_items.at(index);
+        mark->setVisible(index < count);
+        if (index < count) {
+            const bool isDistance = index >= lines;
+            mark->set(isDistance ? marks.distances.at(index - lines) : marks.lines.at(index), isDistance,
+                      pixel);
+        }
+    }
 }
 
 } // namespace Halvane::Corvex::Designer

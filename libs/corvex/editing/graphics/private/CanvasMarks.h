@@ -18,17 +18,16 @@ public:
     void show(const SnapMarks &marks, double pixel);
     const SnapMarks &marks() const { return m_marks; }
 
-    QRectF boundingRect() const override { return m_bounds; }
-    //! Empty, so that the mouse never hits the marks.
-    QPainterPath shape() const override { return {}; }
-    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+    QRectF boundingRect() const override { return {}; }
+    void paint(QPainter *, const QStyleOptionGraphicsItem *, QWidget *) override { }
 
 private:
-    void paintFigure(QPainter &painter, const QLineF &distance) const;
+    class Mark;
 
     SnapMarks m_marks;
     double m_pixel = 1;
-    QRectF m_bounds;
+    //! An item for each line: one for all would repaint everything between them.
+    QList<Mark *> m_items;
 };
 
 } // namespace Halvane::Corvex::Designer

@@ -104,16 +104,17 @@ QString ExpressionCalculator::Result::described(const QString &type) const
     return value.isEmpty() ? type : type.isEmpty() ? "= "_L1 + value : u"= %1 (%2)"_s.arg(value, type);
 }
 
-ExpressionCalculator::Result ExpressionCalculator::valueOf(const ExpressionScope &scope,
-                                                           const GeneralDataList &terms,
-                                                           const ExpressionPurpose &purpose,
-                                                           const QHash<QString, QString> &given)
+ExpressionCalculator::Result
+ExpressionCalculator::valueOf(const ExpressionScope &scope, const GeneralDataList &terms,
+                              const ExpressionPurpose &purpose, const QHash<QString, QString> &given,
+                              const std::function<QString(const QString &)> &wrap)
 {
     if (terms.isEmpty() || purpose.isAssignment() || (purpose.isTermList && terms.count() > 1)) {
         return {};
     }
     if (terms.count() > mostTerms) {
-        return {{}, LocalizationHelper::coreString(u"The expression is too long to be calculated here."_s)};
+        return {
+            {}, {}, LocalizationHelper::coreString(u"The expression is too long to be calculated here."_s)};
     }
     QVariantMap variables;
     QVariantMap elements;
@@ -123,7 +124,7 @@ ExpressionCalculator::Result ExpressionCalculator::valueOf(const ExpressionScope
             continue;
         }
         if (term.dataType() == Info::LogData) {
-            return {{}, LocalizationHelper::coreString(u"Only the device has the values of logs."_s)};
+            return {{}, {}, LocalizationHelper::coreString(u"Only the device has the values of logs."_s)};
         }
         const auto known = given.constFind(term.value());
         const QVariant value =
@@ -137,7 +138,9 @@ ExpressionCalculator::Result ExpressionCalculator::valueOf(const ExpressionScope
         }
     }
     const QString code = ValueCode::of(terms, purpose);
-    return code.isEmpty() || findTooDeepNesting(code) >= 0 ? Result() : run(code, variables, elements);
+    return code.isEmpty() || findTooDeepNesting(code) >= 0
+               ? Result()
+               : run(wrap ? wrap(code) : code, variables, elements);
 }
 
 ExpressionCalculator::Result ExpressionCalculator::run(const QString &code, const QVariantMap &variables,
@@ -159,10 +162,10 @@ ExpressionCalculator::Result ExpressionCalculator::run(const QString &code, cons
         m_engine->evaluate(u"(function(%1) { return (%2\n); })"_s.arg(parameters.join(u", "_s), code));
     const QJSValue result = function.isCallable() ? function.call(arguments) : function;
     if (m_watchdog->leave()) {
-        return {{}, LocalizationHelper::coreString(u"The calculation takes too long."_s)};
+        return {{}, {}, LocalizationHelper::coreString(u"The calculation takes too long."_s)};
     }
-    return result.isError() ? Result{{}, result.property(u"message"_s).toString()}
-                            : Result{readable(result), {}};
+    return result.isError() ? Result{{}, {}, result.property(u"message"_s).toString()}
+                            : Result{readable(result), result.toString(), {}};
 }
 
 } // namespace Halvane::Corvex::Designer

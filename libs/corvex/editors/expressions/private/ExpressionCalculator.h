@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QJSValue>
 
+#include <functional>
 #include <memory>
 
 class QJSEngine;
@@ -29,14 +30,16 @@ public:
     struct Result
     {
         QString value;   //!< in the readable form; empty if it is unknown
+        QString text;    //!< the value as the device shows it in a text
         QString problem; //!< why there is no value, for the user
 
         //! One line with the type, such as "= 72.5 (number)".
         QString described(const QString &type) const;
     };
-    //! The names in \a given have these values, all others those of the project.
+    //! The names in \a given have these values, all others those of the project. \a wrap may add to the code.
     Result valueOf(const ExpressionScope &scope, const GeneralDataList &terms,
-                   const ExpressionPurpose &purpose, const QHash<QString, QString> &given = {});
+                   const ExpressionPurpose &purpose, const QHash<QString, QString> &given = {},
+                   const std::function<QString(const QString &)> &wrap = {});
 
 private:
     ExpressionCalculator();
