@@ -14,6 +14,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTreeView>
 
 using namespace Qt::StringLiterals;
@@ -126,6 +127,10 @@ void FindPanel::searchAgain()
 
 void FindPanel::showUses(DesignerObject *object, bool renames)
 {
+    {
+        const QSignalBlocker blocker(m_text);
+        m_text->clear();
+    }
     m_used = object;
     m_places->findUses(*object);
     m_renaming->show();

@@ -94,6 +94,24 @@ void KdTableView::resizeEvent(QResizeEvent *event)
     }
 }
 
+bool KdTableView::isOwnKey(const QKeyEvent &event)
+{
+    return event.matches(QKeySequence::Copy) || event.matches(QKeySequence::Paste)
+           || event.key() == Qt::Key_Delete
+           || (event.key() == Qt::Key_D && event.modifiers() == Qt::ControlModifier);
+}
+
+bool KdTableView::event(QEvent *event)
+{
+    // In the table, these keys are for cells, also if actions of the window have them.
+    if (event->type() == QEvent::ShortcutOverride && m_table
+        && isOwnKey(*static_cast<const QKeyEvent *>(event))) {
+        event->accept();
+        return true;
+    }
+    return QTableView::event(event);
+}
+
 void KdTableView::keyPressEvent(QKeyEvent *event)
 {
     if (!m_table || state() == EditingState) {

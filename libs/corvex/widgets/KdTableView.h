@@ -42,10 +42,12 @@ signals:
     void heightChanged();
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    static bool isOwnKey(const QKeyEvent &event);
     void clearCells();
 
     CellTable *m_table = nullptr;

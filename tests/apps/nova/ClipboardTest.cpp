@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "corvex/project/Screen.h"
+#include "corvex/widgets/KdTableView.h"
 
 #include "apps/nova/NovaFixture.h"
 #include "project/Clipboard.h"
@@ -53,6 +54,18 @@ TEST_F(ClipboardTest, carriesObjectsAndPictures)
     text.setText(u"some words"_s);
     answerNext(0);
     Clipboard::paste(workspace(), text, std::nullopt);
+}
+
+// In a table, the same keys are for cells.
+TEST_F(ClipboardTest, tablesKeepTheirKeys)
+{
+    window->showPanel(u"panel.variables"_s);
+    auto *table = window->panel(u"panel.variables"_s)->findChild<KdTableView *>();
+    table->setFocus();
+    table->setCurrentIndex(table->model()->index(0, 0));
+    QCoreApplication::processEvents();
+    QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text().trimmed(), table->model()->index(0, 0).data().toString());
 }
 
 } // namespace Halvane::Corvex::Nova::Test
