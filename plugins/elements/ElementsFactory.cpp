@@ -14,6 +14,7 @@
 #include "elements/hardware/Channels.h"
 #include "elements/hardware/Communication.h"
 #include "elements/hardware/Ports.h"
+#include "elements/visual/GraphicsFilled.h"
 #include "elements/visual/GraphicsImage.h"
 #include "elements/visual/GraphicsText.h"
 #include "elements/visual/Image.h"
@@ -172,6 +173,7 @@ constexpr ClassRow classes[] = {
 };
 
 constexpr ItemRow items[] = {
+    {"GraphicsFilled", &makeItem<GraphicsFilled>},
     {"GraphicsImage", &makeItem<GraphicsImage>},
     {"GraphicsText", &makeItem<GraphicsText>},
 };

@@ -233,6 +233,17 @@ void CanvasView::giveSelection()
     }
 }
 
+bool CanvasView::event(QEvent *event)
+{
+    // Otherwise Alt, which measures and suspends snapping, would move the focus to the menu bar.
+    if (event->type() == QEvent::ShortcutOverride
+        && static_cast<const QKeyEvent *>(event)->key() == Qt::Key_Alt && viewport()->underMouse()) {
+        event->accept();
+        return true;
+    }
+    return QGraphicsView::event(event);
+}
+
 void CanvasView::drawBackground(QPainter *painter, const QRectF &area)
 {
     painter->fillRect(area, palette().color(QPalette::Mid));

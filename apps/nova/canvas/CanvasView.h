@@ -58,6 +58,7 @@ signals:
     void mouseMoved(const std::optional<QPointF> &point);
 
 protected:
+    bool event(QEvent *event) override;
     void drawBackground(QPainter *painter, const QRectF &area) override;
     void drawForeground(QPainter *painter, const QRectF &area) override;
     void contextMenuEvent(QContextMenuEvent *event) override;

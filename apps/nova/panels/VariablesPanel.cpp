@@ -55,6 +55,8 @@ VariablesPanel::VariablesPanel(Workspace &workspace, QWidget *parent)
     m_view->setTable(m_table);
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setShowGrid(false);
+    m_view->setDragEnabled(true);
+    m_view->setDragDropMode(QAbstractItemView::DragOnly);
     m_view->setAlternatingRowColors(true);
     m_view->setAccessibleName(LocalizationHelper::coreString(u"Variables"_s));
     QHeaderView *header = m_view->horizontalHeader();

@@ -164,8 +164,19 @@ QVariant VariablesTable::headerData(int section, Qt::Orientation orientation, in
 Qt::ItemFlags VariablesTable::flags(const QModelIndex &index) const
 {
     const Qt::ItemFlags flags = CellTable::flags(index) & ~Qt::ItemIsEditable;
-    return isEditable(propertyOf(*m_shown.at(index.row()), index.column())) ? flags | Qt::ItemIsEditable
-                                                                            : flags;
+    const Qt::ItemFlags dragged = index.column() == NameColumn ? Qt::ItemIsDragEnabled : Qt::NoItemFlags;
+    return isEditable(propertyOf(*m_shown.at(index.row()), index.column()))
+               ? flags | dragged | Qt::ItemIsEditable
+               : flags | dragged;
+}
+
+QMimeData *VariablesTable::mimeData(const QModelIndexList &indexes) const
+{
+    QModelIndexList objects;
+    for (const QModelIndex &index : indexes) {
+        objects.append(m_workspace.tree().indexOf(m_shown.at(index.row())));
+    }
+    return m_workspace.tree().mimeData(objects);
 }
 
 QStringList VariablesTable::choices(const QModelIndex &cell) const

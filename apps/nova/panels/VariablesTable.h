@@ -41,6 +41,8 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+    //! Names can be dragged, to the canvas for example.
+    QMimeData *mimeData(const QModelIndexList &indexes) const override;
     void enterCells(const QList<Designer::CellText> &cells) override;
     void addRow(int before) override;
     void deleteRows(const QList<int> &rows) override;

@@ -64,27 +64,29 @@ QRectF GraphicsText::boundingRect() const
 void GraphicsText::measure() const
 {
     m_isOutdated = false;
-    const QString value = m_sample ? sample() : QString();
+    const QString value = m_sample ? sampleText() : QString();
     m_shown = value.isNull() ? m_text : value;
+    const QColor color = m_colorSample ? QColor(m_colorSample->value()) : QColor();
+    m_shownColor = color.isValid() ? color : m_color;
     const int flags = int(m_alignment) | Qt::TextDontClip;
     // Italic letters extend a little beyond the measured rectangle.
     const QRectF ink = QFontMetricsF(m_font).boundingRect(frame(), flags, m_shown).adjusted(-2, -2, 2, 2);
     m_inkRect = m_shown.isEmpty() ? frame() : frame() | ink;
 }
 
-void GraphicsText::bind(const SharedProperty &expression)
+void GraphicsText::bind(Sample &sample, const SharedProperty &expression)
 {
-    m_sample.reset();
+    sample.reset();
     if (!expressionOf(*expression).isEmpty()) {
-        m_sample = std::make_unique<ExpressionSample>(expression);
-        QObject::connect(m_sample.get(), &ExpressionSample::changed, m_sample.get(), [this] {
+        sample = std::make_unique<ExpressionSample>(expression);
+        QObject::connect(sample.get(), &ExpressionSample::changed, sample.get(), [this] {
             outdate();
             update();
         });
     }
 }
 
-QString GraphicsText::sample() const
+QString GraphicsText::sampleText() const
 {
     return m_sample->value(
         [this](const QString &code) { return NumberFormat::of(*dataObject()).apply(code); });
@@ -96,7 +98,9 @@ void GraphicsText::updateGraphicsItem(const SharedProperty &property)
     if (id == "text"_L1) {
         m_text = property->valueString();
     } else if (id == "textBinding"_L1) {
-        bind(property);
+        bind(m_sample, property);
+    } else if (id == "colorBinding"_L1) {
+        bind(m_colorSample, property);
     } else if (id == "font"_L1) {
         m_font = deviceFont(property->valueString());
     } else if (id == "color"_L1) {
@@ -119,7 +123,7 @@ void GraphicsText::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QW
         measure();
     }
     painter->setFont(m_font);
-    painter->setPen(m_color);
+    painter->setPen(m_shownColor);
     painter->drawText(frame(), int(m_alignment) | Qt::TextDontClip, m_shown);
 }
 

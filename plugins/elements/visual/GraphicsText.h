@@ -27,16 +27,19 @@ public:
 private:
     void outdate();
     void measure() const;
-    void bind(const Designer::SharedProperty &expression);
-    QString sample() const;
+    using Sample = std::unique_ptr<Designer::ExpressionSample>;
+    void bind(Sample &sample, const Designer::SharedProperty &expression);
+    QString sampleText() const;
 
-    std::unique_ptr<Designer::ExpressionSample> m_sample; //!< null without an expression
+    Sample m_sample; //!< of the text; null without an expression
+    Sample m_colorSample;
     QString m_text;
     QFont m_font;
     QColor m_color;
     Qt::Alignment m_alignment;
     // Measured when they are needed, because a new item gets one property after the other.
     mutable QString m_shown;
+    mutable QColor m_shownColor;
     mutable QRectF m_inkRect; //!< the frame united with the drawn text
     mutable bool m_isOutdated = true;
 };

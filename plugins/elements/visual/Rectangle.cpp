@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "elements/visual/Rectangle.h"
 
+#include "corvex/core/DesignerFactory.h"
 #include "corvex/core/properties/BasicProperties.h"
 #include "corvex/core/properties/BorderProperty.h"
 #include "corvex/core/properties/ColorProperties.h"
@@ -10,6 +11,7 @@
 #include "elements/BoundQml.h"
 #include "elements/Rows.h"
 
+using namespace Qt::StringLiterals;
 using namespace Halvane::Corvex::Designer;
 
 namespace Halvane::Corvex::Elements {
@@ -42,6 +44,11 @@ bool Rectangle::initializeProperties()
             .allowInvalid(),
     };
     return StandardVisual::initializeProperties() && addProperties(table);
+}
+
+ObjectView *Rectangle::createGraphicsItem()
+{
+    return DesignerFactory::createObjectView(u"GraphicsFilled"_s, this);
 }
 
 RuntimePropertyList Rectangle::runtimeProperties() const

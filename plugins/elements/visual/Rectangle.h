@@ -16,6 +16,7 @@ public:
 
 protected:
     using StandardVisual::StandardVisual;
+    Designer::ObjectView *createGraphicsItem() override;
     bool initializeProperties() override;
 };
 

@@ -352,6 +352,15 @@ TEST_F(CanvasTest, boundElementsDrawSampleValues)
     EXPECT_TRUE(drawn(u"7.3bar"_s));
     set(label, "textBinding", u"pump1Running ? \"on\" : concat(\"off \", flow)"_s);
     EXPECT_TRUE(drawn(u"off 7.25"_s) || drawn(u"on"_s));
+    DesignerObject *color = workspace().project().variables()->getListItem(u"pump1Color"_s);
+    const QImage black = scene().picture(CanvasScene::Plain);
+    set(label, "colorBinding", u"pump1Color"_s);
+    EXPECT_NE(scene().picture(CanvasScene::Plain), black);
+    set(element("a"), "colorBinding", u"pump1Color"_s);
+    for (const QString &value : {u"#00FF00"_s, u"#0000FF"_s}) {
+        set(color, "value", value);
+        EXPECT_EQ(scene().picture(CanvasScene::Plain).pixelColor(130, 120), QColor(value));
+    }
 }
 
 // Whatever a user does with mouse and keys, undo leads back. CORVEX_GESTURES sets the number.

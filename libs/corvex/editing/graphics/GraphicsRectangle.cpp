@@ -25,6 +25,12 @@ void GraphicsRectangle::setFrameSize(const QSizeF &size)
     m_size = size.expandedTo(QSizeF(0, 0));
 }
 
+void GraphicsRectangle::setColor(const QColor &color)
+{
+    m_color = color;
+    update();
+}
+
 QString GraphicsRectangle::shownValue(QStringView id) const
 {
     return id == "size"_L1 ? ValueConversion::toString(m_size) : FramedItem::shownValue(id);

@@ -33,6 +33,8 @@ public:
 protected:
     QSizeF proportions() const override { return m_proportions; }
     QString shownValue(QStringView id) const override;
+    //! Shows another color than that of the property, until the property changes.
+    void setColor(const QColor &color);
 
 private:
     void updateAspectRatio();
