@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "actions/Action.h"
+#include "project/NewObject.h"
 #include "project/ProjectFiles.h"
 #include "project/Workspace.h"
 #include "window/MainWindow.h"
+
+using namespace Qt::StringLiterals;
 
 namespace Halvane::Corvex::Nova {
 
@@ -11,6 +14,10 @@ using Designer::IconSet;
 std::span<const Action> projectActions()
 {
     static const Action actions[] = {
+        {"project.screen", "Add a &screen", "Add an empty screen and show it.", "Ctrl+Shift+N",
+         IconSet::Screens, Need::Project,
+         [](MainWindow &window) { NewObject::add(*window.workspace(), u"Screen"_s); }},
+        separator,
         {"project.preview", "&Preview", "Run the project in a window. It follows the edits.", "F5",
          IconSet::Play, Need::Project,
          [](MainWindow &window) {

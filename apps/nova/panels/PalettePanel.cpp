@@ -3,16 +3,15 @@
 
 #include "corvex/common/LocalizationHelper.h"
 #include "corvex/core/DesignerFactory.h"
-#include "corvex/editing/undo/UndoCommand.h"
 #include "corvex/editing/words/ClassHelp.h"
 #include "corvex/project/Screen.h"
 #include "corvex/project/elements/VisualElement.h"
-#include "corvex/values/text/ValueConversion.h"
 #include "corvex/widgets/IconSet.h"
 #include "corvex/widgets/SearchLine.h"
 #include "corvex/widgets/Theme.h"
 
 #include "project/NewElement.h"
+#include "project/NewObject.h"
 #include "project/Workspace.h"
 
 #include <QListView>
@@ -112,15 +111,8 @@ void PalettePanel::filter(const QString &text)
 
 void PalettePanel::insert(const QModelIndex &index)
 {
-    Screen *screen = m_workspace.screen();
-    if (!screen) {
-        return;
-    }
-    const QSizeF size = ValueConversion::toSize(screen->size()->valueString());
-    std::unique_ptr<UndoCommand> command = NewElement::command(*screen, index.data(classNameRole).toString(),
-                                                               QPointF(size.width(), size.height()) / 2);
-    if (command) {
-        m_workspace.push(std::move(command));
+    if (m_workspace.screen()) {
+        NewObject::add(m_workspace, index.data(classNameRole).toString());
     }
 }
 

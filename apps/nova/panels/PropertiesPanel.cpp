@@ -8,6 +8,7 @@
 #include "corvex/widgets/SearchLine.h"
 #include "corvex/widgets/Theme.h"
 
+#include "project/NewObject.h"
 #include "project/Workspace.h"
 
 #include <QKeyEvent>
@@ -57,6 +58,12 @@ PropertiesPanel::PropertiesPanel(Workspace &workspace, QWidget *parent)
     layout->addWidget(m_rows, 1);
     connect(m_filter, &QLineEdit::textChanged, m_rows, &PropertyPanel::setFilter);
     connect(&m_rows->requests(), &EditorRequests::objectRequested, &workspace, &Workspace::reveal);
+    connect(&m_rows->requests(), &EditorRequests::newObjectRequested, &workspace,
+            [&workspace](const QString &className, const EditorRequests::ObjectAnswer &answer) {
+                if (const DesignerObject *added = NewObject::add(workspace, className)) {
+                    answer(added);
+                }
+            });
     connect(m_rows, &PropertyPanel::noted, &workspace, &Workspace::noted);
     connect(&workspace.document(), &ProjectDocument::selectionChanged, this,
             &PropertiesPanel::describeSelection);

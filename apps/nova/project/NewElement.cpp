@@ -17,8 +17,7 @@ namespace Halvane::Corvex::Nova {
 
 using namespace Designer;
 
-std::unique_ptr<UndoCommand> NewElement::command(Screen &screen, const QString &className,
-                                                 const QPointF &place)
+std::unique_ptr<AddObject> NewElement::command(Screen &screen, const QString &className, const QPointF &place)
 {
     DesignerObject *object = DesignerFactory::instance()->createObject(className);
     if (!object) {

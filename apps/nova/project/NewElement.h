@@ -9,8 +9,9 @@
 class QMimeData;
 
 namespace Halvane::Corvex::Designer {
+class AddObject;
 class Screen;
-class UndoCommand;
+
 } // namespace Halvane::Corvex::Designer
 
 namespace Halvane::Corvex::Nova {
@@ -21,8 +22,8 @@ class NewElement
 public:
     //! The command that adds an element whose middle is at \a place, within the screen, and selects it. Null
     //! if the class cannot be created.
-    static std::unique_ptr<Designer::UndoCommand> command(Designer::Screen &screen, const QString &className,
-                                                          const QPointF &place);
+    static std::unique_ptr<Designer::AddObject> command(Designer::Screen &screen, const QString &className,
+                                                        const QPointF &place);
 
     // The data of a class that is dragged from the palette.
     static QMimeData *dragged(const QString &className);
