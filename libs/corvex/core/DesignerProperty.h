@@ -134,6 +134,13 @@ public:
     QString acceptedForm() const;
     bool equalsObjectValue(const DesignerObject *object) const { return objectValue() == object; }
     bool equalsListItems(const QList<DesignerObject *> &items) const;
+    //! Whether both come from the same row and nobody has changed them, so that everything about them is
+    //! equal. It is false for some pairs of equal properties.
+    bool isUntouchedLike(const DesignerProperty &other) const
+    {
+        return m_isInitial && other.m_isInitial && !m_hasState && !other.m_hasState
+               && m_descriptor == other.m_descriptor && m_failure == other.m_failure;
+    }
 
     //! The property's QML, with lines separated by "\n"; empty unless RuntimeFlag is set.
     QString toQml(int indent) const;

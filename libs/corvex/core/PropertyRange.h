@@ -57,6 +57,8 @@ public:
     qsizetype size() const;
     //! The index must be in the range.
     SharedProperty at(qsizetype index) const;
+    //! The same property without a shared pointer, for code that looks at very many of them.
+    const DesignerProperty &peek(qsizetype index) const;
     //! Null for an index out of range.
     SharedProperty value(qsizetype index) const
     {

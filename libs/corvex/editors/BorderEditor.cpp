@@ -101,9 +101,9 @@ void BorderEditor::scrub(double steps)
 void BorderEditor::takeSteps(double steps)
 {
     const int change = int(std::copysign(std::max(1.0, std::trunc(std::abs(steps))), steps));
-    const QList<SharedProperty> all = properties();
-    if (m_width->placeholderText().isEmpty() && !all.isEmpty()) {
-        const int width = std::clamp(BorderInfo(valueOf(*all.constFirst())).width() + change, 0, widest);
+    const SharedProperty first = firstProperty();
+    if (m_width->placeholderText().isEmpty() && first) {
+        const int width = std::clamp(BorderInfo(valueOf(*first)).width() + change, 0, widest);
         m_width->enterText(QString::number(width));
     } else {
         m_steps = change;

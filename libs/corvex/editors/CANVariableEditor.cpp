@@ -193,8 +193,8 @@ void CANVariableEditor::importFrom(const QString &file)
 
 QStringList CANVariableEditor::othersWith(int pgn) const
 {
-    const QList<SharedProperty> all = properties();
-    const DesignerObject *own = all.isEmpty() ? nullptr : all.constFirst()->parentObject();
+    const SharedProperty first = firstProperty();
+    const DesignerObject *own = !first ? nullptr : first->parentObject();
     QStringList names;
     if (own && own->project()) {
         for (const DesignerObject *other :

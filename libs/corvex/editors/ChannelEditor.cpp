@@ -98,8 +98,8 @@ PropertyEditor::Entry ChannelEditor::entryFor(const DesignerProperty &) const
 
 const Configuration *ChannelEditor::configuration() const
 {
-    const QList<SharedProperty> all = properties();
-    const Project *project = all.isEmpty() ? nullptr : all.constFirst()->parentObject()->project();
+    const SharedProperty first = firstProperty();
+    const Project *project = !first ? nullptr : first->parentObject()->project();
     return project ? project->configurationObject() : nullptr;
 }
 
@@ -112,12 +112,12 @@ QList<int> ChannelEditor::channels() const
 //! The other elements of the screen that use the channel.
 QStringList ChannelEditor::usersOf(int channel) const
 {
-    const QList<SharedProperty> all = properties();
+    const SharedProperty first = firstProperty();
     QStringList users;
-    if (all.isEmpty() || !all.constFirst()->parentObject()->screen()) {
+    if (!first || !first->parentObject()->screen()) {
         return users;
     }
-    const DesignerObject *edited = all.constFirst()->parentObject();
+    const DesignerObject *edited = first->parentObject();
     for (const DesignerObject *user :
          edited->screen()->elementIndex().withChannel(edited->className(), QString::number(channel))) {
         if (user != edited) {

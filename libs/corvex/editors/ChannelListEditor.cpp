@@ -209,8 +209,8 @@ PropertyEditor::Entry ChannelListEditor::entryFor(const DesignerProperty &) cons
 
 const Configuration *ChannelListEditor::configuration() const
 {
-    const QList<SharedProperty> all = properties();
-    return all.isEmpty() ? nullptr : kindCast<Configuration>(all.constFirst()->parentObject());
+    const SharedProperty first = firstProperty();
+    return !first ? nullptr : kindCast<Configuration>(first->parentObject());
 }
 
 QStringList ChannelListEditor::elementsOn(const QString &className, int channel) const

@@ -111,8 +111,8 @@ void EnumEditor::createFields()
 
 void EnumEditor::showRow()
 {
-    const QList<SharedProperty> all = properties();
-    const auto *property = all.isEmpty() ? nullptr : propertyCast<EnumProperty>(all.constFirst());
+    const SharedProperty first = firstProperty();
+    const auto *property = !first ? nullptr : propertyCast<EnumProperty>(first);
     const QMetaEnum enumerator = property ? property->value().enumerator()
                                           : Common::EnumHelper::metaEnum(parameter("enumName").toString());
     QStringList keys;

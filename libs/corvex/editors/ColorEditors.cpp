@@ -54,8 +54,8 @@ void ColorFieldEditor::enterColor(const QColor &color)
 
 QList<QColor> ColorFieldEditor::usedColors() const
 {
-    const QList<SharedProperty> all = properties();
-    const DesignerObject *object = all.isEmpty() ? nullptr : all.constFirst()->parentObject();
+    const SharedProperty first = firstProperty();
+    const DesignerObject *object = !first ? nullptr : first->parentObject();
     return object ? UsedColors::near(*object) : QList<QColor>();
 }
 
@@ -66,17 +66,17 @@ void ColorEditor::createFields()
 
 void ColorEditor::showRow()
 {
-    const QList<SharedProperty> all = properties();
-    const bool isMixed = row().isMixed || all.isEmpty();
+    const SharedProperty first = firstProperty();
+    const bool isMixed = row().isMixed || !first;
     colorEdit()->line()->setPlaceholderText(row().isMixed ? mixedText() : QString());
     colorEdit()->setColor(isMixed ? QColor() : ValueConversion::toColor(row().value),
-                          isMixed ? QString() : ReadableValue::print(*all.constFirst(), row().value));
-    if (all.size() == 1 && parameter("isTextColor").toBool()) {
+                          isMixed ? QString() : ReadableValue::print(*first, row().value));
+    if (first && !hasSeveral() && parameter("isTextColor").toBool()) {
         if (!m_watch) {
             m_watch = new ModelWatch(&TextContrast::dependsOn, this);
             connect(m_watch, &ModelWatch::changed, this, &ColorEditor::showContrast);
         }
-        m_watch->follow(all.constFirst()->parentObject()->project());
+        m_watch->follow(first->parentObject()->project());
         m_watch->report(); // looking at all elements of the screen must not delay the panel
     } else {
         setHint({}, Hint::Warning);
@@ -85,10 +85,10 @@ void ColorEditor::showRow()
 
 void ColorEditor::showContrast()
 {
-    const QList<SharedProperty> all = properties();
+    const SharedProperty first = firstProperty();
     std::optional<double> contrast;
-    if (all.size() == 1 && parameter("isTextColor").toBool()) {
-        contrast = TextContrast::of(*all.constFirst()->parentObject(), ValueConversion::toColor(row().value));
+    if (first && !hasSeveral() && parameter("isTextColor").toBool()) {
+        contrast = TextContrast::of(*first->parentObject(), ValueConversion::toColor(row().value));
     }
     const bool isLow = contrast && *contrast < TextContrast::enough;
     setHint(isLow
@@ -112,8 +112,8 @@ PropertyEditor::Entry ColorEditor::entryFor(const DesignerProperty &property) co
 QList<QColor> ScreenColorEditor::usedColors() const
 {
     QList<QColor> colors;
-    const QList<SharedProperty> all = properties();
-    const Project *project = all.isEmpty() ? nullptr : all.constFirst()->parentObject()->project();
+    const SharedProperty first = firstProperty();
+    const Project *project = !first ? nullptr : first->parentObject()->project();
     if (project) {
         colors = UsedColors::ofScreens(*project);
         for (const QColor &color : ColorEditor::usedColors()) {

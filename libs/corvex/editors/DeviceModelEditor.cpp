@@ -102,9 +102,9 @@ void DeviceModelEditor::createFields()
 
 void DeviceModelEditor::showRow()
 {
-    const QList<SharedProperty> all = properties();
+    const SharedProperty first = firstProperty();
     m_line->setPlaceholderText(row().isMixed ? mixedText() : QString());
-    m_line->setShownText(all.size() == 1 ? all.constFirst()->parentObject()->getIdName() : QString());
+    m_line->setShownText(first && !hasSeveral() ? first->parentObject()->getIdName() : QString());
     m_choose->setVisible(!installedModels().isEmpty());
     closeQuestion();
 }
@@ -130,13 +130,13 @@ void DeviceModelEditor::choose()
 
 QStringList DeviceModelEditor::consequences() const
 {
-    const QList<SharedProperty> all = properties();
-    Project *project = all.isEmpty() ? nullptr : all.constFirst()->parentObject()->project();
+    const SharedProperty first = firstProperty();
+    Project *project = !first ? nullptr : first->parentObject()->project();
     const QString model = m_line->text().trimmed();
     const ChangeConfiguration change(project, model);
     QStringList lines;
     for (const ValueChange &value : change.valueChanges()) {
-        if (value.property->parentObject() == all.constFirst()->parentObject()) {
+        if (value.property->parentObject() == first->parentObject()) {
             lines.append(described(value));
         }
     }
@@ -213,16 +213,16 @@ void DeviceModelEditor::closeQuestion()
 
 PlannedCommand DeviceModelEditor::plan() const
 {
-    const QList<SharedProperty> all = properties();
-    if (all.size() != 1 || m_line->text().trimmed() == m_line->shownText()) {
+    const SharedProperty first = firstProperty();
+    if ((!first || hasSeveral()) || m_line->text().trimmed() == m_line->shownText()) {
         return {};
     }
     if (!m_isConfirmed) {
         return {
             nullptr, LocalizationHelper::coreString(u"Press \"Change Model\" to change the model."_s), {}};
     }
-    auto command = std::make_unique<ChangeConfiguration>(all.constFirst()->parentObject()->project(),
-                                                         m_line->text().trimmed());
+    auto command =
+        std::make_unique<ChangeConfiguration>(first->parentObject()->project(), m_line->text().trimmed());
     if (!command->isValid()) {
         return {nullptr, command->errorString(), {}};
     }
@@ -251,8 +251,8 @@ void CompatibleModelsEditor::showRow()
     m_isShowing = true;
     const int current = m_list->currentRow();
     m_list->clear();
-    const QList<SharedProperty> all = properties();
-    const auto *model = all.size() == 1 ? kindCast<Configuration>(all.constFirst()->parentObject()) : nullptr;
+    const SharedProperty first = firstProperty();
+    const auto *model = first && !hasSeveral() ? kindCast<Configuration>(first->parentObject()) : nullptr;
     const QStringList compatible = model ? model->allCompatibleModels().mid(1) : QStringList();
     const QStringList installed = installedNames();
     QStringList names = compatible;

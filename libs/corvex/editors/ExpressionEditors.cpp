@@ -125,13 +125,12 @@ void ExpressionEditor::createFields()
 
 void ExpressionEditor::showRow()
 {
-    const QList<SharedProperty> all = properties();
-    const ExpressionScope scope(all.isEmpty() ? SharedProperty() : all.constFirst());
+    const SharedProperty first = firstProperty();
+    const ExpressionScope scope(!first ? SharedProperty() : first);
     m_built.clear();
     m_edit->setScope(scope);
     m_edit->setPlaceholderText(row().isMixed ? mixedText() : QString());
-    m_edit->setShownText(
-        row().isMixed || all.isEmpty() ? QString() : ReadableValue::print(*all.constFirst(), row().value));
+    m_edit->setShownText(row().isMixed || !first ? QString() : ReadableValue::print(*first, row().value));
     showResult();
     emit heightChanged();
 }
@@ -180,14 +179,14 @@ void ExpressionEditor::keyPressEvent(QKeyEvent *event)
 
 void ExpressionEditor::openBuilder()
 {
-    const QList<SharedProperty> all = properties();
-    if (m_dialog || all.isEmpty() || row().isReadOnly) {
+    const SharedProperty first = firstProperty();
+    if (m_dialog || !first || row().isReadOnly) {
         return;
     }
     if (m_edit->scope().hasRules()) {
-        openRules(all.constFirst());
+        openRules(first);
     } else {
-        openExpressionBuilder(all.constFirst());
+        openExpressionBuilder(first);
     }
 }
 

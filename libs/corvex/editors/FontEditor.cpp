@@ -34,14 +34,14 @@ void FontEditor::createFields()
 void FontEditor::showRow()
 {
     m_change = nullptr;
-    const QList<SharedProperty> all = properties();
-    if (all.isEmpty()) {
+    const SharedProperty first = firstProperty();
+    if (!first) {
         return;
     }
     m_line->setPlaceholderText(row().isMixed ? mixedText() : QString());
-    m_line->setShownText(row().isMixed ? QString() : ReadableValue::print(*all.constFirst(), row().value));
+    m_line->setShownText(row().isMixed ? QString() : ReadableValue::print(*first, row().value));
     if (m_picker) {
-        m_picker->setFont(ValueConversion::toFont(valueOf(*all.constFirst())));
+        m_picker->setFont(ValueConversion::toFont(valueOf(*first)));
     }
     showMissing();
 }
@@ -59,12 +59,12 @@ void FontEditor::showMissing()
 
 void FontEditor::openPicker()
 {
-    const QList<SharedProperty> all = properties();
-    if (all.isEmpty()) {
+    const SharedProperty first = firstProperty();
+    if (!first) {
         return;
     }
     m_picker = new FontPicker(m_open);
-    m_picker->setFont(ValueConversion::toFont(valueOf(*all.constFirst())));
+    m_picker->setFont(ValueConversion::toFont(valueOf(*first)));
     connect(m_picker, &FontPicker::changed, this, [this](const FontPicker::Change &change, bool isStep) {
         m_change = change;
         if (isStep) {

@@ -70,8 +70,8 @@ void IdentifierEditor::followOffer(const QString &link)
 
 DesignerObject *IdentifierEditor::object() const
 {
-    const QList<SharedProperty> all = properties();
-    return all.size() == 1 ? all.constFirst()->parentObject() : nullptr;
+    const SharedProperty first = firstProperty();
+    return first && !hasSeveral() ? first->parentObject() : nullptr;
 }
 
 void IdentifierEditor::showRow()

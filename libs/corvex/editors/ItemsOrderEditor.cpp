@@ -108,8 +108,8 @@ void ItemsOrderEditor::showRow()
     m_isShowing = true;
     const int current = m_list->currentRow();
     m_list->clear();
-    const QList<SharedProperty> all = properties();
-    const QStringList items = row().isMixed || all.isEmpty() ? QStringList() : itemsOf(*all.constFirst());
+    const SharedProperty first = firstProperty();
+    const QStringList items = row().isMixed || !first ? QStringList() : itemsOf(*first);
     for (const QString &item : items) {
         addItem(item);
     }
@@ -173,13 +173,13 @@ void ItemsOrderEditor::removeCurrent()
 
 void ItemsOrderEditor::add()
 {
-    const QList<SharedProperty> all = properties();
-    if (row().isReadOnly || !canAdd() || all.isEmpty()) {
+    const SharedProperty first = firstProperty();
+    if (row().isReadOnly || !canAdd() || !first) {
         return;
     }
     const ObjectLinkInfo link({}, parameter("scopeType").toString(), parameter("filterType").toStringList());
-    QList<DesignerObject *> candidates = link.findLinks(all.constFirst()->parentObject(), true);
-    const QStringList present = row().isMixed ? QStringList() : itemsOf(*all.constFirst());
+    QList<DesignerObject *> candidates = link.findLinks(first->parentObject(), true);
+    const QStringList present = row().isMixed ? QStringList() : itemsOf(*first);
     const QSet<QString> listed(present.cbegin(), present.cend());
     candidates.removeIf([&](const DesignerObject *object) { return listed.contains(object->getIdName()); });
     auto *selector = new ObjectSelector(this);

@@ -67,15 +67,14 @@ void LinkEditor::createFields()
 
 void LinkEditor::showRow()
 {
-    const QList<SharedProperty> all = properties();
+    const SharedProperty first = firstProperty();
     m_line->setPlaceholderText(row().isMixed ? mixedText() : LocalizationHelper::coreString(u"None"_s));
-    m_line->setShownText(
-        row().isMixed || all.isEmpty() ? QString() : ReadableValue::print(*all.constFirst(), row().value));
+    m_line->setShownText(row().isMixed || !first ? QString() : ReadableValue::print(*first, row().value));
     m_goTo->setAccessibleName(LocalizationHelper::coreString(u"%1, go to"_s).arg(row().title));
     m_goTo->setEnabled(target());
     m_goTo->setVisible(requests() && requests()->isServed(EditorRequests::Object));
-    if (!all.isEmpty()) {
-        m_watch->follow(all.constFirst()->parentObject()->project());
+    if (first) {
+        m_watch->follow(first->parentObject()->project());
     }
 }
 
@@ -111,12 +110,12 @@ QList<DesignerObject *> LinkEditor::candidates() const
 
 DesignerObject *LinkEditor::target() const
 {
-    const QList<SharedProperty> all = properties();
-    if (row().isMixed || all.isEmpty()) {
+    const SharedProperty first = firstProperty();
+    if (row().isMixed || !first) {
         return nullptr;
     }
-    const ObjectLinkInfo link = linkOf(*all.constFirst(), row().value);
-    return link.isValid() ? link.findLinks(all.constFirst()->parentObject(), false).value(0) : nullptr;
+    const ObjectLinkInfo link = linkOf(*first, row().value);
+    return link.isValid() ? link.findLinks(first->parentObject(), false).value(0) : nullptr;
 }
 
 QString LinkEditor::nameOf(const DesignerObject *object) const
@@ -126,9 +125,8 @@ QString LinkEditor::nameOf(const DesignerObject *object) const
 
 QStringList LinkEditor::newClasses() const
 {
-    const QList<SharedProperty> all = properties();
-    QStringList classes =
-        all.isEmpty() ? QStringList() : linkOf(*all.constFirst(), valueOf(*all.constFirst())).filterType();
+    const SharedProperty first = firstProperty();
+    QStringList classes = !first ? QStringList() : linkOf(*first, valueOf(*first)).filterType();
     const DesignerFactory *factory = DesignerFactory::instance();
     classes.removeIf([factory](const QString &name) { return !factory || !factory->canCreateObject(name); });
     return classes;
@@ -169,8 +167,8 @@ void LinkEditor::choose()
 void ObjectEditor::showRow()
 {
     LinkEditor::showRow();
-    const QList<SharedProperty> all = properties();
-    if (!all.isEmpty() && all.constFirst()->isObject()) {
+    const SharedProperty first = firstProperty();
+    if (first && first->isObject()) {
         const DesignerObject *object = target();
         line()->setShownText(object ? object->getIdName() : QString());
         line()->setReadOnly(true);
@@ -179,9 +177,8 @@ void ObjectEditor::showRow()
 
 DesignerObject *ObjectEditor::target() const
 {
-    const QList<SharedProperty> all = properties();
-    return all.size() == 1 && all.constFirst()->isObject() ? all.constFirst()->objectValue()
-                                                           : LinkEditor::target();
+    const SharedProperty first = firstProperty();
+    return first && !hasSeveral() && first->isObject() ? first->objectValue() : LinkEditor::target();
 }
 
 void ImageSourceEditor::createFields()
@@ -220,8 +217,8 @@ void ImageSourceEditor::showRow()
 QList<DesignerObject *> AutosaveObjectEditor::candidates() const
 {
     QList<DesignerObject *> found;
-    const QList<SharedProperty> all = properties();
-    const Project *project = all.isEmpty() ? nullptr : all.constFirst()->parentObject()->project();
+    const SharedProperty first = firstProperty();
+    const Project *project = !first ? nullptr : first->parentObject()->project();
     for (const DesignerObject *screen : project ? project->screens()->listItems() : found) {
         for (Element *element :
              static_cast<const Screen *>(screen)->getElementsOfType(VisualElement::kindName())) {

@@ -95,12 +95,12 @@ PropertyEditor::Entry PairEditor::entryFor(const DesignerProperty &property) con
 //! Shows a reason against the entry as soon as both numbers can be read.
 void PairEditor::check()
 {
-    const QList<SharedProperty> all = properties();
-    if (!checksWhileTyping() || all.isEmpty()) {
+    const SharedProperty first = firstProperty();
+    if (!checksWhileTyping() || !first) {
         return;
     }
-    const Entry entry = entryFor(*all.constFirst());
-    const QString reason = entry.error.isEmpty() ? all.constFirst()->refusalOf(entry.text) : QString();
+    const Entry entry = entryFor(*first);
+    const QString reason = entry.error.isEmpty() ? first->refusalOf(entry.text) : QString();
     if (entry.error.isEmpty()) {
         refuse(reason);
     }

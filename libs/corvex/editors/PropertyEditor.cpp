@@ -96,6 +96,20 @@ QList<SharedProperty> PropertyEditor::properties() const
     return row < 0 ? QList<SharedProperty>() : m_sheet->properties(row);
 }
 
+SharedProperty PropertyEditor::firstProperty() const
+{
+    if (m_elsewhere) {
+        return m_elsewhere;
+    }
+    const int row = m_sheet ? m_sheet->rowOf(m_row.id) : -1;
+    return row < 0 ? SharedProperty() : m_sheet->firstProperty(row);
+}
+
+bool PropertyEditor::hasSeveral() const
+{
+    return !m_elsewhere && m_sheet && m_sheet->objectCount() > 1;
+}
+
 //! Shows the row of the sheet, if there is one.
 void PropertyEditor::follow()
 {
@@ -309,10 +323,9 @@ void PropertyEditor::createFields()
 
 void PropertyEditor::showRow()
 {
-    const QList<SharedProperty> all = properties();
+    const SharedProperty first = firstProperty();
     m_text->setPlaceholderText(m_row.isMixed ? mixedText() : QString());
-    m_text->setShownText(
-        m_row.isMixed || all.isEmpty() ? QString() : ReadableValue::print(*all.constFirst(), m_row.value));
+    m_text->setShownText(m_row.isMixed || !first ? QString() : ReadableValue::print(*first, m_row.value));
 }
 
 QString PropertyEditor::valueOf(const DesignerProperty &property) const

@@ -58,6 +58,10 @@ public:
     const SheetRow &row() const { return m_row; }
     //! The property of each object, the active object first.
     QList<SharedProperty> properties() const;
+    //! The first of properties(), without collecting the others; null if there is none.
+    SharedProperty firstProperty() const;
+    //! Whether there is more than one.
+    bool hasSeveral() const;
 
     /*! The command for what the user has entered. Null if nothing changes, or if the entry is refused;
         errorString() gives the reason then. The caller pushes the command before the next edit, and owns it

@@ -67,14 +67,14 @@ void TermTableEditor::createFields()
 
 void TermTableEditor::showRow()
 {
-    const QList<SharedProperty> all = properties();
+    const SharedProperty first = firstProperty();
     m_mixed->setVisible(row().isMixed);
     m_view->setVisible(!row().isMixed);
     m_tools->setVisible(!row().isMixed && !row().isReadOnly);
     m_table->setReadOnly(row().isReadOnly);
-    if (!all.isEmpty() && !row().isMixed) {
-        m_table->setProject(all.constFirst()->parentObject()->project());
-        m_table->setTerms(valueAs<GeneralDataListProperty>(all.constFirst().get()));
+    if (first && !row().isMixed) {
+        m_table->setProject(first->parentObject()->project());
+        m_table->setTerms(valueAs<GeneralDataListProperty>(first.get()));
         m_table->setConflicts(conflicts());
     }
     showMore();

@@ -89,11 +89,10 @@ void ReadOnlyLineEditor::createFields()
 
 void ReadOnlyLineEditor::showRow()
 {
-    const QList<SharedProperty> all = properties();
+    const SharedProperty first = firstProperty();
     m_line->setReadOnly(true);
     m_line->setPlaceholderText(row().isMixed ? mixedText() : u"\u2013"_s);
-    m_line->setShownText(
-        row().isMixed || all.isEmpty() ? QString() : ReadableValue::print(*all.constFirst(), row().value));
+    m_line->setShownText(row().isMixed || !first ? QString() : ReadableValue::print(*first, row().value));
 }
 
 void OriginalLocationEditor::createFields()

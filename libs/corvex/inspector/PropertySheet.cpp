@@ -102,6 +102,7 @@ void PropertySheet::setObjects(const QList<DesignerObject *> &objects)
     m_lines.clear();
     *m_objects = {};
     m_expectedCount = size_t(objects.size());
+    m_objects->reserve(m_expectedCount);
     for (DesignerObject *object : objects) {
         if (object && object->project() == &m_project && !m_objects->contains(object)) {
             addProperties(m_objects->append(object));
@@ -117,6 +118,11 @@ void PropertySheet::setObjects(const QList<DesignerObject *> &objects)
 QList<DesignerObject *> PropertySheet::objects() const
 {
     return m_objects->present();
+}
+
+qsizetype PropertySheet::objectCount() const
+{
+    return qsizetype(m_objects->count());
 }
 
 const SheetRow &PropertySheet::row(int row) const
@@ -136,6 +142,11 @@ int PropertySheet::rowOf(const QString &id) const
     return found == m_rows.end() ? -1 : int(found - m_rows.begin());
 }
 
+SharedProperty PropertySheet::firstProperty(int row) const
+{
+    return m_rows.at(size_t(row))->first();
+}
+
 QList<SharedProperty> PropertySheet::properties(int row) const
 {
     return m_rows.at(size_t(row))->properties();
@@ -143,23 +154,27 @@ QList<SharedProperty> PropertySheet::properties(int row) const
 
 //! \a className is that of the object. \a expected is the number of the line that is probably that of the
 //! property, and then that of the next property.
-void PropertySheet::addProperty(size_t place, SharedProperty property, const QString &className,
-                                size_t &expected)
+void PropertySheet::addProperty(size_t place, qsizetype index, const DesignerProperty &property,
+                                const QString &className, size_t &expected)
 {
-    if (!isInSheets(*property)) {
+    if (expected < m_lines.size() && m_lines[expected]->isRepeatedBy(place, property)) {
+        m_lines[expected++]->addRepeated(place, index, property);
         return;
     }
-    const auto fits = [&property, kind = property->className()](const std::unique_ptr<SheetLine> &known) {
-        return known->id() == property->id() && known->kind() == kind;
+    if (!isInSheets(property)) {
+        return;
+    }
+    const auto fits = [&property, kind = property.className()](const std::unique_ptr<SheetLine> &known) {
+        return known->id() == property.id() && known->kind() == kind;
     };
     if (expected >= m_lines.size() || !fits(m_lines[expected])) {
         expected = size_t(std::ranges::find_if(m_lines, fits) - m_lines.begin());
     }
     if (expected == m_lines.size()) {
-        m_lines.push_back(
-            std::make_unique<SheetLine>(property->id(), property->className(), m_expectedCount, *m_defaults));
+        m_lines.push_back(std::make_unique<SheetLine>(property.id(), property.className(), m_expectedCount,
+                                                      *m_objects, *m_defaults));
     }
-    m_lines[expected]->add(place, std::move(property), className);
+    m_lines[expected]->add(place, index, property, className);
     ++expected;
 }
 
@@ -168,9 +183,10 @@ void PropertySheet::addProperties(size_t place)
 {
     const DesignerObject *object = m_objects->at(place);
     const QString className = object->className();
+    const PropertyRange properties = object->properties();
     size_t expected = 0; // objects of a class have their properties in the same order
-    for (SharedProperty property : object->properties()) {
-        addProperty(place, std::move(property), className, expected);
+    for (qsizetype index = 0; index < properties.size(); ++index) {
+        addProperty(place, index, properties.peek(index), className, expected);
     }
 }
 
@@ -426,8 +442,9 @@ void PropertySheet::descriptorChanged(const SharedProperty &property)
         if (SheetLine *line = lineOf(property, *place)) {
             line->remove(*place);
         }
+        const DesignerObject *object = property->parentObject();
         size_t expected = 0;
-        addProperty(*place, property, property->parentObject()->className(), expected);
+        addProperty(*place, object->properties().indexOf(property), *property, object->className(), expected);
         arrange();
     }
 }

@@ -88,6 +88,7 @@ public:
     //! Shows the properties of these objects of the project, the active one first.
     void setObjects(const QList<DesignerObject *> &objects);
     QList<DesignerObject *> objects() const;
+    qsizetype objectCount() const;
 
     //! The row must exist.
     const SheetRow &row(int row) const;
@@ -103,6 +104,8 @@ public:
     int rowOf(const QString &id) const;
     //! The property of the row in each object.
     QList<SharedProperty> properties(int row) const;
+    //! The first of them.
+    SharedProperty firstProperty(int row) const;
 
     // Edits. Each plans one command for all objects and changes nothing. Push it before the next edit. If the
     // objects have these values already, there is neither a command nor a reason.
@@ -140,7 +143,8 @@ private:
     void projectAboutToLoad() override;
     void projectAboutToBeDestroyed() override;
 
-    void addProperty(size_t place, SharedProperty property, const QString &className, size_t &expected);
+    void addProperty(size_t place, qsizetype index, const DesignerProperty &property,
+                     const QString &className, size_t &expected);
     void addProperties(size_t place);
     SheetLine *lineOf(const SharedProperty &property, size_t place) const;
     std::vector<SheetLine *> wantedRows() const;

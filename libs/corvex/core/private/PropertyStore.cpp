@@ -126,6 +126,11 @@ qsizetype PropertyRange::indexOf(const SharedProperty &property) const
     return index;
 }
 
+const DesignerProperty &PropertyRange::peek(qsizetype index) const
+{
+    return *m_store->at(index);
+}
+
 SharedProperty PropertyRange::at(qsizetype index) const
 {
     return m_store->shared(index);

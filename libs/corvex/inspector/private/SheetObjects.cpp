@@ -66,6 +66,12 @@ std::vector<size_t> SheetObjects::returnedWith(const DesignerObject *object) con
     return found;
 }
 
+void SheetObjects::reserve(size_t count)
+{
+    m_all.reserve(count);
+    m_places.reserve(qsizetype(count));
+}
+
 size_t SheetObjects::append(DesignerObject *object)
 {
     m_all.emplace_back(object);

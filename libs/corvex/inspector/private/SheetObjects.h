@@ -27,6 +27,7 @@ public:
     //! The same for objects that have returned with \a object.
     std::vector<size_t> returnedWith(const DesignerObject *object) const;
 
+    void reserve(size_t count);
     //! Returns the place of the object.
     size_t append(DesignerObject *object);
     void leave(size_t place);
