@@ -6,6 +6,7 @@
 #include "corvex/hardware/HardwareConfigurations.h"
 #include "corvex/project/Project.h"
 
+#include "UserSettings.h"
 #include "canvas/CanvasView.h"
 #include "project/ProjectFiles.h"
 #include "project/Workspace.h"
@@ -105,6 +106,7 @@ int Program::run()
         return fail(u"--screen needs a project."_s, Usage);
     }
     DesktopLook::apply();
+    UserSettings::startAutosaving();
     if (const QString reason = load(); !reason.isEmpty()) {
         return fail(reason, File);
     }

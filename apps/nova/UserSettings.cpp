@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "UserSettings.h"
 
+#include "corvex/project/files/ProjectAutosave.h"
+
 #include <QFileInfo>
 #include <QSettings>
 
@@ -62,6 +64,14 @@ void UserSettings::setLanguage(const QString &language)
     write(u"language"_s, language);
 }
 
+void UserSettings::startAutosaving()
+{
+    const QString key = u"autoIntervalTime"_s; // in minutes
+    if (!read(key).isValid()) {
+        write(key, Designer::ProjectAutosave::shortestInterval);
+    }
+}
+
 QByteArray UserSettings::windowGeometry()
 {
     return read(u"window/geometry"_s).toByteArray();
@@ -121,6 +131,18 @@ bool UserSettings::hasGrid()
 void UserSettings::setGrid(bool on)
 {
     write(u"canvas/grid"_s, on);
+}
+
+QString UserSettings::buildFolder(const QString &projectPath)
+{
+    return read(u"buildFolders"_s).toMap().value(projectPath).toString();
+}
+
+void UserSettings::setBuildFolder(const QString &projectPath, const QString &folder)
+{
+    QVariantMap folders = read(u"buildFolders"_s).toMap();
+    folders.insert(projectPath, folder);
+    write(u"buildFolders"_s, folders);
 }
 
 QString UserSettings::keysOf(const QString &actionId)

@@ -21,6 +21,9 @@ public:
     static QString language();
     static void setLanguage(const QString &language);
 
+    //! Switches autosaving on, every five minutes, unless the user has chosen something else.
+    static void startAutosaving();
+
     //! The place of the window and of its panels, in the forms of QWidget and QMainWindow; empty at first.
     static QByteArray windowGeometry();
     static QByteArray windowState();
@@ -38,6 +41,10 @@ public:
     //! Whether the canvas has a grid.
     static bool hasGrid();
     static void setGrid(bool on);
+
+    //! The folder into which a project was built last; empty at first.
+    static QString buildFolder(const QString &projectPath);
+    static void setBuildFolder(const QString &projectPath, const QString &folder);
 
     //! The keys that the user chose for an action, in the form of QKeySequence; null without a choice, empty
     //! for none.

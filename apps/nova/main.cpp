@@ -2,6 +2,7 @@
 #include "Program.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 
 int main(int argc, char **argv)
 {
@@ -11,5 +12,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationDisplayName(QStringLiteral("Corvex Nova"));
     QApplication::setApplicationVersion(QStringLiteral(CORVEX_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("corvex-nova"));
+    // The library reports details for developers there.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     return Halvane::Corvex::Nova::Program::run();
 }

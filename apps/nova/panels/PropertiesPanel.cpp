@@ -106,6 +106,14 @@ bool PropertiesPanel::event(QEvent *event)
     return QWidget::event(event);
 }
 
+void PropertiesPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        describeSelection();
+    }
+}
+
 void PropertiesPanel::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Find)) {

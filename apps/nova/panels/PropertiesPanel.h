@@ -26,6 +26,7 @@ public:
     Designer::PropertyPanel &rows() const { return *m_rows; }
 
 protected:
+    void changeEvent(QEvent *event) override;
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 

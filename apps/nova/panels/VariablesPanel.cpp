@@ -69,7 +69,7 @@ VariablesPanel::VariablesPanel(Workspace &workspace, QWidget *parent)
     auto *classes = new QMenu(add);
     for (const QString &name : VariablesTable::classNames()) {
         classes->addAction(DesignerFactory::instance()->displayNameForClass(name), this,
-                           [this, name] { m_table->add(name); });
+                           [this, name] { add(name); });
     }
     add->setMenu(classes);
     add->setPopupMode(QToolButton::InstantPopup);
@@ -109,6 +109,19 @@ QToolButton *VariablesPanel::makeButton(const QString &text, int icon)
     return button;
 }
 
+//! Adds a variable and lets the user type its name.
+void VariablesPanel::add(const QString &className)
+{
+    m_search->clear();
+    m_table->add(className);
+    const QModelIndex index = m_view->currentIndex();
+    if (index.isValid()) {
+        m_view->setFocus();
+        m_view->scrollTo(index);
+        m_view->edit(index);
+    }
+}
+
 void VariablesPanel::giveSelection()
 {
     if (m_isSelecting) {
@@ -132,9 +145,12 @@ void VariablesPanel::takeSelection()
 {
     const QList<DesignerObject *> selection = m_workspace.document().selection();
     const int row = selection.size() == 1 ? m_table->rowOf(selection.constFirst()) : -1;
-    if (!m_isSelecting && row >= 0) {
+    if (!m_isSelecting) {
         const QScopedValueRollback guard(m_isSelecting, true);
-        m_view->setCurrentIndex(m_table->index(row, 0));
+        m_view->setCurrentIndex(row >= 0 ? m_table->index(row, 0) : QModelIndex());
+        if (row < 0) {
+            m_view->clearSelection();
+        }
     }
 }
 

@@ -25,6 +25,7 @@ public:
 
 private:
     QToolButton *makeButton(const QString &text, int icon);
+    void add(const QString &className);
     void giveSelection();
     void takeSelection();
     void importTable();

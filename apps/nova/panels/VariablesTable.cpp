@@ -34,7 +34,7 @@ struct ColumnRow
 
 //! In the order of VariablesTable::Column.
 constexpr ColumnRow columns[] = {
-    {"Name", "id"}, {"Type", nullptr}, {"Value", "value"}, {"Kept when off", "persistent"}};
+    {"Name", "id"}, {"Type", nullptr}, {"Value", "value"}, {"Persistent", "persistent"}};
 
 SharedProperty propertyOf(const DesignerObject &variable, int column)
 {
@@ -80,6 +80,12 @@ QStringList VariablesTable::classNames()
             names.append(name);
         }
     }
+    // Those that people use most come first.
+    const QStringList first{u"NumberVariable"_s, u"BooleanVariable"_s, u"StringVariable"_s,
+                            u"ColorVariable"_s};
+    std::ranges::stable_partition(names, [&first](const QString &name) { return first.contains(name); });
+    std::ranges::sort(names.begin(), names.begin() + first.size(), {},
+                      [&first](const QString &name) { return first.indexOf(name); });
     return names;
 }
 

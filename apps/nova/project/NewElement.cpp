@@ -8,6 +8,7 @@
 #include "corvex/values/text/ValueConversion.h"
 
 #include <QMimeData>
+#include <QSet>
 
 #include <algorithm>
 
@@ -16,6 +17,12 @@ using namespace Qt::StringLiterals;
 namespace Halvane::Corvex::Nova {
 
 using namespace Designer;
+
+namespace {
+
+constexpr double step = 10; // pixels between new elements
+
+} // namespace
 
 std::unique_ptr<AddObject> NewElement::command(Screen &screen, const QString &className, const QPointF &place)
 {
@@ -30,9 +37,24 @@ std::unique_ptr<AddObject> NewElement::command(Screen &screen, const QString &cl
         const QSizeF size = element->boundingRect().size();
         const QSizeF space = ValueConversion::toSize(screen.size()->valueString()) - size;
         const QPointF corner = place - QPointF(size.width() / 2, size.height() / 2);
-        const QPointF inside(qRound(std::clamp(corner.x(), 0.0, std::max(0.0, space.width()))),
-                             qRound(std::clamp(corner.y(), 0.0, std::max(0.0, space.height()))));
+        QSet<QString> taken;
+        for (const DesignerObject *other : screen.elements()->listItems()) {
+            if (const SharedProperty place = other->getProperty(u"position")) {
+                taken.insert(place->valueString());
+            }
+        }
+        QPointF inside(qRound(std::clamp(corner.x(), 0.0, std::max(0.0, space.width()))),
+                       qRound(std::clamp(corner.y(), 0.0, std::max(0.0, space.height()))));
+        // Two new elements would hide each other.
+        while (taken.contains(ValueConversion::toString(inside))) {
+            inside += QPointF(step, step);
+        }
         object->changePropertyValue(position, ValueConversion::toString(inside));
+    }
+    // An empty text would be invisible.
+    const SharedProperty text = object->getProperty(u"text");
+    if (text && text->valueString().isEmpty()) {
+        object->changePropertyValue(text, object->displayName());
     }
     return std::make_unique<AddObject>(screen.elements(), object, true);
 }

@@ -9,6 +9,7 @@
 
 #include "UserSettings.h"
 #include "project/Workspace.h"
+#include "window/FolderDialog.h"
 #include "window/MainWindow.h"
 #include "window/NewProjectDialog.h"
 
@@ -240,10 +241,17 @@ bool ProjectFiles::close()
 
 void ProjectFiles::build()
 {
-    const QString target = QFileDialog::getExistingDirectory(&m_window, text(u"Folder for the device"_s));
-    if (target.isEmpty() || isBusy()) {
+    // Beside the project, unless the user has chosen something else for it.
+    const Project &project = m_window.workspace()->project();
+    const QString usual =
+        QDir::cleanPath(u"%1/../%2-device"_s.arg(project.folderPath(), project.getIdName()));
+    const QString last = UserSettings::buildFolder(project.fullFilePath());
+    FolderDialog dialog(text(u"Folder for the device"_s), last.isEmpty() ? usual : last, &m_window);
+    if (dialog.exec() != QDialog::Accepted || isBusy()) {
         return;
     }
+    const QString target = dialog.folder();
+    UserSettings::setBuildFolder(project.fullFilePath(), target);
     m_build = m_window.workspace()->document().build();
     if (!m_build) {
         m_window.workspace()->reportFailure();

@@ -5,6 +5,7 @@
 #include "corvex/editing/undo/UndoCommand.h"
 #include "corvex/project/Project.h"
 #include "corvex/project/elements/Element.h"
+#include "corvex/project/files/ProjectAutosave.h"
 #include "corvex/values/records/ObjectLinkInfo.h"
 
 #include "project/RunningPreview.h"
@@ -27,6 +28,9 @@ Workspace::Workspace(std::unique_ptr<Project> project, const ConfigurationContai
     m_tree.setProblems(&m_problems);
     this->project().observers().add(this);
     this->project().startAutoSaveTimer();
+    m_autosave.setSingleShot(true);
+    m_autosave.setInterval(autosavePause);
+    connect(&m_autosave, &QTimer::timeout, this, [this] { this->project().autosave().run(); });
     connect(&m_document, &ProjectDocument::selectionChanged, this, &Workspace::keepSelection);
     connect(&m_document.history(), &ProjectHistory::moved, this, &Workspace::followHistory);
     connect(&m_tree, &ObjectTreeModel::noted, this, &Workspace::noted);
@@ -201,6 +205,10 @@ void Workspace::keepSelection()
 //! Shows what an undo, a redo or an edit has changed.
 void Workspace::followHistory(const UndoCommand *command)
 {
+    // The user may have switched autosaving off.
+    if (!m_autosave.isActive() && project().autosave().timerId() != -1) {
+        m_autosave.start();
+    }
     Screen *screen = command ? command->screen() : nullptr;
     if (screen && screen->project() == &project()) {
         showScreen(screen);

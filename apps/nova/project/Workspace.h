@@ -11,6 +11,8 @@
 
 #include "project/ViewState.h"
 
+#include <QTimer>
+
 #include <memory>
 
 namespace Halvane::Corvex::Designer {
@@ -38,6 +40,9 @@ public:
     Workspace(std::unique_ptr<Designer::Project> project, const Designer::ConfigurationContainer &models,
               QObject *parent = nullptr);
     ~Workspace() override;
+
+    //! Edits are saved automatically after this time, unless the user has switched that off.
+    static constexpr int autosavePause = 20'000; // milliseconds
 
     Designer::ProjectDocument &document() { return m_document; }
     Designer::Project &project() const { return m_document.project(); }
@@ -99,6 +104,7 @@ private:
     Designer::ProblemsModel m_problemsModel;
     Designer::ObjectTreeModel m_tree;
     ViewState m_view;
+    QTimer m_autosave; //!< since the first edit that is in no file
     QPointer<Designer::Screen> m_screen;
     std::unique_ptr<Common::Job> m_job;
     std::unique_ptr<RunningPreview> m_preview;

@@ -28,12 +28,12 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -57,7 +57,7 @@ MainWindow::MainWindow(const ConfigurationContainer &models)
     : m_models(models)
     , m_files(new ProjectFiles(*this))
     , m_pages(new QStackedWidget)
-    , m_problems(new QLabel)
+    , m_problems(new QToolButton)
     , m_zoom(new ZoomBox)
 {
     setObjectName(u"MainWindow"_s);
@@ -72,6 +72,8 @@ MainWindow::MainWindow(const ConfigurationContainer &models)
     m_pages->addWidget(m_welcome);
     setCentralWidget(m_pages);
     statusBar()->addPermanentWidget(m_files->progress());
+    m_problems->setAutoRaise(true);
+    connect(m_problems, &QToolButton::clicked, this, [this] { showPanel(u"panel.problems"_s); });
     statusBar()->addPermanentWidget(m_problems);
     statusBar()->addPermanentWidget(m_zoom);
     connect(m_zoom, &ZoomBox::scaleRequested, this, [this](double scale) { canvas()->setScale(scale); });

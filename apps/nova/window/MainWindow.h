@@ -9,9 +9,9 @@
 #include <memory>
 
 class QDockWidget;
-class QLabel;
 class QMenu;
 class QStackedWidget;
+class QToolButton;
 
 namespace Halvane::Corvex::Designer {
 class ConfigurationContainer;
@@ -83,7 +83,7 @@ private:
     CanvasPage *m_canvas = nullptr;
     QHash<QString, QDockWidget *> m_docks;
     QMenu *m_panelsMenu = nullptr;
-    QLabel *m_problems;
+    QToolButton *m_problems;
     Designer::ZoomBox *m_zoom;
     QByteArray m_firstState; //!< the layout of the panels before the user has changed it
     bool m_isUpdateDue = false;

@@ -85,6 +85,29 @@ QSize KdTableView::sizeHint() const
                      + 2 * frameWidth() + 2 + (needsBar ? horizontalScrollBar()->sizeHint().height() : 0)};
 }
 
+//! Tab continues in the next cell that can be edited.
+void KdTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const bool isNext = hint == QAbstractItemDelegate::EditNextItem;
+    if (!isNext && hint != QAbstractItemDelegate::EditPreviousItem) {
+        QTableView::closeEditor(editor, hint);
+        return;
+    }
+    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    const QModelIndex current = currentIndex(); // its row may have moved with the new text
+    const int columns = model()->columnCount();
+    const int step = isNext ? 1 : -1;
+    for (int cell = current.row() * columns + current.column() + step;
+         cell >= 0 && cell < columns * model()->rowCount(); cell += step) {
+        const QModelIndex index = model()->index(cell / columns, cell % columns);
+        if (index.flags().testFlag(Qt::ItemIsEditable)) {
+            setCurrentIndex(index);
+            edit(index);
+            return;
+        }
+    }
+}
+
 void KdTableView::resizeEvent(QResizeEvent *event)
 {
     QTableView::resizeEvent(event);

@@ -69,6 +69,20 @@ TEST_F(PanelsTest, variablesAreEditedInPlace)
     EXPECT_FALSE(model->flags(cell("wellLevel", VariablesTable::TypeColumn)).testFlag(Qt::ItemIsEditable));
 }
 
+// Tab goes on to the next cell that can be edited, also if the row moves with its new name.
+TEST_F(PanelsTest, tabSkipsCellsThatCannotBeEdited)
+{
+    table->setCurrentIndex(cell("wellLevel", VariablesTable::NameColumn));
+    table->edit(table->currentIndex());
+    QTest::keyClicks(QApplication::focusWidget(), u"aaa"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    ASSERT_TRUE(variable("aaa"));
+    EXPECT_EQ(table->currentIndex(), cell("aaa", VariablesTable::ValueColumn));
+    QTest::keyClicks(QApplication::focusWidget(), u"12.5"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(variable("aaa")->getProperty(u"value")->valueString(), u"12.5"_s);
+}
+
 // A pasted table is one step; rows after the last one become variables.
 TEST_F(PanelsTest, pastedRowsAreOneStep)
 {

@@ -3,6 +3,7 @@
 #include "corvex/editors/PropertyEditor.h"
 #include "corvex/editors/PropertyPanel.h"
 #include "corvex/project/Screen.h"
+#include "corvex/project/files/ProjectAutosave.h"
 #include "corvex/values/text/ValueConversion.h"
 #include "corvex/widgets/SearchLine.h"
 
@@ -128,6 +129,30 @@ TEST_F(WindowTest, handToolDragsTheView)
     QTest::keyRelease(&view, Qt::Key_Space);
     EXPECT_EQ(view.mapToScene(QPoint(0, 0)) - before, QPointF(30, 20));
     EXPECT_EQ(document().history().count(), 0);
+}
+
+// A kill loses little: edits are saved automatically soon after they are made.
+TEST_F(WindowTest, editsAreSavedAutomatically)
+{
+    workspace().push(Commands::changeOf(
+        {{element("pump1Picture")->getProperty(u"position"), ValueConversion::toString(QPointF(5, 6))}}));
+    UserSettings::startAutosaving();
+    workspace().project().startAutoSaveTimer();
+    EXPECT_NE(workspace().project().autosave().timerId(), -1);
+    ASSERT_TRUE(workspace().project().autosave().run());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(workspace().project().autosavePath()); }));
+
+    // What a crash leaves behind is offered, and kept until the user has answered.
+    const QString archive = workspace().project().autosavePath();
+    const QString kept = folder.filePath(u"kept"_s);
+    ASSERT_TRUE(QFile::copy(archive, kept));
+    answerNext(1); // discard the edits
+    ASSERT_TRUE(window->files().close());
+    ASSERT_TRUE(QFile::rename(kept, archive));
+    answerNext(0); // restore
+    open(path);
+    EXPECT_EQ(value("pump1Picture", "position"), ValueConversion::toString(QPointF(5, 6)));
+    EXPECT_TRUE(document().isModified());
 }
 
 // A deleted screen leaves the canvas, and comes back with an undo.
