@@ -69,7 +69,7 @@ VariablesPanel::VariablesPanel(Workspace &workspace, QWidget *parent)
     auto *classes = new QMenu(add);
     for (const QString &name : VariablesTable::classNames()) {
         classes->addAction(DesignerFactory::instance()->displayNameForClass(name), this,
-                           [this, name] { add(name); });
+                           [this, name] { this->add(name); });
     }
     add->setMenu(classes);
     add->setPopupMode(QToolButton::InstantPopup);

@@ -39,8 +39,8 @@ std::unique_ptr<AddObject> NewElement::command(Screen &screen, const QString &cl
         const QPointF corner = place - QPointF(size.width() / 2, size.height() / 2);
         QSet<QString> taken;
         for (const DesignerObject *other : screen.elements()->listItems()) {
-            if (const SharedProperty place = other->getProperty(u"position")) {
-                taken.insert(place->valueString());
+            if (const SharedProperty known = other->getProperty(u"position")) {
+                taken.insert(known->valueString());
             }
         }
         QPointF inside(qRound(std::clamp(corner.x(), 0.0, std::max(0.0, space.width()))),
