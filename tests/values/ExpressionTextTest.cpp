@@ -30,6 +30,7 @@ public:
             {u"title"_s, Info::StringData},        {u"lamp.visible"_s, Info::BooleanData},
             {u"Main.lamp.x"_s, Info::IntegerData}, {u"lamp.color"_s, Info::ColorData},
             {u"lamp.opacity"_s, Info::NumberData}, {u"lamp.id"_s, Info::StringData},
+            {u"tint"_s, Info::ColorData},
         };
         const auto type = types.constFind(path);
         return type == types.cend()
@@ -109,6 +110,11 @@ TEST(ExpressionTextTest, ReadsWhatPeopleWriteAndPrintsItBack)
         {List::BoolExpression, Info::RawOutput, u"(lamp.color) != (\"red\")",
          u"<0101(><0308lamp.color><0101)><0101!=><0101(><0207I2ZmMDAwMA==><0101)>",
          u"(lamp.color) != (\"#ff0000\")"},
+        {List::BoolExpression, Info::RawOutput, u"tint == \"red\" or (\"#1d3040\") != (tint)",
+         u"<0408tint><0101==><0207I0ZGRkYwMDAw><0101||><0101(><0207I0ZGMUQzMDQw><0101)><0101!=><0101(><"
+         u"0408tint>"
+         "<0101)>",
+         u"tint == \"#FFFF0000\" or (\"#FF1D3040\") != (tint)"},
         // In a text, constants are texts and booleans are 0 and 1.
         {List::StringExpression, Info::StringOutput,
          u"(alarm) != (true) and not level and not alarm and not alarm ? 1 : 2",
@@ -225,6 +231,8 @@ TEST(ExpressionTextTest, OperationsThatTheDeviceUnderstandsDifferentlyAreRefused
         {BoolExpression, u"alarm === 1", "Write \"==\""},
         {BoolExpression, u"(lamp.color) === #FF0000", "Write \"==\""},
         {BoolExpression, u"level == #FF0000", "a color with a number"},
+        {BoolExpression, u"tint == \"fancy\"", "a color with a text"},
+        {BoolExpression, u"tint == #FF0000 and title == \"red\"", nullptr},
         {BoolExpression, u"50 <= (lamp.opacity) and alarm", "Write 0.5 for 50 %"},
         {BoolExpression, u"lamp.opacity == 1 and level > 50", nullptr},
         {AssignExpression, u"level = 50; lamp.opacity = 50", "Write 0.5 for 50 %"},

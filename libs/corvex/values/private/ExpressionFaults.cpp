@@ -69,6 +69,21 @@ bool isNumeric(const QString &text)
     return ok;
 }
 
+//! Whether the value is that of a color variable. Its code has it as a text such as "#FF1D3040".
+bool isColorVariable(const List &terms, const Operand &operand)
+{
+    return operand.meaning == Color && operand.term >= 0
+           && terms.at(operand.term).valueType() == Info::VariableValue;
+}
+
+//! The text of a color variable with that color; null if \a text is no color.
+QString variableText(const QString &text)
+{
+    bool isColor = false;
+    const QColor color = ValueConversion::toColor(text, &isColor);
+    return isColor ? color.name(QColor::HexArgb).toUpper() : QString();
+}
+
 //! Finds what is wrong with an operation.
 class Judge
 {
@@ -177,6 +192,8 @@ private:
             (a.meaning == Boolean && b.meaning == Text && !isNumeral(b) && !areTexts)
             || (a.meaning == Number && isWord && !areTexts)
             || (a.meaning == Color && (b.meaning == Number || b.meaning == Boolean))
+            || (isColorVariable(m_terms, a) && isFixed(b) && b.meaning == Text
+                && valueOf(b) != variableText(valueOf(b)))
             || (a.meaning == Boolean && b.meaning == Number && isNoTruth);
         if (!isConstantResult) {
             return {};
@@ -209,6 +226,12 @@ std::optional<Info> adapted(const List &terms, List::InfoType kind, const Operan
                    ? std::optional(Info(Info::ConstantValue, Info::StringData, ValueCode::comparable(color)))
                    : std::nullopt;
     }
+    if (kind == List::BoolExpression && isEquality && constant.meaning == Text
+        && isColorVariable(terms, other)) {
+        const QString text = variableText(term.value());
+        return text.isNull() ? std::nullopt
+                             : std::optional(Info(Info::ConstantValue, Info::StringData, text));
+    }
     const bool isTruth = constant.meaning == Boolean && constant.code == Text;
     const bool isTrue = term.value() == "true"_L1;
     const bool isNumeric = other.meaning == Boolean || (other.meaning == Number && !isTrue);
@@ -222,10 +245,10 @@ std::optional<Info> adapted(const List &terms, List::InfoType kind, const Operan
 bool mayAdapt(const List &terms, List::InfoType kind)
 {
     return std::any_of(terms.begin(), terms.end(), [kind](const Info &term) {
-        return kind == List::BoolExpression
-                   ? term.valueType() == Info::ObjectValue && term.dataType() == Info::ColorData
-                   : kind == List::StringExpression && term.valueType() == Info::ConstantValue
-                         && term.dataType() == Info::BooleanData;
+        const bool isConstant = term.valueType() == Info::ConstantValue;
+        const bool isColor = term.dataType() == Info::ColorData && !isConstant;
+        const bool isTruth = term.dataType() == Info::BooleanData && isConstant;
+        return kind == List::BoolExpression ? isColor : kind == List::StringExpression && isTruth;
     });
 }
 
